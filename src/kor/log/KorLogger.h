@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QFile>
+#include <QObject>
+#include <QPointer>
+
+#include <memory>
+
+class QPlainTextEdit;
+
+/** Writes one line a message to a file and, where there is one, to a text view. Each line is on disk at once. */
+class KorLogger : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** An empty path gives a logger without a file. */
+    KorLogger(QObject* parent, const QString& filePath, QPlainTextEdit* textView = nullptr);
+
+    void log(const QString& message);
+    void setShowTimestamp(bool showTimestamp) { m_showTimestamp = showTimestamp; }
+    [[nodiscard]] const QString& filePath() const { return m_filePath; }
+
+private:
+    std::unique_ptr<QFile> m_logFile;
+    QPointer<QPlainTextEdit> m_textView;
+    bool m_showTimestamp = true;
+    QString m_filePath;
+};

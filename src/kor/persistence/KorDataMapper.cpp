@@ -1,0 +1,400 @@
+#include "kor/persistence/KorDataMapper.h"
+
+#include "kor/entity/KorEntity.h"
+#include "kor/entity/KorMetaDataMap.h"
+#include "kor/persistence/KorJoinMapper.h"
+#include "kor/persistence/KorMigration.h"
+#include "kor/persistence/KorPaging.h"
+
+#include <QDebug>
+#include <QSqlError>
+
+KorDataMapper::KorDataMapper(QObject* parent) : QObject(parent), m_metaData(new KorMetaDataMap(this)) {}
+
+const QString& KorDataMapper::tableName() const
+{
+    return m_metaData->tableName();
+}
+
+QString KorDataMapper::takeError()
+{
+    const QString text = m_errorText;
+    m_errorText.clear();
+    return text;
+}
+
+void KorDataMapper::setError(const QString& text)
+{
+    m_errorText = text;
+    qDebug().noquote() << text;
+}
+
+void KorDataMapper::addJoin(const QString& propertyName, KorDataMapper* mapper, const QString& joinType,
+                            const QString& localColumn, const QString& remoteColumn, const QString& alias)
+{
+    m_joins.append(new KorJoinMapper(propertyName, mapper, joinType, localColumn, remoteColumn, alias, this));
+}
+
+// --- reading -------------------------------------------------------------------------------------------------------
+
+KorEntity* KorDataMapper::findById(int id)
+{
+    return findOne(" where " + tableName() + ".id = :id", {{":id", id}});
+}
+
+KorEntity* KorDataMapper::findByColumn(const QString& column, const QString& value)
+{
+    return findOne(" where " + tableName() + '.' + column + " = :value", {{":value", value}});
+}
+
+KorEntity* KorDataMapper::findByColumn(const QString& column, int value)
+{
+    return findOne(" where " + tableName() + '.' + column + " = :value", {{":value", value}});
+}
+
+QList<KorEntity*> KorDataMapper::find(KorPaging* paging)
+{
+    KorQuery query(this);
+    if (!execPaging(query, paging)) {
+        m_errorText = query.failure();
+        qDebug().noquote() << "error sql " << m_errorText;
+        return {};
+    }
+    return readAll(query);
+}
+
+bool KorDataMapper::execPaging(KorQuery& query, KorPaging* paging)
+{
+    QString text = selectStatement();
+    if (!paging)
+        return query.exec(text);
+
+    const auto& filters = paging->filters();
+    if (!filters.isEmpty())
+        text += " where ";
+    for (int i = 0; i < filters.size(); ++i) {
+        text += filters[i].first;
+        if (!filters[i].second.isEmpty())
+            text += " :prm" + QString::number(i);
+    }
+    if (!paging->sorts().isEmpty())
+        text += " order by ";
+    for (const auto& sort : paging->sorts())
+        text += sort.first + ' ' + sort.second;
+
+    if (filters.isEmpty())
+        return query.exec(text);
+    query.prepare(text);
+    for (int i = 0; i < filters.size(); ++i) {
+        if (!filters[i].second.isEmpty())
+            query.bindValue(":prm" + QString::number(i), filters[i].second);
+    }
+    return query.exec();
+}
+
+bool KorDataMapper::execute(KorQuery& query, const QString& statement, Bindings values)
+{
+    bool done = false;
+    if (values.size() == 0) {
+        done = query.exec(statement);
+    } else {
+        query.prepare(statement);
+        for (const auto& value : values)
+            query.bindValue(value.first, value.second);
+        done = query.exec();
+    }
+    if (!done) {
+        m_errorText = query.failure();
+        qDebug().noquote() << "error sql " << m_errorText;
+    }
+    return done;
+}
+
+KorEntity* KorDataMapper::findOne(const QString& tail, Bindings values)
+{
+    KorQuery query(this);
+    return execute(query, selectStatement() + tail, values) && query.next() ? fromRow(query) : nullptr;
+}
+
+QList<KorEntity*> KorDataMapper::findMany(const QString& tail, Bindings values)
+{
+    KorQuery query(this);
+    return execute(query, selectStatement() + tail, values) ? readAll(query) : QList<KorEntity*>();
+}
+
+QList<KorEntity*> KorDataMapper::readAll(KorQuery& query)
+{
+    QList<KorEntity*> entities;
+    while (query.next())
+        entities.append(fromRow(query));
+    return entities;
+}
+
+KorEntity* KorDataMapper::fromRow(KorQuery& query)
+{
+    return fromRow(query, tableName());
+}
+
+KorEntity* KorDataMapper::fromRow(KorQuery& query, const QString& alias)
+{
+    const KorRowPlan& plan = query.plan(*this, alias);
+    const int id = plan.id < 0 ? 0 : query.value(plan.id).toInt();
+    if (id == KorNoValue || id == 0)
+        return nullptr;
+
+    // A stamp that nobody wrote (rows laid down by the installer) reads as "no value", like any empty integer.
+    const auto user = [&query](int index) {
+        const QVariant value = query.value(index);
+        return value.isNull() ? KorNoValue : value.toInt();
+    };
+    KorEntity* entity = createEntity();
+    entity->setId(id);
+    entity->setCreatedBy(user(plan.createdBy));
+    entity->setVersion(query.value(plan.version).toInt());
+    entity->setUpdatedBy(user(plan.updatedBy));
+    entity->setCreatedTime(query.value(plan.createdTime).toDateTime());
+    entity->setUpdatedTime(query.value(plan.updatedTime).toDateTime());
+    return alias == tableName() ? fillFromRow(query, entity) : fillFromRow(query, entity, alias);
+}
+
+KorEntity* KorDataMapper::fillFromRow(KorQuery& query, KorEntity* entity)
+{
+    // By its full name: a subclass that overrides this form alone must still get the plain fields.
+    return fillFromRow(query, entity, tableName());
+}
+
+KorEntity* KorDataMapper::fillFromRow(KorQuery& query, KorEntity* entity, const QString& alias)
+{
+    const KorRowPlan& plan = query.plan(*this, alias);
+    const QList<KorColumnMap*>& columns = m_metaData->columns();
+    for (int i = 0; i < columns.size(); ++i) {
+        QVariant value = plan.columns[i] < 0 ? QVariant() : query.value(plan.columns[i]);
+        if (value.type() == QVariant::Int && value.isNull())
+            value = KorNoValue;
+        entity->setProperty(columns[i]->propertyPathUtf8().constData(), value);
+    }
+    return entity;
+}
+
+// --- writing -------------------------------------------------------------------------------------------------------
+
+bool KorDataMapper::insert(KorEntity* entity)
+{
+    QString names;
+    QString marks;
+    for (const KorColumnMap* column : m_metaData->columns()) {
+        names += column->columnName() + ", ";
+        marks += "?, ";
+    }
+    KorQuery query;
+    query.prepare("insert into " + tableName() + " (" + names + "createdBy,createdTime,version) values(" + marks +
+                  "?,now(),?) returning id");
+    bindInsert(query, entity);
+    const int position = m_metaData->columns().size();
+    query.bindValue(position, entity->getCreatedBy() == KorNoValue ? QVariant(QVariant::Int)
+                                                                   : QVariant(entity->getCreatedBy()));
+    query.bindValue(position + 1, 1);
+    if (!query.exec() || !query.next())
+        return failWrite(query);
+    entity->setId(query.value(0).toInt());
+    return true;
+}
+
+bool KorDataMapper::update(KorEntity* entity)
+{
+    QString assignments;
+    for (const KorColumnMap* column : m_metaData->columns())
+        assignments += column->columnName() + "=?, ";
+    KorQuery query;
+    query.prepare("update " + tableName() + " set " + assignments +
+                  " updatedBy = ?, updatedTime = now(),version = version+1 where id = ? and version = ?");
+    bindUpdate(query, entity);
+    const int position = m_metaData->columns().size();
+    query.bindValue(position, entity->getUpdatedBy() == KorNoValue ? QVariant(QVariant::Int)
+                                                                   : QVariant(entity->getUpdatedBy()));
+    query.bindValue(position + 1, entity->getId());
+    query.bindValue(position + 2, entity->getVersion());
+    if (!query.exec())
+        return failWrite(query);
+    if (query.numRowsAffected() != 0)
+        return true;
+
+    qDebug() << "update failed";
+    m_errorText = "update failed" + lastQueryWithValues(query);
+    explainFailedWrite(entity);
+    return false;
+}
+
+bool KorDataMapper::remove(KorEntity* entity)
+{
+    KorQuery query;
+    query.prepare("delete from " + tableName() + " where id = ? and version = ?");
+    query.bindValue(0, entity->getId());
+    query.bindValue(1, entity->getVersion());
+    if (!query.exec())
+        return failWrite(query);
+    if (query.numRowsAffected() > 0)
+        return true;
+
+    setError("delete failed");
+    explainFailedWrite(entity);
+    return false;
+}
+
+bool KorDataMapper::failWrite(const KorQuery& query)
+{
+    setError(query.failure() + "\r\n" + lastQueryWithValues(query));
+    return false;
+}
+
+void KorDataMapper::bindInsert(KorQuery& query, KorEntity* entity)
+{
+    const QList<KorColumnMap*>& columns = m_metaData->columns();
+    for (int i = 0; i < columns.size(); ++i)
+        query.bindValue(i, columnValue(*columns[i], entity));
+}
+
+void KorDataMapper::bindUpdate(KorQuery& query, KorEntity* entity)
+{
+    KorDataMapper::bindInsert(query, entity);
+}
+
+void KorDataMapper::explainFailedWrite(KorEntity* entity)
+{
+    KorQuery query;
+    query.prepare("select * from " + tableName() + " where " + tableName() + ".id = :id");
+    query.bindValue(":id", entity->getId());
+    if (!query.exec())
+        return;
+    if (!query.next()) {
+        m_errorText = QString("Table: %1 has been deleted").arg(tableName());
+    } else if (query.field("version").toInt() > entity->getVersion()) {
+        // Three markers take the first three of four values, so the record's id stands behind "user id:".
+        m_errorText = QString("Table: %1 has been updated by user id: %2  at: %3")
+                          .arg(tableName())
+                          .arg(entity->getId())
+                          .arg(query.field("updatedby").toInt());
+    }
+}
+
+// --- statements and schema -----------------------------------------------------------------------------------------
+
+QString KorDataMapper::aliasOf(const QString& alias, const QString& column)
+{
+    QString name = alias + '.' + column;
+    return name.replace('.', '_');
+}
+
+QStringList KorDataMapper::columnsAs(const QList<KorColumnMap*>& columns, const QString& alias) const
+{
+    QStringList items;
+    for (const KorColumnMap* column : columns)
+        items.append(alias + '.' + column->columnName() + " as " + aliasOf(alias, column->columnName()));
+    return items;
+}
+
+QString KorDataMapper::selectStatement() const
+{
+    const auto lists = [this](const KorDataMapper* mapper, const QString& alias) {
+        const QStringList own = columnsAs(mapper->m_metaData->columns(), alias);
+        QString text = columnsAs(mapper->m_metaData->baseColumns(), alias).join(", ");
+        if (!own.isEmpty())
+            text += " , " + own.join(", ");
+        return text;
+    };
+    QString items = "select " + lists(this, tableName());
+    QString clauses;
+    for (const KorJoinMapper* join : m_joins) {
+        items += " , " + lists(join->mapper(), join->targetName());
+        clauses += join->clause(tableName());
+    }
+    return items + " from " + tableName() + clauses;
+}
+
+bool KorDataMapper::createTable(int mode)
+{
+    return createTableBase(mode) && createIndexes();
+}
+
+bool KorDataMapper::createTableBase(int mode)
+{
+    QString text;
+    if (mode == 1)
+        text = "DROP TABLE IF EXISTS " + tableName() + " CASCADE;create table  " + tableName();
+    else if (mode == 2)
+        text = "CREATE TABLE IF NOT EXISTS " + tableName();
+    text += "(id bigserial  primary key, createdBy integer default NULL, createdTime timestamp default NULL, "
+            "updatedBy integer default NULL, updatedTime  timestamp default NULL, version integer default NULL,";
+
+    QStringList columns;
+    QStringList names;
+    for (const KorColumnMap* column : m_metaData->columns()) {
+        columns.append(column->columnName() + ' ' + column->sqlType());
+        names.append(column->columnName());
+    }
+    text += columns.join(", ");
+    for (const KorJoinMapper* join : m_joins) {
+        if (names.contains(join->localColumn()))
+            text += ", FOREIGN KEY (" + join->localColumn() + ") REFERENCES " + join->mapper()->tableName() + '(' +
+                    join->remoteColumn() + ") ";
+    }
+    text += ')';
+
+    KorQuery query;
+    if (query.exec(text))
+        return true;
+    m_errorText = query.failure() + "\r\n" + text;
+    return false;
+}
+
+bool KorDataMapper::createIndexes()
+{
+    bool created = true;
+    for (const QString& statement : indexStatements()) {
+        KorQuery query;
+        created = execute(query, statement) && created;
+    }
+    return created;
+}
+
+bool KorDataMapper::truncate(bool cascade)
+{
+    KorQuery query;
+    return execute(query, "TRUNCATE " + tableName() + (cascade ? " CASCADE" : ""));
+}
+
+QString KorDataMapper::foreignKeyStatement(const QString& table, const QString& constraintName, const QString& column,
+                                           const QString& referencedTable, const QString& referencedColumn)
+{
+    return "ALTER TABLE " + table + " ADD CONSTRAINT " + constraintName + " FOREIGN KEY (" + column +
+           ") REFERENCES " + referencedTable + " (" + referencedColumn + ");";
+}
+
+bool KorDataMapper::addForeignKey(const QString& table, const QString& constraintName, const QString& column,
+                                  const QString& referencedTable, const QString& referencedColumn)
+{
+    KorQuery query;
+    return execute(query, foreignKeyStatement(table, constraintName, column, referencedTable, referencedColumn));
+}
+
+QString KorDataMapper::lastQueryWithValues(const QSqlQuery& query)
+{
+    return KorQuery::textWithValues(query);
+}
+
+QList<KorMigration*> KorDataMapper::migrations()
+{
+    return {};
+}
+
+bool KorDataMapper::migrate(double fromVersion, double toVersion)
+{
+    bool migrated = true;
+    const QList<KorMigration*> all = migrations();
+    for (KorMigration* migration : all) {
+        if (fromVersion <= migration->version() && migration->version() <= toVersion)
+            migrated = migration->up() && migrated;
+    }
+    qDeleteAll(all);
+    return migrated;
+}

@@ -1,0 +1,118 @@
+#pragma once
+
+#include "kor/persistence/KorQuery.h"
+
+#include <QDate>
+#include <QObject>
+#include <QVariant>
+
+#include <initializer_list>
+#include <memory>
+#include <type_traits>
+
+class KorColumnMap;
+class KorEntity;
+class KorJoinMapper;
+class KorMetaDataMap;
+class KorMigration;
+class KorPaging;
+
+/**
+ * Turns the metadata of one table into SQL and runs it. There is one mapper a table for the whole run. No operation
+ * throws: each returns false or null and leaves the explanation in the error text, which takeError() hands over once.
+ */
+class KorDataMapper : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit KorDataMapper(QObject* parent = nullptr);
+
+    /** Null with an empty error text means that there is no such row. */
+    virtual KorEntity* findById(int id);
+    virtual KorEntity* findByColumn(const QString& column, const QString& value);
+    virtual KorEntity* findByColumn(const QString& column, int value);
+    /** Every row that the paging asks for; a null paging gives the whole table. */
+    virtual QList<KorEntity*> find(KorPaging* paging);
+    virtual bool execPaging(KorQuery& query, KorPaging* paging);
+    virtual bool insert(KorEntity* entity);
+    /** Fails when the row's version is no longer the record's; the record keeps its old version after success. */
+    virtual bool update(KorEntity* entity);
+    virtual bool remove(KorEntity* entity);
+    /** The record of the row on which the query stands, null where the row's id is absent (empty side of a join). */
+    virtual KorEntity* fromRow(KorQuery& query);
+    virtual KorEntity* fromRow(KorQuery& query, const QString& alias);
+    /** The form with all nested values, used under the table's own name. */
+    virtual KorEntity* fillFromRow(KorQuery& query, KorEntity* entity);
+    /** Plain fields only, used under an alias. */
+    virtual KorEntity* fillFromRow(KorQuery& query, KorEntity* entity, const QString& alias);
+    virtual void bindInsert(KorQuery& query, KorEntity* entity);
+    virtual void bindUpdate(KorQuery& query, KorEntity* entity);
+    /** Mode 1 drops the table first, mode 2 creates it only where it is missing. */
+    virtual bool createTable(int mode);
+    virtual KorEntity* createEntity() = 0;
+    [[nodiscard]] virtual QString selectStatement() const;
+    virtual void explainFailedWrite(KorEntity* entity);
+    /** New objects each time; the caller deletes them. */
+    [[nodiscard]] virtual QList<KorMigration*> migrations();
+    /** The statements that create the table's indexes; each can run again on a table that has them. */
+    [[nodiscard]] virtual QStringList indexStatements() const { return {}; }
+
+    [[nodiscard]] const QString& tableName() const;
+    [[nodiscard]] KorMetaDataMap* metaData() const { return m_metaData; }
+    [[nodiscard]] const QString& name() const { return m_name; }
+    void setName(const QString& name) { m_name = name; }
+    [[nodiscard]] const QList<KorJoinMapper*>& joins() const { return m_joins; }
+
+    [[nodiscard]] bool hasError() const { return !m_errorText.isEmpty(); }
+    void clearError() { m_errorText.clear(); }
+    QString takeError();
+
+    void addJoin(const QString& propertyName, KorDataMapper* mapper, const QString& joinType,
+                 const QString& localColumn, const QString& remoteColumn, const QString& alias = QString());
+    bool truncate(bool cascade);
+    bool migrate(double fromVersion, double toVersion);
+    bool createIndexes();
+    bool addForeignKey(const QString& table, const QString& constraintName, const QString& column,
+                       const QString& referencedTable, const QString& referencedColumn);
+
+    [[nodiscard]] static QString foreignKeyStatement(const QString& table, const QString& constraintName,
+                                                     const QString& column, const QString& referencedTable,
+                                                     const QString& referencedColumn);
+    [[nodiscard]] static QString lastQueryWithValues(const QSqlQuery& query);
+    [[nodiscard]] static QString dateToSql(const QDate& date) { return date.toString("yyyy/M/d"); }
+    [[nodiscard]] static QString aliasOf(const QString& alias, const QString& column);
+
+protected:
+    using Bindings = std::initializer_list<QPair<QString, QVariant>>;
+
+    bool createTableBase(int mode);
+    /** Runs own SQL with named values; failing, it keeps and logs the database's text. */
+    bool execute(KorQuery& query, const QString& statement, Bindings values = {});
+    /** The first record, or null, of the mapper's SELECT with this tail (where, order by). */
+    KorEntity* findOne(const QString& tail, Bindings values);
+    QList<KorEntity*> findMany(const QString& tail, Bindings values);
+    QList<KorEntity*> readAll(KorQuery& query);
+    void setError(const QString& text);
+    void appendError(const QString& text) { m_errorText += text; }
+
+private:
+    bool failWrite(const KorQuery& query);
+    [[nodiscard]] QStringList columnsAs(const QList<KorColumnMap*>& columns, const QString& alias) const;
+
+    KorMetaDataMap* m_metaData;
+    QString m_errorText;
+    QList<KorJoinMapper*> m_joins;
+    QString m_name;
+};
+
+/** The list of one record type out of a list of records that a mapper returned. */
+template <class Entity>
+[[nodiscard]] QList<Entity*> castAll(const QList<KorEntity*>& entities)
+{
+    QList<Entity*> result;
+    result.reserve(entities.size());
+    for (KorEntity* entity : entities)
+        result.append(static_cast<Entity*>(entity));
+    return result;
+}

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QSqlDatabase>
+
+/** The way to the program's connection from any thread. */
+class KorDatabase
+{
+public:
+    /**
+     * The default connection on the thread of the application; on any other thread a clone of it, opened there on
+     * first use and removed when the thread ends, since a driver serves only the thread that owns it.
+     */
+    [[nodiscard]] static QSqlDatabase current();
+
+    /** True on the application's own thread, where the default connection and the entity pool live. */
+    [[nodiscard]] static bool isApplicationThread();
+};
+
+/**
+ * One transaction on the current connection, rolled back when it goes out of scope unfinished. Transactions do not
+ * nest: a second one inside is accepted by the server with a warning, and its commit ends the one and only.
+ */
+class KorTransaction
+{
+public:
+    KorTransaction();
+    ~KorTransaction();
+    Q_DISABLE_COPY(KorTransaction)
+
+    [[nodiscard]] bool isOpen() const { return m_open; }
+    bool commit();
+    bool rollback();
+
+private:
+    QSqlDatabase m_database;
+    bool m_open;
+};

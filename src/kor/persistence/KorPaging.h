@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QList>
+#include <QObject>
+#include <QPair>
+
+/**
+ * What a list or search asks of a mapper: conditions and sort keys, in order. A condition text holds its own joining
+ * word, and a pair with an empty value is a literal piece of SQL. There are no pages: a list gives every match.
+ */
+class KorPaging : public QObject
+{
+    Q_OBJECT
+
+public:
+    using Pairs = QList<QPair<QString, QString>>;
+
+    explicit KorPaging(QObject* parent = nullptr) : QObject(parent) {}
+
+    void addFilter(const QString& condition, const QString& value) { m_filters.append({condition, value}); }
+    void addSort(const QString& expression, const QString& direction) { m_sorts.append({expression, direction}); }
+
+    [[nodiscard]] const Pairs& filters() const { return m_filters; }
+    void setFilters(const Pairs& filters) { m_filters = filters; }
+    [[nodiscard]] const Pairs& sorts() const { return m_sorts; }
+    void setSorts(const Pairs& sorts) { m_sorts = sorts; }
+    /** The value of the first pair with this condition, else empty: finders use the pairs as named arguments. */
+    [[nodiscard]] QString filterValue(const QString& condition) const;
+
+    [[nodiscard]] int pageNumber() const { return m_pageNumber; }
+    void setPageNumber(int pageNumber) { m_pageNumber = pageNumber; }
+    [[nodiscard]] int pageSize() const { return m_pageSize; }
+    void setPageSize(int pageSize) { m_pageSize = pageSize; }
+
+private:
+    int m_pageNumber = 1;
+    int m_pageSize = 100;
+    Pairs m_filters;
+    Pairs m_sorts;
+};

@@ -1,0 +1,126 @@
+#include "kor/widgets/KorDialog.h"
+
+#include "kor/entity/KorEntity.h"
+
+#include <QIcon>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QTimer>
+
+KorDialog::KorDialog(QWidget* parent) : QDialog(parent)
+{
+    // No field exists yet, so the filter reaches none and Return keeps pressing the default button.
+    const QList<QWidget*> fields = findChildren<QWidget*>();
+    for (QWidget* field : fields)
+        field->installEventFilter(this);
+    setStyleSheet("QDialogButtonBox  {  dialogbuttonbox-buttons-have-icons: 1;  icon-size: 16px 16px; "
+                  "dialog-ok-icon: url(:/icons/accept.png);  dialog-cancel-icon: url(:/icons/door_out.png);}");
+    setWindowIcon(QIcon(":/icons/Beverage-Coffee-02.png"));
+    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+}
+
+KorDialog::~KorDialog()
+{
+    delete m_entity;
+}
+
+bool KorDialog::beforeAccept()
+{
+    return !m_saver || m_saver();
+}
+
+bool KorDialog::execWith(KorEntity* entity)
+{
+    setEntity(entity);
+    return exec() == Accepted && hasError();
+}
+
+bool KorDialog::execWithKey(const QString& key)
+{
+    setKey(key);
+    return exec() == Accepted && hasError();
+}
+
+int KorDialog::setKey(const QString& key)
+{
+    Q_UNUSED(key)
+    return 0;
+}
+
+void KorDialog::addError(QWidget* widget, const QString& message)
+{
+    if (!m_errorFields.contains(widget))
+        m_errorFields.append(widget);
+    m_errors[widget].append(message);
+}
+
+void KorDialog::accept()
+{
+    done(Accepted);
+}
+
+void KorDialog::done(int result)
+{
+    if (result != Accepted) {
+        QDialog::done(result);
+        return;
+    }
+    m_errors.clear();
+    m_errorFields.clear();
+    if (!validate()) {
+        const QString text = composeErrors();
+        if (!text.isEmpty())
+            QMessageBox::critical(this, tr("Error"), text);
+        if (!m_errorFields.isEmpty())
+            m_errorFields.first()->setFocus();
+        return;
+    }
+    if (beforeAccept())
+        QDialog::done(Accepted);
+}
+
+QString KorDialog::composeErrors() const
+{
+    QString text;
+    for (QWidget* field : m_errorFields) {
+        for (const QString& message : m_errors.value(field))
+            text += message + "\r\n";
+    }
+    return text;
+}
+
+bool KorDialog::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Return) {
+        focusNextPrevChild(true);
+        return true;
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
+bool KorDialog::require(QLineEdit* field, const QString& message)
+{
+    return requireText(field, field->text(), message);
+}
+
+bool KorDialog::requireText(QWidget* field, const QString& text, const QString& message)
+{
+    if (!text.isEmpty())
+        return true;
+    addError(field, message);
+    return false;
+}
+
+bool KorDialog::requireUnused(QWidget* field, const KorEntity* found, const QString& message)
+{
+    if (!found || (m_entity && m_entity->getId() == found->getId()))
+        return true;
+    addError(field, message);
+    return false;
+}
+
+void KorDialog::focusLater(QWidget* field)
+{
+    QTimer::singleShot(0, field, [field] { field->setFocus(); });
+}

@@ -1,0 +1,79 @@
+#pragma once
+
+#include <QDialog>
+#include <QMap>
+#include <QPointer>
+
+#include <functional>
+
+class KorEntity;
+class QLineEdit;
+
+/**
+ * Base of every entry form. A form reports what is wrong field by field, and all of it is shown in one box; a
+ * confirmed form closes only when it is valid and, where a saver is set, when it has been saved.
+ */
+class KorDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit KorDialog(QWidget* parent = nullptr);
+    ~KorDialog() override;
+
+    /** Reports errors through addError; true when the form is fit to be taken. */
+    virtual bool validate() = 0;
+    /** The record as the form shows it, made on the first call where none was handed in; it dies with the dialog. */
+    virtual KorEntity* getEntity() = 0;
+    /** Takes the record for the dialog's own and shows it. */
+    virtual void setEntity(KorEntity* entity) = 0;
+    /** Runs after a successful validation; false keeps the dialog open, as the user left it. */
+    virtual bool beforeAccept();
+    /** Both return true only for an accepted dialog that still holds errors; callers look at hasError() instead. */
+    virtual bool execWith(KorEntity* entity);
+    virtual bool execWithKey(const QString& key);
+    virtual int setKey(const QString& key);
+
+    /** What saves the record when the form is confirmed; it shows its own failure and returns false for it. */
+    void setSaver(std::function<bool()> saver) { m_saver = std::move(saver); }
+    void addError(QWidget* widget, const QString& message);
+    [[nodiscard]] bool hasError() const { return !m_errorFields.isEmpty(); }
+    [[nodiscard]] QStringList errorsOf(QWidget* widget) const { return m_errors.value(widget); }
+
+    void done(int result) override;
+    void accept() override;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+    /** The owned record of the dialog: replaced by setEntity, deleted with the dialog. */
+    template <class Entity>
+    [[nodiscard]] Entity* held() const
+    {
+        return static_cast<Entity*>(m_entity.data());
+    }
+    template <class Entity>
+    Entity* heldOrNew()
+    {
+        if (!m_entity)
+            m_entity = new Entity;
+        return held<Entity>();
+    }
+    void hold(KorEntity* entity) { m_entity = entity; }
+
+    // The rules that recur in the forms. Each reports on its field and returns whether the field passed.
+    bool require(QLineEdit* field, const QString& message);
+    bool requireText(QWidget* field, const QString& text, const QString& message);
+    /** The found record counts as a clash unless it is the one being edited. */
+    bool requireUnused(QWidget* field, const KorEntity* found, const QString& message);
+    /** Focus once the window is shown, as a field that is not yet visible cannot take it. */
+    void focusLater(QWidget* field);
+
+private:
+    [[nodiscard]] QString composeErrors() const;
+
+    QPointer<KorEntity> m_entity;
+    std::function<bool()> m_saver;
+    QList<QWidget*> m_errorFields;
+    QMap<QWidget*, QStringList> m_errors;
+};

@@ -1,0 +1,134 @@
+#include "kor/widgets/KorTab.h"
+
+#include "kor/entity/KorEntity.h"
+#include "kor/widgets/KorEmptyHint.h"
+#include "kor/widgets/KorEntityModel.h"
+#include "kor/widgets/KorSortFilterProxyModel.h"
+
+#include <QCoreApplication>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QTableView>
+
+#include <algorithm>
+
+namespace
+{
+constexpr int widestFirstSight = 360;
+constexpr int cellPadding = 16;
+
+/** Widths that show headers and the first rows' texts in full, within reason. */
+void fitColumns(QTableView* view)
+{
+    view->horizontalHeader()->setResizeContentsPrecision(50);
+    view->resizeColumnsToContents();
+    for (int column = 0; column < view->model()->columnCount(); ++column)
+        view->setColumnWidth(column, std::min(view->columnWidth(column) + cellPadding, widestFirstSight));
+}
+
+QList<int> selectedSourceRows(const QTableView* view)
+{
+    const auto* proxy = qobject_cast<const QSortFilterProxyModel*>(view->model());
+    QModelIndexList selected;
+    if (view->selectionModel())
+        selected = view->selectionModel()->selectedRows();
+    std::sort(selected.begin(), selected.end(),
+              [](const QModelIndex& left, const QModelIndex& right) { return left.row() < right.row(); });
+    QList<int> rows;
+    for (const QModelIndex& index : qAsConst(selected))
+        rows.append(proxy ? proxy->mapToSource(index).row() : index.row());
+    return rows;
+}
+} // namespace
+
+KorTab::KorTab(QWidget* parent) : QWidget(parent) {}
+
+void KorTab::close()
+{
+    emit onclose(this);
+    QWidget::close();
+}
+
+void KorTab::doubleClickedSlot(const QModelIndex& index)
+{
+    Q_UNUSED(index)
+    // Through the shortcut's own road, so that it does exactly what the key does.
+    QCoreApplication::postEvent(this, new QKeyEvent(QEvent::KeyPress, Qt::Key_F2, Qt::NoModifier));
+}
+
+KorSortFilterProxyModel* KorTab::createProxyModel()
+{
+    return new KorSortFilterProxyModel(this);
+}
+
+void KorTab::applyModel(QTableView* view, KorEntityModel* model)
+{
+    QAbstractItemModel* formerModel = view->model();
+    QItemSelectionModel* formerSelection = view->selectionModel();
+    const bool firstTime = !formerModel || formerModel->columnCount() != model->columnCount();
+    const QByteArray header = view->horizontalHeader()->saveState();
+
+    view->setSortingEnabled(true);
+    view->horizontalHeader()->setStretchLastSection(true);
+    view->verticalHeader()->hide();
+    view->setSelectionBehavior(QAbstractItemView::SelectRows);
+    view->setTabKeyNavigation(false);
+
+    KorSortFilterProxyModel* proxy = createProxyModel();
+    proxy->setSourceModel(model);
+    if (firstTime) {
+        // Rows stand in the order of the list until somebody asks for another.
+        view->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+    }
+    view->setModel(proxy);
+    view->reset();
+    if (firstTime)
+        fitColumns(view);
+    else
+        view->horizontalHeader()->restoreState(header);
+    delete formerSelection;
+    if (qobject_cast<KorSortFilterProxyModel*>(formerModel))
+        delete formerModel;
+
+    connect(view, &QTableView::doubleClicked, this, &KorTab::doubleClickedSlot, Qt::UniqueConnection);
+    view->setAlternatingRowColors(true);
+    view->setStyleSheet("alternate-background-color: #D4D4D4;background-color: white;");
+    KorEmptyHint::attach(view);
+}
+
+QList<int> KorTab::selectedIds(const QTableView* view, const KorEntityModel* model)
+{
+    QList<int> ids;
+    for (int row : selectedSourceRows(view))
+        ids.append(model->data(model->index(row, 0), Qt::DisplayRole).toInt());
+    return ids;
+}
+
+QList<int> KorTab::selectedEntityIds(const QTableView* view, const KorEntityModel* model)
+{
+    QList<int> ids;
+    for (int row : selectedSourceRows(view))
+        ids.append(model->entityId(row));
+    return ids;
+}
+
+QList<KorEntity*> KorTab::selectedEntities(const QTableView* view, const KorEntityModel* model)
+{
+    QList<KorEntity*> entities;
+    for (int row : selectedSourceRows(view)) {
+        if (KorEntity* entity = model->entityAt(row))
+            entities.append(entity);
+    }
+    return entities;
+}
+
+bool KorTab::selectEntity(QTableView* view, const KorEntityModel* model, int id)
+{
+    const auto* proxy = qobject_cast<const QSortFilterProxyModel*>(view->model());
+    const KorEntity* entity = model->find(id);
+    if (!proxy || !entity)
+        return false;
+    const int row = model->entities().indexOf(const_cast<KorEntity*>(entity));
+    view->setCurrentIndex(proxy->mapFromSource(model->index(row, 0)));
+    return true;
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QModelIndex>
+#include <QWidget>
+
+class KorEntity;
+class KorEntityModel;
+class KorSortFilterProxyModel;
+class QTableView;
+
+/** Base of every working screen: a page of the main window's tab widget. */
+class KorTab : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit KorTab(QWidget* parent = nullptr);
+
+    /** Asks the main window to take the page away, and closes it. */
+    void close();
+
+signals:
+    void onclose(QWidget* tab);
+
+public slots:
+    /** A double click on a row is the key F2, and so the button that has this shortcut. */
+    void doubleClickedSlot(const QModelIndex& index);
+
+protected:
+    /** A new sort proxy with the tab as parent. */
+    virtual KorSortFilterProxyModel* createProxyModel();
+
+    /** Shows the model in the grid, sortable and selectable by whole rows; widths and sort order stay as they were. */
+    void applyModel(QTableView* view, KorEntityModel* model);
+
+    // The selected rows from top to bottom as the grid shows them.
+    [[nodiscard]] static QList<int> selectedIds(const QTableView* view, const KorEntityModel* model);
+    [[nodiscard]] static QList<int> selectedEntityIds(const QTableView* view, const KorEntityModel* model);
+    [[nodiscard]] static QList<KorEntity*> selectedEntities(const QTableView* view, const KorEntityModel* model);
+    /** Makes the row of the record with this id the current one; false when the grid has none. */
+    static bool selectEntity(QTableView* view, const KorEntityModel* model, int id);
+};
