@@ -1,0 +1,125 @@
+#include "kor/widgets/KorNumberEdit.h"
+
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QScopedValueRollback>
+
+#include <cmath>
+
+namespace
+{
+constexpr int significantDigits = 10;
+}
+
+KorNumberEdit::KorNumberEdit(QWidget* parent) : QLineEdit(parent) { setAlignment(Qt::AlignRight); }
+
+QString KorNumberEdit::displayText() const { return locale().toString(m_value, 'g', significantDigits); }
+
+QString KorNumberEdit::editableText() const { return QString::number(m_value, 'g', significantDigits); }
+
+QLocale KorNumberEdit::locale() const { return QLocale(QLocale::Indonesian, QLocale::Indonesia); }
+
+void KorNumberEdit::validate()
+{
+    rememberEntry();
+    if (holdsUntouchedNumber())
+        return;
+    const QLocale language = locale();
+    bool isNumber = false;
+    const double number = language.toDouble(text().remove(language.groupSeparator()), &isNumber);
+    // "nan" and "inf" are numbers to the locale, but nobody can pay them.
+    m_valid = isNumber && std::isfinite(number);
+    if (!m_valid)
+        return;
+    m_value = number;
+    if (!hasFocus() || m_finishing)
+        write(displayText());
+}
+
+bool KorNumberEdit::holdsUntouchedNumber()
+{
+    // The plain writing of a number has a decimal point, which some locales take for a group separator; a number that
+    // a program stored must not grow tenfold because somebody walked through the field.
+    if (isModified() || text().isEmpty() || text() != editableText() || text() == displayText())
+        return false;
+    m_valid = true;
+    if (!hasFocus() || m_finishing)
+        write(displayText());
+    return true;
+}
+
+bool KorNumberEdit::isValid()
+{
+    validate();
+    return m_valid;
+}
+
+double KorNumberEdit::value()
+{
+    validate();
+    return m_value;
+}
+
+void KorNumberEdit::setValue(double value)
+{
+    m_value = value;
+    m_rawText = editableText();
+    write(displayText());
+}
+
+void KorNumberEdit::setValue(int value) { setValue(static_cast<double>(value)); }
+
+bool KorNumberEdit::finishesEntry(int key) const { return key == Qt::Key_Return; }
+
+void KorNumberEdit::finishEntry()
+{
+    const QScopedValueRollback<bool> finishing(m_finishing, true);
+    validate();
+}
+
+void KorNumberEdit::rememberEntry()
+{
+    // Whoever listens to textChanged asks for the value while the edit writes its own text: that is no entry.
+    if (m_ownText.isNull() || text() != m_ownText)
+        m_rawText = text();
+}
+
+void KorNumberEdit::write(const QString& ownText)
+{
+    m_ownText = ownText;
+    if (text() != ownText)
+        setText(ownText);
+}
+
+void KorNumberEdit::focusInEvent(QFocusEvent* event)
+{
+    QLineEdit::focusInEvent(event);
+    // The context menu of the field itself lends the focus only.
+    if (event->reason() == Qt::PopupFocusReason)
+        return;
+    rememberEntry();
+    m_ownText = QString();
+    const bool replaceAll = hasSelectedText();
+    setText(m_rawText);
+    if (replaceAll)
+        selectAll();
+    setStyleSheet("border: 1px solid #005782;");
+}
+
+void KorNumberEdit::focusOutEvent(QFocusEvent* event)
+{
+    if (event->reason() == Qt::PopupFocusReason) {
+        QLineEdit::focusOutEvent(event);
+        return;
+    }
+    finishEntry();
+    QLineEdit::focusOutEvent(event);
+    setStyleSheet(QString());
+}
+
+void KorNumberEdit::keyPressEvent(QKeyEvent* event)
+{
+    if (finishesEntry(event->key()))
+        finishEntry();
+    QLineEdit::keyPressEvent(event);
+}

@@ -1,0 +1,205 @@
+#include "kor/widgets/KorNumberEdit.h"
+
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QMenu>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace
+{
+/** A form with the field under test and something else to go to. */
+template <class Edit>
+struct Form
+{
+    Form()
+    {
+        auto* layout = new QHBoxLayout(&window);
+        layout->addWidget(&other);
+        layout->addWidget(&edit);
+        window.show();
+        other.setFocus();
+        [[maybe_unused]] const bool active = QTest::qWaitForWindowActive(&window);
+    }
+    void enter() { edit.setFocus(Qt::OtherFocusReason); }
+    void leave() { other.setFocus(); }
+    void enterAndType(const QString& text)
+    {
+        enter();
+        edit.selectAll();
+        if (text.isEmpty())
+            QTest::keyClick(&edit, Qt::Key_Delete);
+        QTest::keyClicks(&edit, text);
+    }
+
+    QWidget window;
+    QPushButton other;
+    Edit edit;
+};
+} // namespace
+
+class tst_NumberEdits : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aTypedNumberIsReadInTheLocaleAndShownWithItsSeparators_data();
+    void aTypedNumberIsReadInTheLocaleAndShownWithItsSeparators();
+    void aTextThatIsNoNumberStaysInTheFieldAndTheFormerValueCounts_data();
+    void aTextThatIsNoNumberStaysInTheFieldAndTheFormerValueCounts();
+    void theTypedTextComesBackWithTheFocus();
+    void aTotalThatIsReckonedOnEveryKeyLeavesTheEntryAlone();
+    void returnFinishesTheEntryWhereTheCursorStays();
+    void aNumberFromTheProgramSurvivesAWalkThroughTheField();
+    void aFieldReachedByTabIsOverwrittenByTheNextKey();
+    void theContextMenuDoesNotEndTheEntry();
+    void theFieldBeingTypedInIsMarked();
+};
+
+void tst_NumberEdits::aTypedNumberIsReadInTheLocaleAndShownWithItsSeparators_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<double>("value");
+    QTest::addColumn<QString>("shown");
+    QTest::newRow("group and decimal") << "1.234,5" << 1234.5 << "1.234,5";
+    QTest::newRow("no group") << "1234,5" << 1234.5 << "1.234,5";
+    QTest::newRow("misplaced groups") << "12.34.567" << 1234567.0 << "1.234.567";
+    QTest::newRow("negative") << "-2500" << -2500.0 << "-2.500";
+    QTest::newRow("ten digits") << "1234567890" << 1234567890.0 << "1.234.567.890";
+    QTest::newRow("zero") << "0" << 0.0 << "0";
+}
+
+void tst_NumberEdits::aTypedNumberIsReadInTheLocaleAndShownWithItsSeparators()
+{
+    QFETCH(QString, typed);
+    QFETCH(double, value);
+    QFETCH(QString, shown);
+    Form<KorNumberEdit> form;
+    form.enterAndType(typed);
+    QCOMPARE(form.edit.value(), value);
+    QCOMPARE(form.edit.text(), typed);
+    form.leave();
+    QCOMPARE(form.edit.text(), shown);
+    QVERIFY(form.edit.isValid());
+    QCOMPARE(form.edit.value(), value);
+}
+
+void tst_NumberEdits::aTextThatIsNoNumberStaysInTheFieldAndTheFormerValueCounts_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::newRow("letters") << "abc";
+    QTest::newRow("nothing") << "";
+    QTest::newRow("two decimal commas") << "1,2,3";
+    QTest::newRow("infinite") << "inf";
+    QTest::newRow("not a number") << "nan";
+}
+
+void tst_NumberEdits::aTextThatIsNoNumberStaysInTheFieldAndTheFormerValueCounts()
+{
+    QFETCH(QString, typed);
+    Form<KorNumberEdit> form;
+    form.edit.setValue(75);
+    QVERIFY(form.edit.isValid());
+    form.enterAndType(typed);
+    form.leave();
+    QCOMPARE(form.edit.text(), typed);
+    QVERIFY(!form.edit.isValid());
+    QCOMPARE(form.edit.value(), 75.0);
+    form.enter();
+    QCOMPARE(form.edit.text(), typed);
+}
+
+void tst_NumberEdits::theTypedTextComesBackWithTheFocus()
+{
+    Form<KorNumberEdit> form;
+    QCOMPARE(form.edit.value(), 0.0);
+    QCOMPARE(form.edit.rawText(), QString());
+    // A form's totals ask for the value while the field writes its own text, and afterwards.
+    connect(&form.edit, &QLineEdit::textChanged, &form.edit, [&form] { (void)form.edit.value(); });
+    form.enterAndType("1234,50");
+    form.leave();
+    QCOMPARE(form.edit.text(), QString("1.234,5"));
+    QCOMPARE(form.edit.value(), 1234.5);
+    form.enter();
+    QCOMPARE(form.edit.text(), QString("1234,50"));
+    form.leave();
+    form.edit.clear();
+    form.enter();
+    QCOMPARE(form.edit.text(), QString());
+}
+
+void tst_NumberEdits::aTotalThatIsReckonedOnEveryKeyLeavesTheEntryAlone()
+{
+    Form<KorNumberEdit> form;
+    QList<double> totals;
+    connect(&form.edit, &QLineEdit::textChanged, &form.edit, [&] { totals.append(form.edit.value()); });
+    form.enterAndType("1500");
+    QCOMPARE(form.edit.text(), QString("1500"));
+    QCOMPARE(totals, QList<double>({1.0, 15.0, 150.0, 1500.0}));
+    QCOMPARE(form.edit.rawText(), QString("1500"));
+}
+
+void tst_NumberEdits::returnFinishesTheEntryWhereTheCursorStays()
+{
+    Form<KorNumberEdit> form;
+    QSignalSpy pressed(&form.edit, &QLineEdit::returnPressed);
+    form.enterAndType("1500");
+    QTest::keyClick(&form.edit, Qt::Key_Enter);
+    QCOMPARE(form.edit.text(), QString("1500"));
+    QTest::keyClick(&form.edit, Qt::Key_Return);
+    QCOMPARE(form.edit.text(), QString("1.500"));
+    QCOMPARE(pressed.count(), 2);
+    QVERIFY(form.edit.hasFocus());
+}
+
+void tst_NumberEdits::aNumberFromTheProgramSurvivesAWalkThroughTheField()
+{
+    Form<KorNumberEdit> form;
+    form.edit.setValue(1234.5);
+    QCOMPARE(form.edit.text(), QString("1.234,5"));
+    QCOMPARE(form.edit.rawText(), QString("1234.5"));
+    form.enter();
+    QCOMPARE(form.edit.text(), QString("1234.5"));
+    QCOMPARE(form.edit.value(), 1234.5);
+    form.leave();
+    QCOMPARE(form.edit.value(), 1234.5);
+    QCOMPARE(form.edit.text(), QString("1.234,5"));
+}
+
+void tst_NumberEdits::aFieldReachedByTabIsOverwrittenByTheNextKey()
+{
+    Form<KorNumberEdit> form;
+    form.edit.setValue(12);
+    QTest::keyClick(&form.other, Qt::Key_Tab);
+    QVERIFY(form.edit.hasFocus());
+    QTest::keyClicks(&form.edit, "34");
+    QCOMPARE(form.edit.value(), 34.0);
+}
+
+void tst_NumberEdits::theContextMenuDoesNotEndTheEntry()
+{
+    Form<KorNumberEdit> form;
+    form.enterAndType("1500");
+    QMenu menu;
+    menu.addAction("Paste");
+    menu.popup(form.edit.mapToGlobal(QPoint(0, 0)));
+    QVERIFY(QTest::qWaitForWindowExposed(&menu));
+    QCOMPARE(form.edit.text(), QString("1500"));
+    menu.close();
+    QTest::keyClicks(&form.edit, "0");
+    QCOMPARE(form.edit.text(), QString("15000"));
+}
+
+void tst_NumberEdits::theFieldBeingTypedInIsMarked()
+{
+    Form<KorNumberEdit> form;
+    QVERIFY(form.edit.alignment() & Qt::AlignRight);
+    form.enter();
+    QCOMPARE(form.edit.styleSheet(), QString("border: 1px solid #005782;"));
+    form.leave();
+    QCOMPARE(form.edit.styleSheet(), QString());
+}
+
+QTEST_MAIN(tst_NumberEdits)
+#include "tst_number_edits.moc"
