@@ -43,27 +43,15 @@ void KorBusinessLogic::takeMapperError(KorDataMapper* mapper, const QString& ope
         addError(operation, mapper->takeError());
 }
 
-bool KorBusinessLogic::insert(KorEntity* entity)
-{
-    return written(m_mapper->insert(entity), m_mapper, "insert");
-}
+bool KorBusinessLogic::insert(KorEntity* entity) { return written(m_mapper->insert(entity), m_mapper, "insert"); }
 
-KorEntity* KorBusinessLogic::find(int id)
-{
-    return read(m_mapper->findById(id), m_mapper, "find");
-}
+KorEntity* KorBusinessLogic::find(int id) { return read(m_mapper->findById(id), m_mapper, "find"); }
 
 KorEntity* KorBusinessLogic::find(const QString& column, const QString& value)
 {
     return read(m_mapper->findByColumn(column, value), m_mapper, "find");
 }
 
-bool KorBusinessLogic::update(KorEntity* entity)
-{
-    return written(m_mapper->update(entity), m_mapper, "update");
-}
+bool KorBusinessLogic::update(KorEntity* entity) { return written(m_mapper->update(entity), m_mapper, "update"); }
 
-bool KorBusinessLogic::remove(KorEntity* entity)
-{
-    return written(m_mapper->remove(entity), m_mapper, "delete");
-}
+bool KorBusinessLogic::remove(KorEntity* entity) { return written(m_mapper->remove(entity), m_mapper, "delete"); }

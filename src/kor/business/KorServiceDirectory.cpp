@@ -11,10 +11,7 @@ QHash<QString, KorBusinessLogic*>& directory()
 }
 } // namespace
 
-void KorServiceDirectory::add(KorBusinessLogic* service)
-{
-    directory().insert(service->name(), service);
-}
+void KorServiceDirectory::add(KorBusinessLogic* service) { directory().insert(service->name(), service); }
 
 void KorServiceDirectory::remove(KorBusinessLogic* service)
 {
@@ -23,7 +20,4 @@ void KorServiceDirectory::remove(KorBusinessLogic* service)
         directory().erase(found);
 }
 
-KorBusinessLogic* KorServiceDirectory::get(const QString& name)
-{
-    return directory().value(name);
-}
+KorBusinessLogic* KorServiceDirectory::get(const QString& name) { return directory().value(name); }

@@ -21,10 +21,7 @@ void KorColumnMap::setPropertyPath(const QString& propertyPath)
 
 namespace
 {
-QVariant nullInteger()
-{
-    return QVariant(QVariant::Int);
-}
+QVariant nullInteger() { return QVariant(QVariant::Int); }
 
 const QObject* nestedObject(const QObject* owner, const QByteArray& property)
 {

@@ -15,8 +15,8 @@ KorLogger::KorLogger(QObject* parent, const QString& filePath, QPlainTextEdit* t
 
 void KorLogger::log(const QString& message)
 {
-    const QString line = m_showTimestamp ? QDateTime::currentDateTime().toString("dd.MM.yyyy hh:mm:ss ") + message
-                                         : message;
+    const QString line =
+        m_showTimestamp ? QDateTime::currentDateTime().toString("dd.MM.yyyy hh:mm:ss ") + message : message;
     if (m_logFile && m_logFile->isOpen()) {
         QTextStream stream(m_logFile.get());
         stream.setCodec("UTF-8");

@@ -11,10 +11,7 @@
 
 KorDataMapper::KorDataMapper(QObject* parent) : QObject(parent), m_metaData(new KorMetaDataMap(this)) {}
 
-const QString& KorDataMapper::tableName() const
-{
-    return m_metaData->tableName();
-}
+const QString& KorDataMapper::tableName() const { return m_metaData->tableName(); }
 
 QString KorDataMapper::takeError()
 {
@@ -37,10 +34,7 @@ void KorDataMapper::addJoin(const QString& propertyName, KorDataMapper* mapper, 
 
 // --- reading -------------------------------------------------------------------------------------------------------
 
-KorEntity* KorDataMapper::findById(int id)
-{
-    return findOne(" where " + tableName() + ".id = :id", {{":id", id}});
-}
+KorEntity* KorDataMapper::findById(int id) { return findOne(" where " + tableName() + ".id = :id", {{":id", id}}); }
 
 KorEntity* KorDataMapper::findByColumn(const QString& column, const QString& value)
 {
@@ -130,10 +124,7 @@ QList<KorEntity*> KorDataMapper::readAll(KorQuery& query)
     return entities;
 }
 
-KorEntity* KorDataMapper::fromRow(KorQuery& query)
-{
-    return fromRow(query, tableName());
-}
+KorEntity* KorDataMapper::fromRow(KorQuery& query) { return fromRow(query, tableName()); }
 
 KorEntity* KorDataMapper::fromRow(KorQuery& query, const QString& alias)
 {
@@ -191,8 +182,8 @@ bool KorDataMapper::insert(KorEntity* entity)
                   "?,now(),?) returning id");
     bindInsert(query, entity);
     const int position = m_metaData->columns().size();
-    query.bindValue(position, entity->getCreatedBy() == KorNoValue ? QVariant(QVariant::Int)
-                                                                   : QVariant(entity->getCreatedBy()));
+    query.bindValue(position,
+                    entity->getCreatedBy() == KorNoValue ? QVariant(QVariant::Int) : QVariant(entity->getCreatedBy()));
     query.bindValue(position + 1, 1);
     if (!query.exec() || !query.next())
         return failWrite(query);
@@ -210,8 +201,8 @@ bool KorDataMapper::update(KorEntity* entity)
                   " updatedBy = ?, updatedTime = now(),version = version+1 where id = ? and version = ?");
     bindUpdate(query, entity);
     const int position = m_metaData->columns().size();
-    query.bindValue(position, entity->getUpdatedBy() == KorNoValue ? QVariant(QVariant::Int)
-                                                                   : QVariant(entity->getUpdatedBy()));
+    query.bindValue(position,
+                    entity->getUpdatedBy() == KorNoValue ? QVariant(QVariant::Int) : QVariant(entity->getUpdatedBy()));
     query.bindValue(position + 1, entity->getId());
     query.bindValue(position + 2, entity->getVersion());
     if (!query.exec())
@@ -254,10 +245,7 @@ void KorDataMapper::bindInsert(KorQuery& query, KorEntity* entity)
         query.bindValue(i, columnValue(*columns[i], entity));
 }
 
-void KorDataMapper::bindUpdate(KorQuery& query, KorEntity* entity)
-{
-    KorDataMapper::bindInsert(query, entity);
-}
+void KorDataMapper::bindUpdate(KorQuery& query, KorEntity* entity) { KorDataMapper::bindInsert(query, entity); }
 
 void KorDataMapper::explainFailedWrite(KorEntity* entity)
 {
@@ -311,10 +299,7 @@ QString KorDataMapper::selectStatement() const
     return items + " from " + tableName() + clauses;
 }
 
-bool KorDataMapper::createTable(int mode)
-{
-    return createTableBase(mode) && createIndexes();
-}
+bool KorDataMapper::createTable(int mode) { return createTableBase(mode) && createIndexes(); }
 
 bool KorDataMapper::createTableBase(int mode)
 {
@@ -366,8 +351,8 @@ bool KorDataMapper::truncate(bool cascade)
 QString KorDataMapper::foreignKeyStatement(const QString& table, const QString& constraintName, const QString& column,
                                            const QString& referencedTable, const QString& referencedColumn)
 {
-    return "ALTER TABLE " + table + " ADD CONSTRAINT " + constraintName + " FOREIGN KEY (" + column +
-           ") REFERENCES " + referencedTable + " (" + referencedColumn + ");";
+    return "ALTER TABLE " + table + " ADD CONSTRAINT " + constraintName + " FOREIGN KEY (" + column + ") REFERENCES " +
+           referencedTable + " (" + referencedColumn + ");";
 }
 
 bool KorDataMapper::addForeignKey(const QString& table, const QString& constraintName, const QString& column,
@@ -377,15 +362,9 @@ bool KorDataMapper::addForeignKey(const QString& table, const QString& constrain
     return execute(query, foreignKeyStatement(table, constraintName, column, referencedTable, referencedColumn));
 }
 
-QString KorDataMapper::lastQueryWithValues(const QSqlQuery& query)
-{
-    return KorQuery::textWithValues(query);
-}
+QString KorDataMapper::lastQueryWithValues(const QSqlQuery& query) { return KorQuery::textWithValues(query); }
 
-QList<KorMigration*> KorDataMapper::migrations()
-{
-    return {};
-}
+QList<KorMigration*> KorDataMapper::migrations() { return {}; }
 
 bool KorDataMapper::migrate(double fromVersion, double toVersion)
 {

@@ -7,10 +7,7 @@
 
 namespace
 {
-QString defaultName()
-{
-    return QString::fromLatin1(QSqlDatabase::defaultConnection);
-}
+QString defaultName() { return QString::fromLatin1(QSqlDatabase::defaultConnection); }
 
 /** The clone that a worker thread speaks through; it goes with the thread. */
 class WorkerConnection

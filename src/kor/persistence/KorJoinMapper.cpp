@@ -5,14 +5,11 @@
 KorJoinMapper::KorJoinMapper(const QString& propertyName, KorDataMapper* mapper, const QString& joinType,
                              const QString& localColumn, const QString& remoteColumn, const QString& alias,
                              QObject* parent)
-    : QObject(parent), m_mapper(mapper), m_joinType(joinType), m_localColumn(localColumn),
-      m_remoteColumn(remoteColumn), m_propertyName(propertyName), m_alias(alias)
+    : QObject(parent), m_mapper(mapper), m_joinType(joinType), m_localColumn(localColumn), m_remoteColumn(remoteColumn),
+      m_propertyName(propertyName), m_alias(alias)
 {}
 
-QString KorJoinMapper::targetName() const
-{
-    return m_alias.isEmpty() ? m_mapper->tableName() : m_alias;
-}
+QString KorJoinMapper::targetName() const { return m_alias.isEmpty() ? m_mapper->tableName() : m_alias; }
 
 QString KorJoinMapper::clause(const QString& ownTable) const
 {

@@ -22,7 +22,4 @@ bool KorMigration::addForeignKey(const QString& table, const QString& constraint
     return run({KorDataMapper::foreignKeyStatement(table, constraintName, column, referencedTable, referencedColumn)});
 }
 
-QString KorMigration::lastQueryWithValues(const QSqlQuery& query)
-{
-    return KorQuery::textWithValues(query);
-}
+QString KorMigration::lastQueryWithValues(const QSqlQuery& query) { return KorQuery::textWithValues(query); }

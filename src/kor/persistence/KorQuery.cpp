@@ -51,10 +51,7 @@ bool KorQuery::exec(const QString& statement)
     return true;
 }
 
-QString KorQuery::failure() const
-{
-    return m_prepareError.isEmpty() ? lastError().text() : m_prepareError;
-}
+QString KorQuery::failure() const { return m_prepareError.isEmpty() ? lastError().text() : m_prepareError; }
 
 QVariant KorQuery::field(const QString& name)
 {
@@ -62,10 +59,7 @@ QVariant KorQuery::field(const QString& name)
     return index < 0 ? QVariant() : value(index);
 }
 
-bool KorQuery::hasField(const QString& name)
-{
-    return fieldIndex(name) >= 0;
-}
+bool KorQuery::hasField(const QString& name) { return fieldIndex(name) >= 0; }
 
 const KorRowPlan& KorQuery::plan(const KorDataMapper& mapper, const QString& alias)
 {
@@ -134,7 +128,4 @@ QString KorQuery::textWithValues(const QSqlQuery& query)
     return text;
 }
 
-quint64 KorQuery::statementCount()
-{
-    return sentStatements;
-}
+quint64 KorQuery::statementCount() { return sentStatements; }

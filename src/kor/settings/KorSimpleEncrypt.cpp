@@ -21,10 +21,7 @@ QByteArray checksumOf(const QByteArray& bytes)
     return checksum;
 }
 
-QByteArray sha1Of(const QByteArray& bytes)
-{
-    return QCryptographicHash::hash(bytes, QCryptographicHash::Sha1);
-}
+QByteArray sha1Of(const QByteArray& bytes) { return QCryptographicHash::hash(bytes, QCryptographicHash::Sha1); }
 } // namespace
 
 KorSimpleEncrypt::KorSimpleEncrypt(QObject* parent) : KorSimpleEncrypt(programKey, parent) {}
@@ -43,15 +40,9 @@ void KorSimpleEncrypt::setKey(quint64 key)
         m_keyBytes[i] = static_cast<char>(m_key >> (8 * i));
 }
 
-QString KorSimpleEncrypt::encrypt(const QString& plain)
-{
-    return KorSimpleEncrypt().encipher(plain);
-}
+QString KorSimpleEncrypt::encrypt(const QString& plain) { return KorSimpleEncrypt().encipher(plain); }
 
-QString KorSimpleEncrypt::decrypt(const QString& cipher)
-{
-    return KorSimpleEncrypt().decipher(cipher);
-}
+QString KorSimpleEncrypt::decrypt(const QString& cipher) { return KorSimpleEncrypt().decipher(cipher); }
 
 QString KorSimpleEncrypt::encipher(const QString& plain)
 {
@@ -143,7 +134,8 @@ QByteArray KorSimpleEncrypt::decipherBytes(QByteArray bytes)
         return fail(IntegrityFailed, nullptr);
     const QByteArray stored = bytes.left(guard);
     bytes.remove(0, guard);
-    if (((flags & Checksum) && stored != checksumOf(bytes)) || (!(flags & Checksum) && (flags & Hash) && stored != sha1Of(bytes)))
+    if (((flags & Checksum) && stored != checksumOf(bytes)) ||
+        (!(flags & Checksum) && (flags & Hash) && stored != sha1Of(bytes)))
         return fail(IntegrityFailed, nullptr);
 
     if (flags & Compressed) {

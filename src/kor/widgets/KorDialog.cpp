@@ -4,7 +4,6 @@
 
 #include <QIcon>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QMessageBox>
 #include <QTimer>
 
@@ -20,15 +19,9 @@ KorDialog::KorDialog(QWidget* parent) : QDialog(parent)
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
 }
 
-KorDialog::~KorDialog()
-{
-    delete m_entity;
-}
+KorDialog::~KorDialog() { delete m_entity; }
 
-bool KorDialog::beforeAccept()
-{
-    return !m_saver || m_saver();
-}
+bool KorDialog::beforeAccept() { return !m_saver || m_saver(); }
 
 bool KorDialog::execWith(KorEntity* entity)
 {
@@ -55,10 +48,7 @@ void KorDialog::addError(QWidget* widget, const QString& message)
     m_errors[widget].append(message);
 }
 
-void KorDialog::accept()
-{
-    done(Accepted);
-}
+void KorDialog::accept() { done(Accepted); }
 
 void KorDialog::done(int result)
 {
@@ -99,10 +89,7 @@ bool KorDialog::eventFilter(QObject* watched, QEvent* event)
     return QDialog::eventFilter(watched, event);
 }
 
-bool KorDialog::require(QLineEdit* field, const QString& message)
-{
-    return requireText(field, field->text(), message);
-}
+bool KorDialog::require(QLineEdit* field, const QString& message) { return requireText(field, field->text(), message); }
 
 bool KorDialog::requireText(QWidget* field, const QString& text, const QString& message)
 {
@@ -119,6 +106,8 @@ bool KorDialog::requireUnused(QWidget* field, const KorEntity* found, const QStr
     addError(field, message);
     return false;
 }
+
+void KorDialog::showError(const QString& text) { QMessageBox::critical(this, tr("Error"), text); }
 
 void KorDialog::focusLater(QWidget* field)
 {

@@ -1,13 +1,13 @@
 #pragma once
 
 #include <QDialog>
+#include <QLineEdit>
 #include <QMap>
 #include <QPointer>
 
 #include <functional>
 
 class KorEntity;
-class QLineEdit;
 
 /**
  * Base of every entry form. A form reports what is wrong field by field, and all of it is shown in one box; a
@@ -66,6 +66,18 @@ protected:
     bool requireText(QWidget* field, const QString& text, const QString& message);
     /** The found record counts as a clash unless it is the one being edited. */
     bool requireUnused(QWidget* field, const KorEntity* found, const QString& message);
+    /** Required and not taken by another record; a look-up that fails is told in a box of its own. */
+    template <class Service, class Find>
+    bool requireCode(QLineEdit* field, Service* service, Find find, const QString& missing, const QString& taken)
+    {
+        if (!require(field, missing))
+            return false;
+        const KorEntity* found = find(service, field->text());
+        if (service->hasError())
+            showError(service->takeErrors());
+        return requireUnused(field, found, taken);
+    }
+    void showError(const QString& text);
     /** Focus once the window is shown, as a field that is not yet visible cannot take it. */
     void focusLater(QWidget* field);
 

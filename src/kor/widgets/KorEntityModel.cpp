@@ -17,10 +17,7 @@ void KorEntityModel::setEntities(const QList<KorEntity*>& entities)
     endResetModel();
 }
 
-void KorEntityModel::addColumn(int typeId, const QString& header)
-{
-    addColumn(typeId, header, Reader());
-}
+void KorEntityModel::addColumn(int typeId, const QString& header) { addColumn(typeId, header, Reader()); }
 
 void KorEntityModel::addColumn(int typeId, const QString& header, Reader reader, int alignment)
 {
@@ -29,15 +26,14 @@ void KorEntityModel::addColumn(int typeId, const QString& header, Reader reader,
     m_answers.append({std::move(reader), alignment});
 }
 
-int KorEntityModel::rowCount(const QModelIndex& parent) const
+void KorEntityModel::addId(const QString& header)
 {
-    return parent.isValid() ? 0 : m_entities.size();
+    addColumn(QMetaType::Int, header, [](const KorEntity& entity) { return QString::number(entity.getId()); });
 }
 
-int KorEntityModel::columnCount(const QModelIndex& parent) const
-{
-    return parent.isValid() ? 0 : m_headers.size();
-}
+int KorEntityModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : m_entities.size(); }
+
+int KorEntityModel::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : m_headers.size(); }
 
 QVariant KorEntityModel::data(const QModelIndex& index, int role) const
 {

@@ -49,13 +49,21 @@ public:
     [[nodiscard]] KorEntity* entityAt(int row) const { return m_entities.value(row); }
 
 protected:
+    /** The record's id as a number. */
+    void addId(const QString& header);
+    /** A text column read by the record's own getter. */
+    template <class Entity, class Value>
+    void addText(const QString& header, Value (Entity::*getter)() const)
+    {
+        addField<Entity>(QMetaType::QString, header, [getter](const Entity& entity) { return (entity.*getter)(); });
+    }
     /** A column of a family: the reader gets the record in its own type. */
     template <class Entity, class Read>
     void addField(int typeId, const QString& header, Read read, int alignment = 0)
     {
         addColumn(
-            typeId, header, [read](const KorEntity& entity) { return QVariant(read(static_cast<const Entity&>(entity))); },
-            alignment);
+            typeId, header,
+            [read](const KorEntity& entity) { return QVariant(read(static_cast<const Entity&>(entity))); }, alignment);
     }
 
 private:

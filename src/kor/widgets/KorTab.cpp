@@ -56,10 +56,7 @@ void KorTab::doubleClickedSlot(const QModelIndex& index)
     QCoreApplication::postEvent(this, new QKeyEvent(QEvent::KeyPress, Qt::Key_F2, Qt::NoModifier));
 }
 
-KorSortFilterProxyModel* KorTab::createProxyModel()
-{
-    return new KorSortFilterProxyModel(this);
-}
+KorSortFilterProxyModel* KorTab::createProxyModel() { return new KorSortFilterProxyModel(this); }
 
 void KorTab::applyModel(QTableView* view, KorEntityModel* model)
 {

@@ -1,0 +1,101 @@
+#pragma once
+
+#include "kor/log/KorLogger.h"
+
+#include <QMultiMap>
+#include <QObject>
+#include <QPair>
+#include <QPointer>
+
+#include <memory>
+
+class DatabaseManager;
+class EntityUser;
+class KorEntity;
+
+/**
+ * What all layers share and cannot be handed one by one: the logged-in user and the user's rights, the connection
+ * and its values, the formats, the main window, and the parent of all records that mappers make. It only holds.
+ */
+class AppContext : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** Business name to pairs of permission key and grant (0 none, 1 own records, 2 all). */
+    using Rights = QMultiMap<QString, QPair<int, int>>;
+    /** Business name followed by the key, to the permission's caption. */
+    using Captions = QMap<QString, QString>;
+
+    /** Made on first use, a child of the application object. */
+    static AppContext* instance();
+    ~AppContext() override;
+
+    [[nodiscard]] EntityUser* currentUser() const { return m_currentUser; }
+    /** Keeps a copy without the password and starts empty rights; null only forgets the user. */
+    void setCurrentUser(EntityUser* user);
+    /** The id of the logged-in user, KorNoValue before the login. */
+    [[nodiscard]] int currentUserId() const;
+    [[nodiscard]] Rights* userRights() const { return m_userRights.get(); }
+    [[nodiscard]] Captions* accessCaptions() const { return m_accessCaptions.get(); }
+
+    [[nodiscard]] QString dateFormat() const { return m_dateFormat; }
+    void setDateFormat(const QString& dateFormat) { m_dateFormat = dateFormat; }
+    [[nodiscard]] QString locale() const { return m_locale; }
+    void setLocale(const QString& locale) { m_locale = locale; }
+
+    [[nodiscard]] DatabaseManager* databaseManager() const { return m_databaseManager; }
+    /** Null deletes the held manager; another one replaces it and leaves the former to its owner. */
+    void setDatabaseManager(DatabaseManager* manager);
+    [[nodiscard]] KorLogger* logger() const { return m_logger; }
+    void setLogger(KorLogger* logger);
+    static void log(const QString& message);
+
+    /** The parent of records: that of the innermost EntityPoolScope, or else the run's own pool. */
+    [[nodiscard]] QObject* entityPool() const;
+    [[nodiscard]] QObject* mainEntityPool() const { return m_entityPool.get(); }
+    /** Frees every record that a mapper made. Grids that still show some would dangle: close them first. */
+    void resetEntityPool();
+    [[nodiscard]] QList<KorEntity*> liveEntities() const;
+
+    [[nodiscard]] QString dbHost() const { return m_dbHost; }
+    void setDbHost(const QString& dbHost) { m_dbHost = dbHost; }
+    [[nodiscard]] QString dbPort() const { return m_dbPort; }
+    void setDbPort(const QString& dbPort) { m_dbPort = dbPort; }
+    [[nodiscard]] QString dbName() const { return m_dbName; }
+    void setDbName(const QString& dbName) { m_dbName = dbName; }
+    [[nodiscard]] QString dbUser() const { return m_dbUser; }
+    void setDbUser(const QString& dbUser) { m_dbUser = dbUser; }
+    [[nodiscard]] QString dbPassword() const { return m_dbPassword; }
+    void setDbPassword(const QString& dbPassword) { m_dbPassword = dbPassword; }
+
+    [[nodiscard]] bool showDashboard() const { return m_showDashboard; }
+    void setShowDashboard(bool show) { m_showDashboard = show; }
+    [[nodiscard]] bool showSidebar() const { return m_showSidebar; }
+    void setShowSidebar(bool show) { m_showSidebar = show; }
+    [[nodiscard]] QObject* mainWindow() const { return m_mainWindow; }
+    void setMainWindow(QObject* mainWindow) { m_mainWindow = mainWindow; }
+
+private:
+    friend class EntityPoolScope;
+
+    explicit AppContext(QObject* parent);
+
+    EntityUser* m_currentUser = nullptr;
+    std::unique_ptr<Rights> m_userRights;
+    std::unique_ptr<Captions> m_accessCaptions;
+    QString m_dateFormat;
+    DatabaseManager* m_databaseManager = nullptr;
+    QPointer<KorLogger> m_logger;
+    QString m_locale;
+    std::unique_ptr<QObject> m_entityPool;
+    QPointer<QObject> m_scopedPool;
+    QString m_dbHost;
+    QString m_dbPort;
+    QString m_dbName;
+    QString m_dbUser;
+    QString m_dbPassword;
+    bool m_showDashboard = false;
+    bool m_showSidebar = false;
+    QPointer<QObject> m_mainWindow;
+};

@@ -1,0 +1,43 @@
+#include "app/context/DatabaseManager.h"
+
+#include <QSqlError>
+#include <QTimeZone>
+
+DatabaseManager::DatabaseManager(QObject* parent) : QObject(parent) {}
+
+DatabaseManager::~DatabaseManager() = default;
+
+bool DatabaseManager::open(const QString& host, const QString& databaseName, const QString& userName,
+                           const QString& password, int port)
+{
+    const QString name = QString::fromLatin1(QSqlDatabase::defaultConnection);
+    if (QSqlDatabase::contains(name)) {
+        m_database = QSqlDatabase();
+        QSqlDatabase::database(name, false).close();
+        QSqlDatabase::removeDatabase(name);
+    }
+    m_database = QSqlDatabase::addDatabase("QPSQL");
+    m_database.setDatabaseName(databaseName);
+    m_database.setHostName(host);
+    m_database.setUserName(userName);
+    m_database.setPassword(password);
+    m_database.setPort(port);
+    // The session takes the workstation's time zone: a time stamp bound as a date-time would otherwise be stored as
+    // the server's wall clock, and so on another day around midnight. As an option it also holds after a reconnect.
+    m_database.setConnectOptions("connect_timeout=5;options=-c\\ TimeZone=" +
+                                 QString::fromLatin1(QTimeZone::systemTimeZoneId()));
+    return m_database.open();
+}
+
+void DatabaseManager::close()
+{
+    if (!m_database.isOpen() || !m_database.isValid())
+        return;
+    const QString name = m_database.connectionName();
+    m_database.close();
+    // No copy may be alive when the connection is taken out.
+    m_database = QSqlDatabase();
+    QSqlDatabase::removeDatabase(name);
+}
+
+QString DatabaseManager::lastErrorText() const { return m_database.lastError().text(); }

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "kor/persistence/KorMigration.h"
+
+/** Version 1.1 widened the code columns of the master tables; some tables got a constraint with it. */
+class AppCodeMigration11 : public KorStatementMigration11
+{
+    Q_OBJECT
+
+public:
+    explicit AppCodeMigration11(const QStringList& statements)
+        : KorStatementMigration11(statements, tr("update kode column to varchar(20)"), nullptr)
+    {}
+};

@@ -1,0 +1,142 @@
+#include "app/persistence/AppDataMapper.h"
+
+#include "app/context/AppContext.h"
+#include "app/money/Money.h"
+#include "kor/entity/KorEntity.h"
+#include "kor/entity/KorMetaDataMap.h"
+#include "kor/persistence/KorDatabase.h"
+#include "kor/persistence/KorJoinMapper.h"
+
+bool AppDataMapper::insert(KorEntity* entity)
+{
+    entity->setCreatedBy(AppContext::instance()->currentUserId());
+    return KorDataMapper::insert(entity);
+}
+
+bool AppDataMapper::update(KorEntity* entity)
+{
+    entity->setUpdatedBy(AppContext::instance()->currentUserId());
+    return KorDataMapper::update(entity);
+}
+
+bool AppDataMapper::remove(KorEntity* entity) { return KorDataMapper::remove(entity); }
+
+QObject* AppDataMapper::entityParent()
+{
+    return KorDatabase::isApplicationThread() ? AppContext::instance()->entityPool() : nullptr;
+}
+
+void AppDataMapper::log(const QString& message) { AppContext::log(message); }
+
+Money* AppDataMapper::moneyFromRow(KorQuery& query, const QString& currencyColumn, const QString& amountColumn,
+                                   QObject* parent)
+{
+    const QVariant currency = query.field(currencyColumn);
+    const QVariant amount = query.field(amountColumn);
+    if (currency.isNull() || amount.isNull())
+        return nullptr;
+    return new Money(parent, amount.toDouble(), currency.toString());
+}
+
+// --- reading nested values -----------------------------------------------------------------------------------------
+
+KorEntity* AppDataMapper::fillFromRow(KorQuery& query, KorEntity* entity)
+{
+    KorDataMapper::fillFromRow(query, entity);
+    prepareWalk(entity);
+
+    const KorRowPlan& plan = query.plan(*this, tableName());
+    for (const MoneyField& field : qAsConst(m_money)) {
+        const int currencyIndex = plan.columns.value(field.currencyColumn, -1);
+        const int amountIndex = plan.columns.value(field.amountColumn, -1);
+        if (currencyIndex < 0 || amountIndex < 0)
+            continue;
+        const QVariant currency = query.value(currencyIndex);
+        const QVariant amount = query.value(amountIndex);
+        Money* money =
+            currency.isNull() || amount.isNull() ? nullptr : new Money(entity, amount.toDouble(), currency.toString());
+        field.property.write(entity, QVariant::fromValue(money));
+    }
+
+    // A joined mapper reads its own row only: its joins are not part of somebody else's SELECT.
+    if (query.selector() && query.selector() != this)
+        return entity;
+    QVector<QObject*> partners;
+    for (const NestedField& field : qAsConst(m_nested)) {
+        KorEntity* partner = field.mapper->fromRow(query, field.target);
+        partners.append(partner);
+        QObject* owner = field.owner < 0 ? entity : partners.at(field.owner);
+        if (owner)
+            field.property.write(owner, QVariant::fromValue(static_cast<QObject*>(partner)));
+    }
+    return entity;
+}
+
+void AppDataMapper::prepareWalk(const KorEntity* entity)
+{
+    if (m_walkReady)
+        return;
+    m_walkReady = true;
+
+    const auto propertyOf = [](const QMetaObject* meta, const QString& name) {
+        return meta->property(meta->indexOfProperty(name.toUtf8().constData()));
+    };
+    QHash<QString, int> positions;
+    const QList<KorColumnMap*>& columns = metaData()->columns();
+    for (int i = 0; i < columns.size(); ++i)
+        positions.insert(columns[i]->propertyPath(), i);
+    for (int i = 0; i < columns.size(); ++i) {
+        const QString path = columns[i]->propertyPath();
+        if (!path.endsWith(".Amount"))
+            continue;
+        const QString name = path.left(path.size() - 7);
+        const QMetaProperty property = propertyOf(entity->metaObject(), name);
+        if (property.isValid() && positions.contains(name + ".Currency"))
+            m_money.append({property, positions.value(name + ".Currency"), i});
+    }
+
+    // A join whose local column stands on an earlier join ("item.jenis") fills that partner's property.
+    QList<const QMetaObject*> partnerTypes;
+    for (const KorJoinMapper* join : joins()) {
+        int owner = -1;
+        const QString head = join->localColumn().section('.', 0, 0);
+        if (join->localColumn().contains('.') && head != tableName()) {
+            for (int i = 0; i < m_nested.size() && owner < 0; ++i)
+                owner = m_nested.at(i).target == head ? i : -1;
+            if (owner < 0)
+                continue;
+        }
+        const QMetaObject* ownerType = owner < 0 ? entity->metaObject() : partnerTypes.at(owner);
+        const QMetaProperty property = propertyOf(ownerType, join->propertyName());
+        // Labels of joins that only feed the WHERE clause name no record property.
+        if (!property.isValid() || !(QMetaType::typeFlags(property.userType()) & QMetaType::PointerToQObject))
+            continue;
+        m_nested.append({property, join->mapper(), join->targetName(), owner});
+        partnerTypes.append(QMetaType::metaObjectForType(property.userType()));
+    }
+}
+
+// --- declarations --------------------------------------------------------------------------------------------------
+
+void AppDataMapper::column(const QString& name, const QString& sqlType, const QString& property)
+{
+    metaData()->addColumn(name, sqlType, property);
+}
+
+void AppDataMapper::moneyColumns(const QString& name, const QString& property, const QString& nullness)
+{
+    column(name + "_currency", "varchar(4) " + nullness, property + ".Currency");
+    column(name + "_amount", "numeric " + nullness, property + ".Amount");
+}
+
+void AppDataMapper::reference(const QString& name, const QString& sqlType, const QString& property,
+                              KorDataMapper* partner, const QString& joinType)
+{
+    column(name, sqlType, property + ".Id");
+    addJoin(property, partner, joinType, name, "id");
+}
+
+QString AppDataMapper::index(const QString& suffix, const QString& clause) const
+{
+    return "CREATE INDEX IF NOT EXISTS " + tableName() + '_' + suffix + "_idx ON " + tableName() + ' ' + clause;
+}

@@ -1,0 +1,139 @@
+#include "app/persistence/AppDocumentMapper.h"
+
+#include "kor/entity/KorEntity.h"
+#include "kor/persistence/KorDatabase.h"
+
+#include <QSqlError>
+
+namespace
+{
+/** Ids as they were; put back when the rows that gave new ones are gone. */
+class IdKeeper
+{
+public:
+    explicit IdKeeper(const QList<KorEntity*>& entities)
+    {
+        for (KorEntity* entity : entities)
+            m_ids.append({entity, entity->getId()});
+    }
+    void restore() const
+    {
+        for (const auto& id : m_ids)
+            id.first->setId(id.second);
+    }
+
+private:
+    QList<QPair<KorEntity*, int>> m_ids;
+};
+} // namespace
+
+bool AppDocumentMapper::createTable(int mode)
+{
+    if (!AppDataMapper::createTable(mode))
+        return false;
+    if (lineMapper()->createTable(mode))
+        return true;
+    setError(lineMapper()->takeError());
+    return false;
+}
+
+void AppDocumentMapper::noteTransaction(bool open)
+{
+    if (!open)
+        setError(tr("error: transaction failed"));
+}
+
+bool AppDocumentMapper::fail(const QString& message, const QString& collected)
+{
+    setError(message + collected);
+    return false;
+}
+
+bool AppDocumentMapper::insert(KorEntity* document)
+{
+    const QList<KorEntity*> lines = linesOf(document);
+    const IdKeeper ids(QList<KorEntity*>{document} + lines);
+    KorTransaction transaction;
+    noteTransaction(transaction.isOpen());
+
+    if (!beforeInsert(document) || !AppDataMapper::insert(document)) {
+        const QString reason = takeError();
+        transaction.rollback();
+        ids.restore();
+        return fail(messages().insertHeader, reason.isEmpty() ? QString() : " \r\n " + reason);
+    }
+
+    QString collected;
+    for (KorEntity* line : lines) {
+        attachLine(line, document->getId());
+        if (!lineMapper()->insert(line))
+            collected += " \r\n " + lineMapper()->takeError();
+    }
+    if (collected.isEmpty()) {
+        if (transaction.commit())
+            return true;
+        collected = KorDatabase::current().lastError().text();
+    } else {
+        transaction.rollback();
+    }
+    ids.restore();
+    return fail(messages().insertLines, collected);
+}
+
+bool AppDocumentMapper::update(KorEntity* document)
+{
+    const QList<KorEntity*> lines = linesOf(document);
+    const IdKeeper ids(lines);
+    KorTransaction transaction;
+    noteTransaction(transaction.isOpen());
+
+    if (!AppDataMapper::update(document)) {
+        const QString reason = takeError();
+        transaction.rollback();
+        return fail(messages().updateHeader, reason.isEmpty() ? QString() : " \r\n " + reason);
+    }
+
+    QString collected;
+    for (KorEntity* line : lines) {
+        attachLine(line, document->getId());
+        const bool done = line->isSaved() ? lineMapper()->update(line) : lineMapper()->insert(line);
+        if (!done)
+            collected += " \r\n " + lineMapper()->takeError();
+    }
+    for (KorEntity* line : removedLinesOf(document)) {
+        // A line that was never saved has nothing to remove.
+        if (line->isSaved() && !lineMapper()->remove(line))
+            collected += " \r\n " + lineMapper()->takeError();
+    }
+    if (collected.isEmpty()) {
+        if (transaction.commit())
+            return true;
+        collected = KorDatabase::current().lastError().text();
+    } else {
+        transaction.rollback();
+    }
+    ids.restore();
+    return fail(messages().updateLines, collected);
+}
+
+bool AppDocumentMapper::removeWithLines(KorEntity* document, const QList<KorEntity*>& lines)
+{
+    KorTransaction transaction;
+    noteTransaction(transaction.isOpen());
+
+    QString collected;
+    for (KorEntity* line : lines) {
+        if (!lineMapper()->remove(line))
+            collected += " \r\n " + lineMapper()->takeError();
+    }
+    if (!collected.isEmpty()) {
+        transaction.rollback();
+        return fail(messages().removeLines, collected);
+    }
+    if (!AppDataMapper::remove(document)) {
+        const QString reason = takeError();
+        transaction.rollback();
+        return fail(messages().removeHeader, " \r\n " + reason);
+    }
+    return transaction.commit();
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "app/persistence/AppDataMapper.h"
+
+/**
+ * Mapper of a record with lines: both are written in one transaction, and a line that fails takes all of it back.
+ * After a rollback the records in memory have the ids that they had before, so that the form can be saved again.
+ */
+class AppDocumentMapper : public AppDataMapper
+{
+    Q_OBJECT
+
+public:
+    using AppDataMapper::AppDataMapper;
+
+    bool insert(KorEntity* document) override;
+    bool update(KorEntity* document) override;
+    bool createTable(int mode) override;
+
+    [[nodiscard]] virtual KorDataMapper* lineMapper() const = 0;
+
+protected:
+    /** The family's words for what failed. */
+    struct Messages
+    {
+        QString insertHeader;
+        QString insertLines;
+        QString updateHeader;
+        QString updateLines;
+        QString removeHeader;
+        QString removeLines;
+    };
+
+    [[nodiscard]] virtual const Messages& messages() const = 0;
+    [[nodiscard]] virtual QList<KorEntity*> linesOf(KorEntity* document) const = 0;
+    [[nodiscard]] virtual QList<KorEntity*> removedLinesOf(KorEntity*) const { return {}; }
+    virtual void attachLine(KorEntity* line, int documentId) = 0;
+    /** Inside the transaction, before the header: draws numbers and the like; false takes all back. */
+    virtual bool beforeInsert(KorEntity*) { return true; }
+
+    /** Removes the lines, then the document, in one transaction. */
+    bool removeWithLines(KorEntity* document, const QList<KorEntity*>& lines);
+    /** Opens nothing but notes "error: transaction failed" when the transaction did not open; the work goes on. */
+    void noteTransaction(bool open);
+    /** Sets the family's message with the collected texts of the lines behind it, and logs it. */
+    bool fail(const QString& message, const QString& collected = QString());
+};

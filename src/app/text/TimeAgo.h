@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+
+/** The words of the age ladder; the numbers stand in front of the plural ones. */
+struct TimeAgoWords
+{
+    QString oneSecond;
+    QString seconds;
+    QString oneMinute;
+    QString minutes;
+    QString oneHour;
+    QString hours;
+    QString yesterday;
+    QString days;
+    QString oneMonth;
+    QString months;
+    QString oneYear;
+    QString years;
+
+    /** On screen; "second" and "day" have no plural. */
+    [[nodiscard]] static const TimeAgoWords& english();
+    /** On kitchen slips. */
+    [[nodiscard]] static const TimeAgoWords& indonesian();
+};
+
+/**
+ * How long ago the moment was, in words. 45 minutes already count as one hour and 360 days as one year; a moment in
+ * the future is a negative number of seconds.
+ */
+[[nodiscard]] QString timeAgo(const QDateTime& moment, const QDateTime& now, const TimeAgoWords& words);

@@ -1,0 +1,21 @@
+#include "app/widgets/AppEntityModel.h"
+
+#include "app/context/AppContext.h"
+#include "app/text/TimeAgo.h"
+
+AppEntityModel::AppEntityModel(QObject* parent) : AppEntityModel(QList<KorEntity*>(), parent) {}
+
+AppEntityModel::AppEntityModel(const QList<KorEntity*>& entities, QObject* parent)
+    : KorEntityModel(entities, parent), m_locale(AppContext::instance()->locale()),
+      m_dateFormat(AppContext::instance()->dateFormat())
+{}
+
+QString AppEntityModel::moneyText(const Money* money) const
+{
+    return money ? m_locale.toCurrencyString(money->getAmount(), money->getCurrency()) : QString();
+}
+
+QString AppEntityModel::elapsedText(const QDateTime& dateTime)
+{
+    return timeAgo(dateTime, QDateTime::currentDateTime(), TimeAgoWords::english());
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "app/money/Money.h"
+#include "kor/widgets/KorEntityModel.h"
+
+#include <QDateTime>
+#include <QLocale>
+
+/** A grid's rows with money and dates in the configured formats, as they were when the model was made. */
+class AppEntityModel : public KorEntityModel
+{
+    Q_OBJECT
+
+public:
+    explicit AppEntityModel(QObject* parent = nullptr);
+    explicit AppEntityModel(const QList<KorEntity*>& entities, QObject* parent = nullptr);
+
+    /** The type id of money columns. */
+    [[nodiscard]] static int moneyType() { return qMetaTypeId<Money*>(); }
+
+    [[nodiscard]] QString moneyText(const Money* money) const;
+    [[nodiscard]] QString dateTimeText(const QDateTime& dateTime) const { return dateTime.toString(m_dateFormat); }
+    [[nodiscard]] QString dateText(const QDate& date) const { return date.toString(m_dateFormat); }
+    /** The age of the moment in words, for the kitchen. */
+    [[nodiscard]] static QString elapsedText(const QDateTime& dateTime);
+
+protected:
+    /** A right-aligned money column; the reader gives the record's value or null. */
+    template <class Entity, class Read>
+    void addMoney(const QString& header, Read read)
+    {
+        addField<Entity>(
+            moneyType(), header, [this, read](const Entity& entity) { return moneyText(read(entity)); }, RightAligned);
+    }
+
+private:
+    QLocale m_locale;
+    QString m_dateFormat;
+};

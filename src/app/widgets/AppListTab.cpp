@@ -1,0 +1,163 @@
+#include "app/widgets/AppListTab.h"
+
+#include "app/access/AccessCheck.h"
+#include "kor/business/KorBusinessLogic.h"
+#include "kor/business/KorServiceDirectory.h"
+#include "kor/entity/KorEntity.h"
+#include "kor/widgets/KorDialog.h"
+#include "kor/widgets/KorEntityModel.h"
+
+#include "ui_ListPage.h"
+
+#include <QKeyEvent>
+#include <QMessageBox>
+#include <QShortcut>
+
+AppListTab::AppListTab(const Page& page, QWidget* parent)
+    : AppTab(parent), m_ui(std::make_unique<Ui::ListPage>()), m_serviceName(page.serviceName),
+      m_business(KorServiceDirectory::get(page.serviceName))
+{
+    m_ui->setupUi(this);
+    m_ui->tblList->setObjectName(page.gridName);
+    setWindowTitle(page.title);
+    const auto* focusFilter = new QShortcut(QKeySequence("Ctrl+F"), this);
+    connect(focusFilter, &QShortcut::activated, m_ui->txtFilter, [this] { m_ui->txtFilter->setFocus(); });
+}
+
+AppListTab::~AppListTab()
+{
+    if (m_model)
+        m_model->clear();
+}
+
+void AppListTab::refresh()
+{
+    const int currentId = m_model ? selectedEntityIds(grid(), m_model).value(0, KorNoValue) : KorNoValue;
+
+    EntityPool read;
+    QList<KorEntity*> rows;
+    {
+        const EntityPoolScope scope(read);
+        rows = readRows(filterText());
+    }
+    if (m_business->hasError())
+        showServiceError();
+
+    KorEntityModel* former = m_model;
+    m_model = createModel(rows);
+    applyModel(grid(), m_model);
+    modelApplied();
+    if (former) {
+        former->clear();
+        delete former;
+    }
+    m_rows.swap(read);
+
+    selectEntity(grid(), m_model, currentId);
+    grid()->setFocus();
+    m_ui->lblCount->setText(tr("%1 Items").arg(m_model->rowCount()));
+}
+
+void AppListTab::on_btnAdd_clicked()
+{
+    if (!hasAccess(m_serviceName, addKey()))
+        return;
+    const auto dialog = createDialog();
+    if (runDialog(*dialog, true))
+        refresh();
+}
+
+void AppListTab::on_btnEdit_clicked()
+{
+    const QList<int> ids = selectedEntityIds(grid(), m_model);
+    for (int id : ids) {
+        KorEntity* entity = readEntity(id);
+        if (!entity) {
+            QMessageBox::information(this, tr("Error"), notFoundText(id));
+            continue;
+        }
+        if (!hasAccess(m_serviceName, editKey(), entity)) {
+            entity->deleteLater();
+            continue;
+        }
+        const auto dialog = createDialog();
+        dialog->setEntity(entity);
+        if (!runDialog(*dialog, false))
+            return;
+        refresh();
+    }
+}
+
+void AppListTab::on_btnDelete_clicked()
+{
+    const QList<int> ids = selectedEntityIds(grid(), m_model);
+    for (int id : ids) {
+        KorEntity* entity = readEntity(id);
+        if (!entity) {
+            QMessageBox::information(this, tr("Error"), tr("Can not find entity with id: %1").arg(id));
+            continue;
+        }
+        if (hasAccess(m_serviceName, deleteKey(), entity) &&
+            QMessageBox::question(this, tr("Delete"), deleteQuestion(entity), QMessageBox::Yes | QMessageBox::No) ==
+                QMessageBox::Yes &&
+            mayDelete(entity) && !removeEntity(entity))
+            showServiceError();
+        entity->deleteLater();
+    }
+    refresh();
+}
+
+bool AppListTab::runDialog(KorDialog& dialog, bool isNew)
+{
+    // Saved before it closes: a refused save leaves the form as it was typed.
+    dialog.setSaver([this, &dialog, isNew] {
+        const bool saved = isNew ? insertEntity(dialog.getEntity()) : updateEntity(dialog.getEntity());
+        if (!saved)
+            showServiceError(!isNew);
+        return saved;
+    });
+    return dialog.exec() == QDialog::Accepted && !dialog.hasError();
+}
+
+void AppListTab::showServiceError(bool critical)
+{
+    const QString text = m_business->takeErrors();
+    if (critical)
+        QMessageBox::critical(this, tr("Error"), text);
+    else
+        QMessageBox::information(this, tr("Error"), text);
+}
+
+void AppListTab::on_btnRefresh_clicked() { refresh(); }
+
+void AppListTab::on_btnClose_clicked() { close(); }
+
+void AppListTab::on_btnSearch_clicked() { refresh(); }
+
+QString AppListTab::notFoundText(int id) const { return tr("Can not find entity with id: %1").arg(id); }
+
+KorEntity* AppListTab::readEntity(int id) { return m_business->find(id); }
+
+bool AppListTab::insertEntity(KorEntity* entity) { return m_business->insert(entity); }
+
+bool AppListTab::updateEntity(KorEntity* entity) { return m_business->update(entity); }
+
+bool AppListTab::removeEntity(KorEntity* entity) { return m_business->remove(entity); }
+
+QTableView* AppListTab::grid() const { return m_ui->tblList; }
+
+QHBoxLayout* AppListTab::filterLayout() const { return m_ui->filterLayout; }
+
+QPushButton* AppListTab::button(const char* name) const { return findChild<QPushButton*>(QLatin1String(name)); }
+
+QString AppListTab::filterText() const { return m_ui->txtFilter->text().toLower(); }
+
+void AppListTab::keyPressEvent(QKeyEvent* event)
+{
+    // What a double click posts; a real F2 has gone to the button's shortcut already.
+    if (event->key() == Qt::Key_F2 && m_ui->btnEdit->isEnabled()) {
+        on_btnEdit_clicked();
+        return;
+    }
+    AppTab::keyPressEvent(event);
+}

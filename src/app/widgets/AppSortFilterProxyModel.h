@@ -1,0 +1,25 @@
+#pragma once
+
+#include "kor/widgets/KorSortFilterProxyModel.h"
+
+#include <QHash>
+#include <QLocale>
+
+/** Sorts money by amount and dates by the configured format, both read back from the texts that the grid shows. */
+class AppSortFilterProxyModel final : public KorSortFilterProxyModel
+{
+    Q_OBJECT
+
+public:
+    explicit AppSortFilterProxyModel(QObject* parent = nullptr);
+
+    /** "currency number" in plain digits from a money cell as the locale writes it; empty where it is no money. */
+    [[nodiscard]] static QString plainMoney(const QString& cell, const QLocale& locale);
+
+protected:
+    [[nodiscard]] bool lessThan(const QModelIndex& left, const QModelIndex& right) const override;
+
+private:
+    QLocale m_locale;
+    QString m_dateFormat;
+};

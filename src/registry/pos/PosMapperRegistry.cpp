@@ -1,0 +1,14 @@
+#include "registry/pos/PosMapperRegistry.h"
+
+#include "app/context/AppContext.h"
+#include "registry/app/AppMapperRegistry.h"
+
+PosMapperRegistry* PosMapperRegistry::instance()
+{
+    static QPointer<PosMapperRegistry> registry;
+    if (!registry)
+        registry = new PosMapperRegistry(AppContext::instance());
+    return registry;
+}
+
+PosMapperRegistry::PosMapperRegistry(QObject* parent) : KorMapperRegistry(parent) { AppMapperRegistry::instance(); }

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "kor/business/KorMapperRegistry.h"
+
+/** The mappers of any shop, in the order in which their tables are created. */
+class PosMapperRegistry final : public KorMapperRegistry
+{
+    Q_OBJECT
+
+public:
+    static PosMapperRegistry* instance();
+
+private:
+    explicit PosMapperRegistry(QObject* parent);
+};

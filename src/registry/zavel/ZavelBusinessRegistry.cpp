@@ -1,0 +1,24 @@
+#include "registry/zavel/ZavelBusinessRegistry.h"
+
+#include "app/context/AppContext.h"
+#include "masterdata/meja/BusinessMeja.h"
+#include "registry/app/AppBusinessRegistry.h"
+#include "registry/pos/PosBusinessRegistry.h"
+#include "registry/zavel/ZavelMapperRegistry.h"
+
+ZavelBusinessRegistry* ZavelBusinessRegistry::instance()
+{
+    static QPointer<ZavelBusinessRegistry> registry;
+    if (!registry)
+        registry = new ZavelBusinessRegistry(AppContext::instance());
+    return registry;
+}
+
+ZavelBusinessRegistry::ZavelBusinessRegistry(QObject* parent)
+    : KorBusinessRegistry(AppContext::instance()->logger(), parent)
+{
+    const ZavelMapperRegistry* mappers = ZavelMapperRegistry::instance();
+    AppBusinessRegistry::instance();
+    PosBusinessRegistry::instance();
+    make<BusinessMeja>(mappers->mejaMapper());
+}
