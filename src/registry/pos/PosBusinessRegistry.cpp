@@ -1,6 +1,7 @@
 #include "registry/pos/PosBusinessRegistry.h"
 
 #include "app/context/AppContext.h"
+#include "printing/printer/BusinessPrinterType.h"
 #include "registry/app/AppBusinessRegistry.h"
 #include "registry/pos/PosMapperRegistry.h"
 
@@ -15,6 +16,7 @@ PosBusinessRegistry* PosBusinessRegistry::instance()
 PosBusinessRegistry::PosBusinessRegistry(QObject* parent)
     : KorBusinessRegistry(AppContext::instance()->logger(), parent)
 {
-    PosMapperRegistry::instance();
+    const PosMapperRegistry* mappers = PosMapperRegistry::instance();
     AppBusinessRegistry::instance();
+    make<BusinessPrinterType>(mappers->printerTypeMapper());
 }

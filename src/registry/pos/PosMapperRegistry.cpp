@@ -1,6 +1,7 @@
 #include "registry/pos/PosMapperRegistry.h"
 
 #include "app/context/AppContext.h"
+#include "printing/printer/DataMapperPrinterType.h"
 #include "registry/app/AppMapperRegistry.h"
 
 PosMapperRegistry* PosMapperRegistry::instance()
@@ -11,4 +12,13 @@ PosMapperRegistry* PosMapperRegistry::instance()
     return registry;
 }
 
-PosMapperRegistry::PosMapperRegistry(QObject* parent) : KorMapperRegistry(parent) { AppMapperRegistry::instance(); }
+PosMapperRegistry::PosMapperRegistry(QObject* parent) : KorMapperRegistry(parent)
+{
+    AppMapperRegistry::instance();
+    make<DataMapperPrinterType>();
+}
+
+DataMapperPrinterType* PosMapperRegistry::printerTypeMapper() const
+{
+    return typed<DataMapperPrinterType>("Printer Type");
+}

@@ -2,6 +2,8 @@
 
 #include "kor/business/KorMapperRegistry.h"
 
+class DataMapperPrinterType;
+
 /** The mappers of any shop, in the order in which their tables are created. */
 class PosMapperRegistry final : public KorMapperRegistry
 {
@@ -9,6 +11,8 @@ class PosMapperRegistry final : public KorMapperRegistry
 
 public:
     static PosMapperRegistry* instance();
+
+    [[nodiscard]] DataMapperPrinterType* printerTypeMapper() const;
 
 private:
     explicit PosMapperRegistry(QObject* parent);
