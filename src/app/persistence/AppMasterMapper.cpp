@@ -9,7 +9,7 @@ KorEntity* AppMasterMapper::findByCode(const QString& code)
 
 QList<KorEntity*> AppMasterMapper::findAll(const QString& filter)
 {
-    const QString value = '%' + filter + '%';
+    const QString value = '%' + filter.toLower() + '%';
     KorPaging paging;
     paging.addFilter("lower(" + codeColumn() + ") like ", value);
     paging.addFilter(" OR lower(" + nameColumn() + ") like ", value);
@@ -21,4 +21,9 @@ QList<KorEntity*> AppMasterMapper::findAll(const QString& filter)
 QString AppMasterMapper::widenCodeStatement() const
 {
     return "ALTER TABLE " + tableName() + " ALTER COLUMN kode TYPE varchar(20)\r\n";
+}
+
+QString AppMasterMapper::uniqueCodeStatement() const
+{
+    return "ALTER TABLE " + tableName() + " ADD UNIQUE (kode);\r\n";
 }

@@ -16,7 +16,7 @@ public:
     using AppDataMapper::AppDataMapper;
 
     [[nodiscard]] virtual KorEntity* findByCode(const QString& code);
-    /** All records whose code or name holds the text, which arrives in lower case; all for an empty text. */
+    /** All records whose code or name holds the text, whatever the letters' case; all for an empty text. */
     [[nodiscard]] virtual QList<KorEntity*> findAll(const QString& filter);
 
 protected:
@@ -28,4 +28,6 @@ protected:
 
     /** The statement that widened the code column, as every family's first migration has it. */
     [[nodiscard]] QString widenCodeStatement() const;
+    /** For the tables whose codes the first version did not keep apart. */
+    [[nodiscard]] QString uniqueCodeStatement() const;
 };

@@ -12,6 +12,11 @@ public:
         : KorBusinessLogic(name, mapper, parent), m_master(mapper)
     {}
 
+    Entity* find(int id) override { return static_cast<Entity*>(KorBusinessLogic::find(id)); }
+    Entity* find(const QString& column, const QString& value) override
+    {
+        return static_cast<Entity*>(KorBusinessLogic::find(column, value));
+    }
     [[nodiscard]] Entity* findByCode(const QString& code)
     {
         return static_cast<Entity*>(read(m_master->findByCode(code), m_master, "findByCode"));

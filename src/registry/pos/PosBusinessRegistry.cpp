@@ -1,6 +1,13 @@
 #include "registry/pos/PosBusinessRegistry.h"
 
 #include "app/context/AppContext.h"
+#include "masterdata/agent/BusinessAgent.h"
+#include "masterdata/bank/BusinessBank.h"
+#include "masterdata/employee/BusinessEmployee.h"
+#include "masterdata/jenisitem/BusinessJenisItem.h"
+#include "masterdata/member/BusinessMember.h"
+#include "masterdata/satuan/BusinessSatuan.h"
+#include "masterdata/supplier/BusinessSupplier.h"
 #include "printing/printer/BusinessPrinterType.h"
 #include "registry/app/AppBusinessRegistry.h"
 #include "registry/pos/PosMapperRegistry.h"
@@ -18,5 +25,28 @@ PosBusinessRegistry::PosBusinessRegistry(QObject* parent)
 {
     const PosMapperRegistry* mappers = PosMapperRegistry::instance();
     AppBusinessRegistry::instance();
+    make<BusinessBank>(mappers->bankMapper());
+    make<BusinessAgent>(mappers->agentMapper());
+    make<BusinessSupplier>(mappers->supplierMapper());
     make<BusinessPrinterType>(mappers->printerTypeMapper());
+    make<BusinessJenisItem>(mappers->jenisItemMapper());
+    make<BusinessMember>(mappers->memberMapper());
+    make<BusinessSatuan>(mappers->satuanMapper());
+    make<BusinessEmployee>(mappers->employeeMapper());
 }
+
+BusinessBank* PosBusinessRegistry::bank() const { return typed<BusinessBank>("Bank"); }
+
+BusinessAgent* PosBusinessRegistry::agent() const { return typed<BusinessAgent>("Agent"); }
+
+BusinessSupplier* PosBusinessRegistry::supplier() const { return typed<BusinessSupplier>("Supplier"); }
+
+BusinessPrinterType* PosBusinessRegistry::printerType() const { return typed<BusinessPrinterType>("Printer Type"); }
+
+BusinessJenisItem* PosBusinessRegistry::jenisItem() const { return typed<BusinessJenisItem>("Item Type"); }
+
+BusinessMember* PosBusinessRegistry::member() const { return typed<BusinessMember>("Member"); }
+
+BusinessSatuan* PosBusinessRegistry::satuan() const { return typed<BusinessSatuan>("Unit"); }
+
+BusinessEmployee* PosBusinessRegistry::employee() const { return typed<BusinessEmployee>("Employee"); }
