@@ -24,3 +24,14 @@ function(add_family layer)
     endif()
   endforeach()
 endfunction()
+
+# watch_classes(): moc and uic run anew when a file listed beside the layers changes, but the classes are listed in the
+# folders below: without this a new class would stay without its meta-object until some older header is touched.
+function(watch_classes)
+  foreach(layer kor app pos zavel)
+    get_target_property(sources ${layer} SOURCES)
+    list(APPEND all_sources ${sources})
+  endforeach()
+  file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/all_sources.cmake CONTENT "# ${all_sources}\n")
+  include(${CMAKE_BINARY_DIR}/all_sources.cmake)
+endfunction()
