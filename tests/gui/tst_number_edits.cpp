@@ -1,6 +1,10 @@
+#include "app/context/AppContext.h"
+#include "app/money/Money.h"
+#include "app/widgets/MoneyEdit.h"
 #include "kor/widgets/KorNumberEdit.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QPushButton>
@@ -55,6 +59,14 @@ private slots:
     void aFieldReachedByTabIsOverwrittenByTheNextKey();
     void theContextMenuDoesNotEndTheEntry();
     void theFieldBeingTypedInIsMarked();
+
+    void theConfigurationTellsHowNumbersAreWritten_data();
+    void theConfigurationTellsHowNumbersAreWritten();
+    void anAmountShowsTwoDecimalsAndItsTypedTextWhenEntered();
+    void anAmountInAPaymentFollowsEveryKey();
+    void theAmountOfARecordStaysTheRecords();
+    void anAmountHandedOutOutlivesTheNextKey();
+    void escapeCommitsTheAmountAndClosesTheForm();
 };
 
 void tst_NumberEdits::aTypedNumberIsReadInTheLocaleAndShownWithItsSeparators_data()
@@ -199,6 +211,154 @@ void tst_NumberEdits::theFieldBeingTypedInIsMarked()
     QCOMPARE(form.edit.styleSheet(), QString("border: 1px solid #005782;"));
     form.leave();
     QCOMPARE(form.edit.styleSheet(), QString());
+}
+
+void tst_NumberEdits::theConfigurationTellsHowNumbersAreWritten_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<double>("value");
+    QTest::addColumn<QString>("asNumber");
+    QTest::addColumn<QString>("asMoney");
+    QTest::addColumn<QString>("currency");
+    QTest::newRow("Indonesian") << "id_ID"
+                                << "1.234,5" << 1234.5 << "1.234,5"
+                                << "1.234,50"
+                                << "Rp";
+    QTest::newRow("American") << "en_US"
+                              << "1,234.5" << 1234.5 << "1,234.5"
+                              << "1,234.50"
+                              << "$";
+    QTest::newRow("the other's group is a decimal point") << "en_US"
+                                                          << "1.234" << 1.234 << "1.234"
+                                                          << "1.23"
+                                                          << "$";
+    QTest::newRow("a million") << "id_ID"
+                               << "1500000" << 1500000.0 << "1.500.000"
+                               << "1.500.000,00"
+                               << "Rp";
+    QTest::newRow("negative") << "id_ID"
+                              << "-15" << -15.0 << "-15"
+                              << "-15,00"
+                              << "Rp";
+    QTest::newRow("nothing configured yet") << ""
+                                            << "1234.5" << 1234.5 << "1234.5"
+                                            << "1234.50"
+                                            << "";
+}
+
+void tst_NumberEdits::theConfigurationTellsHowNumbersAreWritten()
+{
+    QFETCH(QString, locale);
+    QFETCH(QString, typed);
+    QFETCH(double, value);
+    AppContext::instance()->setLocale(locale);
+
+    Form<AppNumberEdit> quantity;
+    quantity.enterAndType(typed);
+    QCOMPARE(quantity.edit.value(), value);
+    quantity.leave();
+    QTEST(quantity.edit.text(), "asNumber");
+
+    Form<MoneyEdit> price;
+    QTEST(price.edit.currency(), "currency");
+    price.enterAndType(typed);
+    QCOMPARE(price.edit.value(), value);
+    price.leave();
+    QTEST(price.edit.text(), "asMoney");
+    QTEST(price.edit.money()->getCurrency(), "currency");
+
+    // A number from the program reads the same after a walk through the field.
+    price.edit.setValue(value);
+    price.enter();
+    QTEST(price.edit.text(), "asNumber");
+    price.leave();
+    QTEST(price.edit.text(), "asMoney");
+}
+
+void tst_NumberEdits::anAmountShowsTwoDecimalsAndItsTypedTextWhenEntered()
+{
+    AppContext::instance()->setLocale("id_ID");
+    Form<MoneyEdit> form;
+    form.enterAndType("1234,5");
+    form.leave();
+    QCOMPARE(form.edit.text(), QString("1.234,50"));
+    form.enter();
+    QCOMPARE(form.edit.text(), QString("1234,5"));
+    QTest::keyClick(&form.edit, Qt::Key_Enter);
+    QCOMPARE(form.edit.text(), QString("1.234,50"));
+    form.edit.setCurrencyFixed(true);
+    form.leave();
+    QCOMPARE(form.edit.text(), QString("1.234,50"));
+}
+
+void tst_NumberEdits::anAmountInAPaymentFollowsEveryKey()
+{
+    AppContext::instance()->setLocale("id_ID");
+    Form<MoneyEdit> form;
+    form.edit.setValue(200);
+    QList<double> paid;
+    connect(&form.edit, &QLineEdit::textChanged, &form.edit, [&] { paid.append(form.edit.money()->getAmount()); });
+    form.enterAndType("1500");
+    QCOMPARE(form.edit.text(), QString("1500"));
+    QCOMPARE(paid.mid(paid.size() - 4), QList<double>({1.0, 15.0, 150.0, 1500.0}));
+    form.leave();
+    QCOMPARE(form.edit.text(), QString("1.500,00"));
+    QCOMPARE(form.edit.money()->rawAmount(), 1500);
+    form.enter();
+    QCOMPARE(form.edit.text(), QString("1500"));
+}
+
+void tst_NumberEdits::theAmountOfARecordStaysTheRecords()
+{
+    AppContext::instance()->setLocale("id_ID");
+    QObject record;
+    QPointer<Money> price = new Money(&record, 2500.0, "Rp");
+    {
+        Form<MoneyEdit> form;
+        form.edit.setMoney(price);
+        QCOMPARE(form.edit.text(), QString("2.500,00"));
+        form.enterAndType("3000");
+        QVERIFY(form.edit.money() != price);
+        QCOMPARE(form.edit.money()->rawAmount(), 3000);
+        form.edit.setMoney(form.edit.money());
+        QCOMPARE(form.edit.money()->rawAmount(), 3000);
+        form.edit.setMoney(nullptr);
+        QCOMPARE(form.edit.text(), QString("0,00"));
+    }
+    QVERIFY(price);
+    QCOMPARE(price->rawAmount(), 2500);
+}
+
+void tst_NumberEdits::anAmountHandedOutOutlivesTheNextKey()
+{
+    AppContext::instance()->setLocale("id_ID");
+    Form<MoneyEdit> form;
+    form.edit.setValue(1000);
+    const QPointer<Money> before = form.edit.money();
+    form.edit.setValue(2000);
+    Money* total = before->add(form.edit.money());
+    QVERIFY(form.edit.isValid());
+    QVERIFY(before);
+    QCOMPARE(total->rawAmount(), 3000);
+    // Nothing piles up in a form that stays open.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCOMPARE(form.edit.findChildren<Money*>().size(), 1);
+}
+
+void tst_NumberEdits::escapeCommitsTheAmountAndClosesTheForm()
+{
+    AppContext::instance()->setLocale("id_ID");
+    QDialog dialog;
+    auto* edit = new MoneyEdit(&dialog);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    edit->setFocus();
+    QTest::keyClicks(edit, "1500");
+    QTest::keyClick(edit, Qt::Key_Escape);
+    QVERIFY(!dialog.isVisible());
+    QCOMPARE(edit->text(), QString("1.500,00"));
+    QCOMPARE(edit->money()->rawAmount(), 1500);
 }
 
 QTEST_MAIN(tst_NumberEdits)

@@ -6,11 +6,6 @@
 
 #include <cmath>
 
-namespace
-{
-constexpr int significantDigits = 10;
-}
-
 KorNumberEdit::KorNumberEdit(QWidget* parent) : QLineEdit(parent) { setAlignment(Qt::AlignRight); }
 
 QString KorNumberEdit::displayText() const { return locale().toString(m_value, 'g', significantDigits); }

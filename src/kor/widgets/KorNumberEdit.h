@@ -40,6 +40,10 @@ protected:
     [[nodiscard]] virtual bool finishesEntry(int key) const;
     /** The number as last stored, without a look at the field. */
     [[nodiscard]] double storedValue() const { return m_value; }
+    /** Whether the field held a number when it was last read. */
+    [[nodiscard]] bool holdsNumber() const { return m_valid; }
+
+    static constexpr int significantDigits = 10;
 
 private:
     void finishEntry();

@@ -1,0 +1,91 @@
+#include "app/widgets/AppLookupBox.h"
+
+#include "kor/business/KorBusinessLogic.h"
+
+#include <QDebug>
+#include <QMetaProperty>
+
+AppLookupBox::AppLookupBox(QLineEdit* editor, KorBusinessLogic* business, const QStringList& headers)
+    : KorTextBoxExtender(editor, business)
+{
+    setColumnCount(headers.size());
+    setHeaderLabels(headers);
+}
+
+void AppLookupBox::search(const QString& text)
+{
+    qDebug() << "search:" << text;
+    m_items.clear();
+    m_found.clear();
+    if (business()) {
+        const EntityPoolScope scope(m_found);
+        business()->clearErrors();
+        m_items = find(text);
+        // The list says "No result"; the text of the failure must not surface in some other form later.
+        if (business()->hasError())
+            m_items.clear();
+        business()->clearErrors();
+    }
+    setRowCount(0);
+    qDebug() << "result";
+    setRowCount(m_items.size());
+    searchComplete();
+}
+
+QVariant AppLookupBox::rowText(int row, int column) const
+{
+    const KorEntity* record = m_items.value(row);
+    if (!record)
+        return QString();
+    switch (column) {
+    case 0:
+        return codeOf(*record);
+    case 1:
+        return nameOf(*record);
+    case 2:
+        return thirdOf(*record);
+    default:
+        return QString();
+    }
+}
+
+QString AppLookupBox::selectedText(int row) const { return rowText(row, 0).toString(); }
+
+QString AppLookupBox::selectedCode() const
+{
+    const KorEntity* record = selectedRecord();
+    return record ? codeOf(*record) : QString();
+}
+
+QString AppLookupBox::codeOf(const KorEntity& record) const { return record.property("Kode").toString(); }
+
+QString AppLookupBox::nameOf(const KorEntity& record) const { return record.property("Nama").toString(); }
+
+QString AppLookupBox::thirdOf(const KorEntity& record) const
+{
+    Q_UNUSED(record)
+    return QString();
+}
+
+void AppLookupBox::rowChosen(int row)
+{
+    m_selected = m_items.value(row);
+    if (!m_selected)
+        return;
+    if (!m_kept.parent())
+        m_kept.clear();
+    keep(m_selected);
+}
+
+void AppLookupBox::keep(QObject* record)
+{
+    // Partners that the record points at were read with it, and stay with it.
+    if (!record || record->parent() != m_found.parent())
+        return;
+    record->setParent(m_kept.parent());
+    const QMetaObject* type = record->metaObject();
+    for (int i = 0; i < type->propertyCount(); ++i) {
+        if (QMetaType::typeFlags(type->property(i).userType()) & QMetaType::PointerToQObject)
+            keep(type->property(i).read(record).value<QObject*>());
+    }
+}

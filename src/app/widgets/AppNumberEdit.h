@@ -1,0 +1,20 @@
+#pragma once
+
+#include "kor/widgets/KorNumberEdit.h"
+
+/** The number edit of the program's forms: it writes and reads numbers as the configuration says. */
+class AppNumberEdit : public KorNumberEdit
+{
+    Q_OBJECT
+
+public:
+    explicit AppNumberEdit(QWidget* parent = nullptr);
+
+    [[nodiscard]] QLocale locale() const override { return m_locale; }
+
+protected:
+    [[nodiscard]] QString editableText() const override;
+
+private:
+    QLocale m_locale;
+};

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "app/widgets/AppNumberEdit.h"
+
+class Money;
+
+/** A line edit for an amount of money in the currency of the configured locale, shown with two decimals. */
+class MoneyEdit : public AppNumberEdit
+{
+    Q_OBJECT
+
+public:
+    explicit MoneyEdit(QWidget* parent = nullptr);
+
+    [[nodiscard]] QString displayText() const override;
+    void validate() override;
+    /** The amount as the field has it; the edit owns it, and replaces it when another amount is entered. */
+    [[nodiscard]] virtual Money* money();
+
+    /** Takes a copy: the value that is shown usually belongs to a record. Null is an amount of zero. */
+    void setMoney(const Money* money);
+    [[nodiscard]] const QString& currency() const { return m_currency; }
+    /** Kept for the forms that set it; the field looks the same either way. */
+    void setCurrencyFixed(bool fixed) { m_currencyFixed = fixed; }
+    [[nodiscard]] bool isCurrencyFixed() const { return m_currencyFixed; }
+
+protected:
+    [[nodiscard]] bool finishesEntry(int key) const override;
+
+private:
+    void replaceMoney(Money* money);
+
+    QString m_currency;
+    Money* m_money;
+    bool m_currencyFixed = false;
+};

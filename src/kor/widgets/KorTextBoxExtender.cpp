@@ -1,0 +1,196 @@
+#include "kor/widgets/KorTextBoxExtender.h"
+
+#include <QAbstractItemModel>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QScreen>
+#include <QTimer>
+#include <QTreeWidget>
+
+namespace
+{
+constexpr int searchDelay = 500;
+constexpr int visibleRows = 10;
+constexpr int extraHeight = 20;
+constexpr int extraWidth = 10;
+} // namespace
+
+KorTextBoxExtender::KorTextBoxExtender(QLineEdit* editor, KorBusinessLogic* business)
+    : QWidget(editor), m_business(business), m_editor(editor), m_popup(std::make_unique<QTreeWidget>()),
+      m_timer(new QTimer(this))
+{
+    // It is a child of the field, but must not lie over its text.
+    hide();
+
+    m_popup->setWindowFlags(Qt::Popup);
+    m_popup->setFocusPolicy(Qt::NoFocus);
+    m_popup->setFocusProxy(editor);
+    m_popup->setMouseTracking(true);
+    m_popup->setColumnCount(2);
+    m_popup->setUniformRowHeights(true);
+    m_popup->setRootIsDecorated(false);
+    m_popup->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_popup->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_popup->setFrameStyle(QFrame::Box | QFrame::Plain);
+    m_popup->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_popup->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
+    m_popup->header()->hide();
+    m_popup->installEventFilter(this);
+    connect(m_popup.get(), &QTreeWidget::itemClicked, this, &KorTextBoxExtender::doneCompletion);
+
+    m_timer->setSingleShot(true);
+    m_timer->setInterval(searchDelay);
+    connect(m_timer, &QTimer::timeout, this, &KorTextBoxExtender::autoSuggest);
+    connect(editor, &QLineEdit::textEdited, m_timer, qOverload<>(&QTimer::start));
+    connect(this, &KorTextBoxExtender::onSearchComplete, this, &KorTextBoxExtender::searchComplete);
+}
+
+KorTextBoxExtender::~KorTextBoxExtender() = default;
+
+void KorTextBoxExtender::search(const QString& text)
+{
+    Q_UNUSED(text)
+    emit onSearchComplete();
+}
+
+QVariant KorTextBoxExtender::rowText(int row, int column) const
+{
+    Q_UNUSED(row)
+    Q_UNUSED(column)
+    return QString();
+}
+
+QString KorTextBoxExtender::selectedText(int row) const
+{
+    return m_result ? m_result->data(m_result->index(row, 0)).toString() : QString();
+}
+
+void KorTextBoxExtender::rowChosen(int row) { Q_UNUSED(row) }
+
+void KorTextBoxExtender::setColumnCount(int count)
+{
+    m_columnCount = count;
+    m_popup->setColumnCount(count);
+}
+
+void KorTextBoxExtender::setHeaderLabels(const QStringList& labels)
+{
+    m_popup->header()->show();
+    m_popup->setHeaderLabels(labels);
+}
+
+void KorTextBoxExtender::setResult(QAbstractItemModel* result) { m_result = result; }
+
+void KorTextBoxExtender::preventSuggest() { m_timer->stop(); }
+
+void KorTextBoxExtender::autoSuggest() { search(m_editor->text()); }
+
+void KorTextBoxExtender::searchComplete()
+{
+    m_popup->setPalette(m_editor->palette());
+    m_popup->setUpdatesEnabled(false);
+    fillPopup();
+    m_popup->adjustSize();
+    m_popup->setUpdatesEnabled(true);
+    placePopup();
+    m_popup->setFocus();
+    m_popup->show();
+}
+
+void KorTextBoxExtender::fillPopup()
+{
+    m_popup->clear();
+    if (m_rowCount <= 0) {
+        auto* item = new QTreeWidgetItem(m_popup.get());
+        item->setText(0, tr("No result"));
+        item->setFlags(item->flags() & ~Qt::ItemIsEnabled);
+        m_popup->resizeColumnToContents(0);
+        m_rowCount = 1;
+        return;
+    }
+    QList<QTreeWidgetItem*> items;
+    items.reserve(m_rowCount);
+    for (int row = 0; row < m_rowCount; ++row) {
+        auto* item = new QTreeWidgetItem;
+        for (int column = 0; column < m_columnCount; ++column)
+            item->setText(column, rowText(row, column).toString());
+        items.append(item);
+    }
+    m_popup->addTopLevelItems(items);
+    m_popup->setCurrentItem(items.first());
+    for (int column = 0; column < m_columnCount; ++column)
+        m_popup->resizeColumnToContents(column);
+}
+
+void KorTextBoxExtender::placePopup()
+{
+    const int rowHeight = m_popup->visualItemRect(m_popup->topLevelItem(0)).height();
+    m_popup->resize(m_popup->width() + extraWidth, visibleRows * rowHeight + extraHeight);
+
+    QPoint corner = m_editor->mapToGlobal(QPoint(0, m_editor->height()));
+    const QRect screen = m_editor->screen()->availableGeometry();
+    // Above the field where the screen ends too early below it.
+    const int above = corner.y() - m_editor->height() - m_popup->height();
+    if (corner.y() + m_popup->height() > screen.bottom() && above >= screen.top())
+        corner.setY(above);
+    m_popup->move(corner);
+}
+
+void KorTextBoxExtender::doneCompletion()
+{
+    m_timer->stop();
+    m_popup->hide();
+    m_editor->setFocus();
+    m_currentRow = -1;
+    m_currentRow = m_popup->currentIndex().row();
+    rowChosen(m_currentRow);
+    m_editor->setText(selectedText(m_currentRow));
+    // What the form does on Return may close it, and this box with it.
+    const QPointer<KorTextBoxExtender> alive(this);
+    QMetaObject::invokeMethod(m_editor, "returnPressed");
+    if (!alive)
+        return;
+    if (m_nextWidget)
+        m_nextWidget->setFocus();
+    emit onItemSelected();
+}
+
+bool KorTextBoxExtender::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched != m_popup.get())
+        return QWidget::eventFilter(watched, event);
+    if (event->type() == QEvent::MouseButtonPress) {
+        m_popup->hide();
+        m_editor->setFocus();
+        return true;
+    }
+    return event->type() == QEvent::KeyPress && popupKey(static_cast<QKeyEvent*>(event));
+}
+
+bool KorTextBoxExtender::popupKey(QKeyEvent* event)
+{
+    switch (event->key()) {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_Home:
+    case Qt::Key_End:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+        return false;
+    case Qt::Key_Escape:
+        m_editor->setFocus();
+        m_popup->hide();
+        return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        // It hides the list and gives the focus back before the form hears of the choice.
+        doneCompletion();
+        return true;
+    default:
+        m_editor->setFocus();
+        m_editor->event(event);
+        m_popup->hide();
+        return true;
+    }
+}

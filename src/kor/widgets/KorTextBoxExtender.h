@@ -1,0 +1,82 @@
+#pragma once
+
+#include <QPointer>
+#include <QStringList>
+#include <QVariant>
+#include <QWidget>
+
+#include <memory>
+
+class KorBusinessLogic;
+class QAbstractItemModel;
+class QKeyEvent;
+class QLineEdit;
+class QTimer;
+class QTreeWidget;
+
+/**
+ * Makes a form's line edit find records while the user types: half a second after the last key it searches, and shows
+ * the rows in a list below the field. A subclass tells how to search and what stands in the rows.
+ */
+class KorTextBoxExtender : public QWidget
+{
+    Q_OBJECT
+
+public:
+    KorTextBoxExtender(QLineEdit* editor, KorBusinessLogic* business);
+    ~KorTextBoxExtender() override;
+
+    virtual void search(const QString& text);
+    [[nodiscard]] virtual QVariant rowText(int row, int column) const;
+    /** What goes into the line edit when this row is chosen; without a subclass's word, the first column's text. */
+    [[nodiscard]] virtual QString selectedText(int row) const;
+
+    void setColumnCount(int count);
+    [[nodiscard]] int columnCount() const { return m_columnCount; }
+    void setRowCount(int count) { m_rowCount = count; }
+    [[nodiscard]] int rowCount() const { return m_rowCount; }
+    void setHeaderLabels(const QStringList& labels);
+    void setResult(QAbstractItemModel* result);
+    /** -1 as long as nothing is chosen. */
+    [[nodiscard]] int selectedRow() const { return m_currentRow; }
+    /** The widget that gets the focus after a choice. */
+    void setNextWidget(QWidget* widget) { m_nextWidget = widget; }
+    [[nodiscard]] QWidget* nextWidget() const { return m_nextWidget; }
+
+    [[nodiscard]] QLineEdit* editor() const { return m_editor; }
+    [[nodiscard]] KorBusinessLogic* business() const { return m_business; }
+
+signals:
+    void onSearchComplete();
+    void onItemSelected();
+
+public slots:
+    /** Takes the current row of the list as the user's choice. */
+    void doneCompletion();
+    /** Drops a search that is due. A form that sets the text on its own calls it, so that no list follows. */
+    void preventSuggest();
+    void autoSuggest();
+    /** Shows what the search has found. */
+    void searchComplete();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+    /** A row has been chosen, -1 for none; called before the text goes into the line edit. */
+    virtual void rowChosen(int row);
+
+private:
+    void fillPopup();
+    void placePopup();
+    bool popupKey(QKeyEvent* event);
+
+    KorBusinessLogic* m_business;
+    QLineEdit* m_editor;
+    std::unique_ptr<QTreeWidget> m_popup;
+    QTimer* m_timer;
+    QPointer<QAbstractItemModel> m_result;
+    int m_columnCount = 0;
+    int m_rowCount = 0;
+    int m_currentRow = -1;
+    QPointer<QWidget> m_nextWidget;
+};
