@@ -1,0 +1,129 @@
+#include "kor/persistence/KorPaging.h"
+#include "masterdata/meja/DataMapperMeja.h"
+#include "masterdata/meja/EntityMeja.h"
+#include "registry/zavel/ZavelMapperRegistry.h"
+#include "support/TestDatabase.h"
+
+#include <QTest>
+#include <QThread>
+
+/** What every mapper does, shown on the restaurant's tables. */
+class TestMapper : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_database = std::make_unique<TestDatabase>();
+        m_database->run("DELETE FROM meja");
+        m_mapper = ZavelMapperRegistry::instance()->mejaMapper();
+        loginAsAdmin();
+    }
+    void cleanup() { m_database.reset(); }
+
+    void aNewTableIsStampedAndFoundAgain()
+    {
+        EntityMeja table;
+        table.setKode("A1");
+        table.setNama("Window's 50% corner");
+        QVERIFY2(m_mapper->insert(&table), qPrintable(m_mapper->takeError()));
+        QVERIFY(table.isSaved());
+
+        auto* found = static_cast<EntityMeja*>(m_mapper->findById(table.getId()));
+        QVERIFY(found);
+        QCOMPARE(found->getNama(), QString("Window's 50% corner"));
+        QCOMPARE(found->getCreatedBy(), 1);
+        QCOMPARE(found->getUpdatedBy(), KorNoValue);
+        QCOMPARE(found->getVersion(), 1);
+        QVERIFY(qAbs(found->getCreatedTime().secsTo(QDateTime::currentDateTime())) < 5);
+    }
+
+    void theSlowerOfTwoWorkstationsIsTold()
+    {
+        EntityMeja table;
+        table.setKode("A1");
+        table.setNama("One");
+        QVERIFY(m_mapper->insert(&table));
+        m_database->run("UPDATE meja SET version = version + 1, updatedby = 9, updatedtime = now()");
+        QVERIFY(!m_mapper->update(&table));
+        QCOMPARE(m_mapper->takeError(),
+                 QString("Table: meja has been updated by user id: %1  at: 9").arg(table.getId()));
+        QVERIFY(!m_mapper->remove(&table));
+        QVERIFY(m_mapper->takeError().startsWith("Table: meja has been updated"));
+        m_database->run("DELETE FROM meja");
+        QVERIFY(!m_mapper->update(&table));
+        QCOMPARE(m_mapper->takeError(), QString("Table: meja has been deleted"));
+        QVERIFY(!m_mapper->hasError());
+    }
+
+    void aSecondUpdateNeedsTheFreshRow()
+    {
+        EntityMeja table;
+        table.setKode("A1");
+        table.setNama("One");
+        QVERIFY(m_mapper->insert(&table));
+        QVERIFY(m_mapper->update(&table));
+        QVERIFY(!m_mapper->update(&table));
+        m_mapper->clearError();
+    }
+
+    void aLostConnectionIsAnErrorAndHealsByItself()
+    {
+        EntityMeja table;
+        table.setKode("A1");
+        table.setNama("One");
+        m_database->killConnections();
+        QVERIFY(!m_mapper->insert(&table));
+        QVERIFY(m_mapper->takeError().contains("insert into meja"));
+        QVERIFY(!table.isSaved());
+        QVERIFY2(m_mapper->insert(&table), qPrintable(m_mapper->takeError()));
+    }
+
+    void searchTextsReachTheDatabaseAsTyped_data()
+    {
+        QTest::addColumn<QString>("filter");
+        QTest::addColumn<int>("rows");
+        QTest::newRow("everything") << "" << 3;
+        QTest::newRow("part of a name") << "corner" << 1;
+        QTest::newRow("apostrophe") << "window's" << 1;
+        QTest::newRow("lone apostrophe") << "'" << 1;
+        QTest::newRow("percent sign is a wildcard") << "%" << 3;
+        QTest::newRow("backslash") << "\\" << 0;
+        QTest::newRow("looks like SQL") << "'; drop table meja; --" << 0;
+    }
+    void searchTextsReachTheDatabaseAsTyped()
+    {
+        m_database->run("INSERT INTO meja (kode, nama, version) VALUES ('a', 'Window''s corner', 1), ('b', 'B', 1), "
+                        "('c', 'C', 1)");
+        QFETCH(QString, filter);
+        QTEST(m_mapper->findAll(filter).size(), "rows");
+    }
+
+    void anotherThreadSpeaksThroughAConnectionOfItsOwn()
+    {
+        m_database->run("INSERT INTO meja (kode, nama, version) VALUES ('a', 'A', 1)");
+        QString name;
+        std::unique_ptr<QThread> worker(QThread::create([this, &name] {
+            const std::unique_ptr<KorEntity> table(m_mapper->findByCode("A"));
+            name = table ? static_cast<EntityMeja*>(table.get())->getNama() : m_mapper->takeError();
+        }));
+        worker->start();
+        QVERIFY(worker->wait());
+        QCOMPARE(name, QString("A"));
+    }
+
+    void aListIsOneStatement()
+    {
+        const StatementCount statements;
+        QCOMPARE(m_mapper->findAll(QString()).size(), 0);
+        QCOMPARE(statements.count(), 1);
+    }
+
+private:
+    std::unique_ptr<TestDatabase> m_database;
+    DataMapperMeja* m_mapper = nullptr;
+};
+
+QTEST_MAIN(TestMapper)
+#include "tst_mapper.moc"

@@ -1,0 +1,180 @@
+#include "masterdata/meja/DialogMeja.h"
+#include "masterdata/meja/TabMeja.h"
+#include "support/ModalDriver.h"
+#include "support/TestDatabase.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QTableView>
+#include <QTest>
+
+namespace
+{
+void fill(DialogMeja* form, const QString& code, const QString& name)
+{
+    auto* kode = form->findChild<QLineEdit*>("txtKode");
+    kode->selectAll();
+    QTest::keyClicks(kode, code);
+    auto* nama = form->findChild<QLineEdit*>("txtNama");
+    nama->selectAll();
+    QTest::keyClicks(nama, name);
+    QTest::keyClick(nama, Qt::Key_Return);
+}
+} // namespace
+
+/** The list page that every family shares, driven by the keyboard alone. */
+class TestMejaPage : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_database = std::make_unique<TestDatabase>();
+        m_database->run("DELETE FROM meja");
+        m_database->run("INSERT INTO meja (kode, nama, createdby, version) VALUES ('t1', 'Terrace', 1, 1), "
+                        "('t2', 'Garden', 2, 1)");
+        loginAsAdmin();
+        m_people = std::make_unique<ModalDriver>();
+        m_page = std::make_unique<TabMeja>();
+        m_page->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_page.get()));
+        m_grid = m_page->findChild<QTableView*>("tblMeja");
+        QVERIFY(m_grid);
+    }
+    void cleanup()
+    {
+        m_page.reset();
+        m_people.reset();
+        m_database.reset();
+    }
+
+    void aTableIsAddedWithF12()
+    {
+        m_people->expect<DialogMeja>([](DialogMeja* form) { fill(form, "T3", "Balcony"); });
+        QTest::keyClick(m_page.get(), Qt::Key_F12);
+        QTRY_COMPARE(m_grid->model()->rowCount(), 3);
+        QCOMPARE(m_page->findChild<QLabel*>("lblCount")->text(), QString("3 Items"));
+        QVERIFY(m_people->finished());
+    }
+
+    void aCodeInOtherLettersIsTakenAndTheFormStays()
+    {
+        m_people->expect<DialogMeja>([](DialogMeja* form) { fill(form, "T1", ""); });
+        m_people->expect<DialogMeja>([](DialogMeja* form) {
+            QCOMPARE(form->findChild<QLineEdit*>("txtKode")->text(), QString("T1"));
+            fill(form, "T4", "Bar");
+        });
+        QTest::keyClick(m_page.get(), Qt::Key_F12);
+        QTRY_COMPARE(m_people->texts(), QStringList{"This table code is already in use please use another code\r\n"
+                                                    "Enter the table name\r\n"});
+        QTRY_COMPARE(m_grid->model()->rowCount(), 3);
+    }
+
+    void aDoubleClickEditsLikeF2_data()
+    {
+        QTest::addColumn<bool>("mouse");
+        QTest::newRow("F2") << false;
+        QTest::newRow("double click") << true;
+    }
+    void aDoubleClickEditsLikeF2()
+    {
+        QFETCH(bool, mouse);
+        m_people->expect<DialogMeja>([](DialogMeja* form) { fill(form, "t2", "Rose garden"); });
+        choose("Garden");
+        if (mouse) {
+            const QPoint cell = m_grid->visualRect(m_grid->currentIndex()).center();
+            QTest::mouseClick(m_grid->viewport(), Qt::LeftButton, Qt::NoModifier, cell);
+            QTest::mouseDClick(m_grid->viewport(), Qt::LeftButton, Qt::NoModifier, cell);
+        } else {
+            QTest::keyClick(m_grid, Qt::Key_F2);
+        }
+        QTRY_COMPARE(m_database->value("SELECT nama FROM meja WHERE kode = 't2'").toString(), QString("Rose garden"));
+        QTRY_VERIFY(m_people->finished());
+    }
+
+    void aStaleFormIsToldAndKeepsWhatWasTyped()
+    {
+        m_people->expect<DialogMeja>([this](DialogMeja* form) {
+            m_database->run("UPDATE meja SET version = 2, updatedby = 5 WHERE kode = 't2'");
+            fill(form, "t2", "Mine");
+        });
+        m_people->expect<DialogMeja>([](DialogMeja* form) {
+            QCOMPARE(form->findChild<QLineEdit*>("txtNama")->text(), QString("Mine"));
+            QTest::keyClick(form, Qt::Key_Escape);
+        });
+        choose("Garden");
+        QTest::keyClick(m_grid, Qt::Key_F2);
+        const int id = m_database->value("SELECT id FROM meja WHERE kode = 't2'").toInt();
+        QTRY_COMPARE(m_people->lastText(), QString("Table: meja has been updated by user id: %1  at: 5\r\n").arg(id));
+        QCOMPARE(m_database->value("SELECT nama FROM meja WHERE kode = 't2'").toString(), QString("Garden"));
+    }
+
+    void deletingAsksRowByRow()
+    {
+        m_grid->selectAll();
+        m_people->answer(QMessageBox::No);
+        m_people->answer(QMessageBox::Yes);
+        QTest::keyClick(m_grid, Qt::Key_Delete);
+        QTRY_COMPARE(m_people->texts(), (QStringList{"Are you sure you want to delete this table: Garden ?",
+                                                     "Are you sure you want to delete this table: Terrace ?"}));
+        QTRY_COMPARE(m_grid->model()->rowCount(), 1);
+    }
+
+    void aRowThatHasGoneIsTold()
+    {
+        choose("Garden");
+        const int id = m_database->value("SELECT id FROM meja WHERE kode = 't2'").toInt();
+        m_database->run("DELETE FROM meja WHERE kode = 't2'");
+        QTest::keyClick(m_grid, Qt::Key_F2);
+        QTRY_COMPARE(m_people->lastText(), QString("Can not find entity with id: %1").arg(id));
+    }
+
+    void rightsDecideWhatHappens()
+    {
+        loginWithRights("Table", {{0, 1}, {2, 1}}, 2);
+        choose("Terrace");
+        QTest::keyClick(m_grid, Qt::Key_F2);
+        QTRY_COMPARE(m_people->lastText(), QString("You don't have access.\r\nRequired permission: Table."));
+        QTRY_VERIFY(!QApplication::activeModalWidget());
+        QTest::keyClick(m_grid, Qt::Key_Delete);
+        QTRY_COMPARE(m_people->boxes().size(), 2);
+        QVERIFY(m_people->lastText().startsWith("You don't have access."));
+        choose("Garden");
+        m_people->answer(QMessageBox::Yes);
+        QTest::keyClick(m_grid, Qt::Key_Delete);
+        QTRY_COMPARE(m_grid->model()->rowCount(), 1);
+    }
+
+    void filterAndCloseByKeys()
+    {
+        QTest::keyClick(m_page.get(), Qt::Key_F, Qt::ControlModifier);
+        auto* filter = m_page->findChild<QLineEdit*>("txtFilter");
+        QVERIFY(filter->hasFocus());
+        QTest::keyClicks(filter, "GARD");
+        QTest::keyClick(filter, Qt::Key_Return);
+        QTRY_COMPARE(m_grid->model()->rowCount(), 1);
+        QVERIFY(m_grid->hasFocus());
+        QSignalSpy closed(m_page.get(), &KorTab::onclose);
+        QTest::keyClick(m_grid, Qt::Key_Escape);
+        QTRY_COMPARE(closed.count(), 1);
+    }
+
+private:
+    void choose(const QString& name)
+    {
+        for (int row = 0; row < m_grid->model()->rowCount(); ++row) {
+            if (m_grid->model()->index(row, 2).data().toString() == name)
+                m_grid->selectRow(row);
+        }
+    }
+
+    std::unique_ptr<TestDatabase> m_database;
+    std::unique_ptr<ModalDriver> m_people;
+    std::unique_ptr<TabMeja> m_page;
+    QTableView* m_grid = nullptr;
+};
+
+QTEST_MAIN(TestMejaPage)
+#include "tst_meja_page.moc"

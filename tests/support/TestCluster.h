@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QProcess>
+#include <QString>
+
+/**
+ * The throw-away PostgreSQL cluster of the test run. The test command starts one for all programs and names it in the
+ * environment; a test program that runs on its own starts one for itself.
+ */
+class TestCluster
+{
+public:
+    static TestCluster& instance();
+    ~TestCluster();
+    Q_DISABLE_COPY(TestCluster)
+
+    [[nodiscard]] const QString& host() const { return m_host; }
+    [[nodiscard]] int port() const { return m_port; }
+    [[nodiscard]] const QString& user() const { return m_user; }
+    /** Runs a statement on the maintenance database; a failure ends the test program. */
+    void run(const QString& statement);
+    /** Runs the function while no other test program runs one. */
+    template <class Function>
+    void exclusively(Function function)
+    {
+        lock();
+        function();
+        unlock();
+    }
+    [[nodiscard]] bool hasDatabase(const QString& name);
+
+private:
+    TestCluster();
+    void startOwn();
+    void lock();
+    void unlock();
+
+    QString m_host;
+    int m_port = 5432;
+    QString m_user = "postgres";
+    QProcess m_own;
+};

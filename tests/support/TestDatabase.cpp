@@ -1,0 +1,122 @@
+#include "support/TestDatabase.h"
+
+#include "app/access/EntityUser.h"
+#include "app/context/AppContext.h"
+#include "app/context/DatabaseManager.h"
+#include "kor/business/KorBusinessLogic.h"
+#include "kor/persistence/KorQuery.h"
+#include "registry/app/AppBusinessRegistry.h"
+#include "registry/pos/PosBusinessRegistry.h"
+#include "registry/zavel/ZavelBusinessRegistry.h"
+#include "support/TestCluster.h"
+#include "support/TestTemplate.h"
+
+#include <QSqlError>
+#include <QSqlQuery>
+#include <QUuid>
+
+QString TestDatabase::host() { return TestCluster::instance().host(); }
+
+int TestDatabase::port() { return TestCluster::instance().port(); }
+
+QString TestDatabase::user() { return TestCluster::instance().user(); }
+
+TestDatabase::TestDatabase(Kind kind)
+    : m_name("t_" + QUuid::createUuid().toString(QUuid::Id128)), m_otherName("other-" + m_name)
+{
+    AppContext::instance()->setLocale("en_US");
+    AppContext::instance()->setDateFormat("d MMM yyyy");
+    ZavelBusinessRegistry::instance();
+
+    if (kind == Installed) {
+        ensureInstalledTemplate();
+        TestCluster::instance().run("CREATE DATABASE " + m_name + " TEMPLATE " + installedTemplateName() +
+                                    " STRATEGY file_copy");
+    } else {
+        TestCluster::instance().run("CREATE DATABASE " + m_name + " STRATEGY file_copy");
+    }
+
+    QSqlDatabase database = QSqlDatabase::addDatabase("QPSQL", m_otherName);
+    database.setHostName(host());
+    database.setPort(port());
+    database.setUserName(user());
+    database.setDatabaseName(m_name);
+    if (!database.open())
+        qFatal("other workstation: %s", qPrintable(database.lastError().text()));
+    if (!open())
+        qFatal("program's connection: %s", qPrintable(AppContext::instance()->databaseManager()->lastErrorText()));
+}
+
+TestDatabase::~TestDatabase()
+{
+    AppContext::instance()->databaseManager()->close();
+    QSqlDatabase::database(m_otherName).close();
+    QSqlDatabase::removeDatabase(m_otherName);
+    AppContext::instance()->resetEntityPool();
+    TestCluster::instance().run("DROP DATABASE " + m_name + " WITH (FORCE)");
+}
+
+bool TestDatabase::open()
+{
+    AppContext* context = AppContext::instance();
+    if (!context->databaseManager())
+        context->setDatabaseManager(new DatabaseManager);
+    return context->databaseManager()->open(host(), m_name, user(), QString(), port());
+}
+
+QSqlDatabase TestDatabase::other() const { return QSqlDatabase::database(m_otherName); }
+
+void TestDatabase::run(const QString& statement)
+{
+    QSqlQuery query(other());
+    if (!query.exec(statement))
+        qFatal("%s: %s", qPrintable(statement), qPrintable(query.lastError().text()));
+}
+
+QVariant TestDatabase::value(const QString& statement)
+{
+    QSqlQuery query(other());
+    if (!query.exec(statement))
+        qFatal("%s: %s", qPrintable(statement), qPrintable(query.lastError().text()));
+    return query.next() ? query.value(0) : QVariant();
+}
+
+void TestDatabase::killConnections()
+{
+    run("SELECT pg_terminate_backend(pid) FROM pg_stat_activity WHERE datname = current_database() "
+        "AND pid <> pg_backend_pid()");
+}
+
+void loginAsAdmin()
+{
+    AppContext* context = AppContext::instance();
+    EntityUser admin;
+    admin.setId(1);
+    admin.setUserName("admin");
+    context->setCurrentUser(&admin);
+    const QList<const KorBusinessRegistry*> registries{AppBusinessRegistry::instance(), PosBusinessRegistry::instance(),
+                                                       ZavelBusinessRegistry::instance()};
+    for (const KorBusinessRegistry* registry : registries) {
+        for (const KorBusinessLogic* service : registry->all()) {
+            for (const KorPermission& permission : service->getPermissions()) {
+                context->userRights()->insert(service->name(), {permission.first, 2});
+                context->accessCaptions()->insert(service->name() + QString::number(permission.first),
+                                                  permission.second);
+            }
+        }
+    }
+}
+
+void loginWithRights(const QString& businessName, const QList<QPair<int, int>>& grants, int userId)
+{
+    EntityUser user;
+    user.setId(userId);
+    user.setUserName("waiter");
+    AppContext::instance()->setCurrentUser(&user);
+    for (const auto& grant : grants)
+        AppContext::instance()->userRights()->insert(businessName, grant);
+}
+
+StatementCount::StatementCount() : m_start(KorQuery::statementCount()) {}
+
+int StatementCount::count() const { return static_cast<int>(KorQuery::statementCount() - m_start); }

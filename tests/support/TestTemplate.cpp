@@ -1,0 +1,48 @@
+#include "support/TestTemplate.h"
+
+#include "app/context/AppContext.h"
+#include "app/context/DatabaseManager.h"
+#include "kor/persistence/KorDataMapper.h"
+#include "registry/app/AppMapperRegistry.h"
+#include "registry/pos/PosMapperRegistry.h"
+#include "registry/zavel/ZavelMapperRegistry.h"
+#include "support/TestCluster.h"
+
+QString installedTemplateName() { return "zavel_installed"; }
+
+namespace
+{
+void install(const QString& databaseName)
+{
+    TestCluster& cluster = TestCluster::instance();
+    AppContext* context = AppContext::instance();
+    if (!context->databaseManager())
+        context->setDatabaseManager(new DatabaseManager);
+    if (!context->databaseManager()->open(cluster.host(), databaseName, cluster.user(), QString(), cluster.port()))
+        qFatal("template: %s", qPrintable(context->databaseManager()->lastErrorText()));
+    const QList<const KorMapperRegistry*> registries{AppMapperRegistry::instance(), PosMapperRegistry::instance(),
+                                                     ZavelMapperRegistry::instance()};
+    for (const KorMapperRegistry* registry : registries) {
+        for (KorDataMapper* mapper : registry->all()) {
+            if (!mapper->createTable(1))
+                qFatal("template: %s: %s", qPrintable(mapper->name()), qPrintable(mapper->takeError()));
+        }
+    }
+    context->databaseManager()->close();
+}
+} // namespace
+
+void ensureInstalledTemplate()
+{
+    TestCluster& cluster = TestCluster::instance();
+    cluster.exclusively([&cluster] {
+        if (cluster.hasDatabase(installedTemplateName()))
+            return;
+        // Under another name until it is complete, so that nobody clones half of it.
+        const QString unfinished = installedTemplateName() + "_unfinished";
+        cluster.run("DROP DATABASE IF EXISTS " + unfinished);
+        cluster.run("CREATE DATABASE " + unfinished);
+        install(unfinished);
+        cluster.run("ALTER DATABASE " + unfinished + " RENAME TO " + installedTemplateName());
+    });
+}
