@@ -137,10 +137,11 @@ private slots:
         choose("Terrace");
         QTest::keyClick(m_grid, Qt::Key_F2);
         QTRY_COMPARE(m_people->lastText(), QString("You don't have access.\r\nRequired permission: Table."));
-        QTRY_VERIFY(!QApplication::activeModalWidget());
+        comeBack();
         QTest::keyClick(m_grid, Qt::Key_Delete);
         QTRY_COMPARE(m_people->boxes().size(), 2);
         QVERIFY(m_people->lastText().startsWith("You don't have access."));
+        comeBack();
         choose("Garden");
         m_people->answer(QMessageBox::Yes);
         QTest::keyClick(m_grid, Qt::Key_Delete);
@@ -162,6 +163,13 @@ private slots:
     }
 
 private:
+    /** The refusal's box has no window behind it, so the page has to be called to the front again. */
+    void comeBack()
+    {
+        m_page->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_page.get()));
+    }
+
     void choose(const QString& name)
     {
         for (int row = 0; row < m_grid->model()->rowCount(); ++row) {
