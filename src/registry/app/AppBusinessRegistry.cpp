@@ -1,6 +1,12 @@
 #include "registry/app/AppBusinessRegistry.h"
 
+#include "app/access/BusinessPermission.h"
+#include "app/access/BusinessUser.h"
+#include "app/access/BusinessUserAccess.h"
+#include "app/access/BusinessUserGroup.h"
+#include "app/configuration/BusinessConfiguration.h"
 #include "app/context/AppContext.h"
+#include "app/numbers/BusinessKey.h"
 #include "registry/app/AppMapperRegistry.h"
 
 AppBusinessRegistry* AppBusinessRegistry::instance()
@@ -14,5 +20,21 @@ AppBusinessRegistry* AppBusinessRegistry::instance()
 AppBusinessRegistry::AppBusinessRegistry(QObject* parent)
     : KorBusinessRegistry(AppContext::instance()->logger(), parent)
 {
-    AppMapperRegistry::instance();
+    const AppMapperRegistry* mappers = AppMapperRegistry::instance();
+    make<BusinessConfiguration>(mappers->appConfig());
+    make<BusinessPermission>(mappers->permission(), mappers->business());
+    auto* access = make<BusinessUserAccess>(mappers->access());
+    make<BusinessUser>(mappers->user(), access);
+    make<BusinessKey>(mappers->key());
+    make<BusinessUserGroup>(mappers->userGroup());
 }
+
+BusinessConfiguration* AppBusinessRegistry::configuration() const
+{
+    return typed<BusinessConfiguration>("Configuration");
+}
+BusinessPermission* AppBusinessRegistry::permission() const { return typed<BusinessPermission>("Permission"); }
+BusinessUserAccess* AppBusinessRegistry::userAccess() const { return typed<BusinessUserAccess>("User Access"); }
+BusinessUser* AppBusinessRegistry::user() const { return typed<BusinessUser>("User"); }
+BusinessKey* AppBusinessRegistry::keyTable() const { return typed<BusinessKey>("KeyTable"); }
+BusinessUserGroup* AppBusinessRegistry::userGroup() const { return typed<BusinessUserGroup>("User Group"); }

@@ -1,6 +1,14 @@
 #include "registry/app/AppMapperRegistry.h"
 
+#include "app/access/DataMapperAccess.h"
+#include "app/access/DataMapperBusiness.h"
+#include "app/access/DataMapperPermission.h"
+#include "app/access/DataMapperUser.h"
+#include "app/access/DataMapperUserGroup.h"
+#include "app/configuration/DataMapperAppConfig.h"
 #include "app/context/AppContext.h"
+#include "app/history/DataMapperHistory.h"
+#include "app/numbers/DataMapperKey.h"
 
 AppMapperRegistry* AppMapperRegistry::instance()
 {
@@ -10,4 +18,23 @@ AppMapperRegistry* AppMapperRegistry::instance()
     return registry;
 }
 
-AppMapperRegistry::AppMapperRegistry(QObject* parent) : KorMapperRegistry(parent) {}
+AppMapperRegistry::AppMapperRegistry(QObject* parent) : KorMapperRegistry(parent)
+{
+    make<DataMapperAppConfig>();
+    make<DataMapperHistory>();
+    make<DataMapperKey>();
+    auto* groups = make<DataMapperUserGroup>();
+    auto* businesses = make<DataMapperBusiness>();
+    auto* permissions = make<DataMapperPermission>(businesses);
+    make<DataMapperAccess>(groups, permissions, businesses);
+    make<DataMapperUser>(groups);
+}
+
+DataMapperAppConfig* AppMapperRegistry::appConfig() const { return typed<DataMapperAppConfig>("appconfig"); }
+DataMapperHistory* AppMapperRegistry::history() const { return typed<DataMapperHistory>("history"); }
+DataMapperKey* AppMapperRegistry::key() const { return typed<DataMapperKey>("key"); }
+DataMapperUserGroup* AppMapperRegistry::userGroup() const { return typed<DataMapperUserGroup>("user group"); }
+DataMapperBusiness* AppMapperRegistry::business() const { return typed<DataMapperBusiness>("business"); }
+DataMapperPermission* AppMapperRegistry::permission() const { return typed<DataMapperPermission>("permission"); }
+DataMapperAccess* AppMapperRegistry::access() const { return typed<DataMapperAccess>("access"); }
+DataMapperUser* AppMapperRegistry::user() const { return typed<DataMapperUser>("user"); }

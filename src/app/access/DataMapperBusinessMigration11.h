@@ -1,0 +1,14 @@
+#pragma once
+
+#include "kor/persistence/KorMigration.h"
+
+class DataMapperBusinessMigration11 final : public KorStatementMigration11
+{
+    Q_OBJECT
+
+public:
+    DataMapperBusinessMigration11()
+        : KorStatementMigration11({"ALTER TABLE business ADD UNIQUE (name);\r\n"},
+                                  tr("Add unique constraint to column name"), nullptr)
+    {}
+};

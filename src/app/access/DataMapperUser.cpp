@@ -1,0 +1,83 @@
+#include "app/access/DataMapperUser.h"
+
+#include "app/access/DataMapperUserGroup.h"
+#include "app/access/EntityUser.h"
+#include "kor/entity/KorMetaDataMap.h"
+#include "kor/persistence/KorPaging.h"
+
+#include <QCryptographicHash>
+
+namespace
+{
+constexpr int passwordColumn = 3;
+}
+
+DataMapperUser::DataMapperUser(QObject* parent, DataMapperUserGroup* groups) : AppDataMapper(parent)
+{
+    setName("user");
+    metaData()->setTableName("users");
+    column("first_name", "varchar(200) not null", "FirstName");
+    column("last_name", "varchar(200) not null", "LastName");
+    column("username", "varchar(200) not null", "UserName");
+    column("password", "varchar(200) not null", "Password");
+    reference("user_group_id", "integer not null", "Group", groups, "inner");
+    column("currency", "varchar(4) not null", "Currency");
+}
+
+KorEntity* DataMapperUser::createEntity() { return new EntityUser(entityParent()); }
+
+QStringList DataMapperUser::indexStatements() const { return {index("user_group_id", "(user_group_id)")}; }
+
+QString DataMapperUser::digest(const QString& password)
+{
+    return QString::fromLatin1(QCryptographicHash::hash(password.toUtf8(), QCryptographicHash::Md5).toHex());
+}
+
+void DataMapperUser::bindInsert(KorQuery& query, KorEntity* entity)
+{
+    AppDataMapper::bindInsert(query, entity);
+    query.bindValue(passwordColumn, digest(static_cast<EntityUser*>(entity)->getPassword()));
+}
+
+void DataMapperUser::bindUpdate(KorQuery& query, KorEntity* entity)
+{
+    auto* user = static_cast<EntityUser*>(entity);
+    if (!user->getPassword().isEmpty()) {
+        bindInsert(query, user);
+        return;
+    }
+    if (const auto* stored = static_cast<EntityUser*>(findById(user->getId())))
+        user->setPassword(stored->getPassword());
+    AppDataMapper::bindUpdate(query, user);
+}
+
+EntityUser* DataMapperUser::findByUsername(const QString& username)
+{
+    return static_cast<EntityUser*>(findOne(" where username = :username", {{":username", username}}));
+}
+
+QList<KorEntity*> DataMapperUser::findByGroup(int groupId)
+{
+    return findMany(" where user_group_id = :group", {{":group", groupId}});
+}
+
+QList<KorEntity*> DataMapperUser::findAll(const QString& filter)
+{
+    const QString value = '%' + filter + '%';
+    KorPaging paging;
+    paging.addFilter("lower(first_name) like ", value);
+    paging.addFilter(" OR lower(last_name) like ", value);
+    paging.addFilter(" OR lower(username) like ", value);
+    paging.addSort("users.id", "asc");
+    return find(&paging);
+}
+
+QList<KorEntity*> DataMapperUser::search(const QString& filter)
+{
+    const QString value = '%' + filter + '%';
+    KorPaging paging;
+    paging.addFilter("first_name like ", value);
+    paging.addFilter(" OR last_name like ", value);
+    paging.addFilter(" OR username like ", value);
+    return find(&paging);
+}

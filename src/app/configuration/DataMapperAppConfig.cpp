@@ -1,0 +1,87 @@
+#include "app/configuration/DataMapperAppConfig.h"
+
+#include "app/configuration/EntityConfigLocalizationFormat.h"
+#include "kor/entity/KorMetaDataMap.h"
+#include "kor/persistence/KorPaging.h"
+
+DataMapperAppConfig::DataMapperAppConfig(QObject* parent) : AppDataMapper(parent)
+{
+    setName("appconfig");
+    metaData()->setTableName("appconfig");
+    column("appkey", "varchar(200) not null", "Key");
+    column("is_json", "boolean not null", "IsStoredAsJSON");
+    column("appvalue", "text not null", "Value");
+    column("description", "text  null", "Description");
+    addType<EntityConfigLocalizationFormat>(EntityConfigLocalizationFormat::rowKey());
+}
+
+bool DataMapperAppConfig::createTable(int mode)
+{
+    if (!AppDataMapper::createTable(mode))
+        return false;
+    KorQuery query;
+    // Two kitchens added in one second must not share a key. A table that stood already has the constraint.
+    return mode != 1 || execute(query, "ALTER TABLE appconfig ADD UNIQUE (appkey);");
+}
+
+QString DataMapperAppConfig::getValue(const QString& key)
+{
+    const EntityAppConfig* config = getConfig(key);
+    return config ? config->getValue() : QString("");
+}
+
+EntityAppConfig* DataMapperAppConfig::getValue(const QString& key, EntityAppConfig* defaultEntity)
+{
+    EntityAppConfig* config = getConfig(key);
+    return config ? config : defaultEntity;
+}
+
+EntityAppConfig* DataMapperAppConfig::getConfig(const QString& key)
+{
+    if (key.isEmpty())
+        return nullptr;
+    KorPaging paging;
+    paging.addFilter("appkey = ", key);
+    return static_cast<EntityAppConfig*>(find(&paging).value(0));
+}
+
+QList<KorEntity*> DataMapperAppConfig::getConfigsLike(const QString& prefix)
+{
+    KorPaging paging;
+    paging.addFilter("appkey like ", prefix + '%');
+    paging.addSort("appconfig.id", "asc");
+    return find(&paging);
+}
+
+bool DataMapperAppConfig::insert(KorEntity* entity)
+{
+    static_cast<EntityAppConfig*>(entity)->toStored();
+    return AppDataMapper::insert(entity);
+}
+
+bool DataMapperAppConfig::update(KorEntity* entity)
+{
+    static_cast<EntityAppConfig*>(entity)->toStored();
+    return AppDataMapper::update(entity);
+}
+
+KorEntity* DataMapperAppConfig::fromRow(KorQuery& query, const QString& alias)
+{
+    m_rowKey = query.field(aliasOf(alias, "appkey")).toString();
+    auto* config = static_cast<EntityAppConfig*>(AppDataMapper::fromRow(query, alias));
+    m_rowKey.clear();
+    if (config)
+        config->fromStored();
+    return config;
+}
+
+KorEntity* DataMapperAppConfig::createEntity()
+{
+    // From the last to the first in key order, so that of two beginnings that fit the longer one is met first.
+    for (auto it = m_types.constEnd(); it != m_types.constBegin();) {
+        --it;
+        if (m_rowKey.startsWith(it.key()))
+            return it.value()(entityParent());
+    }
+    return new EntityAppConfig(entityParent());
+}
