@@ -31,10 +31,13 @@ bool AppDocumentMapper::createTable(int mode)
 {
     if (!AppDataMapper::createTable(mode))
         return false;
-    if (lineMapper()->createTable(mode))
-        return true;
-    setError(lineMapper()->takeError());
-    return false;
+    for (KorDataMapper* lines : lineMappers()) {
+        if (!lines->createTable(mode)) {
+            setError(lines->takeError());
+            return false;
+        }
+    }
+    return true;
 }
 
 void AppDocumentMapper::noteTransaction(bool open)
@@ -66,8 +69,8 @@ bool AppDocumentMapper::insert(KorEntity* document)
     QString collected;
     for (KorEntity* line : lines) {
         attachLine(line, document->getId());
-        if (!lineMapper()->insert(line))
-            collected += " \r\n " + lineMapper()->takeError();
+        if (!mapperOf(line)->insert(line))
+            collected += " \r\n " + mapperOf(line)->takeError();
     }
     if (collected.isEmpty()) {
         if (transaction.commit())
@@ -77,7 +80,8 @@ bool AppDocumentMapper::insert(KorEntity* document)
         transaction.rollback();
     }
     ids.restore();
-    return fail(messages().insertLines, collected);
+    fail(messages().insertLines, collected);
+    return resultOfFailedLines();
 }
 
 bool AppDocumentMapper::update(KorEntity* document)
@@ -96,14 +100,15 @@ bool AppDocumentMapper::update(KorEntity* document)
     QString collected;
     for (KorEntity* line : lines) {
         attachLine(line, document->getId());
-        const bool done = line->isSaved() ? lineMapper()->update(line) : lineMapper()->insert(line);
+        KorDataMapper* mapper = mapperOf(line);
+        const bool done = line->isSaved() ? mapper->update(line) : mapper->insert(line);
         if (!done)
-            collected += " \r\n " + lineMapper()->takeError();
+            collected += " \r\n " + mapper->takeError();
     }
     for (KorEntity* line : removedLinesOf(document)) {
         // A line that was never saved has nothing to remove.
-        if (line->isSaved() && !lineMapper()->remove(line))
-            collected += " \r\n " + lineMapper()->takeError();
+        if (line->isSaved() && !mapperOf(line)->remove(line))
+            collected += " \r\n " + mapperOf(line)->takeError();
     }
     if (collected.isEmpty()) {
         if (transaction.commit())
@@ -113,7 +118,8 @@ bool AppDocumentMapper::update(KorEntity* document)
         transaction.rollback();
     }
     ids.restore();
-    return fail(messages().updateLines, collected);
+    fail(messages().updateLines, collected);
+    return resultOfFailedLines();
 }
 
 bool AppDocumentMapper::removeWithLines(KorEntity* document, const QList<KorEntity*>& lines)
@@ -123,8 +129,8 @@ bool AppDocumentMapper::removeWithLines(KorEntity* document, const QList<KorEnti
 
     QString collected;
     for (KorEntity* line : lines) {
-        if (!lineMapper()->remove(line))
-            collected += " \r\n " + lineMapper()->takeError();
+        if (!mapperOf(line)->remove(line))
+            collected += " \r\n " + mapperOf(line)->takeError();
     }
     if (!collected.isEmpty()) {
         transaction.rollback();

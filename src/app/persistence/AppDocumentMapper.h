@@ -18,6 +18,8 @@ public:
     bool createTable(int mode) override;
 
     [[nodiscard]] virtual KorDataMapper* lineMapper() const = 0;
+    /** The mappers of all line tables, where a record has lines of more than one kind. */
+    [[nodiscard]] virtual QList<KorDataMapper*> lineMappers() const { return {lineMapper()}; }
 
 protected:
     /** The family's words for what failed. */
@@ -35,8 +37,11 @@ protected:
     [[nodiscard]] virtual QList<KorEntity*> linesOf(KorEntity* document) const = 0;
     [[nodiscard]] virtual QList<KorEntity*> removedLinesOf(KorEntity*) const { return {}; }
     virtual void attachLine(KorEntity* line, int documentId) = 0;
+    [[nodiscard]] virtual KorDataMapper* mapperOf(const KorEntity*) const { return lineMapper(); }
     /** Inside the transaction, before the header: draws numbers and the like; false takes all back. */
     virtual bool beforeInsert(KorEntity*) { return true; }
+    /** What a save returns that was taken back because of a line; the error text stands in any case. */
+    [[nodiscard]] virtual bool resultOfFailedLines() const { return false; }
 
     /** Removes the lines, then the document, in one transaction. */
     bool removeWithLines(KorEntity* document, const QList<KorEntity*>& lines);

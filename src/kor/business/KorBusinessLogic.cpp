@@ -37,6 +37,15 @@ bool KorBusinessLogic::written(bool done, KorDataMapper* mapper, const QString& 
     return done;
 }
 
+bool KorBusinessLogic::clearTables(const QList<KorDataMapper*>& tables)
+{
+    bool cleared = true;
+    // With CASCADE, since the database refuses to empty a referenced table even when its referrers are empty.
+    for (KorDataMapper* table : tables)
+        cleared = written(table->truncate(true), table, "clearTransactions") && cleared;
+    return cleared;
+}
+
 void KorBusinessLogic::takeMapperError(KorDataMapper* mapper, const QString& operation)
 {
     if (mapper->hasError())

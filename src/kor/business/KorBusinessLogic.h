@@ -49,6 +49,8 @@ signals:
     void error(const QString& err);
 
 protected:
+    /** Empties the tables in this order, lines before their documents; a failure stands under "clearTransactions". */
+    bool clearTables(const QList<KorDataMapper*>& tables);
     /** Passes a mapper's write on; a failure is kept under the operation's name. */
     bool written(bool done, KorDataMapper* mapper, const QString& operation);
     /** Passes a mapper's read on; an error that the mapper holds is kept under the operation's name. */

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "app/persistence/AppDocumentMapper.h"
+#include "kor/entity/KorEntity.h"
+
+/** The lines that a record holds in memory, and those taken off it, which its next update removes. All are borrowed. */
+template <class Line>
+class AppDocumentLines
+{
+public:
+    [[nodiscard]] const QList<Line*>& getDetails() const { return m_details; }
+    void setDetails(const QList<Line*>& details) { m_details = details; }
+    void addDetail(Line* line) { m_details.append(line); }
+    [[nodiscard]] const QList<Line*>& getRemovedDetails() const { return m_removedDetails; }
+    void setRemovedDetails(const QList<Line*>& details) { m_removedDetails = details; }
+    void removeDetail(Line* line)
+    {
+        if (m_details.removeOne(line))
+            m_removedDetails.append(line);
+    }
+
+private:
+    QList<Line*> m_details;
+    QList<Line*> m_removedDetails;
+};
+
+/** The same records by their base type, as mappers take them. */
+template <class Line>
+[[nodiscard]] QList<KorEntity*> asEntities(const QList<Line*>& lines)
+{
+    QList<KorEntity*> entities;
+    entities.reserve(lines.size());
+    for (Line* line : lines)
+        entities.append(line);
+    return entities;
+}
+
+/** Mapper of a record that has AppDocumentLines. */
+template <class Document>
+class AppLinedDocumentMapper : public AppDocumentMapper
+{
+public:
+    using AppDocumentMapper::AppDocumentMapper;
+
+protected:
+    [[nodiscard]] QList<KorEntity*> linesOf(KorEntity* document) const override
+    {
+        return asEntities(static_cast<Document*>(document)->getDetails());
+    }
+    [[nodiscard]] QList<KorEntity*> removedLinesOf(KorEntity* document) const override
+    {
+        return asEntities(static_cast<Document*>(document)->getRemovedDetails());
+    }
+};
