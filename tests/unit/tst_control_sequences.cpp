@@ -1,13 +1,11 @@
 #include "printing/printer/AppLinePrinter.h"
 #include "printing/printer/SlipSpooler.h"
+#include "support/ModalDriver.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QMessageBox>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
 
 #include <csignal>
 #include <sys/resource.h>
@@ -27,26 +25,6 @@ private:
     QByteArray m_body;
     int m_copies;
     QByteArray m_cut;
-};
-
-/** Answers the boxes that come up while it lives and remembers what they said. */
-class BoxAnswers final : public QObject
-{
-public:
-    BoxAnswers()
-    {
-        connect(&m_look, &QTimer::timeout, this, [this] {
-            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-                texts.append(box->windowTitle() + '|' + box->text());
-                box->accept();
-            }
-        });
-        m_look.start(5);
-    }
-    QStringList texts;
-
-private:
-    QTimer m_look;
 };
 
 /** No file of this process may grow beyond the limit: the nearest thing to a full disk. */
@@ -246,10 +224,11 @@ void TestControlSequences::aSlipInProgressIsNotSeen()
 void TestControlSequences::anUnknownPrinterIsToldAndPrintsNothing()
 {
     knownPrinters("Kasir\n");
-    BoxAnswers boxes;
+    const ModalDriver person;
     QVERIFY(!Slip("Dapur", "x", 1, {}).print());
     QVERIFY(!Slip("", "x", 1, {}).print());
-    QCOMPARE(boxes.texts, QStringList({"Error|Error Opening Printer:Dapur", "Error|Error Opening Printer:"}));
+    QCOMPARE(person.texts(), QStringList({"Error Opening Printer:Dapur", "Error Opening Printer:"}));
+    QCOMPARE(person.lastTitle(), QString("Error"));
     QVERIFY(Slip("Kasir", "x", 1, {}).print());
     QCOMPARE(slips(), QStringList({"000001-Kasir-Bill.slip", "printers"}));
 }
@@ -268,13 +247,14 @@ void TestControlSequences::theFirstKnownPrinterIsTheDefault()
 
 void TestControlSequences::aFullDiskIsToldOnceAndLeavesNoHalfSlip()
 {
-    BoxAnswers boxes;
+    const ModalDriver person;
     {
         FullDisk disk(16);
         QVERIFY(!Slip("Kasir", "a line longer than the disk has room for\n", 2, "\x1Bm").print());
     }
-    QCOMPARE(boxes.texts.size(), 1);
-    QVERIFY2(boxes.texts.first().startsWith("Error|" + m_folder->path()), qPrintable(boxes.texts.first()));
+    QCOMPARE(person.boxes().size(), 1);
+    QCOMPARE(person.lastTitle(), QString("Error"));
+    QVERIFY2(person.lastText().startsWith(m_folder->path()), qPrintable(person.lastText()));
     QVERIFY(slips().isEmpty());
 }
 
@@ -285,9 +265,9 @@ void TestControlSequences::aClosedPrinterTakesNothing()
     QVERIFY(!slip.closePrinter());
     QVERIFY(slip.print());
     QVERIFY(!slip.closePrinter());
-    BoxAnswers boxes;
+    const ModalDriver person;
     QVERIFY(!slip.writeText("late"));
-    QCOMPARE(boxes.texts, QStringList("Error|The printer is not open."));
+    QCOMPARE(person.texts(), QStringList("The printer is not open."));
     QCOMPARE(content(slips().first()), QByteArray("x"));
 }
 
