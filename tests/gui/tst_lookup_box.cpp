@@ -91,6 +91,7 @@ private slots:
     void aTextFromTheProgramOpensNoList();
     void aFormCanCallOffASearchThatIsDue();
     void theListShowsTheRowsBelowTheField();
+    void aLongListIsAsWideAsItsTextsHoweverOftenItOpens();
     void theListStaysOnTheScreen();
     void aChoiceReachesTheFormAsIfReturnHadBeenPressed_data();
     void aChoiceReachesTheFormAsIfReturnHadBeenPressed();
@@ -154,6 +155,28 @@ void tst_LookupBox::theListShowsTheRowsBelowTheField()
     const int columns = list->columnWidth(0) + list->columnWidth(1);
     QVERIFY2(columns <= list->viewport()->width(), "a column is cut off");
     QVERIFY(!order.box->isVisible());
+}
+
+void tst_LookupBox::aLongListIsAsWideAsItsTextsHoweverOftenItOpens()
+{
+    Order order;
+    order.box->all.clear();
+    for (int i = 0; i < 40; ++i)
+        order.box->all.append("grilled fish number " + QString::number(i));
+    order.box->search("fish");
+    QTreeWidget* list = Order::list();
+    QVERIFY(QTest::qWaitForWindowExposed(list));
+    const QAbstractItemView* view = list;
+    const int width = list->width();
+    for (int column = 0; column < 2; ++column)
+        QVERIFY(list->columnWidth(column) >= view->sizeHintForColumn(column));
+    QVERIFY(list->columnWidth(0) + view->sizeHintForColumn(1) <= list->viewport()->width());
+    QVERIFY(width < list->columnWidth(0) + view->sizeHintForColumn(1) + 60);
+    order.box->search("fish");
+    QCOMPARE(list->width(), width);
+    order.box->search("nothing of that");
+    order.box->search("fish");
+    QCOMPARE(list->width(), width);
 }
 
 void tst_LookupBox::theListStaysOnTheScreen()

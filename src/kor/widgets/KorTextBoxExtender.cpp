@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QScreen>
+#include <QScrollBar>
 #include <QTimer>
 #include <QTreeWidget>
 
@@ -90,6 +91,8 @@ void KorTextBoxExtender::searchComplete()
 {
     m_popup->setPalette(m_editor->palette());
     m_popup->setUpdatesEnabled(false);
+    // A stretched column would count with the width that it was given last time.
+    m_popup->header()->setStretchLastSection(false);
     fillPopup();
     m_popup->adjustSize();
     m_popup->setUpdatesEnabled(true);
@@ -126,7 +129,9 @@ void KorTextBoxExtender::fillPopup()
 void KorTextBoxExtender::placePopup()
 {
     const int rowHeight = m_popup->visualItemRect(m_popup->topLevelItem(0)).height();
-    m_popup->resize(m_popup->width() + extraWidth, visibleRows * rowHeight + extraHeight);
+    const int scrollBar = m_rowCount > visibleRows ? m_popup->verticalScrollBar()->sizeHint().width() : 0;
+    m_popup->resize(m_popup->width() + scrollBar + extraWidth, visibleRows * rowHeight + extraHeight);
+    m_popup->header()->setStretchLastSection(true);
 
     QPoint corner = m_editor->mapToGlobal(QPoint(0, m_editor->height()));
     const QRect screen = m_editor->screen()->availableGeometry();
