@@ -136,6 +136,23 @@ void AppDataMapper::reference(const QString& name, const QString& sqlType, const
     addJoin(property, partner, joinType, name, "id");
 }
 
+bool AppDataMapper::ensureForeignKey(const QString& constraintName, const QString& column,
+                                     const QString& referencedTable, const QString& referencedColumn,
+                                     const QString& onDelete)
+{
+    KorQuery existing;
+    if (!execute(existing, "select 1 from pg_constraint where conname = :name and conrelid = :table ::regclass",
+                 {{":name", constraintName}, {":table", tableName()}}))
+        return false;
+    if (existing.next())
+        return true;
+    QString statement = foreignKeyStatement(tableName(), constraintName, column, referencedTable, referencedColumn);
+    if (!onDelete.isEmpty())
+        statement.replace(statement.size() - 1, 1, ' ' + onDelete + ';');
+    KorQuery query;
+    return execute(query, statement);
+}
+
 QString AppDataMapper::index(const QString& suffix, const QString& clause) const
 {
     return "CREATE INDEX IF NOT EXISTS " + tableName() + '_' + suffix + "_idx ON " + tableName() + ' ' + clause;

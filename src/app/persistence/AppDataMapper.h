@@ -38,6 +38,9 @@ protected:
     /** A column that holds a partner's id, with the join that reads the partner and the foreign key it gives. */
     void reference(const QString& name, const QString& sqlType, const QString& property, KorDataMapper* partner,
                    const QString& joinType);
+    /** Adds the named foreign key unless the table has it; for keys that no join gives, from createTable(). */
+    bool ensureForeignKey(const QString& constraintName, const QString& column, const QString& referencedTable,
+                          const QString& referencedColumn, const QString& onDelete = QString());
     /** "CREATE INDEX IF NOT EXISTS TABLE_SUFFIX_idx ON TABLE CLAUSE", for indexStatements(). */
     [[nodiscard]] QString index(const QString& suffix, const QString& clause) const;
 

@@ -1,9 +1,14 @@
 #include "registry/pos/PosBusinessRegistry.h"
 
 #include "app/context/AppContext.h"
+#include "inventory/stock/BusinessInventory.h"
+#include "inventory/stock/BusinessStokAwal.h"
 #include "masterdata/agent/BusinessAgent.h"
 #include "masterdata/bank/BusinessBank.h"
+#include "masterdata/company/BusinessDataPerusahaan.h"
 #include "masterdata/employee/BusinessEmployee.h"
+#include "masterdata/item/BusinessGroupedItem.h"
+#include "masterdata/item/BusinessItem.h"
 #include "masterdata/jenisitem/BusinessJenisItem.h"
 #include "masterdata/member/BusinessMember.h"
 #include "masterdata/satuan/BusinessSatuan.h"
@@ -29,9 +34,14 @@ PosBusinessRegistry::PosBusinessRegistry(QObject* parent)
     make<BusinessAgent>(mappers->agentMapper());
     make<BusinessSupplier>(mappers->supplierMapper());
     make<BusinessPrinterType>(mappers->printerTypeMapper());
+    make<BusinessDataPerusahaan>(mappers->dataPerusahaanMapper(), mappers->imagesMapper());
+    make<BusinessGroupedItem>(mappers->groupedItemMapper());
+    make<BusinessInventory>(mappers->stockTakeMapper(), mappers->stokAwalMapper(), mappers->itemHistoryMapper());
+    make<BusinessItem>(mappers->itemMapper(), mappers->groupedItemMapper(), mappers->stokAwalMapper());
     make<BusinessJenisItem>(mappers->jenisItemMapper());
     make<BusinessMember>(mappers->memberMapper());
     make<BusinessSatuan>(mappers->satuanMapper());
+    make<BusinessStokAwal>(mappers->stokAwalMapper());
     make<BusinessEmployee>(mappers->employeeMapper());
 }
 
@@ -43,10 +53,23 @@ BusinessSupplier* PosBusinessRegistry::supplier() const { return typed<BusinessS
 
 BusinessPrinterType* PosBusinessRegistry::printerType() const { return typed<BusinessPrinterType>("Printer Type"); }
 
+BusinessDataPerusahaan* PosBusinessRegistry::dataPerusahaan() const
+{
+    return typed<BusinessDataPerusahaan>("Company Profile");
+}
+
+BusinessGroupedItem* PosBusinessRegistry::groupedItem() const { return typed<BusinessGroupedItem>("Grouped Item"); }
+
+BusinessInventory* PosBusinessRegistry::inventory() const { return typed<BusinessInventory>("Inventory"); }
+
+BusinessItem* PosBusinessRegistry::item() const { return typed<BusinessItem>("Item"); }
+
 BusinessJenisItem* PosBusinessRegistry::jenisItem() const { return typed<BusinessJenisItem>("Item Type"); }
 
 BusinessMember* PosBusinessRegistry::member() const { return typed<BusinessMember>("Member"); }
 
 BusinessSatuan* PosBusinessRegistry::satuan() const { return typed<BusinessSatuan>("Unit"); }
+
+BusinessStokAwal* PosBusinessRegistry::stokAwal() const { return typed<BusinessStokAwal>("Beginning Balance"); }
 
 BusinessEmployee* PosBusinessRegistry::employee() const { return typed<BusinessEmployee>("Employee"); }

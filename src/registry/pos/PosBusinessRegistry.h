@@ -4,11 +4,16 @@
 
 class BusinessAgent;
 class BusinessBank;
+class BusinessDataPerusahaan;
 class BusinessEmployee;
+class BusinessGroupedItem;
+class BusinessInventory;
+class BusinessItem;
 class BusinessJenisItem;
 class BusinessMember;
 class BusinessPrinterType;
 class BusinessSatuan;
+class BusinessStokAwal;
 class BusinessSupplier;
 
 /** The services of any shop. */
@@ -23,9 +28,14 @@ public:
     [[nodiscard]] BusinessAgent* agent() const;
     [[nodiscard]] BusinessSupplier* supplier() const;
     [[nodiscard]] BusinessPrinterType* printerType() const;
+    [[nodiscard]] BusinessDataPerusahaan* dataPerusahaan() const;
+    [[nodiscard]] BusinessGroupedItem* groupedItem() const;
+    [[nodiscard]] BusinessInventory* inventory() const;
+    [[nodiscard]] BusinessItem* item() const;
     [[nodiscard]] BusinessJenisItem* jenisItem() const;
     [[nodiscard]] BusinessMember* member() const;
     [[nodiscard]] BusinessSatuan* satuan() const;
+    [[nodiscard]] BusinessStokAwal* stokAwal() const;
     [[nodiscard]] BusinessEmployee* employee() const;
 
 private:

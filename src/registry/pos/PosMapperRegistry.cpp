@@ -1,9 +1,16 @@
 #include "registry/pos/PosMapperRegistry.h"
 
 #include "app/context/AppContext.h"
+#include "inventory/stock/DataMapperItemHistory.h"
+#include "inventory/stock/DataMapperStockTake.h"
+#include "inventory/stock/DataMapperStokAwal.h"
 #include "masterdata/agent/DataMapperAgent.h"
 #include "masterdata/bank/DataMapperBank.h"
+#include "masterdata/company/DataMapperDataPerusahaan.h"
+#include "masterdata/company/DataMapperImages.h"
 #include "masterdata/employee/DataMapperEmployee.h"
+#include "masterdata/item/DataMapperGroupedItem.h"
+#include "masterdata/item/DataMapperItem.h"
 #include "masterdata/jenisitem/DataMapperJenisItem.h"
 #include "masterdata/member/DataMapperMember.h"
 #include "masterdata/satuan/DataMapperSatuan.h"
@@ -23,16 +30,25 @@ PosMapperRegistry::PosMapperRegistry(QObject* parent) : KorMapperRegistry(parent
 {
     AppMapperRegistry::instance();
     make<DataMapperSatuan>();
+    make<DataMapperImages>();
     make<DataMapperBank>();
     make<DataMapperEmployee>();
     make<DataMapperJenisItem>();
     make<DataMapperMember>();
+    make<DataMapperDataPerusahaan>();
     make<DataMapperPrinterType>();
     make<DataMapperSupplier>(bankMapper());
     make<DataMapperAgent>(bankMapper());
+    make<DataMapperItem>(jenisItemMapper(), satuanMapper(), bankMapper());
+    make<DataMapperGroupedItem>(itemMapper());
+    make<DataMapperStockTake>(itemMapper(), jenisItemMapper(), satuanMapper(), bankMapper());
+    make<DataMapperItemHistory>(itemMapper(), jenisItemMapper(), satuanMapper());
+    make<DataMapperStokAwal>(itemMapper(), satuanMapper());
 }
 
 DataMapperSatuan* PosMapperRegistry::satuanMapper() const { return typed<DataMapperSatuan>("satuan"); }
+
+DataMapperImages* PosMapperRegistry::imagesMapper() const { return typed<DataMapperImages>("images"); }
 
 DataMapperBank* PosMapperRegistry::bankMapper() const { return typed<DataMapperBank>("bank"); }
 
@@ -42,6 +58,11 @@ DataMapperJenisItem* PosMapperRegistry::jenisItemMapper() const { return typed<D
 
 DataMapperMember* PosMapperRegistry::memberMapper() const { return typed<DataMapperMember>("member"); }
 
+DataMapperDataPerusahaan* PosMapperRegistry::dataPerusahaanMapper() const
+{
+    return typed<DataMapperDataPerusahaan>("data perusahaan");
+}
+
 DataMapperPrinterType* PosMapperRegistry::printerTypeMapper() const
 {
     return typed<DataMapperPrinterType>("Printer Type");
@@ -50,3 +71,19 @@ DataMapperPrinterType* PosMapperRegistry::printerTypeMapper() const
 DataMapperSupplier* PosMapperRegistry::supplierMapper() const { return typed<DataMapperSupplier>("supplier"); }
 
 DataMapperAgent* PosMapperRegistry::agentMapper() const { return typed<DataMapperAgent>("agent"); }
+
+DataMapperItem* PosMapperRegistry::itemMapper() const { return typed<DataMapperItem>("item"); }
+
+DataMapperGroupedItem* PosMapperRegistry::groupedItemMapper() const
+{
+    return typed<DataMapperGroupedItem>("grouped item");
+}
+
+DataMapperStockTake* PosMapperRegistry::stockTakeMapper() const { return typed<DataMapperStockTake>("stock take"); }
+
+DataMapperItemHistory* PosMapperRegistry::itemHistoryMapper() const
+{
+    return typed<DataMapperItemHistory>("item history");
+}
+
+DataMapperStokAwal* PosMapperRegistry::stokAwalMapper() const { return typed<DataMapperStokAwal>("stok awal"); }

@@ -4,11 +4,18 @@
 
 class DataMapperAgent;
 class DataMapperBank;
+class DataMapperDataPerusahaan;
 class DataMapperEmployee;
+class DataMapperGroupedItem;
+class DataMapperImages;
+class DataMapperItem;
+class DataMapperItemHistory;
 class DataMapperJenisItem;
 class DataMapperMember;
 class DataMapperPrinterType;
 class DataMapperSatuan;
+class DataMapperStockTake;
+class DataMapperStokAwal;
 class DataMapperSupplier;
 
 /** The mappers of any shop, in the order in which their tables are created. */
@@ -20,13 +27,20 @@ public:
     static PosMapperRegistry* instance();
 
     [[nodiscard]] DataMapperSatuan* satuanMapper() const;
+    [[nodiscard]] DataMapperImages* imagesMapper() const;
     [[nodiscard]] DataMapperBank* bankMapper() const;
     [[nodiscard]] DataMapperEmployee* employeeMapper() const;
     [[nodiscard]] DataMapperJenisItem* jenisItemMapper() const;
     [[nodiscard]] DataMapperMember* memberMapper() const;
+    [[nodiscard]] DataMapperDataPerusahaan* dataPerusahaanMapper() const;
     [[nodiscard]] DataMapperPrinterType* printerTypeMapper() const;
     [[nodiscard]] DataMapperSupplier* supplierMapper() const;
     [[nodiscard]] DataMapperAgent* agentMapper() const;
+    [[nodiscard]] DataMapperItem* itemMapper() const;
+    [[nodiscard]] DataMapperGroupedItem* groupedItemMapper() const;
+    [[nodiscard]] DataMapperStockTake* stockTakeMapper() const;
+    [[nodiscard]] DataMapperItemHistory* itemHistoryMapper() const;
+    [[nodiscard]] DataMapperStokAwal* stokAwalMapper() const;
 
 private:
     explicit PosMapperRegistry(QObject* parent);

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "kor/entity/KorEntity.h"
+
+#include <QByteArray>
+
+/** A picture that the program keeps, as PNG, under a name. */
+class EntityImage : public KorEntity
+{
+    Q_OBJECT
+    KOR_PROPERTY(QString, ImageName, QString(""))
+    KOR_PROPERTY(QByteArray, ImageData, QByteArray())
+
+public:
+    using KorEntity::KorEntity;
+};
