@@ -1,0 +1,67 @@
+#pragma once
+
+#include "kor/business/KorServiceDirectory.h"
+#include "kor/widgets/KorDialog.h"
+
+class EntityContact;
+class QLabel;
+class QPlainTextEdit;
+
+/** Keeps a text of several lines within what its column takes, as a line edit does by itself. */
+void limitLength(QPlainTextEdit* field, int maximum);
+
+/** Base of the contacts' entry forms: the fields that all of them have, and the rules for these. */
+class ContactDialog : public KorDialog
+{
+    Q_OBJECT
+
+public:
+    using KorDialog::KorDialog;
+
+protected:
+    /** What the form says about a field that is empty, taken or wrong. */
+    struct Messages
+    {
+        QString noCode;
+        QString codeTaken;
+        QString noName;
+        QString noAddress;
+        QString noPhone;
+        QString wrongEmail;
+    };
+
+    /** Takes the fields of a form that has been set up; all of the contacts' forms give them the same names. */
+    template <class Form>
+    void useContactFields(const Form& form, QLabel* id)
+    {
+        m_fields = {id, form.txtKode, form.txtNama, form.txtAlamat, form.txtTelp, form.txtEmail};
+        prepareContactFields();
+    }
+    template <class Service>
+    void validateContact(const QString& serviceName, const Messages& messages)
+    {
+        requireCode(
+            m_fields.code, service<Service>(serviceName),
+            [](Service* contacts, const QString& code) { return contacts->findByCode(code); }, messages.noCode,
+            messages.codeTaken);
+        validateDetails(messages);
+    }
+    void showContact(const EntityContact& contact);
+    void readContact(EntityContact& contact) const;
+
+private:
+    struct Fields
+    {
+        QLabel* id;
+        QLineEdit* code;
+        QLineEdit* name;
+        QPlainTextEdit* address;
+        QLineEdit* phone;
+        QLineEdit* email;
+    };
+
+    void prepareContactFields();
+    void validateDetails(const Messages& messages);
+
+    Fields m_fields{};
+};

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "kor/widgets/KorEntityModel.h"
+
+/** The rows of a list of contacts: who it is and how to reach them. */
+class ContactTableModel : public KorEntityModel
+{
+    Q_OBJECT
+
+public:
+    ContactTableModel(const QList<KorEntity*>& contacts, QObject* parent);
+};
