@@ -80,6 +80,18 @@ case_a_terminated_script_takes_server_command_and_folder_with_it() {
     [[ ! -e $(dirname "$host") ]] || fail 'the folder is still there'
 }
 
+case_an_interrupted_command_keeps_its_server_until_it_has_ended() {
+    local status=0
+    # Background jobs of a script ignore the interrupt, so it is given its meaning back here.
+    env --default-signal=INT "$script" throwaway -- bash -c "trap '$throwaway_sql \"select 42\"; exit 9' INT
+        touch $room/ready; while :; do sleep 0.1; done" >"$room/out" &
+    until_true 'the command is running' test -e "$room/ready"
+    kill -INT $!
+    wait $! || status=$?
+    equal 'exit status' 9 "$status"
+    equal 'last answer' 42 "$(<"$room/out")"
+}
+
 case_a_killed_script_takes_server_and_command_with_it() {
     start_waiting throwaway "$throwaway_sql"
     kill -KILL "$runner"
