@@ -7,6 +7,10 @@ target_compile_options(zavel_flags INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Wcast-align -Wduplicated-cond -Wlogical-op
   # Qt 5.15 deprecates calls that this Qt offers no replacement for on every supported platform.
   -Wno-deprecated-declarations)
+if(CMAKE_UNITY_BUILD)
+  # A unity file includes source files, whose anonymous namespaces GCC then takes for a header's.
+  target_compile_options(zavel_flags INTERFACE -Wno-subobject-linkage)
+endif()
 if(ZAVEL_WERROR)
   target_compile_options(zavel_flags INTERFACE -Werror)
 endif()
