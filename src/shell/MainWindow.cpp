@@ -1,0 +1,364 @@
+#include "shell/MainWindow.h"
+
+#include "app/access/AccessCheck.h"
+#include "app/access/EntityUser.h"
+#include "app/configuration/BusinessConfiguration.h"
+#include "app/context/AppContext.h"
+#include "app/context/ConnectionSettings.h"
+#include "kor/business/KorServiceDirectory.h"
+#include "kor/plugin/KorPluginTabInterface.h"
+#include "kor/widgets/KorTab.h"
+#include "printing/printer/DialogPrinter.h"
+#include "shell/ConfigDialog.h"
+#include "shell/DatabaseChange.h"
+#include "shell/DialogAbout.h"
+#include "shell/InterfaceLanguage.h"
+#include "shell/MenuShortcuts.h"
+#include "shell/Sidebar.h"
+
+#include "ui_MainWindow.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QHash>
+#include <QLabel>
+#include <QMessageBox>
+#include <QTabBar>
+#include <QTimer>
+
+namespace
+{
+constexpr int updateCheckDelay = 2000;
+constexpr int restartStatus = -123456789;
+} // namespace
+
+MainWindow::MainWindow(QWidget* parent)
+    : QMainWindow(parent), m_ui(std::make_unique<Ui::MainWindow>()), m_tabFactories(allTabFactories()),
+      m_statusUser(new QLabel(this)),
+      m_language(new InterfaceLanguage(QCoreApplication::applicationDirPath() + "/languages", this))
+{
+    m_ui->setupUi(this);
+    m_statusUser->setAlignment(Qt::AlignHCenter);
+    m_statusUser->setContentsMargins(8, 2, 8, 2);
+    m_ui->statusBar->addWidget(m_statusUser);
+    setContextMenuPolicy(Qt::NoContextMenu);
+    m_ui->mainToolBar->setVisible(!m_ui->mainToolBar->actions().isEmpty());
+    showMaximized();
+    m_configuration = service<BusinessConfiguration>("Configuration");
+
+    m_ui->tabWidget->setTabsClosable(true);
+    connect(m_ui->tabWidget, &QTabWidget::tabCloseRequested, this, &MainWindow::closeTabX);
+    if (const EntityUser* user = AppContext::instance()->currentUser())
+        m_statusUser->setText(tr("Username: ") + user->getUserName());
+    m_statusUser->setMinimumSize(m_statusUser->sizeHint());
+    setWindowIcon(QIcon(":/icons/Beverage-Coffee-02.png"));
+    setIconSize({48, 48});
+    loadPlugin();
+    buildSidebar();
+    showStartPages();
+    QTimer::singleShot(updateCheckDelay, this, &MainWindow::checkDBUpdate);
+    m_language->fillMenu(m_ui->menuLanguage_2);
+    connect(m_language, &InterfaceLanguage::chosen, this, &MainWindow::slotLanguageChanged);
+    connect(m_language, &InterfaceLanguage::loaded, this, [this](const QString& name) {
+        m_ui->statusBar->showMessage(tr("Current Language changed to %1").arg(name));
+    });
+    new MenuShortcuts(m_ui->menuBar);
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::loadPlugin()
+{
+    if (!m_reports.load(ReportPlugins::folder(QDir(QCoreApplication::applicationDirPath()))))
+        showInfo(tr("Could not load the plugin"));
+    for (const QString& error : m_reports.errors())
+        showInfo(error);
+}
+
+void MainWindow::buildSidebar()
+{
+    m_sidebar = new Sidebar(m_ui->treeWidget);
+    m_sidebar->addMenu(m_ui->menuMaster_Data, ":/icons/Workflow-01-WF.png");
+    m_sidebar->addMenu(m_ui->menuPersediaan, ":/icons/Calendar -01 .png");
+    m_sidebar->addMenu(m_ui->menuPembelia, ":/icons/Shopping-Cart-01.png");
+    m_sidebar->addMenu(m_ui->menuPenjualan, ":/icons/Shopping-Bag.png");
+    m_sidebar->addMenu(m_ui->menuKas, ":/icons/Finance-03.png");
+    m_sidebar->addMenu(m_ui->menuReports, ":/icons/Graph-01.png");
+    m_sidebar->addMenu(m_ui->menuConfiguration, ":/icons/Tools-02.png");
+}
+
+void MainWindow::showStartPages()
+{
+    const AppContext* context = AppContext::instance();
+    // Nobody asked for the dashboard by hand here: where it is not on board, the program starts without a word.
+    const bool showDashboard = context->showDashboard() && m_tabFactories.contains("TabDashboard");
+    if (showDashboard)
+        openTab("TabDashboard");
+    else
+        closeDashboard();
+    m_ui->actionShow_Dashboard->setChecked(showDashboard);
+    m_ui->treeWidget->setVisible(context->showSidebar());
+    m_ui->actionShow_Sidebar->setChecked(context->showSidebar());
+}
+
+void MainWindow::showEvent(QShowEvent* event)
+{
+    QMainWindow::showEvent(event);
+    emit window_loaded();
+}
+
+void MainWindow::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LocaleChange) {
+        m_language->load(InterfaceLanguage::systemCode());
+    } else if (event->type() == QEvent::LanguageChange) {
+        m_ui->retranslateUi(this);
+        m_sidebar->retranslate();
+    }
+    QMainWindow::changeEvent(event);
+}
+
+void MainWindow::slotLanguageChanged(QAction* action)
+{
+    if (!action)
+        return;
+    m_language->load(action->data().toString());
+    setWindowIcon(action->icon());
+}
+
+// Pages
+
+bool MainWindow::openTab(const QString& className)
+{
+    const int open = findPage(className);
+    if (open >= 0) {
+        showPage(open);
+        return false;
+    }
+    const auto factory = m_tabFactories.constFind(className);
+    if (factory == m_tabFactories.constEnd()) {
+        QMessageBox::critical(this, tr("Error"), tr("can not load tab: %1").arg(className));
+        return false;
+    }
+    KorTab* tab = factory.value()();
+    tab->setParent(this);
+    connect(tab, &KorTab::onclose, this, &MainWindow::closeTab);
+    addPage(tab);
+    return true;
+}
+
+void MainWindow::openReport(const QString& reportName)
+{
+    KorTab* tab = m_reports.plugin() ? m_reports.plugin()->createTab(reportName) : nullptr;
+    if (!tab) {
+        QMessageBox::critical(
+            this, tr("Error"),
+            tr("The report can not be shown, because no plug-in with reports is installed: %1").arg(reportName));
+        return;
+    }
+    for (int index = 0; index < m_ui->tabWidget->count(); ++index) {
+        if (m_ui->tabWidget->widget(index)->windowTitle() == tab->windowTitle()) {
+            delete tab;
+            showPage(index);
+            return;
+        }
+    }
+    connect(tab, &KorTab::onclose, this, &MainWindow::closeReportTab);
+    addPage(tab);
+}
+
+void MainWindow::addPage(QWidget* page) { showPage(m_ui->tabWidget->addTab(page, page->windowTitle())); }
+
+void MainWindow::showPage(int index)
+{
+    m_ui->tabWidget->setCurrentIndex(index);
+    m_ui->tabWidget->setFocus(Qt::OtherFocusReason);
+}
+
+int MainWindow::findPage(const QString& className, const QString& title) const
+{
+    for (int index = 0; index < m_ui->tabWidget->count(); ++index) {
+        const QWidget* page = m_ui->tabWidget->widget(index);
+        if (className == QLatin1String(page->metaObject()->className()) &&
+            (title.isNull() || title == page->windowTitle()))
+            return index;
+    }
+    return -1;
+}
+
+void MainWindow::removePage(int index)
+{
+    if (QWidget* page = m_ui->tabWidget->widget(index))
+        page->deleteLater();
+    m_ui->tabWidget->removeTab(index);
+}
+
+void MainWindow::closeTab(QWidget* tab)
+{
+    const int index = findPage(tab->metaObject()->className());
+    if (index >= 0)
+        removePage(index);
+}
+
+void MainWindow::closeReportTab(QWidget* tab)
+{
+    const QString className = tab->metaObject()->className();
+    const QString title = tab->windowTitle();
+    for (int index = findPage(className, title); index >= 0; index = findPage(className, title))
+        removePage(index);
+}
+
+void MainWindow::closeTabX(int index) { removePage(index); }
+
+void MainWindow::closeAllTab()
+{
+    while (m_ui->tabWidget->count() > 0)
+        removePage(0);
+    m_ui->tabWidget->clear();
+}
+
+void MainWindow::closeDashboard()
+{
+    const int index = findPage("TabDashboard");
+    if (index >= 0)
+        removePage(index);
+}
+
+// Actions and commands
+
+void MainWindow::on_actionShow_Sidebar_triggered()
+{
+    const bool show = m_ui->actionShow_Sidebar->isChecked();
+    AppContext::instance()->setShowSidebar(show);
+    m_ui->treeWidget->setVisible(show);
+}
+
+void MainWindow::on_actionShow_Dashboard_triggered()
+{
+    const bool show = m_ui->actionShow_Dashboard->isChecked();
+    AppContext::instance()->setShowDashboard(show);
+    if (show)
+        openTab("TabDashboard");
+    else
+        closeDashboard();
+}
+
+void MainWindow::on_actionConfig_triggered()
+{
+    if (!hasAccess("Configuration", 0))
+        return;
+    ConfigDialog dialog(this);
+    connect(&dialog, &ConfigDialog::onUpdateDBConf, this, &MainWindow::updateDBConfig);
+    connect(&dialog, &ConfigDialog::onCloseAllTab, this, &MainWindow::closeAllTab);
+    dialog.exec();
+}
+
+void MainWindow::on_actionPerusahaan_triggered()
+{
+    if (hasAccess("Company Profile", 0))
+        showNotBuiltYet(tr("Company Profile"));
+}
+
+void MainWindow::on_actionPrinter_Kasir_triggered()
+{
+    if (hasAccess("Printer Config", 0))
+        showNotBuiltYet(tr("Cashier Printer"));
+}
+
+void MainWindow::on_actionBackup_Database_triggered()
+{
+    if (hasAccess("Printer Config", 0))
+        showNotBuiltYet(tr("Database Management"));
+}
+
+void MainWindow::on_actionClear_Transactions_triggered()
+{
+    if (hasAccess("Printer Config", 0))
+        showNotBuiltYet(tr("Clear Transactions"));
+}
+
+void MainWindow::on_actionConverter_triggered()
+{
+    if (hasAccess("Configuration", 0))
+        showNotBuiltYet(tr("Converter"));
+}
+
+void MainWindow::on_actionPrinter_triggered() { DialogPrinter(this).exec(); }
+
+void MainWindow::on_actionAbout_triggered() { DialogAbout(this).exec(); }
+
+void MainWindow::on_callMainWindowCmd(const QString& cmd)
+{
+    static const QHash<QString, void (MainWindow::*)()> commands{
+        {"companyprofile", &MainWindow::on_actionPerusahaan_triggered},
+        {"cashier", &MainWindow::on_actionPrinter_Kasir_triggered},
+        {"kitchenprinter", &MainWindow::on_actionDapur_triggered},
+        {"itemtype", &MainWindow::on_actionJenis_Item_triggered},
+        {"table", &MainWindow::on_actionMeja_triggered},
+        {"unit", &MainWindow::on_actionSatuan_triggered},
+        {"item", &MainWindow::on_actionItem_triggered},
+        {"beginingbalance", &MainWindow::on_actionStok_Awal_triggered},
+        {"cash", &MainWindow::on_actionArus_Kas_triggered},
+        {"salesorder", &MainWindow::on_actionMakan_Ditempat_triggered},
+        {"fastfood", &MainWindow::on_actionFastfood_triggered},
+    };
+    if (const auto command = commands.value(cmd))
+        (this->*command)();
+}
+
+// The database
+
+bool MainWindow::setupDatabase()
+{
+    m_inDatabaseSetup = true;
+    ConfigDialog dialog(this);
+    connect(&dialog, &ConfigDialog::onUpdateDBConf, this, &MainWindow::updateDBConfig);
+    connect(&dialog, &ConfigDialog::onRestart, this, &MainWindow::slotReboot);
+    const int result = dialog.exec();
+    m_inDatabaseSetup = false;
+    return result != 0;
+}
+
+void MainWindow::slotReboot() { QCoreApplication::exit(restartStatus); }
+
+void MainWindow::updateDBConfig()
+{
+    const QString pleaseInstall = tr(".\r\nPlease fill the db connection fields and install the initial data");
+    if (!ConnectionSettings::exists(m_settingsFile)) {
+        showInfo(tr("Can't open settings file: %1").arg(m_settingsFile) + pleaseInstall);
+        return;
+    }
+    const ConnectionSettings settings = ConnectionSettings::read(m_settingsFile);
+    QString reason;
+    if (!changeDatabase(settings, &reason)) {
+        showInfo(tr("Failed open db. Host: %1, dbname: %2, dbuser: %3, dbpass: %4,  port: %5. %6")
+                     .arg(settings.host, settings.database, settings.user, settings.password,
+                          QString::number(settings.port), reason));
+        return;
+    }
+    const bool installed = m_configuration->getConfig("app_version");
+    m_configuration->clearErrors();
+    if (!installed) {
+        showInfo(tr("Table: Config corrupted") + pleaseInstall);
+        return;
+    }
+    AppContext* context = AppContext::instance();
+    const EntityConfigLocalizationFormat* localization = m_configuration->getLocalization();
+    context->setDateFormat(localization->getDateTimeFormat());
+    context->setLocale(localization->getLocale());
+    settings.putIntoContext();
+    // Both switches go to the sidebar, the dashboard's last; the dashboard itself stays as it is.
+    context->setShowSidebar(settings.showSidebar);
+    context->setShowSidebar(settings.showDashboard);
+    if (m_inDatabaseSetup)
+        QMessageBox::information(this, tr("Info"), tr("Connected!"));
+}
+
+void MainWindow::checkDBUpdate() {}
+
+void MainWindow::showInfo(const QString& text) { QMessageBox::information(this, tr("Error"), text); }
+
+void MainWindow::showNotBuiltYet(const QString& what)
+{
+    QMessageBox::information(this, tr("Info"), tr("This version of the program does not have it yet: %1").arg(what));
+}

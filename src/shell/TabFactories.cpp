@@ -1,0 +1,28 @@
+#include "shell/TabFactories.h"
+
+#include "masterdata/agent/TabAgent.h"
+#include "masterdata/bank/TabBank.h"
+#include "masterdata/employee/TabEmployee.h"
+#include "masterdata/jenisitem/TabJenisItem.h"
+#include "masterdata/meja/TabMeja.h"
+#include "masterdata/member/TabMember.h"
+#include "masterdata/satuan/TabSatuan.h"
+#include "masterdata/supplier/TabSupplier.h"
+
+namespace
+{
+template <class Tab>
+KorTab* make()
+{
+    return new Tab;
+}
+} // namespace
+
+TabFactories allTabFactories()
+{
+    return {
+        {"TabAgent", make<TabAgent>},         {"TabBank", make<TabBank>},         {"TabEmployee", make<TabEmployee>},
+        {"TabJenisItem", make<TabJenisItem>}, {"TabMeja", make<TabMeja>},         {"TabMember", make<TabMember>},
+        {"TabSatuan", make<TabSatuan>},       {"TabSupplier", make<TabSupplier>},
+    };
+}

@@ -1,0 +1,115 @@
+#include "shell/ZavelApplication.h"
+
+#include "app/configuration/BusinessConfiguration.h"
+#include "app/context/AppContext.h"
+#include "app/context/ConnectionSettings.h"
+#include "app/context/DatabaseManager.h"
+#include "kor/business/KorServiceDirectory.h"
+#include "registry/zavel/ZavelBusinessRegistry.h"
+#include "shell/ConfigDialog.h"
+#include "shell/HouseStyle.h"
+#include "shell/MainWindow.h"
+
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QSplashScreen>
+
+namespace
+{
+/** These attributes hold only when they are set before the application object exists. */
+int& sharpOnDenseScreens(int& argc)
+{
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    return argc;
+}
+} // namespace
+
+ZavelApplication::ZavelApplication(int& argc, char** argv)
+    : QApplication(sharpOnDenseScreens(argc), argv), m_dataDir(QFileInfo(ConnectionSettings::defaultPath()).path())
+{
+    HouseStyle::apply(*this);
+    m_dataDir.mkpath(".");
+    auto* logger = new KorLogger(this, m_dataDir.filePath("zavel.log"));
+    logger->log(tr("Application Started"));
+    AppContext::instance()->setLogger(logger);
+}
+
+bool ZavelApplication::hasSettingsFile()
+{
+    m_settingsPath = m_dataDir.filePath("settings.ini");
+    return ConnectionSettings::exists(m_settingsPath);
+}
+
+bool ZavelApplication::openDatabase()
+{
+    const ConnectionSettings settings = ConnectionSettings::read(m_settingsPath);
+    AppContext* context = AppContext::instance();
+    if (!context->databaseManager()->open(settings.host, settings.database, settings.user, settings.password,
+                                          settings.port)) {
+        QMessageBox::information(nullptr, tr("Error"),
+                                 tr("Failed to open the database using this configuration:\r\nHost: %1, DB Name: %2, "
+                                    "DB User: %3, DB Password: %4, Port: %5")
+                                     .arg(settings.host, settings.database, settings.user, settings.password,
+                                          QString::number(settings.port)));
+        return false;
+    }
+
+    auto* configuration = service<BusinessConfiguration>("Configuration");
+    const bool installed = configuration->getConfig("app_version");
+    configuration->clearErrors();
+    if (!installed) {
+        QMessageBox::critical(nullptr, tr("Error"),
+                              tr("Table: Config corrupted") + tr(".\r\nPlease install the initial data"));
+        return false;
+    }
+    const EntityConfigLocalizationFormat* localization = configuration->getLocalization();
+    context->setDateFormat(localization->getDateTimeFormat());
+    context->setLocale(localization->getLocale());
+    settings.putIntoContext();
+    context->setShowDashboard(settings.showDashboard);
+    context->setShowSidebar(settings.showSidebar);
+    return true;
+}
+
+void ZavelApplication::reconnect()
+{
+    m_connected = openDatabase();
+    if (m_connected)
+        QMessageBox::information(nullptr, tr("Success"), tr("Successfully connected to the database."));
+}
+
+int ZavelApplication::run()
+{
+    AppContext::instance()->setDatabaseManager(new DatabaseManager);
+    ZavelBusinessRegistry::instance();
+    // Without settings there is nothing to try: the configuration dialog asks for them.
+    m_connected = hasSettingsFile() && openDatabase();
+    return runConfiguration() ? runMainWindow() : 0;
+}
+
+bool ZavelApplication::runConfiguration()
+{
+    ConfigDialog dialog;
+    dialog.setReconnect([this] { reconnect(); });
+    while (!m_connected) {
+        if (dialog.exec() == QDialog::Rejected && !m_connected)
+            return false;
+    }
+    return true;
+}
+
+int ZavelApplication::runMainWindow()
+{
+    const QPixmap picture(":/images/logo.png");
+    QSplashScreen splash(picture);
+    splash.show();
+    processEvents();
+    MainWindow window;
+    AppContext::instance()->setMainWindow(&window);
+    window.setSettingsFile(m_settingsPath);
+    window.show();
+    processEvents();
+    splash.finish(&window);
+    return exec();
+}
