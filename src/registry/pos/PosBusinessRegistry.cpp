@@ -1,6 +1,8 @@
 #include "registry/pos/PosBusinessRegistry.h"
 
 #include "app/context/AppContext.h"
+#include "cash/accounting/BusinessAccountingTransaction.h"
+#include "cash/cashflow/BusinessCashFlow.h"
 #include "inventory/stock/BusinessInventory.h"
 #include "inventory/stock/BusinessStokAwal.h"
 #include "masterdata/agent/BusinessAgent.h"
@@ -14,6 +16,10 @@
 #include "masterdata/satuan/BusinessSatuan.h"
 #include "masterdata/supplier/BusinessSupplier.h"
 #include "printing/printer/BusinessPrinterType.h"
+#include "purchasing/acquisition/BusinessPurchases.h"
+#include "purchasing/creditnote/BusinessCreditNote.h"
+#include "purchasing/payment/BusinessPayment.h"
+#include "purchasing/purchaseorder/BusinessPurchaseOrder.h"
 #include "registry/app/AppBusinessRegistry.h"
 #include "registry/pos/PosMapperRegistry.h"
 
@@ -30,19 +36,25 @@ PosBusinessRegistry::PosBusinessRegistry(QObject* parent)
 {
     const PosMapperRegistry* mappers = PosMapperRegistry::instance();
     AppBusinessRegistry::instance();
+    make<BusinessAccountingTransaction>(mappers->accountingTransactionMapper());
     make<BusinessBank>(mappers->bankMapper());
     make<BusinessAgent>(mappers->agentMapper());
     make<BusinessSupplier>(mappers->supplierMapper());
     make<BusinessPrinterType>(mappers->printerTypeMapper());
     make<BusinessDataPerusahaan>(mappers->dataPerusahaanMapper(), mappers->imagesMapper());
+    make<BusinessPurchases>(mappers->acquisitionMapper());
+    make<BusinessCreditNote>(mappers->creditNoteMapper());
     make<BusinessGroupedItem>(mappers->groupedItemMapper());
     make<BusinessInventory>(mappers->stockTakeMapper(), mappers->stokAwalMapper(), mappers->itemHistoryMapper());
     make<BusinessItem>(mappers->itemMapper(), mappers->groupedItemMapper(), mappers->stokAwalMapper());
     make<BusinessJenisItem>(mappers->jenisItemMapper());
     make<BusinessMember>(mappers->memberMapper());
+    make<BusinessPurchaseOrder>(mappers->purchaseOrderMapper());
+    make<BusinessPayment>(mappers->paymentMapper());
     make<BusinessSatuan>(mappers->satuanMapper());
     make<BusinessStokAwal>(mappers->stokAwalMapper());
     make<BusinessEmployee>(mappers->employeeMapper());
+    make<BusinessCashFlow>(mappers->cashFlowMapper());
 }
 
 BusinessBank* PosBusinessRegistry::bank() const { return typed<BusinessBank>("Bank"); }
@@ -73,3 +85,21 @@ BusinessSatuan* PosBusinessRegistry::satuan() const { return typed<BusinessSatua
 BusinessStokAwal* PosBusinessRegistry::stokAwal() const { return typed<BusinessStokAwal>("Beginning Balance"); }
 
 BusinessEmployee* PosBusinessRegistry::employee() const { return typed<BusinessEmployee>("Employee"); }
+
+BusinessAccountingTransaction* PosBusinessRegistry::accountingTransaction() const
+{
+    return typed<BusinessAccountingTransaction>("Accounting Transaction");
+}
+
+BusinessPurchases* PosBusinessRegistry::purchases() const { return typed<BusinessPurchases>("Purchases"); }
+
+BusinessCreditNote* PosBusinessRegistry::creditNote() const { return typed<BusinessCreditNote>("Credit Note"); }
+
+BusinessPurchaseOrder* PosBusinessRegistry::purchaseOrder() const
+{
+    return typed<BusinessPurchaseOrder>("Purchase Order");
+}
+
+BusinessPayment* PosBusinessRegistry::payment() const { return typed<BusinessPayment>("Payment"); }
+
+BusinessCashFlow* PosBusinessRegistry::cashFlow() const { return typed<BusinessCashFlow>("Journal Transaction"); }

@@ -2,8 +2,11 @@
 
 #include "kor/business/KorBusinessRegistry.h"
 
+class BusinessAccountingTransaction;
 class BusinessAgent;
 class BusinessBank;
+class BusinessCashFlow;
+class BusinessCreditNote;
 class BusinessDataPerusahaan;
 class BusinessEmployee;
 class BusinessGroupedItem;
@@ -11,7 +14,10 @@ class BusinessInventory;
 class BusinessItem;
 class BusinessJenisItem;
 class BusinessMember;
+class BusinessPayment;
 class BusinessPrinterType;
+class BusinessPurchaseOrder;
+class BusinessPurchases;
 class BusinessSatuan;
 class BusinessStokAwal;
 class BusinessSupplier;
@@ -37,6 +43,12 @@ public:
     [[nodiscard]] BusinessSatuan* satuan() const;
     [[nodiscard]] BusinessStokAwal* stokAwal() const;
     [[nodiscard]] BusinessEmployee* employee() const;
+    [[nodiscard]] BusinessAccountingTransaction* accountingTransaction() const;
+    [[nodiscard]] BusinessPurchases* purchases() const;
+    [[nodiscard]] BusinessCreditNote* creditNote() const;
+    [[nodiscard]] BusinessPurchaseOrder* purchaseOrder() const;
+    [[nodiscard]] BusinessPayment* payment() const;
+    [[nodiscard]] BusinessCashFlow* cashFlow() const;
 
 private:
     explicit PosBusinessRegistry(QObject* parent);

@@ -1,6 +1,8 @@
 #include "registry/pos/PosMapperRegistry.h"
 
 #include "app/context/AppContext.h"
+#include "cash/accounting/DataMapperAccountingTransaction.h"
+#include "cash/cashflow/DataMapperCashFlow.h"
 #include "inventory/stock/DataMapperItemHistory.h"
 #include "inventory/stock/DataMapperStockTake.h"
 #include "inventory/stock/DataMapperStokAwal.h"
@@ -16,6 +18,10 @@
 #include "masterdata/satuan/DataMapperSatuan.h"
 #include "masterdata/supplier/DataMapperSupplier.h"
 #include "printing/printer/DataMapperPrinterType.h"
+#include "purchasing/acquisition/DataMapperAcquisition.h"
+#include "purchasing/creditnote/DataMapperCreditNote.h"
+#include "purchasing/payment/DataMapperPayment.h"
+#include "purchasing/purchaseorder/DataMapperPurchaseOrder.h"
 #include "registry/app/AppMapperRegistry.h"
 
 PosMapperRegistry* PosMapperRegistry::instance()
@@ -28,7 +34,7 @@ PosMapperRegistry* PosMapperRegistry::instance()
 
 PosMapperRegistry::PosMapperRegistry(QObject* parent) : KorMapperRegistry(parent)
 {
-    AppMapperRegistry::instance();
+    const AppMapperRegistry* app = AppMapperRegistry::instance();
     make<DataMapperSatuan>();
     make<DataMapperImages>();
     make<DataMapperBank>();
@@ -40,10 +46,17 @@ PosMapperRegistry::PosMapperRegistry(QObject* parent) : KorMapperRegistry(parent
     make<DataMapperSupplier>(bankMapper());
     make<DataMapperAgent>(bankMapper());
     make<DataMapperItem>(jenisItemMapper(), satuanMapper(), bankMapper());
+    const ItemPartners lines{itemMapper(), jenisItemMapper(), satuanMapper()};
+    make<DataMapperPurchaseOrder>(app->key(), supplierMapper(), bankMapper(), lines);
+    make<DataMapperAcquisition>(app->key(), supplierMapper(), bankMapper(), purchaseOrderMapper(), lines);
+    make<DataMapperCreditNote>(app->key(), supplierMapper(), bankMapper(), lines);
     make<DataMapperGroupedItem>(itemMapper());
     make<DataMapperStockTake>(itemMapper(), jenisItemMapper(), satuanMapper(), bankMapper());
     make<DataMapperItemHistory>(itemMapper(), jenisItemMapper(), satuanMapper());
     make<DataMapperStokAwal>(itemMapper(), satuanMapper());
+    make<DataMapperPayment>(app->key(), supplierMapper(), bankMapper(), acquisitionMapper(), lines);
+    make<DataMapperCashFlow>(app->key());
+    make<DataMapperAccountingTransaction>(app->key(), bankMapper(), app->user(), app->userGroup());
 }
 
 DataMapperSatuan* PosMapperRegistry::satuanMapper() const { return typed<DataMapperSatuan>("satuan"); }
@@ -87,3 +100,24 @@ DataMapperItemHistory* PosMapperRegistry::itemHistoryMapper() const
 }
 
 DataMapperStokAwal* PosMapperRegistry::stokAwalMapper() const { return typed<DataMapperStokAwal>("stok awal"); }
+
+DataMapperPurchaseOrder* PosMapperRegistry::purchaseOrderMapper() const
+{
+    return typed<DataMapperPurchaseOrder>("purchase order");
+}
+
+DataMapperAcquisition* PosMapperRegistry::acquisitionMapper() const
+{
+    return typed<DataMapperAcquisition>("acquisition");
+}
+
+DataMapperCreditNote* PosMapperRegistry::creditNoteMapper() const { return typed<DataMapperCreditNote>("credit note"); }
+
+DataMapperPayment* PosMapperRegistry::paymentMapper() const { return typed<DataMapperPayment>("payment"); }
+
+DataMapperCashFlow* PosMapperRegistry::cashFlowMapper() const { return typed<DataMapperCashFlow>("cash flow"); }
+
+DataMapperAccountingTransaction* PosMapperRegistry::accountingTransactionMapper() const
+{
+    return typed<DataMapperAccountingTransaction>("Accounting Transaction");
+}

@@ -2,8 +2,12 @@
 
 #include "kor/business/KorMapperRegistry.h"
 
+class DataMapperAccountingTransaction;
+class DataMapperAcquisition;
 class DataMapperAgent;
 class DataMapperBank;
+class DataMapperCashFlow;
+class DataMapperCreditNote;
 class DataMapperDataPerusahaan;
 class DataMapperEmployee;
 class DataMapperGroupedItem;
@@ -12,7 +16,9 @@ class DataMapperItem;
 class DataMapperItemHistory;
 class DataMapperJenisItem;
 class DataMapperMember;
+class DataMapperPayment;
 class DataMapperPrinterType;
+class DataMapperPurchaseOrder;
 class DataMapperSatuan;
 class DataMapperStockTake;
 class DataMapperStokAwal;
@@ -41,6 +47,12 @@ public:
     [[nodiscard]] DataMapperStockTake* stockTakeMapper() const;
     [[nodiscard]] DataMapperItemHistory* itemHistoryMapper() const;
     [[nodiscard]] DataMapperStokAwal* stokAwalMapper() const;
+    [[nodiscard]] DataMapperPurchaseOrder* purchaseOrderMapper() const;
+    [[nodiscard]] DataMapperAcquisition* acquisitionMapper() const;
+    [[nodiscard]] DataMapperCreditNote* creditNoteMapper() const;
+    [[nodiscard]] DataMapperPayment* paymentMapper() const;
+    [[nodiscard]] DataMapperCashFlow* cashFlowMapper() const;
+    [[nodiscard]] DataMapperAccountingTransaction* accountingTransactionMapper() const;
 
 private:
     explicit PosMapperRegistry(QObject* parent);

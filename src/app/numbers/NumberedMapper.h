@@ -1,0 +1,61 @@
+#pragma once
+
+#include "app/numbers/DocumentNumber.h"
+#include "app/persistence/AppDocumentLines.h"
+#include "kor/persistence/KorDatabase.h"
+
+/** A mapper, on top of the base that it would have without, whose records take a running number at their insert. */
+template <class Base>
+class NumberedMapper : public Base
+{
+public:
+    NumberedMapper(QObject* parent, DataMapperKey* keys) : Base(parent), m_keys(keys) {}
+
+    /** The name of the running number. */
+    [[nodiscard]] virtual QString keyName() const = 0;
+    /** Null where no number could be drawn; the mapper's error then says why. */
+    [[nodiscard]] QString nextNo()
+    {
+        QString error;
+        const QString number = drawNumber(m_keys, keyName(), &error);
+        if (number.isNull())
+            this->setError(error);
+        return number;
+    }
+
+private:
+    DataMapperKey* m_keys;
+};
+
+/** A numbered document with lines: the number is drawn in the document's transaction and goes back with it. */
+template <class Document, class Base = AppLinedDocumentMapper<Document>>
+class NumberedDocumentMapper : public NumberedMapper<Base>
+{
+public:
+    using NumberedMapper<Base>::NumberedMapper;
+
+protected:
+    bool beforeInsert(KorEntity* document) override
+    {
+        const QString number = this->nextNo();
+        static_cast<Document*>(document)->setNo(number);
+        return !number.isNull();
+    }
+};
+
+/** A numbered record without lines, with its number in TransNo. */
+template <class Entry>
+class NumberedEntryMapper : public NumberedMapper<AppDataMapper>
+{
+public:
+    using NumberedMapper<AppDataMapper>::NumberedMapper;
+
+    bool insert(KorEntity* entity) override
+    {
+        // In one transaction, so that an entry that fails gives its number back.
+        KorTransaction transaction;
+        const QString number = nextNo();
+        static_cast<Entry*>(entity)->setTransNo(number);
+        return !number.isNull() && AppDataMapper::insert(entity) && transaction.commit();
+    }
+};

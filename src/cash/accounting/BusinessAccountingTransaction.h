@@ -1,0 +1,20 @@
+#pragma once
+
+#include "kor/business/KorBusinessLogic.h"
+
+class DataMapperAccountingTransaction;
+
+/** The service of transfers between accounts. */
+class BusinessAccountingTransaction final : public KorBusinessLogic
+{
+    Q_OBJECT
+
+public:
+    enum PERMISSIONS { CREATE_TRANS, UPDATE_TRANS, DELETE_TRANS };
+    Q_ENUM(PERMISSIONS)
+
+    BusinessAccountingTransaction(QObject* parent, DataMapperAccountingTransaction* transfers);
+
+    [[nodiscard]] QList<KorPermission> getPermissions() const override;
+    bool clearTransactions() override;
+};

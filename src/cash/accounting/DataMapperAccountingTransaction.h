@@ -1,0 +1,22 @@
+#pragma once
+
+#include "app/numbers/NumberedMapper.h"
+#include "cash/accounting/EntityAccountingTransaction.h"
+
+class DataMapperBank;
+class DataMapperUser;
+class DataMapperUserGroup;
+
+/** Transfers between accounts, in the table "accounting_trans". */
+class DataMapperAccountingTransaction final : public NumberedEntryMapper<EntityAccountingTransaction>
+{
+    Q_OBJECT
+
+public:
+    DataMapperAccountingTransaction(QObject* parent, DataMapperKey* keys, DataMapperBank* accounts,
+                                    DataMapperUser* users, DataMapperUserGroup* groups);
+
+    [[nodiscard]] QString keyName() const override { return "TR"; }
+    KorEntity* createEntity() override;
+    [[nodiscard]] QStringList indexStatements() const override;
+};

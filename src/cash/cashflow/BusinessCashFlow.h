@@ -1,0 +1,20 @@
+#pragma once
+
+#include "kor/business/KorBusinessLogic.h"
+
+class DataMapperCashFlow;
+
+/** The service of the ledger and its manual entries. The screens count its rights from 1. */
+class BusinessCashFlow final : public KorBusinessLogic
+{
+    Q_OBJECT
+
+public:
+    enum PERMISSIONS { INSERT_CASH_FLOW = 1, UPDATE_CASH_FLOW, DELETE_CASH_FLOW };
+    Q_ENUM(PERMISSIONS)
+
+    BusinessCashFlow(QObject* parent, DataMapperCashFlow* entries);
+
+    [[nodiscard]] QList<KorPermission> getPermissions() const override;
+    bool clearTransactions() override;
+};

@@ -1,0 +1,24 @@
+#include "masterdata/itemline/ItemLineMapper.h"
+
+#include "masterdata/item/DataMapperItem.h"
+#include "masterdata/jenisitem/DataMapperJenisItem.h"
+#include "masterdata/satuan/DataMapperSatuan.h"
+
+void ItemLineMapper::documentColumn(const QString& name, const QString& property, KorDataMapper* document)
+{
+    column(name, "integer not null", property);
+    addJoin(property, document, "inner", name, "id");
+}
+
+void ItemLineMapper::itemColumn(const ItemPartners& partners)
+{
+    reference("item_id", "integer not null", "Item", partners.items, "inner");
+    addJoin("Jenis", partners.types, "inner", "item.jenis", "id");
+    addJoin("Satuan", partners.units, "inner", "item.satuan", "id");
+}
+
+QStringList ItemLineMapper::lineIndexes(const QString& documentColumn, const QString& quantityColumn) const
+{
+    return {index(documentColumn, '(' + documentColumn + ')'),
+            index("item", "(item_id, " + documentColumn + ") INCLUDE (" + quantityColumn + ')')};
+}

@@ -1,0 +1,65 @@
+#include "purchasing/acquisition/DataMapperAcquisition.h"
+
+#include "kor/entity/KorMetaDataMap.h"
+#include "masterdata/bank/DataMapperBank.h"
+#include "masterdata/supplier/DataMapperSupplier.h"
+#include "purchasing/acquisition/DataMapperAcquisitionDetail.h"
+#include "purchasing/acquisition/DataMapperAcquisitionMigration11.h"
+#include "purchasing/purchaseorder/DataMapperPurchaseOrder.h"
+
+DataMapperAcquisition::DataMapperAcquisition(QObject* parent, DataMapperKey* keys, DataMapperSupplier* suppliers,
+                                             DataMapperBank* accounts, DataMapperPurchaseOrder* orders,
+                                             ItemPartners partners)
+    : NumberedDocumentMapper(parent, keys)
+{
+    setName("acquisition");
+    metaData()->setTableName("acquisition");
+    column("purchase_date", "date not null", "PurchaseDate");
+    column("due_date", "date not null", "DueDate");
+    column("note", "text null", "Note");
+    reference("supplier_id", "integer not null", "Supplier", suppliers, "inner");
+    column("no", "varchar(50) not null", "No");
+    column("invoice_no", "varchar(100) null", "InvoiceNo");
+    column("waiting_bill", "boolean not NULL", "IsWaitingOnBill");
+    column("apply_to_po", "boolean not NULL", "IsApplyToPurchaseOrder");
+    column("po_id", "integer null", "PurchaseOrderId");
+    moneyColumns("sub_total", "Subtotal");
+    column("disc_perc", "numeric not NULL", "DiscountPercentage");
+    moneyColumns("discount", "Discount");
+    column("tax_perc", "numeric not NULL", "TaxPercentage");
+    moneyColumns("tax", "Tax");
+    moneyColumns("grandtotal", "GrandTotal");
+    moneyColumns("amount_paid", "AmountPaid");
+    moneyColumns("net_due", "NetDue");
+    moneyColumns("other_payment", "OtherPayment");
+    column("status", "integer not NULL", "Status");
+    reference("bank_id", "integer null", "Bank", accounts, "left");
+    addJoin("PurchaseOrder", orders, "left", "po_id", "id");
+    m_lines = new DataMapperAcquisitionDetail(this, orders->lineMapper(), partners);
+}
+
+KorEntity* DataMapperAcquisition::createEntity() { return new EntityAcquisition(entityParent()); }
+
+QStringList DataMapperAcquisition::indexStatements() const
+{
+    return {index("date", "(purchase_date)"), index("open_supplier", "(supplier_id) WHERE status <> 1"),
+            index("no", "(no)"), index("bank", "(bank_id)"), index("order", "(po_id)")};
+}
+
+QList<KorMigration*> DataMapperAcquisition::migrations() { return {new DataMapperAcquisitionMigration11(this)}; }
+
+const AppDocumentMapper::Messages& DataMapperAcquisition::messages() const
+{
+    static const Messages texts{tr("error: insert Purchase failed"),
+                                tr("error: insert Purchase detail failed.\r\n"),
+                                tr("error: update acquisition failed"),
+                                tr("error: update acquisition detail failed\r\n"),
+                                {},
+                                {}};
+    return texts;
+}
+
+void DataMapperAcquisition::attachLine(KorEntity* line, int documentId)
+{
+    static_cast<EntityAcquisitionDetail*>(line)->setAcquisitionId(documentId);
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "kor/persistence/KorMigration.h"
+
+/**
+ * Ties the purchases of an older database to their orders. A database made by this program has the constraint from the
+ * beginning, and there the migration reports that it exists.
+ */
+class DataMapperAcquisitionMigration11 final : public KorMigration
+{
+    Q_OBJECT
+
+public:
+    using KorMigration::KorMigration;
+
+    bool up() override
+    {
+        const bool cleaned = run({"UPDATE acquisition SET po_id = NULL WHERE po_id=0;"});
+        return addForeignKey("acquisition", "acquisition_po_id_fkey", "po_id", "purchase_order", "id") && cleaned;
+    }
+    void down() override {}
+    [[nodiscard]] QString description() const override
+    {
+        return tr("add constraint foreign key po_id with table purchase_order");
+    }
+    [[nodiscard]] double version() const override { return 1.1; }
+};

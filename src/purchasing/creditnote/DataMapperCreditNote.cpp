@@ -1,0 +1,54 @@
+#include "purchasing/creditnote/DataMapperCreditNote.h"
+
+#include "kor/entity/KorMetaDataMap.h"
+#include "masterdata/bank/DataMapperBank.h"
+#include "masterdata/supplier/DataMapperSupplier.h"
+#include "purchasing/creditnote/DataMapperCreditNoteDetail.h"
+
+DataMapperCreditNote::DataMapperCreditNote(QObject* parent, DataMapperKey* keys, DataMapperSupplier* suppliers,
+                                           DataMapperBank* accounts, ItemPartners partners)
+    : NumberedDocumentMapper(parent, keys)
+{
+    setName("credit note");
+    metaData()->setTableName("credit_note");
+    column("credit_note_date", "date not null", "Date");
+    column("note", "text null", "Note");
+    reference("supplier_id", "integer not null", "Supplier", suppliers, "inner");
+    column("no", "varchar(50) not null", "No");
+    column("apply_to_invoice", "boolean not NULL", "IsApplyToInvoice");
+    column("acquisition_id", "integer null", "AcquisitionId");
+    moneyColumns("sub_total", "Subtotal");
+    column("disc_perc", "numeric not NULL", "DiscountPercentage");
+    moneyColumns("discount", "Discount");
+    moneyColumns("grandtotal", "GrandTotal");
+    moneyColumns("amount_paid", "AmountPaid");
+    moneyColumns("change", "Change");
+    column("status", "integer not NULL", "Status");
+    // An inner join on a column that may be empty: a note without an account is not read back; the form requires one.
+    reference("bank_id", "integer null", "Bank", accounts, "inner");
+    m_lines = new DataMapperCreditNoteDetail(this, partners);
+}
+
+KorEntity* DataMapperCreditNote::createEntity() { return new EntityCreditNote(entityParent()); }
+
+QStringList DataMapperCreditNote::indexStatements() const
+{
+    return {index("date", "(credit_note_date)"), index("acquisition", "(acquisition_id)"),
+            index("supplier", "(supplier_id)"), index("bank", "(bank_id)")};
+}
+
+const AppDocumentMapper::Messages& DataMapperCreditNote::messages() const
+{
+    static const Messages texts{tr("error: insert credit note failed"),
+                                tr("error: insert credit note detail failed.\r\n"),
+                                tr("error: update credit note failed"),
+                                tr("error: update credit note detail failed\r\n"),
+                                {},
+                                {}};
+    return texts;
+}
+
+void DataMapperCreditNote::attachLine(KorEntity* line, int documentId)
+{
+    static_cast<EntityCreditNoteDetail*>(line)->setCreditNoteId(documentId);
+}

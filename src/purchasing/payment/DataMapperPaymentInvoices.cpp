@@ -1,0 +1,27 @@
+#include "purchasing/payment/DataMapperPaymentInvoices.h"
+
+#include "kor/entity/KorMetaDataMap.h"
+#include "masterdata/bank/DataMapperBank.h"
+#include "purchasing/acquisition/DataMapperAcquisition.h"
+#include "purchasing/payment/DataMapperPayment.h"
+
+DataMapperPaymentInvoices::DataMapperPaymentInvoices(DataMapperPayment* payments, DataMapperAcquisition* purchases,
+                                                     DataMapperBank* accounts)
+    : AppDataMapper(payments)
+{
+    setName("payment invoice");
+    metaData()->setTableName("payment_invoice");
+    column("payment_id", "integer not null", "PaymentId");
+    addJoin("PaymentId", payments, "inner", "payment_id", "id");
+    reference("acquisition_id", "integer not null", "Acquisition", purchases, "inner");
+    addJoin("Bank", accounts, "left", "acquisition.bank_id", "id");
+    moneyColumns("amount_paid", "AmountPaid");
+    moneyColumns("amount_due", "AmountDue");
+}
+
+KorEntity* DataMapperPaymentInvoices::createEntity() { return new EntityPaymentInvoices(entityParent()); }
+
+QStringList DataMapperPaymentInvoices::indexStatements() const
+{
+    return {index("payment", "(payment_id)"), index("acquisition", "(acquisition_id)")};
+}

@@ -1,0 +1,53 @@
+#include "purchasing/purchaseorder/DataMapperPurchaseOrder.h"
+
+#include "kor/entity/KorMetaDataMap.h"
+#include "masterdata/bank/DataMapperBank.h"
+#include "masterdata/supplier/DataMapperSupplier.h"
+#include "purchasing/purchaseorder/DataMapperPurchaseOrderDetail.h"
+
+DataMapperPurchaseOrder::DataMapperPurchaseOrder(QObject* parent, DataMapperKey* keys, DataMapperSupplier* suppliers,
+                                                 DataMapperBank* accounts, ItemPartners partners)
+    : NumberedDocumentMapper(parent, keys)
+{
+    setName("purchase order");
+    metaData()->setTableName("purchase_order");
+    column("no", "varchar(50) not null", "No");
+    column("purchase_date", "timestamp not NULL", "Date");
+    reference("supplier_id", "integer not NULL", "Supplier", suppliers, "inner");
+    column("status_id", "integer not NULL", "Status");
+    column("ship_date", "timestamp not NULL", "ShipDate");
+    moneyColumns("deposit", "Deposit");
+    moneyColumns("sub_total", "SubTotal");
+    column("disc_perc", "numeric not NULL", "DiscountPercentage");
+    moneyColumns("discount", "Discount");
+    column("tax_perc", "numeric not NULL", "TaxPercentage");
+    moneyColumns("tax", "Tax");
+    moneyColumns("grandtotal", "GrandTotal");
+    column("note", "text NULL", "Note");
+    reference("bank_id", "integer null", "Bank", accounts, "left");
+    column("norek", "varchar(20)  null", "NoRek");
+    m_lines = new DataMapperPurchaseOrderDetail(this, partners);
+}
+
+KorEntity* DataMapperPurchaseOrder::createEntity() { return new EntityPurchaseOrder(entityParent()); }
+
+QStringList DataMapperPurchaseOrder::indexStatements() const
+{
+    return {index("date", "(purchase_date)"), index("supplier", "(supplier_id)"), index("bank", "(bank_id)")};
+}
+
+const AppDocumentMapper::Messages& DataMapperPurchaseOrder::messages() const
+{
+    static const Messages texts{tr("error: insert PO failed"),
+                                tr("error: insert PO detail failed"),
+                                tr("error: update PO failed"),
+                                tr("error: update PO detail failed"),
+                                {},
+                                {}};
+    return texts;
+}
+
+void DataMapperPurchaseOrder::attachLine(KorEntity* line, int documentId)
+{
+    static_cast<EntityPurchaseOrderDetail*>(line)->setPurchaseOrderId(documentId);
+}
