@@ -1,0 +1,272 @@
+#include "app/persistence/AppMasterMapper.h"
+#include "kor/business/KorServiceDirectory.h"
+#include "kor/entity/KorEntity.h"
+#include "kor/entity/KorMetaDataMap.h"
+#include "masterdata/agent/DataMapperAgent.h"
+#include "masterdata/bank/BusinessBank.h"
+#include "masterdata/supplier/BusinessSupplier.h"
+#include "registry/pos/PosMapperRegistry.h"
+#include "support/MasterFamilies.h"
+#include "support/TestDatabase.h"
+
+#include <QDate>
+#include <QTest>
+
+#include <algorithm>
+
+namespace
+{
+/** A value that fits the column and differs from round to round. */
+QVariant sample(const QString& column, QVariant::Type type, int round)
+{
+    switch (type) {
+    case QVariant::Int:
+        return round;
+    case QVariant::Double:
+        return 12.5 + round;
+    case QVariant::Bool:
+        return round % 2 == 0;
+    case QVariant::Date:
+        return QDate(2026, 2, 28).addDays(round);
+    default:
+        return column.left(12) + "'%" + QString::number(round);
+    }
+}
+
+/** The record's own columns; what points at a partner has a test of its own. */
+QList<KorColumnMap*> ownColumns(const MasterFamily& family)
+{
+    QList<KorColumnMap*> columns = family.mapper()->metaData()->columns();
+    columns.erase(std::remove_if(columns.begin(), columns.end(),
+                                 [](const KorColumnMap* column) { return column->propertyPath().contains('.'); }),
+                  columns.end());
+    return columns;
+}
+
+void write(const MasterFamily& family, KorEntity* record, int round)
+{
+    for (const KorColumnMap* column : ownColumns(family)) {
+        const QVariant now = record->property(column->propertyPathUtf8());
+        record->setProperty(column->propertyPathUtf8(), sample(column->columnName(), now.type(), round));
+    }
+}
+
+bool holds(const MasterFamily& family, const KorEntity* record, int round)
+{
+    for (const KorColumnMap* column : ownColumns(family)) {
+        const QVariant value = record->property(column->propertyPathUtf8());
+        if (value != sample(column->columnName(), value.type(), round)) {
+            qWarning() << column->columnName() << "is" << value;
+            return false;
+        }
+    }
+    return true;
+}
+
+QStringList names(const QList<KorEntity*>& records)
+{
+    QStringList result;
+    for (const KorEntity* record : records)
+        result.append(record->property("Nama").toString());
+    return result;
+}
+} // namespace
+
+/** What the restaurant expects of everything that it keeps under a code and a name. */
+class TestMasterMappers : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        m_database = std::make_unique<TestDatabase>();
+        loginAsAdmin();
+    }
+    void cleanupTestCase() { m_database.reset(); }
+    void init()
+    {
+        for (const MasterFamily& family : masterFamilies())
+            m_database->run("TRUNCATE " + family.table + " CASCADE");
+    }
+
+    void everyFieldIsKeptAndChanged_data() { addFamilyRows(); }
+    void everyFieldIsKeptAndChanged()
+    {
+        const MasterFamily& family = currentFamily();
+        AppMasterMapper* mapper = family.mapper();
+        const std::unique_ptr<KorEntity> record(mapper->createEntity());
+        write(family, record.get(), 1);
+        QVERIFY2(mapper->insert(record.get()), qPrintable(mapper->takeError()));
+
+        KorEntity* found = mapper->findById(record->getId());
+        QVERIFY(found);
+        QVERIFY(holds(family, found, 1));
+        QCOMPARE(found->getCreatedBy(), 1);
+
+        write(family, found, 2);
+        QVERIFY2(mapper->update(found), qPrintable(mapper->takeError()));
+        const KorEntity* changed = mapper->findById(record->getId());
+        QVERIFY(holds(family, changed, 2));
+        QCOMPARE(changed->getVersion(), 2);
+        QCOMPARE(changed->getUpdatedBy(), 1);
+    }
+
+    void theSlowerOfTwoWorkstationsIsTold_data() { addFamilyRows(); }
+    void theSlowerOfTwoWorkstationsIsTold()
+    {
+        const MasterFamily& family = currentFamily();
+        AppMasterMapper* mapper = family.mapper();
+        KorEntity* record = saved("a", "Anything");
+        m_database->run("UPDATE " + family.table + " SET version = 2, updatedby = 9, updatedtime = now()");
+        const QString told =
+            QString("Table: %1 has been updated by user id: %2  at: 9").arg(family.table).arg(record->getId());
+        QVERIFY(!mapper->update(record));
+        QCOMPARE(mapper->takeError(), told);
+        QVERIFY(!mapper->remove(record));
+        QCOMPARE(mapper->takeError(), told);
+
+        KorEntity* fresh = mapper->findById(record->getId());
+        QVERIFY(mapper->remove(fresh));
+        QVERIFY(!mapper->findById(record->getId()));
+        QVERIFY(!mapper->hasError());
+        QVERIFY(!mapper->update(fresh));
+        QCOMPARE(mapper->takeError(), QString("Table: %1 has been deleted").arg(family.table));
+    }
+
+    void aCodeIsFoundInWhateverLetters_data() { addFamilyRows(); }
+    void aCodeIsFoundInWhateverLetters()
+    {
+        AppMasterMapper* mapper = currentFamily().mapper();
+        const int id = saved("aBc", "Anything")->getId();
+        for (const char* typed : {"abc", "ABC", "aBc"}) {
+            const KorEntity* found = mapper->findByCode(typed);
+            QVERIFY(found);
+            QCOMPARE(found->getId(), id);
+        }
+        for (const char* typed : {"ab", "a%", "", "abc'"})
+            QVERIFY(!mapper->findByCode(typed));
+        QVERIFY(!mapper->hasError());
+    }
+
+    void aSearchLooksIntoCodeAndName_data() { addFamilyRows(); }
+    void aSearchLooksIntoCodeAndName()
+    {
+        const MasterFamily& family = currentFamily();
+        for (const auto& row : {qMakePair(QString("c9"), QString("Zebra's")), qMakePair(QString("b8"), QString("Ape")),
+                                qMakePair(QString("a7"), QString("Mole"))})
+            m_database->run(family.insertStatement(row.first, row.second));
+        // A changed row moves to the end of the table: only a sorted list is not disturbed by it.
+        m_database->run("UPDATE " + family.table + " SET version = 1 WHERE kode = 'c9'");
+
+        QStringList all = names(family.mapper()->findAll(QString()));
+        if (family.order == MasterFamily::AsStored)
+            all.sort();
+        QCOMPARE(all, (family.order == MasterFamily::ById ? QStringList{"Zebra's", "Ape", "Mole"}
+                                                          : QStringList{"Ape", "Mole", "Zebra's"}));
+        QCOMPARE(names(family.mapper()->findAll("OLE")), QStringList{"Mole"});
+        QCOMPARE(names(family.mapper()->findAll("B8")), QStringList{"Ape"});
+        QCOMPARE(names(family.mapper()->findAll("'")), QStringList{"Zebra's"});
+        QCOMPARE(names(family.mapper()->findAll("50% off")), QStringList());
+        QVERIFY(!family.mapper()->hasError());
+    }
+
+    void anOlderTableGetsItsLongerCodes_data() { addFamilyRows(); }
+    void anOlderTableGetsItsLongerCodes()
+    {
+        const MasterFamily& family = currentFamily();
+        m_database->run("ALTER TABLE " + family.table + " ALTER COLUMN kode TYPE varchar(8)");
+        QVERIFY(family.mapper()->migrate(1.2, 1.3));
+        QCOMPARE(codeLength(family), 8);
+        QVERIFY(family.mapper()->migrate(1.1, 1.1));
+        QCOMPARE(codeLength(family), 20);
+    }
+
+    void olderSuppliersAndAgentsGetOneCodeEach_data()
+    {
+        QTest::addColumn<QString>("table");
+        QTest::newRow("supplier") << "supplier";
+        QTest::newRow("agent") << "agent";
+    }
+    void olderSuppliersAndAgentsGetOneCodeEach()
+    {
+        QFETCH(QString, table);
+        const QString count =
+            "SELECT count(*) FROM pg_constraint WHERE contype = 'u' AND conrelid = '" + table + "'::regclass";
+        const int before = m_database->value(count).toInt();
+        QVERIFY(PosMapperRegistry::instance()->get(table)->migrate(1.0, 1.1));
+        QCOMPARE(m_database->value(count).toInt(), before + 1);
+    }
+
+    void aUnitsNameIsTakenOnceEvenUnderAnotherCode()
+    {
+        const MasterFamily& units = masterFamilies().at(1);
+        m_database->run(units.insertStatement("kg", "Kilogram"));
+        const std::unique_ptr<KorEntity> second(units.mapper()->createEntity());
+        second->setProperty("Kode", "kilo");
+        second->setProperty("Nama", "Kilogram");
+        QVERIFY(!units.mapper()->insert(second.get()));
+        QVERIFY(units.mapper()->takeError().contains("satuan_nama_key"));
+        second->setProperty("Kode", "kg");
+        second->setProperty("Nama", "Kilo");
+        QVERIFY(units.mapper()->insert(second.get()));
+    }
+
+    void aSupplierComesWithItsAccountInOneStatement()
+    {
+        const StatementCount statements;
+        m_database->run("INSERT INTO bank (id, kode, nama, account_type, active, version) "
+                        "VALUES (41, '1010', 'Cash on Hand', 1, true, 1)");
+        m_database->run("INSERT INTO supplier (kode, nama, alamat, telp, email, bank_id, version) "
+                        "VALUES ('f', 'Fish', '', '', '', 41, 1), ('b', 'Beans', '', '', '', NULL, 1)");
+        auto* suppliers = service<BusinessSupplier>("Supplier");
+        const QList<KorEntity*> found = suppliers->findByFilter(QString());
+        QCOMPARE(names(found), (QStringList{"Beans", "Fish"}));
+        QVERIFY(!static_cast<EntitySupplier*>(found.first())->getBank());
+        auto* fish = static_cast<EntitySupplier*>(found.last());
+        QCOMPARE(fish->getBank()->getNama(), QString("Cash on Hand"));
+        QCOMPARE(names(suppliers->findByFilter("FI")), QStringList{"Fish"});
+        QCOMPARE(statements.count(), 2);
+
+        fish->setBank(nullptr);
+        QVERIFY(suppliers->update(fish));
+        QVERIFY(m_database->value("SELECT bank_id FROM supplier WHERE kode = 'f'").isNull());
+    }
+
+    void theProgramFindsTheAccountsItBooksOn()
+    {
+        const QStringList codes{"1010", "1020", "1100", "1200", "2000", "4050", "5000", "6650"};
+        auto* accounts = service<BusinessBank>("Bank");
+        QVERIFY(!accounts->cashOnHand());
+        QVERIFY(!accounts->hasError());
+        for (const QString& code : codes)
+            m_database->run("INSERT INTO bank (kode, nama, account_type, active, version) VALUES ('" + code +
+                            "', 'Account', 1, true, 1)");
+        const QList<EntityBank*> found{accounts->cashOnHand(),        accounts->checkingAccount(),
+                                       accounts->accountReceivable(), accounts->inventory(),
+                                       accounts->accountsPayable(),   accounts->salesOfMaterials(),
+                                       accounts->costOfSales(),       accounts->commissionsExpense()};
+        for (int i = 0; i < codes.size(); ++i)
+            QCOMPARE(found.at(i)->getKode(), codes.at(i));
+    }
+
+private:
+    KorEntity* saved(const QString& code, const QString& name)
+    {
+        m_database->run(currentFamily().insertStatement(code, name));
+        return currentFamily().mapper()->findByCode(code);
+    }
+    int codeLength(const MasterFamily& family)
+    {
+        return m_database
+            ->value("SELECT character_maximum_length FROM information_schema.columns WHERE column_name = 'kode' AND "
+                    "table_name = '" +
+                    family.table + '\'')
+            .toInt();
+    }
+
+    std::unique_ptr<TestDatabase> m_database;
+};
+
+QTEST_MAIN(TestMasterMappers)
+#include "tst_master_mappers.moc"

@@ -1,0 +1,207 @@
+#include "support/MasterFamilies.h"
+
+#include "kor/business/KorServiceDirectory.h"
+#include "masterdata/agent/TabAgent.h"
+#include "masterdata/bank/TabBank.h"
+#include "masterdata/employee/TabEmployee.h"
+#include "masterdata/jenisitem/TabJenisItem.h"
+#include "masterdata/meja/TabMeja.h"
+#include "masterdata/member/TabMember.h"
+#include "masterdata/satuan/TabSatuan.h"
+#include "masterdata/supplier/TabSupplier.h"
+
+#include <QPlainTextEdit>
+#include <QTest>
+
+namespace
+{
+template <class Tab, class Dialog>
+MasterFamily withScreens(MasterFamily family)
+{
+    family.makePage = [] { return std::make_unique<Tab>(); };
+    family.makeForm = [] { return std::make_unique<Dialog>(); };
+    return family;
+}
+
+const QString lost = "Can not find entity with id: %1";
+const QStringList plain{"ID", "Code", "Name"};
+const QStringList contact{"ID", "Code", "Name", "Phone", "Email"};
+const QMap<QString, QString> reached{{"txtAlamat", "Harbour street 4"}, {"txtTelp", "0812 555"}};
+const QString reachedColumns = ", alamat, telp, email";
+const QString reachedValues = ", 'Harbour street 4', '0812 555', ''";
+} // namespace
+
+AppMasterMapper* MasterFamily::mapper() const
+{
+    return static_cast<AppMasterMapper*>(KorServiceDirectory::get(service)->mapper());
+}
+
+QString MasterFamily::insertStatement(const QString& code, const QString& name) const
+{
+    QString quoted = name;
+    quoted.replace('\'', "''");
+    return QString("INSERT INTO %1 (kode, nama, createdby, version%2) VALUES ('%3', '%4', 1, 1%5)")
+        .arg(table, columns, code, quoted, values);
+}
+
+void MasterFamily::fill(KorDialog* form, const QString& code, const QString& name) const
+{
+    typeInto(form, nameField, name);
+    for (auto field = details.begin(); field != details.end(); ++field)
+        typeInto(form, field.key(), field.value());
+    typeInto(form, "txtKode", code);
+}
+
+const QList<MasterFamily>& masterFamilies()
+{
+    using F = MasterFamily;
+    static const QList<MasterFamily> families{
+        withScreens<TabMeja, DialogMeja>({"Table",
+                                          "meja",
+                                          F::ByName,
+                                          "Tables",
+                                          plain,
+                                          "table",
+                                          {"Add table", "Update table", "Delete table"},
+                                          lost,
+                                          "tblMeja",
+                                          "txtNama",
+                                          {},
+                                          "",
+                                          "",
+                                          {},
+                                          {}}),
+        withScreens<TabSatuan, DialogSatuan>({"Unit",
+                                              "satuan",
+                                              F::ByName,
+                                              "Units",
+                                              {"ID", "Name", "Code"},
+                                              "unit",
+                                              {"Manage unit"},
+                                              lost,
+                                              "tblSatuan",
+                                              "txtNamaSatuan",
+                                              {},
+                                              "",
+                                              "",
+                                              {},
+                                              {}}),
+        withScreens<TabJenisItem, DialogJenisItem>({"Item Type",
+                                                    "jenis_item",
+                                                    F::ByName,
+                                                    "Item Types",
+                                                    plain,
+                                                    "item",
+                                                    {"Manage item type"},
+                                                    lost,
+                                                    "tblJenisItem",
+                                                    "txtNamaJenis",
+                                                    {},
+                                                    "",
+                                                    "",
+                                                    {},
+                                                    {}}),
+        withScreens<TabSupplier, DialogSupplier>({"Supplier",
+                                                  "supplier",
+                                                  F::ById,
+                                                  "Suppliers",
+                                                  contact,
+                                                  "supplier",
+                                                  {"Insert supplier", "Update supplier", "Delete supplier"},
+                                                  lost,
+                                                  "tblSupplier",
+                                                  "txtNama",
+                                                  reached,
+                                                  reachedColumns,
+                                                  reachedValues,
+                                                  {},
+                                                  {}}),
+        withScreens<TabMember, DialogMember>({"Member",
+                                              "member",
+                                              F::ById,
+                                              "Members",
+                                              contact,
+                                              "member",
+                                              {"Insert member", "Update member", "Delete member"},
+                                              lost,
+                                              "tblMember",
+                                              "txtNama",
+                                              reached,
+                                              reachedColumns + ", discount_percentage",
+                                              reachedValues + ", 10",
+                                              {},
+                                              {}}),
+        withScreens<TabAgent, DialogAgent>({"Agent",
+                                            "agent",
+                                            F::AsStored,
+                                            "Agents",
+                                            contact,
+                                            "agent",
+                                            {"Insert agent", "Update agent", "Delete agent"},
+                                            "Can not find entity with id: %",
+                                            "tblAgent",
+                                            "txtNama",
+                                            reached,
+                                            reachedColumns + ", commision_perc",
+                                            reachedValues + ", 5",
+                                            {},
+                                            {}}),
+        withScreens<TabBank, DialogBank>({"Bank",
+                                          "bank",
+                                          F::ById,
+                                          "Accounts",
+                                          {"ID", "Code", "Name", "Type"},
+                                          "account",
+                                          {"Insert bank", "Update bank", "Delete bank"},
+                                          lost,
+                                          "tblBank",
+                                          "txtNama",
+                                          {},
+                                          ", account_type, active",
+                                          ", 1, true",
+                                          {},
+                                          {}}),
+        withScreens<TabEmployee, DialogEmployee>({"Employee",
+                                                  "employee",
+                                                  F::ById,
+                                                  "Employees",
+                                                  contact,
+                                                  "employee",
+                                                  {"Insert Employee", "Update Employee", "Delete Employee"},
+                                                  lost,
+                                                  "tblEmployee",
+                                                  "txtNama",
+                                                  reached,
+                                                  reachedColumns,
+                                                  reachedValues,
+                                                  {},
+                                                  {}}),
+    };
+    return families;
+}
+
+void addFamilyRows()
+{
+    QTest::addColumn<int>("family");
+    for (int i = 0; i < masterFamilies().size(); ++i)
+        QTest::newRow(qPrintable(masterFamilies().at(i).service)) << i;
+}
+
+const MasterFamily& currentFamily()
+{
+    QFETCH(int, family);
+    return masterFamilies().at(family);
+}
+
+void typeInto(QWidget* form, const QString& field, const QString& text)
+{
+    auto* widget = form->findChild<QWidget*>(field);
+    if (!widget)
+        qFatal("no field %s", qPrintable(field));
+    widget->setFocus();
+    QTest::keyClick(widget, Qt::Key_A, Qt::ControlModifier);
+    if (text.isEmpty())
+        QTest::keyClick(widget, Qt::Key_Delete);
+    else
+        QTest::keyClicks(widget, text);
+}
