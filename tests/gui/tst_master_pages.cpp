@@ -1,0 +1,263 @@
+#include "app/context/AppContext.h"
+#include "app/widgets/AppListTab.h"
+#include "kor/entity/KorEntity.h"
+#include "kor/widgets/KorDialog.h"
+#include "support/MasterFamilies.h"
+#include "support/ModalDriver.h"
+#include "support/TestDatabase.h"
+
+#include <QAbstractItemModelTester>
+#include <QAbstractProxyModel>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QTableView>
+#include <QTest>
+
+/** The list pages of all families, worked on with the keyboard alone. */
+class TestMasterPages : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { m_database = std::make_unique<TestDatabase>(); }
+    void cleanupTestCase() { m_database.reset(); }
+    void init()
+    {
+        const MasterFamily& family = currentFamily();
+        m_database->run("TRUNCATE " + family.table + " RESTART IDENTITY CASCADE");
+        m_database->run(family.insertStatement("k1", "Owner's 50% share"));
+        m_database->run(family.insertStatement("k2", "Everyday"));
+        loginAsAdmin();
+        m_people = std::make_unique<ModalDriver>();
+        m_page = family.makePage();
+        m_page->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_page.get()));
+        m_grid = m_page->findChild<QTableView*>(family.grid);
+        QVERIFY(m_grid);
+    }
+    void cleanup()
+    {
+        m_page.reset();
+        m_people.reset();
+    }
+
+    void thePageShowsItsRows_data() { addFamilyRows(); }
+    void thePageShowsItsRows()
+    {
+        const MasterFamily& family = currentFamily();
+        const QAbstractItemModel* rows = m_grid->model();
+        QCOMPARE(m_page->windowTitle(), family.title);
+        QStringList headers;
+        for (int column = 0; column < rows->columnCount(); ++column)
+            headers.append(rows->headerData(column, Qt::Horizontal).toString());
+        QCOMPARE(headers, family.headers);
+        QCOMPARE(m_page->findChild<QLabel*>("lblCount")->text(), QString("2 Items"));
+        const int row = rowOf("Everyday");
+        QCOMPARE(text(row, "ID"), QString("2"));
+        QCOMPARE(text(row, "Code"), QString("k2"));
+        if (family.headers.contains("Phone"))
+            QCOMPARE(text(row, "Phone"), QString("0812 555"));
+
+        auto* model = qobject_cast<QAbstractProxyModel*>(m_grid->model())->sourceModel();
+        const QAbstractItemModelTester tester(model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        m_grid->sortByColumn(1, Qt::DescendingOrder);
+    }
+
+    void aRecordIsAddedWithF12_data() { addFamilyRows(); }
+    void aRecordIsAddedWithF12()
+    {
+        const MasterFamily& family = currentFamily();
+        m_people->expect<KorDialog>([&family](KorDialog* form) {
+            family.fill(form, "K3", "Brand new");
+            QTest::keyClick(form, Qt::Key_Return);
+        });
+        QTest::keyClick(m_page.get(), Qt::Key_F12);
+        QTRY_COMPARE(m_page->findChild<QLabel*>("lblCount")->text(), QString("3 Items"));
+        QVERIFY2(m_people->finished() && m_people->boxes().isEmpty(), qPrintable(m_people->texts().join('\n')));
+        QCOMPARE(stored("nama", "K3"), QString("Brand new"));
+        QCOMPARE(stored("createdby", "K3"), QString("1"));
+    }
+
+    void aTakenCodeOrACancelledFormAddsNothing_data() { addFamilyRows(); }
+    void aTakenCodeOrACancelledFormAddsNothing()
+    {
+        const MasterFamily& family = currentFamily();
+        m_people->expect<KorDialog>([&family](KorDialog* form) {
+            family.fill(form, "K1", "Brand new");
+            QTest::keyClick(form, Qt::Key_Return);
+        });
+        m_people->expect<KorDialog>([](KorDialog* form) { QTest::keyClick(form, Qt::Key_Escape); });
+        QTest::keyClick(m_page.get(), Qt::Key_F12);
+        QTRY_VERIFY(m_people->finished());
+        QCOMPARE(m_people->boxes().size(), 1);
+        QVERIFY(m_people->lastText().contains("already"));
+        QCOMPARE(m_database->value("SELECT count(*) FROM " + family.table).toInt(), 2);
+    }
+
+    void aRecordIsChangedWithF2AndKeepsItsCode_data() { addFamilyRows(); }
+    void aRecordIsChangedWithF2AndKeepsItsCode()
+    {
+        const MasterFamily& family = currentFamily();
+        m_people->expect<KorDialog>([&family](KorDialog* form) {
+            QCOMPARE(form->findChild<QLineEdit*>(family.nameField)->text(), QString("Everyday"));
+            typeInto(form, family.nameField, "Sundays");
+            QTest::keyClick(form, Qt::Key_Return);
+        });
+        m_grid->selectRow(rowOf("Everyday"));
+        QTest::keyClick(m_grid, Qt::Key_F2);
+        QTRY_VERIFY(rowOf("Sundays") >= 0);
+        QVERIFY2(m_people->boxes().isEmpty(), qPrintable(m_people->texts().join('\n')));
+        QCOMPARE(stored("nama", "k2"), QString("Sundays"));
+        QCOMPARE(stored("version", "k2"), QString("2"));
+    }
+
+    void theSlowerOfTwoWorkstationsIsTold_data() { addFamilyRows(); }
+    void theSlowerOfTwoWorkstationsIsTold()
+    {
+        const MasterFamily& family = currentFamily();
+        m_people->expect<KorDialog>([this, &family](KorDialog* form) {
+            m_database->run("UPDATE " + family.table + " SET version = 2, updatedby = 5 WHERE kode = 'k2'");
+            typeInto(form, family.nameField, "Mine");
+            QTest::keyClick(form, Qt::Key_Return);
+        });
+        m_people->expect<KorDialog>([](KorDialog* form) { QTest::keyClick(form, Qt::Key_Escape); });
+        m_grid->selectRow(rowOf("Everyday"));
+        QTest::keyClick(m_grid, Qt::Key_F2);
+        QTRY_VERIFY(m_people->finished());
+        QCOMPARE(m_people->texts(),
+                 QStringList{"Table: " + family.table + " has been updated by user id: 2  at: 5\r\n"});
+        QCOMPARE(stored("nama", "k2"), QString("Everyday"));
+    }
+
+    void aRowThatHasGoneIsTold_data() { addFamilyRows(); }
+    void aRowThatHasGoneIsTold()
+    {
+        const MasterFamily& family = currentFamily();
+        m_database->run("DELETE FROM " + family.table + " WHERE kode = 'k2'");
+        m_grid->selectRow(rowOf("Everyday"));
+        QTest::keyClick(m_grid, Qt::Key_F2);
+        QTRY_COMPARE(m_people->boxes().size(), 1);
+        QString told = family.lostRow;
+        QCOMPARE(m_people->lastText(), told.replace("%1", "2"));
+        QCOMPARE(m_people->lastTitle(), QString("Error"));
+    }
+
+    void deletingAsksByName_data() { addFamilyRows(); }
+    void deletingAsksByName()
+    {
+        const MasterFamily& family = currentFamily();
+        m_people->answer(QMessageBox::No);
+        m_grid->selectRow(rowOf("Owner's 50% share"));
+        QTest::keyClick(m_grid, Qt::Key_Delete);
+        QTRY_VERIFY(m_people->finished());
+        QTRY_COMPARE(m_grid->model()->rowCount(), 2);
+
+        comeBack();
+        m_people->answer(QMessageBox::Yes);
+        m_grid->selectRow(rowOf("Owner's 50% share"));
+        QTest::keyClick(m_grid, Qt::Key_Delete);
+        QTRY_COMPARE(m_grid->model()->rowCount(), 1);
+        const QString question = "Are you sure you want to delete this " + family.called + ": Owner's 50% share ?";
+        QCOMPARE(m_people->texts(), (QStringList{question, question}));
+        QCOMPARE(m_database->value("SELECT count(*) FROM " + family.table).toInt(), 1);
+    }
+
+    void whoHasNoRightIsRefusedByItsName_data() { addFamilyRows(); }
+    void whoHasNoRightIsRefusedByItsName()
+    {
+        const MasterFamily& family = currentFamily();
+        const int keys[] = {Qt::Key_F12, Qt::Key_F2, Qt::Key_Delete};
+        for (int operation = 0; operation < 3; ++operation) {
+            // Every right but the one in question.
+            loginWithRights(family.service, others(family, operation));
+            captions(family);
+            comeBack();
+            m_grid->selectRow(rowOf("Everyday"));
+            QTest::keyClick(m_grid, static_cast<Qt::Key>(keys[operation]));
+            QTRY_COMPARE(m_people->boxes().size(), operation + 1);
+            QCOMPARE(m_people->lastText(), "You don't have access.\r\nRequired permission: " + family.service + '.' +
+                                               family.caption(operation));
+        }
+        QVERIFY(m_people->finished());
+        QCOMPARE(m_database->value("SELECT count(*) FROM " + family.table).toInt(), 2);
+    }
+
+    void thePageIsFilteredRefreshedAndLeftByKeys_data() { addFamilyRows(); }
+    void thePageIsFilteredRefreshedAndLeftByKeys()
+    {
+        filter("owner's 50%");
+        QTRY_COMPARE(m_grid->model()->rowCount(), 1);
+        QVERIFY(m_grid->hasFocus());
+        filter("'; --");
+        QTRY_COMPARE(m_page->findChild<QLabel*>("lblCount")->text(), QString("0 Items"));
+        filter("K");
+        QTRY_COMPARE(m_grid->model()->rowCount(), 2);
+
+        m_database->run(currentFamily().insertStatement("k3", "From the other workstation"));
+        QTest::keyClick(m_grid, Qt::Key_F5);
+        QTRY_COMPARE(m_grid->model()->rowCount(), 3);
+
+        QSignalSpy closed(m_page.get(), &KorTab::onclose);
+        QTest::keyClick(m_grid, Qt::Key_Escape);
+        QTRY_COMPARE(closed.count(), 1);
+    }
+
+private:
+    /** After a box the page has to be in front again before it hears keys. */
+    void comeBack()
+    {
+        m_page->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_page.get()));
+    }
+    /** What the grid shows under this header. */
+    [[nodiscard]] QString text(int row, const QString& header) const
+    {
+        return m_grid->model()->index(row, currentFamily().headers.indexOf(header)).data().toString();
+    }
+    [[nodiscard]] int rowOf(const QString& name) const
+    {
+        for (int row = 0; row < m_grid->model()->rowCount(); ++row) {
+            if (text(row, "Name") == name)
+                return row;
+        }
+        return -1;
+    }
+    [[nodiscard]] QString stored(const QString& column, const QString& code)
+    {
+        return m_database
+            ->value("SELECT " + column + " FROM " + currentFamily().table + " WHERE kode = '" + code + '\'')
+            .toString();
+    }
+    void filter(const QString& text)
+    {
+        QTest::keyClick(m_page.get(), Qt::Key_F, Qt::ControlModifier);
+        QTRY_VERIFY(m_page->findChild<QLineEdit*>("txtFilter")->hasFocus());
+        typeInto(m_page.get(), "txtFilter", text);
+        QTest::keyClick(m_page->findChild<QLineEdit*>("txtFilter"), Qt::Key_Return);
+    }
+    /** Full grants of all rights but the operation's; a family with one right for all gets none. */
+    static QList<QPair<int, int>> others(const MasterFamily& family, int operation)
+    {
+        QList<QPair<int, int>> grants;
+        for (int key = 0; key < 3; ++key) {
+            if (key != (family.rights.size() == 1 ? 0 : operation))
+                grants.append({key, 2});
+        }
+        return grants;
+    }
+    static void captions(const MasterFamily& family)
+    {
+        for (int key = 0; key < family.rights.size(); ++key)
+            AppContext::instance()->accessCaptions()->insert(family.service + QString::number(key),
+                                                             family.rights.at(key));
+    }
+
+    std::unique_ptr<TestDatabase> m_database;
+    std::unique_ptr<ModalDriver> m_people;
+    std::unique_ptr<AppListTab> m_page;
+    QTableView* m_grid = nullptr;
+};
+
+QTEST_MAIN(TestMasterPages)
+#include "tst_master_pages.moc"
