@@ -21,12 +21,12 @@ AppBusinessRegistry::AppBusinessRegistry(QObject* parent)
     : KorBusinessRegistry(AppContext::instance()->logger(), parent)
 {
     const AppMapperRegistry* mappers = AppMapperRegistry::instance();
-    make<BusinessConfiguration>(mappers->appConfig());
-    make<BusinessPermission>(mappers->permission(), mappers->business());
-    auto* access = make<BusinessUserAccess>(mappers->access());
-    make<BusinessUser>(mappers->user(), access);
-    make<BusinessKey>(mappers->key());
-    make<BusinessUserGroup>(mappers->userGroup());
+    make<BusinessConfiguration>(mappers->appConfigMapper());
+    make<BusinessPermission>(mappers->permissionMapper(), mappers->businessMapper());
+    auto* access = make<BusinessUserAccess>(mappers->accessMapper());
+    make<BusinessUser>(mappers->userMapper(), access);
+    make<BusinessKey>(mappers->keyMapper());
+    make<BusinessUserGroup>(mappers->userGroupMapper());
 }
 
 BusinessConfiguration* AppBusinessRegistry::configuration() const

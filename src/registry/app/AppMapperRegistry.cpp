@@ -30,11 +30,11 @@ AppMapperRegistry::AppMapperRegistry(QObject* parent) : KorMapperRegistry(parent
     make<DataMapperUser>(groups);
 }
 
-DataMapperAppConfig* AppMapperRegistry::appConfig() const { return typed<DataMapperAppConfig>("appconfig"); }
-DataMapperHistory* AppMapperRegistry::history() const { return typed<DataMapperHistory>("history"); }
-DataMapperKey* AppMapperRegistry::key() const { return typed<DataMapperKey>("key"); }
-DataMapperUserGroup* AppMapperRegistry::userGroup() const { return typed<DataMapperUserGroup>("user group"); }
-DataMapperBusiness* AppMapperRegistry::business() const { return typed<DataMapperBusiness>("business"); }
-DataMapperPermission* AppMapperRegistry::permission() const { return typed<DataMapperPermission>("permission"); }
-DataMapperAccess* AppMapperRegistry::access() const { return typed<DataMapperAccess>("access"); }
-DataMapperUser* AppMapperRegistry::user() const { return typed<DataMapperUser>("user"); }
+DataMapperAppConfig* AppMapperRegistry::appConfigMapper() const { return typed<DataMapperAppConfig>("appconfig"); }
+DataMapperHistory* AppMapperRegistry::historyMapper() const { return typed<DataMapperHistory>("history"); }
+DataMapperKey* AppMapperRegistry::keyMapper() const { return typed<DataMapperKey>("key"); }
+DataMapperUserGroup* AppMapperRegistry::userGroupMapper() const { return typed<DataMapperUserGroup>("user group"); }
+DataMapperBusiness* AppMapperRegistry::businessMapper() const { return typed<DataMapperBusiness>("business"); }
+DataMapperPermission* AppMapperRegistry::permissionMapper() const { return typed<DataMapperPermission>("permission"); }
+DataMapperAccess* AppMapperRegistry::accessMapper() const { return typed<DataMapperAccess>("access"); }
+DataMapperUser* AppMapperRegistry::userMapper() const { return typed<DataMapperUser>("user"); }

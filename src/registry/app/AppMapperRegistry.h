@@ -19,14 +19,14 @@ class AppMapperRegistry final : public KorMapperRegistry
 public:
     static AppMapperRegistry* instance();
 
-    [[nodiscard]] DataMapperAppConfig* appConfig() const;
-    [[nodiscard]] DataMapperHistory* history() const;
-    [[nodiscard]] DataMapperKey* key() const;
-    [[nodiscard]] DataMapperUserGroup* userGroup() const;
-    [[nodiscard]] DataMapperBusiness* business() const;
-    [[nodiscard]] DataMapperPermission* permission() const;
-    [[nodiscard]] DataMapperAccess* access() const;
-    [[nodiscard]] DataMapperUser* user() const;
+    [[nodiscard]] DataMapperAppConfig* appConfigMapper() const;
+    [[nodiscard]] DataMapperHistory* historyMapper() const;
+    [[nodiscard]] DataMapperKey* keyMapper() const;
+    [[nodiscard]] DataMapperUserGroup* userGroupMapper() const;
+    [[nodiscard]] DataMapperBusiness* businessMapper() const;
+    [[nodiscard]] DataMapperPermission* permissionMapper() const;
+    [[nodiscard]] DataMapperAccess* accessMapper() const;
+    [[nodiscard]] DataMapperUser* userMapper() const;
 
 private:
     explicit AppMapperRegistry(QObject* parent);
