@@ -1,31 +1,9 @@
 #include "app/persistence/AppDocumentMapper.h"
 
-#include "kor/entity/KorEntity.h"
+#include "app/persistence/IdKeeper.h"
 #include "kor/persistence/KorDatabase.h"
 
 #include <QSqlError>
-
-namespace
-{
-/** Ids as they were; put back when the rows that gave new ones are gone. */
-class IdKeeper
-{
-public:
-    explicit IdKeeper(const QList<KorEntity*>& entities)
-    {
-        for (KorEntity* entity : entities)
-            m_ids.append({entity, entity->getId()});
-    }
-    void restore() const
-    {
-        for (const auto& id : m_ids)
-            id.first->setId(id.second);
-    }
-
-private:
-    QList<QPair<KorEntity*, int>> m_ids;
-};
-} // namespace
 
 bool AppDocumentMapper::createTable(int mode)
 {

@@ -273,6 +273,14 @@ QString KorDataMapper::aliasOf(const QString& alias, const QString& column)
     return name.replace('.', '_');
 }
 
+QString KorDataMapper::idList(const QList<int>& ids)
+{
+    QStringList texts;
+    for (int id : ids)
+        texts.append(QString::number(id));
+    return '{' + texts.join(',') + '}';
+}
+
 QStringList KorDataMapper::columnsAs(const QList<KorColumnMap*>& columns, const QString& alias) const
 {
     QStringList items;

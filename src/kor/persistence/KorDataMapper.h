@@ -81,6 +81,8 @@ public:
                                                      const QString& referencedColumn);
     [[nodiscard]] static QString lastQueryWithValues(const QSqlQuery& query);
     [[nodiscard]] static QString dateToSql(const QDate& date) { return date.toString("yyyy/M/d"); }
+    /** A list of ids as an array text, for "= ANY(:ids)". */
+    [[nodiscard]] static QString idList(const QList<int>& ids);
     [[nodiscard]] static QString aliasOf(const QString& alias, const QString& column);
 
 protected:

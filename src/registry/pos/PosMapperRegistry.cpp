@@ -23,6 +23,7 @@
 #include "purchasing/payment/DataMapperPayment.h"
 #include "purchasing/purchaseorder/DataMapperPurchaseOrder.h"
 #include "registry/app/AppMapperRegistry.h"
+#include "sales/invoice/DataMapperInvoice.h"
 
 PosMapperRegistry* PosMapperRegistry::instance()
 {
@@ -51,6 +52,9 @@ PosMapperRegistry::PosMapperRegistry(QObject* parent) : KorMapperRegistry(parent
     make<DataMapperAcquisition>(app->key(), supplierMapper(), bankMapper(), purchaseOrderMapper(), lines);
     make<DataMapperCreditNote>(app->key(), supplierMapper(), bankMapper(), lines);
     make<DataMapperGroupedItem>(itemMapper());
+    make<DataMapperInvoice>(DataMapperInvoice::Partners{employeeMapper(), agentMapper(), memberMapper(), bankMapper(),
+                                                        AppMapperRegistry::instance()->keyMapper()},
+                            DataMapperInvoice::ItemPartners{itemMapper(), jenisItemMapper(), satuanMapper()});
     make<DataMapperStockTake>(itemMapper(), jenisItemMapper(), satuanMapper(), bankMapper());
     make<DataMapperItemHistory>(itemMapper(), jenisItemMapper(), satuanMapper());
     make<DataMapperStokAwal>(itemMapper(), satuanMapper());
@@ -121,3 +125,4 @@ DataMapperAccountingTransaction* PosMapperRegistry::accountingTransactionMapper(
 {
     return typed<DataMapperAccountingTransaction>("Accounting Transaction");
 }
+DataMapperInvoice* PosMapperRegistry::invoiceMapper() const { return typed<DataMapperInvoice>("invoice"); }

@@ -12,6 +12,7 @@ class DataMapperDataPerusahaan;
 class DataMapperEmployee;
 class DataMapperGroupedItem;
 class DataMapperImages;
+class DataMapperInvoice;
 class DataMapperItem;
 class DataMapperItemHistory;
 class DataMapperJenisItem;
@@ -53,6 +54,8 @@ public:
     [[nodiscard]] DataMapperPayment* paymentMapper() const;
     [[nodiscard]] DataMapperCashFlow* cashFlowMapper() const;
     [[nodiscard]] DataMapperAccountingTransaction* accountingTransactionMapper() const;
+
+    [[nodiscard]] DataMapperInvoice* invoiceMapper() const;
 
 private:
     explicit PosMapperRegistry(QObject* parent);

@@ -4,7 +4,9 @@
 #include "masterdata/meja/BusinessMeja.h"
 #include "registry/app/AppBusinessRegistry.h"
 #include "registry/pos/PosBusinessRegistry.h"
+#include "registry/pos/PosMapperRegistry.h"
 #include "registry/zavel/ZavelMapperRegistry.h"
+#include "sales/service/BusinessPenjualan.h"
 
 ZavelBusinessRegistry* ZavelBusinessRegistry::instance()
 {
@@ -21,4 +23,9 @@ ZavelBusinessRegistry::ZavelBusinessRegistry(QObject* parent)
     AppBusinessRegistry::instance();
     PosBusinessRegistry::instance();
     make<BusinessMeja>(mappers->mejaMapper());
+    BusinessPenjualan::Mappers sales;
+    sales.dineInvoices = mappers->invoiceMakanDitempatMapper();
+    sales.dineOrders = mappers->makanDitempatMapper();
+    sales.invoices = PosMapperRegistry::instance()->invoiceMapper();
+    make<BusinessPenjualan>(sales);
 }

@@ -1,0 +1,96 @@
+#include "sales/invoice/DataMapperInvoice.h"
+
+#include "app/numbers/DataMapperKey.h"
+#include "kor/entity/KorMetaDataMap.h"
+#include "masterdata/agent/DataMapperAgent.h"
+#include "masterdata/bank/DataMapperBank.h"
+#include "masterdata/employee/DataMapperEmployee.h"
+#include "masterdata/member/DataMapperMember.h"
+#include "sales/invoice/Invoice.h"
+
+namespace
+{
+const char* const soldUntil = "Select SUM(invoice_detail.qty) as QuantityUsed from %1 inner join invoice_detail on "
+                              "%1.id = invoice_detail.invoice_id where item_id = :item_id and invoice_date <= :date  ";
+const char* const soldBetween = "Select SUM(invoice_detail.qty) as QuantityUsed from %1 inner join invoice_detail on "
+                                "%1.id = invoice_detail.invoice_id where item_id = :item_id and invoice_date between "
+                                ":startdate  and :enddate";
+
+int quantityOf(KorQuery& query) { return query.next() ? query.field("QuantityUsed").toInt() : 0; }
+} // namespace
+
+DataMapperInvoice::DataMapperInvoice(QObject* parent, const Partners& partners, const ItemPartners& items)
+    : AppDataMapper(parent), m_partners(partners)
+{
+    setName("invoice");
+    metaData()->setTableName("invoice");
+    column("invoice_date", "date not null", "InvoiceDate");
+    column("no", "varchar(50) not null", "InvoiceNo");
+    column("note", "text null", "Note");
+    column("status", "integer not NULL", "Status");
+    column("invoice_type", "varchar(50) not null", "InvoiceType");
+    moneyColumns("sub_total", "Subtotal");
+    column("disc_perc", "numeric not NULL", "DiscountPerc");
+    moneyColumns("discount", "Discount");
+    column("tax_perc", "numeric not NULL", "TaxPerc");
+    moneyColumns("tax", "Tax");
+    moneyColumns("grandtotal", "GrandTotal");
+    moneyColumns("amount_paid", "AmountPaid");
+    moneyColumns("net_due", "NetDue");
+    moneyColumns("other_payment", "OtherPayment");
+    column("service_perc", "numeric not NULL", "ServicePerc");
+    moneyColumns("service", "Service");
+    column("member_id", "integer NULL", "Member.Id");
+    column("agent_id", "integer NULL", "Agent.Id");
+    column("pemesan", "varchar(50) null", "Pemesan");
+    column("employee_id", "integer NULL", "Employee.Id");
+    column("acct_code", "varchar(20) not null", "AcctCode");
+    addJoin("Employee", partners.employees, "left", "employee_id", "id");
+    addJoin("Agent", partners.agents, "left", "agent_id", "id");
+    addJoin("Member", partners.members, "left", "member_id", "id");
+    m_detailMapper = new DataMapperInvoiceDetail(this, this, items.items, items.types, items.units);
+}
+
+DataMapperInvoice::DataMapperInvoice(QObject* parent, DataMapperInvoice* invoices)
+    : AppDataMapper(parent), m_partners(invoices->m_partners), m_detailMapper(invoices->m_detailMapper)
+{}
+
+KorEntity* DataMapperInvoice::createEntity() { return new Invoice(entityParent()); }
+
+bool DataMapperInvoice::createTable(int mode)
+{
+    if (!AppDataMapper::createTable(mode))
+        return false;
+    if (mode == 1 && !addForeignKey("invoice", "invoice_acct_code_fkey", "acct_code", "bank", "kode"))
+        return false;
+    if (m_detailMapper->createTable(mode))
+        return true;
+    setError(m_detailMapper->takeError());
+    return false;
+}
+
+QStringList DataMapperInvoice::indexStatements() const
+{
+    return {index("invoice_date", "(invoice_date)"), index("open_member", "(member_id) WHERE status <> 1")};
+}
+
+QList<Invoice*> DataMapperInvoice::findByIds(const QList<int>& ids)
+{
+    return castAll<Invoice>(findMany(" where invoice.id = ANY(:ids) order by invoice.id", {{":ids", idList(ids)}}));
+}
+
+int DataMapperInvoice::quantityUsed(int itemId, const QDate& until)
+{
+    KorQuery query;
+    const bool done =
+        execute(query, QString(soldUntil).arg(tableName()), {{":item_id", itemId}, {":date", dateToSql(until)}});
+    return done ? quantityOf(query) : 0;
+}
+
+int DataMapperInvoice::quantityUsed(int itemId, const QDate& from, const QDate& until)
+{
+    KorQuery query;
+    const bool done = execute(query, QString(soldBetween).arg(tableName()),
+                              {{":item_id", itemId}, {":startdate", dateToSql(from)}, {":enddate", dateToSql(until)}});
+    return done ? quantityOf(query) : 0;
+}

@@ -1,0 +1,12 @@
+#include "sales/order/DataMapperMakanDitempatDetail.h"
+
+#include "sales/order/EntityMakanDitempatDetail.h"
+
+DataMapperMakanDitempatDetail::DataMapperMakanDitempatDetail(QObject* parent, KorDataMapper* orders,
+                                                             const OrderLinePartners& partners)
+    : DataMapperOrderDetail(parent, "makan_ditempat_detail", "makan_ditempat_id", "MakanDitempatId", orders, partners)
+{
+    setName("makan ditempat detail");
+}
+
+KorEntity* DataMapperMakanDitempatDetail::createEntity() { return new EntityMakanDitempatDetail(entityParent()); }

@@ -1,0 +1,124 @@
+#include "sales/order/DataMapperOrder.h"
+
+#include "app/context/AppContext.h"
+#include "kor/entity/KorMetaDataMap.h"
+#include "masterdata/item/DataMapperItem.h"
+#include "masterdata/jenisitem/DataMapperJenisItem.h"
+#include "masterdata/satuan/DataMapperSatuan.h"
+
+namespace
+{
+QList<KorEntity*> asEntities(const EntityOrder::Lines& lines)
+{
+    QList<KorEntity*> entities;
+    for (EntityOrderDetail* line : lines)
+        entities.append(line);
+    return entities;
+}
+} // namespace
+
+// --- lines ---------------------------------------------------------------------------------------------------------
+
+DataMapperOrderDetail::DataMapperOrderDetail(QObject* parent, const QString& tableName, const QString& orderColumn,
+                                             const QString& orderProperty, KorDataMapper* orders,
+                                             const OrderLinePartners& partners)
+    : AppDataMapper(parent), m_orderColumn(orderColumn)
+{
+    metaData()->setTableName(tableName);
+    column(orderColumn, "integer not null", orderProperty);
+    column("item_id", "integer not null", "Item.Id");
+    column("qty", "integer not null", "Qty");
+    column("status", "integer not null", "Status");
+    moneyColumns("total", "Total");
+    moneyColumns("price_each", "PriceEach");
+    column("description", "varchar(50) null", "Description");
+    column("kitchen_status", "varchar(255) null", "KitchenStatus");
+    addJoin(orderProperty, orders, "inner", orderColumn, "id");
+    addJoin("Item", partners.items, "inner", "item_id", "id");
+    addJoin("Jenis", partners.types, "inner", "item.jenis", "id");
+    addJoin("Satuan", partners.units, "inner", "item.satuan", "id");
+}
+
+QStringList DataMapperOrderDetail::indexStatements() const { return {index("order", '(' + m_orderColumn + ')')}; }
+
+QList<EntityOrderDetail*> DataMapperOrderDetail::findByOrders(const QList<int>& orderIds)
+{
+    return castAll<EntityOrderDetail>(findMany(
+        " where " + m_orderColumn + " = ANY(:ids) order by " + tableName() + ".id", {{":ids", idList(orderIds)}}));
+}
+
+QList<EntityOrderDetail*> DataMapperOrderDetail::findByOrder(int orderId)
+{
+    return castAll<EntityOrderDetail>(
+        findMany(" where " + m_orderColumn + "=:id order by " + tableName() + ".id", {{":id", orderId}}));
+}
+
+// --- orders --------------------------------------------------------------------------------------------------------
+
+KorEntity* DataMapperOrder::findById(int id)
+{
+    return findOrders(" where " + tableName() + ".id = :id", {{":id", id}}).value(0);
+}
+
+QList<EntityOrder*> DataMapperOrder::findByIds(const QList<int>& ids)
+{
+    return findOrders(" where " + tableName() + ".id = ANY(:ids)", {{":ids", idList(ids)}});
+}
+
+QList<EntityOrder*> DataMapperOrder::findOrders(const QString& tail, Bindings values)
+{
+    const QList<EntityOrder*> orders = castAll<EntityOrder>(findMany(tail, values));
+    if (orders.isEmpty())
+        return orders;
+    QList<int> ids;
+    for (const EntityOrder* order : orders)
+        ids.append(order->getId());
+    QHash<int, EntityOrder::Lines> linesOf;
+    const EntityOrder::Lines lines = m_lines->findByOrders(ids);
+    if (m_lines->hasError()) {
+        setError(m_lines->takeError());
+        return {};
+    }
+    for (EntityOrderDetail* line : lines)
+        linesOf[line->getOrderId()].append(line);
+    for (EntityOrder* order : orders)
+        order->setDetails(linesOf.value(order->getId()));
+    return orders;
+}
+
+bool DataMapperOrder::remove(KorEntity* order) { return removeWithLines(order, linesOf(order)); }
+
+bool DataMapperOrder::updateStatus(EntityOrder* order)
+{
+    KorQuery query;
+    const int user = AppContext::instance()->currentUserId();
+    const bool sent = execute(query,
+                              "update " + tableName() +
+                                  " set status = :status, updatedBy = :user, updatedTime = now(), version = version+1 "
+                                  "where id = :id and version = :version",
+                              {{":status", order->getStatus()},
+                               {":user", user == KorNoValue ? QVariant(QVariant::Int) : QVariant(user)},
+                               {":id", order->getId()},
+                               {":version", order->getVersion()}});
+    if (sent && query.numRowsAffected() > 0)
+        return true;
+    if (sent)
+        explainFailedWrite(order);
+    setError(statusFailure() + " \r\n " + takeError());
+    return false;
+}
+
+QList<KorEntity*> DataMapperOrder::linesOf(KorEntity* order) const
+{
+    return asEntities(static_cast<EntityOrder*>(order)->getDetails());
+}
+
+QList<KorEntity*> DataMapperOrder::removedLinesOf(KorEntity* order) const
+{
+    return asEntities(static_cast<EntityOrder*>(order)->getRemovedDetails());
+}
+
+void DataMapperOrder::attachLine(KorEntity* line, int orderId)
+{
+    static_cast<EntityOrderDetail*>(line)->setOrderId(orderId);
+}

@@ -1,0 +1,8 @@
+#include "sales/order/EntityMakanDitempat.h"
+
+void EntityMakanDitempat::moveTo(EntityMeja* table)
+{
+    if (m_Meja && m_Meja->getKode() != table->getKode())
+        m_PindahMeja += (m_PindahMeja.isEmpty() ? "" : ">") + m_Meja->getKode();
+    m_Meja = table;
+}

@@ -1,0 +1,65 @@
+#include "sales/order/EntityOrder.h"
+
+EntityOrder::EntityOrder(QObject* parent) : KorEntity(parent) {}
+
+EntityOrder::~EntityOrder() { qDeleteAll(m_snapshot); }
+
+void EntityOrder::takeSnapshot()
+{
+    qDeleteAll(m_snapshot);
+    m_snapshot.clear();
+    for (const EntityOrderDetail* line : qAsConst(m_details))
+        m_snapshot.append(line->snapshot());
+}
+
+void EntityOrder::compareWithSnapshot()
+{
+    clearChanges();
+    for (EntityOrderDetail* line : qAsConst(m_details)) {
+        bool known = false;
+        bool changed = false;
+        for (const EntityOrderDetail* before : qAsConst(m_snapshot)) {
+            if (before->itemId() != line->itemId())
+                continue;
+            known = true;
+            changed =
+                changed || before->getQty() != line->getQty() || before->getDescription() != line->getDescription();
+        }
+        if (!known)
+            noteNew(line);
+        else if (changed)
+            noteUpdated(line);
+    }
+}
+
+void EntityOrder::collectMarkedLines()
+{
+    clearChanges();
+    for (EntityOrderDetail* line : qAsConst(m_details)) {
+        if (line->getStatus() == EntityOrderDetail::UPDATED)
+            noteUpdated(line);
+        else if (line->getStatus() == EntityOrderDetail::NEW)
+            noteNew(line);
+    }
+}
+
+void EntityOrder::clearChanges()
+{
+    m_newDetails.clear();
+    m_updatedDetails.clear();
+    m_changedDetails.clear();
+}
+
+void EntityOrder::noteNew(EntityOrderDetail* line)
+{
+    line->setStatus(EntityOrderDetail::NEW);
+    m_newDetails.append(line);
+    m_changedDetails.append(line);
+}
+
+void EntityOrder::noteUpdated(EntityOrderDetail* line)
+{
+    line->setStatus(EntityOrderDetail::UPDATED);
+    m_updatedDetails.append(line);
+    m_changedDetails.append(line);
+}
