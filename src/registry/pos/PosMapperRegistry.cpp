@@ -48,19 +48,19 @@ PosMapperRegistry::PosMapperRegistry(QObject* parent) : KorMapperRegistry(parent
     make<DataMapperAgent>(bankMapper());
     make<DataMapperItem>(jenisItemMapper(), satuanMapper(), bankMapper());
     const ItemPartners lines{itemMapper(), jenisItemMapper(), satuanMapper()};
-    make<DataMapperPurchaseOrder>(app->key(), supplierMapper(), bankMapper(), lines);
-    make<DataMapperAcquisition>(app->key(), supplierMapper(), bankMapper(), purchaseOrderMapper(), lines);
-    make<DataMapperCreditNote>(app->key(), supplierMapper(), bankMapper(), lines);
+    make<DataMapperPurchaseOrder>(app->keyMapper(), supplierMapper(), bankMapper(), lines);
+    make<DataMapperAcquisition>(app->keyMapper(), supplierMapper(), bankMapper(), purchaseOrderMapper(), lines);
+    make<DataMapperCreditNote>(app->keyMapper(), supplierMapper(), bankMapper(), lines);
     make<DataMapperGroupedItem>(itemMapper());
-    make<DataMapperInvoice>(DataMapperInvoice::Partners{employeeMapper(), agentMapper(), memberMapper(), bankMapper(),
-                                                        AppMapperRegistry::instance()->keyMapper()},
-                            DataMapperInvoice::ItemPartners{itemMapper(), jenisItemMapper(), satuanMapper()});
+    make<DataMapperInvoice>(
+        DataMapperInvoice::Partners{employeeMapper(), agentMapper(), memberMapper(), bankMapper(), app->keyMapper()},
+        lines);
     make<DataMapperStockTake>(itemMapper(), jenisItemMapper(), satuanMapper(), bankMapper());
     make<DataMapperItemHistory>(itemMapper(), jenisItemMapper(), satuanMapper());
     make<DataMapperStokAwal>(itemMapper(), satuanMapper());
-    make<DataMapperPayment>(app->key(), supplierMapper(), bankMapper(), acquisitionMapper(), lines);
-    make<DataMapperCashFlow>(app->key());
-    make<DataMapperAccountingTransaction>(app->key(), bankMapper(), app->user(), app->userGroup());
+    make<DataMapperPayment>(app->keyMapper(), supplierMapper(), bankMapper(), acquisitionMapper(), lines);
+    make<DataMapperCashFlow>(app->keyMapper());
+    make<DataMapperAccountingTransaction>(app->keyMapper(), bankMapper(), app->userMapper(), app->userGroupMapper());
 }
 
 DataMapperSatuan* PosMapperRegistry::satuanMapper() const { return typed<DataMapperSatuan>("satuan"); }

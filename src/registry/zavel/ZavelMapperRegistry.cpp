@@ -21,7 +21,7 @@ ZavelMapperRegistry::ZavelMapperRegistry(QObject* parent) : KorMapperRegistry(pa
     const PosMapperRegistry* pos = PosMapperRegistry::instance();
     make<DataMapperMeja>();
     make<DataMapperMakanDitempat>(pos->memberMapper(), mejaMapper(),
-                                  OrderLinePartners{pos->itemMapper(), pos->jenisItemMapper(), pos->satuanMapper()});
+                                  ItemPartners{pos->itemMapper(), pos->jenisItemMapper(), pos->satuanMapper()});
     make<DataMapperInvoiceMakanDitempat>(pos->invoiceMapper(), makanDitempatMapper());
 }
 

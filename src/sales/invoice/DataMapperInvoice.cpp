@@ -48,7 +48,7 @@ DataMapperInvoice::DataMapperInvoice(QObject* parent, const Partners& partners, 
     addJoin("Employee", partners.employees, "left", "employee_id", "id");
     addJoin("Agent", partners.agents, "left", "agent_id", "id");
     addJoin("Member", partners.members, "left", "member_id", "id");
-    m_detailMapper = new DataMapperInvoiceDetail(this, this, items.items, items.types, items.units);
+    m_detailMapper = new DataMapperInvoiceDetail(this, this, items);
 }
 
 DataMapperInvoice::DataMapperInvoice(QObject* parent, DataMapperInvoice* invoices)

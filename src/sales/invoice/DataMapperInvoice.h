@@ -25,12 +25,6 @@ public:
         DataMapperBank* accounts;
         DataMapperKey* keys;
     };
-    struct ItemPartners
-    {
-        DataMapperItem* items;
-        DataMapperJenisItem* types;
-        DataMapperSatuan* units;
-    };
 
     DataMapperInvoice(QObject* parent, const Partners& partners, const ItemPartners& items);
 

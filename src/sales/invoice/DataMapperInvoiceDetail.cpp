@@ -1,37 +1,26 @@
 #include "sales/invoice/DataMapperInvoiceDetail.h"
 
 #include "kor/entity/KorMetaDataMap.h"
-#include "masterdata/item/DataMapperItem.h"
-#include "masterdata/jenisitem/DataMapperJenisItem.h"
-#include "masterdata/satuan/DataMapperSatuan.h"
 #include "sales/invoice/EntityInvoiceDetail.h"
 
 #include <QDebug>
 
-DataMapperInvoiceDetail::DataMapperInvoiceDetail(QObject* parent, KorDataMapper* invoices, DataMapperItem* items,
-                                                 DataMapperJenisItem* types, DataMapperSatuan* units)
-    : AppDataMapper(parent)
+DataMapperInvoiceDetail::DataMapperInvoiceDetail(QObject* parent, KorDataMapper* invoices, const ItemPartners& partners)
+    : ItemLineMapper(parent)
 {
     setName("invoice detail");
     metaData()->setTableName("invoice_detail");
-    column("invoice_id", "integer not null", "InvoiceId");
-    column("item_id", "integer not null", "Item.Id");
+    documentColumn("invoice_id", "InvoiceId", invoices);
+    itemColumn(partners);
     column("qty", "integer not null", "Qty");
     moneyColumns("price_each", "PriceEach");
     moneyColumns("discount", "Discount");
     moneyColumns("total", "Total");
-    addJoin("InvoiceId", invoices, "inner", "invoice_id", "id");
-    addJoin("Item", items, "inner", "item_id", "id");
-    addJoin("Jenis", types, "inner", "item.jenis", "id");
-    addJoin("Satuan", units, "inner", "item.satuan", "id");
 }
 
 KorEntity* DataMapperInvoiceDetail::createEntity() { return new EntityInvoiceDetail(entityParent()); }
 
-QStringList DataMapperInvoiceDetail::indexStatements() const
-{
-    return {index("invoice", "(invoice_id)"), index("item", "(item_id, invoice_id) INCLUDE (qty)")};
-}
+QStringList DataMapperInvoiceDetail::indexStatements() const { return lineIndexes("invoice_id", "qty"); }
 
 QList<EntityInvoiceDetail*> DataMapperInvoiceDetail::findByInvoice(int invoiceId)
 {

@@ -1,20 +1,16 @@
 #pragma once
 
-#include "app/persistence/AppDataMapper.h"
+#include "masterdata/itemline/ItemLineMapper.h"
 
-class DataMapperItem;
-class DataMapperJenisItem;
-class DataMapperSatuan;
 class EntityInvoiceDetail;
 
 /** The lines of all invoices, in the table "invoice_detail". */
-class DataMapperInvoiceDetail final : public AppDataMapper
+class DataMapperInvoiceDetail final : public ItemLineMapper
 {
     Q_OBJECT
 
 public:
-    DataMapperInvoiceDetail(QObject* parent, KorDataMapper* invoices, DataMapperItem* items, DataMapperJenisItem* types,
-                            DataMapperSatuan* units);
+    DataMapperInvoiceDetail(QObject* parent, KorDataMapper* invoices, const ItemPartners& partners);
 
     KorEntity* createEntity() override;
     [[nodiscard]] QStringList indexStatements() const override;

@@ -6,7 +6,7 @@
 #include "sales/order/DataMapperMakanDitempatDetail.h"
 
 DataMapperMakanDitempat::DataMapperMakanDitempat(QObject* parent, DataMapperMember* members, DataMapperMeja* tables,
-                                                 const OrderLinePartners& partners)
+                                                 const ItemPartners& partners)
     : DataMapperOrder(parent)
 {
     setName("makan ditempat");

@@ -12,7 +12,7 @@ class DataMapperMakanDitempat final : public DataMapperOrder
 
 public:
     DataMapperMakanDitempat(QObject* parent, DataMapperMember* members, DataMapperMeja* tables,
-                            const OrderLinePartners& partners);
+                            const ItemPartners& partners);
 
     KorEntity* createEntity() override;
     [[nodiscard]] QStringList indexStatements() const override;

@@ -3,7 +3,7 @@
 #include "sales/order/EntityMakanDitempatDetail.h"
 
 DataMapperMakanDitempatDetail::DataMapperMakanDitempatDetail(QObject* parent, KorDataMapper* orders,
-                                                             const OrderLinePartners& partners)
+                                                             const ItemPartners& partners)
     : DataMapperOrderDetail(parent, "makan_ditempat_detail", "makan_ditempat_id", "MakanDitempatId", orders, partners)
 {
     setName("makan ditempat detail");

@@ -8,7 +8,7 @@ class DataMapperMakanDitempatDetail final : public DataMapperOrderDetail
     Q_OBJECT
 
 public:
-    DataMapperMakanDitempatDetail(QObject* parent, KorDataMapper* orders, const OrderLinePartners& partners);
+    DataMapperMakanDitempatDetail(QObject* parent, KorDataMapper* orders, const ItemPartners& partners);
 
     KorEntity* createEntity() override;
 };

@@ -1,42 +1,25 @@
 #include "sales/order/DataMapperOrder.h"
 
 #include "app/context/AppContext.h"
+#include "app/persistence/AppDocumentLines.h"
 #include "kor/entity/KorMetaDataMap.h"
-#include "masterdata/item/DataMapperItem.h"
-#include "masterdata/jenisitem/DataMapperJenisItem.h"
-#include "masterdata/satuan/DataMapperSatuan.h"
-
-namespace
-{
-QList<KorEntity*> asEntities(const EntityOrder::Lines& lines)
-{
-    QList<KorEntity*> entities;
-    for (EntityOrderDetail* line : lines)
-        entities.append(line);
-    return entities;
-}
-} // namespace
 
 // --- lines ---------------------------------------------------------------------------------------------------------
 
 DataMapperOrderDetail::DataMapperOrderDetail(QObject* parent, const QString& tableName, const QString& orderColumn,
                                              const QString& orderProperty, KorDataMapper* orders,
-                                             const OrderLinePartners& partners)
-    : AppDataMapper(parent), m_orderColumn(orderColumn)
+                                             const ItemPartners& partners)
+    : ItemLineMapper(parent), m_orderColumn(orderColumn)
 {
     metaData()->setTableName(tableName);
-    column(orderColumn, "integer not null", orderProperty);
-    column("item_id", "integer not null", "Item.Id");
+    documentColumn(orderColumn, orderProperty, orders);
+    itemColumn(partners);
     column("qty", "integer not null", "Qty");
     column("status", "integer not null", "Status");
     moneyColumns("total", "Total");
     moneyColumns("price_each", "PriceEach");
     column("description", "varchar(50) null", "Description");
     column("kitchen_status", "varchar(255) null", "KitchenStatus");
-    addJoin(orderProperty, orders, "inner", orderColumn, "id");
-    addJoin("Item", partners.items, "inner", "item_id", "id");
-    addJoin("Jenis", partners.types, "inner", "item.jenis", "id");
-    addJoin("Satuan", partners.units, "inner", "item.satuan", "id");
 }
 
 QStringList DataMapperOrderDetail::indexStatements() const { return {index("order", '(' + m_orderColumn + ')')}; }

@@ -1,23 +1,13 @@
 #pragma once
 
 #include "app/persistence/AppDocumentMapper.h"
+#include "masterdata/itemline/ItemLineMapper.h"
 #include "sales/order/EntityOrder.h"
 
-class DataMapperItem;
-class DataMapperJenisItem;
 class DataMapperMember;
-class DataMapperSatuan;
-
-/** What the lines of an order are joined with. */
-struct OrderLinePartners
-{
-    DataMapperItem* items;
-    DataMapperJenisItem* types;
-    DataMapperSatuan* units;
-};
 
 /** Mapper of the lines of one kind of order. */
-class DataMapperOrderDetail : public AppDataMapper
+class DataMapperOrderDetail : public ItemLineMapper
 {
     Q_OBJECT
 
@@ -29,7 +19,7 @@ public:
 
 protected:
     DataMapperOrderDetail(QObject* parent, const QString& tableName, const QString& orderColumn,
-                          const QString& orderProperty, KorDataMapper* orders, const OrderLinePartners& partners);
+                          const QString& orderProperty, KorDataMapper* orders, const ItemPartners& partners);
 
 private:
     QString m_orderColumn;
