@@ -63,7 +63,7 @@ QList<KorEntity*> DataMapperUser::findByGroup(int groupId)
 
 QList<KorEntity*> DataMapperUser::findAll(const QString& filter)
 {
-    const QString value = '%' + filter + '%';
+    const QString value = '%' + filter.toLower() + '%';
     KorPaging paging;
     paging.addFilter("lower(first_name) like ", value);
     paging.addFilter(" OR lower(last_name) like ", value);

@@ -16,7 +16,7 @@ public:
     /** Exactly this name: the login tells "Admin" from "admin". */
     [[nodiscard]] EntityUser* findByUsername(const QString& username);
     [[nodiscard]] QList<KorEntity*> findByGroup(int groupId);
-    /** For the list; the filter arrives in lower case. */
+    /** For the list, whatever the letters' case. */
     [[nodiscard]] QList<KorEntity*> findAll(const QString& filter);
     /** For look-ups, in the letters as typed. */
     [[nodiscard]] QList<KorEntity*> search(const QString& filter);

@@ -21,7 +21,7 @@ EntityUserGroup* DataMapperUserGroup::findByGroupName(const QString& name)
 QList<KorEntity*> DataMapperUserGroup::findAll(const QString& filter)
 {
     KorPaging paging;
-    paging.addFilter("lower(name) like ", '%' + filter + '%');
+    paging.addFilter("lower(name) like ", '%' + filter.toLower() + '%');
     paging.addSort("name", "asc");
     return find(&paging);
 }

@@ -36,7 +36,7 @@ EntityKey* DataMapperKey::getKey(const QString& keyName)
 
 QList<KorEntity*> DataMapperKey::findAll(const QString& filter)
 {
-    const QString value = '%' + filter + '%';
+    const QString value = '%' + filter.toLower() + '%';
     KorPaging paging;
     paging.addFilter("lower(key_name) like ", value);
     paging.addFilter(" OR lower(key_name) like ", value);

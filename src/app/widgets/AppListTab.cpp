@@ -69,6 +69,10 @@ void AppListTab::on_btnAdd_clicked()
 
 void AppListTab::on_btnEdit_clicked()
 {
+    const bool once = asksOnce(editKey());
+    if (once && !hasAccess(m_serviceName, editKey()))
+        return;
+    bool saved = false;
     const QList<int> ids = selectedEntityIds(grid(), m_model);
     for (int id : ids) {
         KorEntity* entity = readEntity(id);
@@ -76,20 +80,26 @@ void AppListTab::on_btnEdit_clicked()
             QMessageBox::information(this, tr("Error"), notFoundText(id));
             continue;
         }
-        if (!hasAccess(m_serviceName, editKey(), entity)) {
+        if (!once && !hasAccess(m_serviceName, editKey(), entity)) {
             entity->deleteLater();
             continue;
         }
         const auto dialog = createDialog();
         dialog->setEntity(entity);
         if (!runDialog(*dialog, false))
-            return;
+            break;
+        saved = true;
         refresh();
     }
+    if (saved)
+        edited();
 }
 
 void AppListTab::on_btnDelete_clicked()
 {
+    const bool once = asksOnce(deleteKey());
+    if (once && !hasAccess(m_serviceName, deleteKey()))
+        return;
     const QList<int> ids = selectedEntityIds(grid(), m_model);
     for (int id : ids) {
         KorEntity* entity = readEntity(id);
@@ -97,7 +107,7 @@ void AppListTab::on_btnDelete_clicked()
             QMessageBox::information(this, tr("Error"), tr("Can not find entity with id: %1").arg(id));
             continue;
         }
-        if (hasAccess(m_serviceName, deleteKey(), entity) &&
+        if ((once || hasAccess(m_serviceName, deleteKey(), entity)) &&
             QMessageBox::question(this, tr("Delete"), deleteQuestion(entity), QMessageBox::Yes | QMessageBox::No) ==
                 QMessageBox::Yes &&
             mayDelete(entity) && !removeEntity(entity))
@@ -126,6 +136,14 @@ void AppListTab::showServiceError(bool critical)
         QMessageBox::critical(this, tr("Error"), text);
     else
         QMessageBox::information(this, tr("Error"), text);
+}
+
+void AppListTab::takeAddAndDeleteAway()
+{
+    m_ui->btnAdd->setEnabled(false);
+    m_ui->btnAdd->hide();
+    m_ui->btnDelete->setEnabled(false);
+    m_ui->btnDelete->hide();
 }
 
 void AppListTab::on_btnRefresh_clicked() { refresh(); }

@@ -57,12 +57,16 @@ protected:
     [[nodiscard]] virtual int editKey() const { return 1; }
     [[nodiscard]] virtual int deleteKey() const { return 2; }
     [[nodiscard]] virtual QString notFoundText(int id) const;
+    /** True where the right behind the key is asked once for the page, before any record is looked at. */
+    [[nodiscard]] virtual bool asksOnce(int) const { return false; }
     virtual KorEntity* readEntity(int id);
     virtual bool insertEntity(KorEntity* entity);
     virtual bool updateEntity(KorEntity* entity);
     virtual bool removeEntity(KorEntity* entity);
     /** The last word before a delete that the user has confirmed; it tells the user why not. */
     virtual bool mayDelete(KorEntity*) { return true; }
+    /** Called when the walk over the selected rows has ended and at least one of them was saved. */
+    virtual void edited() {}
     /** Called after the grid got a new model: column widths and the like. */
     virtual void modelApplied() {}
 
@@ -71,6 +75,8 @@ protected:
     /** Runs the form for a new record or a record handed in; true when it was saved. */
     bool runDialog(KorDialog& dialog, bool isNew);
     void showServiceError(bool critical = true);
+    /** For records that the program makes itself: the page edits them, and that is all. */
+    void takeAddAndDeleteAway();
 
     [[nodiscard]] KorBusinessLogic* business() const { return m_business; }
     template <class Service>

@@ -1,13 +1,13 @@
 #pragma once
 
+#include "kor/entity/KorEntity.h"
+
 #include <QDialog>
 #include <QLineEdit>
 #include <QMap>
 #include <QPointer>
 
 #include <functional>
-
-class KorEntity;
 
 /**
  * Base of every entry form. A form reports what is wrong field by field, and all of it is shown in one box; a

@@ -1,0 +1,73 @@
+#include "app/access/DialogUser.h"
+
+#include "app/access/BusinessUser.h"
+#include "app/access/BusinessUserGroup.h"
+#include "app/access/EntityUser.h"
+#include "app/context/EntityPool.h"
+#include "kor/business/KorServiceDirectory.h"
+#include "kor/persistence/KorDataMapper.h"
+
+#include "ui_DialogUser.h"
+
+#include <QRegularExpression>
+
+DialogUser::DialogUser(QWidget* parent) : KorDialog(parent), m_ui(std::make_unique<Ui::DialogUser>())
+{
+    m_ui->setupUi(this);
+    EntityPool pool;
+    const EntityPoolScope scope(pool);
+    const QList<KorEntity*> groups = service<BusinessUserGroup>("User Group")->findAll(QString());
+    for (const auto* group : castAll<EntityUserGroup>(groups))
+        m_ui->cbGroup->addItem(group->getGroupName(), group->getId());
+    focusLater(m_ui->txtUsername);
+}
+
+DialogUser::~DialogUser() = default;
+
+bool DialogUser::validate()
+{
+    static const QRegularExpression alphaNumeric(QRegularExpression::anchoredPattern("[A-Za-z0-9]*"));
+    const QString username = m_ui->txtUsername->text();
+    if (require(m_ui->txtUsername, tr("Enter Username"))) {
+        if (!alphaNumeric.match(username).hasMatch())
+            addError(m_ui->txtUsername, tr("Enter alpha numeric for Username"));
+        const auto* user = held<EntityUser>();
+        if (!user || user->getUserName() != username) {
+            auto* users = service<BusinessUser>("User");
+            const EntityUser* found = users->findByUsername(username);
+            if (users->hasError())
+                showError(users->takeErrors());
+            requireUnused(m_ui->txtUsername, found, tr("Username already exists"));
+        }
+    }
+    require(m_ui->txtFirstName, tr("Enter First Name"));
+    require(m_ui->txtLastName, tr("Enter Last Name"));
+    return !hasError();
+}
+
+KorEntity* DialogUser::getEntity()
+{
+    static const QRegularExpression unwanted("[^a-zA-Z\\d\\s]");
+    auto* user = heldOrNew<EntityUser>();
+    user->setUserName(m_ui->txtUsername->text().remove(unwanted));
+    user->setFirstName(m_ui->txtFirstName->text());
+    user->setLastName(m_ui->txtLastName->text());
+    user->setPassword(m_ui->txtPassword->text());
+    user->setGroup(static_cast<EntityUserGroup*>(
+        service<BusinessUserGroup>("User Group")->find(m_ui->cbGroup->currentData().toInt())));
+    return user;
+}
+
+void DialogUser::setEntity(KorEntity* entity)
+{
+    hold(entity);
+    const auto* user = held<EntityUser>();
+    m_ui->lblUserID->setText(QString::number(user->getId()));
+    m_ui->txtUsername->setText(user->getUserName());
+    m_ui->txtFirstName->setText(user->getFirstName());
+    m_ui->txtLastName->setText(user->getLastName());
+    // An empty box keeps the password.
+    m_ui->txtPassword->clear();
+    if (user->getGroup())
+        m_ui->cbGroup->setCurrentIndex(m_ui->cbGroup->findData(user->getGroup()->getId()));
+}

@@ -1,0 +1,39 @@
+#include "app/access/DialogUserGroup.h"
+
+#include "app/access/BusinessUserGroup.h"
+#include "app/access/EntityUserGroup.h"
+#include "kor/business/KorServiceDirectory.h"
+
+#include "ui_DialogUserGroup.h"
+
+DialogUserGroup::DialogUserGroup(QWidget* parent) : KorDialog(parent), m_ui(std::make_unique<Ui::DialogUserGroup>())
+{
+    m_ui->setupUi(this);
+    focusLater(m_ui->txtGroupName);
+}
+
+DialogUserGroup::~DialogUserGroup() = default;
+
+bool DialogUserGroup::validate()
+{
+    requireCode(
+        m_ui->txtGroupName, service<BusinessUserGroup>("User Group"),
+        [](BusinessUserGroup* groups, const QString& name) { return groups->findByGroupName(name); },
+        tr("Enter Group Name"), tr("This group name already exists"));
+    return !hasError();
+}
+
+KorEntity* DialogUserGroup::getEntity()
+{
+    auto* group = heldOrNew<EntityUserGroup>();
+    group->setGroupName(m_ui->txtGroupName->text());
+    return group;
+}
+
+void DialogUserGroup::setEntity(KorEntity* entity)
+{
+    hold(entity);
+    const auto* group = held<EntityUserGroup>();
+    m_ui->lblGroupID->setText(QString::number(group->getId()));
+    m_ui->txtGroupName->setText(group->getGroupName());
+}

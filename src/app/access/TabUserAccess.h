@@ -1,0 +1,36 @@
+#pragma once
+
+#include "app/widgets/AppListTab.h"
+
+class QComboBox;
+class QListWidget;
+
+/** What each group of users may do, service by service. */
+class TabUserAccess final : public AppListTab
+{
+    Q_OBJECT
+
+public:
+    explicit TabUserAccess(QWidget* parent = nullptr);
+
+protected:
+    QList<KorEntity*> readRows(const QString& filter) override;
+    KorEntityModel* createModel(const QList<KorEntity*>& rows) override;
+    std::unique_ptr<KorDialog> createDialog() override;
+    [[nodiscard]] QString deleteQuestion(const KorEntity*) const override { return {}; }
+    [[nodiscard]] int editKey() const override { return 0; }
+    [[nodiscard]] bool asksOnce(int) const override { return true; }
+    KorEntity* readEntity(int id) override;
+    bool updateEntity(KorEntity* entity) override;
+    void edited() override;
+
+private:
+    void arrange();
+    void fillChoices();
+    void choiceChanged();
+    [[nodiscard]] int groupId() const;
+
+    QComboBox* m_groups;
+    QListWidget* m_businesses;
+    QHash<int, int> m_grants;
+};

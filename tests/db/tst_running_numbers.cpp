@@ -1,0 +1,191 @@
+#include "app/numbers/BusinessKey.h"
+#include "app/numbers/DataMapperKey.h"
+#include "app/numbers/DocumentNumber.h"
+#include "app/numbers/EntityKey.h"
+#include "kor/business/KorServiceDirectory.h"
+#include "kor/persistence/KorDatabase.h"
+#include "registry/app/AppMapperRegistry.h"
+#include "support/TestDatabase.h"
+
+#include <QMutex>
+#include <QRegularExpression>
+#include <QSet>
+#include <QTest>
+#include <QThread>
+
+/** The numbers of the documents. */
+class TestRunningNumbers : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_database = std::make_unique<TestDatabase>();
+        m_database->run("DELETE FROM keytable");
+        m_keys = AppMapperRegistry::instance()->keyMapper();
+        loginAsAdmin();
+    }
+    void cleanup() { m_database.reset(); }
+
+    void aNumberIsTheDateAndThePaddedCounter_data()
+    {
+        QTest::addColumn<QString>("format");
+        QTest::addColumn<int>("next");
+        QTest::addColumn<int>("step");
+        QTest::addColumn<int>("digits");
+        QTest::addColumn<QStringList>("counters");
+        QTest::newRow("as installed") << "MMyy" << 57 << 1 << 4 << QStringList{"0057", "0058"};
+        QTest::newRow("steps of five") << "MMyy" << 5 << 5 << 4 << QStringList{"0005", "0010"};
+        QTest::newRow("more digits than its width are not cut") << "MMyy" << 1234 << 1 << 2 << QStringList{"1234"};
+        QTest::newRow("no padding") << "MMyy" << 7 << 1 << 0 << QStringList{"7"};
+        QTest::newRow("counter alone") << "" << 7 << 1 << 4 << QStringList{"0007"};
+        QTest::newRow("letters that are no date stay") << "POMMyy" << 1 << 1 << 4 << QStringList{"0001"};
+        QTest::newRow("quoted prefix") << "'TPH'MMyy" << 1 << 1 << 4 << QStringList{"0001"};
+    }
+    void aNumberIsTheDateAndThePaddedCounter()
+    {
+        QFETCH(QString, format);
+        QFETCH(int, next);
+        QFETCH(int, step);
+        QFETCH(int, digits);
+        QFETCH(QStringList, counters);
+        addKey("NB", format, next, step, digits);
+        for (const QString& counter : counters) {
+            const QDateTime before = QDateTime::currentDateTime();
+            const QString number = draw("NB");
+            QVERIFY(number == before.toString(format) + counter ||
+                    number == QDateTime::currentDateTime().toString(format) + counter);
+        }
+        QCOMPARE(nextId("NB"), next + step * counters.size());
+    }
+
+    void theLetterHOfBillPaymentsIsTheHour()
+    {
+        addKey("TPH", "TPHMMyy", 1, 1, 4);
+        addKey("KAG", "KAGMMyy", 1, 1, 4);
+        const auto pattern = [](const QString& front, const QString& back) {
+            return QRegularExpression(QRegularExpression::anchoredPattern(front + "\\d{4}" + back));
+        };
+        QVERIFY(pattern("TP\\d{1,2}", "0001").match(draw("TPH")).hasMatch());
+        QVERIFY(pattern("K(AM|PM)G", "0001").match(draw("KAG")).hasMatch());
+    }
+
+    void aDrawIsTwoStatementsAndGoesBackWithItsDocument()
+    {
+        addKey("PO", "MMyy", 1, 1, 4);
+        {
+            KorTransaction document;
+            const StatementCount statements;
+            QVERIFY(!draw("PO").isNull());
+            QCOMPARE(statements.count(), 2);
+        }
+        QCOMPARE(nextId("PO"), 1);
+        QVERIFY(draw("PO").endsWith("0001"));
+    }
+
+    void withoutItsRowADocumentGetsNoNumber()
+    {
+        addKey("PO", "MMyy", 1, 1, 4);
+        QString error;
+        QVERIFY(drawNumber(m_keys, "po", &error).isNull());
+        QCOMPARE(error, QString("Can not draw a new number for po. Please try again."));
+        QVERIFY(!m_keys->hasError());
+    }
+
+    void whoDrawsLaterThanAnotherWorkstationGetsNoNumber()
+    {
+        addKey("PO", "MMyy", 1, 1, 4);
+        // The other workstation has drawn and not finished its document yet.
+        m_database->run("BEGIN; UPDATE keytable SET next_id = 2, version = version + 1");
+        QString number;
+        QString error;
+        const std::unique_ptr<QThread> here(QThread::create([&] {
+            DataMapperKey keys(nullptr);
+            number = drawNumber(&keys, "PO", &error);
+        }));
+        here->start();
+        QTRY_COMPARE(m_database->value("SELECT count(*) FROM pg_locks WHERE NOT granted").toInt(), 1);
+        m_database->run("COMMIT");
+        QVERIFY(here->wait());
+        QVERIFY(number.isNull());
+        QVERIFY2(error.startsWith("Can not draw a new number for PO. Please try again.\r\n"
+                                  "Table: keytable has been updated by user id: "),
+                 qPrintable(error));
+        QVERIFY(draw("PO").endsWith("0002"));
+    }
+
+    void eightWorkstationsNeverGetOneNumberTwice()
+    {
+        constexpr int workstations = 8;
+        constexpr int documents = 12;
+        addKey("TRD", "MMyy", 1, 1, 4);
+        QMutex mutex;
+        QStringList drawn;
+        std::vector<std::unique_ptr<QThread>> threads;
+        for (int i = 0; i < workstations; ++i) {
+            threads.emplace_back(QThread::create([&] {
+                DataMapperKey keys(nullptr);
+                for (int document = 0; document < documents;) {
+                    QString error;
+                    const QString number = drawNumber(&keys, "TRD", &error);
+                    if (number.isNull())
+                        continue; // As a cashier who tries again.
+                    ++document;
+                    const QMutexLocker lock(&mutex);
+                    drawn.append(number);
+                }
+            }));
+            threads.back()->start();
+        }
+        for (const auto& thread : threads)
+            QVERIFY(thread->wait(60000));
+        QCOMPARE(drawn.size(), workstations * documents);
+        QCOMPARE(QSet<QString>(drawn.begin(), drawn.end()).size(), workstations * documents);
+        QCOMPARE(nextId("TRD"), workstations * documents + 1);
+    }
+
+    void theListIsSearchedByNameAndSorted()
+    {
+        for (const char* name : {"TRD", "PO", "TR"})
+            addKey(name, "MMyy", 1, 1, 4);
+        auto* keys = service<BusinessKey>("KeyTable");
+        QStringList names;
+        for (const auto* key : castAll<EntityKey>(keys->findAll("Tr")))
+            names.append(key->getKeyName());
+        QCOMPARE(names, (QStringList{"TR", "TRD"}));
+        QCOMPARE(keys->findAll(QString()).size(), 3);
+        QCOMPARE(keys->findAll("100%'").size(), 0);
+        QVERIFY(!keys->hasError());
+    }
+
+private:
+    void addKey(const QString& name, const QString& format, int next, int step, int digits)
+    {
+        EntityKey key;
+        key.setKeyName(name);
+        key.setFormat(format);
+        key.setNextId(next);
+        key.setIncrementBy(step);
+        key.setNoZero(digits);
+        QVERIFY2(m_keys->insert(&key), qPrintable(m_keys->takeError()));
+    }
+    QString draw(const QString& name)
+    {
+        QString error;
+        const QString number = drawNumber(m_keys, name, &error);
+        if (!error.isEmpty())
+            qWarning().noquote() << error;
+        return number;
+    }
+    int nextId(const QString& name)
+    {
+        return m_database->value("SELECT next_id FROM keytable WHERE key_name = '" + name + "'").toInt();
+    }
+
+    std::unique_ptr<TestDatabase> m_database;
+    DataMapperKey* m_keys = nullptr;
+};
+
+QTEST_MAIN(TestRunningNumbers)
+#include "tst_running_numbers.moc"

@@ -1,0 +1,352 @@
+#include "app/access/BusinessUser.h"
+#include "app/access/DialogLogin.h"
+#include "app/access/DialogUser.h"
+#include "app/access/DialogUserAccess.h"
+#include "app/access/DialogUserGroup.h"
+#include "app/access/EntityUser.h"
+#include "app/access/TabUser.h"
+#include "app/access/TabUserAccess.h"
+#include "app/access/TabUserGroup.h"
+#include "app/context/AppContext.h"
+#include "app/numbers/DialogKeyTable.h"
+#include "app/numbers/TabKeyTable.h"
+#include "kor/business/KorServiceDirectory.h"
+#include "support/ModalDriver.h"
+#include "support/TestDatabase.h"
+
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTableView>
+#include <QTest>
+
+namespace
+{
+void type(const QWidget* form, const char* field, const QString& text)
+{
+    auto* edit = form->findChild<QLineEdit*>(field);
+    edit->selectAll();
+    QTest::keyClick(edit, Qt::Key_Delete);
+    QTest::keyClicks(edit, text);
+}
+
+void confirm(QDialog* form)
+{
+    QTest::mouseClick(form->findChild<QDialogButtonBox*>("buttonBox")->button(QDialogButtonBox::Ok), Qt::LeftButton);
+}
+
+/** The login of a test, in which leaving is seen instead of ending the test. */
+class LoginUnderTest : public DialogLogin
+{
+public:
+    int left = 0;
+
+protected:
+    void leaveProgram() override { ++left; }
+};
+} // namespace
+
+/** Login, users, groups, rights and running numbers as the people in the restaurant see them. */
+class TestAccessPages : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_database = std::make_unique<TestDatabase>();
+        m_database->run("TRUNCATE users, user_group, business, permissions, access, keytable RESTART IDENTITY CASCADE");
+        m_database->run(
+            "INSERT INTO user_group (name, version) VALUES ('admin', 1), ('kasir', 1), ('unused', 1);"
+            "INSERT INTO users (first_name, last_name, username, password, user_group_id, currency, createdtime, "
+            "version) VALUES ('Ann', 'Martin', 'ann', md5('secret'), 2, '$', '2024-11-05 14:03:00', 1);"
+            "INSERT INTO business (name, version) VALUES ('Table', 1), ('Unit', 1);"
+            "INSERT INTO permissions (permission_name, permission_key, business_id, version) VALUES "
+            "('Add table', 0, 1, 1), ('Delete table', 2, 1, 1), ('Manage unit', 0, 2, 1);"
+            "INSERT INTO access (group_id, permission_id, grant_type, version) VALUES (2, 1, 1, 1);"
+            "INSERT INTO keytable (key_name, next_id, increment_by, format, description, no_zero, version) VALUES "
+            "('PO', 57, 1, 'POMMyy', 'Purchase Order Key', 4, 1), ('TR', 3, 1, 'TRMMyy', 'Accounting', 4, 1)");
+        AppContext::instance()->setLocale("en_US");
+        AppContext::instance()->setDateFormat("d MMM yyyy");
+        loginAsAdmin();
+        m_people = std::make_unique<ModalDriver>();
+    }
+    void cleanup()
+    {
+        m_people.reset();
+        m_database.reset();
+    }
+
+    void theLoginLetsNobodyInWithoutName_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("password");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("nothing typed") << ""
+                                       << ""
+                                       << "Please enter username and password\r\n";
+        QTest::newRow("no password") << "ann"
+                                     << ""
+                                     << "Please enter username and password\r\n";
+        QTest::newRow("no name") << ""
+                                 << "secret"
+                                 << "Please enter username and password\r\n";
+        QTest::newRow("wrong password") << "ann"
+                                        << "secreT"
+                                        << "Invalid login\r\n";
+        QTest::newRow("right") << "ann"
+                               << "secret"
+                               << "";
+    }
+    void theLoginLetsNobodyInWithoutName()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, password);
+        QFETCH(QString, message);
+        LoginUnderTest login;
+        login.show();
+        QVERIFY(QTest::qWaitForWindowActive(&login));
+        QTRY_VERIFY(login.findChild<QLineEdit*>("txtUsername")->hasFocus());
+        QCOMPARE(login.findChild<QLabel*>("lblHint")->text(), QString("Default login: admin / Qx7!Rm2z"));
+        QTest::keyClicks(login.focusWidget(), name);
+        QTest::keyClick(login.focusWidget(), Qt::Key_Tab);
+        QTest::keyClicks(login.focusWidget(), password);
+        QTest::keyClick(login.focusWidget(), Qt::Key_Return);
+        QTRY_COMPARE(m_people->texts(), message.isEmpty() ? QStringList() : QStringList{message});
+        QTRY_COMPARE(login.result(), message.isEmpty() ? int(QDialog::Accepted) : int(QDialog::Rejected));
+        QCOMPARE(login.left, 0);
+    }
+
+    void whoDoesNotLogInLeaves()
+    {
+        LoginUnderTest login;
+        login.show();
+        QVERIFY(QTest::qWaitForWindowActive(&login));
+        QTest::mouseClick(login.findChild<QDialogButtonBox*>("buttonBox")->button(QDialogButtonBox::Cancel),
+                          Qt::LeftButton);
+        QCOMPARE(login.left, 1);
+        QTest::keyClick(&login, Qt::Key_Escape);
+        QCOMPARE(login.left, 2);
+        login.close();
+        QCOMPARE(login.left, 3);
+    }
+
+    void aUserFormTellsAllThatIsWrong_data()
+    {
+        QTest::addColumn<QStringList>("typed"); // user name, first and last name
+        QTest::addColumn<QString>("message");
+        QTest::newRow("empty") << QStringList{"", "", ""}
+                               << "Enter Username\r\nEnter First Name\r\nEnter Last Name\r\n";
+        QTest::newRow("blank inside") << QStringList{"bo b", "Bob", "Smith"} << "Enter alpha numeric for Username\r\n";
+        QTest::newRow("taken") << QStringList{"ann", "Bob", "Smith"} << "Username already exists\r\n";
+        QTest::newRow("other letters are another user") << QStringList{"Ann", "Bob", "Smith"} << "";
+    }
+    void aUserFormTellsAllThatIsWrong()
+    {
+        QFETCH(QStringList, typed);
+        QFETCH(QString, message);
+        DialogUser form;
+        type(&form, "txtUsername", typed[0]);
+        type(&form, "txtFirstName", typed[1]);
+        type(&form, "txtLastName", typed[2]);
+        QCOMPARE(form.validate(), message.isEmpty());
+        form.accept();
+        QCOMPARE(m_people->texts().join(""), message);
+    }
+
+    void aUserIsAddedAndEditedWithoutTouchingThePassword()
+    {
+        TabUser page;
+        show(page);
+        const auto* grid = page.findChild<QTableView*>("tblUser");
+        m_people->expect<DialogUser>([](DialogUser* form) {
+            type(form, "txtUsername", "bob");
+            type(form, "txtFirstName", "Bob");
+            type(form, "txtLastName", "O'Hara");
+            type(form, "txtPassword", "secret");
+            form->findChild<QComboBox*>("cbGroup")->setCurrentText("kasir");
+            confirm(form);
+        });
+        QTest::mouseClick(page.findChild<QPushButton*>("btnAdd_2"), Qt::LeftButton);
+        QTRY_COMPARE(grid->model()->rowCount(), 2);
+        QCOMPARE(row(grid, 0), (QStringList{"1", "ann", "Ann", "Martin", "kasir", "5 Nov 2024"}));
+        QCOMPARE(row(grid, 1).mid(1, 4), (QStringList{"bob", "Bob", "O'Hara", "kasir"}));
+
+        m_people->expect<DialogUser>([](DialogUser* form) {
+            QCOMPARE(form->findChild<QLineEdit*>("txtPassword")->text(), QString());
+            QCOMPARE(form->findChild<QComboBox*>("cbGroup")->currentText(), QString("kasir"));
+            type(form, "txtFirstName", "Bobby");
+            form->findChild<QComboBox*>("cbGroup")->setCurrentText("admin");
+            confirm(form);
+        });
+        page.findChild<QTableView*>("tblUser")->selectRow(1);
+        page.on_btnEdit_clicked();
+        QCOMPARE(row(grid, 1).mid(1, 4), (QStringList{"bob", "Bobby", "O'Hara", "admin"}));
+        QVERIFY(service<BusinessUser>("User")->login("bob", "secret"));
+        QVERIFY(m_people->finished());
+    }
+
+    void aGroupThatSomebodyBelongsToStays()
+    {
+        TabUserGroup page;
+        show(page);
+        auto* grid = page.findChild<QTableView*>("tblUserGroup");
+        QCOMPARE(row(grid, 1).mid(0, 2), (QStringList{"2", "kasir"}));
+        grid->selectAll();
+        m_people->answer(QMessageBox::No);
+        m_people->answer(QMessageBox::Yes);
+        m_people->answer(QMessageBox::Yes);
+        page.on_btnDelete_clicked();
+        QCOMPARE(m_people->texts(), (QStringList{"Are you sure, you want to delete user group: admin?",
+                                                 "Are you sure, you want to delete user group: kasir?",
+                                                 "Can not delete user groupd with id: 2, it is still in use",
+                                                 "Are you sure, you want to delete user group: unused?"}));
+        QCOMPARE(m_people->boxes()[2].icon, QMessageBox::Critical);
+        QCOMPARE(grid->model()->rowCount(), 2);
+
+        // The right is asked once for all rows, and no grant for own records is weighed against a record.
+        m_people->clear();
+        loginWithRights("User Group", {{1, 2}});
+        grid->selectAll();
+        page.on_btnDelete_clicked();
+        QCOMPARE(m_people->texts(), QStringList{"You don't have access.\r\nRequired permission: User Group."});
+    }
+
+    void aGroupNameIsTakenInAnyLetters()
+    {
+        DialogUserGroup form;
+        QVERIFY(!form.validate());
+        type(&form, "txtGroupName", "KASIR");
+        form.accept();
+        QCOMPARE(m_people->texts(), QStringList{"This group name already exists\r\n"});
+    }
+
+    void rightsAreGivenServiceByService()
+    {
+        TabUserAccess page;
+        show(page);
+        auto* grid = page.findChild<QTableView*>("tblPermission");
+        auto* groups = page.findChild<QComboBox*>("cbGroup");
+        auto* businesses = page.findChild<QListWidget*>("lvBusiness");
+        QCOMPARE(row(grid, 0), (QStringList{"1", "Add table", "NONE"}));
+        groups->setCurrentText("kasir");
+        QCOMPARE(row(grid, 0), (QStringList{"1", "Add table", "OWNER"}));
+        QVERIFY(!page.findChild<QPushButton*>("btnAdd")->isVisible());
+        QVERIFY(!page.findChild<QPushButton*>("btnDelete")->isVisible());
+
+        grid->selectAll();
+        m_people->expect<DialogUserAccess>([](DialogUserAccess* form) {
+            QVERIFY(form->findChild<QRadioButton*>("rbOwner")->isChecked());
+            QCOMPARE(form->findChild<QLabel*>("lblGroup")->text(), QString("kasir"));
+            QCOMPARE(form->findChild<QLabel*>("lblBusiness")->text(), QString("Table"));
+            form->findChild<QRadioButton*>("rbNone")->setChecked(true);
+            confirm(form);
+        });
+        m_people->expect<DialogUserAccess>([](DialogUserAccess* form) {
+            QCOMPARE(form->findChild<QLabel*>("lblPermission")->text(), QString("Delete table"));
+            form->findChild<QRadioButton*>("rbAll")->setChecked(true);
+            confirm(form);
+        });
+        page.on_btnEdit_clicked();
+        QCOMPARE(m_people->texts(), QStringList{"Application needs to be restarted to take the effect"});
+        QCOMPARE(m_people->lastTitle(), QString("Info"));
+        QCOMPARE(row(grid, 0).last() + row(grid, 1).last(), QString("NONEALL"));
+        QVERIFY(m_people->finished());
+
+        page.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&page));
+        businesses->setFocus();
+        QTest::keyClick(businesses, Qt::Key_Down);
+        QCOMPARE(row(grid, 0), (QStringList{"3", "Manage unit", "NONE"}));
+        QVERIFY(businesses->hasFocus());
+
+        m_people->clear();
+        loginWithRights("User Access", {});
+        grid->selectAll();
+        page.on_btnEdit_clicked();
+        QCOMPARE(m_people->texts(), QStringList{"You don't have access.\r\nRequired permission: User Access."});
+    }
+
+    void anAccessPageIsTwoStatements()
+    {
+        TabUserAccess page;
+        const StatementCount statements;
+        page.on_btnRefresh_clicked();
+        QCOMPARE(statements.count(), 2);
+    }
+
+    void aRunningNumberIsEditedButNeverAddedOrDeleted()
+    {
+        TabKeyTable page;
+        show(page);
+        auto* grid = page.findChild<QTableView*>("tblKeyTable");
+        QCOMPARE(row(grid, 0), (QStringList{"PO", "57", "1", "4", "POMMyy", "Purchase Order Key"}));
+        QVERIFY(!page.findChild<QPushButton*>("btnAdd")->isVisible());
+        QVERIFY(!page.findChild<QPushButton*>("btnDelete")->isVisible());
+        QCOMPARE(grid->columnWidth(2), 130);
+
+        grid->selectRow(0);
+        m_people->expect<DialogKeyTable>([](DialogKeyTable* form) {
+            type(form, "txtNextId", "");
+            type(form, "txtIncrementBy", "1.5");
+            type(form, "txtNoZero", "four");
+            type(form, "txtFormat", "");
+            type(form, "txtDescription", "");
+            confirm(form);
+        });
+        m_people->expect<DialogKeyTable>([](DialogKeyTable* form) {
+            type(form, "txtNextId", "100");
+            type(form, "txtIncrementBy", "10");
+            type(form, "txtNoZero", "6");
+            type(form, "txtFormat", "'PO-'yyyy");
+            type(form, "txtDescription", "Orders");
+            confirm(form);
+        });
+        QTest::keyClick(grid, Qt::Key_F2);
+        QTRY_COMPARE(row(grid, 0), (QStringList{"PO", "100", "10", "6", "'PO-'yyyy", "Orders"}));
+        QCOMPARE(m_people->texts(),
+                 QStringList{"Enter Next Id\r\nEnter valid number for Increment value\r\n"
+                             "Enter valid number for Number of zero\r\nEnter Format\r\nEnter Description\r\n"});
+        QVERIFY(m_people->finished());
+    }
+
+    void aNumberDrawnMeanwhileIsNotOverwritten()
+    {
+        TabKeyTable page;
+        show(page);
+        auto* grid = page.findChild<QTableView*>("tblKeyTable");
+        grid->selectRow(0);
+        m_people->expect<DialogKeyTable>([this](DialogKeyTable* form) {
+            m_database->run("UPDATE keytable SET next_id = 58, version = version + 1 WHERE key_name = 'PO'");
+            confirm(form);
+        });
+        page.on_btnEdit_clicked();
+        QVERIFY(m_people->lastText().startsWith("Table: keytable has been updated"));
+        QCOMPARE(m_database->value("SELECT next_id FROM keytable WHERE key_name = 'PO'").toInt(), 58);
+    }
+
+private:
+    static void show(QWidget& page)
+    {
+        page.resize(900, 500);
+        page.show();
+        QVERIFY(QTest::qWaitForWindowActive(&page));
+    }
+    static QStringList row(const QTableView* grid, int row)
+    {
+        QStringList cells;
+        for (int column = 0; column < grid->model()->columnCount(); ++column)
+            cells.append(grid->model()->index(row, column).data().toString());
+        return cells;
+    }
+
+    std::unique_ptr<TestDatabase> m_database;
+    std::unique_ptr<ModalDriver> m_people;
+};
+
+QTEST_MAIN(TestAccessPages)
+#include "tst_access_pages.moc"
