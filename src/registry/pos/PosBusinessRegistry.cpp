@@ -15,6 +15,7 @@
 #include "masterdata/member/BusinessMember.h"
 #include "masterdata/satuan/BusinessSatuan.h"
 #include "masterdata/supplier/BusinessSupplier.h"
+#include "printing/configuration/BusinessPrinterConfig.h"
 #include "printing/printer/BusinessPrinterType.h"
 #include "purchasing/acquisition/BusinessPurchases.h"
 #include "purchasing/creditnote/BusinessCreditNote.h"
@@ -35,12 +36,13 @@ PosBusinessRegistry::PosBusinessRegistry(QObject* parent)
     : KorBusinessRegistry(AppContext::instance()->logger(), parent)
 {
     const PosMapperRegistry* mappers = PosMapperRegistry::instance();
-    AppBusinessRegistry::instance();
+    const AppBusinessRegistry* services = AppBusinessRegistry::instance();
     make<BusinessAccountingTransaction>(mappers->accountingTransactionMapper());
     make<BusinessBank>(mappers->bankMapper());
     make<BusinessAgent>(mappers->agentMapper());
     make<BusinessSupplier>(mappers->supplierMapper());
     make<BusinessPrinterType>(mappers->printerTypeMapper());
+    make<BusinessPrinterConfig>(services->configuration());
     make<BusinessDataPerusahaan>(mappers->dataPerusahaanMapper(), mappers->imagesMapper());
     make<BusinessPurchases>(mappers->acquisitionMapper());
     make<BusinessCreditNote>(mappers->creditNoteMapper());
@@ -64,6 +66,11 @@ BusinessAgent* PosBusinessRegistry::agent() const { return typed<BusinessAgent>(
 BusinessSupplier* PosBusinessRegistry::supplier() const { return typed<BusinessSupplier>("Supplier"); }
 
 BusinessPrinterType* PosBusinessRegistry::printerType() const { return typed<BusinessPrinterType>("Printer Type"); }
+
+BusinessPrinterConfig* PosBusinessRegistry::printerConfig() const
+{
+    return typed<BusinessPrinterConfig>("Printer Config");
+}
 
 BusinessDataPerusahaan* PosBusinessRegistry::dataPerusahaan() const
 {

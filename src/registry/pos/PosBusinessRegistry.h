@@ -15,6 +15,7 @@ class BusinessItem;
 class BusinessJenisItem;
 class BusinessMember;
 class BusinessPayment;
+class BusinessPrinterConfig;
 class BusinessPrinterType;
 class BusinessPurchaseOrder;
 class BusinessPurchases;
@@ -34,6 +35,7 @@ public:
     [[nodiscard]] BusinessAgent* agent() const;
     [[nodiscard]] BusinessSupplier* supplier() const;
     [[nodiscard]] BusinessPrinterType* printerType() const;
+    [[nodiscard]] BusinessPrinterConfig* printerConfig() const;
     [[nodiscard]] BusinessDataPerusahaan* dataPerusahaan() const;
     [[nodiscard]] BusinessGroupedItem* groupedItem() const;
     [[nodiscard]] BusinessInventory* inventory() const;
