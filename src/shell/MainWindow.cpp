@@ -8,6 +8,7 @@
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/plugin/KorPluginTabInterface.h"
 #include "kor/widgets/KorTab.h"
+#include "printing/configuration/DialogCashierAndKitchenPrinter.h"
 #include "printing/printer/DialogPrinter.h"
 #include "shell/ConfigDialog.h"
 #include "shell/DatabaseChange.h"
@@ -262,7 +263,7 @@ void MainWindow::on_actionPerusahaan_triggered()
 void MainWindow::on_actionPrinter_Kasir_triggered()
 {
     if (hasAccess("Printer Config", 0))
-        showNotBuiltYet(tr("Cashier Printer"));
+        DialogCashierAndKitchenPrinter(this).exec();
 }
 
 void MainWindow::on_actionBackup_Database_triggered()

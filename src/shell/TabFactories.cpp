@@ -8,6 +8,7 @@
 #include "masterdata/member/TabMember.h"
 #include "masterdata/satuan/TabSatuan.h"
 #include "masterdata/supplier/TabSupplier.h"
+#include "printing/configuration/TabKitchenPrinter.h"
 
 namespace
 {
@@ -21,8 +22,14 @@ KorTab* make()
 TabFactories allTabFactories()
 {
     return {
-        {"TabAgent", make<TabAgent>},         {"TabBank", make<TabBank>},         {"TabEmployee", make<TabEmployee>},
-        {"TabJenisItem", make<TabJenisItem>}, {"TabMeja", make<TabMeja>},         {"TabMember", make<TabMember>},
-        {"TabSatuan", make<TabSatuan>},       {"TabSupplier", make<TabSupplier>},
+        {"TabAgent", make<TabAgent>},
+        {"TabBank", make<TabBank>},
+        {"TabEmployee", make<TabEmployee>},
+        {"TabJenisItem", make<TabJenisItem>},
+        {"TabKitchenPrinter", make<TabKitchenPrinter>},
+        {"TabMeja", make<TabMeja>},
+        {"TabMember", make<TabMember>},
+        {"TabSatuan", make<TabSatuan>},
+        {"TabSupplier", make<TabSupplier>},
     };
 }

@@ -11,8 +11,13 @@ DialogKitchenFoodPrinter::DialogKitchenFoodPrinter(QWidget* parent)
 {
     m_ui->setupUi(this);
     usePrinterFields(*m_ui);
-    m_ui->txtCol->setValue(40);
-    m_ui->txtBlankLines->setValue(4);
+    EntityConfigKitchenPrinter usual;
+    usual.setPrinterName(m_ui->ddlPrinter->currentText());
+    usual.setAutoCutter(EntityConfigPrinter::no());
+    usual.setColumnPaper("40");
+    usual.setNoOfBlankLines("4");
+    showPrinter(usual);
+    m_ui->cbAutoPrint->setChecked(true);
     focusLater(m_ui->txtKitchenName);
 }
 
