@@ -287,7 +287,7 @@ private slots:
         QCOMPARE(row(grid, 0), (QStringList{"PO", "57", "1", "4", "POMMyy", "Purchase Order Key"}));
         QVERIFY(!page.findChild<QPushButton*>("btnAdd")->isVisible());
         QVERIFY(!page.findChild<QPushButton*>("btnDelete")->isVisible());
-        QCOMPARE(grid->columnWidth(2), 130);
+        QVERIFY(grid->columnWidth(2) >= 130);
 
         grid->selectRow(0);
         m_people->expect<DialogKeyTable>([](DialogKeyTable* form) {

@@ -11,6 +11,7 @@
 
 #include <QBoxLayout>
 #include <QComboBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -72,6 +73,7 @@ void TabUserAccess::fillChoices()
     for (const auto* business : castAll<EntityBusiness>(permissions->getBusinesses())) {
         auto* item = new QListWidgetItem(business->getName(), m_businesses);
         item->setData(Qt::UserRole, business->getId());
+        item->setSizeHint({0, grid()->verticalHeader()->defaultSectionSize()});
     }
     m_businesses->setCurrentRow(0);
     const QString errors = groups->takeErrors() + permissions->takeErrors();

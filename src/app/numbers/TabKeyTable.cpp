@@ -1,6 +1,9 @@
 #include "app/numbers/TabKeyTable.h"
 
+#include <QHeaderView>
 #include <QTableView>
+
+#include <algorithm>
 
 TabKeyTable::TabKeyTable(QWidget* parent) : AppFamilyTab({tr("Running Numbers"), "tblKeyTable", "KeyTable"}, parent)
 {
@@ -10,6 +13,7 @@ TabKeyTable::TabKeyTable(QWidget* parent) : AppFamilyTab({tr("Running Numbers"),
 
 void TabKeyTable::modelApplied()
 {
-    grid()->setColumnWidth(2, 130);
-    grid()->setColumnWidth(3, 130);
+    // Wider only where the workstation's font would cut the header off.
+    for (int column : {2, 3})
+        grid()->setColumnWidth(column, std::max(130, grid()->horizontalHeader()->sectionSizeHint(column)));
 }
