@@ -1,8 +1,10 @@
 #include "app/persistence/AppDocumentMapper.h"
+#include "inventory/stock/StockMovements.h"
 #include "kor/persistence/KorQuery.h"
 #include "registry/app/AppMapperRegistry.h"
 #include "registry/pos/PosMapperRegistry.h"
 #include "registry/zavel/ZavelMapperRegistry.h"
+#include "sales/invoice/DataMapperInvoice.h"
 #include "support/TestDatabase.h"
 
 #include <QTest>
@@ -22,6 +24,8 @@ QList<KorDataMapper*> withLineMappers()
         all.append(mapper);
         if (auto* document = qobject_cast<AppDocumentMapper*>(mapper))
             all += document->lineMappers();
+        if (auto* invoices = qobject_cast<DataMapperInvoice*>(mapper))
+            all.append(invoices->detailMapper());
     }
     return all;
 }
@@ -55,6 +59,7 @@ private slots:
     void theTablesCanBeMadeAgain();
     void aRestaurantHasAllItsTables();
     void everySelectIsUnderstood();
+    void stockStatementsAreUnderstood();
     void everyForeignKeyHasAnIndex();
     void aColumnPointsAtItsMaster_data();
     void aColumnPointsAtItsMaster();
@@ -92,6 +97,7 @@ void TestSchema::theTablesCanBeMadeAgain()
 
 void TestSchema::aRestaurantHasAllItsTables()
 {
+    QCOMPARE(m_database->value("select count(*) from pg_tables where schemaname = 'public'").toInt(), 48);
     QSet<QString> expected;
     for (const KorDataMapper* mapper : withLineMappers())
         expected.insert(mapper->tableName());
@@ -111,6 +117,15 @@ void TestSchema::everySelectIsUnderstood()
         if (mapper->name() == "history")
             continue;
         QCOMPARE(refusal(mapper->selectStatement()), QString());
+    }
+}
+
+void TestSchema::stockStatementsAreUnderstood()
+{
+    QCOMPARE(refusal(StockMovements::onHandStatement()), QString());
+    for (const auto kind : {StockMovements::Acquired, StockMovements::Used, StockMovements::Returned}) {
+        QCOMPARE(refusal(StockMovements::statement(kind, false)), QString());
+        QCOMPARE(refusal(StockMovements::statement(kind, true)), QString());
     }
 }
 
@@ -136,7 +151,7 @@ void TestSchema::everyForeignKeyHasAnIndex()
         if (!allowed.contains(column))
             unexcused.append(column);
     }
-    QCOMPARE(unexcused, QStringList());
+    QCOMPARE(unexcused.join(' '), QString());
 }
 
 void TestSchema::aColumnPointsAtItsMaster_data()
@@ -169,6 +184,19 @@ void TestSchema::aColumnPointsAtItsMaster_data()
     row("accounting_trans.from_account_id", "accounting_trans_from_account_id_fkey bank(id)");
     row("accounting_trans.to_account_id", "accounting_trans_to_account_id_fkey bank(id)");
     row("accounting_trans.createdby", "");
+    row("invoice.acct_code", "invoice_acct_code_fkey bank(kode)");
+    row("invoice.member_id", "invoice_member_id_fkey member(id)");
+    row("invoice_detail.invoice_id", "invoice_detail_invoice_id_fkey invoice(id)");
+    row("makan_ditempat.meja_id", "makan_ditempat_meja_id_fkey meja(id)");
+    row("invoice_makan_ditempat.makan_ditempat_id", "invoice_makan_ditempat_makan_ditempat_id_fkey makan_ditempat(id)");
+    row("invoice_fast_food.invoice_id", "invoice_fast_food_invoice_id_fkey invoice(id)");
+    row("invoice_bawa_pulang.bawa_pulang_id", "invoice_bawa_pulang_bawa_pulang_id_fkey bawa_pulang(id)");
+    row("bawa_pulang_detail.bawa_pulang_id", "bawa_pulang_detail_bawa_pulang_id_fkey bawa_pulang(id)");
+    // A sale may be deleted although it was paid later or its commission was paid.
+    row("piutang_detail.invoice_id", "");
+    row("komisi_agen_detail.invoice_id", "");
+    row("piutang_detail.piutang_id", "piutang_detail_piutang_id_fkey piutang(id)");
+    row("komisi_agen_detail.komisi_agen_id", "komisi_agen_detail_komisi_agen_id_fkey komisi_agen(id)");
 }
 
 void TestSchema::aColumnPointsAtItsMaster()
@@ -217,6 +245,27 @@ void TestSchema::whatListsFilterByHasAnIndex_data()
     row("cash_flow", "(trans_date)");
     row("cash_flow", "(lower((trans_no)::text))");
     row("accounting_trans", "(trans_date)");
+    row("makan_ditempat", "(meja_id) WHERE ((status IS NULL) OR ((status IS NOT NULL) AND (status <> 6)))");
+    row("makan_ditempat_detail", "(makan_ditempat_id)");
+    row("bawa_pulang", "(id) WHERE ((status IS NULL) OR ((status IS NOT NULL) AND (status <> 6)))");
+    row("bawa_pulang_detail", "(bawa_pulang_id)");
+    row("invoice", "(invoice_date)");
+    row("invoice", "(member_id) WHERE (status <> 1)");
+    row("invoice_detail", "(invoice_id)");
+    row("invoice_detail", "(item_id, invoice_id) INCLUDE (qty)");
+    row("invoice_makan_ditempat", "(invoice_id)");
+    row("invoice_makan_ditempat", "(makan_ditempat_id)");
+    row("invoice_makan_ditempat", "(agent_id, invoice_id) WHERE (agent_id IS NOT NULL)");
+    row("invoice_fast_food", "(invoice_id)");
+    row("invoice_fast_food", "(agent_id, invoice_id) WHERE (agent_id IS NOT NULL)");
+    row("invoice_bawa_pulang", "(invoice_id)");
+    row("invoice_bawa_pulang", "(bawa_pulang_id)");
+    row("piutang", "(payment_date)");
+    row("piutang_detail", "(invoice_id)");
+    row("piutang_detail", "(piutang_id)");
+    row("komisi_agen", "(payment_date)");
+    row("komisi_agen_detail", "(invoice_id)");
+    row("komisi_agen_detail", "(komisi_agen_id)");
 }
 
 void TestSchema::whatListsFilterByHasAnIndex()

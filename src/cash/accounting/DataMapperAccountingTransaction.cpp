@@ -29,6 +29,6 @@ KorEntity* DataMapperAccountingTransaction::createEntity() { return new EntityAc
 
 QStringList DataMapperAccountingTransaction::indexStatements() const
 {
-    return {index("date", "(trans_date)"), index("from_account", "(from_account_id)"),
-            index("to_account", "(to_account_id)")};
+    return {index("trans_date", "(trans_date)"), index("from_account_id", "(from_account_id)"),
+            index("to_account_id", "(to_account_id)")};
 }

@@ -19,5 +19,5 @@ KorEntity* DataMapperCashFlow::createEntity() { return new EntityCashFlow(entity
 
 QStringList DataMapperCashFlow::indexStatements() const
 {
-    return {index("date", "(trans_date)"), index("no", "(lower(trans_no))")};
+    return {index("trans_date", "(trans_date)"), index("no", "(lower(trans_no))")};
 }

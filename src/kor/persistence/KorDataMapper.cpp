@@ -281,7 +281,7 @@ QString KorDataMapper::idList(const QList<int>& ids)
     return '{' + texts.join(',') + '}';
 }
 
-QStringList KorDataMapper::columnsAs(const QList<KorColumnMap*>& columns, const QString& alias) const
+QStringList KorDataMapper::columnsAs(const QList<KorColumnMap*>& columns, const QString& alias)
 {
     QStringList items;
     for (const KorColumnMap* column : columns)
@@ -289,19 +289,19 @@ QStringList KorDataMapper::columnsAs(const QList<KorColumnMap*>& columns, const 
     return items;
 }
 
+QString KorDataMapper::columnList(const KorDataMapper& mapper, const QString& alias)
+{
+    const QStringList own = columnsAs(mapper.m_metaData->columns(), alias);
+    const QString base = columnsAs(mapper.m_metaData->baseColumns(), alias).join(", ");
+    return own.isEmpty() ? base : base + " , " + own.join(", ");
+}
+
 QString KorDataMapper::selectStatement() const
 {
-    const auto lists = [this](const KorDataMapper* mapper, const QString& alias) {
-        const QStringList own = columnsAs(mapper->m_metaData->columns(), alias);
-        QString text = columnsAs(mapper->m_metaData->baseColumns(), alias).join(", ");
-        if (!own.isEmpty())
-            text += " , " + own.join(", ");
-        return text;
-    };
-    QString items = "select " + lists(this, tableName());
+    QString items = "select " + columnList(*this, tableName());
     QString clauses;
     for (const KorJoinMapper* join : m_joins) {
-        items += " , " + lists(join->mapper(), join->targetName());
+        items += " , " + columnList(*join->mapper(), join->targetName());
         clauses += join->clause(tableName());
     }
     return items + " from " + tableName() + clauses;

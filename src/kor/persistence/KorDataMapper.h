@@ -89,6 +89,8 @@ protected:
     using Bindings = std::initializer_list<QPair<QString, QVariant>>;
 
     bool createTableBase(int mode);
+    /** The mapper's base and own columns under this alias, as a SELECT lists them. */
+    [[nodiscard]] static QString columnList(const KorDataMapper& mapper, const QString& alias);
     /** Runs own SQL with named values; failing, it keeps and logs the database's text. */
     bool execute(KorQuery& query, const QString& statement, Bindings values = {});
     /** The first record, or null, of the mapper's SELECT with this tail (where, order by). */
@@ -100,7 +102,7 @@ protected:
 
 private:
     bool failWrite(const KorQuery& query);
-    [[nodiscard]] QStringList columnsAs(const QList<KorColumnMap*>& columns, const QString& alias) const;
+    [[nodiscard]] static QStringList columnsAs(const QList<KorColumnMap*>& columns, const QString& alias);
 
     KorMetaDataMap* m_metaData;
     QString m_errorText;

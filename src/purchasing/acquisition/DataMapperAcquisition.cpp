@@ -42,8 +42,8 @@ KorEntity* DataMapperAcquisition::createEntity() { return new EntityAcquisition(
 
 QStringList DataMapperAcquisition::indexStatements() const
 {
-    return {index("date", "(purchase_date)"), index("open_supplier", "(supplier_id) WHERE status <> 1"),
-            index("no", "(no)"), index("bank", "(bank_id)"), index("order", "(po_id)")};
+    return {index("purchase_date", "(purchase_date)"), index("open_supplier", "(supplier_id) WHERE status <> 1"),
+            index("no", "(no)"), index("bank_id", "(bank_id)"), index("po_id", "(po_id)")};
 }
 
 QList<KorMigration*> DataMapperAcquisition::migrations() { return {new DataMapperAcquisitionMigration11(this)}; }

@@ -33,8 +33,8 @@ KorEntity* DataMapperCreditNote::createEntity() { return new EntityCreditNote(en
 
 QStringList DataMapperCreditNote::indexStatements() const
 {
-    return {index("date", "(credit_note_date)"), index("acquisition", "(acquisition_id)"),
-            index("supplier", "(supplier_id)"), index("bank", "(bank_id)")};
+    return {index("credit_note_date", "(credit_note_date)"), index("acquisition_id", "(acquisition_id)"),
+            index("supplier_id", "(supplier_id)"), index("bank_id", "(bank_id)")};
 }
 
 const AppDocumentMapper::Messages& DataMapperCreditNote::messages() const

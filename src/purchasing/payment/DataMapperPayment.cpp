@@ -30,7 +30,8 @@ KorEntity* DataMapperPayment::createEntity() { return new EntityPayment(entityPa
 
 QStringList DataMapperPayment::indexStatements() const
 {
-    return {index("date", "(payment_date)"), index("supplier", "(supplier_id)"), index("bank", "(bank_id)")};
+    return {index("payment_date", "(payment_date)"), index("supplier_id", "(supplier_id)"),
+            index("bank_id", "(bank_id)")};
 }
 
 const AppDocumentMapper::Messages& DataMapperPayment::messages() const

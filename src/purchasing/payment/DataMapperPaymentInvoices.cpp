@@ -23,5 +23,5 @@ KorEntity* DataMapperPaymentInvoices::createEntity() { return new EntityPaymentI
 
 QStringList DataMapperPaymentInvoices::indexStatements() const
 {
-    return {index("payment", "(payment_id)"), index("acquisition", "(acquisition_id)")};
+    return {index("payment_id", "(payment_id)"), index("acquisition_id", "(acquisition_id)")};
 }

@@ -33,7 +33,8 @@ KorEntity* DataMapperPurchaseOrder::createEntity() { return new EntityPurchaseOr
 
 QStringList DataMapperPurchaseOrder::indexStatements() const
 {
-    return {index("date", "(purchase_date)"), index("supplier", "(supplier_id)"), index("bank", "(bank_id)")};
+    return {index("purchase_date", "(purchase_date)"), index("supplier_id", "(supplier_id)"),
+            index("bank_id", "(bank_id)")};
 }
 
 const AppDocumentMapper::Messages& DataMapperPurchaseOrder::messages() const

@@ -6,7 +6,14 @@
 #include "registry/pos/PosBusinessRegistry.h"
 #include "registry/pos/PosMapperRegistry.h"
 #include "registry/zavel/ZavelMapperRegistry.h"
+#include "sales/commission/DataMapperAllAgentCommision.h"
+#include "sales/commission/DataMapperKomisiAgen.h"
+#include "sales/fastfood/DataMapperInvoiceFastFood.h"
+#include "sales/list/DataMapperPenjualanInfo.h"
+#include "sales/receivable/DataMapperPiutang.h"
 #include "sales/service/BusinessPenjualan.h"
+#include "sales/takeaway/DataMapperBawaPulang.h"
+#include "sales/takeaway/DataMapperInvoiceBawaPulang.h"
 
 ZavelBusinessRegistry* ZavelBusinessRegistry::instance()
 {
@@ -26,6 +33,13 @@ ZavelBusinessRegistry::ZavelBusinessRegistry(QObject* parent)
     BusinessPenjualan::Mappers sales;
     sales.dineInvoices = mappers->invoiceMakanDitempatMapper();
     sales.dineOrders = mappers->makanDitempatMapper();
+    sales.fastFoodInvoices = mappers->invoiceFastFoodMapper();
+    sales.takeAwayOrders = mappers->bawaPulangMapper();
+    sales.takeAwayInvoices = mappers->invoiceBawaPulangMapper();
+    sales.salesList = mappers->penjualanInfoMapper();
+    sales.receivables = mappers->piutangMapper();
+    sales.commissions = mappers->komisiAgenMapper();
+    sales.pendingCommissions = mappers->allAgentCommisionMapper();
     sales.invoices = PosMapperRegistry::instance()->invoiceMapper();
     make<BusinessPenjualan>(sales);
 }

@@ -71,7 +71,9 @@ bool DataMapperInvoice::createTable(int mode)
 
 QStringList DataMapperInvoice::indexStatements() const
 {
-    return {index("invoice_date", "(invoice_date)"), index("open_member", "(member_id) WHERE status <> 1")};
+    return {index("invoice_date", "(invoice_date)"), index("open_member", "(member_id) WHERE status <> 1"),
+            index("agent_id", "(agent_id) WHERE agent_id IS NOT NULL"),
+            index("employee_id", "(employee_id) WHERE employee_id IS NOT NULL"), index("acct_code", "(acct_code)")};
 }
 
 QList<Invoice*> DataMapperInvoice::findByIds(const QList<int>& ids)

@@ -25,7 +25,8 @@ KorEntity* DataMapperMakanDitempat::createEntity() { return new EntityMakanDitem
 QStringList DataMapperMakanDitempat::indexStatements() const
 {
     // In the words of the board's condition, or the planner would not see that the index answers it.
-    return {index("open_meja", "(meja_id) WHERE status is null or (status is not null and status <> 6)")};
+    return {index("open_meja", "(meja_id) WHERE status is null or (status is not null and status <> 6)"),
+            index("member_id", "(member_id) WHERE member_id IS NOT NULL")};
 }
 
 QList<EntityMakanDitempat*> DataMapperMakanDitempat::getMakanDitempatList(int status, const QString& text)

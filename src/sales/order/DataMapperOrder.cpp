@@ -22,7 +22,10 @@ DataMapperOrderDetail::DataMapperOrderDetail(QObject* parent, const QString& tab
     column("kitchen_status", "varchar(255) null", "KitchenStatus");
 }
 
-QStringList DataMapperOrderDetail::indexStatements() const { return {index("order", '(' + m_orderColumn + ')')}; }
+QStringList DataMapperOrderDetail::indexStatements() const
+{
+    return {index("order", '(' + m_orderColumn + ')'), index("item_id", "(item_id)")};
+}
 
 QList<EntityOrderDetail*> DataMapperOrderDetail::findByOrders(const QList<int>& orderIds)
 {

@@ -28,7 +28,8 @@ KorEntity* DataMapperInvoiceMakanDitempat::createEntity() { return new EntityInv
 QStringList DataMapperInvoiceMakanDitempat::indexStatements() const
 {
     return {index("invoice", "(invoice_id)"), index("order", "(makan_ditempat_id)"),
-            index("agent", "(agent_id, invoice_id) WHERE agent_id IS NOT NULL")};
+            index("agent", "(agent_id, invoice_id) WHERE agent_id IS NOT NULL"),
+            index("employee_id", "(employee_id) WHERE employee_id IS NOT NULL")};
 }
 
 QString DataMapperInvoiceMakanDitempat::keyName() const { return Invoice::Dine; }

@@ -1,0 +1,49 @@
+#include "sales/commission/DataMapperAllAgentCommision.h"
+
+#include "kor/entity/KorMetaDataMap.h"
+#include "masterdata/agent/DataMapperAgent.h"
+#include "sales/commission/EntityAllKomisiAgen.h"
+#include "sales/invoice/DataMapperInvoice.h"
+
+DataMapperAllAgentCommision::DataMapperAllAgentCommision(QObject* parent, DataMapperInvoice* invoices,
+                                                         DataMapperAgent* agents)
+    : AppDataMapper(parent), m_invoices(invoices), m_agents(agents)
+{
+    setName("all agent commision");
+    metaData()->setTableName(invoices->tableName());
+}
+
+KorEntity* DataMapperAllAgentCommision::createEntity() { return new EntityAllKomisiAgen(entityParent()); }
+
+QString DataMapperAllAgentCommision::selectStatement() const
+{
+    const QString agent = m_agents->tableName();
+    return "select " + columnList(*m_invoices, "invoice") + " , " + columnList(*m_agents, "agent_mkn") + " , " +
+           columnList(*m_agents, "agent_ff") +
+           " , komisi_agen_detail.invoice_id as paid_invoice_id from  invoice"
+           " left join invoice_makan_ditempat on invoice.id = invoice_makan_ditempat.invoice_id"
+           " left join invoice_bawa_pulang on invoice.id = invoice_bawa_pulang.invoice_id"
+           " left join invoice_fast_food on invoice.id = invoice_fast_food.invoice_id"
+           " left join " +
+           agent + " agent_mkn on invoice_makan_ditempat.agent_id = agent_mkn.id left join " + agent +
+           " agent_ff on invoice_fast_food.agent_id = agent_ff.id"
+           " left join komisi_agen_detail on komisi_agen_detail.invoice_id = invoice.id";
+}
+
+KorEntity* DataMapperAllAgentCommision::fillFromRow(KorQuery& query, KorEntity* entity)
+{
+    auto* row = static_cast<EntityAllKomisiAgen*>(entity);
+    auto* invoice = static_cast<Invoice*>(m_invoices->fromRow(query));
+    auto* agent = static_cast<EntityAgent*>(m_agents->fromRow(query, "agent_mkn"));
+    if (!agent)
+        agent = static_cast<EntityAgent*>(m_agents->fromRow(query, "agent_ff"));
+    row->setInvoice(invoice);
+    row->setAgent(agent);
+    row->setStatus(query.field("paid_invoice_id").isNull() ? EntityAllKomisiAgen::UNPAID
+                                                           : EntityAllKomisiAgen::FULL_PAID);
+    if (agent && invoice->getGrandTotal()) {
+        const std::unique_ptr<Money> commission(invoice->getGrandTotal()->multiply(agent->getCommisionPerc() / 100));
+        row->setCommision(commission.get());
+    }
+    return row;
+}

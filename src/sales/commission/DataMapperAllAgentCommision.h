@@ -1,0 +1,25 @@
+#pragma once
+
+#include "app/persistence/AppDataMapper.h"
+
+class DataMapperAgent;
+class DataMapperInvoice;
+
+/** Reads all invoices with the agents that they name and whether the commission is paid. It has no table. */
+class DataMapperAllAgentCommision final : public AppDataMapper
+{
+    Q_OBJECT
+
+public:
+    DataMapperAllAgentCommision(QObject* parent, DataMapperInvoice* invoices, DataMapperAgent* agents);
+
+    KorEntity* createEntity() override;
+    bool createTable(int) override { return true; }
+    [[nodiscard]] QString selectStatement() const override;
+    using AppDataMapper::fillFromRow;
+    KorEntity* fillFromRow(KorQuery& query, KorEntity* entity) override;
+
+private:
+    DataMapperInvoice* m_invoices;
+    DataMapperAgent* m_agents;
+};

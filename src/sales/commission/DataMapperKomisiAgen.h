@@ -1,0 +1,30 @@
+#pragma once
+
+#include "app/numbers/NumberedMapper.h"
+#include "sales/commission/EntityKomisiAgen.h"
+
+class DataMapperAgent;
+class DataMapperBank;
+class DataMapperInvoice;
+
+/** Commission payments with their lines, in the tables "komisi_agen" and "komisi_agen_detail". */
+class DataMapperKomisiAgen final : public NumberedDocumentMapper<EntityKomisiAgen>
+{
+    Q_OBJECT
+
+public:
+    DataMapperKomisiAgen(QObject* parent, DataMapperKey* keys, DataMapperAgent* agents, DataMapperBank* accounts,
+                         DataMapperInvoice* invoices);
+
+    [[nodiscard]] QString keyName() const override { return "KAG"; }
+    KorEntity* createEntity() override;
+    [[nodiscard]] QStringList indexStatements() const override;
+    [[nodiscard]] KorDataMapper* lineMapper() const override { return m_lines; }
+
+protected:
+    [[nodiscard]] const Messages& messages() const override;
+    void attachLine(KorEntity* line, int documentId) override;
+
+private:
+    KorDataMapper* m_lines;
+};

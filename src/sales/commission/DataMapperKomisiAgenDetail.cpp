@@ -1,0 +1,25 @@
+#include "sales/commission/DataMapperKomisiAgenDetail.h"
+
+#include "kor/entity/KorMetaDataMap.h"
+#include "sales/commission/DataMapperKomisiAgen.h"
+#include "sales/invoice/DataMapperInvoice.h"
+
+DataMapperKomisiAgenDetail::DataMapperKomisiAgenDetail(DataMapperKomisiAgen* payments, DataMapperInvoice* invoices)
+    : AppDataMapper(payments)
+{
+    setName("komisi agen detail");
+    metaData()->setTableName("komisi_agen_detail");
+    column("komisi_agen_id", "integer not null", "KomisiAgenID");
+    addJoin("KomisiAgenID", payments, "inner", "komisi_agen_id", "id");
+    column("invoice_id", "integer not null", "Invoice.Id");
+    addJoin("Invoice", invoices, "inner", "komisi_agen_detail.invoice_id", "id");
+    column("commision_perc", "numeric not NULL", "CommisionPerc");
+    moneyColumns("commision", "Commision");
+}
+
+KorEntity* DataMapperKomisiAgenDetail::createEntity() { return new EntityKomisiAgenDetail(entityParent()); }
+
+QStringList DataMapperKomisiAgenDetail::indexStatements() const
+{
+    return {index("invoice_id", "(invoice_id)"), index("komisi_agen_id", "(komisi_agen_id)")};
+}

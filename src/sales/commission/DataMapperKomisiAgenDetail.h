@@ -1,0 +1,21 @@
+#pragma once
+
+#include "app/persistence/AppDataMapper.h"
+
+class DataMapperInvoice;
+class DataMapperKomisiAgen;
+
+/**
+ * The commissions paid for invoices, in the table "komisi_agen_detail". The invoice has no foreign key: a sale may be
+ * deleted, and its commission lines then stay in the table but are read no more.
+ */
+class DataMapperKomisiAgenDetail final : public AppDataMapper
+{
+    Q_OBJECT
+
+public:
+    DataMapperKomisiAgenDetail(DataMapperKomisiAgen* payments, DataMapperInvoice* invoices);
+
+    KorEntity* createEntity() override;
+    [[nodiscard]] QStringList indexStatements() const override;
+};

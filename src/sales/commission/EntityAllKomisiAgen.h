@@ -1,0 +1,22 @@
+#pragma once
+
+#include "masterdata/agent/EntityAgent.h"
+#include "sales/invoice/Invoice.h"
+
+/** An invoice that an agent brought, with the commission at the agent's present percent. It is read, never stored. */
+class EntityAllKomisiAgen : public KorEntity
+{
+    Q_OBJECT
+
+public:
+    enum CommissionStatus { FULL_PAID = 1, UNPAID = 2 };
+    Q_ENUM(CommissionStatus)
+
+    KOR_REFERENCE(Invoice, Invoice)
+    KOR_REFERENCE(EntityAgent, Agent)
+    MONEY_PROPERTY(Commision)
+    KOR_PROPERTY(int, Status, UNPAID)
+
+public:
+    using KorEntity::KorEntity;
+};

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "app/numbers/NumberedMapper.h"
+#include "sales/receivable/EntityPiutang.h"
+
+class DataMapperAgent;
+class DataMapperBank;
+class DataMapperEmployee;
+class DataMapperInvoice;
+class DataMapperMember;
+
+/** Members' payments with their lines, in the tables "piutang" and "piutang_detail". */
+class DataMapperPiutang final : public NumberedDocumentMapper<EntityPiutang>
+{
+    Q_OBJECT
+
+public:
+    DataMapperPiutang(QObject* parent, DataMapperKey* keys, DataMapperMember* members, DataMapperBank* accounts,
+                      DataMapperInvoice* invoices, DataMapperEmployee* employees, DataMapperAgent* agents);
+
+    [[nodiscard]] QString keyName() const override { return "PIU"; }
+    KorEntity* createEntity() override;
+    [[nodiscard]] QStringList indexStatements() const override;
+    [[nodiscard]] KorDataMapper* lineMapper() const override { return m_lines; }
+
+protected:
+    [[nodiscard]] const Messages& messages() const override;
+    void attachLine(KorEntity* line, int documentId) override;
+
+private:
+    KorDataMapper* m_lines;
+};

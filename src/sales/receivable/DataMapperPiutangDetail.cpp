@@ -1,0 +1,33 @@
+#include "sales/receivable/DataMapperPiutangDetail.h"
+
+#include "kor/entity/KorMetaDataMap.h"
+#include "masterdata/agent/DataMapperAgent.h"
+#include "masterdata/employee/DataMapperEmployee.h"
+#include "masterdata/member/DataMapperMember.h"
+#include "sales/invoice/DataMapperInvoice.h"
+#include "sales/receivable/DataMapperPiutang.h"
+
+DataMapperPiutangDetail::DataMapperPiutangDetail(DataMapperPiutang* payments, DataMapperInvoice* invoices,
+                                                 DataMapperEmployee* employees, DataMapperAgent* agents,
+                                                 DataMapperMember* members)
+    : AppDataMapper(payments)
+{
+    setName("piutang detail");
+    metaData()->setTableName("piutang_detail");
+    column("piutang_id", "integer not null", "PiutangId");
+    addJoin("PiutangId", payments, "inner", "piutang_id", "id");
+    column("invoice_id", "integer not null", "Invoice.Id");
+    addJoin("Invoice", invoices, "inner", "piutang_detail.invoice_id", "id");
+    addJoin("Employee", employees, "left", "invoice.employee_id", "id");
+    addJoin("Agent", agents, "left", "invoice.agent_id", "id");
+    addJoin("Member", members, "left", "invoice.member_id", "id");
+    moneyColumns("amount_paid", "AmountPaid");
+    moneyColumns("amount_due", "AmountDue");
+}
+
+KorEntity* DataMapperPiutangDetail::createEntity() { return new EntityPiutangDetail(entityParent()); }
+
+QStringList DataMapperPiutangDetail::indexStatements() const
+{
+    return {index("invoice_id", "(invoice_id)"), index("piutang_id", "(piutang_id)")};
+}

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "app/persistence/AppDataMapper.h"
+
+class DataMapperAgent;
+class DataMapperEmployee;
+class DataMapperInvoice;
+class DataMapperMember;
+class DataMapperPiutang;
+
+/**
+ * What members' payments paid of invoices, in the table "piutang_detail". The invoice has no foreign key: a sale may
+ * be deleted, and its payment lines then stay in the table but are read no more.
+ */
+class DataMapperPiutangDetail final : public AppDataMapper
+{
+    Q_OBJECT
+
+public:
+    DataMapperPiutangDetail(DataMapperPiutang* payments, DataMapperInvoice* invoices, DataMapperEmployee* employees,
+                            DataMapperAgent* agents, DataMapperMember* members);
+
+    KorEntity* createEntity() override;
+    [[nodiscard]] QStringList indexStatements() const override;
+};

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "sales/invoice/DataMapperInvoiceLink.h"
+
+class DataMapperBawaPulang;
+
+/** The invoices of orders to take away, in "invoice_bawa_pulang". */
+class DataMapperInvoiceBawaPulang final : public DataMapperInvoiceLink
+{
+    Q_OBJECT
+
+public:
+    DataMapperInvoiceBawaPulang(QObject* parent, DataMapperInvoice* invoices, DataMapperBawaPulang* orders);
+
+    KorEntity* createEntity() override;
+    [[nodiscard]] QStringList indexStatements() const override;
+    [[nodiscard]] QString keyName() const override;
+
+protected:
+    [[nodiscard]] Messages messages() const override;
+    bool loadOrders(const QList<KorEntity*>& links) override;
+
+private:
+    DataMapperBawaPulang* m_orders;
+};
