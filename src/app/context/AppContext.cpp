@@ -2,7 +2,9 @@
 
 #include "app/access/EntityUser.h"
 #include "app/context/DatabaseManager.h"
+#include "app/context/EntityPool.h"
 #include "kor/log/KorLogger.h"
+#include "kor/persistence/KorDatabase.h"
 
 #include <QCoreApplication>
 
@@ -66,7 +68,12 @@ void AppContext::log(const QString& message)
         logger->log(message);
 }
 
-QObject* AppContext::entityPool() const { return m_scopedPool ? m_scopedPool.data() : m_entityPool.get(); }
+QObject* AppContext::entityPool() const
+{
+    if (QObject* scoped = EntityPoolScope::current())
+        return scoped;
+    return KorDatabase::isApplicationThread() ? m_entityPool.get() : nullptr;
+}
 
 void AppContext::resetEntityPool() { m_entityPool = std::make_unique<QObject>(); }
 

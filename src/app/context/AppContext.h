@@ -51,7 +51,8 @@ public:
     void setLogger(KorLogger* logger);
     static void log(const QString& message);
 
-    /** The parent of records: that of the innermost EntityPoolScope, or else the run's own pool. */
+    /** The parent of records: that of the thread's innermost EntityPoolScope, or else the run's own, null on a worker.
+     */
     [[nodiscard]] QObject* entityPool() const;
     [[nodiscard]] QObject* mainEntityPool() const { return m_entityPool.get(); }
     /** Frees every record that a mapper made. Grids that still show some would dangle: close them first. */
@@ -77,8 +78,6 @@ public:
     void setMainWindow(QObject* mainWindow) { m_mainWindow = mainWindow; }
 
 private:
-    friend class EntityPoolScope;
-
     explicit AppContext(QObject* parent);
 
     EntityUser* m_currentUser = nullptr;
@@ -89,7 +88,6 @@ private:
     QPointer<KorLogger> m_logger;
     QString m_locale;
     std::unique_ptr<QObject> m_entityPool;
-    QPointer<QObject> m_scopedPool;
     QString m_dbHost;
     QString m_dbPort;
     QString m_dbName;

@@ -1,22 +1,36 @@
 #include "app/context/EntityPool.h"
 
 #include "app/context/AppContext.h"
+#include "kor/persistence/KorDatabase.h"
 
-EntityPool::EntityPool() : m_parent(new QObject(AppContext::instance()->mainEntityPool())) {}
+namespace
+{
+thread_local QPointer<QObject> innermost;
+
+// An object has no parent on another thread, so a worker's pool stands alone and lives as long as its EntityPool.
+QObject* newPool()
+{
+    return new QObject(KorDatabase::isApplicationThread() ? AppContext::instance()->mainEntityPool() : nullptr);
+}
+} // namespace
+
+EntityPool::EntityPool() : m_parent(newPool()) {}
 
 EntityPool::~EntityPool() { delete m_parent; }
 
 void EntityPool::clear()
 {
     delete m_parent;
-    m_parent = new QObject(AppContext::instance()->mainEntityPool());
+    m_parent = newPool();
 }
 
-EntityPoolScope::EntityPoolScope(EntityPool& pool) : m_former(AppContext::instance()->m_scopedPool)
+EntityPoolScope::EntityPoolScope(EntityPool& pool) : m_former(innermost)
 {
     if (!pool.parent())
         pool.clear();
-    AppContext::instance()->m_scopedPool = pool.parent();
+    innermost = pool.parent();
 }
 
-EntityPoolScope::~EntityPoolScope() { AppContext::instance()->m_scopedPool = m_former; }
+EntityPoolScope::~EntityPoolScope() { innermost = m_former; }
+
+QObject* EntityPoolScope::current() { return innermost; }

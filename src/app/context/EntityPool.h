@@ -24,13 +24,19 @@ private:
     QPointer<QObject> m_parent;
 };
 
-/** While it lives, records that mappers make go to this pool instead of the context's. Scopes may nest. */
+/**
+ * While it lives, records that mappers make go to this pool instead of the context's. Scopes may nest, and
+ * hold on the thread that opened them: a pool and its scope are the way to own what a worker thread reads.
+ */
 class EntityPoolScope
 {
 public:
     explicit EntityPoolScope(EntityPool& pool);
     ~EntityPoolScope();
     Q_DISABLE_COPY(EntityPoolScope)
+
+    /** The parent of the innermost scope of this thread, null outside of all. */
+    [[nodiscard]] static QObject* current();
 
 private:
     QPointer<QObject> m_former;

@@ -4,7 +4,6 @@
 #include "app/money/Money.h"
 #include "kor/entity/KorEntity.h"
 #include "kor/entity/KorMetaDataMap.h"
-#include "kor/persistence/KorDatabase.h"
 #include "kor/persistence/KorJoinMapper.h"
 
 bool AppDataMapper::insert(KorEntity* entity)
@@ -21,10 +20,7 @@ bool AppDataMapper::update(KorEntity* entity)
 
 bool AppDataMapper::remove(KorEntity* entity) { return KorDataMapper::remove(entity); }
 
-QObject* AppDataMapper::entityParent()
-{
-    return KorDatabase::isApplicationThread() ? AppContext::instance()->entityPool() : nullptr;
-}
+QObject* AppDataMapper::entityParent() { return AppContext::instance()->entityPool(); }
 
 void AppDataMapper::log(const QString& message) { AppContext::log(message); }
 

@@ -23,7 +23,7 @@ public:
     using KorDataMapper::fillFromRow;
     KorEntity* fillFromRow(KorQuery& query, KorEntity* entity) override;
 
-    /** The parent of every record that a mapper makes; null off the application's thread, where nothing pools. */
+    /** The parent of every record that a mapper makes; null on a worker thread outside of any EntityPoolScope. */
     [[nodiscard]] static QObject* entityParent();
     /** Null when either of the two columns is NULL. */
     static Money* moneyFromRow(KorQuery& query, const QString& currencyColumn, const QString& amountColumn,

@@ -19,7 +19,7 @@ public:
 
     [[nodiscard]] virtual KorDataMapper* lineMapper() const = 0;
     /** The mappers of all line tables, where a record has lines of more than one kind. */
-    [[nodiscard]] virtual QList<KorDataMapper*> lineMappers() const { return {lineMapper()}; }
+    [[nodiscard]] QList<KorDataMapper*> lineMappers() const override { return {lineMapper()}; }
 
 protected:
     /** The family's words for what failed. */

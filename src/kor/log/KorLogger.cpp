@@ -3,6 +3,7 @@
 #include <QDateTime>
 #include <QPlainTextEdit>
 #include <QTextStream>
+#include <QThread>
 
 KorLogger::KorLogger(QObject* parent, const QString& filePath, QPlainTextEdit* textView)
     : QObject(parent), m_textView(textView), m_filePath(filePath)
@@ -17,6 +18,15 @@ void KorLogger::log(const QString& message)
 {
     const QString line =
         m_showTimestamp ? QDateTime::currentDateTime().toString("dd.MM.yyyy hh:mm:ss ") + message : message;
+    if (QThread::currentThread() == thread())
+        write(line);
+    else
+        QMetaObject::invokeMethod(
+            this, [this, line] { write(line); }, Qt::QueuedConnection);
+}
+
+void KorLogger::write(const QString& line)
+{
     if (m_logFile && m_logFile->isOpen()) {
         QTextStream stream(m_logFile.get());
         stream.setCodec("UTF-8");

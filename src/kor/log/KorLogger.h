@@ -8,7 +8,10 @@
 
 class QPlainTextEdit;
 
-/** Writes one line a message to a file and, where there is one, to a text view. Each line is on disk at once. */
+/**
+ * Writes one line a message to a file and, where there is one, to a text view. Each line is on disk at once.
+ * Lines from other threads are stamped there and written by the logger's own.
+ */
 class KorLogger : public QObject
 {
     Q_OBJECT
@@ -22,6 +25,8 @@ public:
     [[nodiscard]] const QString& filePath() const { return m_filePath; }
 
 private:
+    void write(const QString& line);
+
     std::unique_ptr<QFile> m_logFile;
     QPointer<QPlainTextEdit> m_textView;
     bool m_showTimestamp = true;
