@@ -2,10 +2,7 @@
 
 #include "app/context/AppContext.h"
 #include "app/context/DatabaseManager.h"
-#include "kor/persistence/KorDataMapper.h"
-#include "registry/app/AppMapperRegistry.h"
-#include "registry/pos/PosMapperRegistry.h"
-#include "registry/zavel/ZavelMapperRegistry.h"
+#include "install/zavel/ZavelInstaller.h"
 #include "support/TestCluster.h"
 
 QString installedTemplateName() { return "zavel_installed"; }
@@ -20,14 +17,11 @@ void install(const QString& databaseName)
         context->setDatabaseManager(new DatabaseManager);
     if (!context->databaseManager()->open(cluster.host(), databaseName, cluster.user(), QString(), cluster.port()))
         qFatal("template: %s", qPrintable(context->databaseManager()->lastErrorText()));
-    const QList<const KorMapperRegistry*> registries{AppMapperRegistry::instance(), PosMapperRegistry::instance(),
-                                                     ZavelMapperRegistry::instance()};
-    for (const KorMapperRegistry* registry : registries) {
-        for (KorDataMapper* mapper : registry->all()) {
-            if (!mapper->createTable(1))
-                qFatal("template: %s: %s", qPrintable(mapper->name()), qPrintable(mapper->takeError()));
-        }
-    }
+    context->setLocale("en_US");
+    ZavelInstaller installer;
+    installer.install();
+    if (installer.failed())
+        qFatal("template: %s", qPrintable(installer.failures().join('\n')));
     context->databaseManager()->close();
 }
 } // namespace

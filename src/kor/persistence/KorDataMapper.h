@@ -57,6 +57,8 @@ public:
     [[nodiscard]] virtual QList<KorMigration*> migrations();
     /** The statements that create the table's indexes; each can run again on a table that has them. */
     [[nodiscard]] virtual QStringList indexStatements() const { return {}; }
+    /** The mappers of the tables of lines that this mapper creates with its own; they are in no registry. */
+    [[nodiscard]] virtual QList<KorDataMapper*> lineMappers() const { return {}; }
 
     [[nodiscard]] const QString& tableName() const;
     [[nodiscard]] KorMetaDataMap* metaData() const { return m_metaData; }

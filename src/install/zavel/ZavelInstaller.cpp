@@ -1,0 +1,98 @@
+#include "install/zavel/ZavelInstaller.h"
+
+#include "app/configuration/BusinessConfiguration.h"
+#include "app/context/EntityPool.h"
+#include "kor/persistence/KorDataMapper.h"
+#include "masterdata/agent/BusinessAgent.h"
+#include "masterdata/agent/EntityAgent.h"
+#include "masterdata/meja/BusinessMeja.h"
+#include "registry/pos/PosBusinessRegistry.h"
+#include "registry/zavel/ZavelBusinessRegistry.h"
+#include "registry/zavel/ZavelMapperRegistry.h"
+
+namespace
+{
+constexpr double schemaVersion = 1.1;
+}
+
+ZavelInstaller::ZavelInstaller(QObject* parent)
+    : PosInstaller(parent), m_tables(qobject_cast<BusinessMeja*>(ZavelBusinessRegistry::instance()->get("Table"))),
+      m_agents(PosBusinessRegistry::instance()->agent())
+{
+    setAppVersion(schemaVersion);
+}
+
+void ZavelInstaller::addMappers()
+{
+    PosInstaller::addMappers();
+    addAll(ZavelMapperRegistry::instance()->all());
+}
+
+void ZavelInstaller::registerPermissions()
+{
+    PosInstaller::registerPermissions();
+    registerAll(ZavelBusinessRegistry::instance()->all());
+}
+
+void ZavelInstaller::insertInitialData()
+{
+    PosInstaller::insertInitialData();
+    if (!isFresh()) {
+        updateVersion();
+        return;
+    }
+    setStatus(tr("Zavel Data"));
+    insertVersion();
+    insertKeys();
+    insertTables();
+    insertAgent();
+}
+
+void ZavelInstaller::insertVersion()
+{
+    EntityAppConfig version;
+    version.setKey(versionKey());
+    version.setValue(versionText());
+    insertRow(m_configuration, &version);
+}
+
+void ZavelInstaller::updateVersion()
+{
+    EntityPool pool;
+    const EntityPoolScope scope(pool);
+    m_configuration->clearErrors();
+    EntityAppConfig* version = m_configuration->getConfig(versionKey());
+    if (version) {
+        version->setValue(versionText());
+        m_configuration->update(version);
+    }
+    if (m_configuration->hasError())
+        reportFailure(m_configuration->takeErrors());
+}
+
+void ZavelInstaller::insertKeys()
+{
+    insertKey("TRD", "Dine Invoice Key");
+    insertKey("TRF", "Fast Food Invoice Key");
+    insertKey("TRP", "Take Away Food Invoice Key");
+    insertKey("PIU", "Credit Key");
+    insertKey("KAG", "Agent Commission Key");
+}
+
+void ZavelInstaller::insertTables()
+{
+    for (int number = 1; number <= 2; ++number) {
+        EntityMeja table;
+        table.setKode(QString("m%1").arg(number));
+        table.setNama(QString("Table %1").arg(number));
+        insertRow(m_tables, &table);
+    }
+}
+
+void ZavelInstaller::insertAgent()
+{
+    EntityAgent agent;
+    fillContact(agent, "agent1", "Agent 1", "Jl. Contoh 5, Sukamaju", "021-5550141", "agent1@example.com");
+    agent.setCommisionPerc(10);
+    insertRow(m_agents, &agent);
+}

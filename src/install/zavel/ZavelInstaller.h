@@ -1,0 +1,32 @@
+#pragma once
+
+#include "install/pos/PosInstaller.h"
+
+class BusinessAgent;
+class BusinessMeja;
+
+/**
+ * The installer of the whole program. A caller sets type and logger, connects onProgress() and error(), and calls
+ * process(), or moves it to a thread whose start does.
+ */
+class ZavelInstaller final : public PosInstaller
+{
+    Q_OBJECT
+
+public:
+    explicit ZavelInstaller(QObject* parent = nullptr);
+
+    void addMappers() override;
+    void insertInitialData() override;
+    void registerPermissions() override;
+
+private:
+    void insertVersion();
+    void updateVersion();
+    void insertKeys();
+    void insertTables();
+    void insertAgent();
+
+    BusinessMeja* const m_tables;
+    BusinessAgent* const m_agents;
+};
