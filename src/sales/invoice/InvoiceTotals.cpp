@@ -8,6 +8,8 @@
 
 double InvoiceTotals::rounded(double amount) const
 {
+    if (!std::isfinite(amount))
+        return 0;
     const int factor = Money(nullptr, 0, m_currency).factor();
     return std::floor(amount * factor + 0.5) / factor;
 }

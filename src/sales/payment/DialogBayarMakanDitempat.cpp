@@ -1,0 +1,371 @@
+#include "sales/payment/DialogBayarMakanDitempat.h"
+
+#include "app/context/AppContext.h"
+#include "kor/business/KorServiceDirectory.h"
+#include "masterdata/agent/AgentTextBox.h"
+#include "masterdata/bank/BankTextBox.h"
+#include "masterdata/employee/EmployeeTextBox.h"
+#include "masterdata/member/MemberTextBox.h"
+#include "sales/invoice/EntityInvoiceDetail.h"
+#include "sales/payment/DialogSelectSplitInvoice.h"
+#include "sales/payment/EntityInvoiceMakanDitempat.h"
+#include "sales/payment/PaymentCascade.h"
+#include "sales/payment/TabBayarMakanDitempatDetail.h"
+#include "sales/service/BusinessPenjualan.h"
+
+#include "ui_DialogBayarMakanDitempat.h"
+
+#include <QMessageBox>
+#include <QShortcut>
+
+DialogBayarMakanDitempat::DialogBayarMakanDitempat(QWidget* parent)
+    : KorDialog(parent), m_ui(std::make_unique<Ui::DialogBayarMakanDitempat>()),
+      m_sales(service<BusinessPenjualan>("Sales"))
+{
+    m_ui->setupUi(this);
+    m_menu = new TabBayarMakanDitempatDetail(this);
+    m_ui->tabDetail->addTab(m_menu, tr("[F3] Menu"));
+    m_cascade = new PaymentCascade({m_ui->txtSubTotal,
+                                    {m_ui->txtDiscPerc, m_ui->txtTaxPerc, m_ui->txtServicePerc},
+                                    {m_ui->txtDiscount, m_ui->txtTax, m_ui->txtService},
+                                    m_ui->txtPaid,
+                                    m_ui->txtCredit,
+                                    {m_ui->txtGrandTotal, m_ui->txtGrandTotal_2},
+                                    m_ui->txtNetDue,
+                                    m_ui->lblNetDue},
+                                   this);
+    setUpFields();
+    focusLater(m_ui->txtPaid);
+}
+
+DialogBayarMakanDitempat::~DialogBayarMakanDitempat() = default;
+
+void DialogBayarMakanDitempat::setUpFields()
+{
+    m_memberBox = new MemberTextBox(m_ui->txtMember, service<BusinessMember>("Member"));
+    m_agentBox = new AgentTextBox(m_ui->txtAgent, service<BusinessAgent>("Agent"));
+    m_employeeBox = new EmployeeTextBox(m_ui->txtEmployee, service<BusinessEmployee>("Employee"));
+    m_cashBox = new BankTextBox(m_ui->txtCashAccount, service<BusinessBank>("Bank"));
+    m_memberBox->setNextWidget(m_ui->txtNamaPelanggan);
+    m_agentBox->setNextWidget(m_ui->txtEmployee);
+    m_employeeBox->setNextWidget(m_ui->txtDiscPerc);
+    m_cashBox->setNextWidget(m_ui->txtPaid);
+    connect(m_memberBox, &KorTextBoxExtender::onItemSelected, this, &DialogBayarMakanDitempat::onMemberSelected);
+    connect(m_agentBox, &KorTextBoxExtender::onItemSelected, this, &DialogBayarMakanDitempat::onAgentSelected);
+    connect(m_employeeBox, &KorTextBoxExtender::onItemSelected, this, &DialogBayarMakanDitempat::onEmployeeSelected);
+    connect(m_cashBox, &KorTextBoxExtender::onItemSelected, this, &DialogBayarMakanDitempat::onCashAccountSelected);
+    connect(m_menu, &TabBayarMakanDitempatDetail::ItemAdded, this, &DialogBayarMakanDitempat::onItemAdded);
+
+    for (QDateEdit* date : {m_ui->datePay, m_ui->dateDue}) {
+        date->setDisplayFormat(AppContext::instance()->dateFormat());
+        date->setDate(QDate::currentDate());
+    }
+    const auto onKey = [this](const QKeySequence& key, auto action) {
+        connect(new QShortcut(key, this), &QShortcut::activated, this, action);
+    };
+    onKey(Qt::Key_F3, &DialogBayarMakanDitempat::onTabItemSelected);
+    onKey(Qt::Key_F9, [this] { m_ui->txtPaid->setFocus(); });
+    onKey(Qt::Key_F10, [this] { m_ui->txtCredit->setFocus(); });
+    onKey(QKeySequence("Ctrl+P"), &DialogBayarMakanDitempat::on_btnPrintBill_clicked);
+}
+
+// --- opening -------------------------------------------------------------------------------------------------------
+
+bool DialogBayarMakanDitempat::openOrder(EntityMakanDitempat* order)
+{
+    m_order = order;
+    QList<EntityInvoiceMakanDitempat*> invoices;
+    if (order->isSaved()) {
+        const EntityPoolScope scope(m_read);
+        invoices = m_sales->getInvoicesOfOrder(order->getId());
+    }
+    if (m_sales->hasError()) {
+        showServiceError();
+        return false;
+    }
+    if (invoices.isEmpty()) {
+        newInvoice();
+        return true;
+    }
+    if (invoices.size() == 1) {
+        setEntity(invoices.first());
+        return true;
+    }
+    DialogSelectSplitInvoice choice(invoices, this);
+    if (choice.exec() != Accepted)
+        return false;
+    setEntity(choice.selectedInvoice());
+    return true;
+}
+
+void DialogBayarMakanDitempat::newInvoice()
+{
+    m_ui->datePay->setDate(m_order->getTgl().isValid() ? m_order->getTgl() : QDate::currentDate());
+    m_ui->dateDue->setDate(m_ui->datePay->date());
+    QList<EntityInvoiceDetail*> lines;
+    for (const EntityOrderDetail* ordered : m_order->getDetails()) {
+        // Recomputed from price and quantity: the order line's own total may be behind its quantity.
+        auto* line = new EntityInvoiceDetail(this);
+        line->setItem(ordered->getItem());
+        line->setQty(ordered->getQty());
+        line->setPriceEach(ordered->getPriceEach());
+        line->recomputeTotal();
+        lines.append(line);
+    }
+    m_menu->setDetails(lines);
+    showGuest();
+    applyMemberDiscount(m_order->getMember());
+    if (const EntityBank* cash = service<BusinessBank>("Bank")->cashOnHand()) {
+        m_ui->txtCashAccount->setText(cash->getKode());
+        m_ui->lblCashAccount->setText(cash->getNama());
+    }
+}
+
+void DialogBayarMakanDitempat::setEntity(KorEntity* entity)
+{
+    m_sale = static_cast<EntityInvoiceMakanDitempat*>(entity);
+    m_order = m_sale->getMakanDitempat();
+    showInvoice();
+}
+
+void DialogBayarMakanDitempat::showInvoice()
+{
+    const Invoice* invoice = m_sale->getInvoice();
+    m_ui->txtKode->setText(invoice->getInvoiceNo());
+    m_ui->datePay->setDate(invoice->getInvoiceDate());
+    m_ui->datePay->setEnabled(false);
+    m_ui->dateDue->setDate(m_sale->getDueDate().isValid() ? m_sale->getDueDate() : invoice->getInvoiceDate());
+    m_ui->txtAgent->setText(m_sale->getAgent() ? m_sale->getAgent()->getKode() : QString());
+    m_ui->txtEmployee->setText(m_sale->getEmployee() ? m_sale->getEmployee()->getKode() : QString());
+    m_ui->txtNotes->setPlainText(invoice->getNote());
+    m_ui->txtCashAccount->setText(invoice->getAcctCode());
+    const EntityBank* cash = service<BusinessBank>("Bank")->findByCode(invoice->getAcctCode());
+    m_ui->lblCashAccount->setText(cash ? cash->getNama() : QString());
+    m_cascade->readFrom(*invoice);
+    m_menu->setDetails(m_sale->getDetails());
+    m_order->setMember(invoice->getMember());
+    showGuest();
+}
+
+void DialogBayarMakanDitempat::showGuest()
+{
+    m_ui->txtMeja->setText(m_order->getMeja() ? m_order->getMeja()->getNama() : QString());
+    const EntityMember* member = m_order->getMember();
+    m_ui->txtMember->setText(member ? member->getKode() : QString());
+    m_ui->txtNamaPelanggan->setText(member ? member->getNama() : m_order->getPemesan());
+}
+
+void DialogBayarMakanDitempat::applyMemberDiscount(const EntityMember* member)
+{
+    if (member && QDate::currentDate() <= member->getExpiredDate())
+        m_cascade->proposeDiscount(member->getDiscountPercentage());
+}
+
+// --- entries -------------------------------------------------------------------------------------------------------
+
+void DialogBayarMakanDitempat::onTableSelected() {}
+
+void DialogBayarMakanDitempat::onMemberSelected()
+{
+    const EntityMember* member = m_memberBox->selectedItem();
+    if (!member)
+        return;
+    m_ui->txtNamaPelanggan->setText(member->getNama());
+    // A stored invoice keeps the discount that it was saved with.
+    if (!m_sale || !m_sale->isSaved())
+        applyMemberDiscount(member);
+}
+
+void DialogBayarMakanDitempat::onAgentSelected() {}
+
+void DialogBayarMakanDitempat::onEmployeeSelected() {}
+
+void DialogBayarMakanDitempat::onItemAdded()
+{
+    double subtotal = 0;
+    for (const EntityInvoiceDetail* line : m_menu->details()) {
+        if (line->getTotal())
+            subtotal += double(line->getTotal()->rawAmount()) / line->getTotal()->factor();
+    }
+    m_cascade->setSubtotal(subtotal);
+}
+
+void DialogBayarMakanDitempat::onTabItemSelected()
+{
+    m_ui->tabDetail->setCurrentWidget(m_menu);
+    m_menu->focusGrid();
+}
+
+void DialogBayarMakanDitempat::on_txtPaid_textChanged(const QString&) { m_cascade->calculateTotal(); }
+
+void DialogBayarMakanDitempat::on_txtCredit_textChanged(const QString&) { m_cascade->calculateTotal(); }
+
+void DialogBayarMakanDitempat::on_txtDiscPerc_editingFinished() { m_cascade->percentEntered(InvoiceTotals::Discount); }
+
+void DialogBayarMakanDitempat::on_txtDiscount_editingFinished() { m_cascade->amountEntered(InvoiceTotals::Discount); }
+
+void DialogBayarMakanDitempat::on_txtTaxPerc_editingFinished() { m_cascade->percentEntered(InvoiceTotals::Tax); }
+
+void DialogBayarMakanDitempat::on_txtTax_editingFinished() { m_cascade->amountEntered(InvoiceTotals::Tax); }
+
+void DialogBayarMakanDitempat::on_txtServicePerc_editingFinished()
+{
+    m_cascade->percentEntered(InvoiceTotals::Service);
+}
+
+void DialogBayarMakanDitempat::on_txtService_editingFinished() { m_cascade->amountEntered(InvoiceTotals::Service); }
+
+void DialogBayarMakanDitempat::onCashAccountSelected()
+{
+    const EntityBank* account = m_cashBox->selectedItem();
+    m_ui->lblCashAccount->setText(account ? account->getNama() : QString());
+    if (account)
+        m_ui->txtCashAccount->setText(account->getKode());
+}
+
+// --- saving --------------------------------------------------------------------------------------------------------
+
+bool DialogBayarMakanDitempat::validate()
+{
+    requireText(m_ui->txtMeja, m_ui->txtMeja->text(), tr("Select a table"));
+    if (m_menu->details().isEmpty())
+        addError(m_ui->tabDetail, tr("Add one or more menu"));
+    if (require(m_ui->txtCashAccount, tr("Please select a Cash Accounts")) &&
+        !service<BusinessBank>("Bank")->findByCode(m_ui->txtCashAccount->text()))
+        addError(m_ui->txtCashAccount, tr("Please select a valid Cash Accounts"));
+    resolvePeople();
+    m_cascade->calculateTotal();
+    if (!m_cascade->totals().fits())
+        addError(m_ui->txtPaid, tr("An amount is larger than an invoice can hold. Please check the figures."));
+    return !hasError();
+}
+
+bool DialogBayarMakanDitempat::resolvePeople()
+{
+    // A code typed by hand counts like one that was picked from the list; a wrong one must not vanish silently.
+    const auto known = [this](QLineEdit* field, const KorEntity* found) {
+        if (field->text().isEmpty() || found)
+            return;
+        addError(field, tr("There is no record with the code: %1").arg(field->text()));
+    };
+    known(m_ui->txtMember, service<BusinessMember>("Member")->findByCode(m_ui->txtMember->text()));
+    known(m_ui->txtAgent, service<BusinessAgent>("Agent")->findByCode(m_ui->txtAgent->text()));
+    known(m_ui->txtEmployee, service<BusinessEmployee>("Employee")->findByCode(m_ui->txtEmployee->text()));
+    return !hasError();
+}
+
+KorEntity* DialogBayarMakanDitempat::getEntity()
+{
+    if (!m_sale)
+        m_sale = new EntityInvoiceMakanDitempat(this);
+    Invoice* invoice = m_sale->getInvoice();
+    const auto byCode = [](const QLineEdit* field, auto* people) {
+        return field->text().isEmpty() ? nullptr : people->findByCode(field->text());
+    };
+    EntityMember* member = byCode(m_ui->txtMember, service<BusinessMember>("Member"));
+    m_order->setMember(member);
+    m_sale->setMakanDitempat(m_order);
+    m_sale->setAgent(byCode(m_ui->txtAgent, service<BusinessAgent>("Agent")));
+    m_sale->setEmployee(byCode(m_ui->txtEmployee, service<BusinessEmployee>("Employee")));
+    m_sale->setDueDate(m_ui->dateDue->date());
+    m_sale->setDetails(m_menu->details());
+    invoice->setInvoiceDate(m_ui->datePay->date());
+    invoice->setMember(member);
+    invoice->setPemesan(m_order->getPemesan().left(50));
+    invoice->setNote(m_ui->txtNotes->toPlainText());
+    invoice->setAgent(m_sale->getAgent());
+    const EntityBank* account = byCode(m_ui->txtCashAccount, service<BusinessBank>("Bank"));
+    invoice->setAcctCode(account ? account->getKode() : m_ui->txtCashAccount->text());
+    m_cascade->writeTo(invoice);
+    return m_sale;
+}
+
+bool DialogBayarMakanDitempat::beforeAccept()
+{
+    saveInvoice();
+    // The form stays on the saved invoice; closing it is the cashier's choice.
+    return false;
+}
+
+void DialogBayarMakanDitempat::saveInvoice()
+{
+    getEntity();
+    const bool saved = m_sale->isSaved() ? m_sales->updateInvoice(m_sale) : m_sales->insertInvoice(m_sale);
+    if (!saved) {
+        showServiceError();
+        return;
+    }
+    m_ui->txtKode->setText(m_sale->getInvoice()->getInvoiceNo());
+    if (!readAgain())
+        return;
+    offerToPrint();
+    offerToFinish();
+    readAgain();
+}
+
+bool DialogBayarMakanDitempat::readAgain()
+{
+    EntityPool fresh;
+    KorEntity* sale = nullptr;
+    {
+        const EntityPoolScope scope(fresh);
+        sale = m_sales->findInvoiceMakanDitempat(m_sale->getId());
+    }
+    if (!sale) {
+        if (m_sales->hasError())
+            showServiceError();
+        return false;
+    }
+    setEntity(sale);
+    m_read.swap(fresh);
+    return true;
+}
+
+void DialogBayarMakanDitempat::offerToPrint()
+{
+    if (!m_print && ask(tr("Do you want to print this invoice?")))
+        m_print = true;
+    if (m_print)
+        printBill();
+}
+
+void DialogBayarMakanDitempat::offerToFinish()
+{
+    if (m_order->getStatus() == EntityOrder::PAID &&
+        ask(tr("Are you done with this table: %1 ?").arg(m_order->getMeja()->getNama())))
+        finishTable();
+}
+
+bool DialogBayarMakanDitempat::finishTable()
+{
+    if (m_sales->makanDitempatSelesai(m_order))
+        return true;
+    showServiceError();
+    return false;
+}
+
+void DialogBayarMakanDitempat::printBill() {}
+
+void DialogBayarMakanDitempat::on_btnPrintBill_clicked()
+{
+    m_print = true;
+    accept();
+}
+
+void DialogBayarMakanDitempat::on_btnFinish_clicked()
+{
+    if (!m_sale || !m_sale->isSaved()) {
+        QMessageBox::critical(this, tr("Error"), tr("Please save this invoice first"));
+        return;
+    }
+    if (finishTable())
+        reject();
+}
+
+bool DialogBayarMakanDitempat::ask(const QString& question)
+{
+    return QMessageBox::question(this, tr("Question"), question, QMessageBox::Yes | QMessageBox::No) ==
+           QMessageBox::Yes;
+}
+
+void DialogBayarMakanDitempat::showServiceError() { showError(m_sales->takeErrors()); }

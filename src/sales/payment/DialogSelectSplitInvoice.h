@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QDialog>
+
+class EntityInvoiceMakanDitempat;
+class TabSelectSplitInvoice;
+
+/** Lets the cashier choose among the invoices of an order that is paid apart. */
+class DialogSelectSplitInvoice final : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit DialogSelectSplitInvoice(const QList<EntityInvoiceMakanDitempat*>& invoices, QWidget* parent = nullptr);
+
+    [[nodiscard]] EntityInvoiceMakanDitempat* selectedInvoice() const;
+
+    void accept() override;
+
+private:
+    TabSelectSplitInvoice* m_invoices;
+};

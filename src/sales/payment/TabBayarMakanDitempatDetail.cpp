@@ -1,0 +1,39 @@
+#include "sales/payment/TabBayarMakanDitempatDetail.h"
+
+#include "app/persistence/AppDocumentLines.h"
+#include "sales/invoice/EntityInvoiceDetail.h"
+#include "sales/payment/TableModelBayarMakanDitempatDetail.h"
+
+#include <QLabel>
+#include <QTableView>
+#include <QVBoxLayout>
+
+TabBayarMakanDitempatDetail::TabBayarMakanDitempatDetail(QWidget* parent)
+    : AppTab(parent), m_grid(new QTableView(this)), m_count(new QLabel(this))
+{
+    m_grid->setObjectName("tblDetail");
+    m_count->setObjectName("lblCount");
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(8, 8, 8, 4);
+    layout->setSpacing(4);
+    layout->addWidget(m_grid);
+    layout->addWidget(m_count);
+}
+
+void TabBayarMakanDitempatDetail::setDetails(const QList<EntityInvoiceDetail*>& details)
+{
+    m_details = details;
+    refresh();
+}
+
+void TabBayarMakanDitempatDetail::refresh()
+{
+    // The former model goes without clear(): the lines are not its own.
+    delete m_model;
+    m_model = new TableModelBayarMakanDitempatDetail(asEntities(m_details), false, this);
+    applyModel(m_grid, m_model);
+    m_count->setText(tr("%1 Items").arg(m_details.size()));
+    emit ItemAdded();
+}
+
+void TabBayarMakanDitempatDetail::focusGrid() { m_grid->setFocus(); }
