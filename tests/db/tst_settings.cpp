@@ -32,7 +32,11 @@ private slots:
         m_settings = service<BusinessConfiguration>("Configuration");
         loginAsAdmin();
     }
-    void cleanup() { m_database.reset(); }
+    void cleanup()
+    {
+        m_database.reset();
+        QDir(QCoreApplication::applicationDirPath()).rmdir("reports");
+    }
 
     void theMembersOfARowAreStoredAsOneObject()
     {
