@@ -166,6 +166,8 @@ QTableView* AppListTab::grid() const { return m_ui->tblList; }
 
 QHBoxLayout* AppListTab::filterLayout() const { return m_ui->filterLayout; }
 
+QLabel* AppListTab::filterLabel() const { return m_ui->lblFilter; }
+
 QPushButton* AppListTab::button(const char* name) const { return findChild<QPushButton*>(QLatin1String(name)); }
 
 QString AppListTab::filterText() const { return m_ui->txtFilter->text().toLower(); }

@@ -8,6 +8,7 @@
 class KorBusinessLogic;
 class KorDialog;
 class QHBoxLayout;
+class QLabel;
 class QPushButton;
 class QTableView;
 
@@ -88,6 +89,7 @@ protected:
     [[nodiscard]] KorEntityModel* model() const { return m_model; }
     /** Where a page puts further filters, between the filter box and the search button. */
     [[nodiscard]] QHBoxLayout* filterLayout() const;
+    [[nodiscard]] QLabel* filterLabel() const;
     [[nodiscard]] QPushButton* button(const char* name) const;
     [[nodiscard]] QString filterText() const;
 
