@@ -2,8 +2,7 @@
 
 QPictureLabel::QPictureLabel(QWidget* parent) : QLabel(parent)
 {
-    // The label's size rules the picture's, never the other way round.
-    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
 void QPictureLabel::setImage(const QPixmap& image)

@@ -15,6 +15,10 @@ public:
     [[nodiscard]] const QPixmap& image() const { return m_image; }
     void setImage(const QPixmap& image);
 
+    // The label's size rules the picture's, never the other way round.
+    [[nodiscard]] QSize sizeHint() const override { return minimumSize(); }
+    [[nodiscard]] QSize minimumSizeHint() const override { return minimumSize(); }
+
 protected:
     void resizeEvent(QResizeEvent* event) override;
 
