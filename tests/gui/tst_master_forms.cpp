@@ -139,6 +139,8 @@ private slots:
         QTest::newRow("everything") << "100" << true << 100.0;
         QTest::newRow("a little more") << "100.01" << false << 0.0;
         QTest::newRow("less than nothing") << "-0.5" << false << 0.0;
+        QTest::newRow("no number") << "1O" << false << 0.0;
+        QTest::newRow("emptied") << "" << true << 0.0;
         QTest::newRow("untouched") << QString() << true << 0.0;
     }
     void anAgentsShareIsAPercentage()

@@ -19,8 +19,10 @@ bool DialogAgent::validate()
                                              tr("This agent code already used, please choose another code"),
                                              tr("Enter the agent name"), tr("Enter the address"),
                                              tr("Enter the telp no"), tr("Enter the correct email address")});
+    // What is no number would leave the former share standing behind the user's back; an empty field may.
+    const bool readable = m_ui->txtPerc->text().isEmpty() || m_ui->txtPerc->isValid();
     const double commission = m_ui->txtPerc->value();
-    if (commission < 0 || commission > 100)
+    if (!readable || commission < 0 || commission > 100)
         addError(m_ui->txtPerc, tr("Enter the number between 0-100"));
     return !hasError();
 }
