@@ -1,0 +1,6 @@
+#pragma once
+
+class Guide;
+
+/** One table served, from the login to the freed table. */
+void playDineIn(Guide& guide);

@@ -1,0 +1,362 @@
+#include "tour/Guide.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QDateTime>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPainter>
+#include <QPlainTextEdit>
+#include <QSemaphore>
+#include <QTest>
+#include <QTextStream>
+#include <QThread>
+#include <QTimer>
+#include <QTreeWidget>
+#include <QWindow>
+
+#include <cstdlib>
+
+namespace
+{
+constexpr int patience = 15000;
+constexpr int glance = 15;
+
+QWidget* frontWindow()
+{
+    if (QWidget* modal = QApplication::activeModalWidget())
+        return modal;
+    if (QWidget* active = QApplication::activeWindow())
+        return active;
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->isVisible())
+            return window;
+    }
+    return nullptr;
+}
+
+QWidget* find(const QString& name)
+{
+    QWidget* window = frontWindow();
+    if (!window)
+        return nullptr;
+    const QList<QWidget*> all = window->findChildren<QWidget*>(name);
+    for (QWidget* widget : all) {
+        if (widget->isVisible())
+            return widget;
+    }
+    return nullptr;
+}
+
+bool isInFront(const QString& className)
+{
+    const QWidget* window = frontWindow();
+    return window && window->isVisible() && className == window->metaObject()->className();
+}
+
+QString shownText(const QWidget* widget)
+{
+    if (const auto* plain = qobject_cast<const QPlainTextEdit*>(widget))
+        return plain->toPlainText();
+    return widget ? widget->property("text").toString() : QString();
+}
+
+/** All visible windows as they lie over each other; the desktop shines through where there is none. */
+QPixmap screen()
+{
+    QList<QWidget*> windows;
+    QRect area;
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->isVisible() && !window->size().isEmpty())
+            windows.append(window);
+    }
+    std::stable_sort(windows.begin(), windows.end(), [](const QWidget* left, const QWidget* right) {
+        const auto rank = [](const QWidget* window) {
+            if (window->windowType() == Qt::Popup || window->windowType() == Qt::ToolTip)
+                return 3;
+            if (window == QApplication::activeModalWidget())
+                return 2;
+            return window->isModal() ? 1 : 0;
+        };
+        return rank(left) < rank(right);
+    });
+    for (const QWidget* window : windows)
+        area |= window->frameGeometry();
+    QPixmap picture(area.size());
+    picture.fill(QColor("#3a4650"));
+    QPainter painter(&picture);
+    for (QWidget* window : windows) {
+        const QPoint corner = window->geometry().topLeft() - area.topLeft();
+        if (window != windows.first())
+            painter.fillRect(QRect(corner, window->size()).adjusted(-2, -2, 2, 2), QColor("#20262b"));
+        painter.drawPixmap(corner, window->grab());
+    }
+    return picture;
+}
+} // namespace
+
+Guide::Guide(const QString& folder) : m_folder(folder)
+{
+    QDir().mkpath(folder);
+}
+
+// --- the two threads -----------------------------------------------------------------------------------------------
+
+QVariant Guide::ask(const std::function<QVariant()>& look)
+{
+    QSemaphore seen;
+    QVariant result;
+    QMetaObject::invokeMethod(
+        qApp,
+        [&] {
+            result = look();
+            seen.release();
+        },
+        Qt::QueuedConnection);
+    if (!seen.tryAcquire(1, patience)) {
+        QTextStream(stderr) << "TOUR FAILED: the program does not answer any more\n";
+        std::_Exit(1);
+    }
+    return result;
+}
+
+void Guide::act(const std::function<void()>& action)
+{
+    // Not waited for: what opens a modal window returns only when that is closed again.
+    QMetaObject::invokeMethod(qApp, action, Qt::QueuedConnection);
+    // Whatever follows at once is done when the program looks at its queue again.
+    (void)ask([] { return QVariant(); });
+}
+
+void Guide::waitFor(const QString& what, const std::function<bool()>& condition)
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (!ask([&condition] { return QVariant(condition()); }).toBool()) {
+        if (timer.elapsed() > patience)
+            fail("waited in vain: " + what);
+        QThread::msleep(glance);
+    }
+}
+
+void Guide::fail(const QString& reason)
+{
+    QStringList windows = ask([] {
+                              QStringList names;
+                              for (QWidget* window : QApplication::topLevelWidgets()) {
+                                  if (window->isVisible())
+                                      names += QString("%1 \"%2\" %3").arg(window->metaObject()->className(),
+                                                                          window->windowTitle(),
+                                                                          window->property("text").toString());
+                              }
+                              return QVariant(names);
+                          }).toStringList();
+    picture("failed");
+    QTextStream(stderr) << "TOUR FAILED in \"" << m_chapter << "\": " << reason << "\n  on screen: "
+                        << windows.join("; ") << "\n";
+    note("FAILED: " + reason);
+    std::_Exit(1);
+}
+
+// --- telling -------------------------------------------------------------------------------------------------------
+
+void Guide::chapter(const QString& title)
+{
+    m_chapter = title;
+    note("\n" + title + "\n" + QString(title.size(), '-'));
+    QTextStream(stdout) << "tour: " << title << endl;
+}
+
+void Guide::note(const QString& line)
+{
+    QFile summary(m_folder + "/summary.txt");
+    if (summary.open(QIODevice::Append | QIODevice::Text))
+        summary.write((line + '\n').toUtf8());
+}
+
+void Guide::picture(const QString& name)
+{
+    const QString file = QString("%1-%2.png").arg(++m_pictures, 2, 10, QLatin1Char('0')).arg(name);
+    const QString path = m_folder + '/' + file;
+    if (!ask([path] { return QVariant(screen().save(path)); }).toBool())
+        note("could not save " + path);
+    note("[" + file + "]");
+}
+
+// --- looking -------------------------------------------------------------------------------------------------------
+
+void Guide::waitForWindow(const QString& className)
+{
+    waitFor("window " + className, [&className] { return isInFront(className); });
+}
+
+void Guide::waitUntilClosed(const QString& className)
+{
+    waitFor("end of " + className, [&className] {
+        for (const QWidget* window : QApplication::topLevelWidgets()) {
+            if (window->isVisible() && className == window->metaObject()->className())
+                return false;
+        }
+        return true;
+    });
+}
+
+QString Guide::textOf(const QString& widget)
+{
+    waitFor("widget " + widget, [&widget] { return find(widget) != nullptr; });
+    return ask([&widget] { return QVariant(shownText(find(widget))); }).toString();
+}
+
+void Guide::expectText(const QString& widget, const QString& text)
+{
+    QElapsedTimer timer;
+    timer.start();
+    QString actual = textOf(widget);
+    while (actual != text) {
+        if (timer.elapsed() > patience)
+            fail(QString("%1 shows \"%2\" instead of \"%3\"").arg(widget, actual, text));
+        QThread::msleep(glance);
+        actual = textOf(widget);
+    }
+    note(QString("%1 = %2").arg(widget, text));
+}
+
+void Guide::answer(const QString& text, const QString& button)
+{
+    const auto theBox = [] { return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()); };
+    waitFor("a box that says \"" + text + '"',
+            [&] { return theBox() && theBox()->isVisible() && theBox()->text().contains(text); });
+    note("box \"" + ask([&] { return QVariant(theBox()->text().trimmed()); }).toString() + "\" -> " + button);
+    act([theBox, button] {
+        for (QAbstractButton* candidate : theBox()->buttons()) {
+            if (candidate->text().remove('&') == button)
+                QTest::mouseClick(candidate, Qt::LeftButton);
+        }
+    });
+}
+
+// --- doing ---------------------------------------------------------------------------------------------------------
+
+void Guide::type(const QString& text)
+{
+    for (const QChar letter : text) {
+        act([letter] {
+            // Through the window, so that an open list sees the keys first, as with a real keyboard.
+            if (QWindow* window = QGuiApplication::focusWindow())
+                QTest::sendKeyEvent(QTest::Click, window, Qt::Key_unknown, QString(letter), Qt::NoModifier);
+        });
+    }
+}
+
+void Guide::key(int key, Qt::KeyboardModifiers modifiers)
+{
+    act([key, modifiers] {
+        if (QWindow* window = QGuiApplication::focusWindow())
+            QTest::keyClick(window, static_cast<Qt::Key>(key), modifiers);
+    });
+}
+
+void Guide::enter(const QString& field)
+{
+    waitFor("field " + field, [&field] { return find(field) && find(field)->isEnabled(); });
+    act([field] {
+        QWidget* widget = find(field);
+        QTest::mouseClick(widget, Qt::LeftButton);
+        if (auto* edit = qobject_cast<QLineEdit*>(widget))
+            edit->selectAll();
+    });
+    waitFor("the cursor in " + field, [&field] { return find(field) && find(field)->hasFocus(); });
+}
+
+void Guide::fill(const QString& field, const QString& text)
+{
+    enter(field);
+    type(text);
+}
+
+void Guide::click(const QString& widget)
+{
+    waitFor("button " + widget, [&widget] { return find(widget) && find(widget)->isEnabled(); });
+    act([widget] { QTest::mouseClick(find(widget), Qt::LeftButton); });
+}
+
+void Guide::chooseRow(const QString& grid, const QString& text)
+{
+    const auto row = [grid, text]() -> QModelIndex {
+        const auto* view = qobject_cast<QAbstractItemView*>(find(grid));
+        if (!view || !view->model())
+            return {};
+        for (int r = 0; r < view->model()->rowCount(); ++r) {
+            for (int c = 0; c < view->model()->columnCount(); ++c) {
+                if (view->model()->index(r, c).data().toString() == text)
+                    return view->model()->index(r, c);
+            }
+        }
+        return {};
+    };
+    waitFor("a row with \"" + text + "\" in " + grid, [&row] { return row().isValid(); });
+    act([grid, row] {
+        auto* view = qobject_cast<QAbstractItemView*>(find(grid));
+        view->scrollTo(row());
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, view->visualRect(row()).center());
+    });
+}
+
+void Guide::lookUp(const QString& field, const QString& text)
+{
+    fill(field, text);
+    waitFor("the list of " + field, [] {
+        const auto* list = qobject_cast<QTreeWidget*>(QApplication::activePopupWidget());
+        return list && list->isVisible() && list->topLevelItemCount() > 0 &&
+               list->topLevelItem(0)->text(0) != "No result";
+    });
+}
+
+void Guide::menu(const QString& menuName, const QString& actionName)
+{
+    const auto theMenu = [menuName]() -> QMenu* {
+        for (QWidget* window : QApplication::topLevelWidgets()) {
+            if (auto* menu = window->findChild<QMenu*>(menuName))
+                return menu;
+        }
+        return nullptr;
+    };
+    waitFor("menu " + menuName, [&theMenu] { return theMenu() != nullptr; });
+    act([theMenu] {
+        QMenu* menu = theMenu();
+        auto* bar = menu->parentWidget()->window()->findChild<QMenuBar*>();
+        QTest::mouseClick(bar, Qt::LeftButton, Qt::NoModifier, bar->actionGeometry(menu->menuAction()).center());
+    });
+    waitFor("open menu " + menuName, [&theMenu] { return theMenu()->isVisible(); });
+    act([theMenu, actionName] {
+        QMenu* menu = theMenu();
+        for (QAction* action : menu->actions()) {
+            if (action->objectName() == actionName)
+                QTest::mouseClick(menu, Qt::LeftButton, Qt::NoModifier, menu->actionGeometry(action).center());
+        }
+    });
+    waitFor("closed menu " + menuName, [&theMenu] { return !theMenu()->isVisible(); });
+}
+
+QString Guide::nextSlip()
+{
+    const QDir spool(qEnvironmentVariable("ZAVEL_SPOOL_DIR"));
+    const auto slips = [&spool] { return spool.entryList({"*.slip"}, QDir::Files, QDir::Name); };
+    waitFor("a slip", [&] { return slips().size() > m_slips; });
+    const QString name = slips().at(m_slips++);
+    QFile file(spool.filePath(name));
+    if (!file.open(QIODevice::ReadOnly))
+        fail("can not read the slip " + name);
+    const QString text = QString::fromUtf8(file.readAll());
+    QFile copy(m_folder + '/' + name.section('.', 0, -2) + ".txt");
+    if (copy.open(QIODevice::WriteOnly))
+        copy.write(text.toUtf8());
+    note("slip " + name + ":\n" + text);
+    return text;
+}

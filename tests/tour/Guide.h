@@ -1,0 +1,66 @@
+#pragma once
+
+#include <QPoint>
+#include <QString>
+#include <QVariant>
+#include <QWidget>
+
+#include <functional>
+
+/**
+ * The hands and eyes of a tour. It runs on a thread of its own and drives the program with the events that a person
+ * makes; every look at a widget and every event happens on the program's thread. What does not come true in time
+ * ends the tour with a picture of where it stopped.
+ */
+class Guide
+{
+public:
+    /** Pictures, slips and the summary go to this folder. */
+    explicit Guide(const QString& folder);
+
+    /** Says what the following is about: a heading of the summary and the name of the pictures. */
+    void chapter(const QString& title);
+    /** A line of the summary. */
+    void note(const QString& line);
+    /** Saves what is on screen as the next picture. */
+    void picture(const QString& name);
+    [[noreturn]] void fail(const QString& reason);
+
+    // Looking. A window is named by its class; a widget by its name inside the active window.
+    void waitForWindow(const QString& className);
+    void waitUntilClosed(const QString& className);
+    void waitFor(const QString& what, const std::function<bool()>& condition);
+    [[nodiscard]] QString textOf(const QString& widget);
+    void expectText(const QString& widget, const QString& text);
+    /** Waits for a message box with this text in it and presses the button. */
+    void answer(const QString& text, const QString& button);
+    [[nodiscard]] QVariant ask(const std::function<QVariant()>& look);
+
+    // Doing.
+    void type(const QString& text);
+    void key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    /** Puts the cursor into the field, with everything in it selected. */
+    void enter(const QString& field);
+    void fill(const QString& field, const QString& text);
+    void click(const QString& widget);
+    /** Chooses the row of the grid that has this text in some cell. */
+    void chooseRow(const QString& grid, const QString& text);
+    /** Types into a lookup box, waits for its list and takes the first entry. */
+    void lookUp(const QString& field, const QString& text);
+    /** Triggers the entry of the main window's menu that has this object name, by the mouse. */
+    void menu(const QString& menuName, const QString& actionName);
+
+    /** Waits for the next slip of the folder spool and returns its text; it also joins the summary. */
+    QString nextSlip();
+
+    [[nodiscard]] const QString& folder() const { return m_folder; }
+
+private:
+    void act(const std::function<void()>& action);
+    QString clickPoint(const QString& widget, QPoint* point);
+
+    QString m_folder;
+    QString m_chapter;
+    int m_pictures = 0;
+    int m_slips = 0;
+};

@@ -1,0 +1,44 @@
+#include "tour/DineInTour.h"
+#include "tour/Guide.h"
+
+#include <QCoreApplication>
+#include <QGenericPlugin>
+#include <QThread>
+#include <QTimer>
+
+/**
+ * Loaded by Qt itself into the unchanged program ("-plugin zaveltour:NAME"), so that the program that is driven is
+ * the one that restaurants run. The folder for pictures comes in ZAVEL_TOUR_DIR.
+ */
+class TourPlugin : public QGenericPlugin
+{
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "tour.json")
+
+public:
+    QObject* create(const QString& key, const QString& specification) override
+    {
+        Q_UNUSED(key)
+        const QString name = specification;
+        auto* holder = new QObject;
+        QTimer::singleShot(0, holder, [holder, name] {
+            QThread* thread = QThread::create([name] { play(name); });
+            thread->setParent(holder);
+            thread->start();
+        });
+        return holder;
+    }
+
+private:
+    static void play(const QString& name)
+    {
+        Guide guide(qEnvironmentVariable("ZAVEL_TOUR_DIR"));
+        if (name == "dine-in")
+            playDineIn(guide);
+        else
+            guide.fail("there is no tour named " + name);
+        QMetaObject::invokeMethod(qApp, [] { QCoreApplication::exit(0); }, Qt::QueuedConnection);
+    }
+};
+
+#include "TourPlugin.moc"
