@@ -8,6 +8,9 @@
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/plugin/KorPluginTabInterface.h"
 #include "kor/widgets/KorTab.h"
+#include "masterdata/company/BusinessDataPerusahaan.h"
+#include "masterdata/company/DialogDataPerusahaan.h"
+#include "masterdata/company/EntityDataPerusahaan.h"
 #include "printing/configuration/DialogCashierAndKitchenPrinter.h"
 #include "printing/printer/DialogPrinter.h"
 #include "shell/ConfigDialog.h"
@@ -256,8 +259,22 @@ void MainWindow::on_actionConfig_triggered()
 
 void MainWindow::on_actionPerusahaan_triggered()
 {
-    if (hasAccess("Company Profile", 0))
-        showNotBuiltYet(tr("Company Profile"));
+    if (!hasAccess("Company Profile", 0))
+        return;
+    auto* company = service<BusinessDataPerusahaan>("Company Profile");
+    const auto showFailure = [this, company] { QMessageBox::critical(this, tr("Error"), company->takeErrors()); };
+    DialogDataPerusahaan dialog(this);
+    if (EntityDataPerusahaan* profile = company->getData())
+        dialog.setEntity(profile);
+    if (company->hasError())
+        return showFailure();
+    dialog.setSaver([&] {
+        const bool saved = company->updateData(static_cast<EntityDataPerusahaan*>(dialog.getEntity()));
+        if (!saved)
+            showFailure();
+        return saved;
+    });
+    dialog.exec();
 }
 
 void MainWindow::on_actionPrinter_Kasir_triggered()

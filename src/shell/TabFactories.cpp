@@ -3,6 +3,7 @@
 #include "masterdata/agent/TabAgent.h"
 #include "masterdata/bank/TabBank.h"
 #include "masterdata/employee/TabEmployee.h"
+#include "masterdata/item/TabItem.h"
 #include "masterdata/jenisitem/TabJenisItem.h"
 #include "masterdata/meja/TabMeja.h"
 #include "masterdata/member/TabMember.h"
@@ -22,14 +23,10 @@ KorTab* make()
 TabFactories allTabFactories()
 {
     return {
-        {"TabAgent", make<TabAgent>},
-        {"TabBank", make<TabBank>},
-        {"TabEmployee", make<TabEmployee>},
-        {"TabJenisItem", make<TabJenisItem>},
-        {"TabKitchenPrinter", make<TabKitchenPrinter>},
-        {"TabMeja", make<TabMeja>},
-        {"TabMember", make<TabMember>},
-        {"TabSatuan", make<TabSatuan>},
-        {"TabSupplier", make<TabSupplier>},
+        {"TabAgent", make<TabAgent>},         {"TabBank", make<TabBank>},
+        {"TabEmployee", make<TabEmployee>},   {"TabItem", make<TabItem>},
+        {"TabJenisItem", make<TabJenisItem>}, {"TabKitchenPrinter", make<TabKitchenPrinter>},
+        {"TabMeja", make<TabMeja>},           {"TabMember", make<TabMember>},
+        {"TabSatuan", make<TabSatuan>},       {"TabSupplier", make<TabSupplier>},
     };
 }

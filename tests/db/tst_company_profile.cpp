@@ -1,0 +1,101 @@
+#include "kor/business/KorServiceDirectory.h"
+#include "masterdata/company/BusinessDataPerusahaan.h"
+#include "masterdata/company/EntityDataPerusahaan.h"
+#include "support/TestDatabase.h"
+
+#include <QTest>
+
+/** The restaurant's own data and its logo. */
+class TestCompanyProfile : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_database = std::make_unique<TestDatabase>();
+        loginAsAdmin();
+        m_company = service<BusinessDataPerusahaan>("Company Profile");
+    }
+    void cleanup() { m_database.reset(); }
+
+    void aLogoSavedAgainReplacesTheFormer()
+    {
+        QByteArray everyByte;
+        for (int byte = 0; byte < 256; ++byte)
+            everyByte.append(char(byte));
+        for (const QByteArray& bytes : {QByteArray("first"), everyByte}) {
+            EntityDataPerusahaan* profile = m_company->getData();
+            QVERIFY(profile && profile->getLogo());
+            profile->setNamaPerusahaan("Warung " + QString::number(bytes.size()));
+            profile->getLogo()->setImageData(bytes);
+            QVERIFY2(m_company->updateData(profile), qPrintable(m_company->takeErrors()));
+        }
+        const EntityDataPerusahaan* profile = m_company->getData();
+        QCOMPARE(profile->getNamaPerusahaan(), QString("Warung 256"));
+        QCOMPARE(profile->getLogo()->getImageData(), everyByte);
+        QCOMPARE(count("images"), 1);
+        QCOMPARE(count("data_perusahaan"), 1);
+    }
+
+    void aRestaurantWithoutALogoGetsOne()
+    {
+        m_database->run("DELETE FROM images");
+        EntityDataPerusahaan* profile = m_company->getData();
+        QVERIFY(!profile->getLogo());
+        QVERIFY2(m_company->updateData(profile), qPrintable(m_company->takeErrors()));
+        QCOMPARE(count("images"), 0);
+
+        profile = m_company->getData();
+        profile->setLogo(new EntityImage(profile));
+        profile->getLogo()->setImageName(BusinessDataPerusahaan::logoName());
+        profile->getLogo()->setImageData("picture");
+        QVERIFY2(m_company->updateData(profile), qPrintable(m_company->takeErrors()));
+        QCOMPARE(m_company->getData()->getLogo()->getImageData(), QByteArray("picture"));
+    }
+
+    void aLogoThatIsRefusedTakesTheProfileBack()
+    {
+        m_database->run("DELETE FROM images");
+        EntityDataPerusahaan* profile = m_company->getData();
+        const QString name = profile->getNamaPerusahaan();
+        profile->setNamaPerusahaan("Half saved");
+        profile->setLogo(new EntityImage(profile));
+        QVERIFY(!m_company->updateData(profile));
+        QCOMPARE(m_company->errors().keys(), QStringList{"updateData"});
+        m_company->clearErrors();
+        QCOMPARE(m_company->getData()->getNamaPerusahaan(), name);
+
+        // The same form is saved once the cause is mended.
+        profile->getLogo()->setImageName(BusinessDataPerusahaan::logoName());
+        profile->getLogo()->setImageData("picture");
+        QVERIFY2(m_company->updateData(profile), qPrintable(m_company->takeErrors()));
+    }
+
+    void theSlowerOfTwoOfficesIsTold()
+    {
+        EntityDataPerusahaan* profile = m_company->getData();
+        m_database->run("UPDATE data_perusahaan SET version = version + 1");
+        QVERIFY(!m_company->updateData(profile));
+        QVERIFY(m_company->takeErrors().startsWith("Table: data_perusahaan has been updated"));
+    }
+
+    void aProfileThatIsMissingIsMade()
+    {
+        m_database->run("DELETE FROM data_perusahaan");
+        QVERIFY(!m_company->getData() && !m_company->hasError());
+        EntityDataPerusahaan profile;
+        profile.setNamaPerusahaan("Warung");
+        QVERIFY2(m_company->updateData(&profile), qPrintable(m_company->takeErrors()));
+        QCOMPARE(m_company->getData()->getNamaPerusahaan(), QString("Warung"));
+    }
+
+private:
+    [[nodiscard]] int count(const QString& table) { return m_database->value("SELECT count(*) FROM " + table).toInt(); }
+
+    std::unique_ptr<TestDatabase> m_database;
+    BusinessDataPerusahaan* m_company = nullptr;
+};
+
+QTEST_MAIN(TestCompanyProfile)
+#include "tst_company_profile.moc"

@@ -1,0 +1,315 @@
+#include "inventory/stock/BusinessInventory.h"
+#include "inventory/stock/DataMapperItemHistory.h"
+#include "inventory/stock/DataMapperStockTake.h"
+#include "inventory/stock/EntityItemHistory.h"
+#include "inventory/stock/EntityStockTake.h"
+#include "kor/business/KorServiceDirectory.h"
+#include "masterdata/item/BusinessItem.h"
+#include "registry/pos/PosMapperRegistry.h"
+#include "support/TestDatabase.h"
+
+#include <QTest>
+
+#include <random>
+
+namespace
+{
+/** Something that happened to an item's stock, on a day counted from the first. */
+struct Event
+{
+    enum Kind { Opening, Purchase, Sale, Return, CancelledReturn, Count };
+    Kind kind;
+    int day;
+    int quantity;
+};
+using History = QVector<Event>;
+} // namespace
+Q_DECLARE_METATYPE(Event)
+
+namespace
+{
+
+const QDate firstDay(2026, 1, 28);
+
+/** What a storekeeper reckons with pencil and paper. */
+int reckoned(const History& history, int day)
+{
+    int start = -1;
+    int quantity = 0;
+    for (const Event& event : history) {
+        if (event.kind == Event::Opening && start < 0)
+            quantity = event.quantity;
+        // In the order of entry: of two counts on one day the later entered one stays.
+        if (event.kind == Event::Count && event.day <= day && event.day >= start) {
+            start = event.day;
+            quantity = event.quantity;
+        }
+    }
+    for (const Event& event : history) {
+        if (event.day < start || event.day > day)
+            continue;
+        if (event.kind == Event::Purchase)
+            quantity += event.quantity;
+        if (event.kind == Event::Sale || event.kind == Event::Return)
+            quantity -= event.quantity;
+    }
+    return quantity;
+}
+} // namespace
+
+/** How much is on hand, and the journal behind the stock card. */
+class TestStock : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup() { m_database.reset(); }
+
+    void whatIsOnHand_data();
+    void whatIsOnHand();
+    void everyHistoryGivesWhatPaperGives_data();
+    void everyHistoryGivesWhatPaperGives();
+    void theWholeStockIsOneStatement();
+    void aStockThatCannotBeReadIsTold();
+    void adjustmentsOfAnItemAreListed();
+    void theJournalIsReadByPeriodAndItem_data();
+    void theJournalIsReadByPeriodAndItem();
+
+private:
+    void happen(int itemId, const Event& event);
+    /** Adds a row with the given columns; the other required ones are filled with nothing in particular. */
+    int add(const QString& table, QMap<QString, QString> values);
+    [[nodiscard]] int idOf(const QString& code) { return service<BusinessItem>("Item")->findByCode(code)->getId(); }
+
+    std::unique_ptr<TestDatabase> m_database;
+    BusinessInventory* m_inventory = nullptr;
+};
+
+void TestStock::init()
+{
+    m_database = std::make_unique<TestDatabase>();
+    // The documents around the lines do not matter here.
+    m_database->run("SET session_replication_role = replica");
+    m_inventory = service<BusinessInventory>("Inventory");
+}
+
+int TestStock::add(const QString& table, QMap<QString, QString> values)
+{
+    const QString required =
+        m_database
+            ->value("SELECT string_agg(column_name || ' ' || data_type, ',') FROM information_schema.columns WHERE "
+                    "table_name = '" +
+                    table + "' AND is_nullable = 'NO' AND column_default IS NULL")
+            .toString();
+    for (const QString& column : required.split(',')) {
+        const QString type = column.section(' ', 1);
+        const QString filler = type == "date" ? "'2026-01-01'" : type == "boolean" ? "false" : "'0'";
+        if (!values.contains(column.section(' ', 0, 0)))
+            values.insert(column.section(' ', 0, 0), filler);
+    }
+    return m_database
+        ->value("INSERT INTO " + table + " (" + QStringList(values.keys()).join(", ") + ") VALUES (" +
+                QStringList(values.values()).join(", ") + ") RETURNING id")
+        .toInt();
+}
+
+void TestStock::happen(int itemId, const Event& event)
+{
+    const QString date = '\'' + firstDay.addDays(event.day).toString(Qt::ISODate) + '\'';
+    const QString item = QString::number(itemId);
+    const QString quantity = QString::number(event.quantity);
+    const auto document = [&](const QString& master, const QString& dateColumn, const QString& line, const QString& key,
+                              const QString& quantityColumn, const QString& status) {
+        const int id = add(master, {{dateColumn, date}, {"status", status}});
+        add(line, {{key, QString::number(id)}, {"item_id", item}, {quantityColumn, quantity}});
+    };
+    const auto creditNote = [&](const QString& status) {
+        document("credit_note", "credit_note_date", "credit_note_detail", "credit_note_id", "qty_returned", status);
+    };
+    switch (event.kind) {
+    case Event::Opening:
+        m_database->run("UPDATE stok_awal SET jumlah = " + quantity + " WHERE item_id = " + item);
+        break;
+    case Event::Purchase:
+        document("acquisition", "purchase_date", "acquisition_detail", "acquisition_id", "qty", "2");
+        break;
+    case Event::Sale:
+        document("invoice", "invoice_date", "invoice_detail", "invoice_id", "qty", "1");
+        break;
+    case Event::Return:
+        creditNote(QString::number(1 + event.quantity % 3));
+        break;
+    case Event::CancelledReturn:
+        creditNote("4");
+        break;
+    case Event::Count:
+        add("stock_take", {{"item_id", item}, {"tanggal", date}, {"qty", quantity}, {"source_acct_code", "'5000'"}});
+        break;
+    }
+}
+
+void TestStock::whatIsOnHand_data()
+{
+    QTest::addColumn<History>("history");
+    QTest::addColumn<int>("onHand");
+    using E = Event;
+    const int today = 5;
+
+    QTest::newRow("nothing ever happened") << History{} << 0;
+    QTest::newRow("a beginning balance") << History{{E::Opening, 0, 7}} << 7;
+    QTest::newRow("bought, sold and sent back")
+        << History{{E::Opening, 0, 7}, {E::Purchase, 1, 20}, {E::Sale, 2, 4}, {E::Return, 3, 3}} << 20;
+    QTest::newRow("more sold than there was") << History{{E::Sale, 1, 9}} << -9;
+    QTest::newRow("today counts, tomorrow does not")
+        << History{{E::Purchase, today, 5}, {E::Purchase, today + 1, 50}, {E::Sale, today, 1}} << 4;
+    QTest::newRow("a count wipes out what was before")
+        << History{{E::Opening, 0, 7}, {E::Purchase, 1, 20}, {E::Count, 2, 11}, {E::Sale, 3, 1}} << 10;
+    QTest::newRow("a later count is not known yet") << History{{E::Opening, 0, 7}, {E::Count, today + 1, 100}} << 7;
+    QTest::newRow("of two counts on one day the last entered")
+        << History{{E::Count, 2, 30}, {E::Count, 2, 12}, {E::Count, 1, 99}} << 12;
+    QTest::newRow("a sale on the day of the count, rung up before it")
+        << History{{E::Sale, 2, 3}, {E::Count, 2, 10}} << 7;
+    QTest::newRow("a cancelled return") << History{{E::Opening, 0, 7}, {E::CancelledReturn, 1, 5}} << 7;
+}
+
+void TestStock::whatIsOnHand()
+{
+    QFETCH(History, history);
+    const KorEntity* rice = service<BusinessItem>("Item")->findByCode("ns");
+    for (const Event& event : history)
+        happen(rice->getId(), event);
+    const QDate today = firstDay.addDays(5);
+    QTEST(m_inventory->getQuantityOnHand(rice, today), "onHand");
+    QTEST(m_inventory->quantitiesOnHand(today).value(rice->getId(), -12345), "onHand");
+}
+
+void TestStock::everyHistoryGivesWhatPaperGives_data()
+{
+    QTest::addColumn<int>("seed");
+    for (int seed = 1; seed <= 5; ++seed)
+        QTest::addRow("history %d", seed) << seed;
+}
+
+void TestStock::everyHistoryGivesWhatPaperGives()
+{
+    QFETCH(int, seed);
+    std::mt19937 dice(seed);
+    const auto roll = [&dice](int sides) { return int(dice() % unsigned(sides)); };
+    constexpr int days = 8;
+
+    QMap<int, History> histories;
+    for (const char* code : {"aym", "ns", "fr", "llp"}) {
+        History history{{Event::Opening, 0, roll(50)}};
+        const int length = roll(16);
+        for (int i = 0; i < length; ++i)
+            history.append({Event::Kind(1 + roll(5)), roll(days), roll(20)});
+        histories.insert(idOf(code), history);
+    }
+    for (auto item = histories.begin(); item != histories.end(); ++item) {
+        for (const Event& event : item.value())
+            happen(item.key(), event);
+    }
+    for (int day = -1; day <= days; ++day) {
+        const QHash<int, int> all = m_inventory->quantitiesOnHand(firstDay.addDays(day));
+        for (auto item = histories.begin(); item != histories.end(); ++item) {
+            const int expected = reckoned(item.value(), day);
+            EntityItem asked;
+            asked.setId(item.key());
+            QCOMPARE(m_inventory->getQuantityOnHand(&asked, firstDay.addDays(day)), expected);
+            QCOMPARE(all.value(item.key(), -12345), expected);
+        }
+    }
+    QVERIFY(!m_inventory->hasError());
+}
+
+void TestStock::theWholeStockIsOneStatement()
+{
+    const StatementCount statements;
+    QCOMPARE(m_inventory->quantitiesOnHand(firstDay).size(), 4);
+    QCOMPARE(statements.count(), 1);
+}
+
+void TestStock::aStockThatCannotBeReadIsTold()
+{
+    m_database->run("ALTER TABLE credit_note RENAME TO elsewhere");
+    QVERIFY(m_inventory->quantitiesOnHand(firstDay).isEmpty());
+    QCOMPARE(m_inventory->errors().keys(), QStringList{"quantitiesOnHand"});
+    m_inventory->clearErrors();
+}
+
+void TestStock::adjustmentsOfAnItemAreListed()
+{
+    happen(idOf("ns"), {Event::Count, 1, 10});
+    happen(idOf("ns"), {Event::Count, 0, 20});
+    happen(idOf("aym"), {Event::Count, 0, 30});
+    DataMapperStockTake* takes = PosMapperRegistry::instance()->stockTakeMapper();
+    const auto quantities = [takes](const QString& code) {
+        QList<int> result;
+        for (const EntityStockTake* take : castAll<EntityStockTake>(takes->findAll(code)))
+            result.append(take->getQty());
+        return result;
+    };
+    QCOMPARE(quantities("NS"), (QList<int>{20, 10}));
+    QCOMPARE(quantities(QString()).size(), 3);
+    const auto* take = static_cast<EntityStockTake*>(takes->findAll("aym").first());
+    QCOMPARE(take->getItem()->getNama(), QString("Fried Chicken"));
+    QCOMPARE(take->getItem()->getSatuan()->getKode(), QString("kg"));
+    QCOMPARE(take->getStockTakeDate(), firstDay);
+    QCOMPARE(take->getSourceAcctCode(), QString("5000"));
+}
+
+void TestStock::theJournalIsReadByPeriodAndItem_data()
+{
+    QTest::addColumn<QDate>("start");
+    QTest::addColumn<QDate>("end");
+    QTest::addColumn<QString>("item");
+    QTest::addColumn<QStringList>("numbers");
+
+    QTest::newRow("all") << QDate() << QDate() << "" << QStringList{"a1", "r1", "r2", "r3", "a2"};
+    QTest::newRow("one item") << QDate() << QDate() << "ns" << QStringList{"r1", "r2", "r3"};
+    QTest::newRow("from a day") << firstDay.addDays(1) << QDate() << "ns" << QStringList{"r2", "r3"};
+    QTest::newRow("up to a day") << QDate() << firstDay.addDays(1) << "" << QStringList{"a1", "r1", "r2", "r3"};
+    QTest::newRow("a day of one item") << firstDay << firstDay << "aym" << QStringList{"a1"};
+}
+
+void TestStock::theJournalIsReadByPeriodAndItem()
+{
+    DataMapperItemHistory* journal = PosMapperRegistry::instance()->itemHistoryMapper();
+    const auto write = [&](const QString& number, const QString& item, int day, int type) {
+        EntityItemHistory line;
+        EntityItem moved;
+        moved.setId(idOf(item));
+        line.setItem(&moved);
+        line.setDate(firstDay.addDays(day));
+        line.setQtyIn(3);
+        line.setUnitPrice(new Money(&line, 1500, "Rp"));
+        line.setTransType(type);
+        line.setIdTrans(7);
+        line.setNo(number);
+        QVERIFY2(journal->insert(&line), qPrintable(journal->takeError()));
+    };
+    write("a2", "aym", 2, EntityItemHistory::CREDIT_NOTE);
+    write("a1", "aym", 0, EntityItemHistory::PURCHASE);
+    write("r1", "ns", 0, EntityItemHistory::ADJUSMENT);
+    write("r2", "ns", 1, EntityItemHistory::CREDIT_NOTE + 5);
+    write("r3", "ns", 1, EntityItemHistory::CREDIT_NOTE + 6);
+
+    QFETCH(QDate, start);
+    QFETCH(QDate, end);
+    QFETCH(QString, item);
+    QStringList numbers;
+    for (const EntityItemHistory* line : journal->findAll({start, end, item.isEmpty() ? KorNoValue : idOf(item)}))
+        numbers.append(line->getNo());
+    QVERIFY2(!journal->hasError(), qPrintable(journal->takeError()));
+    QTEST(numbers, "numbers");
+
+    const EntityItemHistory* found = journal->findByTrans(EntityItemHistory::ADJUSMENT, 7);
+    QCOMPARE(found->getNo(), QString("r1"));
+    QCOMPARE(found->getUnitPrice()->rawAmount(), 1500);
+    QCOMPARE(found->getItem()->getJenis()->getKode(), QString("mkn"));
+    QVERIFY(!journal->findByTrans(EntityItemHistory::ADJUSMENT, 8));
+}
+
+QTEST_MAIN(TestStock)
+#include "tst_stock.moc"
