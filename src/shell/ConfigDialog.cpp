@@ -1,4 +1,5 @@
 #include "shell/ConfigDialog.h"
+#include "shell/RestartStatus.h"
 
 #include "app/configuration/BusinessConfiguration.h"
 #include "app/context/AppContext.h"
@@ -17,7 +18,6 @@
 namespace
 {
 constexpr int defaultPort = 6666;
-constexpr int restartStatus = -123456789;
 constexpr int settleTime = 1000;
 constexpr int closingTime = 2000;
 } // namespace

@@ -18,6 +18,7 @@
 #include "shell/DialogAbout.h"
 #include "shell/InterfaceLanguage.h"
 #include "shell/MenuShortcuts.h"
+#include "shell/RestartStatus.h"
 #include "shell/Sidebar.h"
 
 #include "ui_MainWindow.h"
@@ -33,7 +34,6 @@
 namespace
 {
 constexpr int updateCheckDelay = 2000;
-constexpr int restartStatus = -123456789;
 } // namespace
 
 MainWindow::MainWindow(QWidget* parent)
