@@ -4,6 +4,7 @@
 #include "purchasing/purchaseorder/DataMapperPurchaseOrder.h"
 #include "registry/pos/PosBusinessRegistry.h"
 #include "registry/pos/PosMapperRegistry.h"
+#include "support/ShopRows.h"
 #include "support/TestDatabase.h"
 
 #include <QTest>
@@ -41,18 +42,7 @@ void TestPurchasingRecords::init()
     m_database = std::make_unique<TestDatabase>();
     m_records = std::make_unique<QObject>();
     loginAsAdmin();
-    m_database->run("TRUNCATE supplier, item, jenis_item, satuan, bank, keytable CASCADE");
-    m_database->run("INSERT INTO bank (id, kode, nama, account_type, active, version) VALUES (1, '1-100', 'Cash', 1, true, 1)");
-    m_database->run("INSERT INTO supplier (id, kode, nama, alamat, telp, email, version) VALUES "
-                    "(1, 'S1', 'Market', 'Street 1', '1', '', 1)");
-    m_database->run("INSERT INTO jenis_item (id, kode, nama, version) VALUES (1, 'FOOD', 'Food', 1)");
-    m_database->run("INSERT INTO satuan (id, kode, nama, version) VALUES (1, 'KG', 'Kilogram', 1)");
-    m_database->run("INSERT INTO item (id, kode, item_type, is_group, nama, jenis, satuan, harga_beli_currency, "
-                    "harga_beli_amount, harga_jual_lokal_currency, harga_jual_lokal_amount, sales_acct_code, "
-                    "inventory_acct_code, cost_of_sales_acct_code, version) VALUES "
-                    "(1, 'RICE', 1, false, 'Rice', 1, 1, 'Rp', 10, 'Rp', 15, '1-100', '1-100', '1-100', 1)");
-    m_database->run("INSERT INTO keytable (key_name, next_id, increment_by, format, description, no_zero, version) "
-                    "SELECT name, 7, 1, '''' || name || '-''', name, 4, 1 FROM unnest(ARRAY['PO', 'NB', 'TPH']) name");
+    insertShop(*m_database);
 }
 
 template <class Entity>

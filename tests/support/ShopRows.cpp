@@ -1,0 +1,29 @@
+#include "support/ShopRows.h"
+
+#include "support/TestDatabase.h"
+
+void insertShop(TestDatabase& database)
+{
+    database.run("TRUNCATE supplier, agent, member, employee, meja, item, jenis_item, satuan, bank, keytable CASCADE");
+    database.run("INSERT INTO bank (id, kode, nama, account_type, active, version) VALUES "
+                 "(1, '1-100', 'Cash', 1, true, 1)");
+    database.run("INSERT INTO supplier (id, kode, nama, alamat, telp, email, version) VALUES "
+                 "(1, 'S1', 'Market', 'Street 1', '1', '', 1)");
+    database.run("INSERT INTO agent (id, kode, nama, alamat, telp, email, commision_perc, version) VALUES "
+                 "(1, 'A1', 'Guide', 'Street 2', '2', '', 10, 1)");
+    database.run("INSERT INTO member (id, kode, nama, alamat, telp, discount_percentage, version) VALUES "
+                 "(1, 'M1', 'Guest', 'Street 3', '3', 0, 1)");
+    database.run("INSERT INTO employee (id, kode, nama, alamat, telp, email, version) VALUES "
+                 "(1, 'E1', 'Ann', 'Street 4', '4', '', 1)");
+    database.run("INSERT INTO meja (id, kode, nama, version) VALUES (1, 'T1', 'Window', 1)");
+    database.run("INSERT INTO jenis_item (id, kode, nama, version) VALUES (1, 'FOOD', 'Food', 1)");
+    database.run("INSERT INTO satuan (id, kode, nama, version) VALUES (1, 'KG', 'Kilogram', 1)");
+    database.run("INSERT INTO item (id, kode, item_type, is_group, nama, jenis, satuan, harga_beli_currency, "
+                 "harga_beli_amount, harga_jual_lokal_currency, harga_jual_lokal_amount, sales_acct_code, "
+                 "inventory_acct_code, cost_of_sales_acct_code, version) VALUES "
+                 "(1, 'RICE', 1, false, 'Rice', 1, 1, 'Rp', 10, 'Rp', 15, '1-100', '1-100', '1-100', 1)");
+    // The name is quoted, or its letters would be read as a date pattern.
+    database.run("INSERT INTO keytable (key_name, next_id, increment_by, format, description, no_zero, version) "
+                 "SELECT name, 7, 1, '''' || name || '-''', name, 4, 1 FROM unnest(ARRAY['PO', 'NB', 'NR', 'TPH', "
+                 "'KK', 'TR', 'TRD', 'TRF', 'TRP', 'PIU', 'KAG']) name");
+}
