@@ -1,11 +1,11 @@
 #include "shell/ConfigDialog.h"
-#include "shell/RestartStatus.h"
 
 #include "app/configuration/BusinessConfiguration.h"
 #include "app/context/AppContext.h"
 #include "app/context/ConnectionSettings.h"
 #include "app/context/DatabaseManager.h"
 #include "kor/business/KorServiceDirectory.h"
+#include "shell/RestartStatus.h"
 
 #include "ui_ConfigDialog.h"
 
@@ -17,7 +17,6 @@
 
 namespace
 {
-constexpr int defaultPort = 6666;
 constexpr int settleTime = 1000;
 constexpr int closingTime = 2000;
 } // namespace
@@ -53,7 +52,7 @@ void ConfigDialog::loadSettings()
     m_ui->txtDBName->setText(settings.database);
     m_ui->txtDBUser->setText(settings.user);
     m_ui->txtDBPassword->setText(settings.password);
-    m_ui->txtDBPort->setText(QString::number(settings.port == 0 ? defaultPort : settings.port));
+    m_ui->txtDBPort->setText(QString::number(settings.port));
     loadLocalization();
     m_ui->cbShowSidebar->setChecked(settings.showSidebar);
     m_ui->cbShowDashboard->setChecked(settings.showDashboard);

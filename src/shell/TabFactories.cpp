@@ -1,5 +1,9 @@
 #include "shell/TabFactories.h"
 
+#include "app/access/TabUser.h"
+#include "app/access/TabUserAccess.h"
+#include "app/access/TabUserGroup.h"
+#include "app/numbers/TabKeyTable.h"
 #include "masterdata/agent/TabAgent.h"
 #include "masterdata/bank/TabBank.h"
 #include "masterdata/employee/TabEmployee.h"
@@ -23,10 +27,19 @@ KorTab* make()
 TabFactories allTabFactories()
 {
     return {
-        {"TabAgent", make<TabAgent>},         {"TabBank", make<TabBank>},
-        {"TabEmployee", make<TabEmployee>},   {"TabItem", make<TabItem>},
-        {"TabJenisItem", make<TabJenisItem>}, {"TabKitchenPrinter", make<TabKitchenPrinter>},
-        {"TabMeja", make<TabMeja>},           {"TabMember", make<TabMember>},
-        {"TabSatuan", make<TabSatuan>},       {"TabSupplier", make<TabSupplier>},
+        {"TabAgent", make<TabAgent>},
+        {"TabBank", make<TabBank>},
+        {"TabEmployee", make<TabEmployee>},
+        {"TabItem", make<TabItem>},
+        {"TabJenisItem", make<TabJenisItem>},
+        {"TabKeyTable", make<TabKeyTable>},
+        {"TabKitchenPrinter", make<TabKitchenPrinter>},
+        {"TabMeja", make<TabMeja>},
+        {"TabMember", make<TabMember>},
+        {"TabSatuan", make<TabSatuan>},
+        {"TabSupplier", make<TabSupplier>},
+        {"TabUser", make<TabUser>},
+        {"TabUserAccess", make<TabUserAccess>},
+        {"TabUserGroup", make<TabUserGroup>},
     };
 }

@@ -1,5 +1,6 @@
 #include "shell/ZavelApplication.h"
 
+#include "app/access/DialogLogin.h"
 #include "app/configuration/BusinessConfiguration.h"
 #include "app/context/AppContext.h"
 #include "app/context/ConnectionSettings.h"
@@ -85,22 +86,17 @@ int ZavelApplication::run()
     ZavelBusinessRegistry::instance();
     // Without settings there is nothing to try: the configuration dialog asks for them.
     m_connected = hasSettingsFile() && openDatabase();
-    return runConfiguration() ? runMainWindow() : 0;
-}
 
-bool ZavelApplication::runConfiguration()
-{
-    ConfigDialog dialog;
-    dialog.setReconnect([this] { reconnect(); });
+    ConfigDialog configuration;
+    configuration.setReconnect([this] { reconnect(); });
     while (!m_connected) {
-        if (dialog.exec() == QDialog::Rejected && !m_connected)
-            return false;
+        if (configuration.exec() == QDialog::Rejected && !m_connected)
+            return 0;
     }
-    return true;
-}
+    DialogLogin login;
+    if (login.exec() == QDialog::Rejected)
+        return 0;
 
-int ZavelApplication::runMainWindow()
-{
     const QPixmap picture(":/images/logo.png");
     QSplashScreen splash(picture);
     splash.show();

@@ -21,9 +21,6 @@ public:
     int run();
 
 private:
-    [[nodiscard]] bool runConfiguration();
-    int runMainWindow();
-
     QDir m_dataDir;
     QString m_settingsPath;
     bool m_connected = false;

@@ -70,6 +70,8 @@ ConnectionSettings ConnectionSettings::withDefaults() const
     settings.database = orDefault(database, "ZavelPOS");
     settings.user = orDefault(user, "postgres");
     settings.password = orDefault(password, "Qx7!Rm2z");
+    if (settings.port == 0)
+        settings.port = 6666;
     return settings;
 }
 

@@ -139,7 +139,8 @@ QByteArray KorSimpleEncrypt::decipherBytes(QByteArray bytes)
         return fail(IntegrityFailed, nullptr);
 
     if (flags & Compressed) {
-        const bool hadData = !bytes.isEmpty();
+        // Nothing compresses to a length of 0 and no data behind it.
+        const bool hadData = !bytes.isEmpty() && bytes != QByteArray(4, 0);
         bytes = qUncompress(bytes);
         if (hadData && bytes.isEmpty())
             return fail(IntegrityFailed, nullptr);

@@ -1,0 +1,254 @@
+#include "app/configuration/EntityAppConfig.h"
+#include "app/context/AppContext.h"
+#include "app/context/ConnectionSettings.h"
+#include "app/context/DatabaseManager.h"
+#include "kor/business/KorServiceDirectory.h"
+#include "masterdata/meja/BusinessMeja.h"
+#include "shell/ConfigDialog.h"
+#include "support/ModalDriver.h"
+#include "support/TestDatabase.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <QTest>
+
+class TestConfigDialog : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void withoutSettingsTheUsualValuesAreOffered();
+    void cancellingWritesNothing();
+    void whatIsSavedReadsBackAndCannotBeReadInTheFile();
+    void theFormatsAreSharedWithAllWorkstations();
+    void savingTwiceIsNoConflictWithOneself();
+    void anotherWorkstationsChangeIsTold();
+    void aDatabaseWithoutFormatsIsNoReasonToComplain();
+    void withoutAConnectionNothingIsAskedOfTheServer();
+    void theLogFileIsNamed();
+    void liveRecordsAreListedAndFreedOnceTheWindowsAreClosed();
+    void killingIsAskedFirst();
+
+private:
+    QLineEdit* field(const QString& name) const { return m_dialog->findChild<QLineEdit*>(name); }
+    QPushButton* button(const QString& name) const { return m_dialog->findChild<QPushButton*>(name); }
+    QString listed() const { return m_dialog->findChild<QPlainTextEdit*>("txtStatusEntities")->toPlainText(); }
+    void open();
+    void save();
+
+    QTemporaryDir m_home;
+    std::unique_ptr<TestDatabase> m_database;
+    std::unique_ptr<ModalDriver> m_people;
+    std::unique_ptr<ConfigDialog> m_dialog;
+};
+
+void TestConfigDialog::initTestCase() { qputenv("XDG_DATA_HOME", m_home.path().toLocal8Bit()); }
+
+void TestConfigDialog::init()
+{
+    m_database = std::make_unique<TestDatabase>();
+    m_database->run("DELETE FROM appconfig");
+    m_database->run("INSERT INTO appconfig (appkey, is_json, appvalue, version) VALUES "
+                    "('localization', true, '{\"locale\":\"id_ID\",\"date_time_format\":\"dd/MM/yy\"}', 1)");
+    m_people = std::make_unique<ModalDriver>();
+}
+
+void TestConfigDialog::cleanup()
+{
+    m_dialog.reset();
+    m_people.reset();
+    m_database.reset();
+    QFile::remove(ConnectionSettings::defaultPath());
+}
+
+void TestConfigDialog::open()
+{
+    m_dialog = std::make_unique<ConfigDialog>();
+    m_dialog->show();
+}
+
+void TestConfigDialog::save()
+{
+    const QSignalSpy saved(m_dialog.get(), &ConfigDialog::onUpdateDBConf);
+    button("btnSaveDBConf")->click();
+    QCOMPARE(saved.count(), 1);
+}
+
+void TestConfigDialog::withoutSettingsTheUsualValuesAreOffered()
+{
+    open();
+    QCOMPARE(m_dialog->windowTitle(), QString("Configuration"));
+    QCOMPARE(m_dialog->findChild<QTabWidget*>("tabWidget")->currentIndex(), 0);
+    QCOMPARE(field("txtDBHost")->text(), QString("localhost"));
+    QCOMPARE(field("txtDBName")->text(), QString("ZavelPOS"));
+    QCOMPARE(field("txtDBUser")->text(), QString("postgres"));
+    QCOMPARE(field("txtDBPassword")->text(), QString("Qx7!Rm2z"));
+    QCOMPARE(field("txtDBPort")->text(), QString("6666"));
+    QVERIFY(m_dialog->findChild<QCheckBox*>("cbShowSidebar")->isChecked());
+    QVERIFY(m_dialog->findChild<QCheckBox*>("cbShowDashboard")->isChecked());
+    const auto* locales = m_dialog->findChild<QComboBox*>("txtLocale");
+    QCOMPARE(locales->itemText(0), QString("en_US"));
+    QCOMPARE(locales->itemText(1), QString("id_ID"));
+    QCOMPARE(locales->count(), 2);
+}
+
+void TestConfigDialog::cancellingWritesNothing()
+{
+    open();
+    field("txtDBHost")->setText("elsewhere");
+    field("txtDateTimeFormat")->setText("yyyy");
+    m_dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Cancel)->click();
+    QVERIFY(!QFile::exists(ConnectionSettings::defaultPath()));
+    QVERIFY(m_database->value("SELECT appvalue FROM appconfig").toString().contains("dd/MM/yy"));
+}
+
+void TestConfigDialog::whatIsSavedReadsBackAndCannotBeReadInTheFile()
+{
+    open();
+    field("txtDBHost")->setText("db.restaurant.example");
+    field("txtDBName")->setText(QString::fromUtf8("Dépôt; \"1\""));
+    field("txtDBUser")->setText("waiter");
+    field("txtDBPassword")->setText("hunter=2,;");
+    field("txtDBPort")->setText("5433");
+    m_dialog->findChild<QCheckBox*>("cbShowDashboard")->setChecked(false);
+    m_dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+    QCOMPARE(m_dialog->result(), int(QDialog::Accepted));
+
+    const QString path = ConnectionSettings::defaultPath();
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray content = file.readAll();
+    for (const char* secret : {"restaurant", "waiter", "hunter"})
+        QVERIFY(!content.contains(secret));
+    QVERIFY(content.contains("dbport=5433\n"));
+    QVERIFY(content.contains("showdashboard=false\n"));
+    QVERIFY(!(file.permissions() & (QFile::ReadGroup | QFile::ReadOther)));
+
+    // A copy, so that nothing which this process remembers of the file can answer.
+    const QString copy = m_home.filePath("copy.ini");
+    QFile::remove(copy);
+    QVERIFY(file.copy(copy));
+    const ConnectionSettings read = ConnectionSettings::read(copy);
+    QCOMPARE(read.host, QString("db.restaurant.example"));
+    QCOMPARE(read.database, QString::fromUtf8("Dépôt; \"1\""));
+    QCOMPARE(read.user, QString("waiter"));
+    QCOMPARE(read.password, QString("hunter=2,;"));
+    QCOMPARE(read.port, 5433);
+    QVERIFY(read.showSidebar);
+    QVERIFY(!read.showDashboard);
+}
+
+void TestConfigDialog::theFormatsAreSharedWithAllWorkstations()
+{
+    open();
+    QCOMPARE(field("txtDateTimeFormat")->text(), QString("dd/MM/yy"));
+    QCOMPARE(m_dialog->findChild<QComboBox*>("txtLocale")->currentText(), QString("id_ID"));
+    field("txtDateTimeFormat")->setText("whatever I like");
+    m_dialog->findChild<QComboBox*>("txtLocale")->setCurrentText("en_US");
+    save();
+    const QString stored = m_database->value("SELECT appvalue FROM appconfig").toString();
+    QVERIFY(stored.contains("whatever I like"));
+    QVERIFY(stored.contains("en_US"));
+}
+
+void TestConfigDialog::savingTwiceIsNoConflictWithOneself()
+{
+    open();
+    save();
+    field("txtDateTimeFormat")->setText("yyyy-MM-dd");
+    save();
+    QCOMPARE(m_people->texts(), QStringList());
+    QVERIFY(m_database->value("SELECT appvalue FROM appconfig").toString().contains("yyyy-MM-dd"));
+}
+
+void TestConfigDialog::anotherWorkstationsChangeIsTold()
+{
+    open();
+    m_database->run("UPDATE appconfig SET version = version + 1");
+    save();
+    QCOMPARE(m_people->boxes().size(), 1);
+    QCOMPARE(m_people->lastTitle(), QString("Error"));
+    QVERIFY(!service<BusinessMeja>("Table")->hasError());
+    QVERIFY(!KorServiceDirectory::get("Configuration")->hasError());
+}
+
+void TestConfigDialog::aDatabaseWithoutFormatsIsNoReasonToComplain()
+{
+    m_database->run("DROP TABLE appconfig");
+    open();
+    QCOMPARE(field("txtDateTimeFormat")->text(), QString("d MMM yyyy"));
+    save();
+    QCOMPARE(m_people->texts(), QStringList());
+    QVERIFY(!KorServiceDirectory::get("Configuration")->hasError());
+}
+
+void TestConfigDialog::withoutAConnectionNothingIsAskedOfTheServer()
+{
+    AppContext::instance()->databaseManager()->close();
+    const StatementCount statements;
+    open();
+    save();
+    QCOMPARE(statements.count(), 0);
+    QCOMPARE(field("txtDateTimeFormat")->text(), QString("d MMM yyyy"));
+    QCOMPARE(m_people->texts(), QStringList());
+}
+
+void TestConfigDialog::theLogFileIsNamed()
+{
+    KorLogger logger(nullptr, m_home.filePath("zavel.log"));
+    AppContext::instance()->setLogger(&logger);
+    open();
+    QCOMPARE(field("txtLogFile")->text(), m_home.filePath("zavel.log"));
+    QVERIFY(field("txtLogFile")->isReadOnly());
+    AppContext::instance()->setLogger(nullptr);
+}
+
+void TestConfigDialog::liveRecordsAreListedAndFreedOnceTheWindowsAreClosed()
+{
+    m_database->run("INSERT INTO meja (id, kode, nama, createdby, version) VALUES (41, 'x41', 'Bar', 1, 1)");
+    open();
+    const QPointer<KorEntity> table = service<BusinessMeja>("Table")->findByCode("x41");
+    QVERIFY(table);
+    button("btnListEntities")->click();
+    QVERIFY(listed().contains(":EntityMeja id:41"));
+    QVERIFY(listed().startsWith("child #0:"));
+
+    const QSignalSpy closing(m_dialog.get(), &ConfigDialog::onCloseAllTab);
+    m_people->answer(QMessageBox::Yes);
+    button("btnKillEntities")->click();
+    QCOMPARE(m_people->texts(), QStringList{"Are you sure all the windows has been closed?"});
+    QCOMPARE(m_people->lastTitle(), QString("Question"));
+    QCOMPARE(closing.count(), 1);
+    QVERIFY(!table);
+    QVERIFY(!listed().contains("EntityMeja"));
+    // The formats that the dialog held are gone as well; it has read them again.
+    field("txtDateTimeFormat")->setText("after the clearing");
+    save();
+    QVERIFY(m_database->value("SELECT appvalue FROM appconfig").toString().contains("after the clearing"));
+}
+
+void TestConfigDialog::killingIsAskedFirst()
+{
+    open();
+    const QSignalSpy closing(m_dialog.get(), &ConfigDialog::onCloseAllTab);
+    m_people->answer(QMessageBox::No);
+    const int before = AppContext::instance()->liveEntities().size();
+    button("btnKillEntities")->click();
+    QCOMPARE(closing.count(), 0);
+    QCOMPARE(AppContext::instance()->liveEntities().size(), before);
+}
+
+QTEST_MAIN(TestConfigDialog)
+#include "tst_config_dialog.moc"

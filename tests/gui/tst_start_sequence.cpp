@@ -1,0 +1,308 @@
+#include "app/access/DialogLogin.h"
+#include "app/context/AppContext.h"
+#include "app/context/ConnectionSettings.h"
+#include "shell/ConfigDialog.h"
+#include "shell/MainWindow.h"
+#include "shell/ZavelApplication.h"
+#include "support/ModalDriver.h"
+#include "support/TestDatabase.h"
+
+#include <QDir>
+#include <QLineEdit>
+#include <QProcess>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+// This program is two: the tests, and, called with "--play", the program itself with somebody in front of it.
+
+namespace
+{
+void logIn(ModalDriver& person, const QString& password)
+{
+    person.expect<DialogLogin>([password](DialogLogin* login) {
+        login->findChild<QLineEdit*>("txtUsername")->setText("admin");
+        login->findChild<QLineEdit*>("txtPassword")->setText(password);
+        login->accept();
+    });
+}
+
+void nameTheDatabase(ModalDriver& person, const QString& name)
+{
+    person.expect<ConfigDialog>([name](ConfigDialog* dialog) {
+        dialog->findChild<QLineEdit*>("txtDBHost")->setText(TestDatabase::host());
+        dialog->findChild<QLineEdit*>("txtDBName")->setText(name);
+        dialog->findChild<QLineEdit*>("txtDBUser")->setText(TestDatabase::user());
+        dialog->findChild<QLineEdit*>("txtDBPort")->setText(QString::number(TestDatabase::port()));
+        dialog->findChild<QPushButton*>("btnSaveDBConf")->click();
+        dialog->reject();
+    });
+}
+
+void onceTheWindowIsThere(const std::function<void(MainWindow*)>& work)
+{
+    QTimer::singleShot(10, qApp, [work] {
+        auto* window = qobject_cast<MainWindow*>(AppContext::instance()->mainWindow());
+        if (window && window->isActiveWindow())
+            work(window);
+        else
+            onceTheWindowIsThere(work);
+    });
+}
+
+int play(int& argc, char** argv)
+{
+    const QString script = argv[2];
+    ZavelApplication program(argc, argv);
+    ModalDriver person;
+    if (script == "name the database")
+        nameTheDatabase(person, argv[3]);
+    if (script == "cancel the login")
+        person.expect<DialogLogin>([](DialogLogin* login) { login->reject(); });
+    if (script == "mend the settings") {
+        nameTheDatabase(person, argv[3]);
+        logIn(person, "a guess");
+    }
+    if (script == "mend the settings" || script == "work" || script == "restart")
+        logIn(person, "secret");
+    onceTheWindowIsThere([script](MainWindow* window) {
+        if (script == "restart")
+            window->slotReboot();
+        else
+            window->close();
+    });
+    const int status = program.run();
+    for (const SeenBox& box : person.boxes())
+        QTextStream(stdout) << box.title << ": " << box.text << "|";
+    QTextStream(stdout) << person.surprises().join(',');
+    return status;
+}
+
+struct Ending
+{
+    int status;
+    QStringList boxes;
+    QString surprises;
+};
+} // namespace
+
+class TestStartSequence : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+
+    void withoutSettingsTheConfigurationIsOfferedAndMayBeGivenUp();
+    void aSettingsPathThatIsAFolderIsToldWhenSaving();
+    void settingsThatDoNotWorkAreToldAndTheConfigurationFollows_data();
+    void settingsThatDoNotWorkAreToldAndTheConfigurationFollows();
+    void aDatabaseWithoutAVersionAsksForTheInstallation_data();
+    void aDatabaseWithoutAVersionAsksForTheInstallation();
+    void whoCancelsTheLoginSeesNothingFurther();
+    void settingsAreMendedOnTheWayToTheMainWindow();
+    void whoLogsInWorksUntilTheWindowIsClosed();
+    void aRestartOnlyEndsTheProgram();
+    void theLogTellsOfEveryStart();
+
+private:
+    /** Runs the program in a process of its own. */
+    Ending start(const QString& script);
+    QString dataFile(const QString& name) const
+    {
+        return m_home->filePath(QFileInfo(QCoreApplication::applicationFilePath()).fileName() + '/' + name);
+    }
+    ConnectionSettings settings() const;
+    void install();
+
+    std::unique_ptr<TestDatabase> m_database;
+    std::unique_ptr<QTemporaryDir> m_home;
+};
+
+void TestStartSequence::init()
+{
+    m_database.reset();
+    m_database = std::make_unique<TestDatabase>();
+    m_home = std::make_unique<QTemporaryDir>();
+    QVERIFY(QDir().mkpath(QFileInfo(dataFile("x")).path()));
+}
+
+Ending TestStartSequence::start(const QString& script)
+{
+    QProcess program;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("XDG_DATA_HOME", m_home->path());
+    // A test cluster of this program's own is known to its children by name only.
+    environment.insert("ZAVEL_TEST_PGHOST", TestDatabase::host());
+    environment.insert("ZAVEL_TEST_PGPORT", QString::number(TestDatabase::port()));
+    environment.insert("ZAVEL_TEST_PGUSER", TestDatabase::user());
+    program.setProcessEnvironment(environment);
+    program.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    program.start(QCoreApplication::applicationFilePath(), {"--play", script, m_database->name()});
+    if (!program.waitForFinished(30000))
+        return {-1, {"the program did not end"}, {}};
+    QStringList parts = QString::fromUtf8(program.readAllStandardOutput()).split('|');
+    const QString surprises = parts.takeLast();
+    return {program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1, parts, surprises};
+}
+
+ConnectionSettings TestStartSequence::settings() const
+{
+    ConnectionSettings settings;
+    settings.host = TestDatabase::host();
+    settings.database = m_database->name();
+    settings.user = TestDatabase::user();
+    settings.password = "not asked for";
+    settings.port = TestDatabase::port();
+    return settings;
+}
+
+void TestStartSequence::install()
+{
+    for (const char* table : {"appconfig", "users", "user_group"})
+        m_database->run(QString("TRUNCATE %1 CASCADE").arg(table));
+    m_database->run(
+        "INSERT INTO appconfig (appkey, is_json, appvalue, version) VALUES ('app_version', false, '1.1', 1)");
+    m_database->run("INSERT INTO user_group (id, name, version) VALUES (1, 'admin', 1)");
+    m_database->run("INSERT INTO users (first_name, last_name, username, password, user_group_id, currency, version) "
+                    "VALUES ('admin', 'pos', 'admin', md5('secret'), 1, '$', 1)");
+}
+
+void TestStartSequence::withoutSettingsTheConfigurationIsOfferedAndMayBeGivenUp()
+{
+    const Ending ending = start("give up");
+    QCOMPARE(ending.status, 0);
+    QCOMPARE(ending.boxes, QStringList());
+    QCOMPARE(ending.surprises, QString("ConfigDialog"));
+    QVERIFY(!QFile::exists(dataFile("settings.ini")));
+}
+
+void TestStartSequence::aSettingsPathThatIsAFolderIsToldWhenSaving()
+{
+    QVERIFY(QDir().mkpath(dataFile("settings.ini")));
+    const Ending ending = start("name the database");
+    QCOMPARE(ending.status, 0);
+    QCOMPARE(ending.boxes, QStringList{"Error: Can't write the settings file: " + dataFile("settings.ini")});
+}
+
+void TestStartSequence::settingsThatDoNotWorkAreToldAndTheConfigurationFollows_data()
+{
+    QTest::addColumn<QString>("kind");
+    QTest::newRow("damaged file") << "damaged";
+    QTest::newRow("no port") << "port";
+    QTest::newRow("unknown user") << "user";
+    QTest::newRow("no server there") << "server";
+}
+
+void TestStartSequence::settingsThatDoNotWorkAreToldAndTheConfigurationFollows()
+{
+    QFETCH(QString, kind);
+    ConnectionSettings shown = settings();
+    if (kind == "user")
+        shown.user = "nobody_of_that_name";
+    if (kind == "server")
+        shown.host = "/no/such/socket";
+    if (kind == "port")
+        shown.port = 0;
+    if (kind == "damaged") {
+        shown = {};
+        QFile file(dataFile("settings.ini"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("[General\ndbhost=AwI\\x1\ndbname=@Variant(\n\xff\xfe;;dbport==x\n");
+    } else {
+        QVERIFY(shown.write(dataFile("settings.ini")));
+    }
+    const Ending ending = start("give up");
+    QCOMPARE(ending.status, 0);
+    QCOMPARE(ending.boxes,
+             QStringList{QString("Error: Failed to open the database using this configuration:\r\nHost: %1, "
+                                 "DB Name: %2, DB User: %3, DB Password: %4, Port: %5")
+                             .arg(shown.host, shown.database, shown.user, shown.password)
+                             .arg(shown.port)});
+    QCOMPARE(ending.surprises, QString("ConfigDialog"));
+}
+
+void TestStartSequence::aDatabaseWithoutAVersionAsksForTheInstallation_data()
+{
+    QTest::addColumn<bool>("empty");
+    QTest::newRow("no tables at all") << true;
+    QTest::newRow("no version in the table") << false;
+}
+
+void TestStartSequence::aDatabaseWithoutAVersionAsksForTheInstallation()
+{
+    QFETCH(bool, empty);
+    m_database->run(empty ? "DROP TABLE appconfig" : "DELETE FROM appconfig WHERE appkey = 'app_version'");
+    QVERIFY(settings().write(dataFile("settings.ini")));
+    const Ending ending = start("give up");
+    QCOMPARE(ending.status, 0);
+    QCOMPARE(ending.boxes, QStringList{"Error: Table: Config corrupted.\r\nPlease install the initial data"});
+    QCOMPARE(ending.surprises, QString("ConfigDialog"));
+}
+
+void TestStartSequence::whoCancelsTheLoginSeesNothingFurther()
+{
+    install();
+    QVERIFY(settings().write(dataFile("settings.ini")));
+    const Ending ending = start("cancel the login");
+    QCOMPARE(ending.status, 0);
+    QCOMPARE(ending.boxes, QStringList());
+}
+
+void TestStartSequence::settingsAreMendedOnTheWayToTheMainWindow()
+{
+    install();
+    const Ending ending = start("mend the settings");
+    QCOMPARE(ending.status, 0);
+    QCOMPARE(ending.boxes,
+             QStringList({"Success: Successfully connected to the database.", "Error: Invalid login\r\n"}));
+    QCOMPARE(ending.surprises, QString());
+    const ConnectionSettings saved = ConnectionSettings::read(dataFile("settings.ini"));
+    QCOMPARE(saved.database, m_database->name());
+    QCOMPARE(saved.password, QString("Qx7!Rm2z"));
+}
+
+void TestStartSequence::whoLogsInWorksUntilTheWindowIsClosed()
+{
+    install();
+    QVERIFY(settings().write(dataFile("settings.ini")));
+    const Ending ending = start("work");
+    QCOMPARE(ending.status, 0);
+    QCOMPARE(ending.boxes, QStringList());
+    QCOMPARE(ending.surprises, QString());
+}
+
+void TestStartSequence::aRestartOnlyEndsTheProgram()
+{
+    install();
+    QVERIFY(settings().write(dataFile("settings.ini")));
+    // What the operating system keeps of -123456789.
+    QCOMPARE(start("restart").status, -123456789 & 0xff);
+}
+
+void TestStartSequence::theLogTellsOfEveryStart()
+{
+    m_home = std::make_unique<QTemporaryDir>();
+    start("give up");
+    start("give up");
+    QFile log(dataFile("zavel.log"));
+    QVERIFY(log.open(QIODevice::ReadOnly));
+    const QStringList lines = QString::fromUtf8(log.readAll()).split('\n', Qt::SkipEmptyParts);
+    QCOMPARE(lines.size(), 2);
+    for (const QString& line : lines)
+        QVERIFY(QRegularExpression("^\\d\\d\\.\\d\\d\\.\\d{4} \\d\\d:\\d\\d:\\d\\d Application Started$")
+                    .match(line)
+                    .hasMatch());
+}
+
+int main(int argc, char** argv)
+{
+    if (argc > 3 && qstrcmp(argv[1], "--play") == 0)
+        return play(argc, argv);
+    QApplication application(argc, argv);
+    TestStartSequence tests;
+    return QTest::qExec(&tests, argc, argv);
+}
+#include "tst_start_sequence.moc"
