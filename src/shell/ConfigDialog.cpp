@@ -4,7 +4,9 @@
 #include "app/context/AppContext.h"
 #include "app/context/ConnectionSettings.h"
 #include "app/context/DatabaseManager.h"
+#include "install/zavel/ZavelInstaller.h"
 #include "kor/business/KorServiceDirectory.h"
+#include "kor/install/KorInstallerThread.h"
 #include "shell/RestartStatus.h"
 
 #include "ui_ConfigDialog.h"
@@ -138,7 +140,52 @@ void ConfigDialog::on_btnRestart_clicked()
     QCoreApplication::exit(restartStatus);
 }
 
-void ConfigDialog::on_installBtn_clicked() { m_ui->txtStatus->clear(); }
+void ConfigDialog::on_installBtn_clicked()
+{
+    m_ui->txtStatus->clear();
+    if (!isConnected()) {
+        errorString(tr("There is no connection to a database yet. Please save one under \"Database\" first."));
+        return;
+    }
+    const bool isUpdate = m_ui->rbInstallUpdate->isChecked();
+    if (!isUpdate && !mayReplace())
+        return;
+
+    auto* installer = new ZavelInstaller;
+    installer->setLogger(AppContext::instance()->logger());
+    installer->setType(isUpdate ? KorInstaller::UpdateInstall : KorInstaller::FreshInstall);
+    installer->setDateFormat(m_ui->txtDateTimeFormat->text());
+    installer->setLocale(m_ui->txtLocale->currentText());
+    connect(installer, &KorInstaller::onProgress, this, &ConfigDialog::onProgress);
+    connect(installer, &KorInstaller::error, this, &ConfigDialog::errorString);
+    connect(installer, &KorInstaller::finished, this, [this] {
+        setInstalling(false);
+        loadLocalization();
+    });
+    setInstalling(true);
+    startInstaller(installer);
+}
+
+bool ConfigDialog::mayReplace()
+{
+    const bool installed = m_configuration->getConfig("app_version");
+    m_configuration->clearErrors();
+    const QString name = AppContext::instance()->databaseManager()->database().databaseName();
+    return !installed ||
+           QMessageBox::question(this, tr("Question"),
+                                 tr("The database %1 is in use already. A clean installation makes all tables anew, "
+                                    "and everything that they hold is lost. Do you want that?")
+                                     .arg(name),
+                                 QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
+}
+
+void ConfigDialog::setInstalling(bool installing)
+{
+    m_installing = installing;
+    // One run at a time, and nobody else at the database meanwhile.
+    for (QWidget* widget : std::initializer_list<QWidget*>{m_ui->installBtn, m_ui->btnSaveDBConf, m_ui->buttonBox})
+        widget->setEnabled(!installing);
+}
 
 void ConfigDialog::onProgress(int perc, const QString& status)
 {

@@ -58,6 +58,9 @@ private:
     bool saveSettings();
     void saveLocalization();
     [[nodiscard]] static bool isConnected();
+    /** Asks before an installed database is made anew. */
+    [[nodiscard]] bool mayReplace();
+    void setInstalling(bool installing);
     /** Keeps the program alive meanwhile, with the dialog locked. */
     void waitFor(int milliseconds);
 

@@ -5,6 +5,7 @@
 #include "app/configuration/BusinessConfiguration.h"
 #include "app/context/AppContext.h"
 #include "app/context/ConnectionSettings.h"
+#include "install/zavel/ZavelInstaller.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/plugin/KorPluginTabInterface.h"
 #include "kor/widgets/KorTab.h"
@@ -372,7 +373,16 @@ void MainWindow::updateDBConfig()
         QMessageBox::information(this, tr("Info"), tr("Connected!"));
 }
 
-void MainWindow::checkDBUpdate() {}
+void MainWindow::checkDBUpdate()
+{
+    ZavelInstaller installer;
+    const bool needed = installer.isUpdateNeeded();
+    m_configuration->clearErrors();
+    if (needed)
+        QMessageBox::information(this, tr("Info"),
+                                 tr("The database is older than this program. Please bring it up to date under "
+                                    "Configuration, General, Setup, Update."));
+}
 
 void MainWindow::showInfo(const QString& text) { QMessageBox::information(this, tr("Error"), text); }
 

@@ -26,6 +26,8 @@ KorTab* make()
 
 TabFactories allTabFactories()
 {
+    // One page a line, whatever the others are called.
+    // clang-format off
     return {
         {"TabAgent", make<TabAgent>},
         {"TabBank", make<TabBank>},
@@ -42,4 +44,5 @@ TabFactories allTabFactories()
         {"TabUserAccess", make<TabUserAccess>},
         {"TabUserGroup", make<TabUserGroup>},
     };
+    // clang-format on
 }

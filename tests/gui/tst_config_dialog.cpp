@@ -40,6 +40,9 @@ private slots:
     void theLogFileIsNamed();
     void liveRecordsAreListedAndFreedOnceTheWindowsAreClosed();
     void killingIsAskedFirst();
+    void anEmptyDatabaseIsInstalledFromTheDialog();
+    void anInstalledDatabaseIsMadeAnewOnlyAfterAQuestion();
+    void withoutAConnectionThereIsNothingToInstallOn();
 
 private:
     QLineEdit* field(const QString& name) const { return m_dialog->findChild<QLineEdit*>(name); }
@@ -248,6 +251,57 @@ void TestConfigDialog::killingIsAskedFirst()
     button("btnKillEntities")->click();
     QCOMPARE(closing.count(), 0);
     QCOMPARE(AppContext::instance()->liveEntities().size(), before);
+}
+
+void TestConfigDialog::anEmptyDatabaseIsInstalledFromTheDialog()
+{
+    m_database.reset();
+    m_database = std::make_unique<TestDatabase>(TestDatabase::Empty);
+    open();
+    m_dialog->findChild<QComboBox*>("txtLocale")->setCurrentText("id_ID");
+    button("installBtn")->click();
+    QVERIFY(!button("installBtn")->isEnabled());
+    m_dialog->reject();
+    QVERIFY(m_dialog->isVisible());
+    QCOMPARE(m_people->texts(), QStringList{"Please wait until the installation completed."});
+    const auto* status = m_dialog->findChild<QPlainTextEdit*>("txtStatus");
+    QTRY_VERIFY_WITH_TIMEOUT(button("installBtn")->isEnabled(), 30000);
+    const QStringList lines = status->toPlainText().split('\n');
+    QCOMPARE(lines.first(), QString("[0%] Initializing..."));
+    QCOMPARE(lines.last(), QString("[100%] Done. Please restart the app"));
+    QCOMPARE(lines.filter(" error: "), QStringList());
+    QVERIFY(
+        m_database->value("SELECT appvalue FROM appconfig WHERE appkey = 'localization'").toString().contains("id_ID"));
+    QCOMPARE(m_dialog->findChild<QComboBox*>("txtLocale")->currentText(), QString("id_ID"));
+    m_dialog->reject();
+    QVERIFY(!m_dialog->isVisible());
+}
+
+void TestConfigDialog::anInstalledDatabaseIsMadeAnewOnlyAfterAQuestion()
+{
+    m_database->run(
+        "INSERT INTO appconfig (appkey, is_json, appvalue, version) VALUES ('app_version', false, '1.1', 1)");
+    m_database->run("INSERT INTO meja (kode, nama, createdby, version) VALUES ('m9', 'Sold at already', 1, 1)");
+    open();
+    m_people->answer(QMessageBox::No);
+    button("installBtn")->click();
+    QVERIFY(button("installBtn")->isEnabled());
+    QVERIFY(m_people->lastText().contains(m_database->name()));
+    QCOMPARE(m_database->value("SELECT count(*) FROM meja WHERE kode = 'm9'").toInt(), 1);
+
+    m_people->answer(QMessageBox::Yes);
+    button("installBtn")->click();
+    QTRY_VERIFY_WITH_TIMEOUT(button("installBtn")->isEnabled(), 30000);
+    QCOMPARE(m_database->value("SELECT count(*) FROM meja WHERE kode = 'm9'").toInt(), 0);
+}
+
+void TestConfigDialog::withoutAConnectionThereIsNothingToInstallOn()
+{
+    AppContext::instance()->databaseManager()->close();
+    open();
+    button("installBtn")->click();
+    QVERIFY(button("installBtn")->isEnabled());
+    QVERIFY(!m_dialog->findChild<QPlainTextEdit*>("txtStatus")->toPlainText().isEmpty());
 }
 
 QTEST_MAIN(TestConfigDialog)

@@ -108,8 +108,10 @@ class TestMainWindow : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase() { m_database = std::make_unique<TestDatabase>(); }
     void init();
     void cleanup();
+    void cleanupTestCase() { m_database.reset(); }
 
     void theMenusStandInTheirOrder();
     void everyActionHasItsTextAndShortcut();
@@ -160,9 +162,11 @@ private:
 
 void TestMainWindow::init()
 {
-    m_database = std::make_unique<TestDatabase>();
+    QVERIFY(m_database->open());
     m_folder = std::make_unique<QTemporaryDir>();
     loginAsAdmin();
+    AppContext::instance()->setLocale("en_US");
+    AppContext::instance()->setDateFormat("d MMM yyyy");
     AppContext::instance()->setShowSidebar(true);
     AppContext::instance()->setShowDashboard(false);
     ownSettings().putIntoContext();
@@ -183,7 +187,6 @@ void TestMainWindow::cleanup()
 {
     m_window.reset();
     m_people.reset();
-    m_database.reset();
     QDir(QCoreApplication::applicationDirPath() + "/languages").removeRecursively();
     QFile::remove(QCoreApplication::applicationDirPath() + "/plugins/broken.so");
 }
@@ -598,10 +601,12 @@ void TestMainWindow::reloadingAnEmptyDatabaseAsksForTheInstallation()
 
 void TestMainWindow::reloadingTakesTheNewValuesOver()
 {
-    m_database->run("DELETE FROM appconfig");
-    m_database->run("INSERT INTO appconfig (appkey, is_json, appvalue, version) VALUES ('app_version', false, '1.1', 1)"
-                    ", ('localization', true, '{\"locale\":\"id_ID\",\"date_time_format\":\"dd/MM/yy\"}', 1)");
+    TestDatabase other;
+    other.run("DELETE FROM appconfig");
+    other.run("INSERT INTO appconfig (appkey, is_json, appvalue, version) VALUES ('app_version', false, '1.1', 1)"
+              ", ('localization', true, '{\"locale\":\"id_ID\",\"date_time_format\":\"dd/MM/yy\"}', 1)");
     ConnectionSettings settings = ownSettings();
+    settings.database = other.name();
     settings.showSidebar = true;
     settings.showDashboard = false;
     QVERIFY(settings.write(settingsFile()));
@@ -611,6 +616,7 @@ void TestMainWindow::reloadingTakesTheNewValuesOver()
     QCOMPARE(m_people->texts(), QStringList());
     QCOMPARE(context->dateFormat(), QString("dd/MM/yy"));
     QCOMPARE(context->locale(), QString("id_ID"));
+    QCOMPARE(context->dbName(), other.name());
     // The dashboard's switch ends up with the sidebar, the dashboard keeps its own.
     QVERIFY(!context->showSidebar());
     QVERIFY(context->showDashboard());

@@ -1,0 +1,182 @@
+#include "setup/DatabaseSetup.h"
+
+#include "app/configuration/BusinessConfiguration.h"
+#include "app/context/AppContext.h"
+#include "app/context/DatabaseManager.h"
+#include "install/zavel/ZavelInstaller.h"
+#include "kor/business/KorServiceDirectory.h"
+#include "registry/zavel/ZavelBusinessRegistry.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSqlError>
+#include <QSqlQuery>
+
+namespace
+{
+/** The driver's own quoting takes a dot for the end of a schema's name. */
+QString quotedIdentifier(QString name) { return '"' + name.replace('"', "\"\"") + '"'; }
+} // namespace
+
+DatabaseSetup::DatabaseSetup(const SetupOptions& options)
+    : m_options(options), m_manager(new DatabaseManager), m_out(stdout), m_err(stderr)
+{
+    AppContext::instance()->setDatabaseManager(m_manager);
+    ZavelBusinessRegistry::instance();
+}
+
+DatabaseSetup::Result DatabaseSetup::run()
+{
+    switch (m_options.command) {
+    case SetupOptions::Install:
+        return install();
+    case SetupOptions::Update:
+        return update();
+    default:
+        return status();
+    }
+}
+
+void DatabaseSetup::say(const QString& line) { m_out << line << Qt::endl; }
+
+DatabaseSetup::Result DatabaseSetup::fail(const QString& line)
+{
+    m_err << line << Qt::endl;
+    return Failed;
+}
+
+DatabaseSetup::Result DatabaseSetup::status()
+{
+    const QString& name = m_options.connection.database;
+    if (isDatabaseMissing()) {
+        say(tr("There is no database %1.").arg(name));
+        return NotInstalled;
+    }
+    if (!connectToDatabase())
+        return Failed;
+    const QString version = installedVersion();
+    if (!version.isEmpty()) {
+        say(tr("Installed: %1, version %2.").arg(name, version));
+        return Done;
+    }
+    say((tableCount() == 0 ? tr("The database %1 is empty.")
+                           : tr("The database %1 holds tables, but no finished installation."))
+            .arg(name));
+    return NotInstalled;
+}
+
+DatabaseSetup::Result DatabaseSetup::install()
+{
+    if (m_options.createDatabase && isDatabaseMissing() && !createDatabase())
+        return Failed;
+    if (!connectToDatabase())
+        return Failed;
+    if (tableCount() > 0 && !m_options.replace)
+        return fail(tr("The database %1 already holds tables. With --replace they are made anew, and what they hold "
+                       "is lost.")
+                        .arg(m_options.connection.database));
+    if (!runInstaller(KorInstaller::FreshInstall))
+        return fail(tr("The installation is not complete; see the lines above."));
+    return !m_options.writeSettings || writeSettings() ? Done : Failed;
+}
+
+DatabaseSetup::Result DatabaseSetup::update()
+{
+    if (!connectToDatabase())
+        return Failed;
+    if (installedVersion().isEmpty())
+        return fail(tr("Nothing is installed in the database %1.").arg(m_options.connection.database));
+    return runInstaller(KorInstaller::UpdateInstall) ? Done
+                                                     : fail(tr("The update is not complete; see the lines above."));
+}
+
+bool DatabaseSetup::connectToDatabase()
+{
+    const ConnectionSettings& to = m_options.connection;
+    if (m_manager->open(to.host, to.database, to.user, to.password, to.port)) {
+        // The server's notices about tables that are not there yet are no news here.
+        QSqlQuery("SET client_min_messages TO warning", m_manager->database());
+        return true;
+    }
+    fail(tr("The database %1 on %2, port %3, can not be opened as %4: %5")
+             .arg(to.database, to.host, QString::number(to.port), to.user, m_manager->lastErrorText().trimmed()));
+    return false;
+}
+
+bool DatabaseSetup::isDatabaseMissing()
+{
+    const ConnectionSettings& to = m_options.connection;
+    if (!m_manager->open(to.host, "postgres", to.user, to.password, to.port))
+        return false;
+    bool missing = false;
+    {
+        QSqlQuery query(m_manager->database());
+        query.prepare("SELECT 1 FROM pg_database WHERE datname = :name");
+        query.bindValue(":name", to.database);
+        missing = query.exec() && !query.next();
+    }
+    m_manager->close();
+    return missing;
+}
+
+bool DatabaseSetup::createDatabase()
+{
+    const ConnectionSettings& to = m_options.connection;
+    if (!m_manager->open(to.host, "postgres", to.user, to.password, to.port)) {
+        fail(m_manager->lastErrorText().trimmed());
+        return false;
+    }
+    QString error;
+    {
+        QSqlQuery query(m_manager->database());
+        if (!query.exec(
+                QString("CREATE DATABASE %1 TEMPLATE template0 ENCODING 'UTF8'").arg(quotedIdentifier(to.database))))
+            error = query.lastError().text().trimmed();
+    }
+    m_manager->close();
+    if (error.isEmpty())
+        return true;
+    fail(tr("The database %1 can not be created: %2").arg(to.database, error));
+    return false;
+}
+
+int DatabaseSetup::tableCount() const
+{
+    QSqlQuery query("SELECT count(*) FROM pg_tables WHERE schemaname = current_schema()", m_manager->database());
+    return query.next() ? query.value(0).toInt() : 0;
+}
+
+QString DatabaseSetup::installedVersion() const
+{
+    if (tableCount() == 0)
+        return {};
+    auto* configuration = service<BusinessConfiguration>("Configuration");
+    const QString version = configuration->getValue("app_version");
+    configuration->clearErrors();
+    return version;
+}
+
+bool DatabaseSetup::runInstaller(int type)
+{
+    ZavelInstaller installer;
+    installer.setType(type);
+    installer.setAdminUserName(m_options.adminName);
+    installer.setAdminPassword(m_options.adminPassword);
+    installer.setDateFormat(m_options.dateFormat);
+    installer.setLocale(m_options.locale);
+    QObject::connect(&installer, &KorInstaller::onProgress, &installer, [this](int perc, const QString& status) {
+        say(QString("[%1%] %2").arg(perc).arg(status.trimmed()));
+    });
+    QObject::connect(&installer, &KorInstaller::error, &installer, [this](const QString& err) { fail(err); });
+    installer.process();
+    return !installer.failed();
+}
+
+bool DatabaseSetup::writeSettings()
+{
+    QDir().mkpath(QFileInfo(m_options.settingsPath).absolutePath());
+    if (m_options.connection.write(m_options.settingsPath))
+        return true;
+    fail(tr("Can't write the settings file: %1").arg(m_options.settingsPath));
+    return false;
+}

@@ -1,0 +1,100 @@
+#include "setup/SetupOptions.h"
+
+#include <QCommandLineParser>
+#include <QDir>
+#include <QLocale>
+#include <QStandardPaths>
+
+namespace
+{
+void declare(QCommandLineParser& parser)
+{
+    parser.setApplicationDescription(SetupOptions::tr(
+        "Makes or updates the database of Zavel POS.\n"
+        "The database password is taken from ZAVEL_DB_PASSWORD, the administrator's from ZAVEL_ADMIN_PASSWORD.\n"
+        "Exit status of install and update: 0 when every step was done, 1 otherwise, 2 for wrong arguments.\n"
+        "Exit status of status: 0 installed, 3 reachable but not installed, 1 otherwise."));
+    parser.addPositionalArgument("command", SetupOptions::tr("install, update or status"));
+    parser.addOptions({
+        {"help", SetupOptions::tr("Show this text.")},
+        {"host", SetupOptions::tr("The database server (localhost)."), "host"},
+        {"port", SetupOptions::tr("Its port (6666)."), "port"},
+        {"user", SetupOptions::tr("The database user (postgres)."), "name"},
+        {"database", SetupOptions::tr("The database (ZavelPOS)."), "name"},
+        {"create-database", SetupOptions::tr("install: create the database where there is none.")},
+        {"replace", SetupOptions::tr("install: make the tables anew where there are some. What they hold is lost.")},
+        {"admin-name", SetupOptions::tr("install: the administrator's user name (admin)."), "name"},
+        {"admin-password", SetupOptions::tr("install: the administrator's password; better in the environment."),
+         "password"},
+        {"locale", SetupOptions::tr("install: how numbers and money are written, en_US or id_ID (en_US)."), "locale"},
+        {"date-format", SetupOptions::tr("install: how dates are shown (d MMM yyyy)."), "format"},
+        {"write-settings", SetupOptions::tr("install: let the program on this workstation use the database.")},
+        {"settings", SetupOptions::tr("The settings file to write (the program's own)."), "file"},
+    });
+}
+
+/** The file that the program reads: its data folder is named after it. */
+QString programSettingsPath()
+{
+    return QDir(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation))
+        .filePath("zavelpos/settings.ini");
+}
+
+SetupOptions::Command commandOf(const QString& word)
+{
+    if (word == "install")
+        return SetupOptions::Install;
+    if (word == "update")
+        return SetupOptions::Update;
+    return word == "status" ? SetupOptions::Status : SetupOptions::Mistake;
+}
+
+SetupOptions mistake(const QString& text)
+{
+    SetupOptions options;
+    options.text = text;
+    return options;
+}
+} // namespace
+
+SetupOptions SetupOptions::parse(const QStringList& arguments)
+{
+    QCommandLineParser parser;
+    declare(parser);
+    if (!parser.parse(arguments))
+        return mistake(parser.errorText());
+    SetupOptions options;
+    if (parser.isSet("help")) {
+        options.command = Help;
+        options.text = parser.helpText();
+        return options;
+    }
+    const QStringList words = parser.positionalArguments();
+    options.command = commandOf(words.value(0));
+    if (options.command == Mistake || words.size() != 1)
+        return mistake(tr("Say one of: install, update, status (--help tells more)."));
+
+    options.connection.host = parser.value("host");
+    options.connection.database = parser.value("database");
+    options.connection.user = parser.value("user");
+    options.connection.password = qEnvironmentVariable("ZAVEL_DB_PASSWORD");
+    options.connection = options.connection.withDefaults();
+    bool isNumber = true;
+    if (parser.isSet("port"))
+        options.connection.port = parser.value("port").toUShort(&isNumber);
+    if (!isNumber || options.connection.port == 0)
+        return mistake(tr("This is no port: %1").arg(parser.value("port")));
+
+    options.createDatabase = parser.isSet("create-database");
+    options.replace = parser.isSet("replace");
+    options.adminName = parser.value("admin-name");
+    options.adminPassword =
+        parser.isSet("admin-password") ? parser.value("admin-password") : qEnvironmentVariable("ZAVEL_ADMIN_PASSWORD");
+    options.locale = parser.value("locale");
+    if (!options.locale.isEmpty() && QLocale(options.locale).name() != options.locale)
+        return mistake(tr("This is no locale: %1").arg(options.locale));
+    options.dateFormat = parser.value("date-format");
+    options.settingsPath = parser.isSet("settings") ? parser.value("settings") : programSettingsPath();
+    options.writeSettings = parser.isSet("write-settings");
+    return options;
+}
