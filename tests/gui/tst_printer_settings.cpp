@@ -327,7 +327,7 @@ void TestPrinterSettings::kitchensAreFoundByNameOrByPrinter()
 
 void TestPrinterSettings::itemTypesArePickedFromTheList()
 {
-    m_database->run("DELETE FROM jenis_item");
+    m_database->run("TRUNCATE jenis_item CASCADE");
     m_database->run("INSERT INTO jenis_item (kode, nama, version) VALUES "
                     "('DRINK', 'Drinks', 1), ('FOOD', 'Food', 1), ('GRILL', 'From the grill', 1)");
     DialogKitchenFoodPrinter form;

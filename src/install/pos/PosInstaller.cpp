@@ -1,5 +1,6 @@
 #include "install/pos/PosInstaller.h"
 
+#include "app/configuration/BusinessConfiguration.h"
 #include "app/numbers/BusinessKey.h"
 #include "app/numbers/EntityKey.h"
 #include "kor/persistence/KorDataMapper.h"
@@ -17,6 +18,7 @@
 #include "masterdata/satuan/BusinessSatuan.h"
 #include "masterdata/supplier/BusinessSupplier.h"
 #include "masterdata/supplier/EntitySupplier.h"
+#include "printing/configuration/EntityConfigCashierPrinter.h"
 #include "printing/printer/BusinessPrinterType.h"
 #include "registry/app/AppBusinessRegistry.h"
 #include "registry/pos/PosBusinessRegistry.h"
@@ -64,6 +66,7 @@ void PosInstaller::insertInitialData()
     insertKeys();
     insertPeople();
     insertPrinterTypes();
+    insertCashierPrinter();
 }
 
 void PosInstaller::insertCompany()
@@ -225,4 +228,23 @@ void PosInstaller::insertPrinterTypes()
     insert("EPSON-TM-T88III", "27#112#0#25#250", "27#109");
     insert("EPSON-TM-U220", "27#112#0#25#250", "27#112#0#75#25");
     insert("GENERIC-ESC-POS", "27#112#0#60#120", "29#V#66#0");
+}
+
+void PosInstaller::fillPrinter(EntityConfigPrinter& printer, const QString& notes) const
+{
+    printer.setAutoCutter(EntityConfigPrinter::no());
+    printer.setNotes(notes);
+    printer.setNoOfCopy("1");
+    printer.setColumnPaper("40");
+    printer.setNoOfBlankLines("4");
+    printer.setPrinterName("GenericDotMatrix");
+    printer.setPrinterType(m_printerType.getPrinterType());
+}
+
+void PosInstaller::insertCashierPrinter()
+{
+    EntityConfigCashierPrinter printer;
+    fillPrinter(printer, tr("Thank You"));
+    printer.setFormat(EntityConfigCashierPrinter::billTemplate());
+    insertRow(m_configuration, &printer);
 }

@@ -14,6 +14,7 @@ class BusinessMember;
 class BusinessPrinterType;
 class BusinessSatuan;
 class BusinessSupplier;
+class EntityConfigPrinter;
 class EntityContact;
 class EntityJenisItem;
 class EntitySatuan;
@@ -35,8 +36,8 @@ protected:
     void insertKey(const QString& name, const QString& description);
     static void fillContact(EntityContact& contact, const QString& code, const QString& name, const QString& address,
                             const QString& phone, const QString& email);
-    /** The printer type that was laid down last. */
-    [[nodiscard]] const EntityPrinterType& lastPrinterType() const { return m_printerType; }
+    /** What the cashier's printer and a kitchen's have in common at first. */
+    void fillPrinter(EntityConfigPrinter& printer, const QString& notes) const;
 
 private:
     void insertCompany();
@@ -48,6 +49,7 @@ private:
     void insertKeys();
     void insertPeople();
     void insertPrinterTypes();
+    void insertCashierPrinter();
 
     BusinessBank* const m_banks;
     BusinessJenisItem* const m_itemTypes;
@@ -60,5 +62,6 @@ private:
     BusinessEmployee* const m_employees;
     BusinessPrinterType* const m_printerTypes;
     BusinessDataPerusahaan* const m_company;
+    // The one written last, which the printers take.
     EntityPrinterType m_printerType;
 };

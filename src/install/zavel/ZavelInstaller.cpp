@@ -6,6 +6,7 @@
 #include "masterdata/agent/BusinessAgent.h"
 #include "masterdata/agent/EntityAgent.h"
 #include "masterdata/meja/BusinessMeja.h"
+#include "printing/configuration/EntityConfigKitchenPrinter.h"
 #include "registry/pos/PosBusinessRegistry.h"
 #include "registry/zavel/ZavelBusinessRegistry.h"
 #include "registry/zavel/ZavelMapperRegistry.h"
@@ -46,6 +47,7 @@ void ZavelInstaller::insertInitialData()
     insertKeys();
     insertTables();
     insertAgent();
+    insertKitchenPrinter();
 }
 
 void ZavelInstaller::insertVersion()
@@ -95,4 +97,14 @@ void ZavelInstaller::insertAgent()
     fillContact(agent, "agent1", "Agent 1", "Jl. Contoh 5, Sukamaju", "021-5550141", "agent1@example.com");
     agent.setCommisionPerc(10);
     insertRow(m_agents, &agent);
+}
+
+void ZavelInstaller::insertKitchenPrinter()
+{
+    EntityConfigKitchenPrinter printer;
+    printer.setKey(EntityConfigKitchenPrinter::keyPrefix() + "_1");
+    printer.setKitchenName(tr("Kitchen 1"));
+    fillPrinter(printer, tr("Thanks"));
+    printer.setAutoPrint(EntityConfigPrinter::yes());
+    insertRow(m_configuration, &printer);
 }

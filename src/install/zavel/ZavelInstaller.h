@@ -26,6 +26,7 @@ private:
     void insertKeys();
     void insertTables();
     void insertAgent();
+    void insertKitchenPrinter();
 
     BusinessMeja* const m_tables;
     BusinessAgent* const m_agents;

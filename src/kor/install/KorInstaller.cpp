@@ -4,6 +4,7 @@
 #include "kor/log/KorLogger.h"
 #include "kor/persistence/KorDataMapper.h"
 #include "kor/persistence/KorDatabase.h"
+#include "kor/persistence/KorQuery.h"
 
 #include <QSqlError>
 
@@ -32,6 +33,8 @@ bool KorInstaller::install()
         emit error(reason);
         return true;
     }
+    // The server would remark on each table that is dropped without being there.
+    KorQuery().exec("SET client_min_messages TO warning");
     step(0, tr("Initializing..."));
     addMappers();
     step(25, tr("Creating/Updating tables..."));
@@ -40,6 +43,7 @@ bool KorInstaller::install()
     insertInitialData();
     step(75, tr("Registering permissions..."));
     registerPermissions();
+    KorQuery().exec("RESET client_min_messages");
     step(100, tr("Done. Please restart the app"));
     return true;
 }

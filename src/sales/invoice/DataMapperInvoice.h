@@ -31,6 +31,7 @@ public:
     KorEntity* createEntity() override;
     bool createTable(int mode) override;
     [[nodiscard]] QStringList indexStatements() const override;
+    [[nodiscard]] QList<KorDataMapper*> lineMappers() const override { return {m_detailMapper}; }
 
     [[nodiscard]] DataMapperInvoiceDetail* detailMapper() const { return m_detailMapper; }
     [[nodiscard]] const Partners& partners() const { return m_partners; }

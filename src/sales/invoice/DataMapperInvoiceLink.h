@@ -18,6 +18,7 @@ public:
     bool insert(KorEntity* link) override;
     bool update(KorEntity* link) override;
     bool createTable(int mode) override;
+    [[nodiscard]] QList<KorDataMapper*> lineMappers() const override { return {}; }
 
     /** The key of the running number, which is also the type that the invoice gets. */
     [[nodiscard]] virtual QString keyName() const = 0;

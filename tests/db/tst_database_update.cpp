@@ -1,0 +1,216 @@
+#include "app/context/AppContext.h"
+#include "support/InstallerRun.h"
+#include "support/TestDatabase.h"
+
+#include <QTest>
+
+namespace
+{
+/** What every update of a fresh database complains of: a table that never was, and a constraint that is there. */
+const QStringList knownComplaints{"permissions error: ", "acquisition error: "};
+} // namespace
+
+/** A restaurant that has a database already gets a newer program. */
+class TestDatabaseUpdate : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        AppContext::instance()->setCurrentUser(nullptr);
+        m_database = std::make_unique<TestDatabase>();
+    }
+    void cleanup() { m_database.reset(); }
+
+    void anUpdateIsDueForAnOlderDatabaseOnly_data();
+    void anUpdateIsDueForAnOlderDatabaseOnly();
+    void anUpToDateDatabaseKeepsItsRows();
+    void anOldDatabaseIsBroughtUpToDate();
+    void linesOfAnOldDatabaseKeepTheirConstraints();
+    void migrationsBelowTheStartingVersionAreLeftOut();
+    void theVersionIsRaisedOnlyWhereThereIsOne();
+    void aNewPermissionIsAddedAndOldGrantsStay();
+    void aNewServiceIsAddedWithItsPermissions();
+    void withoutAdministratorsNobodyGetsANewPermission();
+    void missingIndexesAreMadeAgain();
+    void aTableThatIsMissingIsToldAndTheRestGoesOn();
+
+private:
+    [[nodiscard]] QString version() const
+    {
+        return m_database->value("select appvalue from appconfig where appkey = 'app_version'").toString();
+    }
+    [[nodiscard]] QString widthOfTableCodes() const
+    {
+        return m_database
+            ->value("select character_maximum_length from information_schema.columns where table_name = 'meja' and "
+                    "column_name = 'kode'")
+            .toString();
+    }
+    [[nodiscard]] int constraints(const char* name) const
+    {
+        return m_database->value(QString("select count(*) from pg_constraint where conname = '%1'").arg(name)).toInt();
+    }
+    [[nodiscard]] QString grantOf(const char* permission) const
+    {
+        return m_database
+            ->value(QString("select string_agg(user_group.name || ' ' || grant_type, ', ' order by user_group.id) from "
+                            "access join user_group on user_group.id = group_id join permissions on permissions.id = "
+                            "permission_id where permission_name = '%1'")
+                        .arg(permission))
+            .toString();
+    }
+
+    std::unique_ptr<TestDatabase> m_database;
+};
+
+void TestDatabaseUpdate::anUpdateIsDueForAnOlderDatabaseOnly_data()
+{
+    QTest::addColumn<QString>("change");
+    QTest::addColumn<bool>("due");
+    QTest::newRow("just installed") << "" << false;
+    QTest::newRow("older") << "UPDATE appconfig SET appvalue = '1.0' WHERE appkey = 'app_version'" << true;
+    QTest::newRow("newer") << "UPDATE appconfig SET appvalue = '1.2' WHERE appkey = 'app_version'" << false;
+    QTest::newRow("unreadable") << "UPDATE appconfig SET appvalue = 'x' WHERE appkey = 'app_version'" << true;
+    QTest::newRow("unknown") << "DELETE FROM appconfig WHERE appkey = 'app_version'" << false;
+}
+
+void TestDatabaseUpdate::anUpdateIsDueForAnOlderDatabaseOnly()
+{
+    QFETCH(QString, change);
+    if (!change.isEmpty())
+        m_database->run(change);
+    ZavelInstaller installer;
+    QTEST(installer.isUpdateNeeded(), "due");
+}
+
+void TestDatabaseUpdate::anUpToDateDatabaseKeepsItsRows()
+{
+    const QString rows = "select string_agg(md5(query_to_xml('select * from ' || tablename || ' order by id', true, "
+                         "false, '')::text), ' ' order by tablename) from pg_tables where schemaname = 'public' and "
+                         "tablename <> 'appconfig'";
+    const QString before = m_database->value(rows).toString();
+    const InstallerRun run(KorInstaller::UpdateInstall);
+    QCOMPARE(run.failures, knownComplaints);
+    QVERIFY(run.lines.contains("[25%] acquisition error: "));
+    QVERIFY(run.lines.contains("[25%] appconfig installed"));
+    QCOMPARE(run.lines.last(), QString("[100%] Done. Please restart the app"));
+    QCOMPARE(m_database->value(rows).toString(), before);
+    QCOMPARE(version(), QString("1.1"));
+}
+
+void TestDatabaseUpdate::anOldDatabaseIsBroughtUpToDate()
+{
+    m_database->run("UPDATE appconfig SET appvalue = '1' WHERE appkey = 'app_version'");
+    m_database->run("ALTER TABLE meja ALTER COLUMN kode TYPE varchar(10)");
+    m_database->run("ALTER TABLE acquisition DROP CONSTRAINT acquisition_po_id_fkey");
+    const InstallerRun run(KorInstaller::UpdateInstall);
+    QCOMPARE(run.failures, QStringList{"permissions error: "});
+    QCOMPARE(widthOfTableCodes(), QString("20"));
+    QCOMPARE(constraints("acquisition_po_id_fkey"), 1);
+    QCOMPARE(version(), QString("1.1"));
+    QVERIFY(!ZavelInstaller().isUpdateNeeded());
+}
+
+void TestDatabaseUpdate::linesOfAnOldDatabaseKeepTheirConstraints()
+{
+    const char* names[] = {"acquisition_detail_po_detail_id_fkey", "purchase_order_detail_purchase_order_id_fkey"};
+    m_database->run(QString("ALTER TABLE acquisition_detail DROP CONSTRAINT ") + names[0]);
+    m_database->run(QString("ALTER TABLE purchase_order_detail DROP CONSTRAINT ") + names[1]);
+    const InstallerRun run(KorInstaller::UpdateInstall);
+    for (const char* name : names)
+        QCOMPARE(constraints(name), 0);
+}
+
+void TestDatabaseUpdate::migrationsBelowTheStartingVersionAreLeftOut()
+{
+    m_database->run("ALTER TABLE meja ALTER COLUMN kode TYPE varchar(10)");
+    const InstallerRun run(KorInstaller::UpdateInstall, [](ZavelInstaller& installer) {
+        QCOMPARE(installer.getFromVersion(), 0.0);
+        installer.setFromVersion(1.2);
+    });
+    QCOMPARE(run.failures, QStringList());
+    QCOMPARE(widthOfTableCodes(), QString("10"));
+}
+
+void TestDatabaseUpdate::theVersionIsRaisedOnlyWhereThereIsOne()
+{
+    m_database->run("DELETE FROM appconfig WHERE appkey = 'app_version'");
+    const InstallerRun run(KorInstaller::UpdateInstall);
+    QCOMPARE(run.failures, knownComplaints);
+    QCOMPARE(m_database->value("select count(*) from appconfig where appkey = 'app_version'").toInt(), 0);
+}
+
+void TestDatabaseUpdate::aNewPermissionIsAddedAndOldGrantsStay()
+{
+    m_database->run("DELETE FROM access WHERE permission_id = (SELECT id FROM permissions WHERE permission_name = "
+                    "'Add table')");
+    m_database->run("DELETE FROM permissions WHERE permission_name = 'Add table'");
+    m_database->run("UPDATE access SET grant_type = 0 WHERE permission_id = (SELECT id FROM permissions WHERE "
+                    "permission_name = 'Delete table')");
+    m_database->run("INSERT INTO access (group_id, permission_id, grant_type, version) SELECT 3, id, 1, 1 FROM "
+                    "permissions WHERE permission_name = 'Update table'");
+    const InstallerRun run(KorInstaller::UpdateInstall);
+    QCOMPARE(run.failures, knownComplaints);
+    QCOMPARE(grantOf("Add table"), QString("admin 2"));
+    QCOMPARE(grantOf("Delete table"), QString("admin 0"));
+    QCOMPARE(grantOf("Update table"), QString("admin 2, kasir 1"));
+    QCOMPARE(m_database
+                 ->value("select count(*) from permissions join business on business.id = business_id where "
+                         "business.name = 'Table'")
+                 .toInt(),
+             3);
+}
+
+void TestDatabaseUpdate::aNewServiceIsAddedWithItsPermissions()
+{
+    m_database->run("DELETE FROM access WHERE permission_id = (SELECT id FROM permissions WHERE permission_name = "
+                    "'Manage unit')");
+    m_database->run("DELETE FROM permissions WHERE permission_name = 'Manage unit'");
+    m_database->run("DELETE FROM business WHERE name = 'Unit'");
+    const InstallerRun run(KorInstaller::UpdateInstall);
+    QCOMPARE(run.failures, knownComplaints);
+    QCOMPARE(m_database->value("select count(*) from business where name = 'Unit'").toInt(), 1);
+    QCOMPARE(grantOf("Manage unit"), QString("admin 2"));
+}
+
+void TestDatabaseUpdate::withoutAdministratorsNobodyGetsANewPermission()
+{
+    m_database->run("UPDATE user_group SET name = 'owners' WHERE name = 'admin'");
+    m_database->run("DELETE FROM access");
+    m_database->run("DELETE FROM permissions WHERE permission_name = 'Add table'");
+    const InstallerRun run(KorInstaller::UpdateInstall);
+    QCOMPARE(run.failures, knownComplaints);
+    QCOMPARE(m_database->value("select count(*) from permissions where permission_name = 'Add table'").toInt(), 1);
+    QCOMPARE(m_database->value("select count(*) from access").toInt(), 0);
+}
+
+void TestDatabaseUpdate::missingIndexesAreMadeAgain()
+{
+    const QString named = "select string_agg(indexdef, E'\\n' order by indexname) from pg_indexes where indexname "
+                          "like '%\\_idx'";
+    const QString before = m_database->value(named).toString();
+    m_database->run("DO $$ DECLARE i text; BEGIN FOR i IN SELECT indexname FROM pg_indexes WHERE indexname LIKE "
+                    "'%\\_idx' LOOP EXECUTE 'DROP INDEX ' || i; END LOOP; END $$");
+    QVERIFY(m_database->value(named).toString().isEmpty());
+    const InstallerRun run(KorInstaller::UpdateInstall);
+    QCOMPARE(run.failures, knownComplaints);
+    QCOMPARE(m_database->value(named).toString(), before);
+}
+
+void TestDatabaseUpdate::aTableThatIsMissingIsToldAndTheRestGoesOn()
+{
+    m_database->run("DROP TABLE meja CASCADE");
+    m_database->run("DROP TABLE invoice_detail CASCADE");
+    m_database->run("UPDATE appconfig SET appvalue = '1' WHERE appkey = 'app_version'");
+    const InstallerRun run(KorInstaller::UpdateInstall);
+    QStringList told;
+    for (const QString& failure : run.failures)
+        told.append(failure.section(' ', 0, 0));
+    QCOMPARE(told, (QStringList{"permissions", "acquisition", "invoice_detail", "meja"}));
+    QCOMPARE(version(), QString("1.1"));
+}
+
+QTEST_MAIN(TestDatabaseUpdate)
+#include "tst_database_update.moc"

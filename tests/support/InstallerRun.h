@@ -1,0 +1,30 @@
+#pragma once
+
+#include "install/zavel/ZavelInstaller.h"
+
+#include <functional>
+
+/** One run of the installer on the open database, on this thread, with what it told. */
+struct InstallerRun
+{
+    explicit InstallerRun(int type, const std::function<void(ZavelInstaller&)>& prepare = {})
+    {
+        ZavelInstaller installer;
+        installer.setType(type);
+        if (prepare)
+            prepare(installer);
+        QObject::connect(&installer, &KorInstaller::onProgress, [this](int percent, const QString& status) {
+            lines.append(QString("[%1%] %2").arg(percent).arg(status));
+        });
+        QObject::connect(&installer, &KorInstaller::error, [this](const QString& text) { errors.append(text); });
+        QObject::connect(&installer, &KorInstaller::finished, [this] { ++ends; });
+        installer.process();
+        failures = installer.failures();
+    }
+
+    /** As the pages show them. */
+    QStringList lines;
+    QStringList failures;
+    QStringList errors;
+    int ends = 0;
+};
