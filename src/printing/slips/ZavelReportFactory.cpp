@@ -6,21 +6,32 @@
 #include "kor/business/KorServiceDirectory.h"
 #include "masterdata/company/BusinessDataPerusahaan.h"
 #include "masterdata/company/EntityDataPerusahaan.h"
+#include "printing/bill/ReportBillBawaPulang.h"
+#include "printing/bill/ReportBillFastFood.h"
 #include "printing/bill/ReportBillMakanDitempat.h"
 #include "printing/configuration/BusinessPrinterConfig.h"
 #include "printing/kitchenslip/ReportMakanDitempat.h"
 #include "printing/kitchenslip/ReportMenuOrder.h"
 #include "printing/kitchenslip/ReportMenuOrderCanceled.h"
 #include "printing/printer/BusinessPrinterType.h"
+#include "sales/fastfood/EntityInvoiceFastFood.h"
 #include "sales/payment/EntityInvoiceMakanDitempat.h"
 #include "sales/service/BusinessPenjualan.h"
+#include "sales/takeaway/EntityInvoiceBawaPulang.h"
 
 #include <QApplication>
 #include <QMessageBox>
 
 namespace
 {
-BusinessPenjualan* sales() { return service<BusinessPenjualan>("Sales"); }
+/** The service without what an earlier operation left behind, which must not pass for a failure to print. */
+template <class Service>
+Service* fresh(const QString& name)
+{
+    auto* found = service<Service>(name);
+    found->clearErrors();
+    return found;
+}
 } // namespace
 
 ZavelReportFactory* ZavelReportFactory::instance()
@@ -35,29 +46,58 @@ ZavelReportFactory::ZavelReportFactory(QObject* parent) : QObject(parent) {}
 
 void ZavelReportFactory::printBillMakanDitempat(int invoiceId)
 {
-    reload();
+    printBill<ReportBillMakanDitempat>(&BusinessPenjualan::findInvoiceMakanDitempat, invoiceId);
+}
+
+void ZavelReportFactory::printBillFastFood(int invoiceId)
+{
+    printBill<ReportBillFastFood>(&BusinessPenjualan::findInvoiceFastFood, invoiceId);
+}
+
+void ZavelReportFactory::printBillBawaPulang(int invoiceId)
+{
+    printBill<ReportBillBawaPulang>(&BusinessPenjualan::findInvoiceBawaPulang, invoiceId);
+}
+
+template <class Report, class Sale>
+void ZavelReportFactory::printBill(Sale* (BusinessPenjualan::*find)(int), int invoiceId)
+{
+    if (!reload() || !readyForCashier())
+        return;
     const EntityPoolScope scope(m_records);
-    printBill<ReportBillMakanDitempat>(sales()->findInvoiceMakanDitempat(invoiceId));
+    auto* sales = fresh<BusinessPenjualan>("Sales");
+    const Sale* sale = (sales->*find)(invoiceId);
+    if (showErrors({sales}))
+        return;
+    if (!sale) {
+        showError(tr("Can not find entity with id: %1").arg(invoiceId));
+        return;
+    }
+    const EntityUser* user = findUser(sale->getInvoice()->getCreatedBy());
+    Report(nullptr, m_cashierPrinter, sale, m_company, user, m_printerType).print();
 }
 
 void ZavelReportFactory::printMakanDitempat(int orderId)
 {
-    reload();
+    if (!reload() || !readyForCashier())
+        return;
     const EntityPoolScope scope(m_records);
-    const EntityMakanDitempat* order = sales()->findOrder(orderId);
-    if (showErrors(sales()) || !readyForCashier())
+    auto* sales = fresh<BusinessPenjualan>("Sales");
+    const EntityMakanDitempat* order = sales->findOrder(orderId);
+    if (showErrors({sales}))
         return;
     if (!order) {
         showError(tr("Can not find entity with id: %1").arg(orderId));
         return;
     }
-    ReportMakanDitempat(nullptr, m_cashierPrinter, order, m_company, findUser(order->getCreatedBy()), m_printerType)
-        .print();
+    const EntityUser* user = findUser(order->getCreatedBy());
+    ReportMakanDitempat(nullptr, m_cashierPrinter, order, m_company, user, m_printerType).print();
 }
 
 void ZavelReportFactory::printMenuOrder(OrderKind kind, EntityOrder* order)
 {
-    reload();
+    if (!reload())
+        return;
     QList<EntityConfigKitchenPrinter*> kitchens;
     for (EntityConfigKitchenPrinter* kitchen : qAsConst(m_kitchenPrinters)) {
         if (kitchen->printsByItself())
@@ -68,30 +108,30 @@ void ZavelReportFactory::printMenuOrder(OrderKind kind, EntityOrder* order)
 
 void ZavelReportFactory::reprintMenuOrder(OrderKind kind, EntityOrder* order)
 {
-    reload();
+    if (!reload())
+        return;
     printForKitchens<ReportMenuOrder>(m_kitchenPrinters, kind, order);
 }
 
 void ZavelReportFactory::printMenuOrderCanceled(OrderKind kind, EntityOrder* order)
 {
-    reload();
+    if (!reload())
+        return;
     printForKitchens<ReportMenuOrderCanceled>(m_kitchenPrinters, kind, order);
 }
 
-void ZavelReportFactory::reload()
+bool ZavelReportFactory::reload()
 {
     m_records.clear();
     const EntityPoolScope scope(m_records);
-    auto* companies = service<BusinessDataPerusahaan>("Company Profile");
+    auto* companies = fresh<BusinessDataPerusahaan>("Company Profile");
     m_company = companies->getData();
-    showErrors(companies);
-    auto* printers = service<BusinessPrinterConfig>("Printer Config");
+    auto* printers = fresh<BusinessPrinterConfig>("Printer Config");
     m_cashierPrinter = printers->getCashierPrinterConfig();
     m_kitchenPrinters = printers->getAllKitchenPrinterConfig();
-    showErrors(printers);
-    auto* types = service<BusinessPrinterType>("Printer Type");
+    auto* types = fresh<BusinessPrinterType>("Printer Type");
     m_printerType = m_cashierPrinter ? types->findByType(m_cashierPrinter->getPrinterType()) : nullptr;
-    showErrors(types);
+    return !showErrors({companies, printers, types});
 }
 
 bool ZavelReportFactory::readyForCashier()
@@ -102,19 +142,6 @@ bool ZavelReportFactory::readyForCashier()
         showError(tr("There are no settings of the cashier printer in this database, so nothing can be printed at the "
                      "cashier."));
     return m_company && m_cashierPrinter;
-}
-
-template <class Report, class Sale>
-void ZavelReportFactory::printBill(Sale* sale)
-{
-    if (showErrors(sales()) || !readyForCashier())
-        return;
-    if (!sale) {
-        showError(tr("Can not find the invoice of this bill."));
-        return;
-    }
-    const EntityUser* user = findUser(sale->getInvoice()->getCreatedBy());
-    Report(nullptr, m_cashierPrinter, sale, m_company, user, m_printerType).print();
 }
 
 template <class Report>
@@ -129,18 +156,20 @@ void ZavelReportFactory::printForKitchens(const QList<EntityConfigKitchenPrinter
 
 EntityUser* ZavelReportFactory::findUser(int id)
 {
-    auto* users = service<BusinessUser>("User");
+    auto* users = fresh<BusinessUser>("User");
     auto* user = qobject_cast<EntityUser*>(users->find(id));
-    showErrors(users);
+    showErrors({users});
     return user;
 }
 
-bool ZavelReportFactory::showErrors(KorBusinessLogic* business)
+bool ZavelReportFactory::showErrors(const QList<KorBusinessLogic*>& services)
 {
-    if (!business->hasError())
-        return false;
-    showError(business->takeErrors());
-    return true;
+    QString text;
+    for (KorBusinessLogic* business : services)
+        text += business->takeErrors();
+    if (!text.isEmpty())
+        showError(text);
+    return !text.isEmpty();
 }
 
 void ZavelReportFactory::showError(const QString& text)

@@ -10,7 +10,6 @@ class BusinessPenjualan;
 class EntityPrinterType;
 class EntityUser;
 class KorBusinessLogic;
-class ReportBill;
 
 /**
  * Where screens ask for a bill or a slip. Each request reads company, printers and printer type anew, so that a change
@@ -25,6 +24,8 @@ public:
 
     // By the sale's own row: the one that ties the invoice to its way of selling.
     void printBillMakanDitempat(int invoiceId);
+    void printBillFastFood(int invoiceId);
+    void printBillBawaPulang(int invoiceId);
 
     /** The recap of an order on the cashier printer. */
     void printMakanDitempat(int orderId);
@@ -37,16 +38,17 @@ public:
 private:
     explicit ZavelReportFactory(QObject* parent);
 
-    void reload();
+    /** False, after telling why, where the settings cannot be read. */
+    bool reload();
     /** False, after telling why, where what every slip of the cashier needs is missing. */
     bool readyForCashier();
     template <class Report, class Sale>
-    void printBill(Sale* sale);
+    void printBill(Sale* (BusinessPenjualan::*find)(int), int invoiceId);
     template <class Report>
     void printForKitchens(const QList<EntityConfigKitchenPrinter*>& kitchens, OrderKind kind, const EntityOrder* order);
     [[nodiscard]] EntityUser* findUser(int id);
-    /** Shows what a service could not read; true when there was something. */
-    bool showErrors(KorBusinessLogic* business);
+    /** Shows in one box what the services could not read; true when there was something. */
+    bool showErrors(const QList<KorBusinessLogic*>& services);
     void showError(const QString& text);
 
     // What the last request read; the next one frees it.

@@ -6,6 +6,7 @@
 #include "masterdata/bank/BankTextBox.h"
 #include "masterdata/employee/EmployeeTextBox.h"
 #include "masterdata/member/MemberTextBox.h"
+#include "printing/slips/ZavelReportFactory.h"
 #include "sales/invoice/EntityInvoiceDetail.h"
 #include "sales/payment/DialogSelectSplitInvoice.h"
 #include "sales/payment/EntityInvoiceMakanDitempat.h"
@@ -344,7 +345,10 @@ bool DialogBayarMakanDitempat::finishTable()
     return false;
 }
 
-void DialogBayarMakanDitempat::printBill() {}
+void DialogBayarMakanDitempat::printBill()
+{
+    ZavelReportFactory::instance()->printBillMakanDitempat(m_sale->getId());
+}
 
 void DialogBayarMakanDitempat::on_btnPrintBill_clicked()
 {

@@ -1,5 +1,6 @@
 #include "sales/service/BusinessPenjualan.h"
 
+#include "sales/fastfood/EntityInvoiceFastFood.h"
 #include "sales/invoice/IInvoice.h"
 #include "sales/invoice/Invoice.h"
 #include "sales/invoice/InvoiceStatus.h"
@@ -7,6 +8,7 @@
 #include "sales/payment/DataMapperInvoiceMakanDitempat.h"
 #include "sales/payment/EntityInvoiceMakanDitempat.h"
 #include "sales/service/OrderStatus.h"
+#include "sales/takeaway/EntityInvoiceBawaPulang.h"
 
 #include <QDebug>
 
@@ -167,6 +169,18 @@ EntityInvoiceMakanDitempat* BusinessPenjualan::findInvoiceMakanDitempat(int id)
 {
     return static_cast<EntityInvoiceMakanDitempat*>(
         read(m_mappers.dineInvoices->findById(id), m_mappers.dineInvoices, "find"));
+}
+
+EntityInvoiceFastFood* BusinessPenjualan::findInvoiceFastFood(int id)
+{
+    return static_cast<EntityInvoiceFastFood*>(
+        read(m_mappers.fastFoodInvoices->findById(id), m_mappers.fastFoodInvoices, "find"));
+}
+
+EntityInvoiceBawaPulang* BusinessPenjualan::findInvoiceBawaPulang(int id)
+{
+    return static_cast<EntityInvoiceBawaPulang*>(
+        read(m_mappers.takeAwayInvoices->findById(id), m_mappers.takeAwayInvoices, "find"));
 }
 
 EntityInvoiceMakanDitempat* BusinessPenjualan::findMakanDitempatByInvoiceId(int invoiceId)

@@ -6,6 +6,8 @@ class DataMapperInvoice;
 class DataMapperInvoiceLink;
 class DataMapperInvoiceMakanDitempat;
 class DataMapperMakanDitempat;
+class EntityInvoiceBawaPulang;
+class EntityInvoiceFastFood;
 class EntityInvoiceMakanDitempat;
 class EntityMakanDitempat;
 class IInvoice;
@@ -74,6 +76,8 @@ public:
     /** Saves a changed invoice; the order's status then follows from this one invoice alone. */
     bool updateInvoice(IInvoice* sale);
     [[nodiscard]] EntityInvoiceMakanDitempat* findInvoiceMakanDitempat(int id);
+    [[nodiscard]] EntityInvoiceFastFood* findInvoiceFastFood(int id);
+    [[nodiscard]] EntityInvoiceBawaPulang* findInvoiceBawaPulang(int id);
     [[nodiscard]] EntityInvoiceMakanDitempat* findMakanDitempatByInvoiceId(int invoiceId);
     [[nodiscard]] QList<EntityInvoiceMakanDitempat*> getInvoicesOfOrder(int orderId);
 
