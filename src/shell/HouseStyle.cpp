@@ -10,12 +10,12 @@
 
 namespace
 {
-constexpr QRgb workArea = 0xfff4f5f7;
-constexpr QRgb surface = 0xffffffff;
-constexpr QRgb ink = 0xff1f2933;
-constexpr QRgb quietInk = 0xff8a949e;
-constexpr QRgb line = 0xffb8c0c8;
-constexpr QRgb accent = 0xff005782;
+constexpr QRgb workAreaRgb = 0xfff4f5f7;
+constexpr QRgb surfaceRgb = 0xffffffff;
+constexpr QRgb inkRgb = 0xff1f2933;
+constexpr QRgb quietInkRgb = 0xff8a949e;
+constexpr QRgb lineRgb = 0xffb8c0c8;
+constexpr QRgb accentRgb = 0xff005782;
 constexpr int controlHeight = 30;
 constexpr int iconSpacing = 6;
 constexpr qreal cornerRadius = 3;
@@ -45,10 +45,10 @@ void drawTabClose(const QStyleOption& option, QPainter* painter)
     painter->setRenderHint(QPainter::Antialiasing);
     if (underMouse) {
         painter->setPen(Qt::NoPen);
-        painter->setBrush(QColor(line));
+        painter->setBrush(QColor(lineRgb));
         painter->drawRoundedRect(square, cornerRadius, cornerRadius);
     }
-    painter->setPen(QPen(QColor(underMouse ? ink : quietInk), 1.6, Qt::SolidLine, Qt::RoundCap));
+    painter->setPen(QPen(QColor(underMouse ? inkRgb : quietInkRgb), 1.6, Qt::SolidLine, Qt::RoundCap));
     const QRectF cross = square.adjusted(4, 4, -4, -4);
     painter->drawLine(cross.topLeft(), cross.bottomRight());
     painter->drawLine(cross.bottomLeft(), cross.topRight());
@@ -58,9 +58,9 @@ void drawTabClose(const QStyleOption& option, QPainter* painter)
 QColor buttonColor(const QStyleOptionButton& button)
 {
     const bool isDefault = button.features & QStyleOptionButton::DefaultButton;
-    QColor color = isDefault ? QColor(accent) : QColor(surface);
+    QColor color = isDefault ? QColor(accentRgb) : QColor(surfaceRgb);
     if (!(button.state & QStyle::State_Enabled))
-        return QColor(workArea);
+        return QColor(workAreaRgb);
     if (button.state & (QStyle::State_Sunken | QStyle::State_On))
         return isDefault ? color.darker(130) : QColor(0xdde3e9);
     if (button.state & QStyle::State_MouseOver)
@@ -84,29 +84,29 @@ void HouseStyle::apply(QApplication& application)
 QPalette HouseStyle::standardPalette() const
 {
     QPalette palette;
-    palette.setColor(QPalette::Window, QColor(workArea));
-    palette.setColor(QPalette::WindowText, QColor(ink));
-    palette.setColor(QPalette::Base, QColor(surface));
+    palette.setColor(QPalette::Window, QColor(workAreaRgb));
+    palette.setColor(QPalette::WindowText, QColor(inkRgb));
+    palette.setColor(QPalette::Base, QColor(surfaceRgb));
     palette.setColor(QPalette::AlternateBase, QColor(0xd4d4d4));
-    palette.setColor(QPalette::Text, QColor(ink));
-    palette.setColor(QPalette::Button, QColor(surface));
-    palette.setColor(QPalette::ButtonText, QColor(ink));
+    palette.setColor(QPalette::Text, QColor(inkRgb));
+    palette.setColor(QPalette::Button, QColor(surfaceRgb));
+    palette.setColor(QPalette::ButtonText, QColor(inkRgb));
     palette.setColor(QPalette::BrightText, Qt::white);
-    palette.setColor(QPalette::ToolTipBase, QColor(ink));
+    palette.setColor(QPalette::ToolTipBase, QColor(inkRgb));
     palette.setColor(QPalette::ToolTipText, Qt::white);
-    palette.setColor(QPalette::PlaceholderText, QColor(quietInk));
-    palette.setColor(QPalette::Highlight, QColor(accent));
+    palette.setColor(QPalette::PlaceholderText, QColor(quietInkRgb));
+    palette.setColor(QPalette::Highlight, QColor(accentRgb));
     palette.setColor(QPalette::HighlightedText, Qt::white);
-    palette.setColor(QPalette::Link, QColor(accent));
+    palette.setColor(QPalette::Link, QColor(accentRgb));
     palette.setColor(QPalette::Light, Qt::white);
     palette.setColor(QPalette::Midlight, QColor(0xe4e7eb));
-    palette.setColor(QPalette::Mid, QColor(line));
+    palette.setColor(QPalette::Mid, QColor(lineRgb));
     palette.setColor(QPalette::Dark, QColor(0x8a949e));
     palette.setColor(QPalette::Shadow, QColor(0x52606d));
     for (QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, role, QColor(quietInk));
-    palette.setColor(QPalette::Disabled, QPalette::Base, QColor(workArea));
-    palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor(line));
+        palette.setColor(QPalette::Disabled, role, QColor(quietInkRgb));
+    palette.setColor(QPalette::Disabled, QPalette::Base, QColor(workAreaRgb));
+    palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor(lineRgb));
     return palette;
 }
 
@@ -193,7 +193,7 @@ void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
     const bool enabled = button->state & State_Enabled;
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(QPen(QColor((focused && enabled) || isAccented(*button) ? accent : line), focused ? 2 : 1));
+    painter->setPen(QPen(QColor((focused && enabled) || isAccented(*button) ? accentRgb : lineRgb), focused ? 2 : 1));
     painter->setBrush(buttonColor(*button));
     painter->drawRoundedRect(QRectF(option->rect).adjusted(1, 1, -1, -1), cornerRadius, cornerRadius);
     painter->restore();

@@ -6,6 +6,7 @@
 #include "app/context/ConnectionSettings.h"
 #include "app/context/DatabaseManager.h"
 #include "kor/business/KorServiceDirectory.h"
+#include "kor/widgets/KorViewMemory.h"
 #include "registry/zavel/ZavelBusinessRegistry.h"
 #include "shell/ConfigDialog.h"
 #include "shell/HouseStyle.h"
@@ -31,6 +32,7 @@ ZavelApplication::ZavelApplication(int& argc, char** argv)
 {
     HouseStyle::apply(*this);
     m_dataDir.mkpath(".");
+    KorViewMemory::setFile(m_dataDir.filePath("view.ini"));
     auto* logger = new KorLogger(this, m_dataDir.filePath("zavel.log"));
     logger->log(tr("Application Started"));
     AppContext::instance()->setLogger(logger);

@@ -47,6 +47,7 @@ void AppListTab::refresh()
     m_model = createModel(rows);
     applyModel(grid(), m_model);
     modelApplied();
+    restoreColumns(grid());
     if (former) {
         former->clear();
         delete former;

@@ -1,6 +1,7 @@
 #include "kor/widgets/KorDialog.h"
 
 #include "kor/entity/KorEntity.h"
+#include "kor/widgets/KorViewMemory.h"
 
 #include <QIcon>
 #include <QKeyEvent>
@@ -50,8 +51,19 @@ void KorDialog::addError(QWidget* widget, const QString& message)
 
 void KorDialog::accept() { done(Accepted); }
 
+void KorDialog::showEvent(QShowEvent* event)
+{
+    if (!m_sizeAtFirst.isValid()) {
+        KorViewMemory::restoreSize(this);
+        m_sizeAtFirst = size();
+    }
+    QDialog::showEvent(event);
+}
+
 void KorDialog::done(int result)
 {
+    if (m_sizeAtFirst.isValid() && size() != m_sizeAtFirst)
+        KorViewMemory::rememberSize(this);
     if (result != Accepted) {
         QDialog::done(result);
         return;

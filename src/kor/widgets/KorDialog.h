@@ -45,6 +45,7 @@ public:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
     /** The owned record of the dialog: replaced by setEntity, deleted with the dialog. */
     template <class Entity>
@@ -88,4 +89,5 @@ private:
     std::function<bool()> m_saver;
     QList<QWidget*> m_errorFields;
     QMap<QWidget*, QStringList> m_errors;
+    QSize m_sizeAtFirst;
 };

@@ -4,6 +4,7 @@
 #include "kor/widgets/KorEmptyHint.h"
 #include "kor/widgets/KorEntityModel.h"
 #include "kor/widgets/KorSortFilterProxyModel.h"
+#include "kor/widgets/KorViewMemory.h"
 
 #include <QCoreApplication>
 #include <QHeaderView>
@@ -91,6 +92,12 @@ void KorTab::applyModel(QTableView* view, KorEntityModel* model)
     view->setAlternatingRowColors(true);
     view->setStyleSheet("alternate-background-color: #D4D4D4;background-color: white;");
     KorEmptyHint::attach(view);
+    restoreColumns(view);
+}
+
+void KorTab::restoreColumns(QTableView* view)
+{
+    KorViewMemory::restoreColumns(view, QLatin1String(metaObject()->className()));
 }
 
 QList<int> KorTab::selectedIds(const QTableView* view, const KorEntityModel* model)

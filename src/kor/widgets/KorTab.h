@@ -33,6 +33,9 @@ protected:
     /** Shows the model in the grid, sortable and selectable by whole rows; widths and sort order stay as they were. */
     void applyModel(QTableView* view, KorEntityModel* model);
 
+    /** The widths that a person gave the columns; a page that sets widths of its own calls it afterwards. */
+    void restoreColumns(QTableView* view);
+
     // The selected rows from top to bottom as the grid shows them.
     [[nodiscard]] static QList<int> selectedIds(const QTableView* view, const KorEntityModel* model);
     [[nodiscard]] static QList<int> selectedEntityIds(const QTableView* view, const KorEntityModel* model);
