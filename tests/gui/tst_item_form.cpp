@@ -2,6 +2,9 @@
 #include "masterdata/item/BusinessItem.h"
 #include "masterdata/item/DialogItem.h"
 #include "masterdata/item/DialogSubItem.h"
+#include "masterdata/item/InventoryTextBox.h"
+#include "masterdata/item/ItemTextBox.h"
+#include "masterdata/item/ServiceTextBox.h"
 #include "masterdata/item/TabSubItem.h"
 #include "support/MasterFamilies.h"
 #include "support/ModalDriver.h"
@@ -36,6 +39,7 @@ private slots:
     void componentsAreAddedOnce();
     void aComponentIsChangedAndDeleted();
     void theComponentListHasNothingToClose();
+    void eachLookupFindsItsOwnItems();
 
 private:
     void open(const QString& code = QString());
@@ -251,6 +255,31 @@ void TestItemForm::theComponentListHasNothingToClose()
     QVERIFY(!m_form->findChild<TabSubItem*>()->findChild<QPushButton*>("btnClose")->isVisible());
     QTest::keyClick(in<QTableView>("tblSubItem"), Qt::Key_Escape);
     QTRY_VERIFY(!m_form->isVisible());
+}
+
+void TestItemForm::eachLookupFindsItsOwnItems()
+{
+    QLineEdit editor;
+    auto* items = service<BusinessItem>("Item");
+    const int foods = items->findByCode("ns")->getJenis()->getId();
+    const auto found = [](AppLookupBox& box, const QString& text) {
+        box.search(text);
+        QStringList rows;
+        for (int row = 0; row < box.items().size(); ++row)
+            rows.append(box.rowText(row, 0).toString() + ' ' + box.rowText(row, box.columnCount() - 1).toString());
+        return rows.join(", ");
+    };
+    InventoryTextBox stock(&editor, items);
+    QCOMPARE(found(stock, "RIC"), QString("ns Rice"));
+    stock.setItemType(foods + 1);
+    QCOMPARE(found(stock, "RIC"), QString());
+    ServiceTextBox menu(&editor, items);
+    menu.setItemType(foods);
+    QCOMPARE(found(menu, "rice"), QString("fr Foods, llp Foods"));
+    ItemTextBox any(&editor, items);
+    QCOMPARE(found(any, "fri"), QString("aym Fried Chicken, fr Fried Rice"));
+    any.setItemType("mnm");
+    QCOMPARE(found(any, "fri"), QString());
 }
 
 QTEST_MAIN(TestItemForm)
