@@ -2,19 +2,174 @@
 
 #include "tour/Guide.h"
 
-void playDineIn(Guide& guide)
+namespace
+{
+void logIn(Guide& guide)
 {
     guide.chapter("Log in");
     guide.waitForWindow("DialogLogin");
     guide.fill("txtUsername", "admin");
+    guide.fill("txtPassword", "wrong");
+    guide.key(Qt::Key_Return);
+    guide.answer("Invalid login", "OK");
     guide.fill("txtPassword", "Qx7!Rm2z");
     guide.picture("login");
     guide.key(Qt::Key_Return);
     guide.waitUntilClosed("DialogLogin");
     guide.waitForWindow("MainWindow");
+}
 
-    guide.chapter("The board");
+void masterData(Guide& guide)
+{
+    guide.chapter("The owner adds a table");
+    guide.menu("menuMaster_Data", "actionMeja");
+    guide.waitForWidget("tblMeja");
+    guide.key(Qt::Key_F12);
+    guide.waitForWindow("DialogMeja");
+    guide.fill("txtKode", "M1");
+    guide.fill("txtNama", "Window");
+    guide.key(Qt::Key_Return);
+    guide.answer("This table code is already in use please use another code", "OK");
+    guide.fill("txtKode", "w1");
+    guide.picture("table-form");
+    guide.key(Qt::Key_Return);
+    guide.waitUntilClosed("DialogMeja");
+    guide.expectText("lblCount", "3 Items");
+    guide.picture("tables");
+    guide.key(Qt::Key_Escape);
+
+    guide.menu("menuMaster_Data", "actionItem");
+    guide.waitForWidget("tblItem");
+    guide.expectText("lblCount", "4 Items");
+    guide.picture("items");
+    guide.chooseRow("tblItem", "Fried Rice");
+    guide.key(Qt::Key_F2);
+    guide.waitForWindow("DialogItem");
+    guide.picture("item-form");
+    guide.key(Qt::Key_Escape);
+    guide.waitUntilClosed("DialogItem");
+    guide.key(Qt::Key_Escape);
+}
+
+void pick(Guide& guide, const QString& window, const QString& code, const QString& quantity, const QString& notes = {})
+{
+    guide.waitForWindow(window);
+    guide.lookUp("txtCode", code);
+    guide.key(Qt::Key_Return);
+    guide.fill("txtQty", quantity);
+    if (!notes.isEmpty())
+        guide.fill("txtNotes", notes);
+}
+
+void takeOrder(Guide& guide)
+{
+    guide.chapter("A waiter takes the order of a table");
     guide.menu("menuPenjualan", "actionMakan_Ditempat");
-    guide.waitFor("the board", [] { return true; });
+    guide.waitForWidget("tblMeja");
+    guide.chooseRow("tblMeja", "Table 1");
     guide.picture("board");
+    guide.key(Qt::Key_F12);
+    guide.waitForWindow("DialogMakanDitempat");
+    guide.lookUp("txtMember", "m12");
+    guide.picture("member-lookup");
+    guide.key(Qt::Key_Return);
+    guide.key(Qt::Key_F3);
+    guide.click("btnAdd");
+    pick(guide, "DialogSelectMenu", "fr", "2", "no chili");
+    guide.picture("menu-picker");
+    guide.key(Qt::Key_Return);
+    // The picker comes again until it is cancelled.
+    pick(guide, "DialogSelectMenu", "llp", "2");
+    guide.key(Qt::Key_Return);
+    guide.waitForWindow("DialogSelectMenu");
+    guide.key(Qt::Key_Escape);
+    guide.waitForWindow("DialogMakanDitempat");
+    guide.click("btnAddInv");
+    pick(guide, "DialogSelectInventory", "ns", "4");
+    guide.key(Qt::Key_Return);
+    guide.waitForWindow("DialogSelectInventory");
+    guide.key(Qt::Key_Escape);
+    guide.waitForWindow("DialogMakanDitempat");
+    guide.expectText("lblTotal", "$30.00");
+    guide.picture("order");
+    guide.pressOk();
+    guide.waitUntilClosed("DialogMakanDitempat");
+
+    guide.expectSlip({"Table  : m1", "Member : member 1 m123", "Fried Rice", "no chili", "Rice with fresh", "Total"});
+    guide.expectRow("tblMeja", "Table 1", "Waiting for the menu");
+    guide.picture("board-occupied");
+}
+
+void changeOrder(Guide& guide)
+{
+    guide.chapter("The guests want more, and then another table");
+    guide.chooseRow("tblMeja", "Table 1");
+    guide.key(Qt::Key_F2);
+    guide.waitForWindow("DialogMakanDitempat");
+    guide.chooseRow("tblDetail", "Fried Rice");
+    guide.click("btnEdit");
+    guide.waitForWindow("DialogSelectMenu");
+    guide.fill("txtQty", "4");
+    guide.key(Qt::Key_Return);
+    guide.waitForWindow("DialogMakanDitempat");
+    guide.expectText("lblTotal", "$40.00");
+    guide.lookUp("txtKode", "m2");
+    guide.key(Qt::Key_Return);
+    guide.picture("order-changed");
+    guide.pressOk();
+    guide.waitUntilClosed("DialogMakanDitempat");
+    guide.expectSlip({"Table  : m1>m2", "*Fried Rice", "     4"});
+    guide.expectRow("tblMeja", "Table 2", "Waiting for the menu");
+    guide.expectRow("tblMeja", "Table 1", "Empty");
+    guide.picture("board-moved");
+
+    guide.chooseRow("tblMeja", "Table 2");
+    guide.click("btnPrint");
+    guide.expectSlip({"Brintel", "Table  : Table 2", "Fried Rice"});
+}
+
+void pay(Guide& guide)
+{
+    guide.chapter("The cashier takes the money");
+    guide.chooseRow("tblMeja", "Table 2");
+    guide.click("btnPay");
+    guide.waitForWindow("DialogBayarMakanDitempat");
+    guide.expectText("txtSubTotal", "40.00");
+    guide.fill("txtDiscPerc", "10");
+    guide.key(Qt::Key_Tab);
+    guide.expectText("txtDiscount", "4.00");
+    guide.fill("txtTaxPerc", "10");
+    guide.key(Qt::Key_Tab);
+    guide.fill("txtServicePerc", "5");
+    guide.key(Qt::Key_Tab);
+    guide.expectText("txtGrandTotal", "42.00");
+    guide.lookUp("txtEmployee", "emp");
+    guide.key(Qt::Key_Return);
+    guide.key(Qt::Key_F9);
+    guide.fill("txtPaid", "40");
+    guide.expectText("lblNetDue", "Less :");
+    guide.fill("txtPaid", "50");
+    guide.expectText("lblNetDue", "Change :");
+    guide.expectText("txtNetDue", "8.00");
+    guide.picture("payment");
+    guide.click("btnPrintBill");
+    guide.answer("Are you done with this table: Table 2 ?", "Yes");
+    guide.expectSlip({"Table  : Table 2", "Member : member 1 m123", "Sub total", "Grand Total", "42", "Change", "8"});
+    guide.waitForWindow("DialogBayarMakanDitempat");
+    guide.note("invoice no. " + guide.textOf("txtKode"));
+    guide.picture("payment-saved");
+    guide.key(Qt::Key_Escape);
+    guide.waitUntilClosed("DialogBayarMakanDitempat");
+    guide.expectRow("tblMeja", "Table 2", "Empty");
+    guide.picture("board-free");
+}
+} // namespace
+
+void playDineIn(Guide& guide)
+{
+    logIn(guide);
+    masterData(guide);
+    takeOrder(guide);
+    changeOrder(guide);
+    pay(guide);
 }

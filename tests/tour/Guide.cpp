@@ -4,6 +4,7 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QDateTime>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QLabel>
@@ -13,6 +14,7 @@
 #include <QMessageBox>
 #include <QPainter>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QSemaphore>
 #include <QTest>
 #include <QTextStream>
@@ -101,10 +103,7 @@ QPixmap screen()
 }
 } // namespace
 
-Guide::Guide(const QString& folder) : m_folder(folder)
-{
-    QDir().mkpath(folder);
-}
+Guide::Guide(const QString& folder) : m_folder(folder) { QDir().mkpath(folder); }
 
 // --- the two threads -----------------------------------------------------------------------------------------------
 
@@ -151,15 +150,15 @@ void Guide::fail(const QString& reason)
                               QStringList names;
                               for (QWidget* window : QApplication::topLevelWidgets()) {
                                   if (window->isVisible())
-                                      names += QString("%1 \"%2\" %3").arg(window->metaObject()->className(),
-                                                                          window->windowTitle(),
-                                                                          window->property("text").toString());
+                                      names += QString("%1 \"%2\" %3")
+                                                   .arg(window->metaObject()->className(), window->windowTitle(),
+                                                        window->property("text").toString());
                               }
                               return QVariant(names);
                           }).toStringList();
     picture("failed");
-    QTextStream(stderr) << "TOUR FAILED in \"" << m_chapter << "\": " << reason << "\n  on screen: "
-                        << windows.join("; ") << "\n";
+    QTextStream(stderr) << "TOUR FAILED in \"" << m_chapter << "\": " << reason
+                        << "\n  on screen: " << windows.join("; ") << "\n";
     note("FAILED: " + reason);
     std::_Exit(1);
 }
@@ -205,6 +204,28 @@ void Guide::waitUntilClosed(const QString& className)
         }
         return true;
     });
+}
+
+void Guide::waitForWidget(const QString& widget)
+{
+    waitFor("widget " + widget, [&widget] { return find(widget) && find(widget)->isEnabled(); });
+}
+
+void Guide::expectRow(const QString& grid, const QString& rowText, const QString& cellText)
+{
+    waitFor("\"" + cellText + "\" in the row of \"" + rowText + "\"", [&] {
+        const auto* view = qobject_cast<const QAbstractItemView*>(find(grid));
+        const QAbstractItemModel* model = view ? view->model() : nullptr;
+        for (int row = 0; model && row < model->rowCount(); ++row) {
+            QStringList cells;
+            for (int column = 0; column < model->columnCount(); ++column)
+                cells.append(model->index(row, column).data().toString());
+            if (cells.contains(rowText) && cells.contains(cellText))
+                return true;
+        }
+        return false;
+    });
+    note(QString("row \"%1\": %2").arg(rowText, cellText));
 }
 
 QString Guide::textOf(const QString& widget)
@@ -342,6 +363,25 @@ void Guide::menu(const QString& menuName, const QString& actionName)
         }
     });
     waitFor("closed menu " + menuName, [&theMenu] { return !theMenu()->isVisible(); });
+}
+
+void Guide::pressOk()
+{
+    const auto button = []() -> QAbstractButton* {
+        const auto* box = frontWindow() ? frontWindow()->findChild<QDialogButtonBox*>() : nullptr;
+        return box ? box->button(QDialogButtonBox::Ok) : nullptr;
+    };
+    waitFor("an OK button", [&button] { return button() && button()->isEnabled(); });
+    act([button] { QTest::mouseClick(button(), Qt::LeftButton); });
+}
+
+void Guide::expectSlip(const QStringList& texts)
+{
+    const QString slip = nextSlip();
+    for (const QString& text : texts) {
+        if (!slip.contains(text))
+            fail("the slip lacks \"" + text + "\":\n" + slip);
+    }
 }
 
 QString Guide::nextSlip()

@@ -1,9 +1,8 @@
 #pragma once
 
-#include <QPoint>
 #include <QString>
+#include <QStringList>
 #include <QVariant>
-#include <QWidget>
 
 #include <functional>
 
@@ -30,6 +29,10 @@ public:
     void waitForWindow(const QString& className);
     void waitUntilClosed(const QString& className);
     void waitFor(const QString& what, const std::function<bool()>& condition);
+    /** A widget of the front window, visible and enabled. */
+    void waitForWidget(const QString& widget);
+    /** The row with the first text in some cell has the second one in another. */
+    void expectRow(const QString& grid, const QString& rowText, const QString& cellText);
     [[nodiscard]] QString textOf(const QString& widget);
     void expectText(const QString& widget, const QString& text);
     /** Waits for a message box with this text in it and presses the button. */
@@ -50,14 +53,16 @@ public:
     /** Triggers the entry of the main window's menu that has this object name, by the mouse. */
     void menu(const QString& menuName, const QString& actionName);
 
-    /** Waits for the next slip of the folder spool and returns its text; it also joins the summary. */
-    QString nextSlip();
+    /** Presses OK in the front dialog's button box. */
+    void pressOk();
+    /** Waits for the next slip of the folder spool, which must hold these texts; it joins the summary. */
+    void expectSlip(const QStringList& texts);
 
     [[nodiscard]] const QString& folder() const { return m_folder; }
 
 private:
     void act(const std::function<void()>& action);
-    QString clickPoint(const QString& widget, QPoint* point);
+    QString nextSlip();
 
     QString m_folder;
     QString m_chapter;

@@ -37,7 +37,8 @@ private:
             playDineIn(guide);
         else
             guide.fail("there is no tour named " + name);
-        QMetaObject::invokeMethod(qApp, [] { QCoreApplication::exit(0); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            qApp, [] { QCoreApplication::exit(0); }, Qt::QueuedConnection);
     }
 };
 
