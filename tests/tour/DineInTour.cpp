@@ -17,6 +17,8 @@ void logIn(Guide& guide)
     guide.key(Qt::Key_Return);
     guide.waitUntilClosed("DialogLogin");
     guide.waitForWindow("MainWindow");
+    guide.resizeMainWindow(QSize(1366, 768));
+    guide.picture("main-window");
 }
 
 void masterData(Guide& guide)

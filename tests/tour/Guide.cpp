@@ -56,6 +56,14 @@ QWidget* find(const QString& name)
     return nullptr;
 }
 
+/** What a window manager does and this platform lacks: the focus goes back to the window that is left in front. */
+void keepFrontActive()
+{
+    QWidget* front = frontWindow();
+    if (front && !QApplication::activePopupWidget() && QApplication::activeWindow() != front)
+        front->activateWindow();
+}
+
 bool isInFront(const QString& className)
 {
     const QWidget* window = frontWindow();
@@ -114,6 +122,7 @@ QVariant Guide::ask(const std::function<QVariant()>& look)
     QMetaObject::invokeMethod(
         qApp,
         [&] {
+            keepFrontActive();
             result = look();
             seen.release();
         },
@@ -263,6 +272,15 @@ void Guide::answer(const QString& text, const QString& button)
 }
 
 // --- doing ---------------------------------------------------------------------------------------------------------
+
+void Guide::resizeMainWindow(const QSize& size)
+{
+    act([size] {
+        QWidget* window = frontWindow()->window();
+        window->showNormal();
+        window->setGeometry(QRect(QPoint(0, 0), size));
+    });
+}
 
 void Guide::type(const QString& text)
 {

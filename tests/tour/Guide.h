@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSize>
 #include <QString>
 #include <QStringList>
 #include <QVariant>
@@ -40,6 +41,8 @@ public:
     [[nodiscard]] QVariant ask(const std::function<QVariant()>& look);
 
     // Doing.
+    /** Gives the program's main window the size of a till's screen. */
+    void resizeMainWindow(const QSize& size);
     void type(const QString& text);
     void key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     /** Puts the cursor into the field, with everything in it selected. */
