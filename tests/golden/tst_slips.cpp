@@ -345,6 +345,9 @@ void TestSlips::recapsTakeAwaysAndCancellationsAreComposed()
 
 void TestSlips::eachBillComesFromItsOwnSale()
 {
+    KorLogger log(nullptr, m_spool->filePath("log"));
+    log.setShowTimestamp(false);
+    AppContext::instance()->setLogger(&log);
     EntityInvoiceMakanDitempat dine;
     fillSale(&dine, 60000);
     dine.setMakanDitempat(m_order);
@@ -369,6 +372,11 @@ void TestSlips::eachBillComesFromItsOwnSale()
                                goldenDifference("sale_fast_food.txt", job(1)) +
                                goldenDifference("sale_take_away.txt", job(2));
     QVERIFY2(difference.isEmpty(), qPrintable(difference));
+
+    // A sale over the counter leaves its text in the log, and it alone.
+    QFile logFile(m_spool->filePath("log"));
+    QVERIFY(logFile.open(QIODevice::ReadOnly));
+    QCOMPARE(logFile.readAll().trimmed(), job(1).trimmed());
 }
 
 void TestSlips::copiesAndCutsGoIntoOneJob()
