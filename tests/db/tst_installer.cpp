@@ -2,6 +2,7 @@
 #include "app/context/AppContext.h"
 #include "app/context/DatabaseManager.h"
 #include "kor/business/KorServiceDirectory.h"
+#include "kor/install/KorInstallerThread.h"
 #include "kor/log/KorLogger.h"
 #include "masterdata/company/BusinessDataPerusahaan.h"
 #include "masterdata/company/EntityDataPerusahaan.h"
@@ -332,19 +333,13 @@ void TestInstaller::aWorkerThreadLaysDownTheSameWhileTheWindowLives()
         QCOMPARE(QThread::currentThread(), qApp->thread());
         lines.append(status);
     });
-    auto* thread = new QThread;
-    installer->moveToThread(thread);
-    connect(thread, &QThread::started, installer, &KorInstaller::process);
-    connect(installer, &KorInstaller::finished, thread, &QThread::quit);
-    connect(installer, &KorInstaller::finished, installer, &QObject::deleteLater);
-    connect(thread, &QThread::finished, thread, &QObject::deleteLater);
     QEventLoop window;
-    connect(thread, &QThread::destroyed, &window, &QEventLoop::quit);
+    connect(installer, &KorInstaller::finished, &window, &QEventLoop::quit);
     QTimer repaint;
     int repaints = 0;
     connect(&repaint, &QTimer::timeout, [&repaints] { ++repaints; });
     repaint.start(1);
-    thread->start(QThread::InheritPriority);
+    startInstaller(installer);
     QTimer::singleShot(60000, &window, &QEventLoop::quit);
     window.exec();
 
@@ -354,7 +349,7 @@ void TestInstaller::aWorkerThreadLaysDownTheSameWhileTheWindowLives()
     QCOMPARE(difference(contentOf(database), expected), QString());
     // Nothing of what the worker read stays behind, and neither does its connection.
     QCOMPARE(AppContext::instance()->liveEntities().size(), 0);
-    QCOMPARE(QSqlDatabase::connectionNames().filter("worker-"), QStringList());
+    QTRY_COMPARE(QSqlDatabase::connectionNames().filter("worker-"), QStringList());
     QFile log(logFile);
     QVERIFY(log.open(QIODevice::ReadOnly));
     const QByteArray text = log.readAll();

@@ -1,10 +1,9 @@
-#include "app/persistence/AppDocumentMapper.h"
 #include "inventory/stock/StockMovements.h"
+#include "kor/persistence/KorDataMapper.h"
 #include "kor/persistence/KorQuery.h"
 #include "registry/app/AppMapperRegistry.h"
 #include "registry/pos/PosMapperRegistry.h"
 #include "registry/zavel/ZavelMapperRegistry.h"
-#include "sales/invoice/DataMapperInvoice.h"
 #include "support/TestDatabase.h"
 
 #include <QTest>
@@ -22,10 +21,7 @@ QList<KorDataMapper*> withLineMappers()
     QList<KorDataMapper*> all;
     for (KorDataMapper* mapper : registered()) {
         all.append(mapper);
-        if (auto* document = qobject_cast<AppDocumentMapper*>(mapper))
-            all += document->lineMappers();
-        if (auto* invoices = qobject_cast<DataMapperInvoice*>(mapper))
-            all.append(invoices->detailMapper());
+        all += mapper->lineMappers();
     }
     return all;
 }
