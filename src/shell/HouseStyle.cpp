@@ -36,6 +36,29 @@ QPixmap whitened(QPixmap picture)
     return picture;
 }
 
+/** What a message is about: a sign on a disc, sharp on dense screens too. */
+QIcon messageIcon(char sign, QRgb color)
+{
+    constexpr int size = 48;
+    QPixmap picture(2 * size, 2 * size);
+    picture.setDevicePixelRatio(2);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(color));
+    const QRect disc(4, 4, size - 8, size - 8);
+    painter.drawEllipse(disc);
+    QFont font = QApplication::font();
+    font.setPixelSize(26);
+    font.setBold(true);
+    painter.setFont(font);
+    painter.setPen(Qt::white);
+    painter.drawText(disc, Qt::AlignCenter, QString(QLatin1Char(sign)));
+    painter.end();
+    return QIcon(picture);
+}
+
 /** A cross, on a ground of its own under the mouse. */
 void drawTabClose(const QStyleOption& option, QPainter* painter)
 {
@@ -125,6 +148,8 @@ int HouseStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, cons
         return controlHeight;
     case PM_ScrollBarExtent:
         return 18;
+    case PM_HeaderMargin:
+        return 8;
     // What stands left and right of a cell's text.
     case PM_FocusFrameHMargin:
         return widget && widget->inherits("QTableView") ? 6 : QProxyStyle::pixelMetric(metric, option, widget);
@@ -248,12 +273,22 @@ void HouseStyle::drawIconAndWord(const QStyleOptionButton& button, QPainter* pai
 QRect HouseStyle::subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const
 {
     const QRect rect = QProxyStyle::subElementRect(element, option, widget);
-    return element == SE_LineEditContents ? rect.adjusted(4, 0, -4, 0) : rect;
+    if (element == SE_LineEditContents)
+        return rect.adjusted(4, 0, -4, 0);
+    return element == SE_HeaderLabel ? rect.adjusted(4, 0, -4, 0) : rect;
 }
 
 QIcon HouseStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const
 {
     switch (icon) {
+    case SP_MessageBoxInformation:
+        return messageIcon('i', accentRgb);
+    case SP_MessageBoxQuestion:
+        return messageIcon('?', accentRgb);
+    case SP_MessageBoxWarning:
+        return messageIcon('!', 0xffb45f06);
+    case SP_MessageBoxCritical:
+        return messageIcon('!', 0xffb3261e);
     case SP_DialogOkButton:
     case SP_DialogYesButton:
     case SP_DialogApplyButton:
