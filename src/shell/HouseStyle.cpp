@@ -11,6 +11,7 @@
 namespace
 {
 constexpr QRgb workAreaRgb = 0xfff4f5f7;
+constexpr QRgb readOnlyRgb = 0xffe9ecef;
 constexpr QRgb surfaceRgb = 0xffffffff;
 constexpr QRgb inkRgb = 0xff1f2933;
 constexpr QRgb quietInkRgb = 0xff8a949e;
@@ -207,6 +208,14 @@ void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
 {
     if (element == PE_IndicatorTabClose) {
         drawTabClose(*option, painter);
+        return;
+    }
+    const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+    if (element == PE_PanelLineEdit && frame && (frame->state & State_ReadOnly)) {
+        // A field that only shows lies on the form's own ground.
+        QStyleOptionFrame shown(*frame);
+        shown.palette.setColor(QPalette::Base, QColor(readOnlyRgb));
+        QProxyStyle::drawPrimitive(element, &shown, painter, widget);
         return;
     }
     const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);

@@ -7,6 +7,10 @@
 
 namespace
 {
+// A connection that breaks inside a transaction stays broken until it ends: opened anew, what is left of the work
+// would be written without the part that the server has thrown away.
+thread_local int openTransactions = 0;
+
 QString defaultName() { return QString::fromLatin1(QSqlDatabase::defaultConnection); }
 
 /** The clone that a worker thread speaks through; it goes with the thread. */
@@ -24,7 +28,7 @@ public:
     }
     Q_DISABLE_COPY(WorkerConnection)
 
-    [[nodiscard]] QSqlDatabase database() const { return QSqlDatabase::database(m_name, true); }
+    [[nodiscard]] QSqlDatabase database() const { return QSqlDatabase::database(m_name, openTransactions == 0); }
 
 private:
     QString m_name;
@@ -41,28 +45,43 @@ bool KorDatabase::isApplicationThread()
 QSqlDatabase KorDatabase::current()
 {
     if (isApplicationThread())
-        return QSqlDatabase::database(defaultName(), true);
+        return QSqlDatabase::database(defaultName(), openTransactions == 0);
     if (!workerConnections.hasLocalData())
         workerConnections.setLocalData(new WorkerConnection);
     return workerConnections.localData()->database();
 }
 
-KorTransaction::KorTransaction() : m_database(KorDatabase::current()), m_open(m_database.transaction()) {}
+KorTransaction::KorTransaction() : m_database(KorDatabase::current()), m_open(m_database.transaction())
+{
+    if (!m_open) {
+        // A session that was lost since the last statement shows only now; nothing is written yet, so a new one will
+        // do.
+        m_database = KorDatabase::current();
+        m_open = m_database.transaction();
+    }
+    openTransactions += m_open ? 1 : 0;
+}
 
 KorTransaction::~KorTransaction()
 {
     if (m_open)
-        m_database.rollback();
+        rollback();
 }
 
 bool KorTransaction::commit()
 {
-    m_open = false;
+    end();
     return m_database.commit();
 }
 
 bool KorTransaction::rollback()
 {
-    m_open = false;
+    end();
     return m_database.rollback();
+}
+
+void KorTransaction::end()
+{
+    openTransactions -= m_open ? 1 : 0;
+    m_open = false;
 }

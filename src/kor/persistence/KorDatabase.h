@@ -19,6 +19,7 @@ public:
 /**
  * One transaction on the current connection, rolled back when it goes out of scope unfinished. Transactions do not
  * nest: a second one inside is accepted by the server with a warning, and its commit ends the one and only.
+ * While it is open a lost connection is not opened anew: every statement to its end fails.
  */
 class KorTransaction
 {
@@ -32,6 +33,8 @@ public:
     bool rollback();
 
 private:
+    void end();
+
     QSqlDatabase m_database;
     bool m_open;
 };

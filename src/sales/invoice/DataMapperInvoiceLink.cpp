@@ -118,8 +118,12 @@ bool DataMapperInvoiceLink::update(KorEntity* link)
         if (!detailMapper()->removeByInvoiceId(invoice->getId()))
             reason = " \r\n " + detailMapper()->takeError();
         else if (insertLines(sale, &reason)) {
-            if (transaction.commit())
+            if (transaction.commit()) {
+                // A form that cannot read the sale again saves it again from memory.
+                invoice->setVersion(invoice->getVersion() + 1);
+                link->setVersion(link->getVersion() + 1);
                 return true;
+            }
             reason = KorDatabase::current().lastError().text();
         }
     }

@@ -1,5 +1,6 @@
 #include "sales/invoice/EntityInvoiceDetail.h"
 
+#include <limits>
 #include <memory>
 
 void EntityInvoiceDetail::setQtySplit(int quantity)
@@ -16,4 +17,12 @@ void EntityInvoiceDetail::recomputeTotal()
         return;
     const std::unique_ptr<Money> total(getPriceEach()->multiply(getQty()));
     setTotal(total.get());
+}
+
+bool EntityInvoiceDetail::totalFits() const
+{
+    if (!getPriceEach())
+        return true;
+    const qint64 total = qint64(getPriceEach()->rawAmount()) * getQty();
+    return qAbs(total) <= std::numeric_limits<int>::max();
 }

@@ -26,6 +26,8 @@ public:
 
     /** Total := price × quantity. */
     void recomputeTotal();
+    /** Whether price × quantity is an amount that money can hold; a larger one would wrap around. */
+    [[nodiscard]] bool totalFits() const;
 
 private:
     int m_qtySplit = 0;

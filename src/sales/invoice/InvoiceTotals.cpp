@@ -38,7 +38,12 @@ void InvoiceTotals::restore(Part part, double percent, double amount)
     m_amount[part] = rounded(amount);
 }
 
-double InvoiceTotals::grandTotal() const { return m_subtotal - m_amount[Discount] + m_amount[Tax] + m_amount[Service]; }
+double InvoiceTotals::grandTotal() const
+{
+    return rounded(m_subtotal - m_amount[Discount] + m_amount[Tax] + m_amount[Service]);
+}
+
+double InvoiceTotals::change() const { return rounded(m_paid + m_credit - grandTotal()); }
 
 bool InvoiceTotals::fits() const
 {
@@ -54,22 +59,24 @@ bool InvoiceTotals::fits() const
 void InvoiceTotals::writeTo(Invoice* invoice) const
 {
     const auto money = [this, invoice](double amount) { return new Money(invoice, amount, m_currency); };
+    // A percent of nothing is no number; the form shows it, but sums over stored invoices must not meet it.
+    const auto stored = [this](Part part) { return std::isfinite(m_percent[part]) ? m_percent[part] : 0; };
     invoice->setSubtotal(money(m_subtotal));
-    invoice->setDiscountPerc(m_percent[Discount]);
+    invoice->setDiscountPerc(stored(Discount));
     invoice->setDiscount(money(m_amount[Discount]));
-    invoice->setTaxPerc(m_percent[Tax]);
+    invoice->setTaxPerc(stored(Tax));
     invoice->setTax(money(m_amount[Tax]));
-    invoice->setServicePerc(m_percent[Service]);
+    invoice->setServicePerc(stored(Service));
     invoice->setService(money(m_amount[Service]));
     invoice->setGrandTotal(money(grandTotal()));
     invoice->setAmountPaid(money(m_paid));
     invoice->setOtherPayment(money(m_credit));
-    invoice->setNetDue(money(grandTotal() - m_paid - m_credit));
+    invoice->setNetDue(money(-change()));
 }
 
 void InvoiceTotals::readFrom(const Invoice& invoice)
 {
-    const auto amount = [](const Money* money) { return money ? money->getAmount() : 0.0; };
+    const auto amount = [](const Money* money) { return money ? double(money->rawAmount()) / money->factor() : 0; };
     if (invoice.getSubtotal())
         m_currency = invoice.getSubtotal()->getCurrency();
     m_subtotal = amount(invoice.getSubtotal());

@@ -34,7 +34,7 @@ public:
     [[nodiscard]] double credit() const { return m_credit; }
     [[nodiscard]] double grandTotal() const;
     /** What a form shows: positive for change, negative for what is still missing. */
-    [[nodiscard]] double change() const { return m_paid + m_credit - grandTotal(); }
+    [[nodiscard]] double change() const;
     [[nodiscard]] bool isShort() const { return change() < 0; }
     /** Whether every figure fits into what a stored amount can hold. */
     [[nodiscard]] bool fits() const;

@@ -86,8 +86,10 @@ bool DataMapperOrder::updateStatus(EntityOrder* order)
                                {":user", user == KorNoValue ? QVariant(QVariant::Int) : QVariant(user)},
                                {":id", order->getId()},
                                {":version", order->getVersion()}});
-    if (sent && query.numRowsAffected() > 0)
+    if (sent && query.numRowsAffected() > 0) {
+        order->setVersion(order->getVersion() + 1);
         return true;
+    }
     if (sent)
         explainFailedWrite(order);
     setError(statusFailure() + " \r\n " + takeError());

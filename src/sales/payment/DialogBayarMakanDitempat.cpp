@@ -17,7 +17,9 @@
 #include "ui_DialogBayarMakanDitempat.h"
 
 #include <QMessageBox>
+#include <QPushButton>
 #include <QShortcut>
+#include <QTimer>
 
 DialogBayarMakanDitempat::DialogBayarMakanDitempat(QWidget* parent)
     : KorDialog(parent), m_ui(std::make_unique<Ui::DialogBayarMakanDitempat>()),
@@ -36,7 +38,11 @@ DialogBayarMakanDitempat::DialogBayarMakanDitempat(QWidget* parent)
                                     m_ui->lblNetDue},
                                    this);
     setUpFields();
-    focusLater(m_ui->txtPaid);
+    QTimer::singleShot(0, m_ui->txtPaid, [this] {
+        // Selected even when the window becomes active later: the first figure replaces what stands in the box.
+        m_ui->txtPaid->setFocus(Qt::ShortcutFocusReason);
+        m_ui->txtPaid->selectAll();
+    });
 }
 
 DialogBayarMakanDitempat::~DialogBayarMakanDitempat() = default;
@@ -47,7 +53,7 @@ void DialogBayarMakanDitempat::setUpFields()
     m_agentBox = new AgentTextBox(m_ui->txtAgent, service<BusinessAgent>("Agent"));
     m_employeeBox = new EmployeeTextBox(m_ui->txtEmployee, service<BusinessEmployee>("Employee"));
     m_cashBox = new BankTextBox(m_ui->txtCashAccount, service<BusinessBank>("Bank"));
-    m_memberBox->setNextWidget(m_ui->txtNamaPelanggan);
+    m_memberBox->setNextWidget(m_ui->txtAgent);
     m_agentBox->setNextWidget(m_ui->txtEmployee);
     m_employeeBox->setNextWidget(m_ui->txtDiscPerc);
     m_cashBox->setNextWidget(m_ui->txtPaid);
@@ -57,6 +63,9 @@ void DialogBayarMakanDitempat::setUpFields()
     connect(m_cashBox, &KorTextBoxExtender::onItemSelected, this, &DialogBayarMakanDitempat::onCashAccountSelected);
     connect(m_menu, &TabBayarMakanDitempatDetail::ItemAdded, this, &DialogBayarMakanDitempat::onItemAdded);
 
+    for (QAbstractButton* button : m_ui->buttonBox->buttons())
+        button->setMinimumSize(110, 40);
+    m_ui->buttonBox->button(QDialogButtonBox::Ok)->setToolTip(tr("Save the invoice"));
     for (QDateEdit* date : {m_ui->datePay, m_ui->dateDue}) {
         date->setDisplayFormat(AppContext::instance()->dateFormat());
         date->setDate(QDate::currentDate());
@@ -65,8 +74,8 @@ void DialogBayarMakanDitempat::setUpFields()
         connect(new QShortcut(key, this), &QShortcut::activated, this, action);
     };
     onKey(Qt::Key_F3, &DialogBayarMakanDitempat::onTabItemSelected);
-    onKey(Qt::Key_F9, [this] { m_ui->txtPaid->setFocus(); });
-    onKey(Qt::Key_F10, [this] { m_ui->txtCredit->setFocus(); });
+    onKey(Qt::Key_F9, [this] { m_ui->txtPaid->setFocus(Qt::ShortcutFocusReason); });
+    onKey(Qt::Key_F10, [this] { m_ui->txtCredit->setFocus(Qt::ShortcutFocusReason); });
     onKey(QKeySequence("Ctrl+P"), &DialogBayarMakanDitempat::on_btnPrintBill_clicked);
 }
 
@@ -75,6 +84,7 @@ void DialogBayarMakanDitempat::setUpFields()
 bool DialogBayarMakanDitempat::openOrder(EntityMakanDitempat* order)
 {
     m_order = order;
+    m_sales->clearErrors();
     QList<EntityInvoiceMakanDitempat*> invoices;
     if (order->isSaved()) {
         const EntityPoolScope scope(m_read);
@@ -103,6 +113,7 @@ void DialogBayarMakanDitempat::newInvoice()
 {
     m_ui->datePay->setDate(m_order->getTgl().isValid() ? m_order->getTgl() : QDate::currentDate());
     m_ui->dateDue->setDate(m_ui->datePay->date());
+    m_cascade->clear();
     QList<EntityInvoiceDetail*> lines;
     for (const EntityOrderDetail* ordered : m_order->getDetails()) {
         // Recomputed from price and quantity: the order line's own total may be behind its quantity.
@@ -115,17 +126,30 @@ void DialogBayarMakanDitempat::newInvoice()
     }
     m_menu->setDetails(lines);
     showGuest();
-    applyMemberDiscount(m_order->getMember());
-    if (const EntityBank* cash = service<BusinessBank>("Bank")->cashOnHand()) {
-        m_ui->txtCashAccount->setText(cash->getKode());
-        m_ui->lblCashAccount->setText(cash->getNama());
-    }
+    m_member = m_order->getMember();
+    applyMemberDiscount(m_member);
+    const EntityPoolScope scope(m_read);
+    showAccount(service<BusinessBank>("Bank")->cashOnHand());
+}
+
+void DialogBayarMakanDitempat::showAccount(const EntityBank* account)
+{
+    auto* accounts = service<BusinessBank>("Bank");
+    if (accounts->hasError())
+        showError(accounts->takeErrors());
+    m_ui->lblCashAccount->setText(account ? account->getNama() : QString());
+    if (account)
+        m_ui->txtCashAccount->setText(account->getKode());
 }
 
 void DialogBayarMakanDitempat::setEntity(KorEntity* entity)
 {
     m_sale = static_cast<EntityInvoiceMakanDitempat*>(entity);
     m_order = m_sale->getMakanDitempat();
+    m_member = m_sale->getInvoice()->getMember();
+    m_agent = m_sale->getAgent();
+    m_employee = m_sale->getEmployee();
+    m_account = nullptr;
     showInvoice();
 }
 
@@ -140,8 +164,8 @@ void DialogBayarMakanDitempat::showInvoice()
     m_ui->txtEmployee->setText(m_sale->getEmployee() ? m_sale->getEmployee()->getKode() : QString());
     m_ui->txtNotes->setPlainText(invoice->getNote());
     m_ui->txtCashAccount->setText(invoice->getAcctCode());
-    const EntityBank* cash = service<BusinessBank>("Bank")->findByCode(invoice->getAcctCode());
-    m_ui->lblCashAccount->setText(cash ? cash->getNama() : QString());
+    const EntityPoolScope scope(m_read);
+    showAccount(service<BusinessBank>("Bank")->findByCode(invoice->getAcctCode()));
     m_cascade->readFrom(*invoice);
     m_menu->setDetails(m_sale->getDetails());
     m_order->setMember(invoice->getMember());
@@ -216,67 +240,87 @@ void DialogBayarMakanDitempat::on_txtServicePerc_editingFinished()
 
 void DialogBayarMakanDitempat::on_txtService_editingFinished() { m_cascade->amountEntered(InvoiceTotals::Service); }
 
-void DialogBayarMakanDitempat::onCashAccountSelected()
-{
-    const EntityBank* account = m_cashBox->selectedItem();
-    m_ui->lblCashAccount->setText(account ? account->getNama() : QString());
-    if (account)
-        m_ui->txtCashAccount->setText(account->getKode());
-}
+void DialogBayarMakanDitempat::onCashAccountSelected() { showAccount(m_cashBox->selectedItem()); }
 
 // --- saving --------------------------------------------------------------------------------------------------------
 
 bool DialogBayarMakanDitempat::validate()
 {
-    requireText(m_ui->txtMeja, m_ui->txtMeja->text(), tr("Select a table"));
+    if (!m_order || !m_order->getMeja())
+        addError(m_ui->txtMeja, tr("Select a table"));
     if (m_menu->details().isEmpty())
         addError(m_ui->tabDetail, tr("Add one or more menu"));
-    if (require(m_ui->txtCashAccount, tr("Please select a Cash Accounts")) &&
-        !service<BusinessBank>("Bank")->findByCode(m_ui->txtCashAccount->text()))
-        addError(m_ui->txtCashAccount, tr("Please select a valid Cash Accounts"));
-    resolvePeople();
-    m_cascade->calculateTotal();
-    if (!m_cascade->totals().fits())
-        addError(m_ui->txtPaid, tr("An amount is larger than an invoice can hold. Please check the figures."));
+    lookUpCodes();
+    checkAmounts();
     return !hasError();
 }
 
-bool DialogBayarMakanDitempat::resolvePeople()
+void DialogBayarMakanDitempat::lookUpCodes()
 {
+    const EntityPoolScope scope(m_read);
     // A code typed by hand counts like one that was picked from the list; a wrong one must not vanish silently.
-    const auto known = [this](QLineEdit* field, const KorEntity* found) {
-        if (field->text().isEmpty() || found)
-            return;
-        addError(field, tr("There is no record with the code: %1").arg(field->text()));
+    const auto unknown = [](const QLineEdit* field) {
+        return tr("There is no record with the code: %1").arg(field->text());
     };
-    known(m_ui->txtMember, service<BusinessMember>("Member")->findByCode(m_ui->txtMember->text()));
-    known(m_ui->txtAgent, service<BusinessAgent>("Agent")->findByCode(m_ui->txtAgent->text()));
-    known(m_ui->txtEmployee, service<BusinessEmployee>("Employee")->findByCode(m_ui->txtEmployee->text()));
-    return !hasError();
+    bool answered = true;
+    if (require(m_ui->txtCashAccount, tr("Please select a Cash Accounts")))
+        answered = lookUp(m_ui->txtCashAccount, service<BusinessBank>("Bank"),
+                          tr("Please select a valid Cash Accounts"), &m_account);
+    // The same lost connection need not be told once a field.
+    answered =
+        answered && lookUp(m_ui->txtMember, service<BusinessMember>("Member"), unknown(m_ui->txtMember), &m_member);
+    answered = answered && lookUp(m_ui->txtAgent, service<BusinessAgent>("Agent"), unknown(m_ui->txtAgent), &m_agent);
+    answered = answered && lookUp(m_ui->txtEmployee, service<BusinessEmployee>("Employee"), unknown(m_ui->txtEmployee),
+                                  &m_employee);
+}
+
+template <class Service, class Entity>
+bool DialogBayarMakanDitempat::lookUp(QLineEdit* field, Service* records, const QString& unknown, Entity** found)
+{
+    const QString code = field->text();
+    records->clearErrors();
+    *found = code.isEmpty() ? nullptr : records->findByCode(code);
+    if (records->hasError()) {
+        addError(field, records->takeErrors().trimmed());
+        return false;
+    }
+    if (!code.isEmpty() && !*found)
+        addError(field, unknown);
+    return true;
+}
+
+void DialogBayarMakanDitempat::checkAmounts()
+{
+    const QString tooLarge = tr("An amount is larger than an invoice can hold. Please check the figures.");
+    for (const EntityInvoiceDetail* line : m_menu->details()) {
+        if (!line->totalFits()) {
+            addError(m_ui->tabDetail, tooLarge);
+            return;
+        }
+    }
+    m_cascade->calculateTotal();
+    if (!m_cascade->totals().fits())
+        addError(m_ui->txtPaid, tooLarge);
 }
 
 KorEntity* DialogBayarMakanDitempat::getEntity()
 {
     if (!m_sale)
         m_sale = new EntityInvoiceMakanDitempat(this);
-    Invoice* invoice = m_sale->getInvoice();
-    const auto byCode = [](const QLineEdit* field, auto* people) {
-        return field->text().isEmpty() ? nullptr : people->findByCode(field->text());
-    };
-    EntityMember* member = byCode(m_ui->txtMember, service<BusinessMember>("Member"));
-    m_order->setMember(member);
+    m_order->setMember(m_member);
     m_sale->setMakanDitempat(m_order);
-    m_sale->setAgent(byCode(m_ui->txtAgent, service<BusinessAgent>("Agent")));
-    m_sale->setEmployee(byCode(m_ui->txtEmployee, service<BusinessEmployee>("Employee")));
+    m_sale->setAgent(m_agent);
+    m_sale->setEmployee(m_employee);
     m_sale->setDueDate(m_ui->dateDue->date());
     m_sale->setDetails(m_menu->details());
+    Invoice* invoice = m_sale->getInvoice();
     invoice->setInvoiceDate(m_ui->datePay->date());
-    invoice->setMember(member);
+    invoice->setMember(m_member);
+    // An order's guest may have a longer name than an invoice has room for.
     invoice->setPemesan(m_order->getPemesan().left(50));
     invoice->setNote(m_ui->txtNotes->toPlainText());
-    invoice->setAgent(m_sale->getAgent());
-    const EntityBank* account = byCode(m_ui->txtCashAccount, service<BusinessBank>("Bank"));
-    invoice->setAcctCode(account ? account->getKode() : m_ui->txtCashAccount->text());
+    invoice->setAgent(m_agent);
+    invoice->setAcctCode(m_account ? m_account->getKode() : m_ui->txtCashAccount->text());
     m_cascade->writeTo(invoice);
     return m_sale;
 }
@@ -291,20 +335,33 @@ bool DialogBayarMakanDitempat::beforeAccept()
 void DialogBayarMakanDitempat::saveInvoice()
 {
     getEntity();
+    m_sales->clearErrors();
     const bool saved = m_sale->isSaved() ? m_sales->updateInvoice(m_sale) : m_sales->insertInvoice(m_sale);
-    if (!saved) {
+    if (m_sales->hasError())
         showServiceError();
+    if (!saved)
         return;
-    }
     m_ui->txtKode->setText(m_sale->getInvoice()->getInvoiceNo());
-    if (!readAgain())
+    if (!readOrderAgain())
         return;
     offerToPrint();
     offerToFinish();
-    readAgain();
+    readInvoiceAgain();
 }
 
-bool DialogBayarMakanDitempat::readAgain()
+bool DialogBayarMakanDitempat::readOrderAgain()
+{
+    const EntityPoolScope scope(m_read);
+    EntityMakanDitempat* order = m_sales->findOrder(m_order->getId());
+    if (!order) {
+        showMissing(m_order->getId());
+        return false;
+    }
+    m_order = order;
+    return true;
+}
+
+void DialogBayarMakanDitempat::readInvoiceAgain()
 {
     EntityPool fresh;
     KorEntity* sale = nullptr;
@@ -313,13 +370,19 @@ bool DialogBayarMakanDitempat::readAgain()
         sale = m_sales->findInvoiceMakanDitempat(m_sale->getId());
     }
     if (!sale) {
-        if (m_sales->hasError())
-            showServiceError();
-        return false;
+        showMissing(m_sale->getId());
+        return;
     }
     setEntity(sale);
     m_read.swap(fresh);
-    return true;
+    // The box in hand shows the stored figure now; what is typed next replaces it.
+    if (auto* box = qobject_cast<QLineEdit*>(focusWidget()))
+        box->selectAll();
+}
+
+void DialogBayarMakanDitempat::showMissing(int id)
+{
+    showError(m_sales->hasError() ? m_sales->takeErrors() : tr("Can not find entity with id: %1").arg(id));
 }
 
 void DialogBayarMakanDitempat::offerToPrint()
@@ -352,6 +415,8 @@ void DialogBayarMakanDitempat::printBill()
 
 void DialogBayarMakanDitempat::on_btnPrintBill_clicked()
 {
+    // By its key the button is pressed while a box is still being typed in.
+    m_ui->btnPrintBill->setFocus();
     m_print = true;
     accept();
 }

@@ -10,6 +10,9 @@ class AgentTextBox;
 class BankTextBox;
 class BusinessPenjualan;
 class EmployeeTextBox;
+class EntityAgent;
+class EntityBank;
+class EntityEmployee;
 class EntityInvoiceDetail;
 class EntityInvoiceMakanDitempat;
 class EntityMakanDitempat;
@@ -37,7 +40,8 @@ public:
 
     /**
      * Opens the order's invoice, the one that the cashier chooses among several, or a new one. False means that the
-     * action is to be dropped: the cashier cancelled, or the invoices could not be read. The order is borrowed.
+     * action is to be dropped: the cashier cancelled, or the invoices could not be read. The order is borrowed;
+     * what the form puts into it dies with the form.
      */
     [[nodiscard]] bool openOrder(EntityMakanDitempat* order);
 
@@ -77,9 +81,16 @@ private:
     void newInvoice();
     void showInvoice();
     void showGuest();
+    void showAccount(const EntityBank* account);
     void applyMemberDiscount(const EntityMember* member);
-    bool resolvePeople();
-    bool readAgain();
+    void checkAmounts();
+    void lookUpCodes();
+    /** False when the records could not be asked; an empty field stands for nobody. */
+    template <class Service, class Entity>
+    bool lookUp(QLineEdit* field, Service* records, const QString& unknown, Entity** found);
+    bool readOrderAgain();
+    void readInvoiceAgain();
+    void showMissing(int id);
     void saveInvoice();
     void offerToPrint();
     void offerToFinish();
@@ -100,5 +111,10 @@ private:
     EntityPool m_read;
     EntityMakanDitempat* m_order = nullptr;
     EntityInvoiceMakanDitempat* m_sale = nullptr;
+    // Who and what the codes in the boxes stand for, as the last validation found them.
+    EntityMember* m_member = nullptr;
+    EntityAgent* m_agent = nullptr;
+    EntityEmployee* m_employee = nullptr;
+    EntityBank* m_account = nullptr;
     bool m_print = false;
 };

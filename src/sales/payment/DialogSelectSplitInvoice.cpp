@@ -3,6 +3,7 @@
 #include "sales/payment/TabSelectSplitInvoice.h"
 
 #include <QDialogButtonBox>
+#include <QPushButton>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -10,10 +11,12 @@ DialogSelectSplitInvoice::DialogSelectSplitInvoice(const QList<EntityInvoiceMaka
     : QDialog(parent), m_invoices(new TabSelectSplitInvoice(invoices))
 {
     setWindowTitle(tr("Select an Invoice"));
-    resize(820, 320);
+    resize(960, 380);
     auto* tabs = new QTabWidget(this);
     tabs->addTab(m_invoices, tr("Invoices"));
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    for (QAbstractButton* button : buttons->buttons())
+        button->setMinimumSize(110, 40);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(tabs);
     layout->addWidget(buttons);

@@ -5,9 +5,24 @@
 
 #include <QLabel>
 
+namespace
+{
+constexpr QRgb missing = 0xffb42318;
+constexpr QRgb covered = 0xff1e7a34;
+} // namespace
+
 PaymentCascade::PaymentCascade(const Boxes& boxes, QObject* parent) : QObject(parent), m_boxes(boxes)
 {
     m_totals.setCurrency(boxes.subtotal->currency());
+}
+
+void PaymentCascade::clear()
+{
+    for (AppNumberEdit* box : m_boxes.percents)
+        box->setValue(0);
+    for (MoneyEdit* box :
+         {m_boxes.subtotal, m_boxes.amounts[0], m_boxes.amounts[1], m_boxes.amounts[2], m_boxes.paid, m_boxes.credit})
+        box->setValue(0);
 }
 
 void PaymentCascade::setSubtotal(double amount)
@@ -45,6 +60,9 @@ void PaymentCascade::calculateTotal()
         box->setValue(m_totals.grandTotal());
     m_boxes.netDue->setValue(m_totals.change());
     m_boxes.netDueLabel->setText(m_totals.isShort() ? tr("Less :") : tr("Change :"));
+    QPalette palette = m_boxes.netDue->palette();
+    palette.setColor(QPalette::Text, m_totals.isShort() ? QColor(missing) : QColor(covered));
+    m_boxes.netDue->setPalette(palette);
 }
 
 void PaymentCascade::showPart(InvoiceTotals::Part part)
@@ -70,7 +88,5 @@ void PaymentCascade::readFrom(const Invoice& invoice)
 void PaymentCascade::writeTo(Invoice* invoice)
 {
     calculateTotal();
-    for (const InvoiceTotals::Part part : {InvoiceTotals::Discount, InvoiceTotals::Tax, InvoiceTotals::Service})
-        m_totals.restore(part, m_boxes.percents[part]->value(), m_boxes.amounts[part]->value());
     m_totals.writeTo(invoice);
 }

@@ -32,6 +32,8 @@ public:
 
     PaymentCascade(const Boxes& boxes, QObject* parent);
 
+    /** All boxes at zero, for a new invoice. */
+    void clear();
     /** The lines have changed; amounts are not derived from their percents again. */
     void setSubtotal(double amount);
     /** A discount that the amount follows only when the user leaves the percent's box. */

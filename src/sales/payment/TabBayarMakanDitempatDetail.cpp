@@ -4,6 +4,7 @@
 #include "sales/invoice/EntityInvoiceDetail.h"
 #include "sales/payment/TableModelBayarMakanDitempatDetail.h"
 
+#include <QHeaderView>
 #include <QLabel>
 #include <QTableView>
 #include <QVBoxLayout>
@@ -13,6 +14,7 @@ TabBayarMakanDitempatDetail::TabBayarMakanDitempatDetail(QWidget* parent)
 {
     m_grid->setObjectName("tblDetail");
     m_count->setObjectName("lblCount");
+    m_grid->horizontalHeader()->setHighlightSections(false);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(8, 8, 8, 4);
     layout->setSpacing(4);

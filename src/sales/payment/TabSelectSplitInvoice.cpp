@@ -4,6 +4,7 @@
 #include "sales/payment/EntityInvoiceMakanDitempat.h"
 #include "sales/payment/TableModelSelectSplitInvoice.h"
 
+#include <QHeaderView>
 #include <QTableView>
 #include <QVBoxLayout>
 
@@ -17,6 +18,8 @@ TabSelectSplitInvoice::TabSelectSplitInvoice(const QList<EntityInvoiceMakanDitem
     layout->setContentsMargins(8, 8, 8, 8);
     layout->addWidget(m_grid);
     applyModel(m_grid, m_model);
+    m_grid->verticalHeader()->setDefaultSectionSize(40);
+    m_grid->horizontalHeader()->setHighlightSections(false);
     m_grid->selectRow(0);
     connect(m_grid, &QTableView::activated, this, &TabSelectSplitInvoice::chosen);
     setFocusProxy(m_grid);

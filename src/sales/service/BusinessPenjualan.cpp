@@ -1,5 +1,6 @@
 #include "sales/service/BusinessPenjualan.h"
 
+#include "app/context/EntityPool.h"
 #include "sales/fastfood/EntityInvoiceFastFood.h"
 #include "sales/invoice/IInvoice.h"
 #include "sales/invoice/Invoice.h"
@@ -80,15 +81,17 @@ bool BusinessPenjualan::updateStatusMakanDitempat(EntityMakanDitempat* order)
     return written(m_mappers.dineOrders->updateStatus(order), m_mappers.dineOrders, "updateStatusMakanDitempat");
 }
 
-bool BusinessPenjualan::setDineStatus(EntityMakanDitempat* order, int status)
+void BusinessPenjualan::setDineStatus(EntityMakanDitempat* order, int status)
 {
     order->setStatus(status);
-    return updateStatusMakanDitempat(order);
+    updateStatusMakanDitempat(order);
 }
 
 bool BusinessPenjualan::makanDitempatSelesai(EntityMakanDitempat* order)
 {
     // Read again: the row's version has moved on with every save since the order was opened.
+    EntityPool pool;
+    const EntityPoolScope scope(pool);
     auto* fresh = static_cast<EntityMakanDitempat*>(m_mappers.dineOrders->findById(order->getId()));
     if (!fresh) {
         addError("makanDitempatSelesai", m_mappers.dineOrders->hasError()
@@ -129,16 +132,20 @@ bool BusinessPenjualan::insertInvoice(IInvoice* sale)
         return false;
     // What follows stands outside the invoice's transaction: the sale is kept even if the order's status is not.
     if (const auto* dine = dynamic_cast<EntityInvoiceMakanDitempat*>(sale))
-        return followInvoices(dine->getMakanDitempat());
+        followInvoices(dine->getMakanDitempat());
     return true;
 }
 
-bool BusinessPenjualan::followInvoices(EntityMakanDitempat* order)
+void BusinessPenjualan::followInvoices(EntityMakanDitempat* order)
 {
-    const QList<EntityInvoiceMakanDitempat*> all =
-        read(m_mappers.dineInvoices->findMoneyOfOrder(order->getId()), m_mappers.dineInvoices, "insertInvoice");
-    if (hasError())
-        return false;
+    EntityPool sums;
+    const EntityPoolScope scope(sums);
+    m_mappers.dineInvoices->clearError();
+    const QList<EntityInvoiceMakanDitempat*> all = m_mappers.dineInvoices->findMoneyOfOrder(order->getId());
+    if (m_mappers.dineInvoices->hasError()) {
+        addError("insertInvoice", m_mappers.dineInvoices->takeError());
+        return;
+    }
     qint64 paid = 0;
     qint64 grandTotal = 0;
     for (const EntityInvoiceMakanDitempat* one : all) {
@@ -146,7 +153,7 @@ bool BusinessPenjualan::followInvoices(EntityMakanDitempat* order)
         paid += qint64(invoice->getAmountPaid()->rawAmount()) + invoice->getOtherPayment()->rawAmount();
         grandTotal += invoice->getGrandTotal()->rawAmount();
     }
-    return setDineStatus(order, orderStatusOfMoney(paid, grandTotal));
+    setDineStatus(order, orderStatusOfMoney(paid, grandTotal));
 }
 
 bool BusinessPenjualan::updateInvoice(IInvoice* sale)
@@ -161,7 +168,7 @@ bool BusinessPenjualan::updateInvoice(IInvoice* sale)
         return false;
     // From this invoice alone, unlike the first save: other invoices of a split order are not asked here.
     if (const auto* dine = dynamic_cast<EntityInvoiceMakanDitempat*>(sale))
-        return setDineStatus(dine->getMakanDitempat(), orderStatusOfInvoice(*sale->getInvoice()));
+        setDineStatus(dine->getMakanDitempat(), orderStatusOfInvoice(*sale->getInvoice()));
     return true;
 }
 

@@ -70,7 +70,8 @@ public:
     /** The guests have gone: the table is free again. */
     bool makanDitempatSelesai(EntityMakanDitempat* order);
 
-    // Invoices of all ways of selling.
+    // Invoices of all ways of selling. True when the invoice stands; what failed behind it, the order's status, is an
+    // error all the same.
     /** Saves the first state of an invoice, draws its number, then sets the order's status from all its invoices. */
     bool insertInvoice(IInvoice* sale);
     /** Saves a changed invoice; the order's status then follows from this one invoice alone. */
@@ -83,8 +84,8 @@ public:
 
 private:
     [[nodiscard]] DataMapperInvoiceLink* mapperOf(IInvoice* sale) const;
-    bool followInvoices(EntityMakanDitempat* order);
-    bool setDineStatus(EntityMakanDitempat* order, int status);
+    void followInvoices(EntityMakanDitempat* order);
+    void setDineStatus(EntityMakanDitempat* order, int status);
 
     Mappers m_mappers;
 };
