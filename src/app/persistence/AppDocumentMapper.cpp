@@ -30,6 +30,14 @@ bool AppDocumentMapper::fail(const QString& message, const QString& collected)
     return false;
 }
 
+bool AppDocumentMapper::commit(KorTransaction& transaction, QString* reason)
+{
+    if (transaction.commit())
+        return true;
+    *reason = KorDatabase::current().lastError().text();
+    return false;
+}
+
 bool AppDocumentMapper::insert(KorEntity* document)
 {
     const QList<KorEntity*> lines = linesOf(document);
@@ -50,13 +58,9 @@ bool AppDocumentMapper::insert(KorEntity* document)
         if (!mapperOf(line)->insert(line))
             collected += " \r\n " + mapperOf(line)->takeError();
     }
-    if (collected.isEmpty()) {
-        if (transaction.commit())
-            return true;
-        collected = KorDatabase::current().lastError().text();
-    } else {
-        transaction.rollback();
-    }
+    if (collected.isEmpty() && commit(transaction, &collected))
+        return true;
+    transaction.rollback();
     ids.restore();
     fail(messages().insertLines, collected);
     return resultOfFailedLines();
@@ -88,13 +92,9 @@ bool AppDocumentMapper::update(KorEntity* document)
         if (line->isSaved() && !mapperOf(line)->remove(line))
             collected += " \r\n " + mapperOf(line)->takeError();
     }
-    if (collected.isEmpty()) {
-        if (transaction.commit())
-            return true;
-        collected = KorDatabase::current().lastError().text();
-    } else {
-        transaction.rollback();
-    }
+    if (collected.isEmpty() && commit(transaction, &collected))
+        return true;
+    transaction.rollback();
     ids.restore();
     fail(messages().updateLines, collected);
     return resultOfFailedLines();
@@ -119,5 +119,6 @@ bool AppDocumentMapper::removeWithLines(KorEntity* document, const QList<KorEnti
         transaction.rollback();
         return fail(messages().removeHeader, " \r\n " + reason);
     }
-    return transaction.commit();
+    QString reason;
+    return commit(transaction, &reason) || fail(messages().removeHeader, " \r\n " + reason);
 }

@@ -2,6 +2,8 @@
 
 #include "app/persistence/AppDataMapper.h"
 
+class KorTransaction;
+
 /**
  * Mapper of a record with lines: both are written in one transaction, and a line that fails takes all of it back.
  * After a rollback the records in memory have the ids that they had before, so that the form can be saved again.
@@ -49,4 +51,8 @@ protected:
     void noteTransaction(bool open);
     /** Sets the family's message with the collected texts of the lines behind it, and logs it. */
     bool fail(const QString& message, const QString& collected = QString());
+
+private:
+    /** Failing, it gives the database's words. */
+    static bool commit(KorTransaction& transaction, QString* reason);
 };
