@@ -42,17 +42,20 @@ bool DataMapperInvoiceLink::fail(const QString& message, const QString& reasons)
 
 // --- writing -------------------------------------------------------------------------------------------------------
 
-bool DataMapperInvoiceLink::insertLines(IInvoice* sale, QString* collected)
+bool DataMapperInvoiceLink::insertLines(IInvoice* sale, QString* reason)
 {
     const QList<EntityInvoiceDetail*> lines = sale->getDetails();
     for (EntityInvoiceDetail* line : lines) {
         line->setInvoiceId(sale->getInvoice()->getId());
         const Money nothing(nullptr, 0, line->getTotal() ? line->getTotal()->getCurrency() : QString());
         line->setDiscount(nothing.copy(line));
-        if (!detailMapper()->insert(line))
-            *collected += " \r\n " + detailMapper()->takeError();
+        if (detailMapper()->insert(line))
+            continue;
+        // The transaction is lost with this line; what the database says of the others would only hide why.
+        *reason = " \r\n " + detailMapper()->takeError();
+        return false;
     }
-    return collected->isEmpty();
+    return true;
 }
 
 bool DataMapperInvoiceLink::insert(KorEntity* link)

@@ -47,7 +47,7 @@ protected:
     [[nodiscard]] DataMapperInvoice* invoices() const { return m_invoices; }
 
 private:
-    bool insertLines(IInvoice* sale, QString* collected);
+    bool insertLines(IInvoice* sale, QString* reason);
     bool load(const QList<KorEntity*>& links);
     bool fail(const QString& message, const QString& reasons);
     static IInvoice* saleOf(KorEntity* link);
