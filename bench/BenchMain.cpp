@@ -6,7 +6,9 @@
 
 namespace
 {
-constexpr int turns = 15;
+const int turns = qEnvironmentVariableIntValue("ZAVEL_BENCH_TURNS") > 0
+                      ? qEnvironmentVariableIntValue("ZAVEL_BENCH_TURNS")
+                      : 15;
 
 void time(benchmark::State& state, const Contest& contest, const std::function<void()>& work)
 {

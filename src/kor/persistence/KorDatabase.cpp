@@ -1,5 +1,7 @@
 #include "kor/persistence/KorDatabase.h"
 
+#include "kor/persistence/KorStatementCache.h"
+
 #include <QCoreApplication>
 #include <QThread>
 #include <QThreadStorage>
@@ -12,6 +14,16 @@ namespace
 thread_local int openTransactions = 0;
 
 QString defaultName() { return QString::fromLatin1(QSqlDatabase::defaultConnection); }
+
+/** The connection, opened anew when it was lost and no transaction went with it. */
+QSqlDatabase opened(const QString& name)
+{
+    const QSqlDatabase database = QSqlDatabase::database(name, false);
+    if (database.isOpen() || openTransactions > 0)
+        return database;
+    KorStatementCache::ofThread().connectionLost();
+    return QSqlDatabase::database(name, true);
+}
 
 /** The clone that a worker thread speaks through; it goes with the thread. */
 class WorkerConnection
@@ -28,7 +40,7 @@ public:
     }
     Q_DISABLE_COPY(WorkerConnection)
 
-    [[nodiscard]] QSqlDatabase database() const { return QSqlDatabase::database(m_name, openTransactions == 0); }
+    [[nodiscard]] QSqlDatabase database() const { return opened(m_name); }
 
 private:
     QString m_name;
@@ -45,7 +57,7 @@ bool KorDatabase::isApplicationThread()
 QSqlDatabase KorDatabase::current()
 {
     if (isApplicationThread())
-        return QSqlDatabase::database(defaultName(), openTransactions == 0);
+        return opened(defaultName());
     if (!workerConnections.hasLocalData())
         workerConnections.setLocalData(new WorkerConnection);
     return workerConnections.localData()->database();

@@ -1,45 +1,113 @@
 #include "kor/persistence/KorQuery.h"
 
-#include "kor/entity/KorMetaDataMap.h"
-#include "kor/persistence/KorDataMapper.h"
 #include "kor/persistence/KorDatabase.h"
+#include "kor/persistence/KorStatementCache.h"
 
 #include <QSqlError>
-#include <QSqlRecord>
 
 #include <atomic>
 
 namespace
 {
 std::atomic<quint64> sentStatements{0};
-}
 
-KorQuery::KorQuery(const KorDataMapper* selector) : QSqlQuery(KorDatabase::current()), m_selector(selector)
+// SQLSTATEs with which the server turns away a prepared statement before it has done anything.
+constexpr char planOutdated[] = "0A000";
+constexpr char statementUnknown[] = "26000";
+
+bool changesSchema(const QString& statement)
 {
-    setForwardOnly(true);
+    for (const char* word : {"create", "alter", "drop"}) {
+        if (statement.startsWith(QLatin1String(word), Qt::CaseInsensitive))
+            return true;
+    }
+    return false;
+}
+} // namespace
+
+KorQuery::KorQuery(const KorDataMapper* selector) : QSqlQuery(KorDatabase::current()), m_selector(selector) {}
+
+KorQuery::~KorQuery() { letGo(); }
+
+void KorQuery::letGo()
+{
+    if (!m_statement)
+        return;
+    finish();
+    KorStatementCache::ofThread().giveBack(std::move(m_statement));
 }
 
 bool KorQuery::prepare(const QString& statement)
 {
-    forgetFields();
+    letGo();
     m_prepareError.clear();
-    const bool prepared = QSqlQuery::prepare(statement);
-    if (!prepared)
+    m_statement = KorStatementCache::ofThread().take(statement, driver());
+    m_reused = m_statement != nullptr;
+    if (m_reused) {
+        QSqlQuery::operator=(m_statement->query);
+        // A placeholder that nobody binds is NULL, not what it was the last time.
+        const QStringList placeholders = boundValues().keys();
+        for (const QString& placeholder : placeholders)
+            bindValue(placeholder, QVariant());
+        return true;
+    }
+    if (!QSqlQuery::prepare(statement)) {
         m_prepareError = lastError().text();
-    return prepared;
+        return false;
+    }
+    m_statement = std::make_unique<KorStatement>();
+    m_statement->text = statement;
+    m_statement->query = *this;
+    KorStatementCache::ofThread().sign(*m_statement);
+    return true;
 }
 
 bool KorQuery::exec()
 {
     ++sentStatements;
-    return m_prepareError.isEmpty() && QSqlQuery::exec();
+    if (!m_prepareError.isEmpty())
+        return false;
+    return QSqlQuery::exec() || (m_reused && prepareAgain());
+}
+
+bool KorQuery::prepareAgain()
+{
+    const QSqlError first = lastError();
+    const QString state = first.nativeErrorCode();
+    if (state != QLatin1String(planOutdated) && state != QLatin1String(statementUnknown))
+        return false;
+    const QMap<QString, QVariant> values = boundValues();
+    QVector<QVariant> positional;
+    for (int i = 0; i < values.size(); ++i)
+        positional.append(boundValue(i));
+    const QString text = m_statement->text;
+    KorStatementCache::ofThread().abandon(std::move(m_statement));
+    if (prepare(text)) {
+        // Question marks have names as well once they are bound, but the text does not hold them.
+        if (!values.isEmpty() && text.contains(values.firstKey())) {
+            for (auto value = values.begin(); value != values.end(); ++value)
+                bindValue(value.key(), value.value());
+        } else {
+            for (int i = 0; i < positional.size(); ++i)
+                bindValue(i, positional.at(i));
+        }
+        ++sentStatements;
+        if (QSqlQuery::exec())
+            return true;
+    }
+    // Inside a transaction the second try only says that the transaction has failed.
+    m_prepareError = first.text();
+    return false;
 }
 
 bool KorQuery::exec(const QString& statement)
 {
-    forgetFields();
+    letGo();
+    m_layout.clear();
     m_prepareError.clear();
     ++sentStatements;
+    if (changesSchema(statement))
+        KorStatementCache::schemaChanged();
     if (!QSqlQuery::exec(statement))
         return false;
     // The driver reports the first result only; a later statement of the text may have failed all the same.
@@ -53,54 +121,19 @@ bool KorQuery::exec(const QString& statement)
 
 QString KorQuery::failure() const { return m_prepareError.isEmpty() ? lastError().text() : m_prepareError; }
 
+KorResultLayout& KorQuery::layout() { return m_statement ? m_statement->layout : m_layout; }
+
 QVariant KorQuery::field(const QString& name)
 {
-    const int index = fieldIndex(name);
+    const int index = layout().fieldIndex(*this, name);
     return index < 0 ? QVariant() : value(index);
 }
 
-bool KorQuery::hasField(const QString& name) { return fieldIndex(name) >= 0; }
+bool KorQuery::hasField(const QString& name) { return layout().fieldIndex(*this, name) >= 0; }
 
 const KorRowPlan& KorQuery::plan(const KorDataMapper& mapper, const QString& alias)
 {
-    const auto key = std::make_pair(&mapper, alias);
-    const auto known = m_plans.find(key);
-    if (known != m_plans.end())
-        return known->second;
-
-    const auto index = [this, &alias](const QString& column) {
-        return fieldIndex(KorDataMapper::aliasOf(alias, column));
-    };
-    KorRowPlan plan;
-    plan.id = index("id");
-    plan.createdBy = index("createdBy");
-    plan.createdTime = index("createdTime");
-    plan.updatedBy = index("updatedBy");
-    plan.updatedTime = index("updatedTime");
-    plan.version = index("version");
-    for (const KorColumnMap* column : mapper.metaData()->columns())
-        plan.columns.append(index(column->columnName()));
-    return m_plans.emplace(key, plan).first->second;
-}
-
-int KorQuery::fieldIndex(const QString& name)
-{
-    if (m_fields.isEmpty()) {
-        const QSqlRecord fields = record();
-        for (int i = 0; i < fields.count(); ++i) {
-            // The first of two columns of one name is the one that a look-up by name finds.
-            const QString field = fields.fieldName(i).toLower();
-            if (!m_fields.contains(field))
-                m_fields.insert(field, i);
-        }
-    }
-    return m_fields.value(name.toLower(), -1);
-}
-
-void KorQuery::forgetFields()
-{
-    m_fields.clear();
-    m_plans.clear();
+    return layout().plan(*this, mapper, alias);
 }
 
 QString KorQuery::textWithValues(const QSqlQuery& query)

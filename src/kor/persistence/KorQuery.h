@@ -1,34 +1,27 @@
 #pragma once
 
-#include <QHash>
-#include <QSqlQuery>
-#include <QVector>
+#include "kor/persistence/KorResultLayout.h"
 
-#include <map>
+#include <QSqlQuery>
+#include <QVariant>
+
+#include <memory>
 
 class KorDataMapper;
-
-/** Where in a result row a mapper finds its base columns and, in their order, its own; -1 where a column is absent. */
-struct KorRowPlan
-{
-    int id = -1;
-    int createdBy = -1;
-    int createdTime = -1;
-    int updatedBy = -1;
-    int updatedTime = -1;
-    int version = -1;
-    QVector<int> columns;
-};
+struct KorStatement;
 
 /**
  * The one door through which statements reach the database: it runs on the current thread's connection, counts,
- * remembers a failed prepare, and resolves column names to positions once a result instead of once a row.
+ * remembers a failed prepare, uses a statement that the server knows already instead of preparing it again, and
+ * resolves column names to positions once a statement instead of once a row.
  */
 class KorQuery : public QSqlQuery
 {
 public:
     /** The selector is the mapper that composes the SELECT: it alone reads its joins from the rows. */
     explicit KorQuery(const KorDataMapper* selector = nullptr);
+    ~KorQuery();
+    Q_DISABLE_COPY(KorQuery)
 
     bool prepare(const QString& statement);
     bool exec();
@@ -50,11 +43,15 @@ public:
     [[nodiscard]] static quint64 statementCount();
 
 private:
-    int fieldIndex(const QString& name);
-    void forgetFields();
+    [[nodiscard]] KorResultLayout& layout();
+    void letGo();
+    bool prepareAgain();
 
     const KorDataMapper* m_selector;
     QString m_prepareError;
-    QHash<QString, int> m_fields;
-    std::map<std::pair<const KorDataMapper*, QString>, KorRowPlan> m_plans;
+    // The prepared statement in use; it shares its query with this one.
+    std::unique_ptr<KorStatement> m_statement;
+    bool m_reused = false;
+    // For texts that are run at once.
+    KorResultLayout m_layout;
 };

@@ -1,0 +1,50 @@
+#include "kor/persistence/KorResultLayout.h"
+
+#include "kor/entity/KorMetaDataMap.h"
+#include "kor/persistence/KorDataMapper.h"
+
+#include <QSqlField>
+#include <QSqlQuery>
+#include <QSqlRecord>
+
+int KorResultLayout::fieldIndex(const QSqlQuery& query, const QString& name)
+{
+    if (m_fields.isEmpty()) {
+        const QSqlRecord fields = query.record();
+        for (int i = 0; i < fields.count(); ++i) {
+            // The first of two columns of one name is the one that a look-up by name finds.
+            const QString field = fields.fieldName(i).toLower();
+            if (!m_fields.contains(field))
+                m_fields.insert(field, i);
+        }
+    }
+    return m_fields.value(name.toLower(), -1);
+}
+
+const KorRowPlan& KorResultLayout::plan(const QSqlQuery& query, const KorDataMapper& mapper, const QString& alias)
+{
+    for (const KnownPlan& known : m_plans) {
+        if (known.mapper == &mapper && known.alias == alias)
+            return known.plan;
+    }
+    const auto index = [this, &query, &alias](const QString& column) {
+        return fieldIndex(query, KorDataMapper::aliasOf(alias, column));
+    };
+    KorRowPlan plan;
+    plan.id = index("id");
+    plan.createdBy = index("createdBy");
+    plan.createdTime = index("createdTime");
+    plan.updatedBy = index("updatedBy");
+    plan.updatedTime = index("updatedTime");
+    plan.version = index("version");
+    for (const KorColumnMap* column : mapper.metaData()->columns())
+        plan.columns.append(index(column->columnName()));
+    m_plans.push_back({&mapper, alias, plan});
+    return m_plans.back().plan;
+}
+
+void KorResultLayout::clear()
+{
+    m_fields.clear();
+    m_plans.clear();
+}

@@ -1,0 +1,166 @@
+#include "kor/persistence/KorDatabase.h"
+#include "kor/persistence/KorQuery.h"
+#include "masterdata/meja/DataMapperMeja.h"
+#include "masterdata/meja/EntityMeja.h"
+#include "registry/zavel/ZavelMapperRegistry.h"
+#include "support/TestDatabase.h"
+
+#include <QTest>
+#include <QThread>
+
+namespace
+{
+const char* const byCode = "select kode, nama from meja where kode = :kode";
+const char* const widen = "ALTER TABLE meja ALTER COLUMN kode TYPE varchar(%1)";
+} // namespace
+
+/** Statements stay prepared on the server between uses, and nobody may notice. */
+class TestPreparedStatements : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_database = std::make_unique<TestDatabase>();
+        m_database->run("DELETE FROM meja");
+        m_database->run("INSERT INTO meja (kode, nama, version) VALUES ('a', 'Window', 1), ('b', 'Door', 1)");
+        m_tables = ZavelMapperRegistry::instance()->mejaMapper();
+        loginAsAdmin();
+    }
+    void cleanup() { m_database.reset(); }
+
+    void aTableReadTenTimesIsPreparedOnce()
+    {
+        QCOMPARE(nameOf("a"), QString("Window"));
+        const int known = preparedStatements();
+        for (int i = 0; i < 10; ++i)
+            QCOMPARE(nameOf("a"), QString("Window"));
+        QCOMPARE(preparedStatements(), known);
+    }
+
+    void twoReadsOfOneStatementDoNotMixTheirTables()
+    {
+        QCOMPARE(nameOf("a"), QString("Window"));
+        KorQuery first;
+        KorQuery second;
+        first.prepare(byCode);
+        first.bindValue(":kode", "a");
+        QVERIFY(first.exec());
+        second.prepare(byCode);
+        second.bindValue(":kode", "b");
+        QVERIFY(second.exec());
+        QVERIFY(first.next());
+        QVERIFY(second.next());
+        QCOMPARE(first.field("nama").toString(), QString("Window"));
+        QCOMPARE(second.field("nama").toString(), QString("Door"));
+    }
+
+    void aCodeThatNobodyBoundIsNotTheOneOfTheLastRead()
+    {
+        for (int round = 0; round < 2; ++round) {
+            KorQuery bound;
+            bound.prepare(byCode);
+            bound.bindValue(":kode", "a");
+            QVERIFY(bound.exec() && bound.next());
+        }
+        KorQuery unbound;
+        unbound.prepare(byCode);
+        QVERIFY(unbound.exec());
+        QVERIFY(!unbound.next());
+    }
+
+    void aTableIsReadAndWrittenAfterItsColumnsHaveChanged_data()
+    {
+        QTest::addColumn<bool>("byOther");
+        QTest::newRow("by this program") << false;
+        QTest::newRow("by another workstation") << true;
+    }
+    void aTableIsReadAndWrittenAfterItsColumnsHaveChanged()
+    {
+        QFETCH(bool, byOther);
+        for (int width : {30, 40}) {
+            auto* table = static_cast<EntityMeja*>(m_tables->findByCode("a"));
+            QVERIFY2(table, qPrintable(m_tables->takeError()));
+            QVERIFY2(m_tables->update(table), qPrintable(m_tables->takeError()));
+            const QString change = QString(widen).arg(width);
+            if (byOther)
+                m_database->run(change);
+            else
+                QVERIFY(KorQuery().exec(change));
+        }
+        QCOMPARE(nameOf("a"), QString("Window"));
+        QVERIFY(!m_tables->hasError());
+    }
+
+    void aChangeByAnotherWorkstationDuringASaveFailsThatSaveOnly()
+    {
+        QCOMPARE(nameOf("a"), QString("Window"));
+        m_database->run(QString(widen).arg(30));
+        {
+            const KorTransaction transaction;
+            QVERIFY(!m_tables->findByCode("a"));
+            QVERIFY(m_tables->takeError().contains("cached plan"));
+        }
+        QCOMPARE(nameOf("a"), QString("Window"));
+    }
+
+    void aLostConnectionLosesItsStatementsAndNothingElse()
+    {
+        QCOMPARE(nameOf("a"), QString("Window"));
+        {
+            KorQuery open;
+            open.prepare(byCode);
+            open.bindValue(":kode", "a");
+            QVERIFY(open.exec());
+            m_database->killConnections();
+            QCOMPARE(nameOf("a"), QString());
+            QVERIFY(!m_tables->takeError().isEmpty());
+            KorTransaction transaction;
+            QVERIFY(transaction.isOpen());
+            QCOMPARE(nameOf("b"), QString("Door"));
+            auto* table = static_cast<EntityMeja*>(m_tables->findByCode("a"));
+            table->setNama("Terrace");
+            QVERIFY2(m_tables->update(table), qPrintable(m_tables->takeError()));
+            QVERIFY(transaction.commit());
+        }
+        QCOMPARE(nameOf("a"), QString("Terrace"));
+    }
+
+    void everyThreadPreparesForItself()
+    {
+        QCOMPARE(nameOf("a"), QString("Window"));
+        QString name;
+        for (int round = 0; round < 2; ++round) {
+            std::unique_ptr<QThread> worker(QThread::create([this, &name] {
+                for (int i = 0; i < 3; ++i)
+                    name += nameOf("b");
+            }));
+            worker->start();
+            QVERIFY(worker->wait());
+        }
+        QCOMPARE(name, QString("Door").repeated(6));
+        QCOMPARE(nameOf("a"), QString("Window"));
+    }
+
+private:
+    QString nameOf(const QString& code)
+    {
+        auto* table = static_cast<EntityMeja*>(m_tables->findByCode(code));
+        const QString name = table ? table->getNama() : QString();
+        delete table;
+        return name;
+    }
+    static int preparedStatements()
+    {
+        KorQuery query;
+        query.exec("select count(*) as count from pg_prepared_statements");
+        return query.next() ? query.field("count").toInt() : -1;
+    }
+
+    std::unique_ptr<TestDatabase> m_database;
+    DataMapperMeja* m_tables = nullptr;
+};
+
+QTEST_MAIN(TestPreparedStatements)
+#include "tst_prepared_statements.moc"
