@@ -77,35 +77,55 @@ QString shownText(const QWidget* widget)
     return widget ? widget->property("text").toString() : QString();
 }
 
-/** All visible windows as they lie over each other; the desktop shines through where there is none. */
-QPixmap screen()
+/** How the windows lie over each other: the main window, forms in the order of their opening, open lists on top. */
+QList<QWidget*> visibleWindows()
 {
     QList<QWidget*> windows;
-    QRect area;
     for (QWidget* window : QApplication::topLevelWidgets()) {
         if (window->isVisible() && !window->size().isEmpty())
             windows.append(window);
     }
-    std::stable_sort(windows.begin(), windows.end(), [](const QWidget* left, const QWidget* right) {
-        const auto rank = [](const QWidget* window) {
-            if (window->windowType() == Qt::Popup || window->windowType() == Qt::ToolTip)
-                return 3;
-            if (window == QApplication::activeModalWidget())
-                return 2;
-            return window->isModal() ? 1 : 0;
-        };
-        return rank(left) < rank(right);
-    });
-    for (const QWidget* window : windows)
-        area |= window->frameGeometry();
+    const auto rank = [](const QWidget* window) {
+        if (window->windowType() == Qt::Popup || window->windowType() == Qt::ToolTip)
+            return 3;
+        if (window == QApplication::activeModalWidget())
+            return 2;
+        return window->isModal() ? 1 : 0;
+    };
+    std::stable_sort(windows.begin(), windows.end(),
+                     [&rank](const QWidget* left, const QWidget* right) { return rank(left) < rank(right); });
+    return windows;
+}
+
+/** The screen as a person sees it: forms in the middle of the window behind them, where a window manager puts them. */
+QPixmap screen()
+{
+    constexpr int frame = 2;
+    const QList<QWidget*> windows = visibleWindows();
+    if (windows.isEmpty())
+        return QPixmap(1, 1);
+    const QRect ground = windows.first()->geometry();
+    QRect area = ground;
+    QList<QPoint> corners;
+    QPoint shift;
+    for (const QWidget* window : windows) {
+        QRect place = window->geometry();
+        if (window->windowType() != Qt::Popup && window->windowType() != Qt::ToolTip && window != windows.first()) {
+            place.moveCenter(ground.center());
+            shift = place.topLeft() - window->geometry().topLeft();
+        } else if (window != windows.first()) {
+            place.translate(shift);
+        }
+        corners.append(place.topLeft());
+        area |= place.adjusted(-frame, -frame, frame, frame);
+    }
     QPixmap picture(area.size());
     picture.fill(QColor("#3a4650"));
     QPainter painter(&picture);
-    for (QWidget* window : windows) {
-        const QPoint corner = window->geometry().topLeft() - area.topLeft();
-        if (window != windows.first())
-            painter.fillRect(QRect(corner, window->size()).adjusted(-2, -2, 2, 2), QColor("#20262b"));
-        painter.drawPixmap(corner, window->grab());
+    for (int i = 0; i < windows.size(); ++i) {
+        const QRect place(corners.at(i) - area.topLeft(), windows.at(i)->size());
+        painter.fillRect(place.adjusted(-frame, -frame, frame, frame), QColor("#20262b"));
+        painter.drawPixmap(place.topLeft(), windows.at(i)->grab());
     }
     return picture;
 }
