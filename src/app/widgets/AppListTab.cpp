@@ -9,7 +9,6 @@
 
 #include "ui_ListPage.h"
 
-#include <QKeyEvent>
 #include <QMessageBox>
 #include <QShortcut>
 
@@ -172,13 +171,3 @@ QLabel* AppListTab::filterLabel() const { return m_ui->lblFilter; }
 QPushButton* AppListTab::button(const char* name) const { return findChild<QPushButton*>(QLatin1String(name)); }
 
 QString AppListTab::filterText() const { return m_ui->txtFilter->text().toLower(); }
-
-void AppListTab::keyPressEvent(QKeyEvent* event)
-{
-    // What a double click posts; a real F2 has gone to the button's shortcut already.
-    if (event->key() == Qt::Key_F2 && m_ui->btnEdit->isEnabled()) {
-        on_btnEdit_clicked();
-        return;
-    }
-    AppTab::keyPressEvent(event);
-}

@@ -93,8 +93,6 @@ protected:
     [[nodiscard]] QPushButton* button(const char* name) const;
     [[nodiscard]] QString filterText() const;
 
-    void keyPressEvent(QKeyEvent* event) override;
-
 private:
     std::unique_ptr<Ui::ListPage> m_ui;
     QString m_serviceName;

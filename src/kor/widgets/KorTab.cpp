@@ -6,6 +6,7 @@
 #include "kor/widgets/KorSortFilterProxyModel.h"
 #include "kor/widgets/KorViewMemory.h"
 
+#include <QAbstractButton>
 #include <QCoreApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -55,6 +56,18 @@ void KorTab::doubleClickedSlot(const QModelIndex& index)
     Q_UNUSED(index)
     // Through the shortcut's own road, so that it does exactly what the key does.
     QCoreApplication::postEvent(this, new QKeyEvent(QEvent::KeyPress, Qt::Key_F2, Qt::NoModifier));
+}
+
+void KorTab::keyPressEvent(QKeyEvent* event)
+{
+    const QList<QAbstractButton*> buttons = findChildren<QAbstractButton*>();
+    for (QAbstractButton* button : buttons) {
+        if (event->key() == Qt::Key_F2 && button->shortcut() == QKeySequence(Qt::Key_F2)) {
+            button->click();
+            return;
+        }
+    }
+    QWidget::keyPressEvent(event);
 }
 
 KorSortFilterProxyModel* KorTab::createProxyModel() { return new KorSortFilterProxyModel(this); }

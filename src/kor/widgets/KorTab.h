@@ -42,4 +42,7 @@ protected:
     [[nodiscard]] static QList<KorEntity*> selectedEntities(const QTableView* view, const KorEntityModel* model);
     /** Makes the row of the record with this id the current one; false when the grid has none. */
     static bool selectEntity(QTableView* view, const KorEntityModel* model, int id);
+
+    /** What a double click posts presses the button with this shortcut; a real F2 has gone there already. */
+    void keyPressEvent(QKeyEvent* event) override;
 };
