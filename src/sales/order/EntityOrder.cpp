@@ -1,8 +1,20 @@
 #include "sales/order/EntityOrder.h"
 
+#include <limits>
+
 EntityOrder::EntityOrder(QObject* parent) : KorEntity(parent) {}
 
 EntityOrder::~EntityOrder() { qDeleteAll(m_snapshot); }
+
+qint64 EntityOrder::totalOf(const Lines& lines)
+{
+    qint64 sum = 0;
+    for (const EntityOrderDetail* line : lines)
+        sum += line->getTotal()->rawAmount();
+    return sum;
+}
+
+bool EntityOrder::totalFits(const Lines& lines) { return totalOf(lines) <= std::numeric_limits<int>::max(); }
 
 void EntityOrder::takeSnapshot()
 {
@@ -30,6 +42,25 @@ void EntityOrder::compareWithSnapshot()
         else if (changed)
             noteUpdated(line);
     }
+}
+
+void EntityOrder::mergeLines(const Lines& entered)
+{
+    clearChanges();
+    for (EntityOrderDetail* line : entered) {
+        bool known = false;
+        for (EntityOrderDetail* stored : qAsConst(m_details)) {
+            if (stored->itemId() != line->itemId())
+                continue;
+            known = true;
+            stored->setQty(stored->getQty() + line->getQty());
+            stored->setStatus(EntityOrderDetail::UPDATED);
+            noteUpdated(line);
+        }
+        if (!known)
+            noteNew(line);
+    }
+    m_details += m_newDetails;
 }
 
 void EntityOrder::collectMarkedLines()

@@ -42,10 +42,19 @@ public:
     /** New and updated lines together, in the order of the visit. */
     [[nodiscard]] const Lines& getChangedDetails() const { return m_changedDetails; }
 
+    /** What the lines cost, in the smallest unit of their currency; wider than what one amount can hold. */
+    [[nodiscard]] static qint64 totalOf(const Lines& lines);
+    [[nodiscard]] static bool totalFits(const Lines& lines);
+
     /** Remembers the lines as they are now. */
     void takeSnapshot();
     /** Marks and lists what is new or changed since the snapshot, item by item. */
     void compareWithSnapshot();
+    /**
+     * Puts lines that were keyed in for a standing order to its own. An item that it has already grows in quantity, and
+     * the total of that line stays as it was. The lists then hold what the kitchen has not seen yet.
+     */
+    void mergeLines(const Lines& entered);
     /** The same lists from the lines' stored marks, for printing again. */
     void collectMarkedLines();
 
