@@ -14,6 +14,7 @@
 #include "masterdata/satuan/TabSatuan.h"
 #include "masterdata/supplier/TabSupplier.h"
 #include "printing/configuration/TabKitchenPrinter.h"
+#include "sales/order/TabMakanDitempat.h"
 
 namespace
 {
@@ -36,6 +37,7 @@ TabFactories allTabFactories()
         {"TabJenisItem", make<TabJenisItem>},
         {"TabKeyTable", make<TabKeyTable>},
         {"TabKitchenPrinter", make<TabKitchenPrinter>},
+        {"TabMakanDitempat", make<TabMakanDitempat>},
         {"TabMeja", make<TabMeja>},
         {"TabMember", make<TabMember>},
         {"TabSatuan", make<TabSatuan>},

@@ -1,0 +1,77 @@
+#pragma once
+
+#include "kor/widgets/KorDialog.h"
+
+#include <functional>
+#include <memory>
+
+class AppLookupBox;
+class BusinessItem;
+class EntityItem;
+class EntityOrderDetail;
+class EntityPool;
+
+namespace Ui
+{
+class OrderItemPicker;
+}
+
+/**
+ * The form that picks one item with its quantity for a line of an order. The line is borrowed: a line without an item
+ * is filled anew, one with an item is changed, and only getEntity() writes to it. A concrete picker says which class
+ * of items it finds.
+ */
+class OrderItemPicker : public KorDialog
+{
+    Q_OBJECT
+
+public:
+    ~OrderItemPicker() override;
+
+    bool validate() override;
+    KorEntity* getEntity() override;
+    void setEntity(KorEntity* line) override;
+
+    /** The item type that the search is narrowed to, -1 for all; the next picker of a round starts with it. */
+    [[nodiscard]] int itemType() const;
+    void setItemType(int id);
+
+public slots:
+    void on_txtCode_textEdited(const QString& text);
+    void on_txtQty_textChanged(const QString& text);
+    void on_ddlType_currentIndexChanged(int row);
+
+protected:
+    /** The chosen item is read into the pool, which has to outlive the line. */
+    OrderItemPicker(EntityPool& items, QWidget* parent);
+
+    /** Box is a lookup box of items with setItemType(id). */
+    template <class Box>
+    void findItemsWith()
+    {
+        auto* box = new Box(codeField(), m_service);
+        m_narrow = [box](int type) { box->setItemType(type); };
+        watch(box);
+    }
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    [[nodiscard]] QLineEdit* codeField() const;
+    void watch(AppLookupBox* box);
+    void fillTypes();
+    /** Takes the item of the code that stands in the field; false when there is none. */
+    bool chooseByCode();
+    void showItem(EntityItem* item);
+    void showAmount();
+    [[nodiscard]] double price() const;
+    [[nodiscard]] double quantity() const;
+    [[nodiscard]] bool totalFits() const;
+
+    std::unique_ptr<Ui::OrderItemPicker> m_ui;
+    EntityPool& m_items;
+    BusinessItem* m_service;
+    AppLookupBox* m_box = nullptr;
+    std::function<void(int)> m_narrow;
+    EntityOrderDetail* m_line = nullptr;
+    EntityItem* m_item = nullptr;
+};
