@@ -282,7 +282,7 @@ void TabMakanDitempat::on_btnPrint_clicked()
 
 void TabMakanDitempat::sendToKitchen(EntityMakanDitempat* order)
 {
-    ZavelReportFactory::instance()->printMenuOrder(OrderKind::DineIn, order);
+    ZavelReportFactory::instance()->printMenuOrder(DineOrder, order);
 }
 
 void TabMakanDitempat::printRecap(int id) { ZavelReportFactory::instance()->printMakanDitempat(id); }
