@@ -19,7 +19,7 @@
 
 namespace
 {
-constexpr int rowHeight = 44;
+constexpr int boardRowHeight = 44;
 constexpr char businessName[] = "Sales";
 
 /** Every table with its orders, and where it has none with a placeholder, which goes to the pool of the rows. */
@@ -47,7 +47,7 @@ TabMakanDitempat::TabMakanDitempat(QWidget* parent)
       m_tables(service<BusinessMeja>("Table"))
 {
     m_ui->setupUi(this);
-    m_ui->tblMeja->verticalHeader()->setDefaultSectionSize(rowHeight);
+    m_ui->tblMeja->verticalHeader()->setDefaultSectionSize(boardRowHeight);
     const auto* focusFilter = new QShortcut(QKeySequence("Ctrl+F"), this);
     connect(focusFilter, &QShortcut::activated, m_ui->txtFilter, [this] { m_ui->txtFilter->setFocus(); });
     refresh();
