@@ -3,9 +3,7 @@
 #include "support/ModalDriver.h"
 #include "support/TestDatabase.h"
 
-#include <QLabel>
 #include <QLineEdit>
-#include <QSignalSpy>
 #include <QTableView>
 #include <QTest>
 
@@ -23,7 +21,7 @@ void fill(DialogMeja* form, const QString& code, const QString& name)
 }
 } // namespace
 
-/** The list page that every family shares, driven by the keyboard alone. */
+/** What the list page does beside the contract that every family is held to, shown on the tables. */
 class TestMejaPage : public QObject
 {
     Q_OBJECT
@@ -48,28 +46,6 @@ private slots:
         m_page.reset();
         m_people.reset();
         m_database.reset();
-    }
-
-    void aTableIsAddedWithF12()
-    {
-        m_people->expect<DialogMeja>([](DialogMeja* form) { fill(form, "T3", "Balcony"); });
-        QTest::keyClick(m_page.get(), Qt::Key_F12);
-        QTRY_COMPARE(m_grid->model()->rowCount(), 3);
-        QCOMPARE(m_page->findChild<QLabel*>("lblCount")->text(), QString("3 Items"));
-        QVERIFY(m_people->finished());
-    }
-
-    void aCodeInOtherLettersIsTakenAndTheFormStays()
-    {
-        m_people->expect<DialogMeja>([](DialogMeja* form) { fill(form, "T1", ""); });
-        m_people->expect<DialogMeja>([](DialogMeja* form) {
-            QCOMPARE(form->findChild<QLineEdit*>("txtKode")->text(), QString("T1"));
-            fill(form, "T4", "Bar");
-        });
-        QTest::keyClick(m_page.get(), Qt::Key_F12);
-        QTRY_COMPARE(m_people->texts(), QStringList{"This table code is already in use please use another code\r\n"
-                                                    "Enter the table name\r\n"});
-        QTRY_COMPARE(m_grid->model()->rowCount(), 3);
     }
 
     void aDoubleClickEditsLikeF2_data()
@@ -122,15 +98,6 @@ private slots:
         QTRY_COMPARE(m_grid->model()->rowCount(), 1);
     }
 
-    void aRowThatHasGoneIsTold()
-    {
-        choose("Garden");
-        const int id = m_database->value("SELECT id FROM meja WHERE kode = 't2'").toInt();
-        m_database->run("DELETE FROM meja WHERE kode = 't2'");
-        QTest::keyClick(m_grid, Qt::Key_F2);
-        QTRY_COMPARE(m_people->lastText(), QString("Can not find entity with id: %1").arg(id));
-    }
-
     void rightsDecideWhatHappens()
     {
         loginWithRights("Table", {{0, 1}, {2, 1}}, 2);
@@ -146,20 +113,6 @@ private slots:
         m_people->answer(QMessageBox::Yes);
         QTest::keyClick(m_grid, Qt::Key_Delete);
         QTRY_COMPARE(m_grid->model()->rowCount(), 1);
-    }
-
-    void filterAndCloseByKeys()
-    {
-        QTest::keyClick(m_page.get(), Qt::Key_F, Qt::ControlModifier);
-        auto* filter = m_page->findChild<QLineEdit*>("txtFilter");
-        QVERIFY(filter->hasFocus());
-        QTest::keyClicks(filter, "GARD");
-        QTest::keyClick(filter, Qt::Key_Return);
-        QTRY_COMPARE(m_grid->model()->rowCount(), 1);
-        QVERIFY(m_grid->hasFocus());
-        QSignalSpy closed(m_page.get(), &KorTab::onclose);
-        QTest::keyClick(m_grid, Qt::Key_Escape);
-        QTRY_COMPARE(closed.count(), 1);
     }
 
 private:

@@ -16,10 +16,10 @@ class TourPlugin : public QGenericPlugin
     Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "tour.json")
 
 public:
-    QObject* create(const QString& key, const QString& specification) override
+    QObject* create(const QString& key, const QString& tourName) override
     {
         Q_UNUSED(key)
-        const QString name = specification;
+        const QString name = tourName;
         auto* holder = new QObject;
         QTimer::singleShot(0, holder, [holder, name] {
             QThread* thread = QThread::create([name] { play(name); });
