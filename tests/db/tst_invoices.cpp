@@ -5,7 +5,6 @@
 #include "sales/invoice/InvoiceTotals.h"
 #include "sales/payment/EntityInvoiceMakanDitempat.h"
 #include "sales/service/BusinessPenjualan.h"
-#include "support/DineOrder.h"
 #include "support/ShopRows.h"
 #include "support/TestDatabase.h"
 

@@ -1,11 +1,12 @@
 #include "app/context/AppContext.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "sales/invoice/Invoice.h"
+#include "sales/invoice/InvoiceTotals.h"
 #include "sales/order/EntityMakanDitempat.h"
 #include "sales/payment/DialogBayarMakanDitempat.h"
 #include "sales/payment/DialogSelectSplitInvoice.h"
+#include "sales/payment/EntityInvoiceMakanDitempat.h"
 #include "sales/service/BusinessPenjualan.h"
-#include "support/DineOrder.h"
 #include "support/ModalDriver.h"
 #include "support/ShopRows.h"
 #include "support/TestCluster.h"
@@ -43,6 +44,7 @@ private slots:
     void changeIsToldWhileTheMoneyIsCounted_data();
     void changeIsToldWhileTheMoneyIsCounted();
     void theKeysLeadToTheBoxes();
+    void aPercentOfNothingDoesNotStopASaleOnTheHouse();
     void aMembersDiscountHoldsToItsLastDay_data();
     void aMembersDiscountHoldsToItsLastDay();
     void aMemberIsPickedWhileTyping();
@@ -332,6 +334,18 @@ void TestPayment::theKeysLeadToTheBoxes()
     QCOMPARE(shown("txtNetDue"), QString("-300,00"));
 }
 
+void TestPayment::aPercentOfNothingDoesNotStopASaleOnTheHouse()
+{
+    m_database->run("UPDATE makan_ditempat_detail SET price_each_amount = 0, total_amount = 0");
+    openForm();
+    enter("txtDiscount", "0");
+    QCOMPARE(shown("txtDiscPerc"), QString("nan"));
+    QCOMPARE(shown("txtGrandTotal"), QString("0,00"));
+    m_people->answer(QMessageBox::No);
+    save();
+    QTRY_COMPARE(invoice("status, disc_perc, net_due_amount"), (QStringList{"2", "0", "0"}));
+}
+
 // --- members -------------------------------------------------------------------------------------------------------
 
 void TestPayment::aMembersDiscountHoldsToItsLastDay_data()
@@ -411,6 +425,15 @@ void TestPayment::aWrongEntryIsTold_data()
                                       << "zz" << unknown.arg("zz");
     QTest::newRow("more than money holds") << "txtPaid"
                                            << "3000000000" << tooLarge;
+    QTest::newRow("letters for money") << "txtPaid"
+                                       << "9oo"
+                                       << "Please enter a number\r\n";
+    QTest::newRow("letters for a percent") << "txtTaxPerc"
+                                           << "x"
+                                           << "Please enter a number\r\n";
+    QTest::newRow("an emptied box") << "txtCredit"
+                                    << ""
+                                    << "Please enter a number\r\n";
     QTest::newRow("a line beyond it") << ""
                                       << "UPDATE makan_ditempat_detail SET qty = 8000000" << tooLarge;
     QTest::newRow("nothing ordered") << ""
@@ -631,20 +654,18 @@ void TestPayment::aLostConnectionLeavesTheFormAndCanBeTriedAgain()
 
 void TestPayment::aPartyThatPaysApartIsAskedForItsInvoice()
 {
-    for (const char* number : {"TRD-1", "TRD-2"})
-        m_database->run(QString("WITH one AS (INSERT INTO invoice SELECT (jsonb_populate_record(NULL::invoice, "
-                                "jsonb_object_agg(column_name, CASE WHEN column_name LIKE '%_currency' THEN 'Rp' "
-                                "WHEN column_name = 'invoice_date' THEN '2026-03-01' WHEN column_name = 'acct_code' "
-                                "THEN '1010' WHEN column_name = 'no' THEN '%1' WHEN column_name = 'invoice_type' THEN "
-                                "'TRD' WHEN column_name = 'id' THEN nextval('invoice_id_seq')::text WHEN column_name "
-                                "= 'version' THEN '1' WHEN column_name = 'status' THEN '2' WHEN column_name LIKE "
-                                "'%_amount' OR column_name LIKE '%_perc' THEN '0' END))).* FROM "
-                                "information_schema.columns WHERE table_name = 'invoice' RETURNING id) "
-                                "INSERT INTO invoice_makan_ditempat (invoice_id, makan_ditempat_id, version) "
-                                "SELECT id, %2, 1 FROM one")
-                            .arg(number)
-                            .arg(m_order));
     auto* sales = service<BusinessPenjualan>("Sales");
+    for (double subtotal : {600, 400}) {
+        EntityInvoiceMakanDitempat sale;
+        InvoiceTotals totals;
+        totals.setCurrency("Rp");
+        totals.setSubtotal(subtotal);
+        totals.writeTo(sale.getInvoice());
+        sale.getInvoice()->setInvoiceDate(QDate(2026, 3, 1));
+        sale.getInvoice()->setAcctCode("1010");
+        sale.setMakanDitempat(sales->findOrder(m_order));
+        QVERIFY2(sales->insertInvoice(&sale), qPrintable(sales->takeErrors()));
+    }
     m_people->expect<DialogSelectSplitInvoice>([](DialogSelectSplitInvoice* choice) {
         QCOMPARE(choice->windowTitle(), QString("Select an Invoice"));
         QTest::keyClick(choice, Qt::Key_Escape);
@@ -658,7 +679,7 @@ void TestPayment::aPartyThatPaysApartIsAskedForItsInvoice()
         QTest::keyClick(grid, Qt::Key_Return);
     });
     openForm();
-    QCOMPARE(shown("txtKode"), QString("TRD-2"));
+    QCOMPARE(shown("txtKode"), QString("TRD-0008"));
     QVERIFY(m_people->finished());
 }
 

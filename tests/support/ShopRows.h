@@ -1,5 +1,9 @@
 #pragma once
 
+#include <QDate>
+#include <QList>
+#include <QPair>
+
 class TestDatabase;
 
 /**
@@ -8,3 +12,9 @@ class TestDatabase;
  * Ann, table "T1", and all running numbers at 7 with their name in front ("PO-0007").
  */
 void insertShop(TestDatabase& database);
+
+/**
+ * Lays down an order on the shop's table: its guest is "Mary", it waits for the menu, and it has a line of the
+ * item RICE for every pair of a quantity and a price. Returns the order's id.
+ */
+int insertDineOrder(TestDatabase& database, const QList<QPair<int, int>>& lines, const QDate& date = {2026, 3, 1});

@@ -11,6 +11,7 @@
 #include "sales/payment/DialogSelectSplitInvoice.h"
 #include "sales/payment/EntityInvoiceMakanDitempat.h"
 #include "sales/payment/PaymentCascade.h"
+#include "sales/payment/PaymentParties.h"
 #include "sales/payment/TabBayarMakanDitempatDetail.h"
 #include "sales/service/BusinessPenjualan.h"
 
@@ -37,6 +38,8 @@ DialogBayarMakanDitempat::DialogBayarMakanDitempat(QWidget* parent)
                                     m_ui->txtNetDue,
                                     m_ui->lblNetDue},
                                    this);
+    m_parties = new PaymentParties(
+        {m_ui->txtMember, m_ui->txtAgent, m_ui->txtEmployee, m_ui->txtCashAccount, m_ui->lblCashAccount}, this);
     setUpFields();
     QTimer::singleShot(0, m_ui->txtPaid, [this] {
         // Selected even when the window becomes active later: the first figure replaces what stands in the box.
@@ -49,18 +52,15 @@ DialogBayarMakanDitempat::~DialogBayarMakanDitempat() = default;
 
 void DialogBayarMakanDitempat::setUpFields()
 {
-    m_memberBox = new MemberTextBox(m_ui->txtMember, service<BusinessMember>("Member"));
-    m_agentBox = new AgentTextBox(m_ui->txtAgent, service<BusinessAgent>("Agent"));
-    m_employeeBox = new EmployeeTextBox(m_ui->txtEmployee, service<BusinessEmployee>("Employee"));
-    m_cashBox = new BankTextBox(m_ui->txtCashAccount, service<BusinessBank>("Bank"));
-    m_memberBox->setNextWidget(m_ui->txtAgent);
-    m_agentBox->setNextWidget(m_ui->txtEmployee);
-    m_employeeBox->setNextWidget(m_ui->txtDiscPerc);
-    m_cashBox->setNextWidget(m_ui->txtPaid);
-    connect(m_memberBox, &KorTextBoxExtender::onItemSelected, this, &DialogBayarMakanDitempat::onMemberSelected);
-    connect(m_agentBox, &KorTextBoxExtender::onItemSelected, this, &DialogBayarMakanDitempat::onAgentSelected);
-    connect(m_employeeBox, &KorTextBoxExtender::onItemSelected, this, &DialogBayarMakanDitempat::onEmployeeSelected);
-    connect(m_cashBox, &KorTextBoxExtender::onItemSelected, this, &DialogBayarMakanDitempat::onCashAccountSelected);
+    m_parties->employeeBox()->setNextWidget(m_ui->txtDiscPerc);
+    m_parties->cashBox()->setNextWidget(m_ui->txtPaid);
+    const auto onChoice = [this](KorTextBoxExtender* box, auto action) {
+        connect(box, &KorTextBoxExtender::onItemSelected, this, action);
+    };
+    onChoice(m_parties->memberBox(), &DialogBayarMakanDitempat::onMemberSelected);
+    onChoice(m_parties->agentBox(), &DialogBayarMakanDitempat::onAgentSelected);
+    onChoice(m_parties->employeeBox(), &DialogBayarMakanDitempat::onEmployeeSelected);
+    onChoice(m_parties->cashBox(), &DialogBayarMakanDitempat::onCashAccountSelected);
     connect(m_menu, &TabBayarMakanDitempatDetail::ItemAdded, this, &DialogBayarMakanDitempat::onItemAdded);
 
     for (QAbstractButton* button : m_ui->buttonBox->buttons())
@@ -126,30 +126,14 @@ void DialogBayarMakanDitempat::newInvoice()
     }
     m_menu->setDetails(lines);
     showGuest();
-    m_member = m_order->getMember();
-    applyMemberDiscount(m_member);
-    const EntityPoolScope scope(m_read);
-    showAccount(service<BusinessBank>("Bank")->cashOnHand());
-}
-
-void DialogBayarMakanDitempat::showAccount(const EntityBank* account)
-{
-    auto* accounts = service<BusinessBank>("Bank");
-    if (accounts->hasError())
-        showError(accounts->takeErrors());
-    m_ui->lblCashAccount->setText(account ? account->getNama() : QString());
-    if (account)
-        m_ui->txtCashAccount->setText(account->getKode());
+    applyMemberDiscount(m_order->getMember());
+    m_parties->showDefaultAccount();
 }
 
 void DialogBayarMakanDitempat::setEntity(KorEntity* entity)
 {
     m_sale = static_cast<EntityInvoiceMakanDitempat*>(entity);
     m_order = m_sale->getMakanDitempat();
-    m_member = m_sale->getInvoice()->getMember();
-    m_agent = m_sale->getAgent();
-    m_employee = m_sale->getEmployee();
-    m_account = nullptr;
     showInvoice();
 }
 
@@ -160,12 +144,10 @@ void DialogBayarMakanDitempat::showInvoice()
     m_ui->datePay->setDate(invoice->getInvoiceDate());
     m_ui->datePay->setEnabled(false);
     m_ui->dateDue->setDate(m_sale->getDueDate().isValid() ? m_sale->getDueDate() : invoice->getInvoiceDate());
-    m_ui->txtAgent->setText(m_sale->getAgent() ? m_sale->getAgent()->getKode() : QString());
-    m_ui->txtEmployee->setText(m_sale->getEmployee() ? m_sale->getEmployee()->getKode() : QString());
+    m_parties->showAgent(m_sale->getAgent());
+    m_parties->showEmployee(m_sale->getEmployee());
+    m_parties->showAccount(invoice->getAcctCode());
     m_ui->txtNotes->setPlainText(invoice->getNote());
-    m_ui->txtCashAccount->setText(invoice->getAcctCode());
-    const EntityPoolScope scope(m_read);
-    showAccount(service<BusinessBank>("Bank")->findByCode(invoice->getAcctCode()));
     m_cascade->readFrom(*invoice);
     m_menu->setDetails(m_sale->getDetails());
     m_order->setMember(invoice->getMember());
@@ -176,7 +158,7 @@ void DialogBayarMakanDitempat::showGuest()
 {
     m_ui->txtMeja->setText(m_order->getMeja() ? m_order->getMeja()->getNama() : QString());
     const EntityMember* member = m_order->getMember();
-    m_ui->txtMember->setText(member ? member->getKode() : QString());
+    m_parties->showMember(member);
     m_ui->txtNamaPelanggan->setText(member ? member->getNama() : m_order->getPemesan());
 }
 
@@ -192,7 +174,7 @@ void DialogBayarMakanDitempat::onTableSelected() {}
 
 void DialogBayarMakanDitempat::onMemberSelected()
 {
-    const EntityMember* member = m_memberBox->selectedItem();
+    const EntityMember* member = m_parties->memberBox()->selectedItem();
     if (!member)
         return;
     m_ui->txtNamaPelanggan->setText(member->getNama());
@@ -240,7 +222,7 @@ void DialogBayarMakanDitempat::on_txtServicePerc_editingFinished()
 
 void DialogBayarMakanDitempat::on_txtService_editingFinished() { m_cascade->amountEntered(InvoiceTotals::Service); }
 
-void DialogBayarMakanDitempat::onCashAccountSelected() { showAccount(m_cashBox->selectedItem()); }
+void DialogBayarMakanDitempat::onCashAccountSelected() { m_parties->showPickedAccount(); }
 
 // --- saving --------------------------------------------------------------------------------------------------------
 
@@ -250,47 +232,17 @@ bool DialogBayarMakanDitempat::validate()
         addError(m_ui->txtMeja, tr("Select a table"));
     if (m_menu->details().isEmpty())
         addError(m_ui->tabDetail, tr("Add one or more menu"));
-    lookUpCodes();
+    m_parties->lookUp();
     checkAmounts();
     return !hasError();
 }
 
-void DialogBayarMakanDitempat::lookUpCodes()
-{
-    const EntityPoolScope scope(m_read);
-    // A code typed by hand counts like one that was picked from the list; a wrong one must not vanish silently.
-    const auto unknown = [](const QLineEdit* field) {
-        return tr("There is no record with the code: %1").arg(field->text());
-    };
-    bool answered = true;
-    if (require(m_ui->txtCashAccount, tr("Please select a Cash Accounts")))
-        answered = lookUp(m_ui->txtCashAccount, service<BusinessBank>("Bank"),
-                          tr("Please select a valid Cash Accounts"), &m_account);
-    // The same lost connection need not be told once a field.
-    answered =
-        answered && lookUp(m_ui->txtMember, service<BusinessMember>("Member"), unknown(m_ui->txtMember), &m_member);
-    answered = answered && lookUp(m_ui->txtAgent, service<BusinessAgent>("Agent"), unknown(m_ui->txtAgent), &m_agent);
-    answered = answered && lookUp(m_ui->txtEmployee, service<BusinessEmployee>("Employee"), unknown(m_ui->txtEmployee),
-                                  &m_employee);
-}
-
-template <class Service, class Entity>
-bool DialogBayarMakanDitempat::lookUp(QLineEdit* field, Service* records, const QString& unknown, Entity** found)
-{
-    const QString code = field->text();
-    records->clearErrors();
-    *found = code.isEmpty() ? nullptr : records->findByCode(code);
-    if (records->hasError()) {
-        addError(field, records->takeErrors().trimmed());
-        return false;
-    }
-    if (!code.isEmpty() && !*found)
-        addError(field, unknown);
-    return true;
-}
-
 void DialogBayarMakanDitempat::checkAmounts()
 {
+    if (QLineEdit* box = m_cascade->wrongEntry()) {
+        addError(box, tr("Please enter a number"));
+        return;
+    }
     const QString tooLarge = tr("An amount is larger than an invoice can hold. Please check the figures.");
     for (const EntityInvoiceDetail* line : m_menu->details()) {
         if (!line->totalFits()) {
@@ -307,20 +259,21 @@ KorEntity* DialogBayarMakanDitempat::getEntity()
 {
     if (!m_sale)
         m_sale = new EntityInvoiceMakanDitempat(this);
-    m_order->setMember(m_member);
+    m_order->setMember(m_parties->member());
     m_sale->setMakanDitempat(m_order);
-    m_sale->setAgent(m_agent);
-    m_sale->setEmployee(m_employee);
+    m_sale->setAgent(m_parties->agent());
+    m_sale->setEmployee(m_parties->employee());
     m_sale->setDueDate(m_ui->dateDue->date());
     m_sale->setDetails(m_menu->details());
     Invoice* invoice = m_sale->getInvoice();
     invoice->setInvoiceDate(m_ui->datePay->date());
-    invoice->setMember(m_member);
+    invoice->setMember(m_parties->member());
     // An order's guest may have a longer name than an invoice has room for.
     invoice->setPemesan(m_order->getPemesan().left(50));
     invoice->setNote(m_ui->txtNotes->toPlainText());
-    invoice->setAgent(m_agent);
-    invoice->setAcctCode(m_account ? m_account->getKode() : m_ui->txtCashAccount->text());
+    invoice->setAgent(m_parties->agent());
+    const EntityBank* account = m_parties->cashAccount();
+    invoice->setAcctCode(account ? account->getKode() : m_ui->txtCashAccount->text());
     m_cascade->writeTo(invoice);
     return m_sale;
 }
@@ -408,10 +361,7 @@ bool DialogBayarMakanDitempat::finishTable()
     return false;
 }
 
-void DialogBayarMakanDitempat::printBill()
-{
-    ZavelReportFactory::instance()->printBillMakanDitempat(m_sale->getId());
-}
+void DialogBayarMakanDitempat::printBill() { ZavelReportFactory::instance()->printBillMakanDitempat(m_sale->getId()); }
 
 void DialogBayarMakanDitempat::on_btnPrintBill_clicked()
 {

@@ -6,19 +6,13 @@
 
 #include <memory>
 
-class AgentTextBox;
-class BankTextBox;
 class BusinessPenjualan;
-class EmployeeTextBox;
-class EntityAgent;
-class EntityBank;
-class EntityEmployee;
 class EntityInvoiceDetail;
 class EntityInvoiceMakanDitempat;
 class EntityMakanDitempat;
 class EntityMember;
-class MemberTextBox;
 class PaymentCascade;
+class PaymentParties;
 class TabBayarMakanDitempatDetail;
 
 namespace Ui
@@ -81,13 +75,8 @@ private:
     void newInvoice();
     void showInvoice();
     void showGuest();
-    void showAccount(const EntityBank* account);
     void applyMemberDiscount(const EntityMember* member);
     void checkAmounts();
-    void lookUpCodes();
-    /** False when the records could not be asked; an empty field stands for nobody. */
-    template <class Service, class Entity>
-    bool lookUp(QLineEdit* field, Service* records, const QString& unknown, Entity** found);
     bool readOrderAgain();
     void readInvoiceAgain();
     void showMissing(int id);
@@ -102,19 +91,11 @@ private:
     std::unique_ptr<Ui::DialogBayarMakanDitempat> m_ui;
     BusinessPenjualan* m_sales;
     PaymentCascade* m_cascade;
+    PaymentParties* m_parties;
     TabBayarMakanDitempatDetail* m_menu;
-    MemberTextBox* m_memberBox;
-    AgentTextBox* m_agentBox;
-    EmployeeTextBox* m_employeeBox;
-    BankTextBox* m_cashBox;
     // What the form read last: the order, the invoice and all that hangs on them. A reload replaces it.
     EntityPool m_read;
     EntityMakanDitempat* m_order = nullptr;
     EntityInvoiceMakanDitempat* m_sale = nullptr;
-    // Who and what the codes in the boxes stand for, as the last validation found them.
-    EntityMember* m_member = nullptr;
-    EntityAgent* m_agent = nullptr;
-    EntityEmployee* m_employee = nullptr;
-    EntityBank* m_account = nullptr;
     bool m_print = false;
 };

@@ -7,8 +7,8 @@
 
 namespace
 {
-constexpr QRgb missing = 0xffb42318;
-constexpr QRgb covered = 0xff1e7a34;
+constexpr QRgb missingRgb = 0xffb42318;
+constexpr QRgb coveredRgb = 0xff1e7a34;
 } // namespace
 
 PaymentCascade::PaymentCascade(const Boxes& boxes, QObject* parent) : QObject(parent), m_boxes(boxes)
@@ -61,8 +61,20 @@ void PaymentCascade::calculateTotal()
     m_boxes.netDue->setValue(m_totals.change());
     m_boxes.netDueLabel->setText(m_totals.isShort() ? tr("Less :") : tr("Change :"));
     QPalette palette = m_boxes.netDue->palette();
-    palette.setColor(QPalette::Text, m_totals.isShort() ? QColor(missing) : QColor(covered));
+    palette.setColor(QPalette::Text, m_totals.isShort() ? QColor(missingRgb) : QColor(coveredRgb));
     m_boxes.netDue->setPalette(palette);
+}
+
+QLineEdit* PaymentCascade::wrongEntry() const
+{
+    const QList<AppNumberEdit*> boxes{m_boxes.percents[0], m_boxes.amounts[0], m_boxes.percents[1], m_boxes.amounts[1],
+                                      m_boxes.percents[2], m_boxes.amounts[2], m_boxes.paid,        m_boxes.credit};
+    for (AppNumberEdit* box : boxes) {
+        // What the form itself wrote may be no number either: a percent of nothing.
+        if (!box->isValid() && box->text() != box->displayText())
+            return box;
+    }
+    return nullptr;
 }
 
 void PaymentCascade::showPart(InvoiceTotals::Part part)

@@ -7,6 +7,7 @@
 class AppNumberEdit;
 class MoneyEdit;
 class QLabel;
+class QLineEdit;
 
 /**
  * Binds the boxes of a payment form to the totals: which entry changes which figure, and when. The ways of selling
@@ -42,6 +43,9 @@ public:
     void amountEntered(InvoiceTotals::Part part);
     /** Shows the grand total and what is due from what the boxes hold now. */
     void calculateTotal();
+
+    /** The first box that somebody left with a text that is no number, and whose figure is thus another; or null. */
+    [[nodiscard]] QLineEdit* wrongEntry() const;
 
     void readFrom(const Invoice& invoice);
     void writeTo(Invoice* invoice);

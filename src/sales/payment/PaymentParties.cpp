@@ -1,0 +1,98 @@
+#include "sales/payment/PaymentParties.h"
+
+#include "kor/business/KorServiceDirectory.h"
+#include "kor/widgets/KorDialog.h"
+#include "masterdata/agent/AgentTextBox.h"
+#include "masterdata/bank/BankTextBox.h"
+#include "masterdata/employee/EmployeeTextBox.h"
+#include "masterdata/member/MemberTextBox.h"
+
+#include <QLabel>
+#include <QMessageBox>
+
+namespace
+{
+template <class Entity>
+QString codeOf(const Entity* record)
+{
+    return record ? record->getKode() : QString();
+}
+} // namespace
+
+PaymentParties::PaymentParties(const Boxes& boxes, KorDialog* form)
+    : QObject(form), m_boxes(boxes), m_form(form),
+      m_memberBox(new MemberTextBox(boxes.member, service<BusinessMember>("Member"))),
+      m_agentBox(new AgentTextBox(boxes.agent, service<BusinessAgent>("Agent"))),
+      m_employeeBox(new EmployeeTextBox(boxes.employee, service<BusinessEmployee>("Employee"))),
+      m_cashBox(new BankTextBox(boxes.cashAccount, service<BusinessBank>("Bank")))
+{
+    m_memberBox->setNextWidget(boxes.agent);
+    m_agentBox->setNextWidget(boxes.employee);
+}
+
+void PaymentParties::lookUp()
+{
+    const EntityPoolScope scope(m_found);
+    // A code typed by hand counts like one that was picked from the list; a wrong one must not vanish silently.
+    const auto unknown = [](const QLineEdit* box) {
+        return tr("There is no record with the code: %1").arg(box->text());
+    };
+    if (m_boxes.cashAccount->text().isEmpty())
+        m_form->addError(m_boxes.cashAccount, tr("Please select a Cash Accounts"));
+    // A database that does not answer is told once, not once a box.
+    if (!lookUp<BusinessBank>(m_boxes.cashAccount, "Bank", tr("Please select a valid Cash Accounts"), &m_account) ||
+        !lookUp<BusinessMember>(m_boxes.member, "Member", unknown(m_boxes.member), &m_member) ||
+        !lookUp<BusinessAgent>(m_boxes.agent, "Agent", unknown(m_boxes.agent), &m_agent))
+        return;
+    lookUp<BusinessEmployee>(m_boxes.employee, "Employee", unknown(m_boxes.employee), &m_employee);
+}
+
+/** False when the records could not be asked. */
+template <class Service, class Entity>
+bool PaymentParties::lookUp(QLineEdit* box, const QString& serviceName, const QString& unknown, Entity** found)
+{
+    *found = nullptr;
+    if (box->text().isEmpty())
+        return true;
+    auto* records = service<Service>(serviceName);
+    records->clearErrors();
+    *found = records->findByCode(box->text());
+    if (records->hasError()) {
+        m_form->addError(box, records->takeErrors().trimmed());
+        return false;
+    }
+    if (!*found)
+        m_form->addError(box, unknown);
+    return true;
+}
+
+void PaymentParties::showMember(const EntityMember* member) { m_boxes.member->setText(codeOf(member)); }
+
+void PaymentParties::showAgent(const EntityAgent* agent) { m_boxes.agent->setText(codeOf(agent)); }
+
+void PaymentParties::showEmployee(const EntityEmployee* employee) { m_boxes.employee->setText(codeOf(employee)); }
+
+void PaymentParties::showDefaultAccount()
+{
+    const EntityPoolScope scope(m_found);
+    showAccount(service<BusinessBank>("Bank")->cashOnHand());
+}
+
+void PaymentParties::showAccount(const QString& code)
+{
+    const EntityPoolScope scope(m_found);
+    m_boxes.cashAccount->setText(code);
+    showAccount(service<BusinessBank>("Bank")->findByCode(code));
+}
+
+void PaymentParties::showPickedAccount() { showAccount(m_cashBox->selectedItem()); }
+
+void PaymentParties::showAccount(const EntityBank* account)
+{
+    auto* accounts = service<BusinessBank>("Bank");
+    if (accounts->hasError())
+        QMessageBox::critical(m_form, KorDialog::tr("Error"), accounts->takeErrors());
+    m_boxes.cashAccountName->setText(account ? account->getNama() : QString());
+    if (account)
+        m_boxes.cashAccount->setText(account->getKode());
+}
