@@ -138,7 +138,7 @@ EntityInvoiceMakanDitempat* Builders::invoice(EntityMakanDitempat* order, double
     totals.setPaid(paid);
     totals.writeTo(sale->getInvoice());
     sale->getInvoice()->setInvoiceDate(QDate::currentDate());
-    sale->getInvoice()->setAcctCode("1-100");
+    sale->getInvoice()->setAcctCode("1010");
     auto* sales = service<BusinessPenjualan>("Sales");
     if (!sales->insertInvoice(sale))
         qFatal("invoice: %s", qPrintable(sales->takeErrors()));
