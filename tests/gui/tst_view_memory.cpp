@@ -46,6 +46,24 @@ private slots:
         QVERIFY(grid()->columnWidth(0) != pulled);
     }
 
+    void aCodeThatIsLongerThanThoseAtFirstSightIsShownInFull()
+    {
+        openPage();
+        const int narrow = grid()->columnWidth(1);
+        m_database->run(
+            "INSERT INTO meja (kode, nama, createdby, version) VALUES ('WWWWWWWWWWWWWWWWWWWW', 'Window', 1, 1)");
+        m_page->findChild<QPushButton*>("btnRefresh")->click();
+        const int wide = grid()->columnWidth(1);
+        QVERIFY(wide > narrow);
+        const QFontMetrics letters(grid()->font());
+        QVERIFY(wide > letters.horizontalAdvance("WWWWWWWWWWWWWWWWWWWW"));
+
+        pullColumn(1, -60);
+        const int pulled = grid()->columnWidth(1);
+        m_page->findChild<QPushButton*>("btnRefresh")->click();
+        QCOMPARE(grid()->columnWidth(1), pulled);
+    }
+
     void whatTheProgramSetsByItselfIsNotRemembered()
     {
         openPage();

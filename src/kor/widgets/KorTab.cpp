@@ -19,13 +19,27 @@ namespace
 constexpr int widestFirstSight = 360;
 constexpr int cellPadding = 16;
 
-/** Widths that show headers and the first rows' texts in full, within reason. */
-void fitColumns(QTableView* view)
+/**
+ * Widths that show headers and the first rows' texts in full, within reason. A list is often empty at first sight, or
+ * short: later fits widen what has become longer, and narrow nothing that the eye has got used to.
+ */
+void fitColumns(QTableView* view, const QVector<int>& formerWidths)
 {
     view->horizontalHeader()->setResizeContentsPrecision(50);
     view->resizeColumnsToContents();
-    for (int column = 0; column < view->model()->columnCount(); ++column)
-        view->setColumnWidth(column, std::min(view->columnWidth(column) + cellPadding, widestFirstSight));
+    for (int column = 0; column < view->model()->columnCount(); ++column) {
+        const int fitting = std::min(view->columnWidth(column) + cellPadding, widestFirstSight);
+        view->setColumnWidth(column, std::max(fitting, formerWidths.value(column)));
+    }
+}
+
+QVector<int> columnWidths(const QTableView* view)
+{
+    // The last column is as wide as the others leave it.
+    QVector<int> widths;
+    for (int column = 0; column < view->horizontalHeader()->count() - 1; ++column)
+        widths.append(view->columnWidth(column));
+    return widths;
 }
 
 QList<int> selectedSourceRows(const QTableView* view)
@@ -78,6 +92,7 @@ void KorTab::applyModel(QTableView* view, KorEntityModel* model)
     QItemSelectionModel* formerSelection = view->selectionModel();
     const bool firstTime = !formerModel || formerModel->columnCount() != model->columnCount();
     const QByteArray header = view->horizontalHeader()->saveState();
+    const QVector<int> formerWidths = firstTime ? QVector<int>() : columnWidths(view);
 
     view->setSortingEnabled(true);
     view->horizontalHeader()->setStretchLastSection(true);
@@ -93,10 +108,9 @@ void KorTab::applyModel(QTableView* view, KorEntityModel* model)
     }
     view->setModel(proxy);
     view->reset();
-    if (firstTime)
-        fitColumns(view);
-    else
+    if (!firstTime)
         view->horizontalHeader()->restoreState(header);
+    fitColumns(view, formerWidths);
     delete formerSelection;
     if (qobject_cast<KorSortFilterProxyModel*>(formerModel))
         delete formerModel;
