@@ -146,9 +146,13 @@ bool MainWindow::openTab(const QString& className)
         return false;
     }
     KorTab* tab = factory.value()();
+    // A page forgets where it wants the keys when it moves into the window.
+    QWidget* inner = tab->focusWidget();
     tab->setParent(this);
     connect(tab, &KorTab::onclose, this, &MainWindow::closeTab);
     addPage(tab);
+    if (inner)
+        inner->setFocus(Qt::OtherFocusReason);
     return true;
 }
 
@@ -178,6 +182,15 @@ void MainWindow::showPage(int index)
 {
     m_ui->tabWidget->setCurrentIndex(index);
     m_ui->tabWidget->setFocus(Qt::OtherFocusReason);
+    focusPage();
+}
+
+void MainWindow::focusPage()
+{
+    // On into the page, to where it had the keys last.
+    const QWidget* page = m_ui->tabWidget->currentWidget();
+    if (QWidget* inner = page ? page->focusWidget() : nullptr)
+        inner->setFocus(Qt::OtherFocusReason);
 }
 
 int MainWindow::findPage(const QString& className, const QString& title) const
@@ -193,9 +206,12 @@ int MainWindow::findPage(const QString& className, const QString& title) const
 
 void MainWindow::removePage(int index)
 {
+    // The tab bar has the keys meanwhile: out of a page that goes they would jump into the next one's first field.
+    m_ui->tabWidget->setFocus(Qt::OtherFocusReason);
     if (QWidget* page = m_ui->tabWidget->widget(index))
         page->deleteLater();
     m_ui->tabWidget->removeTab(index);
+    focusPage();
 }
 
 void MainWindow::closeTab(QWidget* tab)

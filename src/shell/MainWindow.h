@@ -118,6 +118,7 @@ private:
     void openReport(const QString& reportName);
     void addPage(QWidget* page);
     void showPage(int index);
+    void focusPage();
     /** The first page of that class and, where one is given, of that title; -1 for none. */
     [[nodiscard]] int findPage(const QString& className, const QString& title = QString()) const;
     void removePage(int index);

@@ -120,6 +120,7 @@ private slots:
     void aShortcutReachesItsPageEvenWhereAMenuMarksTheSameLetter_data();
     void aShortcutReachesItsPageEvenWhereAMenuMarksTheSameLetter();
     void anOpenPageIsOnlyShownAgainAndNotReadAnew();
+    void theKeysGoToTheListOfThePageThatIsShown();
     void aPageIsClosedByItsButtonByEscAndByTheTab();
     void closingAllPagesLeavesNone();
     void whoMayNotConfigureIsRefused_data();
@@ -326,6 +327,20 @@ void TestMainWindow::anOpenPageIsOnlyShownAgainAndNotReadAnew()
     QCOMPARE(m_people->lastText(), QString("can not load tab: tabmeja"));
 }
 
+void TestMainWindow::theKeysGoToTheListOfThePageThatIsShown()
+{
+    const auto hasKeys = [](const char* grid) {
+        return QApplication::focusWidget() && QApplication::focusWidget()->objectName() == QLatin1String(grid);
+    };
+    m_window->openTab("TabMeja");
+    QVERIFY(hasKeys("tblMeja"));
+    m_window->openTab("TabSatuan");
+    QVERIFY(hasKeys("tblSatuan"));
+    m_window->openTab("TabMeja");
+    QVERIFY(hasKeys("tblMeja"));
+    QTest::keyClick(pages()->currentWidget(), Qt::Key_Escape);
+    QTRY_VERIFY(hasKeys("tblSatuan"));
+}
 void TestMainWindow::aPageIsClosedByItsButtonByEscAndByTheTab()
 {
     const QList<std::function<void()>> ways{

@@ -87,6 +87,16 @@ private slots:
         QCOMPARE(m_database->value("SELECT nama FROM meja WHERE kode = 't2'").toString(), QString("Garden"));
     }
 
+    void theArrowsBeginAtTheFirstRow()
+    {
+        QVERIFY(m_grid->hasFocus());
+        QVERIFY(!m_grid->selectionModel()->hasSelection());
+        QTest::keyClick(m_grid, Qt::Key_Down);
+        QCOMPARE(m_grid->selectionModel()->selectedRows().value(0).row(), 0);
+        QTest::keyClick(m_grid, Qt::Key_Down);
+        QCOMPARE(m_grid->selectionModel()->selectedRows().value(0).row(), 1);
+    }
+
     void deletingAsksRowByRow()
     {
         m_grid->selectAll();

@@ -55,6 +55,13 @@ QList<int> selectedSourceRows(const QTableView* view)
         rows.append(proxy ? proxy->mapToSource(index).row() : index.row());
     return rows;
 }
+/** A grid without a selection: an arrow begins at the row that has the focus frame rather than beside it. */
+bool startsAtCurrentRow(const QTableView* view, const QKeyEvent& key)
+{
+    const bool isArrow = key.key() == Qt::Key_Down || key.key() == Qt::Key_Up;
+    return isArrow && !(key.modifiers() & ~Qt::KeypadModifier) && view->model() && view->model()->rowCount() > 0 &&
+           !view->selectionModel()->hasSelection();
+}
 } // namespace
 
 KorTab::KorTab(QWidget* parent) : QWidget(parent) {}
@@ -99,6 +106,7 @@ void KorTab::applyModel(QTableView* view, KorEntityModel* model)
     view->verticalHeader()->hide();
     view->setSelectionBehavior(QAbstractItemView::SelectRows);
     view->setTabKeyNavigation(false);
+    view->installEventFilter(this);
 
     KorSortFilterProxyModel* proxy = createProxyModel();
     proxy->setSourceModel(model);
@@ -120,6 +128,16 @@ void KorTab::applyModel(QTableView* view, KorEntityModel* model)
     view->setStyleSheet("alternate-background-color: #D4D4D4;background-color: white;");
     KorEmptyHint::attach(view);
     restoreColumns(view);
+}
+
+bool KorTab::eventFilter(QObject* watched, QEvent* event)
+{
+    auto* view = qobject_cast<QTableView*>(watched);
+    if (view && event->type() == QEvent::KeyPress && startsAtCurrentRow(view, *static_cast<QKeyEvent*>(event))) {
+        view->selectRow(std::max(0, view->currentIndex().row()));
+        return true;
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 void KorTab::restoreColumns(QTableView* view)

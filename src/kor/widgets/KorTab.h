@@ -27,6 +27,8 @@ public slots:
     void doubleClickedSlot(const QModelIndex& index);
 
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
     /** A new sort proxy with the tab as parent. */
     virtual KorSortFilterProxyModel* createProxyModel();
 
