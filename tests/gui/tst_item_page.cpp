@@ -98,9 +98,10 @@ void TestItemPage::theListTellsPricesStockAndUnit()
         const bool isRight = column >= 4 && column <= 7;
         QCOMPARE(m_grid->model()->index(0, column).data(Qt::TextAlignmentRole).toInt() == 130, isRight);
     }
-    QCOMPARE(m_grid->columnWidth(2), 200);
+    QVERIFY(m_grid->columnWidth(2) >= 200);
+    QVERIFY(m_grid->columnWidth(2) > QFontMetrics(m_grid->font()).horizontalAdvance(cell("llp", 2)));
     for (int column : {5, 6, 7})
-        QCOMPARE(m_grid->columnWidth(column), 120);
+        QVERIFY(m_grid->columnWidth(column) >= 120);
     const QAbstractItemModelTester tester(qobject_cast<QAbstractProxyModel*>(m_grid->model())->sourceModel(),
                                           QAbstractItemModelTester::FailureReportingMode::QtTest);
 }

@@ -58,9 +58,12 @@ void TabItem::modelApplied()
     // Once: from then on the widths are the user's.
     if (std::exchange(m_sized, true))
         return;
-    grid()->setColumnWidth(2, 200);
+    const auto atLeast = [this](int column, int width) {
+        grid()->setColumnWidth(column, std::max(width, grid()->columnWidth(column)));
+    };
+    atLeast(2, 200);
     for (int column : {5, 6, 7})
-        grid()->setColumnWidth(column, 120);
+        atLeast(column, 120);
 }
 
 QString TabItem::deleteQuestion(const KorEntity* entity) const
