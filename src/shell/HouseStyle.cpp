@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFormLayout>
+#include <QMessageBox>
 #include <QPainter>
 #include <QPalette>
 #include <QStyleOptionButton>
@@ -19,6 +20,7 @@ constexpr QRgb lineRgb = 0xffb8c0c8;
 constexpr QRgb accentRgb = 0xff005782;
 constexpr int controlHeight = 30;
 constexpr int iconSpacing = 6;
+constexpr int fieldPadding = 4;
 constexpr qreal cornerRadius = 3;
 
 bool isAccented(const QStyleOptionButton& button)
@@ -134,6 +136,14 @@ QPalette HouseStyle::standardPalette() const
     return palette;
 }
 
+void HouseStyle::polish(QWidget* widget)
+{
+    QProxyStyle::polish(widget);
+    // A message names tables and dishes as they are written, also where that looks like markup.
+    if (auto* message = qobject_cast<QMessageBox*>(widget))
+        message->setTextFormat(Qt::PlainText);
+}
+
 int HouseStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
 {
     switch (metric) {
@@ -181,6 +191,9 @@ QSize HouseStyle::sizeFromContents(ContentsType type, const QStyleOption* option
                                    const QWidget* widget) const
 {
     QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    // Dates too; they measure their text without the padding that their field takes.
+    if (type == CT_SpinBox)
+        size.rwidth() += 2 * fieldPadding;
     switch (type) {
     case CT_PushButton:
         size.rwidth() += 8 + iconSpacing;
@@ -283,7 +296,7 @@ QRect HouseStyle::subElementRect(SubElement element, const QStyleOption* option,
 {
     const QRect rect = QProxyStyle::subElementRect(element, option, widget);
     if (element == SE_LineEditContents)
-        return rect.adjusted(4, 0, -4, 0);
+        return rect.adjusted(fieldPadding, 0, -fieldPadding, 0);
     return element == SE_HeaderLabel ? rect.adjusted(4, 0, -4, 0) : rect;
 }
 

@@ -19,6 +19,8 @@ public:
     /** Gives the application the style with its palette. */
     static void apply(QApplication& application);
 
+    using QProxyStyle::polish;
+    void polish(QWidget* widget) override;
     [[nodiscard]] QPalette standardPalette() const override;
     [[nodiscard]] int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
     [[nodiscard]] int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

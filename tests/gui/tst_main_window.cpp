@@ -5,6 +5,7 @@
 #include "kor/widgets/KorTab.h"
 #include "shell/ConfigDialog.h"
 #include "shell/DialogAbout.h"
+#include "shell/HouseStyle.h"
 #include "shell/InterfaceLanguage.h"
 #include "shell/MainWindow.h"
 #include "shell/QtCategoryButton.h"
@@ -142,6 +143,7 @@ private slots:
     void reloadingTakesTheNewValuesOver();
     void theUserIsNamedInTheStatusBar();
     void theProgramTellsAboutItself();
+    void aMessageShowsANameAsItIsWritten();
 
 private:
     QAction* action(const QString& name) const { return m_window->findChild<QAction*>(name); }
@@ -662,6 +664,16 @@ void TestMainWindow::theProgramTellsAboutItself()
     });
     action("actionAbout")->trigger();
     QCOMPARE(version, QString("Version 1.1"));
+}
+
+void TestMainWindow::aMessageShowsANameAsItIsWritten()
+{
+    HouseStyle style;
+    QMessageBox box;
+    box.setText("Are you sure you want to delete this table: <b>Window</b> ?");
+    box.setStyle(&style);
+    box.ensurePolished();
+    QCOMPARE(box.textFormat(), Qt::PlainText);
 }
 
 QTEST_MAIN(TestMainWindow)
