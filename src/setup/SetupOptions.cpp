@@ -16,7 +16,7 @@ void declare(QCommandLineParser& parser)
         "Exit status of status: 0 installed, 3 reachable but not installed, 1 otherwise."));
     parser.addPositionalArgument("command", SetupOptions::tr("install, update or status"));
     parser.addOptions({
-        {"help", SetupOptions::tr("Show this text.")},
+        {{"h", "help"}, SetupOptions::tr("Show this text.")},
         {"host", SetupOptions::tr("The database server (localhost)."), "host"},
         {"port", SetupOptions::tr("Its port (6666)."), "port"},
         {"user", SetupOptions::tr("The database user (postgres)."), "name"},

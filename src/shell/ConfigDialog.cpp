@@ -15,6 +15,7 @@
 #include <QEventLoop>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QPointer>
 #include <QTimer>
 
 namespace
@@ -35,6 +36,7 @@ ConfigDialog::ConfigDialog(QWidget* parent)
     QDir().mkpath(QFileInfo(m_settingsPath).path());
     m_ui->tabWidget->setCurrentIndex(0);
     loadSettings();
+    QTimer::singleShot(0, m_ui->txtDBHost, [this] { m_ui->txtDBHost->setFocus(); });
 }
 
 ConfigDialog::~ConfigDialog() = default;
@@ -117,11 +119,14 @@ void ConfigDialog::on_buttonBox_accepted()
 
 void ConfigDialog::waitFor(int milliseconds)
 {
+    const QPointer<QWidget> focused = focusWidget();
     setEnabled(false);
     QEventLoop loop;
     QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
     loop.exec();
     setEnabled(true);
+    if (focused)
+        focused->setFocus();
 }
 
 void ConfigDialog::done(int result)

@@ -13,6 +13,7 @@
 #include "shell/MainWindow.h"
 
 #include <QFileInfo>
+#include <QIcon>
 #include <QMessageBox>
 #include <QSplashScreen>
 
@@ -31,6 +32,8 @@ ZavelApplication::ZavelApplication(int& argc, char** argv)
     : QApplication(sharpOnDenseScreens(argc), argv), m_dataDir(QFileInfo(ConnectionSettings::defaultPath()).path())
 {
     HouseStyle::apply(*this);
+    // For the messages that stand alone before the first window.
+    setWindowIcon(QIcon(":/icons/Beverage-Coffee-02.png"));
     m_dataDir.mkpath(".");
     KorViewMemory::setFile(m_dataDir.filePath("view.ini"));
     auto* logger = new KorLogger(this, m_dataDir.filePath("zavel.log"));
