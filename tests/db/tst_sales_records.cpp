@@ -1,6 +1,7 @@
 #include "app/context/AppContext.h"
 #include "cash/accounting/DataMapperAccountingTransaction.h"
 #include "cash/cashflow/DataMapperCashFlow.h"
+#include "kor/business/KorServiceDirectory.h"
 #include "registry/pos/PosMapperRegistry.h"
 #include "registry/zavel/ZavelMapperRegistry.h"
 #include "sales/commission/DataMapperAllAgentCommision.h"
@@ -12,6 +13,7 @@
 #include "sales/list/DataMapperPenjualanInfo.h"
 #include "sales/list/EntityPenjualanInfo.h"
 #include "sales/receivable/DataMapperPiutang.h"
+#include "sales/service/BusinessPenjualan.h"
 #include "sales/takeaway/DataMapperBawaPulang.h"
 #include "sales/takeaway/DataMapperInvoiceBawaPulang.h"
 #include "sales/takeaway/EntityBawaPulangDetail.h"
@@ -61,9 +63,10 @@ void TestSalesRecords::init()
     loginAsAdmin();
     m_database->run("TRUNCATE users, user_group CASCADE");
     m_database->run("INSERT INTO user_group (id, name, version) VALUES (1, 'admin', 1)");
-    m_database->run(QString("INSERT INTO users (id, first_name, last_name, username, password, user_group_id, currency, version) "
-                            "VALUES (%1, 'A', 'B', 'cashier', '', 1, '', 1)")
-                        .arg(AppContext::instance()->currentUserId()));
+    m_database->run(
+        QString("INSERT INTO users (id, first_name, last_name, username, password, user_group_id, currency, version) "
+                "VALUES (%1, 'A', 'B', 'cashier', '', 1, '', 1)")
+            .arg(AppContext::instance()->currentUserId()));
 }
 
 template <class Entity>
@@ -138,6 +141,23 @@ void TestSalesRecords::aTakeAwayOrderIsPaidByOneInvoice()
     QCOMPARE(found->getDetails().size(), 1);
     QCOMPARE(found->getBawaPulang()->getMember()->getNama(), QString("Guest"));
     QCOMPARE(found->getBawaPulang()->getDetails().value(0)->getItem()->getNama(), QString("Rice"));
+
+    // Its status follows the money at every save, the first one and those that change it.
+    const auto status = [this] { return m_database->value("SELECT status FROM bawa_pulang").toInt(); };
+    auto* sales = service<BusinessPenjualan>("Sales");
+    QVERIFY2(sales->updateInvoice(found), qPrintable(sales->takeErrors()));
+    QCOMPARE(status(), int(EntityOrder::UNPAID));
+    found->getInvoice()->setAmountPaid(money(150));
+    QVERIFY2(sales->updateInvoice(found), qPrintable(sales->takeErrors()));
+    QCOMPARE(status(), int(EntityOrder::PARTIALY_PAID));
+    auto* paid = new EntityInvoiceBawaPulang(m_records.get());
+    paid->setBawaPulang(found->getBawaPulang());
+    paid->setDetails(found->getDetails());
+    paid->setInvoice(found->getInvoice());
+    paid->getInvoice()->setId(KorNoValue);
+    paid->getInvoice()->setOtherPayment(money(50));
+    QVERIFY2(sales->insertInvoice(paid), qPrintable(sales->takeErrors()));
+    QCOMPARE(status(), int(EntityOrder::PAID));
 }
 
 void TestSalesRecords::removingATakeAwayOrderTakesItsLines()

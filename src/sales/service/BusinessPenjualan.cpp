@@ -103,6 +103,17 @@ bool BusinessPenjualan::makanDitempatSelesai(EntityMakanDitempat* order)
     return written(m_mappers.dineOrders->updateStatus(fresh), m_mappers.dineOrders, "makanDitempatSelesai");
 }
 
+// --- orders to take away -------------------------------------------------------------------------------------------
+
+bool BusinessPenjualan::updateStatusBawaPulang(EntityInvoiceBawaPulang* sale)
+{
+    EntityBawaPulang* order = sale->getBawaPulang();
+    const int status = orderStatusOfInvoiceStatus(sale->getInvoice()->getStatus());
+    if (status >= 0)
+        order->setStatus(status);
+    return written(m_mappers.takeAwayOrders->updateStatus(order), m_mappers.takeAwayOrders, "updateStatusBawaPulang");
+}
+
 // --- invoices ------------------------------------------------------------------------------------------------------
 
 DataMapperInvoiceLink* BusinessPenjualan::mapperOf(IInvoice* sale) const
@@ -133,6 +144,8 @@ bool BusinessPenjualan::insertInvoice(IInvoice* sale)
     // What follows stands outside the invoice's transaction: the sale is kept even if the order's status is not.
     if (const auto* dine = dynamic_cast<EntityInvoiceMakanDitempat*>(sale))
         followInvoices(dine->getMakanDitempat());
+    else if (auto* takeAway = dynamic_cast<EntityInvoiceBawaPulang*>(sale))
+        updateStatusBawaPulang(takeAway);
     return true;
 }
 
@@ -169,6 +182,8 @@ bool BusinessPenjualan::updateInvoice(IInvoice* sale)
     // From this invoice alone, unlike the first save: other invoices of a split order are not asked here.
     if (const auto* dine = dynamic_cast<EntityInvoiceMakanDitempat*>(sale))
         setDineStatus(dine->getMakanDitempat(), orderStatusOfInvoice(*sale->getInvoice()));
+    else if (auto* takeAway = dynamic_cast<EntityInvoiceBawaPulang*>(sale))
+        updateStatusBawaPulang(takeAway);
     return true;
 }
 

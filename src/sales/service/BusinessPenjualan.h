@@ -6,6 +6,7 @@ class DataMapperInvoice;
 class DataMapperInvoiceLink;
 class DataMapperInvoiceMakanDitempat;
 class DataMapperMakanDitempat;
+class DataMapperOrder;
 class EntityInvoiceBawaPulang;
 class EntityInvoiceFastFood;
 class EntityInvoiceMakanDitempat;
@@ -44,7 +45,7 @@ public:
         DataMapperInvoiceLink* fastFoodInvoices = nullptr;
         DataMapperInvoiceLink* takeAwayInvoices = nullptr;
         DataMapperMakanDitempat* dineOrders = nullptr;
-        KorDataMapper* takeAwayOrders = nullptr;
+        DataMapperOrder* takeAwayOrders = nullptr;
         KorDataMapper* salesList = nullptr;
         KorDataMapper* receivables = nullptr;
         DataMapperInvoice* invoices = nullptr;
@@ -69,6 +70,10 @@ public:
     bool updateStatusMakanDitempat(EntityMakanDitempat* order);
     /** The guests have gone: the table is free again. */
     bool makanDitempatSelesai(EntityMakanDitempat* order);
+
+    // Orders to take away.
+    /** The order's status follows its invoice's. */
+    bool updateStatusBawaPulang(EntityInvoiceBawaPulang* sale);
 
     // Invoices of all ways of selling. True when the invoice stands; what failed behind it, the order's status, is an
     // error all the same.
