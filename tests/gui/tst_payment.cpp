@@ -1,11 +1,13 @@
 #include "app/context/AppContext.h"
 #include "kor/business/KorServiceDirectory.h"
+#include "sales/invoice/EntityInvoiceDetail.h"
 #include "sales/invoice/Invoice.h"
 #include "sales/invoice/InvoiceTotals.h"
 #include "sales/order/EntityMakanDitempat.h"
 #include "sales/payment/DialogBayarMakanDitempat.h"
 #include "sales/payment/DialogSelectSplitInvoice.h"
 #include "sales/payment/EntityInvoiceMakanDitempat.h"
+#include "sales/payment/TabBayarMakanDitempatDetail.h"
 #include "sales/service/BusinessPenjualan.h"
 #include "support/ModalDriver.h"
 #include "support/ShopRows.h"
@@ -60,6 +62,7 @@ private slots:
     void aStaleInvoiceLeavesTheFormAsItWasTyped();
     void aLostConnectionLeavesTheFormAndCanBeTriedAgain();
     void aPartyThatPaysApartIsAskedForItsInvoice();
+    void aQuantitySplitOffWaitsForItsInvoice();
 
 private:
     void openForm();
@@ -681,6 +684,19 @@ void TestPayment::aPartyThatPaysApartIsAskedForItsInvoice()
     openForm();
     QCOMPARE(shown("txtKode"), QString("TRD-0008"));
     QVERIFY(m_people->finished());
+}
+
+void TestPayment::aQuantitySplitOffWaitsForItsInvoice()
+{
+    openForm();
+    EntityInvoiceDetail* line = m_form->findChild<TabBayarMakanDitempatDetail*>()->details().first();
+    line->setQtySplit(1);
+    click("btnPrintBill");
+    QCOMPARE(m_people->texts(), QStringList{"Please split the invoice first"});
+    QCOMPARE(invoices(), 0);
+    line->setQtySplit(0);
+    click("btnPrintBill");
+    QCOMPARE(invoices(), 1);
 }
 
 QTEST_MAIN(TestPayment)

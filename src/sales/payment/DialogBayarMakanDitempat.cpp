@@ -280,7 +280,10 @@ KorEntity* DialogBayarMakanDitempat::getEntity()
 
 bool DialogBayarMakanDitempat::beforeAccept()
 {
-    saveInvoice();
+    if (m_menu->hasPendingSplit())
+        QMessageBox::information(this, tr("Info"), tr("Please split the invoice first"));
+    else
+        saveInvoice();
     // The form stays on the saved invoice; closing it is the cashier's choice.
     return false;
 }

@@ -9,6 +9,8 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 TabBayarMakanDitempatDetail::TabBayarMakanDitempatDetail(QWidget* parent)
     : AppTab(parent), m_grid(new QTableView(this)), m_count(new QLabel(this))
 {
@@ -26,6 +28,12 @@ void TabBayarMakanDitempatDetail::setDetails(const QList<EntityInvoiceDetail*>& 
 {
     m_details = details;
     refresh();
+}
+
+bool TabBayarMakanDitempatDetail::hasPendingSplit() const
+{
+    return std::any_of(m_details.cbegin(), m_details.cend(),
+                       [](const EntityInvoiceDetail* line) { return line->qtySplit() > 0; });
 }
 
 void TabBayarMakanDitempatDetail::refresh()

@@ -16,6 +16,8 @@ public:
     explicit TabBayarMakanDitempatDetail(QWidget* parent = nullptr);
 
     [[nodiscard]] const QList<EntityInvoiceDetail*>& details() const { return m_details; }
+    /** Whether a quantity was taken off a line and has no invoice of its own yet. */
+    [[nodiscard]] bool hasPendingSplit() const;
     void setDetails(const QList<EntityInvoiceDetail*>& details);
     void focusGrid();
 
