@@ -27,6 +27,8 @@ public:
     void setEntity(KorEntity* entity) override;
 
 private slots:
+    /** Nothing: leaving the services is told by their own button. */
+    void on_rbStok_toggled(bool) {}
     void on_rbService_toggled(bool checked);
     void on_cbGabungan_toggled(bool checked);
     void on_cbGabungan_clicked();
