@@ -3,6 +3,7 @@
 #include "kor/persistence/KorStatementCache.h"
 
 #include <QCoreApplication>
+#include <QSqlError>
 #include <QThread>
 #include <QThreadStorage>
 #include <QUuid>
@@ -91,6 +92,8 @@ bool KorTransaction::rollback()
     end();
     return m_database.rollback();
 }
+
+QString KorTransaction::failure() const { return m_database.lastError().text(); }
 
 void KorTransaction::end()
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QSqlDatabase>
+#include <QString>
 
 /** The way to the program's connection from any thread. */
 class KorDatabase
@@ -31,6 +32,8 @@ public:
     [[nodiscard]] bool isOpen() const { return m_open; }
     bool commit();
     bool rollback();
+    /** The database's words for what it refused last. */
+    [[nodiscard]] QString failure() const;
 
 private:
     void end();

@@ -1,6 +1,6 @@
 #include "masterdata/company/BusinessDataPerusahaan.h"
 
-#include "kor/persistence/KorDatabase.h"
+#include "kor/business/KorServiceTransaction.h"
 #include "masterdata/company/DataMapperDataPerusahaan.h"
 #include "masterdata/company/DataMapperImages.h"
 #include "masterdata/company/EntityDataPerusahaan.h"
@@ -33,12 +33,12 @@ bool BusinessDataPerusahaan::updateData(EntityDataPerusahaan* profile)
     EntityImage* logo = profile->getLogo();
     const int formerLogoId = logo ? logo->getId() : KorNoValue;
 
-    KorTransaction transaction;
-    const bool profileSaved = profile->isSaved() ? m_profiles->update(profile) : m_profiles->insert(profile);
-    const bool done = written(profileSaved, m_profiles, "updateData") &&
-                      (!logo || written(m_images->save(logo), m_images, "updateData")) && transaction.commit();
+    const bool done = inOneTransaction(*this, "updateData", [&] {
+        const bool profileSaved = profile->isSaved() ? m_profiles->update(profile) : m_profiles->insert(profile);
+        return written(profileSaved, m_profiles, "updateData") &&
+               (!logo || written(m_images->save(logo), m_images, "updateData"));
+    });
     if (!done) {
-        transaction.rollback();
         profile->setId(formerId);
         if (logo)
             logo->setId(formerLogoId);

@@ -3,7 +3,7 @@
 #include "app/context/EntityPool.h"
 #include "inventory/stock/DataMapperStokAwal.h"
 #include "inventory/stock/EntityStokAwal.h"
-#include "kor/persistence/KorDatabase.h"
+#include "kor/business/KorServiceTransaction.h"
 #include "kor/persistence/KorPaging.h"
 #include "masterdata/item/DataMapperGroupedItem.h"
 #include "masterdata/item/DataMapperItem.h"
@@ -34,17 +34,16 @@ QList<KorPermission> BusinessItem::getPermissions() const
 bool BusinessItem::insert(KorEntity* item)
 {
     const int formerId = item->getId();
-    KorTransaction transaction;
     EntityStokAwal balance;
     balance.setItem(static_cast<EntityItem*>(item));
     balance.setHarga(static_cast<EntityItem*>(item)->getHargaBeli());
     // Both or neither: a refused item can be entered again, and none is without its balance.
-    const bool done = written(m_items->insert(item), m_items, "insert") &&
-                      written(m_balances->insert(&balance), m_balances, "insert") && transaction.commit();
-    if (!done) {
-        transaction.rollback();
+    const bool done = inOneTransaction(*this, "insert", [&] {
+        return written(m_items->insert(item), m_items, "insert") &&
+               written(m_balances->insert(&balance), m_balances, "insert");
+    });
+    if (!done)
         item->setId(formerId);
-    }
     return done;
 }
 

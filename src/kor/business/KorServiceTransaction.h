@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+class KorBusinessLogic;
+
+/**
+ * Does a service's writes as one, all or none. The writes keep their own failures; a transaction that cannot begin or
+ * end is kept in the service under the operation's name as well.
+ */
+[[nodiscard]] bool inOneTransaction(KorBusinessLogic& service, const QString& operation,
+                                    const std::function<bool()>& writes);
