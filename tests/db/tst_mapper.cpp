@@ -1,3 +1,4 @@
+#include "kor/entity/KorColumnMap.h"
 #include "kor/persistence/KorPaging.h"
 #include "masterdata/meja/DataMapperMeja.h"
 #include "masterdata/meja/EntityMeja.h"
@@ -111,6 +112,13 @@ private slots:
         worker->start();
         QVERIFY(worker->wait());
         QCOMPARE(name, QString("A"));
+    }
+
+    void aMomentThatNobodyEnteredIsNoNull()
+    {
+        const KorEntity record;
+        const QVariant value = columnValue(KorColumnMap("at", "timestamp", "CreatedTime"), &record);
+        QVERIFY(value.toString().isEmpty() && !value.isNull());
     }
 
     void aListIsOneStatement()

@@ -38,11 +38,13 @@ KorEntity* KorDataMapper::findById(int id) { return findOne(" where " + tableNam
 
 KorEntity* KorDataMapper::findByColumn(const QString& column, const QString& value)
 {
+    qDebug() << "val:" << value;
     return findOne(" where " + tableName() + '.' + column + " = :value", {{":value", value}});
 }
 
 KorEntity* KorDataMapper::findByColumn(const QString& column, int value)
 {
+    qDebug() << "val:" << value;
     return findOne(" where " + tableName() + '.' + column + " = :value", {{":value", value}});
 }
 
@@ -336,7 +338,7 @@ bool KorDataMapper::createTableBase(int mode)
     KorQuery query;
     if (query.exec(text))
         return true;
-    m_errorText = query.failure() + "\r\n" + text;
+    setError(query.failure() + "\r\n" + text);
     return false;
 }
 
