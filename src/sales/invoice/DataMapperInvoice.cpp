@@ -1,23 +1,13 @@
 #include "sales/invoice/DataMapperInvoice.h"
 
 #include "app/numbers/DataMapperKey.h"
+#include "inventory/stock/StockMovements.h"
 #include "kor/entity/KorMetaDataMap.h"
 #include "masterdata/agent/DataMapperAgent.h"
 #include "masterdata/bank/DataMapperBank.h"
 #include "masterdata/employee/DataMapperEmployee.h"
 #include "masterdata/member/DataMapperMember.h"
 #include "sales/invoice/Invoice.h"
-
-namespace
-{
-const char* const soldUntil = "Select SUM(invoice_detail.qty) as QuantityUsed from %1 inner join invoice_detail on "
-                              "%1.id = invoice_detail.invoice_id where item_id = :item_id and invoice_date <= :date  ";
-const char* const soldBetween = "Select SUM(invoice_detail.qty) as QuantityUsed from %1 inner join invoice_detail on "
-                                "%1.id = invoice_detail.invoice_id where item_id = :item_id and invoice_date between "
-                                ":startdate  and :enddate";
-
-int quantityOf(KorQuery& query) { return query.next() ? query.field("QuantityUsed").toInt() : 0; }
-} // namespace
 
 DataMapperInvoice::DataMapperInvoice(QObject* parent, const Partners& partners, const ItemPartners& items)
     : AppDataMapper(parent), m_partners(partners)
@@ -81,18 +71,9 @@ QList<Invoice*> DataMapperInvoice::findByIds(const QList<int>& ids)
     return castAll<Invoice>(findMany(" where invoice.id = ANY(:ids) order by invoice.id", {{":ids", idList(ids)}}));
 }
 
-int DataMapperInvoice::quantityUsed(int itemId, const QDate& until)
-{
-    KorQuery query;
-    const bool done =
-        execute(query, QString(soldUntil).arg(tableName()), {{":item_id", itemId}, {":date", dateToSql(until)}});
-    return done ? quantityOf(query) : 0;
-}
+int DataMapperInvoice::quantityUsed(int itemId, const QDate& until) { return quantityUsed(itemId, QDate(), until); }
 
 int DataMapperInvoice::quantityUsed(int itemId, const QDate& from, const QDate& until)
 {
-    KorQuery query;
-    const bool done = execute(query, QString(soldBetween).arg(tableName()),
-                              {{":item_id", itemId}, {":startdate", dateToSql(from)}, {":enddate", dateToSql(until)}});
-    return done ? quantityOf(query) : 0;
+    return StockMovements::quantity(StockMovements::Used, itemId, from, until);
 }

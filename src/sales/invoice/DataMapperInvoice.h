@@ -38,8 +38,8 @@ public:
     [[nodiscard]] QList<Invoice*> findByIds(const QList<int>& ids);
 
     // Quantities sold; 0 where nothing was sold or the query fails. Both limits are inclusive.
-    [[nodiscard]] int quantityUsed(int itemId, const QDate& until);
-    [[nodiscard]] int quantityUsed(int itemId, const QDate& from, const QDate& until);
+    [[nodiscard]] static int quantityUsed(int itemId, const QDate& until);
+    [[nodiscard]] static int quantityUsed(int itemId, const QDate& from, const QDate& until);
 
 protected:
     /** For a link, which has columns of its own and shares the detail mapper. */
