@@ -95,7 +95,7 @@ bool DatabaseSetup::connectToDatabase()
     const ConnectionSettings& to = m_options.connection;
     if (m_manager->open(to.host, to.database, to.user, to.password, to.port)) {
         // The server's notices about tables that are not there yet are no news here.
-        QSqlQuery("SET client_min_messages TO warning", m_manager->database());
+        QSqlQuery(m_manager->database()).exec("SET client_min_messages TO warning");
         return true;
     }
     fail(tr("The database %1 on %2, port %3, can not be opened as %4: %5")
@@ -151,7 +151,7 @@ QString DatabaseSetup::installedVersion() const
     if (tableCount() == 0)
         return {};
     auto* configuration = service<BusinessConfiguration>("Configuration");
-    const QString version = configuration->getValue("app_version");
+    QString version = configuration->getValue("app_version");
     configuration->clearErrors();
     return version;
 }

@@ -55,7 +55,8 @@ int Money::factor() const { return factors[fractionDigits()]; }
 double Money::getAmount() const
 {
     // Whole-number division on purpose: stored amounts never carry cents.
-    return m_amount / static_cast<int>(std::pow(10, fractionDigits()));
+    const int wholeUnits = m_amount / factor();
+    return wholeUnits;
 }
 
 Money* Money::add(Money* other) const

@@ -8,7 +8,7 @@
 QString drawNumber(DataMapperKey* keys, const QString& keyName, QString* error)
 {
     if (EntityKey* key = keys->getKey(keyName)) {
-        const QString number = key->getGeneratedNo();
+        QString number = key->getGeneratedNo();
         delete key;
         return number;
     }

@@ -17,7 +17,7 @@ public:
     [[nodiscard]] QString nextNo()
     {
         QString error;
-        const QString number = drawNumber(m_keys, keyName(), &error);
+        QString number = drawNumber(m_keys, keyName(), &error);
         if (number.isNull())
             this->setError(error);
         return number;

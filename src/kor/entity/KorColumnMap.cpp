@@ -48,7 +48,7 @@ QVariant columnValue(const KorColumnMap& column, const QObject* record)
         start = dot + 1;
     }
 
-    const QVariant value = object->property(path.constData() + start);
+    QVariant value = object->property(path.constData() + start);
     if (value.type() == QVariant::DateTime) {
         // A moment that nobody entered is an empty text, which the database refuses; a null text would become NULL.
         const QDateTime moment = value.toDateTime();

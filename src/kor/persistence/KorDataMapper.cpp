@@ -9,16 +9,13 @@
 #include <QDebug>
 #include <QSqlError>
 
+#include <utility>
+
 KorDataMapper::KorDataMapper(QObject* parent) : QObject(parent), m_metaData(new KorMetaDataMap(this)) {}
 
 const QString& KorDataMapper::tableName() const { return m_metaData->tableName(); }
 
-QString KorDataMapper::takeError()
-{
-    const QString text = m_errorText;
-    m_errorText.clear();
-    return text;
-}
+QString KorDataMapper::takeError() { return std::exchange(m_errorText, QString()); }
 
 void KorDataMapper::setError(const QString& text)
 {

@@ -18,13 +18,14 @@ IInvoice* DataMapperInvoiceLink::saleOf(KorEntity* link) { return dynamic_cast<I
 bool DataMapperInvoiceLink::createTable(int mode)
 {
     // The invoice's table and its lines are the invoice mapper's own business.
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call)
     return KorDataMapper::createTable(mode);
 }
 
 QString DataMapperInvoiceLink::nextNo()
 {
     QString error;
-    const QString number = drawNumber(partners().keys, keyName(), &error);
+    QString number = drawNumber(partners().keys, keyName(), &error);
     if (number.isNull())
         setError(error);
     return number;

@@ -47,7 +47,7 @@ double InvoiceTotals::change() const { return rounded(m_paid + m_credit - grandT
 
 bool InvoiceTotals::fits() const
 {
-    const double limit = std::numeric_limits<int>::max() / Money(nullptr, 0, m_currency).factor();
+    const int limit = std::numeric_limits<int>::max() / Money(nullptr, 0, m_currency).factor();
     for (double figure : {m_subtotal, m_amount[Discount], m_amount[Tax], m_amount[Service], m_paid, m_credit,
                           grandTotal(), m_paid + m_credit, change()}) {
         if (!(std::abs(figure) <= limit))
