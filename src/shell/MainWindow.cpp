@@ -5,6 +5,7 @@
 #include "app/configuration/BusinessConfiguration.h"
 #include "app/context/AppContext.h"
 #include "app/context/ConnectionSettings.h"
+#include "app/context/EntityPool.h"
 #include "install/zavel/ZavelInstaller.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/plugin/KorPluginTabInterface.h"
@@ -278,6 +279,8 @@ void MainWindow::on_actionPerusahaan_triggered()
 {
     if (!hasAccess("Company Profile", 0))
         return;
+    EntityPool read;
+    const EntityPoolScope scope(read);
     auto* company = service<BusinessDataPerusahaan>("Company Profile");
     const auto showFailure = [this, company] { QMessageBox::critical(this, tr("Error"), company->takeErrors()); };
     DialogDataPerusahaan dialog(this);

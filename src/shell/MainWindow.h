@@ -134,5 +134,5 @@ private:
     BusinessConfiguration* m_configuration;
     bool m_inDatabaseSetup = false;
     InterfaceLanguage* m_language;
-    Sidebar* m_sidebar;
+    Sidebar* m_sidebar = nullptr;
 };

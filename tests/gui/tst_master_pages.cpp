@@ -112,6 +112,32 @@ private slots:
         QCOMPARE(stored("version", "k2"), QString("2"));
     }
 
+    void whatAFormReadDiesWithIt_data() { addFamilyRows(); }
+    void whatAFormReadDiesWithIt()
+    {
+        const MasterFamily& family = currentFamily();
+        const int shown = AppContext::instance()->liveEntities().size();
+        m_people->expect<KorDialog>([&family](KorDialog* form) {
+            family.fill(form, "K1", "Brand new");
+            QTest::keyClick(form, Qt::Key_Return);
+        });
+        m_people->expect<KorDialog>([](KorDialog* form) { QTest::keyClick(form, Qt::Key_Escape); });
+        QTest::keyClick(m_page.get(), Qt::Key_F12);
+        QTRY_VERIFY(m_people->finished());
+
+        comeBack();
+        m_people->expect<KorDialog>([&family](KorDialog* form) {
+            typeInto(form, family.nameField, "Brand new");
+            QTest::keyClick(form, Qt::Key_Return);
+        });
+        m_grid->selectRow(rowOf("Owner's 50% share"));
+        QTest::keyClick(m_grid, Qt::Key_F2);
+        QTRY_VERIFY(rowOf("Brand new") >= 0);
+        QCOMPARE(m_people->boxes().size(), 1);
+        QCOMPARE(stored("nama", "k1"), QString("Brand new"));
+        QCOMPARE(AppContext::instance()->liveEntities().size(), shown);
+    }
+
     void theSlowerOfTwoWorkstationsIsTold_data() { addFamilyRows(); }
     void theSlowerOfTwoWorkstationsIsTold()
     {

@@ -48,8 +48,8 @@ private:
     struct MoneyField
     {
         QMetaProperty property;
-        int currencyColumn;
-        int amountColumn;
+        int currencyColumn = -1;
+        int amountColumn = -1;
     };
     struct NestedField
     {

@@ -62,6 +62,8 @@ void AppListTab::on_btnAdd_clicked()
 {
     if (!hasAccess(m_serviceName, addKey()))
         return;
+    EntityPool read;
+    const EntityPoolScope scope(read);
     const auto dialog = createDialog();
     if (runDialog(*dialog, true))
         refresh();
@@ -75,6 +77,8 @@ void AppListTab::on_btnEdit_clicked()
     bool saved = false;
     const QList<int> ids = selectedEntityIds(grid(), m_model);
     for (int id : ids) {
+        EntityPool read;
+        const EntityPoolScope scope(read);
         KorEntity* entity = readEntity(id);
         if (!entity) {
             QMessageBox::information(this, tr("Error"), notFoundText(id));
@@ -102,6 +106,8 @@ void AppListTab::on_btnDelete_clicked()
         return;
     const QList<int> ids = selectedEntityIds(grid(), m_model);
     for (int id : ids) {
+        EntityPool read;
+        const EntityPoolScope scope(read);
         KorEntity* entity = readEntity(id);
         if (!entity) {
             QMessageBox::information(this, tr("Error"), tr("Can not find entity with id: %1").arg(id));
