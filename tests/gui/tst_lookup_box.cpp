@@ -90,6 +90,7 @@ private slots:
     void quickTypingSearchesOnceHalfASecondAfterTheLastKey();
     void aTextFromTheProgramOpensNoList();
     void aFormCanCallOffASearchThatIsDue();
+    void whoHasGoneOnIsNotInterrupted();
     void theListShowsTheRowsBelowTheField();
     void aLongListIsAsWideAsItsTextsHoweverOftenItOpens();
     void theListStaysOnTheScreen();
@@ -133,6 +134,16 @@ void tst_LookupBox::aFormCanCallOffASearchThatIsDue()
     order.type("n");
     QVERIFY(order.timer->isActive());
     order.box->preventSuggest();
+    QVERIFY(!order.timer->isActive());
+}
+
+void tst_LookupBox::whoHasGoneOnIsNotInterrupted()
+{
+    Order order;
+    order.type("n");
+    QVERIFY(order.timer->isActive());
+    order.press(Qt::Key_Tab);
+    QVERIFY(order.quantity.hasFocus());
     QVERIFY(!order.timer->isActive());
 }
 

@@ -43,6 +43,7 @@ KorTextBoxExtender::KorTextBoxExtender(QLineEdit* editor, KorBusinessLogic* busi
     m_timer->setSingleShot(true);
     m_timer->setInterval(searchDelay);
     connect(m_timer, &QTimer::timeout, this, &KorTextBoxExtender::autoSuggest);
+    editor->installEventFilter(this);
     connect(editor, &QLineEdit::textEdited, m_timer, qOverload<>(&QTimer::start));
     connect(this, &KorTextBoxExtender::onSearchComplete, this, &KorTextBoxExtender::searchComplete);
 }
@@ -163,6 +164,12 @@ void KorTextBoxExtender::doneCompletion()
 
 bool KorTextBoxExtender::eventFilter(QObject* watched, QEvent* event)
 {
+    if (watched == m_editor && event->type() == QEvent::FocusOut) {
+        // Whoever has gone on would find the list in the way, and the next field's keys would land in this one.
+        const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+        if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::MouseFocusReason)
+            m_timer->stop();
+    }
     if (watched != m_popup.get())
         return QWidget::eventFilter(watched, event);
     if (event->type() == QEvent::MouseButtonPress) {

@@ -38,6 +38,8 @@ void TabGLAccounts::prepare(Field& field, QLineEdit* editor, QLabel* name)
 void TabGLAccounts::show(Field& field, const EntityBank* account)
 {
     field.code = account ? account->getKode() : QString();
+    // A list that came up now would take the next field's keys.
+    field.box->preventSuggest();
     field.editor->setText(field.code);
     field.name->setText(account ? account->getNama() : QString());
 }
