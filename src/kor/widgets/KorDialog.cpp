@@ -3,6 +3,8 @@
 #include "kor/entity/KorEntity.h"
 #include "kor/widgets/KorViewMemory.h"
 
+#include <QAbstractButton>
+#include <QDialogButtonBox>
 #include <QIcon>
 #include <QKeyEvent>
 #include <QMessageBox>
@@ -120,6 +122,13 @@ bool KorDialog::requireUnused(QWidget* field, const KorEntity* found, const QStr
 }
 
 void KorDialog::showError(const QString& text) { QMessageBox::critical(this, tr("Error"), text); }
+
+void KorDialog::makeTouchable(const QDialogButtonBox* buttons)
+{
+    const QList<QAbstractButton*> all = buttons->buttons();
+    for (QAbstractButton* button : all)
+        button->setMinimumSize(110, 40);
+}
 
 void KorDialog::focusLater(QWidget* field)
 {

@@ -9,6 +9,8 @@
 
 #include <functional>
 
+class QDialogButtonBox;
+
 /**
  * Base of every entry form. A form reports what is wrong field by field, and all of it is shown in one box; a
  * confirmed form closes only when it is valid and, where a saver is set, when it has been saved.
@@ -79,6 +81,8 @@ protected:
         return requireUnused(field, found, taken);
     }
     void showError(const QString& text);
+    /** Buttons that a finger hits, in the forms of a till. */
+    static void makeTouchable(const QDialogButtonBox* buttons);
     /** Focus once the window is shown, as a field that is not yet visible cannot take it. */
     void focusLater(QWidget* field);
 

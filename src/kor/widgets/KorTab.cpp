@@ -145,6 +145,13 @@ void KorTab::restoreColumns(QTableView* view)
     KorViewMemory::restoreColumns(view, QLatin1String(metaObject()->className()));
 }
 
+void KorTab::setColumnWidths(QTableView* view, const QList<int>& widths)
+{
+    for (int column = 0; column < widths.size(); ++column)
+        view->setColumnWidth(column, widths.at(column));
+    view->setColumnWidth(widths.size(), view->horizontalHeader()->minimumSectionSize());
+}
+
 QList<int> KorTab::selectedIds(const QTableView* view, const KorEntityModel* model)
 {
     QList<int> ids;

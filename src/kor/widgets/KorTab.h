@@ -38,6 +38,9 @@ protected:
     /** The widths that a person gave the columns; a page that sets widths of its own calls it afterwards. */
     void restoreColumns(QTableView* view);
 
+    /** Widths on first sight, where what the rows need is not the best; the last column takes the rest of the grid. */
+    static void setColumnWidths(QTableView* view, const QList<int>& widths);
+
     // The selected rows from top to bottom as the grid shows them.
     [[nodiscard]] static QList<int> selectedIds(const QTableView* view, const KorEntityModel* model);
     [[nodiscard]] static QList<int> selectedEntityIds(const QTableView* view, const KorEntityModel* model);

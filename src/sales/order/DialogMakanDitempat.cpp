@@ -27,6 +27,7 @@ DialogMakanDitempat::DialogMakanDitempat(QWidget* parent, EntityMeja* table)
     : KorDialog(parent), m_ui(std::make_unique<Ui::DialogMakanDitempat>())
 {
     m_ui->setupUi(this);
+    makeTouchable(m_ui->buttonBox);
     m_lines = new TabMakanDitempatDetail(this);
     m_ui->tabDetail->addTab(m_lines, tr("[F3] Menu"));
     connect(m_lines, &OrderLinesTab::ItemAdded, this, &DialogMakanDitempat::onItemAdded);

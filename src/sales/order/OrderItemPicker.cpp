@@ -25,6 +25,7 @@ OrderItemPicker::OrderItemPicker(EntityPool& items, QWidget* parent)
       m_service(service<BusinessItem>("Item"))
 {
     m_ui->setupUi(this);
+    makeTouchable(m_ui->buttonBox);
     m_ui->txtCode->installEventFilter(this);
     fillTypes();
     focusLater(m_ui->txtCode);

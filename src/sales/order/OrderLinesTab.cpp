@@ -20,6 +20,7 @@ OrderLinesTab::OrderLinesTab(QWidget* parent) : AppTab(parent), m_ui(std::make_u
 {
     m_ui->setupUi(this);
     m_ui->tblMenu->verticalHeader()->setDefaultSectionSize(rowHeight);
+    m_ui->tblMenu->setWordWrap(false);
 }
 
 OrderLinesTab::~OrderLinesTab() = default;
@@ -41,6 +42,8 @@ void OrderLinesTab::refresh()
     const OrderLinesModel* former = m_model;
     m_model = createModel(asEntities(m_lines));
     applyModel(m_ui->tblMenu, m_model);
+    if (!former)
+        setColumnWidths(m_ui->tblMenu, {100, 290, 70, 90, 150, 160, 130});
     // No clear(): the lines are the order's, the model only showed them.
     delete former;
     m_ui->tblMenu->selectRow(std::min(std::max(row, 0), m_lines.size() - 1));

@@ -48,6 +48,7 @@ TabMakanDitempat::TabMakanDitempat(QWidget* parent)
 {
     m_ui->setupUi(this);
     m_ui->tblMeja->verticalHeader()->setDefaultSectionSize(boardRowHeight);
+    m_ui->tblMeja->setWordWrap(false);
     const auto* focusFilter = new QShortcut(QKeySequence("Ctrl+F"), this);
     connect(focusFilter, &QShortcut::activated, m_ui->txtFilter, [this] { m_ui->txtFilter->setFocus(); });
     refresh();
@@ -92,6 +93,8 @@ void TabMakanDitempat::showRows(const QList<KorEntity*>& rows)
     const TableModelMakanDitempat* former = m_model;
     m_model = new TableModelMakanDitempat(rows, this);
     applyModel(m_ui->tblMeja, m_model);
+    if (!former)
+        setColumnWidths(m_ui->tblMeja, {120, 180, 200, 210, 120});
     // No clear(): the pool of the rows frees them together.
     delete former;
 

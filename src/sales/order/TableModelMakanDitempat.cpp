@@ -3,6 +3,7 @@
 #include "sales/order/EntityMakanDitempat.h"
 
 #include <QColor>
+#include <QPainter>
 
 namespace
 {
@@ -27,6 +28,14 @@ QString markName(int status)
     default:
         return {};
     }
+}
+
+QPixmap whitened(QPixmap picture)
+{
+    QPainter painter(&picture);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(picture.rect(), Qt::white);
+    return picture;
 }
 
 QString menuOf(const EntityMakanDitempat& order)
@@ -97,7 +106,11 @@ QIcon TableModelMakanDitempat::statusMark(int status) const
     if (name.isEmpty())
         return {};
     QIcon& mark = m_marks[status];
-    if (mark.isNull())
-        mark = QIcon(":/icons/status_" + name + ".png");
+    if (mark.isNull()) {
+        const QPixmap picture(":/icons/status_" + name + ".png");
+        mark.addPixmap(picture);
+        // A selected row is dark: the coloured marks stay as they are there, the hollow one turns white.
+        mark.addPixmap(status == EntityOrder::EMPTY ? whitened(picture) : picture, QIcon::Selected);
+    }
     return mark;
 }

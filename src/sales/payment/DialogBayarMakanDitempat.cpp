@@ -63,8 +63,7 @@ void DialogBayarMakanDitempat::setUpFields()
     onChoice(m_parties->cashBox(), &DialogBayarMakanDitempat::onCashAccountSelected);
     connect(m_menu, &TabBayarMakanDitempatDetail::ItemAdded, this, &DialogBayarMakanDitempat::onItemAdded);
 
-    for (QAbstractButton* button : m_ui->buttonBox->buttons())
-        button->setMinimumSize(110, 40);
+    makeTouchable(m_ui->buttonBox);
     m_ui->buttonBox->button(QDialogButtonBox::Ok)->setToolTip(tr("Save the invoice"));
     for (QDateEdit* date : {m_ui->datePay, m_ui->dateDue}) {
         date->setDisplayFormat(AppContext::instance()->dateFormat());
