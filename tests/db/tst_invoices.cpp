@@ -424,6 +424,7 @@ void TestInvoices::aSessionLostWhileAnOrderIsSavedWritesNothing()
     table->setDetails(ordered);
     hangUpAtQuantity13("makan_ditempat_detail");
     QVERIFY(!m_sales->updateOrder(table));
+    QCOMPARE(m_sales->takeErrors().count("The connection to the database is lost."), 1);
     QCOMPARE(count("makan_ditempat_detail"), 1);
     QCOMPARE(stored("version", "makan_ditempat", table->getId()), QString("1"));
 }

@@ -108,6 +108,19 @@ private slots:
         QTRY_COMPARE(m_grid->model()->rowCount(), 1);
     }
 
+    void aRowThatCouldNotBeReadIsNotSaidToHaveGone()
+    {
+        choose("Garden");
+        m_database->killConnections();
+        QTest::keyClick(m_grid, Qt::Key_F2);
+        QTRY_COMPARE(m_people->boxes().size(), 1);
+        QVERIFY2(m_people->lastText().startsWith("The connection to the database is lost."),
+                 qPrintable(m_people->lastText()));
+        QTest::keyClick(m_page.get(), Qt::Key_F5);
+        QCOMPARE(m_grid->model()->rowCount(), 2);
+        QCOMPARE(m_people->boxes().size(), 1);
+    }
+
     void rightsDecideWhatHappens()
     {
         loginWithRights("Table", {{0, 1}, {2, 1}}, 2);

@@ -16,8 +16,11 @@ DialogUser::DialogUser(QWidget* parent) : KorDialog(parent), m_ui(std::make_uniq
     m_ui->setupUi(this);
     EntityPool pool;
     const EntityPoolScope scope(pool);
-    const QList<KorEntity*> groups = service<BusinessUserGroup>("User Group")->findAll(QString());
-    for (const auto* group : castAll<EntityUserGroup>(groups))
+    auto* groups = service<BusinessUserGroup>("User Group");
+    const QList<KorEntity*> all = groups->findAll(QString());
+    if (groups->hasError())
+        showError(groups->takeErrors());
+    for (const auto* group : castAll<EntityUserGroup>(all))
         m_ui->cbGroup->addItem(group->getGroupName(), group->getId());
     focusLater(m_ui->txtUsername);
 }
@@ -42,6 +45,9 @@ bool DialogUser::validate()
     }
     require(m_ui->txtFirstName, tr("Enter First Name"));
     require(m_ui->txtLastName, tr("Enter Last Name"));
+    // Empty when the groups could not be read.
+    if (m_ui->cbGroup->currentIndex() < 0)
+        addError(m_ui->cbGroup, tr("Select the user group"));
     return !hasError();
 }
 

@@ -3,8 +3,6 @@
 #include "app/persistence/IdKeeper.h"
 #include "kor/persistence/KorDatabase.h"
 
-#include <QSqlError>
-
 bool AppDocumentMapper::createTable(int mode)
 {
     if (!AppDataMapper::createTable(mode))
@@ -34,7 +32,7 @@ bool AppDocumentMapper::commit(KorTransaction& transaction, QString* reason)
 {
     if (transaction.commit())
         return true;
-    *reason = KorDatabase::current().lastError().text();
+    *reason = transaction.failure();
     return false;
 }
 
@@ -54,6 +52,9 @@ bool AppDocumentMapper::insert(KorEntity* document)
 
     QString collected;
     for (KorEntity* line : lines) {
+        // What a lost connection says of the first line holds for all others.
+        if (!transaction.isConnected())
+            break;
         attachLine(line, document->getId());
         if (!mapperOf(line)->insert(line))
             collected += " \r\n " + mapperOf(line)->takeError();
@@ -81,6 +82,8 @@ bool AppDocumentMapper::update(KorEntity* document)
 
     QString collected;
     for (KorEntity* line : lines) {
+        if (!transaction.isConnected())
+            break;
         attachLine(line, document->getId());
         KorDataMapper* mapper = mapperOf(line);
         const bool done = line->isSaved() ? mapper->update(line) : mapper->insert(line);
@@ -89,7 +92,7 @@ bool AppDocumentMapper::update(KorEntity* document)
     }
     for (KorEntity* line : removedLinesOf(document)) {
         // A line that was never saved has nothing to remove.
-        if (line->isSaved() && !mapperOf(line)->remove(line))
+        if (transaction.isConnected() && line->isSaved() && !mapperOf(line)->remove(line))
             collected += " \r\n " + mapperOf(line)->takeError();
     }
     if (collected.isEmpty() && commit(transaction, &collected))
@@ -107,7 +110,7 @@ bool AppDocumentMapper::removeWithLines(KorEntity* document, const QList<KorEnti
 
     QString collected;
     for (KorEntity* line : lines) {
-        if (!mapperOf(line)->remove(line))
+        if (transaction.isConnected() && !mapperOf(line)->remove(line))
             collected += " \r\n " + mapperOf(line)->takeError();
     }
     if (!collected.isEmpty()) {

@@ -33,6 +33,7 @@ void AppListTab::refresh()
 {
     const int currentId = m_model ? selectedEntityIds(grid(), m_model).value(0, KorNoValue) : KorNoValue;
 
+    m_business->clearErrors();
     EntityPool read;
     QList<KorEntity*> rows;
     {
@@ -81,7 +82,7 @@ void AppListTab::on_btnEdit_clicked()
         const EntityPoolScope scope(read);
         KorEntity* entity = readEntity(id);
         if (!entity) {
-            QMessageBox::information(this, tr("Error"), notFoundText(id));
+            tellNotFound(notFoundText(id));
             continue;
         }
         if (!once && !hasAccess(m_serviceName, editKey(), entity)) {
@@ -110,7 +111,7 @@ void AppListTab::on_btnDelete_clicked()
         const EntityPoolScope scope(read);
         KorEntity* entity = readEntity(id);
         if (!entity) {
-            QMessageBox::information(this, tr("Error"), tr("Can not find entity with id: %1").arg(id));
+            tellNotFound(tr("Can not find entity with id: %1").arg(id));
             continue;
         }
         if ((once || hasAccess(m_serviceName, deleteKey(), entity)) &&
@@ -140,6 +141,15 @@ void AppListTab::showServiceError(bool critical)
     const QString text = m_business->takeErrors();
     if (critical)
         QMessageBox::critical(this, tr("Error"), text);
+    else
+        QMessageBox::information(this, tr("Error"), text);
+}
+
+void AppListTab::tellNotFound(const QString& text)
+{
+    // A row that could not be read has not gone.
+    if (m_business->hasError())
+        showServiceError();
     else
         QMessageBox::information(this, tr("Error"), text);
 }

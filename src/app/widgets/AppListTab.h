@@ -76,6 +76,7 @@ protected:
     /** Runs the form for a new record or a record handed in; true when it was saved. */
     bool runDialog(KorDialog& dialog, bool isNew);
     void showServiceError(bool critical = true);
+    void tellNotFound(const QString& text);
     /** For records that the program makes itself: the page edits them, and that is all. */
     void takeAddAndDeleteAway();
 

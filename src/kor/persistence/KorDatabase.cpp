@@ -2,7 +2,7 @@
 
 #include "kor/persistence/KorStatementCache.h"
 
-#include <QCoreApplication>
+#include <QSqlDriver>
 #include <QSqlError>
 #include <QThread>
 #include <QThreadStorage>
@@ -64,6 +64,15 @@ QSqlDatabase KorDatabase::current()
     return workerConnections.localData()->database();
 }
 
+QString KorDatabase::failure(const QSqlDriver* driver, const QString& driverText)
+{
+    if (driver && driver->isOpen())
+        return driverText;
+    return tr("The connection to the database is lost. Please try again in a moment; if that does not help, see "
+              "whether the database server is running.") +
+           "\r\n\r\n" + driverText;
+}
+
 KorTransaction::KorTransaction() : m_database(KorDatabase::current()), m_open(m_database.transaction())
 {
     if (!m_open) {
@@ -93,7 +102,10 @@ bool KorTransaction::rollback()
     return m_database.rollback();
 }
 
-QString KorTransaction::failure() const { return m_database.lastError().text(); }
+QString KorTransaction::failure() const
+{
+    return KorDatabase::failure(m_database.driver(), m_database.lastError().text());
+}
 
 void KorTransaction::end()
 {

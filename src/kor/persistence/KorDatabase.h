@@ -1,11 +1,14 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QSqlDatabase>
 #include <QString>
 
 /** The way to the program's connection from any thread. */
 class KorDatabase
 {
+    Q_DECLARE_TR_FUNCTIONS(KorDatabase)
+
 public:
     /**
      * The default connection on the thread of the application; on any other thread a clone of it, opened there on
@@ -15,6 +18,9 @@ public:
 
     /** True on the application's own thread, where the default connection and the entity pool live. */
     [[nodiscard]] static bool isApplicationThread();
+
+    /** The driver's words for a failure; on a lost connection behind a sentence for the person at the till. */
+    [[nodiscard]] static QString failure(const QSqlDriver* driver, const QString& driverText);
 };
 
 /**
@@ -30,9 +36,10 @@ public:
     Q_DISABLE_COPY(KorTransaction)
 
     [[nodiscard]] bool isOpen() const { return m_open; }
+    [[nodiscard]] bool isConnected() const { return m_database.isOpen(); }
     bool commit();
     bool rollback();
-    /** The database's words for what it refused last. */
+    /** Why it could not begin or end. */
     [[nodiscard]] QString failure() const;
 
 private:

@@ -119,7 +119,10 @@ bool KorQuery::exec(const QString& statement)
     return true;
 }
 
-QString KorQuery::failure() const { return m_prepareError.isEmpty() ? lastError().text() : m_prepareError; }
+QString KorQuery::failure() const
+{
+    return KorDatabase::failure(driver(), m_prepareError.isEmpty() ? lastError().text() : m_prepareError);
+}
 
 KorResultLayout& KorQuery::layout() { return m_statement ? m_statement->layout : m_layout; }
 

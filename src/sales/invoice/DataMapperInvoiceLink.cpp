@@ -7,8 +7,6 @@
 #include "sales/invoice/IInvoice.h"
 #include "sales/invoice/Invoice.h"
 
-#include <QSqlError>
-
 DataMapperInvoiceLink::DataMapperInvoiceLink(QObject* parent, DataMapperInvoice* invoices)
     : DataMapperInvoice(parent, invoices), m_invoices(invoices)
 {}
@@ -88,7 +86,7 @@ bool DataMapperInvoiceLink::insert(KorEntity* link)
         if (insertLines(sale, &reason)) {
             if (transaction.commit())
                 return true;
-            reason = KorDatabase::current().lastError().text();
+            reason = transaction.failure();
         }
     }
     transaction.rollback();
@@ -128,7 +126,7 @@ bool DataMapperInvoiceLink::update(KorEntity* link)
                 link->setVersion(link->getVersion() + 1);
                 return true;
             }
-            reason = KorDatabase::current().lastError().text();
+            reason = transaction.failure();
         }
     }
     transaction.rollback();
