@@ -2,7 +2,6 @@
 
 #include <QList>
 #include <QObject>
-#include <QPair>
 
 class QListView;
 class QMenu;

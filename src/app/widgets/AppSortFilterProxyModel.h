@@ -2,7 +2,6 @@
 
 #include "kor/widgets/KorSortFilterProxyModel.h"
 
-#include <QHash>
 #include <QLocale>
 
 /** Sorts money by amount and dates by the configured format, both read back from the texts that the grid shows. */
