@@ -17,6 +17,7 @@
 namespace
 {
 constexpr int widestFirstSight = 360;
+constexpr int narrowestRest = 110;
 constexpr int cellPadding = 16;
 
 /**
@@ -27,9 +28,16 @@ void fitColumns(QTableView* view, const QVector<int>& formerWidths)
 {
     view->horizontalHeader()->setResizeContentsPrecision(50);
     view->resizeColumnsToContents();
-    for (int column = 0; column < view->model()->columnCount(); ++column) {
-        const int fitting = std::min(view->columnWidth(column) + cellPadding, widestFirstSight);
-        view->setColumnWidth(column, std::max(fitting, formerWidths.value(column)));
+    const int last = view->model()->columnCount() - 1;
+    int room = view->viewport()->width();
+    for (int column = 0; column <= last; ++column) {
+        int width =
+            std::max(std::min(view->columnWidth(column) + cellPadding, widestFirstSight), formerWidths.value(column));
+        // The last column takes what the others leave it, and only where that is too little has a width of its own.
+        if (column == last && room >= narrowestRest)
+            width = view->horizontalHeader()->minimumSectionSize();
+        view->setColumnWidth(column, width);
+        room -= width;
     }
 }
 

@@ -43,7 +43,7 @@ void OrderLinesTab::refresh()
     m_model = createModel(asEntities(m_lines));
     applyModel(m_ui->tblMenu, m_model);
     if (!former)
-        setColumnWidths(m_ui->tblMenu, {100, 290, 70, 90, 150, 160, 130});
+        setColumnWidths(m_ui->tblMenu, {90, 200, 60, 100, 140, 150, 120});
     // No clear(): the lines are the order's, the model only showed them.
     delete former;
     m_ui->tblMenu->selectRow(std::min(std::max(row, 0), m_lines.size() - 1));
