@@ -1,5 +1,6 @@
 #include "tour/DineInTour.h"
 #include "tour/Guide.h"
+#include "tour/StartTour.h"
 
 #include <QCoreApplication>
 #include <QGenericPlugin>
@@ -35,6 +36,8 @@ private:
         Guide guide(qEnvironmentVariable("ZAVEL_TOUR_DIR"));
         if (name == "dine-in")
             playDineIn(guide);
+        else if (name == "start")
+            playStart(guide);
         else
             guide.fail("there is no tour named " + name);
         QMetaObject::invokeMethod(
