@@ -100,7 +100,6 @@ protected:
     QList<KorEntity*> findMany(const QString& tail, Bindings values);
     QList<KorEntity*> readAll(KorQuery& query);
     void setError(const QString& text);
-    void appendError(const QString& text) { m_errorText += text; }
 
 private:
     bool failWrite(const KorQuery& query);

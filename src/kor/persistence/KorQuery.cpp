@@ -132,8 +132,6 @@ QVariant KorQuery::field(const QString& name)
     return index < 0 ? QVariant() : value(index);
 }
 
-bool KorQuery::hasField(const QString& name) { return layout().fieldIndex(*this, name) >= 0; }
-
 const KorRowPlan& KorQuery::plan(const KorDataMapper& mapper, const QString& alias)
 {
     return layout().plan(*this, mapper, alias);

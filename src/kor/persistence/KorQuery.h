@@ -34,7 +34,6 @@ public:
 
     /** The value under this column name or alias, invalid when the result has no such column. */
     [[nodiscard]] QVariant field(const QString& name);
-    [[nodiscard]] bool hasField(const QString& name);
     [[nodiscard]] const KorRowPlan& plan(const KorDataMapper& mapper, const QString& alias);
 
     /** The text of the last statement with the bound values in the places of their placeholders; for messages. */
