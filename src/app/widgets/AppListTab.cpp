@@ -89,9 +89,7 @@ void AppListTab::on_btnEdit_clicked()
             entity->deleteLater();
             continue;
         }
-        const auto dialog = createDialog();
-        dialog->setEntity(entity);
-        if (!runDialog(*dialog, false))
+        if (!editEntity(entity))
             break;
         saved = true;
         refresh();
@@ -124,16 +122,28 @@ void AppListTab::on_btnDelete_clicked()
     refresh();
 }
 
+bool AppListTab::editEntity(KorEntity* entity)
+{
+    const auto dialog = createDialog();
+    dialog->setEntity(entity);
+    return runDialog(*dialog, false);
+}
+
 bool AppListTab::runDialog(KorDialog& dialog, bool isNew)
 {
     // Saved before it closes: a refused save leaves the form as it was typed.
-    dialog.setSaver([this, &dialog, isNew] {
-        const bool saved = isNew ? insertEntity(dialog.getEntity()) : updateEntity(dialog.getEntity());
+    KorEntity* entity = nullptr;
+    dialog.setSaver([this, &dialog, &entity, isNew] {
+        entity = dialog.getEntity();
+        const bool saved = isNew ? insertEntity(entity) : updateEntity(entity);
         if (!saved)
             showServiceError(!isNew);
         return saved;
     });
-    return dialog.exec() == QDialog::Accepted && !dialog.hasError();
+    if (dialog.exec() != QDialog::Accepted || dialog.hasError())
+        return false;
+    entitySaved(entity);
+    return true;
 }
 
 void AppListTab::showServiceError(bool critical)
@@ -152,6 +162,24 @@ void AppListTab::tellNotFound(const QString& text)
         showServiceError();
     else
         QMessageBox::information(this, tr("Error"), text);
+}
+
+void AppListTab::replaceTextFilter(QWidget* filters)
+{
+    m_ui->lblFilter->hide();
+    m_ui->txtFilter->hide();
+    m_ui->txtFilter->setEnabled(false);
+    m_ui->filterLayout->insertWidget(0, filters, 1);
+    m_ui->filterLayout->setAlignment(m_ui->btnSearch, Qt::AlignTop);
+    setTabOrder(filters, m_ui->btnSearch);
+}
+
+QPushButton* AppListTab::addButton(const QString& name, const QString& text, const QString& icon)
+{
+    auto* extra = new QPushButton(QIcon(icon), text, this);
+    extra->setObjectName(name);
+    m_ui->buttonLayout->insertWidget(m_ui->buttonLayout->indexOf(m_ui->lblCount), extra);
+    return extra;
 }
 
 void AppListTab::takeAddAndDeleteAway()

@@ -61,11 +61,16 @@ protected:
     /** True where the right behind the key is asked once for the page, before any record is looked at. */
     [[nodiscard]] virtual bool asksOnce(int) const { return false; }
     virtual KorEntity* readEntity(int id);
+    /** Lets the user change a record that was read for it; true when it was saved. False ends the walk over the rows.
+     */
+    virtual bool editEntity(KorEntity* entity);
     virtual bool insertEntity(KorEntity* entity);
     virtual bool updateEntity(KorEntity* entity);
     virtual bool removeEntity(KorEntity* entity);
     /** The last word before a delete that the user has confirmed; it tells the user why not. */
     virtual bool mayDelete(KorEntity*) { return true; }
+    /** Called when a form has been saved and is closed, before the list is read again: printing and the like. */
+    virtual void entitySaved(KorEntity*) {}
     /** Called when the walk over the selected rows has ended and at least one of them was saved. */
     virtual void edited() {}
     /** Called after the grid got a new model: column widths and the like. */
@@ -77,6 +82,10 @@ protected:
     bool runDialog(KorDialog& dialog, bool isNew);
     void showServiceError(bool critical = true);
     void tellNotFound(const QString& text);
+    /** Puts a page's own filters where the text box and its label stand. */
+    void replaceTextFilter(QWidget* filters);
+    /** A further button in the row below the list, after those that every list has; the caller connects it. */
+    QPushButton* addButton(const QString& name, const QString& text, const QString& icon);
     /** For records that the program makes itself: the page edits them, and that is all. */
     void takeAddAndDeleteAway();
 

@@ -39,7 +39,7 @@ ZavelBusinessRegistry::ZavelBusinessRegistry(QObject* parent)
     sales.salesList = mappers->penjualanInfoMapper();
     sales.receivables = mappers->piutangMapper();
     sales.commissions = mappers->komisiAgenMapper();
-    sales.pendingCommissions = mappers->allAgentCommisionMapper();
+    sales.agentSales = mappers->allAgentCommisionMapper();
     sales.invoices = PosMapperRegistry::instance()->invoiceMapper();
     make<BusinessPenjualan>(sales);
 }

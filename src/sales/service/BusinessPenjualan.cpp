@@ -1,6 +1,8 @@
 #include "sales/service/BusinessPenjualan.h"
 
 #include "app/context/EntityPool.h"
+#include "sales/commission/DataMapperKomisiAgen.h"
+#include "sales/fastfood/DataMapperInvoiceFastFood.h"
 #include "sales/fastfood/EntityInvoiceFastFood.h"
 #include "sales/invoice/IInvoice.h"
 #include "sales/invoice/Invoice.h"
@@ -8,7 +10,10 @@
 #include "sales/order/DataMapperMakanDitempat.h"
 #include "sales/payment/DataMapperInvoiceMakanDitempat.h"
 #include "sales/payment/EntityInvoiceMakanDitempat.h"
+#include "sales/receivable/DataMapperPiutang.h"
 #include "sales/service/OrderStatus.h"
+#include "sales/takeaway/DataMapperBawaPulang.h"
+#include "sales/takeaway/DataMapperInvoiceBawaPulang.h"
 #include "sales/takeaway/EntityInvoiceBawaPulang.h"
 
 #include <QDebug>
