@@ -6,6 +6,8 @@ class DataMapperEmployee;
 class DataMapperInvoice;
 class DataMapperMember;
 class DataMapperUser;
+class EntitySalesSummaryInfo;
+class EntitySoldItem;
 
 /** Reads the sales of all three kinds: the invoices with their links, orders, users and waitresses. It has no table. */
 class DataMapperPenjualanInfo final : public AppDataMapper
@@ -32,7 +34,16 @@ public:
     using AppDataMapper::fillFromRow;
     KorEntity* fillFromRow(KorQuery& query, KorEntity* entity) override;
 
+    // Sums, oldest first; both limits count, and the user -1 stands for all.
+    [[nodiscard]] QList<EntitySalesSummaryInfo*> getDailySales(const QDate& from, const QDate& to, int userId);
+    [[nodiscard]] QList<EntitySalesSummaryInfo*> getMonthlySales(const QDate& from, const QDate& to, int userId);
+    /** Sorted by one of its columns: kode, nama, item_type, total_qty or total_price; any other word is refused. */
+    [[nodiscard]] QList<EntitySoldItem*> getSoldItems(const QDate& from, const QDate& to, const QString& direction,
+                                                      const QString& sortColumn, const QString& itemType);
+
 private:
+    [[nodiscard]] QList<EntitySalesSummaryInfo*> salesBy(const QString& period, const QString& name, const QDate& from,
+                                                         const QDate& to, int userId);
     [[nodiscard]] QString typeNameOf(KorQuery& query) const;
 
     Partners m_partners;

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "kor/entity/KorEntity.h"
+
+/** What was sold of one item. It is read, never stored. The amount is as stored: whole currency units. */
+class EntitySoldItem : public KorEntity
+{
+    Q_OBJECT
+    KOR_PROPERTY(QString, Kode, QString())
+    KOR_PROPERTY(QString, Nama, QString())
+    /** The item type's code. */
+    KOR_PROPERTY(QString, ItemType, QString())
+    KOR_PROPERTY(qint64, TotalQty, 0)
+    KOR_PROPERTY(qint64, TotalPrice, 0)
+
+public:
+    using KorEntity::KorEntity;
+};

@@ -1,0 +1,193 @@
+#include "app/context/EntityPool.h"
+#include "kor/business/KorServiceDirectory.h"
+#include "sales/list/EntitySalesSummaryInfo.h"
+#include "sales/list/EntitySoldItem.h"
+#include "sales/service/BusinessPenjualan.h"
+#include "support/ShopRows.h"
+#include "support/TestDatabase.h"
+
+#include <QTest>
+
+namespace
+{
+const QDate first(2026, 2, 27);
+const QDate last(2026, 3, 2);
+} // namespace
+
+/** The sums of what was sold, by day, by month and by item. */
+class TestSalesFigures : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void cleanupTestCase() { m_database.reset(); }
+
+    void salesAreSummedByDayAndByMonth_data();
+    void salesAreSummedByDayAndByMonth();
+    void soldItemsAreSummedAndSorted_data();
+    void soldItemsAreSummedAndSorted();
+    void anUnknownOrderIsRefusedBeforeItReachesTheDatabase_data();
+    void anUnknownOrderIsRefusedBeforeItReachesTheDatabase();
+
+private:
+    void sell(const QString& day, int user, int total, int cash, int other, int item, int qty);
+
+    std::unique_ptr<TestDatabase> m_database;
+    BusinessPenjualan* m_sales = nullptr;
+    EntityPool m_pool;
+};
+
+void TestSalesFigures::sell(const QString& day, int user, int total, int cash, int other, int item, int qty)
+{
+    // The amounts in their columns' order; only three of them count here.
+    const auto money = [](const QStringList& amounts) { return "'Rp', " + amounts.join(", 'Rp', "); };
+    const QString sum = QString::number(total);
+    const QStringList amounts{sum, "0", "0", sum, QString::number(cash), "0", QString::number(other), "0"};
+    const int invoice = m_database
+                            ->value(QString("INSERT INTO invoice (sub_total_currency, sub_total_amount, "
+                                            "discount_currency, discount_amount, tax_currency, tax_amount, "
+                                            "grandtotal_currency, grandtotal_amount, amount_paid_currency, "
+                                            "amount_paid_amount, net_due_currency, net_due_amount, "
+                                            "other_payment_currency, other_payment_amount, service_currency, "
+                                            "service_amount, no, invoice_date, invoice_type, status, disc_perc, "
+                                            "tax_perc, service_perc, acct_code, createdby, version) VALUES "
+                                            "(%1, '', '%2', 'TRF', 1, 0, 0, 0, '1-100', %3, 1) RETURNING id")
+                                        .arg(money(amounts), day)
+                                        .arg(user))
+                            .toInt();
+    m_database->run(QString("INSERT INTO invoice_detail (price_each_currency, price_each_amount, discount_currency, "
+                            "discount_amount, total_currency, total_amount, invoice_id, item_id, qty, version) VALUES "
+                            "(%1, %2, %3, %4, 1)")
+                        .arg(money({"1", "0", sum}))
+                        .arg(invoice)
+                        .arg(item)
+                        .arg(qty));
+}
+
+void TestSalesFigures::initTestCase()
+{
+    m_database = std::make_unique<TestDatabase>();
+    insertShop(*m_database);
+    loginAsAdmin();
+    m_sales = service<BusinessPenjualan>("Sales");
+    m_database->run("INSERT INTO jenis_item (id, kode, nama, version) VALUES (2, 'DRINK', 'Drink', 1)");
+    for (const char* item : {"2, 'TEA', 'Tea', 2", "3, 'SOUP', 'Soup', 1"})
+        m_database->run(QString("INSERT INTO item (id, kode, nama, jenis, item_type, is_group, satuan, "
+                                "harga_beli_currency, harga_beli_amount, harga_jual_lokal_currency, "
+                                "harga_jual_lokal_amount, sales_acct_code, inventory_acct_code, "
+                                "cost_of_sales_acct_code, version) VALUES (%1, 1, false, 1, 'Rp', 1, 'Rp', 1, '1-100', "
+                                "'1-100', '1-100', 1)")
+                            .arg(item));
+    sell("2026-02-26", 1, 5000, 5000, 0, 1, 50);
+    sell("2026-02-27", 1, 900, 1000, 0, 1, 3);
+    sell("2026-02-27", 2, 400, 100, 300, 2, 8);
+    // More than 32 bits hold.
+    sell("2026-03-02", 2, 2000000000, 2000000000, 0, 3, 3);
+    sell("2026-03-02", 2, 2000000000, 0, 0, 3, 4);
+    sell("2026-03-03", 2, 7000, 7000, 0, 1, 70);
+}
+
+void TestSalesFigures::salesAreSummedByDayAndByMonth_data()
+{
+    QTest::addColumn<bool>("monthly");
+    QTest::addColumn<int>("user");
+    QTest::addColumn<QStringList>("sums");
+    QTest::newRow("by day, without the change handed back")
+        << false << -1 << QStringList{"2026-02-27 2 1300 1000 300", "2026-03-02 2 4000000000 2000000000 0"};
+    QTest::newRow("by day, of one user") << false << 1 << QStringList{"2026-02-27 1 900 900 0"};
+    QTest::newRow("by day, of a user who sold nothing") << false << 3 << QStringList{};
+    QTest::newRow("by month") << true << -1
+                              << QStringList{"2026-02-01 2 1300 1000 300", "2026-03-01 2 4000000000 2000000000 0"};
+    QTest::newRow("by month, of one user") << true << 1 << QStringList{"2026-02-01 1 900 900 0"};
+}
+
+void TestSalesFigures::salesAreSummedByDayAndByMonth()
+{
+    QFETCH(bool, monthly);
+    QFETCH(int, user);
+    const EntityPoolScope scope(m_pool);
+    QStringList sums;
+    for (const EntitySalesSummaryInfo* sum :
+         monthly ? m_sales->getMonthlySales(first, last, user) : m_sales->getDailySales(first, last, user))
+        sums.append(QString("%1 %2 %3 %4 %5")
+                        .arg(sum->getDate().toString(Qt::ISODate))
+                        .arg(sum->getSalesCount())
+                        .arg(sum->getTotal())
+                        .arg(sum->getCash())
+                        .arg(sum->getCredit()));
+    QVERIFY2(!m_sales->hasError(), qPrintable(m_sales->takeErrors()));
+    QTEST(sums, "sums");
+}
+
+void TestSalesFigures::soldItemsAreSummedAndSorted_data()
+{
+    QTest::addColumn<QString>("direction");
+    QTest::addColumn<QString>("column");
+    QTest::addColumn<QString>("itemType");
+    QTest::addColumn<QStringList>("items");
+    const QString rice = "RICE Rice FOOD 3 900";
+    const QString tea = "TEA Tea DRINK 8 400";
+    const QString soup = "SOUP Soup FOOD 7 4000000000";
+    QTest::newRow("best sellers first") << "desc"
+                                        << "total_qty"
+                                        << "" << QStringList{tea, soup, rice};
+    QTest::newRow("least money first") << "ASC"
+                                       << "total_price"
+                                       << "" << QStringList{tea, rice, soup};
+    QTest::newRow("by name") << "asc"
+                             << "Nama"
+                             << "" << QStringList{rice, soup, tea};
+    QTest::newRow("equal ones by their codes") << "desc"
+                                               << "item_type"
+                                               << "" << QStringList{rice, soup, tea};
+    QTest::newRow("of one type") << "desc"
+                                 << "kode"
+                                 << "FOOD" << QStringList{soup, rice};
+    QTest::newRow("of a type with a quote in it") << "desc"
+                                                  << "kode"
+                                                  << "FO'OD" << QStringList{};
+}
+
+void TestSalesFigures::soldItemsAreSummedAndSorted()
+{
+    QFETCH(QString, direction);
+    QFETCH(QString, column);
+    QFETCH(QString, itemType);
+    const EntityPoolScope scope(m_pool);
+    QStringList items;
+    for (const EntitySoldItem* item : m_sales->getSoldItems(first, last, direction, column, itemType))
+        items.append(QString("%1 %2 %3 %4 %5")
+                         .arg(item->getKode(), item->getNama(), item->getItemType())
+                         .arg(item->getTotalQty())
+                         .arg(item->getTotalPrice()));
+    QVERIFY2(!m_sales->hasError(), qPrintable(m_sales->takeErrors()));
+    QTEST(items, "items");
+}
+
+void TestSalesFigures::anUnknownOrderIsRefusedBeforeItReachesTheDatabase_data()
+{
+    QTest::addColumn<QString>("direction");
+    QTest::addColumn<QString>("column");
+    QTest::newRow("column") << "desc"
+                            << "total_qty; drop table invoice";
+    QTest::newRow("direction") << "desc; drop table invoice"
+                               << "total_qty";
+    QTest::newRow("the wrong way round") << "total_qty"
+                                         << "desc";
+    QTest::newRow("empty") << ""
+                           << "";
+}
+
+void TestSalesFigures::anUnknownOrderIsRefusedBeforeItReachesTheDatabase()
+{
+    QFETCH(QString, direction);
+    QFETCH(QString, column);
+    const StatementCount statements;
+    QVERIFY(m_sales->getSoldItems(first, last, direction, column, "").isEmpty());
+    QCOMPARE(statements.count(), 0);
+    QCOMPARE(m_sales->takeErrors(), QString("The items can not be sorted by: %1 %2\r\n").arg(column, direction));
+}
+
+QTEST_MAIN(TestSalesFigures)
+#include "tst_sales_figures.moc"
