@@ -13,6 +13,8 @@
 #include "sales/invoice/InvoiceTotals.h"
 #include "sales/order/DataMapperMakanDitempat.h"
 #include "sales/service/BusinessPenjualan.h"
+#include "sales/takeaway/DataMapperBawaPulang.h"
+#include "sales/takeaway/EntityBawaPulangDetail.h"
 
 namespace
 {
@@ -115,10 +117,9 @@ EntityMakanDitempat* Builders::openOrder(EntityMeja* table, const EntityOrder::L
     return saved(order(table, lines, guest), ZavelMapperRegistry::instance()->makanDitempatMapper());
 }
 
-EntityInvoiceMakanDitempat* Builders::invoice(EntityMakanDitempat* order, double paid)
+template <class Sale>
+Sale* Builders::savedSale(Sale* sale, const EntityOrder* order, double paid)
 {
-    auto* sale = new EntityInvoiceMakanDitempat(&m_records);
-    sale->setMakanDitempat(order);
     QList<EntityInvoiceDetail*> lines;
     double subtotal = 0;
     for (const EntityOrderDetail* ordered : order->getDetails()) {
@@ -143,4 +144,37 @@ EntityInvoiceMakanDitempat* Builders::invoice(EntityMakanDitempat* order, double
     if (!sales->insertInvoice(sale))
         qFatal("invoice: %s", qPrintable(sales->takeErrors()));
     return sale;
+}
+
+EntityInvoiceMakanDitempat* Builders::invoice(EntityMakanDitempat* order, double paid)
+{
+    auto* sale = new EntityInvoiceMakanDitempat(&m_records);
+    sale->setMakanDitempat(order);
+    return savedSale(sale, order, paid);
+}
+
+EntityBawaPulang* Builders::takeAway(const QList<QPair<EntityItem*, int>>& lines, const QString& guest)
+{
+    auto* order = new EntityBawaPulang(&m_records);
+    order->setPemesan(guest);
+    order->setTgl(QDate::currentDate());
+    order->setStatus(EntityOrder::WAITING_FOR_MENU);
+    EntityOrder::Lines details;
+    for (const auto& ordered : lines) {
+        auto* line = new EntityBawaPulangDetail(&m_records);
+        line->setItem(ordered.first);
+        line->setQty(ordered.second);
+        line->setPriceEach(ordered.first->getHargaJualLokal());
+        line->setTotal(money(ordered.first->getHargaJualLokal()->getAmount() * ordered.second));
+        details.append(line);
+    }
+    order->setDetails(details);
+    return saved(order, ZavelMapperRegistry::instance()->bawaPulangMapper());
+}
+
+EntityInvoiceBawaPulang* Builders::invoice(EntityBawaPulang* order, double paid)
+{
+    auto* sale = new EntityInvoiceBawaPulang(&m_records);
+    sale->setBawaPulang(order);
+    return savedSale(sale, order, paid);
 }

@@ -6,6 +6,7 @@
 #include "sales/order/EntityMakanDitempat.h"
 #include "sales/order/EntityMakanDitempatDetail.h"
 #include "sales/payment/EntityInvoiceMakanDitempat.h"
+#include "sales/takeaway/EntityInvoiceBawaPulang.h"
 
 /**
  * A small restaurant for tests: rows written by the program's own mappers, and records on top of them. The records
@@ -32,8 +33,13 @@ public:
                                    const QString& guest = QString());
     /** A saved invoice of the whole order; the order's status follows from what is paid. */
     EntityInvoiceMakanDitempat* invoice(EntityMakanDitempat* order, double paid);
+    /** A saved order to take away. */
+    EntityBawaPulang* takeAway(const QList<QPair<EntityItem*, int>>& lines, const QString& guest = QString());
+    EntityInvoiceBawaPulang* invoice(EntityBawaPulang* order, double paid);
 
 private:
+    template <class Sale>
+    Sale* savedSale(Sale* sale, const EntityOrder* order, double paid);
     Money* money(double amount) { return new Money(&m_records, amount, "Rp"); }
     EntityJenisItem* itemType(const QString& code);
     EntitySatuan* unit();

@@ -1,6 +1,7 @@
 #include "sales/order/DataMapperOrder.h"
 
 #include "app/context/AppContext.h"
+#include "app/context/EntityPool.h"
 #include "app/persistence/AppDocumentLines.h"
 #include "kor/entity/KorMetaDataMap.h"
 
@@ -94,6 +95,21 @@ bool DataMapperOrder::updateStatus(EntityOrder* order)
         explainFailedWrite(order);
     setError(statusFailure() + " \r\n " + takeError());
     return false;
+}
+
+bool DataMapperOrder::markDone(int orderId)
+{
+    // Read again: the row's version has moved on with every save since the order was opened.
+    EntityPool pool;
+    const EntityPoolScope scope(pool);
+    auto* fresh = static_cast<EntityOrder*>(findById(orderId));
+    if (!fresh) {
+        if (!hasError())
+            setError(tr("Can not find entity with id: %1").arg(orderId));
+        return false;
+    }
+    fresh->setStatus(EntityOrder::DONE);
+    return updateStatus(fresh);
 }
 
 QList<KorEntity*> DataMapperOrder::linesOf(KorEntity* order) const

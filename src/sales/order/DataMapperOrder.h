@@ -37,6 +37,8 @@ public:
     bool remove(KorEntity* order) override;
     /** Writes the status alone. */
     bool updateStatus(EntityOrder* order);
+    /** Writes that the guests are served and gone, whatever was saved since the order was opened. */
+    bool markDone(int orderId);
     /** Orders by their ids, with lines; two statements. */
     [[nodiscard]] QList<EntityOrder*> findByIds(const QList<int>& ids);
 

@@ -94,29 +94,7 @@ void BusinessPenjualan::setDineStatus(EntityMakanDitempat* order, int status)
 
 bool BusinessPenjualan::makanDitempatSelesai(EntityMakanDitempat* order)
 {
-    // Read again: the row's version has moved on with every save since the order was opened.
-    EntityPool pool;
-    const EntityPoolScope scope(pool);
-    auto* fresh = static_cast<EntityMakanDitempat*>(m_mappers.dineOrders->findById(order->getId()));
-    if (!fresh) {
-        addError("makanDitempatSelesai", m_mappers.dineOrders->hasError()
-                                             ? m_mappers.dineOrders->takeError()
-                                             : tr("Can not find entity with id: %1").arg(order->getId()));
-        return false;
-    }
-    fresh->setStatus(EntityOrder::DONE);
-    return written(m_mappers.dineOrders->updateStatus(fresh), m_mappers.dineOrders, "makanDitempatSelesai");
-}
-
-// --- orders to take away -------------------------------------------------------------------------------------------
-
-bool BusinessPenjualan::updateStatusBawaPulang(EntityInvoiceBawaPulang* sale)
-{
-    EntityBawaPulang* order = sale->getBawaPulang();
-    const int status = orderStatusOfInvoiceStatus(sale->getInvoice()->getStatus());
-    if (status >= 0)
-        order->setStatus(status);
-    return written(m_mappers.takeAwayOrders->updateStatus(order), m_mappers.takeAwayOrders, "updateStatusBawaPulang");
+    return written(m_mappers.dineOrders->markDone(order->getId()), m_mappers.dineOrders, "makanDitempatSelesai");
 }
 
 // --- invoices ------------------------------------------------------------------------------------------------------

@@ -3,7 +3,6 @@
 #include "kor/entity/KorMetaDataMap.h"
 #include "masterdata/member/DataMapperMember.h"
 #include "sales/takeaway/DataMapperBawaPulangDetail.h"
-#include "sales/takeaway/EntityBawaPulang.h"
 
 DataMapperBawaPulang::DataMapperBawaPulang(QObject* parent, DataMapperMember* members, ItemPartners partners)
     : DataMapperOrder(parent)
@@ -24,6 +23,20 @@ QStringList DataMapperBawaPulang::indexStatements() const
     // In the words of the list's condition, or the planner would not see that the index answers it.
     return {index("open", "(id) WHERE status is null or (status is not null and status <> 6)"),
             index("member_id", "(member_id) WHERE member_id IS NOT NULL")};
+}
+
+QList<EntityBawaPulang*> DataMapperBawaPulang::getBawaPulangList(int status)
+{
+    // The open ones in the words of the index, with the number in it.
+    const QString order = " order by bawa_pulang.id";
+    const QString open = " where status is null or (status is not null and status <> %1) ";
+    const QList<EntityOrder*> found =
+        status == 0 ? findOrders(open.arg(EntityOrder::DONE) + order, {})
+                    : findOrders(" where (status is not null and status = :status)" + order, {{":status", status}});
+    QList<EntityBawaPulang*> orders;
+    for (EntityOrder* one : found)
+        orders.append(static_cast<EntityBawaPulang*>(one));
+    return orders;
 }
 
 const AppDocumentMapper::Messages& DataMapperBawaPulang::messages() const

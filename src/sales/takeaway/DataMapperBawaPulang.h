@@ -1,6 +1,7 @@
 #pragma once
 
 #include "sales/order/DataMapperOrder.h"
+#include "sales/takeaway/EntityBawaPulang.h"
 
 /** The orders to take away, in "bawa_pulang". */
 class DataMapperBawaPulang final : public DataMapperOrder
@@ -12,6 +13,9 @@ public:
 
     KorEntity* createEntity() override;
     [[nodiscard]] QStringList indexStatements() const override;
+
+    /** The orders in the status, or with 0 all that are not done, in the order in which they were taken. */
+    [[nodiscard]] QList<EntityBawaPulang*> getBawaPulangList(int status);
 
 protected:
     [[nodiscard]] const Messages& messages() const override;

@@ -36,6 +36,12 @@ DataMapperInvoiceLink::Messages DataMapperInvoiceBawaPulang::messages() const
             tr("error: insert take away invoice detail failed.\r\n")};
 }
 
+QList<EntityInvoiceBawaPulang*> DataMapperInvoiceBawaPulang::findByOrder(int orderId)
+{
+    return castAll<EntityInvoiceBawaPulang>(
+        findLinks(" where bawa_pulang_id = :id order by invoice_bawa_pulang.id", {{":id", orderId}}));
+}
+
 bool DataMapperInvoiceBawaPulang::loadOrders(const QList<KorEntity*>& links)
 {
     QList<int> ids;

@@ -3,6 +3,7 @@
 #include "sales/invoice/DataMapperInvoiceLink.h"
 
 class DataMapperBawaPulang;
+class EntityInvoiceBawaPulang;
 
 /** The invoices of orders to take away, in "invoice_bawa_pulang". */
 class DataMapperInvoiceBawaPulang final : public DataMapperInvoiceLink
@@ -15,6 +16,9 @@ public:
     KorEntity* createEntity() override;
     [[nodiscard]] QStringList indexStatements() const override;
     [[nodiscard]] QString keyName() const override;
+
+    /** The invoices of the order with their lines, in a fixed number of statements. */
+    [[nodiscard]] QList<EntityInvoiceBawaPulang*> findByOrder(int orderId);
 
 protected:
     [[nodiscard]] Messages messages() const override;
