@@ -6,8 +6,10 @@ class DataMapperEmployee;
 class DataMapperInvoice;
 class DataMapperMember;
 class DataMapperUser;
+class EntityPenjualanInfo;
 class EntitySalesSummaryInfo;
 class EntitySoldItem;
+struct SalesFilter;
 
 /** Reads the sales of all three kinds: the invoices with their links, orders, users and waitresses. It has no table. */
 class DataMapperPenjualanInfo final : public AppDataMapper
@@ -34,6 +36,11 @@ public:
     using AppDataMapper::fillFromRow;
     KorEntity* fillFromRow(KorQuery& query, KorEntity* entity) override;
 
+    // The latest sales first.
+    [[nodiscard]] QList<EntityPenjualanInfo*> search(const SalesFilter& filter);
+    /** The sales that the agent brought and was not paid for yet. */
+    [[nodiscard]] QList<EntityPenjualanInfo*> findPendingOfAgent(int agentId);
+
     // Sums, oldest first; both limits count, and the user -1 stands for all.
     [[nodiscard]] QList<EntitySalesSummaryInfo*> getDailySales(const QDate& from, const QDate& to, int userId);
     [[nodiscard]] QList<EntitySalesSummaryInfo*> getMonthlySales(const QDate& from, const QDate& to, int userId);
@@ -42,6 +49,7 @@ public:
                                                       const QString& sortColumn, const QString& itemType);
 
 private:
+    [[nodiscard]] QList<EntityPenjualanInfo*> latestFirst(KorPaging& paging);
     [[nodiscard]] QList<EntitySalesSummaryInfo*> salesBy(const QString& period, const QString& name, const QDate& from,
                                                          const QDate& to, int userId);
     [[nodiscard]] QString typeNameOf(KorQuery& query) const;

@@ -26,9 +26,13 @@ public:
     void setTypeName(const QString& name) { m_typeName = name; }
     [[nodiscard]] EntityEmployee* waitress() const { return m_waitress; }
     void setWaitress(EntityEmployee* waitress) { m_waitress = waitress; }
+    /** The agent who brought the guests, KorNoValue where none did. */
+    [[nodiscard]] int agentId() const { return m_agentId; }
+    void setAgentId(int id) { m_agentId = id; }
 
 private:
     Invoice* m_invoice = nullptr;
     QString m_typeName;
     EntityEmployee* m_waitress = nullptr;
+    int m_agentId = KorNoValue;
 };

@@ -1,0 +1,101 @@
+#include "support/SalesRows.h"
+
+#include "support/TestDatabase.h"
+
+namespace
+{
+const char invoiceColumns[] =
+    "INSERT INTO invoice (%1 invoice_date, no, status, invoice_type, sub_total_currency, sub_total_amount, disc_perc, "
+    "discount_currency, discount_amount, tax_perc, tax_currency, tax_amount, grandtotal_currency, grandtotal_amount, "
+    "amount_paid_currency, amount_paid_amount, net_due_currency, net_due_amount, other_payment_currency, "
+    "other_payment_amount, service_perc, service_currency, service_amount, member_id, pemesan, acct_code, createdby, "
+    "version) ";
+
+QString idOrNull(int id) { return id == 0 ? QString("NULL") : QString::number(id); }
+
+void insertLink(TestDatabase& database, const SaleRow& sale, int invoice)
+{
+    const QString member = idOrNull(sale.member);
+    const QString people = idOrNull(sale.employee) + ", " + idOrNull(sale.agent);
+    if (sale.type == "TRF") {
+        database.run(QString("INSERT INTO invoice_fast_food (invoice_id, employee_id, agent_id, member_id, version) "
+                             "VALUES (%1, %2, %3, 1)")
+                         .arg(invoice)
+                         .arg(people, member));
+        return;
+    }
+    const bool dine = sale.type == "TRD";
+    int order = sale.order;
+    if (order == 0)
+        order = database
+                    .value(QString(dine ? "INSERT INTO makan_ditempat (status, tgl, member_id, meja_id, version) "
+                                          "VALUES (1, '%1', %2, %3, 1) RETURNING id"
+                                        : "INSERT INTO bawa_pulang (status, tgl, member_id, version) "
+                                          "VALUES (1, '%1', %2, 1) RETURNING id")
+                               .arg(sale.date.toString(Qt::ISODate), member, dine ? QString::number(sale.table) : ""))
+                    .toInt();
+    database.run(QString(dine ? "INSERT INTO invoice_makan_ditempat (invoice_id, makan_ditempat_id, employee_id, "
+                                "agent_id, version) VALUES (%1, %2, %3, 1)"
+                              : "INSERT INTO invoice_bawa_pulang (invoice_id, bawa_pulang_id, member_id, version) "
+                                "VALUES (%1, %2, %3, 1)")
+                     .arg(invoice)
+                     .arg(order)
+                     .arg(dine ? people : member));
+}
+} // namespace
+
+void insertSeller(TestDatabase& database, int id, const QString& name)
+{
+    database.run("INSERT INTO user_group (id, name, version) VALUES (900, 'sellers', 1) ON CONFLICT DO NOTHING");
+    database.run(QString("INSERT INTO users (id, first_name, last_name, username, password, user_group_id, currency, "
+                         "version) VALUES (%1, '', '', '%2', '', 900, '', 1) ON CONFLICT (id) DO NOTHING")
+                     .arg(id)
+                     .arg(name));
+}
+
+int insertSale(TestDatabase& database, const SaleRow& sale)
+{
+    const QString values = QString("VALUES ('%1', '%2', %3, '%4', 'Rp', %5, 0, 'Rp', 0, 0, 'Rp', 0, 'Rp', %5, 'Rp', "
+                                   "%6, 'Rp', %5 - %6 - %7, 'Rp', %7, 0, 'Rp', 0, %8, '%9'")
+                               .arg(sale.date.toString(Qt::ISODate), sale.no)
+                               .arg(sale.status)
+                               .arg(sale.type)
+                               .arg(sale.total)
+                               .arg(sale.paid)
+                               .arg(sale.other)
+                               .arg(idOrNull(sale.member), sale.guest);
+    const int invoice = database
+                            .value(QString(invoiceColumns).arg(QString()) + values +
+                                   QString(", '1-100', %1, 1) RETURNING id").arg(sale.user))
+                            .toInt();
+    database.run(QString("INSERT INTO invoice_detail (invoice_id, item_id, qty, price_each_currency, "
+                         "price_each_amount, discount_currency, discount_amount, total_currency, total_amount, "
+                         "version) VALUES (%1, 1, 1, 'Rp', %2, 'Rp', 0, 'Rp', %2, 1)")
+                     .arg(invoice)
+                     .arg(sale.total));
+    insertLink(database, sale, invoice);
+    return invoice;
+}
+
+void insertManySales(TestDatabase& database, int count)
+{
+    // Of ten sales seven are at a table, two at the counter, one is carried home.
+    database.run(QString(invoiceColumns).arg("id,") +
+                 QString("SELECT i, current_date, 'TR-' || lpad(i::text, 6, '0'), CASE WHEN i % 9 = 0 THEN 3 ELSE 1 "
+                         "END, CASE WHEN i % 10 < 7 THEN 'TRD' WHEN i % 10 < 9 THEN 'TRF' ELSE 'TRP' END, 'Rp', "
+                         "i * 10, 0, 'Rp', 0, 0, 'Rp', 0, 'Rp', i * 10, 'Rp', i * 5, 'Rp', i * 5, 'Rp', 0, 0, 'Rp', "
+                         "0, CASE WHEN i % 5 = 0 THEN 1 END, 'Guest ' || i, '1-100', 1, 1 FROM generate_series(1, %1) "
+                         "i")
+                     .arg(count));
+    database.run("INSERT INTO makan_ditempat (id, status, tgl, meja_id, pemesan, version) SELECT id, 6, current_date, "
+                 "1, pemesan, 1 FROM invoice WHERE invoice_type = 'TRD'");
+    database.run("INSERT INTO bawa_pulang (id, status, tgl, pemesan, version) SELECT id, 6, current_date, pemesan, 1 "
+                 "FROM invoice WHERE invoice_type = 'TRP'");
+    database.run("INSERT INTO invoice_makan_ditempat (invoice_id, makan_ditempat_id, employee_id, version) SELECT id, "
+                 "id, 1, 1 FROM invoice WHERE invoice_type = 'TRD'");
+    database.run("INSERT INTO invoice_fast_food (invoice_id, employee_id, agent_id, version) SELECT id, 1, 1, 1 FROM "
+                 "invoice WHERE invoice_type = 'TRF'");
+    database.run("INSERT INTO invoice_bawa_pulang (invoice_id, bawa_pulang_id, version) SELECT id, id, 1 FROM invoice "
+                 "WHERE invoice_type = 'TRP'");
+    database.run("ANALYZE");
+}
