@@ -1,18 +1,12 @@
 #pragma once
 
-#include "app/context/EntityPool.h"
-#include "kor/widgets/KorDialog.h"
-#include "sales/invoice/InvoiceTotals.h"
+#include "sales/payment/InvoiceSplit.h"
+#include "sales/payment/OrderPaymentDialog.h"
 
 #include <memory>
 
-class BusinessPenjualan;
-class EntityInvoiceDetail;
 class EntityInvoiceMakanDitempat;
 class EntityMakanDitempat;
-class EntityMember;
-class PaymentCascade;
-class PaymentParties;
 class TabBayarMakanDitempatDetail;
 
 namespace Ui
@@ -20,11 +14,8 @@ namespace Ui
 class DialogBayarMakanDitempat;
 }
 
-/**
- * Turns the order of a table into an invoice: takes discount, tax and service, takes the money, prints the bill and
- * ends the table. A save leaves the form open on the saved invoice; a failed one leaves it as it was typed.
- */
-class DialogBayarMakanDitempat final : public KorDialog
+/** The payment form of a table. A party that pays apart gets an invoice for each of its groups. */
+class DialogBayarMakanDitempat final : public OrderPaymentDialog
 {
     Q_OBJECT
 
@@ -32,70 +23,46 @@ public:
     explicit DialogBayarMakanDitempat(QWidget* parent = nullptr);
     ~DialogBayarMakanDitempat() override;
 
-    /**
-     * Opens the order's invoice, the one that the cashier chooses among several, or a new one. False means that the
-     * action is to be dropped: the cashier cancelled, or the invoices could not be read. The order is borrowed;
-     * what the form puts into it dies with the form.
-     */
-    [[nodiscard]] bool openOrder(EntityMakanDitempat* order);
-
     bool validate() override;
-    KorEntity* getEntity() override;
-    void setEntity(KorEntity* entity) override;
     bool beforeAccept() override;
 
 public slots:
-    void onTableSelected();
-    void onMemberSelected();
-    void onAgentSelected();
-    void onEmployeeSelected();
-    void onItemAdded();
-    void onTabItemSelected();
-    void on_txtDiscPerc_textChanged(const QString&) {}
-    void on_txtTaxPerc_textChanged(const QString&) {}
-    void on_txtServicePerc_textChanged(const QString&) {}
-    void on_txtPaid_textChanged(const QString& text);
-    void on_txtCredit_textChanged(const QString& text);
-    void on_btnFinish_clicked();
-    void onCashAccountSelected();
+    void onTableSelected() {}
     void on_btnPrintBill_clicked();
-    void on_txtDiscPerc_editingFinished();
-    void on_txtDiscount_textChanged(const QString&) {}
-    void on_txtService_textChanged(const QString&) {}
-    void on_txtDiscount_selectionChanged() {}
-    void on_txtTax_textChanged(const QString&) {}
-    void on_txtDiscount_editingFinished();
-    void on_txtTaxPerc_editingFinished();
-    void on_txtTax_editingFinished();
-    void on_txtServicePerc_editingFinished();
-    void on_txtService_editingFinished();
+    /** Saves the invoice with what stays on it, then takes the money of each group in a form of its own. */
+    void onSplitInvoice();
+    /** Sorts what is split off into its groups. */
+    void getSplitInvoices();
+
+protected:
+    [[nodiscard]] QList<EntityInvoiceDetail*> invoiceLines() const override;
+    void focusLines() override;
+    [[nodiscard]] Texts texts() const override;
+    void setLines(const QList<EntityInvoiceDetail*>& lines) override;
+    QList<EntityInvoiceLink*> readInvoices(int orderId) override;
+    EntityInvoiceLink* choose(const QList<EntityInvoiceLink*>& invoices) override;
+    EntityInvoiceLink* createSale() override;
+    EntityInvoiceLink* readSale(int id) override;
+    [[nodiscard]] EntityOrder* orderOf(const EntityInvoiceLink& sale) const override;
+    void fillSale(EntityInvoiceLink* sale, EntityOrder* order) override;
+    void showSale(const EntityInvoiceLink& sale) override;
+    void showOrder(const EntityOrder& order) override;
+    bool finish(EntityOrder* order) override;
+    void printBill(int saleId) override;
 
 private:
-    void setUpFields();
-    void newInvoice();
-    void showInvoice();
-    void showGuest();
-    void applyMemberDiscount(const EntityMember* member);
-    void checkAmounts();
-    bool readOrderAgain();
-    void readInvoiceAgain();
-    void showMissing(int id);
-    void saveInvoice();
-    void offerToPrint();
-    void offerToFinish();
-    bool finishTable();
-    void printBill();
-    bool ask(const QString& question);
-    void showServiceError();
+    /** Makes the form that of a group: its note stands where the number will be, and it never ends the table. */
+    void showGroup(EntityMakanDitempat* order, const InvoiceLines& lines, const QString& note);
+    /** False when the group has no invoice: the cashier left the form, or the order could not be read. */
+    bool payGroup(const QString& group, const InvoiceLines& lines);
+    /** The invoice takes back what nobody paid for. */
+    void takeBack(const InvoiceLines& lines);
+    [[nodiscard]] bool confirmsSplit();
 
     std::unique_ptr<Ui::DialogBayarMakanDitempat> m_ui;
-    BusinessPenjualan* m_sales;
-    PaymentCascade* m_cascade;
-    PaymentParties* m_parties;
     TabBayarMakanDitempatDetail* m_menu;
-    // What the form read last: the order, the invoice and all that hangs on them. A reload replaces it.
-    EntityPool m_read;
-    EntityMakanDitempat* m_order = nullptr;
-    EntityInvoiceMakanDitempat* m_sale = nullptr;
-    bool m_print = false;
+    QMap<QString, InvoiceLines> m_groups;
+    bool m_isGroup = false;
+    bool m_splitting = false;
+    bool m_saved = false;
 };

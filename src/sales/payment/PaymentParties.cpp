@@ -22,10 +22,13 @@ QString codeOf(const Entity* record)
 PaymentParties::PaymentParties(const Boxes& boxes, KorDialog* form)
     : QObject(form), m_boxes(boxes), m_form(form),
       m_memberBox(new MemberTextBox(boxes.member, service<BusinessMember>("Member"))),
-      m_agentBox(new AgentTextBox(boxes.agent, service<BusinessAgent>("Agent"))),
-      m_employeeBox(new EmployeeTextBox(boxes.employee, service<BusinessEmployee>("Employee"))),
+      m_agentBox(boxes.agent ? new AgentTextBox(boxes.agent, service<BusinessAgent>("Agent")) : nullptr),
+      m_employeeBox(boxes.employee ? new EmployeeTextBox(boxes.employee, service<BusinessEmployee>("Employee"))
+                                   : nullptr),
       m_cashBox(new BankTextBox(boxes.cashAccount, service<BusinessBank>("Bank")))
 {
+    if (!m_agentBox || !m_employeeBox)
+        return;
     m_memberBox->setNextWidget(boxes.agent);
     m_agentBox->setNextWidget(boxes.employee);
 }
@@ -35,7 +38,7 @@ void PaymentParties::lookUp()
     const EntityPoolScope scope(m_found);
     // A code typed by hand counts like one that was picked from the list; a wrong one must not vanish silently.
     const auto unknown = [](const QLineEdit* box) {
-        return tr("There is no record with the code: %1").arg(box->text());
+        return box ? tr("There is no record with the code: %1").arg(box->text()) : QString();
     };
     if (m_boxes.cashAccount->text().isEmpty())
         m_form->addError(m_boxes.cashAccount, tr("Please select a Cash Accounts"));
@@ -52,7 +55,7 @@ template <class Service, class Entity>
 bool PaymentParties::lookUp(QLineEdit* box, const QString& serviceName, const QString& unknown, Entity** found)
 {
     *found = nullptr;
-    if (box->text().isEmpty())
+    if (!box || box->text().isEmpty())
         return true;
     auto* records = service<Service>(serviceName);
     records->clearErrors();

@@ -26,6 +26,7 @@ class PaymentParties : public QObject
     Q_OBJECT
 
 public:
+    /** A way of selling without agents and waitresses has no boxes for them. */
     struct Boxes
     {
         QLineEdit* member;
@@ -38,6 +39,7 @@ public:
     PaymentParties(const Boxes& boxes, KorDialog* form);
 
     [[nodiscard]] MemberTextBox* memberBox() const { return m_memberBox; }
+    // Null where the form has no such box.
     [[nodiscard]] AgentTextBox* agentBox() const { return m_agentBox; }
     [[nodiscard]] EmployeeTextBox* employeeBox() const { return m_employeeBox; }
     [[nodiscard]] BankTextBox* cashBox() const { return m_cashBox; }

@@ -1,49 +1,100 @@
 #include "sales/payment/TabBayarMakanDitempatDetail.h"
 
-#include "app/persistence/AppDocumentLines.h"
 #include "sales/invoice/EntityInvoiceDetail.h"
+#include "sales/payment/DialogBayarMakanDitempatDetailSplit.h"
 #include "sales/payment/TableModelBayarMakanDitempatDetail.h"
 
-#include <QHeaderView>
-#include <QLabel>
-#include <QTableView>
-#include <QVBoxLayout>
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QPushButton>
 
 #include <algorithm>
 
 TabBayarMakanDitempatDetail::TabBayarMakanDitempatDetail(QWidget* parent)
-    : AppTab(parent), m_grid(new QTableView(this)), m_count(new QLabel(this))
+    : InvoiceLinesTab(parent), m_showSplit(new QCheckBox(tr("Pay apart"), this))
 {
-    m_grid->setObjectName("tblDetail");
-    m_count->setObjectName("lblCount");
-    m_grid->horizontalHeader()->setHighlightSections(false);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(8, 8, 8, 4);
-    layout->setSpacing(4);
-    layout->addWidget(m_grid);
-    layout->addWidget(m_count);
+    m_showSplit->setObjectName("cbShowSplit");
+    m_showSplit->setToolTip(tr("Split this invoice among the guests"));
+    m_showSplit->setMinimumHeight(40);
+    footer()->addStretch();
+    footer()->addWidget(m_showSplit);
+    connect(m_showSplit, &QCheckBox::clicked, this, &TabBayarMakanDitempatDetail::on_cbShowSplit_clicked);
+    connect(addButton("btnSplit", tr("Split"), tr("Take a quantity off the selected lines")), &QPushButton::clicked,
+            this, &TabBayarMakanDitempatDetail::on_btnSplit_clicked);
+    connect(addButton("btnDelSplit", tr("Remove Split"), tr("Put back what was taken off the selected lines")),
+            &QPushButton::clicked, this, &TabBayarMakanDitempatDetail::on_btnDelSplit_clicked);
+    connect(addButton("btnProcessSplit", tr("Process Split"), tr("Save, and take the money of each group")),
+            &QPushButton::clicked, this, &TabBayarMakanDitempatDetail::on_btnProcessSplit_clicked);
+    refresh();
 }
 
-void TabBayarMakanDitempatDetail::setDetails(const QList<EntityInvoiceDetail*>& details)
+QPushButton* TabBayarMakanDitempatDetail::addButton(const QString& name, const QString& text, const QString& hint)
 {
-    m_details = details;
-    refresh();
+    auto* button = new QPushButton(text, this);
+    button->setObjectName(name);
+    button->setToolTip(hint);
+    button->setMinimumHeight(40);
+    button->setAutoDefault(false);
+    button->hide();
+    footer()->addWidget(button);
+    m_buttons.append(button);
+    return button;
+}
+
+InvoiceLinesModel* TabBayarMakanDitempatDetail::createModel(const QList<KorEntity*>& lines)
+{
+    return new TableModelBayarMakanDitempatDetail(lines, m_showSplit->isChecked(), this);
 }
 
 bool TabBayarMakanDitempatDetail::hasPendingSplit() const
 {
-    return std::any_of(m_details.cbegin(), m_details.cend(),
+    return std::any_of(details().cbegin(), details().cend(),
                        [](const EntityInvoiceDetail* line) { return line->qtySplit() > 0; });
 }
 
-void TabBayarMakanDitempatDetail::refresh()
+void TabBayarMakanDitempatDetail::showSplit()
 {
-    // The former model goes without clear(): the lines are not its own.
-    delete m_model;
-    m_model = new TableModelBayarMakanDitempatDetail(asEntities(m_details), false, this);
-    applyModel(m_grid, m_model);
-    m_count->setText(tr("%1 Items").arg(m_details.size()));
-    emit ItemAdded();
+    m_showSplit->setChecked(true);
+    on_cbShowSplit_clicked();
 }
 
-void TabBayarMakanDitempatDetail::focusGrid() { m_grid->setFocus(); }
+void TabBayarMakanDitempatDetail::on_cbShowSplit_clicked()
+{
+    for (QPushButton* button : qAsConst(m_buttons))
+        button->setVisible(m_showSplit->isChecked());
+    refresh();
+}
+
+void TabBayarMakanDitempatDetail::on_btnSplit_clicked()
+{
+    const QList<EntityInvoiceDetail*> lines = selectedLines();
+    for (EntityInvoiceDetail* line : lines) {
+        if (!splitLine(line))
+            break;
+        refresh();
+    }
+    focusGrid();
+}
+
+bool TabBayarMakanDitempatDetail::splitLine(EntityInvoiceDetail* line)
+{
+    DialogBayarMakanDitempatDetailSplit dialog(this);
+    dialog.setEntity(line);
+    if (dialog.exec() != QDialog::Accepted)
+        return false;
+    dialog.getEntity();
+    return true;
+}
+
+void TabBayarMakanDitempatDetail::on_btnDelSplit_clicked()
+{
+    const QList<EntityInvoiceDetail*> lines = selectedLines();
+    for (EntityInvoiceDetail* line : lines) {
+        line->setQtySplit(0);
+        line->setSplitGroup({});
+    }
+    refresh();
+    focusGrid();
+}
+
+void TabBayarMakanDitempatDetail::on_btnProcessSplit_clicked() { emit SplitInvoice(); }

@@ -1,34 +1,42 @@
 #pragma once
 
-#include "app/widgets/AppTab.h"
+#include "sales/payment/InvoiceLinesTab.h"
 
-class EntityInvoiceDetail;
-class QLabel;
-class QTableView;
-class TableModelBayarMakanDitempatDetail;
+#include <functional>
 
-/** The page of the payment form that shows what is paid for. The lines belong to whoever sets them. */
-class TabBayarMakanDitempatDetail final : public AppTab
+class QCheckBox;
+class QPushButton;
+
+/** The lines in the payment form of a table, where a party that pays apart takes quantities off them. */
+class TabBayarMakanDitempatDetail final : public InvoiceLinesTab
 {
     Q_OBJECT
 
 public:
     explicit TabBayarMakanDitempatDetail(QWidget* parent = nullptr);
 
-    [[nodiscard]] const QList<EntityInvoiceDetail*>& details() const { return m_details; }
     /** Whether a quantity was taken off a line and has no invoice of its own yet. */
     [[nodiscard]] bool hasPendingSplit() const;
-    void setDetails(const QList<EntityInvoiceDetail*>& details);
-    void focusGrid();
+    /** Shows what is split off, and the buttons that split. */
+    void showSplit();
 
 signals:
-    void ItemAdded();
+    void SplitInvoice();
+
+public slots:
+    void on_btnSplit_clicked();
+    void on_btnProcessSplit_clicked();
+    void on_btnDelSplit_clicked();
+    void on_cbShowSplit_clicked();
+
+protected:
+    InvoiceLinesModel* createModel(const QList<KorEntity*>& lines) override;
 
 private:
-    void refresh();
+    QPushButton* addButton(const QString& name, const QString& text, const QString& hint);
+    /** False when the user left the form, which ends the walk over the selected lines. */
+    bool splitLine(EntityInvoiceDetail* line);
 
-    QList<EntityInvoiceDetail*> m_details;
-    QTableView* m_grid;
-    QLabel* m_count;
-    TableModelBayarMakanDitempatDetail* m_model = nullptr;
+    QCheckBox* m_showSplit;
+    QList<QPushButton*> m_buttons;
 };

@@ -1,13 +1,12 @@
 #pragma once
 
-#include "app/widgets/AppEntityModel.h"
+#include "sales/payment/InvoiceLinesModel.h"
 
-/** The lines of an invoice in the payment form. */
-class TableModelBayarMakanDitempatDetail final : public AppEntityModel
+/** The lines of a table's invoice. */
+class TableModelBayarMakanDitempatDetail final : public InvoiceLinesModel
 {
     Q_OBJECT
 
 public:
-    /** While a party pays apart two more columns tell what is split off. */
-    TableModelBayarMakanDitempatDetail(const QList<KorEntity*>& lines, bool showSplit, QObject* parent);
+    using InvoiceLinesModel::InvoiceLinesModel;
 };

@@ -1,9 +1,8 @@
-#include "sales/payment/TableModelBayarMakanDitempatDetail.h"
+#include "sales/payment/InvoiceLinesModel.h"
 
 #include "sales/invoice/EntityInvoiceDetail.h"
 
-TableModelBayarMakanDitempatDetail::TableModelBayarMakanDitempatDetail(const QList<KorEntity*>& lines, bool showSplit,
-                                                                       QObject* parent)
+InvoiceLinesModel::InvoiceLinesModel(const QList<KorEntity*>& lines, bool showSplit, QObject* parent)
     : AppEntityModel(lines, parent)
 {
     using Line = EntityInvoiceDetail;

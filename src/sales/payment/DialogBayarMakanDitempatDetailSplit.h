@@ -1,0 +1,30 @@
+#pragma once
+
+#include "kor/widgets/KorDialog.h"
+
+#include <memory>
+
+class EntityInvoiceDetail;
+
+namespace Ui
+{
+class DialogBayarMakanDitempatDetailSplit;
+}
+
+/** Takes a quantity off one line for a group of the party. The line is borrowed; only getEntity() writes to it. */
+class DialogBayarMakanDitempatDetailSplit final : public KorDialog
+{
+    Q_OBJECT
+
+public:
+    explicit DialogBayarMakanDitempatDetailSplit(QWidget* parent = nullptr);
+    ~DialogBayarMakanDitempatDetailSplit() override;
+
+    bool validate() override;
+    KorEntity* getEntity() override;
+    void setEntity(KorEntity* line) override;
+
+private:
+    std::unique_ptr<Ui::DialogBayarMakanDitempatDetailSplit> m_ui;
+    EntityInvoiceDetail* m_line = nullptr;
+};

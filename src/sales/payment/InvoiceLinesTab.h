@@ -1,0 +1,39 @@
+#pragma once
+
+#include "app/widgets/AppTab.h"
+
+class EntityInvoiceDetail;
+class InvoiceLinesModel;
+class QHBoxLayout;
+class QLabel;
+class QTableView;
+
+/** The page of a payment form that shows what is paid for. The lines belong to whoever sets them. */
+class InvoiceLinesTab : public AppTab
+{
+    Q_OBJECT
+
+public:
+    explicit InvoiceLinesTab(QWidget* parent = nullptr);
+
+    [[nodiscard]] const QList<EntityInvoiceDetail*>& details() const { return m_details; }
+    void setDetails(const QList<EntityInvoiceDetail*>& details);
+    void focusGrid();
+
+signals:
+    /** The lines are others than before. */
+    void ItemAdded();
+
+protected:
+    virtual InvoiceLinesModel* createModel(const QList<KorEntity*>& lines) = 0;
+    void refresh();
+    [[nodiscard]] QList<EntityInvoiceDetail*> selectedLines() const;
+    [[nodiscard]] QHBoxLayout* footer() const { return m_footer; }
+
+private:
+    QList<EntityInvoiceDetail*> m_details;
+    QTableView* m_grid;
+    QLabel* m_count;
+    QHBoxLayout* m_footer;
+    InvoiceLinesModel* m_model = nullptr;
+};
