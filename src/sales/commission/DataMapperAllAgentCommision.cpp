@@ -1,9 +1,11 @@
 #include "sales/commission/DataMapperAllAgentCommision.h"
 
 #include "kor/entity/KorMetaDataMap.h"
+#include "kor/persistence/KorPaging.h"
 #include "masterdata/agent/DataMapperAgent.h"
 #include "sales/commission/EntityAllKomisiAgen.h"
 #include "sales/invoice/DataMapperInvoice.h"
+#include "sales/service/SalesFilters.h"
 
 DataMapperAllAgentCommision::DataMapperAllAgentCommision(QObject* parent, DataMapperInvoice* invoices,
                                                          DataMapperAgent* agents)
@@ -28,6 +30,29 @@ QString DataMapperAllAgentCommision::selectStatement() const
            agent + " agent_mkn on invoice_makan_ditempat.agent_id = agent_mkn.id left join " + agent +
            " agent_ff on invoice_fast_food.agent_id = agent_ff.id"
            " left join komisi_agen_detail on komisi_agen_detail.invoice_id = invoice.id";
+}
+
+QList<EntityAllKomisiAgen*> DataMapperAllAgentCommision::search(const AgentSalesFilter& filter)
+{
+    KorPaging paging;
+    paging.addFilter("invoice.invoice_date >= ", dateToSql(filter.from));
+    paging.addFilter(" and invoice.invoice_date <= ", dateToSql(filter.to));
+    if (filter.agentId != KorNoValue) {
+        const QString id = QString::number(filter.agentId);
+        paging.addFilter(" and (invoice_makan_ditempat.agent_id = ", id);
+        paging.addFilter(" or invoice_fast_food.agent_id = ", id);
+        paging.addFilter(") and 1=", "1");
+    } else {
+        paging.addFilter(" and (invoice_makan_ditempat.agent_id is not null or invoice_fast_food.agent_id is not null) "
+                         "and 1 =",
+                         "1");
+    }
+    if (filter.status == EntityAllKomisiAgen::UNPAID)
+        paging.addFilter(" and komisi_agen_detail.invoice_id is null  and 1=", "1");
+    else if (filter.status == EntityAllKomisiAgen::FULL_PAID)
+        paging.addFilter(" and komisi_agen_detail.invoice_id is not null  and 1=", "1");
+    paging.addSort("invoice.invoice_date desc, invoice.id", "desc");
+    return castAll<EntityAllKomisiAgen>(find(&paging));
 }
 
 KorEntity* DataMapperAllAgentCommision::fillFromRow(KorQuery& query, KorEntity* entity)

@@ -4,6 +4,8 @@
 
 class DataMapperAgent;
 class DataMapperInvoice;
+class EntityAllKomisiAgen;
+struct AgentSalesFilter;
 
 /** Reads all invoices with the agents that they name and whether the commission is paid. It has no table. */
 class DataMapperAllAgentCommision final : public AppDataMapper
@@ -16,6 +18,8 @@ public:
     KorEntity* createEntity() override;
     bool createTable(int) override { return true; }
     [[nodiscard]] QString selectStatement() const override;
+    /** The invoices that agents brought, or the one agent; the latest first. */
+    [[nodiscard]] QList<EntityAllKomisiAgen*> search(const AgentSalesFilter& filter);
     using AppDataMapper::fillFromRow;
     KorEntity* fillFromRow(KorQuery& query, KorEntity* entity) override;
 

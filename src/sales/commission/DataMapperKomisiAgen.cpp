@@ -1,9 +1,13 @@
 #include "sales/commission/DataMapperKomisiAgen.h"
 
 #include "kor/entity/KorMetaDataMap.h"
+#include "kor/persistence/KorPaging.h"
 #include "masterdata/agent/DataMapperAgent.h"
 #include "masterdata/bank/DataMapperBank.h"
 #include "sales/commission/DataMapperKomisiAgenDetail.h"
+#include "sales/service/SalesFilters.h"
+
+#include <QDebug>
 
 DataMapperKomisiAgen::DataMapperKomisiAgen(QObject* parent, DataMapperKey* keys, DataMapperAgent* agents,
                                            DataMapperBank* accounts, DataMapperInvoice* invoices)
@@ -21,6 +25,33 @@ DataMapperKomisiAgen::DataMapperKomisiAgen(QObject* parent, DataMapperKey* keys,
     column("noref", "varchar(20)  null", "NoRef");
     column("note", "text null", "Note");
     m_lines = new DataMapperKomisiAgenDetail(this, invoices);
+}
+
+KorDataMapper* DataMapperKomisiAgen::lineMapper() const { return m_lines; }
+
+KorEntity* DataMapperKomisiAgen::findById(int id)
+{
+    auto* payment = static_cast<EntityKomisiAgen*>(NumberedDocumentMapper::findById(id));
+    if (!payment)
+        return nullptr;
+    payment->setDetails(m_lines->findByPayment(id));
+    if (!m_lines->hasError())
+        return payment;
+    setError(m_lines->takeError());
+    return nullptr;
+}
+
+QList<EntityKomisiAgen*> DataMapperKomisiAgen::search(const CommissionFilter& filter)
+{
+    KorPaging paging;
+    paging.addFilter("payment_date >= ", dateToSql(filter.from));
+    paging.addFilter(" and payment_date <= ", dateToSql(filter.to));
+    if (filter.agentId != KorNoValue)
+        paging.addFilter(" and agent_id = ", QString::number(filter.agentId));
+    if (!filter.number.isEmpty())
+        paging.addFilter(" and lower(no) like ", '%' + filter.number.toLower() + '%');
+    paging.addSort("payment_date desc, komisi_agen.id", "desc");
+    return castAll<EntityKomisiAgen>(find(&paging));
 }
 
 KorEntity* DataMapperKomisiAgen::createEntity() { return new EntityKomisiAgen(entityParent()); }

@@ -6,6 +6,8 @@
 class DataMapperAgent;
 class DataMapperBank;
 class DataMapperInvoice;
+class DataMapperKomisiAgenDetail;
+struct CommissionFilter;
 
 /** Commission payments with their lines, in the tables "komisi_agen" and "komisi_agen_detail". */
 class DataMapperKomisiAgen final : public NumberedDocumentMapper<EntityKomisiAgen>
@@ -18,13 +20,18 @@ public:
 
     [[nodiscard]] QString keyName() const override { return "KAG"; }
     KorEntity* createEntity() override;
+    /** With its lines. */
+    KorEntity* findById(int id) override;
+    /** Without lines, the latest first. */
+    [[nodiscard]] QList<EntityKomisiAgen*> search(const CommissionFilter& filter);
     [[nodiscard]] QStringList indexStatements() const override;
-    [[nodiscard]] KorDataMapper* lineMapper() const override { return m_lines; }
+    [[nodiscard]] KorDataMapper* lineMapper() const override;
+    [[nodiscard]] DataMapperKomisiAgenDetail* lines() const { return m_lines; }
 
 protected:
     [[nodiscard]] const Messages& messages() const override;
     void attachLine(KorEntity* line, int documentId) override;
 
 private:
-    KorDataMapper* m_lines;
+    DataMapperKomisiAgenDetail* m_lines;
 };

@@ -2,6 +2,7 @@
 
 #include "kor/entity/KorMetaDataMap.h"
 #include "sales/commission/DataMapperKomisiAgen.h"
+#include "sales/commission/EntityKomisiAgenDetail.h"
 #include "sales/invoice/DataMapperInvoice.h"
 
 DataMapperKomisiAgenDetail::DataMapperKomisiAgenDetail(DataMapperKomisiAgen* payments, DataMapperInvoice* invoices)
@@ -22,4 +23,22 @@ KorEntity* DataMapperKomisiAgenDetail::createEntity() { return new EntityKomisiA
 QStringList DataMapperKomisiAgenDetail::indexStatements() const
 {
     return {index("invoice_id", "(invoice_id)"), index("komisi_agen_id", "(komisi_agen_id)")};
+}
+
+QList<EntityKomisiAgenDetail*> DataMapperKomisiAgenDetail::findByPayment(int paymentId)
+{
+    return castAll<EntityKomisiAgenDetail>(
+        findMany(" where komisi_agen_id = :id order by komisi_agen_detail.id", {{":id", paymentId}}));
+}
+
+EntityKomisiAgenDetail* DataMapperKomisiAgenDetail::findByInvoice(int invoiceId)
+{
+    return static_cast<EntityKomisiAgenDetail*>(
+        findOne(" where invoice_id = :id order by komisi_agen_detail.id", {{":id", invoiceId}}));
+}
+
+bool DataMapperKomisiAgenDetail::removeUnread(int paymentId)
+{
+    KorQuery query;
+    return execute(query, "delete from komisi_agen_detail where komisi_agen_id = :id", {{":id", paymentId}});
 }

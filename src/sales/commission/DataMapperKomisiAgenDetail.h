@@ -4,6 +4,7 @@
 
 class DataMapperInvoice;
 class DataMapperKomisiAgen;
+class EntityKomisiAgenDetail;
 
 /**
  * The commissions paid for invoices, in the table "komisi_agen_detail". The invoice has no foreign key: a sale may be
@@ -18,4 +19,10 @@ public:
 
     KorEntity* createEntity() override;
     [[nodiscard]] QStringList indexStatements() const override;
+
+    [[nodiscard]] QList<EntityKomisiAgenDetail*> findByPayment(int paymentId);
+    /** The line that paid the invoice's commission; null when there is none. */
+    [[nodiscard]] EntityKomisiAgenDetail* findByInvoice(int invoiceId);
+    /** Takes the lines away that no read gives any more: those whose sale was deleted. */
+    bool removeUnread(int paymentId);
 };

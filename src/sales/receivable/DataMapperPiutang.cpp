@@ -1,9 +1,13 @@
 #include "sales/receivable/DataMapperPiutang.h"
 
 #include "kor/entity/KorMetaDataMap.h"
+#include "kor/persistence/KorPaging.h"
 #include "masterdata/bank/DataMapperBank.h"
 #include "masterdata/member/DataMapperMember.h"
 #include "sales/receivable/DataMapperPiutangDetail.h"
+#include "sales/service/SalesFilters.h"
+
+#include <QDebug>
 
 DataMapperPiutang::DataMapperPiutang(QObject* parent, DataMapperKey* keys, DataMapperMember* members,
                                      DataMapperBank* accounts, DataMapperInvoice* invoices,
@@ -22,6 +26,35 @@ DataMapperPiutang::DataMapperPiutang(QObject* parent, DataMapperKey* keys, DataM
     reference("bank_id", "integer null", "Bank", accounts, "left");
     column("noref", "varchar(20)  null", "NoRef");
     m_lines = new DataMapperPiutangDetail(this, invoices, employees, agents, members);
+}
+
+KorDataMapper* DataMapperPiutang::lineMapper() const { return m_lines; }
+
+KorEntity* DataMapperPiutang::findById(int id)
+{
+    auto* payment = static_cast<EntityPiutang*>(NumberedDocumentMapper::findById(id));
+    if (!payment)
+        return nullptr;
+    payment->setDetails(m_lines->findByPayment(id));
+    if (!m_lines->hasError())
+        return payment;
+    setError(m_lines->takeError());
+    return nullptr;
+}
+
+QList<EntityPiutang*> DataMapperPiutang::search(const ReceivableFilter& filter)
+{
+    qDebug() << "from date" << filter.from << "to date" << filter.to << "payment id" << filter.paymentType << "memberId"
+             << filter.memberId;
+    KorPaging paging;
+    paging.addFilter("payment_date >= ", dateToSql(filter.from));
+    paging.addFilter(" and payment_date <= ", dateToSql(filter.to));
+    if (filter.paymentType != 0)
+        paging.addFilter(" and payment_type = ", QString::number(filter.paymentType));
+    if (filter.memberId != KorNoValue)
+        paging.addFilter(" and member.id = ", QString::number(filter.memberId));
+    paging.addSort("payment_date desc, piutang.id", "desc");
+    return castAll<EntityPiutang>(find(&paging));
 }
 
 KorEntity* DataMapperPiutang::createEntity() { return new EntityPiutang(entityParent()); }

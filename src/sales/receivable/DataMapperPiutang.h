@@ -8,6 +8,8 @@ class DataMapperBank;
 class DataMapperEmployee;
 class DataMapperInvoice;
 class DataMapperMember;
+class DataMapperPiutangDetail;
+struct ReceivableFilter;
 
 /** Members' payments with their lines, in the tables "piutang" and "piutang_detail". */
 class DataMapperPiutang final : public NumberedDocumentMapper<EntityPiutang>
@@ -20,13 +22,18 @@ public:
 
     [[nodiscard]] QString keyName() const override { return "PIU"; }
     KorEntity* createEntity() override;
+    /** With its lines. */
+    KorEntity* findById(int id) override;
+    /** Without lines, the latest first. */
+    [[nodiscard]] QList<EntityPiutang*> search(const ReceivableFilter& filter);
     [[nodiscard]] QStringList indexStatements() const override;
-    [[nodiscard]] KorDataMapper* lineMapper() const override { return m_lines; }
+    [[nodiscard]] KorDataMapper* lineMapper() const override;
+    [[nodiscard]] DataMapperPiutangDetail* lines() const { return m_lines; }
 
 protected:
     [[nodiscard]] const Messages& messages() const override;
     void attachLine(KorEntity* line, int documentId) override;
 
 private:
-    KorDataMapper* m_lines;
+    DataMapperPiutangDetail* m_lines;
 };

@@ -6,6 +6,7 @@
 #include "masterdata/member/DataMapperMember.h"
 #include "sales/invoice/DataMapperInvoice.h"
 #include "sales/receivable/DataMapperPiutang.h"
+#include "sales/receivable/EntityPiutangDetail.h"
 
 DataMapperPiutangDetail::DataMapperPiutangDetail(DataMapperPiutang* payments, DataMapperInvoice* invoices,
                                                  DataMapperEmployee* employees, DataMapperAgent* agents,
@@ -30,4 +31,22 @@ KorEntity* DataMapperPiutangDetail::createEntity() { return new EntityPiutangDet
 QStringList DataMapperPiutangDetail::indexStatements() const
 {
     return {index("invoice_id", "(invoice_id)"), index("piutang_id", "(piutang_id)")};
+}
+
+QList<EntityPiutangDetail*> DataMapperPiutangDetail::findByPayment(int paymentId)
+{
+    return castAll<EntityPiutangDetail>(
+        findMany(" where piutang_id = :id order by piutang_detail.id", {{":id", paymentId}}));
+}
+
+QList<EntityPiutangDetail*> DataMapperPiutangDetail::findByInvoices(const QList<int>& invoiceIds)
+{
+    return castAll<EntityPiutangDetail>(
+        findMany(" where invoice_id = ANY(:ids) order by piutang_detail.id", {{":ids", idList(invoiceIds)}}));
+}
+
+bool DataMapperPiutangDetail::removeUnread(int paymentId)
+{
+    KorQuery query;
+    return execute(query, "delete from piutang_detail where piutang_id = :id", {{":id", paymentId}});
 }

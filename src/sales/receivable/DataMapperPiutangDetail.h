@@ -7,6 +7,7 @@ class DataMapperEmployee;
 class DataMapperInvoice;
 class DataMapperMember;
 class DataMapperPiutang;
+class EntityPiutangDetail;
 
 /**
  * What members' payments paid of invoices, in the table "piutang_detail". The invoice has no foreign key: a sale may
@@ -22,4 +23,10 @@ public:
 
     KorEntity* createEntity() override;
     [[nodiscard]] QStringList indexStatements() const override;
+
+    [[nodiscard]] QList<EntityPiutangDetail*> findByPayment(int paymentId);
+    /** What all payments paid of these invoices. */
+    [[nodiscard]] QList<EntityPiutangDetail*> findByInvoices(const QList<int>& invoiceIds);
+    /** Takes the lines away that no read gives any more: those whose sale was deleted. */
+    bool removeUnread(int paymentId);
 };

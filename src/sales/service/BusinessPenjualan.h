@@ -171,6 +171,8 @@ private:
     [[nodiscard]] DataMapperInvoiceLink* mapperOf(IInvoice* sale) const;
     void followInvoices(EntityMakanDitempat* order);
     void setDineStatus(EntityMakanDitempat* order, int status);
+    /** Books what all payments paid of the payment's invoices as their other payment. */
+    bool updateInvoicesOfPiutang(const EntityPiutang* payment);
 
     Mappers m_mappers;
 };

@@ -1,0 +1,60 @@
+#include "app/context/EntityPool.h"
+#include "kor/business/KorServiceTransaction.h"
+#include "sales/commission/DataMapperAllAgentCommision.h"
+#include "sales/commission/DataMapperKomisiAgen.h"
+#include "sales/commission/DataMapperKomisiAgenDetail.h"
+#include "sales/service/BusinessPenjualan.h"
+
+// What agents earn.
+
+EntityKomisiAgen* BusinessPenjualan::findKomisiAgen(int id)
+{
+    return static_cast<EntityKomisiAgen*>(
+        read(m_mappers.commissions->findById(id), m_mappers.commissions, "findKomisiAgen"));
+}
+
+bool BusinessPenjualan::insertCommision(EntityKomisiAgen* payment)
+{
+    return written(m_mappers.commissions->insert(payment), m_mappers.commissions, "insertCommision");
+}
+
+bool BusinessPenjualan::updateCommision(EntityKomisiAgen* payment)
+{
+    return written(m_mappers.commissions->update(payment), m_mappers.commissions, "updateCommision");
+}
+
+bool BusinessPenjualan::remove(EntityKomisiAgen* payment)
+{
+    DataMapperKomisiAgenDetail* lines = m_mappers.commissions->lines();
+    return inOneTransaction(*this, "remove", [this, payment, lines] {
+        EntityPool pool;
+        const EntityPoolScope scope(pool);
+        const QList<EntityKomisiAgenDetail*> stored = read(lines->findByPayment(payment->getId()), lines, "remove");
+        for (EntityKomisiAgenDetail* line : stored) {
+            if (!written(lines->remove(line), lines, "remove"))
+                return false;
+        }
+        return written(lines->removeUnread(payment->getId()), lines, "remove") &&
+               written(m_mappers.commissions->remove(payment), m_mappers.commissions, "remove");
+    });
+}
+
+QList<EntityKomisiAgen*> BusinessPenjualan::searchKomisiAgen(const CommissionFilter& filter)
+{
+    return read(m_mappers.commissions->search(filter), m_mappers.commissions, "searchKomisiAgen");
+}
+
+EntityKomisiAgen* BusinessPenjualan::getKomisiAgenByInvoiceId(int invoiceId)
+{
+    DataMapperKomisiAgenDetail* lines = m_mappers.commissions->lines();
+    const EntityKomisiAgenDetail* line = read(lines->findByInvoice(invoiceId), lines, "getKomisiAgenByInvoiceId");
+    if (!line)
+        return nullptr;
+    return static_cast<EntityKomisiAgen*>(read(m_mappers.commissions->findById(line->getKomisiAgenID()),
+                                               m_mappers.commissions, "getKomisiAgenByInvoiceId"));
+}
+
+QList<EntityAllKomisiAgen*> BusinessPenjualan::searchInvoiceForAgentCommision(const AgentSalesFilter& filter)
+{
+    return read(m_mappers.agentSales->search(filter), m_mappers.agentSales, "searchInvoiceForAgentCommision");
+}

@@ -1,0 +1,118 @@
+#include "app/context/EntityPool.h"
+#include "app/persistence/AppDataMapper.h"
+#include "kor/business/KorServiceTransaction.h"
+#include "sales/invoice/DataMapperInvoice.h"
+#include "sales/invoice/InvoiceStatus.h"
+#include "sales/list/EntityPenjualanInfo.h"
+#include "sales/receivable/DataMapperPiutang.h"
+#include "sales/receivable/DataMapperPiutangDetail.h"
+#include "sales/service/BusinessPenjualan.h"
+
+#include <QHash>
+
+#include <memory>
+
+// What members pay later.
+
+namespace
+{
+std::unique_ptr<Money> minorUnits(double amount, const QString& currency)
+{
+    auto money = std::make_unique<Money>(nullptr, 0, currency);
+    money->setRawAmount(amount);
+    return money;
+}
+
+/** What is left of the invoice, in its own currency. */
+std::unique_ptr<Money> leftOf(const Invoice& invoice)
+{
+    return minorUnits(double(invoice.getGrandTotal()->rawAmount()) - invoice.getAmountPaid()->rawAmount() -
+                          invoice.getOtherPayment()->rawAmount(),
+                      invoice.getGrandTotal()->getCurrency());
+}
+} // namespace
+
+EntityPiutang* BusinessPenjualan::findPiutang(int id)
+{
+    return static_cast<EntityPiutang*>(read(m_mappers.receivables->findById(id), m_mappers.receivables, "findPiutang"));
+}
+
+bool BusinessPenjualan::insert(EntityPiutang* payment)
+{
+    return written(m_mappers.receivables->insert(payment), m_mappers.receivables, "insert") &&
+           updateInvoicesOfPiutang(payment);
+}
+
+bool BusinessPenjualan::updatePiutang(EntityPiutang* payment)
+{
+    return written(m_mappers.receivables->update(payment), m_mappers.receivables, "updatePiutang") &&
+           updateInvoicesOfPiutang(payment);
+}
+
+bool BusinessPenjualan::updateInvoicesOfPiutang(const EntityPiutang* payment)
+{
+    EntityPool pool;
+    const EntityPoolScope scope(pool);
+    QList<int> ids;
+    for (const EntityPiutangDetail* line : payment->getDetails())
+        ids.append(line->getInvoice()->getId());
+
+    DataMapperPiutangDetail* lines = m_mappers.receivables->lines();
+    QHash<int, double> paid;
+    for (const EntityPiutangDetail* line : lines->findByInvoices(ids))
+        paid[line->getInvoice()->getId()] += line->getAmountPaid()->rawAmount();
+    bool done = !lines->hasError();
+    takeMapperError(lines, "updateInvoice");
+    const QList<Invoice*> invoices = done ? m_mappers.invoices->findByIds(ids) : QList<Invoice*>();
+    done = done && !m_mappers.invoices->hasError();
+    takeMapperError(m_mappers.invoices, "updateInvoice");
+
+    for (Invoice* invoice : invoices) {
+        // In place of any other credit, also of one that was given at the sale.
+        invoice->setOtherPayment(
+            minorUnits(paid.value(invoice->getId()), payment->getGrandTotal()->getCurrency()).get());
+        invoice->setNetDue(leftOf(*invoice).get());
+        setInvoiceStatus(invoice);
+        done = written(m_mappers.invoices->update(invoice), m_mappers.invoices, "updateInvoice") && done;
+    }
+    return done;
+}
+
+bool BusinessPenjualan::remove(EntityPiutang* payment)
+{
+    DataMapperPiutangDetail* lines = m_mappers.receivables->lines();
+    return inOneTransaction(*this, "remove", [this, payment, lines] {
+        EntityPool pool;
+        const EntityPoolScope scope(pool);
+        const QList<EntityPiutangDetail*> stored = read(lines->findByPayment(payment->getId()), lines, "remove");
+        for (EntityPiutangDetail* line : stored) {
+            if (!written(lines->remove(line), lines, "remove"))
+                return false;
+        }
+        return written(lines->removeUnread(payment->getId()), lines, "remove") &&
+               written(m_mappers.receivables->remove(payment), m_mappers.receivables, "remove");
+    });
+}
+
+QList<EntityPiutang*> BusinessPenjualan::searchPiutang(const ReceivableFilter& filter)
+{
+    return read(m_mappers.receivables->search(filter), m_mappers.receivables, "searchPiutang");
+}
+
+QList<EntityPiutangDetail*> BusinessPenjualan::getUnpaidInvoicesForMember(int memberId)
+{
+    SalesFilter open;
+    open.to = QDate::currentDate();
+    open.from = open.to.addYears(-100);
+    open.status = SalesFilter::OpenInvoices;
+    open.memberId = memberId;
+    QList<EntityPiutangDetail*> lines;
+    for (const EntityPenjualanInfo* sale : searchPenjualan(open)) {
+        auto* line = new EntityPiutangDetail(AppDataMapper::entityParent());
+        line->setInvoice(sale->getInvoice());
+        line->setAmountDue(leftOf(*sale->getInvoice()).get());
+        line->setAmountPaid(minorUnits(0, line->getAmountDue()->getCurrency()).get());
+        lines.append(line);
+    }
+    return lines;
+}
