@@ -19,6 +19,7 @@ InvoiceLinesTab::InvoiceLinesTab(QWidget* parent)
     layout->setContentsMargins(8, 8, 8, 4);
     layout->setSpacing(4);
     layout->addWidget(m_grid);
+    m_footer->setSpacing(8);
     m_footer->addWidget(m_count);
     layout->addLayout(m_footer);
 }

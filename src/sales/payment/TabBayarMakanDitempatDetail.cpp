@@ -33,7 +33,7 @@ QPushButton* TabBayarMakanDitempatDetail::addButton(const QString& name, const Q
     auto* button = new QPushButton(text, this);
     button->setObjectName(name);
     button->setToolTip(hint);
-    button->setMinimumHeight(40);
+    button->setMinimumSize(124, 40);
     button->setAutoDefault(false);
     button->hide();
     footer()->addWidget(button);
