@@ -1,10 +1,14 @@
 #include "sales/fastfood/DataMapperInvoiceFastFood.h"
 
 #include "kor/entity/KorMetaDataMap.h"
+#include "kor/persistence/KorPaging.h"
 #include "masterdata/agent/DataMapperAgent.h"
 #include "masterdata/employee/DataMapperEmployee.h"
 #include "masterdata/member/DataMapperMember.h"
 #include "sales/fastfood/EntityInvoiceFastFood.h"
+#include "sales/service/SalesFilters.h"
+
+#include <QDebug>
 
 DataMapperInvoiceFastFood::DataMapperInvoiceFastFood(QObject* parent, DataMapperInvoice* invoices)
     : DataMapperInvoiceLink(parent, invoices)
@@ -39,4 +43,25 @@ DataMapperInvoiceLink::Messages DataMapperInvoiceFastFood::messages() const
 void DataMapperInvoiceFastFood::prepareInvoice(KorEntity* link, Invoice* invoice)
 {
     invoice->setEmployee(static_cast<EntityInvoiceFastFood*>(link)->getEmployee());
+}
+
+QList<EntityInvoiceFastFood*> DataMapperInvoiceFastFood::getFastFoodList(const FastFoodFilter& filter)
+{
+    const QString from = filter.from.toString(Qt::ISODate);
+    const QString to = filter.to.toString(Qt::ISODate);
+    const QString status = QString::number(filter.status);
+    qDebug() << "from date" << from;
+    qDebug() << "to date" << to;
+    qDebug() << "status id" << status;
+    KorPaging paging;
+    paging.addFilter("invoice.invoice_date >= ", from);
+    paging.addFilter(" and invoice.invoice_date <= ", to);
+    if (filter.status != 0)
+        paging.addFilter(" and status = ", status);
+    if (!filter.employeeCode.isEmpty())
+        paging.addFilter(" and lower(employee.kode) = ", filter.employeeCode.toLower());
+    paging.addSort("invoice.invoice_date", "DESC");
+    // Within a day as well: the sale that was just made stands on top.
+    paging.addSort(", invoice.id", "DESC");
+    return castAll<EntityInvoiceFastFood>(findLinks(&paging));
 }

@@ -148,7 +148,13 @@ KorEntity* DataMapperInvoiceLink::findByInvoiceId(int invoiceId)
 
 QList<KorEntity*> DataMapperInvoiceLink::findLinks(const QString& tail, Bindings values)
 {
-    const QList<KorEntity*> links = findMany(tail, values);
+    return loaded(findMany(tail, values));
+}
+
+QList<KorEntity*> DataMapperInvoiceLink::findLinks(KorPaging* paging) { return loaded(find(paging)); }
+
+QList<KorEntity*> DataMapperInvoiceLink::loaded(const QList<KorEntity*>& links)
+{
     return links.isEmpty() || load(links) ? links : QList<KorEntity*>();
 }
 

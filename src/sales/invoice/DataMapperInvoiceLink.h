@@ -44,10 +44,13 @@ protected:
 
     /** The links of this tail, each with its full invoice, its lines and its order: a fixed number of statements. */
     QList<KorEntity*> findLinks(const QString& tail, Bindings values);
+    QList<KorEntity*> findLinks(KorPaging* paging);
     [[nodiscard]] DataMapperInvoice* invoices() const { return m_invoices; }
 
 private:
     bool insertLines(IInvoice* sale, QString* reason);
+    /** The same links with what stands behind them; none when it cannot be read. */
+    QList<KorEntity*> loaded(const QList<KorEntity*>& links);
     bool load(const QList<KorEntity*>& links);
     bool fail(const QString& message, const QString& reasons);
     static IInvoice* saleOf(KorEntity* link);

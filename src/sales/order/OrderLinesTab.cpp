@@ -93,6 +93,7 @@ void OrderLinesTab::addLines(int itemClass)
         take(line);
     }
     focusLines();
+    emit AddingEnded();
 }
 
 void OrderLinesTab::take(EntityOrderDetail* line)

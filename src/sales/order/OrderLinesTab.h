@@ -40,6 +40,8 @@ public:
 signals:
     /** The lines are others than before. */
     void ItemAdded();
+    /** The round of adding lines, one after the other, is over. */
+    void AddingEnded();
 
 public slots:
     void on_btnAdd_clicked();

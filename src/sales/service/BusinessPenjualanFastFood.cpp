@@ -1,0 +1,16 @@
+#include "sales/fastfood/DataMapperInvoiceFastFood.h"
+#include "sales/fastfood/EntityInvoiceFastFood.h"
+#include "sales/service/BusinessPenjualan.h"
+
+// Sales over the counter.
+
+EntityInvoiceFastFood* BusinessPenjualan::findFastFoodByInvoiceId(int invoiceId)
+{
+    return static_cast<EntityInvoiceFastFood*>(
+        read(m_mappers.fastFoodInvoices->findByInvoiceId(invoiceId), m_mappers.fastFoodInvoices, "find"));
+}
+
+QList<EntityInvoiceFastFood*> BusinessPenjualan::getFastFoodList(const FastFoodFilter& filter)
+{
+    return read(m_mappers.fastFoodInvoices->getFastFoodList(filter), m_mappers.fastFoodInvoices, "getFastFoodList");
+}
