@@ -15,6 +15,11 @@ constexpr int searchDelay = 500;
 constexpr int visibleRows = 10;
 constexpr int extraHeight = 20;
 constexpr int extraWidth = 10;
+
+bool endsTheChoice(const QKeyEvent& key)
+{
+    return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter || key.key() == Qt::Key_Escape;
+}
 } // namespace
 
 KorTextBoxExtender::KorTextBoxExtender(QLineEdit* editor, KorBusinessLogic* business)
@@ -164,6 +169,12 @@ void KorTextBoxExtender::doneCompletion()
 
 bool KorTextBoxExtender::eventFilter(QObject* watched, QEvent* event)
 {
+    // While the list is open these keys are its own: they must not press the search or close button of the page.
+    if (event->type() == QEvent::ShortcutOverride && m_popup->isVisible() &&
+        endsTheChoice(*static_cast<QKeyEvent*>(event))) {
+        event->accept();
+        return true;
+    }
     if (watched == m_editor && event->type() == QEvent::FocusOut) {
         // Whoever has gone on would find the list in the way, and the next field's keys would land in this one.
         const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
