@@ -14,6 +14,7 @@
 #include "masterdata/satuan/TabSatuan.h"
 #include "masterdata/supplier/TabSupplier.h"
 #include "printing/configuration/TabKitchenPrinter.h"
+#include "sales/list/TabDaftarPenjualan.h"
 #include "sales/order/TabMakanDitempat.h"
 
 namespace
@@ -32,6 +33,7 @@ TabFactories allTabFactories()
     return {
         {"TabAgent", make<TabAgent>},
         {"TabBank", make<TabBank>},
+        {"TabDaftarPenjualan", make<TabDaftarPenjualan>},
         {"TabEmployee", make<TabEmployee>},
         {"TabItem", make<TabItem>},
         {"TabJenisItem", make<TabJenisItem>},

@@ -28,11 +28,11 @@ void insertLink(TestDatabase& database, const SaleRow& sale, int invoice)
     int order = sale.order;
     if (order == 0)
         order = database
-                    .value(QString(dine ? "INSERT INTO makan_ditempat (status, tgl, member_id, meja_id, version) "
-                                          "VALUES (1, '%1', %2, %3, 1) RETURNING id"
-                                        : "INSERT INTO bawa_pulang (status, tgl, member_id, version) "
-                                          "VALUES (1, '%1', %2, 1) RETURNING id")
-                               .arg(sale.date.toString(Qt::ISODate), member, dine ? QString::number(sale.table) : ""))
+                    .value(QString("INSERT INTO %1 (status, tgl, member_id%2, version) VALUES (1, '%3', %4%5, 1) "
+                                   "RETURNING id")
+                               .arg(dine ? "makan_ditempat" : "bawa_pulang", dine ? ", meja_id" : "",
+                                    sale.date.toString(Qt::ISODate), member,
+                                    dine ? ", " + QString::number(sale.table) : QString()))
                     .toInt();
     database.run(QString(dine ? "INSERT INTO invoice_makan_ditempat (invoice_id, makan_ditempat_id, employee_id, "
                                 "agent_id, version) VALUES (%1, %2, %3, 1)"
@@ -79,23 +79,31 @@ int insertSale(TestDatabase& database, const SaleRow& sale)
 
 void insertManySales(TestDatabase& database, int count)
 {
-    // Of ten sales seven are at a table, two at the counter, one is carried home.
-    database.run(QString(invoiceColumns).arg("id,") +
-                 QString("SELECT i, current_date, 'TR-' || lpad(i::text, 6, '0'), CASE WHEN i % 9 = 0 THEN 3 ELSE 1 "
-                         "END, CASE WHEN i % 10 < 7 THEN 'TRD' WHEN i % 10 < 9 THEN 'TRF' ELSE 'TRP' END, 'Rp', "
-                         "i * 10, 0, 'Rp', 0, 0, 'Rp', 0, 'Rp', i * 10, 'Rp', i * 5, 'Rp', i * 5, 'Rp', 0, 0, 'Rp', "
-                         "0, CASE WHEN i % 5 = 0 THEN 1 END, 'Guest ' || i, '1-100', 1, 1 FROM generate_series(1, %1) "
-                         "i")
-                     .arg(count));
-    database.run("INSERT INTO makan_ditempat (id, status, tgl, meja_id, pemesan, version) SELECT id, 6, current_date, "
-                 "1, pemesan, 1 FROM invoice WHERE invoice_type = 'TRD'");
-    database.run("INSERT INTO bawa_pulang (id, status, tgl, pemesan, version) SELECT id, 6, current_date, pemesan, 1 "
-                 "FROM invoice WHERE invoice_type = 'TRP'");
+    // Of ten sales seven are at a table, two at the counter, one is carried home; one of nine is paid in part.
+    database.run(
+        QString(invoiceColumns).arg("id,") +
+        QString("SELECT i, current_date - (i * 30 / %1), type || '-' || lpad(i::text, 6, '0'), "
+                "CASE WHEN open THEN 3 ELSE 1 END, type, 'Rp', total, 0, 'Rp', 0, 0, 'Rp', 0, 'Rp', total, 'Rp', paid, "
+                "'Rp', total - paid, 'Rp', 0, 0, 'Rp', 0, CASE WHEN i % 5 = 0 THEN 1 END, "
+                "(ARRAY['Mary', 'Mr. Santoso', 'Table of eight', 'Dewi', 'Wedding party Kusuma'])[1 + i % 5], '1-100', "
+                "1, 1 FROM (SELECT i, i % 9 = 0 AS open, total, CASE WHEN i % 9 = 0 THEN total / 2 ELSE total END AS "
+                "paid, (ARRAY['TRD', 'TRD', 'TRD', 'TRD', 'TRD', 'TRD', 'TRD', 'TRF', 'TRF', 'TRP'])[1 + i % 10] AS "
+                "type FROM (SELECT i, 25000 + (i * 7919 % 90) * 2500 AS total FROM generate_series(1, %1) i) sums) "
+                "sales")
+            .arg(count));
+    // The order and the link of a sale have the sale's number.
+    const QString from = " FROM invoice WHERE invoice_type = ";
+    database.run("INSERT INTO makan_ditempat (id, status, tgl, meja_id, pemesan, version) SELECT id, 6, invoice_date, "
+                 "1, pemesan, 1" +
+                 from + "'TRD'");
+    database.run("INSERT INTO bawa_pulang (id, status, tgl, pemesan, version) SELECT id, 6, invoice_date, pemesan, 1" +
+                 from + "'TRP'");
     database.run("INSERT INTO invoice_makan_ditempat (invoice_id, makan_ditempat_id, employee_id, version) SELECT id, "
-                 "id, 1, 1 FROM invoice WHERE invoice_type = 'TRD'");
-    database.run("INSERT INTO invoice_fast_food (invoice_id, employee_id, agent_id, version) SELECT id, 1, 1, 1 FROM "
-                 "invoice WHERE invoice_type = 'TRF'");
-    database.run("INSERT INTO invoice_bawa_pulang (invoice_id, bawa_pulang_id, version) SELECT id, id, 1 FROM invoice "
-                 "WHERE invoice_type = 'TRP'");
+                 "id, 1, 1" +
+                 from + "'TRD'");
+    database.run("INSERT INTO invoice_fast_food (invoice_id, employee_id, agent_id, version) SELECT id, 1, 1, 1" +
+                 from + "'TRF'");
+    database.run("INSERT INTO invoice_bawa_pulang (invoice_id, bawa_pulang_id, version) SELECT id, id, 1" + from +
+                 "'TRP'");
     database.run("ANALYZE");
 }

@@ -29,5 +29,5 @@ struct SaleRow
 void insertSeller(TestDatabase& database, int id, const QString& name);
 /** Lays the sale down in the shop of ShopRows.h, with one line of the item over its total; returns the invoice's id. */
 int insertSale(TestDatabase& database, const SaleRow& sale);
-/** A long evening: that many paid sales today of all three kinds, at tables, with members, waitresses and agents. */
+/** A busy month: that many sales of all three kinds in the last 30 days, some of them still open. */
 void insertManySales(TestDatabase& database, int count);

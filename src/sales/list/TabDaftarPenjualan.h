@@ -1,0 +1,63 @@
+#pragma once
+
+#include "app/widgets/AppDocumentTab.h"
+
+class AgentTextBox;
+class EmployeeTextBox;
+class EntityPenjualanInfo;
+class Invoice;
+class MemberTextBox;
+class QComboBox;
+class QDateEdit;
+class QLineEdit;
+class TableTextBox;
+struct SalesFilter;
+
+/** The list of the sales of all kinds: finds them, opens their payment again, deletes them. */
+class TabDaftarPenjualan final : public AppDocumentTab
+{
+    Q_OBJECT
+
+public:
+    explicit TabDaftarPenjualan(QWidget* parent = nullptr);
+
+public slots:
+    /** Empties the filters and sets both dates to today; the list waits for the search. */
+    void on_btnReset_clicked();
+
+protected:
+    QList<KorEntity*> readRows(const QString& filter) override;
+    KorEntityModel* createModel(const QList<KorEntity*>& rows) override;
+    void modelApplied() override;
+    [[nodiscard]] QString deleteQuestion(const KorEntity* entity) const override;
+    [[nodiscard]] int editKey() const override;
+    [[nodiscard]] int deleteKey() const override;
+    [[nodiscard]] bool asksOnce(int) const override { return true; }
+    /** The sale as the list shows it: one that somebody else has changed since is not deleted unseen. */
+    KorEntity* readEntity(int id) override;
+    bool editEntity(KorEntity* sale) override;
+    bool removeEntity(KorEntity* sale) override;
+    // The payment's form says what kind of sale it saves; nothing is added here.
+    std::unique_ptr<KorDialog> createDialog() override { return nullptr; }
+
+private:
+    void makeFilters();
+    void makeButtons();
+    [[nodiscard]] SalesFilter chosen() const;
+    void editDine(const Invoice& invoice);
+
+    QLineEdit* m_no;
+    QComboBox* m_status;
+    QLineEdit* m_table;
+    QComboBox* m_payment;
+    QDateEdit* m_from;
+    QDateEdit* m_to;
+    QLineEdit* m_agent;
+    QLineEdit* m_member;
+    QLineEdit* m_guest;
+    QLineEdit* m_employee;
+    TableTextBox* m_tables;
+    AgentTextBox* m_agents;
+    MemberTextBox* m_members;
+    EmployeeTextBox* m_employees;
+};
