@@ -1,26 +1,10 @@
 #include "tour/DineInTour.h"
 
 #include "tour/Guide.h"
+#include "tour/Steps.h"
 
 namespace
 {
-void logIn(Guide& guide)
-{
-    guide.chapter("Log in");
-    guide.waitForWindow("DialogLogin");
-    guide.fill("txtUsername", "admin");
-    guide.fill("txtPassword", "wrong");
-    guide.key(Qt::Key_Return);
-    guide.answer("Invalid login", "OK");
-    guide.fill("txtPassword", "Qx7!Rm2z");
-    guide.picture("login");
-    guide.key(Qt::Key_Return);
-    guide.waitUntilClosed("DialogLogin");
-    guide.waitForWindow("MainWindow");
-    guide.resizeMainWindow(QSize(1366, 768));
-    guide.picture("main-window");
-}
-
 void masterData(Guide& guide)
 {
     guide.chapter("The owner adds a table");
@@ -51,16 +35,6 @@ void masterData(Guide& guide)
     guide.key(Qt::Key_Escape);
     guide.waitUntilClosed("DialogItem");
     guide.key(Qt::Key_Escape);
-}
-
-void pick(Guide& guide, const QString& window, const QString& code, const QString& quantity, const QString& notes = {})
-{
-    guide.waitForWindow(window);
-    guide.lookUp("txtCode", code);
-    guide.key(Qt::Key_Return);
-    guide.fill("txtQty", quantity);
-    if (!notes.isEmpty())
-        guide.fill("txtNotes", notes);
 }
 
 void takeOrder(Guide& guide)

@@ -1,5 +1,6 @@
 #include "tour/DineInTour.h"
 #include "tour/Guide.h"
+#include "tour/SellingTour.h"
 #include "tour/StartTour.h"
 
 #include <QCoreApplication>
@@ -36,6 +37,8 @@ private:
         Guide guide(qEnvironmentVariable("ZAVEL_TOUR_DIR"));
         if (name == "dine-in")
             playDineIn(guide);
+        else if (name == "selling")
+            playSelling(guide);
         else if (name == "start")
             playStart(guide);
         else

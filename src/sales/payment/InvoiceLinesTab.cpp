@@ -37,6 +37,8 @@ void InvoiceLinesTab::refresh()
     delete m_model;
     m_model = createModel(asEntities(m_details));
     applyModel(m_grid, m_model);
+    setColumnWidths(m_grid, columnWidths());
+    restoreColumns(m_grid);
     m_grid->selectRow(qBound(0, row, m_details.size() - 1));
     m_count->setText(tr("%1 Items").arg(m_details.size()));
     emit ItemAdded();
@@ -46,5 +48,7 @@ QList<EntityInvoiceDetail*> InvoiceLinesTab::selectedLines() const
 {
     return castAll<EntityInvoiceDetail>(selectedEntities(m_grid, m_model));
 }
+
+QList<int> InvoiceLinesTab::columnWidths() const { return {100, 300, 70, 120, 160}; }
 
 void InvoiceLinesTab::focusGrid() { m_grid->setFocus(); }

@@ -26,6 +26,7 @@ signals:
 
 protected:
     virtual InvoiceLinesModel* createModel(const QList<KorEntity*>& lines) = 0;
+    [[nodiscard]] virtual QList<int> columnWidths() const;
     void refresh();
     [[nodiscard]] QList<EntityInvoiceDetail*> selectedLines() const;
     [[nodiscard]] QHBoxLayout* footer() const { return m_footer; }

@@ -46,6 +46,11 @@ InvoiceLinesModel* TabBayarMakanDitempatDetail::createModel(const QList<KorEntit
     return new TableModelBayarMakanDitempatDetail(lines, m_showSplit->isChecked(), this);
 }
 
+QList<int> TabBayarMakanDitempatDetail::columnWidths() const
+{
+    return m_showSplit->isChecked() ? QList<int>{90, 230, 60, 70, 120, 100, 140} : InvoiceLinesTab::columnWidths();
+}
+
 bool TabBayarMakanDitempatDetail::hasPendingSplit() const
 {
     return std::any_of(details().cbegin(), details().cend(),

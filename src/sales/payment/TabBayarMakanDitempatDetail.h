@@ -31,6 +31,7 @@ public slots:
 
 protected:
     InvoiceLinesModel* createModel(const QList<KorEntity*>& lines) override;
+    [[nodiscard]] QList<int> columnWidths() const override;
 
 private:
     QPushButton* addButton(const QString& name, const QString& text, const QString& hint);
