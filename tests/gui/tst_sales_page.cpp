@@ -1,5 +1,6 @@
 #include "app/context/AppContext.h"
 #include "kor/business/KorServiceDirectory.h"
+#include "sales/fastfood/DialogFastFood.h"
 #include "sales/list/TabDaftarPenjualan.h"
 #include "sales/list/TableModelDaftarPenjualan.h"
 #include "sales/payment/DialogBayarMakanDitempat.h"
@@ -35,6 +36,7 @@ private slots:
     void nothingHappensWithoutTheRight_data();
     void nothingHappensWithoutTheRight();
     void aTablesPaymentIsOpenedAgain();
+    void aCounterSaleIsOpenedAgain();
     void aSaleWithoutItsLinkCannotBeOpened();
     void deletingAsksForTheInvoiceByItsNumber();
     void aBusyMonthOpensInOneStatementAndScrolls();
@@ -286,6 +288,30 @@ void TestSalesPage::aTablesPaymentIsOpenedAgain()
     QCOMPARE(cell(0, TableModelDaftarPenjualan::NetDue), QString("(Rp100.00)"));
     QCOMPARE(count("makan_ditempat WHERE status = 6"), 1);
     QCOMPARE(count("invoice_detail WHERE total_amount = 900"), 1);
+}
+
+void TestSalesPage::aCounterSaleIsOpenedAgain()
+{
+    insertSale(*m_database, {"F1", "TRF", 900, 900, 0, 1, QDate::currentDate(), "Mary"});
+    show();
+    m_grid->selectRow(0);
+    const auto pay = [](const QString& amount, const QString& then) {
+        return [amount, then](DialogFastFood* form) {
+            QCOMPARE(form->findChild<QLineEdit*>("txtKode")->text(), QString("F1"));
+            form->findChild<QLineEdit*>("txtPaid")->setText(amount);
+            then == "save" ? form->accept() : form->reject();
+        };
+    };
+    m_people->expect<DialogFastFood>(pay("500", "leave"));
+    click("btnEdit");
+    QVERIFY(m_people->finished());
+    QCOMPARE(cell(0, TableModelDaftarPenjualan::Cash), QString("Rp900.00"));
+    m_people->expect<DialogFastFood>(pay("400", "save"));
+    click("btnEdit");
+    QVERIFY(m_people->finished());
+    QCOMPARE(m_people->texts(), QStringList());
+    QCOMPARE(cell(0, TableModelDaftarPenjualan::Cash), QString("Rp400.00"));
+    QCOMPARE(cell(0, TableModelDaftarPenjualan::Status), QString("Partially Paid"));
 }
 
 void TestSalesPage::aSaleWithoutItsLinkCannotBeOpened()

@@ -7,6 +7,9 @@
 #include "masterdata/employee/EmployeeTextBox.h"
 #include "masterdata/meja/TableTextBox.h"
 #include "masterdata/member/MemberTextBox.h"
+#include "sales/fastfood/DialogFastFood.h"
+#include "sales/fastfood/EntityInvoiceFastFood.h"
+#include "sales/invoice/IInvoice.h"
 #include "sales/invoice/Invoice.h"
 #include "sales/list/EntityPenjualanInfo.h"
 #include "sales/list/TableModelDaftarPenjualan.h"
@@ -166,20 +169,39 @@ bool TabDaftarPenjualan::editEntity(KorEntity* sale)
     if (!hasAccess(businessName, BusinessPenjualan::UBAH_PESANAN, sale))
         return true;
     const Invoice& invoice = *static_cast<EntityPenjualanInfo*>(sale)->getInvoice();
-    editDine(invoice);
+    if (invoice.getInvoiceType() == Invoice::FastFood)
+        return editFastFood(invoice.getId());
+    editDine(invoice.getId());
     return true;
 }
 
-void TabDaftarPenjualan::editDine(const Invoice& invoice)
+bool TabDaftarPenjualan::editFastFood(int invoiceId)
 {
-    auto* found = businessAs<BusinessPenjualan>()->findMakanDitempatByInvoiceId(invoice.getId());
+    auto* found = businessAs<BusinessPenjualan>()->findFastFoodByInvoiceId(invoiceId);
     if (!found) {
-        tellNotFound(notFoundText(invoice.getId()));
+        tellNotFound(notFoundText(invoiceId));
+        return true;
+    }
+    DialogFastFood dialog(this);
+    dialog.setEntity(found);
+    return runDialog(dialog, false);
+}
+
+void TabDaftarPenjualan::editDine(int invoiceId)
+{
+    auto* found = businessAs<BusinessPenjualan>()->findMakanDitempatByInvoiceId(invoiceId);
+    if (!found) {
+        tellNotFound(notFoundText(invoiceId));
         return;
     }
     DialogBayarMakanDitempat dialog(this);
     dialog.setEntity(found);
     dialog.exec();
+}
+
+bool TabDaftarPenjualan::updateEntity(KorEntity* sale)
+{
+    return businessAs<BusinessPenjualan>()->updateInvoice(dynamic_cast<IInvoice*>(sale));
 }
 
 bool TabDaftarPenjualan::removeEntity(KorEntity* sale)

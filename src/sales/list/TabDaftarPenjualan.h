@@ -5,7 +5,6 @@
 class AgentTextBox;
 class EmployeeTextBox;
 class EntityPenjualanInfo;
-class Invoice;
 class MemberTextBox;
 class QComboBox;
 class QDateEdit;
@@ -36,6 +35,7 @@ protected:
     /** The sale as the list shows it: one that somebody else has changed since is not deleted unseen. */
     KorEntity* readEntity(int id) override;
     bool editEntity(KorEntity* sale) override;
+    bool updateEntity(KorEntity* sale) override;
     bool removeEntity(KorEntity* sale) override;
     // The payment's form says what kind of sale it saves; nothing is added here.
     std::unique_ptr<KorDialog> createDialog() override { return nullptr; }
@@ -44,7 +44,9 @@ private:
     void makeFilters();
     void makeButtons();
     [[nodiscard]] SalesFilter chosen() const;
-    void editDine(const Invoice& invoice);
+    /** False when the cashier gave the form up. */
+    bool editFastFood(int invoiceId);
+    void editDine(int invoiceId);
 
     QLineEdit* m_no;
     QComboBox* m_status;
