@@ -1,10 +1,14 @@
 #include "kor/business/KorServiceDirectory.h"
+#include "kor/persistence/KorDataMapper.h"
 #include "sales/list/EntityPenjualanInfo.h"
+#include "sales/list/EntitySalesSummaryInfo.h"
+#include "sales/list/EntitySoldItem.h"
 #include "sales/service/BusinessPenjualan.h"
 #include "support/SalesRows.h"
 #include "support/ShopRows.h"
 #include "support/TestDatabase.h"
 
+#include <QRandomGenerator>
 #include <QTest>
 
 Q_DECLARE_METATYPE(SalesFilter)
@@ -20,6 +24,47 @@ SalesFilter inMarch()
     filter.to = QDate(2026, 3, 31);
     return filter;
 }
+/** What a day or a month took in: sales, total, cash that stayed in the drawer, anything else. */
+struct Sums
+{
+    qint64 count = 0;
+    qint64 total = 0;
+    qint64 cash = 0;
+    qint64 credit = 0;
+
+    Sums& operator+=(const EntityPenjualanInfo& row)
+    {
+        const auto amount = [](const Money* money) { return qint64(money->getAmount()); };
+        const qint64 paid = amount(row.getAmountPaid());
+        ++count;
+        total += amount(row.getGrandTotal());
+        cash += paid - std::max(paid - amount(row.getGrandTotal()), qint64(0));
+        credit += amount(row.getOtherPayment());
+        return *this;
+    }
+};
+
+QString text(const QMap<QDate, Sums>& sums)
+{
+    QStringList lines;
+    for (auto sum = sums.cbegin(); sum != sums.cend(); ++sum)
+        lines.append(QString("%1: %2 %3 %4 %5")
+                         .arg(sum.key().toString(Qt::ISODate))
+                         .arg(sum->count)
+                         .arg(sum->total)
+                         .arg(sum->cash)
+                         .arg(sum->credit));
+    return lines.join(", ");
+}
+
+QString text(const QList<EntitySalesSummaryInfo*>& figures)
+{
+    QMap<QDate, Sums> sums;
+    for (const EntitySalesSummaryInfo* figure : figures)
+        sums.insert(figure->getDate(),
+                    {figure->getSalesCount(), figure->getTotal(), figure->getCash(), figure->getCredit()});
+    return text(sums);
+}
 } // namespace
 
 /** Finding the sales of all kinds in one list, and deleting them from it. */
@@ -32,6 +77,8 @@ private slots:
     void cleanup() { m_database.reset(); }
     void theListFindsWhatTheFilterAsksFor_data();
     void theListFindsWhatTheFilterAsksFor();
+    void theFiguresAreTheSumsOfTheList_data();
+    void theFiguresAreTheSumsOfTheList();
     void anAgentWaitsForTheCommissionOfSalesThatNobodyPaidHimFor();
     void deletingASaleTakesItsLinkAndItsLinesAlone_data();
     void deletingASaleTakesItsLinkAndItsLinesAlone();
@@ -43,6 +90,8 @@ private:
     QStringList numbers(const SalesFilter& filter);
     /** The row of the list with this number. */
     Invoice* listed(const QString& no);
+    /** Sixty sales of a spring, with further lines of two dishes. */
+    void sellAtRandom(QRandomGenerator& chance);
     int count(const QString& rows) { return m_database->value("select count(*) from " + rows).toInt(); }
 
     std::unique_ptr<TestDatabase> m_database;
@@ -143,6 +192,75 @@ void TestSalesList::theListFindsWhatTheFilterAsksFor()
     const StatementCount statements;
     QCOMPARE(numbers(filter).join(' '), found);
     QCOMPARE(statements.count(), 1);
+}
+
+void TestSalesList::sellAtRandom(QRandomGenerator& chance)
+{
+    for (int i = 0; i < 60; ++i) {
+        const int total = chance.bounded(50) * 500;
+        const int other = chance.bounded(4) == 0 ? chance.bounded(total + 1) : 0;
+        // Nothing, a part, exactly, or a large note.
+        const int paid = QList<int>{0, total / 3, total - other, total + 5000}.at(chance.bounded(4));
+        SaleRow sale{QString::number(i), QStringList{"TRD", "TRF", "TRP"}.at(chance.bounded(3)), total, paid, other};
+        sale.date = march.addDays(chance.bounded(80));
+        sale.user = 1 + chance.bounded(2);
+        const int id = insertSale(*m_database, sale);
+        for (int line = chance.bounded(3); line > 0; --line)
+            m_database->run(QString("INSERT INTO invoice_detail (invoice_id, item_id, qty, price_each_currency, "
+                                    "price_each_amount, discount_currency, discount_amount, total_currency, "
+                                    "total_amount, version) VALUES (%1, 2, %2, 'Rp', 700, 'Rp', 0, 'Rp', %2 * 700, 1)")
+                                .arg(id)
+                                .arg(1 + chance.bounded(9)));
+    }
+}
+
+void TestSalesList::theFiguresAreTheSumsOfTheList_data()
+{
+    QTest::addColumn<quint32>("seed");
+    for (quint32 seed : {1U, 7U, 42U, 2026U, 90125U})
+        QTest::newRow(qPrintable(QString("seed %1").arg(seed))) << seed;
+}
+
+void TestSalesList::theFiguresAreTheSumsOfTheList()
+{
+    QFETCH(quint32, seed);
+    QRandomGenerator chance(seed);
+    m_database->run("CREATE TEMP TABLE tea AS SELECT * FROM item");
+    m_database->run("UPDATE tea SET id = 2, kode = 'TEA'");
+    m_database->run("INSERT INTO item SELECT * FROM tea");
+    sellAtRandom(chance);
+
+    for (int round = 0; round < 4; ++round) {
+        SalesFilter filter;
+        filter.from = march.addDays(chance.bounded(60));
+        filter.to = filter.from.addDays(chance.bounded(40));
+        const int user = round % 2 == 0 ? int(BusinessPenjualan::AllUsers) : 1 + chance.bounded(2);
+        QMap<QDate, Sums> days;
+        QMap<QDate, Sums> months;
+        QList<int> listed;
+        for (const EntityPenjualanInfo* row : m_sales->searchPenjualan(filter)) {
+            listed.append(row->getId());
+            if (user != BusinessPenjualan::AllUsers && row->getUser()->getId() != user)
+                continue;
+            const QDate date = row->getInvoice()->getInvoiceDate();
+            days[date] += *row;
+            months[QDate(date.year(), date.month(), 1)] += *row;
+        }
+        QVERIFY2(!m_sales->hasError(), qPrintable(m_sales->takeErrors()));
+        QCOMPARE(text(m_sales->getDailySales(filter.from, filter.to, user)), text(days));
+        QCOMPARE(text(m_sales->getMonthlySales(filter.from, filter.to, user)), text(months));
+
+        QStringList items;
+        for (const EntitySoldItem* item : m_sales->getSoldItems(filter.from, filter.to, "asc", "kode", QString()))
+            items.append(QString("%1 %2 %3").arg(item->getKode()).arg(item->getTotalQty()).arg(item->getTotalPrice()));
+        QCOMPARE(items.join(','), m_database
+                                      ->value("SELECT string_agg(sold, ',' ORDER BY sold) FROM (SELECT kode || "
+                                              "' ' || sum(qty) || ' ' || sum(total_amount) AS sold FROM "
+                                              "invoice_detail JOIN item ON item.id = item_id WHERE invoice_id "
+                                              "= ANY('" +
+                                              KorDataMapper::idList(listed) + "') GROUP BY kode) lines")
+                                      .toString());
+    }
 }
 
 void TestSalesList::anAgentWaitsForTheCommissionOfSalesThatNobodyPaidHimFor()
