@@ -75,6 +75,7 @@ private slots:
     void adjustmentsOfAnItemAreListed();
     void theJournalIsReadByPeriodAndItem_data();
     void theJournalIsReadByPeriodAndItem();
+    void aLineOfADocumentHasOneRowInTheJournal();
 
 private:
     void happen(int itemId, const Event& event);
@@ -309,6 +310,41 @@ void TestStock::theJournalIsReadByPeriodAndItem()
     QCOMPARE(found->getUnitPrice()->rawAmount(), 1500);
     QCOMPARE(found->getItem()->getJenis()->getKode(), QString("mkn"));
     QVERIFY(!journal->findByTrans(EntityItemHistory::ADJUSMENT, 8));
+}
+
+void TestStock::aLineOfADocumentHasOneRowInTheJournal()
+{
+    DataMapperItemHistory* journal = PosMapperRegistry::instance()->itemHistoryMapper();
+    EntityItem rice;
+    rice.setId(idOf("ns"));
+    Money price(nullptr, 1500, "Rp");
+    const int line = 7;
+    ItemMovement movement{EntityItemHistory::PURCHASE, line, &rice, 20, 0, &price, firstDay, "PU-1"};
+    // The same line of another kind of document is somebody else's.
+    QVERIFY(journal->add({EntityItemHistory::CREDIT_NOTE, line, &rice, 0, 3, nullptr, firstDay, "CN-1"}));
+    const auto rows = [this] {
+        return m_database
+            ->value("SELECT string_agg(concat_ws(' ', tran_type, qty_in, qty_out, qty_remain, unit_price_amount, "
+                    "trans_date, no, version), ', ' ORDER BY tran_type) FROM item_history")
+            .toString();
+    };
+    const QString note = "4 0 3 0 0 2026-01-28 CN-1 1";
+
+    QVERIFY2(journal->write(movement), qPrintable(journal->takeError()));
+    QCOMPARE(rows(), "1 20 0 0 1500 2026-01-28 PU-1 1, " + note);
+    movement.quantityIn = 24;
+    movement.date = firstDay.addDays(1);
+    QVERIFY2(journal->write(movement), qPrintable(journal->takeError()));
+    QCOMPARE(rows(), "1 24 0 0 1500 2026-01-29 PU-1 2, " + note);
+    QVERIFY2(journal->removeLine(EntityItemHistory::PURCHASE, line), qPrintable(journal->takeError()));
+    QVERIFY2(journal->removeLine(EntityItemHistory::PURCHASE, line), qPrintable(journal->takeError()));
+    QCOMPARE(rows(), note);
+
+    m_database->run("ALTER TABLE item_history RENAME TO elsewhere");
+    QVERIFY(!journal->write(movement));
+    QVERIFY(journal->takeError().contains("item_history"));
+    QVERIFY(!journal->removeLine(EntityItemHistory::CREDIT_NOTE, line));
+    QVERIFY(journal->takeError().contains("item_history"));
 }
 
 QTEST_MAIN(TestStock)

@@ -1,5 +1,6 @@
 #include "inventory/stock/DataMapperItemHistory.h"
 
+#include "app/context/EntityPool.h"
 #include "inventory/stock/EntityItemHistory.h"
 #include "kor/entity/KorMetaDataMap.h"
 #include "kor/persistence/KorPaging.h"
@@ -54,4 +55,49 @@ QList<EntityItemHistory*> DataMapperItemHistory::findAll(const ItemHistoryFilter
     paging.addSort("trans_date", "asc");
     paging.addSort(", item_history.id", "asc");
     return castAll<EntityItemHistory>(find(&paging));
+}
+
+void DataMapperItemHistory::fill(EntityItemHistory& row, const ItemMovement& movement)
+{
+    row.setTransType(movement.transType);
+    row.setIdTrans(movement.lineId);
+    row.setItem(movement.item);
+    row.setQtyIn(movement.quantityIn);
+    row.setQtyOut(movement.quantityOut);
+    // An item that came without a price still has to stand on the card.
+    row.setUnitPrice(movement.unitPrice ? movement.unitPrice : new Money(&row, 0, QString()));
+    row.setDate(movement.date);
+    row.setNo(movement.number);
+}
+
+bool DataMapperItemHistory::add(const ItemMovement& movement)
+{
+    EntityItemHistory row;
+    fill(row, movement);
+    return insert(&row);
+}
+
+bool DataMapperItemHistory::write(const ItemMovement& movement)
+{
+    EntityPool read;
+    const EntityPoolScope scope(read);
+    clearError();
+    EntityItemHistory* row = findByTrans(movement.transType, movement.lineId);
+    if (hasError())
+        return false;
+    if (!row)
+        return add(movement);
+    fill(*row, movement);
+    return update(row);
+}
+
+bool DataMapperItemHistory::removeLine(int transType, int lineId)
+{
+    EntityPool read;
+    const EntityPoolScope scope(read);
+    clearError();
+    EntityItemHistory* row = findByTrans(transType, lineId);
+    if (hasError())
+        return false;
+    return !row || remove(row);
 }
