@@ -96,13 +96,11 @@ void MainWindow::buildSidebar()
 void MainWindow::showStartPages()
 {
     const AppContext* context = AppContext::instance();
-    // Nobody asked for the dashboard by hand here: where it is not on board, the program starts without a word.
-    const bool showDashboard = context->showDashboard() && m_tabFactories.contains("TabDashboard");
-    if (showDashboard)
+    if (context->showDashboard())
         openTab("TabDashboard");
     else
         closeDashboard();
-    m_ui->actionShow_Dashboard->setChecked(showDashboard);
+    tickDashboard();
     m_ui->treeWidget->setVisible(context->showSidebar());
     m_ui->actionShow_Sidebar->setChecked(context->showSidebar());
 }
@@ -177,7 +175,11 @@ void MainWindow::openReport(const QString& reportName)
     addPage(tab);
 }
 
-void MainWindow::addPage(QWidget* page) { showPage(m_ui->tabWidget->addTab(page, page->windowTitle())); }
+void MainWindow::addPage(QWidget* page)
+{
+    showPage(m_ui->tabWidget->addTab(page, page->windowTitle()));
+    tickDashboard();
+}
 
 void MainWindow::showPage(int index)
 {
@@ -212,6 +214,7 @@ void MainWindow::removePage(int index)
     if (QWidget* page = m_ui->tabWidget->widget(index))
         page->deleteLater();
     m_ui->tabWidget->removeTab(index);
+    tickDashboard();
     focusPage();
 }
 
@@ -246,6 +249,8 @@ void MainWindow::closeDashboard()
         removePage(index);
 }
 
+void MainWindow::tickDashboard() { m_ui->actionShow_Dashboard->setChecked(findPage("TabDashboard") >= 0); }
+
 // Actions and commands
 
 void MainWindow::on_actionShow_Sidebar_triggered()
@@ -263,6 +268,7 @@ void MainWindow::on_actionShow_Dashboard_triggered()
         openTab("TabDashboard");
     else
         closeDashboard();
+    tickDashboard();
 }
 
 void MainWindow::on_actionConfig_triggered()

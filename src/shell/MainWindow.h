@@ -123,6 +123,8 @@ private:
     [[nodiscard]] int findPage(const QString& className, const QString& title = QString()) const;
     void removePage(int index);
     void closeDashboard();
+    /** The menu's tick tells whether the page is there, however it came or went. */
+    void tickDashboard();
     void showInfo(const QString& text);
     void showNotBuiltYet(const QString& what);
 

@@ -4,6 +4,7 @@
 #include "app/access/TabUserAccess.h"
 #include "app/access/TabUserGroup.h"
 #include "app/numbers/TabKeyTable.h"
+#include "dashboard/TabDashboard.h"
 #include "masterdata/agent/TabAgent.h"
 #include "masterdata/bank/TabBank.h"
 #include "masterdata/employee/TabEmployee.h"
@@ -34,6 +35,7 @@ TabFactories allTabFactories()
         {"TabAgent", make<TabAgent>},
         {"TabBank", make<TabBank>},
         {"TabDaftarPenjualan", make<TabDaftarPenjualan>},
+        {"TabDashboard", make<TabDashboard>},
         {"TabEmployee", make<TabEmployee>},
         {"TabItem", make<TabItem>},
         {"TabJenisItem", make<TabJenisItem>},

@@ -31,39 +31,10 @@ private slots:
     void anUnknownOrderIsRefusedBeforeItReachesTheDatabase();
 
 private:
-    void sell(const QString& day, int user, int total, int cash, int other, int item, int qty);
-
     std::unique_ptr<TestDatabase> m_database;
     BusinessPenjualan* m_sales = nullptr;
     EntityPool m_pool;
 };
-
-void TestSalesFigures::sell(const QString& day, int user, int total, int cash, int other, int item, int qty)
-{
-    // The amounts in their columns' order; only three of them count here.
-    const auto money = [](const QStringList& amounts) { return "'Rp', " + amounts.join(", 'Rp', "); };
-    const QString sum = QString::number(total);
-    const QStringList amounts{sum, "0", "0", sum, QString::number(cash), "0", QString::number(other), "0"};
-    const int invoice = m_database
-                            ->value(QString("INSERT INTO invoice (sub_total_currency, sub_total_amount, "
-                                            "discount_currency, discount_amount, tax_currency, tax_amount, "
-                                            "grandtotal_currency, grandtotal_amount, amount_paid_currency, "
-                                            "amount_paid_amount, net_due_currency, net_due_amount, "
-                                            "other_payment_currency, other_payment_amount, service_currency, "
-                                            "service_amount, no, invoice_date, invoice_type, status, disc_perc, "
-                                            "tax_perc, service_perc, acct_code, createdby, version) VALUES "
-                                            "(%1, '', '%2', 'TRF', 1, 0, 0, 0, '1-100', %3, 1) RETURNING id")
-                                        .arg(money(amounts), day)
-                                        .arg(user))
-                            .toInt();
-    m_database->run(QString("INSERT INTO invoice_detail (price_each_currency, price_each_amount, discount_currency, "
-                            "discount_amount, total_currency, total_amount, invoice_id, item_id, qty, version) VALUES "
-                            "(%1, %2, %3, %4, 1)")
-                        .arg(money({"1", "0", sum}))
-                        .arg(invoice)
-                        .arg(item)
-                        .arg(qty));
-}
 
 void TestSalesFigures::initTestCase()
 {
@@ -72,20 +43,15 @@ void TestSalesFigures::initTestCase()
     loginAsAdmin();
     m_sales = service<BusinessPenjualan>("Sales");
     m_database->run("INSERT INTO jenis_item (id, kode, nama, version) VALUES (2, 'DRINK', 'Drink', 1)");
-    for (const char* item : {"2, 'TEA', 'Tea', 2", "3, 'SOUP', 'Soup', 1"})
-        m_database->run(QString("INSERT INTO item (id, kode, nama, jenis, item_type, is_group, satuan, "
-                                "harga_beli_currency, harga_beli_amount, harga_jual_lokal_currency, "
-                                "harga_jual_lokal_amount, sales_acct_code, inventory_acct_code, "
-                                "cost_of_sales_acct_code, version) VALUES (%1, 1, false, 1, 'Rp', 1, 'Rp', 1, '1-100', "
-                                "'1-100', '1-100', 1)")
-                            .arg(item));
-    sell("2026-02-26", 1, 5000, 5000, 0, 1, 50);
-    sell("2026-02-27", 1, 900, 1000, 0, 1, 3);
-    sell("2026-02-27", 2, 400, 100, 300, 2, 8);
+    insertItem(*m_database, 2, "TEA", "Tea", 2);
+    insertItem(*m_database, 3, "SOUP", "Soup");
+    insertSale(*m_database, {2026, 2, 26}, 1, {5000, 5000, 0}, 50, 1);
+    insertSale(*m_database, {2026, 2, 27}, 1, {900, 1000, 0}, 3, 1);
+    insertSale(*m_database, {2026, 2, 27}, 2, {400, 100, 300}, 8, 2);
     // More than 32 bits hold.
-    sell("2026-03-02", 2, 2000000000, 2000000000, 0, 3, 3);
-    sell("2026-03-02", 2, 2000000000, 0, 0, 3, 4);
-    sell("2026-03-03", 2, 7000, 7000, 0, 1, 70);
+    insertSale(*m_database, {2026, 3, 2}, 3, {2000000000, 2000000000, 0}, 3, 2);
+    insertSale(*m_database, {2026, 3, 2}, 3, {2000000000, 0, 0}, 4, 2);
+    insertSale(*m_database, {2026, 3, 3}, 1, {7000, 7000, 0}, 70, 2);
 }
 
 void TestSalesFigures::salesAreSummedByDayAndByMonth_data()

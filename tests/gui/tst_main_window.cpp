@@ -24,6 +24,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTreeWidget>
+#include <QWebFrame>
+#include <QWebView>
 
 namespace
 {
@@ -131,6 +133,7 @@ private slots:
     void theSidebarCanBeHidden();
     void theDashboardsCommandsOpenTheirPages_data();
     void theDashboardsCommandsOpenTheirPages();
+    void aDashboardWithoutItsFileStaysEmptyWithoutAWord();
     void aReportOpensOnceATitleAndKnowsTheConnection();
     void closingOneReportLeavesTheOthers();
     void aPlugInThatDoesNotLoadIsToldAndTheOthersWork();
@@ -490,6 +493,16 @@ void TestMainWindow::theDashboardsCommandsOpenTheirPages()
     } else {
         QCOMPARE(m_people->texts(), QStringList{"can not load tab: " + page});
     }
+}
+
+void TestMainWindow::aDashboardWithoutItsFileStaysEmptyWithoutAWord()
+{
+    auto* show = action("actionShow_Dashboard");
+    show->trigger();
+    auto* view = m_window->findChild<QWebView*>("webView");
+    QVERIFY2(!view->page()->mainFrame()->requestedUrl().isLocalFile(), "the engine would tell of the missing file");
+    QCOMPARE(view->page()->mainFrame()->toPlainText(), QString());
+    QCOMPARE(m_people->texts(), QStringList());
 }
 
 void TestMainWindow::aReportOpensOnceATitleAndKnowsTheConnection()

@@ -18,10 +18,7 @@ void insertShop(TestDatabase& database)
     database.run("INSERT INTO meja (id, kode, nama, version) VALUES (1, 'T1', 'Window', 1)");
     database.run("INSERT INTO jenis_item (id, kode, nama, version) VALUES (1, 'FOOD', 'Food', 1)");
     database.run("INSERT INTO satuan (id, kode, nama, version) VALUES (1, 'KG', 'Kilogram', 1)");
-    database.run("INSERT INTO item (id, kode, item_type, is_group, nama, jenis, satuan, harga_beli_currency, "
-                 "harga_beli_amount, harga_jual_lokal_currency, harga_jual_lokal_amount, sales_acct_code, "
-                 "inventory_acct_code, cost_of_sales_acct_code, version) VALUES "
-                 "(1, 'RICE', 1, false, 'Rice', 1, 1, 'Rp', 10, 'Rp', 15, '1-100', '1-100', '1-100', 1)");
+    insertItem(database, 1, "RICE", "Rice");
     // The name is quoted, or its letters would be read as a date pattern.
     database.run("INSERT INTO keytable (key_name, next_id, increment_by, format, description, no_zero, version) "
                  "SELECT name, 7, 1, '''' || name || '-''', name, 4, 1 FROM unnest(ARRAY['PO', 'NB', 'NR', 'TPH', "
@@ -44,4 +41,43 @@ int insertDineOrder(TestDatabase& database, const QList<QPair<int, int>>& lines,
                          .arg(line.second)
                          .arg(qint64(line.first) * line.second));
     return id;
+}
+
+void insertSale(TestDatabase& database, const QDate& date, int item, const SaleMoney& money, int qty, int user)
+{
+    const auto amounts = [](const QStringList& sums) { return "'Rp', " + sums.join(", 'Rp', "); };
+    const QString total = QString::number(money.total);
+    const QString paid = QString::number(money.cash);
+    const QString other = QString::number(money.other);
+    const int invoice =
+        database
+            .value(QString("INSERT INTO invoice (sub_total_currency, sub_total_amount, "
+                           "discount_currency, discount_amount, tax_currency, tax_amount, "
+                           "grandtotal_currency, grandtotal_amount, amount_paid_currency, "
+                           "amount_paid_amount, net_due_currency, net_due_amount, "
+                           "other_payment_currency, other_payment_amount, service_currency, "
+                           "service_amount, no, invoice_date, invoice_type, status, disc_perc, "
+                           "tax_perc, service_perc, acct_code, createdby, version) VALUES "
+                           "(%1, '', '%2', 'TRF', 1, 0, 0, 0, '1-100', %3, 1) RETURNING id")
+                       .arg(amounts({total, "0", "0", total, paid, "0", other, "0"}), date.toString(Qt::ISODate))
+                       .arg(user))
+            .toInt();
+    database.run(QString("INSERT INTO invoice_detail (price_each_currency, price_each_amount, discount_currency, "
+                         "discount_amount, total_currency, total_amount, invoice_id, item_id, qty, version) VALUES "
+                         "(%1, %2, %3, %4, 1)")
+                     .arg(amounts({"1", "0", total}))
+                     .arg(invoice)
+                     .arg(item)
+                     .arg(qty));
+}
+
+void insertItem(TestDatabase& database, int id, const QString& code, const QString& name, int type)
+{
+    database.run(QString("INSERT INTO item (id, kode, nama, jenis, item_type, is_group, satuan, harga_beli_currency, "
+                         "harga_beli_amount, harga_jual_lokal_currency, harga_jual_lokal_amount, sales_acct_code, "
+                         "inventory_acct_code, cost_of_sales_acct_code, version) VALUES "
+                         "(%1, '%2', '%3', %4, 1, false, 1, 'Rp', 10, 'Rp', 15, '1-100', '1-100', '1-100', 1)")
+                     .arg(id)
+                     .arg(code, name)
+                     .arg(type));
 }

@@ -18,3 +18,17 @@ void insertShop(TestDatabase& database);
  * item RICE for every pair of a quantity and a price. Returns the order's id.
  */
 int insertDineOrder(TestDatabase& database, const QList<QPair<int, int>>& lines, const QDate& date = {2026, 3, 1});
+
+/** A further item of the shop; its type has an id. */
+void insertItem(TestDatabase& database, int id, const QString& code, const QString& name, int type = 1);
+
+/** The money of a sale: what it came to, what was handed over in cash, and what was paid otherwise. */
+struct SaleMoney
+{
+    qint64 total;
+    qint64 cash;
+    qint64 other = 0;
+};
+
+/** Lays down the invoice of one sale with one line: so many of the item, for the total. */
+void insertSale(TestDatabase& database, const QDate& date, int item, const SaleMoney& money, int qty = 1, int user = 1);
