@@ -17,6 +17,7 @@
 #include "printing/configuration/TabKitchenPrinter.h"
 #include "sales/list/TabDaftarPenjualan.h"
 #include "sales/order/TabMakanDitempat.h"
+#include "sales/receivable/TabPiutang.h"
 
 namespace
 {
@@ -44,6 +45,7 @@ TabFactories allTabFactories()
         {"TabMakanDitempat", make<TabMakanDitempat>},
         {"TabMeja", make<TabMeja>},
         {"TabMember", make<TabMember>},
+        {"TabPiutang", make<TabPiutang>},
         {"TabSatuan", make<TabSatuan>},
         {"TabSupplier", make<TabSupplier>},
         {"TabUser", make<TabUser>},

@@ -4,33 +4,14 @@
 #include "sales/invoice/DataMapperInvoice.h"
 #include "sales/invoice/InvoiceStatus.h"
 #include "sales/list/EntityPenjualanInfo.h"
+#include "sales/receivable/AmountLeft.h"
 #include "sales/receivable/DataMapperPiutang.h"
 #include "sales/receivable/DataMapperPiutangDetail.h"
 #include "sales/service/BusinessPenjualan.h"
 
 #include <QHash>
 
-#include <memory>
-
 // What members pay later.
-
-namespace
-{
-std::unique_ptr<Money> minorUnits(double amount, const QString& currency)
-{
-    auto money = std::make_unique<Money>(nullptr, 0, currency);
-    money->setRawAmount(amount);
-    return money;
-}
-
-/** What is left of the invoice, in its own currency. */
-std::unique_ptr<Money> leftOf(const Invoice& invoice)
-{
-    return minorUnits(double(invoice.getGrandTotal()->rawAmount()) - invoice.getAmountPaid()->rawAmount() -
-                          invoice.getOtherPayment()->rawAmount(),
-                      invoice.getGrandTotal()->getCurrency());
-}
-} // namespace
 
 EntityPiutang* BusinessPenjualan::findPiutang(int id)
 {
@@ -71,7 +52,7 @@ bool BusinessPenjualan::updateInvoicesOfPiutang(const EntityPiutang* payment)
         // In place of any other credit, also of one that was given at the sale.
         invoice->setOtherPayment(
             minorUnits(paid.value(invoice->getId()), payment->getGrandTotal()->getCurrency()).get());
-        invoice->setNetDue(leftOf(*invoice).get());
+        invoice->setNetDue(amountLeft(*invoice).get());
         setInvoiceStatus(invoice);
         done = written(m_mappers.invoices->update(invoice), m_mappers.invoices, "updateInvoice") && done;
     }
@@ -110,7 +91,7 @@ QList<EntityPiutangDetail*> BusinessPenjualan::getUnpaidInvoicesForMember(int me
     for (const EntityPenjualanInfo* sale : searchPenjualan(open)) {
         auto* line = new EntityPiutangDetail(AppDataMapper::entityParent());
         line->setInvoice(sale->getInvoice());
-        line->setAmountDue(leftOf(*sale->getInvoice()).get());
+        line->setAmountDue(amountLeft(*sale->getInvoice()).get());
         line->setAmountPaid(minorUnits(0, line->getAmountDue()->getCurrency()).get());
         lines.append(line);
     }

@@ -1,0 +1,108 @@
+#include "sales/receivable/DialogPiutang.h"
+
+#include "app/persistence/AppDocumentLines.h"
+#include "kor/business/KorServiceDirectory.h"
+#include "masterdata/member/MemberTextBox.h"
+#include "purchasing/payment/PaymentTypeText.h"
+#include "sales/receivable/AmountLeft.h"
+#include "sales/receivable/EntityPiutang.h"
+#include "sales/receivable/TabPiutangInvoice.h"
+#include "sales/service/BusinessPenjualan.h"
+
+#include "ui_DialogPiutang.h"
+
+namespace
+{
+const EntityPiutangDetail& detail(const KorEntity& line) { return static_cast<const EntityPiutangDetail&>(line); }
+} // namespace
+
+DialogPiutang::DialogPiutang(QWidget* parent)
+    : SettlementDialog(parent), m_ui(std::make_unique<Ui::DialogPiutang>()),
+      m_sales(service<BusinessPenjualan>("Sales")), m_invoices(new TabPiutangInvoice)
+{
+    m_ui->setupUi(this);
+    for (const auto& type : paymentTypeRows())
+        m_ui->ddlPaymentType->addItem(type.first, type.second);
+    m_memberBox = new MemberTextBox(m_ui->txtMember, service<BusinessMember>("Member"));
+    m_memberBox->setNextWidget(m_ui->txtARAccount);
+    connect(m_memberBox, &KorTextBoxExtender::onItemSelected, this, &DialogPiutang::onMemberSelected);
+    setUpSettlement({m_ui->txtMember, m_ui->datePay, m_ui->txtARAccount, m_ui->lblARAccount, m_ui->tabDetail,
+                     m_ui->txtGrandTotal, m_ui->buttonBox},
+                    {tr("Select a member"), tr("Enter one or more sales invoice"),
+                     tr("Enter the amount paid for the invoice no: %1"), tr("Please select an Accounts Receivable"),
+                     tr("Please select a valid Accounts Receivable")},
+                    m_invoices, service<BusinessMember>("Member"), m_sales);
+    focusLater(m_ui->txtMember);
+}
+
+DialogPiutang::~DialogPiutang() = default;
+
+void DialogPiutang::onMemberSelected() { takePerson(m_memberBox->selectedItem()); }
+
+EntityContact* DialogPiutang::findPerson(const QString& code)
+{
+    return service<BusinessMember>("Member")->findByCode(code);
+}
+
+void DialogPiutang::showPerson(const EntityContact* person)
+{
+    m_ui->txtNamaPelanggan->setText(person ? person->getNama() : QString());
+}
+
+QList<KorEntity*> DialogPiutang::readOpenLines(const EntityContact& person)
+{
+    return asEntities(m_sales->getUnpaidInvoicesForMember(person.getId()));
+}
+
+int DialogPiutang::documentIdOf(const KorEntity& line) const { return detail(line).getInvoice()->getId(); }
+
+QString DialogPiutang::documentNoOf(const KorEntity& line) const { return detail(line).getInvoice()->getInvoiceNo(); }
+
+const Money* DialogPiutang::amountOf(const KorEntity& line) const { return detail(line).getAmountPaid(); }
+
+QList<EntityPiutangDetail*> DialogPiutang::paidLines() const
+{
+    QList<EntityPiutangDetail*> paid;
+    for (KorEntity* line : m_invoices->lines()) {
+        if (detail(*line).getAmountPaid()->rawAmount() != 0)
+            paid.append(static_cast<EntityPiutangDetail*>(line));
+    }
+    return paid;
+}
+
+const KorEntity* DialogPiutang::lineWithoutAmount() const
+{
+    return paidLines().isEmpty() ? m_invoices->lines().first() : nullptr;
+}
+
+void DialogPiutang::setEntity(KorEntity* entity)
+{
+    hold(entity);
+    const auto* payment = held<EntityPiutang>();
+    m_ui->txtKode->setText(payment->getNo());
+    m_ui->ddlPaymentType->setCurrentIndex(m_ui->ddlPaymentType->findData(payment->getPaymentType()));
+    m_ui->txtCekNo->setText(payment->getCheckNo());
+    m_ui->txtRefNo->setText(payment->getNoRef());
+    m_ui->datePay->setDate(payment->getDate());
+    m_ui->txtNotes->setPlainText(payment->getNote());
+    // As things stand now: other payments may have paid of the same invoices since.
+    for (EntityPiutangDetail* line : payment->getDetails())
+        line->setAmountDue(amountLeft(*line->getInvoice()).get());
+    showStored(payment->getMember(), payment->getBank(), asEntities(payment->getDetails()), true);
+}
+
+KorEntity* DialogPiutang::getEntity()
+{
+    auto* payment = heldOrNew<EntityPiutang>();
+    payment->setMember(static_cast<EntityMember*>(person()));
+    payment->setPaymentType(m_ui->ddlPaymentType->currentData().toInt());
+    payment->setDate(m_ui->datePay->date());
+    payment->setCheckNo(m_ui->txtCekNo->text());
+    payment->setNoRef(m_ui->txtRefNo->text());
+    payment->setNote(m_ui->txtNotes->toPlainText());
+    payment->setBank(account());
+    payment->setGrandTotal(m_ui->txtGrandTotal->money());
+    payment->setDetails(paidLines());
+    payment->setRemovedDetails(castAll<EntityPiutangDetail>(removedLines(asEntities(paidLines()))));
+    return payment;
+}

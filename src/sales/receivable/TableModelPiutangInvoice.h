@@ -1,0 +1,12 @@
+#pragma once
+
+#include "app/widgets/AppEntityModel.h"
+
+/** The open invoices of a member, with what a payment pays of each. */
+class TableModelPiutangInvoice final : public AppEntityModel
+{
+    Q_OBJECT
+
+public:
+    TableModelPiutangInvoice(const QList<KorEntity*>& lines, QObject* parent);
+};

@@ -1,0 +1,440 @@
+#include "app/context/AppContext.h"
+#include "kor/business/KorServiceDirectory.h"
+#include "sales/receivable/DialogBayarPiutang.h"
+#include "sales/receivable/DialogPiutang.h"
+#include "sales/receivable/EntityPiutang.h"
+#include "sales/receivable/TabPiutang.h"
+#include "sales/service/BusinessPenjualan.h"
+#include "support/ModalDriver.h"
+#include "support/SalesRows.h"
+#include "support/ShopRows.h"
+#include "support/TestDatabase.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTableView>
+#include <QTest>
+
+/** The cashier at the page of members' payments, with keyboard and mouse. */
+class TestMemberPayments : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void aMemberPaysAllThatIsOpen();
+    void aPartIsPaidOfOneInvoice_data();
+    void aPartIsPaidOfOneInvoice();
+    void whatIsMissingIsTold_data();
+    void whatIsMissingIsTold();
+    void anEditShowsItsOwnPartAndWhatElseIsOpen();
+    void anotherMembersPaymentTakesTheStoredLinesOff();
+    void aStaleEditIsToldAndTheFormStays();
+    void aPaymentThatStandsIsNotEnteredTwice();
+    void deletingAsksAndLeavesTheInvoiceAsItIs();
+    void theFiltersNarrowTheList();
+    void nothingHappensWithoutTheRight();
+
+private:
+    void show();
+    /** Works on the form behind the button of the page until it is closed, saved or given up. */
+    void onForm(const char* button, const std::function<void(DialogPiutang*)>& work);
+    static QLineEdit* box(QWidget* form, const char* name) { return form->findChild<QLineEdit*>(name); }
+    static void type(QWidget* form, const char* name, const QString& text);
+    static void click(QWidget* page, const char* button);
+    static QStringList row(const QWidget* page, const char* grid, int row);
+    static void confirm(QWidget* form) { QTest::keyClick(box(form, "txtRefNo"), Qt::Key_Return); }
+    static void giveUp(QWidget* form) { QTest::keyClick(form, Qt::Key_Escape); }
+    /** Pays the amount of the selected invoice. */
+    void pay(DialogPiutang* form, int invoice, const QString& amount);
+    void payStored(int invoice, int amount);
+    QString value(const QString& statement) { return m_database->value(statement).toString(); }
+
+    std::unique_ptr<TestDatabase> m_database;
+    std::unique_ptr<ModalDriver> m_people;
+    std::unique_ptr<TabPiutang> m_page;
+    QObject m_records;
+};
+
+void TestMemberPayments::init()
+{
+    m_database = std::make_unique<TestDatabase>();
+    AppContext::instance()->setLocale("id_ID");
+    insertShop(*m_database);
+    loginAsAdmin();
+    insertSeller(*m_database, 1, "ann");
+    m_database->run("INSERT INTO member (id, kode, nama, alamat, telp, discount_percentage, version) VALUES "
+                    "(2, 'M2', 'Other', '', '', 0, 1)");
+    SaleRow sale;
+    sale.member = 1;
+    sale.status = Invoice::UNPAID;
+    sale.paid = 0;
+    for (const auto& total : {500, 300}) {
+        sale.no = QString("TRD-%1").arg(total);
+        sale.total = total;
+        sale.date = QDate(2026, 3, total / 100);
+        insertSale(*m_database, sale);
+    }
+    m_people = std::make_unique<ModalDriver>();
+}
+
+void TestMemberPayments::cleanup()
+{
+    m_page.reset();
+    m_people.reset();
+    service<BusinessPenjualan>("Sales")->clearErrors();
+    m_database.reset();
+}
+
+void TestMemberPayments::show()
+{
+    m_page = std::make_unique<TabPiutang>();
+    m_page->resize(1100, 600);
+    m_page->show();
+    QVERIFY(QTest::qWaitForWindowActive(m_page.get()));
+}
+
+void TestMemberPayments::onForm(const char* button, const std::function<void(DialogPiutang*)>& work)
+{
+    m_people->expect<DialogPiutang>([work](DialogPiutang* form) {
+        QTRY_COMPARE(QApplication::activeWindow(), form);
+        work(form);
+    });
+    click(m_page.get(), button);
+    QVERIFY(m_people->finished());
+}
+
+void TestMemberPayments::type(QWidget* form, const char* name, const QString& text)
+{
+    box(form, name)->setFocus(Qt::TabFocusReason);
+    box(form, name)->selectAll();
+    QTest::keyClicks(box(form, name), text);
+    QTest::keyClick(box(form, name), Qt::Key_Tab);
+}
+
+void TestMemberPayments::click(QWidget* page, const char* button)
+{
+    QTest::mouseClick(page->findChild<QPushButton*>(button), Qt::LeftButton);
+}
+
+QStringList TestMemberPayments::row(const QWidget* page, const char* grid, int row)
+{
+    const QAbstractItemModel* model = page->findChild<QTableView*>(grid)->model();
+    QStringList cells;
+    for (int column = 0; row < model->rowCount() && column < model->columnCount(); ++column)
+        cells.append(model->index(row, column).data().toString());
+    return cells;
+}
+
+void TestMemberPayments::pay(DialogPiutang* form, int invoice, const QString& amount)
+{
+    form->findChild<QTableView*>("tblInvoice")->selectRow(invoice);
+    m_people->expect<DialogBayarPiutang>([amount](DialogBayarPiutang* one) {
+        QTRY_VERIFY(box(one, "txtPaid")->hasFocus());
+        QTest::keyClicks(box(one, "txtPaid"), amount);
+        QTest::keyClick(box(one, "txtPaid"), Qt::Key_Return);
+    });
+    click(form, "btnPayAll");
+}
+
+void TestMemberPayments::payStored(int invoice, int amount)
+{
+    EntityPiutang payment;
+    EntityMember member;
+    member.setId(1);
+    Invoice paid;
+    paid.setId(invoice);
+    EntityPiutangDetail line;
+    line.setInvoice(&paid);
+    line.setAmountPaid(new Money(&line, amount, "Rp"));
+    line.setAmountDue(new Money(&line, 0, "Rp"));
+    EntityBank account;
+    account.setId(1);
+    payment.setMember(&member);
+    payment.setBank(&account);
+    payment.setDate(QDate::currentDate());
+    payment.setGrandTotal(line.getAmountPaid());
+    payment.setDetails({&line});
+    auto* sales = service<BusinessPenjualan>("Sales");
+    QVERIFY2(sales->insert(&payment), qPrintable(sales->takeErrors()));
+}
+
+// --- a new payment -------------------------------------------------------------------------------------------------
+
+void TestMemberPayments::aMemberPaysAllThatIsOpen()
+{
+    show();
+    onForm("btnAdd", [](DialogPiutang* form) {
+        QCOMPARE(form->windowTitle(), QString("Member Payment Form"));
+        type(form, "txtMember", "m1");
+        QCOMPARE(box(form, "txtMember")->text(), QString("M1"));
+        QCOMPARE(box(form, "txtNamaPelanggan")->text(), QString("Guest"));
+        QCOMPARE(row(form, "tblInvoice", 0).mid(2), (QStringList{"Rp500,00", "Rp500,00", "Rp0,00"}));
+        QCOMPARE(row(form, "tblInvoice", 1).first(), QString("TRD-300"));
+        click(form, "pushButton");
+        // Asked again it changes nothing.
+        click(form, "pushButton");
+        QCOMPARE(row(form, "tblInvoice", 0).mid(2), (QStringList{"Rp500,00", "Rp0,00", "Rp500,00"}));
+        QCOMPARE(box(form, "txtGrandTotal")->text(), QString("800,00"));
+        type(form, "txtARAccount", "1-100");
+        QCOMPARE(form->findChild<QLabel*>("lblARAccount")->text(), QString("Cash"));
+        form->findChild<QComboBox*>("ddlPaymentType")->setFocus();
+        QTest::keyClicks(form->findChild<QComboBox*>("ddlPaymentType"), "che");
+        type(form, "txtCekNo", "77");
+        confirm(form);
+    });
+    QTRY_COMPARE(row(m_page.get(), "tblPiutang", 0).mid(2), (QStringList{"M1", "Guest", "Rp800,00", "Check"}));
+    QCOMPARE(m_page->findChild<QLabel*>("lblCount")->text(), QString("1 Items"));
+    QCOMPARE(value("SELECT concat_ws(' ', no, check_no, bank_id) FROM piutang"), QString("PIU-0007 77 1"));
+    QCOMPARE(value("SELECT string_agg(concat_ws(' ', status, other_payment_amount, net_due_amount), ', ' ORDER BY id) "
+                   "FROM invoice"),
+             QString("1 500 0, 1 300 0"));
+}
+
+void TestMemberPayments::aPartIsPaidOfOneInvoice_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("remaining");
+    QTest::addColumn<QStringList>("told");
+    QTest::addColumn<bool>("agrees");
+    QTest::addColumn<QString>("paid");
+    const QString more = "The amount paid is larger than the amount due. Do you want to book all of it?";
+    QTest::newRow("a part") << "120"
+                            << "380,00" << QStringList() << false << "Rp380,00 Rp120,00";
+    QTest::newRow("all of it") << "500"
+                               << "0,00" << QStringList() << false << "Rp0,00 Rp500,00";
+    QTest::newRow("nothing") << "0"
+                             << "500,00" << QStringList("Enter the amount paid\r\n") << false << "Rp500,00 Rp0,00";
+    QTest::newRow("no number") << "x"
+                               << "500,00" << QStringList("Enter the amount paid\r\n") << false << "Rp500,00 Rp0,00";
+    QTest::newRow("less than nothing") << "-50"
+                                       << "550,00" << QStringList("Enter the amount paid\r\n") << false
+                                       << "Rp500,00 Rp0,00";
+    QTest::newRow("too much, by mistake") << "5000"
+                                          << "-4.500,00" << QStringList(more) << false << "Rp500,00 Rp0,00";
+    QTest::newRow("too much, on purpose") << "600"
+                                          << "-100,00" << QStringList(more) << true << "Rp-100,00 Rp600,00";
+}
+
+void TestMemberPayments::aPartIsPaidOfOneInvoice()
+{
+    QFETCH(QString, typed);
+    QFETCH(bool, agrees);
+    show();
+    onForm("btnAdd", [&](DialogPiutang* form) {
+        type(form, "txtMember", "M1");
+        m_people->expect<DialogBayarPiutang>([&](DialogBayarPiutang* one) {
+            QTRY_VERIFY(box(one, "txtPaid")->hasFocus());
+            QCOMPARE(box(one, "txtInvoiceNo")->text(), QString("TRD-500"));
+            QCOMPARE(box(one, "txtDue")->text(), QString("500,00"));
+            QTest::keyClicks(box(one, "txtPaid"), typed);
+            QTEST(box(one, "txtRemaining")->text(), "remaining");
+            if (agrees)
+                m_people->answer(QMessageBox::Yes);
+            QTest::keyClick(box(one, "txtPaid"), Qt::Key_Return);
+            if (one->isVisible())
+                giveUp(one);
+            m_people->expect<DialogPiutang>([&](DialogPiutang* again) {
+                QTEST(row(again, "tblInvoice", 0).mid(3).join(' '), "paid");
+                giveUp(again);
+            });
+        });
+        form->findChild<QTableView*>("tblInvoice")->setFocus();
+        QTest::keyClick(form->findChild<QTableView*>("tblInvoice"), Qt::Key_F2);
+    });
+    QTEST(m_people->texts(), "told");
+    QCOMPARE(value("SELECT count(*) FROM piutang"), QString("0"));
+}
+
+void TestMemberPayments::whatIsMissingIsTold_data()
+{
+    QTest::addColumn<QString>("member");
+    QTest::addColumn<bool>("pays");
+    QTest::addColumn<QString>("account");
+    QTest::addColumn<QStringList>("told");
+    QTest::newRow("everything") << "" << false << ""
+                                << QStringList{"Select a member", "Enter one or more sales invoice",
+                                               "Please select an Accounts Receivable"};
+    QTest::newRow("a member whom nobody knows")
+        << "M9" << false << "1-100" << QStringList{"Select a member", "Enter one or more sales invoice"};
+    QTest::newRow("a member without open invoices")
+        << "M2" << false << "1-100" << QStringList{"Enter one or more sales invoice"};
+    QTest::newRow("an amount") << "M1" << false << "1-100"
+                               << QStringList{"Enter the amount paid for the invoice no: TRD-500"};
+    QTest::newRow("an account that nobody knows")
+        << "M1" << true << "9" << QStringList{"Please select a valid Accounts Receivable"};
+}
+
+void TestMemberPayments::whatIsMissingIsTold()
+{
+    QFETCH(QString, member);
+    QFETCH(bool, pays);
+    QFETCH(QString, account);
+    QFETCH(QStringList, told);
+    show();
+    onForm("btnAdd", [&](DialogPiutang* form) {
+        type(form, "txtMember", member);
+        type(form, "txtARAccount", account);
+        if (pays)
+            click(form, "pushButton");
+        confirm(form);
+        QVERIFY(form->isVisible());
+        QCOMPARE(m_people->texts(), QStringList(told.join("\r\n") + "\r\n"));
+        QCOMPARE(m_people->lastTitle(), QString("Error"));
+        giveUp(form);
+    });
+    QCOMPARE(value("SELECT count(*) FROM piutang"), QString("0"));
+}
+
+// --- editing -------------------------------------------------------------------------------------------------------
+
+void TestMemberPayments::anEditShowsItsOwnPartAndWhatElseIsOpen()
+{
+    payStored(1, 300);
+    payStored(1, 200);
+    show();
+    QCOMPARE(row(m_page.get(), "tblPiutang", 1).first(), QString("PIU-0007"));
+    m_page->findChild<QTableView*>("tblPiutang")->selectRow(1);
+    onForm("btnEdit", [this](DialogPiutang* form) {
+        QCOMPARE(box(form, "txtKode")->text(), QString("PIU-0007"));
+        QCOMPARE(box(form, "txtARAccount")->text(), QString("1-100"));
+        QCOMPARE(box(form, "txtGrandTotal")->text(), QString("300,00"));
+        // The one that is fully paid by now is on no other list; the part of the other payment is not due again.
+        QCOMPARE(row(form, "tblInvoice", 0).mid(3), (QStringList{"Rp300,00", "Rp0,00"}));
+        QCOMPARE(row(form, "tblInvoice", 1).mid(3), (QStringList{"Rp0,00", "Rp300,00"}));
+        pay(form, 1, "100");
+        QCOMPARE(row(form, "tblInvoice", 1).mid(3), (QStringList{"Rp200,00", "Rp100,00"}));
+        pay(form, 0, "50");
+        confirm(form);
+    });
+    QTRY_COMPARE(row(m_page.get(), "tblPiutang", 1).value(4), QString("Rp150,00"));
+    QCOMPARE(value("SELECT string_agg(concat_ws(' ', status, other_payment_amount, net_due_amount), ', ' ORDER BY id) "
+                   "FROM invoice"),
+             QString("3 300 200, 3 50 250"));
+}
+
+void TestMemberPayments::anotherMembersPaymentTakesTheStoredLinesOff()
+{
+    payStored(1, 300);
+    m_database->run("UPDATE makan_ditempat SET member_id = 2 WHERE id = 2");
+    show();
+    m_page->findChild<QTableView*>("tblPiutang")->selectRow(0);
+    onForm("btnEdit", [](DialogPiutang* form) {
+        type(form, "txtMember", "M2");
+        QCOMPARE(row(form, "tblInvoice", 0).first(), QString("TRD-300"));
+        click(form, "pushButton");
+        confirm(form);
+    });
+    QTRY_COMPARE(value("SELECT string_agg(concat_ws(' ', member_id, invoice_id, amount_paid_amount), ', ') FROM "
+                       "piutang_detail JOIN piutang ON piutang.id = piutang_id"),
+                 QString("2 2 300"));
+    // Nobody counts the invoice that is no more on the payment.
+    QCOMPARE(value("SELECT other_payment_amount FROM invoice WHERE id = 1"), QString("300"));
+}
+
+void TestMemberPayments::aStaleEditIsToldAndTheFormStays()
+{
+    payStored(1, 300);
+    show();
+    m_page->findChild<QTableView*>("tblPiutang")->selectRow(0);
+    onForm("btnEdit", [this](DialogPiutang* form) {
+        type(form, "txtRefNo", "R-1");
+        pay(form, 0, "450");
+        m_database->run("UPDATE piutang SET version = version + 1, updatedby = 1");
+        confirm(form);
+        QVERIFY(form->isVisible());
+        QVERIFY2(m_people->lastText().contains("error: update credit invoice failed"),
+                 qPrintable(m_people->lastText()));
+        QCOMPARE(box(form, "txtRefNo")->text(), QString("R-1"));
+        QCOMPARE(box(form, "txtGrandTotal")->text(), QString("450,00"));
+        giveUp(form);
+    });
+    QCOMPARE(value("SELECT other_payment_amount FROM invoice WHERE id = 1"), QString("300"));
+}
+
+void TestMemberPayments::aPaymentThatStandsIsNotEnteredTwice()
+{
+    m_database->run("CREATE FUNCTION refuse() RETURNS trigger AS $$ BEGIN RAISE EXCEPTION 'busy'; END $$ LANGUAGE "
+                    "plpgsql; CREATE TRIGGER refuse BEFORE UPDATE ON invoice FOR EACH ROW EXECUTE FUNCTION refuse()");
+    show();
+    onForm("btnAdd", [](DialogPiutang* form) {
+        type(form, "txtMember", "M1");
+        type(form, "txtARAccount", "1-100");
+        click(form, "pushButton");
+        confirm(form);
+        QVERIFY(!form->isVisible());
+    });
+    QTRY_COMPARE(row(m_page.get(), "tblPiutang", 0).value(4), QString("Rp800,00"));
+    QVERIFY2(m_people->lastText().contains("busy"), qPrintable(m_people->lastText()));
+}
+
+// --- the page ------------------------------------------------------------------------------------------------------
+
+void TestMemberPayments::deletingAsksAndLeavesTheInvoiceAsItIs()
+{
+    payStored(1, 300);
+    show();
+    m_page->findChild<QTableView*>("tblPiutang")->selectRow(0);
+    m_people->answer(QMessageBox::No);
+    click(m_page.get(), "btnDelete");
+    QCOMPARE(m_people->texts(), QStringList("Are you sure you want to delete Payment with No: PIU-0007 ?"));
+    QCOMPARE(m_people->lastTitle(), QString("Delete"));
+    QCOMPARE(value("SELECT count(*) FROM piutang_detail"), QString("1"));
+
+    m_people->answer(QMessageBox::Yes);
+    m_page->findChild<QTableView*>("tblPiutang")->selectRow(0);
+    click(m_page.get(), "btnDelete");
+    QTRY_COMPARE(m_page->findChild<QLabel*>("lblCount")->text(), QString("0 Items"));
+    QCOMPARE(value("SELECT count(*) FROM piutang_detail"), QString("0"));
+    QCOMPARE(value("SELECT concat_ws(' ', status, other_payment_amount, net_due_amount) FROM invoice WHERE id = 1"),
+             QString("3 300 200"));
+}
+
+void TestMemberPayments::theFiltersNarrowTheList()
+{
+    payStored(1, 300);
+    show();
+    const auto found = [this] {
+        click(m_page.get(), "btnSearch");
+        return m_page->findChild<QLabel*>("lblCount")->text();
+    };
+    QCOMPARE(found(), QString("1 Items"));
+    type(m_page.get(), "txtMember", "M2");
+    QCOMPARE(found(), QString("0 Items"));
+    type(m_page.get(), "txtMember", "nobody");
+    QCOMPARE(found(), QString("0 Items"));
+    type(m_page.get(), "txtMember", "m1");
+    QCOMPARE(found(), QString("1 Items"));
+    auto* kind = m_page->findChild<QComboBox*>("ddlPayment");
+    kind->setFocus();
+    QTest::keyClick(kind, Qt::Key_End);
+    QCOMPARE(found(), QString("0 Items"));
+    QTest::keyClick(kind, Qt::Key_Home);
+    QTest::keyClick(kind, Qt::Key_Down);
+    QCOMPARE(kind->currentText(), QString("Cash"));
+    QCOMPARE(found(), QString("1 Items"));
+    m_page->findChild<QDateEdit*>("dateFrom")->setDate(QDate::currentDate().addDays(1));
+    QCOMPARE(found(), QString("0 Items"));
+}
+
+void TestMemberPayments::nothingHappensWithoutTheRight()
+{
+    payStored(1, 300);
+    loginWithRights("Sales", {});
+    show();
+    for (const char* button : {"btnAdd", "btnEdit", "btnDelete"}) {
+        m_page->findChild<QTableView*>("tblPiutang")->selectRow(0);
+        click(m_page.get(), button);
+    }
+    QCOMPARE(m_people->boxes().size(), 3);
+    QVERIFY(m_people->surprises().isEmpty());
+    QCOMPARE(value("SELECT count(*) FROM piutang"), QString("1"));
+}
+
+QTEST_MAIN(TestMemberPayments)
+#include "tst_member_payments.moc"
