@@ -1,18 +1,17 @@
 #pragma once
 
-#include "masterdata/item/EntityItem.h"
+#include "purchasing/document/EntityPurchasingLine.h"
 
 /** Something paid for without a purchase; it moves no stock. */
-class EntityPaymentExpenses : public KorEntity
+class EntityPaymentExpenses : public EntityPurchasingLine
 {
     Q_OBJECT
     KOR_PROPERTY(int, PaymentId, KorNoValue)
-    KOR_REFERENCE(EntityItem, Item)
     KOR_PROPERTY(int, Qty, 0)
     MONEY_PROPERTY(UnitPrice)
-    MONEY_PROPERTY(Discount)
     MONEY_PROPERTY(Amount)
+    PURCHASING_LINE(Qty, UnitPrice, Amount)
 
 public:
-    using KorEntity::KorEntity;
+    using EntityPurchasingLine::EntityPurchasingLine;
 };

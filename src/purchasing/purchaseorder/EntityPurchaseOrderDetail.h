@@ -1,19 +1,17 @@
 #pragma once
 
-#include "masterdata/item/EntityItem.h"
+#include "purchasing/document/EntityPurchasingLine.h"
 
 /** One item of a purchase order: how many were ordered and at which price. */
-class EntityPurchaseOrderDetail : public KorEntity
+class EntityPurchaseOrderDetail : public EntityPurchasingLine
 {
     Q_OBJECT
     KOR_PROPERTY(int, PurchaseOrderId, KorNoValue)
-    KOR_REFERENCE(EntityItem, Item)
     KOR_PROPERTY(int, Jumlah, 0)
     MONEY_PROPERTY(Price)
-    MONEY_PROPERTY(Discount)
     MONEY_PROPERTY(TotalPrice)
-    KOR_PROPERTY(double, DiscountPercentage, 0)
+    PURCHASING_LINE(Jumlah, Price, TotalPrice)
 
 public:
-    using KorEntity::KorEntity;
+    using EntityPurchasingLine::EntityPurchasingLine;
 };

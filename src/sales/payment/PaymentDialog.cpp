@@ -30,7 +30,7 @@ void PaymentDialog::setUp(const Form& form, QWidget* linesPage)
     m_form = form;
     m_linesPage = linesPage;
     m_form.pages->addTab(linesPage, tr("[F3] Menu"));
-    m_cascade = new PaymentCascade(form.amounts, this);
+    m_cascade = new TotalsCascade(form.amounts, this);
     m_parties = new PaymentParties(form.parties, this);
     connectParties();
 

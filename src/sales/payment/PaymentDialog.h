@@ -1,7 +1,7 @@
 #pragma once
 
 #include "kor/widgets/KorDialog.h"
-#include "sales/payment/PaymentCascade.h"
+#include "sales/invoice/TotalsCascade.h"
 #include "sales/payment/PaymentParties.h"
 
 class BusinessPenjualan;
@@ -52,7 +52,7 @@ protected:
     /** The boxes of a form, which owns them. */
     struct Form
     {
-        PaymentCascade::Boxes amounts;
+        TotalsCascade::Boxes amounts;
         PaymentParties::Boxes parties;
         QLineEdit* number;
         QLineEdit* guest;
@@ -104,7 +104,7 @@ protected:
     void onKey(const QKeySequence& key, const std::function<void()>& action);
 
     [[nodiscard]] BusinessPenjualan* sales() const { return m_sales; }
-    [[nodiscard]] PaymentCascade* cascade() const { return m_cascade; }
+    [[nodiscard]] TotalsCascade* cascade() const { return m_cascade; }
     [[nodiscard]] PaymentParties* parties() const { return m_parties; }
 
 private:
@@ -115,6 +115,6 @@ private:
     BusinessPenjualan* m_sales;
     Form m_form{};
     QWidget* m_linesPage = nullptr;
-    PaymentCascade* m_cascade = nullptr;
+    TotalsCascade* m_cascade = nullptr;
     PaymentParties* m_parties = nullptr;
 };

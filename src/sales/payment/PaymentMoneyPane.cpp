@@ -11,7 +11,7 @@ PaymentMoneyPane::PaymentMoneyPane(QWidget* parent) : QWidget(parent), m_ui(std:
 
 PaymentMoneyPane::~PaymentMoneyPane() = default;
 
-PaymentCascade::Boxes PaymentMoneyPane::boxes() const
+TotalsCascade::Boxes PaymentMoneyPane::boxes() const
 {
     return {m_ui->txtSubTotal,
             {m_ui->txtDiscPerc, m_ui->txtTaxPerc, m_ui->txtServicePerc},

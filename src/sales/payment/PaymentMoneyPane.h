@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sales/payment/PaymentCascade.h"
+#include "sales/invoice/TotalsCascade.h"
 
 #include <QWidget>
 
@@ -20,7 +20,7 @@ public:
     explicit PaymentMoneyPane(QWidget* parent = nullptr);
     ~PaymentMoneyPane() override;
 
-    [[nodiscard]] PaymentCascade::Boxes boxes() const;
+    [[nodiscard]] TotalsCascade::Boxes boxes() const;
     /** What the form calls the grand total. */
     void setTotalCaption(const QString& text);
 

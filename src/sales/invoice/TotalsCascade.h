@@ -10,14 +10,15 @@ class QLabel;
 class QLineEdit;
 
 /**
- * Binds the boxes of a payment form to the totals: which entry changes which figure, and when. The ways of selling
- * share it. The boxes are borrowed; the form's slots say which box was left.
+ * Binds the boxes of a form that takes or gives money to the totals: which entry changes which figure, and when. All
+ * ways of selling and buying share it. The boxes are borrowed; the form's slots say which box was left.
  */
-class PaymentCascade : public QObject
+class TotalsCascade : public QObject
 {
     Q_OBJECT
 
 public:
+    /** A form without one of the parts, without credit or without a net due has null there. */
     struct Boxes
     {
         MoneyEdit* subtotal;
@@ -31,7 +32,10 @@ public:
         QLabel* netDueLabel;
     };
 
-    PaymentCascade(const Boxes& boxes, QObject* parent);
+    TotalsCascade(const Boxes& boxes, QObject* parent);
+
+    /** An amount leaves its percent alone while there is no subtotal, instead of making it infinite. */
+    void keepPercentsOfNothing() { m_keepsPercentsOfNothing = true; }
 
     /** All boxes at zero, for a new invoice. */
     void clear();
@@ -51,9 +55,13 @@ public:
     void writeTo(Invoice* invoice);
     [[nodiscard]] const InvoiceTotals& totals() const { return m_totals; }
 
+    /** Shows the parts and the money as they stand in a stored document. */
+    void show(const InvoiceTotals& stored);
+
 private:
     void showPart(InvoiceTotals::Part part);
 
     Boxes m_boxes;
     InvoiceTotals m_totals;
+    bool m_keepsPercentsOfNothing = false;
 };

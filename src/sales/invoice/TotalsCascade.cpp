@@ -1,4 +1,4 @@
-#include "sales/payment/PaymentCascade.h"
+#include "sales/invoice/TotalsCascade.h"
 
 #include "app/widgets/AppNumberEdit.h"
 #include "app/widgets/MoneyEdit.h"
@@ -11,53 +11,56 @@ constexpr QRgb missingRgb = 0xffb42318;
 constexpr QRgb coveredRgb = 0xff1e7a34;
 } // namespace
 
-PaymentCascade::PaymentCascade(const Boxes& boxes, QObject* parent) : QObject(parent), m_boxes(boxes)
+TotalsCascade::TotalsCascade(const Boxes& boxes, QObject* parent) : QObject(parent), m_boxes(boxes)
 {
     m_totals.setCurrency(boxes.subtotal->currency());
 }
 
-void PaymentCascade::clear()
+void TotalsCascade::clear()
 {
-    for (AppNumberEdit* box : m_boxes.percents)
-        box->setValue(0);
-    for (MoneyEdit* box :
-         {m_boxes.subtotal, m_boxes.amounts[0], m_boxes.amounts[1], m_boxes.amounts[2], m_boxes.paid, m_boxes.credit})
-        box->setValue(0);
+    InvoiceTotals nothing;
+    nothing.setCurrency(m_boxes.subtotal->currency());
+    show(nothing);
 }
 
-void PaymentCascade::setSubtotal(double amount)
+void TotalsCascade::setSubtotal(double amount)
 {
     m_totals.setSubtotal(amount);
     m_boxes.subtotal->setValue(m_totals.subtotal());
     calculateTotal();
 }
 
-void PaymentCascade::proposeDiscount(double percent)
+void TotalsCascade::proposeDiscount(double percent)
 {
     m_totals.proposePercent(InvoiceTotals::Discount, percent);
     m_boxes.percents[InvoiceTotals::Discount]->setValue(percent);
 }
 
-void PaymentCascade::percentEntered(InvoiceTotals::Part part)
+void TotalsCascade::percentEntered(InvoiceTotals::Part part)
 {
     m_totals.setPercent(part, m_boxes.percents[part]->value());
     m_boxes.amounts[part]->setValue(m_totals.amount(part));
     calculateTotal();
 }
 
-void PaymentCascade::amountEntered(InvoiceTotals::Part part)
+void TotalsCascade::amountEntered(InvoiceTotals::Part part)
 {
-    m_totals.setAmount(part, m_boxes.amounts[part]->value());
+    if (m_keepsPercentsOfNothing && qFuzzyIsNull(m_totals.subtotal()))
+        m_totals.restore(part, m_totals.percent(part), m_boxes.amounts[part]->value());
+    else
+        m_totals.setAmount(part, m_boxes.amounts[part]->value());
     m_boxes.percents[part]->setValue(m_totals.percent(part));
     calculateTotal();
 }
 
-void PaymentCascade::calculateTotal()
+void TotalsCascade::calculateTotal()
 {
-    m_totals.setPaid(m_boxes.paid->value());
-    m_totals.setCredit(m_boxes.credit->value());
+    m_totals.setPaid(m_boxes.paid ? m_boxes.paid->value() : 0);
+    m_totals.setCredit(m_boxes.credit ? m_boxes.credit->value() : 0);
     for (MoneyEdit* box : qAsConst(m_boxes.grandTotals))
         box->setValue(m_totals.grandTotal());
+    if (!m_boxes.netDue)
+        return;
     m_boxes.netDue->setValue(m_totals.change());
     m_boxes.netDueLabel->setText(m_totals.isShort() ? tr("Less :") : tr("Change :"));
     QPalette palette = m_boxes.netDue->palette();
@@ -65,39 +68,49 @@ void PaymentCascade::calculateTotal()
     m_boxes.netDue->setPalette(palette);
 }
 
-QLineEdit* PaymentCascade::wrongEntry() const
+QLineEdit* TotalsCascade::wrongEntry() const
 {
     const QList<AppNumberEdit*> boxes{m_boxes.percents[0], m_boxes.amounts[0], m_boxes.percents[1], m_boxes.amounts[1],
                                       m_boxes.percents[2], m_boxes.amounts[2], m_boxes.paid,        m_boxes.credit};
     for (AppNumberEdit* box : boxes) {
         // What the form itself wrote may be no number either: a percent of nothing.
-        if (!box->isValid() && box->text() != box->displayText())
+        if (box && !box->isValid() && box->text() != box->displayText())
             return box;
     }
     return nullptr;
 }
 
-void PaymentCascade::showPart(InvoiceTotals::Part part)
+void TotalsCascade::showPart(InvoiceTotals::Part part)
 {
+    if (!m_boxes.amounts[part])
+        return;
     m_boxes.percents[part]->setValue(m_totals.percent(part));
     m_boxes.amounts[part]->setValue(m_totals.amount(part));
 }
 
-void PaymentCascade::readFrom(const Invoice& invoice)
+void TotalsCascade::show(const InvoiceTotals& stored)
 {
-    m_totals.readFrom(invoice);
-    const InvoiceTotals stored = m_totals;
+    m_totals = stored;
     m_boxes.subtotal->setValue(stored.subtotal());
     showPart(InvoiceTotals::Discount);
     showPart(InvoiceTotals::Tax);
     showPart(InvoiceTotals::Service);
-    // Each box tells of its change at once; the figures come from the invoice, not from a form half filled.
-    m_boxes.paid->setValue(stored.paid());
-    m_boxes.credit->setValue(stored.credit());
+    // Each box tells of its change at once; the figures come from the document, not from a form half filled.
+    if (m_boxes.paid)
+        m_boxes.paid->setValue(stored.paid());
+    if (m_boxes.credit)
+        m_boxes.credit->setValue(stored.credit());
     calculateTotal();
 }
 
-void PaymentCascade::writeTo(Invoice* invoice)
+void TotalsCascade::readFrom(const Invoice& invoice)
+{
+    InvoiceTotals stored = m_totals;
+    stored.readFrom(invoice);
+    show(stored);
+}
+
+void TotalsCascade::writeTo(Invoice* invoice)
 {
     calculateTotal();
     m_totals.writeTo(invoice);

@@ -1,0 +1,129 @@
+#include "app/widgets/AppLinesTab.h"
+
+#include "kor/entity/KorEntity.h"
+#include "kor/widgets/KorDialog.h"
+#include "kor/widgets/KorEntityModel.h"
+
+#include "ui_LinesPage.h"
+
+#include <QMessageBox>
+
+#include <algorithm>
+
+AppLinesTab::AppLinesTab(QWidget* parent) : AppTab(parent), m_ui(std::make_unique<Ui::LinesPage>())
+{
+    m_ui->setupUi(this);
+}
+
+AppLinesTab::~AppLinesTab() = default;
+
+void AppLinesTab::setLines(const Lines& lines)
+{
+    m_lines = lines;
+    m_removed.clear();
+    linesChanged();
+}
+
+void AppLinesTab::focusLines() { grid()->setFocus(); }
+
+QTableView* AppLinesTab::grid() const { return m_ui->tblLines; }
+
+void AppLinesTab::refresh()
+{
+    const int row = grid()->currentIndex().row();
+    const KorEntityModel* former = m_model;
+    m_model = createModel(m_lines);
+    applyModel(grid(), m_model);
+    setColumnWidths(grid(), columnWidths());
+    restoreColumns(grid());
+    // No clear(): the lines are the document's, the model only showed them.
+    delete former;
+    grid()->selectRow(std::min(std::max(row, 0), m_lines.size() - 1));
+    m_ui->lblCount->setText(tr("%1 Items").arg(m_lines.size()));
+}
+
+void AppLinesTab::linesChanged()
+{
+    refresh();
+    emit ItemAdded();
+}
+
+void AppLinesTab::on_btnAdd_clicked()
+{
+    // Line after line, until all is keyed in.
+    for (;;) {
+        KorEntity* line = createLine();
+        line->setParent(this);
+        const auto dialog = createDialog(m_read);
+        dialog->setEntity(line);
+        if (dialog->exec() != QDialog::Accepted) {
+            delete line;
+            break;
+        }
+        dialog->getEntity();
+        take(line);
+    }
+    focusLines();
+}
+
+void AppLinesTab::take(KorEntity* line)
+{
+    const auto present = std::find_if(m_lines.cbegin(), m_lines.cend(), [this, line](const KorEntity* other) {
+        return subjectOf(*other) == subjectOf(*line);
+    });
+    if (present == m_lines.cend()) {
+        m_lines.append(line);
+        linesChanged();
+        grid()->selectRow(m_lines.size() - 1);
+        return;
+    }
+    if (QMessageBox::question(this, tr("Question"), updateQuestion().arg(nameOf(*line))) == QMessageBox::Yes)
+        takeOver(*present, *line);
+    delete line;
+    linesChanged();
+}
+
+void AppLinesTab::on_btnEdit_clicked()
+{
+    const Lines selected = selectedLines();
+    for (KorEntity* line : selected) {
+        const auto dialog = createDialog(m_read);
+        dialog->setEntity(line);
+        if (dialog->exec() != QDialog::Accepted)
+            break;
+        dialog->getEntity();
+        linesChanged();
+    }
+    focusLines();
+}
+
+void AppLinesTab::on_btnDelete_clicked()
+{
+    const Lines selected = selectedLines();
+    for (KorEntity* line : selected) {
+        const QString question = tr("Are you sure you want to delete this item: %1 ?").arg(nameOf(*line));
+        if (QMessageBox::question(this, tr("Delete"), question) != QMessageBox::Yes)
+            continue;
+        m_lines.removeOne(line);
+        m_removed.append(line);
+        linesChanged();
+    }
+    focusLines();
+}
+
+AppLinesTab::Lines AppLinesTab::selectedLines() const { return selectedEntities(grid(), m_model); }
+
+QPushButton* AppLinesTab::addButton(const QString& name, const QString& text, const QString& icon)
+{
+    auto* extra = new QPushButton(QIcon(icon), text, this);
+    extra->setObjectName(name);
+    extra->setAutoDefault(false);
+    m_ui->buttonLayout->insertWidget(m_ui->buttonLayout->indexOf(m_ui->lblCount), extra);
+    return extra;
+}
+
+void AppLinesTab::takeAddAway()
+{
+    m_ui->btnAdd->setEnabled(false);
+    m_ui->btnAdd->hide();
+}

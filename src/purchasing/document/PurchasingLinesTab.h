@@ -1,0 +1,44 @@
+#pragma once
+
+#include "app/widgets/AppLinesTab.h"
+#include "purchasing/document/EntityPurchasingLine.h"
+
+/** The page of lines in the form of a purchasing document. */
+class PurchasingLinesTab : public AppLinesTab
+{
+    Q_OBJECT
+
+public:
+    using AppLinesTab::AppLinesTab;
+
+protected:
+    [[nodiscard]] int subjectOf(const KorEntity& line) const override
+    {
+        return static_cast<const EntityPurchasingLine&>(line).itemId();
+    }
+    [[nodiscard]] QString nameOf(const KorEntity& line) const override
+    {
+        return static_cast<const EntityPurchasingLine&>(line).getItem()->getNama();
+    }
+    void takeOver(KorEntity* present, const KorEntity& entered) override
+    {
+        static_cast<EntityPurchasingLine*>(present)->takeFigures(static_cast<const EntityPurchasingLine&>(entered));
+    }
+    [[nodiscard]] QString updateQuestion() const override
+    {
+        return tr("This item: %1 is already in the list. Do you want to update it with this data?");
+    }
+};
+
+/** A page of lines made of a family's classes. */
+template <class Line, class Model, class Dialog>
+class PurchasingLinesOf : public PurchasingLinesTab
+{
+public:
+    using PurchasingLinesTab::PurchasingLinesTab;
+
+protected:
+    KorEntity* createLine() override { return new Line; }
+    KorEntityModel* createModel(const Lines& lines) override { return new Model(lines, this); }
+    std::unique_ptr<KorDialog> createDialog(EntityPool& read) override { return std::make_unique<Dialog>(read, this); }
+};
