@@ -165,6 +165,7 @@
         legend: {display: false},
         tooltips: {
           mode: 'index', intersect: false, backgroundColor: '#1f2933', cornerRadius: 4, xPadding: 12, yPadding: 10,
+          displayColors: false,
           itemSort: function (left, right) { return right.datasetIndex - left.datasetIndex; },
           callbacks: {
             title: function (items) { return chart.days[items[0].index] ? longDay(chart.days[items[0].index].date) : ''; },
