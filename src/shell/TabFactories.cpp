@@ -18,6 +18,7 @@
 #include "sales/list/TabDaftarPenjualan.h"
 #include "sales/order/TabMakanDitempat.h"
 #include "sales/receivable/TabPiutang.h"
+#include "sales/takeaway/TabBawaPulang.h"
 
 namespace
 {
@@ -35,6 +36,7 @@ TabFactories allTabFactories()
     return {
         {"TabAgent", make<TabAgent>},
         {"TabBank", make<TabBank>},
+        {"TabBawaPulang", make<TabBawaPulang>},
         {"TabDaftarPenjualan", make<TabDaftarPenjualan>},
         {"TabDashboard", make<TabDashboard>},
         {"TabEmployee", make<TabEmployee>},

@@ -12,15 +12,12 @@
 
 #include "ui_TabMakanDitempat.h"
 
-#include <QHeaderView>
 #include <QMessageBox>
 #include <QShortcut>
-#include <QSortFilterProxyModel>
 
 namespace
 {
-constexpr int boardRowHeight = 44;
-constexpr char businessName[] = "Sales";
+const EntityMeja* tableOf(const EntityOrder& row) { return static_cast<const EntityMakanDitempat&>(row).getMeja(); }
 
 /** Every table with its orders, and where it has none with a placeholder, which goes to the pool of the rows. */
 QList<KorEntity*> boardRows(const QList<EntityMakanDitempat*>& orders, const QList<KorEntity*>& tables, QObject* pool)
@@ -43,12 +40,11 @@ QList<KorEntity*> boardRows(const QList<EntityMakanDitempat*>& orders, const QLi
 } // namespace
 
 TabMakanDitempat::TabMakanDitempat(QWidget* parent)
-    : AppTab(parent), m_ui(std::make_unique<Ui::TabMakanDitempat>()), m_sales(service<BusinessPenjualan>("Sales")),
+    : OrderBoard(DineOrder, parent), m_ui(std::make_unique<Ui::TabMakanDitempat>()),
       m_tables(service<BusinessMeja>("Table"))
 {
     m_ui->setupUi(this);
-    m_ui->tblMeja->verticalHeader()->setDefaultSectionSize(boardRowHeight);
-    m_ui->tblMeja->setWordWrap(false);
+    setGrid(m_ui->tblMeja, m_ui->lblCount, {120, 180, 200, 210, 120});
     const auto* focusFilter = new QShortcut(QKeySequence("Ctrl+F"), this);
     connect(focusFilter, &QShortcut::activated, m_ui->txtFilter, [this] { m_ui->txtFilter->setFocus(); });
     refresh();
@@ -58,63 +54,35 @@ TabMakanDitempat::~TabMakanDitempat() = default;
 
 // --- the board -----------------------------------------------------------------------------------------------------
 
-void TabMakanDitempat::refresh()
+bool TabMakanDitempat::readRows(QList<KorEntity*>* rows, QObject* pool)
 {
     const QString filter = m_ui->txtFilter->text().toLower();
-    EntityPool read;
-    QList<KorEntity*> rows;
-    {
-        const EntityPoolScope scope(read);
-        const QList<EntityMakanDitempat*> orders = m_sales->getMakanDitempatList(0, filter);
-        if (m_sales->hasError()) {
-            failed(m_sales);
-            return;
-        }
-        const QList<KorEntity*> tables = m_tables->findAll(filter);
-        if (m_tables->hasError()) {
-            failed(m_tables);
-            return;
-        }
-        rows = boardRows(orders, tables, read.parent());
-    }
-    showRows(rows);
-    m_rows.swap(read);
+    const QList<EntityMakanDitempat*> orders = sales()->getMakanDitempatList(0, filter);
+    if (sales()->hasError())
+        return failed(sales());
+    const QList<KorEntity*> tables = m_tables->findAll(filter);
+    if (m_tables->hasError())
+        return failed(m_tables);
+    *rows = boardRows(orders, tables, pool);
+    return true;
 }
 
-void TabMakanDitempat::showRows(const QList<KorEntity*>& rows)
+OrderBoardModel* TabMakanDitempat::createModel(const QList<KorEntity*>& rows)
 {
-    // A free table's row has no id of its own, so the table is what the cursor stays on.
-    const auto tableOf = [](const KorEntity* row) {
-        return static_cast<const EntityMakanDitempat*>(row)->getMeja()->getId();
-    };
-    const KorEntity* current = m_model ? selectedEntities(m_ui->tblMeja, m_model).value(0) : nullptr;
-    const int currentTable = current ? tableOf(current) : KorNoValue;
-
-    const TableModelMakanDitempat* former = m_model;
-    m_model = new TableModelMakanDitempat(rows, this);
-    applyModel(m_ui->tblMeja, m_model);
-    if (!former)
-        setColumnWidths(m_ui->tblMeja, {120, 180, 200, 210, 120});
-    // No clear(): the pool of the rows frees them together.
-    delete former;
-
-    const QAbstractItemModel* shown = m_ui->tblMeja->model();
-    for (int row = 0; row < rows.size(); ++row) {
-        if (tableOf(rows.at(row)) != currentTable)
-            continue;
-        m_ui->tblMeja->setCurrentIndex(
-            static_cast<const QSortFilterProxyModel*>(shown)->mapFromSource(m_model->index(row, 0)));
-        break;
-    }
-    m_ui->tblMeja->setFocus();
-    m_ui->lblCount->setText(tr("%1 Items").arg(rows.size()));
+    return new TableModelMakanDitempat(rows, this);
 }
 
-void TabMakanDitempat::on_btnRefresh_clicked() { refresh(); }
+// A free table's row has no id of its own, so the table is what the cursor stays on.
+int TabMakanDitempat::placeOf(const EntityOrder& row) const { return tableOf(row)->getId(); }
 
-void TabMakanDitempat::on_btnSearch_clicked() { refresh(); }
-
-void TabMakanDitempat::on_btnClose_clicked() { close(); }
+bool TabMakanDitempat::carriesOrder(const EntityOrder& row, Action action)
+{
+    if (row.isSaved())
+        return true;
+    const QString text = action == Edit ? tr("This table: %1 is empty") : tr("Table %1 is empty");
+    tell(text.arg(tableOf(row)->getNama()));
+    return false;
+}
 
 // --- taking orders -------------------------------------------------------------------------------------------------
 
@@ -122,16 +90,17 @@ void TabMakanDitempat::on_btnAdd_clicked()
 {
     if (!hasAccess(businessName, BusinessPenjualan::TAMBAH_PESANAN))
         return;
-    const QList<EntityMakanDitempat*> rows = selectedOrders();
+    const QList<EntityOrder*> rows = selectedOrders();
     if (rows.isEmpty()) {
-        tell(tr("Please select a table"));
+        tell(nothingSelectedText());
         return;
     }
-    for (const EntityMakanDitempat* row : rows) {
-        if (row->isSaved())
-            addToOrder(*row);
+    for (const EntityOrder* order : rows) {
+        const auto& row = static_cast<const EntityMakanDitempat&>(*order);
+        if (row.isSaved())
+            addToOrder(row);
         else
-            takeNewOrder(*row);
+            takeNewOrder(row);
     }
     refresh();
 }
@@ -143,9 +112,9 @@ void TabMakanDitempat::takeNewOrder(const EntityMakanDitempat& row)
     EntityMakanDitempat* order = nullptr;
     dialog.setSaver([&] {
         order = static_cast<EntityMakanDitempat*>(dialog.getEntity());
-        if (m_sales->insertNewOrder(order))
+        if (sales()->insertNewOrder(order))
             return true;
-        tell(m_sales->takeErrors());
+        tell(sales()->takeErrors());
         return false;
     });
     if (dialog.exec() == QDialog::Accepted)
@@ -161,13 +130,13 @@ void TabMakanDitempat::addToOrder(const EntityMakanDitempat& row)
     EntityMakanDitempat* stored = nullptr;
     dialog.setSaver([&] {
         // Read at the last moment: another waiter may have added to it while this one was typing.
-        stored = readOrder(row.getId(), pool);
+        stored = static_cast<EntityMakanDitempat*>(readOrder(row.getId(), pool));
         if (!stored)
             return false;
         stored->mergeLines(static_cast<EntityMakanDitempat*>(dialog.getEntity())->getDetails());
         stored->setStatus(EntityOrder::WAITING_FOR_MENU);
         stored->setTgl(QDate::currentDate());
-        return m_sales->updateOrder(stored) || failed(m_sales);
+        return sales()->updateOrder(stored) || failed(sales());
     });
     if (dialog.exec() != QDialog::Accepted)
         return;
@@ -175,154 +144,58 @@ void TabMakanDitempat::addToOrder(const EntityMakanDitempat& row)
     sendToKitchen(stored);
 }
 
-void TabMakanDitempat::on_btnEdit_clicked()
+EntityOrder* TabMakanDitempat::findOrder(int id) { return sales()->findOrder(id); }
+
+std::unique_ptr<OrderDialog> TabMakanDitempat::createEditForm()
 {
-    if (!hasAccess(businessName, BusinessPenjualan::UBAH_PESANAN))
-        return;
-    const QList<EntityMakanDitempat*> rows = selectedOrders();
-    for (const EntityMakanDitempat* row : rows) {
-        if (isFree(*row, tr("This table: %1 is empty")))
-            continue;
-        if (!editOrder(row->getId()))
-            break;
-    }
-    refresh();
+    auto form = std::make_unique<DialogMakanDitempat>(this);
+    form->setWindowTitle(tr("Dine - Edit Order"));
+    return form;
 }
 
-bool TabMakanDitempat::editOrder(int id)
+bool TabMakanDitempat::updateOrder(EntityOrder* order)
 {
-    EntityPool pool;
-    EntityMakanDitempat* order = readOrder(id, pool);
-    if (!order || !hasAccess(businessName, BusinessPenjualan::UBAH_PESANAN, order))
-        return true;
-    order->takeSnapshot();
-    DialogMakanDitempat dialog(this);
-    dialog.setWindowTitle(tr("Dine - Edit Order"));
-    dialog.setEntity(order);
-    dialog.setSaver([&] {
-        dialog.getEntity();
-        order->compareWithSnapshot();
-        return m_sales->updateOrder(order) || failed(m_sales);
-    });
-    if (dialog.exec() != QDialog::Accepted)
-        return false;
-    // The kitchen sees only what changed.
-    order->setDetails(order->getChangedDetails());
-    sendToKitchen(order);
-    return true;
+    return sales()->updateOrder(static_cast<EntityMakanDitempat*>(order));
 }
 
 // --- until the guests go -------------------------------------------------------------------------------------------
 
-void TabMakanDitempat::on_btnDelete_clicked()
-{
-    if (!hasAccess(businessName, BusinessPenjualan::HAPUS_PESANAN))
-        return;
-    const QList<EntityMakanDitempat*> rows = selectedOrders();
-    for (EntityMakanDitempat* row : rows) {
-        if (!isFree(*row, tr("Table %1 is empty")))
-            cancelOrder(row);
-    }
-    refresh();
-}
+void TabMakanDitempat::on_btnDelete_clicked() { cancelSelectedOrders(); }
 
-void TabMakanDitempat::cancelOrder(EntityMakanDitempat* order)
+void TabMakanDitempat::cancelOrder(EntityOrder* row)
 {
-    const QString table = order->getMeja()->getNama();
+    const QString table = tableOf(*row)->getNama();
     if (QMessageBox::question(this, tr("Delete"),
                               tr("Are you sure you want to delete order of table: %1 ?").arg(table)) !=
         QMessageBox::Yes)
         return;
     EntityPool pool;
     const EntityPoolScope scope(pool);
-    const bool hasInvoice = !m_sales->getInvoicesOfOrder(order->getId()).isEmpty();
-    if (m_sales->hasError())
-        failed(m_sales);
+    const bool hasInvoice = !sales()->getInvoicesOfOrder(row->getId()).isEmpty();
+    if (sales()->hasError())
+        failed(sales());
     else if (hasInvoice)
         tell(tr("Table %1 is already have an invoice. Please finish the payment or click Finish button on Payment "
                 "Dialog")
                  .arg(table));
-    // The row as the user saw it: an order that has changed since is not cancelled unseen.
-    else if (!m_sales->removeOrder(order))
-        failed(m_sales);
+    else if (!sales()->removeOrder(static_cast<EntityMakanDitempat*>(row)))
+        failed(sales());
 }
 
-void TabMakanDitempat::on_btnPay_clicked()
+void TabMakanDitempat::payOrder(EntityOrder* order)
 {
-    if (!hasAccess(businessName, BusinessPenjualan::SAVE_INVOICE))
-        return;
-    const QList<EntityMakanDitempat*> rows = selectedOrders();
-    if (rows.isEmpty())
-        tell(tr("Please select a table"));
-    for (const EntityMakanDitempat* row : rows) {
-        if (!isFree(*row, tr("Table %1 is empty")))
-            payOrder(row->getId());
-    }
-    refresh();
-}
-
-void TabMakanDitempat::payOrder(int id)
-{
-    EntityPool pool;
-    EntityMakanDitempat* order = readOrder(id, pool);
-    if (!order)
-        return;
-    DialogBayarMakanDitempat dialog(this);
-    if (dialog.openOrder(order))
-        dialog.exec();
+    DialogBayarMakanDitempat form(this);
+    if (form.openOrder(static_cast<EntityMakanDitempat*>(order)))
+        form.exec();
 }
 
 void TabMakanDitempat::on_btnPrint_clicked()
 {
-    const QList<EntityMakanDitempat*> rows = selectedOrders();
+    const QList<EntityOrder*> rows = selectedOrders();
     if (rows.isEmpty())
-        tell(tr("Please select a table"));
-    for (const EntityMakanDitempat* row : rows) {
-        if (!isFree(*row, tr("Table %1 is empty")))
-            printRecap(row->getId());
+        tell(nothingSelectedText());
+    for (const EntityOrder* row : rows) {
+        if (carriesOrder(*row, Print))
+            ZavelReportFactory::instance()->printMakanDitempat(row->getId());
     }
-}
-
-void TabMakanDitempat::sendToKitchen(EntityMakanDitempat* order)
-{
-    ZavelReportFactory::instance()->printMenuOrder(DineOrder, order);
-}
-
-void TabMakanDitempat::printRecap(int id) { ZavelReportFactory::instance()->printMakanDitempat(id); }
-
-// --- what the actions share ----------------------------------------------------------------------------------------
-
-QList<EntityMakanDitempat*> TabMakanDitempat::selectedOrders() const
-{
-    QList<EntityMakanDitempat*> orders;
-    const QList<KorEntity*> rows = m_model ? selectedEntities(m_ui->tblMeja, m_model) : QList<KorEntity*>();
-    for (KorEntity* row : rows)
-        orders.append(static_cast<EntityMakanDitempat*>(row));
-    return orders;
-}
-
-bool TabMakanDitempat::isFree(const EntityMakanDitempat& row, const QString& text)
-{
-    if (!row.isSaved())
-        tell(text.arg(row.getMeja()->getNama()));
-    return !row.isSaved();
-}
-
-EntityMakanDitempat* TabMakanDitempat::readOrder(int id, EntityPool& pool)
-{
-    const EntityPoolScope scope(pool);
-    EntityMakanDitempat* order = m_sales->findOrder(id);
-    if (m_sales->hasError())
-        failed(m_sales);
-    else if (!order)
-        QMessageBox::information(this, tr("Error"), tr("Can not find entity with id: %1").arg(id));
-    return order;
-}
-
-void TabMakanDitempat::tell(const QString& text) { QMessageBox::information(this, tr("Info"), text); }
-
-bool TabMakanDitempat::failed(KorBusinessLogic* service)
-{
-    QMessageBox::critical(this, tr("Error"), service->takeErrors());
-    return false;
 }

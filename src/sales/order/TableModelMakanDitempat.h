@@ -1,12 +1,9 @@
 #pragma once
 
-#include "app/widgets/AppEntityModel.h"
-
-#include <QHash>
-#include <QIcon>
+#include "sales/order/OrderBoardModel.h"
 
 /** The board's rows: every table with its open order, or with a placeholder where it is free. */
-class TableModelMakanDitempat final : public AppEntityModel
+class TableModelMakanDitempat final : public OrderBoardModel
 {
     Q_OBJECT
 
@@ -15,13 +12,6 @@ public:
 
     TableModelMakanDitempat(const QList<KorEntity*>& orders, QObject* parent);
 
-    [[nodiscard]] QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
-
     /** The word for an order's status; empty for a number that is none. */
     [[nodiscard]] static QString statusText(int status);
-
-private:
-    [[nodiscard]] QIcon statusMark(int status) const;
-
-    mutable QHash<int, QIcon> m_marks;
 };
