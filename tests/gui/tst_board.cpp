@@ -1,18 +1,17 @@
 #include "app/context/AppContext.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "sales/order/DialogMakanDitempat.h"
-#include "sales/order/DialogSelectMenu.h"
 #include "sales/order/TabMakanDitempat.h"
 #include "sales/order/TableModelMakanDitempat.h"
 #include "sales/payment/DialogBayarMakanDitempat.h"
 #include "sales/service/BusinessPenjualan.h"
 #include "support/Builders.h"
 #include "support/ModalDriver.h"
+#include "support/OrderKeys.h"
 #include "support/TestCluster.h"
 #include "support/TestDatabase.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRegularExpression>
@@ -23,24 +22,6 @@
 namespace
 {
 using Column = TableModelMakanDitempat::Column;
-
-void type(QWidget* form, const char* field, const QString& text)
-{
-    auto* edit = form->findChild<QLineEdit*>(field);
-    edit->setFocus();
-    edit->selectAll();
-    QTest::keyClicks(edit, text);
-}
-
-/** Code, Return, quantity, Return: the whole of what a waiter does for a line. */
-void pick(OrderItemPicker* picker, const QString& code, const QString& qty)
-{
-    type(picker, "txtCode", code);
-    QTest::keyClick(picker->findChild<QLineEdit*>("txtCode"), Qt::Key_Return);
-    auto* quantity = picker->findChild<QLineEdit*>("txtQty");
-    QTest::keyClicks(quantity, qty);
-    QTest::keyClick(quantity, Qt::Key_Return);
-}
 } // namespace
 
 /** The board of tables: what it shows, and an order's life from the empty table to the empty table. */
@@ -75,8 +56,10 @@ private:
     using FormStep = std::function<void(DialogMakanDitempat*)>;
 
     void show();
-    /** Calls the pickers with F12, keys in codes and quantities, ends the round, and goes on with the form. */
-    void keyIn(DialogMakanDitempat* form, const QList<QPair<QString, QString>>& lines, const FormStep& then);
+    void keyIn(DialogMakanDitempat* form, const QList<QPair<QString, QString>>& lines, const FormStep& then)
+    {
+        ::keyIn(*m_people, form, lines, then);
+    }
     [[nodiscard]] QString cell(int row, Column column) const;
     /** What the first row of this table shows. */
     [[nodiscard]] QString at(const QString& code, Column column) const;
@@ -86,7 +69,7 @@ private:
     void choose(const QString& code);
 
     /** What the kitchen's printer has printed since the last look, slip after slip. */
-    QString kitchenSlips();
+    QString kitchenSlips() { return takeSlips(m_spool->path()); }
 
     std::unique_ptr<QTemporaryDir> m_spool;
     std::unique_ptr<TestDatabase> m_database;
@@ -130,33 +113,6 @@ void TestBoard::show()
     m_board->show();
     QVERIFY(QTest::qWaitForWindowActive(m_board.get()));
     m_grid = m_board->findChild<QTableView*>("tblMeja");
-}
-
-void TestBoard::keyIn(DialogMakanDitempat* form, const QList<QPair<QString, QString>>& lines, const FormStep& then)
-{
-    for (const auto& line : lines)
-        m_people->expect<DialogSelectMenu>([line](DialogSelectMenu* picker) { pick(picker, line.first, line.second); });
-    m_people->expect<DialogSelectMenu>([this, then](DialogSelectMenu* picker) {
-        m_people->expect<DialogMakanDitempat>(then);
-        QTest::keyClick(picker, Qt::Key_Escape);
-    });
-    // Its window counts as active while the board behind it is, so the program has to be asked.
-    QTRY_COMPARE(QApplication::activeWindow(), form);
-    QTest::keyClick(form, Qt::Key_F12);
-}
-
-QString TestBoard::kitchenSlips()
-{
-    QString text;
-    QDir folder(m_spool->path());
-    const QStringList jobs = folder.entryList({"*.slip"}, QDir::Files, QDir::Name);
-    for (const QString& job : jobs) {
-        QFile file(folder.filePath(job));
-        if (file.open(QIODevice::ReadOnly))
-            text += QString::fromUtf8(file.readAll());
-        file.remove();
-    }
-    return text;
 }
 
 QString TestBoard::cell(int row, Column column) const { return m_grid->model()->index(row, column).data().toString(); }
@@ -212,7 +168,7 @@ void TestBoard::aSearchFindsTablesAndSaysWhenThereAreNone()
     m_make->openOrder(m_t2, {m_make->line(m_tea, 1)}, "Bob");
     show();
     const auto search = [this](const QString& text) {
-        type(m_board.get(), "txtFilter", text);
+        typeInto(m_board.get(), "txtFilter", text);
         QTest::keyClick(m_board->findChild<QLineEdit*>("txtFilter"), Qt::Key_Return);
     };
     search("GARDEN");
@@ -350,7 +306,7 @@ void TestBoard::aTableThatWasTakenMeanwhileIsToldAndTheFormStays()
             QTest::keyClick(same->focusWidget(), Qt::Key_Return);
             QVERIFY(same->isVisible());
             QCOMPARE(same->findChild<QLabel*>("lblTotal")->text(), QString("Rp5,000.00"));
-            type(same, "txtKode", "T2");
+            typeInto(same, "txtKode", "T2");
             QTest::keyClick(same->focusWidget(), Qt::Key_Return);
             QVERIFY(!same->isVisible());
         });
@@ -398,7 +354,7 @@ void TestBoard::anEditMovesTheOrderAndStartsTheWaitAgain()
     choose("t1");
     m_people->expect<DialogMakanDitempat>([](DialogMakanDitempat* form) {
         QCOMPARE(form->windowTitle(), QString("Dine - Edit Order"));
-        type(form, "txtKode", "t2");
+        typeInto(form, "txtKode", "t2");
         QTest::keyClick(form->focusWidget(), Qt::Key_Return);
     });
     press(Qt::Key_F2);
@@ -418,8 +374,8 @@ void TestBoard::aStaleEditIsToldAndTheFormStays()
     show();
     choose("t1");
     m_people->expect<DialogMakanDitempat>([this](DialogMakanDitempat* form) {
-        type(form, "txtKode", "t2");
-        type(form, "txtNamaPelanggan", "Mine");
+        typeInto(form, "txtKode", "t2");
+        typeInto(form, "txtNamaPelanggan", "Mine");
         m_database->run("UPDATE makan_ditempat SET version = version + 1, pemesan = 'Theirs'");
         QTest::keyClick(form->focusWidget(), Qt::Key_Return);
         QVERIFY(form->isVisible());
@@ -472,7 +428,7 @@ void TestBoard::anEditTellsTheKitchenOnlyWhatChanged()
             m_people->expect<DialogMakanDitempat>(
                 [](DialogMakanDitempat* same) { QTest::keyClick(same->focusWidget(), Qt::Key_Return); });
             QVERIFY(!picker->findChild<QLineEdit*>("txtCode")->isEnabled());
-            type(picker, "txtNotes", "no ice");
+            typeInto(picker, "txtNotes", "no ice");
             QTest::keyClick(picker->focusWidget(), Qt::Key_Return);
         });
         QTRY_COMPARE(QApplication::activeWindow(), form);
@@ -509,7 +465,7 @@ void TestBoard::aLostDatabaseLeavesTheBoardAsItWas()
     show();
     choose("t1");
     m_people->expect<DialogMakanDitempat>([this](DialogMakanDitempat* form) {
-        type(form, "txtNamaPelanggan", "Zoe");
+        typeInto(form, "txtNamaPelanggan", "Zoe");
         TestCluster::instance().run("ALTER DATABASE " + m_database->name() + " WITH ALLOW_CONNECTIONS false");
         m_database->killConnections();
         QTest::keyClick(form->focusWidget(), Qt::Key_Return);

@@ -4,6 +4,7 @@
 #include "app/persistence/AppDocumentLines.h"
 #include "sales/service/BusinessPenjualan.h"
 #include "sales/takeaway/DialogBawaPulang.h"
+#include "sales/takeaway/DialogBayarBawaPulang.h"
 #include "sales/takeaway/EntityInvoiceBawaPulang.h"
 #include "sales/takeaway/TableModelBawaPulang.h"
 
@@ -97,4 +98,9 @@ void TabBawaPulang::cancelOrder(EntityOrder* row)
         failed(sales());
 }
 
-void TabBawaPulang::payOrder(EntityOrder*) {}
+void TabBawaPulang::payOrder(EntityOrder* order)
+{
+    DialogBayarBawaPulang form(this);
+    if (form.openOrder(order))
+        form.exec();
+}
