@@ -42,6 +42,7 @@ private slots:
     void kitchenSlipsAreComposedLineByLine();
     void recapsTakeAwaysAndCancellationsAreComposed();
     void eachBillComesFromItsOwnSale();
+    void aTakeAwayPrintsItsCopiesWithACutBehindEach();
 
     void copiesAndCutsGoIntoOneJob();
     void aPrinterTypeThatIsUnknownCutsNothing();
@@ -259,6 +260,16 @@ void TestSlips::billsAreComposedLineByLine_data()
             settle(m_invoice, 50000, 0);
         },
         2);
+    row(
+        "bill_take_away_narrow_long_names",
+        [this] {
+            m_bill.table = nullptr;
+            m_bill.guest = "The whole office on the third floor, Pak Joko";
+            m_cashier->setColumnPaper("32");
+            m_bill.lines = {soldLine("Sate ayam bumbu kacang", 10, 42000)};
+            settle(m_invoice, 400000, 60000);
+        },
+        2);
 }
 
 void TestSlips::billsAreComposedLineByLine()
@@ -377,6 +388,39 @@ void TestSlips::eachBillComesFromItsOwnSale()
     QFile logFile(m_spool->filePath("log"));
     QVERIFY(logFile.open(QIODevice::ReadOnly));
     QCOMPARE(logFile.readAll().trimmed(), job(1).trimmed());
+}
+
+void TestSlips::aTakeAwayPrintsItsCopiesWithACutBehindEach()
+{
+    EntityInvoiceBawaPulang sale;
+    fillSale(&sale, 60000);
+    sale.setPemesan("Pak Joko");
+    m_cashier->setAutoCutter("Yes");
+    m_cashier->setNoOfCopy("2");
+    QVERIFY(ReportBillBawaPulang(nullptr, m_cashier, &sale, m_company, m_user, m_printerType).print());
+
+    EntityBawaPulang order;
+    order.setId(305);
+    order.setPemesan("Pak Joko");
+    order.setMember(m_member);
+    order.setCreatedTime(m_now);
+    order.setUpdatedTime(m_now);
+    // The kitchen knows the first line, and gets what is new on paper of 32 columns.
+    order.setDetails({orderedLine<EntityBawaPulangDetail>(item("SATE-AYAM", "Sate ayam bumbu kacang", "GRILL"), 12,
+                                                          "half of them without any chili", EntityOrderDetail::UPDATED),
+                      orderedLine<EntityBawaPulangDetail>(item("TEH", "Teh manis", "DRINK"), 3)});
+    EntityConfigKitchenPrinter* grill = kitchen("Grill", "GRILL");
+    grill->setColumnPaper("32");
+    grill->setNoOfCopy("2");
+    grill->setAutoCutter("Yes");
+    const KitchenSlipData slip{grill, &order, TakeAwayOrder, m_now};
+    const QString difference = goldenDifference("sale_take_away_two_copies.txt", job(0)) +
+                               goldenDifference("kitchen_take_away_narrow.txt", composeMenuOrder(slip)->toUtf8());
+    QVERIFY2(difference.isEmpty(), qPrintable(difference));
+    QVERIFY(ReportMenuOrder(nullptr, {grill}, &order, TakeAwayOrder, m_company, m_user, m_printerType).print());
+    QCOMPARE(job(1).count("Sate ayam"), 2);
+    QCOMPARE(job(1).count("\x1D\x56\x42"), 2);
+    QVERIFY(!job(1).contains("Teh manis"));
 }
 
 void TestSlips::copiesAndCutsGoIntoOneJob()

@@ -44,6 +44,11 @@ void OrderLinesTab::refresh()
     applyModel(m_ui->tblMenu, m_model);
     if (!former)
         setColumnWidths(m_ui->tblMenu, {90, 200, 60, 100, 140, 150, 120});
+    else if (!isVisible()) {
+        // Not laid out yet, the grid only seems to leave no room for the last column.
+        m_ui->tblMenu->setColumnWidth(OrderLinesModel::Description,
+                                      m_ui->tblMenu->horizontalHeader()->minimumSectionSize());
+    }
     // No clear(): the lines are the order's, the model only showed them.
     delete former;
     m_ui->tblMenu->selectRow(std::min(std::max(row, 0), m_lines.size() - 1));
