@@ -10,6 +10,8 @@
 #include "sales/list/EntityPenjualanInfo.h"
 #include "sales/service/SalesFilters.h"
 
+#include <QScopedValueRollback>
+
 namespace
 {
 /** One condition over several columns, each compared with the value; the closing part is always true. */
@@ -52,12 +54,12 @@ KorEntity* DataMapperPenjualanInfo::fillFromRow(KorQuery& query, KorEntity* enti
     info->setAmountPaid(invoice->getAmountPaid());
     info->setNetDue(invoice->getNetDue());
     info->setOtherPayment(invoice->getOtherPayment());
-    info->setUser(static_cast<EntityUser*>(m_partners.users->fromRow(query)));
-    info->setMember(static_cast<EntityMember*>(m_partners.members->fromRow(query)));
+    info->setUser(static_cast<EntityUser*>(partner(query, m_partners.users, m_partners.users->tableName())));
+    info->setMember(static_cast<EntityMember*>(partner(query, m_partners.members, m_partners.members->tableName())));
     info->setTypeName(typeNameOf(query));
-    KorEntity* waitress = m_partners.employees->fromRow(query, "mkn_employee");
+    KorEntity* waitress = partner(query, m_partners.employees, "mkn_employee");
     if (!waitress)
-        waitress = m_partners.employees->fromRow(query, "ff_employee");
+        waitress = partner(query, m_partners.employees, "ff_employee");
     info->setWaitress(static_cast<EntityEmployee*>(waitress));
     for (const KorDataMapper* link : {m_partners.dineInvoices, m_partners.fastFoodInvoices}) {
         const QVariant agent = query.field(aliasOf(link->tableName(), "agent_id"));
@@ -65,6 +67,17 @@ KorEntity* DataMapperPenjualanInfo::fillFromRow(KorQuery& query, KorEntity* enti
             info->setAgentId(agent.toInt());
     }
     return info;
+}
+
+KorEntity* DataMapperPenjualanInfo::partner(KorQuery& query, KorDataMapper* mapper, const QString& alias)
+{
+    const int id = query.value(query.plan(*mapper, alias).id).toInt();
+    if (!m_known || id == 0)
+        return mapper->fromRow(query, alias);
+    KorEntity*& known = (*m_known)[mapper][id];
+    if (!known)
+        known = mapper->fromRow(query, alias);
+    return known;
 }
 
 QString DataMapperPenjualanInfo::typeNameOf(KorQuery& query) const
@@ -126,5 +139,7 @@ QList<EntityPenjualanInfo*> DataMapperPenjualanInfo::latestFirst(KorPaging& pagi
     paging.addSort("invoice_date", "desc");
     // Within a day as well, so that a list read again has its rows where they were.
     paging.addSort(", invoice.id", "desc");
+    Known known;
+    const QScopedValueRollback<Known*> whileReading(m_known, &known);
     return castAll<EntityPenjualanInfo>(find(&paging));
 }

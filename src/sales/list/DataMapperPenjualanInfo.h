@@ -2,6 +2,8 @@
 
 #include "app/persistence/AppDataMapper.h"
 
+#include <QHash>
+
 class DataMapperEmployee;
 class DataMapperInvoice;
 class DataMapperMember;
@@ -49,10 +51,16 @@ public:
                                                       const QString& sortColumn, const QString& itemType);
 
 private:
+    using Known = QHash<const KorDataMapper*, QHash<int, KorEntity*>>;
+
     [[nodiscard]] QList<EntityPenjualanInfo*> latestFirst(KorPaging& paging);
     [[nodiscard]] QList<EntitySalesSummaryInfo*> salesBy(const QString& period, const QString& name, const QDate& from,
                                                          const QDate& to, int userId);
     [[nodiscard]] QString typeNameOf(KorQuery& query) const;
+    /** One record for all rows of a search that name it: few people make many sales. */
+    KorEntity* partner(KorQuery& query, KorDataMapper* mapper, const QString& alias);
 
     Partners m_partners;
+    /** Set while a search reads its rows. */
+    Known* m_known = nullptr;
 };

@@ -159,6 +159,8 @@ void TabDaftarPenjualan::modelApplied()
 
 int TabDaftarPenjualan::editKey() const { return BusinessPenjualan::SAVE_INVOICE; }
 
+std::unique_ptr<KorDialog> TabDaftarPenjualan::createDialog() { return nullptr; }
+
 int TabDaftarPenjualan::deleteKey() const { return BusinessPenjualan::DELETE_SALES; }
 
 KorEntity* TabDaftarPenjualan::readEntity(int id) { return model()->find(id); }

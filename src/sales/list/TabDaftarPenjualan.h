@@ -38,7 +38,7 @@ protected:
     bool updateEntity(KorEntity* sale) override;
     bool removeEntity(KorEntity* sale) override;
     // The payment's form says what kind of sale it saves; nothing is added here.
-    std::unique_ptr<KorDialog> createDialog() override { return nullptr; }
+    std::unique_ptr<KorDialog> createDialog() override;
 
 private:
     void makeFilters();

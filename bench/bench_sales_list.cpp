@@ -1,0 +1,131 @@
+#include "BenchMain.h"
+
+#include "app/context/EntityPool.h"
+#include "kor/business/KorServiceDirectory.h"
+#include "registry/zavel/ZavelMapperRegistry.h"
+#include "sales/list/DataMapperPenjualanInfo.h"
+#include "sales/list/TabDaftarPenjualan.h"
+#include "sales/service/BusinessPenjualan.h"
+#include "support/SalesRows.h"
+#include "support/ShopRows.h"
+
+#include <QApplication>
+#include <QTableView>
+#include <QTest>
+#include <QVBoxLayout>
+
+// The list of all sales on a day of 5,000: reading it, opening its page, and turning the pages.
+
+namespace
+{
+constexpr int saleCount = 5000;
+constexpr int columns = 12;
+constexpr QSize pageSize(1000, 700);
+
+/** Twelve texts of each row of libpq. */
+class PlainModel final : public QAbstractTableModel
+{
+public:
+    explicit PlainModel(std::vector<PlainRow> rows) : m_rows(std::move(rows)) {}
+
+    [[nodiscard]] int rowCount(const QModelIndex&) const override { return static_cast<int>(m_rows.size()); }
+    [[nodiscard]] int columnCount(const QModelIndex&) const override { return columns; }
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override
+    {
+        if (role != Qt::DisplayRole)
+            return {};
+        const std::vector<std::string>& texts = m_rows[static_cast<std::size_t>(index.row())].texts;
+        return QString::fromStdString(texts.at(static_cast<std::size_t>(index.column())));
+    }
+
+private:
+    std::vector<PlainRow> m_rows;
+};
+
+SalesFilter today()
+{
+    SalesFilter filter;
+    filter.from = QDate::currentDate();
+    filter.to = filter.from;
+    return filter;
+}
+
+std::vector<PlainRow> readByHand(ByHand& byHand)
+{
+    const std::string day = QDate::currentDate().toString(Qt::ISODate).toStdString();
+    return ByHand::rows(byHand.execute("sales", {day, day}).get());
+}
+
+void expect(int rows)
+{
+    if (rows != saleCount)
+        qFatal("the list has %d sales", rows);
+}
+
+void show(QWidget& page)
+{
+    page.resize(pageSize);
+    page.show();
+    QApplication::processEvents();
+}
+
+/** A page down by the key, painted before the next one; from the end back to the top. */
+void turnPage(QTableView& grid)
+{
+    if (grid.currentIndex().row() >= saleCount - 1 || !grid.currentIndex().isValid())
+        grid.selectRow(0);
+    QTest::keyClick(&grid, Qt::Key_PageDown);
+    grid.viewport()->repaint();
+}
+
+/** The page by hand: the grid alone. */
+struct PlainPage
+{
+    explicit PlainPage(ByHand& byHand) : model(readByHand(byHand))
+    {
+        layout.addWidget(&grid);
+        grid.setSelectionBehavior(QAbstractItemView::SelectRows);
+        grid.setModel(&model);
+        show(page);
+        expect(model.rowCount({}));
+    }
+
+    PlainModel model;
+    QWidget page;
+    QVBoxLayout layout{&page};
+    QTableView grid;
+};
+} // namespace
+
+void setUp(TestDatabase& database, ByHand& byHand)
+{
+    insertShop(database);
+    insertManySales(database, saleCount);
+    database.run("UPDATE invoice SET invoice_date = current_date");
+    database.run("ANALYZE");
+    byHand.prepare("sales", ZavelMapperRegistry::instance()->penjualanInfoMapper()->selectStatement() +
+                                " where invoice_date >=  :prm0 and invoice_date <=  :prm1 order by invoice_date desc, "
+                                "invoice.id desc");
+
+    enter({"Read the list of 5,000 sales",
+           [] {
+               EntityPool read;
+               const EntityPoolScope scope(read);
+               expect(service<BusinessPenjualan>("Sales")->searchPenjualan(today()).size());
+           },
+           [&byHand] { expect(static_cast<int>(readByHand(byHand).size())); }, [] {}, 5});
+    enter({"Open the page of 5,000 sales",
+           [] {
+               TabDaftarPenjualan page;
+               show(page);
+               expect(page.findChild<QTableView*>("tblPenjualan")->model()->rowCount());
+           },
+           [&byHand] { const PlainPage page(byHand); }, [] {}, 5});
+
+    // Both stay open while the benchmark runs; the program's end takes them.
+    auto* page = new TabDaftarPenjualan;
+    auto* plain = new PlainPage(byHand);
+    show(*page);
+    enter({"Turn a page of 5,000 sales", [page] { turnPage(*page->findChild<QTableView*>("tblPenjualan")); },
+           [plain] { turnPage(plain->grid); }, [] {}, 100});
+}
