@@ -52,9 +52,15 @@ void ModalDriver::look()
             continue;
         const Step step = m_steps.takeAt(i);
         m_inHand = dialog;
+        const QPointer<QDialog> outer = m_workedOn;
+        m_workedOn = dialog;
         step.work(dialog);
+        m_workedOn = outer;
         return;
     }
+    // The step at work on it waits for something.
+    if (dialog == m_workedOn)
+        return;
     // A dialog that a step has worked on stays open when it refuses; the test's next step or its end decides.
     if (dialog == m_inHand && !m_steps.isEmpty())
         return;

@@ -59,4 +59,5 @@ private:
     QList<SeenBox> m_boxes;
     QStringList m_surprises;
     QPointer<QDialog> m_inHand;
+    QPointer<QDialog> m_workedOn;
 };
