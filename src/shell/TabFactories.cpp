@@ -15,6 +15,7 @@
 #include "masterdata/satuan/TabSatuan.h"
 #include "masterdata/supplier/TabSupplier.h"
 #include "printing/configuration/TabKitchenPrinter.h"
+#include "sales/fastfood/TabFastFood.h"
 #include "sales/list/TabDaftarPenjualan.h"
 #include "sales/order/TabMakanDitempat.h"
 #include "sales/receivable/TabPiutang.h"
@@ -40,6 +41,7 @@ TabFactories allTabFactories()
         {"TabDaftarPenjualan", make<TabDaftarPenjualan>},
         {"TabDashboard", make<TabDashboard>},
         {"TabEmployee", make<TabEmployee>},
+        {"TabFastFood", make<TabFastFood>},
         {"TabItem", make<TabItem>},
         {"TabJenisItem", make<TabJenisItem>},
         {"TabKeyTable", make<TabKeyTable>},

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "app/widgets/AppDocumentTab.h"
+
+class EmployeeTextBox;
+class QComboBox;
+class QDateEdit;
+
+/** The page of the counter: takes a sale and its money in one form, and lists what was sold. */
+class TabFastFood final : public AppDocumentTab
+{
+    Q_OBJECT
+
+public:
+    explicit TabFastFood(QWidget* parent = nullptr);
+
+protected:
+    QList<KorEntity*> readRows(const QString& filter) override;
+    KorEntityModel* createModel(const QList<KorEntity*>& rows) override;
+    void modelApplied() override;
+    std::unique_ptr<KorDialog> createDialog() override;
+    [[nodiscard]] QString deleteQuestion(const KorEntity* entity) const override;
+    [[nodiscard]] QString notFoundText(int id) const override;
+    [[nodiscard]] int addKey() const override;
+    [[nodiscard]] int editKey() const override;
+    [[nodiscard]] int deleteKey() const override;
+    [[nodiscard]] bool asksOnce(int key) const override;
+    KorEntity* readEntity(int id) override;
+    bool editEntity(KorEntity* sale) override;
+    bool insertEntity(KorEntity* sale) override;
+    bool updateEntity(KorEntity* sale) override;
+    bool removeEntity(KorEntity* sale) override;
+    void entitySaved(KorEntity* sale) override;
+
+private:
+    void makeFilters();
+    void nameButtons();
+
+    QDateEdit* m_from = nullptr;
+    QDateEdit* m_to = nullptr;
+    QComboBox* m_status = nullptr;
+    EmployeeTextBox* m_employee = nullptr;
+    bool m_soldNow = false;
+};
