@@ -45,6 +45,7 @@ private slots:
     void aTakeAwayPrintsItsCopiesWithACutBehindEach();
 
     void copiesAndCutsGoIntoOneJob();
+    void aCounterSalesCopiesAreCutApart();
     void aPrinterTypeThatIsUnknownCutsNothing();
     void noCopiesMakeAnEmptyJob();
     void anUnknownPrinterIsToldAndTheOtherKitchensPrint();
@@ -251,6 +252,26 @@ void TestSlips::billsAreComposedLineByLine_data()
     row(
         "bill_fast_food", [this] { m_bill.table = nullptr; }, 1);
     row(
+        "bill_fast_food_member_part_paid_narrow_paper",
+        [this] {
+            m_bill.table = nullptr;
+            m_bill.member = m_member;
+            m_cashier->setColumnPaper("32");
+            settle(m_invoice, 20000, 10000);
+        },
+        1);
+    row(
+        "bill_fast_food_overpaid_long_names",
+        [this] {
+            m_bill.table = nullptr;
+            m_bill.guest = "Rombongan karyawan kantor kelurahan Kebayoran Baru";
+            m_member->setNama("Bapak Raden Mas Budi Santoso Kusumawardhana");
+            m_bill.member = m_member;
+            m_bill.lines = {soldLine("Ayam goreng pak", 1, 25000), soldLine("Ayam goreng paket komplit", 120, 999999)};
+            settle(m_invoice, 150000000, 0);
+        },
+        1);
+    row(
         "bill_take_away", [this] { m_bill.table = nullptr; }, 2);
     row(
         "bill_take_away_member_part_paid",
@@ -436,6 +457,19 @@ void TestSlips::copiesAndCutsGoIntoOneJob()
     m_cashier->setAutoCutter("yes");
     QVERIFY(ReportMakanDitempat(nullptr, m_cashier, m_order, m_company, m_user, m_printerType).print());
     QCOMPARE(job(1), body + body + body);
+}
+
+void TestSlips::aCounterSalesCopiesAreCutApart()
+{
+    m_cashier->setAutoCutter("Yes");
+    m_cashier->setNoOfCopy("2");
+    EntityInvoiceFastFood fastFood;
+    fillSale(&fastFood, 20000);
+    fastFood.setPemesan("Pak Joko");
+    fastFood.setMember(m_member);
+    QVERIFY(ReportBillFastFood(nullptr, m_cashier, &fastFood, m_company, m_user, m_printerType).print());
+    const QString difference = goldenDifference("sale_fast_food_copies.txt", job(0));
+    QVERIFY2(difference.isEmpty(), qPrintable(difference));
 }
 
 void TestSlips::aPrinterTypeThatIsUnknownCutsNothing()
