@@ -150,8 +150,8 @@ void TabDaftarPenjualan::modelApplied()
     // Twelve columns: the words give way to the money, which is never cut.
     using Model = TableModelDaftarPenjualan;
     for (const auto& width :
-         {std::pair(Model::Type, 134), std::pair(Model::User, 96), std::pair(Model::MemberCode, 130),
-          std::pair(Model::Guest, 160), std::pair(Model::Waitress, 112)})
+         {std::pair(Model::Type, 134), std::pair(Model::User, 96), std::pair(Model::MemberCode, 152),
+          std::pair(Model::Guest, 168), std::pair(Model::Waitress, 112)})
         grid()->setColumnWidth(width.first, width.second);
 }
 

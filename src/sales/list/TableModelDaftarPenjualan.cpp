@@ -3,10 +3,22 @@
 #include "sales/invoice/InvoiceStatusText.h"
 #include "sales/list/EntityPenjualanInfo.h"
 
+namespace
+{
+QIcon mark(const QString& name)
+{
+    const QPixmap picture(":/icons/status_" + name + ".png");
+    QIcon icon(picture);
+    // Its colour stands out from a selected row's as it is; the style would dye it.
+    icon.addPixmap(picture, QIcon::Selected);
+    return icon;
+}
+} // namespace
+
 TableModelDaftarPenjualan::TableModelDaftarPenjualan(const QList<KorEntity*>& sales, QObject* parent)
-    : AppEntityModel(sales, parent), m_marks{{Invoice::FULL_PAID, QIcon(":/icons/status_paid.png")},
-                                             {Invoice::PARTIALLY_PAID, QIcon(":/icons/status_partial.png")},
-                                             {Invoice::UNPAID, QIcon(":/icons/status_unpaid.png")}}
+    : AppEntityModel(sales, parent), m_marks{{Invoice::FULL_PAID, mark("paid")},
+                                             {Invoice::PARTIALLY_PAID, mark("partial")},
+                                             {Invoice::UNPAID, mark("unpaid")}}
 {
     using Sale = EntityPenjualanInfo;
     const auto text = [this](const QString& header, auto read) { addField<Sale>(QMetaType::QString, header, read); };
