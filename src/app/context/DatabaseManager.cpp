@@ -24,7 +24,8 @@ bool DatabaseManager::open(const QString& host, const QString& databaseName, con
     m_database.setPort(port);
     // The session takes the workstation's time zone: a time stamp bound as a date-time would otherwise be stored as
     // the server's wall clock, and so on another day around midnight. As an option it also holds after a reconnect.
-    m_database.setConnectOptions("connect_timeout=5;options=-c\\ TimeZone=" +
+    // A server that stops answering is given up after ten seconds instead of the kernel's quarter of an hour.
+    m_database.setConnectOptions("connect_timeout=5;tcp_user_timeout=10000;options=-c\\ TimeZone=" +
                                  QString::fromLatin1(QTimeZone::systemTimeZoneId()));
     return m_database.open();
 }
