@@ -23,14 +23,10 @@ public:
 
 QString dateLine(const QDateTime& moment) { return "Date   : " + moment.toString(slipTimeFormat()); }
 
-/** The table, and in front of it those that the order has left. */
 QString tableText(const EntityOrder& order)
 {
     const auto* dine = qobject_cast<const EntityMakanDitempat*>(&order);
-    if (!dine)
-        return {};
-    const QString code = dine->getMeja() ? dine->getMeja()->getKode() : QString();
-    return dine->getPindahMeja().isEmpty() ? code : dine->getPindahMeja() + '>' + code;
+    return dine ? dine->tableTrail() : QString();
 }
 
 /** What all slips of a kitchen begin with. */

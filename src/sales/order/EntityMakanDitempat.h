@@ -16,4 +16,6 @@ public:
 
     /** Puts the order on another table and notes the one that it leaves. */
     void moveTo(EntityMeja* table);
+    /** The code of its table, and in front of it those that the order has left: "A>B". */
+    [[nodiscard]] QString tableTrail() const;
 };
