@@ -16,6 +16,7 @@
 #include "masterdata/supplier/TabSupplier.h"
 #include "printing/configuration/TabKitchenPrinter.h"
 #include "sales/fastfood/TabFastFood.h"
+#include "sales/kitchen/TabPesananMasuk.h"
 #include "sales/list/TabDaftarPenjualan.h"
 #include "sales/order/TabMakanDitempat.h"
 #include "sales/receivable/TabPiutang.h"
@@ -49,6 +50,7 @@ TabFactories allTabFactories()
         {"TabMakanDitempat", make<TabMakanDitempat>},
         {"TabMeja", make<TabMeja>},
         {"TabMember", make<TabMember>},
+        {"TabPesananMasuk", make<TabPesananMasuk>},
         {"TabPiutang", make<TabPiutang>},
         {"TabSatuan", make<TabSatuan>},
         {"TabSupplier", make<TabSupplier>},
