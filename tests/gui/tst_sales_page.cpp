@@ -5,6 +5,7 @@
 #include "sales/list/TableModelDaftarPenjualan.h"
 #include "sales/payment/DialogBayarMakanDitempat.h"
 #include "sales/service/BusinessPenjualan.h"
+#include "sales/takeaway/DialogBayarBawaPulang.h"
 #include "support/ModalDriver.h"
 #include "support/SalesRows.h"
 #include "support/ShopRows.h"
@@ -36,6 +37,7 @@ private slots:
     void nothingHappensWithoutTheRight_data();
     void nothingHappensWithoutTheRight();
     void aTablesPaymentIsOpenedAgain();
+    void aTakeAwaysPaymentIsOpenedAgain();
     void aCounterSaleIsOpenedAgain();
     void aSaleWithoutItsLinkCannotBeOpened();
     void deletingAsksForTheInvoiceByItsNumber();
@@ -288,6 +290,22 @@ void TestSalesPage::aTablesPaymentIsOpenedAgain()
     QCOMPARE(cell(0, TableModelDaftarPenjualan::NetDue), QString("(Rp100.00)"));
     QCOMPARE(count("makan_ditempat WHERE status = 6"), 1);
     QCOMPARE(count("invoice_detail WHERE total_amount = 900"), 1);
+}
+
+void TestSalesPage::aTakeAwaysPaymentIsOpenedAgain()
+{
+    insertSale(*m_database, {"P1", "TRP", 900, 500, 0, 3, QDate::currentDate(), "Mary"});
+    show();
+    m_grid->selectRow(0);
+    m_people->expect<DialogBayarBawaPulang>([](DialogBayarBawaPulang* form) {
+        QCOMPARE(form->findChild<QLineEdit*>("txtKode")->text(), QString("P1"));
+        form->findChild<QLineEdit*>("txtPaid")->setText("900");
+        form->accept();
+        form->reject();
+    });
+    click("btnEdit");
+    QTRY_VERIFY(m_people->finished());
+    QCOMPARE(cell(0, TableModelDaftarPenjualan::Status), QString("Fully Paid"));
 }
 
 void TestSalesPage::aCounterSaleIsOpenedAgain()

@@ -16,6 +16,8 @@
 #include "sales/payment/DialogBayarMakanDitempat.h"
 #include "sales/payment/EntityInvoiceMakanDitempat.h"
 #include "sales/service/BusinessPenjualan.h"
+#include "sales/takeaway/DialogBayarBawaPulang.h"
+#include "sales/takeaway/EntityInvoiceBawaPulang.h"
 
 #include <QComboBox>
 #include <QDateEdit>
@@ -173,7 +175,11 @@ bool TabDaftarPenjualan::editEntity(KorEntity* sale)
     const Invoice& invoice = *static_cast<EntityPenjualanInfo*>(sale)->getInvoice();
     if (invoice.getInvoiceType() == Invoice::FastFood)
         return editFastFood(invoice.getId());
-    editDine(invoice.getId());
+    auto* sales = businessAs<BusinessPenjualan>();
+    if (invoice.getInvoiceType() == Invoice::TakeAway)
+        editOrder<DialogBayarBawaPulang>(sales->findBawaPulangByInvoiceId(invoice.getId()), invoice.getId());
+    else
+        editOrder<DialogBayarMakanDitempat>(sales->findMakanDitempatByInvoiceId(invoice.getId()), invoice.getId());
     return true;
 }
 
@@ -189,16 +195,16 @@ bool TabDaftarPenjualan::editFastFood(int invoiceId)
     return runDialog(dialog, false);
 }
 
-void TabDaftarPenjualan::editDine(int invoiceId)
+template <class Form>
+void TabDaftarPenjualan::editOrder(KorEntity* sale, int invoiceId)
 {
-    auto* found = businessAs<BusinessPenjualan>()->findMakanDitempatByInvoiceId(invoiceId);
-    if (!found) {
+    if (!sale) {
         tellNotFound(notFoundText(invoiceId));
         return;
     }
-    DialogBayarMakanDitempat dialog(this);
-    dialog.setEntity(found);
-    dialog.exec();
+    Form form(this);
+    form.setEntity(sale);
+    form.exec();
 }
 
 bool TabDaftarPenjualan::updateEntity(KorEntity* sale)

@@ -46,7 +46,9 @@ private:
     [[nodiscard]] SalesFilter chosen() const;
     /** False when the cashier gave the form up. */
     bool editFastFood(int invoiceId);
-    void editDine(int invoiceId);
+    /** Opens the payment form of an order on its invoice. */
+    template <class Form>
+    void editOrder(KorEntity* sale, int invoiceId);
 
     QLineEdit* m_no;
     QComboBox* m_status;
