@@ -109,7 +109,7 @@ void AppListTab::on_btnDelete_clicked()
         const EntityPoolScope scope(read);
         KorEntity* entity = readEntity(id);
         if (!entity) {
-            tellNotFound(tr("Can not find entity with id: %1").arg(id));
+            tellNotFound(deleteNotFoundText(id));
             continue;
         }
         if ((once || hasAccess(m_serviceName, deleteKey(), entity)) &&
@@ -174,6 +174,11 @@ void AppListTab::replaceTextFilter(QWidget* filters)
     setTabOrder(filters, m_ui->btnSearch);
 }
 
+void AppListTab::addFoot(QWidget* foot)
+{
+    m_ui->pageLayout->insertWidget(m_ui->pageLayout->indexOf(m_ui->buttonLayout), foot);
+}
+
 QPushButton* AppListTab::addButton(const QString& name, const QString& text, const QString& icon)
 {
     auto* extra = new QPushButton(QIcon(icon), text, this);
@@ -197,6 +202,8 @@ void AppListTab::on_btnClose_clicked() { close(); }
 void AppListTab::on_btnSearch_clicked() { refresh(); }
 
 QString AppListTab::notFoundText(int id) const { return tr("Can not find entity with id: %1").arg(id); }
+
+QString AppListTab::deleteNotFoundText(int id) const { return AppListTab::notFoundText(id); }
 
 KorEntity* AppListTab::readEntity(int id) { return m_business->find(id); }
 

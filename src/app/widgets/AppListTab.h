@@ -58,6 +58,8 @@ protected:
     [[nodiscard]] virtual int editKey() const { return 1; }
     [[nodiscard]] virtual int deleteKey() const { return 2; }
     [[nodiscard]] virtual QString notFoundText(int id) const;
+    /** The same where a record was to be deleted. */
+    [[nodiscard]] virtual QString deleteNotFoundText(int id) const;
     /** True where the right behind the key is asked once for the page, before any record is looked at. */
     [[nodiscard]] virtual bool asksOnce(int) const { return false; }
     virtual KorEntity* readEntity(int id);
@@ -84,6 +86,8 @@ protected:
     void tellNotFound(const QString& text);
     /** Puts a page's own filters where the text box and its label stand. */
     void replaceTextFilter(QWidget* filters);
+    /** Totals and the like, between the list and the buttons. */
+    void addFoot(QWidget* foot);
     /** A further button in the row below the list, after those that every list has; the caller connects it. */
     QPushButton* addButton(const QString& name, const QString& text, const QString& icon);
     /** For records that the program makes itself: the page edits them, and that is all. */
