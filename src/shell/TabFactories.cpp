@@ -4,6 +4,8 @@
 #include "app/access/TabUserAccess.h"
 #include "app/access/TabUserGroup.h"
 #include "app/numbers/TabKeyTable.h"
+#include "cash/accounting/TabTransfer.h"
+#include "cash/cashflow/TabCashFlow.h"
 #include "dashboard/TabDashboard.h"
 #include "masterdata/agent/TabAgent.h"
 #include "masterdata/bank/TabBank.h"
@@ -39,6 +41,7 @@ TabFactories allTabFactories()
         {"TabAgent", make<TabAgent>},
         {"TabBank", make<TabBank>},
         {"TabBawaPulang", make<TabBawaPulang>},
+        {"TabCashFlow", make<TabCashFlow>},
         {"TabDaftarPenjualan", make<TabDaftarPenjualan>},
         {"TabDashboard", make<TabDashboard>},
         {"TabEmployee", make<TabEmployee>},
@@ -54,6 +57,7 @@ TabFactories allTabFactories()
         {"TabPiutang", make<TabPiutang>},
         {"TabSatuan", make<TabSatuan>},
         {"TabSupplier", make<TabSupplier>},
+        {"TabTransfer", make<TabTransfer>},
         {"TabUser", make<TabUser>},
         {"TabUserAccess", make<TabUserAccess>},
         {"TabUserGroup", make<TabUserGroup>},

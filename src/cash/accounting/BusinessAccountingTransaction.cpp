@@ -4,7 +4,7 @@
 
 BusinessAccountingTransaction::BusinessAccountingTransaction(QObject* parent,
                                                              DataMapperAccountingTransaction* transfers)
-    : KorBusinessLogic("Accounting Transaction", transfers, parent)
+    : KorBusinessLogic("Accounting Transaction", transfers, parent), m_transfers(transfers)
 {}
 
 QList<KorPermission> BusinessAccountingTransaction::getPermissions() const
@@ -15,3 +15,8 @@ QList<KorPermission> BusinessAccountingTransaction::getPermissions() const
 }
 
 bool BusinessAccountingTransaction::clearTransactions() { return clearTables({mapper()}); }
+
+QList<EntityAccountingTransaction*> BusinessAccountingTransaction::search(const AccountingTransactionFilter& filter)
+{
+    return read(m_transfers->search(filter), m_transfers, "search");
+}

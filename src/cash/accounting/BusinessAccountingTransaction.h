@@ -3,6 +3,8 @@
 #include "kor/business/KorBusinessLogic.h"
 
 class DataMapperAccountingTransaction;
+class EntityAccountingTransaction;
+struct AccountingTransactionFilter;
 
 /** The service of transfers between accounts. */
 class BusinessAccountingTransaction final : public KorBusinessLogic
@@ -17,4 +19,9 @@ public:
 
     [[nodiscard]] QList<KorPermission> getPermissions() const override;
     bool clearTransactions() override;
+
+    [[nodiscard]] QList<EntityAccountingTransaction*> search(const AccountingTransactionFilter& filter);
+
+private:
+    DataMapperAccountingTransaction* m_transfers;
 };

@@ -2,7 +2,9 @@
 
 #include "app/access/DataMapperUser.h"
 #include "app/access/DataMapperUserGroup.h"
+#include "cash/accounting/AccountingTransactionFilter.h"
 #include "kor/entity/KorMetaDataMap.h"
+#include "kor/persistence/KorPaging.h"
 #include "masterdata/bank/DataMapperBank.h"
 
 DataMapperAccountingTransaction::DataMapperAccountingTransaction(QObject* parent, DataMapperKey* keys,
@@ -31,4 +33,14 @@ QStringList DataMapperAccountingTransaction::indexStatements() const
 {
     return {index("trans_date", "(trans_date)"), index("from_account_id", "(from_account_id)"),
             index("to_account_id", "(to_account_id)")};
+}
+
+QList<EntityAccountingTransaction*> DataMapperAccountingTransaction::search(const AccountingTransactionFilter& filter)
+{
+    KorPaging paging;
+    paging.addFilter("trans_date >= ", dateToSql(filter.fromDate));
+    paging.addFilter(" and trans_date <= ", dateToSql(filter.toDate));
+    paging.addSort("trans_date", "desc");
+    paging.addSort(", accounting_trans.id", "desc");
+    return castAll<EntityAccountingTransaction>(find(&paging));
 }

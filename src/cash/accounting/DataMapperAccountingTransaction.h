@@ -6,6 +6,7 @@
 class DataMapperBank;
 class DataMapperUser;
 class DataMapperUserGroup;
+struct AccountingTransactionFilter;
 
 /** Transfers between accounts, in the table "accounting_trans". */
 class DataMapperAccountingTransaction final : public NumberedEntryMapper<EntityAccountingTransaction>
@@ -19,4 +20,7 @@ public:
     [[nodiscard]] QString keyName() const override { return "TR"; }
     KorEntity* createEntity() override;
     [[nodiscard]] QStringList indexStatements() const override;
+
+    /** The transfers of a period, latest first. */
+    QList<EntityAccountingTransaction*> search(const AccountingTransactionFilter& filter);
 };

@@ -3,7 +3,7 @@
 #include "cash/cashflow/DataMapperCashFlow.h"
 
 BusinessCashFlow::BusinessCashFlow(QObject* parent, DataMapperCashFlow* entries)
-    : KorBusinessLogic("Journal Transaction", entries, parent)
+    : KorBusinessLogic("Journal Transaction", entries, parent), m_entries(entries)
 {}
 
 QList<KorPermission> BusinessCashFlow::getPermissions() const
@@ -14,3 +14,13 @@ QList<KorPermission> BusinessCashFlow::getPermissions() const
 }
 
 bool BusinessCashFlow::clearTransactions() { return clearTables({mapper()}); }
+
+QList<EntityCashFlow*> BusinessCashFlow::search(const CashFlowFilter& filter)
+{
+    return read(m_entries->search(filter), m_entries, "search");
+}
+
+EntityCashFlow* BusinessCashFlow::getByTransNo(const QString& no)
+{
+    return read(m_entries->getByTransNo(no), m_entries, "getByTransNo");
+}

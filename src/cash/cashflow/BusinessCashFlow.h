@@ -3,6 +3,8 @@
 #include "kor/business/KorBusinessLogic.h"
 
 class DataMapperCashFlow;
+class EntityCashFlow;
+struct CashFlowFilter;
 
 /** The service of the ledger and its manual entries. The screens count its rights from 1. */
 class BusinessCashFlow final : public KorBusinessLogic
@@ -17,4 +19,10 @@ public:
 
     [[nodiscard]] QList<KorPermission> getPermissions() const override;
     bool clearTransactions() override;
+
+    [[nodiscard]] QList<EntityCashFlow*> search(const CashFlowFilter& filter);
+    [[nodiscard]] EntityCashFlow* getByTransNo(const QString& no);
+
+private:
+    DataMapperCashFlow* m_entries;
 };

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "kor/widgets/KorDialog.h"
+
+#include <memory>
+
+class AccountField;
+class EntityBank;
+
+namespace Ui
+{
+class DialogTransaction;
+}
+
+/** The entry form of a transfer between accounts. */
+class DialogTransaction final : public KorDialog
+{
+    Q_OBJECT
+
+public:
+    explicit DialogTransaction(QWidget* parent = nullptr);
+    ~DialogTransaction() override;
+
+    bool validate() override;
+    KorEntity* getEntity() override;
+    void setEntity(KorEntity* entity) override;
+
+public slots:
+    void onFromAccountSelected();
+    void onToAccountSelected();
+
+private:
+    std::unique_ptr<Ui::DialogTransaction> m_ui;
+    AccountField* m_fromField;
+    AccountField* m_toField;
+    EntityBank* m_from = nullptr;
+    EntityBank* m_to = nullptr;
+};

@@ -1,0 +1,62 @@
+#include "cash/accounting/TabTransfer.h"
+
+#include "cash/accounting/AccountingTransactionFilter.h"
+#include "cash/accounting/BusinessAccountingTransaction.h"
+#include "cash/accounting/DialogTransaction.h"
+#include "cash/accounting/EntityAccountingTransaction.h"
+#include "cash/accounting/TableModelAccountingTransaction.h"
+
+#include <QDateEdit>
+#include <QTableView>
+
+namespace
+{
+constexpr int filtersPerRow = 2;
+}
+
+TabTransfer::TabTransfer(QWidget* parent)
+    : AppDocumentTab({tr("Transferring Funds"), "tblTransfer", "Accounting Transaction"}, filtersPerRow, parent)
+{
+    const QDate today = QDate::currentDate();
+    m_from = filters()->addDate("dateFrom", tr("From Date :"), today.addDays(1 - today.day()));
+    m_to = filters()->addDate("dateTo", tr("To Date :"), today);
+    refresh();
+}
+
+QList<KorEntity*> TabTransfer::readRows(const QString&)
+{
+    QList<KorEntity*> rows;
+    for (EntityAccountingTransaction* transfer :
+         businessAs<BusinessAccountingTransaction>()->search({m_from->date(), m_to->date()}))
+        rows.append(transfer);
+    return rows;
+}
+
+KorEntityModel* TabTransfer::createModel(const QList<KorEntity*>& rows)
+{
+    return new TableModelAccountingTransaction(rows, this);
+}
+
+void TabTransfer::modelApplied()
+{
+    using Model = TableModelAccountingTransaction;
+    for (const auto& width :
+         {std::pair(Model::FromName, 150), std::pair(Model::ToName, 150), std::pair(Model::Description, 150)})
+        grid()->setColumnWidth(width.first, width.second);
+}
+
+std::unique_ptr<KorDialog> TabTransfer::createDialog() { return std::make_unique<DialogTransaction>(this); }
+
+QString TabTransfer::notFoundText(int id) const { return tr("Can not find transaction with id: %1").arg(id); }
+
+QString TabTransfer::deleteNotFoundText(int id) const
+{
+    const auto* row = static_cast<const EntityAccountingTransaction*>(model()->find(id));
+    return row ? tr("Can not find transaction with no: %1").arg(row->getTransNo()) : notFoundText(id);
+}
+
+QString TabTransfer::deleteQuestion(const KorEntity* entity) const
+{
+    return tr("Are you sure, you want to delete transaction with no: %1 ?")
+        .arg(static_cast<const EntityAccountingTransaction*>(entity)->getTransNo());
+}

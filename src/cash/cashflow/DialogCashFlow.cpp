@@ -1,0 +1,69 @@
+#include "cash/cashflow/DialogCashFlow.h"
+
+#include "app/access/EntityUser.h"
+#include "app/context/AppContext.h"
+#include "cash/cashflow/CashFlowFilter.h"
+#include "cash/cashflow/EntityCashFlow.h"
+#include "cash/entry/AccountField.h"
+#include "cash/entry/AmountRule.h"
+#include "masterdata/bank/BankTextBox.h"
+
+#include "ui_DialogCashFlow.h"
+
+DialogCashFlow::DialogCashFlow(QWidget* parent) : KorDialog(parent), m_ui(std::make_unique<Ui::DialogCashFlow>())
+{
+    m_ui->setupUi(this);
+    const AppContext* context = AppContext::instance();
+    m_ui->txtOperator->setText(context->currentUser() ? context->currentUser()->getUserName() : QString());
+    m_ui->datePayment->setDisplayFormat(context->dateFormat());
+    m_ui->datePayment->setDate(QDate::currentDate());
+    m_ui->ddlType->addItem(tr("DEBET"), CashFlowFilter::DebitRows);
+    m_ui->ddlType->addItem(tr("CREDIT"), CashFlowFilter::CreditRows);
+    m_accountField = new AccountField(m_ui->txtAccount, m_ui->lblAccountName, this);
+    m_accountField->box()->setNextWidget(m_ui->txtPaid);
+    connect(m_accountField->box(), &BankTextBox::onItemSelected, this, &DialogCashFlow::onBankSelected);
+    focusLater(m_ui->txtAccount);
+}
+
+DialogCashFlow::~DialogCashFlow() = default;
+
+void DialogCashFlow::onBankSelected() { m_accountField->showPicked(); }
+
+bool DialogCashFlow::validate()
+{
+    m_account = m_accountField->require(*this, tr("Select account code"));
+    requireAmount(*this, m_ui->txtPaid, tr("Enter the amount paid"));
+    if (!m_ui->datePayment->date().isValid())
+        addError(m_ui->datePayment, tr("Enter valid date"));
+    return !hasError();
+}
+
+KorEntity* DialogCashFlow::getEntity()
+{
+    auto* entry = heldOrNew<EntityCashFlow>();
+    if (m_account)
+        entry->setAccountCode(m_account->getKode());
+    entry->setDate(m_ui->datePayment->date());
+    entry->setNotes(m_ui->txtNotes->toPlainText());
+    const bool isDebit = m_ui->ddlType->currentData().toInt() == CashFlowFilter::DebitRows;
+    entry->setTransType(isDebit ? tr("DEBET") : tr("CREDIT"));
+    Money* amount = m_ui->txtPaid->money();
+    const Money nothing(nullptr, 0, amount->getCurrency());
+    entry->setDebet(isDebit ? amount->copy(entry) : nothing.copy(entry));
+    entry->setCredit(isDebit ? nothing.copy(entry) : amount->copy(entry));
+    return entry;
+}
+
+void DialogCashFlow::setEntity(KorEntity* entity)
+{
+    hold(entity);
+    const auto* entry = held<EntityCashFlow>();
+    const bool isDebit = entry->getDebet() && entry->getDebet()->rawAmount() != 0;
+    m_ui->txtNoTrans->setText(entry->getTransNo());
+    m_ui->datePayment->setDate(entry->getDate());
+    m_ui->ddlType->setCurrentIndex(
+        m_ui->ddlType->findData(isDebit ? CashFlowFilter::DebitRows : CashFlowFilter::CreditRows));
+    m_ui->txtPaid->setMoney(isDebit ? entry->getDebet() : entry->getCredit());
+    m_ui->txtNotes->setPlainText(entry->getNotes());
+    m_accountField->show(entry->getAccountCode());
+}

@@ -1,0 +1,106 @@
+#include "cash/cashflow/TabCashFlow.h"
+
+#include "cash/cashflow/BusinessCashFlow.h"
+#include "cash/cashflow/CashFlowFilter.h"
+#include "cash/cashflow/DialogCashFlow.h"
+#include "cash/cashflow/EntityCashFlow.h"
+#include "cash/cashflow/LedgerTotals.h"
+#include "cash/cashflow/TableModelCashFlow.h"
+#include "cash/entry/AccountField.h"
+#include "masterdata/bank/BankTextBox.h"
+
+#include <QComboBox>
+#include <QDateEdit>
+#include <QLabel>
+#include <QTableView>
+
+namespace
+{
+constexpr int filtersPerRow = 3;
+}
+
+TabCashFlow::TabCashFlow(QWidget* parent)
+    : AppDocumentTab({tr("General Journal Entries"), "tblCashFlow", "Journal Transaction"}, filtersPerRow, parent),
+      m_totals(new LedgerTotals(this))
+{
+    makeFilters();
+    addFoot(m_totals);
+    refresh();
+}
+
+void TabCashFlow::makeFilters()
+{
+    const QDate today = QDate::currentDate();
+    m_from = filters()->addDate("dateFrom", tr("From Date :"), today.addDays(1 - today.day()));
+    m_code = filters()->addText("txtAccount", tr("Account :"));
+    m_type = filters()->addChoice("ddlType", tr("Type :"),
+                                  {{tr("All"), CashFlowFilter::AllRows},
+                                   {tr("DEBET"), CashFlowFilter::DebitRows},
+                                   {tr("CREDIT"), CashFlowFilter::CreditRows}});
+    m_to = filters()->addDate("dateTo", tr("To Date :"), today);
+    auto* name = new QLabel(this);
+    name->setObjectName("lblAccountName");
+    filters()->add(tr("Account Name :"), name);
+    m_account = new AccountField(m_code, name, this);
+    connect(m_account->box(), &BankTextBox::onItemSelected, this, &TabCashFlow::onBankSelected);
+}
+
+void TabCashFlow::onBankSelected() { m_account->showPicked(); }
+
+// --- the list ------------------------------------------------------------------------------------------------------
+
+QList<KorEntity*> TabCashFlow::readRows(const QString&)
+{
+    // Whoever searches has typed to the end: no list of suggestions follows.
+    m_account->box()->preventSuggest();
+    CashFlowFilter filter;
+    filter.fromDate = m_from->date();
+    filter.toDate = m_to->date();
+    filter.type = m_type->currentData().toInt();
+    filter.code = m_code->text();
+    QList<KorEntity*> rows;
+    for (EntityCashFlow* row : businessAs<BusinessCashFlow>()->search(filter)) {
+        auto id = m_ids.find(row->getTransNo());
+        if (id == m_ids.end())
+            id = m_ids.insert(row->getTransNo(), m_ids.size() + 1);
+        row->setId(*id);
+        rows.append(row);
+    }
+    return rows;
+}
+
+KorEntityModel* TabCashFlow::createModel(const QList<KorEntity*>& rows) { return new TableModelCashFlow(rows, this); }
+
+void TabCashFlow::modelApplied()
+{
+    using Model = TableModelCashFlow;
+    for (const auto& width :
+         {std::pair(Model::AccountName, 200), std::pair(Model::Type, 150), std::pair(Model::Description, 150)})
+        grid()->setColumnWidth(width.first, width.second);
+    m_totals->show(model()->entities());
+}
+
+// --- the entries made by hand --------------------------------------------------------------------------------------
+
+std::unique_ptr<KorDialog> TabCashFlow::createDialog() { return std::make_unique<DialogCashFlow>(this); }
+
+int TabCashFlow::addKey() const { return BusinessCashFlow::INSERT_CASH_FLOW; }
+
+int TabCashFlow::editKey() const { return BusinessCashFlow::UPDATE_CASH_FLOW; }
+
+int TabCashFlow::deleteKey() const { return BusinessCashFlow::DELETE_CASH_FLOW; }
+
+KorEntity* TabCashFlow::readEntity(int id) { return businessAs<BusinessCashFlow>()->getByTransNo(m_ids.key(id)); }
+
+QString TabCashFlow::notFoundText(int) const { return tr("Please open it from Purchases menu or Sales menu"); }
+
+QString TabCashFlow::deleteNotFoundText(int id) const
+{
+    return tr("Can not find entity with no: %1").arg(m_ids.key(id));
+}
+
+QString TabCashFlow::deleteQuestion(const KorEntity* entity) const
+{
+    return tr("Are you sure, you want to delete this entity with no: %1")
+        .arg(static_cast<const EntityCashFlow*>(entity)->getTransNo());
+}
