@@ -1,5 +1,6 @@
 #include "cash/accounting/TabTransfer.h"
 
+#include "app/persistence/AppDocumentLines.h"
 #include "cash/accounting/AccountingTransactionFilter.h"
 #include "cash/accounting/BusinessAccountingTransaction.h"
 #include "cash/accounting/DialogTransaction.h"
@@ -25,11 +26,7 @@ TabTransfer::TabTransfer(QWidget* parent)
 
 QList<KorEntity*> TabTransfer::readRows(const QString&)
 {
-    QList<KorEntity*> rows;
-    for (EntityAccountingTransaction* transfer :
-         businessAs<BusinessAccountingTransaction>()->search({m_from->date(), m_to->date()}))
-        rows.append(transfer);
-    return rows;
+    return asEntities(businessAs<BusinessAccountingTransaction>()->search({m_from->date(), m_to->date()}));
 }
 
 KorEntityModel* TabTransfer::createModel(const QList<KorEntity*>& rows)

@@ -1,5 +1,6 @@
 #include "cash/cashflow/TabCashFlow.h"
 
+#include "app/persistence/AppDocumentLines.h"
 #include "cash/cashflow/BusinessCashFlow.h"
 #include "cash/cashflow/CashFlowFilter.h"
 #include "cash/cashflow/DialogCashFlow.h"
@@ -58,15 +59,14 @@ QList<KorEntity*> TabCashFlow::readRows(const QString&)
     filter.toDate = m_to->date();
     filter.type = m_type->currentData().toInt();
     filter.code = m_code->text();
-    QList<KorEntity*> rows;
-    for (EntityCashFlow* row : businessAs<BusinessCashFlow>()->search(filter)) {
+    const QList<EntityCashFlow*> rows = businessAs<BusinessCashFlow>()->search(filter);
+    for (EntityCashFlow* row : rows) {
         auto id = m_ids.find(row->getTransNo());
         if (id == m_ids.end())
             id = m_ids.insert(row->getTransNo(), m_ids.size() + 1);
         row->setId(*id);
-        rows.append(row);
     }
-    return rows;
+    return asEntities(rows);
 }
 
 KorEntityModel* TabCashFlow::createModel(const QList<KorEntity*>& rows) { return new TableModelCashFlow(rows, this); }

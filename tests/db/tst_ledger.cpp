@@ -1,0 +1,342 @@
+#include "app/context/AppContext.h"
+#include "cash/accounting/AccountingTransactionFilter.h"
+#include "cash/accounting/BusinessAccountingTransaction.h"
+#include "cash/accounting/EntityAccountingTransaction.h"
+#include "cash/cashflow/BusinessCashFlow.h"
+#include "cash/cashflow/CashFlowFilter.h"
+#include "cash/cashflow/DataMapperCashFlow.h"
+#include "kor/business/KorServiceDirectory.h"
+#include "kor/persistence/KorQuery.h"
+#include "support/LedgerRows.h"
+#include "support/SalesRows.h"
+#include "support/ShopRows.h"
+#include "support/TestDatabase.h"
+
+#include <QRandomGenerator>
+#include <QTest>
+#include <QTranslator>
+
+namespace
+{
+const QDate march(2026, 3, 1);
+const CashFlowFilter inMarch{march, QDate(2026, 3, 31), CashFlowFilter::AllRows, {}};
+const QMap<QString, QString> accounts{{"1-100", "Cash"}, {"2-AB", "Safe"}, {"3-cd", "Bank O'Neil"}};
+const QStringList codes = accounts.keys();
+const QStringList users{"", "ann", "ben"};
+const QStringList labels{"Deposit Purchase Order",
+                         "Purchases",
+                         "Credit Note",
+                         "Payment / Pay Bill",
+                         "Member Payment",
+                         "Agent Commission",
+                         "Sales",
+                         "DEBET",
+                         "CREDIT",
+                         "Transferring Funds"};
+
+/** One line of the ledger, reckoned by hand. */
+struct Movement
+{
+    QDate date;
+    QString code;
+    int debit;
+    int credit;
+    QString no;
+    QString label;
+    QString note;
+    QString user;
+
+    [[nodiscard]] QString text() const
+    {
+        return QStringList{date.toString(Qt::ISODate),
+                           code,
+                           accounts.value(code),
+                           QString::number(debit),
+                           QString::number(credit),
+                           no,
+                           label,
+                           note,
+                           user}
+            .join('|');
+    }
+};
+
+QList<Movement> movementsOf(const LedgerRow& row)
+{
+    const bool byCode = row.kind >= LedgerRow::Sale && row.kind <= LedgerRow::CreditEntry;
+    const QString account = byCode ? row.code : codes.value(row.account - 1);
+    const bool isDebit = row.kind == LedgerRow::CreditNote || row.kind == LedgerRow::MemberPayment ||
+                         row.kind == LedgerRow::Sale || row.kind == LedgerRow::DebitEntry;
+    const auto on = [&row](const QString& code, bool debit) {
+        return Movement{row.date,         code,     debit ? row.amount : 0, debit ? 0 : row.amount, row.no,
+                        labels[row.kind], row.note, users[row.user]};
+    };
+    QList<Movement> movements{on(account, isDebit)};
+    if (row.kind == LedgerRow::Transfer)
+        movements.append(on(codes.value(row.toAccount - 1), true));
+    return movements;
+}
+
+bool belongs(const Movement& movement, const CashFlowFilter& filter)
+{
+    return !movement.user.isEmpty() && accounts.contains(movement.code) && movement.date >= filter.fromDate &&
+           movement.date <= filter.toDate && (filter.type != CashFlowFilter::DebitRows || movement.debit > 0) &&
+           (filter.type != CashFlowFilter::CreditRows || movement.credit > 0) &&
+           (filter.code.trimmed().isEmpty() || movement.code.toLower() == filter.code.trimmed().toLower());
+}
+
+/** A language of another workstation, in which every label of the ledger looks like this. */
+class Foreign final : public QTranslator
+{
+public:
+    explicit Foreign(const QString& label) : m_label(label) { QCoreApplication::installTranslator(this); }
+    [[nodiscard]] QString translate(const char* context, const char*, const char*, int) const override
+    {
+        return qstrcmp(context, "DataMapperCashFlow") == 0 ? m_label : QString();
+    }
+    [[nodiscard]] bool isEmpty() const override { return false; }
+
+private:
+    QString m_label;
+};
+} // namespace
+
+/** Every movement of money in one list, made of the documents as they are. */
+class TestLedger : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup() { m_database.reset(); }
+    void theLedgerIsWhatTheDocumentsComeTo_data();
+    void theLedgerIsWhatTheDocumentsComeTo();
+    void aPartlyPaidDocumentStandsWithItsWholeTotal();
+    void everyWorkstationReadsTheTypesInItsLanguage_data();
+    void everyWorkstationReadsTheTypesInItsLanguage();
+    void anEntryOutlivesItsAccountButLeavesTheLedger();
+    void anEntryIsFoundByItsNumberAndADocumentIsNot();
+    void aLedgerThatCannotBeReadSaysSo();
+    void aMonthIsReadByTheDatesOfTheDocuments();
+    void transfersAreListedByTheirDate();
+
+private:
+    QStringList ledger(const CashFlowFilter& filter);
+
+    std::unique_ptr<TestDatabase> m_database;
+    BusinessCashFlow* m_service = nullptr;
+};
+
+void TestLedger::init()
+{
+    m_database = std::make_unique<TestDatabase>();
+    insertShop(*m_database);
+    m_database->run("INSERT INTO bank (id, kode, nama, account_type, active, version) VALUES "
+                    "(2, '2-AB', 'Safe', 1, true, 1), (3, '3-cd', 'Bank O''Neil', 1, true, 1)");
+    loginAsAdmin();
+    m_database->run("TRUNCATE users CASCADE");
+    insertSeller(*m_database, 1, "ann");
+    insertSeller(*m_database, 2, "ben");
+    AppContext::instance()->setLocale("id_ID");
+    m_service = service<BusinessCashFlow>("Journal Transaction");
+}
+
+QStringList TestLedger::ledger(const CashFlowFilter& filter)
+{
+    QStringList lines;
+    for (const EntityCashFlow* row : m_service->search(filter))
+        lines.append(Movement{row->getDate(), row->getAccountCode(), int(row->getDebet()->getAmount()),
+                              int(row->getCredit()->getAmount()), row->getTransNo(), row->getTransType(),
+                              row->getNotes(), row->getOperator()}
+                         .text()
+                         .replace(accounts.value(row->getAccountCode()), row->getAccountName()));
+    if (m_service->hasError())
+        lines.append(m_service->takeErrors());
+    return lines;
+}
+
+void TestLedger::theLedgerIsWhatTheDocumentsComeTo_data()
+{
+    QTest::addColumn<quint32>("seed");
+    for (quint32 seed : {1U, 2U, 3U})
+        QTest::addRow("seed %u", seed) << seed;
+}
+
+void TestLedger::theLedgerIsWhatTheDocumentsComeTo()
+{
+    QFETCH(quint32, seed);
+    QRandomGenerator chance(seed);
+    QList<Movement> all;
+    for (int i = 0; i < 200; ++i) {
+        LedgerRow row;
+        row.kind = static_cast<LedgerRow::Kind>(i % LedgerRow::KindCount);
+        row.no = QString("No-%1").arg(chance.bounded(150));
+        row.date = march.addDays(chance.bounded(-20, 50));
+        row.amount = chance.bounded(8) == 0 ? 0 : chance.bounded(2000000000);
+        const bool needsAccount = row.kind == LedgerRow::Transfer;
+        row.account = chance.bounded(needsAccount ? 1 : 0, 4);
+        row.toAccount = 1 + row.account % 3;
+        row.code = codes[chance.bounded(3)];
+        const bool byHand = row.kind == LedgerRow::DebitEntry || row.kind == LedgerRow::CreditEntry;
+        if (byHand && chance.bounded(4) == 0)
+            row.code = "gone";
+        row.note = chance.bounded(2) == 0 ? QString() : "Note " + QString::number(i);
+        row.user = chance.bounded(3);
+        row.paid = chance.bounded(row.amount + 1);
+        insertLedgerRow(*m_database, row);
+        all.append(movementsOf(row));
+    }
+    for (int type : {CashFlowFilter::AllRows, CashFlowFilter::DebitRows, CashFlowFilter::CreditRows}) {
+        for (const char* code : {"", "1-100", " 2-ab ", "3-CD", "gone", "it's"}) {
+            const CashFlowFilter filter{march, march.addDays(chance.bounded(31)), type, code};
+            QStringList expected;
+            for (const Movement& movement : all) {
+                if (belongs(movement, filter))
+                    expected.append(movement.text());
+            }
+            const StatementCount statements;
+            QStringList rows = ledger(filter);
+            QCOMPARE(statements.count(), 1);
+            for (int i = 1; i < rows.size(); ++i)
+                QVERIFY(rows[i].section('|', 0, 0) <= rows[i - 1].section('|', 0, 0));
+            rows.sort();
+            expected.sort();
+            QCOMPARE(rows, expected);
+        }
+    }
+}
+
+void TestLedger::aPartlyPaidDocumentStandsWithItsWholeTotal()
+{
+    for (LedgerRow::Kind kind : {LedgerRow::Purchase, LedgerRow::Sale}) {
+        LedgerRow row;
+        row.kind = kind;
+        row.no = labels[kind];
+        row.date = march;
+        row.amount = 900;
+        row.paid = 50;
+        insertLedgerRow(*m_database, row);
+    }
+    QCOMPARE(ledger(inMarch), (QStringList{"2026-03-01|1-100|Cash|900|0|Sales|Sales||ann",
+                                           "2026-03-01|1-100|Cash|0|900|Purchases|Purchases||ann"}));
+}
+
+void TestLedger::everyWorkstationReadsTheTypesInItsLanguage_data()
+{
+    QTest::addColumn<QString>("label");
+    for (const char* label : {"Vente de l'après-midi", "'; drop table users; --", "Was? :code :fromDate", "a\\'b\\"})
+        QTest::newRow(label) << QString(label);
+}
+
+void TestLedger::everyWorkstationReadsTheTypesInItsLanguage()
+{
+    QFETCH(QString, label);
+    LedgerRow row;
+    row.no = "TRD-1";
+    row.date = march;
+    insertLedgerRow(*m_database, row);
+    CashFlowFilter filter = inMarch;
+    filter.code = "1-100";
+    for (int round = 0; round < 2; ++round) {
+        QCOMPARE(ledger(filter).join('\n'), QString("2026-03-01|1-100|Cash|100|0|TRD-1|Sales||ann"));
+        const Foreign language(label);
+        QCOMPARE(ledger(filter).join('\n'), QString("2026-03-01|1-100|Cash|100|0|TRD-1|%1||ann").arg(label));
+    }
+}
+
+void TestLedger::anEntryOutlivesItsAccountButLeavesTheLedger()
+{
+    LedgerRow row;
+    row.kind = LedgerRow::DebitEntry;
+    row.no = "KK-1";
+    row.date = march;
+    row.code = "2-AB";
+    insertLedgerRow(*m_database, row);
+    QCOMPARE(ledger(inMarch).size(), 1);
+    m_database->run("DELETE FROM bank WHERE kode = '2-AB'");
+    QCOMPARE(ledger(inMarch), QStringList());
+    QVERIFY(m_service->getByTransNo("KK-1"));
+}
+
+void TestLedger::anEntryIsFoundByItsNumberAndADocumentIsNot()
+{
+    LedgerRow row;
+    row.kind = LedgerRow::CreditEntry;
+    row.no = "KK-0001";
+    row.date = march;
+    row.amount = 70;
+    insertLedgerRow(*m_database, row);
+    row.kind = LedgerRow::Purchase;
+    row.no = "NB-0001";
+    insertLedgerRow(*m_database, row);
+    const EntityCashFlow* entry = m_service->getByTransNo("  kk-0001 ");
+    QVERIFY(entry);
+    QCOMPARE(entry->getCredit()->getAmount(), 70.0);
+    QVERIFY(!m_service->getByTransNo("NB-0001"));
+    QVERIFY(!m_service->hasError());
+}
+
+void TestLedger::aLedgerThatCannotBeReadSaysSo()
+{
+    m_database->run("ALTER TABLE komisi_agen RENAME TO elsewhere");
+    QCOMPARE(m_service->search(inMarch).size(), 0);
+    QCOMPARE(m_service->errors().keys(), QStringList{"search"});
+    QVERIFY(m_service->takeErrors().contains("komisi_agen"));
+    m_database->run("ALTER TABLE cash_flow RENAME TO elsewhere_too");
+    QVERIFY(!m_service->getByTransNo("KK-1"));
+    QCOMPARE(m_service->errors().keys(), QStringList{"getByTransNo"});
+    m_service->clearErrors();
+}
+
+void TestLedger::aMonthIsReadByTheDatesOfTheDocuments()
+{
+    const QMap<QString, QString> dates{
+        {"purchase_order", "purchase_date"}, {"acquisition", "purchase_date"}, {"credit_note", "credit_note_date"},
+        {"payment", "payment_date"},         {"piutang", "payment_date"},      {"komisi_agen", "payment_date"},
+        {"invoice", "invoice_date"},         {"cash_flow", "trans_date"},      {"accounting_trans", "trans_date"}};
+    for (auto date = dates.cbegin(); date != dates.cend(); ++date) {
+        RowValues values{{date.value(), "DATE '2026-03-31' - i % 1826"}, {"createdby", "1"}};
+        if (date.key() == "invoice")
+            values["acct_code"] = "'1-100'";
+        else if (date.key() == "cash_flow")
+            values["account_code"] = "'1-100'";
+        else if (date.key() == "accounting_trans")
+            values["from_account_id"] = "1", values["to_account_id"] = "2";
+        else
+            values["bank_id"] = "1";
+        insertRows(*m_database, date.key(), values, 10000);
+    }
+    m_database->run("ANALYZE");
+    const auto* mapper = static_cast<DataMapperCashFlow*>(m_service->mapper());
+    QString statement = mapper->getCashFlowQuery();
+    statement.replace(":fromDate", "'2026-03-01'").replace(":toDate", "'2026-03-31'");
+    KorQuery query;
+    QVERIFY2(query.exec("EXPLAIN" + statement), qPrintable(query.failure()));
+    QString plan;
+    while (query.next())
+        plan += query.value(0).toString() + '\n';
+    for (auto date = dates.cbegin(); date != dates.cend(); ++date)
+        QVERIFY2(plan.contains(date.key() + '_' + date.value() + "_idx") && !plan.contains("Seq Scan on " + date.key()),
+                 qPrintable(date.key() + ":\n" + plan));
+}
+
+void TestLedger::transfersAreListedByTheirDate()
+{
+    LedgerRow row;
+    row.kind = LedgerRow::Transfer;
+    for (int day : {-1, 0, 30, 31}) {
+        row.date = march.addDays(day);
+        row.no = "TR" + QString::number(day);
+        insertLedgerRow(*m_database, row);
+    }
+    QStringList numbers;
+    auto* transfers = service<BusinessAccountingTransaction>("Accounting Transaction");
+    for (const EntityAccountingTransaction* transfer : transfers->search({march, march.addDays(30)}))
+        numbers.append(transfer->getTransNo() + ' ' + transfer->getFromAccount()->getKode() + ' ' +
+                       transfer->getToAccount()->getKode());
+    QCOMPARE(numbers, (QStringList{"TR30 1-100 2-AB", "TR0 1-100 2-AB"}));
+    QVERIFY(!transfers->hasError());
+}
+
+QTEST_MAIN(TestLedger)
+#include "tst_ledger.moc"
