@@ -2,21 +2,28 @@
 
 #include "support/TestDatabase.h"
 
+#include <QHash>
+
 namespace
 {
 /** "column=value" for every column that must be given one. */
-QStringList requiredColumns(TestDatabase& database, const QString& table)
+const QStringList& requiredColumns(TestDatabase& database, const QString& table)
 {
-    return database
-        .value(QString("SELECT string_agg(column_name || '=' || CASE WHEN data_type = 'boolean' THEN 'false' "
-                       "WHEN data_type = 'integer' THEN '1' WHEN data_type = 'numeric' THEN '0' "
-                       "WHEN data_type LIKE 'character%' AND column_name LIKE '%currency' THEN '''Rp''' "
-                       "WHEN data_type LIKE 'character%' THEN '''''' ELSE 'current_date' END, '|') "
-                       "FROM information_schema.columns WHERE table_name = '%1' AND is_nullable = 'NO' "
-                       "AND column_default IS NULL")
-                   .arg(table))
-        .toString()
-        .split('|');
+    // Every test database has the same tables.
+    static QHash<QString, QStringList> known;
+    if (!known.contains(table))
+        known[table] =
+            database
+                .value(QString("SELECT string_agg(column_name || '=' || CASE WHEN data_type = 'boolean' THEN 'false' "
+                               "WHEN data_type = 'integer' THEN '1' WHEN data_type = 'numeric' THEN '0' "
+                               "WHEN column_name LIKE '%currency' THEN '''Rp''' "
+                               "WHEN data_type LIKE 'character%' THEN '''''' ELSE 'current_date' END, '|') "
+                               "FROM information_schema.columns WHERE table_name = '%1' AND is_nullable = 'NO' "
+                               "AND column_default IS NULL")
+                           .arg(table))
+                .toString()
+                .split('|');
+    return known[table];
 }
 
 QString quoted(QString text) { return '\'' + text.replace('\'', "''") + '\''; }

@@ -2,9 +2,8 @@
 
 #include "app/context/AppContext.h"
 #include "cash/accounting/EntityAccountingTransaction.h"
-#include "cash/entry/AccountField.h"
 #include "cash/entry/AmountRule.h"
-#include "masterdata/bank/BankTextBox.h"
+#include "masterdata/bank/AccountField.h"
 
 #include "ui_DialogTransaction.h"
 
@@ -16,26 +15,27 @@ DialogTransaction::DialogTransaction(QWidget* parent)
     m_ui->txtOperator->setText(context->currentUser() ? context->currentUser()->getUserName() : QString());
     m_ui->dateTrans->setDisplayFormat(context->dateFormat());
     m_ui->dateTrans->setDate(QDate::currentDate());
-    m_fromField = new AccountField(m_ui->txtFromAccount, m_ui->lblFromAccountName, this);
-    m_toField = new AccountField(m_ui->txtToAccount, m_ui->lblToAccountName, this);
-    m_fromField->box()->setNextWidget(m_ui->txtToAccount);
-    m_toField->box()->setNextWidget(m_ui->txtAmount);
-    connect(m_fromField->box(), &BankTextBox::onItemSelected, this, &DialogTransaction::onFromAccountSelected);
-    connect(m_toField->box(), &BankTextBox::onItemSelected, this, &DialogTransaction::onToAccountSelected);
+    m_from = new AccountField(m_ui->txtFromAccount, m_ui->lblFromAccountName, this);
+    m_to = new AccountField(m_ui->txtToAccount, m_ui->lblToAccountName, this);
+    connect(m_from->box(), &BankTextBox::onItemSelected, this, &DialogTransaction::onFromAccountSelected);
+    connect(m_to->box(), &BankTextBox::onItemSelected, this, &DialogTransaction::onToAccountSelected);
     focusLater(m_ui->txtFromAccount);
 }
 
 DialogTransaction::~DialogTransaction() = default;
 
-void DialogTransaction::onFromAccountSelected() { m_fromField->showPicked(); }
+void DialogTransaction::onFromAccountSelected() { m_ui->txtToAccount->setFocus(); }
 
-void DialogTransaction::onToAccountSelected() { m_toField->showPicked(); }
+void DialogTransaction::onToAccountSelected() { m_ui->txtAmount->setFocus(); }
 
 bool DialogTransaction::validate()
 {
-    m_from = m_fromField->require(*this, tr("Enter the source account code"));
-    m_to = m_toField->require(*this, tr("Enter the destination account code"));
-    if (m_from && m_to && m_from->getId() == m_to->getId())
+    const QString unknown = tr("There is no account with the code: %1");
+    const bool fromStands =
+        m_from->check(tr("Enter the source account code"), unknown.arg(m_ui->txtFromAccount->text()));
+    const bool toStands =
+        m_to->check(tr("Enter the destination account code"), unknown.arg(m_ui->txtToAccount->text()));
+    if (fromStands && toStands && m_from->account()->getId() == m_to->account()->getId())
         addError(m_ui->txtToAccount,
                  tr("The source account code should not be the same as the destination account code"));
     requireAmount(*this, m_ui->txtAmount, tr("Enter amount paid"));
@@ -47,8 +47,8 @@ bool DialogTransaction::validate()
 KorEntity* DialogTransaction::getEntity()
 {
     auto* transfer = heldOrNew<EntityAccountingTransaction>();
-    transfer->setFromAccount(m_from);
-    transfer->setToAccount(m_to);
+    transfer->setFromAccount(m_from->account());
+    transfer->setToAccount(m_to->account());
     transfer->setAmount(m_ui->txtAmount->money());
     transfer->setDate(m_ui->dateTrans->date());
     transfer->setNotes(m_ui->txtNotes->toPlainText());
@@ -63,6 +63,6 @@ void DialogTransaction::setEntity(KorEntity* entity)
     m_ui->dateTrans->setDate(transfer->getDate());
     m_ui->txtAmount->setMoney(transfer->getAmount());
     m_ui->txtNotes->setPlainText(transfer->getNotes());
-    m_fromField->show(transfer->getFromAccount());
-    m_toField->show(transfer->getToAccount());
+    m_from->show(transfer->getFromAccount());
+    m_to->show(transfer->getToAccount());
 }

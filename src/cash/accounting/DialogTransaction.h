@@ -5,7 +5,6 @@
 #include <memory>
 
 class AccountField;
-class EntityBank;
 
 namespace Ui
 {
@@ -31,8 +30,6 @@ public slots:
 
 private:
     std::unique_ptr<Ui::DialogTransaction> m_ui;
-    AccountField* m_fromField;
-    AccountField* m_toField;
-    EntityBank* m_from = nullptr;
-    EntityBank* m_to = nullptr;
+    AccountField* m_from;
+    AccountField* m_to;
 };

@@ -4,9 +4,8 @@
 #include "app/context/AppContext.h"
 #include "cash/cashflow/CashFlowFilter.h"
 #include "cash/cashflow/EntityCashFlow.h"
-#include "cash/entry/AccountField.h"
 #include "cash/entry/AmountRule.h"
-#include "masterdata/bank/BankTextBox.h"
+#include "masterdata/bank/AccountField.h"
 
 #include "ui_DialogCashFlow.h"
 
@@ -19,19 +18,19 @@ DialogCashFlow::DialogCashFlow(QWidget* parent) : KorDialog(parent), m_ui(std::m
     m_ui->datePayment->setDate(QDate::currentDate());
     m_ui->ddlType->addItem(tr("DEBET"), CashFlowFilter::DebitRows);
     m_ui->ddlType->addItem(tr("CREDIT"), CashFlowFilter::CreditRows);
-    m_accountField = new AccountField(m_ui->txtAccount, m_ui->lblAccountName, this);
-    m_accountField->box()->setNextWidget(m_ui->txtPaid);
-    connect(m_accountField->box(), &BankTextBox::onItemSelected, this, &DialogCashFlow::onBankSelected);
+    m_account = new AccountField(m_ui->txtAccount, m_ui->lblAccountName, this);
+    connect(m_account->box(), &BankTextBox::onItemSelected, this, &DialogCashFlow::onBankSelected);
     focusLater(m_ui->txtAccount);
 }
 
 DialogCashFlow::~DialogCashFlow() = default;
 
-void DialogCashFlow::onBankSelected() { m_accountField->showPicked(); }
+void DialogCashFlow::onBankSelected() { m_ui->txtPaid->setFocus(); }
 
 bool DialogCashFlow::validate()
 {
-    m_account = m_accountField->require(*this, tr("Select account code"));
+    const QString unknown = tr("There is no account with the code: %1").arg(m_ui->txtAccount->text());
+    m_account->check(tr("Select account code"), unknown);
     requireAmount(*this, m_ui->txtPaid, tr("Enter the amount paid"));
     if (!m_ui->datePayment->date().isValid())
         addError(m_ui->datePayment, tr("Enter valid date"));
@@ -41,8 +40,8 @@ bool DialogCashFlow::validate()
 KorEntity* DialogCashFlow::getEntity()
 {
     auto* entry = heldOrNew<EntityCashFlow>();
-    if (m_account)
-        entry->setAccountCode(m_account->getKode());
+    if (const EntityBank* account = m_account->account())
+        entry->setAccountCode(account->getKode());
     entry->setDate(m_ui->datePayment->date());
     entry->setNotes(m_ui->txtNotes->toPlainText());
     const bool isDebit = m_ui->ddlType->currentData().toInt() == CashFlowFilter::DebitRows;
@@ -65,5 +64,5 @@ void DialogCashFlow::setEntity(KorEntity* entity)
         m_ui->ddlType->findData(isDebit ? CashFlowFilter::DebitRows : CashFlowFilter::CreditRows));
     m_ui->txtPaid->setMoney(isDebit ? entry->getDebet() : entry->getCredit());
     m_ui->txtNotes->setPlainText(entry->getNotes());
-    m_accountField->show(entry->getAccountCode());
+    m_account->showCode(entry->getAccountCode());
 }

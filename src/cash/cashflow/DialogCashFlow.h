@@ -5,7 +5,6 @@
 #include <memory>
 
 class AccountField;
-class EntityBank;
 
 namespace Ui
 {
@@ -30,6 +29,5 @@ public slots:
 
 private:
     std::unique_ptr<Ui::DialogCashFlow> m_ui;
-    AccountField* m_accountField;
-    EntityBank* m_account = nullptr;
+    AccountField* m_account;
 };

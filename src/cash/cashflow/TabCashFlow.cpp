@@ -7,12 +7,13 @@
 #include "cash/cashflow/EntityCashFlow.h"
 #include "cash/cashflow/LedgerTotals.h"
 #include "cash/cashflow/TableModelCashFlow.h"
-#include "cash/entry/AccountField.h"
+#include "kor/business/KorServiceDirectory.h"
 #include "masterdata/bank/BankTextBox.h"
 
 #include <QComboBox>
 #include <QDateEdit>
 #include <QLabel>
+#include <QLineEdit>
 #include <QTableView>
 
 namespace
@@ -39,21 +40,26 @@ void TabCashFlow::makeFilters()
                                    {tr("DEBET"), CashFlowFilter::DebitRows},
                                    {tr("CREDIT"), CashFlowFilter::CreditRows}});
     m_to = filters()->addDate("dateTo", tr("To Date :"), today);
-    auto* name = new QLabel(this);
-    name->setObjectName("lblAccountName");
-    filters()->add(tr("Account Name :"), name);
-    m_account = new AccountField(m_code, name, this);
-    connect(m_account->box(), &BankTextBox::onItemSelected, this, &TabCashFlow::onBankSelected);
+    m_accountName = new QLabel(this);
+    m_accountName->setObjectName("lblAccountName");
+    filters()->add(tr("Account Name :"), m_accountName);
+    connect(m_code, &QLineEdit::textEdited, m_accountName, &QLabel::clear);
+    m_accounts = new BankTextBox(m_code, service<BusinessBank>("Bank"));
+    connect(m_accounts, &BankTextBox::onItemSelected, this, &TabCashFlow::onBankSelected);
 }
 
-void TabCashFlow::onBankSelected() { m_account->showPicked(); }
+void TabCashFlow::onBankSelected()
+{
+    if (const EntityBank* account = m_accounts->selectedItem())
+        m_accountName->setText(account->getNama());
+}
 
 // --- the list ------------------------------------------------------------------------------------------------------
 
 QList<KorEntity*> TabCashFlow::readRows(const QString&)
 {
     // Whoever searches has typed to the end: no list of suggestions follows.
-    m_account->box()->preventSuggest();
+    m_accounts->preventSuggest();
     CashFlowFilter filter;
     filter.fromDate = m_from->date();
     filter.toDate = m_to->date();
@@ -77,7 +83,13 @@ void TabCashFlow::modelApplied()
     for (const auto& width :
          {std::pair(Model::AccountName, 200), std::pair(Model::Type, 150), std::pair(Model::Description, 150)})
         grid()->setColumnWidth(width.first, width.second);
-    m_totals->show(model()->entities());
+    const QList<KorEntity*> rows = model()->entities();
+    m_totals->show(rows);
+    // The account of a code that was typed, as far as it has rows.
+    if (m_code->text().trimmed().isEmpty())
+        m_accountName->clear();
+    else if (m_accountName->text().isEmpty() && !rows.isEmpty())
+        m_accountName->setText(static_cast<const EntityCashFlow*>(rows.first())->getAccountName());
 }
 
 // --- the entries made by hand --------------------------------------------------------------------------------------

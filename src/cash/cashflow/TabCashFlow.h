@@ -4,10 +4,11 @@
 
 #include <QHash>
 
-class AccountField;
+class BankTextBox;
 class LedgerTotals;
 class QComboBox;
 class QDateEdit;
+class QLabel;
 class QLineEdit;
 
 /** The ledger: every movement of money of a period, of one account or all, and the entries made by hand. */
@@ -42,7 +43,8 @@ private:
     QDateEdit* m_to = nullptr;
     QComboBox* m_type = nullptr;
     QLineEdit* m_code = nullptr;
-    AccountField* m_account = nullptr;
+    BankTextBox* m_accounts = nullptr;
+    QLabel* m_accountName = nullptr;
     LedgerTotals* m_totals;
     /** Rows are known by their numbers: these are what the grid has instead of ids, the same at every refresh. */
     QHash<QString, int> m_ids;
