@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QComboBox>
 #include <QDateTime>
 #include <QDialogButtonBox>
 #include <QDir>
@@ -364,6 +365,18 @@ void Guide::chooseRow(const QString& grid, const QString& text)
         auto* view = qobject_cast<QAbstractItemView*>(find(grid));
         view->scrollTo(row());
         QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, view->visualRect(row()).center());
+    });
+}
+
+void Guide::choose(const QString& box, const QString& text)
+{
+    const auto combo = [box] { return qobject_cast<QComboBox*>(find(box)); };
+    waitFor(text + " in " + box, [&] { return combo() && combo()->findText(text) >= 0; });
+    act([combo, text] {
+        // By the keys of a person: from the top down to the entry.
+        QTest::keyClick(combo(), Qt::Key_Home);
+        for (int step = combo()->findText(text); step > 0; --step)
+            QTest::keyClick(combo(), Qt::Key_Down);
     });
 }
 

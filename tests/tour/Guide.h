@@ -51,6 +51,8 @@ public:
     void click(const QString& widget);
     /** Chooses the row of the grid that has this text in some cell. */
     void chooseRow(const QString& grid, const QString& text);
+    /** Chooses the entry of the combo box that has this text. */
+    void choose(const QString& box, const QString& text);
     /** Types into a lookup box, waits for its list and takes the first entry. */
     void lookUp(const QString& field, const QString& text);
     /** Triggers the entry of the main window's menu that has this object name, by the mouse. */
