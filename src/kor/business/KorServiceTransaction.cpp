@@ -3,11 +3,12 @@
 #include "kor/business/KorBusinessLogic.h"
 #include "kor/persistence/KorDatabase.h"
 
-bool inOneTransaction(KorBusinessLogic& service, const QString& operation, const std::function<bool()>& writes)
+bool inOneTransaction(KorBusinessLogic& service, const QString& operation, const std::function<bool()>& writes,
+                      const QString& notBegun)
 {
     KorTransaction transaction;
     if (!transaction.isOpen()) {
-        service.addError(operation, KorBusinessLogic::tr("create transaction failed"));
+        service.addError(operation, notBegun.isEmpty() ? KorBusinessLogic::tr("create transaction failed") : notBegun);
         return false;
     }
     // Left unfinished, it is rolled back.

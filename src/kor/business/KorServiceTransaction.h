@@ -8,7 +8,7 @@ class KorBusinessLogic;
 
 /**
  * Does a service's writes as one, all or none. The writes keep their own failures; a transaction that cannot begin or
- * end is kept in the service under the operation's name as well.
+ * end is kept in the service under the operation's name as well, in the family's words where it has its own.
  */
 [[nodiscard]] bool inOneTransaction(KorBusinessLogic& service, const QString& operation,
-                                    const std::function<bool()>& writes);
+                                    const std::function<bool()>& writes, const QString& notBegun = QString());

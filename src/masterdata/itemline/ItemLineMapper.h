@@ -22,10 +22,16 @@ class ItemLineMapper : public AppDataMapper
 public:
     using AppDataMapper::AppDataMapper;
 
+    /** In the order of entry. */
+    [[nodiscard]] QList<KorEntity*> findByDocument(int documentId);
+
 protected:
     /** The document's id, held as a number; the join labels the document and gives the foreign key. */
     void documentColumn(const QString& name, const QString& property, KorDataMapper* document);
     void itemColumn(const ItemPartners& partners);
     /** One index for a document's lines, and one that answers how much of an item they hold from itself alone. */
     [[nodiscard]] QStringList lineIndexes(const QString& documentColumn, const QString& quantityColumn) const;
+
+private:
+    QString m_documentColumn;
 };

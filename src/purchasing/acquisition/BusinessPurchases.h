@@ -1,11 +1,14 @@
 #pragma once
 
-#include "kor/business/KorBusinessLogic.h"
+#include "purchasing/document/PurchasingFilter.h"
+#include "purchasing/document/StockDocumentService.h"
 
 class DataMapperAcquisition;
+class EntityAcquisition;
+class EntitySupplier;
 
-/** The service of purchases. */
-class BusinessPurchases final : public KorBusinessLogic
+/** The service of purchases, and of what is still due for them. */
+class BusinessPurchases final : public StockDocumentService
 {
     Q_OBJECT
 
@@ -20,10 +23,27 @@ public:
     };
     Q_ENUM(PERMISSIONS)
 
-    BusinessPurchases(QObject* parent, DataMapperAcquisition* purchases);
+    BusinessPurchases(QObject* parent, DataMapperAcquisition* purchases, DataMapperItemHistory* journal);
 
     [[nodiscard]] QList<KorPermission> getPermissions() const override;
-    bool clearTransactions() override;
+
+    // The finders give purchases without lines, as a list shows them; find(id) reads a purchase with its lines.
+    [[nodiscard]] QList<EntityAcquisition*> findAll(const PurchasingFilter& filter);
+    [[nodiscard]] EntityAcquisition* findByNo(const QString& no);
+    /** What is not fully paid, the first due first. */
+    [[nodiscard]] QList<EntityAcquisition*> getPendingInvoiceBySupplier(const EntitySupplier* supplier);
+
+    /** Sets the status that follows from what was paid; every save begins with it. */
+    static void updateStatus(EntityAcquisition& purchase);
+    /** Reckons anew what credit notes and payments gave for the stored purchase, and saves it. */
+    bool recalculateDue(int purchaseId);
+
+protected:
+    void beforeSave(KorEntity& purchase) override;
+    [[nodiscard]] QList<KorEntity*> linesOf(const KorEntity& purchase) const override;
+    [[nodiscard]] QList<KorEntity*> removedLinesOf(const KorEntity& purchase) const override;
+    [[nodiscard]] ItemMovement movementOf(const KorEntity& purchase, const KorEntity& line) const override;
+    [[nodiscard]] QString notBegunText() const override { return tr("Create transaction failed"); }
 
 private:
     DataMapperAcquisition* m_purchases;

@@ -10,7 +10,7 @@
 DataMapperAcquisition::DataMapperAcquisition(QObject* parent, DataMapperKey* keys, DataMapperSupplier* suppliers,
                                              DataMapperBank* accounts, DataMapperPurchaseOrder* orders,
                                              ItemPartners partners)
-    : NumberedDocumentMapper(parent, keys)
+    : PurchasingDocumentMapper(parent, keys)
 {
     setName("acquisition");
     metaData()->setTableName("acquisition");
@@ -35,7 +35,7 @@ DataMapperAcquisition::DataMapperAcquisition(QObject* parent, DataMapperKey* key
     column("status", "integer not NULL", "Status");
     reference("bank_id", "integer null", "Bank", accounts, "left");
     addJoin("PurchaseOrder", orders, "left", "po_id", "id");
-    m_lines = new DataMapperAcquisitionDetail(this, orders->lineMapper(), partners);
+    setLineMapper(new DataMapperAcquisitionDetail(this, orders->lineMapper(), partners));
 }
 
 KorEntity* DataMapperAcquisition::createEntity() { return new EntityAcquisition(entityParent()); }
@@ -44,6 +44,38 @@ QStringList DataMapperAcquisition::indexStatements() const
 {
     return {index("purchase_date", "(purchase_date)"), index("open_supplier", "(supplier_id) WHERE status <> 1"),
             index("no", "(no)"), index("bank_id", "(bank_id)"), index("po_id", "(po_id)")};
+}
+
+QList<EntityAcquisition*> DataMapperAcquisition::getPendingInvoiceBySupplier(const EntitySupplier* supplier)
+{
+    KorPaging paging;
+    paging.addFilter("acquisition.supplier_id = ", QString::number(supplier->getId()));
+    paging.addFilter(" and acquisition.status <> ", QString::number(EntityAcquisition::FULL_PAID));
+    paging.addSort("acquisition.due_date asc, acquisition.id", "asc");
+    return castAll<EntityAcquisition>(find(&paging));
+}
+
+EntityAcquisition* DataMapperAcquisition::findByOrder(int orderId)
+{
+    return static_cast<EntityAcquisition*>(
+        findOne(" where acquisition.po_id = :order order by acquisition.id", {{":order", orderId}}));
+}
+
+double DataMapperAcquisition::paidLater(int purchaseId)
+{
+    KorQuery query;
+    // Every note counts, also one that was cancelled; one without an account is in no list and in no sum.
+    const bool done = execute(query,
+                              "select coalesce((select sum(amount_paid_amount) from credit_note where acquisition_id = "
+                              ":purchase and bank_id is not null), 0) + coalesce((select sum(amount_paid_amount) from "
+                              "payment_invoice where acquisition_id = :purchase), 0)",
+                              {{":purchase", purchaseId}});
+    return done && query.next() ? query.value(0).toDouble() : 0;
+}
+
+PurchasingColumns DataMapperAcquisition::filterColumns() const
+{
+    return {tableName(), "purchase_date", "status", "no", "invoice_no"};
 }
 
 QList<KorMigration*> DataMapperAcquisition::migrations() { return {new DataMapperAcquisitionMigration11(this)}; }

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "app/numbers/NumberedMapper.h"
-#include "masterdata/itemline/ItemLineMapper.h"
 #include "purchasing/acquisition/EntityAcquisition.h"
+#include "purchasing/document/PurchasingDocumentMapper.h"
 
 class DataMapperBank;
 class DataMapperPurchaseOrder;
@@ -12,7 +11,7 @@ class DataMapperSupplier;
  * Purchases with their lines, in the tables "acquisition" and "acquisition_detail". A save that was taken back because
  * of a line returns true and leaves its error: whoever saves here must ask hasError() as well.
  */
-class DataMapperAcquisition final : public NumberedDocumentMapper<EntityAcquisition>
+class DataMapperAcquisition final : public PurchasingDocumentMapper<EntityAcquisition, EntityAcquisitionDetail>
 {
     Q_OBJECT
 
@@ -24,13 +23,17 @@ public:
     KorEntity* createEntity() override;
     [[nodiscard]] QStringList indexStatements() const override;
     [[nodiscard]] QList<KorMigration*> migrations() override;
-    [[nodiscard]] KorDataMapper* lineMapper() const override { return m_lines; }
+
+    /** Without lines: what is not fully paid, the first due first. */
+    [[nodiscard]] QList<EntityAcquisition*> getPendingInvoiceBySupplier(const EntitySupplier* supplier);
+    /** A purchase made of the order, or null. */
+    [[nodiscard]] EntityAcquisition* findByOrder(int orderId);
+    /** What credit notes and payments gave for the purchase since, in whole units of the currency. */
+    [[nodiscard]] double paidLater(int purchaseId);
 
 protected:
     [[nodiscard]] const Messages& messages() const override;
     void attachLine(KorEntity* line, int documentId) override;
     [[nodiscard]] bool resultOfFailedLines() const override { return true; }
-
-private:
-    KorDataMapper* m_lines;
+    [[nodiscard]] PurchasingColumns filterColumns() const override;
 };

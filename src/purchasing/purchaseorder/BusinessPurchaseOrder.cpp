@@ -1,9 +1,12 @@
 #include "purchasing/purchaseorder/BusinessPurchaseOrder.h"
 
+#include "app/context/EntityPool.h"
+#include "purchasing/acquisition/DataMapperAcquisition.h"
 #include "purchasing/purchaseorder/DataMapperPurchaseOrder.h"
 
-BusinessPurchaseOrder::BusinessPurchaseOrder(QObject* parent, DataMapperPurchaseOrder* orders)
-    : KorBusinessLogic("Purchase Order", orders, parent), m_orders(orders)
+BusinessPurchaseOrder::BusinessPurchaseOrder(QObject* parent, DataMapperPurchaseOrder* orders,
+                                             DataMapperAcquisition* purchases)
+    : PurchasingService("Purchase Order", orders, parent), m_orders(orders), m_purchases(purchases)
 {}
 
 QList<KorPermission> BusinessPurchaseOrder::getPermissions() const
@@ -16,4 +19,40 @@ QList<KorPermission> BusinessPurchaseOrder::getPermissions() const
             {DELETE_PO_DETAIL, tr("Delete PO Detail")}};
 }
 
-bool BusinessPurchaseOrder::clearTransactions() { return clearTables({m_orders->lineMapper(), m_orders}); }
+QList<KorEntity*> BusinessPurchaseOrder::linesOf(const KorEntity& order) const
+{
+    return asEntities(static_cast<const EntityPurchaseOrder&>(order).getDetails());
+}
+
+QList<EntityPurchaseOrder*> BusinessPurchaseOrder::findAll(const PurchasingFilter& filter)
+{
+    return read(m_orders->findAll(filter), m_orders, "findall");
+}
+
+EntityPurchaseOrder* BusinessPurchaseOrder::findByNo(const QString& no)
+{
+    return read(m_orders->findByNo(no), m_orders, "findByNo");
+}
+
+QList<EntityPurchaseOrder*> BusinessPurchaseOrder::getOpenBySupplier(const EntitySupplier* supplier)
+{
+    return read(m_orders->getOpenBySupplier(supplier), m_orders, "getOpenBySupplier");
+}
+
+EntityAcquisition* BusinessPurchaseOrder::isPurchased(const EntityPurchaseOrder* order)
+{
+    return read(m_purchases->findByOrder(order->getId()), m_purchases, "isPurchased");
+}
+
+bool BusinessPurchaseOrder::remove(KorEntity* order)
+{
+    EntityPool pool;
+    const EntityPoolScope scope(pool);
+    const EntityAcquisition* purchase = isPurchased(static_cast<EntityPurchaseOrder*>(order));
+    if (purchase) {
+        addError("remove", tr("There is already purchase transaction using this PO, please delete it first: "
+                              "Purchase No: %1")
+                               .arg(purchase->getNo()));
+    }
+    return !purchase && !errors().contains("isPurchased") && PurchasingService::remove(order);
+}

@@ -7,7 +7,7 @@
 
 DataMapperPurchaseOrder::DataMapperPurchaseOrder(QObject* parent, DataMapperKey* keys, DataMapperSupplier* suppliers,
                                                  DataMapperBank* accounts, ItemPartners partners)
-    : NumberedDocumentMapper(parent, keys)
+    : PurchasingDocumentMapper(parent, keys)
 {
     setName("purchase order");
     metaData()->setTableName("purchase_order");
@@ -26,7 +26,7 @@ DataMapperPurchaseOrder::DataMapperPurchaseOrder(QObject* parent, DataMapperKey*
     column("note", "text NULL", "Note");
     reference("bank_id", "integer null", "Bank", accounts, "left");
     column("norek", "varchar(20)  null", "NoRek");
-    m_lines = new DataMapperPurchaseOrderDetail(this, partners);
+    setLineMapper(new DataMapperPurchaseOrderDetail(this, partners));
 }
 
 KorEntity* DataMapperPurchaseOrder::createEntity() { return new EntityPurchaseOrder(entityParent()); }
@@ -35,6 +35,21 @@ QStringList DataMapperPurchaseOrder::indexStatements() const
 {
     return {index("purchase_date", "(purchase_date)"), index("supplier_id", "(supplier_id)"),
             index("bank_id", "(bank_id)")};
+}
+
+QList<EntityPurchaseOrder*> DataMapperPurchaseOrder::getOpenBySupplier(const EntitySupplier* supplier)
+{
+    KorPaging paging;
+    paging.addFilter(tableName() + ".supplier_id = ", QString::number(supplier->getId()));
+    for (int done : {EntityPurchaseOrder::RECEIVED, EntityPurchaseOrder::CANCELED, EntityPurchaseOrder::CLOSED})
+        paging.addFilter(" and " + tableName() + ".status_id <> ", QString::number(done));
+    paging.addSort(tableName() + ".purchase_date asc, " + tableName() + ".id", "asc");
+    return castAll<EntityPurchaseOrder>(find(&paging));
+}
+
+PurchasingColumns DataMapperPurchaseOrder::filterColumns() const
+{
+    return {tableName(), "purchase_date", "status_id", "no", {}};
 }
 
 const AppDocumentMapper::Messages& DataMapperPurchaseOrder::messages() const

@@ -1,14 +1,13 @@
 #pragma once
 
-#include "app/numbers/NumberedMapper.h"
-#include "masterdata/itemline/ItemLineMapper.h"
+#include "purchasing/document/PurchasingDocumentMapper.h"
 #include "purchasing/purchaseorder/EntityPurchaseOrder.h"
 
 class DataMapperBank;
 class DataMapperSupplier;
 
 /** Purchase orders with their lines, in the tables "purchase_order" and "purchase_order_detail". */
-class DataMapperPurchaseOrder final : public NumberedDocumentMapper<EntityPurchaseOrder>
+class DataMapperPurchaseOrder final : public PurchasingDocumentMapper<EntityPurchaseOrder, EntityPurchaseOrderDetail>
 {
     Q_OBJECT
 
@@ -19,12 +18,12 @@ public:
     [[nodiscard]] QString keyName() const override { return "PO"; }
     KorEntity* createEntity() override;
     [[nodiscard]] QStringList indexStatements() const override;
-    [[nodiscard]] KorDataMapper* lineMapper() const override { return m_lines; }
+
+    /** Without lines: what can still be received, in the order of the orders' dates. */
+    [[nodiscard]] QList<EntityPurchaseOrder*> getOpenBySupplier(const EntitySupplier* supplier);
 
 protected:
     [[nodiscard]] const Messages& messages() const override;
     void attachLine(KorEntity* line, int documentId) override;
-
-private:
-    KorDataMapper* m_lines;
+    [[nodiscard]] PurchasingColumns filterColumns() const override;
 };

@@ -44,14 +44,14 @@ PosBusinessRegistry::PosBusinessRegistry(QObject* parent)
     make<BusinessPrinterType>(mappers->printerTypeMapper());
     make<BusinessPrinterConfig>(services->configuration());
     make<BusinessDataPerusahaan>(mappers->dataPerusahaanMapper(), mappers->imagesMapper());
-    make<BusinessPurchases>(mappers->acquisitionMapper());
+    make<BusinessPurchases>(mappers->acquisitionMapper(), mappers->itemHistoryMapper());
     make<BusinessCreditNote>(mappers->creditNoteMapper());
     make<BusinessGroupedItem>(mappers->groupedItemMapper());
     make<BusinessInventory>(mappers->stockTakeMapper(), mappers->stokAwalMapper(), mappers->itemHistoryMapper());
     make<BusinessItem>(mappers->itemMapper(), mappers->groupedItemMapper(), mappers->stokAwalMapper());
     make<BusinessJenisItem>(mappers->jenisItemMapper());
     make<BusinessMember>(mappers->memberMapper());
-    make<BusinessPurchaseOrder>(mappers->purchaseOrderMapper());
+    make<BusinessPurchaseOrder>(mappers->purchaseOrderMapper(), mappers->acquisitionMapper());
     make<BusinessPayment>(mappers->paymentMapper());
     make<BusinessSatuan>(mappers->satuanMapper());
     make<BusinessStokAwal>(mappers->stokAwalMapper());

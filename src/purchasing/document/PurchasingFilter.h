@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QDate>
+#include <QString>
+
+class KorPaging;
+
+/** What a list of purchasing documents is narrowed to. Both dates count; 0 stands for every kind, "" for any text. */
+struct PurchasingFilter
+{
+    enum Field { DocumentNo, SupplierCode, OtherNo };
+
+    QDate from;
+    QDate to;
+    /** The status, or the type of a payment. */
+    int kind = 0;
+    QString supplierCode;
+    Field field = DocumentNo;
+    QString text;
+};
+
+/** A family's table, and what it calls the columns of the filter. */
+struct PurchasingColumns
+{
+    QString table;
+    QString date;
+    QString kind;
+    QString no;
+    /** The supplier's own number of the document or the like; empty where the family has none. */
+    QString otherNo;
+};
+
+/** Adds the filter's conditions, and the latest documents first. The table's supplier is joined as "supplier". */
+void narrow(KorPaging& paging, const PurchasingFilter& filter, const PurchasingColumns& columns);
