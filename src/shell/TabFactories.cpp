@@ -17,6 +17,8 @@
 #include "masterdata/satuan/TabSatuan.h"
 #include "masterdata/supplier/TabSupplier.h"
 #include "printing/configuration/TabKitchenPrinter.h"
+#include "sales/commission/TabAllKomisiAgen.h"
+#include "sales/commission/TabKomisiAgen.h"
 #include "sales/fastfood/TabFastFood.h"
 #include "sales/kitchen/TabPesananMasuk.h"
 #include "sales/list/TabDaftarPenjualan.h"
@@ -39,6 +41,7 @@ TabFactories allTabFactories()
     // clang-format off
     return {
         {"TabAgent", make<TabAgent>},
+        {"TabAllKomisiAgen", make<TabAllKomisiAgen>},
         {"TabBank", make<TabBank>},
         {"TabBawaPulang", make<TabBawaPulang>},
         {"TabCashFlow", make<TabCashFlow>},
@@ -50,6 +53,7 @@ TabFactories allTabFactories()
         {"TabJenisItem", make<TabJenisItem>},
         {"TabKeyTable", make<TabKeyTable>},
         {"TabKitchenPrinter", make<TabKitchenPrinter>},
+        {"TabKomisiAgen", make<TabKomisiAgen>},
         {"TabMakanDitempat", make<TabMakanDitempat>},
         {"TabMeja", make<TabMeja>},
         {"TabMember", make<TabMember>},

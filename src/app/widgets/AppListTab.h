@@ -38,7 +38,7 @@ public:
     ~AppListTab() override;
 
 public slots:
-    void on_btnAdd_clicked();
+    virtual void on_btnAdd_clicked();
     void on_btnEdit_clicked();
     void on_btnDelete_clicked();
     void on_btnRefresh_clicked();

@@ -3,6 +3,7 @@
 #include "kor/entity/KorMetaDataMap.h"
 #include "kor/persistence/KorPaging.h"
 #include "masterdata/agent/DataMapperAgent.h"
+#include "sales/commission/CommissionAmount.h"
 #include "sales/commission/EntityAllKomisiAgen.h"
 #include "sales/invoice/DataMapperInvoice.h"
 #include "sales/service/SalesFilters.h"
@@ -66,9 +67,7 @@ KorEntity* DataMapperAllAgentCommision::fillFromRow(KorQuery& query, KorEntity* 
     row->setAgent(agent);
     row->setStatus(query.field("paid_invoice_id").isNull() ? EntityAllKomisiAgen::UNPAID
                                                            : EntityAllKomisiAgen::FULL_PAID);
-    if (agent && invoice->getGrandTotal()) {
-        const std::unique_ptr<Money> commission(invoice->getGrandTotal()->multiply(agent->getCommisionPerc() / 100));
-        row->setCommision(commission.get());
-    }
+    if (agent && invoice->getGrandTotal())
+        row->setCommision(commissionOf(*invoice, agent->getCommisionPerc()).get());
     return row;
 }

@@ -20,8 +20,9 @@ EntityPiutang* payment(KorEntity* entity) { return static_cast<EntityPiutang*>(e
 
 TabPiutang::TabPiutang(QWidget* parent) : AppDocumentTab({tr("Member Payments"), "tblPiutang", "Sales"}, 4, parent)
 {
-    m_from = filters()->addDate("dateFrom", tr("From Date :"));
-    m_to = filters()->addDate("dateTo", tr("To Date :"));
+    const QDate today = QDate::currentDate();
+    m_from = filters()->addDate("dateFrom", tr("From Date :"), today.addDays(1 - today.day()));
+    m_to = filters()->addDate("dateTo", tr("To Date :"), today);
     m_type = filters()->addChoice("ddlPayment", tr("Payment Type :"),
                                   AppFilterBar::Rows{{tr("All"), 0}} + paymentTypeRows());
     m_member = filters()->addText("txtMember", tr("Member :"));

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "app/widgets/AppDocumentTab.h"
+
+class EntityAllKomisiAgen;
+class QComboBox;
+class QDateEdit;
+class QLineEdit;
+
+/** The invoices that agents brought: what each earns, and whether it was paid. Paying opens the commission form. */
+class TabAllKomisiAgen final : public AppDocumentTab
+{
+    Q_OBJECT
+
+public:
+    explicit TabAllKomisiAgen(QWidget* parent = nullptr);
+
+public slots:
+    /** Pays the selected invoice's agent, or opens the payment that did. */
+    void on_btnAdd_clicked() override;
+
+protected:
+    QList<KorEntity*> readRows(const QString& filter) override;
+    KorEntityModel* createModel(const QList<KorEntity*>& rows) override;
+    std::unique_ptr<KorDialog> createDialog() override;
+    [[nodiscard]] QString deleteQuestion(const KorEntity*) const override { return {}; }
+    bool insertEntity(KorEntity* entity) override;
+    bool updateEntity(KorEntity* entity) override;
+
+private:
+    void editPaymentOf(const EntityAllKomisiAgen& sale);
+
+    QDateEdit* m_from;
+    QDateEdit* m_to;
+    QComboBox* m_status;
+    QLineEdit* m_agent;
+};

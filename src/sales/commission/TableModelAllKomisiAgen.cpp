@@ -1,0 +1,24 @@
+#include "sales/commission/TableModelAllKomisiAgen.h"
+
+#include "sales/commission/CommissionAmount.h"
+#include "sales/commission/EntityAllKomisiAgen.h"
+
+TableModelAllKomisiAgen::TableModelAllKomisiAgen(const QList<KorEntity*>& sales, QObject* parent)
+    : AppEntityModel(sales, parent)
+{
+    using Sale = EntityAllKomisiAgen;
+    addField<Sale>(QMetaType::QString, tr("Invoice No."),
+                   [](const Sale& sale) { return sale.getInvoice()->getInvoiceNo(); });
+    addField<Sale>(QMetaType::QDateTime, tr("Date"),
+                   [this](const Sale& sale) { return dateText(sale.getInvoice()->getInvoiceDate()); });
+    addField<Sale>(QMetaType::QString, tr("Agent Name"), [](const Sale& sale) { return sale.getAgent()->getNama(); });
+    addMoney<Sale>(tr("Invoice Total"), [](const Sale& sale) { return sale.getInvoice()->getGrandTotal(); });
+    // Today's percent, also where the commission was paid at another one. Sorted by its number, like money.
+    addField<Sale>(
+        moneyType(), tr("% Commision"),
+        [](const Sale& sale) { return percentText(sale.getAgent()->getCommisionPerc()); }, RightAligned);
+    addMoney<Sale>(tr("Total Commision"), [](const Sale& sale) { return sale.getCommision(); });
+    addField<Sale>(QMetaType::QString, tr("Status"), [](const Sale& sale) {
+        return sale.getStatus() == EntityAllKomisiAgen::FULL_PAID ? tr("Fully Paid") : tr("Unpaid");
+    });
+}
