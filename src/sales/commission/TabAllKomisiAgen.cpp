@@ -65,6 +65,8 @@ KorEntityModel* TabAllKomisiAgen::createModel(const QList<KorEntity*>& rows)
     return new TableModelAllKomisiAgen(rows, this);
 }
 
+void TabAllKomisiAgen::modelApplied() { setColumnWidths(grid(), {150, 120, 230, 160, 120, 160}); }
+
 std::unique_ptr<KorDialog> TabAllKomisiAgen::createDialog() { return std::make_unique<DialogKomisiAgen>(this); }
 
 void TabAllKomisiAgen::on_btnAdd_clicked()

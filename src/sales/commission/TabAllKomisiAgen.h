@@ -23,6 +23,7 @@ protected:
     QList<KorEntity*> readRows(const QString& filter) override;
     KorEntityModel* createModel(const QList<KorEntity*>& rows) override;
     std::unique_ptr<KorDialog> createDialog() override;
+    void modelApplied() override;
     [[nodiscard]] QString deleteQuestion(const KorEntity*) const override { return {}; }
     bool insertEntity(KorEntity* entity) override;
     bool updateEntity(KorEntity* entity) override;

@@ -46,6 +46,8 @@ KorEntityModel* TabKomisiAgen::createModel(const QList<KorEntity*>& rows)
     return new TableModelKomisiAgen(rows, this);
 }
 
+void TabKomisiAgen::modelApplied() { setColumnWidths(grid(), {130, 120, 210, 160, 170, 130}); }
+
 std::unique_ptr<KorDialog> TabKomisiAgen::createDialog() { return std::make_unique<DialogKomisiAgen>(this); }
 
 QString TabKomisiAgen::deleteQuestion(const KorEntity* entity) const

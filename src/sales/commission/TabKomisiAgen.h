@@ -20,6 +20,7 @@ protected:
     QList<KorEntity*> readRows(const QString& filter) override;
     KorEntityModel* createModel(const QList<KorEntity*>& rows) override;
     std::unique_ptr<KorDialog> createDialog() override;
+    void modelApplied() override;
     [[nodiscard]] QString deleteQuestion(const KorEntity* entity) const override;
     [[nodiscard]] int addKey() const override;
     [[nodiscard]] int editKey() const override;
