@@ -56,7 +56,7 @@ void AppListTab::refresh()
 
     selectEntity(grid(), m_model, currentId);
     grid()->setFocus();
-    m_ui->lblCount->setText(tr("%1 Items").arg(m_model->rowCount()));
+    m_ui->lblCount->setText(countText(m_model->rowCount()));
 }
 
 void AppListTab::on_btnAdd_clicked()
@@ -204,6 +204,8 @@ void AppListTab::on_btnSearch_clicked() { refresh(); }
 QString AppListTab::notFoundText(int id) const { return tr("Can not find entity with id: %1").arg(id); }
 
 QString AppListTab::deleteNotFoundText(int id) const { return AppListTab::notFoundText(id); }
+
+QString AppListTab::countText(int rows) const { return tr("%1 Items").arg(rows); }
 
 KorEntity* AppListTab::readEntity(int id) { return m_business->find(id); }
 

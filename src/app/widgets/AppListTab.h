@@ -58,6 +58,8 @@ protected:
     [[nodiscard]] virtual int editKey() const { return 1; }
     [[nodiscard]] virtual int deleteKey() const { return 2; }
     [[nodiscard]] virtual QString notFoundText(int id) const;
+    /** What stands below the grid. */
+    [[nodiscard]] virtual QString countText(int rows) const;
     /** The same where a record was to be deleted. */
     [[nodiscard]] virtual QString deleteNotFoundText(int id) const;
     /** True where the right behind the key is asked once for the page, before any record is looked at. */

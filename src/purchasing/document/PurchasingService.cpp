@@ -11,6 +11,20 @@ AppDocumentMapper* PurchasingService::documents() const { return static_cast<App
 
 KorDataMapper* PurchasingService::mapperOf(const KorEntity&) const { return documents()->lineMapper(); }
 
+bool PurchasingService::insert(KorEntity* document) { return save(*document, Insert); }
+
+bool PurchasingService::update(KorEntity* document) { return save(*document, Update); }
+
+bool PurchasingService::save(KorEntity& document, Save kind)
+{
+    beforeSave(document);
+    mapper()->clearError();
+    const bool done = kind == Insert ? mapper()->insert(&document) : mapper()->update(&document);
+    // A mapper may call a save done that it took back: its error tells.
+    m_stands = done && !mapper()->hasError();
+    return written(m_stands, mapper(), kind == Insert ? "insert" : "update") && afterSave(document, kind);
+}
+
 bool PurchasingService::remove(KorEntity* document)
 {
     const auto removeAll = [this, document] {

@@ -4,7 +4,10 @@
 
 class AppDocumentMapper;
 
-/** Base of the services of purchasing documents: a document is removed with its lines, all or nothing. */
+/**
+ * Base of the services of purchasing documents. A save is one transaction, and what follows from it comes after: a
+ * document may stand although something that follows has failed. A document is removed with its lines, all or nothing.
+ */
 class PurchasingService : public KorBusinessLogic
 {
     Q_OBJECT
@@ -12,14 +15,28 @@ class PurchasingService : public KorBusinessLogic
 public:
     PurchasingService(const QString& name, AppDocumentMapper* documents, QObject* parent);
 
+    /** Both are false for what follows too; documentStands() then tells that the document itself is saved. */
+    bool insert(KorEntity* document) override;
+    bool update(KorEntity* document) override;
+    [[nodiscard]] bool documentStands() const { return m_stands; }
     bool remove(KorEntity* document) override;
     bool clearTransactions() override;
 
 protected:
+    enum Save { Insert, Update };
+
+    virtual void beforeSave(KorEntity&) {}
+    /** What follows from the saved document; a failure is kept in the service. */
+    virtual bool afterSave(const KorEntity&, Save) { return true; }
     [[nodiscard]] virtual QList<KorEntity*> linesOf(const KorEntity& document) const = 0;
     [[nodiscard]] virtual KorDataMapper* mapperOf(const KorEntity& line) const;
     /** The family's words for a transaction that does not begin; empty for the usual ones. */
     [[nodiscard]] virtual QString notBegunText() const { return {}; }
 
     [[nodiscard]] AppDocumentMapper* documents() const;
+
+private:
+    bool save(KorEntity& document, Save kind);
+
+    bool m_stands = false;
 };

@@ -1,6 +1,5 @@
 #include "purchasing/document/StockDocumentService.h"
 
-#include "app/persistence/AppDocumentMapper.h"
 #include "kor/entity/KorEntity.h"
 
 StockDocumentService::StockDocumentService(const QString& name, AppDocumentMapper* documents,
@@ -8,39 +7,21 @@ StockDocumentService::StockDocumentService(const QString& name, AppDocumentMappe
     : PurchasingService(name, documents, parent), m_journal(journal)
 {}
 
-bool StockDocumentService::saved(bool done, const QString& operation)
+bool StockDocumentService::afterSave(const KorEntity& document, Save kind)
 {
-    // A mapper may call a save done that it took back: its error tells.
-    m_stands = done && !mapper()->hasError();
-    return written(m_stands, mapper(), operation);
-}
-
-bool StockDocumentService::insert(KorEntity* document)
-{
-    beforeSave(*document);
-    mapper()->clearError();
-    if (!saved(mapper()->insert(document), "insert"))
-        return false;
-    bool done = afterSave(*document);
-    const QList<KorEntity*> lines = linesOf(*document);
-    for (const KorEntity* line : lines)
-        done = written(m_journal->add(movementOf(*document, *line)), m_journal, "insert") && done;
-    return done;
-}
-
-bool StockDocumentService::update(KorEntity* document)
-{
-    beforeSave(*document);
-    mapper()->clearError();
-    if (!saved(mapper()->update(document), "update"))
-        return false;
-    bool done = afterSave(*document);
-    const QList<KorEntity*> lines = linesOf(*document);
-    for (const KorEntity* line : lines)
-        done = written(m_journal->write(movementOf(*document, *line)), m_journal, "update") && done;
-    const QList<KorEntity*> removed = removedLinesOf(*document);
+    bool done = true;
+    const QList<KorEntity*> lines = linesOf(document);
+    for (const KorEntity* line : lines) {
+        const ItemMovement movement = movementOf(document, *line);
+        const bool kept = kind == Insert ? m_journal->add(movement) : m_journal->write(movement);
+        done = written(kept, m_journal, kind == Insert ? "insert" : "update") && done;
+    }
+    if (kind == Insert)
+        return done;
+    const QList<KorEntity*> removed = removedLinesOf(document);
     for (const KorEntity* line : removed) {
-        const int type = movementOf(*document, *line).transType;
+        const int type = movementOf(document, *line).transType;
+        // A line that was never saved has left nothing behind.
         done = written(!line->isSaved() || m_journal->removeLine(type, line->getId()), m_journal, "update") && done;
     }
     return done;

@@ -1,24 +1,13 @@
 #include "sales/list/TableModelDaftarPenjualan.h"
 
+#include "app/widgets/StatusMark.h"
 #include "sales/invoice/InvoiceStatusText.h"
 #include "sales/list/EntityPenjualanInfo.h"
 
-namespace
-{
-QIcon mark(const QString& name)
-{
-    const QPixmap picture(":/icons/status_" + name + ".png");
-    QIcon icon(picture);
-    // Its colour stands out from a selected row's as it is; the style would dye it.
-    icon.addPixmap(picture, QIcon::Selected);
-    return icon;
-}
-} // namespace
-
 TableModelDaftarPenjualan::TableModelDaftarPenjualan(const QList<KorEntity*>& sales, QObject* parent)
-    : AppEntityModel(sales, parent), m_marks{{Invoice::FULL_PAID, mark("paid")},
-                                             {Invoice::PARTIALLY_PAID, mark("partial")},
-                                             {Invoice::UNPAID, mark("unpaid")}}
+    : AppEntityModel(sales, parent), m_marks{{Invoice::FULL_PAID, statusMark("paid")},
+                                             {Invoice::PARTIALLY_PAID, statusMark("partial")},
+                                             {Invoice::UNPAID, statusMark("unpaid")}}
 {
     using Sale = EntityPenjualanInfo;
     const auto text = [this](const QString& header, auto read) { addField<Sale>(QMetaType::QString, header, read); };
