@@ -8,6 +8,7 @@
 #include "support/ModalDriver.h"
 #include "support/SalesRows.h"
 #include "support/ShopRows.h"
+#include "support/TestCluster.h"
 #include "support/TestDatabase.h"
 
 #include <QApplication>
@@ -28,6 +29,8 @@ private slots:
     void init();
     void cleanup();
     void aMemberPaysAllThatIsOpen();
+    void aMemberIsPickedWhileTyping();
+    void aLostConnectionIsToldAndCanBeTriedAgain();
     void aPartIsPaidOfOneInvoice_data();
     void aPartIsPaidOfOneInvoice();
     void whatIsMissingIsTold_data();
@@ -194,6 +197,59 @@ void TestMemberPayments::aMemberPaysAllThatIsOpen()
     QCOMPARE(value("SELECT string_agg(concat_ws(' ', status, other_payment_amount, net_due_amount), ', ' ORDER BY id) "
                    "FROM invoice"),
              QString("1 500 0, 1 300 0"));
+}
+
+void TestMemberPayments::aMemberIsPickedWhileTyping()
+{
+    DialogPiutang form;
+    form.show();
+    QVERIFY(QTest::qWaitForWindowActive(&form));
+    QTRY_VERIFY(box(&form, "txtMember")->hasFocus());
+    QTest::keyClicks(box(&form, "txtMember"), "gue");
+    QTRY_VERIFY(QApplication::activePopupWidget());
+    const StatementCount statements;
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
+    QTRY_VERIFY(box(&form, "txtARAccount")->hasFocus());
+    QCOMPARE(box(&form, "txtMember")->text(), QString("M1"));
+    QCOMPARE(form.findChild<QLabel*>("lblCount")->text(), QString("2 Items"));
+    QVERIFY(statements.count() <= 2);
+
+    // The walk with the Tab key goes through the page to the buttons below it.
+    QStringList walk;
+    for (int step = 0; step < 14; ++step) {
+        const QString name = form.focusWidget()->objectName();
+        if (walk.isEmpty() || walk.last() != name)
+            walk.append(name);
+        QTest::keyClick(form.focusWidget(), Qt::Key_Tab);
+    }
+    QCOMPARE(walk.mid(0, 6),
+             (QStringList{"txtARAccount", "txtNotes", "datePay", "ddlPaymentType", "txtCekNo", "txtRefNo"}));
+    QCOMPARE(walk.mid(7, 3), (QStringList{"tblInvoice", "btnPayAll", "pushButton"}));
+    QTest::keyClick(&form, Qt::Key_F3);
+    QTRY_VERIFY(form.findChild<QTableView*>("tblInvoice")->hasFocus());
+}
+
+void TestMemberPayments::aLostConnectionIsToldAndCanBeTriedAgain()
+{
+    DialogPiutang form;
+    form.show();
+    QVERIFY(QTest::qWaitForWindowActive(&form));
+    QTRY_VERIFY(box(&form, "txtMember")->hasFocus());
+    const QString allow = "ALTER DATABASE " + m_database->name() + " WITH ALLOW_CONNECTIONS ";
+    TestCluster::instance().run(allow + "false");
+    m_database->killConnections();
+    type(&form, "txtMember", "M1");
+    QTRY_COMPARE(m_people->boxes().size(), 1);
+    QVERIFY2(m_people->lastText().contains("connection"), qPrintable(m_people->lastText()));
+
+    TestCluster::instance().run(allow + "true");
+    m_people->clear();
+    click(&form, "pushButton");
+    confirm(&form);
+    QTRY_COMPARE(m_people->boxes().size(), 1);
+    // The code is looked up again: what is missing now is the entries.
+    QCOMPARE(m_people->lastText(), QString("Enter the amount paid for the invoice no: TRD-500\r\nPlease select an "
+                                           "Accounts Receivable\r\n"));
 }
 
 void TestMemberPayments::aPartIsPaidOfOneInvoice_data()

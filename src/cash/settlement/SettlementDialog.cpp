@@ -26,7 +26,6 @@ void SettlementDialog::setUpSettlement(const Boxes& boxes, const Words& words, S
     m_people = people;
     m_documents = documents;
     m_accountBox = new BankTextBox(boxes.account, service<BusinessBank>("Bank"));
-    m_boxes.pages->addTab(page, tr("[F3] Sales Invoices"));
     m_boxes.date->setDisplayFormat(AppContext::instance()->dateFormat());
     m_boxes.date->setDate(QDate::currentDate());
     makeTouchable(m_boxes.buttons);

@@ -18,7 +18,7 @@ const EntityKomisiAgenDetail& detail(const KorEntity& line) { return static_cast
 
 DialogKomisiAgen::DialogKomisiAgen(QWidget* parent)
     : SettlementDialog(parent), m_ui(std::make_unique<Ui::DialogKomisiAgen>()),
-      m_sales(service<BusinessPenjualan>("Sales")), m_invoices(new TabKomisiAgenDetail)
+      m_sales(service<BusinessPenjualan>("Sales"))
 {
     m_ui->setupUi(this);
     m_agentBox = new AgentTextBox(m_ui->txtAgen, service<BusinessAgent>("Agent"));
@@ -29,7 +29,7 @@ DialogKomisiAgen::DialogKomisiAgen(QWidget* parent)
                     {tr("Select an agent"), tr("Add one or more sales invoices"),
                      tr("Enter the amount paid for this Invoice no: %1"), tr("Please select an Expense Account"),
                      tr("Please select a valid Expense Account")},
-                    m_invoices, service<BusinessAgent>("Agent"), m_sales);
+                    m_ui->tabInvoices, service<BusinessAgent>("Agent"), m_sales);
     focusLater(m_ui->txtAgen);
 }
 
@@ -47,7 +47,9 @@ void DialogKomisiAgen::onAgentSelected() { takePerson(m_agentBox->selectedItem()
 
 EntityContact* DialogKomisiAgen::findPerson(const QString& code)
 {
-    return service<BusinessAgent>("Agent")->findByCode(code);
+    // Picked from the list, it has just been read.
+    EntityAgent* picked = m_agentBox->selectedItem();
+    return picked && picked->getKode() == code ? picked : service<BusinessAgent>("Agent")->findByCode(code);
 }
 
 void DialogKomisiAgen::showPerson(const EntityContact* person)
@@ -85,7 +87,7 @@ const Money* DialogKomisiAgen::amountOf(const KorEntity& line) const { return de
 
 const KorEntity* DialogKomisiAgen::lineWithoutAmount() const
 {
-    for (const KorEntity* line : m_invoices->lines()) {
+    for (const KorEntity* line : m_ui->tabInvoices->lines()) {
         if (detail(*line).getCommision()->rawAmount() == 0)
             return line;
     }
@@ -137,7 +139,7 @@ KorEntity* DialogKomisiAgen::getEntity()
     payment->setGrandTotal(m_ui->txtGrandTotal->money());
     payment->setAmountPaid(m_ui->txtPaid->money());
     payment->setNetDue(m_ui->txtNetDue->money());
-    payment->setDetails(castAll<EntityKomisiAgenDetail>(m_invoices->lines()));
-    payment->setRemovedDetails(castAll<EntityKomisiAgenDetail>(removedLines(m_invoices->lines())));
+    payment->setDetails(castAll<EntityKomisiAgenDetail>(m_ui->tabInvoices->lines()));
+    payment->setRemovedDetails(castAll<EntityKomisiAgenDetail>(removedLines(m_ui->tabInvoices->lines())));
     return payment;
 }

@@ -7,7 +7,6 @@
 class AgentTextBox;
 class BusinessPenjualan;
 class EntityAgent;
-class TabKomisiAgenDetail;
 
 namespace Ui
 {
@@ -48,5 +47,4 @@ private:
     std::unique_ptr<Ui::DialogKomisiAgen> m_ui;
     BusinessPenjualan* m_sales;
     AgentTextBox* m_agentBox;
-    TabKomisiAgenDetail* m_invoices;
 };

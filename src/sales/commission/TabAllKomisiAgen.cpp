@@ -65,7 +65,7 @@ KorEntityModel* TabAllKomisiAgen::createModel(const QList<KorEntity*>& rows)
     return new TableModelAllKomisiAgen(rows, this);
 }
 
-void TabAllKomisiAgen::modelApplied() { setColumnWidths(grid(), {150, 120, 230, 160, 120, 160}); }
+void TabAllKomisiAgen::modelApplied() { setColumnWidths(grid(), {145, 115, 200, 160, 150, 180}); }
 
 std::unique_ptr<KorDialog> TabAllKomisiAgen::createDialog() { return std::make_unique<DialogKomisiAgen>(this); }
 

@@ -46,7 +46,7 @@ KorEntityModel* TabKomisiAgen::createModel(const QList<KorEntity*>& rows)
     return new TableModelKomisiAgen(rows, this);
 }
 
-void TabKomisiAgen::modelApplied() { setColumnWidths(grid(), {130, 120, 210, 160, 170, 130}); }
+void TabKomisiAgen::modelApplied() { setColumnWidths(grid(), {120, 115, 185, 180, 195, 125}); }
 
 std::unique_ptr<KorDialog> TabKomisiAgen::createDialog() { return std::make_unique<DialogKomisiAgen>(this); }
 

@@ -18,7 +18,7 @@ const EntityPiutangDetail& detail(const KorEntity& line) { return static_cast<co
 
 DialogPiutang::DialogPiutang(QWidget* parent)
     : SettlementDialog(parent), m_ui(std::make_unique<Ui::DialogPiutang>()),
-      m_sales(service<BusinessPenjualan>("Sales")), m_invoices(new TabPiutangInvoice)
+      m_sales(service<BusinessPenjualan>("Sales"))
 {
     m_ui->setupUi(this);
     for (const auto& type : paymentTypeRows())
@@ -31,7 +31,7 @@ DialogPiutang::DialogPiutang(QWidget* parent)
                     {tr("Select a member"), tr("Enter one or more sales invoice"),
                      tr("Enter the amount paid for the invoice no: %1"), tr("Please select an Accounts Receivable"),
                      tr("Please select a valid Accounts Receivable")},
-                    m_invoices, service<BusinessMember>("Member"), m_sales);
+                    m_ui->tabInvoices, service<BusinessMember>("Member"), m_sales);
     focusLater(m_ui->txtMember);
 }
 
@@ -41,7 +41,9 @@ void DialogPiutang::onMemberSelected() { takePerson(m_memberBox->selectedItem())
 
 EntityContact* DialogPiutang::findPerson(const QString& code)
 {
-    return service<BusinessMember>("Member")->findByCode(code);
+    // Picked from the list, it has just been read.
+    EntityMember* picked = m_memberBox->selectedItem();
+    return picked && picked->getKode() == code ? picked : service<BusinessMember>("Member")->findByCode(code);
 }
 
 void DialogPiutang::showPerson(const EntityContact* person)
@@ -63,7 +65,7 @@ const Money* DialogPiutang::amountOf(const KorEntity& line) const { return detai
 QList<EntityPiutangDetail*> DialogPiutang::paidLines() const
 {
     QList<EntityPiutangDetail*> paid;
-    for (KorEntity* line : m_invoices->lines()) {
+    for (KorEntity* line : m_ui->tabInvoices->lines()) {
         if (detail(*line).getAmountPaid()->rawAmount() != 0)
             paid.append(static_cast<EntityPiutangDetail*>(line));
     }
@@ -72,7 +74,7 @@ QList<EntityPiutangDetail*> DialogPiutang::paidLines() const
 
 const KorEntity* DialogPiutang::lineWithoutAmount() const
 {
-    return paidLines().isEmpty() ? m_invoices->lines().first() : nullptr;
+    return paidLines().isEmpty() ? m_ui->tabInvoices->lines().first() : nullptr;
 }
 
 void DialogPiutang::setEntity(KorEntity* entity)

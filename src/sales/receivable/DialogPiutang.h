@@ -7,7 +7,6 @@
 class BusinessPenjualan;
 class EntityPiutangDetail;
 class MemberTextBox;
-class TabPiutangInvoice;
 
 namespace Ui
 {
@@ -45,5 +44,4 @@ private:
     std::unique_ptr<Ui::DialogPiutang> m_ui;
     BusinessPenjualan* m_sales;
     MemberTextBox* m_memberBox;
-    TabPiutangInvoice* m_invoices;
 };
