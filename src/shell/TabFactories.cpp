@@ -7,6 +7,9 @@
 #include "cash/accounting/TabTransfer.h"
 #include "cash/cashflow/TabCashFlow.h"
 #include "dashboard/TabDashboard.h"
+#include "inventory/adjustment/TabInventoryAdj.h"
+#include "inventory/balance/TabStokAwal.h"
+#include "inventory/stockcard/TabKartuStok.h"
 #include "masterdata/agent/TabAgent.h"
 #include "masterdata/bank/TabBank.h"
 #include "masterdata/employee/TabEmployee.h"
@@ -49,8 +52,10 @@ TabFactories allTabFactories()
         {"TabDashboard", make<TabDashboard>},
         {"TabEmployee", make<TabEmployee>},
         {"TabFastFood", make<TabFastFood>},
+        {"TabInventoryAdj", make<TabInventoryAdj>},
         {"TabItem", make<TabItem>},
         {"TabJenisItem", make<TabJenisItem>},
+        {"TabKartuStok", make<TabKartuStok>},
         {"TabKeyTable", make<TabKeyTable>},
         {"TabKitchenPrinter", make<TabKitchenPrinter>},
         {"TabKomisiAgen", make<TabKomisiAgen>},
@@ -60,6 +65,7 @@ TabFactories allTabFactories()
         {"TabPesananMasuk", make<TabPesananMasuk>},
         {"TabPiutang", make<TabPiutang>},
         {"TabSatuan", make<TabSatuan>},
+        {"TabStokAwal", make<TabStokAwal>},
         {"TabSupplier", make<TabSupplier>},
         {"TabTransfer", make<TabTransfer>},
         {"TabUser", make<TabUser>},

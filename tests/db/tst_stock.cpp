@@ -1,8 +1,10 @@
 #include "inventory/stock/BusinessInventory.h"
+#include "inventory/stock/BusinessStokAwal.h"
 #include "inventory/stock/DataMapperItemHistory.h"
 #include "inventory/stock/DataMapperStockTake.h"
 #include "inventory/stock/EntityItemHistory.h"
 #include "inventory/stock/EntityStockTake.h"
+#include "inventory/stock/EntityStokAwal.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "masterdata/item/BusinessItem.h"
 #include "registry/pos/PosMapperRegistry.h"
@@ -76,6 +78,9 @@ private slots:
     void theJournalIsReadByPeriodAndItem_data();
     void theJournalIsReadByPeriodAndItem();
     void aLineOfADocumentHasOneRowInTheJournal();
+    void anAdjustmentStandsInTheJournalUntilItIsRemoved();
+    void anItemHasOneBeginningBalance();
+    void clearingTheTransactionsKeepsTheItems();
 
 private:
     void happen(int itemId, const Event& event);
@@ -122,8 +127,10 @@ void TestStock::happen(int itemId, const Event& event)
     const QString quantity = QString::number(event.quantity);
     const auto document = [&](const QString& master, const QString& dateColumn, const QString& line, const QString& key,
                               const QString& quantityColumn, const QString& status) {
-        const int id = add(master, {{dateColumn, date}, {"status", status}});
-        add(line, {{key, QString::number(id)}, {"item_id", item}, {quantityColumn, quantity}});
+        const QString id = QString::number(add(master, {{dateColumn, date}, {"status", status}}));
+        // The same item may stand on two lines of a document.
+        for (const int part : {event.quantity / 3, event.quantity - event.quantity / 3})
+            add(line, {{key, id}, {"item_id", item}, {quantityColumn, QString::number(part)}});
     };
     const auto creditNote = [&](const QString& status) {
         document("credit_note", "credit_note_date", "credit_note_detail", "credit_note_id", "qty_returned", status);
@@ -201,7 +208,12 @@ void TestStock::everyHistoryGivesWhatPaperGives()
 
     QMap<int, History> histories;
     for (const char* code : {"aym", "ns", "fr", "llp"}) {
+        // An item that came from elsewhere may have no balance.
         History history{{Event::Opening, 0, roll(50)}};
+        if (roll(4) == 0) {
+            m_database->run("DELETE FROM stok_awal WHERE item_id = " + QString::number(idOf(code)));
+            history.clear();
+        }
         const int length = roll(16);
         for (int i = 0; i < length; ++i)
             history.append({Event::Kind(1 + roll(5)), roll(days), roll(20)});
@@ -345,6 +357,81 @@ void TestStock::aLineOfADocumentHasOneRowInTheJournal()
     QVERIFY(journal->takeError().contains("item_history"));
     QVERIFY(!journal->removeLine(EntityItemHistory::CREDIT_NOTE, line));
     QVERIFY(journal->takeError().contains("item_history"));
+}
+
+void TestStock::anAdjustmentStandsInTheJournalUntilItIsRemoved()
+{
+    m_database->run("SET session_replication_role = origin");
+    auto* rice = service<BusinessItem>("Item")->findByCode("ns");
+    const auto adjust = [&](int by, const QString& account = "5000") {
+        auto take = std::make_unique<EntityStockTake>();
+        take->setItem(rice);
+        take->setStockTakeDate(firstDay);
+        take->setQtyBefore(10);
+        take->setQtyAdj(by);
+        take->setQty(10 + by);
+        take->setSourceAcctCode(account);
+        return m_inventory->addInventoryAdjustment(take.get()) ? std::move(take) : nullptr;
+    };
+    const auto journal = [this] {
+        return m_database->value("SELECT string_agg(qty_in || '/' || qty_out, ' ' ORDER BY id) FROM item_history")
+            .toString();
+    };
+    QVERIFY(adjust(5));
+    const auto loss = adjust(-3);
+    QVERIFY(loss);
+    QCOMPARE(journal(), QString("5/0 0/3"));
+    QCOMPARE(m_inventory->getQuantityOnHand(rice, firstDay), 7);
+    QVERIFY(m_inventory->stockTakeRemove(loss.get()));
+    QCOMPARE(journal(), QString("5/0"));
+    QCOMPARE(m_inventory->getQuantityOnHand(rice, firstDay), 15);
+
+    // What does not reach the table is told under the operation's name; an adjustment without its row stays.
+    QVERIFY(!m_inventory->stockTakeRemove(loss.get()));
+    QVERIFY(!adjust(1, "nobody"));
+    QCOMPARE(m_inventory->errors().keys(), (QStringList{"addInventoryAdjustment", "stockTakeRemove"}));
+    m_inventory->clearErrors();
+    m_database->run("ALTER TABLE item_history RENAME TO elsewhere");
+    QVERIFY(!adjust(1));
+    QCOMPARE(m_inventory->errors().keys(), QStringList{"addInventoryAdjustment"});
+    m_inventory->clearErrors();
+    QCOMPARE(m_database->value("SELECT count(*) FROM stock_take").toInt(), 2);
+    m_database->run("ALTER TABLE acquisition RENAME TO away");
+    (void)m_inventory->getQuantityOnHand(rice, firstDay);
+    QVERIFY(m_inventory->takeErrors().contains("acquisition"));
+}
+
+void TestStock::anItemHasOneBeginningBalance()
+{
+    m_database->run("SET session_replication_role = origin");
+    auto* balances = service<BusinessStokAwal>("Beginning Balance");
+    EntityStokAwal balance;
+    balance.setItem(service<BusinessItem>("Item")->findByCode("ns"));
+    balance.setHarga(new Money(&balance, 3, "Rp"));
+    balance.setJumlah(12);
+    // Two workstations that both found none: the slower one is told.
+    QVERIFY(!balances->insert(&balance));
+    QCOMPARE(balances->takeErrors(), QString("This item has a beginning balance already, please edit it\r\n"));
+    QVERIFY(balances->enter(&balance));
+    QCOMPARE(m_inventory->getQuantityOnHand(balance.getItem(), firstDay), 12);
+    m_database->run("DELETE FROM stok_awal");
+    QVERIFY(balances->enter(&balance));
+    QCOMPARE(m_database->value("SELECT string_agg(jumlah || ' ' || harga_amount, ',') FROM stok_awal").toString(),
+             QString("12 3"));
+}
+
+void TestStock::clearingTheTransactionsKeepsTheItems()
+{
+    happen(idOf("ns"), {Event::Opening, 0, 10});
+    happen(idOf("ns"), {Event::Count, 1, 10});
+    EntityItem rice;
+    rice.setId(idOf("ns"));
+    QVERIFY(PosMapperRegistry::instance()->itemHistoryMapper()->add({1, 1, &rice, 2, 0, nullptr, firstDay, "PU-1"}));
+    QVERIFY(m_inventory->clearTransactions());
+    QCOMPARE(m_database->value("SELECT (SELECT count(*) FROM stock_take) + (SELECT count(*) FROM item_history) + "
+                               "(SELECT sum(jumlah) FROM stok_awal)"),
+             QVariant(0));
+    QCOMPARE(m_inventory->quantitiesOnHand(firstDay).size(), 4);
 }
 
 QTEST_MAIN(TestStock)

@@ -4,11 +4,14 @@
 #include "inventory/stock/DataMapperItemHistory.h"
 #include "inventory/stock/DataMapperStockTake.h"
 #include "inventory/stock/DataMapperStokAwal.h"
+#include "inventory/stock/EntityItemHistory.h"
 #include "inventory/stock/EntityStockTake.h"
 #include "inventory/stock/EntityStokAwal.h"
 #include "inventory/stock/StockMovements.h"
 
 #include <QDebug>
+
+#include <algorithm>
 
 BusinessInventory::BusinessInventory(QObject* parent, DataMapperStockTake* stockTakes, DataMapperStokAwal* balances,
                                      DataMapperItemHistory* history)
@@ -22,6 +25,14 @@ QList<KorPermission> BusinessInventory::getPermissions() const
             {DELETE_STOCKTAKE, tr("Delete Inventory Adjustment")}};
 }
 
+bool BusinessInventory::clearTransactions()
+{
+    const bool cleared = clearTables({m_stockTakes, m_history});
+    return written(m_balances->clearTransactions(), m_balances, "clearTransactions") && cleared;
+}
+
+// --- the quantity on hand ------------------------------------------------------------------------------------------
+
 int BusinessInventory::getQuantityOnHand(const KorEntity* item, const QDate& date)
 {
     EntityPool pool;
@@ -32,9 +43,16 @@ int BusinessInventory::getQuantityOnHand(const KorEntity* item, const QDate& dat
     const int opening = balance ? balance->getJumlah() : 0;
     const int base = take ? take->getQty() : opening;
     const QDate start = take ? take->getStockTakeDate() : QDate();
-    const int acquired = StockMovements::quantity(StockMovements::Acquired, item->getId(), start, date);
-    const int used = StockMovements::quantity(StockMovements::Used, item->getId(), start, date);
-    const int returned = StockMovements::quantity(StockMovements::Returned, item->getId(), start, date);
+    const auto moved = [&](StockMovements::Kind kind) {
+        int quantity = 0;
+        KorQuery query;
+        if (!StockMovements::quantity(query, kind, item->getId(), start, date, quantity))
+            addError("getQuantityOnHand", query.failure());
+        return quantity;
+    };
+    const int acquired = moved(StockMovements::Acquired);
+    const int used = moved(StockMovements::Used);
+    const int returned = moved(StockMovements::Returned);
     qDebug() << " laswt:" << base << " qtyAcq:" << acquired << " qtyUsed:" << used << " qtyReturned:" << returned;
     return base + acquired - used - returned;
 }
@@ -46,4 +64,65 @@ QHash<int, int> BusinessInventory::quantitiesOnHand(const QDate& date)
     if (!StockMovements::onHand(query, date, quantities))
         addError("quantitiesOnHand", query.failure());
     return quantities;
+}
+
+// --- adjustments ---------------------------------------------------------------------------------------------------
+
+QList<KorEntity*> BusinessInventory::findAll(const QString& code)
+{
+    return read(m_stockTakes->findAll(code), m_stockTakes, "findall");
+}
+
+bool BusinessInventory::addInventoryAdjustment(EntityStockTake* take)
+{
+    const QString operation = "addInventoryAdjustment";
+    if (!written(m_stockTakes->insert(take), m_stockTakes, operation))
+        return false;
+    const int difference = take->getQtyAdj();
+    const ItemMovement movement{EntityItemHistory::ADJUSMENT,
+                                take->getId(),
+                                take->getItem(),
+                                std::max(difference, 0),
+                                std::max(-difference, 0),
+                                take->getItem()->getHargaBeli(),
+                                take->getStockTakeDate(),
+                                QString()};
+    return written(m_history->add(movement), m_history, operation);
+}
+
+bool BusinessInventory::stockTakeRemove(EntityStockTake* take)
+{
+    const QString operation = "stockTakeRemove";
+    return written(m_stockTakes->remove(take), m_stockTakes, operation) &&
+           written(m_history->removeLine(EntityItemHistory::ADJUSMENT, take->getId()), m_history, operation);
+}
+
+// --- the stock card ------------------------------------------------------------------------------------------------
+
+QList<EntityItemHistory*> BusinessInventory::findAllKartuStok(const ItemHistoryFilter& filter)
+{
+    if (filter.itemId == KorNoValue)
+        return {};
+    QList<EntityItemHistory*> rows = read(m_history->findAll(filter), m_history, "findAllKartuStok");
+    rows.prepend(beginningRow(filter.itemId));
+    int balance = rows.first()->getQtyRemain();
+    for (int i = 1; i < rows.size(); ++i) {
+        EntityItemHistory* row = rows[i];
+        balance += std::max(row->getQtyIn(), 0) - std::max(row->getQtyOut(), 0);
+        row->setQtyRemain(balance);
+    }
+    return rows;
+}
+
+EntityItemHistory* BusinessInventory::beginningRow(int itemId)
+{
+    auto* row = new EntityItemHistory(AppDataMapper::entityParent());
+    row->setTransType(EntityItemHistory::BEGINNING_BALANCE);
+    // Rows that came from elsewhere may lack their balance.
+    if (const EntityStokAwal* balance = read(m_balances->findByItemId(itemId), m_balances, "findAllKartuStok")) {
+        row->setQtyIn(balance->getJumlah());
+        row->setQtyRemain(balance->getJumlah());
+        row->setDate(balance->getDateTime().date());
+    }
+    return row;
 }

@@ -6,6 +6,9 @@
 #include <QHash>
 
 class DataMapperItemHistory;
+class EntityItemHistory;
+class EntityStockTake;
+struct ItemHistoryFilter;
 class DataMapperStockTake;
 class DataMapperStokAwal;
 
@@ -22,16 +25,33 @@ public:
                       DataMapperItemHistory* history);
 
     [[nodiscard]] QList<KorPermission> getPermissions() const override;
+    /** Forgets adjustments and journal, and sets every beginning balance to nothing. */
+    bool clearTransactions() override;
 
     /**
      * What the last count at or before the date found, or else the beginning balance, with all that moved since. What
-     * moved on the day of the count counts on top of it. Nothing keeps the figure from being negative.
+     * moved on the day of the count counts on top of it. Nothing keeps the figure from being negative. After a failure
+     * it is worth nothing, and the service holds the error.
      */
     [[nodiscard]] int getQuantityOnHand(const KorEntity* item, const QDate& date);
     /** The same figure for every item, by its id, in one statement. */
     [[nodiscard]] QHash<int, int> quantitiesOnHand(const QDate& date);
 
+    /** The adjustments of the item with this code; all of them for an empty code. */
+    [[nodiscard]] QList<KorEntity*> findAll(const QString& code);
+    /** Saves the adjustment and its row in the journal; when only the row fails, the adjustment stays all the same. */
+    bool addInventoryAdjustment(EntityStockTake* take);
+    bool stockTakeRemove(EntityStockTake* take);
+
+    /**
+     * The stock card of an item: its beginning balance, then the journal's rows of the period with the running
+     * balance. The balance always begins in full, whatever moved before the period. Without an item there is none.
+     */
+    [[nodiscard]] QList<EntityItemHistory*> findAllKartuStok(const ItemHistoryFilter& filter);
+
 private:
+    [[nodiscard]] EntityItemHistory* beginningRow(int itemId);
+
     DataMapperStockTake* m_stockTakes;
     DataMapperStokAwal* m_balances;
     DataMapperItemHistory* m_history;

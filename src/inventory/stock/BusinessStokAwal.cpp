@@ -1,6 +1,8 @@
 #include "inventory/stock/BusinessStokAwal.h"
 
+#include "app/context/EntityPool.h"
 #include "inventory/stock/DataMapperStokAwal.h"
+#include "inventory/stock/EntityStokAwal.h"
 
 BusinessStokAwal::BusinessStokAwal(QObject* parent, DataMapperStokAwal* mapper)
     : KorBusinessLogic("Beginning Balance", mapper, parent), m_balances(mapper)
@@ -24,4 +26,32 @@ QList<KorEntity*> BusinessStokAwal::findAll(const QString& code)
 EntityStokAwal* BusinessStokAwal::findByItemId(int id)
 {
     return read(m_balances->findByItemId(id), m_balances, "findByItemId");
+}
+
+bool BusinessStokAwal::insert(KorEntity* balance)
+{
+    if (m_balances->insert(balance))
+        return true;
+    const QString reason = m_balances->takeError();
+    EntityPool read;
+    const EntityPoolScope scope(read);
+    const EntityItem* item = static_cast<EntityStokAwal*>(balance)->getItem();
+    const bool isThere = item && m_balances->findByItemId(item->getId());
+    m_balances->clearError();
+    addError("insert", isThere ? tr("This item has a beginning balance already, please edit it") : reason);
+    return false;
+}
+
+bool BusinessStokAwal::enter(EntityStokAwal* balance)
+{
+    EntityPool read;
+    const EntityPoolScope scope(read);
+    EntityStokAwal* row = findByItemId(balance->getItem()->getId());
+    if (hasError())
+        return false;
+    if (!row)
+        return insert(balance);
+    row->setHarga(balance->getHarga());
+    row->setJumlah(balance->getJumlah());
+    return update(row);
 }

@@ -18,6 +18,10 @@ public:
 
     [[nodiscard]] QList<KorPermission> getPermissions() const override;
     bool clearTransactions() override;
+    /** An item has one balance: that another workstation was faster is told in so many words. */
+    bool insert(KorEntity* balance) override;
+    /** Gives the item this balance, whether it has a row already or not. */
+    bool enter(EntityStokAwal* balance);
 
     [[nodiscard]] QList<KorEntity*> findAll(const QString& code);
     [[nodiscard]] EntityStokAwal* findByItemId(int id);

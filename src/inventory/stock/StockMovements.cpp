@@ -3,7 +3,6 @@
 #include "kor/persistence/KorDataMapper.h"
 #include "kor/persistence/KorQuery.h"
 
-#include <QDebug>
 #include <QSqlRecord>
 
 namespace
@@ -37,10 +36,10 @@ QString StockMovements::statement(Kind kind, bool isPeriod)
     return QLatin1String(heads[kind]) + QLatin1String(isPeriod ? " between :startdate  and :enddate" : " <= :date  ");
 }
 
-int StockMovements::quantity(Kind kind, int itemId, const QDate& start, const QDate& end)
+bool StockMovements::quantity(KorQuery& query, Kind kind, int itemId, const QDate& start, const QDate& end,
+                              int& quantity)
 {
     const bool isPeriod = start.isValid();
-    KorQuery query;
     query.prepare(statement(kind, isPeriod));
     query.bindValue(":item_id", itemId);
     if (isPeriod) {
@@ -51,11 +50,11 @@ int StockMovements::quantity(Kind kind, int itemId, const QDate& start, const QD
     }
     if (kind == Returned)
         query.bindValue(":status_canceled", cancelledNote);
-    if (!query.exec()) {
-        qDebug().noquote() << "error sql " << query.failure();
-        return 0;
-    }
-    return query.next() ? query.value(0).toInt() : 0;
+    if (!query.exec())
+        return false;
+    // Nothing moved: the sum of no lines is NULL.
+    quantity = query.next() ? query.value(0).toInt() : 0;
+    return true;
 }
 
 QString StockMovements::onHandStatement()

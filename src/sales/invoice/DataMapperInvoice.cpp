@@ -75,5 +75,9 @@ int DataMapperInvoice::quantityUsed(int itemId, const QDate& until) { return qua
 
 int DataMapperInvoice::quantityUsed(int itemId, const QDate& from, const QDate& until)
 {
-    return StockMovements::quantity(StockMovements::Used, itemId, from, until);
+    int used = 0;
+    KorQuery query;
+    if (!StockMovements::quantity(query, StockMovements::Used, itemId, from, until, used))
+        log("error sql " + query.failure());
+    return used;
 }

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "kor/widgets/KorDialog.h"
+
+#include <memory>
+
+class EntityItem;
+class ItemEntry;
+
+namespace Ui
+{
+class DialogStokAwal;
+}
+
+/** The entry form of an item's beginning balance. The item of a balance that exists stays what it is. */
+class DialogStokAwal final : public KorDialog
+{
+    Q_OBJECT
+
+public:
+    explicit DialogStokAwal(QWidget* parent = nullptr);
+    ~DialogStokAwal() override;
+
+    bool validate() override;
+    KorEntity* getEntity() override;
+    void setEntity(KorEntity* entity) override;
+
+private slots:
+    /** Proposes the item's own unit cost. */
+    void onItemSelected(EntityItem* item);
+
+private:
+    std::unique_ptr<Ui::DialogStokAwal> m_ui;
+    ItemEntry* m_item;
+};

@@ -1,0 +1,107 @@
+#include "inventory/stockcard/TabKartuStok.h"
+
+#include "inventory/stock/BusinessInventory.h"
+#include "inventory/stock/DataMapperItemHistory.h"
+#include "inventory/stock/EntityItemHistory.h"
+#include "inventory/stockcard/TableModelKartuStok.h"
+#include "kor/widgets/KorDialog.h"
+#include "masterdata/item/ItemEntry.h"
+
+#include <QApplication>
+#include <QDateEdit>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScopedValueRollback>
+#include <QTableView>
+
+TabKartuStok::TabKartuStok(QWidget* parent)
+    : AppDocumentTab({tr("Item History"), "tblKartuStok", "Inventory"}, 4, parent)
+{
+    makeFilters();
+    makeTotals();
+    takeAddAndDeleteAway();
+    button("btnEdit")->setEnabled(false);
+    button("btnEdit")->hide();
+    refresh();
+}
+
+void TabKartuStok::makeFilters()
+{
+    const QDate today = QDate::currentDate();
+    m_from = filters()->addDate("dateFrom", tr("From Date :"), QDate(today.year(), today.month(), 1));
+    m_to = filters()->addDate("dateTo", tr("To Date :"), today);
+    QLineEdit* code = filters()->addText("txtItem", tr("Item :"));
+    auto* name = new QLineEdit(this);
+    name->setObjectName("txtItemName");
+    name->setReadOnly(true);
+    name->setFocusPolicy(Qt::NoFocus);
+    filters()->add(QString(), name);
+    m_item = new ItemEntry(code, name);
+    connect(m_item, &ItemEntry::chosen, this, &TabKartuStok::onItemSelected);
+}
+
+void TabKartuStok::makeTotals()
+{
+    m_in = new QLabel(this);
+    m_in->setObjectName("lblTotalIn");
+    m_balance = new QLabel(this);
+    m_balance->setObjectName("lblSaldo");
+    auto* totals = new QHBoxLayout;
+    totals->setSpacing(8);
+    totals->addStretch();
+    for (const auto& total : {std::pair(tr("Total In :"), m_in), std::pair(tr("Saldo :"), m_balance)}) {
+        totals->addWidget(new QLabel(total.first, this));
+        totals->addWidget(total.second);
+        total.second->setMinimumWidth(90);
+        total.second->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        QFont font = total.second->font();
+        font.setBold(true);
+        total.second->setFont(font);
+    }
+    static_cast<QVBoxLayout*>(layout())->insertLayout(layout()->indexOf(grid()) + 1, totals);
+}
+
+void TabKartuStok::onItemSelected(EntityItem* item)
+{
+    // Refreshing itself looks a typed code up.
+    if (!item || m_reading)
+        return;
+    const QPointer<QWidget> next = QApplication::focusWidget();
+    refresh();
+    // Whoever has walked on to another field stays there.
+    if (next && next != findChild<QLineEdit*>("txtItem"))
+        next->setFocus();
+}
+
+QList<KorEntity*> TabKartuStok::readRows(const QString&)
+{
+    const QScopedValueRollback<bool> reading(m_reading, true);
+    const EntityItem* item = m_item->item();
+    QList<KorEntity*> rows;
+    const int itemId = item ? item->getId() : KorNoValue;
+    for (EntityItemHistory* row :
+         businessAs<BusinessInventory>()->findAllKartuStok({m_from->date(), m_to->date(), itemId}))
+        rows.append(row);
+    return rows;
+}
+
+KorEntityModel* TabKartuStok::createModel(const QList<KorEntity*>& rows) { return new TableModelKartuStok(rows, this); }
+
+std::unique_ptr<KorDialog> TabKartuStok::createDialog() { return nullptr; }
+
+void TabKartuStok::modelApplied()
+{
+    qint64 in = 0;
+    int balance = 0;
+    for (const KorEntity* entity : model()->entities()) {
+        const auto* row = static_cast<const EntityItemHistory*>(entity);
+        in += row->getQtyIn();
+        balance = row->getQtyRemain();
+    }
+    const QLocale numbers = grid()->locale();
+    m_in->setText(numbers.toString(in));
+    m_balance->setText(numbers.toString(balance));
+    setColumnWidths(grid(), {130, 200, 130, 110, 110});
+}

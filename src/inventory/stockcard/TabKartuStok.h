@@ -1,0 +1,37 @@
+#pragma once
+
+#include "app/widgets/AppDocumentTab.h"
+
+class EntityItem;
+class ItemEntry;
+class QDateEdit;
+
+/** The stock card: what came in and went out of one item in a period. It is for reading only. */
+class TabKartuStok final : public AppDocumentTab
+{
+    Q_OBJECT
+
+public:
+    explicit TabKartuStok(QWidget* parent = nullptr);
+
+public slots:
+    void onItemSelected(EntityItem* item);
+
+protected:
+    QList<KorEntity*> readRows(const QString& filter) override;
+    KorEntityModel* createModel(const QList<KorEntity*>& rows) override;
+    std::unique_ptr<KorDialog> createDialog() override;
+    [[nodiscard]] QString deleteQuestion(const KorEntity*) const override { return {}; }
+    void modelApplied() override;
+
+private:
+    void makeFilters();
+    void makeTotals();
+
+    QDateEdit* m_from;
+    QDateEdit* m_to;
+    ItemEntry* m_item;
+    QLabel* m_in;
+    QLabel* m_balance;
+    bool m_reading = false;
+};
