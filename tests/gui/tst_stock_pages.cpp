@@ -274,7 +274,7 @@ void TestStockPages::theQuantityBeforeFollowsTheDate()
     m_people->expect<DialogInventoryAdj>([](DialogInventoryAdj* form) {
         QTRY_COMPARE(QApplication::activeWindow(), form);
         enter(form, "txtKode", "rice");
-        QCOMPARE(text(form, "txtKode") + ' ' + text(form, "txtQtyOnHand"), QString("RICE 20"));
+        QCOMPARE(text(form, "txtKode") + ' ' + text(form, "txtQtyOnHand"), QString("rice 20"));
         enter(form, "txtStok", "4");
         auto* date = form->findChild<QDateEdit*>("dateQtyOnHand");
         date->setFocus();

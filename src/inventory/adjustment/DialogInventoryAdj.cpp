@@ -5,8 +5,8 @@
 #include "inventory/stock/EntityStockTake.h"
 #include "inventory/stock/QuantityEntry.h"
 #include "kor/business/KorServiceDirectory.h"
-#include "masterdata/bank/BankTextBox.h"
-#include "masterdata/item/ItemEntry.h"
+#include "masterdata/bank/AccountField.h"
+#include "masterdata/item/ItemField.h"
 
 #include "ui_DialogInventoryAdj.h"
 
@@ -16,12 +16,13 @@ DialogInventoryAdj::DialogInventoryAdj(QWidget* parent)
     : KorDialog(parent), m_ui(std::make_unique<Ui::DialogInventoryAdj>())
 {
     m_ui->setupUi(this);
-    m_item = new ItemEntry(m_ui->txtKode, m_ui->txtNama);
-    m_item->setNextWidget(m_ui->txtStok);
-    connect(m_item, &ItemEntry::chosen, this, &DialogInventoryAdj::onItemSelected);
-    m_sources = new BankTextBox(m_ui->txtSourceAccount, service<BusinessBank>("Bank"));
-    m_sources->setNextWidget(m_ui->buttonBox->button(QDialogButtonBox::Ok));
-    connect(m_sources, &KorTextBoxExtender::onItemSelected, this, &DialogInventoryAdj::onSourceSelected);
+    m_item = new ItemField(m_ui->txtKode, m_ui->txtNama, m_read, this);
+    m_item->lookUpWhenLeft();
+    connect(m_item, &ItemField::chosen, this, &DialogInventoryAdj::onItemSelected);
+    // Another code was typed: what stood beside the former one is no longer true. After the field, which forgets first.
+    connect(m_ui->txtKode, &QLineEdit::textEdited, this, &DialogInventoryAdj::readQuantityBefore);
+    m_source = new AccountField(m_ui->txtSourceAccount, m_ui->lblSource, this);
+    m_source->box()->setNextWidget(m_ui->buttonBox->button(QDialogButtonBox::Ok));
     m_ui->ddlReason->addItem(tr("Broken"), Broken);
     m_ui->ddlReason->addItem(tr("Loss"), Loss);
     m_ui->ddlReason->addItem(tr("Other"), Other);
@@ -34,35 +35,32 @@ DialogInventoryAdj::~DialogInventoryAdj() = default;
 
 bool DialogInventoryAdj::validate()
 {
-    if (!m_item->item())
-        addError(m_ui->txtKode, tr("Enter the item code"));
-    else if (m_ui->txtQtyOnHand->text().isEmpty())
-        addError(m_ui->dateQtyOnHand, tr("The quantity on hand is not known, please choose the item again"));
-    const int adjustment = enteredQuantity(*m_ui->txtStok).value_or(0);
+    const bool isItem = m_item->check(tr("Enter the item code"), tr("Enter the item code"));
+    if (isItem && m_ui->txtQtyOnHand->text().isEmpty())
+        readQuantityBefore();
+    if (isItem && m_ui->txtQtyOnHand->text().isEmpty())
+        addError(m_ui->txtKode, tr("The quantity on hand is not known, please choose the item again"));
+    const int adjustment = QuantityEntry::read(*m_ui->txtStok).value_or(0);
     if (adjustment == 0)
         addError(m_ui->txtStok, tr("Enter the qty adjustment of the item"));
-    else if (std::abs(qint64(m_before) + adjustment) > largestQuantity)
+    else if (std::abs(qint64(m_before) + adjustment) > QuantityEntry::largest)
         addError(m_ui->txtStok, tr("The new qty is more than can be counted"));
-    if (requireText(m_ui->txtSourceAccount, m_ui->txtSourceAccount->text().trimmed(), tr("Select GL Source Account"))) {
-        const EntityBank* source = readSource();
-        if (!source)
-            addError(m_ui->txtSourceAccount, tr("Select a valid GL Source Account"));
-        m_sourceCode = source ? source->getKode() : QString();
-    }
+    m_source->check(tr("Select GL Source Account"), tr("Select a valid GL Source Account"));
     return !hasError();
 }
 
 KorEntity* DialogInventoryAdj::getEntity()
 {
     auto* take = heldOrNew<EntityStockTake>();
-    const int adjustment = enteredQuantity(*m_ui->txtStok).value_or(0);
+    const int adjustment = QuantityEntry::read(*m_ui->txtStok).value_or(0);
     take->setItem(m_item->item());
     take->setStockTakeDate(m_ui->dateQtyOnHand->date());
     take->setQtyBefore(m_before);
     take->setQtyAdj(adjustment);
     take->setQty(m_before + adjustment);
     take->setReason(reason());
-    take->setSourceAcctCode(m_sourceCode);
+    if (const EntityBank* source = m_source->account())
+        take->setSourceAcctCode(source->getKode());
     return take;
 }
 
@@ -70,13 +68,14 @@ void DialogInventoryAdj::setEntity(KorEntity* entity) { hold(entity); }
 
 // --- the item and its quantities -----------------------------------------------------------------------------------
 
-void DialogInventoryAdj::onItemSelected(EntityItem* item)
+void DialogInventoryAdj::onItemSelected()
 {
     readQuantityBefore();
-    if (!item)
+    if (!m_item->item())
         return;
-    m_ui->txtSourceAccount->setText(item->getCostOfSalesAcctCode());
-    showSource(readSource());
+    m_source->showCode(m_item->item()->getCostOfSalesAcctCode());
+    if (m_ui->txtKode->hasFocus())
+        m_ui->txtStok->setFocus(Qt::TabFocusReason);
 }
 
 void DialogInventoryAdj::readQuantityBefore()
@@ -97,12 +96,12 @@ void DialogInventoryAdj::readQuantityBefore()
 
 void DialogInventoryAdj::showNewQuantity()
 {
-    const auto adjustment = enteredQuantity(*m_ui->txtStok);
+    const auto adjustment = QuantityEntry::read(*m_ui->txtStok);
     const bool isKnown = adjustment && !m_ui->txtQtyOnHand->text().isEmpty();
     m_ui->txtNewQty->setText(isKnown ? m_ui->txtStok->locale().toString(qint64(m_before) + *adjustment) : QString());
 }
 
-// --- reason and account --------------------------------------------------------------------------------------------
+// --- reason ---------------------------------------------------------------------------------------------------------
 
 void DialogInventoryAdj::on_ddlReason_currentIndexChanged(int)
 {
@@ -114,34 +113,4 @@ QString DialogInventoryAdj::reason() const
 {
     return m_ui->ddlReason->currentData().toInt() == Other ? m_ui->txtOtherReason->text()
                                                            : m_ui->ddlReason->currentText();
-}
-
-void DialogInventoryAdj::onSourceSelected() { showSource(m_sources->selectedItem()); }
-
-void DialogInventoryAdj::on_txtSourceAccount_textEdited() { m_ui->lblSource->clear(); }
-
-void DialogInventoryAdj::on_txtSourceAccount_editingFinished()
-{
-    if (m_ui->lblSource->text().isEmpty() && !m_ui->txtSourceAccount->text().trimmed().isEmpty())
-        showSource(readSource());
-}
-
-EntityBank* DialogInventoryAdj::readSource()
-{
-    const QString code = m_ui->txtSourceAccount->text().trimmed();
-    if (code.isEmpty())
-        return nullptr;
-    const EntityPoolScope scope(m_read);
-    auto* accounts = service<BusinessBank>("Bank");
-    EntityBank* account = accounts->findByCode(code);
-    if (accounts->hasError())
-        showError(accounts->takeErrors());
-    return account;
-}
-
-void DialogInventoryAdj::showSource(const EntityBank* account)
-{
-    // A list that came up now would take the next field's keys.
-    m_sources->preventSuggest();
-    m_ui->lblSource->setText(account ? account->getNama() : QString());
 }

@@ -5,10 +5,8 @@
 
 #include <memory>
 
-class BankTextBox;
-class EntityBank;
-class EntityItem;
-class ItemEntry;
+class AccountField;
+class ItemField;
 
 namespace Ui
 {
@@ -32,26 +30,19 @@ public:
     void setEntity(KorEntity* entity) override;
 
 private slots:
-    void onItemSelected(EntityItem* item);
-    void onSourceSelected();
+    void onItemSelected();
     void on_dateQtyOnHand_dateChanged() { readQuantityBefore(); }
     void on_txtStok_textChanged() { showNewQuantity(); }
     void on_ddlReason_currentIndexChanged(int);
-    void on_txtSourceAccount_textEdited();
-    void on_txtSourceAccount_editingFinished();
 
 private:
     void readQuantityBefore();
     void showNewQuantity();
-    /** The account of the field's code as it stands now, null when there is none. */
-    [[nodiscard]] EntityBank* readSource();
-    void showSource(const EntityBank* account);
     [[nodiscard]] QString reason() const;
 
     std::unique_ptr<Ui::DialogInventoryAdj> m_ui;
     EntityPool m_read;
-    ItemEntry* m_item;
-    BankTextBox* m_sources;
+    ItemField* m_item;
+    AccountField* m_source;
     int m_before = 0;
-    QString m_sourceCode;
 };

@@ -2,16 +2,16 @@
 
 #include "inventory/stock/EntityStokAwal.h"
 #include "inventory/stock/QuantityEntry.h"
-#include "masterdata/item/ItemEntry.h"
+#include "masterdata/item/ItemField.h"
 
 #include "ui_DialogStokAwal.h"
 
 DialogStokAwal::DialogStokAwal(QWidget* parent) : KorDialog(parent), m_ui(std::make_unique<Ui::DialogStokAwal>())
 {
     m_ui->setupUi(this);
-    m_item = new ItemEntry(m_ui->txtKode, m_ui->txtNama);
-    m_item->setNextWidget(m_ui->txtHarga);
-    connect(m_item, &ItemEntry::chosen, this, &DialogStokAwal::onItemSelected);
+    m_item = new ItemField(m_ui->txtKode, m_ui->txtNama, m_read, this);
+    m_item->lookUpWhenLeft();
+    connect(m_item, &ItemField::chosen, this, &DialogStokAwal::onItemSelected);
     focusLater(m_ui->txtKode);
 }
 
@@ -19,14 +19,13 @@ DialogStokAwal::~DialogStokAwal() = default;
 
 bool DialogStokAwal::validate()
 {
-    if (!m_item->item())
-        addError(m_ui->txtKode, tr("Enter the item code"));
+    m_item->check(tr("Enter the item code"), tr("Enter the item code"));
     // An amount that money cannot hold would be saved as another one.
     const bool isCost = m_ui->txtHarga->isValid() && m_ui->txtHarga->value() >= 0 &&
                         std::abs(m_ui->txtHarga->money()->getAmount() - m_ui->txtHarga->value()) < 1;
     if (!isCost)
         addError(m_ui->txtHarga, tr("Enter the unit cost"));
-    if (!enteredQuantity(*m_ui->txtJumlah))
+    if (!QuantityEntry::read(*m_ui->txtJumlah))
         addError(m_ui->txtJumlah, tr("Enter the qty of the item"));
     return !hasError();
 }
@@ -36,7 +35,7 @@ KorEntity* DialogStokAwal::getEntity()
     auto* balance = heldOrNew<EntityStokAwal>();
     balance->setItem(m_item->item());
     balance->setHarga(m_ui->txtHarga->money());
-    balance->setJumlah(enteredQuantity(*m_ui->txtJumlah).value_or(0));
+    balance->setJumlah(QuantityEntry::read(*m_ui->txtJumlah).value_or(0));
     return balance;
 }
 
@@ -44,16 +43,18 @@ void DialogStokAwal::setEntity(KorEntity* entity)
 {
     hold(entity);
     const auto* balance = held<EntityStokAwal>();
-    m_item->setItem(balance->getItem());
-    m_ui->txtKode->setReadOnly(true);
-    m_ui->txtKode->setFocusPolicy(Qt::NoFocus);
+    m_item->show(balance->getItem());
+    m_item->freeze();
     m_ui->txtHarga->setMoney(balance->getHarga());
     m_ui->txtJumlah->setValue(balance->getJumlah());
     focusLater(m_ui->txtJumlah);
 }
 
-void DialogStokAwal::onItemSelected(EntityItem* item)
+void DialogStokAwal::onItemSelected()
 {
-    if (item)
-        m_ui->txtHarga->setMoney(item->getHargaBeli());
+    if (!m_item->item())
+        return;
+    m_ui->txtHarga->setMoney(m_item->item()->getHargaBeli());
+    if (m_ui->txtKode->hasFocus())
+        m_ui->txtHarga->setFocus(Qt::TabFocusReason);
 }

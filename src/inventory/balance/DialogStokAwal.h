@@ -1,11 +1,11 @@
 #pragma once
 
+#include "app/context/EntityPool.h"
 #include "kor/widgets/KorDialog.h"
 
 #include <memory>
 
-class EntityItem;
-class ItemEntry;
+class ItemField;
 
 namespace Ui
 {
@@ -27,9 +27,10 @@ public:
 
 private slots:
     /** Proposes the item's own unit cost. */
-    void onItemSelected(EntityItem* item);
+    void onItemSelected();
 
 private:
     std::unique_ptr<Ui::DialogStokAwal> m_ui;
-    ItemEntry* m_item;
+    EntityPool m_read;
+    ItemField* m_item;
 };

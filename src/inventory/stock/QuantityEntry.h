@@ -5,16 +5,20 @@
 #include <cmath>
 #include <optional>
 
-/** More than any storeroom holds, and little enough that two of them can be added. */
-inline constexpr int largestQuantity = 999'999'999;
-
-/** The whole number in the field; nothing for an empty field, a fraction, and what is no number or too large a one. */
-[[nodiscard]] inline std::optional<int> enteredQuantity(AppNumberEdit& field)
+/** The quantities that forms of the storeroom take. */
+struct QuantityEntry
 {
-    if (!field.isValid())
-        return std::nullopt;
-    const double number = field.value();
-    if (std::abs(number) > largestQuantity || number != std::floor(number))
-        return std::nullopt;
-    return static_cast<int>(number);
-}
+    /** More than any storeroom holds, and little enough that two of them can be added. */
+    static constexpr int largest = 999'999'999;
+
+    /** The whole number in the field; nothing for an empty one, a fraction, and what is no number or too large. */
+    [[nodiscard]] static std::optional<int> read(AppNumberEdit& field)
+    {
+        if (!field.isValid())
+            return std::nullopt;
+        const double number = field.value();
+        if (std::abs(number) > largest || number != std::floor(number))
+            return std::nullopt;
+        return static_cast<int>(number);
+    }
+};

@@ -5,7 +5,7 @@
 #include "inventory/stock/EntityItemHistory.h"
 #include "inventory/stockcard/TableModelKartuStok.h"
 #include "kor/widgets/KorDialog.h"
-#include "masterdata/item/ItemEntry.h"
+#include "masterdata/item/ItemField.h"
 
 #include <QApplication>
 #include <QDateEdit>
@@ -13,7 +13,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QScopedValueRollback>
 #include <QTableView>
 
 TabKartuStok::TabKartuStok(QWidget* parent)
@@ -38,8 +37,9 @@ void TabKartuStok::makeFilters()
     name->setReadOnly(true);
     name->setFocusPolicy(Qt::NoFocus);
     filters()->add(QString(), name);
-    m_item = new ItemEntry(code, name);
-    connect(m_item, &ItemEntry::chosen, this, &TabKartuStok::onItemSelected);
+    m_item = new ItemField(code, name, m_read, nullptr);
+    m_item->lookUpWhenLeft();
+    connect(m_item, &ItemField::chosen, this, &TabKartuStok::onItemSelected);
 }
 
 void TabKartuStok::makeTotals()
@@ -63,24 +63,23 @@ void TabKartuStok::makeTotals()
     static_cast<QVBoxLayout*>(layout())->insertLayout(layout()->indexOf(grid()) + 1, totals);
 }
 
-void TabKartuStok::onItemSelected(EntityItem* item)
+void TabKartuStok::onItemSelected()
 {
-    // Refreshing itself looks a typed code up.
-    if (!item || m_reading)
-        return;
     const QPointer<QWidget> next = QApplication::focusWidget();
     refresh();
     // Whoever has walked on to another field stays there.
-    if (next && next != findChild<QLineEdit*>("txtItem"))
+    if (next && next != m_item->box()->editor())
         next->setFocus();
 }
 
 QList<KorEntity*> TabKartuStok::readRows(const QString&)
 {
-    const QScopedValueRollback<bool> reading(m_reading, true);
-    const EntityItem* item = m_item->item();
+    // Whoever refreshes has typed to the end: no list of suggestions follows.
+    m_item->box()->preventSuggest();
+    if (const QString failure = m_item->lookUp(); !failure.isEmpty())
+        business()->addError("findAllKartuStok", failure.trimmed());
+    const int itemId = m_item->item() ? m_item->item()->getId() : KorNoValue;
     QList<KorEntity*> rows;
-    const int itemId = item ? item->getId() : KorNoValue;
     for (EntityItemHistory* row :
          businessAs<BusinessInventory>()->findAllKartuStok({m_from->date(), m_to->date(), itemId}))
         rows.append(row);

@@ -2,8 +2,7 @@
 
 #include "app/widgets/AppDocumentTab.h"
 
-class EntityItem;
-class ItemEntry;
+class ItemField;
 class QDateEdit;
 
 /** The stock card: what came in and went out of one item in a period. It is for reading only. */
@@ -15,7 +14,7 @@ public:
     explicit TabKartuStok(QWidget* parent = nullptr);
 
 public slots:
-    void onItemSelected(EntityItem* item);
+    void onItemSelected();
 
 protected:
     QList<KorEntity*> readRows(const QString& filter) override;
@@ -30,8 +29,8 @@ private:
 
     QDateEdit* m_from;
     QDateEdit* m_to;
-    ItemEntry* m_item;
+    EntityPool m_read;
+    ItemField* m_item;
     QLabel* m_in;
     QLabel* m_balance;
-    bool m_reading = false;
 };

@@ -6,7 +6,7 @@
 #include <QKeyEvent>
 
 ItemField::ItemField(QLineEdit* code, QLineEdit* name, EntityPool& items, KorDialog* form)
-    : QObject(form), m_code(code), m_name(name), m_items(items), m_form(form),
+    : QObject(code), m_code(code), m_name(name), m_items(items), m_form(form),
       m_box(new ItemTextBox(code, service<BusinessItem>("Item")))
 {
     code->installEventFilter(this);
@@ -34,6 +34,17 @@ void ItemField::freeze()
 {
     m_code->setEnabled(false);
     m_name->setEnabled(false);
+}
+
+void ItemField::lookUpWhenLeft()
+{
+    connect(m_code, &QLineEdit::editingFinished, this, [this] {
+        const EntityItem* former = m_item;
+        // What fails here is told when the form is confirmed.
+        const QString failure = lookUp();
+        if (failure.isEmpty() && m_item && m_item != former)
+            emit chosen();
+    });
 }
 
 QString ItemField::lookUp()

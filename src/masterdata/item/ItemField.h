@@ -14,6 +14,7 @@ class ItemField : public QObject
     Q_OBJECT
 
 public:
+    /** The form may be missing where nothing is checked, as in a filter. */
     ItemField(QLineEdit* code, QLineEdit* name, EntityPool& items, KorDialog* form);
 
     [[nodiscard]] ItemTextBox* box() const { return m_box; }
@@ -23,6 +24,10 @@ public:
     bool check(const QString& missing, const QString& unknown);
     /** An item that is to stay as it is. */
     void freeze();
+    /** For forms that tell something about the item at once: a typed code counts as soon as the box is left. */
+    void lookUpWhenLeft();
+    /** Takes the item of the code that stands in the box; a failure to read is what comes back. */
+    [[nodiscard]] QString lookUp();
 
 signals:
     /** Another item was chosen by the user, or none. */
@@ -32,9 +37,6 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    /** Takes the item of the code that stands in the box; a failure to read is what comes back. */
-    [[nodiscard]] QString lookUp();
-
     QLineEdit* m_code;
     QLineEdit* m_name;
     EntityPool& m_items;
