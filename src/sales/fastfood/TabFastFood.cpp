@@ -78,7 +78,11 @@ QList<KorEntity*> TabFastFood::readRows(const QString&)
 
 KorEntityModel* TabFastFood::createModel(const QList<KorEntity*>& rows) { return new TableModelFastFood(rows, this); }
 
-void TabFastFood::modelApplied() { setColumnWidths(grid(), {130, 180, 140, 130, 130, 110, 130}); }
+void TabFastFood::modelApplied()
+{
+    // The names give way to the money and the date, which are never cut.
+    setColumnWidths(grid(), {135, 140, 125, 150, 150, 115, 150});
+}
 
 // --- a sale --------------------------------------------------------------------------------------------------------
 
@@ -124,7 +128,8 @@ void TabFastFood::entitySaved(KorEntity* sale)
 
 bool TabFastFood::removeEntity(KorEntity* sale)
 {
-    return businessAs<BusinessPenjualan>()->deleteSales(static_cast<EntityInvoiceFastFood*>(sale)->getInvoice());
+    return businessAs<BusinessPenjualan>()->deleteSales(static_cast<EntityInvoiceFastFood*>(sale)->getInvoice()) &&
+           !business()->hasError();
 }
 
 QString TabFastFood::deleteQuestion(const KorEntity* entity) const

@@ -17,9 +17,7 @@ QString menuOf(const EntityInvoiceFastFood& sale)
 } // namespace
 
 TableModelFastFood::TableModelFastFood(const QList<KorEntity*>& sales, QObject* parent)
-    : AppEntityModel(sales, parent), m_marks{{Invoice::FULL_PAID, QIcon(":/icons/status_paid.png")},
-                                             {Invoice::PARTIALLY_PAID, QIcon(":/icons/status_partial.png")},
-                                             {Invoice::UNPAID, QIcon(":/icons/status_unpaid.png")}}
+    : AppEntityModel(sales, parent), m_marks(invoiceStatusMarks())
 {
     using Sale = EntityInvoiceFastFood;
     const auto text = [this](const QString& header, auto read) { addField<Sale>(QMetaType::QString, header, read); };

@@ -1,5 +1,6 @@
 #include "sales/invoice/InvoiceStatusText.h"
 
+#include "app/widgets/StatusMark.h"
 #include "sales/invoice/Invoice.h"
 
 QString invoiceStatusText(int status)
@@ -14,4 +15,11 @@ QString invoiceStatusText(int status)
     default:
         return {};
     }
+}
+
+QHash<int, QIcon> invoiceStatusMarks()
+{
+    return {{Invoice::FULL_PAID, statusMark("paid")},
+            {Invoice::PARTIALLY_PAID, statusMark("partial")},
+            {Invoice::UNPAID, statusMark("unpaid")}};
 }

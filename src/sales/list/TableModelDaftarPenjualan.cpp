@@ -1,13 +1,10 @@
 #include "sales/list/TableModelDaftarPenjualan.h"
 
-#include "app/widgets/StatusMark.h"
 #include "sales/invoice/InvoiceStatusText.h"
 #include "sales/list/EntityPenjualanInfo.h"
 
 TableModelDaftarPenjualan::TableModelDaftarPenjualan(const QList<KorEntity*>& sales, QObject* parent)
-    : AppEntityModel(sales, parent), m_marks{{Invoice::FULL_PAID, statusMark("paid")},
-                                             {Invoice::PARTIALLY_PAID, statusMark("partial")},
-                                             {Invoice::UNPAID, statusMark("unpaid")}}
+    : AppEntityModel(sales, parent), m_marks(invoiceStatusMarks())
 {
     using Sale = EntityPenjualanInfo;
     const auto text = [this](const QString& header, auto read) { addField<Sale>(QMetaType::QString, header, read); };
