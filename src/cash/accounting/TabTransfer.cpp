@@ -8,12 +8,14 @@
 #include "cash/accounting/TableModelAccountingTransaction.h"
 
 #include <QDateEdit>
+#include <QHeaderView>
 #include <QTableView>
 
 namespace
 {
 constexpr int filtersPerRow = 2;
-}
+constexpr int headerMargin = 12;
+} // namespace
 
 TabTransfer::TabTransfer(QWidget* parent)
     : AppDocumentTab({tr("Transferring Funds"), "tblTransfer", "Accounting Transaction"}, filtersPerRow, parent)
@@ -21,6 +23,11 @@ TabTransfer::TabTransfer(QWidget* parent)
     const QDate today = QDate::currentDate();
     m_from = filters()->addDate("dateFrom", tr("From Date :"), today.addDays(1 - today.day()));
     m_to = filters()->addDate("dateTo", tr("To Date :"), today);
+    // The headers of the accounts are longer than what stands below them.
+    QHeaderView* header = grid()->horizontalHeader();
+    header->setDefaultAlignment(Qt::AlignCenter | static_cast<Qt::Alignment>(Qt::TextWordWrap));
+    header->setMinimumHeight(2 * header->fontMetrics().lineSpacing() + headerMargin);
+    grid()->setWordWrap(false);
     refresh();
 }
 
@@ -38,7 +45,8 @@ void TabTransfer::modelApplied()
 {
     using Model = TableModelAccountingTransaction;
     for (const auto& width :
-         {std::pair(Model::FromName, 150), std::pair(Model::ToName, 150), std::pair(Model::Description, 150)})
+         {std::pair(Model::FromCode, 112), std::pair(Model::FromName, 170), std::pair(Model::ToCode, 112),
+          std::pair(Model::ToName, 170), std::pair(Model::Description, 150)})
         grid()->setColumnWidth(width.first, width.second);
 }
 

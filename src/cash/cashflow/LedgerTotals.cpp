@@ -11,7 +11,6 @@ LedgerTotals::LedgerTotals(QWidget* parent) : QWidget(parent)
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(8);
-    row->addStretch(1);
     m_debit = addField(row, "txtTotalDebit", tr("Total Debit :"));
     m_credit = addField(row, "txtTotalCredit", tr("Total Credit :"));
     m_balance = addField(row, "txtEndingBalance", tr("Ending Balance :"));
@@ -28,8 +27,13 @@ MoneyEdit* LedgerTotals::addField(QHBoxLayout* row, const QString& name, const Q
     field->setFont(bold);
     auto* caption = new QLabel(label, this);
     caption->setBuddy(field);
-    row->addWidget(caption);
-    row->addWidget(field, 2);
+    caption->setAlignment(Qt::AlignRight);
+    // One above the other: beside each other they would leave a year's sum no room in a small window.
+    auto* column = new QVBoxLayout;
+    column->setSpacing(2);
+    column->addWidget(caption);
+    column->addWidget(field);
+    row->addLayout(column);
     return field;
 }
 

@@ -27,6 +27,7 @@ TabCashFlow::TabCashFlow(QWidget* parent)
 {
     makeFilters();
     addFoot(m_totals);
+    grid()->setWordWrap(false);
     refresh();
 }
 
@@ -42,6 +43,8 @@ void TabCashFlow::makeFilters()
     m_to = filters()->addDate("dateTo", tr("To Date :"), today);
     m_accountName = new QLabel(this);
     m_accountName->setObjectName("lblAccountName");
+    // A long name is cut rather than making the page wider.
+    m_accountName->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     filters()->add(tr("Account Name :"), m_accountName);
     connect(m_code, &QLineEdit::textEdited, m_accountName, &QLabel::clear);
     m_accounts = new BankTextBox(m_code, service<BusinessBank>("Bank"));
@@ -81,7 +84,8 @@ void TabCashFlow::modelApplied()
 {
     using Model = TableModelCashFlow;
     for (const auto& width :
-         {std::pair(Model::AccountName, 200), std::pair(Model::Type, 150), std::pair(Model::Description, 150)})
+         {std::pair(Model::AccountCode, 118), std::pair(Model::TransNo, 142), std::pair(Model::AccountName, 200),
+          std::pair(Model::Type, 150), std::pair(Model::Description, 150)})
         grid()->setColumnWidth(width.first, width.second);
     const QList<KorEntity*> rows = model()->entities();
     m_totals->show(rows);
