@@ -409,23 +409,28 @@ void TestKitchen::noTickComesInWhileASlipIsBeingPrinted()
 
     m_people.reset();
     QString text;
+    int sent = -1;
     QTimer whileTheBoxIsUp;
     connect(&whileTheBoxIsUp, &QTimer::timeout, this, [&] {
         auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         if (!box)
             return;
+        const bool isFirst = text.isEmpty();
         text += box->text();
+        box->close();
+        if (!isFirst)
+            return;
         const StatementCount statements;
         tick();
         click("btnRefresh");
         click("btnPrint");
         click("btnSendStatus");
-        QCOMPARE(statements.count(), 0);
-        box->close();
+        sent = statements.count();
     });
     whileTheBoxIsUp.start(0);
     click("btnPrint");
     whileTheBoxIsUp.stop();
+    QCOMPARE(sent, 0);
     QCOMPARE(text.count("Error Opening Printer:"), 1);
     tick();
     QCOMPARE(orders()->model()->rowCount(), 2);
