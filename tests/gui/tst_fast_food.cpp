@@ -55,7 +55,6 @@ private slots:
     void aSaleIsKeyedInAndPaidByTheKeyboardAlone();
     void theMoneyDecidesWhereTheSaleStands_data();
     void theMoneyDecidesWhereTheSaleStands();
-    void whatIsMissingIsTold();
     void aSaveThatFailsKeepsWhatWasTyped();
     void anEditKeepsTheNumberAndReplacesTheLines();
     void anEditThatSomebodyElseWasFasterWithIsTold();
@@ -265,24 +264,6 @@ void TestFastFood::theMoneyDecidesWhereTheSaleStands()
     // The counter stores the figure that it shows: what is short is negative.
     QCOMPARE(stored("status, amount_paid_amount, other_payment_amount, net_due_amount"), figures);
     QCOMPARE(slips(), QStringList());
-}
-
-void TestFastFood::whatIsMissingIsTold()
-{
-    show();
-    m_people->expect<DialogFastFood>([](DialogFastFood* form) {
-        type(form, "txtCashAccount", "9999");
-        QTest::keyClick(form->focusWidget(), Qt::Key_Return);
-        form->findChild<QLineEdit*>("txtCashAccount")->clear();
-        QTest::keyClick(form, Qt::Key_Return);
-        QVERIFY(form->isVisible());
-        QTest::keyClick(form, Qt::Key_Escape);
-    });
-    press(Qt::Key_F12);
-    QTRY_VERIFY(m_people->finished());
-    QCOMPARE(m_people->texts(), (QStringList{"Add one or more menu\r\nPlease select a valid Cash Accounts\r\n",
-                                             "Add one or more menu\r\nPlease select a Cash Accounts\r\n"}));
-    QCOMPARE(stored("id"), QString());
 }
 
 void TestFastFood::aSaveThatFailsKeepsWhatWasTyped()
