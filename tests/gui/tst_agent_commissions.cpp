@@ -5,18 +5,13 @@
 #include "sales/commission/TabAllKomisiAgen.h"
 #include "sales/commission/TabKomisiAgen.h"
 #include "sales/service/BusinessPenjualan.h"
-#include "support/ModalDriver.h"
+#include "support/Hands.h"
 #include "support/SalesRows.h"
 #include "support/ShopRows.h"
 #include "support/TestDatabase.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QTableView>
-#include <QTest>
 
 /** What agents earn, from the list of what they brought to the payment, with keyboard and mouse. */
 class TestAgentCommissions : public QObject
@@ -43,16 +38,10 @@ private slots:
 private:
     template <class Page>
     void show();
-    /** Works on the form behind the button of the page until it is closed, saved or given up. */
-    void onForm(const char* button, const std::function<void(DialogKomisiAgen*)>& work);
-    static QLineEdit* box(QWidget* form, const char* name) { return form->findChild<QLineEdit*>(name); }
-    static void type(QWidget* form, const char* name, const QString& text);
-    static void click(QWidget* page, const char* button);
-    static void choose(QWidget* page, int row) { page->findChild<QTableView*>()->selectRow(row); }
-    static QStringList row(const QWidget* page, int row);
-    static int rows(const QWidget* page) { return page->findChild<QTableView*>()->model()->rowCount(); }
-    static void confirm(QWidget* form) { QTest::keyClick(box(form, "txtNoRef"), Qt::Key_Return); }
-    static void giveUp(QWidget* form) { QTest::keyClick(form, Qt::Key_Escape); }
+    void onForm(const char* button, const std::function<void(DialogKomisiAgen*)>& work)
+    {
+        ::onForm<DialogKomisiAgen>(*m_people, m_page.get(), button, work);
+    }
     /** Pays the shop's agent for all that is pending, from the page of payments. */
     void payAll();
     QString value(const QString& statement) { return m_database->value(statement).toString(); }
@@ -98,53 +87,19 @@ template <class Page>
 void TestAgentCommissions::show()
 {
     m_page = std::make_unique<Page>();
-    m_page->resize(1100, 600);
-    m_page->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_page.get()));
-}
-
-void TestAgentCommissions::onForm(const char* button, const std::function<void(DialogKomisiAgen*)>& work)
-{
-    m_people->expect<DialogKomisiAgen>([work](DialogKomisiAgen* form) {
-        QApplication::setActiveWindow(form);
-        work(form);
-    });
-    click(m_page.get(), button);
-    QVERIFY(m_people->finished());
-}
-
-void TestAgentCommissions::type(QWidget* form, const char* name, const QString& text)
-{
-    box(form, name)->setFocus(Qt::TabFocusReason);
-    box(form, name)->selectAll();
-    QTest::keyClicks(box(form, name), text);
-    QTest::keyClick(box(form, name), Qt::Key_Tab);
-}
-
-void TestAgentCommissions::click(QWidget* page, const char* button)
-{
-    QTest::mouseClick(page->findChild<QPushButton*>(button), Qt::LeftButton);
-}
-
-QStringList TestAgentCommissions::row(const QWidget* page, int row)
-{
-    const QAbstractItemModel* model = page->findChild<QTableView*>()->model();
-    QStringList cells;
-    for (int column = 0; row < model->rowCount() && column < model->columnCount(); ++column)
-        cells.append(model->index(row, column).data().toString());
-    return cells;
+    showPage(m_page.get());
 }
 
 void TestAgentCommissions::payAll()
 {
     show<TabKomisiAgen>();
     onForm("btnAdd", [](DialogKomisiAgen* form) {
-        type(form, "txtAgen", "a1");
-        type(form, "txtExpenseAccount", "1-100");
-        type(form, "txtPaid", "100");
-        confirm(form);
+        enter(form, "txtAgen", "a1");
+        enter(form, "txtExpenseAccount", "1-100");
+        enter(form, "txtPaid", "100");
+        confirm(form, "txtNoRef");
     });
-    QCOMPARE(rows(m_page.get()), 1);
+    QCOMPARE(rowsOf(m_page.get()), 1);
 }
 
 // --- the list of sales ---------------------------------------------------------------------------------------------
@@ -152,22 +107,22 @@ void TestAgentCommissions::payAll()
 void TestAgentCommissions::thePaymentIsOpenedFromTheListOfSales()
 {
     show<TabAllKomisiAgen>();
-    QCOMPARE(row(m_page.get(), 1).mid(2), (QStringList{"Guide", "Rp505,00", "10", "Rp51,00", "Unpaid"}));
+    QCOMPARE(cells(m_page.get(), 1).mid(2), (QStringList{"Guide", "Rp505,00", "10", "Rp51,00", "Unpaid"}));
     choose(m_page.get(), 1);
     onForm("btnAdd", [](DialogKomisiAgen* form) {
         QCOMPARE(form->windowTitle(), QString("Agent Commission Payment Form"));
-        QCOMPARE(box(form, "txtAgen")->text(), QString("A1"));
-        QCOMPARE(box(form, "txtAddress")->text(), QString("Street 2"));
-        QCOMPARE(box(form, "txtPerc")->text(), QString("10"));
+        QCOMPARE(shown(form, "txtAgen"), QString("A1"));
+        QCOMPARE(shown(form, "txtAddress"), QString("Street 2"));
+        QCOMPARE(shown(form, "txtPerc"), QString("10"));
         // All that is pending of the agent.
-        QCOMPARE(row(form, 0).mid(2), (QStringList{"Mary", "Rp300,00", "10", "Rp30,00"}));
-        QCOMPARE(box(form, "txtGrandTotal")->text(), QString("81,00"));
-        type(form, "txtExpenseAccount", "1-100");
+        QCOMPARE(cells(form, 0).mid(2), (QStringList{"Mary", "Rp300,00", "10", "Rp30,00"}));
+        QCOMPARE(shown(form, "txtGrandTotal"), QString("81,00"));
+        enter(form, "txtExpenseAccount", "1-100");
         QCOMPARE(form->findChild<QLabel*>("lblExpenseAccount")->text(), QString("Cash"));
-        type(form, "txtPaid", "81");
-        confirm(form);
+        enter(form, "txtPaid", "81");
+        confirm(form, "txtNoRef");
     });
-    QTRY_COMPARE(row(m_page.get(), 1).last(), QString("Fully Paid"));
+    QTRY_COMPARE(cells(m_page.get(), 1).last(), QString("Fully Paid"));
     QCOMPARE(value("SELECT concat_ws(' ', no, grandtotal_amount, amount_paid_amount, net_due_amount, bank_id) FROM "
                    "komisi_agen"),
              QString("KAG-0007 81 81 0 1"));
@@ -178,11 +133,11 @@ void TestAgentCommissions::thePaymentIsOpenedFromTheListOfSales()
     // A paid row opens the payment that paid it.
     choose(m_page.get(), 0);
     onForm("btnAdd", [](DialogKomisiAgen* form) {
-        QCOMPARE(box(form, "txtKode")->text(), QString("KAG-0007"));
-        QCOMPARE(rows(form), 2);
-        QCOMPARE(box(form, "txtPaid")->text(), QString("81,00"));
-        type(form, "txtPaid", "90");
-        confirm(form);
+        QCOMPARE(shown(form, "txtKode"), QString("KAG-0007"));
+        QCOMPARE(rowsOf(form), 2);
+        QCOMPARE(shown(form, "txtPaid"), QString("81,00"));
+        enter(form, "txtPaid", "90");
+        confirm(form, "txtNoRef");
     });
     QTRY_COMPARE(value("SELECT concat_ws(' ', amount_paid_amount, net_due_amount) FROM komisi_agen"), QString("90 -9"));
 }
@@ -190,7 +145,7 @@ void TestAgentCommissions::thePaymentIsOpenedFromTheListOfSales()
 void TestAgentCommissions::takeAwayIsNeverListed()
 {
     show<TabAllKomisiAgen>();
-    QCOMPARE(rows(m_page.get()), 2);
+    QCOMPARE(rowsOf(m_page.get()), 2);
     QCOMPARE(pending(), 2);
 }
 
@@ -208,17 +163,17 @@ void TestAgentCommissions::theListFollowsTodaysPercentAndItsFilters()
     insertSale(*m_database, sale);
     show<TabAllKomisiAgen>();
     // Paid at ten percent, shown at what the agent gets today; the lines keep what was paid.
-    QCOMPARE(row(m_page.get(), 1).mid(3), (QStringList{"Rp300,00", "12,5", "Rp38,00", "Fully Paid"}));
+    QCOMPARE(cells(m_page.get(), 1).mid(3), (QStringList{"Rp300,00", "12,5", "Rp38,00", "Fully Paid"}));
     QCOMPARE(value("SELECT sum(commision_amount) FROM komisi_agen_detail"), QString("81"));
 
     const auto found = [this](const QString& status, const QString& agent) {
         auto* choice = m_page->findChild<QComboBox*>("ddlStatus");
         choice->setCurrentText(status);
-        type(m_page.get(), "txtAgent", agent);
+        enter(m_page.get(), "txtAgent", agent);
         click(m_page.get(), "btnSearch");
         QStringList numbers;
-        for (int at = 0; at < rows(m_page.get()); ++at)
-            numbers.append(row(m_page.get(), at).first());
+        for (int at = 0; at < rowsOf(m_page.get()); ++at)
+            numbers.append(cells(m_page.get(), at).first());
         return numbers.join(' ');
     };
     QCOMPARE(found("All", ""), QString("TRF-2 TRF-1 TRD-1"));
@@ -237,7 +192,7 @@ void TestAgentCommissions::aPaymentThatWentMeanwhileIsTold()
     choose(m_page.get(), 0);
     click(m_page.get(), "btnAdd");
     QCOMPARE(m_people->texts(), QStringList("Can not find invoice of this agent"));
-    QCOMPARE(row(m_page.get(), 0).last(), QString("Unpaid"));
+    QCOMPARE(cells(m_page.get(), 0).last(), QString("Unpaid"));
 }
 
 // --- the form ------------------------------------------------------------------------------------------------------
@@ -247,19 +202,15 @@ void TestAgentCommissions::aPercentIsSetForOneInvoice_data()
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QString>("line");
     QTest::addColumn<QString>("total");
-    const QString unchanged = "10 Rp51,00";
-    QTest::newRow("more") << "12,5"
-                          << "12,5 Rp63,00"
-                          << "93,00";
-    QTest::newRow("none") << "0"
-                          << "0 Rp0,00"
-                          << "30,00";
-    QTest::newRow("all of it") << "100"
-                               << "100 Rp505,00"
-                               << "535,00";
-    QTest::newRow("more than all") << "100,01" << unchanged << "81,00";
-    QTest::newRow("less than nothing") << "-1" << unchanged << "81,00";
-    QTest::newRow("no number") << "x" << unchanged << "81,00";
+    const auto row = [](const char* name, const QString& typed, const QString& line, const QString& total) {
+        QTest::newRow(name) << typed << line << total;
+    };
+    row("more", "12,5", "12,5 Rp63,00", "93,00");
+    row("none", "0", "0 Rp0,00", "30,00");
+    row("all of it", "100", "100 Rp505,00", "535,00");
+    row("more than all", "100,01", "10 Rp51,00", "81,00");
+    row("less than nothing", "-1", "10 Rp51,00", "81,00");
+    row("no number", "x", "10 Rp51,00", "81,00");
 }
 
 void TestAgentCommissions::aPercentIsSetForOneInvoice()
@@ -267,13 +218,13 @@ void TestAgentCommissions::aPercentIsSetForOneInvoice()
     QFETCH(QString, typed);
     show<TabKomisiAgen>();
     onForm("btnAdd", [&](DialogKomisiAgen* form) {
-        type(form, "txtAgen", "A1");
+        enter(form, "txtAgen", "A1");
         choose(form, 1);
         m_people->expect<DialogSetPercentage>([&](DialogSetPercentage* one) {
             QApplication::setActiveWindow(one);
             QVERIFY(box(one, "txtPerc")->hasFocus());
-            QCOMPARE(box(one, "txtInvoiceNo")->text(), QString("TRD-1"));
-            QCOMPARE(box(one, "txtTotal")->text(), QString("505,00"));
+            QCOMPARE(shown(one, "txtInvoiceNo"), QString("TRD-1"));
+            QCOMPARE(shown(one, "txtTotal"), QString("505,00"));
             QTest::keyClicks(box(one, "txtPerc"), typed);
             QTest::keyClick(box(one, "txtPerc"), Qt::Key_Return);
             if (one->isVisible()) {
@@ -282,8 +233,8 @@ void TestAgentCommissions::aPercentIsSetForOneInvoice()
             }
         });
         click(form, "btnSetPerc");
-        QTEST(row(form, 1).mid(4).join(' '), "line");
-        QTEST(box(form, "txtGrandTotal")->text(), "total");
+        QTEST(cells(form, 1).mid(4).join(' '), "line");
+        QTEST(shown(form, "txtGrandTotal"), "total");
         giveUp(form);
     });
 }
@@ -291,17 +242,13 @@ void TestAgentCommissions::aPercentIsSetForOneInvoice()
 void TestAgentCommissions::whatIsStillDueIsTold_data()
 {
     QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("label");
-    QTest::addColumn<QString>("due");
-    QTest::newRow("too little") << "80"
-                                << "Less :"
-                                << "1,00";
-    QTest::newRow("exact") << "81"
-                           << "Change :"
-                           << "0,00";
-    QTest::newRow("too much") << "100"
-                              << "Change :"
-                              << "-19,00";
+    QTest::addColumn<QString>("told");
+    const auto row = [](const char* name, const QString& typed, const QString& told) {
+        QTest::newRow(name) << typed << told;
+    };
+    row("too little", "80", "Less : 1,00");
+    row("exact", "81", "Change : 0,00");
+    row("too much", "100", "Change : -19,00");
 }
 
 void TestAgentCommissions::whatIsStillDueIsTold()
@@ -309,12 +256,11 @@ void TestAgentCommissions::whatIsStillDueIsTold()
     QFETCH(QString, typed);
     show<TabKomisiAgen>();
     onForm("btnAdd", [&](DialogKomisiAgen* form) {
-        type(form, "txtAgen", "A1");
+        enter(form, "txtAgen", "A1");
         box(form, "txtPaid")->setFocus(Qt::TabFocusReason);
         QTest::keyClicks(box(form, "txtPaid"), typed);
-        QTEST(box(form, "txtNetDue")->text(), "due");
-        QTEST(form->findChild<QLabel*>("lblNetDue")->text(), "label");
-        QCOMPARE(box(form, "txtPaid")->text(), typed);
+        QTEST(form->findChild<QLabel*>("lblNetDue")->text() + ' ' + shown(form, "txtNetDue"), "told");
+        QCOMPARE(shown(form, "txtPaid"), typed);
         giveUp(form);
     });
 }
@@ -326,30 +272,17 @@ void TestAgentCommissions::aPaymentMustBeWhole_data()
     QTest::addColumn<QString>("account");
     QTest::addColumn<QString>("paid");
     QTest::addColumn<QStringList>("told");
+    const auto row = [](const char* name, const QString& agent, const QString& percent, const QString& account,
+                        const QString& paid, const QStringList& told) {
+        QTest::newRow(name) << agent << percent << account << paid << told;
+    };
     const QString less = "The amount paid less than the total invoice";
-    QTest::newRow("an empty form") << ""
-                                   << "10"
-                                   << ""
-                                   << ""
-                                   << QStringList{"Select an agent", "Add one or more sales invoices", less,
-                                                  "Please select an Expense Account"};
-    QTest::newRow("an agent without a percent")
-        << "A1"
-        << "0"
-        << "1-100"
-        << "5" << QStringList{"Enter the amount paid for this Invoice no: TRF-1"};
-    QTest::newRow("less than the whole") << "A1"
-                                         << "10"
-                                         << "1-100"
-                                         << "80" << QStringList{less};
-    QTest::newRow("no number") << "A1"
-                               << "10"
-                               << "1-100"
-                               << "81x" << QStringList{"Please enter a number"};
-    QTest::newRow("an unknown account") << "A1"
-                                        << "10"
-                                        << "9"
-                                        << "81" << QStringList{"Please select a valid Expense Account"};
+    row("an empty form", "", "10", "", "",
+        {"Select an agent", "Add one or more sales invoices", less, "Please select an Expense Account"});
+    row("an agent without a percent", "A1", "0", "1-100", "5", {"Enter the amount paid for this Invoice no: TRF-1"});
+    row("less than the whole", "A1", "10", "1-100", "80", {less});
+    row("no number", "A1", "10", "1-100", "81x", {"Please enter a number"});
+    row("an unknown account", "A1", "10", "9", "81", {"Please select a valid Expense Account"});
 }
 
 void TestAgentCommissions::aPaymentMustBeWhole()
@@ -362,10 +295,10 @@ void TestAgentCommissions::aPaymentMustBeWhole()
     m_database->run("UPDATE agent SET commision_perc = " + percent);
     show<TabKomisiAgen>();
     onForm("btnAdd", [&](DialogKomisiAgen* form) {
-        type(form, "txtAgen", agent);
-        type(form, "txtExpenseAccount", account);
-        type(form, "txtPaid", paid);
-        confirm(form);
+        enter(form, "txtAgen", agent);
+        enter(form, "txtExpenseAccount", account);
+        enter(form, "txtPaid", paid);
+        confirm(form, "txtNoRef");
         QVERIFY(form->isVisible());
         QCOMPARE(m_people->texts(), QStringList(told.join("\r\n") + "\r\n"));
         giveUp(form);
@@ -379,20 +312,20 @@ void TestAgentCommissions::anInvoiceTakenOffThePaymentIsPendingAgain()
     QCOMPARE(pending(), 0);
     choose(m_page.get(), 0);
     onForm("btnEdit", [this](DialogKomisiAgen* form) {
-        form->findChild<QTableView*>()->setFocus();
+        gridOf(form)->setFocus();
         choose(form, 1);
         click(form, "pushButton");
-        QCOMPARE(box(form, "txtGrandTotal")->text(), QString("30,00"));
+        QCOMPARE(shown(form, "txtGrandTotal"), QString("30,00"));
         m_database->run("UPDATE komisi_agen SET version = version + 1, updatedby = 1");
-        confirm(form);
+        confirm(form, "txtNoRef");
         // Somebody else was faster: the form stays as it is.
         QVERIFY2(m_people->lastText().contains("error: update komisi agen failed"), qPrintable(m_people->lastText()));
         QVERIFY(form->isVisible());
-        QCOMPARE(rows(form), 1);
+        QCOMPARE(rowsOf(form), 1);
         m_database->run("UPDATE komisi_agen SET version = version - 1");
-        confirm(form);
+        confirm(form, "txtNoRef");
     });
-    QTRY_COMPARE(row(m_page.get(), 0).value(3), QString("Rp30,00"));
+    QTRY_COMPARE(cells(m_page.get(), 0).value(3), QString("Rp30,00"));
     QCOMPARE(pending(), 1);
 }
 
@@ -401,13 +334,13 @@ void TestAgentCommissions::anInvoiceTakenOffThePaymentIsPendingAgain()
 void TestAgentCommissions::aDeletedPaymentLeavesItsInvoicesPending()
 {
     payAll();
-    const QStringList payment = row(m_page.get(), 0);
+    const QStringList payment = cells(m_page.get(), 0);
     QCOMPARE(payment.first(), QString("KAG-0007"));
     QCOMPARE(payment.mid(2, 4), (QStringList{"Guide", "Rp81,00", "Rp100,00", "Rp-19,00"}));
     const auto found = [this](const QString& number) {
-        type(m_page.get(), "txtNo", number);
+        enter(m_page.get(), "txtNo", number);
         click(m_page.get(), "btnSearch");
-        return rows(m_page.get());
+        return rowsOf(m_page.get());
     };
     QCOMPARE(found("g-0008"), 0);
     QCOMPARE(found("g-0007"), 1);
@@ -418,7 +351,7 @@ void TestAgentCommissions::aDeletedPaymentLeavesItsInvoicesPending()
     choose(m_page.get(), 0);
     m_people->answer(QMessageBox::Yes);
     click(m_page.get(), "btnDelete");
-    QTRY_COMPARE(rows(m_page.get()), 0);
+    QTRY_COMPARE(rowsOf(m_page.get()), 0);
     QCOMPARE(m_people->texts(), QStringList("Are you sure you want to delete Payment with No: KAG-0007"));
     QCOMPARE(value("SELECT count(*) FROM komisi_agen_detail"), QString("0"));
     QCOMPARE(pending(), 1);

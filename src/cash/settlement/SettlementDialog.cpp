@@ -5,7 +5,7 @@
 #include "app/widgets/MoneyEdit.h"
 #include "cash/settlement/SettlementTab.h"
 #include "kor/business/KorServiceDirectory.h"
-#include "masterdata/bank/BankTextBox.h"
+#include "masterdata/bank/AccountField.h"
 #include "masterdata/contact/EntityContact.h"
 
 #include <QDateEdit>
@@ -25,17 +25,11 @@ void SettlementDialog::setUpSettlement(const Boxes& boxes, const Words& words, S
     m_page = page;
     m_people = people;
     m_documents = documents;
-    m_accountBox = new BankTextBox(boxes.account, service<BusinessBank>("Bank"));
+    m_account = new AccountField(boxes.account, boxes.accountName, this);
     m_boxes.date->setDisplayFormat(AppContext::instance()->dateFormat());
     m_boxes.date->setDate(QDate::currentDate());
     makeTouchable(m_boxes.buttons);
     connect(m_boxes.person, &QLineEdit::editingFinished, this, &SettlementDialog::personTyped);
-    connect(m_boxes.account, &QLineEdit::editingFinished, this, [this] {
-        // What fails here is told when the form is confirmed.
-        const QString failure = chooseAccount();
-        Q_UNUSED(failure)
-    });
-    connect(m_accountBox, &KorTextBoxExtender::onItemSelected, this, &SettlementDialog::onAccountSelected);
     connect(m_page, &SettlementTab::Paid, this, &SettlementDialog::showTotal);
     connect(new QShortcut(Qt::Key_F3, this), &QShortcut::activated, this, &SettlementDialog::onTabInvoicesSelected);
     m_page->setLines({});
@@ -133,7 +127,7 @@ void SettlementDialog::showStored(EntityContact* person, EntityBank* account, co
 {
     m_stored = lines;
     m_storedPersonId = person->getId();
-    showAccount(account);
+    m_account->show(account);
     if (offerOthers) {
         takePerson(person);
         return;
@@ -143,6 +137,8 @@ void SettlementDialog::showStored(EntityContact* person, EntityBank* account, co
     m_page->setLines(lines);
 }
 
+EntityBank* SettlementDialog::account() const { return m_account->account(); }
+
 QList<KorEntity*> SettlementDialog::removedLines(const QList<KorEntity*>& taken) const
 {
     QList<KorEntity*> removed;
@@ -151,41 +147,6 @@ QList<KorEntity*> SettlementDialog::removedLines(const QList<KorEntity*>& taken)
             removed.append(line);
     }
     return removed;
-}
-
-// --- the account ---------------------------------------------------------------------------------------------------
-
-void SettlementDialog::onAccountSelected() { showAccount(m_accountBox->selectedItem()); }
-
-void SettlementDialog::showAccount(EntityBank* account)
-{
-    m_account = account;
-    m_boxes.account->setText(account ? account->getKode() : QString());
-    m_boxes.accountName->setText(account ? account->getNama() : QString());
-}
-
-QString SettlementDialog::chooseAccount()
-{
-    const QString code = m_boxes.account->text();
-    if (m_account && m_account->getKode().compare(code, Qt::CaseInsensitive) == 0)
-        return {};
-    const EntityPoolScope scope(m_found);
-    auto* accounts = service<BusinessBank>("Bank");
-    accounts->clearErrors();
-    m_account = code.isEmpty() ? nullptr : accounts->findByCode(code);
-    m_boxes.accountName->setText(m_account ? m_account->getNama() : QString());
-    return accounts->takeErrors();
-}
-
-void SettlementDialog::checkAccount()
-{
-    if (!requireText(m_boxes.account, m_boxes.account->text(), m_words.noAccount))
-        return;
-    const QString failure = chooseAccount();
-    if (!failure.isEmpty())
-        addError(m_boxes.account, failure.trimmed());
-    else if (!m_account)
-        addError(m_boxes.account, m_words.unknownAccount);
 }
 
 // --- the money -----------------------------------------------------------------------------------------------------
@@ -225,6 +186,6 @@ bool SettlementDialog::validate()
     if (sum() > std::numeric_limits<int>::max())
         addError(m_boxes.pages, tr("The total is larger than a payment can hold. Please check the figures."));
     checkAmounts();
-    checkAccount();
+    m_account->check(m_words.noAccount, m_words.unknownAccount);
     return !hasError();
 }

@@ -3,7 +3,7 @@
 #include "app/context/EntityPool.h"
 #include "kor/widgets/KorDialog.h"
 
-class BankTextBox;
+class AccountField;
 class EntityBank;
 class EntityContact;
 class KorBusinessLogic;
@@ -29,7 +29,6 @@ public:
     bool validate() final;
 
 public slots:
-    void onAccountSelected();
     void onTabInvoicesSelected();
 
 protected:
@@ -78,7 +77,7 @@ protected:
     void showStored(EntityContact* person, EntityBank* account, const QList<KorEntity*>& lines, bool offerOthers);
 
     [[nodiscard]] EntityContact* person() const { return m_person; }
-    [[nodiscard]] EntityBank* account() const { return m_account; }
+    [[nodiscard]] EntityBank* account() const;
     /** Of the stored lines, those that are not among the ones that the record takes now. */
     [[nodiscard]] QList<KorEntity*> removedLines(const QList<KorEntity*>& taken) const;
 
@@ -89,9 +88,6 @@ private:
     [[nodiscard]] QString changePerson(EntityContact* person);
     [[nodiscard]] QString readLines();
     void showChosen(EntityContact* person);
-    [[nodiscard]] QString chooseAccount();
-    void showAccount(EntityBank* account);
-    void checkAccount();
     void tell(const QString& failure);
     void showTotal();
     [[nodiscard]] qint64 sum() const;
@@ -99,15 +95,14 @@ private:
     Boxes m_boxes{};
     Words m_words;
     SettlementTab* m_page = nullptr;
-    BankTextBox* m_accountBox = nullptr;
+    AccountField* m_account = nullptr;
     KorBusinessLogic* m_people = nullptr;
     KorBusinessLogic* m_documents = nullptr;
-    // Whom and which accounts the codes stood for; they live as long as the form, as its record points at them.
+    // Whom the typed codes stood for; they live as long as the form, as its record points at them.
     EntityPool m_found;
     // The open documents of the person.
     EntityPool m_open;
     EntityContact* m_person = nullptr;
-    EntityBank* m_account = nullptr;
     // What was made of the person's code already, so that nothing is read or told twice.
     QString m_handledCode;
     bool m_linesKnown = false;

@@ -11,8 +11,7 @@
 #include <algorithm>
 
 SettlementTab::SettlementTab(const QString& gridName, QWidget* parent)
-    : AppTab(parent), m_grid(new QTableView(this)), m_count(new QLabel(this)),
-      m_buttons(new QHBoxLayout)
+    : AppTab(parent), m_grid(new QTableView(this)), m_count(new QLabel(this)), m_buttons(new QHBoxLayout)
 {
     m_grid->setObjectName(gridName);
     m_grid->horizontalHeader()->setHighlightSections(false);

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "support/ModalDriver.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTableView>
+#include <QTest>
+
+// What a person does at a page or a form, and sees of it. Boxes and buttons go by their names.
+
+[[nodiscard]] inline QLineEdit* box(const QWidget* form, const char* name) { return form->findChild<QLineEdit*>(name); }
+
+[[nodiscard]] inline QString shown(const QWidget* form, const char* name) { return box(form, name)->text(); }
+
+/** Types over what stands in the box, and leaves it with the Tab key. */
+inline void enter(QWidget* form, const char* name, const QString& text)
+{
+    box(form, name)->setFocus(Qt::TabFocusReason);
+    box(form, name)->selectAll();
+    QTest::keyClicks(box(form, name), text);
+    QTest::keyClick(box(form, name), Qt::Key_Tab);
+}
+
+inline void click(QWidget* page, const char* button)
+{
+    QTest::mouseClick(page->findChild<QPushButton*>(button), Qt::LeftButton);
+}
+
+/** Confirms the form by the Return key in one of its boxes. */
+inline void confirm(QWidget* form, const char* inBox) { QTest::keyClick(box(form, inBox), Qt::Key_Return); }
+
+inline void giveUp(QWidget* form) { QTest::keyClick(form, Qt::Key_Escape); }
+
+// The only grid of the page.
+[[nodiscard]] inline QTableView* gridOf(const QWidget* page) { return page->findChild<QTableView*>(); }
+
+inline void choose(const QWidget* page, int row) { gridOf(page)->selectRow(row); }
+
+[[nodiscard]] inline int rowsOf(const QWidget* page) { return gridOf(page)->model()->rowCount(); }
+
+[[nodiscard]] inline QStringList cells(const QWidget* page, int row)
+{
+    const QAbstractItemModel* model = gridOf(page)->model();
+    QStringList texts;
+    for (int column = 0; row < model->rowCount() && column < model->columnCount(); ++column)
+        texts.append(model->index(row, column).data().toString());
+    return texts;
+}
+
+/** Shows the page in a window that takes the keys. */
+inline void showPage(QWidget* page)
+{
+    page->resize(1100, 600);
+    page->show();
+    QVERIFY(QTest::qWaitForWindowActive(page));
+}
+
+/** Works on the form behind the button of the page, until it is closed, saved or given up. */
+template <class Form>
+void onForm(ModalDriver& people, QWidget* page, const char* button, const std::function<void(Form*)>& work)
+{
+    people.expect<Form>([work](Form* form) {
+        QApplication::setActiveWindow(form);
+        work(form);
+    });
+    click(page, button);
+    QVERIFY(people.finished());
+}
