@@ -5,29 +5,17 @@
 #include "masterdata/itemline/ItemLineMapper.h"
 #include "purchasing/document/PurchasingFilter.h"
 
-/** Mapper of a numbered document whose lines are items of one kind: how it is found and read with its lines. */
-template <class Document, class Line>
-class PurchasingDocumentMapper : public NumberedDocumentMapper<Document>
+/** Mapper of a numbered document of purchasing, on top of the base that knows its lines: how it is found. */
+template <class Document, class Base = AppLinedDocumentMapper<Document>>
+class PurchasingHeaderMapper : public NumberedDocumentMapper<Document, Base>
 {
 public:
-    using NumberedDocumentMapper<Document>::NumberedDocumentMapper;
+    using NumberedDocumentMapper<Document, Base>::NumberedDocumentMapper;
 
-    /** With its lines. */
-    KorEntity* findById(int id) override
-    {
-        Document* document = findHeader(id);
-        if (!document)
-            return nullptr;
-        document->setDetails(castAll<Line>(m_lines->findByDocument(id)));
-        if (!m_lines->hasError())
-            return document;
-        this->setError(m_lines->takeError());
-        return nullptr;
-    }
     /** Without lines: a save of it leaves the lines alone. */
     [[nodiscard]] Document* findHeader(int id)
     {
-        return static_cast<Document*>(NumberedDocumentMapper<Document>::findById(id));
+        return static_cast<Document*>(NumberedDocumentMapper<Document, Base>::findById(id));
     }
     /** Without lines. */
     [[nodiscard]] Document* findByNo(const QString& no)
@@ -42,12 +30,35 @@ public:
         narrow(paging, filter, filterColumns());
         return castAll<Document>(this->find(&paging));
     }
+
+protected:
+    [[nodiscard]] virtual PurchasingColumns filterColumns() const = 0;
+};
+
+/** The same for a document whose lines are items of one kind. */
+template <class Document, class Line>
+class PurchasingDocumentMapper : public PurchasingHeaderMapper<Document>
+{
+public:
+    using PurchasingHeaderMapper<Document>::PurchasingHeaderMapper;
+
+    /** With its lines. */
+    KorEntity* findById(int id) override
+    {
+        Document* document = this->findHeader(id);
+        if (!document)
+            return nullptr;
+        document->setDetails(castAll<Line>(m_lines->findByDocument(id)));
+        if (!m_lines->hasError())
+            return document;
+        this->setError(m_lines->takeError());
+        return nullptr;
+    }
     [[nodiscard]] KorDataMapper* lineMapper() const override { return m_lines; }
 
 protected:
     /** To be called at the end of the constructor. */
     void setLineMapper(ItemLineMapper* lines) { m_lines = lines; }
-    [[nodiscard]] virtual PurchasingColumns filterColumns() const = 0;
 
 private:
     ItemLineMapper* m_lines = nullptr;

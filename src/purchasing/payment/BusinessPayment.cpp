@@ -1,9 +1,15 @@
 #include "purchasing/payment/BusinessPayment.h"
 
+#include "purchasing/acquisition/BusinessPurchases.h"
 #include "purchasing/payment/DataMapperPayment.h"
 
-BusinessPayment::BusinessPayment(QObject* parent, DataMapperPayment* payments)
-    : KorBusinessLogic("Payment", payments, parent), m_payments(payments)
+namespace
+{
+const EntityPayment& asPayment(const KorEntity& entity) { return static_cast<const EntityPayment&>(entity); }
+} // namespace
+
+BusinessPayment::BusinessPayment(QObject* parent, DataMapperPayment* payments, BusinessPurchases* purchases)
+    : PurchasingService("Payment", payments, parent), m_payments(payments), m_purchases(purchases)
 {}
 
 QList<KorPermission> BusinessPayment::getPermissions() const
@@ -13,4 +19,36 @@ QList<KorPermission> BusinessPayment::getPermissions() const
             {DELETE_PAYMENT, tr("Delete Payment")}};
 }
 
-bool BusinessPayment::clearTransactions() { return clearTables(m_payments->lineMappers() << m_payments); }
+QList<EntityPayment*> BusinessPayment::findAll(const PurchasingFilter& filter)
+{
+    return read(m_payments->findAll(filter), m_payments, "findall");
+}
+
+EntityPayment* BusinessPayment::findByNo(const QString& no)
+{
+    return read(m_payments->findByNo(no), m_payments, "findByNo");
+}
+
+bool BusinessPayment::updatePurchase(const EntityPayment& payment)
+{
+    bool done = true;
+    const auto lines = payment.invoices().getDetails() + payment.invoices().getRemovedDetails();
+    for (const EntityPaymentInvoices* line : lines) {
+        m_purchases->clearErrors();
+        if (m_purchases->recalculateDue(line->getAcquisition()->getId()))
+            continue;
+        addError("updatePurchase", m_purchases->takeErrors().trimmed());
+        done = false;
+    }
+    return done;
+}
+
+bool BusinessPayment::afterSave(const KorEntity& payment, Save) { return updatePurchase(asPayment(payment)); }
+
+QList<KorEntity*> BusinessPayment::linesOf(const KorEntity& payment) const
+{
+    return asEntities(asPayment(payment).expenses().getDetails()) +
+           asEntities(asPayment(payment).invoices().getDetails());
+}
+
+KorDataMapper* BusinessPayment::mapperOf(const KorEntity& line) const { return m_payments->mapperOf(&line); }

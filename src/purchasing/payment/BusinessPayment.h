@@ -1,11 +1,14 @@
 #pragma once
 
-#include "kor/business/KorBusinessLogic.h"
+#include "purchasing/document/PurchasingFilter.h"
+#include "purchasing/document/PurchasingService.h"
 
+class BusinessPurchases;
 class DataMapperPayment;
+class EntityPayment;
 
 /** The service of payments to suppliers. */
-class BusinessPayment final : public KorBusinessLogic
+class BusinessPayment final : public PurchasingService
 {
     Q_OBJECT
 
@@ -13,11 +16,26 @@ public:
     enum PERMISSIONS { INSERT_PAYMENT, UPDATE_PAYMENT, DELETE_PAYMENT };
     Q_ENUM(PERMISSIONS)
 
-    BusinessPayment(QObject* parent, DataMapperPayment* payments);
+    BusinessPayment(QObject* parent, DataMapperPayment* payments, BusinessPurchases* purchases);
 
     [[nodiscard]] QList<KorPermission> getPermissions() const override;
-    bool clearTransactions() override;
+
+    // The finders give payments without lines, as a list shows them; find(id) reads a payment with its lines.
+    [[nodiscard]] QList<EntityPayment*> findAll(const PurchasingFilter& filter);
+    [[nodiscard]] EntityPayment* findByNo(const QString& no);
+
+    /**
+     * Reckons anew what is due for the purchases that the payment pays, and for those that it paid before its last
+     * save. A payment that is removed leaves its purchases as they are until they are reckoned next.
+     */
+    bool updatePurchase(const EntityPayment& payment);
+
+protected:
+    bool afterSave(const KorEntity& payment, Save kind) override;
+    [[nodiscard]] QList<KorEntity*> linesOf(const KorEntity& payment) const override;
+    [[nodiscard]] KorDataMapper* mapperOf(const KorEntity& line) const override;
 
 private:
     DataMapperPayment* m_payments;
+    BusinessPurchases* m_purchases;
 };

@@ -9,7 +9,7 @@
 
 DataMapperPayment::DataMapperPayment(QObject* parent, DataMapperKey* keys, DataMapperSupplier* suppliers,
                                      DataMapperBank* accounts, DataMapperAcquisition* purchases, ItemPartners partners)
-    : NumberedDocumentMapper(parent, keys)
+    : PurchasingHeaderMapper(parent, keys)
 {
     setName("payment");
     metaData()->setTableName("payment");
@@ -27,6 +27,31 @@ DataMapperPayment::DataMapperPayment(QObject* parent, DataMapperKey* keys, DataM
 }
 
 KorEntity* DataMapperPayment::createEntity() { return new EntityPayment(entityParent()); }
+
+KorDataMapper* DataMapperPayment::lineMapper() const { return m_invoices; }
+
+QList<KorDataMapper*> DataMapperPayment::lineMappers() const { return {m_invoices, m_expenses}; }
+
+KorEntity* DataMapperPayment::findById(int id)
+{
+    EntityPayment* payment = findHeader(id);
+    if (!payment)
+        return nullptr;
+    payment->invoices().setDetails(castAll<EntityPaymentInvoices>(m_invoices->findByPayment(id)));
+    payment->expenses().setDetails(castAll<EntityPaymentExpenses>(m_expenses->findByDocument(id)));
+    for (KorDataMapper* lines : lineMappers()) {
+        if (lines->hasError()) {
+            setError(lines->takeError());
+            return nullptr;
+        }
+    }
+    return payment;
+}
+
+PurchasingColumns DataMapperPayment::filterColumns() const
+{
+    return {tableName(), "payment_date", "payment_type", "no", "check_no"};
+}
 
 QStringList DataMapperPayment::indexStatements() const
 {
@@ -67,5 +92,7 @@ void DataMapperPayment::attachLine(KorEntity* line, int documentId)
 
 KorDataMapper* DataMapperPayment::mapperOf(const KorEntity* line) const
 {
-    return qobject_cast<const EntityPaymentExpenses*>(line) ? m_expenses : m_invoices;
+    if (qobject_cast<const EntityPaymentExpenses*>(line))
+        return m_expenses;
+    return m_invoices;
 }

@@ -1,15 +1,16 @@
 #pragma once
 
-#include "app/numbers/NumberedMapper.h"
-#include "masterdata/itemline/ItemLineMapper.h"
+#include "purchasing/document/PurchasingDocumentMapper.h"
 #include "purchasing/payment/EntityPayment.h"
 
 class DataMapperAcquisition;
 class DataMapperBank;
+class DataMapperPaymentExpenses;
+class DataMapperPaymentInvoices;
 class DataMapperSupplier;
 
 /** Payments to suppliers, in the table "payment"; their lines lie in "payment_invoice" and "payment_expense". */
-class DataMapperPayment final : public NumberedDocumentMapper<EntityPayment, AppDocumentMapper>
+class DataMapperPayment final : public PurchasingHeaderMapper<EntityPayment, AppDocumentMapper>
 {
     Q_OBJECT
 
@@ -19,18 +20,21 @@ public:
 
     [[nodiscard]] QString keyName() const override { return "TPH"; }
     KorEntity* createEntity() override;
+    /** With its lines. */
+    KorEntity* findById(int id) override;
     [[nodiscard]] QStringList indexStatements() const override;
-    [[nodiscard]] KorDataMapper* lineMapper() const override { return m_invoices; }
-    [[nodiscard]] QList<KorDataMapper*> lineMappers() const override { return {m_invoices, m_expenses}; }
+    [[nodiscard]] KorDataMapper* lineMapper() const override;
+    [[nodiscard]] QList<KorDataMapper*> lineMappers() const override;
+    [[nodiscard]] KorDataMapper* mapperOf(const KorEntity* line) const override;
 
 protected:
     [[nodiscard]] const Messages& messages() const override;
     [[nodiscard]] QList<KorEntity*> linesOf(KorEntity* document) const override;
     [[nodiscard]] QList<KorEntity*> removedLinesOf(KorEntity* document) const override;
     void attachLine(KorEntity* line, int documentId) override;
-    [[nodiscard]] KorDataMapper* mapperOf(const KorEntity* line) const override;
+    [[nodiscard]] PurchasingColumns filterColumns() const override;
 
 private:
-    KorDataMapper* m_invoices;
-    KorDataMapper* m_expenses;
+    DataMapperPaymentInvoices* m_invoices;
+    DataMapperPaymentExpenses* m_expenses;
 };

@@ -25,3 +25,8 @@ QStringList DataMapperPaymentInvoices::indexStatements() const
 {
     return {index("payment_id", "(payment_id)"), index("acquisition_id", "(acquisition_id)")};
 }
+
+QList<KorEntity*> DataMapperPaymentInvoices::findByPayment(int paymentId)
+{
+    return findMany(" where payment_id=:id order by payment_invoice.id", {{":id", paymentId}});
+}

@@ -16,4 +16,7 @@ public:
 
     KorEntity* createEntity() override;
     [[nodiscard]] QStringList indexStatements() const override;
+
+    /** In the order of entry. */
+    [[nodiscard]] QList<KorEntity*> findByPayment(int paymentId);
 };

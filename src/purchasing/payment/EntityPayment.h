@@ -27,7 +27,9 @@ public:
     using KorEntity::KorEntity;
 
     [[nodiscard]] AppDocumentLines<EntityPaymentInvoices>& invoices() { return m_invoices; }
+    [[nodiscard]] const AppDocumentLines<EntityPaymentInvoices>& invoices() const { return m_invoices; }
     [[nodiscard]] AppDocumentLines<EntityPaymentExpenses>& expenses() { return m_expenses; }
+    [[nodiscard]] const AppDocumentLines<EntityPaymentExpenses>& expenses() const { return m_expenses; }
 
 private:
     AppDocumentLines<EntityPaymentInvoices> m_invoices;

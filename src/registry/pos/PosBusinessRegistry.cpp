@@ -52,7 +52,7 @@ PosBusinessRegistry::PosBusinessRegistry(QObject* parent)
     make<BusinessJenisItem>(mappers->jenisItemMapper());
     make<BusinessMember>(mappers->memberMapper());
     make<BusinessPurchaseOrder>(mappers->purchaseOrderMapper(), mappers->acquisitionMapper());
-    make<BusinessPayment>(mappers->paymentMapper());
+    make<BusinessPayment>(mappers->paymentMapper(), purchases());
     make<BusinessSatuan>(mappers->satuanMapper());
     make<BusinessStokAwal>(mappers->stokAwalMapper());
     make<BusinessEmployee>(mappers->employeeMapper());
