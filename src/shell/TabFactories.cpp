@@ -20,6 +20,8 @@
 #include "masterdata/satuan/TabSatuan.h"
 #include "masterdata/supplier/TabSupplier.h"
 #include "printing/configuration/TabKitchenPrinter.h"
+#include "purchasing/acquisition/TabPurchases.h"
+#include "purchasing/purchaseorder/TabPurchaseOrder.h"
 #include "sales/commission/TabAllKomisiAgen.h"
 #include "sales/commission/TabKomisiAgen.h"
 #include "sales/fastfood/TabFastFood.h"
@@ -64,6 +66,8 @@ TabFactories allTabFactories()
         {"TabMember", make<TabMember>},
         {"TabPesananMasuk", make<TabPesananMasuk>},
         {"TabPiutang", make<TabPiutang>},
+        {"TabPurchaseOrder", make<TabPurchaseOrder>},
+        {"TabPurchases", make<TabPurchases>},
         {"TabSatuan", make<TabSatuan>},
         {"TabStokAwal", make<TabStokAwal>},
         {"TabSupplier", make<TabSupplier>},

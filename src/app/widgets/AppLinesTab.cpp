@@ -24,6 +24,16 @@ void AppLinesTab::setLines(const Lines& lines)
     linesChanged();
 }
 
+void AppLinesTab::replaceLines(const Lines& lines)
+{
+    for (KorEntity* line : qAsConst(m_lines)) {
+        if (!lines.contains(line))
+            m_removed.append(line);
+    }
+    m_lines = lines;
+    linesChanged();
+}
+
 void AppLinesTab::focusLines() { grid()->setFocus(); }
 
 QTableView* AppLinesTab::grid() const { return m_ui->tblLines; }

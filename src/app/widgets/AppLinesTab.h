@@ -60,6 +60,8 @@ protected:
     virtual void takeOver(KorEntity* present, const KorEntity& entered) = 0;
     [[nodiscard]] virtual QList<int> columnWidths() const { return {}; }
 
+    /** Other lines in place of those shown; what leaves counts as taken off. */
+    void replaceLines(const Lines& lines);
     /** Shows the lines. A concrete page calls it once at the end of its constructor. */
     void refresh();
     /** The lines or what they hold have changed. */

@@ -66,6 +66,9 @@ protected:
 
     explicit PurchasingDialog(QWidget* parent) : KorDialog(parent) {}
 
+    /** The account that orders, purchases and returns start with. */
+    [[nodiscard]] static QString payableAccount() { return "2000"; }
+
     /** Called once, at the end of the constructor; a new document starts with the account that is handed in. */
     void setUpPurchasing(const Form& form, const Words& words, const QString& accountCode);
     /** Puts a page of lines into the form, which F3, F4 and so on lead to. */

@@ -28,6 +28,8 @@ protected:
 
     [[nodiscard]] PurchasingFilter chosen() const;
 
+    /** A document that has gone is told in the same words wherever it is missed. */
+    [[nodiscard]] QString deleteNotFoundText(int id) const override { return notFoundText(id); }
     bool insertEntity(KorEntity* document) override;
     bool updateEntity(KorEntity* document) override;
 

@@ -34,6 +34,11 @@ EntityPurchaseOrder* BusinessPurchaseOrder::findByNo(const QString& no)
     return read(m_orders->findByNo(no), m_orders, "findByNo");
 }
 
+EntityPurchaseOrder* BusinessPurchaseOrder::findHeader(int id)
+{
+    return read(m_orders->findHeader(id), m_orders, "findHeader");
+}
+
 QList<EntityPurchaseOrder*> BusinessPurchaseOrder::getOpenBySupplier(const EntitySupplier* supplier)
 {
     return read(m_orders->getOpenBySupplier(supplier), m_orders, "getOpenBySupplier");

@@ -27,6 +27,7 @@ public:
     // The finders give orders without lines, as a list shows them; find(id) reads an order with its lines.
     [[nodiscard]] QList<EntityPurchaseOrder*> findAll(const PurchasingFilter& filter);
     [[nodiscard]] EntityPurchaseOrder* findByNo(const QString& no);
+    [[nodiscard]] EntityPurchaseOrder* findHeader(int id);
     /** What can still be received. */
     [[nodiscard]] QList<EntityPurchaseOrder*> getOpenBySupplier(const EntitySupplier* supplier);
     /** A purchase that was made of the order, or null. */

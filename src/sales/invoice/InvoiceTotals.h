@@ -15,6 +15,7 @@ public:
     enum Part { Discount, Tax, Service };
 
     void setCurrency(const QString& currency) { m_currency = currency; }
+    [[nodiscard]] const QString& currency() const { return m_currency; }
     void setSubtotal(double amount) { m_subtotal = rounded(amount); }
     /** Takes the amount and lets the percent follow. Without a subtotal the percent is infinite or not a number. */
     void setAmount(Part part, double amount);
