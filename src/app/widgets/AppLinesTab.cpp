@@ -6,6 +6,7 @@
 
 #include "ui_LinesPage.h"
 
+#include <QHeaderView>
 #include <QMessageBox>
 
 #include <algorithm>
@@ -13,6 +14,7 @@
 AppLinesTab::AppLinesTab(QWidget* parent) : AppTab(parent), m_ui(std::make_unique<Ui::LinesPage>())
 {
     m_ui->setupUi(this);
+    m_ui->tblLines->horizontalHeader()->setHighlightSections(false);
 }
 
 AppLinesTab::~AppLinesTab() = default;

@@ -29,6 +29,9 @@ public:
 public slots:
     void on_btnSelectPO_clicked();
 
+protected:
+    [[nodiscard]] QList<int> columnWidths() const override { return {76, 110, 78, 82, 80, 112, 88}; }
+
 private:
     void takeOrder(const EntityPurchaseOrder& order);
 

@@ -23,6 +23,7 @@ PurchasingLineDialog::PurchasingLineDialog(EntityPool& items, const Words& words
     m_ui->setupUi(this);
     m_item = new ItemField(m_ui->txtCode, m_ui->txtName, items, this);
     m_item->box()->setNextWidget(m_ui->txtQty);
+    m_item->lookUpWhenLeft();
     connect(m_item, &ItemField::chosen, this, &PurchasingLineDialog::proposePrice);
     m_ui->lblQty->setText(words.quantity);
     focusLater(m_ui->txtCode);
