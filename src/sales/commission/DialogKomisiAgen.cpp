@@ -13,7 +13,10 @@
 
 namespace
 {
-const EntityKomisiAgenDetail& detail(const KorEntity& line) { return static_cast<const EntityKomisiAgenDetail&>(line); }
+const EntityKomisiAgenDetail& commissionLine(const KorEntity& line)
+{
+    return static_cast<const EntityKomisiAgenDetail&>(line);
+}
 } // namespace
 
 DialogKomisiAgen::DialogKomisiAgen(QWidget* parent)
@@ -74,21 +77,21 @@ QList<KorEntity*> DialogKomisiAgen::readOpenLines(const EntityContact& person)
     return lines;
 }
 
-int DialogKomisiAgen::documentIdOf(const KorEntity& line) const { return detail(line).getInvoice()->getId(); }
+int DialogKomisiAgen::documentIdOf(const KorEntity& line) const { return commissionLine(line).getInvoice()->getId(); }
 
 QString DialogKomisiAgen::documentNoOf(const KorEntity& line) const
 {
-    return detail(line).getInvoice()->getInvoiceNo();
+    return commissionLine(line).getInvoice()->getInvoiceNo();
 }
 
-const Money* DialogKomisiAgen::amountOf(const KorEntity& line) const { return detail(line).getCommision(); }
+const Money* DialogKomisiAgen::amountOf(const KorEntity& line) const { return commissionLine(line).getCommision(); }
 
 // --- the money -----------------------------------------------------------------------------------------------------
 
 const KorEntity* DialogKomisiAgen::lineWithoutAmount() const
 {
     for (const KorEntity* line : m_ui->tabInvoices->lines()) {
-        if (detail(*line).getCommision()->rawAmount() == 0)
+        if (commissionLine(*line).getCommision()->rawAmount() == 0)
             return line;
     }
     return nullptr;

@@ -13,7 +13,7 @@
 
 namespace
 {
-EntityKomisiAgen* payment(KorEntity* entity) { return static_cast<EntityKomisiAgen*>(entity); }
+EntityKomisiAgen* commission(KorEntity* entity) { return static_cast<EntityKomisiAgen*>(entity); }
 } // namespace
 
 TabKomisiAgen::TabKomisiAgen(QWidget* parent)
@@ -68,12 +68,15 @@ KorEntity* TabKomisiAgen::readEntity(int id) { return businessAs<BusinessPenjual
 
 bool TabKomisiAgen::insertEntity(KorEntity* entity)
 {
-    return businessAs<BusinessPenjualan>()->insertCommision(payment(entity));
+    return businessAs<BusinessPenjualan>()->insertCommision(commission(entity));
 }
 
 bool TabKomisiAgen::updateEntity(KorEntity* entity)
 {
-    return businessAs<BusinessPenjualan>()->updateCommision(payment(entity));
+    return businessAs<BusinessPenjualan>()->updateCommision(commission(entity));
 }
 
-bool TabKomisiAgen::removeEntity(KorEntity* entity) { return businessAs<BusinessPenjualan>()->remove(payment(entity)); }
+bool TabKomisiAgen::removeEntity(KorEntity* entity)
+{
+    return businessAs<BusinessPenjualan>()->remove(commission(entity));
+}
