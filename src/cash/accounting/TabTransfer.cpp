@@ -13,12 +13,11 @@
 
 namespace
 {
-constexpr int filtersPerRow = 2;
 constexpr int headerMargin = 12;
 } // namespace
 
 TabTransfer::TabTransfer(QWidget* parent)
-    : AppDocumentTab({tr("Transferring Funds"), "tblTransfer", "Accounting Transaction"}, filtersPerRow, parent)
+    : AppDocumentTab({tr("Transferring Funds"), "tblTransfer", "Accounting Transaction"}, 2, parent)
 {
     const QDate today = QDate::currentDate();
     m_from = filters()->addDate("dateFrom", tr("From Date :"), today.addDays(1 - today.day()));

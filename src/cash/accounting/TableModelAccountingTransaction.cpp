@@ -4,9 +4,9 @@
 
 namespace
 {
-QString code(const EntityBank* account) { return account ? account->getKode() : QString(); }
+QString codeOf(const EntityBank* account) { return account ? account->getKode() : QString(); }
 
-QString name(const EntityBank* account) { return account ? account->getNama() : QString(); }
+QString nameOf(const EntityBank* account) { return account ? account->getNama() : QString(); }
 } // namespace
 
 TableModelAccountingTransaction::TableModelAccountingTransaction(const QList<KorEntity*>& transfers, QObject* parent)
@@ -19,10 +19,10 @@ TableModelAccountingTransaction::TableModelAccountingTransaction(const QList<Kor
     addField<Transfer>(QMetaType::QDateTime, tr("Date"),
                        [this](const Transfer& transfer) { return dateText(transfer.getDate()); });
     addText(tr("Trans No."), &Transfer::getTransNo);
-    text(tr("Source Acc. Code"), [](const Transfer& transfer) { return code(transfer.getFromAccount()); });
-    text(tr("Source Acc. Name"), [](const Transfer& transfer) { return name(transfer.getFromAccount()); });
-    text(tr("Destination Acc. Code"), [](const Transfer& transfer) { return code(transfer.getToAccount()); });
-    text(tr("Destination Acc. Name"), [](const Transfer& transfer) { return name(transfer.getToAccount()); });
+    text(tr("Source Acc. Code"), [](const Transfer& transfer) { return codeOf(transfer.getFromAccount()); });
+    text(tr("Source Acc. Name"), [](const Transfer& transfer) { return nameOf(transfer.getFromAccount()); });
+    text(tr("Destination Acc. Code"), [](const Transfer& transfer) { return codeOf(transfer.getToAccount()); });
+    text(tr("Destination Acc. Name"), [](const Transfer& transfer) { return nameOf(transfer.getToAccount()); });
     addMoney<Transfer>(tr("Amount Paid"), [](const Transfer& transfer) { return transfer.getAmount(); });
     text(tr("Description"), [](const Transfer& transfer) { return transfer.getNotes().simplified(); });
     text(tr("Operator"),

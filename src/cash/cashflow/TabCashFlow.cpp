@@ -16,13 +16,8 @@
 #include <QLineEdit>
 #include <QTableView>
 
-namespace
-{
-constexpr int filtersPerRow = 3;
-}
-
 TabCashFlow::TabCashFlow(QWidget* parent)
-    : AppDocumentTab({tr("General Journal Entries"), "tblCashFlow", "Journal Transaction"}, filtersPerRow, parent),
+    : AppDocumentTab({tr("General Journal Entries"), "tblCashFlow", "Journal Transaction"}, 3, parent),
       m_totals(new LedgerTotals(this))
 {
     makeFilters();
