@@ -9,7 +9,7 @@ class EntityAllKomisiAgen : public KorEntity
     Q_OBJECT
 
 public:
-    enum CommissionStatus { FULL_PAID = 1, UNPAID = 2 };
+    enum CommissionStatus { FULL_PAID = Invoice::FULL_PAID, UNPAID = Invoice::UNPAID };
     Q_ENUM(CommissionStatus)
 
     KOR_REFERENCE(Invoice, Invoice)

@@ -2,9 +2,10 @@
 
 #include "sales/commission/CommissionAmount.h"
 #include "sales/commission/EntityAllKomisiAgen.h"
+#include "sales/invoice/InvoiceStatusText.h"
 
 TableModelAllKomisiAgen::TableModelAllKomisiAgen(const QList<KorEntity*>& sales, QObject* parent)
-    : AppEntityModel(sales, parent)
+    : AppEntityModel(sales, parent), m_marks(invoiceStatusMarks())
 {
     using Sale = EntityAllKomisiAgen;
     addField<Sale>(QMetaType::QString, tr("Invoice No."),
@@ -18,7 +19,15 @@ TableModelAllKomisiAgen::TableModelAllKomisiAgen(const QList<KorEntity*>& sales,
         moneyType(), tr("% Commision"),
         [](const Sale& sale) { return percentText(sale.getAgent()->getCommisionPerc()); }, RightAligned);
     addMoney<Sale>(tr("Total Commision"), [](const Sale& sale) { return sale.getCommision(); });
-    addField<Sale>(QMetaType::QString, tr("Status"), [](const Sale& sale) {
-        return sale.getStatus() == EntityAllKomisiAgen::FULL_PAID ? tr("Fully Paid") : tr("Unpaid");
-    });
+    // Its numbers are those of an invoice.
+    addField<Sale>(QMetaType::QString, tr("Status"),
+                   [](const Sale& sale) { return invoiceStatusText(sale.getStatus()); });
+}
+
+QVariant TableModelAllKomisiAgen::data(const QModelIndex& index, int role) const
+{
+    const auto* sale = index.isValid() ? static_cast<const EntityAllKomisiAgen*>(entityAt(index.row())) : nullptr;
+    if (sale && role == Qt::DecorationRole && index.column() == Status)
+        return m_marks.value(sale->getStatus());
+    return AppEntityModel::data(index, role);
 }
