@@ -23,7 +23,7 @@ void type(QWidget* form, const char* field, const QString& text)
     form->activateWindow();
     QTRY_COMPARE(QApplication::activeWindow(), form);
     auto* edit = form->findChild<QLineEdit*>(field);
-    edit->setFocus();
+    edit->setFocus(Qt::TabFocusReason);
     QTRY_VERIFY(edit->hasFocus());
     edit->selectAll();
     QTest::keyClicks(edit, text);

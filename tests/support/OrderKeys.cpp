@@ -7,7 +7,7 @@
 void typeInto(QWidget* form, const char* field, const QString& text)
 {
     auto* edit = form->findChild<QLineEdit*>(field);
-    edit->setFocus();
+    edit->setFocus(Qt::TabFocusReason);
     edit->selectAll();
     QTest::keyClicks(edit, text);
 }
