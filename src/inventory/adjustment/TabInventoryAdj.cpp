@@ -47,4 +47,4 @@ bool TabInventoryAdj::removeEntity(KorEntity* take)
     return businessAs<BusinessInventory>()->stockTakeRemove(static_cast<EntityStockTake*>(take));
 }
 
-void TabInventoryAdj::modelApplied() { setColumnWidths(grid(), {130, 260, 130, 100, 130, 100}); }
+void TabInventoryAdj::modelApplied() { setColumnWidths(grid(), {110, 210, 120, 90, 130, 90}); }

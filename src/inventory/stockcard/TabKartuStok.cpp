@@ -16,7 +16,7 @@
 #include <QTableView>
 
 TabKartuStok::TabKartuStok(QWidget* parent)
-    : AppDocumentTab({tr("Item History"), "tblKartuStok", "Inventory"}, 4, parent)
+    : AppDocumentTab({tr("Item History"), "tblKartuStok", "Inventory"}, 2, parent)
 {
     makeFilters();
     makeTotals();
@@ -36,7 +36,7 @@ void TabKartuStok::makeFilters()
     name->setObjectName("txtItemName");
     name->setReadOnly(true);
     name->setFocusPolicy(Qt::NoFocus);
-    filters()->add(QString(), name);
+    filters()->add(tr("Name :"), name);
     m_item = new ItemField(code, name, m_read, nullptr);
     m_item->lookUpWhenLeft();
     connect(m_item, &ItemField::chosen, this, &TabKartuStok::onItemSelected);
@@ -52,9 +52,10 @@ void TabKartuStok::makeTotals()
     totals->setSpacing(8);
     totals->addStretch();
     for (const auto& total : {std::pair(tr("Total In :"), m_in), std::pair(tr("Saldo :"), m_balance)}) {
+        totals->addSpacing(16);
         totals->addWidget(new QLabel(total.first, this));
         totals->addWidget(total.second);
-        total.second->setMinimumWidth(90);
+        total.second->setMinimumWidth(70);
         total.second->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         QFont font = total.second->font();
         font.setBold(true);
