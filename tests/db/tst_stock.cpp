@@ -8,8 +8,11 @@
 #include "kor/business/KorServiceDirectory.h"
 #include "masterdata/item/BusinessItem.h"
 #include "registry/pos/PosMapperRegistry.h"
+#include "support/ShopRows.h"
+#include "support/StockRows.h"
 #include "support/TestDatabase.h"
 
+#include <QRegularExpression>
 #include <QTest>
 
 #include <random>
@@ -81,6 +84,7 @@ private slots:
     void anAdjustmentStandsInTheJournalUntilItIsRemoved();
     void anItemHasOneBeginningBalance();
     void clearingTheTransactionsKeepsTheItems();
+    void aMonthsCardCostsTheSameAfterFiveYears();
 
 private:
     void happen(int itemId, const Event& event);
@@ -432,6 +436,33 @@ void TestStock::clearingTheTransactionsKeepsTheItems()
                                "(SELECT sum(jumlah) FROM stok_awal)"),
              QVariant(0));
     QCOMPARE(m_inventory->quantitiesOnHand(firstDay).size(), 4);
+}
+
+void TestStock::aMonthsCardCostsTheSameAfterFiveYears()
+{
+    DataMapperItemHistory* journal = PosMapperRegistry::instance()->itemHistoryMapper();
+    const QString month = " where trans_date >= current_date - 30 and trans_date <= current_date and item_id = 1 "
+                          "order by trans_date asc, item_history.id asc";
+    QMap<int, int> pages;
+    for (const int years : {1, 5}) {
+        m_database.reset();
+        m_database = std::make_unique<TestDatabase>();
+        insertShop(*m_database);
+        insertManyMovements(*m_database, 300 * years, years);
+        // The pages that it looks at, wherever they lie; a clock would tell of the neighbours.
+        const QString plan =
+            m_database->value("EXPLAIN (ANALYZE, BUFFERS, FORMAT JSON) " + journal->selectStatement() + month)
+                .toString();
+        QVERIFY2(plan.contains("item_history_item_id_trans_date_idx"), qPrintable(plan));
+        static const QRegularExpression hit(R"("Shared Hit Blocks": (\d+))");
+        pages[years] = hit.match(plan).captured(1).toInt();
+        const StatementCount statements;
+        const QDate today = QDate::currentDate();
+        QVERIFY(m_inventory->findAllKartuStok({today.addDays(-30), today, 1}).size() > 31);
+        QCOMPARE(statements.count(), 2);
+    }
+    QVERIFY(pages[1] > 0);
+    QVERIFY2(pages[5] <= pages[1] + 10, qPrintable(QString("%1, then %2").arg(pages[1]).arg(pages[5])));
 }
 
 QTEST_MAIN(TestStock)

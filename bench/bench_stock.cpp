@@ -1,0 +1,58 @@
+#include "BenchMain.h"
+
+#include "inventory/stock/BusinessInventory.h"
+#include "kor/business/KorServiceDirectory.h"
+#include "masterdata/item/TabItem.h"
+#include "support/ShopRows.h"
+#include "support/StockRows.h"
+
+#include <QApplication>
+#include <QTableView>
+
+// The stock of 5,000 items after 200,000 lines of invoices and 20,000 of purchases: the figures, and the page of items
+// that shows them. By hand it is the figures alone, both times.
+
+namespace
+{
+constexpr int itemCount = 5000;
+
+/** As somebody would write it who has never seen the program's own statement. */
+constexpr char stockByHand[] =
+    "with base as (select item.id, take.tanggal as since, coalesce(take.qty, stok_awal.jumlah, 0) as qty from item "
+    "left join stok_awal on stok_awal.item_id = item.id left join lateral (select tanggal, qty from stock_take where "
+    "item_id = item.id and tanggal <= current_date order by tanggal desc, id desc limit 1) take on true), "
+    "moved as (select item_id, purchase_date as day, qty from acquisition join acquisition_detail on "
+    "acquisition.id = acquisition_id union all select item_id, invoice_date, -qty from invoice join invoice_detail "
+    "on invoice.id = invoice_id union all select item_id, credit_note_date, -qty_returned from credit_note join "
+    "credit_note_detail on credit_note.id = credit_note_id where status <> 4) "
+    "select base.id, base.qty + coalesce(sum(moved.qty), 0) from base left join moved on moved.item_id = base.id and "
+    "day <= current_date and (since is null or day >= since) group by base.id, base.qty";
+
+void expect(int rows)
+{
+    if (rows != itemCount)
+        qFatal("the stock has %d rows", rows);
+}
+} // namespace
+
+void setUp(TestDatabase& database, ByHand& byHand)
+{
+    insertShop(database);
+    insertManyMovements(database, itemCount);
+    byHand.prepare("stock", stockByHand);
+    const auto figuresByHand = [&byHand] {
+        expect(static_cast<int>(ByHand::rows(byHand.execute("stock").get()).size()));
+    };
+    enter({"Reckon the stock of 5,000 items",
+           [] { expect(service<BusinessInventory>("Inventory")->quantitiesOnHand(QDate::currentDate()).size()); },
+           figuresByHand, [] {}, 5});
+    enter({"Open the page of 5,000 items with their stock",
+           [] {
+               TabItem page;
+               page.resize(1000, 700);
+               page.show();
+               QApplication::processEvents();
+               expect(page.findChild<QTableView*>("tblItem")->model()->rowCount());
+           },
+           figuresByHand, [] {}, 5});
+}
