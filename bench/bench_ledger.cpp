@@ -45,34 +45,6 @@ int read()
     const EntityPoolScope scope(rows);
     return service<BusinessCashFlow>("Journal Transaction")->search(lastMonth()).size();
 }
-
-void layDown(TestDatabase& database, int years)
-{
-    struct Documents
-    {
-        const char* table;
-        const char* date;
-        RowValues account;
-    };
-    const RowValues bank{{"bank_id", "1"}};
-    const Documents all[] = {{"purchase_order", "purchase_date", bank},
-                             {"acquisition", "purchase_date", bank},
-                             {"credit_note", "credit_note_date", bank},
-                             {"payment", "payment_date", bank},
-                             {"piutang", "payment_date", bank},
-                             {"komisi_agen", "payment_date", bank},
-                             {"invoice", "invoice_date", {{"acct_code", "'1-100'"}, {"no", "'TRD' || i"}}},
-                             {"cash_flow", "trans_date", {{"account_code", "'1-100'"}, {"debet_amount", "i"}}},
-                             {"accounting_trans", "trans_date", {{"from_account_id", "1"}, {"to_account_id", "1"}}}};
-    for (const Documents& documents : all) {
-        RowValues values = documents.account;
-        values[documents.date] = QString("current_date - i % %1").arg(365 * years);
-        values["createdby"] = "1";
-        const bool areSales = documents.account.contains("acct_code");
-        insertRows(database, documents.table, values, (areSales ? salesPerYear : documentsPerYear) * years);
-    }
-    database.run("ANALYZE");
-}
 } // namespace
 
 void setUp(TestDatabase& database, ByHand& byHand)
@@ -81,7 +53,7 @@ void setUp(TestDatabase& database, ByHand& byHand)
         qEnvironmentVariableIsSet("ZAVEL_BENCH_YEARS") ? qEnvironmentVariableIntValue("ZAVEL_BENCH_YEARS") : 5;
     insertShop(database);
     insertSeller(database, 1, "ann");
-    layDown(database, years);
+    insertLedgerYears(database, years, salesPerYear, documentsPerYear);
     const auto* mapper = static_cast<DataMapperCashFlow*>(service<BusinessCashFlow>("Journal Transaction")->mapper());
     byHand.prepare("ledger", mapper->getCashFlowQuery() + " where trans_date >= :fromDate and trans_date <= :toDate "
                                                           "order by trans_date desc, no desc, id desc, account_code");

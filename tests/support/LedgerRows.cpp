@@ -43,20 +43,10 @@ void insertRows(TestDatabase& database, const QString& table, const RowValues& v
 
 void insertLedgerRow(TestDatabase& database, const LedgerRow& row)
 {
-    struct Table
-    {
-        QString name;
-        QString date;
-    };
-    static const Table tables[LedgerRow::KindCount] = {
-        {"purchase_order", "purchase_date"}, {"acquisition", "purchase_date"}, {"credit_note", "credit_note_date"},
-        {"payment", "payment_date"},         {"piutang", "payment_date"},      {"komisi_agen", "payment_date"},
-        {"invoice", "invoice_date"},         {"cash_flow", "trans_date"},      {"cash_flow", "trans_date"},
-        {"accounting_trans", "trans_date"}};
     const auto idOrNull = [](int id) { return id == 0 ? QString("NULL") : QString::number(id); };
     const QString amount = QString::number(row.amount);
 
-    RowValues values{{tables[row.kind].date, quoted(row.date.toString(Qt::ISODate))},
+    RowValues values{{ledgerTables()[row.kind].date, quoted(row.date.toString(Qt::ISODate))},
                      {"createdby", idOrNull(row.user)}};
     switch (row.kind) {
     case LedgerRow::DebitEntry:
@@ -82,5 +72,33 @@ void insertLedgerRow(TestDatabase& database, const LedgerRow& row)
     const bool isDocument = row.kind < LedgerRow::DebitEntry;
     values[isDocument ? "no" : "trans_no"] = quoted(row.no);
     values[isDocument ? "note" : "notes"] = row.note.isNull() ? QString("NULL") : quoted(row.note);
-    insertRows(database, tables[row.kind].name, values);
+    insertRows(database, ledgerTables()[row.kind].name, values);
+}
+
+const QList<LedgerTable>& ledgerTables()
+{
+    static const QList<LedgerTable> tables{{"purchase_order", "purchase_date"}, {"acquisition", "purchase_date"},
+                                           {"credit_note", "credit_note_date"}, {"payment", "payment_date"},
+                                           {"piutang", "payment_date"},         {"komisi_agen", "payment_date"},
+                                           {"invoice", "invoice_date"},         {"cash_flow", "trans_date"},
+                                           {"cash_flow", "trans_date"},         {"accounting_trans", "trans_date"}};
+    return tables;
+}
+
+void insertLedgerYears(TestDatabase& database, int years, int salesPerYear, int documentsPerYear)
+{
+    for (int kind = 0; kind < LedgerRow::KindCount; ++kind) {
+        const LedgerTable& table = ledgerTables()[kind];
+        RowValues values{{table.date, QString("current_date - i % %1").arg(365 * years)}, {"createdby", "1"}};
+        if (kind == LedgerRow::Sale)
+            values["acct_code"] = "'1-100'";
+        else if (kind == LedgerRow::DebitEntry || kind == LedgerRow::CreditEntry)
+            values["account_code"] = "'1-100'";
+        else if (kind == LedgerRow::Transfer)
+            values["from_account_id"] = values["to_account_id"] = "1";
+        else
+            values["bank_id"] = "1";
+        insertRows(database, table.name, values, (kind == LedgerRow::Sale ? salesPerYear : documentsPerYear) * years);
+    }
+    database.run("ANALYZE");
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDate>
+#include <QList>
 #include <QMap>
 #include <QString>
 
@@ -50,3 +51,16 @@ struct LedgerRow
 };
 
 void insertLedgerRow(TestDatabase& database, const LedgerRow& row);
+
+/** A table that the ledger reads, and the column of its date. */
+struct LedgerTable
+{
+    QString name;
+    QString date;
+};
+
+/** In the order of the kinds. */
+const QList<LedgerTable>& ledgerTables();
+
+/** Years of trade until today, the same number of documents every day. */
+void insertLedgerYears(TestDatabase& database, int years, int salesPerYear, int documentsPerYear);
