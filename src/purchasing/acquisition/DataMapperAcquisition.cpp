@@ -75,7 +75,7 @@ double DataMapperAcquisition::paidLater(int purchaseId)
 
 PurchasingColumns DataMapperAcquisition::filterColumns() const
 {
-    return {tableName(), "purchase_date", "status", "no", "invoice_no"};
+    return {tableName(), "purchase_date", "status", "no", "acquisition.invoice_no"};
 }
 
 QList<KorMigration*> DataMapperAcquisition::migrations() { return {new DataMapperAcquisitionMigration11(this)}; }

@@ -59,7 +59,7 @@ void DialogPurchases::setEntity(KorEntity* entity)
     for (EntityAcquisitionDetail* line : purchase->getDetails())
         (line->getPurchaseOrderDetailId() == KorNoValue ? free : ordered).append(line);
     m_free->setLines(free);
-    m_ordered->setOrderLines(purchase->getPurchaseOrderId(), ordered);
+    m_ordered->setSourceLines(purchase->getPurchaseOrderId(), ordered);
     if (free.isEmpty() && !ordered.isEmpty())
         m_ui->tabDetail->setCurrentWidget(m_ordered);
     InvoiceTotals stored = storedTotals(*purchase, purchase->getSubtotal());
@@ -78,8 +78,8 @@ KorEntity* DialogPurchases::getEntity()
     purchase->setInvoiceNo(m_ui->txtInvoiceNo->text());
     purchase->setNote(m_ui->txtNotes->toPlainText());
     purchase->setBank(account());
-    purchase->setIsApplyToPurchaseOrder(m_ordered->orderId() != KorNoValue);
-    purchase->setPurchaseOrderId(m_ordered->orderId());
+    purchase->setIsApplyToPurchaseOrder(m_ordered->sourceId() != KorNoValue);
+    purchase->setPurchaseOrderId(m_ordered->sourceId());
     purchase->setDetails(castAll<EntityAcquisitionDetail>(m_free->lines() + m_ordered->lines()));
     purchase->setRemovedDetails(castAll<EntityAcquisitionDetail>(m_free->removedLines() + m_ordered->removedLines()));
     const InvoiceTotals& money = totals();

@@ -145,7 +145,8 @@ void PurchasingDialog::checkLines()
 void PurchasingDialog::checkAmounts()
 {
     if (QLineEdit* box = m_cascade->wrongEntry()) {
-        addError(box, tr("Please enter a number"));
+        if (errorsOf(box).isEmpty())
+            addError(box, tr("Please enter a number"));
         return;
     }
     const QString tooLarge = tr("An amount is larger than a document can hold. Please check the figures.");

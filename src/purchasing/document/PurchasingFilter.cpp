@@ -18,7 +18,7 @@ void narrow(KorPaging& paging, const PurchasingFilter& filter, const PurchasingC
         if (filter.field == PurchasingFilter::DocumentNo)
             searched = table + columns.no;
         else if (filter.field == PurchasingFilter::OtherNo)
-            searched = "lower(" + table + columns.otherNo + ')';
+            searched = "lower(" + columns.otherNo + ')';
         paging.addFilter(" and " + searched + " like", '%' + filter.text.toLower() + '%');
     }
     paging.addSort(table + columns.date + " desc, " + table + "id", "desc");

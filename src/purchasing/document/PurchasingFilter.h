@@ -26,7 +26,7 @@ struct PurchasingColumns
     QString date;
     QString kind;
     QString no;
-    /** The supplier's own number of the document or the like; empty where the family has none. */
+    /** The supplier's own number of the document, as an expression; empty where the family has none. */
     QString otherNo;
 };
 

@@ -26,6 +26,9 @@ PurchasingLineDialog::PurchasingLineDialog(EntityPool& items, const Words& words
     m_item->lookUpWhenLeft();
     connect(m_item, &ItemField::chosen, this, &PurchasingLineDialog::proposePrice);
     m_ui->lblQty->setText(words.quantity);
+    // Whoever gives no discount leaves the boxes alone.
+    m_ui->txtDiscPerc->setValue(0);
+    m_ui->txtDiscount->setValue(0);
     focusLater(m_ui->txtCode);
 }
 
@@ -65,7 +68,13 @@ double PurchasingLineDialog::gross() const { return m_ui->txtUnitPrice->value() 
 
 void PurchasingLineDialog::showAmount() { m_ui->txtAmount->setValue(gross() - m_ui->txtDiscount->value()); }
 
-void PurchasingLineDialog::on_txtQty_textChanged(const QString&) { showAmount(); }
+void PurchasingLineDialog::on_txtQty_textChanged(const QString&)
+{
+    if (m_keepsShare)
+        on_txtDiscPerc_editingFinished();
+    else
+        showAmount();
+}
 
 void PurchasingLineDialog::on_txtUnitPrice_textChanged(const QString&) { showAmount(); }
 

@@ -53,6 +53,8 @@ protected:
     void addShownRow(const QString& label, const QString& text);
     /** The largest quantity that the line can have; the message tells that it is exceeded. */
     void limitQuantity(int largest, const QString& message);
+    /** The discount is a share of the amount: it follows the quantity. */
+    void keepDiscountShare() { m_keepsShare = true; }
 
 private:
     void proposePrice();
@@ -67,4 +69,5 @@ private:
     EntityPurchasingLine* m_line = nullptr;
     int m_largest;
     QString m_tooMany;
+    bool m_keepsShare = false;
 };

@@ -33,14 +33,14 @@ protected:
 };
 
 /** A page of lines made of a family's classes. */
-template <class Line, class Model, class Dialog>
-class PurchasingLinesOf : public PurchasingLinesTab
+template <class Line, class Model, class Dialog, class Base = PurchasingLinesTab>
+class PurchasingLinesOf : public Base
 {
 public:
-    using PurchasingLinesTab::PurchasingLinesTab;
+    using Base::Base;
 
 protected:
     KorEntity* createLine() override { return new Line; }
-    KorEntityModel* createModel(const Lines& lines) override { return new Model(lines, this); }
+    KorEntityModel* createModel(const QList<KorEntity*>& lines) override { return new Model(lines, this); }
     std::unique_ptr<KorDialog> createDialog(EntityPool& read) override { return std::make_unique<Dialog>(read, this); }
 };

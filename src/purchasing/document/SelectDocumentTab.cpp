@@ -61,6 +61,7 @@ void SelectDocumentTab::refresh()
     m_model = createModel(rows);
     applyModel(m_grid, m_model);
     m_grid->setSelectionMode(QAbstractItemView::SingleSelection);
+    setColumnWidths(m_grid, columnWidths());
     restoreColumns(m_grid);
     delete former;
     m_rows.swap(read);

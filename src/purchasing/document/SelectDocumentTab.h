@@ -33,6 +33,7 @@ protected:
 
     virtual QList<KorEntity*> readRows() = 0;
     virtual KorEntityModel* createModel(const QList<KorEntity*>& rows) = 0;
+    [[nodiscard]] virtual QList<int> columnWidths() const { return {}; }
     /** An empty row of filters above the list, with a button that searches. */
     AppFilterBar* addFilters(int filtersPerRow);
 
