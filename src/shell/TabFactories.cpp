@@ -21,6 +21,7 @@
 #include "masterdata/supplier/TabSupplier.h"
 #include "printing/configuration/TabKitchenPrinter.h"
 #include "purchasing/acquisition/TabPurchases.h"
+#include "purchasing/creditnote/TabCreditNote.h"
 #include "purchasing/purchaseorder/TabPurchaseOrder.h"
 #include "sales/commission/TabAllKomisiAgen.h"
 #include "sales/commission/TabKomisiAgen.h"
@@ -50,6 +51,7 @@ TabFactories allTabFactories()
         {"TabBank", make<TabBank>},
         {"TabBawaPulang", make<TabBawaPulang>},
         {"TabCashFlow", make<TabCashFlow>},
+        {"TabCreditNote", make<TabCreditNote>},
         {"TabDaftarPenjualan", make<TabDaftarPenjualan>},
         {"TabDashboard", make<TabDashboard>},
         {"TabEmployee", make<TabEmployee>},

@@ -35,6 +35,11 @@ EntityAcquisition* BusinessPurchases::findByNo(const QString& no)
     return read(m_purchases->findByNo(no), m_purchases, "findByNo");
 }
 
+EntityAcquisition* BusinessPurchases::findHeader(int id)
+{
+    return read(m_purchases->findHeader(id), m_purchases, "findHeader");
+}
+
 QList<EntityAcquisition*> BusinessPurchases::getPendingInvoiceBySupplier(const EntitySupplier* supplier)
 {
     return read(m_purchases->getPendingInvoiceBySupplier(supplier), m_purchases, "getPendingInvoiceBySupplier");

@@ -30,6 +30,7 @@ public:
     // The finders give purchases without lines, as a list shows them; find(id) reads a purchase with its lines.
     [[nodiscard]] QList<EntityAcquisition*> findAll(const PurchasingFilter& filter);
     [[nodiscard]] EntityAcquisition* findByNo(const QString& no);
+    [[nodiscard]] EntityAcquisition* findHeader(int id);
     /** What is not fully paid, the first due first. */
     [[nodiscard]] QList<EntityAcquisition*> getPendingInvoiceBySupplier(const EntitySupplier* supplier);
 

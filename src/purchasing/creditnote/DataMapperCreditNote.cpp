@@ -7,7 +7,7 @@
 
 DataMapperCreditNote::DataMapperCreditNote(QObject* parent, DataMapperKey* keys, DataMapperSupplier* suppliers,
                                            DataMapperBank* accounts, ItemPartners partners)
-    : NumberedDocumentMapper(parent, keys)
+    : PurchasingDocumentMapper(parent, keys)
 {
     setName("credit note");
     metaData()->setTableName("credit_note");
@@ -26,7 +26,7 @@ DataMapperCreditNote::DataMapperCreditNote(QObject* parent, DataMapperKey* keys,
     column("status", "integer not NULL", "Status");
     // An inner join on a column that may be empty: a note without an account is not read back; the form requires one.
     reference("bank_id", "integer null", "Bank", accounts, "inner");
-    m_lines = new DataMapperCreditNoteDetail(this, partners);
+    setLineMapper(new DataMapperCreditNoteDetail(this, partners));
 }
 
 KorEntity* DataMapperCreditNote::createEntity() { return new EntityCreditNote(entityParent()); }
@@ -35,6 +35,29 @@ QStringList DataMapperCreditNote::indexStatements() const
 {
     return {index("credit_note_date", "(credit_note_date)"), index("acquisition_id", "(acquisition_id)"),
             index("supplier_id", "(supplier_id)"), index("bank_id", "(bank_id)")};
+}
+
+QList<EntityCreditNote*> DataMapperCreditNote::findByAcquisition(int purchaseId)
+{
+    KorPaging paging;
+    paging.addFilter("acquisition_id = ", QString::number(purchaseId));
+    paging.addSort(tableName() + ".id", "asc");
+    return castAll<EntityCreditNote>(find(&paging));
+}
+
+int DataMapperCreditNote::purchaseOf(int noteId)
+{
+    KorQuery query;
+    const bool found =
+        execute(query, "select acquisition_id from credit_note where id = :id", {{":id", noteId}}) && query.next();
+    return found && !query.value(0).isNull() ? query.value(0).toInt() : KorNoValue;
+}
+
+PurchasingColumns DataMapperCreditNote::filterColumns() const
+{
+    // The supplier's number is that of the purchase that the goods had come with.
+    return {tableName(), "credit_note_date", "status", "no",
+            "(select invoice_no from acquisition where acquisition.id = credit_note.acquisition_id)"};
 }
 
 const AppDocumentMapper::Messages& DataMapperCreditNote::messages() const

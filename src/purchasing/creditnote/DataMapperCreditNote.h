@@ -1,14 +1,13 @@
 #pragma once
 
-#include "app/numbers/NumberedMapper.h"
-#include "masterdata/itemline/ItemLineMapper.h"
 #include "purchasing/creditnote/EntityCreditNote.h"
+#include "purchasing/document/PurchasingDocumentMapper.h"
 
 class DataMapperBank;
 class DataMapperSupplier;
 
 /** Credit notes with their lines, in the tables "credit_note" and "credit_note_detail". */
-class DataMapperCreditNote final : public NumberedDocumentMapper<EntityCreditNote>
+class DataMapperCreditNote final : public PurchasingDocumentMapper<EntityCreditNote, EntityCreditNoteDetail>
 {
     Q_OBJECT
 
@@ -19,12 +18,14 @@ public:
     [[nodiscard]] QString keyName() const override { return "NR"; }
     KorEntity* createEntity() override;
     [[nodiscard]] QStringList indexStatements() const override;
-    [[nodiscard]] KorDataMapper* lineMapper() const override { return m_lines; }
+
+    /** The notes for the purchase, without lines. */
+    [[nodiscard]] QList<EntityCreditNote*> findByAcquisition(int purchaseId);
+    /** The purchase that the stored note is for, KorNoValue for none. */
+    [[nodiscard]] int purchaseOf(int noteId);
 
 protected:
     [[nodiscard]] const Messages& messages() const override;
     void attachLine(KorEntity* line, int documentId) override;
-
-private:
-    KorDataMapper* m_lines;
+    [[nodiscard]] PurchasingColumns filterColumns() const override;
 };

@@ -45,7 +45,7 @@ PosBusinessRegistry::PosBusinessRegistry(QObject* parent)
     make<BusinessPrinterConfig>(services->configuration());
     make<BusinessDataPerusahaan>(mappers->dataPerusahaanMapper(), mappers->imagesMapper());
     make<BusinessPurchases>(mappers->acquisitionMapper(), mappers->itemHistoryMapper());
-    make<BusinessCreditNote>(mappers->creditNoteMapper());
+    make<BusinessCreditNote>(mappers->creditNoteMapper(), mappers->itemHistoryMapper(), purchases());
     make<BusinessGroupedItem>(mappers->groupedItemMapper());
     make<BusinessInventory>(mappers->stockTakeMapper(), mappers->stokAwalMapper(), mappers->itemHistoryMapper());
     make<BusinessItem>(mappers->itemMapper(), mappers->groupedItemMapper(), mappers->stokAwalMapper());

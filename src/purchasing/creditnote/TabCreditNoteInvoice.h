@@ -1,0 +1,22 @@
+#pragma once
+
+#include "purchasing/creditnote/DialogCreditNoteInvoice.h"
+#include "purchasing/creditnote/EntityCreditNoteDetail.h"
+#include "purchasing/creditnote/TableModelCreditNoteInvoice.h"
+#include "purchasing/document/SourceLinesTab.h"
+
+/** What goes back of a purchase, in the form of a credit note. */
+class TabCreditNoteInvoice final : public PurchasingLinesOf<EntityCreditNoteDetail, TableModelCreditNoteInvoice,
+                                                            DialogCreditNoteInvoice, SourceLinesTab>
+{
+    Q_OBJECT
+
+public:
+    explicit TabCreditNoteInvoice(QWidget* parent = nullptr);
+
+protected:
+    std::unique_ptr<SelectDocumentDialog> createSelection(const EntitySupplier* supplier) override;
+    [[nodiscard]] QList<EntityPurchasingLine*> linesOfSource(const KorEntity& purchase) const override;
+    [[nodiscard]] int sourceLineOf(const KorEntity& line) const override;
+    void fillFrom(EntityPurchasingLine* line, const EntityPurchasingLine& bought) override;
+};

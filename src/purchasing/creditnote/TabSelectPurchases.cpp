@@ -1,0 +1,51 @@
+#include "purchasing/creditnote/TabSelectPurchases.h"
+
+#include "app/widgets/AppFilterBar.h"
+#include "kor/business/KorServiceDirectory.h"
+#include "masterdata/supplier/EntitySupplier.h"
+#include "purchasing/acquisition/BusinessPurchases.h"
+#include "purchasing/acquisition/EntityAcquisition.h"
+#include "purchasing/creditnote/TableModelSelectPurchases.h"
+#include "purchasing/document/PaidStatus.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+
+namespace
+{
+constexpr int filtersPerRow = 3;
+const QDate firstDay(1900, 1, 1);
+const QDate lastDay(9999, 12, 31);
+} // namespace
+
+TabSelectPurchases::TabSelectPurchases(const EntitySupplier* supplier, QWidget* parent)
+    : SelectDocumentTab("tblPurchases", service<BusinessPurchases>("Purchases"), parent), m_supplier(supplier)
+{
+    AppFilterBar* filters = addFilters(filtersPerRow);
+    AppFilterBar::Rows states{{tr("All"), 0}};
+    for (int status : {EntityAcquisition::FULL_PAID, EntityAcquisition::PARTIALLY_PAID, EntityAcquisition::UNPAID})
+        states.append({paidStatusText(status), status});
+    m_status = filters->addChoice("ddlStatus", tr("Status :"), states);
+    m_text = filters->addText("txtFilter", tr("Search :"));
+    m_field = filters->addChoice(
+        "ddlFilter", tr("In :"),
+        {{tr("Purchase No."), PurchasingFilter::DocumentNo}, {tr("Invoice No."), PurchasingFilter::OtherNo}});
+    refresh();
+}
+
+QList<KorEntity*> TabSelectPurchases::readRows()
+{
+    PurchasingFilter filter;
+    filter.from = firstDay;
+    filter.to = lastDay;
+    filter.kind = m_status->currentData().toInt();
+    filter.supplierCode = m_supplier->getKode();
+    filter.field = static_cast<PurchasingFilter::Field>(m_field->currentData().toInt());
+    filter.text = m_text->text().trimmed();
+    return asEntities(service<BusinessPurchases>("Purchases")->findAll(filter));
+}
+
+KorEntityModel* TabSelectPurchases::createModel(const QList<KorEntity*>& rows)
+{
+    return new TableModelSelectPurchases(rows, this);
+}
