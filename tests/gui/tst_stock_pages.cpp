@@ -152,26 +152,21 @@ void TestStockPages::anItemsBeginningBalanceIsTyped()
 
 void TestStockPages::aBalanceIsAddedOnceAnItem()
 {
-    // The first entry finds the row that came with the item, the second none.
-    for (const char* quantity : {"30", "40"}) {
-        show<TabStokAwal>();
-        m_people->expect<DialogStokAwal>([quantity](DialogStokAwal* form) {
-            QTRY_COMPARE(QApplication::activeWindow(), form);
-            QTest::keyClicks(field(form, "txtKode"), "ri");
-            QTRY_VERIFY(QApplication::activePopupWidget());
-            QTest::keyClick(form->windowHandle(), Qt::Key_Return);
-            QTRY_COMPARE(text(form, "txtNama"), QString("Rice"));
-            QCOMPARE(form->focusWidget(), field(form, "txtHarga"));
-            QCOMPARE(static_cast<MoneyEdit*>(field(form, "txtHarga"))->value(), 10.0);
-            enter(form, "txtJumlah", quantity);
-            ::press(form, QDialogButtonBox::Ok);
-        });
-        press("btnAdd");
-        QTRY_VERIFY2(m_people->finished(), qPrintable(m_people->texts().join('\n')));
-        QTRY_COMPARE(stored("string_agg(jumlah || ' ' || harga_amount, ',') FROM stok_awal"),
-                     QString(quantity) + " 10");
-        m_database->run("DELETE FROM stok_awal WHERE jumlah = 30");
-    }
+    show<TabStokAwal>();
+    m_people->expect<DialogStokAwal>([](DialogStokAwal* form) {
+        QTRY_COMPARE(QApplication::activeWindow(), form);
+        QTest::keyClicks(field(form, "txtKode"), "ri");
+        QTRY_VERIFY(QApplication::activePopupWidget());
+        QTest::keyClick(form->windowHandle(), Qt::Key_Return);
+        QTRY_COMPARE(text(form, "txtNama"), QString("Rice"));
+        QCOMPARE(form->focusWidget(), field(form, "txtHarga"));
+        QCOMPARE(static_cast<MoneyEdit*>(field(form, "txtHarga"))->value(), 10.0);
+        enter(form, "txtJumlah", "30");
+        ::press(form, QDialogButtonBox::Ok);
+    });
+    press("btnAdd");
+    QTRY_COMPARE(rows(), QStringList{"RICE|Rice|30|Kilogram|$10.00|$300.00"});
+    QVERIFY2(m_people->finished(), qPrintable(m_people->texts().join('\n')));
 }
 
 void TestStockPages::aRefusedBalanceStaysAsTyped()
@@ -277,8 +272,6 @@ void TestStockPages::theQuantityBeforeFollowsTheDate()
         QCOMPARE(text(form, "txtKode") + ' ' + text(form, "txtQtyOnHand"), QString("rice 20"));
         enter(form, "txtStok", "4");
         auto* date = form->findChild<QDateEdit*>("dateQtyOnHand");
-        date->setFocus();
-        date->setSelectedSection(QDateEdit::DaySection);
         const auto before = [&](int days) {
             date->setDate(today.addDays(days));
             return text(form, "txtQtyOnHand") + " > " + text(form, "txtNewQty");
@@ -455,6 +448,7 @@ void TestStockPages::theStockCardTellsAnItemsMonth()
     m_database->run("DELETE FROM stok_awal");
     enter(m_page.get(), "txtItem", "rice");
     QCOMPARE(rows().value(0), QString("|Begining Balance||0|0|0"));
+    item->setFocus();
     QCOMPARE(m_people->texts(), QStringList());
 
     m_database->run("ALTER TABLE item_history RENAME TO elsewhere");

@@ -26,6 +26,12 @@ TabKartuStok::TabKartuStok(QWidget* parent)
     refresh();
 }
 
+TabKartuStok::~TabKartuStok()
+{
+    // A page that goes while its box has the focus leaves the box, and must not look a code up then.
+    delete m_item;
+}
+
 void TabKartuStok::makeFilters()
 {
     const QDate today = QDate::currentDate();

@@ -12,6 +12,7 @@ class TabKartuStok final : public AppDocumentTab
 
 public:
     explicit TabKartuStok(QWidget* parent = nullptr);
+    ~TabKartuStok() override;
 
 public slots:
     void onItemSelected();

@@ -42,5 +42,5 @@ private:
     EntityPool& m_items;
     KorDialog* m_form;
     ItemTextBox* m_box;
-    EntityItem* m_item = nullptr;
+    QPointer<EntityItem> m_item;
 };
