@@ -6,15 +6,10 @@
 #include "cash/accounting/DialogTransaction.h"
 #include "cash/accounting/EntityAccountingTransaction.h"
 #include "cash/accounting/TableModelAccountingTransaction.h"
+#include "cash/entry/TwoLineHeader.h"
 
 #include <QDateEdit>
-#include <QHeaderView>
 #include <QTableView>
-
-namespace
-{
-constexpr int headerMargin = 12;
-} // namespace
 
 TabTransfer::TabTransfer(QWidget* parent)
     : AppDocumentTab({tr("Transferring Funds"), "tblTransfer", "Accounting Transaction"}, 2, parent)
@@ -22,10 +17,7 @@ TabTransfer::TabTransfer(QWidget* parent)
     const QDate today = QDate::currentDate();
     m_from = filters()->addDate("dateFrom", tr("From Date :"), today.addDays(1 - today.day()));
     m_to = filters()->addDate("dateTo", tr("To Date :"), today);
-    // The headers of the accounts are longer than what stands below them.
-    QHeaderView* header = grid()->horizontalHeader();
-    header->setDefaultAlignment(Qt::AlignCenter | static_cast<Qt::Alignment>(Qt::TextWordWrap));
-    header->setMinimumHeight(2 * header->fontMetrics().lineSpacing() + headerMargin);
+    setTwoLineHeader(grid());
     grid()->setWordWrap(false);
     refresh();
 }
@@ -44,8 +36,8 @@ void TabTransfer::modelApplied()
 {
     using Model = TableModelAccountingTransaction;
     for (const auto& width :
-         {std::pair(Model::FromCode, 112), std::pair(Model::FromName, 170), std::pair(Model::ToCode, 112),
-          std::pair(Model::ToName, 170), std::pair(Model::Description, 150)})
+         {std::pair(Model::TransNo, 120), std::pair(Model::FromCode, 112), std::pair(Model::FromName, 124),
+          std::pair(Model::ToCode, 112), std::pair(Model::ToName, 124), std::pair(Model::Description, 150)})
         grid()->setColumnWidth(width.first, width.second);
 }
 

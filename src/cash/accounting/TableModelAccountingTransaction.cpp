@@ -10,7 +10,7 @@ QString nameOf(const EntityBank* account) { return account ? account->getNama() 
 } // namespace
 
 TableModelAccountingTransaction::TableModelAccountingTransaction(const QList<KorEntity*>& transfers, QObject* parent)
-    : AppEntityModel(transfers, parent)
+    : CutTextModel(transfers, parent)
 {
     using Transfer = EntityAccountingTransaction;
     const auto text = [this](const QString& header, auto read) {

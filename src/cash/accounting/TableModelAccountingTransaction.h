@@ -1,9 +1,9 @@
 #pragma once
 
-#include "app/widgets/AppEntityModel.h"
+#include "cash/entry/CutTextModel.h"
 
 /** Transfers between accounts as their page shows them. */
-class TableModelAccountingTransaction final : public AppEntityModel
+class TableModelAccountingTransaction final : public CutTextModel
 {
     Q_OBJECT
 

@@ -7,6 +7,7 @@
 #include "cash/cashflow/EntityCashFlow.h"
 #include "cash/cashflow/LedgerTotals.h"
 #include "cash/cashflow/TableModelCashFlow.h"
+#include "cash/entry/TwoLineHeader.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "masterdata/bank/BankTextBox.h"
 
@@ -22,6 +23,7 @@ TabCashFlow::TabCashFlow(QWidget* parent)
 {
     makeFilters();
     addFoot(m_totals);
+    setTwoLineHeader(grid());
     grid()->setWordWrap(false);
     refresh();
 }
@@ -79,7 +81,7 @@ void TabCashFlow::modelApplied()
 {
     using Model = TableModelCashFlow;
     for (const auto& width :
-         {std::pair(Model::AccountCode, 118), std::pair(Model::TransNo, 142), std::pair(Model::AccountName, 200),
+         {std::pair(Model::AccountCode, 96), std::pair(Model::TransNo, 142), std::pair(Model::AccountName, 200),
           std::pair(Model::Type, 150), std::pair(Model::Description, 150)})
         grid()->setColumnWidth(width.first, width.second);
     const QList<KorEntity*> rows = model()->entities();

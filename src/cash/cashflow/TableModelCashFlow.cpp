@@ -11,7 +11,7 @@ const Money* used(const Money* side, const Money* other)
 }
 } // namespace
 
-TableModelCashFlow::TableModelCashFlow(const QList<KorEntity*>& rows, QObject* parent) : AppEntityModel(rows, parent)
+TableModelCashFlow::TableModelCashFlow(const QList<KorEntity*>& rows, QObject* parent) : CutTextModel(rows, parent)
 {
     using Row = EntityCashFlow;
     addField<Row>(QMetaType::QDateTime, tr("Date"), [this](const Row& row) { return dateText(row.getDate()); });
@@ -23,21 +23,4 @@ TableModelCashFlow::TableModelCashFlow(const QList<KorEntity*>& rows, QObject* p
     addText(tr("Type"), &Row::getTransType);
     addField<Row>(QMetaType::QString, tr("Description"), [](const Row& row) { return row.getNotes().simplified(); });
     addText(tr("Operator"), &Row::getOperator);
-}
-
-QVariant TableModelCashFlow::data(const QModelIndex& index, int role) const
-{
-    if (role != Qt::ToolTipRole)
-        return AppEntityModel::data(index, role);
-    const auto* row = static_cast<const EntityCashFlow*>(entityAt(index.row()));
-    switch (row ? index.column() : -1) {
-    case AccountName:
-        return row->getAccountName();
-    case Type:
-        return row->getTransType();
-    case Description:
-        return row->getNotes();
-    default:
-        return {};
-    }
 }

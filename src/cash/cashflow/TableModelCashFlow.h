@@ -1,9 +1,9 @@
 #pragma once
 
-#include "app/widgets/AppEntityModel.h"
+#include "cash/entry/CutTextModel.h"
 
 /** The rows of the ledger as its page shows them. */
-class TableModelCashFlow final : public AppEntityModel
+class TableModelCashFlow final : public CutTextModel
 {
     Q_OBJECT
 
@@ -11,7 +11,4 @@ public:
     enum Column { Date, AccountCode, AccountName, Debit, Credit, TransNo, Type, Description, Operator };
 
     TableModelCashFlow(const QList<KorEntity*>& rows, QObject* parent);
-
-    /** Words that a column cuts off are told when the mouse rests on them. */
-    [[nodiscard]] QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
 };
