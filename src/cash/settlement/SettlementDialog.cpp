@@ -2,6 +2,7 @@
 
 #include "app/context/AppContext.h"
 #include "app/money/Money.h"
+#include "app/widgets/AppLinesTab.h"
 #include "app/widgets/MoneyEdit.h"
 #include "cash/settlement/SettlementTab.h"
 #include "kor/business/KorServiceDirectory.h"
@@ -33,6 +34,15 @@ void SettlementDialog::setUpSettlement(const Boxes& boxes, const Words& words, S
     connect(m_page, &SettlementTab::Paid, this, &SettlementDialog::showTotal);
     connect(new QShortcut(Qt::Key_F3, this), &QShortcut::activated, this, &SettlementDialog::onTabInvoicesSelected);
     m_page->setLines({});
+}
+
+void SettlementDialog::addLinesPage(AppLinesTab* page, Qt::Key key)
+{
+    connect(page, &AppLinesTab::ItemAdded, this, &SettlementDialog::showTotal);
+    connect(new QShortcut(key, this), &QShortcut::activated, this, [this, page] {
+        m_boxes.pages->setCurrentWidget(page);
+        page->focusLines();
+    });
 }
 
 void SettlementDialog::onTabInvoicesSelected()
@@ -153,7 +163,7 @@ QList<KorEntity*> SettlementDialog::removedLines(const QList<KorEntity*>& taken)
 
 qint64 SettlementDialog::sum() const
 {
-    qint64 total = 0;
+    qint64 total = furtherAmount();
     for (const KorEntity* line : m_page->lines())
         total += amountOf(*line)->rawAmount();
     return total;
@@ -168,6 +178,14 @@ void SettlementDialog::showTotal()
     totalChanged();
 }
 
+void SettlementDialog::checkLines()
+{
+    if (m_page->lines().isEmpty())
+        addError(m_boxes.pages, m_words.noDocument);
+    else if (const KorEntity* line = lineWithoutAmount())
+        addError(m_boxes.pages, m_words.unpaidDocument.arg(documentNoOf(*line)));
+}
+
 bool SettlementDialog::validate()
 {
     // A code typed by hand counts like one that was picked from the list.
@@ -179,10 +197,7 @@ bool SettlementDialog::validate()
     }
     if (!m_person)
         addError(m_boxes.person, m_words.noPerson);
-    if (m_page->lines().isEmpty())
-        addError(m_boxes.pages, m_words.noDocument);
-    else if (const KorEntity* line = lineWithoutAmount())
-        addError(m_boxes.pages, m_words.unpaidDocument.arg(documentNoOf(*line)));
+    checkLines();
     if (sum() > std::numeric_limits<int>::max())
         addError(m_boxes.pages, tr("The total is larger than a payment can hold. Please check the figures."));
     checkAmounts();

@@ -4,6 +4,7 @@
 #include "kor/widgets/KorDialog.h"
 
 class AccountField;
+class AppLinesTab;
 class EntityBank;
 class EntityContact;
 class KorBusinessLogic;
@@ -48,6 +49,7 @@ protected:
         QString noDocument;
         /** With the number of the document as %1. */
         QString unpaidDocument;
+        /** Empty where the account may be left out. */
         QString noAccount;
         QString unknownAccount;
     };
@@ -63,6 +65,10 @@ protected:
     [[nodiscard]] virtual const Money* amountOf(const KorEntity& line) const = 0;
     /** The line that is told to lack its amount, null where none does; asked only when there are lines. */
     [[nodiscard]] virtual const KorEntity* lineWithoutAmount() const = 0;
+    /** Reports what is wrong with the lines; by default that there is none, or one without its amount. */
+    virtual void checkLines();
+    /** What the form pays besides its lines, in minor units. */
+    [[nodiscard]] virtual qint64 furtherAmount() const { return 0; }
     /** Reports what is wrong with further amounts of the form. */
     virtual void checkAmounts() {}
     /** The total has changed. */
@@ -71,6 +77,8 @@ protected:
     /** To be called once, at the end of the form's constructor; the services are those of the person and the lines. */
     void setUpSettlement(const Boxes& boxes, const Words& words, SettlementTab* page, KorBusinessLogic* people,
                          KorBusinessLogic* documents);
+    /** A second page, whose amounts are part of the total. */
+    void addLinesPage(AppLinesTab* page, Qt::Key key);
     /** Shows the person with what is open; the person is borrowed. Null shows an empty form. */
     void takePerson(EntityContact* person);
     /** Shows a stored settlement; with the person's other open documents on offer, or with its own lines alone. */
@@ -78,6 +86,9 @@ protected:
 
     [[nodiscard]] EntityContact* person() const { return m_person; }
     [[nodiscard]] EntityBank* account() const;
+    [[nodiscard]] AccountField* accountField() const { return m_account; }
+    /** What all lines come to, in minor units. */
+    [[nodiscard]] qint64 sum() const;
     /** Of the stored lines, those that are not among the ones that the record takes now. */
     [[nodiscard]] QList<KorEntity*> removedLines(const QList<KorEntity*>& taken) const;
 
@@ -90,7 +101,6 @@ private:
     void showChosen(EntityContact* person);
     void tell(const QString& failure);
     void showTotal();
-    [[nodiscard]] qint64 sum() const;
 
     Boxes m_boxes{};
     Words m_words;

@@ -50,6 +50,9 @@ QString AccountField::lookUp()
 bool AccountField::check(const QString& missing, const QString& unknown)
 {
     if (m_code->text().trimmed().isEmpty()) {
+        m_account = nullptr;
+        if (missing.isEmpty())
+            return true;
         m_form->addError(m_code, missing);
         return false;
     }

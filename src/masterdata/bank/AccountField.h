@@ -24,7 +24,10 @@ public:
     void show(EntityBank* account);
     /** Looks the code up; a failure to read is told in a box. */
     void showCode(const QString& code);
-    /** Reports an empty box and an unknown code on the form; false for both, and when the accounts cannot be read. */
+    /**
+     * Reports an empty box and an unknown code on the form; false for both, and when the accounts cannot be read. The
+     * box may be empty where there is no text for it.
+     */
     bool check(const QString& missing, const QString& unknown);
 
 private:

@@ -1,16 +1,18 @@
 #pragma once
 
+#include "cash/settlement/EntityPartPayment.h"
 #include "purchasing/acquisition/EntityAcquisition.h"
 
 /** What a payment pays of one purchase, and what is then left of it. */
-class EntityPaymentInvoices : public KorEntity
+class EntityPaymentInvoices : public EntityPartPayment
 {
     Q_OBJECT
     KOR_PROPERTY(int, PaymentId, KorNoValue)
     KOR_REFERENCE(EntityAcquisition, Acquisition)
-    MONEY_PROPERTY(AmountPaid)
-    MONEY_PROPERTY(AmountDue)
 
 public:
-    using KorEntity::KorEntity;
+    using EntityPartPayment::EntityPartPayment;
+
+    [[nodiscard]] int documentId() const override { return m_Acquisition->getId(); }
+    [[nodiscard]] QString documentNo() const override { return m_Acquisition->getNo(); }
 };

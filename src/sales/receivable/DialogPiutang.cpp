@@ -11,18 +11,12 @@
 
 #include "ui_DialogPiutang.h"
 
-namespace
-{
-const EntityPiutangDetail& detail(const KorEntity& line) { return static_cast<const EntityPiutangDetail&>(line); }
-} // namespace
-
 DialogPiutang::DialogPiutang(QWidget* parent)
-    : SettlementDialog(parent), m_ui(std::make_unique<Ui::DialogPiutang>()),
+    : PartPaymentsDialog(parent), m_ui(std::make_unique<Ui::DialogPiutang>()),
       m_sales(service<BusinessPenjualan>("Sales"))
 {
     m_ui->setupUi(this);
-    for (const auto& type : paymentTypeRows())
-        m_ui->ddlPaymentType->addItem(type.first, type.second);
+    offerTypes(*m_ui, paymentTypeRows());
     m_memberBox = new MemberTextBox(m_ui->txtMember, service<BusinessMember>("Member"));
     m_memberBox->setNextWidget(m_ui->txtARAccount);
     connect(m_memberBox, &KorTextBoxExtender::onItemSelected, this, &DialogPiutang::onMemberSelected);
@@ -56,37 +50,16 @@ QList<KorEntity*> DialogPiutang::readOpenLines(const EntityContact& person)
     return asEntities(m_sales->getUnpaidInvoicesForMember(person.getId()));
 }
 
-int DialogPiutang::documentIdOf(const KorEntity& line) const { return detail(line).getInvoice()->getId(); }
-
-QString DialogPiutang::documentNoOf(const KorEntity& line) const { return detail(line).getInvoice()->getInvoiceNo(); }
-
-const Money* DialogPiutang::amountOf(const KorEntity& line) const { return detail(line).getAmountPaid(); }
-
-QList<EntityPiutangDetail*> DialogPiutang::paidLines() const
-{
-    QList<EntityPiutangDetail*> paid;
-    for (KorEntity* line : m_ui->tabInvoices->lines()) {
-        if (detail(*line).getAmountPaid()->rawAmount() != 0)
-            paid.append(static_cast<EntityPiutangDetail*>(line));
-    }
-    return paid;
-}
-
 const KorEntity* DialogPiutang::lineWithoutAmount() const
 {
-    return paidLines().isEmpty() ? m_ui->tabInvoices->lines().first() : nullptr;
+    return m_ui->tabInvoices->paidLines().isEmpty() ? m_ui->tabInvoices->lines().first() : nullptr;
 }
 
 void DialogPiutang::setEntity(KorEntity* entity)
 {
     hold(entity);
     const auto* payment = held<EntityPiutang>();
-    m_ui->txtKode->setText(payment->getNo());
-    m_ui->ddlPaymentType->setCurrentIndex(m_ui->ddlPaymentType->findData(payment->getPaymentType()));
-    m_ui->txtCekNo->setText(payment->getCheckNo());
-    m_ui->txtRefNo->setText(payment->getNoRef());
-    m_ui->datePay->setDate(payment->getDate());
-    m_ui->txtNotes->setPlainText(payment->getNote());
+    showPayment(*m_ui, *payment);
     // As things stand now: other payments may have paid of the same invoices since.
     for (EntityPiutangDetail* line : payment->getDetails())
         line->setAmountDue(amountLeft(*line->getInvoice()).get());
@@ -97,14 +70,9 @@ KorEntity* DialogPiutang::getEntity()
 {
     auto* payment = heldOrNew<EntityPiutang>();
     payment->setMember(static_cast<EntityMember*>(person()));
-    payment->setPaymentType(m_ui->ddlPaymentType->currentData().toInt());
-    payment->setDate(m_ui->datePay->date());
-    payment->setCheckNo(m_ui->txtCekNo->text());
-    payment->setNoRef(m_ui->txtRefNo->text());
-    payment->setNote(m_ui->txtNotes->toPlainText());
-    payment->setBank(account());
-    payment->setGrandTotal(m_ui->txtGrandTotal->money());
-    payment->setDetails(paidLines());
-    payment->setRemovedDetails(castAll<EntityPiutangDetail>(removedLines(asEntities(paidLines()))));
+    takePayment(*m_ui, payment);
+    const QList<KorEntity*> paid = m_ui->tabInvoices->paidLines();
+    payment->setDetails(castAll<EntityPiutangDetail>(paid));
+    payment->setRemovedDetails(castAll<EntityPiutangDetail>(removedLines(paid)));
     return payment;
 }

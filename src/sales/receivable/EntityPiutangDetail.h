@@ -1,16 +1,18 @@
 #pragma once
 
+#include "cash/settlement/EntityPartPayment.h"
 #include "sales/invoice/Invoice.h"
 
 /** What a member's payment pays of one invoice, and what is then left of it. */
-class EntityPiutangDetail : public KorEntity
+class EntityPiutangDetail : public EntityPartPayment
 {
     Q_OBJECT
     KOR_PROPERTY(int, PiutangId, KorNoValue)
     KOR_REFERENCE(Invoice, Invoice)
-    MONEY_PROPERTY(AmountPaid)
-    MONEY_PROPERTY(AmountDue)
 
 public:
-    using KorEntity::KorEntity;
+    using EntityPartPayment::EntityPartPayment;
+
+    [[nodiscard]] int documentId() const override { return m_Invoice->getId(); }
+    [[nodiscard]] QString documentNo() const override { return m_Invoice->getInvoiceNo(); }
 };

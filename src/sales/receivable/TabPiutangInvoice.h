@@ -1,9 +1,9 @@
 #pragma once
 
-#include "cash/settlement/SettlementTab.h"
+#include "cash/settlement/PartPaymentsTab.h"
 
-/** The page of the member payment form: the open invoices, to be paid one by one or all together. */
-class TabPiutangInvoice final : public SettlementTab
+/** The page of the member payment form: the open invoices of the member. */
+class TabPiutangInvoice final : public PartPaymentsTab
 {
     Q_OBJECT
 
@@ -13,10 +13,11 @@ public:
 public slots:
     // The names are the reverse of what the buttons do.
     /** Pays all invoices. */
-    void on_pushButton_clicked();
+    void on_pushButton_clicked() { payAll(); }
     /** Pays the selected invoice. */
-    void on_btnPayAll_clicked();
+    void on_btnPayAll_clicked() { paySelected(); }
 
 protected:
     [[nodiscard]] KorEntityModel* createModel(const QList<KorEntity*>& lines) override;
+    [[nodiscard]] std::unique_ptr<KorDialog> createDialog() override;
 };
