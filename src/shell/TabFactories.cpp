@@ -22,6 +22,7 @@
 #include "printing/configuration/TabKitchenPrinter.h"
 #include "purchasing/acquisition/TabPurchases.h"
 #include "purchasing/creditnote/TabCreditNote.h"
+#include "purchasing/payment/TabPayment.h"
 #include "purchasing/purchaseorder/TabPurchaseOrder.h"
 #include "sales/commission/TabAllKomisiAgen.h"
 #include "sales/commission/TabKomisiAgen.h"
@@ -66,6 +67,7 @@ TabFactories allTabFactories()
         {"TabMakanDitempat", make<TabMakanDitempat>},
         {"TabMeja", make<TabMeja>},
         {"TabMember", make<TabMember>},
+        {"TabPayment", make<TabPayment>},
         {"TabPesananMasuk", make<TabPesananMasuk>},
         {"TabPiutang", make<TabPiutang>},
         {"TabPurchaseOrder", make<TabPurchaseOrder>},

@@ -25,3 +25,11 @@ QList<QPair<QString, QVariant>> paymentTypeRows()
         rows.append({paymentTypeText(type), type});
     return rows;
 }
+
+QList<QPair<QString, QVariant>> supplierPaymentTypeRows()
+{
+    const auto text = [](const char* words) { return QCoreApplication::translate("PaymentType", words); };
+    return {{text("Cash"), EntityPayment::CASH},
+            {text("Electronic funds transfer"), EntityPayment::ELECTRONIC},
+            {text("Checks"), EntityPayment::CHECK}};
+}

@@ -9,3 +9,5 @@
 [[nodiscard]] QString paymentTypeText(int type);
 /** All kinds with their words, as a choice offers them. */
 [[nodiscard]] QList<QPair<QString, QVariant>> paymentTypeRows();
+/** The same as payments to suppliers word it. */
+[[nodiscard]] QList<QPair<QString, QVariant>> supplierPaymentTypeRows();

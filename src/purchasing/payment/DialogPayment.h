@@ -1,0 +1,45 @@
+#pragma once
+
+#include "cash/settlement/PartPaymentsDialog.h"
+
+#include <memory>
+
+class BusinessPurchases;
+class SupplierTextBox;
+
+namespace Ui
+{
+class DialogPayment;
+}
+
+/** Pays a supplier: open purchases, what else the house bought, or both. */
+class DialogPayment final : public PartPaymentsDialog
+{
+    Q_OBJECT
+
+public:
+    explicit DialogPayment(QWidget* parent = nullptr);
+    ~DialogPayment() override;
+
+    KorEntity* getEntity() override;
+    void setEntity(KorEntity* entity) override;
+
+public slots:
+    void onSupplierSelected();
+    /** Whoever has said where the money comes from says next how it is paid. */
+    void onCashAccountSelected();
+
+protected:
+    [[nodiscard]] EntityContact* findPerson(const QString& code) override;
+    void showPerson(const EntityContact* person) override;
+    [[nodiscard]] QList<KorEntity*> readOpenLines(const EntityContact& person) override;
+    /** A purchase without an amount is only on offer. */
+    [[nodiscard]] const KorEntity* lineWithoutAmount() const override { return nullptr; }
+    void checkLines() override;
+    [[nodiscard]] qint64 furtherAmount() const override;
+
+private:
+    std::unique_ptr<Ui::DialogPayment> m_ui;
+    BusinessPurchases* m_purchases;
+    SupplierTextBox* m_supplierBox;
+};
