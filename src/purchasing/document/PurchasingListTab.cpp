@@ -10,7 +10,7 @@
 
 namespace
 {
-constexpr int filtersPerRow = 4;
+constexpr int filtersPerRow = 3;
 
 QDate firstOfMonth()
 {

@@ -13,4 +13,7 @@ class TabPaymentExpenses final
 
 public:
     explicit TabPaymentExpenses(QWidget* parent = nullptr) : PurchasingLinesOf(parent) { refresh(); }
+
+protected:
+    [[nodiscard]] QList<int> columnWidths() const override { return {110, 260, 100, 150, 150}; }
 };
