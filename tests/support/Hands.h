@@ -3,6 +3,7 @@
 #include "support/ModalDriver.h"
 
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTableView>
@@ -14,27 +15,47 @@
 
 [[nodiscard]] inline QString shown(const QWidget* form, const char* name) { return box(form, name)->text(); }
 
+/** The one that is in front, where every page of a form has one; null stands for any name. */
+template <class Widget>
+[[nodiscard]] Widget* inFront(const QWidget* page, const char* name)
+{
+    const QList<Widget*> all = page->findChildren<Widget*>(name);
+    for (Widget* one : all) {
+        if (one->isVisible())
+            return one;
+    }
+    return all.value(0);
+}
+
 /** Types over what stands in the box, and leaves it with the Tab key. */
 inline void enter(QWidget* form, const char* name, const QString& text)
 {
     box(form, name)->setFocus(Qt::TabFocusReason);
     box(form, name)->selectAll();
+    if (text.isEmpty())
+        QTest::keyClick(box(form, name), Qt::Key_Backspace);
     QTest::keyClicks(box(form, name), text);
     QTest::keyClick(box(form, name), Qt::Key_Tab);
 }
 
 inline void click(QWidget* page, const char* button)
 {
-    QTest::mouseClick(page->findChild<QPushButton*>(button), Qt::LeftButton);
+    QTest::mouseClick(inFront<QPushButton>(page, button), Qt::LeftButton);
 }
 
 /** Confirms the form by the Return key in one of its boxes. */
 inline void confirm(QWidget* form, const char* inBox) { QTest::keyClick(box(form, inBox), Qt::Key_Return); }
 
+/** Confirms the form by its button. */
+inline void press(const QWidget* form, QDialogButtonBox::StandardButton button)
+{
+    QTest::mouseClick(form->findChild<QDialogButtonBox*>()->button(button), Qt::LeftButton);
+}
+
 inline void giveUp(QWidget* form) { QTest::keyClick(form, Qt::Key_Escape); }
 
-// The only grid of the page.
-[[nodiscard]] inline QTableView* gridOf(const QWidget* page) { return page->findChild<QTableView*>(); }
+// The only grid of the page, or the one in front.
+[[nodiscard]] inline QTableView* gridOf(const QWidget* page) { return inFront<QTableView>(page, nullptr); }
 
 inline void choose(const QWidget* page, int row) { gridOf(page)->selectRow(row); }
 

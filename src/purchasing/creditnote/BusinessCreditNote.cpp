@@ -29,6 +29,11 @@ QList<EntityCreditNote*> BusinessCreditNote::findAll(const PurchasingFilter& fil
     return read(m_notes->findAll(filter), m_notes, "findall");
 }
 
+int BusinessCreditNote::returnedElsewhere(const EntityCreditNoteDetail& line)
+{
+    return read(m_notes->returnedElsewhere(line), m_notes, "returnedElsewhere");
+}
+
 // --- saving --------------------------------------------------------------------------------------------------------
 
 void BusinessCreditNote::updateStatus(EntityCreditNote& note)

@@ -31,6 +31,9 @@ public:
     /** Without lines, as a list shows them; find(id) reads a note with its lines. */
     [[nodiscard]] QList<EntityCreditNote*> findAll(const PurchasingFilter& filter);
 
+    /** How many of the purchase's line went back already on other notes. */
+    [[nodiscard]] int returnedElsewhere(const EntityCreditNoteDetail& line);
+
     /** Sets the status that follows from what was paid; every save begins with it. A cancelled note stays so. */
     static void updateStatus(EntityCreditNote& note);
     /** Reckons anew what is due for the note's purchase, if it has one. */

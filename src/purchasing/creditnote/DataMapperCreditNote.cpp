@@ -53,6 +53,21 @@ int DataMapperCreditNote::purchaseOf(int noteId)
     return found && !query.value(0).isNull() ? query.value(0).toInt() : KorNoValue;
 }
 
+int DataMapperCreditNote::returnedElsewhere(const EntityCreditNoteDetail& line)
+{
+    KorQuery query;
+    const bool done = execute(
+        query,
+        "select coalesce(sum(qty_returned), 0) from credit_note_detail inner join credit_note on credit_note.id "
+        "= credit_note_detail.credit_note_id where acquisition_id = (select acquisition_id from "
+        "acquisition_detail where id = :line) and acquisition_detail_id = :line and credit_note.id <> :note and "
+        "status <> :cancelled",
+        {{":line", line.getAcquisitionDetailId()},
+         {":note", line.getCreditNoteId()},
+         {":cancelled", int(EntityCreditNote::CANCELLED)}});
+    return done && query.next() ? query.value(0).toInt() : 0;
+}
+
 PurchasingColumns DataMapperCreditNote::filterColumns() const
 {
     // The supplier's number is that of the purchase that the goods had come with.

@@ -23,6 +23,8 @@ public:
     [[nodiscard]] QList<EntityCreditNote*> findByAcquisition(int purchaseId);
     /** The purchase that the stored note is for, KorNoValue for none. */
     [[nodiscard]] int purchaseOf(int noteId);
+    /** How many of the purchase's line went back already on other notes; those of cancelled notes did not. */
+    [[nodiscard]] int returnedElsewhere(const EntityCreditNoteDetail& line);
 
 protected:
     [[nodiscard]] const Messages& messages() const override;

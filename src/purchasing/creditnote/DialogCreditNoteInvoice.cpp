@@ -1,6 +1,7 @@
 #include "purchasing/creditnote/DialogCreditNoteInvoice.h"
 
-#include "purchasing/creditnote/EntityCreditNoteDetail.h"
+#include "kor/business/KorServiceDirectory.h"
+#include "purchasing/creditnote/BusinessCreditNote.h"
 
 DialogCreditNoteInvoice::DialogCreditNoteInvoice(EntityPool& items, QWidget* parent)
     : PurchasingLineDialog(items,
@@ -16,7 +17,15 @@ void DialogCreditNoteInvoice::setEntity(KorEntity* line)
     PurchasingLineDialog::setEntity(line);
     // What was taken off the price when it was bought is taken off what comes back for each of them.
     keepDiscountShare();
-    const int bought = static_cast<EntityCreditNoteDetail*>(line)->getQty();
-    addShownRow(tr("Bought :"), QString::number(bought));
-    limitQuantity(bought, tr("The purchase holds %1 of this item, and no more can go back for it").arg(bought));
+    const auto& returned = *static_cast<EntityCreditNoteDetail*>(line);
+    auto* notes = service<BusinessCreditNote>("Credit Note");
+    notes->clearErrors();
+    const int before = notes->returnedElsewhere(returned);
+    if (notes->hasError())
+        showError(notes->takeErrors());
+    addShownRow(tr("Bought :"), QString::number(returned.getQty()));
+    addShownRow(tr("Returned before :"), QString::number(before));
+    // The same goods do not go back twice; what was never bought goes back as a free item.
+    const int left = returned.getQty() - before;
+    limitQuantity(left, tr("No more than %1 of this item can go back for the purchase").arg(left));
 }
