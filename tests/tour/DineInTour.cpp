@@ -22,7 +22,7 @@ void masterData(Guide& guide)
     guide.waitUntilClosed("DialogMeja");
     guide.expectText("lblCount", "3 Items");
     guide.picture("tables");
-    guide.key(Qt::Key_Escape);
+    guide.closePage();
 
     guide.menu("menuMaster_Data", "actionItem");
     guide.waitForWidget("tblItem");
@@ -34,7 +34,7 @@ void masterData(Guide& guide)
     guide.picture("item-form");
     guide.key(Qt::Key_Escape);
     guide.waitUntilClosed("DialogItem");
-    guide.key(Qt::Key_Escape);
+    guide.closePage();
 }
 
 void takeOrder(Guide& guide)

@@ -17,6 +17,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSemaphore>
+#include <QTabWidget>
 #include <QTest>
 #include <QTextStream>
 #include <QThread>
@@ -414,6 +415,19 @@ void Guide::menu(const QString& menuName, const QString& actionName)
         }
     });
     waitFor("closed menu " + menuName, [&theMenu] { return !theMenu()->isVisible(); });
+}
+
+void Guide::closePage()
+{
+    const auto front = []() -> QWidget* {
+        const QWidget* window = frontWindow();
+        const auto* pages = window ? window->findChild<QTabWidget*>("tabWidget") : nullptr;
+        return pages ? pages->currentWidget() : nullptr;
+    };
+    const QVariant page = ask([&front] { return QVariant::fromValue(quintptr(front())); });
+    key(Qt::Key_Escape);
+    // The button behind the key is pressed a moment later.
+    waitFor("the page to close", [&front, &page] { return quintptr(front()) != page.value<quintptr>(); });
 }
 
 void Guide::pressOk()

@@ -58,6 +58,8 @@ public:
     /** Triggers the entry of the main window's menu that has this object name, by the mouse. */
     void menu(const QString& menuName, const QString& actionName);
 
+    /** Closes the page in front by its key. */
+    void closePage();
     /** Presses OK in the front dialog's button box. */
     void pressOk();
     /** Waits for the next slip of the folder spool, which must hold these texts; it joins the summary. */

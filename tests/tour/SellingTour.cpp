@@ -82,7 +82,7 @@ void payApart(Guide& guide)
     guide.key(Qt::Key_Escape);
     guide.waitUntilClosed("DialogBayarMakanDitempat");
     guide.expectRow("tblMeja", "Table 1", "Empty");
-    guide.key(Qt::Key_Escape);
+    guide.closePage();
 }
 void sellOverTheCounter(Guide& guide)
 {
@@ -110,7 +110,7 @@ void sellOverTheCounter(Guide& guide)
     guide.waitUntilClosed("DialogFastFood");
     guide.expectRow("tblMeja", "A walker-by", "Fully Paid");
     guide.picture("counter-list");
-    guide.key(Qt::Key_Escape);
+    guide.closePage();
 }
 
 void orderToTakeAway(Guide& guide)
@@ -151,7 +151,7 @@ void cookIt(Guide& guide)
     guide.chooseRow("tblQueue", "Take Away:1");
     guide.click("btnPrint");
     guide.expectSlip({"Rice with fresh", "extra hot"});
-    guide.key(Qt::Key_Escape);
+    guide.closePage();
 }
 
 void handOver(Guide& guide)
@@ -172,7 +172,7 @@ void handOver(Guide& guide)
     guide.waitUntilClosed("DialogBayarBawaPulang");
     guide.expectText("lblCount", "0 Items");
     guide.picture("take-away-done");
-    guide.key(Qt::Key_Escape);
+    guide.closePage();
 }
 
 void lookBack(Guide& guide)
@@ -182,7 +182,7 @@ void lookBack(Guide& guide)
     guide.waitForWidget("btnReset");
     guide.expectText("lblCount", "5 Items");
     guide.picture("all-sales");
-    guide.key(Qt::Key_Escape);
+    guide.closePage();
 }
 } // namespace
 

@@ -1,3 +1,4 @@
+#include "tour/BackOfficeTour.h"
 #include "tour/DineInTour.h"
 #include "tour/Guide.h"
 #include "tour/SellingTour.h"
@@ -37,6 +38,8 @@ private:
         Guide guide(qEnvironmentVariable("ZAVEL_TOUR_DIR"));
         if (name == "dine-in")
             playDineIn(guide);
+        else if (name == "back-office")
+            playBackOffice(guide);
         else if (name == "selling")
             playSelling(guide);
         else if (name == "start")

@@ -3,6 +3,7 @@
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/widgets/KorDialog.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 
 ItemField::ItemField(QLineEdit* code, QLineEdit* name, EntityPool& items, KorDialog* form)
@@ -39,6 +40,9 @@ void ItemField::freeze()
 void ItemField::lookUpWhenLeft()
 {
     connect(m_code, &QLineEdit::editingFinished, this, [this] {
+        // The list of suggestions that comes up counts as leaving, too; the code may not be typed to the end yet.
+        if (QApplication::activePopupWidget())
+            return;
         const EntityItem* former = m_item;
         // What fails here is told when the form is confirmed.
         const QString failure = lookUp();

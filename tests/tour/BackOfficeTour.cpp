@@ -1,0 +1,187 @@
+#include "tour/BackOfficeTour.h"
+
+#include "tour/Guide.h"
+#include "tour/Steps.h"
+
+namespace
+{
+void chooseSupplier(Guide& guide)
+{
+    guide.lookUp("txtSupplier", "sup1");
+    guide.key(Qt::Key_Return);
+    guide.expectText("txtSupplierName", "PT Supplier 1");
+}
+
+void enterLine(Guide& guide, const QString& window, const QString& code, const QString& price, const QString& quantity)
+{
+    guide.waitForWindow(window);
+    guide.fill("txtCode", code);
+    guide.key(Qt::Key_Return);
+    guide.fill("txtUnitPrice", price);
+    guide.fill("txtQty", quantity);
+    guide.key(Qt::Key_Return);
+}
+
+void order(Guide& guide)
+{
+    guide.chapter("The owner orders from a supplier");
+    guide.menu("menuPembelia", "actionPesanan_Pembelian");
+    guide.waitForWidget("tblPurchaseOrder");
+    guide.key(Qt::Key_F12);
+    guide.waitForWindow("DialogPurchaseOrder");
+    chooseSupplier(guide);
+    guide.key(Qt::Key_F3);
+    guide.click("btnAdd");
+    enterLine(guide, "DialogPurchaseOrderDetail", "ns", "2", "10");
+    enterLine(guide, "DialogPurchaseOrderDetail", "aym", "3", "4");
+    guide.waitForWindow("DialogPurchaseOrderDetail");
+    guide.picture("order-line");
+    guide.key(Qt::Key_Escape);
+    guide.waitForWindow("DialogPurchaseOrder");
+    guide.fill("txtDiscPerc", "25");
+    guide.key(Qt::Key_Tab);
+    guide.key(Qt::Key_Tab);
+    guide.expectText("txtDiscount", "8.00");
+    guide.expectText("txtGrandTotal", "24.00");
+    guide.picture("order");
+    guide.pressOk();
+    guide.waitUntilClosed("DialogPurchaseOrder");
+    guide.expectRow("tblPurchaseOrder", "PT Supplier 1", "Sent to supplier");
+    guide.picture("orders");
+    guide.closePage();
+}
+
+/** Opens a new purchase and takes the supplier's open order over. */
+void receiveOrder(Guide& guide)
+{
+    guide.key(Qt::Key_F12);
+    guide.waitForWindow("DialogPurchases");
+    chooseSupplier(guide);
+    guide.key(Qt::Key_F4);
+    guide.click("btnSelectPO");
+    guide.waitForWindow("DialogSelectPO");
+    guide.picture("open-orders");
+    guide.pressOk();
+    guide.waitForWindow("DialogPurchases");
+}
+
+void receiveLine(Guide& guide, const QString& item, const QString& quantity)
+{
+    guide.chooseRow("tblLines", item);
+    guide.key(Qt::Key_F2);
+    guide.waitForWindow("DialogPurchaseDetailPO");
+    guide.fill("txtQty", quantity);
+    guide.pressOk();
+    guide.waitUntilClosed("DialogPurchaseDetailPO");
+}
+
+void receive(Guide& guide)
+{
+    guide.chapter("Not all of it comes");
+    guide.menu("menuPembelia", "actionPurchases_Receive_Inventory");
+    guide.waitForWidget("tblPurchases");
+    receiveOrder(guide);
+    receiveLine(guide, "Rice", "6");
+    receiveLine(guide, "Fried Chicken", "4");
+    guide.expectText("txtSubTotal", "24.00");
+    guide.fill("txtInvoiceNo", "A-1");
+    guide.fill("txtPaid", "4");
+    guide.expectText("lblNetDue", "Less :");
+    guide.expectText("txtNetDue", "-20.00");
+    guide.picture("received-short");
+    guide.pressOk();
+    guide.waitUntilClosed("DialogPurchases");
+    guide.expectRow("tblPurchases", "A-1", "Partially Paid");
+
+    guide.chapter("The rest comes, and the order is closed");
+    receiveOrder(guide);
+    receiveLine(guide, "Rice", "10");
+    receiveLine(guide, "Fried Chicken", "4");
+    guide.fill("txtInvoiceNo", "A-2");
+    guide.pressOk();
+    guide.answer("You have received all items from Purchase Order No:", "Yes");
+    guide.waitUntilClosed("DialogPurchases");
+    guide.expectRow("tblPurchases", "A-2", "Unpaid");
+    guide.picture("purchases");
+    guide.closePage();
+    guide.menu("menuPembelia", "actionPesanan_Pembelian");
+    guide.waitForWidget("tblPurchaseOrder");
+    guide.expectRow("tblPurchaseOrder", "PT Supplier 1", "Closed");
+    guide.picture("order-closed");
+    guide.closePage();
+}
+
+void adjust(Guide& guide)
+{
+    guide.chapter("One bag is broken");
+    guide.menu("menuPersediaan", "actionInventory_Adjustment");
+    guide.waitForWidget("tblInventoryAdj");
+    guide.key(Qt::Key_F12);
+    guide.waitForWindow("DialogInventoryAdj");
+    guide.lookUp("txtKode", "ns");
+    guide.key(Qt::Key_Return);
+    guide.fill("txtStok", "-1");
+    guide.picture("adjustment");
+    guide.pressOk();
+    guide.waitUntilClosed("DialogInventoryAdj");
+    guide.expectRow("tblInventoryAdj", "Rice", "Broken");
+    guide.picture("adjustments");
+    guide.closePage();
+}
+
+void readCard(Guide& guide)
+{
+    guide.chapter("The stock card");
+    guide.menu("menuPersediaan", "actionKartu_Stok");
+    guide.waitForWidget("tblKartuStok");
+    guide.lookUp("txtItem", "ns");
+    guide.key(Qt::Key_Return);
+    guide.expectRow("tblKartuStok", "NB11260001", "6");
+    guide.expectRow("tblKartuStok", "NB11260002", "16");
+    guide.expectRow("tblKartuStok", "Adjustment", "15");
+    guide.expectText("lblSaldo", "15");
+    guide.picture("stock-card");
+    guide.closePage();
+}
+
+void transfer(Guide& guide)
+{
+    guide.chapter("Money goes to the bank");
+    guide.menu("menuKas", "actionTransfer");
+    guide.waitForWidget("tblTransfer");
+    guide.key(Qt::Key_F12);
+    guide.waitForWindow("DialogTransaction");
+    guide.fill("txtFromAccount", "1010");
+    guide.key(Qt::Key_Tab);
+    guide.fill("txtToAccount", "1020");
+    guide.key(Qt::Key_Tab);
+    guide.fill("txtAmount", "15");
+    guide.picture("transfer");
+    guide.pressOk();
+    guide.waitUntilClosed("DialogTransaction");
+    guide.expectText("lblCount", "1 Items");
+    guide.closePage();
+}
+
+void readLedger(Guide& guide)
+{
+    guide.chapter("The ledger shows all of it");
+    guide.menu("menuKas", "actionArus_Kas");
+    guide.waitForWidget("tblCashFlow");
+    guide.expectRow("tblCashFlow", "Transferring Funds", "$15.00");
+    guide.expectRow("tblCashFlow", "Purchases", "$24.00");
+    guide.picture("ledger");
+    guide.closePage();
+}
+} // namespace
+
+void playBackOffice(Guide& guide)
+{
+    logIn(guide);
+    order(guide);
+    receive(guide);
+    adjust(guide);
+    readCard(guide);
+    transfer(guide);
+    readLedger(guide);
+}
