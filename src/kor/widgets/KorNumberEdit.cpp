@@ -3,7 +3,10 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
+#include <QStyle>
+#include <QStyleOption>
 
+#include <algorithm>
 #include <cmath>
 
 KorNumberEdit::KorNumberEdit(QWidget* parent) : QLineEdit(parent) { setAlignment(Qt::AlignRight); }
@@ -98,7 +101,16 @@ void KorNumberEdit::focusInEvent(QFocusEvent* event)
     setText(m_rawText);
     if (replaceAll)
         selectAll();
+    // The border's style sheet takes the house's room around the text away; without it the field would shrink.
+    QStyleOptionFrame option;
+    initStyleOption(&option);
+    const QRect textBefore = style()->subElementRect(QStyle::SE_LineEditContents, &option, this);
+    const int heightBefore = sizeHint().height();
     setStyleSheet("border: 1px solid #005782;");
+    const QRect textNow = style()->subElementRect(QStyle::SE_LineEditContents, &option, this);
+    const int lost = std::max(0, heightBefore - sizeHint().height());
+    setTextMargins(std::max(0, textBefore.left() - textNow.left()), lost / 2,
+                   std::max(0, textNow.right() - textBefore.right()), lost - lost / 2);
 }
 
 void KorNumberEdit::focusOutEvent(QFocusEvent* event)
@@ -110,6 +122,7 @@ void KorNumberEdit::focusOutEvent(QFocusEvent* event)
     finishEntry();
     QLineEdit::focusOutEvent(event);
     setStyleSheet(QString());
+    setTextMargins(0, 0, 0, 0);
 }
 
 void KorNumberEdit::keyPressEvent(QKeyEvent* event)
