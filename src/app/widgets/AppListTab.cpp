@@ -169,6 +169,8 @@ void AppListTab::replaceTextFilter(QWidget* filters)
     m_ui->lblFilter->hide();
     m_ui->txtFilter->hide();
     m_ui->txtFilter->setEnabled(false);
+    // A page may give the name to a filter of its own.
+    m_ui->txtFilter->setObjectName(QString());
     m_ui->filterLayout->insertWidget(0, filters, 1);
     m_ui->filterLayout->setAlignment(m_ui->btnSearch, Qt::AlignTop);
     setTabOrder(filters, m_ui->btnSearch);

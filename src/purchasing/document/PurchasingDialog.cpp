@@ -149,6 +149,11 @@ void PurchasingDialog::checkAmounts()
             addError(box, tr("Please enter a number"));
         return;
     }
+    const InvoiceTotals& figures = totals();
+    if (figures.amount(InvoiceTotals::Discount) < 0 || figures.amount(InvoiceTotals::Tax) < 0 || figures.paid() < 0)
+        addError(m_form.pages, tr("Discount, tax and payment should not be less than zero"));
+    if (figures.grandTotal() < 0)
+        addError(m_form.pages, tr("The discount should not be larger than the sub total"));
     const QString tooLarge = tr("An amount is larger than a document can hold. Please check the figures.");
     const PurchasingLines lines = allLines();
     for (const EntityPurchasingLine* line : lines) {
@@ -157,6 +162,6 @@ void PurchasingDialog::checkAmounts()
             return;
         }
     }
-    if (!totals().fits())
+    if (!figures.fits())
         addError(m_form.pages, tooLarge);
 }
