@@ -150,7 +150,10 @@ void PurchasingDialog::checkAmounts()
         return;
     }
     const InvoiceTotals& figures = totals();
-    if (figures.amount(InvoiceTotals::Discount) < 0 || figures.amount(InvoiceTotals::Tax) < 0 || figures.paid() < 0)
+    const bool isNegative =
+        figures.amount(InvoiceTotals::Discount) < 0 || figures.amount(InvoiceTotals::Tax) < 0 || figures.paid() < 0;
+    // A form may have told in its own words already.
+    if (isNegative && !hasError())
         addError(m_form.pages, tr("Discount, tax and payment should not be less than zero"));
     if (figures.grandTotal() < 0)
         addError(m_form.pages, tr("The discount should not be larger than the sub total"));
