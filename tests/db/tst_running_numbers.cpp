@@ -118,7 +118,7 @@ private slots:
     void eightWorkstationsNeverGetOneNumberTwice()
     {
         constexpr int workstations = 8;
-        constexpr int documents = 12;
+        constexpr int documents = 200;
         addKey("TRD", "MMyy", 1, 1, 4);
         QMutex mutex;
         QStringList drawn;
