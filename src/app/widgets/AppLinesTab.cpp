@@ -15,6 +15,8 @@ AppLinesTab::AppLinesTab(QWidget* parent) : AppTab(parent), m_ui(std::make_uniqu
 {
     m_ui->setupUi(this);
     m_ui->tblLines->horizontalHeader()->setHighlightSections(false);
+    // A name that is too long is cut where the column ends, not at its last blank or dash.
+    m_ui->tblLines->setWordWrap(false);
 }
 
 AppLinesTab::~AppLinesTab() = default;

@@ -38,3 +38,5 @@ QString TabCreditNote::deleteQuestion(const KorEntity* note) const
 QString TabCreditNote::notFoundText(int id) const { return tr("Can not find Credit Note with id: %1").arg(id); }
 
 QString TabCreditNote::countText(int rows) const { return tr("%1 items").arg(rows); }
+
+void TabCreditNote::modelApplied() { setColumnWidths(grid(), {120, 180, 340, 150, 160}); }

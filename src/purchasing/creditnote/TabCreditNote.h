@@ -17,4 +17,5 @@ protected:
     [[nodiscard]] QString deleteQuestion(const KorEntity* note) const override;
     [[nodiscard]] QString notFoundText(int id) const override;
     [[nodiscard]] QString countText(int rows) const override;
+    void modelApplied() override;
 };

@@ -19,4 +19,5 @@ protected:
     [[nodiscard]] QList<EntityPurchasingLine*> linesOfSource(const KorEntity& purchase) const override;
     [[nodiscard]] int sourceLineOf(const KorEntity& line) const override;
     void fillFrom(EntityPurchasingLine* line, const EntityPurchasingLine& bought) override;
+    [[nodiscard]] QList<int> columnWidths() const override { return {92, 164, 56, 92, 84, 128, 112}; }
 };

@@ -7,7 +7,8 @@
 
 namespace
 {
-constexpr QRgb cancelledRgb = 0xff8a94a6;
+constexpr QRgb cancelledRgb = 0xff6b7480;
+constexpr QRgb cancelledRowRgb = 0xfff1f3f6;
 } // namespace
 
 TableModelCreditNote::TableModelCreditNote(const QList<KorEntity*>& notes, QObject* parent)
@@ -29,11 +30,12 @@ QVariant TableModelCreditNote::data(const QModelIndex& index, int role) const
     const auto* note = static_cast<const EntityCreditNote*>(entityAt(index.row()));
     if (!note)
         return AppEntityModel::data(index, role);
+    const bool isCancelled = note->getStatus() == EntityCreditNote::CANCELLED;
     if (role == Qt::BackgroundRole) {
-        const QColor colour = paidStatusColour(note->getStatus());
+        const QColor colour = isCancelled ? QColor(cancelledRowRgb) : paidStatusColour(note->getStatus());
         return colour.isValid() ? QVariant(QBrush(colour)) : QVariant();
     }
-    if (role == Qt::ForegroundRole && note->getStatus() == EntityCreditNote::CANCELLED)
+    if (role == Qt::ForegroundRole && isCancelled)
         return QBrush(QColor(cancelledRgb));
     if (role == Qt::DecorationRole && index.column() == Status)
         return paidStatusMark(note->getStatus());

@@ -41,6 +41,7 @@ void PurchasingLineDialog::addShownRow(const QString& label, const QString& text
     m_ui->formLayout->getWidgetPosition(m_ui->txtQty, &row, &role);
     auto* figure = new QLabel(text, this);
     figure->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    figure->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     m_ui->formLayout->insertRow(row, label, figure);
 }
 

@@ -13,7 +13,7 @@ SelectDocumentDialog::SelectDocumentDialog(const QString& title, SelectDocumentT
 {
     setWindowTitle(title);
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
-    resize(860, 420);
+    resize(940, 460);
     auto* pages = new QTabWidget(this);
     pages->addTab(page, pageTitle);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);

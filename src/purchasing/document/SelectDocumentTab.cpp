@@ -19,6 +19,7 @@ SelectDocumentTab::SelectDocumentTab(const QString& gridName, KorBusinessLogic* 
 {
     m_grid->setObjectName(gridName);
     m_grid->horizontalHeader()->setHighlightSections(false);
+    m_grid->setWordWrap(false);
     m_count->setObjectName("lblCount");
     m_layout->setContentsMargins(8, 8, 8, 8);
     m_layout->setSpacing(8);

@@ -46,7 +46,7 @@ protected:
     /** Fills a new line, which has the item already. */
     virtual void fillFrom(EntityPurchasingLine* line, const EntityPurchasingLine& source) = 0;
     /** With one quantity more than other pages: that of the other document. */
-    [[nodiscard]] QList<int> columnWidths() const override { return {76, 110, 78, 82, 80, 112, 88}; }
+    [[nodiscard]] QList<int> columnWidths() const override { return {92, 110, 56, 92, 84, 128, 108}; }
 
 private:
     void takeSource(const KorEntity& document);
