@@ -302,25 +302,20 @@ void TestPayBills::theListFindsPayments_data()
 {
     QTest::addColumn<PurchasingFilter>("filter");
     QTest::addColumn<QString>("found");
-    const auto row = [](const char* name, int fromDay, int toDay, int type, const QString& supplier,
-                        PurchasingFilter::Field field, const QString& text, const QString& found) {
-        QTest::newRow(name) << PurchasingFilter{{2026, 3, fromDay}, {2026, 3, toDay}, type, supplier, field, text}
-                            << found;
+    const auto row = [](const char* name, const QDate& from, int type, PurchasingFilter::Field field,
+                        const QString& text, const QString& found) {
+        QTest::newRow(name) << PurchasingFilter{from, {2026, 3, 2}, type, "s1", field, text} << found;
     };
-    row("both limits count, the latest first", 1, 3, 0, "", PurchasingFilter::DocumentNo, "", "9 8 7");
-    row("one day", 2, 2, 0, "", PurchasingFilter::DocumentNo, "", "8");
-    row("by check", 1, 3, EntityPayment::CHECK, "", PurchasingFilter::DocumentNo, "", "8");
-    row("a supplier", 1, 3, 0, "s1", PurchasingFilter::DocumentNo, "", "9 8 7");
-    row("no such supplier", 1, 3, 0, "s2", PurchasingFilter::DocumentNo, "", "");
-    row("digits of the number", 1, 3, 0, "", PurchasingFilter::DocumentNo, "009", "9");
-    row("capitals of the number are never found", 1, 3, 0, "", PurchasingFilter::DocumentNo, "TPH", "");
-    row("supplier's code", 1, 3, 0, "", PurchasingFilter::SupplierCode, "S", "9 8 7");
-    row("check number", 1, 3, 0, "", PurchasingFilter::OtherNo, "bCa-2", "8");
+    row("both limits count, the latest first", {2026, 3, 1}, 0, PurchasingFilter::DocumentNo, "", "8 7");
+    row("one day, by check", {2026, 3, 2}, EntityPayment::CHECK, PurchasingFilter::DocumentNo, "", "8");
+    row("another type", {2026, 3, 1}, EntityPayment::ELECTRONIC, PurchasingFilter::DocumentNo, "", "");
+    row("digits of the number", {2026, 3, 1}, 0, PurchasingFilter::DocumentNo, "007", "7");
+    row("check number", {2026, 3, 1}, 0, PurchasingFilter::OtherNo, "bCa-2", "8");
 }
 
 void TestPayBills::theListFindsPayments()
 {
-    for (int day : {1, 2, 3}) {
+    for (int day : {1, 2}) {
         EntityPayment* one = payment({});
         one->setDate(QDate(2026, 3, day));
         one->setPaymentType(day == 2 ? EntityPayment::CHECK : EntityPayment::CASH);

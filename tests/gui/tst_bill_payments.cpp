@@ -31,6 +31,7 @@ private slots:
     void expensesAreKeyedInOneAfterTheOther();
     void anEditPutsItsLinesInThePlaceOfTheOpenOnes();
     void aPurchaseDeletedMeanwhileLeavesTheFormAsItIs();
+    void aPurchasePaidByAnotherMeanwhileIsNotPaidTwice();
     void deletingAsksAndLeavesThePurchaseAsItIs();
     void nothingHappensWithoutTheRight();
 
@@ -297,6 +298,7 @@ void TestBillPayments::aPurchaseDeletedMeanwhileLeavesTheFormAsItIs()
         enter(form, "txtSupplier", "S1");
         click(form, "btnPayAll");
         m_database->run("DELETE FROM acquisition WHERE id = 2");
+        m_people->answer(QMessageBox::Yes);
         confirm(form, "txtRefNo");
         QVERIFY(form->isVisible());
         QVERIFY2(m_people->lastText().contains("error: insert payment detail:invoice failed."),
@@ -308,6 +310,24 @@ void TestBillPayments::aPurchaseDeletedMeanwhileLeavesTheFormAsItIs()
     });
     QTRY_COMPARE(cells(m_page.get(), 0).value(0), QString("TPH-0007"));
     QCOMPARE(purchasesStand(), QString("500 0 1"));
+}
+
+void TestBillPayments::aPurchasePaidByAnotherMeanwhileIsNotPaidTwice()
+{
+    show();
+    onForm<DialogPayment>(*m_people, m_page.get(), "btnAdd", [this](DialogPayment* form) {
+        enter(form, "txtSupplier", "S1");
+        click(form, "btnPayAll");
+        insertPayment();
+        confirm(form, "txtRefNo");
+        QVERIFY(form->isVisible());
+        QCOMPARE(m_people->texts(), QStringList("Purchase invoice no: NB-1 was paid or changed by somebody else "
+                                                "meanwhile. Do you want to pay it all the same?"));
+        QCOMPARE(figures(form), QString("200 0, 300 0"));
+        click(form, "btnPayAll");
+        confirm(form, "txtRefNo");
+    });
+    QTRY_COMPARE(purchasesStand(), QString("500 0 1, 300 0 1"));
 }
 
 void TestBillPayments::deletingAsksAndLeavesThePurchaseAsItIs()

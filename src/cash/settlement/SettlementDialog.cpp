@@ -59,6 +59,8 @@ void SettlementDialog::tell(const QString& failure)
 
 // --- the person ----------------------------------------------------------------------------------------------------
 
+void SettlementDialog::readAgain() { tell(readLines()); }
+
 void SettlementDialog::takePerson(EntityContact* person)
 {
     // A choice from the list arrives twice: when the focus leaves the box, and as the choice itself.
@@ -118,8 +120,9 @@ QString SettlementDialog::readLines()
     if (m_person && m_person->getId() == m_storedPersonId) {
         // What is stored stands in the place of what is open of the same document, and shows even if nothing is.
         for (KorEntity* stored : qAsConst(m_stored)) {
-            const auto same = std::find_if(lines.begin(), lines.end(), [this, stored](const KorEntity* line) {
-                return documentIdOf(*line) == documentIdOf(*stored);
+            // A document may stand in two stored lines: neither takes the other's place.
+            const auto same = std::find_if(lines.begin(), lines.end(), [this, stored](KorEntity* line) {
+                return !m_stored.contains(line) && documentIdOf(*line) == documentIdOf(*stored);
             });
             if (same == lines.end())
                 lines.append(stored);

@@ -81,6 +81,8 @@ protected:
     void addLinesPage(AppLinesTab* page, Qt::Key key);
     /** Shows the person with what is open; the person is borrowed. Null shows an empty form. */
     void takePerson(EntityContact* person);
+    /** Shows what is open by now; amounts that were entered and not saved are gone. */
+    void readAgain();
     /** Shows a stored settlement; with the person's other open documents on offer, or with its own lines alone. */
     void showStored(EntityContact* person, EntityBank* account, const QList<KorEntity*>& lines, bool offerOthers);
 

@@ -12,6 +12,9 @@
 
 #include "ui_DialogPayment.h"
 
+#include <QHash>
+#include <QMessageBox>
+
 DialogPayment::DialogPayment(QWidget* parent)
     : PartPaymentsDialog(parent), m_ui(std::make_unique<Ui::DialogPayment>()),
       m_purchases(service<BusinessPurchases>("Purchases"))
@@ -87,6 +90,43 @@ void DialogPayment::checkLines()
     }
     if (person() && expenses.isEmpty() && m_ui->tabInvoices->paidLines().isEmpty())
         addError(m_ui->tabDetail, tr("Enter the amount paid for one or more purchase invoices, or add an item"));
+}
+
+QString DialogPayment::changedPurchase() const
+{
+    EntityPool read;
+    const EntityPoolScope scope(read);
+    QHash<int, int> dueNow;
+    const auto open = m_purchases->getPendingInvoiceBySupplier(static_cast<EntitySupplier*>(person()));
+    for (const EntityAcquisition* purchase : open)
+        dueNow.insert(purchase->getId(), purchase->getNetDue()->rawAmount());
+    const QList<KorEntity*> paid = m_ui->tabInvoices->paidLines();
+    for (const KorEntity* line : paid) {
+        const EntityAcquisition* shown = static_cast<const EntityPaymentInvoices*>(line)->getAcquisition();
+        // What is stored has been paid, whatever became of the rest.
+        if (!line->isSaved() && dueNow.value(shown->getId()) < shown->getNetDue()->rawAmount())
+            return shown->getNo();
+    }
+    return {};
+}
+
+bool DialogPayment::beforeAccept()
+{
+    m_purchases->clearErrors();
+    const QString changed = changedPurchase();
+    if (m_purchases->hasError()) {
+        showError(m_purchases->takeErrors());
+        return false;
+    }
+    const QString question =
+        tr("Purchase invoice no: %1 was paid or changed by somebody else meanwhile. Do you want to "
+           "pay it all the same?");
+    if (changed.isEmpty() ||
+        QMessageBox::question(this, tr("Question"), question.arg(changed), QMessageBox::Yes | QMessageBox::No,
+                              QMessageBox::No) == QMessageBox::Yes)
+        return PartPaymentsDialog::beforeAccept();
+    readAgain();
+    return false;
 }
 
 // --- the record ----------------------------------------------------------------------------------------------------

@@ -21,6 +21,8 @@ public:
     explicit DialogPayment(QWidget* parent = nullptr);
     ~DialogPayment() override;
 
+    /** An open purchase that was paid or deleted meanwhile is paid only when the user says so again. */
+    bool beforeAccept() override;
     KorEntity* getEntity() override;
     void setEntity(KorEntity* entity) override;
 
@@ -39,6 +41,9 @@ protected:
     [[nodiscard]] qint64 furtherAmount() const override;
 
 private:
+    /** The number of an open purchase that is paid here and due with less than shown; empty where there is none. */
+    [[nodiscard]] QString changedPurchase() const;
+
     std::unique_ptr<Ui::DialogPayment> m_ui;
     BusinessPurchases* m_purchases;
     SupplierTextBox* m_supplierBox;
