@@ -8,6 +8,8 @@
 
 namespace
 {
+constexpr int dueAttempts = 5;
+
 const EntityAcquisition& asPurchase(const KorEntity& entity) { return static_cast<const EntityAcquisition&>(entity); }
 } // namespace
 
@@ -82,6 +84,17 @@ ItemMovement BusinessPurchases::movementOf(const KorEntity& purchase, const KorE
 }
 
 bool BusinessPurchases::recalculateDue(int purchaseId)
+{
+    // Whoever saves the purchase meanwhile makes this save fail: the due is reckoned anew from what they have left.
+    for (int attempt = 1; !reckonDue(purchaseId); ++attempt) {
+        if (attempt == dueAttempts || !errors().contains("update"))
+            return false;
+        clearErrors();
+    }
+    return true;
+}
+
+bool BusinessPurchases::reckonDue(int purchaseId)
 {
     EntityPool pool;
     const EntityPoolScope scope(pool);

@@ -47,5 +47,7 @@ protected:
     [[nodiscard]] QString notBegunText() const override { return tr("Create transaction failed"); }
 
 private:
+    bool reckonDue(int purchaseId);
+
     DataMapperAcquisition* m_purchases;
 };
