@@ -139,10 +139,13 @@ void TestBillPayments::aSupplierIsPaidAllThatIsOpen()
         QTest::keyClick(gridOf(purchases(form)), Qt::Key_F9);
         QTRY_COMPARE(figures(form), QString("0 500, 0 300"));
         QCOMPARE(shown(form, "txtGrandTotal"), QString("800,00"));
-        enter(form, "txtCashAccount", "1-100");
+        box(form, "txtCashAccount")->setFocus();
+        QTest::keyClicks(box(form, "txtCashAccount"), "cas");
+        QTRY_VERIFY(QApplication::activePopupWidget());
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
         QCOMPARE(form->findChild<QLabel*>("lblCashAccount")->text(), QString("Cash"));
         auto* types = form->findChild<QComboBox*>("ddlPaymentType");
-        types->setFocus();
+        QTRY_VERIFY(types->hasFocus());
         QTest::keyClick(types, Qt::Key_End);
         QCOMPARE(types->currentText(), QString("Checks"));
         enter(form, "txtCekNo", "77");
