@@ -98,6 +98,7 @@ int TestPayBills::buy(int total, int paid, int credits)
     insertRows(*m_database, "acquisition",
                {{"no", QString("'NB-%1'").arg(id)},
                 {"supplier_id", "1"},
+                {"bank_id", "1"},
                 {"grandtotal_amount", text(total)},
                 {"amount_paid_amount", text(paid)},
                 {"net_due_amount", text(total - paid)},
@@ -256,6 +257,8 @@ void TestPayBills::payingTheRestTakesThePurchaseOffTheList()
     EntityPayment* first = payment({line(purchase, 100)});
     QVERIFY2(save(first), qPrintable(m_payments->takeErrors()));
     QCOMPARE(figures(purchase), QString("150 250 3"));
+    QCOMPARE(stored(first->getId())->invoices().getDetails().first()->getAcquisition()->getBank()->getNama(),
+             QString("Cash"));
     QCOMPARE(pending(), QList<int>{purchase});
     QVERIFY(save(payment({line(purchase, 250)})));
     QCOMPARE(figures(purchase), QString("400 0 1"));

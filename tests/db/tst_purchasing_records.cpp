@@ -1,5 +1,4 @@
 #include "purchasing/acquisition/DataMapperAcquisition.h"
-#include "purchasing/payment/DataMapperPayment.h"
 #include "purchasing/purchaseorder/BusinessPurchaseOrder.h"
 #include "purchasing/purchaseorder/DataMapperPurchaseOrder.h"
 #include "registry/pos/PosBusinessRegistry.h"
@@ -19,7 +18,6 @@ private slots:
     void cleanup() { m_database.reset(); }
     void anOrderIsReadBackWithItsSupplierAndItsNumber();
     void anOrderWithABadLineGivesItsNumberBack();
-    void aPaymentKeepsPurchasesAndExpenses();
     void aPurchaseTakenBackForALineStillCountsAsDone();
     void clearingOrdersEmptiesThemAndKeepsTheSuppliers();
 
@@ -142,45 +140,6 @@ void TestPurchasingRecords::anOrderWithABadLineGivesItsNumberBack()
     const QString error = orders->takeError();
     QVERIFY2(error.startsWith("error: insert PO failed"), qPrintable(error));
     QVERIFY2(error.contains("Can not draw a new number for PO"), qPrintable(error));
-}
-
-void TestPurchasingRecords::aPaymentKeepsPurchasesAndExpenses()
-{
-    const PosMapperRegistry* mappers = PosMapperRegistry::instance();
-    EntityAcquisition* paid = purchase();
-    QVERIFY2(mappers->acquisitionMapper()->insert(paid), qPrintable(mappers->acquisitionMapper()->takeError()));
-
-    DataMapperPayment* payments = mappers->paymentMapper();
-    auto* payment = new EntityPayment(m_records.get());
-    payment->setSupplier(known<EntitySupplier>(1));
-    payment->setDate(QDate(2026, 3, 4));
-    payment->setGrandTotal(money(40));
-    auto* invoice = new EntityPaymentInvoices(m_records.get());
-    invoice->setAcquisition(paid);
-    invoice->setAmountPaid(money(30));
-    invoice->setAmountDue(money(0));
-    payment->invoices().addDetail(invoice);
-    auto* expense = new EntityPaymentExpenses(m_records.get());
-    expense->setItem(known<EntityItem>(1));
-    expense->setQty(1);
-    expense->setUnitPrice(money(10));
-    expense->setDiscount(money(0));
-    expense->setAmount(money(10));
-    payment->expenses().addDetail(expense);
-    QVERIFY2(payments->insert(payment), qPrintable(payments->takeError()));
-    QCOMPARE(payment->getNo(), QString("TPH-0007"));
-
-    auto* found = static_cast<EntityPaymentInvoices*>(payments->lineMappers().first()->findById(invoice->getId()));
-    QVERIFY(found);
-    QCOMPARE(found->getPaymentId(), payment->getId());
-    QCOMPARE(found->getAcquisition()->getNo(), QString("NB-0007"));
-    QCOMPARE(found->getAcquisition()->getBank()->getNama(), QString("Cash"));
-    QCOMPARE(count("payment_expense"), 1);
-
-    payment->expenses().removeDetail(expense);
-    QVERIFY2(payments->update(payment), qPrintable(payments->takeError()));
-    QCOMPARE(count("payment_expense"), 0);
-    QCOMPARE(count("payment_invoice"), 1);
 }
 
 void TestPurchasingRecords::aPurchaseTakenBackForALineStillCountsAsDone()
