@@ -155,6 +155,9 @@ void KorTab::restoreColumns(QTableView* view)
 
 void KorTab::setColumnWidths(QTableView* view, const QList<int>& widths)
 {
+    // Without widths of its own a page leaves the columns as wide as their rows need.
+    if (widths.isEmpty())
+        return;
     for (int column = 0; column < widths.size(); ++column)
         view->setColumnWidth(column, widths.at(column));
     view->setColumnWidth(widths.size(), view->horizontalHeader()->minimumSectionSize());

@@ -22,4 +22,5 @@ protected:
     [[nodiscard]] QList<EntityPurchasingLine*> linesOfSource(const KorEntity& order) const override;
     [[nodiscard]] int sourceLineOf(const KorEntity& line) const override;
     void fillFrom(EntityPurchasingLine* line, const EntityPurchasingLine& ordered) override;
+    [[nodiscard]] QList<int> columnWidths() const override { return {62, 110, 74, 84, 60, 144, 116}; }
 };

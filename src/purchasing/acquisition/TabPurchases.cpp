@@ -36,6 +36,8 @@ QList<KorEntity*> TabPurchases::readRows(const QString&)
 
 KorEntityModel* TabPurchases::createModel(const QList<KorEntity*>& rows) { return new TableModelPurchases(rows, this); }
 
+void TabPurchases::modelApplied() { setColumnWidths(grid(), {124, 164, 196, 124, 144, 162}); }
+
 std::unique_ptr<KorDialog> TabPurchases::createDialog() { return std::make_unique<DialogPurchases>(this); }
 
 QString TabPurchases::deleteQuestion(const KorEntity* entity) const

@@ -15,6 +15,7 @@ public:
 protected:
     QList<KorEntity*> readRows(const QString& filter) override;
     KorEntityModel* createModel(const QList<KorEntity*>& rows) override;
+    void modelApplied() override;
     std::unique_ptr<KorDialog> createDialog() override;
     [[nodiscard]] QString deleteQuestion(const KorEntity* entity) const override;
     [[nodiscard]] QString countText(int rows) const override;

@@ -25,7 +25,7 @@ protected:
         static_cast<EntityPurchasingLine*>(present)->takeFigures(static_cast<const EntityPurchasingLine&>(entered));
     }
     /** Narrow enough for all columns beside the money: code, name, quantity, unit, price, discount. */
-    [[nodiscard]] QList<int> columnWidths() const override { return {84, 150, 56, 84, 124, 108}; }
+    [[nodiscard]] QList<int> columnWidths() const override { return {72, 150, 48, 82, 144, 128}; }
     [[nodiscard]] QString updateQuestion() const override
     {
         return tr("This item: %1 is already in the list. Do you want to update it with this data?");

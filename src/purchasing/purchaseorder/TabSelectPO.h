@@ -16,6 +16,7 @@ public:
 protected:
     QList<KorEntity*> readRows() override;
     KorEntityModel* createModel(const QList<KorEntity*>& rows) override;
+    [[nodiscard]] QList<int> columnWidths() const override { return {104, 126, 126, 196, 160}; }
 
 private:
     const EntitySupplier* m_supplier;
