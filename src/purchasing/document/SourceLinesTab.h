@@ -45,8 +45,6 @@ protected:
     [[nodiscard]] virtual int sourceLineOf(const KorEntity& line) const = 0;
     /** Fills a new line, which has the item already. */
     virtual void fillFrom(EntityPurchasingLine* line, const EntityPurchasingLine& source) = 0;
-    /** With one quantity more than other pages: that of the other document. */
-    [[nodiscard]] QList<int> columnWidths() const override { return {92, 110, 56, 92, 84, 128, 108}; }
 
 private:
     void takeSource(const KorEntity& document);
