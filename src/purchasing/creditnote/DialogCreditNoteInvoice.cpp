@@ -3,6 +3,8 @@
 #include "kor/business/KorServiceDirectory.h"
 #include "purchasing/creditnote/BusinessCreditNote.h"
 
+#include <algorithm>
+
 DialogCreditNoteInvoice::DialogCreditNoteInvoice(EntityPool& items, QWidget* parent)
     : PurchasingLineDialog(items,
                            {tr("Enter the item code"), tr("Enter the purchase price of this item"), tr("Enter the qty"),
@@ -26,6 +28,6 @@ void DialogCreditNoteInvoice::setEntity(KorEntity* line)
     addShownRow(tr("Bought :"), QString::number(returned.getQty()));
     addShownRow(tr("Returned before :"), QString::number(before));
     // The same goods do not go back twice; what was never bought goes back as a free item.
-    const int left = returned.getQty() - before;
+    const int left = std::max(0, returned.getQty() - before);
     limitQuantity(left, tr("No more than %1 of this item can go back for the purchase").arg(left));
 }

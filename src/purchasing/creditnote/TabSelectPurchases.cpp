@@ -13,15 +13,13 @@
 
 namespace
 {
-constexpr int filtersPerRow = 3;
-const QDate firstDay(1900, 1, 1);
-const QDate lastDay(9999, 12, 31);
+constexpr int choicesInRow = 3;
 } // namespace
 
 TabSelectPurchases::TabSelectPurchases(const EntitySupplier* supplier, QWidget* parent)
     : SelectDocumentTab("tblPurchases", service<BusinessPurchases>("Purchases"), parent), m_supplier(supplier)
 {
-    AppFilterBar* filters = addFilters(filtersPerRow);
+    AppFilterBar* filters = addFilters(choicesInRow);
     AppFilterBar::Rows states{{tr("All"), 0}};
     for (int status : {EntityAcquisition::FULL_PAID, EntityAcquisition::PARTIALLY_PAID, EntityAcquisition::UNPAID})
         states.append({paidStatusText(status), status});
@@ -36,8 +34,8 @@ TabSelectPurchases::TabSelectPurchases(const EntitySupplier* supplier, QWidget* 
 QList<KorEntity*> TabSelectPurchases::readRows()
 {
     PurchasingFilter filter;
-    filter.from = firstDay;
-    filter.to = lastDay;
+    filter.from = QDate(1900, 1, 1);
+    filter.to = QDate(9999, 12, 31);
     filter.kind = m_status->currentData().toInt();
     filter.supplierCode = m_supplier->getKode();
     filter.field = static_cast<PurchasingFilter::Field>(m_field->currentData().toInt());

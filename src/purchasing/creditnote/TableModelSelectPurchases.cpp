@@ -6,13 +6,14 @@
 TableModelSelectPurchases::TableModelSelectPurchases(const QList<KorEntity*>& purchases, QObject* parent)
     : AppEntityModel(purchases, parent)
 {
-    using Purchase = EntityAcquisition;
-    addText(tr("Purchase No."), &Purchase::getNo);
-    addText(tr("Invoice No."), &Purchase::getInvoiceNo);
-    addField<Purchase>(QMetaType::QDateTime, tr("Date"),
-                       [this](const Purchase& purchase) { return dateText(purchase.getPurchaseDate()); });
-    addField<Purchase>(QMetaType::QString, tr("Status"),
-                       [](const Purchase& purchase) { return paidStatusText(purchase.getStatus()); });
-    addMoney<Purchase>(tr("Invoice Total"), [](const Purchase& purchase) { return purchase.getGrandTotal(); });
-    addMoney<Purchase>(tr("Net Due"), [](const Purchase& purchase) { return purchase.getNetDue(); });
+    addText(tr("Purchase No."), &EntityAcquisition::getNo);
+    addText(tr("Invoice No."), &EntityAcquisition::getInvoiceNo);
+    addField<EntityAcquisition>(QMetaType::QDateTime, tr("Date"), [this](const EntityAcquisition& purchase) {
+        return dateText(purchase.getPurchaseDate());
+    });
+    addField<EntityAcquisition>(QMetaType::QString, tr("Status"),
+                                [](const EntityAcquisition& purchase) { return paidStatusText(purchase.getStatus()); });
+    addMoney<EntityAcquisition>(tr("Invoice Total"),
+                                [](const EntityAcquisition& purchase) { return purchase.getGrandTotal(); });
+    addMoney<EntityAcquisition>(tr("Net Due"), [](const EntityAcquisition& purchase) { return purchase.getNetDue(); });
 }

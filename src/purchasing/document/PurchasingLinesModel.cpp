@@ -2,23 +2,26 @@
 
 #include "purchasing/document/EntityPurchasingLine.h"
 
-using Line = EntityPurchasingLine;
+using PurchasingLine = EntityPurchasingLine;
 
 void PurchasingLinesModel::addItem()
 {
-    addField<Line>(QMetaType::QString, tr("Code"), [](const Line& line) { return line.getItem()->getKode(); });
-    addField<Line>(QMetaType::QString, tr("Name"), [](const Line& line) { return line.getItem()->getNama(); });
+    addField<PurchasingLine>(QMetaType::QString, tr("Code"),
+                             [](const PurchasingLine& line) { return line.getItem()->getKode(); });
+    addField<PurchasingLine>(QMetaType::QString, tr("Name"),
+                             [](const PurchasingLine& line) { return line.getItem()->getNama(); });
 }
 
 void PurchasingLinesModel::addQuantity(const QString& header)
 {
-    addField<Line>(
-        QMetaType::Int, header, [](const Line& line) { return QString::number(line.quantity()); }, RightAligned);
+    addField<PurchasingLine>(
+        QMetaType::Int, header, [](const PurchasingLine& line) { return QString::number(line.quantity()); },
+        RightAligned);
 }
 
 void PurchasingLinesModel::addUnit()
 {
-    addField<Line>(QMetaType::QString, tr("Unit"), [](const Line& line) {
+    addField<PurchasingLine>(QMetaType::QString, tr("Unit"), [](const PurchasingLine& line) {
         const EntitySatuan* unit = line.getItem()->getSatuan();
         return unit ? unit->getNama() : QString();
     });
@@ -26,15 +29,15 @@ void PurchasingLinesModel::addUnit()
 
 void PurchasingLinesModel::addUnitPrice()
 {
-    addMoney<Line>(tr("Unit Price"), [](const Line& line) { return line.linePrice(); });
+    addMoney<PurchasingLine>(tr("Unit Price"), [](const PurchasingLine& line) { return line.linePrice(); });
 }
 
 void PurchasingLinesModel::addDiscount(const QString& header)
 {
-    addMoney<Line>(header, [](const Line& line) { return line.getDiscount(); });
+    addMoney<PurchasingLine>(header, [](const PurchasingLine& line) { return line.getDiscount(); });
 }
 
 void PurchasingLinesModel::addAmount()
 {
-    addMoney<Line>(tr("Amount"), [](const Line& line) { return line.lineTotal(); });
+    addMoney<PurchasingLine>(tr("Amount"), [](const PurchasingLine& line) { return line.lineTotal(); });
 }
