@@ -22,5 +22,5 @@ protected:
     [[nodiscard]] QList<EntityPurchasingLine*> linesOfSource(const KorEntity& order) const override;
     [[nodiscard]] int sourceLineOf(const KorEntity& line) const override;
     void fillFrom(EntityPurchasingLine* line, const EntityPurchasingLine& ordered) override;
-    [[nodiscard]] QList<int> columnWidths() const override { return {62, 110, 74, 84, 60, 144, 116}; }
+    [[nodiscard]] QList<int> columnWidths() const override { return {60, 120, 88, 96, 66, 122, 104}; }
 };

@@ -17,7 +17,7 @@ public:
 protected:
     QList<KorEntity*> readRows() override;
     KorEntityModel* createModel(const QList<KorEntity*>& rows) override;
-    [[nodiscard]] QList<int> columnWidths() const override { return {140, 180, 110, 120, 150}; }
+    [[nodiscard]] QList<int> columnWidths() const override { return {140, 150, 130, 130, 150}; }
 
 private:
     const EntitySupplier* m_supplier;
