@@ -236,7 +236,7 @@ void TestOrderDialog::theSameItemTwiceAsksWhetherToUpdate()
                                             "it with this data?"});
     QCOMPARE(m_people->lastTitle(), QString("Question"));
     QCOMPARE(lines()->lines().size(), 1);
-    QCOMPARE(lines()->lines().first()->getQty(), qty);
+    QCOMPARE(lines()->orderLines().first()->getQty(), qty);
     QCOMPARE(total(), sum);
 }
 
@@ -347,7 +347,7 @@ void TestOrderDialog::halfPortionsAreRounded()
 {
     open(m_t1);
     add({{"RICE", "1.5"}});
-    QCOMPARE(lines()->lines().first()->getQty(), 2);
+    QCOMPARE(lines()->orderLines().first()->getQty(), 2);
     QCOMPARE(total(), QString("Rp50,000.00"));
 }
 

@@ -14,12 +14,20 @@
 AppLinesTab::AppLinesTab(QWidget* parent) : AppTab(parent), m_ui(std::make_unique<Ui::LinesPage>())
 {
     m_ui->setupUi(this);
-    m_ui->tblLines->horizontalHeader()->setHighlightSections(false);
-    // A name that is too long is cut where the column ends, not at its last blank or dash.
-    m_ui->tblLines->setWordWrap(false);
+    setParts({m_ui->tblLines, m_ui->lblCount});
 }
 
+AppLinesTab::AppLinesTab(OwnForm, QWidget* parent) : AppTab(parent) {}
+
 AppLinesTab::~AppLinesTab() = default;
+
+void AppLinesTab::setParts(const Parts& parts)
+{
+    m_parts = parts;
+    grid()->horizontalHeader()->setHighlightSections(false);
+    // A name that is too long is cut where the column ends, not at its last blank or dash.
+    grid()->setWordWrap(false);
+}
 
 void AppLinesTab::setLines(const Lines& lines)
 {
@@ -40,8 +48,6 @@ void AppLinesTab::replaceLines(const Lines& lines)
 
 void AppLinesTab::focusLines() { grid()->setFocus(); }
 
-QTableView* AppLinesTab::grid() const { return m_ui->tblLines; }
-
 void AppLinesTab::refresh()
 {
     const int row = grid()->currentIndex().row();
@@ -53,7 +59,7 @@ void AppLinesTab::refresh()
     // No clear(): the lines are the document's, the model only showed them.
     delete former;
     grid()->selectRow(std::min(std::max(row, 0), m_lines.size() - 1));
-    m_ui->lblCount->setText(tr("%1 Items").arg(m_lines.size()));
+    m_parts.count->setText(tr("%1 Items").arg(m_lines.size()));
 }
 
 void AppLinesTab::linesChanged()
@@ -62,22 +68,33 @@ void AppLinesTab::linesChanged()
     emit ItemAdded();
 }
 
-void AppLinesTab::on_btnAdd_clicked()
+void AppLinesTab::on_btnAdd_clicked() { addLines(); }
+
+bool AppLinesTab::runDialog(KorEntity* line)
+{
+    const auto dialog = createDialog(m_read, *line);
+    dialog->setEntity(line);
+    const bool confirmed = dialog->exec() == QDialog::Accepted;
+    if (confirmed)
+        dialog->getEntity();
+    dialogClosed(*dialog);
+    return confirmed;
+}
+
+void AppLinesTab::addLines()
 {
     // Line after line, until all is keyed in.
     for (;;) {
         KorEntity* line = createLine();
         line->setParent(this);
-        const auto dialog = createDialog(m_read);
-        dialog->setEntity(line);
-        if (dialog->exec() != QDialog::Accepted) {
+        if (!runDialog(line)) {
             delete line;
             break;
         }
-        dialog->getEntity();
         take(line);
     }
     focusLines();
+    emit AddingEnded();
 }
 
 void AppLinesTab::take(KorEntity* line)
@@ -101,11 +118,8 @@ void AppLinesTab::on_btnEdit_clicked()
 {
     const Lines selected = selectedLines();
     for (KorEntity* line : selected) {
-        const auto dialog = createDialog(m_read);
-        dialog->setEntity(line);
-        if (dialog->exec() != QDialog::Accepted)
+        if (!runDialog(line))
             break;
-        dialog->getEntity();
         linesChanged();
     }
     focusLines();

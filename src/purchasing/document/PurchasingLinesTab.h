@@ -42,5 +42,8 @@ public:
 protected:
     KorEntity* createLine() override { return new Line; }
     KorEntityModel* createModel(const QList<KorEntity*>& lines) override { return new Model(lines, this); }
-    std::unique_ptr<KorDialog> createDialog(EntityPool& read) override { return std::make_unique<Dialog>(read, this); }
+    std::unique_ptr<KorDialog> createDialog(EntityPool& read, const KorEntity&) override
+    {
+        return std::make_unique<Dialog>(read, this);
+    }
 };

@@ -48,7 +48,7 @@ QList<EntityInvoiceDetail*> DialogFastFood::invoiceLines() const { return m_sale
 
 void DialogFastFood::linesChanged()
 {
-    m_sale->setLines(m_menu->lines());
+    m_sale->setLines(m_menu->orderLines());
     onItemAdded();
 }
 
@@ -57,7 +57,7 @@ void DialogFastFood::focusLines() { m_menu->focusFirstControl(); }
 void DialogFastFood::focusMoney()
 {
     // After the last item comes the money; a round without one leaves the cashier at the lines.
-    if (m_menu->lines().isEmpty())
+    if (m_menu->orderLines().isEmpty())
         return;
     MoneyEdit* paid = m_ui->moneyPane->boxes().paid;
     paid->setFocus(Qt::ShortcutFocusReason);
@@ -100,5 +100,5 @@ void DialogFastFood::setEntity(KorEntity* sale)
     parties()->showAgent(stored->getAgent());
     parties()->showEmployee(stored->getEmployee());
     m_ui->txtNamaPelanggan->setText(stored->getPemesan());
-    m_menu->setLines(m_sale->takeLines(stored->getDetails()));
+    m_menu->setOrderLines(m_sale->takeLines(stored->getDetails()));
 }

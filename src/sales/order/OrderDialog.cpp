@@ -63,7 +63,7 @@ void OrderDialog::showGuest(const EntityOrder& order)
 void OrderDialog::showOrder(const EntityOrder& order)
 {
     showGuest(order);
-    m_lines->setLines(order.getDetails());
+    m_lines->setOrderLines(order.getDetails());
     QTimer::singleShot(0, m_lines, [lines = m_lines] { lines->focusLines(); });
 }
 
@@ -84,9 +84,9 @@ bool OrderDialog::validate()
     const EntityPoolScope scope(m_found);
     m_memberBox->preventSuggest();
     resolveMember();
-    if (m_lines->lines().isEmpty())
+    if (m_lines->orderLines().isEmpty())
         addError(m_ui->tabDetail, tr("Add one or more menu"));
-    if (!EntityOrder::totalFits(m_otherLines + m_lines->lines()))
+    if (!EntityOrder::totalFits(m_otherLines + m_lines->orderLines()))
         addError(m_ui->tabDetail, tr("The total of this order is too large. Please take it as two orders"));
     return !hasError();
 }
@@ -97,6 +97,6 @@ void OrderDialog::writeTo(EntityOrder* order) const
     order->setPemesan(m_ui->txtNamaPelanggan->text());
     order->setTgl(QDate::currentDate());
     order->setStatus(EntityOrder::WAITING_FOR_MENU);
-    order->setDetails(m_lines->lines());
-    order->setRemovedDetails(m_lines->removedLines());
+    order->setDetails(m_lines->orderLines());
+    order->setRemovedDetails(m_lines->removedOrderLines());
 }
