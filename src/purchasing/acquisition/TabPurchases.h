@@ -19,7 +19,7 @@ protected:
     std::unique_ptr<KorDialog> createDialog() override;
     [[nodiscard]] QString deleteQuestion(const KorEntity* entity) const override;
     [[nodiscard]] QString countText(int rows) const override;
-    void entitySaved(KorEntity* purchase) override;
+    void entitySaved(KorEntity* entity) override;
 
 private:
     void offerToClose(int orderId);

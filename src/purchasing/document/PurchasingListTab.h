@@ -24,7 +24,7 @@ protected:
     };
 
     /** A concrete page refreshes at the end of its own constructor. */
-    PurchasingListTab(const Page& page, const Filters& filters, QWidget* parent);
+    PurchasingListTab(const Page& page, const Filters& words, QWidget* parent);
 
     [[nodiscard]] PurchasingFilter chosen() const;
 

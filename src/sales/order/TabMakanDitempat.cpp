@@ -172,13 +172,11 @@ void TabMakanDitempat::cancelOrder(EntityOrder* row)
     EntityPool pool;
     const EntityPoolScope scope(pool);
     const bool hasInvoice = !sales()->getInvoicesOfOrder(row->getId()).isEmpty();
-    if (sales()->hasError())
-        failed(sales());
-    else if (hasInvoice)
+    if (!sales()->hasError() && hasInvoice)
         tell(tr("Table %1 is already have an invoice. Please finish the payment or click Finish button on Payment "
                 "Dialog")
                  .arg(table));
-    else if (!sales()->removeOrder(static_cast<EntityMakanDitempat*>(row)))
+    else if (sales()->hasError() || !sales()->removeOrder(static_cast<EntityMakanDitempat*>(row)))
         failed(sales());
 }
 

@@ -89,12 +89,10 @@ void TabBawaPulang::cancelOrder(EntityOrder* row)
     const bool isPaid = row->getStatus() == EntityOrder::PAID || row->getStatus() == EntityOrder::PARTIALY_PAID;
     // A bill without money, or one from before an edit: the database would refuse, in its own words.
     const bool hasOpenInvoice = !isPaid && !sales()->getInvoicesOfBawaPulang(row->getId()).isEmpty();
-    if (sales()->hasError())
-        failed(sales());
-    else if (hasOpenInvoice)
+    if (!sales()->hasError() && hasOpenInvoice)
         tell(tr("Order %1 already has an invoice. Please finish the payment, or press Done in the payment form")
                  .arg(row->getId()));
-    else if (!sales()->removeOrder(static_cast<EntityBawaPulang*>(row)))
+    else if (sales()->hasError() || !sales()->removeOrder(static_cast<EntityBawaPulang*>(row)))
         failed(sales());
 }
 
