@@ -25,10 +25,8 @@ void enterLine(Guide& guide, const QString& window, const QString& code, const Q
 void order(Guide& guide)
 {
     guide.chapter("The owner orders from a supplier");
-    guide.menu("menuPembelia", "actionPesanan_Pembelian");
-    guide.waitForWidget("tblPurchaseOrder");
-    guide.key(Qt::Key_F12);
-    guide.waitForWindow("DialogPurchaseOrder");
+    openPage(guide, "menuPembelia", "actionPesanan_Pembelian", "tblPurchaseOrder");
+    openForm(guide, "DialogPurchaseOrder");
     chooseSupplier(guide);
     guide.key(Qt::Key_F3);
     guide.click("btnAdd");
@@ -44,8 +42,7 @@ void order(Guide& guide)
     guide.expectText("txtDiscount", "8.00");
     guide.expectText("txtGrandTotal", "24.00");
     guide.picture("order");
-    guide.pressOk();
-    guide.waitUntilClosed("DialogPurchaseOrder");
+    confirm(guide, "DialogPurchaseOrder");
     guide.expectRow("tblPurchaseOrder", "PT Supplier 1", "Sent to supplier");
     guide.picture("orders");
     guide.closePage();
@@ -54,8 +51,7 @@ void order(Guide& guide)
 /** Opens a new purchase and takes the supplier's open order over. */
 void receiveOrder(Guide& guide)
 {
-    guide.key(Qt::Key_F12);
-    guide.waitForWindow("DialogPurchases");
+    openForm(guide, "DialogPurchases");
     chooseSupplier(guide);
     guide.key(Qt::Key_F4);
     guide.click("btnSelectPO");
@@ -71,15 +67,13 @@ void receiveLine(Guide& guide, const QString& item, const QString& quantity)
     guide.key(Qt::Key_F2);
     guide.waitForWindow("DialogPurchaseDetailPO");
     guide.fill("txtQty", quantity);
-    guide.pressOk();
-    guide.waitUntilClosed("DialogPurchaseDetailPO");
+    confirm(guide, "DialogPurchaseDetailPO");
 }
 
 void receive(Guide& guide)
 {
     guide.chapter("Not all of it comes");
-    guide.menu("menuPembelia", "actionPurchases_Receive_Inventory");
-    guide.waitForWidget("tblPurchases");
+    openPage(guide, "menuPembelia", "actionPurchases_Receive_Inventory", "tblPurchases");
     receiveOrder(guide);
     receiveLine(guide, "Rice", "6");
     receiveLine(guide, "Fried Chicken", "4");
@@ -89,8 +83,7 @@ void receive(Guide& guide)
     guide.expectText("lblNetDue", "Less :");
     guide.expectText("txtNetDue", "-20.00");
     guide.picture("received-short");
-    guide.pressOk();
-    guide.waitUntilClosed("DialogPurchases");
+    confirm(guide, "DialogPurchases");
     guide.expectRow("tblPurchases", "A-1", "Partially Paid");
 
     guide.chapter("The rest comes, and the order is closed");
@@ -104,8 +97,7 @@ void receive(Guide& guide)
     guide.expectRow("tblPurchases", "A-2", "Unpaid");
     guide.picture("purchases");
     guide.closePage();
-    guide.menu("menuPembelia", "actionPesanan_Pembelian");
-    guide.waitForWidget("tblPurchaseOrder");
+    openPage(guide, "menuPembelia", "actionPesanan_Pembelian", "tblPurchaseOrder");
     guide.expectRow("tblPurchaseOrder", "PT Supplier 1", "Closed");
     guide.picture("order-closed");
     guide.closePage();
@@ -114,10 +106,8 @@ void receive(Guide& guide)
 void giveBack(Guide& guide)
 {
     guide.chapter("One item goes back");
-    guide.menu("menuPembelia", "actionCredit_Note");
-    guide.waitForWidget("tblCreditNote");
-    guide.key(Qt::Key_F12);
-    guide.waitForWindow("DialogCreditNote");
+    openPage(guide, "menuPembelia", "actionCredit_Note", "tblCreditNote");
+    openForm(guide, "DialogCreditNote");
     chooseSupplier(guide);
     guide.key(Qt::Key_F3);
     guide.click("btnSelectPurchases");
@@ -130,13 +120,11 @@ void giveBack(Guide& guide)
     guide.key(Qt::Key_F2);
     guide.waitForWindow("DialogCreditNoteInvoice");
     guide.fill("txtQty", "1");
-    guide.pressOk();
-    guide.waitUntilClosed("DialogCreditNoteInvoice");
+    confirm(guide, "DialogCreditNoteInvoice");
     guide.expectText("txtGrandTotal", "3.00");
     guide.fill("txtPaid", "3");
     guide.picture("credit-note");
-    guide.pressOk();
-    guide.waitUntilClosed("DialogCreditNote");
+    confirm(guide, "DialogCreditNote");
     guide.expectRow("tblCreditNote", "PT Supplier 1", "Fully Paid");
     guide.picture("credit-notes");
     guide.closePage();
@@ -145,10 +133,8 @@ void giveBack(Guide& guide)
 void payBill(Guide& guide)
 {
     guide.chapter("The bill is paid");
-    guide.menu("menuPembelia", "actionHutang_Payments");
-    guide.waitForWidget("tblPayment");
-    guide.key(Qt::Key_F12);
-    guide.waitForWindow("DialogPayment");
+    openPage(guide, "menuPembelia", "actionHutang_Payments", "tblPayment");
+    openForm(guide, "DialogPayment");
     chooseSupplier(guide);
     guide.key(Qt::Key_F3);
     // 24, less 4 that was paid at once, less 3 that came back.
@@ -158,13 +144,11 @@ void payBill(Guide& guide)
     guide.fill("txtCashAccount", "1010");
     guide.key(Qt::Key_Tab);
     guide.picture("bill");
-    guide.pressOk();
-    guide.waitUntilClosed("DialogPayment");
+    confirm(guide, "DialogPayment");
     guide.expectRow("tblPayment", "PT Supplier 1", "$49.00");
     guide.picture("bills");
     guide.closePage();
-    guide.menu("menuPembelia", "actionPurchases_Receive_Inventory");
-    guide.waitForWidget("tblPurchases");
+    openPage(guide, "menuPembelia", "actionPurchases_Receive_Inventory", "tblPurchases");
     guide.expectRow("tblPurchases", "A-1", "Fully Paid");
     guide.expectRow("tblPurchases", "A-2", "Fully Paid");
     guide.picture("purchases-paid");
@@ -174,16 +158,13 @@ void payBill(Guide& guide)
 void adjust(Guide& guide)
 {
     guide.chapter("One bag is broken");
-    guide.menu("menuPersediaan", "actionInventory_Adjustment");
-    guide.waitForWidget("tblInventoryAdj");
-    guide.key(Qt::Key_F12);
-    guide.waitForWindow("DialogInventoryAdj");
+    openPage(guide, "menuPersediaan", "actionInventory_Adjustment", "tblInventoryAdj");
+    openForm(guide, "DialogInventoryAdj");
     guide.lookUp("txtKode", "ns");
     guide.key(Qt::Key_Return);
     guide.fill("txtStok", "-1");
     guide.picture("adjustment");
-    guide.pressOk();
-    guide.waitUntilClosed("DialogInventoryAdj");
+    confirm(guide, "DialogInventoryAdj");
     guide.expectRow("tblInventoryAdj", "Rice", "Broken");
     guide.picture("adjustments");
     guide.closePage();
@@ -192,8 +173,7 @@ void adjust(Guide& guide)
 void readCard(Guide& guide)
 {
     guide.chapter("The stock card");
-    guide.menu("menuPersediaan", "actionKartu_Stok");
-    guide.waitForWidget("tblKartuStok");
+    openPage(guide, "menuPersediaan", "actionKartu_Stok", "tblKartuStok");
     guide.lookUp("txtItem", "ns");
     guide.key(Qt::Key_Return);
     guide.expectRow("tblKartuStok", "Begining Balance", "0");
@@ -207,18 +187,15 @@ void readCard(Guide& guide)
 void transfer(Guide& guide)
 {
     guide.chapter("Money goes to the bank");
-    guide.menu("menuKas", "actionTransfer");
-    guide.waitForWidget("tblTransfer");
-    guide.key(Qt::Key_F12);
-    guide.waitForWindow("DialogTransaction");
+    openPage(guide, "menuKas", "actionTransfer", "tblTransfer");
+    openForm(guide, "DialogTransaction");
     guide.fill("txtFromAccount", "1010");
     guide.key(Qt::Key_Tab);
     guide.fill("txtToAccount", "1020");
     guide.key(Qt::Key_Tab);
     guide.fill("txtAmount", "15");
     guide.picture("transfer");
-    guide.pressOk();
-    guide.waitUntilClosed("DialogTransaction");
+    confirm(guide, "DialogTransaction");
     guide.expectText("lblCount", "1 Items");
     guide.closePage();
 }
@@ -226,8 +203,7 @@ void transfer(Guide& guide)
 void readLedger(Guide& guide)
 {
     guide.chapter("The ledger shows all of it");
-    guide.menu("menuKas", "actionArus_Kas");
-    guide.waitForWidget("tblCashFlow");
+    openPage(guide, "menuKas", "actionArus_Kas", "tblCashFlow");
     guide.expectRow("tblCashFlow", "Transferring Funds", "$15.00");
     guide.expectRow("tblCashFlow", "Purchases", "$32.00");
     guide.expectRow("tblCashFlow", "Credit Note", "$3.00");

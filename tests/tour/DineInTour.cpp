@@ -8,10 +8,8 @@ namespace
 void masterData(Guide& guide)
 {
     guide.chapter("The owner adds a table");
-    guide.menu("menuMaster_Data", "actionMeja");
-    guide.waitForWidget("tblMeja");
-    guide.key(Qt::Key_F12);
-    guide.waitForWindow("DialogMeja");
+    openPage(guide, "menuMaster_Data", "actionMeja", "tblMeja");
+    openForm(guide, "DialogMeja");
     guide.fill("txtKode", "M1");
     guide.fill("txtNama", "Window");
     guide.key(Qt::Key_Return);
@@ -24,8 +22,7 @@ void masterData(Guide& guide)
     guide.picture("tables");
     guide.closePage();
 
-    guide.menu("menuMaster_Data", "actionItem");
-    guide.waitForWidget("tblItem");
+    openPage(guide, "menuMaster_Data", "actionItem", "tblItem");
     guide.expectText("lblCount", "4 Items");
     guide.picture("items");
     guide.chooseRow("tblItem", "Fried Rice");
@@ -40,12 +37,10 @@ void masterData(Guide& guide)
 void takeOrder(Guide& guide)
 {
     guide.chapter("A waiter takes the order of a table");
-    guide.menu("menuPenjualan", "actionMakan_Ditempat");
-    guide.waitForWidget("tblMeja");
+    openPage(guide, "menuPenjualan", "actionMakan_Ditempat", "tblMeja");
     guide.chooseRow("tblMeja", "Table 1");
     guide.picture("board");
-    guide.key(Qt::Key_F12);
-    guide.waitForWindow("DialogMakanDitempat");
+    openForm(guide, "DialogMakanDitempat");
     guide.lookUp("txtMember", "m12");
     guide.picture("member-lookup");
     guide.key(Qt::Key_Return);
@@ -57,19 +52,14 @@ void takeOrder(Guide& guide)
     // The picker comes again until it is cancelled.
     pick(guide, "DialogSelectMenu", "llp", "2");
     guide.key(Qt::Key_Return);
-    guide.waitForWindow("DialogSelectMenu");
-    guide.key(Qt::Key_Escape);
-    guide.waitForWindow("DialogMakanDitempat");
+    endRound(guide, "DialogSelectMenu", "DialogMakanDitempat");
     guide.click("btnAddInv");
     pick(guide, "DialogSelectInventory", "ns", "4");
     guide.key(Qt::Key_Return);
-    guide.waitForWindow("DialogSelectInventory");
-    guide.key(Qt::Key_Escape);
-    guide.waitForWindow("DialogMakanDitempat");
+    endRound(guide, "DialogSelectInventory", "DialogMakanDitempat");
     guide.expectText("lblTotal", "$30.00");
     guide.picture("order");
-    guide.pressOk();
-    guide.waitUntilClosed("DialogMakanDitempat");
+    confirm(guide, "DialogMakanDitempat");
 
     guide.expectSlip({"Table  : m1", "Member : member 1 m123", "Fried Rice", "no chili", "Rice with fresh", "Total"});
     guide.expectRow("tblMeja", "Table 1", "Waiting for the menu");
@@ -92,8 +82,7 @@ void changeOrder(Guide& guide)
     guide.lookUp("txtKode", "m2");
     guide.key(Qt::Key_Return);
     guide.picture("order-changed");
-    guide.pressOk();
-    guide.waitUntilClosed("DialogMakanDitempat");
+    confirm(guide, "DialogMakanDitempat");
     guide.expectSlip({"Table  : m1>m2", "*Fried Rice", "     4"});
     guide.expectRow("tblMeja", "Table 2", "Waiting for the menu");
     guide.expectRow("tblMeja", "Table 1", "Empty");

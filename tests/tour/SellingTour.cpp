@@ -11,11 +11,9 @@ namespace
 void orderForThree(Guide& guide)
 {
     guide.chapter("Three friends sit down");
-    guide.menu("menuPenjualan", "actionMakan_Ditempat");
-    guide.waitForWidget("tblMeja");
+    openPage(guide, "menuPenjualan", "actionMakan_Ditempat", "tblMeja");
     guide.chooseRow("tblMeja", "Table 1");
-    guide.key(Qt::Key_F12);
-    guide.waitForWindow("DialogMakanDitempat");
+    openForm(guide, "DialogMakanDitempat");
     guide.fill("txtNamaPelanggan", "Ann and friends");
     guide.key(Qt::Key_F3);
     guide.click("btnAdd");
@@ -23,11 +21,8 @@ void orderForThree(Guide& guide)
     guide.key(Qt::Key_Return);
     pick(guide, "DialogSelectMenu", "llp", "2");
     guide.key(Qt::Key_Return);
-    guide.waitForWindow("DialogSelectMenu");
-    guide.key(Qt::Key_Escape);
-    guide.waitForWindow("DialogMakanDitempat");
-    guide.pressOk();
-    guide.waitUntilClosed("DialogMakanDitempat");
+    endRound(guide, "DialogSelectMenu", "DialogMakanDitempat");
+    confirm(guide, "DialogMakanDitempat");
     guide.expectSlip({"Fried Rice"});
 }
 
@@ -42,8 +37,7 @@ void splitOff(Guide& guide, const QString& item, const QString& quantity, int gr
         guide.key(Qt::Key_Down);
     if (group > 1)
         guide.picture("split-line");
-    guide.pressOk();
-    guide.waitUntilClosed("DialogBayarMakanDitempatDetailSplit");
+    confirm(guide, "DialogBayarMakanDitempatDetailSplit");
 }
 
 void payGroup(Guide& guide, const QString& group, const QString& amount)
@@ -87,18 +81,14 @@ void payApart(Guide& guide)
 void sellOverTheCounter(Guide& guide)
 {
     guide.chapter("A sale over the counter");
-    guide.menu("menuPenjualan", "actionFastfood");
-    guide.waitForWidget("btnAdd");
-    guide.key(Qt::Key_F12);
-    guide.waitForWindow("DialogFastFood");
+    openPage(guide, "menuPenjualan", "actionFastfood", "btnAdd");
+    openForm(guide, "DialogFastFood");
     guide.fill("txtNamaPelanggan", "A walker-by");
     guide.key(Qt::Key_F3);
     guide.click("btnAdd");
     pick(guide, "DialogSelectFastFoodMenu", "fr", "2");
     guide.key(Qt::Key_Return);
-    guide.waitForWindow("DialogSelectFastFoodMenu");
-    guide.key(Qt::Key_Escape);
-    guide.waitForWindow("DialogFastFood");
+    endRound(guide, "DialogSelectFastFoodMenu", "DialogFastFood");
     guide.expectText("txtGrandTotal", "10.00");
     guide.key(Qt::Key_F9);
     guide.fill("txtPaid", "20");
@@ -116,21 +106,16 @@ void sellOverTheCounter(Guide& guide)
 void orderToTakeAway(Guide& guide)
 {
     guide.chapter("An order to take away");
-    guide.menu("menuPenjualan", "actionBawa_Pulang");
-    guide.waitForWidget("btnAdd");
-    guide.key(Qt::Key_F12);
-    guide.waitForWindow("DialogBawaPulang");
+    openPage(guide, "menuPenjualan", "actionBawa_Pulang", "btnAdd");
+    openForm(guide, "DialogBawaPulang");
     guide.fill("txtNamaPelanggan", "Budi");
     guide.key(Qt::Key_F3);
     guide.click("btnAdd");
     pick(guide, "DialogSelectBawaPulangMenu", "llp", "2", "extra hot");
     guide.key(Qt::Key_Return);
-    guide.waitForWindow("DialogSelectBawaPulangMenu");
-    guide.key(Qt::Key_Escape);
-    guide.waitForWindow("DialogBawaPulang");
+    endRound(guide, "DialogSelectBawaPulangMenu", "DialogBawaPulang");
     guide.picture("take-away-order");
-    guide.pressOk();
-    guide.waitUntilClosed("DialogBawaPulang");
+    confirm(guide, "DialogBawaPulang");
     guide.expectSlip({"Rice with fresh", "extra hot"});
     guide.expectRow("tblMeja", "Budi", "Waiting for the menu");
     guide.picture("take-away-orders");
@@ -139,8 +124,7 @@ void orderToTakeAway(Guide& guide)
 void cookIt(Guide& guide)
 {
     guide.chapter("The kitchen sees it and answers");
-    guide.menu("menuPenjualan", "actionPesanan_Masuk");
-    guide.waitForWidget("tblQueue");
+    openPage(guide, "menuPenjualan", "actionPesanan_Masuk", "tblQueue");
     guide.chooseRow("tblQueue", "Take Away:1");
     guide.expectRow("tblMenu", "Rice with fresh vegetables", "extra hot");
     guide.chooseRow("tblMenu", "Rice with fresh vegetables");
@@ -157,8 +141,7 @@ void cookIt(Guide& guide)
 void handOver(Guide& guide)
 {
     guide.chapter("The guest pays and goes");
-    guide.menu("menuPenjualan", "actionBawa_Pulang");
-    guide.waitForWidget("btnPay");
+    openPage(guide, "menuPenjualan", "actionBawa_Pulang", "btnPay");
     guide.chooseRow("tblMeja", "Budi");
     guide.click("btnPay");
     guide.waitForWindow("DialogBayarBawaPulang");
@@ -178,10 +161,15 @@ void handOver(Guide& guide)
 void lookBack(Guide& guide)
 {
     guide.chapter("The owner looks at the evening");
-    guide.menu("menuPenjualan", "actionDaftar_Penjualan");
-    guide.waitForWidget("btnReset");
+    openPage(guide, "menuPenjualan", "actionDaftar_Penjualan", "btnReset");
     guide.expectText("lblCount", "5 Items");
     guide.picture("all-sales");
+    guide.closePage();
+    openPage(guide, "menuPenjualan", "actionPiutang", "btnAdd");
+    openForm(guide, "DialogPiutang");
+    guide.picture("member-payment");
+    guide.key(Qt::Key_Escape);
+    guide.waitUntilClosed("DialogPiutang");
     guide.closePage();
 }
 } // namespace

@@ -28,3 +28,28 @@ void pick(Guide& guide, const QString& window, const QString& code, const QStrin
     if (!notes.isEmpty())
         guide.fill("txtNotes", notes);
 }
+
+void endRound(Guide& guide, const QString& picker, const QString& form)
+{
+    guide.waitForWindow(picker);
+    guide.key(Qt::Key_Escape);
+    guide.waitForWindow(form);
+}
+
+void openPage(Guide& guide, const QString& menu, const QString& action, const QString& widget)
+{
+    guide.menu(menu, action);
+    guide.waitForWidget(widget);
+}
+
+void openForm(Guide& guide, const QString& form)
+{
+    guide.key(Qt::Key_F12);
+    guide.waitForWindow(form);
+}
+
+void confirm(Guide& guide, const QString& form)
+{
+    guide.pressOk();
+    guide.waitUntilClosed(form);
+}

@@ -44,6 +44,7 @@ QString AccountField::lookUp()
     accounts->clearErrors();
     m_account = code.isEmpty() ? nullptr : accounts->findByCode(code);
     m_name->setText(m_account ? m_account->getNama() : QString());
+    m_couldAsk = !accounts->hasError();
     return accounts->takeErrors();
 }
 
@@ -51,6 +52,7 @@ bool AccountField::check(const QString& missing, const QString& unknown)
 {
     if (m_code->text().trimmed().isEmpty()) {
         m_account = nullptr;
+        m_couldAsk = true;
         if (missing.isEmpty())
             return true;
         m_form->addError(m_code, missing);

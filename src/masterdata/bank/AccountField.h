@@ -29,6 +29,8 @@ public:
      * box may be empty where there is no text for it.
      */
     bool check(const QString& missing, const QString& unknown);
+    /** False when the accounts could not be asked at the last look. */
+    [[nodiscard]] bool couldAsk() const { return m_couldAsk; }
 
 private:
     /** What failed, or nothing. */
@@ -40,4 +42,5 @@ private:
     BankTextBox* m_box;
     EntityPool m_found;
     EntityBank* m_account = nullptr;
+    bool m_couldAsk = true;
 };

@@ -37,7 +37,7 @@ EntityKomisiAgenDetail* DataMapperKomisiAgenDetail::findByInvoice(int invoiceId)
         findOne(" where invoice_id = :id order by komisi_agen_detail.id", {{":id", invoiceId}}));
 }
 
-bool DataMapperKomisiAgenDetail::removeUnread(int paymentId)
+bool DataMapperKomisiAgenDetail::removeByPayment(int paymentId)
 {
     KorQuery query;
     return execute(query, "delete from komisi_agen_detail where komisi_agen_id = :id", {{":id", paymentId}});

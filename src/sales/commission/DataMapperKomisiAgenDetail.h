@@ -23,6 +23,6 @@ public:
     [[nodiscard]] QList<EntityKomisiAgenDetail*> findByPayment(int paymentId);
     /** The line that paid the invoice's commission; null when there is none. */
     [[nodiscard]] EntityKomisiAgenDetail* findByInvoice(int invoiceId);
-    /** Takes the lines away that no read gives any more: those whose sale was deleted. */
-    bool removeUnread(int paymentId);
+    /** Removes all lines of the payment, also those that no read gives any more because their sale was deleted. */
+    bool removeByPayment(int paymentId);
 };

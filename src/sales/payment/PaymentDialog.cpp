@@ -5,7 +5,7 @@
 #include "app/widgets/MoneyEdit.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "masterdata/agent/AgentTextBox.h"
-#include "masterdata/bank/BankTextBox.h"
+#include "masterdata/bank/AccountField.h"
 #include "masterdata/employee/EmployeeTextBox.h"
 #include "masterdata/member/MemberTextBox.h"
 #include "sales/invoice/EntityInvoiceDetail.h"
@@ -57,8 +57,7 @@ void PaymentDialog::connectParties()
     onChoice(m_parties->memberBox(), &PaymentDialog::onMemberSelected);
     onChoice(m_parties->agentBox(), &PaymentDialog::onAgentSelected);
     onChoice(m_parties->employeeBox(), &PaymentDialog::onEmployeeSelected);
-    onChoice(m_parties->cashBox(), &PaymentDialog::onCashAccountSelected);
-    m_parties->cashBox()->setNextWidget(m_form.amounts.paid);
+    m_parties->cashField()->box()->setNextWidget(m_form.amounts.paid);
 }
 
 void PaymentDialog::onKey(const QKeySequence& key, const std::function<void()>& action)
@@ -108,8 +107,6 @@ void PaymentDialog::onMemberSelected()
     if (!isStored())
         applyMemberDiscount(member);
 }
-
-void PaymentDialog::onCashAccountSelected() { m_parties->showPickedAccount(); }
 
 void PaymentDialog::onItemAdded()
 {

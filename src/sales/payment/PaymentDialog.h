@@ -28,7 +28,6 @@ public slots:
     void onMemberSelected();
     void onAgentSelected() {}
     void onEmployeeSelected() {}
-    void onCashAccountSelected();
     void onItemAdded();
     void onTabItemSelected();
     void on_txtPaid_textChanged(const QString& text);

@@ -3,7 +3,7 @@
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/widgets/KorDialog.h"
 #include "masterdata/agent/AgentTextBox.h"
-#include "masterdata/bank/BankTextBox.h"
+#include "masterdata/bank/AccountField.h"
 #include "masterdata/employee/EmployeeTextBox.h"
 #include "masterdata/member/MemberTextBox.h"
 
@@ -25,7 +25,7 @@ PaymentParties::PaymentParties(const Boxes& boxes, KorDialog* form)
       m_agentBox(boxes.agent ? new AgentTextBox(boxes.agent, service<BusinessAgent>("Agent")) : nullptr),
       m_employeeBox(boxes.employee ? new EmployeeTextBox(boxes.employee, service<BusinessEmployee>("Employee"))
                                    : nullptr),
-      m_cashBox(new BankTextBox(boxes.cashAccount, service<BusinessBank>("Bank")))
+      m_account(new AccountField(boxes.cashAccount, boxes.cashAccountName, form))
 {
     if (!m_agentBox || !m_employeeBox)
         return;
@@ -40,10 +40,9 @@ void PaymentParties::lookUp()
     const auto unknown = [](const QLineEdit* box) {
         return box ? tr("There is no record with the code: %1").arg(box->text()) : QString();
     };
-    if (m_boxes.cashAccount->text().isEmpty())
-        m_form->addError(m_boxes.cashAccount, tr("Please select a Cash Accounts"));
+    m_account->check(tr("Please select a Cash Accounts"), tr("Please select a valid Cash Accounts"));
     // A database that does not answer is told once, not once a box.
-    if (!lookUp<BusinessBank>(m_boxes.cashAccount, "Bank", tr("Please select a valid Cash Accounts"), &m_account) ||
+    if (!m_account->couldAsk() ||
         !lookUp<BusinessMember>(m_boxes.member, "Member", unknown(m_boxes.member), &m_member) ||
         !lookUp<BusinessAgent>(m_boxes.agent, "Agent", unknown(m_boxes.agent), &m_agent))
         return;
@@ -75,27 +74,15 @@ void PaymentParties::showAgent(const EntityAgent* agent) { m_boxes.agent->setTex
 
 void PaymentParties::showEmployee(const EntityEmployee* employee) { m_boxes.employee->setText(codeOf(employee)); }
 
+EntityBank* PaymentParties::cashAccount() const { return m_account->account(); }
+
 void PaymentParties::showDefaultAccount()
 {
     const EntityPoolScope scope(m_found);
-    showAccount(service<BusinessBank>("Bank")->cashOnHand());
-}
-
-void PaymentParties::showAccount(const QString& code)
-{
-    const EntityPoolScope scope(m_found);
-    m_boxes.cashAccount->setText(code);
-    showAccount(service<BusinessBank>("Bank")->findByCode(code));
-}
-
-void PaymentParties::showPickedAccount() { showAccount(m_cashBox->selectedItem()); }
-
-void PaymentParties::showAccount(const EntityBank* account)
-{
     auto* accounts = service<BusinessBank>("Bank");
+    m_account->show(accounts->cashOnHand());
     if (accounts->hasError())
         QMessageBox::critical(m_form, KorDialog::tr("Error"), accounts->takeErrors());
-    m_boxes.cashAccountName->setText(account ? account->getNama() : QString());
-    if (account)
-        m_boxes.cashAccount->setText(account->getKode());
 }
+
+void PaymentParties::showAccount(const QString& code) { m_account->showCode(code); }

@@ -4,8 +4,8 @@
 
 #include <QObject>
 
+class AccountField;
 class AgentTextBox;
-class BankTextBox;
 class EmployeeTextBox;
 class EntityAgent;
 class EntityBank;
@@ -42,7 +42,7 @@ public:
     // Null where the form has no such box.
     [[nodiscard]] AgentTextBox* agentBox() const { return m_agentBox; }
     [[nodiscard]] EmployeeTextBox* employeeBox() const { return m_employeeBox; }
-    [[nodiscard]] BankTextBox* cashBox() const { return m_cashBox; }
+    [[nodiscard]] AccountField* cashField() const { return m_account; }
 
     /** Reads whom the codes stand for; what is wrong with them becomes an error of the form. */
     void lookUp();
@@ -50,30 +50,26 @@ public:
     [[nodiscard]] EntityMember* member() const { return m_member; }
     [[nodiscard]] EntityAgent* agent() const { return m_agent; }
     [[nodiscard]] EntityEmployee* employee() const { return m_employee; }
-    [[nodiscard]] EntityBank* cashAccount() const { return m_account; }
+    [[nodiscard]] EntityBank* cashAccount() const;
 
     void showMember(const EntityMember* member);
     void showAgent(const EntityAgent* agent);
     void showEmployee(const EntityEmployee* employee);
     void showDefaultAccount();
     void showAccount(const QString& code);
-    /** The account that was picked from the list, if any. */
-    void showPickedAccount();
 
 private:
     template <class Service, class Entity>
     bool lookUp(QLineEdit* box, const QString& serviceName, const QString& unknown, Entity** found);
-    void showAccount(const EntityBank* account);
 
     Boxes m_boxes;
     KorDialog* m_form;
     MemberTextBox* m_memberBox;
     AgentTextBox* m_agentBox;
     EmployeeTextBox* m_employeeBox;
-    BankTextBox* m_cashBox;
+    AccountField* m_account;
     EntityPool m_found;
     EntityMember* m_member = nullptr;
     EntityAgent* m_agent = nullptr;
     EntityEmployee* m_employee = nullptr;
-    EntityBank* m_account = nullptr;
 };

@@ -45,7 +45,7 @@ QList<EntityPiutangDetail*> DataMapperPiutangDetail::findByInvoices(const QList<
         findMany(" where invoice_id = ANY(:ids) order by piutang_detail.id", {{":ids", idList(invoiceIds)}}));
 }
 
-bool DataMapperPiutangDetail::removeUnread(int paymentId)
+bool DataMapperPiutangDetail::removeByPayment(int paymentId)
 {
     KorQuery query;
     return execute(query, "delete from piutang_detail where piutang_id = :id", {{":id", paymentId}});

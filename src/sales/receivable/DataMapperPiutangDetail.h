@@ -27,6 +27,6 @@ public:
     [[nodiscard]] QList<EntityPiutangDetail*> findByPayment(int paymentId);
     /** What all payments paid of these invoices. */
     [[nodiscard]] QList<EntityPiutangDetail*> findByInvoices(const QList<int>& invoiceIds);
-    /** Takes the lines away that no read gives any more: those whose sale was deleted. */
-    bool removeUnread(int paymentId);
+    /** Removes all lines of the payment, also those that no read gives any more because their sale was deleted. */
+    bool removeByPayment(int paymentId);
 };

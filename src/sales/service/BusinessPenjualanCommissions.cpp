@@ -1,4 +1,3 @@
-#include "app/context/EntityPool.h"
 #include "kor/business/KorServiceTransaction.h"
 #include "sales/commission/DataMapperAllAgentCommision.h"
 #include "sales/commission/DataMapperKomisiAgen.h"
@@ -27,14 +26,7 @@ bool BusinessPenjualan::remove(EntityKomisiAgen* payment)
 {
     DataMapperKomisiAgenDetail* lines = m_mappers.commissions->lines();
     return inOneTransaction(*this, "remove", [this, payment, lines] {
-        EntityPool pool;
-        const EntityPoolScope scope(pool);
-        const QList<EntityKomisiAgenDetail*> stored = read(lines->findByPayment(payment->getId()), lines, "remove");
-        for (EntityKomisiAgenDetail* line : stored) {
-            if (!written(lines->remove(line), lines, "remove"))
-                return false;
-        }
-        return written(lines->removeUnread(payment->getId()), lines, "remove") &&
+        return written(lines->removeByPayment(payment->getId()), lines, "remove") &&
                written(m_mappers.commissions->remove(payment), m_mappers.commissions, "remove");
     });
 }

@@ -63,14 +63,7 @@ bool BusinessPenjualan::remove(EntityPiutang* payment)
 {
     DataMapperPiutangDetail* lines = m_mappers.receivables->lines();
     return inOneTransaction(*this, "remove", [this, payment, lines] {
-        EntityPool pool;
-        const EntityPoolScope scope(pool);
-        const QList<EntityPiutangDetail*> stored = read(lines->findByPayment(payment->getId()), lines, "remove");
-        for (EntityPiutangDetail* line : stored) {
-            if (!written(lines->remove(line), lines, "remove"))
-                return false;
-        }
-        return written(lines->removeUnread(payment->getId()), lines, "remove") &&
+        return written(lines->removeByPayment(payment->getId()), lines, "remove") &&
                written(m_mappers.receivables->remove(payment), m_mappers.receivables, "remove");
     });
 }
