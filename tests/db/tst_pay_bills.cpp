@@ -275,11 +275,15 @@ void TestPayBills::aDeletedPaymentLeavesItsPurchasesUntilTheyAreReckonedNext()
     EntityPayment* gone = payment({line(purchase, 500)});
     gone->expenses().addDetail(expense(1, 10));
     QVERIFY(save(gone));
+    QVERIFY(!m_purchases->remove(m_purchases->find(purchase)));
+    QCOMPARE(m_purchases->takeErrors(),
+             QString("This purchase is paid, please delete the payment first: Payment No: %1\r\n").arg(gone->getNo()));
     QVERIFY2(m_payments->remove(stored(gone->getId())), qPrintable(m_payments->takeErrors()));
     QCOMPARE(count("payment") + count("payment_invoice") + count("payment_expense"), 0);
     QCOMPARE(figures(purchase), QString("500 0 1"));
     QVERIFY(m_purchases->recalculateDue(purchase));
     QCOMPARE(figures(purchase), QString("0 500 2"));
+    QVERIFY2(m_purchases->remove(m_purchases->find(purchase)), qPrintable(m_purchases->takeErrors()));
 }
 
 void TestPayBills::expensesMoveNoStock()

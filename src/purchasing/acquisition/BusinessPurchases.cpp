@@ -83,6 +83,15 @@ ItemMovement BusinessPurchases::movementOf(const KorEntity& purchase, const KorE
             asPurchase(purchase).getNo()};
 }
 
+bool BusinessPurchases::remove(KorEntity* purchase)
+{
+    // The database would refuse it too, in its own words.
+    const QString payment = read(m_purchases->paymentNo(purchase->getId()), m_purchases, "remove");
+    if (!payment.isEmpty())
+        addError("remove", tr("This purchase is paid, please delete the payment first: Payment No: %1").arg(payment));
+    return !errors().contains("remove") && StockDocumentService::remove(purchase);
+}
+
 bool BusinessPurchases::recalculateDue(int purchaseId)
 {
     // Whoever saves the purchase meanwhile makes this save fail: the due is reckoned anew from what they have left.

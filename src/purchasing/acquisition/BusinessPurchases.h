@@ -34,6 +34,9 @@ public:
     /** What is not fully paid, the first due first. */
     [[nodiscard]] QList<EntityAcquisition*> getPendingInvoiceBySupplier(const EntitySupplier* supplier);
 
+    /** Refused while a payment stands for the purchase. */
+    bool remove(KorEntity* purchase) override;
+
     /** Sets the status that follows from what was paid; every save begins with it. */
     static void updateStatus(EntityAcquisition& purchase);
     /** Reckons anew what credit notes and payments gave for the stored purchase, and saves it. */

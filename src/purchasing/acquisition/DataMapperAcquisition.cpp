@@ -73,6 +73,16 @@ double DataMapperAcquisition::paidLater(int purchaseId)
     return done && query.next() ? query.value(0).toDouble() : 0;
 }
 
+QString DataMapperAcquisition::paymentNo(int purchaseId)
+{
+    KorQuery query;
+    const bool done = execute(query,
+                              "select payment.no from payment inner join payment_invoice on payment.id = payment_id "
+                              "where acquisition_id = :purchase order by payment.id limit 1",
+                              {{":purchase", purchaseId}});
+    return done && query.next() ? query.value(0).toString() : QString();
+}
+
 PurchasingColumns DataMapperAcquisition::filterColumns() const
 {
     return {tableName(), "purchase_date", "status", "no", "acquisition.invoice_no"};

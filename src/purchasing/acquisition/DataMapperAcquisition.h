@@ -30,6 +30,8 @@ public:
     [[nodiscard]] EntityAcquisition* findByOrder(int orderId);
     /** What credit notes and payments gave for the purchase since, in whole units of the currency. */
     [[nodiscard]] double paidLater(int purchaseId);
+    /** The number of a payment that paid of the purchase; empty when there is none. */
+    [[nodiscard]] QString paymentNo(int purchaseId);
 
 protected:
     [[nodiscard]] const Messages& messages() const override;
