@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QWizardPage>
+
+class QPlainTextEdit;
+class ZavelInstaller;
+
+/** The page on which a wizard's work is done: a status box that takes the lines of the worker. */
+class InstallProgressPage : public QWizardPage
+{
+    Q_OBJECT
+
+public:
+    explicit InstallProgressPage(QWidget* parent = nullptr);
+
+    [[nodiscard]] bool isRunning() const { return m_running; }
+
+public slots:
+    void onProgress(int perc, const QString& status);
+    void errorString(const QString& err);
+
+signals:
+    /** The installer has ended, well or not. */
+    void ended();
+
+protected:
+    [[nodiscard]] QPlainTextEdit* statusBox() const { return m_status; }
+    /** Runs it on a thread of its own; one at a time: a second one is thrown away. Takes the installer over. */
+    void run(ZavelInstaller* installer);
+
+private:
+    QPlainTextEdit* m_status;
+    bool m_running = false;
+};
