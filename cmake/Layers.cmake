@@ -8,7 +8,7 @@ function(add_layer name)
   target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
   target_link_libraries(${name} PUBLIC ${ARG_USES} PRIVATE zavel_flags)
   target_link_options(${name} PRIVATE -Wl,--no-undefined)
-  install(TARGETS ${name} LIBRARY DESTINATION lib)
+  install(TARGETS ${name} LIBRARY DESTINATION ${ZAVEL_LAYER_DIR})
 endfunction()
 
 # add_family(LAYER Class...): the classes of this folder, each a header and, where there is one, a source file.
