@@ -391,6 +391,7 @@ void MainWindow::updateDBConfig()
     context->setDateFormat(localization->getDateTimeFormat());
     context->setLocale(localization->getLocale());
     settings.putIntoContext();
+    m_reports.handOverSettings();
     // Both switches go to the sidebar, the dashboard's last; the dashboard itself stays as it is.
     context->setShowSidebar(settings.showSidebar);
     context->setShowSidebar(settings.showDashboard);

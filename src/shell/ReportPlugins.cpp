@@ -27,14 +27,15 @@ bool ReportPlugins::load(const QDir& pluginFolder)
             continue;
         }
         m_plugin = qobject_cast<KorPluginTabInterface*>(instance);
-        if (m_plugin)
-            handOverSettings();
+        handOverSettings();
     }
     return true;
 }
 
 void ReportPlugins::handOverSettings() const
 {
+    if (!m_plugin)
+        return;
     const AppContext* context = AppContext::instance();
     m_plugin->set("date_format", context->dateFormat());
     m_plugin->set("app_path", QCoreApplication::applicationDirPath());

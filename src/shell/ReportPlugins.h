@@ -19,9 +19,10 @@ public:
     /** Why files could not be loaded, one text a file. */
     [[nodiscard]] const QStringList& errors() const { return m_errors; }
 
-private:
+    /** Tells the plug-in the connection and the formats in use; load() does it too. */
     void handOverSettings() const;
 
+private:
     KorPluginTabInterface* m_plugin = nullptr;
     QStringList m_errors;
 };

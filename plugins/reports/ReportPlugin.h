@@ -1,0 +1,21 @@
+#pragma once
+
+#include "kor/plugin/KorPluginTabInterface.h"
+
+#include <QMap>
+#include <QObject>
+
+/** The reports as the program loads them: one page a subject. */
+class ReportPlugin final : public QObject, public KorPluginTabInterface
+{
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID "core.kor.KorPluginTabInterface")
+    Q_INTERFACES(KorPluginTabInterface)
+
+public:
+    KorTab* createTab(const QString& reportName) override;
+    void set(const QString& key, const QString& value) override { m_settings.insert(key, value); }
+
+private:
+    QMap<QString, QString> m_settings;
+};

@@ -1,0 +1,3 @@
+#include "reports/catalogue/ReportCatalogue.h"
+
+QList<ReportSubject> ReportCatalogue::subjects() { return {masterData(), stock(), purchasing(), sales(), cash()}; }

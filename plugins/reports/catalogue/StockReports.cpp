@@ -1,0 +1,4 @@
+#include "reports/catalogue/Questions.h"
+#include "reports/catalogue/ReportCatalogue.h"
+
+ReportSubject ReportCatalogue::stock() { return {"Persediaan", QT_TRANSLATE_NOOP("Reports", "Inventory Reports"), {}}; }
