@@ -23,7 +23,10 @@ class TabReport final : public KorTab
     Q_OBJECT
 
 public:
-    TabReport(const ReportSubject& subject, ReportConnection connection, QString dateFormat, QWidget* parent = nullptr);
+    /** The connection is asked for at each run: the program can change over to another database. */
+    using Connection = std::function<ReportConnection()>;
+
+    TabReport(ReportSubject subject, Connection connection, QString dateFormat, QWidget* parent = nullptr);
     ~TabReport() override;
 
     /** Chooses the report with this id, without running it. */
