@@ -55,9 +55,8 @@ bool KorQuery::prepare(const QString& statement)
         m_prepareError = lastError().text();
         return false;
     }
-    m_statement = std::make_unique<KorStatement>();
-    m_statement->text = statement;
-    m_statement->query = *this;
+    // Made with its query: one that stands alone for a moment would ask for the default connection, on any thread.
+    m_statement.reset(new KorStatement{statement, *this, {}, 0, 0});
     KorStatementCache::ofThread().sign(*m_statement);
     return true;
 }
