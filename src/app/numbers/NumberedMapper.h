@@ -23,8 +23,13 @@ public:
         return number;
     }
 
+    /** For documents that come from elsewhere: from now on they keep the numbers that they bring, and draw none. */
+    void keepGivenNumbers() { m_keepsNumbers = true; }
+    [[nodiscard]] bool keepsNumbers() const { return m_keepsNumbers; }
+
 private:
     DataMapperKey* m_keys;
+    bool m_keepsNumbers = false;
 };
 
 /** A numbered document with lines: the number is drawn in the document's transaction and goes back with it. */
@@ -37,6 +42,8 @@ public:
 protected:
     bool beforeInsert(KorEntity* document) override
     {
+        if (this->keepsNumbers())
+            return true;
         const QString number = this->nextNo();
         static_cast<Document*>(document)->setNo(number);
         return !number.isNull();
