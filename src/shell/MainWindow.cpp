@@ -6,6 +6,8 @@
 #include "app/context/AppContext.h"
 #include "app/context/ConnectionSettings.h"
 #include "app/context/EntityPool.h"
+#include "install/converter/ConversionMark.h"
+#include "install/converter/DialogConverter.h"
 #include "install/zavel/ZavelInstaller.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/plugin/KorPluginTabInterface.h"
@@ -62,7 +64,10 @@ MainWindow::MainWindow(QWidget* parent)
     loadPlugin();
     buildSidebar();
     showStartPages();
-    QTimer::singleShot(updateCheckDelay, this, &MainWindow::checkDBUpdate);
+    QTimer::singleShot(updateCheckDelay, this, [this] {
+        checkDBUpdate();
+        checkConversion();
+    });
     m_language->fillMenu(m_ui->menuLanguage_2);
     connect(m_language, &InterfaceLanguage::chosen, this, &MainWindow::slotLanguageChanged);
     connect(m_language, &InterfaceLanguage::loaded, this, [this](const QString& name) {
@@ -324,7 +329,7 @@ void MainWindow::on_actionClear_Transactions_triggered()
 void MainWindow::on_actionConverter_triggered()
 {
     if (hasAccess("Configuration", 0))
-        showNotBuiltYet(tr("Converter"));
+        DialogConverter(this).exec();
 }
 
 void MainWindow::on_actionPrinter_triggered() { DialogPrinter(this).exec(); }
@@ -408,6 +413,26 @@ void MainWindow::checkDBUpdate()
         QMessageBox::information(this, tr("Info"),
                                  tr("The database is older than this program. Please bring it up to date under "
                                     "Configuration, General, Setup, Update."));
+}
+
+void MainWindow::checkConversion()
+{
+    ConversionMark mark(m_configuration);
+    const QString explanation = mark.explanation();
+    if (explanation.isEmpty())
+        return;
+    if (!checkAccess("Configuration", 0)) {
+        QMessageBox::information(this, tr("Info"), explanation);
+        return;
+    }
+    const auto answer = QMessageBox::question(
+        this, tr("Question"),
+        explanation + "\r\n\r\n" + tr("Do you want to open the converter now? Ignore: do not tell this again."),
+        QMessageBox::Yes | QMessageBox::No | QMessageBox::Ignore, QMessageBox::No);
+    if (answer == QMessageBox::Yes)
+        on_actionConverter_triggered();
+    else if (answer == QMessageBox::Ignore && !mark.remove())
+        QMessageBox::critical(this, tr("Error"), m_configuration->takeErrors());
 }
 
 void MainWindow::showInfo(const QString& text) { QMessageBox::information(this, tr("Error"), text); }

@@ -58,6 +58,8 @@ public slots:
     void slotReboot();
     /** Tells when the database is older than the program. */
     void checkDBUpdate();
+    /** Tells when bringing over the data of a former system was broken off. */
+    void checkConversion();
     void onLoaded() {}
 
     void on_actionMeja_triggered() { openTab("TabMeja"); }

@@ -2,6 +2,7 @@
 #include "app/context/AppContext.h"
 #include "app/context/ConnectionSettings.h"
 #include "app/context/DatabaseManager.h"
+#include "install/converter/DialogConverter.h"
 #include "kor/widgets/KorTab.h"
 #include "shell/ConfigDialog.h"
 #include "shell/DialogAbout.h"
@@ -128,6 +129,7 @@ private slots:
     void closingAllPagesLeavesNone();
     void whoMayNotConfigureIsRefused_data();
     void whoMayNotConfigureIsRefused();
+    void aConversionThatWasBrokenOffIsToldUntilNobodyWantsToHearOfIt();
     void aPressedCategoryStaysOpenAndClosesTheOthers();
     void theSidebarShowsTheMenusRowsAndDoesWhatTheyDo();
     void theSidebarCanBeHidden();
@@ -397,6 +399,23 @@ void TestMainWindow::whoMayNotConfigureIsRefused()
     action(name)->trigger();
     QCOMPARE(m_people->texts(), QStringList{"You don't have access.\r\nRequired permission: " + right});
     QCOMPARE(m_people->surprises(), QStringList());
+}
+
+void TestMainWindow::aConversionThatWasBrokenOffIsToldUntilNobodyWantsToHearOfIt()
+{
+    m_window->checkConversion();
+    QCOMPARE(m_people->texts(), QStringList());
+    m_database->run("INSERT INTO appconfig (appkey, is_json, appvalue, version) VALUES ('conversion', false, 'x', 1)");
+    m_people->answer(QMessageBox::Yes);
+    m_people->expect<DialogConverter>([](DialogConverter* dialog) { dialog->reject(); });
+    m_window->checkConversion();
+    QVERIFY(m_people->finished());
+    QVERIFY(m_people->lastText().contains("has not come to its end"));
+    m_people->answer(QMessageBox::Ignore);
+    m_window->checkConversion();
+    QCOMPARE(m_people->boxes().size(), 2);
+    m_window->checkConversion();
+    QCOMPARE(m_people->boxes().size(), 2);
 }
 
 void TestMainWindow::aPressedCategoryStaysOpenAndClosesTheOthers()

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QList>
+#include <QPair>
+#include <QStringList>
+
+/** What became of the rows of one table: how many were read, written and skipped, and for which rows why. */
+class ConversionCount
+{
+    Q_DECLARE_TR_FUNCTIONS(ConversionCount)
+
+public:
+    explicit ConversionCount(const QString& table) : m_table(table) {}
+
+    void countRead() { ++m_read; }
+    void countWritten() { ++m_written; }
+    void skip(const QString& key, const QString& reason);
+    /** The row was written, but not as it stood. */
+    void mend(const QString& key, const QString& what) { add(m_mended, what, key); }
+    void fail(const QString& reason) { m_failure = reason; }
+
+    [[nodiscard]] int read() const { return m_read; }
+    [[nodiscard]] const QString& failure() const { return m_failure; }
+    /** The figures, then a line for each reason with the rows that it was true of; at most so many of them, 0 for all.
+     */
+    [[nodiscard]] QStringList report(int keysShown) const;
+
+private:
+    using Reasons = QList<QPair<QString, QStringList>>;
+
+    static void add(Reasons& reasons, const QString& reason, const QString& key);
+    static QString listed(const QStringList& keys, int keysShown);
+
+    QString m_table;
+    int m_read = 0;
+    int m_written = 0;
+    int m_skipped = 0;
+    Reasons m_skips;
+    Reasons m_mended;
+    QString m_failure;
+};
