@@ -14,17 +14,17 @@ ReportTable dishes()
 {
     Report report;
     report.id = "dishes";
-    report.columns = {Column::text("kind", "Kind"), Column::text("dish", "Dish"), Column::date("day", "Day"),
-                      Column::count("sold", "Sold").sum(), Column::money("sales", "Sales").sum(),
-                      // The cost is not shown, and still needed for the margin's share.
-                      Column::share("margin", "Margin", "gain", "sales"),
-                      Column::average("each", "Each", "sales", "sold")};
+    report.columns = {
+        Column::text("kind", "Kind").words({{"D", "Drinks"}}), Column::text("dish", "Dish"), Column::date("day", "Day"),
+        Column::count("sold", "Sold").sum(), Column::money("sales", "Sales").sum(),
+        // The cost is not shown, and still needed for the margin's share.
+        Column::share("margin", "Margin", "gain", "sales"), Column::average("each", "Each", "sales", "sold")};
     report.group = "kind";
     ReportTable table(report);
     table.setFields({"dish", "kind", "day", "sold", "sales", "gain"});
-    table.append({{"Tea", "Drinks", QDate(2026, 3, 1), 4, 40.0, 30.0},
+    table.append({{"Tea", "D", QDate(2026, 3, 1), 4, 40.0, 30.0},
                   {"Soup, hot", "Food", QDate(2026, 3, 2), 1, 25.5, -5.0},
-                  {"Cola", "Drinks", QDate(2026, 3, 1), 0, 0.0, 0.0}});
+                  {"Cola", "D", QDate(2026, 3, 1), 0, 0.0, 0.0}});
     table.append({{"Rice \"large\"", "Food", QVariant(QVariant::Date), 10, 1500000.0, 750000.0}});
     return table;
 }

@@ -22,6 +22,8 @@ struct ReportColumn
     // A quotient of two other columns, which holds for subtotals and totals as well; a percentage is times a hundred.
     QString numerator;
     QString denominator;
+    // What the values of a code read as; a value without words stands as it is.
+    QList<QPair<QVariant, const char*>> valueWords = {};
 
     [[nodiscard]] bool isNumber() const { return kind >= Count; }
     [[nodiscard]] bool isQuotient() const { return !numerator.isEmpty(); }
@@ -32,6 +34,22 @@ struct ReportColumn
         ReportColumn column = *this;
         column.summed = true;
         return column;
+    }
+
+    /** Shows the words of a code: words({{"TRD", "Dine in"}, ...}). */
+    [[nodiscard]] ReportColumn words(const QList<QPair<QVariant, const char*>>& words) const
+    {
+        ReportColumn column = *this;
+        column.valueWords = words;
+        return column;
+    }
+    [[nodiscard]] QVariant inWords(const QVariant& value) const
+    {
+        for (const auto& word : valueWords) {
+            if (!value.isNull() && word.first.toString() == value.toString())
+                return reportText(word.second);
+        }
+        return value;
     }
 
     static ReportColumn text(const QString& field, const char* title) { return {field, title, Text, false, {}, {}}; }

@@ -123,7 +123,7 @@ QVariant ReportTable::rowValue(int row, int column) const
     if (shown.isQuotient())
         return quotient(shown, number(row, shown.numerator), number(row, shown.denominator));
     const int index = m_fields.value(shown.field, -1);
-    return index < 0 ? QVariant() : m_rows.at(row).value(index);
+    return index < 0 ? QVariant() : shown.inWords(m_rows.at(row).value(index));
 }
 
 QVariant ReportTable::sumValue(const Line& line, int column) const

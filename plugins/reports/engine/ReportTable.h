@@ -32,7 +32,7 @@ public:
     [[nodiscard]] LineKind lineKind(int line) const { return m_lines.at(line).kind; }
     /** What stands there; invalid where a sum line has nothing to say. */
     [[nodiscard]] QVariant value(int line, int column) const;
-    /** The value of a row as the answer gave it, whatever the order of the lines. */
+    /** The value of a row as the answer gave it, codes in words, whatever the order of the lines. */
     [[nodiscard]] QVariant rowValue(int row, int column) const;
     /** The sum over all rows; invalid for columns that are not summed. */
     [[nodiscard]] QVariant total(int column) const;
