@@ -5,9 +5,11 @@
 #include "app/configuration/BusinessConfiguration.h"
 #include "app/context/AppContext.h"
 #include "app/context/ConnectionSettings.h"
+#include "app/context/DatabaseManager.h"
 #include "app/context/EntityPool.h"
 #include "install/converter/ConversionMark.h"
 #include "install/converter/DialogConverter.h"
+#include "install/database/DialogBackupDB.h"
 #include "install/zavel/ZavelInstaller.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/plugin/KorPluginTabInterface.h"
@@ -316,8 +318,19 @@ void MainWindow::on_actionPrinter_Kasir_triggered()
 
 void MainWindow::on_actionBackup_Database_triggered()
 {
-    if (hasAccess("Printer Config", 0))
-        showNotBuiltYet(tr("Database Management"));
+    if (!hasAccess("Printer Config", 0))
+        return;
+    const auto database = [] {
+        const QSqlDatabase open = AppContext::instance()->databaseManager()->database();
+        return QStringList{open.hostName(), QString::number(open.port()), open.databaseName()};
+    };
+    const QStringList before = database();
+    DialogBackupDB dialog(this);
+    connect(&dialog, &DialogBackupDB::onUpdateDBConf, this, &MainWindow::updateDBConfig);
+    dialog.exec();
+    // What the pages show is in the former database: a save from there would hit other records in this one.
+    if (database() != before)
+        closeAllTab();
 }
 
 void MainWindow::on_actionClear_Transactions_triggered()

@@ -22,7 +22,7 @@ const QStringList& requiredColumns(TestDatabase& database, const QString& table)
                                "AND column_default IS NULL")
                            .arg(table))
                 .toString()
-                .split('|');
+                .split('|', Qt::SkipEmptyParts);
     return known[table];
 }
 

@@ -33,6 +33,9 @@ void ClientProcess::run(const ClientCommand& command)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("PGPASSWORD", command.password);
+    // An address where nobody answers would hold the tool up for minutes.
+    if (!environment.contains("PGCONNECT_TIMEOUT"))
+        environment.insert("PGCONNECT_TIMEOUT", "10");
     setProcessEnvironment(environment);
     const QString folder = ClientPrograms::folder(command.name);
     if (!folder.isEmpty())

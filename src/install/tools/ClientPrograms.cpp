@@ -110,4 +110,14 @@ ClientCommand reindex(const ConnectionSettings& connection)
     return {"reindexdb", server(connection) + QStringList{"-d", databaseName(connection.database)},
             connection.password};
 }
+
+ClientCommand query(const ConnectionSettings& connection, const QString& statement)
+{
+    return {"psql",
+            server(connection) +
+                QStringList{"-X", "-q", "-A", "-t", "-d", databaseName(connection.database), "-c", statement},
+            connection.password};
+}
+
+ClientCommand contents(const QString& inputFile) { return {"pg_restore", {"-l", absolute(inputFile)}, QString()}; }
 } // namespace ClientPrograms

@@ -30,4 +30,8 @@ namespace ClientPrograms
 [[nodiscard]] ClientCommand restore(const ConnectionSettings& connection, const QString& inputFile);
 [[nodiscard]] ClientCommand vacuum(const ConnectionSettings& connection);
 [[nodiscard]] ClientCommand reindex(const ConnectionSettings& connection);
+/** Writes the statement's values, one row a line. */
+[[nodiscard]] ClientCommand query(const ConnectionSettings& connection, const QString& statement);
+/** Writes the table of contents of a backup, and fails on what is none. */
+[[nodiscard]] ClientCommand contents(const QString& inputFile);
 } // namespace ClientPrograms
