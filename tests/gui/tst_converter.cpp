@@ -1,12 +1,10 @@
 #include "app/context/AppContext.h"
-#include "app/context/DatabaseManager.h"
 #include "app/context/EntityPool.h"
 #include "install/converter/DialogConverter.h"
-#include "inventory/stock/BusinessInventory.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "masterdata/item/BusinessItem.h"
-#include "shell/MainWindow.h"
 #include "support/Hands.h"
+#include "support/LedgerRows.h"
 #include "support/TestCluster.h"
 #include "support/TestDatabase.h"
 
@@ -70,7 +68,7 @@ insert into tblbeli values
   ('B-1', '2019-03-01', 'S01', '2019-04-01', 'Lunas', 10, 110000, 0, 'INV/7', '1', 'R''1', '', 0, 'BCA', '77', 0, 0, 0),
   ('B-2', '2019-03-02', 's01', '2019-04-02', 'Belum', 0, 50000.60, 20000.60, null, '0', null, 'PO-NONE', 10000, null,
    null, 0, 0, 0),
-  ('B-3', null, 'S01', '2019-05-01', null, null, 5000, 5000, null, null, null, null, null, null, null, null, null, null),
+  ('B-3', null, 'S01', '2019-05-01', null, null, 5000, 5000, null, null, null, 'PO-1', null, null, null, null, null, null),
   ('B-4', '2019-03-04', 'NOBODY', '2019-04-04', 'Belum', 0, 1, 1, null, null, null, null, 0, null, null, 0, 0, 0);
 insert into tblbelidetail values
   ('B-1', 'i1', 4, false, 2, 0, 25000, 'BIJI', 0, 0), ('B-1', 'I2', 1, true, 1, 0, 1, 'BIJI', 0, 0),
@@ -103,6 +101,8 @@ private slots:
     void twoThousandItemsTakeSecondsAndSteadyStatements();
     void aSourceThatIsNotThereIsTold();
     void aDatabaseWithoutTheTablesIsTold();
+    void twoWorkstationsDoNotConvertAtATime();
+    void aPurchaseIsNotTakenOverWithoutItsLines();
     void whatWasBrokenOffIsExplainedAndFinished_data();
     void whatWasBrokenOffIsExplainedAndFinished();
     void aDocumentThatWasLeftWithoutItsConsequencesGetsThem();
@@ -229,6 +229,7 @@ void TestConverter::theSourceIsAskedForFirst()
 
 void TestConverter::everyRowIsBroughtOverOrAccountedFor()
 {
+    insertRows(*m_database, "purchase_order", {{"id", "7"}, {"no", "'PO-1'"}, {"supplier_id", "1"}});
     KorLogger logger(nullptr, m_home.filePath("zavel.log"));
     AppContext::instance()->setLogger(&logger);
     convert();
@@ -261,7 +262,7 @@ void TestConverter::everyRowIsBroughtOverOrAccountedFor()
                              "-1)) from acquisition where no = ";
     QCOMPARE(row(purchase + "'B-1'"), QString("(2019-03-01,1,100000,10000,110000,50000,60000,0,f,-1)"));
     QCOMPARE(row(purchase + "'B-2'"), QString("(2019-03-02,3,50001,0,50001,10000,20000,20001,f,-1)"));
-    QCOMPARE(row(purchase + "'B-3'"), QString("(2019-05-01,2,5000,0,5000,0,0,5000,f,-1)"));
+    QCOMPARE(row(purchase + "'B-3'"), QString("(2019-05-01,2,5000,0,5000,0,0,5000,t,7)"));
     QCOMPARE(count("acquisition"), 3);
     QCOMPARE(row("qty, price_each_amount, total_price_amount) from acquisition_detail join acquisition on "
                  "acquisition.id = acquisition_id where no = 'B-2'"),
@@ -362,6 +363,25 @@ void TestConverter::aDatabaseWithoutTheTablesIsTold()
     convert();
     QCOMPARE(m_people->texts(), QStringList{"The source database holds no table of the former system."});
     QVERIFY(status().contains("tblprs: 0 read, 0 written, 0 skipped"));
+}
+
+void TestConverter::twoWorkstationsDoNotConvertAtATime()
+{
+    m_database->value("select pg_advisory_lock(hashtext('conversion'))");
+    convert();
+    QCOMPARE(m_people->texts(), QStringList{"The data are being brought over at another workstation."});
+    QCOMPARE(count("item where kode = 'I1'"), 0);
+}
+
+void TestConverter::aPurchaseIsNotTakenOverWithoutItsLines()
+{
+    legacy("drop table tblbelidetail");
+    convert();
+    QCOMPARE(count("acquisition"), 0);
+    QCOMPARE(count("payment"), 0);
+    for (const char* line : {"skipped, its lines could not be read: B-1",
+                             "not read to the end: ", "skipped, none of its purchases is there: P-1, P-2"})
+        QVERIFY2(status().contains(line), qPrintable(line + ('\n' + status())));
 }
 
 void TestConverter::whatWasBrokenOffIsExplainedAndFinished_data()

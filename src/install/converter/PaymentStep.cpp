@@ -26,6 +26,11 @@ void PaymentStep::convertNew(const LegacyRow& row, const QString& no)
     if (row.number("saldohutang") != 0)
         payment.setNote(tr("Still owed to the supplier then: %1").arg(row.text("saldohutang")));
     const double sum = addLines(payment, row);
+    // Another run can take it over when its purchases are there; written now, it would pay nothing for ever.
+    if (m_withoutPurchase > 0 && payment.invoices().getDetails().isEmpty()) {
+        run().skip(no, tr("none of its purchases is there"));
+        return;
+    }
     const double total = row.number("jumlahbayar") != 0 ? row.number("jumlahbayar") : sum;
     payment.setGrandTotal(run().money(total));
     if (payment.getGrandTotal()->getAmount() != sum)
@@ -36,6 +41,7 @@ void PaymentStep::convertNew(const LegacyRow& row, const QString& no)
 double PaymentStep::addLines(EntityPayment& payment, const LegacyRow& row)
 {
     double sum = 0;
+    m_withoutPurchase = 0;
     const QList<LegacyRow> rows =
         run().source().lines("select * from tblbayarbelidetail where idbeli=?", row.value("idbeli"));
     for (const LegacyRow& lineRow : rows) {
@@ -46,6 +52,7 @@ double PaymentStep::addLines(EntityPayment& payment, const LegacyRow& row)
         BusinessPurchases* purchases = run().services().purchases;
         EntityAcquisition* purchase = purchases->findByNo(Conversion::fitted(purchaseNo, *purchases, "No"));
         if (!purchase) {
+            ++m_withoutPurchase;
             run().lines().skip(key, tr("there is no such purchase"));
             continue;
         }

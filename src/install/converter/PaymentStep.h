@@ -19,4 +19,7 @@ protected:
 private:
     /** The sum of the lines. */
     double addLines(EntityPayment& payment, const LegacyRow& row);
+
+    /** How many of the payment's lines found no purchase. */
+    int m_withoutPurchase = 0;
 };

@@ -39,6 +39,8 @@ void ZavelConverter::process()
 
 void ZavelConverter::convert()
 {
+    EntityPool pool;
+    const EntityPoolScope scope(pool);
     const QSqlDatabase target = KorDatabase::current();
     if (!target.isOpen()) {
         fail(target.lastError().text());
@@ -112,8 +114,8 @@ QString ZavelConverter::runStep(Conversion& run, const ConversionStep& step, int
     if (step.begin)
         step.begin();
     const bool read = run.source().read("select * from " + step.table, [&](const LegacyRow& row) {
-        EntityPool pool;
-        const EntityPoolScope scope(pool);
+        EntityPool records;
+        const EntityPoolScope scope(records);
         run.beginRow();
         step.take(row);
         run.endRow();
