@@ -402,8 +402,13 @@ void TestConverter::whatWasBrokenOffIsExplainedAndFinished()
     addItems(2000);
     start();
     QTRY_VERIFY_WITH_TIMEOUT(count("item where kode like 'X%'") > 300, 20000);
+    // In the middle of an item: it is in, its balance waits.
+    const QString waiting = "pg_stat_activity where datname = current_database() and wait_event_type = 'Lock'";
+    m_database->run("begin; lock table stok_awal in exclusive mode");
+    QTRY_VERIFY_WITH_TIMEOUT(count(waiting) > 0, 20000);
     TestCluster::instance().run("select pg_terminate_backend(pid) from " +
                                 sessions.replace("OLD", m_legacy).replace("NEW", m_database->name()));
+    m_database->run("commit");
     QTRY_VERIFY_WITH_TIMEOUT(isIdle(), 30000);
     QCOMPARE(m_people->boxes().size(), 1);
     QCOMPARE(m_people->lastTitle(), QString("Error"));
