@@ -10,6 +10,7 @@
 #include "install/converter/ConversionMark.h"
 #include "install/converter/DialogConverter.h"
 #include "install/database/DialogBackupDB.h"
+#include "install/updater/DatabaseUpdate.h"
 #include "install/zavel/ZavelInstaller.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/plugin/KorPluginTabInterface.h"
@@ -29,7 +30,7 @@
 
 #include "ui_MainWindow.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QEvent>
 #include <QHash>
 #include <QLabel>
@@ -419,13 +420,23 @@ void MainWindow::updateDBConfig()
 
 void MainWindow::checkDBUpdate()
 {
+    // Not into a form that somebody has opened meanwhile.
+    if (QApplication::activeModalWidget()) {
+        QTimer::singleShot(updateCheckDelay, this, &MainWindow::checkDBUpdate);
+        return;
+    }
     ZavelInstaller installer;
     const bool needed = installer.isUpdateNeeded();
     m_configuration->clearErrors();
-    if (needed)
-        QMessageBox::information(this, tr("Info"),
-                                 tr("The database is older than this program. Please bring it up to date under "
-                                    "Configuration, General, Setup, Update."));
+    if (!needed)
+        return;
+    if (!m_update) {
+        m_update = new DatabaseUpdate(this);
+        // Pages look at the database by themselves, and what they show is older than the update.
+        connect(m_update, &DatabaseUpdate::entered, this, &MainWindow::closeAllTab);
+        connect(m_update, &DatabaseUpdate::left, this, &MainWindow::showStartPages);
+    }
+    m_update->offer();
 }
 
 void MainWindow::checkConversion()

@@ -8,6 +8,7 @@
 #include <memory>
 
 class BusinessConfiguration;
+class DatabaseUpdate;
 class InterfaceLanguage;
 class QLabel;
 class Sidebar;
@@ -56,7 +57,7 @@ public slots:
     /** Reads the settings file anew and changes over to the database that it names. */
     void updateDBConfig();
     void slotReboot();
-    /** Tells when the database is older than the program. */
+    /** Offers the update when the database is older than the program. */
     void checkDBUpdate();
     /** Tells when bringing over the data of a former system was broken off. */
     void checkConversion();
@@ -137,6 +138,7 @@ private:
     QLabel* m_statusUser;
     BusinessConfiguration* m_configuration;
     bool m_inDatabaseSetup = false;
+    DatabaseUpdate* m_update = nullptr;
     InterfaceLanguage* m_language;
     Sidebar* m_sidebar = nullptr;
 };

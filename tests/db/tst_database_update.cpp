@@ -26,8 +26,6 @@ private slots:
     void anUpdateIsDueForAnOlderDatabaseOnly_data();
     void anUpdateIsDueForAnOlderDatabaseOnly();
     void anUpToDateDatabaseKeepsItsRows();
-    void anOldDatabaseIsBroughtUpToDate();
-    void linesOfAnOldDatabaseKeepTheirConstraints();
     void migrationsBelowTheStartingVersionAreLeftOut();
     void theVersionIsRaisedOnlyWhereThereIsOne();
     void aNewPermissionIsAddedAndOldGrantsStay();
@@ -47,10 +45,6 @@ private:
             ->value("select character_maximum_length from information_schema.columns where table_name = 'meja' and "
                     "column_name = 'kode'")
             .toString();
-    }
-    [[nodiscard]] int constraints(const char* name) const
-    {
-        return m_database->value(QString("select count(*) from pg_constraint where conname = '%1'").arg(name)).toInt();
     }
     [[nodiscard]] QString grantOf(const char* permission) const
     {
@@ -98,29 +92,6 @@ void TestDatabaseUpdate::anUpToDateDatabaseKeepsItsRows()
     QCOMPARE(run.lines.last(), QString("[100%] Done. Please restart the app"));
     QCOMPARE(m_database->value(rows).toString(), before);
     QCOMPARE(version(), QString("1.1"));
-}
-
-void TestDatabaseUpdate::anOldDatabaseIsBroughtUpToDate()
-{
-    m_database->run("UPDATE appconfig SET appvalue = '1' WHERE appkey = 'app_version'");
-    m_database->run("ALTER TABLE meja ALTER COLUMN kode TYPE varchar(10)");
-    m_database->run("ALTER TABLE acquisition DROP CONSTRAINT acquisition_po_id_fkey");
-    const InstallerRun run(KorInstaller::UpdateInstall);
-    QCOMPARE(run.failures, QStringList{"permissions error: "});
-    QCOMPARE(widthOfTableCodes(), QString("20"));
-    QCOMPARE(constraints("acquisition_po_id_fkey"), 1);
-    QCOMPARE(version(), QString("1.1"));
-    QVERIFY(!ZavelInstaller().isUpdateNeeded());
-}
-
-void TestDatabaseUpdate::linesOfAnOldDatabaseKeepTheirConstraints()
-{
-    const char* names[] = {"acquisition_detail_po_detail_id_fkey", "purchase_order_detail_purchase_order_id_fkey"};
-    m_database->run(QString("ALTER TABLE acquisition_detail DROP CONSTRAINT ") + names[0]);
-    m_database->run(QString("ALTER TABLE purchase_order_detail DROP CONSTRAINT ") + names[1]);
-    const InstallerRun run(KorInstaller::UpdateInstall);
-    for (const char* name : names)
-        QCOMPARE(constraints(name), 0);
 }
 
 void TestDatabaseUpdate::migrationsBelowTheStartingVersionAreLeftOut()

@@ -8,6 +8,22 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QRegularExpression>
+
+namespace
+{
+/** The rights' two old changes: one is of a table that never was, the other has been made in most databases. */
+bool isToldAlways(const QString& reason)
+{
+    return reason.contains("permission_name ADD") || reason.contains("'Manage Printer Configurations'");
+}
+
+/** Without the statement and the driver's remarks, which only the log needs. */
+QString serversWords(const QString& reason)
+{
+    return reason.section("\r\n", 0, 0).simplified().remove(QRegularExpression(" \\(\\w{5}\\) QPSQL:.*$"));
+}
+} // namespace
 
 InstallProgressPage::InstallProgressPage(QWidget* parent) : QWizardPage(parent), m_status(new QPlainTextEdit(this))
 {
@@ -31,6 +47,7 @@ void InstallProgressPage::run(ZavelInstaller* installer)
     m_running = true;
     installer->setLogger(AppContext::instance()->logger());
     connect(installer, &KorInstaller::onProgress, this, &InstallProgressPage::onProgress);
+    connect(installer, &KorInstaller::stepFailed, this, &InstallProgressPage::keepFailure);
     connect(installer, &KorInstaller::error, this, &InstallProgressPage::errorString);
     connect(installer, &KorInstaller::finished, this, [this] {
         m_running = false;
@@ -39,8 +56,32 @@ void InstallProgressPage::run(ZavelInstaller* installer)
     startInstaller(installer);
 }
 
+void InstallProgressPage::keepFailure(const QString& status, const QStringList& reasons)
+{
+    QStringList words{"- " + status.trimmed()};
+    for (const QString& reason : reasons) {
+        if (!isToldAlways(reason))
+            words.append(serversWords(reason));
+    }
+    if (words.size() == 1 && !reasons.isEmpty())
+        words.append(tr("Every update tells this one; nothing is wrong."));
+    m_failures.append(words.join(' '));
+}
+
+void InstallProgressPage::sumUp()
+{
+    if (m_failures.isEmpty())
+        return;
+    appendStatusLine(m_status, tr("Failed steps: %1. The particulars are in the log file.").arg(m_failures.size()));
+    for (const QString& failure : qAsConst(m_failures))
+        appendStatusLine(m_status, failure);
+}
+
 void InstallProgressPage::onProgress(int perc, const QString& status)
 {
+    // Ahead of the last line, so that nobody has to search the others for what went wrong.
+    if (perc == 100)
+        sumUp();
     appendStatusLine(m_status, QString("[%1%] %2").arg(perc).arg(status));
 }
 

@@ -29,6 +29,10 @@ protected:
     void run(ZavelInstaller* installer);
 
 private:
+    void keepFailure(const QString& status, const QStringList& reasons);
+    void sumUp();
+
     QPlainTextEdit* m_status;
+    QStringList m_failures;
     bool m_running = false;
 };

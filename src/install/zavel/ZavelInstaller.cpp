@@ -38,10 +38,8 @@ void ZavelInstaller::registerPermissions()
 void ZavelInstaller::insertInitialData()
 {
     PosInstaller::insertInitialData();
-    if (!isFresh()) {
-        updateVersion();
+    if (!isFresh())
         return;
-    }
     setStatus(tr("Zavel Data"));
     insertVersion();
     insertKeys();
@@ -58,8 +56,10 @@ void ZavelInstaller::insertVersion()
     insertRow(m_configuration, &version);
 }
 
-void ZavelInstaller::updateVersion()
+void ZavelInstaller::recordCompletion()
 {
+    if (isFresh())
+        return;
     EntityPool pool;
     const EntityPoolScope scope(pool);
     m_configuration->clearErrors();

@@ -19,10 +19,11 @@ public:
     void addMappers() override;
     void insertInitialData() override;
     void registerPermissions() override;
+    /** Raises the version last of all, so that an update which was broken off is offered again. */
+    void recordCompletion() override;
 
 private:
     void insertVersion();
-    void updateVersion();
     void insertKeys();
     void insertTables();
     void insertAgent();

@@ -4,9 +4,26 @@
 #include "kor/log/KorLogger.h"
 #include "kor/persistence/KorDataMapper.h"
 #include "kor/persistence/KorDatabase.h"
+#include "kor/persistence/KorMigration.h"
 #include "kor/persistence/KorQuery.h"
 
 #include <QSqlError>
+
+namespace
+{
+// Any number that nothing else locks; locks of this kind count within one database.
+constexpr int installerLock = 1095781;
+
+/** The yes or no that a statement on the lock answers. */
+bool answer(const char* statement)
+{
+    KorQuery query;
+    return query.exec(QString(statement).arg(installerLock)) && query.next() && query.value(0).toBool();
+}
+
+/** Without a server each of the hundreds of statements to come would wait for it anew. */
+bool isConnected() { return KorDatabase::current().isOpen(); }
+} // namespace
 
 KorInstaller::KorInstaller(QObject* parent) : QObject(parent) {}
 
@@ -24,28 +41,51 @@ void KorInstaller::process()
 
 bool KorInstaller::install()
 {
-    const QSqlDatabase database = KorDatabase::current();
-    if (!database.isOpen()) {
-        // Each of the hundreds of statements to come would wait for the same server.
-        const QString reason = database.lastError().text();
-        m_failures.append(reason);
-        log(reason);
-        emit error(reason);
+    if (!begin())
         return true;
-    }
-    // The server would remark on each table that is dropped without being there.
-    KorQuery().exec("SET client_min_messages TO warning");
     step(0, tr("Initializing..."));
     addMappers();
     step(25, tr("Creating/Updating tables..."));
     processMappers();
     step(50, tr("Inserting initial datas..."));
-    insertInitialData();
+    if (isConnected())
+        insertInitialData();
     step(75, tr("Registering permissions..."));
-    registerPermissions();
-    KorQuery().exec("RESET client_min_messages");
+    if (isConnected())
+        registerPermissions();
+    end();
     step(100, tr("Done. Please restart the app"));
     return true;
+}
+
+bool KorInstaller::begin()
+{
+    const QSqlDatabase database = KorDatabase::current();
+    QString reason = database.lastError().text();
+    if (database.isOpen()) {
+        if (answer("SELECT pg_try_advisory_lock(%1)")) {
+            // The server would remark on each table that is dropped without being there.
+            KorQuery().exec("SET client_min_messages TO warning");
+            (void)KorMigration::takeFailures();
+            return true;
+        }
+        reason = tr("This database is being installed or updated at this very moment, from here or from another "
+                    "workstation. Please wait until that has ended.");
+    }
+    m_failures.append(reason);
+    log(reason);
+    emit error(reason);
+    return false;
+}
+
+void KorInstaller::end()
+{
+    // The lock is the session's: when it is gone, the session was lost and what was sent in between with it.
+    if (answer("SELECT pg_advisory_unlock(%1)"))
+        recordCompletion();
+    else
+        reportFailure(tr("The connection to the database was lost on the way, and steps failed. Please run it again."));
+    KorQuery().exec("RESET client_min_messages");
 }
 
 void KorInstaller::step(int percent, const QString& status)
@@ -69,7 +109,9 @@ void KorInstaller::processMappers()
         if (done)
             setStatus(mapper->tableName() + tr(" installed"));
         else
-            reportFailure(mapper->tableName() + tr(" error: ") + mapper->takeError());
+            reportFailure(mapper->tableName() + tr(" error: ") + mapper->takeError(), KorMigration::takeFailures());
+        if (!done && !isConnected())
+            return;
     }
 }
 
@@ -97,11 +139,14 @@ bool KorInstaller::insertRow(KorBusinessLogic* service, KorEntity* entity)
     return done;
 }
 
-void KorInstaller::reportFailure(const QString& text)
+void KorInstaller::reportFailure(const QString& text, const QStringList& reasons)
 {
     m_failures.append(text);
     log(text.trimmed());
+    for (const QString& reason : reasons)
+        log(reason);
     setStatus(text);
+    emit stepFailed(text, reasons);
 }
 
 void KorInstaller::log(const QString& message)

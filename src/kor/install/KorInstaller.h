@@ -28,6 +28,8 @@ public:
     virtual void addMappers() {}
     virtual void insertInitialData() {}
     virtual void registerPermissions() {}
+    /** The last step of a run that nothing broke off: the database is what this program wants. */
+    virtual void recordCompletion() {}
 
     bool addMapper(KorDataMapper* mapper);
     /** Always true: what failed is told by the status lines and by failures(). */
@@ -56,16 +58,20 @@ signals:
     void finished();
     /** The installation could not begin. */
     void error(const QString& err);
+    /** Beside the status line of a failed step: what the server said to it. */
+    void stepFailed(const QString& status, const QStringList& reasons);
 
 protected:
     [[nodiscard]] bool isFresh() const { return m_installType == FreshInstall; }
     /** A status line that is also logged and counted. */
-    void reportFailure(const QString& text);
+    void reportFailure(const QString& text, const QStringList& reasons = {});
     /** Inserts through the service; false after reporting its errors. */
     bool insertRow(KorBusinessLogic* service, KorEntity* entity);
     void log(const QString& message);
 
 private:
+    [[nodiscard]] bool begin();
+    void end();
     void step(int percent, const QString& status);
     void processMappers();
     [[nodiscard]] bool processMapper(KorDataMapper* mapper);

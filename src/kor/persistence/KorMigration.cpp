@@ -3,6 +3,16 @@
 #include "kor/persistence/KorDataMapper.h"
 #include "kor/persistence/KorQuery.h"
 
+#include <utility>
+
+namespace
+{
+// A migration is gone once its mapper has run it, and the mapper tells only whether all went well.
+thread_local QStringList failures;
+} // namespace
+
+QStringList KorMigration::takeFailures() { return std::exchange(failures, {}); }
+
 bool KorMigration::run(const QStringList& statements)
 {
     bool succeeded = true;
@@ -10,6 +20,7 @@ bool KorMigration::run(const QStringList& statements)
         KorQuery query;
         if (!query.exec(statement)) {
             m_errorText = query.failure() + "\r\n" + lastQueryWithValues(query);
+            failures.append(m_errorText);
             succeeded = false;
         }
     }

@@ -21,6 +21,9 @@ public:
 
     [[nodiscard]] const QString& errorText() const { return m_errorText; }
 
+    /** Why statements of migrations failed on this thread since the last call, each with its text. */
+    [[nodiscard]] static QStringList takeFailures();
+
 protected:
     /** Runs each text, going on after a failure; true when all succeeded. */
     bool run(const QStringList& statements);

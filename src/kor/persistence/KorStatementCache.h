@@ -14,7 +14,8 @@
 struct KorStatement
 {
     QString text;
-    QSqlQuery query;
+    // A query made without one looks for the default connection, which a worker has no right to.
+    QSqlQuery query{static_cast<QSqlResult*>(nullptr)};
     KorResultLayout layout;
     quint64 schema = 0;
     int session = 0;

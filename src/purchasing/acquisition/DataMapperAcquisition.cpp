@@ -88,7 +88,7 @@ PurchasingColumns DataMapperAcquisition::filterColumns() const
     return {tableName(), "purchase_date", "status", "no", "acquisition.invoice_no"};
 }
 
-QList<KorMigration*> DataMapperAcquisition::migrations() { return {new DataMapperAcquisitionMigration11(this)}; }
+QList<KorMigration*> DataMapperAcquisition::migrations() { return {new DataMapperAcquisitionMigration11(nullptr)}; }
 
 const AppDocumentMapper::Messages& DataMapperAcquisition::messages() const
 {
