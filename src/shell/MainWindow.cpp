@@ -69,7 +69,8 @@ MainWindow::MainWindow(QWidget* parent)
     showStartPages();
     QTimer::singleShot(updateCheckDelay, this, [this] {
         checkDBUpdate();
-        checkConversion();
+        if (!m_update || !m_update->isRunning())
+            checkConversion();
     });
     m_language->fillMenu(m_ui->menuLanguage_2);
     connect(m_language, &InterfaceLanguage::chosen, this, &MainWindow::slotLanguageChanged);
