@@ -7,6 +7,7 @@
 #include "app/context/ConnectionSettings.h"
 #include "app/context/DatabaseManager.h"
 #include "app/context/EntityPool.h"
+#include "install/clearing/DialogClearTransactions.h"
 #include "install/converter/ConversionMark.h"
 #include "install/converter/DialogConverter.h"
 #include "install/database/DialogBackupDB.h"
@@ -382,8 +383,11 @@ void MainWindow::on_actionBackup_Database_triggered()
 
 void MainWindow::on_actionClear_Transactions_triggered()
 {
-    if (hasAccess("Printer Config", 0))
-        showNotBuiltYet(tr("Clear Transactions"));
+    if (!hasAccess("Printer Config", 0))
+        return;
+    DialogClearTransactions dialog(this);
+    connect(&dialog, &DialogClearTransactions::onCloseAllTab, this, &MainWindow::closeAllTab);
+    dialog.exec();
 }
 
 void MainWindow::on_actionConverter_triggered()
@@ -506,8 +510,3 @@ void MainWindow::checkConversion()
 }
 
 void MainWindow::showInfo(const QString& text) { QMessageBox::information(this, tr("Error"), text); }
-
-void MainWindow::showNotBuiltYet(const QString& what)
-{
-    QMessageBox::information(this, tr("Info"), tr("This version of the program does not have it yet: %1").arg(what));
-}

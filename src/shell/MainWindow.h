@@ -135,7 +135,6 @@ private:
     /** The menu's tick tells whether the page is there, however it came or went. */
     void tickDashboard();
     void showInfo(const QString& text);
-    void showNotBuiltYet(const QString& what);
 
     std::unique_ptr<Ui::MainWindow> m_ui;
     TabFactories m_tabFactories;
