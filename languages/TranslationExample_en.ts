@@ -4481,6 +4481,10 @@ Do you want to restore into %1 all the same?</source>
         <source>The connection to the database is lost. Please try again in a moment; if that does not help, see whether the database server is running.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>The connection to the database was lost at the very moment of saving, so it is not certain whether it was saved. Please look for it before you save it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>KorDialog</name>

@@ -4502,6 +4502,10 @@ Do you want to restore into %1 all the same?</source>
         <source>The connection to the database is lost. Please try again in a moment; if that does not help, see whether the database server is running.</source>
         <translation>Sambungan ke basis data terputus. Coba lagi sebentar lagi; bila tidak membantu, periksa apakah server basis data berjalan.</translation>
     </message>
+    <message>
+        <source>The connection to the database was lost at the very moment of saving, so it is not certain whether it was saved. Please look for it before you save it again.</source>
+        <translation>Sambungan ke basis data terputus tepat saat menyimpan, sehingga tidak pasti apakah sudah tersimpan. Periksa dahulu sebelum menyimpan lagi.</translation>
+    </message>
 </context>
 <context>
     <name>KorDialog</name>
