@@ -127,6 +127,36 @@ const char* const sales[] = {
     "INSERT INTO invoice_bawa_pulang (invoice_id, bawa_pulang_id, member_id) VALUES (4, 1, 1)",
     "INSERT INTO invoice_fast_food (invoice_id, employee_id, agent_id) VALUES (3, 2, 2), (6, 1, 1)",
 };
+
+// Money besides the sales, and what should not have happened to some of them.
+const char* const money[] = {
+    "INSERT INTO invoice (id, no, invoice_date, invoice_type, status, sub_total_amount, grandtotal_amount, "
+    "amount_paid_amount, pemesan, acct_code, createdby, createdtime, updatedby, updatedtime, version) VALUES "
+    "(8, '03260008', '2026-03-28', 'TRD', 1, 400, 400, 400, 'Ida', '1-100', 101, '2026-03-28 23:50', 102, "
+    "'2026-03-29 00:20', 3), "
+    "(9, '03260011', '2026-03-28', 'TRD', 1, 100, 100, 100, 'Jon', '1-100', 102, '2026-03-31 10:00', NULL, NULL, 1)",
+    "INSERT INTO makan_ditempat (id, status, meja_id, pemesan, tgl, createdby, createdtime, updatedby, updatedtime) "
+    "VALUES (5, 6, 1, 'Ida', '2026-03-28', 101, '2026-03-28 20:00', 101, '2026-03-28 23:55'), "
+    "(6, 6, 2, 'Kim', '2026-03-18', 101, '2026-03-18 19:00', 102, '2026-03-18 21:30')",
+    "INSERT INTO invoice_makan_ditempat (invoice_id, makan_ditempat_id) VALUES (8, 5)",
+    "INSERT INTO makan_ditempat_detail (makan_ditempat_id, item_id, qty, status, price_each_amount, total_amount) "
+    "VALUES "
+    "(6, 1, 2, 1, 250, 500), (6, 3, 1, 1, 80, 80)",
+    "INSERT INTO piutang (id, no, payment_type, member_id, payment_date, grandtotal_amount, bank_id, createdby, "
+    "createdtime) VALUES (1, 'PIU-1', 1, 2, '2026-03-20', 160, 1, 101, '2026-03-20 15:00'), "
+    "(2, 'PIU-2', 2, 1, '2026-03-31', 90, 2, 102, '2026-03-31 16:00')",
+    "INSERT INTO piutang_detail (piutang_id, invoice_id, amount_paid_amount) VALUES (1, 3, 160), (2, 999, 90)",
+    "INSERT INTO komisi_agen (id, no, agent_id, payment_date, grandtotal_amount, amount_paid_amount, bank_id, noref, "
+    "createdby) VALUES (1, 'KAG-1', 1, '2026-03-31', 237, 250, 1, 'R7', 102)",
+    "INSERT INTO komisi_agen_detail (komisi_agen_id, invoice_id, commision_perc, commision_amount) VALUES (1, 2, 10, "
+    "237)",
+    "INSERT INTO cash_flow (trans_no, trans_date, account_code, trans_type, debet_amount, credit_amount, notes, "
+    "createdby) VALUES ('KK-1', '2026-03-05', '1-100', 'DEBET', 1000, 0, 'Change for the drawer', 101), "
+    "('KK-2', '2026-03-31', '1-100', 'CREDIT', 0, 60, 'Flowers', 102)",
+    "INSERT INTO accounting_trans (trans_no, trans_date, from_account_id, to_account_id, amount_amount, createdby) "
+    "VALUES "
+    "('TR-1', '2026-03-31', 1, 2, 500, 101)",
+};
 } // namespace
 
 void insertMonthOfTrade(TestDatabase& database)
@@ -137,5 +167,7 @@ void insertMonthOfTrade(TestDatabase& database)
     for (const char* statement : goods)
         database.run(statement);
     for (const char* statement : sales)
+        database.run(statement);
+    for (const char* statement : money)
         database.run(statement);
 }

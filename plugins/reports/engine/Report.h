@@ -13,7 +13,7 @@ inline QString reportText(const char* source) { return QCoreApplication::transla
 struct ReportColumn
 {
     /** Decides alignment, wording, and what a spreadsheet gets. Money is in whole units of the currency. */
-    enum Kind { Text, Date, DateTime, Count, Quantity, Money, Percent };
+    enum Kind { Text, Date, Month, DateTime, Count, Quantity, Money, Percent };
 
     QString field;
     const char* title = "";
@@ -43,17 +43,25 @@ struct ReportColumn
         column.valueWords = words;
         return column;
     }
+    /** Which of the words stands for the value; their number for none. */
+    [[nodiscard]] int wordOf(const QVariant& value) const
+    {
+        int index = 0;
+        while (index < valueWords.size() &&
+               (value.isNull() || valueWords.at(index).first.toString() != value.toString()))
+            ++index;
+        return index;
+    }
     [[nodiscard]] QVariant inWords(const QVariant& value) const
     {
-        for (const auto& word : valueWords) {
-            if (!value.isNull() && word.first.toString() == value.toString())
-                return reportText(word.second);
-        }
-        return value;
+        const int word = wordOf(value);
+        return word < valueWords.size() ? QVariant(reportText(valueWords.at(word).second)) : value;
     }
 
     static ReportColumn text(const QString& field, const char* title) { return {field, title, Text, false, {}, {}}; }
     static ReportColumn date(const QString& field, const char* title) { return {field, title, Date, false, {}, {}}; }
+    /** Any day of the month. */
+    static ReportColumn month(const QString& field, const char* title) { return {field, title, Month, false, {}, {}}; }
     static ReportColumn time(const QString& field, const char* title)
     {
         return {field, title, DateTime, false, {}, {}};

@@ -17,6 +17,8 @@ QString ReportFormat::text(const QVariant& value, ReportColumn::Kind kind) const
         return value.toString();
     case ReportColumn::Date:
         return m_locale.toString(value.toDate(), m_dateFormat);
+    case ReportColumn::Month:
+        return m_locale.toString(value.toDate(), "MMM yyyy");
     case ReportColumn::DateTime:
         return m_locale.toString(value.toDateTime(), m_dateFormat + " HH:mm");
     default:

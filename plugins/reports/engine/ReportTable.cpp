@@ -90,7 +90,12 @@ bool ReportTable::isLess(int left, int right, int column) const
     const ReportColumn& shown = m_report.columns.at(column);
     if (shown.isNumber())
         return a.toDouble() < b.toDouble();
-    if (shown.kind == ReportColumn::Date || shown.kind == ReportColumn::DateTime)
+    // Monday comes before Friday in every language; what has no words of its own comes last.
+    const int leftWord = shown.wordOf(codeAt(left, column));
+    const int rightWord = shown.wordOf(codeAt(right, column));
+    if (leftWord != rightWord)
+        return leftWord < rightWord;
+    if (shown.kind != ReportColumn::Text)
         return a.toDateTime() < b.toDateTime();
     return a.toString().localeAwareCompare(b.toString()) < 0;
 }
@@ -122,8 +127,13 @@ QVariant ReportTable::rowValue(int row, int column) const
     const ReportColumn& shown = m_report.columns.at(column);
     if (shown.isQuotient())
         return quotient(shown, number(row, shown.numerator), number(row, shown.denominator));
-    const int index = m_fields.value(shown.field, -1);
-    return index < 0 ? QVariant() : shown.inWords(m_rows.at(row).value(index));
+    return shown.inWords(codeAt(row, column));
+}
+
+QVariant ReportTable::codeAt(int row, int column) const
+{
+    const int index = m_fields.value(m_report.columns.at(column).field, -1);
+    return index < 0 ? QVariant() : m_rows.at(row).value(index);
 }
 
 QVariant ReportTable::sumValue(const Line& line, int column) const

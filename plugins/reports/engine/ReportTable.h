@@ -46,6 +46,7 @@ private:
     };
 
     [[nodiscard]] bool isLess(int left, int right, int column) const;
+    [[nodiscard]] QVariant codeAt(int row, int column) const;
     [[nodiscard]] double number(int row, const QString& field) const;
     void addTo(QVector<double>& sums, int row) const;
     [[nodiscard]] QVariant sumValue(const Line& line, int column) const;

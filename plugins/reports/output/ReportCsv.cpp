@@ -23,6 +23,7 @@ QString cell(const QVariant& value, ReportColumn::Kind kind)
     case ReportColumn::Text:
         return quotedCell(value.toString());
     case ReportColumn::Date:
+    case ReportColumn::Month:
         return value.toDate().toString(Qt::ISODate);
     case ReportColumn::DateTime:
         return value.toDateTime().toString("yyyy-MM-dd HH:mm:ss");

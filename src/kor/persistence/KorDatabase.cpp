@@ -10,8 +10,8 @@
 
 namespace
 {
-// A connection that breaks inside a transaction, or at its beginning, stays broken until it ends: opened anew, what is
-// left of the work would be written without the part that the server has thrown away.
+// A connection that breaks inside a transaction stays broken until it ends: opened anew, what is left of the work
+// would be written without the part that the server has thrown away.
 thread_local int openTransactions = 0;
 
 QString defaultName() { return QString::fromLatin1(QSqlDatabase::defaultConnection); }
@@ -81,22 +81,19 @@ KorTransaction::KorTransaction() : m_database(KorDatabase::current()), m_open(m_
         m_database = KorDatabase::current();
         m_open = m_database.transaction();
     }
-    ++openTransactions;
+    openTransactions += m_open ? 1 : 0;
 }
 
 KorTransaction::~KorTransaction()
 {
     if (m_open)
         rollback();
-    end();
 }
 
 bool KorTransaction::commit()
 {
     end();
-    const bool committed = m_database.commit();
-    m_unsure = !committed && !m_database.isOpen();
-    return committed;
+    return m_database.commit();
 }
 
 bool KorTransaction::rollback()
@@ -107,17 +104,11 @@ bool KorTransaction::rollback()
 
 QString KorTransaction::failure() const
 {
-    const QString driverText = m_database.lastError().text();
-    if (!m_unsure)
-        return KorDatabase::failure(m_database.driver(), driverText);
-    return KorDatabase::tr("The connection to the database was lost at the very moment of saving, so it is not certain "
-                           "whether it was saved. Please look for it before you save it again.") +
-           "\r\n\r\n" + driverText;
+    return KorDatabase::failure(m_database.driver(), m_database.lastError().text());
 }
 
 void KorTransaction::end()
 {
-    openTransactions -= m_ended ? 0 : 1;
-    m_ended = true;
+    openTransactions -= m_open ? 1 : 0;
     m_open = false;
 }
