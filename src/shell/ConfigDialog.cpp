@@ -4,6 +4,7 @@
 #include "app/context/AppContext.h"
 #include "app/context/ConnectionSettings.h"
 #include "app/context/DatabaseManager.h"
+#include "install/check/ReplaceQuestion.h"
 #include "install/zavel/ZavelInstaller.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/install/KorInstallerThread.h"
@@ -47,16 +48,17 @@ bool ConfigDialog::isConnected()
     return manager && manager->isOpen();
 }
 
+ConnectionEdits ConfigDialog::connectionEdits() const
+{
+    return {m_ui->txtDBHost, m_ui->txtDBName, m_ui->txtDBUser, m_ui->txtDBPassword, m_ui->txtDBPort};
+}
+
 void ConfigDialog::loadSettings()
 {
     if (const KorLogger* logger = AppContext::instance()->logger())
         m_ui->txtLogFile->setText(logger->filePath());
     const ConnectionSettings settings = ConnectionSettings::read(m_settingsPath).withDefaults();
-    m_ui->txtDBHost->setText(settings.host);
-    m_ui->txtDBName->setText(settings.database);
-    m_ui->txtDBUser->setText(settings.user);
-    m_ui->txtDBPassword->setText(settings.password);
-    m_ui->txtDBPort->setText(QString::number(settings.port));
+    connectionEdits().show(settings);
     loadLocalization();
     m_ui->cbShowSidebar->setChecked(settings.showSidebar);
     m_ui->cbShowDashboard->setChecked(settings.showDashboard);
@@ -75,12 +77,7 @@ void ConfigDialog::loadLocalization()
 
 bool ConfigDialog::saveSettings()
 {
-    ConnectionSettings settings;
-    settings.host = m_ui->txtDBHost->text();
-    settings.database = m_ui->txtDBName->text();
-    settings.user = m_ui->txtDBUser->text();
-    settings.password = m_ui->txtDBPassword->text();
-    settings.port = m_ui->txtDBPort->text().toInt();
+    ConnectionSettings settings = connectionEdits().read();
     settings.showSidebar = m_ui->cbShowSidebar->isChecked();
     settings.showDashboard = m_ui->cbShowDashboard->isChecked();
     if (!settings.write(m_settingsPath)) {
@@ -153,7 +150,7 @@ void ConfigDialog::on_installBtn_clicked()
         return;
     }
     const bool isUpdate = m_ui->rbInstallUpdate->isChecked();
-    if (!isUpdate && !mayReplace())
+    if (!isUpdate && ReplaceQuestion::ask(this) != ReplaceQuestion::Replace)
         return;
 
     auto* installer = new ZavelInstaller;
@@ -169,19 +166,6 @@ void ConfigDialog::on_installBtn_clicked()
     });
     setInstalling(true);
     startInstaller(installer);
-}
-
-bool ConfigDialog::mayReplace()
-{
-    const bool installed = m_configuration->getConfig("app_version");
-    m_configuration->clearErrors();
-    const QString name = AppContext::instance()->databaseManager()->database().databaseName();
-    return !installed ||
-           QMessageBox::question(this, tr("Question"),
-                                 tr("The database %1 is in use already. A clean installation makes all tables anew, "
-                                    "and everything that they hold is lost. Do you want that?")
-                                     .arg(name),
-                                 QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
 }
 
 void ConfigDialog::setInstalling(bool installing)

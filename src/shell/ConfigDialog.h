@@ -1,5 +1,7 @@
 #pragma once
 
+#include "install/tools/ConnectionEdits.h"
+
 #include <QDialog>
 #include <QPointer>
 
@@ -58,8 +60,7 @@ private:
     bool saveSettings();
     void saveLocalization();
     [[nodiscard]] static bool isConnected();
-    /** Asks before an installed database is made anew. */
-    [[nodiscard]] bool mayReplace();
+    [[nodiscard]] ConnectionEdits connectionEdits() const;
     void setInstalling(bool installing);
     /** Keeps the program alive meanwhile, with the dialog locked. */
     void waitFor(int milliseconds);

@@ -2,9 +2,12 @@
 
 #include "app/access/DialogLogin.h"
 #include "app/configuration/BusinessConfiguration.h"
+#include "app/configuration/EntityAppConfig.h"
 #include "app/context/AppContext.h"
 #include "app/context/ConnectionSettings.h"
 #include "app/context/DatabaseManager.h"
+#include "install/check/DatabaseCondition.h"
+#include "install/wizard/AppInstallerWizard.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/widgets/KorViewMemory.h"
 #include "registry/zavel/ZavelBusinessRegistry.h"
@@ -60,21 +63,37 @@ bool ZavelApplication::openDatabase()
                                           QString::number(settings.port)));
         return false;
     }
-
-    auto* configuration = service<BusinessConfiguration>("Configuration");
-    const bool installed = configuration->getConfig("app_version");
-    configuration->clearErrors();
-    if (!installed) {
-        QMessageBox::critical(nullptr, tr("Error"),
-                              tr("Table: Config corrupted") + tr(".\r\nPlease install the initial data"));
+    if (!checkDatabase())
         return false;
-    }
-    const EntityConfigLocalizationFormat* localization = configuration->getLocalization();
+    const EntityConfigLocalizationFormat* localization =
+        service<BusinessConfiguration>("Configuration")->getLocalization();
     context->setDateFormat(localization->getDateTimeFormat());
     context->setLocale(localization->getLocale());
     settings.putIntoContext();
     context->setShowDashboard(settings.showDashboard);
     context->setShowSidebar(settings.showSidebar);
+    return true;
+}
+
+bool ZavelApplication::checkDatabase()
+{
+    auto* configuration = service<BusinessConfiguration>("Configuration");
+    const EntityAppConfig* version = configuration->getConfig("app_version");
+    configuration->clearErrors();
+    const DatabaseCondition condition = DatabaseCondition::read(version ? version->getValue() : QString());
+    if (!version) {
+        QMessageBox box(QMessageBox::Critical, tr("Error"),
+                        tr("Table: Config corrupted") + tr(".\r\nPlease install the initial data"), QMessageBox::Ok);
+        box.setInformativeText(condition.explanation());
+        box.exec();
+        return false;
+    }
+    if (!condition.isUsable()) {
+        QMessageBox::critical(nullptr, tr("Error"), condition.explanation());
+        return false;
+    }
+    if (!condition.isWhole())
+        QMessageBox::warning(nullptr, tr("Warning"), condition.explanation());
     return true;
 }
 
@@ -89,8 +108,12 @@ int ZavelApplication::run()
 {
     AppContext::instance()->setDatabaseManager(new DatabaseManager);
     ZavelBusinessRegistry::instance();
-    // Without settings there is nothing to try: the configuration dialog asks for them.
-    m_connected = hasSettingsFile() && openDatabase();
+    while (!hasSettingsFile()) {
+        AppInstallerWizard wizard;
+        if (wizard.exec() == QDialog::Rejected)
+            return 0;
+    }
+    m_connected = openDatabase();
 
     ConfigDialog configuration;
     configuration.setReconnect([this] { reconnect(); });

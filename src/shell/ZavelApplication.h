@@ -15,6 +15,8 @@ public:
     [[nodiscard]] bool hasSettingsFile();
     /** Opens the database that the settings name and reads the shared formats; the user is told what fails. */
     [[nodiscard]] bool openDatabase();
+    /** Whether the open database is installed and whole; the user is told what is missing. */
+    [[nodiscard]] static bool checkDatabase();
     /** Opens the database again after the settings were changed, and tells of success. */
     void reconnect();
     /** The first windows in their order, then the event loop; the result is the process's exit status. */

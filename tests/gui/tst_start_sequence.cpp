@@ -1,6 +1,7 @@
 #include "app/access/DialogLogin.h"
 #include "app/context/AppContext.h"
 #include "app/context/ConnectionSettings.h"
+#include "install/wizard/AppInstallerWizard.h"
 #include "shell/ConfigDialog.h"
 #include "shell/MainWindow.h"
 #include "shell/ZavelApplication.h"
@@ -41,6 +42,26 @@ void nameTheDatabase(ModalDriver& person, const QString& name)
     });
 }
 
+void setUp(ModalDriver& person, const QString& name)
+{
+    person.expect<AppInstallerWizard>([name](AppInstallerWizard* wizard) {
+        wizard->next();
+        wizard->setField("dbserverfresh.hostname", TestDatabase::host());
+        wizard->setField("dbserverfresh.username", TestDatabase::user());
+        wizard->setField("dbserverfresh.password", "not asked for");
+        wizard->setField("dbserverfresh.dbname", name);
+        wizard->setField("dbserverfresh.dbport", QString::number(TestDatabase::port()));
+        wizard->setField("admin.password", "secret");
+        wizard->next();
+        const auto* finish = wizard->button(QWizard::FinishButton);
+        if (wizard->currentId() == AppInstallerWizard::Conclusion &&
+            QTest::qWaitFor([finish] { return finish->isEnabled(); }, 30000))
+            wizard->accept();
+        else
+            wizard->reject();
+    });
+}
+
 void onceTheWindowIsThere(const std::function<void(MainWindow*)>& work)
 {
     QTimer::singleShot(10, qApp, [work] {
@@ -57,15 +78,15 @@ int play(int& argc, char** argv)
     const QString script = argv[2];
     ZavelApplication program(argc, argv);
     ModalDriver person;
-    if (script == "name the database")
-        nameTheDatabase(person, argv[3]);
+    if (script == "set up")
+        setUp(person, argv[3]);
     if (script == "cancel the login")
         person.expect<DialogLogin>([](DialogLogin* login) { login->reject(); });
     if (script == "mend the settings") {
         nameTheDatabase(person, argv[3]);
         logIn(person, "a guess");
     }
-    if (script == "mend the settings" || script == "work" || script == "restart")
+    if (script == "mend the settings" || script == "work" || script == "restart" || script == "set up")
         logIn(person, "secret");
     onceTheWindowIsThere([script](MainWindow* window) {
         if (script == "restart")
@@ -95,12 +116,15 @@ class TestStartSequence : public QObject
 private slots:
     void init();
 
-    void withoutSettingsTheConfigurationIsOfferedAndMayBeGivenUp();
+    void withoutSettingsTheWizardIsOfferedAndMayBeGivenUp();
+    void aNewMachineIsSetUpByTheWizard();
     void aSettingsPathThatIsAFolderIsToldWhenSaving();
     void settingsThatDoNotWorkAreToldAndTheConfigurationFollows_data();
     void settingsThatDoNotWorkAreToldAndTheConfigurationFollows();
     void aDatabaseWithoutAVersionAsksForTheInstallation_data();
     void aDatabaseWithoutAVersionAsksForTheInstallation();
+    void aDatabaseThatIsNotWholeIsToldBeforeTheLogin_data();
+    void aDatabaseThatIsNotWholeIsToldBeforeTheLogin();
     void whoCancelsTheLoginSeesNothingFurther();
     void settingsAreMendedOnTheWayToTheMainWindow();
     void whoLogsInWorksUntilTheWindowIsClosed();
@@ -170,19 +194,34 @@ void TestStartSequence::install()
                     "VALUES ('admin', 'pos', 'admin', md5('secret'), 1, '$', 1)");
 }
 
-void TestStartSequence::withoutSettingsTheConfigurationIsOfferedAndMayBeGivenUp()
+void TestStartSequence::withoutSettingsTheWizardIsOfferedAndMayBeGivenUp()
 {
     const Ending ending = start("give up");
     QCOMPARE(ending.status, 0);
     QCOMPARE(ending.boxes, QStringList());
-    QCOMPARE(ending.surprises, QString("ConfigDialog"));
+    QCOMPARE(ending.surprises, QString("AppInstallerWizard"));
     QVERIFY(!QFile::exists(dataFile("settings.ini")));
+}
+
+void TestStartSequence::aNewMachineIsSetUpByTheWizard()
+{
+    m_database.reset();
+    m_database = std::make_unique<TestDatabase>(TestDatabase::Empty);
+    for (const char* script : {"set up", "work"}) {
+        const Ending ending = start(script);
+        QCOMPARE(ending.status, 0);
+        QCOMPARE(ending.boxes, QStringList());
+        QCOMPARE(ending.surprises, QString());
+    }
+    QCOMPARE(ConnectionSettings::read(dataFile("settings.ini")).database, m_database->name());
 }
 
 void TestStartSequence::aSettingsPathThatIsAFolderIsToldWhenSaving()
 {
     QVERIFY(QDir().mkpath(dataFile("settings.ini")));
-    const Ending ending = start("name the database");
+    m_database.reset();
+    m_database = std::make_unique<TestDatabase>(TestDatabase::Empty);
+    const Ending ending = start("set up");
     QCOMPARE(ending.status, 0);
     QCOMPARE(ending.boxes, QStringList{"Error: Can't write the settings file: " + dataFile("settings.ini")});
 }
@@ -242,6 +281,33 @@ void TestStartSequence::aDatabaseWithoutAVersionAsksForTheInstallation()
     QCOMPARE(ending.surprises, QString("ConfigDialog"));
 }
 
+void TestStartSequence::aDatabaseThatIsNotWholeIsToldBeforeTheLogin_data()
+{
+    QTest::addColumn<QString>("damage");
+    QTest::addColumn<QString>("box");
+    QTest::addColumn<QString>("next");
+    QTest::newRow("a table is missing") << "DROP TABLE komisi_agen_detail"
+                                        << "Error: "
+                                        << "ConfigDialog";
+    QTest::newRow("a reference is missing") << "ALTER TABLE stock_take DROP CONSTRAINT stock_take_item_id_fkey"
+                                            << "Warning: "
+                                            << "";
+}
+
+void TestStartSequence::aDatabaseThatIsNotWholeIsToldBeforeTheLogin()
+{
+    QFETCH(QString, damage);
+    install();
+    m_database->run(damage);
+    QVERIFY(settings().write(dataFile("settings.ini")));
+    const Ending ending = start("work");
+    QCOMPARE(ending.status, 0);
+    QCOMPARE(ending.boxes.size(), 1);
+    QFETCH(QString, box);
+    QVERIFY(ending.boxes.first().startsWith(box));
+    QTEST(ending.surprises, "next");
+}
+
 void TestStartSequence::whoCancelsTheLoginSeesNothingFurther()
 {
     install();
@@ -254,9 +320,13 @@ void TestStartSequence::whoCancelsTheLoginSeesNothingFurther()
 void TestStartSequence::settingsAreMendedOnTheWayToTheMainWindow()
 {
     install();
+    ConnectionSettings wrong = settings();
+    wrong.host = "/no/such/socket";
+    wrong.password = "Qx7!Rm2z";
+    QVERIFY(wrong.write(dataFile("settings.ini")));
     const Ending ending = start("mend the settings");
     QCOMPARE(ending.status, 0);
-    QCOMPARE(ending.boxes,
+    QCOMPARE(ending.boxes.mid(1),
              QStringList({"Success: Successfully connected to the database.", "Error: Invalid login\r\n"}));
     QCOMPARE(ending.surprises, QString());
     const ConnectionSettings saved = ConnectionSettings::read(dataFile("settings.ini"));

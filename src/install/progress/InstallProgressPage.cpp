@@ -45,6 +45,7 @@ void InstallProgressPage::run(ZavelInstaller* installer)
         return;
     }
     m_running = true;
+    m_failures.clear();
     installer->setLogger(AppContext::instance()->logger());
     connect(installer, &KorInstaller::onProgress, this, &InstallProgressPage::onProgress);
     connect(installer, &KorInstaller::stepFailed, this, &InstallProgressPage::keepFailure);
@@ -85,4 +86,8 @@ void InstallProgressPage::onProgress(int perc, const QString& status)
     appendStatusLine(m_status, QString("[%1%] %2").arg(perc).arg(status));
 }
 
-void InstallProgressPage::errorString(const QString& err) { appendStatusLine(m_status, err); }
+void InstallProgressPage::errorString(const QString& err)
+{
+    m_failures.append(err);
+    appendStatusLine(m_status, err);
+}

@@ -25,6 +25,8 @@ signals:
 
 protected:
     [[nodiscard]] QPlainTextEdit* statusBox() const { return m_status; }
+    /** A line for each step of the last run that failed; empty after a good one. */
+    [[nodiscard]] const QStringList& failures() const { return m_failures; }
     /** Runs it on a thread of its own; one at a time: a second one is thrown away. Takes the installer over. */
     void run(ZavelInstaller* installer);
 

@@ -1,0 +1,37 @@
+#include "install/check/ReplaceQuestion.h"
+
+#include "install/check/DatabaseCondition.h"
+#include "kor/persistence/KorDatabase.h"
+
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace
+{
+QString text(const char* source) { return QCoreApplication::translate("ReplaceQuestion", source); }
+} // namespace
+
+ReplaceQuestion::Answer ReplaceQuestion::ask(QWidget* parent, Offer offer)
+{
+    const DatabaseCondition condition = DatabaseCondition::read();
+    if (!condition.hasTables())
+        return Replace;
+    QMessageBox box(QMessageBox::Question, text("Question"),
+                    text("The database %1 is in use already. A clean installation makes all tables anew, and "
+                         "everything that they hold is lost. Do you want that?")
+                        .arg(KorDatabase::current().databaseName()),
+                    QMessageBox::Yes | QMessageBox::No, parent);
+    if (offer == UseToo && condition.isUsable()) {
+        box.setInformativeText(text("A further workstation of the restaurant uses it as it is."));
+        box.addButton(QMessageBox::Open)->setText(text("&Use It As It Is"));
+    }
+    box.setDefaultButton(QMessageBox::No);
+    switch (box.exec()) {
+    case QMessageBox::Yes:
+        return Replace;
+    case QMessageBox::Open:
+        return UseAsItIs;
+    default:
+        return Leave;
+    }
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+class QWidget;
+
+/** Asks before the tables of the open database are made anew. */
+class ReplaceQuestion
+{
+public:
+    enum Answer { Replace, Leave, UseAsItIs };
+    enum Offer { ReplaceOnly, UseToo };
+
+    /** Replace without a question where there are no tables; use is offered only of a database that can be used. */
+    [[nodiscard]] static Answer ask(QWidget* parent, Offer offer = ReplaceOnly);
+};

@@ -1,0 +1,51 @@
+#include "install/wizard/WizardConnection.h"
+
+#include "app/context/AppContext.h"
+#include "app/context/ConnectionSettings.h"
+#include "app/context/DatabaseManager.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QMessageBox>
+
+namespace
+{
+QString text(const char* source) { return QCoreApplication::translate("WizardConnection", source); }
+} // namespace
+
+namespace WizardConnection
+{
+QString settingsPath()
+{
+    const QString path = ConnectionSettings::defaultPath();
+    QDir().mkpath(QFileInfo(path).path());
+    return path;
+}
+
+bool open(QWidget* parent, const ConnectionSettings& connection)
+{
+    DatabaseManager* manager = AppContext::instance()->databaseManager();
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    manager->close();
+    const bool opened =
+        manager->open(connection.host, connection.database, connection.user, connection.password, connection.port);
+    QApplication::restoreOverrideCursor();
+    if (opened)
+        return true;
+    QMessageBox box(QMessageBox::Critical, text("Error"),
+                    text("Can not connect to the database, please update your database connection details"),
+                    QMessageBox::Ok, parent);
+    box.setInformativeText(manager->lastErrorText().trimmed());
+    box.exec();
+    return false;
+}
+
+bool save(QWidget* parent, const ConnectionSettings& connection, const QString& path)
+{
+    if (connection.write(path))
+        return true;
+    QMessageBox::critical(parent, text("Error"), text("Can't write the settings file: %1").arg(path));
+    return false;
+}
+} // namespace WizardConnection
