@@ -30,6 +30,8 @@ void FreshInstallPage::initializePage()
 
 bool FreshInstallPage::validatePage()
 {
+    if (m_nothingToInstall)
+        return true;
     const ConnectionSettings connection = m_connection.read();
     if (!WizardConnection::open(this, connection))
         return false;
@@ -38,7 +40,8 @@ bool FreshInstallPage::validatePage()
         return false;
     if (answer == ReplaceQuestion::Replace)
         return true;
-    // The page behind this one would install.
+    // The page behind this one would install. The wizard asks for a last validation before it closes.
+    m_nothingToInstall = true;
     wizard()->accept();
     return false;
 }

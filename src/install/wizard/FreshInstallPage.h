@@ -18,4 +18,5 @@ public:
 private:
     QString m_settingsPath;
     QLineEdit* m_adminName;
+    bool m_nothingToInstall = false;
 };
