@@ -50,6 +50,7 @@ void InstallProgressPage::run(ZavelInstaller* installer)
     connect(installer, &KorInstaller::onProgress, this, &InstallProgressPage::onProgress);
     connect(installer, &KorInstaller::stepFailed, this, &InstallProgressPage::keepFailure);
     connect(installer, &KorInstaller::error, this, &InstallProgressPage::errorString);
+    connect(installer, &KorInstaller::error, this, [this](const QString& err) { m_failures.append(err); });
     connect(installer, &KorInstaller::finished, this, [this] {
         m_running = false;
         emit ended();
@@ -86,8 +87,4 @@ void InstallProgressPage::onProgress(int perc, const QString& status)
     appendStatusLine(m_status, QString("[%1%] %2").arg(perc).arg(status));
 }
 
-void InstallProgressPage::errorString(const QString& err)
-{
-    m_failures.append(err);
-    appendStatusLine(m_status, err);
-}
+void InstallProgressPage::errorString(const QString& err) { appendStatusLine(m_status, err); }
