@@ -11,8 +11,11 @@ bool changeDatabase(const ConnectionSettings& settings, QString* reason)
     AppContext* context = AppContext::instance();
     DatabaseManager* former = context->databaseManager();
     // Closed first: both bear the default connection's name.
-    if (former)
+    if (former) {
         former->close();
+        // A lost connection is not closed; a copy of it would outlive its name.
+        former->setDatabase(QSqlDatabase());
+    }
     auto manager = std::make_unique<DatabaseManager>();
     if (manager->open(settings.host, settings.database, settings.user, settings.password, settings.port)) {
         context->setDatabaseManager(manager.release());

@@ -7,6 +7,7 @@
 #include "app/context/ConnectionSettings.h"
 #include "app/context/DatabaseManager.h"
 #include "app/context/EntityPool.h"
+#include "install/clearing/DialogClearTransactions.h"
 #include "install/converter/ConversionMark.h"
 #include "install/converter/DialogConverter.h"
 #include "install/database/DialogBackupDB.h"
@@ -25,11 +26,13 @@
 #include "shell/DialogAbout.h"
 #include "shell/InterfaceLanguage.h"
 #include "shell/MenuShortcuts.h"
+#include "shell/PageBoxes.h"
 #include "shell/RestartStatus.h"
 #include "shell/Sidebar.h"
 
 #include "ui_MainWindow.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QEvent>
 #include <QHash>
@@ -59,9 +62,7 @@ MainWindow::MainWindow(QWidget* parent)
 
     m_ui->tabWidget->setTabsClosable(true);
     connect(m_ui->tabWidget, &QTabWidget::tabCloseRequested, this, &MainWindow::closeTabX);
-    if (const EntityUser* user = AppContext::instance()->currentUser())
-        m_statusUser->setText(tr("Username: ") + user->getUserName());
-    m_statusUser->setMinimumSize(m_statusUser->sizeHint());
+    nameUser();
     setWindowIcon(QIcon(":/icons/Beverage-Coffee-02.png"));
     setIconSize({48, 48});
     loadPlugin();
@@ -127,8 +128,20 @@ void MainWindow::changeEvent(QEvent* event)
     } else if (event->type() == QEvent::LanguageChange) {
         m_ui->retranslateUi(this);
         m_sidebar->retranslate();
+        nameUser();
+        retranslatePages();
     }
     QMainWindow::changeEvent(event);
+}
+
+void MainWindow::nameUser()
+{
+    const EntityUser* user = AppContext::instance()->currentUser();
+    if (!user)
+        return;
+    m_statusUser->setText(tr("Username: ") + user->getUserName());
+    m_statusUser->setMinimumSize(0, 0);
+    m_statusUser->setMinimumSize(m_statusUser->sizeHint());
 }
 
 void MainWindow::slotLanguageChanged(QAction* action)
@@ -153,15 +166,46 @@ bool MainWindow::openTab(const QString& className)
         QMessageBox::critical(this, tr("Error"), tr("can not load tab: %1").arg(className));
         return false;
     }
-    KorTab* tab = factory.value()();
     // A page forgets where it wants the keys when it moves into the window.
+    KorTab* tab = makePage(className);
     QWidget* inner = tab->focusWidget();
     tab->setParent(this);
-    connect(tab, &KorTab::onclose, this, &MainWindow::closeTab);
     addPage(tab);
     if (inner)
         inner->setFocus(Qt::OtherFocusReason);
     return true;
+}
+
+KorTab* MainWindow::makePage(const QString& className)
+{
+    KorTab* tab = m_tabFactories.value(className)();
+    connect(tab, &KorTab::onclose, this, &MainWindow::closeTab);
+    return tab;
+}
+
+void MainWindow::retranslatePages()
+{
+    QTabWidget* pages = m_ui->tabWidget;
+    const int shown = pages->currentIndex();
+    for (int index = 0; index < pages->count(); ++index) {
+        QWidget* page = pages->widget(index);
+        const QString className = page->metaObject()->className();
+        if (!m_tabFactories.contains(className)) {
+            // A report speaks the new language by itself, when the same event reaches it.
+            continue;
+        }
+        // A page holds no unsaved work, and its lists have to be read for their words anyway.
+        KorTab* successor = makePage(className);
+        const bool differs = PageBoxes(*page).putInto(*successor);
+        pages->removeTab(index);
+        pages->insertTab(index, successor, successor->windowTitle());
+        page->deleteLater();
+        auto* search = successor->findChild<QAbstractButton*>("btnSearch");
+        if (differs && search)
+            search->click();
+    }
+    pages->setCurrentIndex(shown);
+    tickDashboard();
 }
 
 void MainWindow::openReport(const QString& reportName)
@@ -181,6 +225,8 @@ void MainWindow::openReport(const QString& reportName)
         }
     }
     connect(tab, &KorTab::onclose, this, &MainWindow::closeReportTab);
+    connect(tab, &QWidget::windowTitleChanged, this,
+            [this, tab](const QString& title) { m_ui->tabWidget->setTabText(m_ui->tabWidget->indexOf(tab), title); });
     addPage(tab);
 }
 
@@ -337,8 +383,11 @@ void MainWindow::on_actionBackup_Database_triggered()
 
 void MainWindow::on_actionClear_Transactions_triggered()
 {
-    if (hasAccess("Printer Config", 0))
-        showNotBuiltYet(tr("Clear Transactions"));
+    if (!hasAccess("Printer Config", 0))
+        return;
+    DialogClearTransactions dialog(this);
+    connect(&dialog, &DialogClearTransactions::onCloseAllTab, this, &MainWindow::closeAllTab);
+    dialog.exec();
 }
 
 void MainWindow::on_actionConverter_triggered()
@@ -461,8 +510,3 @@ void MainWindow::checkConversion()
 }
 
 void MainWindow::showInfo(const QString& text) { QMessageBox::information(this, tr("Error"), text); }
-
-void MainWindow::showNotBuiltYet(const QString& what)
-{
-    QMessageBox::information(this, tr("Info"), tr("This version of the program does not have it yet: %1").arg(what));
-}

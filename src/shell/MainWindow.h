@@ -10,6 +10,7 @@
 class BusinessConfiguration;
 class DatabaseUpdate;
 class InterfaceLanguage;
+class KorTab;
 class QLabel;
 class Sidebar;
 
@@ -125,11 +126,15 @@ private:
     /** The first page of that class and, where one is given, of that title; -1 for none. */
     [[nodiscard]] int findPage(const QString& className, const QString& title = QString()) const;
     void removePage(int index);
+    /** Makes every page anew in the language in use; what stands in its boxes stays. */
+    void retranslatePages();
+    /** A new page of this class, which is known to have a factory, as a child of the window. */
+    [[nodiscard]] KorTab* makePage(const QString& className);
+    void nameUser();
     void closeDashboard();
     /** The menu's tick tells whether the page is there, however it came or went. */
     void tickDashboard();
     void showInfo(const QString& text);
-    void showNotBuiltYet(const QString& what);
 
     std::unique_ptr<Ui::MainWindow> m_ui;
     TabFactories m_tabFactories;

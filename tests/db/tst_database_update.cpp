@@ -33,7 +33,6 @@ private slots:
     void withoutAdministratorsNobodyGetsANewPermission();
     void missingIndexesAreMadeAgain();
     void aTableThatIsMissingIsToldAndTheRestGoesOn();
-    void twoWorkstationsDoNotUpdateAtOnce();
 
 private:
     [[nodiscard]] QString version() const
@@ -182,27 +181,6 @@ void TestDatabaseUpdate::aTableThatIsMissingIsToldAndTheRestGoesOn()
         told.append(failure.section(' ', 0, 0));
     QCOMPARE(told, (QStringList{"permissions", "acquisition", "invoice_detail", "meja"}));
     QCOMPARE(version(), QString("1.1"));
-}
-
-void TestDatabaseUpdate::twoWorkstationsDoNotUpdateAtOnce()
-{
-    ZavelInstaller first;
-    first.setType(KorInstaller::UpdateInstall);
-    connect(&first, &KorInstaller::onProgress, [this](int percent) {
-        // The lock of the first run is on until its last line.
-        const QString held =
-            "SELECT count(*) FROM pg_locks WHERE locktype = 'advisory' AND objid = 1095781 AND database "
-            "= (SELECT oid FROM pg_database WHERE datname = current_database())";
-        QCOMPARE(m_database->value(held).toInt(), percent < 100 ? 1 : 0);
-    });
-    first.process();
-
-    m_database->run("UPDATE appconfig SET appvalue = '1.0' WHERE appkey = 'app_version'");
-    m_database->run("SELECT pg_advisory_lock(1095781)");
-    const InstallerRun second(KorInstaller::UpdateInstall);
-    QCOMPARE(second.lines, QStringList());
-    QVERIFY(second.errors.value(0).startsWith("This database is being installed or updated at this very moment"));
-    QCOMPARE(version(), QString("1.0"));
 }
 
 QTEST_MAIN(TestDatabaseUpdate)

@@ -1,8 +1,10 @@
 #include "kor/entity/KorColumnMap.h"
+#include "kor/persistence/KorDatabase.h"
 #include "kor/persistence/KorPaging.h"
 #include "masterdata/meja/DataMapperMeja.h"
 #include "masterdata/meja/EntityMeja.h"
 #include "registry/zavel/ZavelMapperRegistry.h"
+#include "support/TestCluster.h"
 #include "support/TestDatabase.h"
 
 #include <QTest>
@@ -80,6 +82,23 @@ private slots:
         QVERIFY2(error.startsWith("The connection to the database is lost."), qPrintable(error));
         QVERIFY(error.contains("insert into meja"));
         QVERIFY(!table.isSaved());
+        QVERIFY2(m_mapper->insert(&table), qPrintable(m_mapper->takeError()));
+    }
+
+    void aTransactionThatCouldNotBeginWritesNothing()
+    {
+        EntityMeja table;
+        table.setKode("A1");
+        table.setNama("One");
+        TestCluster::instance().run("ALTER DATABASE " + m_database->name() + " WITH ALLOW_CONNECTIONS false");
+        m_database->killConnections();
+        {
+            KorTransaction transaction;
+            QVERIFY(!transaction.isOpen());
+            TestCluster::instance().run("ALTER DATABASE " + m_database->name() + " WITH ALLOW_CONNECTIONS true");
+            QVERIFY(!m_mapper->insert(&table));
+            m_mapper->clearError();
+        }
         QVERIFY2(m_mapper->insert(&table), qPrintable(m_mapper->takeError()));
     }
 

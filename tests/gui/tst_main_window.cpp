@@ -2,7 +2,9 @@
 #include "app/context/AppContext.h"
 #include "app/context/ConnectionSettings.h"
 #include "app/context/DatabaseManager.h"
+#include "install/clearing/DialogClearTransactions.h"
 #include "install/converter/DialogConverter.h"
+#include "install/database/DialogBackupDB.h"
 #include "kor/widgets/KorTab.h"
 #include "shell/ConfigDialog.h"
 #include "shell/DialogAbout.h"
@@ -16,8 +18,10 @@
 #include <QAction>
 #include <QDir>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListView>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QSettings>
 #include <QStatusBar>
 #include <QTabBar>
@@ -127,6 +131,7 @@ private slots:
     void theKeysGoToTheListOfThePageThatIsShown();
     void aPageIsClosedByItsButtonByEscAndByTheTab();
     void closingAllPagesLeavesNone();
+    void pagesOfADatabaseThatIsLeftOrClearedAreClosed();
     void whoMayNotConfigureIsRefused_data();
     void whoMayNotConfigureIsRefused();
     void aConversionThatWasBrokenOffIsToldUntilNobodyWantsToHearOfIt();
@@ -371,6 +376,42 @@ void TestMainWindow::closingAllPagesLeavesNone()
     m_window->openTab("TabSatuan");
     m_window->closeAllTab();
     QCOMPARE(pages()->count(), 0);
+}
+
+void TestMainWindow::pagesOfADatabaseThatIsLeftOrClearedAreClosed()
+{
+    const TestDatabase other;
+    QVERIFY(m_database->open());
+    qputenv("XDG_DATA_HOME", m_folder->path().toLocal8Bit());
+    const QString path = ConnectionSettings::defaultPath();
+    QVERIFY(QDir().mkpath(QFileInfo(path).path()) && ownSettings().write(path));
+    m_window->setSettingsFile(path);
+    m_window->openTab("TabMeja");
+    for (const QString& name : {m_database->name(), other.name()}) {
+        QCOMPARE(openPages(), QStringList{"TabMeja"});
+        m_people->answer(QMessageBox::Yes);
+        m_people->expect<DialogBackupDB>([name](DialogBackupDB* dialog) {
+            dialog->findChild<QLineEdit*>("txtDBNameImport")->setText(name);
+            dialog->findChild<QPushButton*>("btnSetActiveDB")->click();
+            dialog->reject();
+        });
+        action("actionBackup_Database")->trigger();
+        QCOMPARE(m_people->lastText(), QString("Please restart the app first!"));
+        QCOMPARE(AppContext::instance()->dbName(), name);
+    }
+    QCOMPARE(openPages(), QStringList());
+
+    m_window->openTab("TabMeja");
+    m_people->expect<DialogClearTransactions>([](DialogClearTransactions* dialog) {
+        emit dialog->onCloseAllTab();
+        dialog->reject();
+    });
+    action("actionClear_Transactions")->trigger();
+    QCOMPARE(openPages(), QStringList());
+    QVERIFY(m_people->finished());
+    qunsetenv("XDG_DATA_HOME");
+    // With the pages that were closed, which go before the records of the other database.
+    m_window.reset();
 }
 
 void TestMainWindow::whoMayNotConfigureIsRefused_data()

@@ -20,7 +20,7 @@ TestCluster& TestCluster::instance()
 TestCluster::TestCluster() : m_host(qEnvironmentVariable("ZAVEL_TEST_PGHOST"))
 {
     if (m_host.isEmpty()) {
-        startOwn();
+        m_host = start(m_own, {"throwaway", "--", "sh", "-c", "echo HOST $ZAVEL_TEST_PGHOST; cat >/dev/null"}).first();
     } else {
         m_port = qEnvironmentVariable("ZAVEL_TEST_PGPORT", "5432").toInt();
         m_user = qEnvironmentVariable("ZAVEL_TEST_PGUSER", "postgres");
@@ -43,18 +43,15 @@ TestCluster::~TestCluster()
     }
 }
 
-void TestCluster::startOwn()
+QStringList TestCluster::start(QProcess& script, const QStringList& arguments)
 {
-    m_own.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    m_own.start(QString(ZAVEL_SOURCE_DIR) + "/scripts/private-postgres",
-                {"throwaway", "--", "sh", "-c", "echo HOST $ZAVEL_TEST_PGHOST; cat >/dev/null"});
-    while (m_own.waitForReadyRead(startTimeout)) {
-        while (m_own.canReadLine()) {
-            const QString line = QString::fromUtf8(m_own.readLine()).trimmed();
-            if (line.startsWith("HOST ")) {
-                m_host = line.mid(5);
-                return;
-            }
+    script.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    script.start(QString(ZAVEL_SOURCE_DIR) + "/scripts/private-postgres", arguments);
+    while (script.waitForReadyRead(startTimeout)) {
+        while (script.canReadLine()) {
+            const QStringList words = QString::fromUtf8(script.readLine()).simplified().split(' ');
+            if (words.first() == "HOST")
+                return words.mid(1);
         }
     }
     qFatal("the throw-away cluster did not start");

@@ -28,10 +28,11 @@ public:
         unlock();
     }
     [[nodiscard]] bool hasDatabase(const QString& name);
+    /** Runs private-postgres with a command that writes "HOST" and addresses, and returns these. */
+    [[nodiscard]] static QStringList start(QProcess& script, const QStringList& arguments);
 
 private:
     TestCluster();
-    void startOwn();
     void lock();
     void unlock();
 

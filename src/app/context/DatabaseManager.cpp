@@ -24,8 +24,11 @@ bool DatabaseManager::open(const QString& host, const QString& databaseName, con
     m_database.setPort(port);
     // The session takes the workstation's time zone: a time stamp bound as a date-time would otherwise be stored as
     // the server's wall clock, and so on another day around midnight. As an option it also holds after a reconnect.
-    // A server that stops answering is given up after ten seconds instead of the kernel's quarter of an hour.
-    m_database.setConnectOptions("connect_timeout=5;tcp_user_timeout=10000;options=-c\\ TimeZone=" +
+    // A server that stops answering is given up after ten seconds instead of the kernel's quarter of an hour, also
+    // while nothing but its answer is awaited. A standby that has not been promoted can not be sold on: it is passed
+    // over where the host names several servers, and refused otherwise.
+    m_database.setConnectOptions("connect_timeout=5;tcp_user_timeout=10000;keepalives_idle=5;keepalives_interval=2;"
+                                 "target_session_attrs=read-write;options=-c\\ TimeZone=" +
                                  QString::fromLatin1(QTimeZone::systemTimeZoneId()));
     return m_database.open();
 }

@@ -29,6 +29,12 @@ DialogBackupDB::DialogBackupDB(QWidget* parent) : ToolDialog(parent), m_ui(std::
     const ConnectionSettings settings = ConnectionSettings::read(ConnectionSettings::defaultPath());
     for (const ConnectionEdits& edits : {backupEdits(), restoreEdits(), maintenanceEdits()})
         edits.show(settings);
+    // The Return key does what the tab is for.
+    connect(m_ui->tabWidget, &QTabWidget::currentChanged, this, [this](int tab) {
+        QPushButton* const actions[] = {m_ui->btnBackup, m_ui->btnRestore, m_ui->btnVacuum};
+        actions[tab]->setDefault(true);
+    });
+    m_ui->btnBackup->setDefault(true);
     m_ui->txtOutputFile->setFocus();
 }
 

@@ -10,8 +10,8 @@
 
 namespace
 {
-// A connection that breaks inside a transaction stays broken until it ends: opened anew, what is left of the work
-// would be written without the part that the server has thrown away.
+// A connection that breaks inside a transaction, or at its beginning, stays broken until it ends: opened anew, what is
+// left of the work would be written without the part that the server has thrown away.
 thread_local int openTransactions = 0;
 
 QString defaultName() { return QString::fromLatin1(QSqlDatabase::defaultConnection); }
@@ -81,19 +81,22 @@ KorTransaction::KorTransaction() : m_database(KorDatabase::current()), m_open(m_
         m_database = KorDatabase::current();
         m_open = m_database.transaction();
     }
-    openTransactions += m_open ? 1 : 0;
+    ++openTransactions;
 }
 
 KorTransaction::~KorTransaction()
 {
     if (m_open)
         rollback();
+    end();
 }
 
 bool KorTransaction::commit()
 {
     end();
-    return m_database.commit();
+    const bool committed = m_database.commit();
+    m_unsure = !committed && !m_database.isOpen();
+    return committed;
 }
 
 bool KorTransaction::rollback()
@@ -104,11 +107,17 @@ bool KorTransaction::rollback()
 
 QString KorTransaction::failure() const
 {
-    return KorDatabase::failure(m_database.driver(), m_database.lastError().text());
+    const QString driverText = m_database.lastError().text();
+    if (!m_unsure)
+        return KorDatabase::failure(m_database.driver(), driverText);
+    return KorDatabase::tr("The connection to the database was lost at the very moment of saving, so it is not certain "
+                           "whether it was saved. Please look for it before you save it again.") +
+           "\r\n\r\n" + driverText;
 }
 
 void KorTransaction::end()
 {
-    openTransactions -= m_open ? 1 : 0;
+    openTransactions -= m_ended ? 0 : 1;
+    m_ended = true;
     m_open = false;
 }

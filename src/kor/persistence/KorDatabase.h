@@ -39,7 +39,7 @@ public:
     [[nodiscard]] bool isConnected() const { return m_database.isOpen(); }
     bool commit();
     bool rollback();
-    /** Why it could not begin or end. */
+    /** Why it could not begin or end. Where the connection went while it ended, nobody knows whether it stands. */
     [[nodiscard]] QString failure() const;
 
 private:
@@ -47,4 +47,6 @@ private:
 
     QSqlDatabase m_database;
     bool m_open;
+    bool m_ended = false;
+    bool m_unsure = false;
 };

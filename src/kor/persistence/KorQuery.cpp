@@ -56,7 +56,7 @@ bool KorQuery::prepare(const QString& statement)
         return false;
     }
     // Made with its query: one that stands alone for a moment would ask for the default connection, on any thread.
-    m_statement.reset(new KorStatement{statement, *this, {}, 0, 0});
+    m_statement = std::make_unique<KorStatement>(KorStatement{statement, *this, {}, 0, 0});
     KorStatementCache::ofThread().sign(*m_statement);
     return true;
 }

@@ -1,0 +1,71 @@
+#include "app/context/AppContext.h"
+#include "app/context/DatabaseManager.h"
+#include "kor/business/KorServiceDirectory.h"
+#include "masterdata/item/DataMapperItem.h"
+#include "masterdata/item/EntityItem.h"
+#include "registry/pos/PosMapperRegistry.h"
+#include "registry/zavel/ZavelBusinessRegistry.h"
+#include "sales/fastfood/EntityInvoiceFastFood.h"
+#include "sales/invoice/EntityInvoiceDetail.h"
+#include "sales/invoice/InvoiceTotals.h"
+#include "sales/service/BusinessPenjualan.h"
+#include "support/TestDatabase.h"
+
+#include <QCoreApplication>
+#include <QTextStream>
+#include <QThread>
+
+namespace
+{
+/** One chicken over the counter, paid. */
+bool sell(BusinessPenjualan* sales, EntityItem* chicken, QString* number)
+{
+    EntityInvoiceFastFood sale;
+    EntityInvoiceDetail line;
+    line.setItem(chicken);
+    line.setQty(1);
+    line.setPriceEach(new Money(&line, 2, "Rp"));
+    line.recomputeTotal();
+    sale.setDetails({&line});
+    InvoiceTotals totals;
+    totals.setCurrency("Rp");
+    totals.setSubtotal(2);
+    totals.setPaid(2);
+    totals.writeTo(sale.getInvoice());
+    sale.getInvoice()->setInvoiceDate(QDate::currentDate());
+    sale.getInvoice()->setAcctCode("1010");
+    const bool saved = sales->insertInvoice(&sale);
+    *number = sale.getInvoice()->getInvoiceNo();
+    return saved;
+}
+} // namespace
+
+/**
+ * A workstation of its own that sells without a pause: busy_till HOST PORT USER DATABASE. It writes the number of each
+ * sale that the program has shown as saved. What fails is told and, as a cashier would, tried again as a new sale.
+ */
+int main(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    const QStringList words = QCoreApplication::arguments();
+    auto* manager = new DatabaseManager;
+    AppContext::instance()->setDatabaseManager(manager);
+    ZavelBusinessRegistry::instance();
+    loginAsAdmin();
+    QTextStream out(stdout);
+    if (words.size() != 5 || !manager->open(words[1], words[4], words[3], QString(), words[2].toInt())) {
+        out << manager->lastErrorText() << Qt::endl;
+        return 1;
+    }
+    auto* chicken = static_cast<EntityItem*>(PosMapperRegistry::instance()->itemMapper()->findByCode("aym"));
+    auto* sales = service<BusinessPenjualan>("Sales");
+    for (;;) {
+        QString number;
+        if (sell(sales, chicken, &number)) {
+            out << "saved " << number << Qt::endl;
+        } else {
+            out << "failed " << sales->takeErrors().simplified() << Qt::endl;
+            QThread::msleep(20);
+        }
+    }
+}
