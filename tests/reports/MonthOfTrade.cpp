@@ -18,13 +18,18 @@ const char* const fillers =
 
 const char* const masterData[] = {
     "TRUNCATE supplier, agent, member, employee, meja, item, jenis_item, satuan, bank CASCADE",
+    "DELETE FROM access USING permissions, business WHERE permissions.id = permission_id AND business.id = business_id "
+    "AND business.name <> 'Inventory'",
+    "DELETE FROM permissions USING business WHERE business.id = business_id AND business.name <> 'Inventory'",
+    "UPDATE users SET createdtime = '2026-01-05 09:00'",
+    "UPDATE access SET grant_type = 1 WHERE id = (SELECT max(id) FROM access)",
     "INSERT INTO users (id, first_name, last_name, username, user_group_id) SELECT 101, 'Ann', 'Lee', 'ann', min(id) "
     "FROM user_group",
     "INSERT INTO users (id, first_name, last_name, username, user_group_id) SELECT 102, 'Ben', 'Oak', 'ben', min(id) "
     "FROM user_group",
     "INSERT INTO bank (id, kode, nama, account_type, active) VALUES (1, '1-100', 'Cash', 1, true), "
-    "(2, '1-110', 'Bank', 1, true), (3, '1-300', 'Inventory', 1, true), (4, '4-100', 'Sales', 4, true), "
-    "(5, '5-100', 'Cost of Sales', 5, true), (6, '6-100', 'Old account', 5, false)",
+    "(2, '1-110', 'Bank', 1, true), (3, '1-300', 'Inventory', 8, true), (4, '4-100', 'Sales', 4, true), "
+    "(5, '5-100', 'Cost of Sales', 9, true), (6, '6-100', 'Old account', 5, false)",
     "INSERT INTO supplier (id, kode, nama, alamat, telp, email, norek, norek_atasnama) VALUES "
     "(1, 'S1', 'Market Hall', 'Street 1', '11', 'hall@market.test', '123-4', 'Hall'), "
     "(2, 'S2', 'Fish Boat', 'Quay 7', '12', '', NULL, NULL)",
@@ -44,13 +49,15 @@ const char* const masterData[] = {
     "(2, 'FISH', 'Fish', 1, false, 1, 1, 400, 900, '1-300', '4-100', '5-100'), "
     "(3, 'TEA', 'Tea', 1, false, 2, 2, 20, 80, '1-300', '4-100', '5-100'), "
     "(4, 'COLA', 'Cola', 1, false, 2, 2, 60, 50, '1-300', '4-100', '5-100'), "
-    "(5, 'SET', 'Set menu', 1, true, 1, 2, 0, 1000, '1-300', '4-100', '5-100'), "
-    "(6, 'SONG', 'A song', 2, false, 3, 2, 0, 200, '1-300', '4-100', '5-100')",
+    "(5, 'SET', 'Set menu', 2, true, 1, 2, 0, 1000, '1-300', '4-100', '5-100'), "
+    "(6, 'SONG', 'A song', 2, false, 3, 2, 0, 200, '1-300', '4-100', '5-100'), "
+    "(7, 'SALT', 'Salt', 1, false, 3, 1, 10, 0, '1-300', '4-100', '5-100')",
+    "INSERT INTO grouped_item (parent_id, original_item_id, jumlah) VALUES (5, 1, 2), (5, 3, 1)",
 };
 
 const char* const goods[] = {
     "INSERT INTO stok_awal (item_id, harga_amount, jumlah, createdtime) VALUES (1, 90, 50, '2026-02-01'), "
-    "(2, 380, 5, '2026-02-01'), (3, 15, 200, '2026-02-01'), (4, 55, 24, '2026-02-01')",
+    "(2, 380, 5, '2026-02-01'), (3, 15, 200, '2026-02-01'), (4, 55, 24, '2026-02-01'), (7, 8, 40, '2025-12-01')",
     "INSERT INTO purchase_order (id, no, purchase_date, ship_date, supplier_id, status_id, deposit_amount, "
     "sub_total_amount, grandtotal_amount, bank_id) VALUES "
     "(1, 'PO-1', '2026-03-01', '2026-03-04', 1, 3, 0, 1000, 1000, 1), "
