@@ -160,7 +160,7 @@ QString DatabaseCondition::explanation() const
                   "backup was cut short.")
                    .arg(some(m_missingTables)) +
                "\n\n" + tr("If nothing was ever sold with it, install it anew under \"Setup\".") + "\n\n" +
-               tr("If it is to hold your data:") + ' ' + restoreAgain();
+               tr("If sales were made with it, go back to a backup.") + ' ' + restoreAgain();
     if (!m_tablesWithoutKey.isEmpty())
         return tr("The restore of a backup was cut short: there are tables without a primary key (%1), and rows may "
                   "be missing.")

@@ -23,7 +23,9 @@ ReplaceQuestion::Answer ReplaceQuestion::ask(QWidget* parent, Offer offer)
                     QMessageBox::Yes | QMessageBox::No, parent);
     if (offer == UseToo && condition.isUsable()) {
         box.setInformativeText(text("A further workstation of the restaurant uses it as it is."));
-        box.addButton(QMessageBox::Open)->setText(text("&Use It As It Is"));
+        QPushButton* use = box.addButton(QMessageBox::Open);
+        use->setText(text("&Use It As It Is"));
+        use->setIcon(QIcon(":/icons/database.png"));
     }
     box.setDefaultButton(QMessageBox::No);
     switch (box.exec()) {
