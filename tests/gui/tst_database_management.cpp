@@ -8,6 +8,7 @@
 #include "support/WholeDatabase.h"
 
 #include <QCheckBox>
+#include <QFileDialog>
 #include <QPlainTextEdit>
 #include <QSignalSpy>
 #include <QTabWidget>
@@ -33,6 +34,7 @@ private slots:
     void aBackupThatFailsIsToldAndTheEarlierOneStays();
     void aBackupThatIsCutOffLeavesTheEarlierOne_data();
     void aBackupThatIsCutOffLeavesTheEarlierOne();
+    void filesAreChosenInAWindow();
     void whatIsMissingIsAskedFor();
     void aDatabaseInUseIsNotRestoredOverUnasked();
     void aRestoreThatIsCutOffIsToldAsIncomplete_data();
@@ -296,6 +298,15 @@ void TestDatabaseManagement::aBackupThatFailsIsToldAndTheEarlierOneStays()
     } else {
         set(field.toLatin1(), value);
     }
+    if (value == "gone") {
+        // As the end of the whole program leaves it: a piece in the place of the backup.
+        QVERIFY(QFile::rename(path, path + ".previous"));
+        QFile piece(path);
+        QVERIFY(piece.open(QIODevice::WriteOnly) && piece.write("PGDMP") > 0);
+        set("txtInputFileImport", path);
+        run("btnRestore");
+        QVERIFY(m_people->lastText().contains("The one before it is " + path + ".previous"));
+    }
     run("btnBackup");
     QVERIFY2(m_people->texts().value(0).contains(shown), qPrintable(m_people->texts().join('|')));
     QVERIFY2(status("txtBackupStatus").contains(said), qPrintable(status("txtBackupStatus")));
@@ -345,6 +356,23 @@ void TestDatabaseManagement::aBackupThatIsCutOffLeavesTheEarlierOne()
     m_database->run("ROLLBACK");
     QCOMPARE(content(path), good);
     QVERIFY(!QFile::exists(path + ".previous"));
+}
+
+void TestDatabaseManagement::filesAreChosenInAWindow()
+{
+    const QList<QStringList> windows{{"btnBrowse", "txtOutputFile", "Save File", "new", "new.bak"},
+                                     {"btnBrowseImport", "txtInputFileImport", "Open File", "old.bak", "old.bak"}};
+    QVERIFY(QFile(m_home.filePath("old.bak")).open(QIODevice::WriteOnly));
+    for (const QStringList& window : windows) {
+        m_people->expect<QFileDialog>([&](QFileDialog* dialog) {
+            QCOMPARE(dialog->windowTitle(), window[2]);
+            QCOMPARE(dialog->nameFilters(), QStringList{"Backup File (*.bak)"});
+            dialog->findChild<QLineEdit*>("fileNameEdit")->setText(m_home.filePath(window[3]));
+            static_cast<QDialog*>(dialog)->accept();
+        });
+        button(window[0].toLatin1())->click();
+        QCOMPARE(box(m_dialog.get(), window[1].toLatin1())->text(), m_home.filePath(window[4]));
+    }
 }
 
 void TestDatabaseManagement::whatIsMissingIsAskedFor()

@@ -162,6 +162,10 @@ void DialogBackupDB::on_btnRestore_clicked()
         return showInfo(tr("Please enter the database name"));
     if (!QFileInfo(m_source).isFile())
         return showInfo(tr("There is no backup file %1.").arg(m_source));
+    const QString whole = BackupFile::wholeOneBeside(m_source);
+    if (!whole.isEmpty())
+        return showInfo(tr("The backup %1 was cut off while it was written. The one before it is %2: please take that.")
+                            .arg(m_source, whole));
     // A database that can not be looked into is none yet, or pg_restore says why.
     m_import->look(ClientPrograms::query(m_target, countTables),
                    [this](bool, const QString& answer) { restoreUnlessInUse(answer.trimmed().toInt()); });
@@ -176,8 +180,7 @@ void DialogBackupDB::restoreUnlessInUse(int tables)
                                  "them: it would mix the backup into them and spoil their numbering. Restore into a "
                                  "new database instead, and make it the active one afterwards.\n\nDo you want to "
                                  "restore into %1 all the same?")
-                                  .arg(m_target.database)
-                                  .arg(tables),
+                                  .arg(m_target.database, QString::number(tables)),
                               QMessageBox::Yes | QMessageBox::No, QMessageBox::No) != QMessageBox::Yes) {
         m_import->say(tr("Nothing was restored. The database %1 is as it was.").arg(m_target.database));
         m_import->end();

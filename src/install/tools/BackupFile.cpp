@@ -14,6 +14,8 @@ QString startFolder(const QString& current)
     return !current.isEmpty() && file.dir().exists() ? file.absolutePath() : QDir::homePath();
 }
 
+QString asideOf(const QString& path) { return QFileInfo(path).absoluteFilePath() + ".previous"; }
+
 /** A database's name can hold what a file's name cannot. */
 QString suggestion(QString database)
 {
@@ -21,8 +23,7 @@ QString suggestion(QString database)
 }
 } // namespace
 
-BackupFile::BackupFile(const QString& path) : m_path(QFileInfo(path).absoluteFilePath()), m_aside(m_path + ".previous")
-{}
+BackupFile::BackupFile(const QString& path) : m_path(QFileInfo(path).absoluteFilePath()), m_aside(asideOf(path)) {}
 
 BackupFile::~BackupFile()
 {
@@ -42,6 +43,12 @@ QString BackupFile::askForNew(QWidget* parent, const QString& current, const QSt
 QString BackupFile::askForExisting(QWidget* parent, const QString& current)
 {
     return QFileDialog::getOpenFileName(parent, tr("Open File"), startFolder(current), tr("Backup File (*.bak)"));
+}
+
+QString BackupFile::wholeOneBeside(const QString& path)
+{
+    const QString aside = asideOf(path);
+    return QFileInfo::exists(aside) ? aside : QString();
 }
 
 bool BackupFile::prepare(QString* reason)

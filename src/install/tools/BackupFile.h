@@ -22,6 +22,9 @@ public:
     [[nodiscard]] static QString askForNew(QWidget* parent, const QString& current, const QString& database);
     [[nodiscard]] static QString askForExisting(QWidget* parent, const QString& current);
 
+    /** Where a run to this file was cut off together with the program: what lies aside since; otherwise empty. */
+    [[nodiscard]] static QString wholeOneBeside(const QString& path);
+
     /** Makes way for the backup, with an empty file in its place; otherwise says why there can be none. */
     [[nodiscard]] bool prepare(QString* reason);
     /** After the program that wrote it: true when the backup stands. Otherwise nothing of it is left. */
