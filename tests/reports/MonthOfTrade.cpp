@@ -16,6 +16,9 @@ const char* const fillers =
     LOOP EXECUTE format('ALTER TABLE %I ALTER %I SET DEFAULT %L', c.table_name, c.column_name, c.filler);
     END LOOP; END $$)";
 
+// Rows that a test adds have numbers of their own.
+const char* const sequences = "SELECT setval(oid::regclass, 1000) FROM pg_class WHERE relkind = 'S'";
+
 const char* const masterData[] = {
     "TRUNCATE supplier, agent, member, employee, meja, item, jenis_item, satuan, bank CASCADE",
     "DELETE FROM access USING permissions, business WHERE permissions.id = permission_id AND business.id = business_id "
@@ -175,6 +178,7 @@ void insertMonthOfTrade(TestDatabase& database)
         database.run(statement);
     for (const char* statement : sales)
         database.run(statement);
+    database.run(sequences);
     for (const char* statement : money)
         database.run(statement);
 }

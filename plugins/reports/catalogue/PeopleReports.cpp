@@ -66,14 +66,16 @@ Report members()
         QT_TRANSLATE_NOOP("Reports", "The members with their discounts, and what each owes today on invoices "
                                      "that are not fully paid.");
     report.parameters = {called(), owing(QT_TRANSLATE_NOOP("Reports", "Only those who owe"))};
-    // A member stands on the order of a table, and on the invoice's own record for the other ways of selling.
+    // A member stands on the order of a table, and on the invoice's own record for the other ways of selling. What
+    // nobody known has sold is in no list of sales, and offered to no payment.
     report.query = contactsOf("member",
                               "member.expired_date as expires, member.discount_percentage as discount, open.invoices, "
                               "open.due",
                               R"(left join (
             select coalesce(ordered.member_id, away.member_id, fast.member_id) as member_id, count(*) as invoices,
                    sum(invoice.grandtotal_amount - invoice.amount_paid_amount - invoice.other_payment_amount) as due
-            from invoice left join invoice_makan_ditempat dine on dine.invoice_id = invoice.id
+            from invoice join users on users.id = invoice.createdby
+            left join invoice_makan_ditempat dine on dine.invoice_id = invoice.id
             left join makan_ditempat ordered on ordered.id = dine.makan_ditempat_id
             left join invoice_bawa_pulang away on away.invoice_id = invoice.id
             left join invoice_fast_food fast on fast.invoice_id = invoice.id

@@ -1,0 +1,262 @@
+#include "inventory/stock/BusinessInventory.h"
+#include "inventory/stock/EntityStockTake.h"
+#include "kor/business/KorServiceDirectory.h"
+#include "masterdata/item/BusinessItem.h"
+#include "masterdata/member/BusinessMember.h"
+#include "masterdata/supplier/BusinessSupplier.h"
+#include "purchasing/acquisition/BusinessPurchases.h"
+#include "purchasing/acquisition/EntityAcquisition.h"
+#include "purchasing/creditnote/BusinessCreditNote.h"
+#include "purchasing/payment/BusinessPayment.h"
+#include "purchasing/payment/EntityPayment.h"
+#include "purchasing/purchaseorder/BusinessPurchaseOrder.h"
+#include "purchasing/purchaseorder/EntityPurchaseOrder.h"
+#include "reports/MonthOfTrade.h"
+#include "reports/ReadReport.h"
+#include "sales/receivable/EntityPiutangDetail.h"
+#include "sales/service/BusinessPenjualan.h"
+#include "support/TestDatabase.h"
+
+#include <QTest>
+
+#include <memory>
+
+namespace
+{
+const QDate firstDay(2026, 3, 1);
+const QDate lastDay(2026, 3, 31);
+
+// A busy quarter on top of the month: documents of any status and kind, and counts of the storeroom in between.
+const char* const quarter[] = {
+    "INSERT INTO acquisition (id, no, purchase_date, due_date, supplier_id, grandtotal_amount, amount_paid_amount, "
+    "other_payment_amount, net_due_amount, status, bank_id) SELECT id, 'B' || id, day, day + due, supplier, total, "
+    "paid, "
+    "later, total - paid - later, CASE WHEN paid + later >= total THEN 1 WHEN paid + later > 0 THEN 3 ELSE 2 END, "
+    "nullif(bank, 0) FROM (SELECT 100 + i AS id, date '2026-02-01' + (random() * 80)::int AS day, (random() * 60)::int "
+    "AS due, 1 + (random() * 1)::int AS supplier, 100 + (random() * 900)::int AS total, ((random() * 2)::int * 100) AS "
+    "paid, (random() * 3)::int * 50 AS later, (random() * 2)::int AS bank FROM generate_series(1, 80) i) made",
+    "INSERT INTO acquisition_detail (acquisition_id, item_id, qty, price_each_amount, total_price_amount, "
+    "po_detail_id) "
+    "SELECT 101 + i % 80, 1 + (random() * 3)::int, (random() * 20)::int, 10, 10, CASE WHEN i % 9 = 0 THEN 2 END FROM "
+    "generate_series(1, 250) i",
+    "INSERT INTO invoice (id, no, invoice_date, createdby, invoice_type, status, grandtotal_amount, "
+    "amount_paid_amount, "
+    "other_payment_amount) SELECT id, 'I' || id, day, CASE WHEN id % 7 > 0 THEN 101 END, kind, CASE WHEN paid >= total "
+    "THEN 1 WHEN paid > 0 THEN 3 ELSE 2 "
+    "END, total, paid, 0 FROM (SELECT 100 + i AS id, date '2026-02-01' + (random() * 80)::int AS day, (ARRAY['TRD', "
+    "'TRF', 'TRP'])[1 + i % 3] AS kind, 100 + (random() * 400)::int AS total, (random() * 3)::int * 100 AS paid FROM "
+    "generate_series(1, 300) i) made",
+    "INSERT INTO invoice_detail (invoice_id, item_id, qty) SELECT 101 + i % 300, 1 + (random() * 6)::int, (random() * "
+    "4)::int FROM generate_series(1, 700) i",
+    "INSERT INTO makan_ditempat (id, status, meja_id, tgl, member_id) SELECT id, 6, 1, invoice_date, nullif((random() "
+    "* "
+    "3)::int, 0) FROM invoice WHERE id > 100 AND invoice_type = 'TRD'",
+    "INSERT INTO invoice_makan_ditempat (invoice_id, makan_ditempat_id) SELECT id, id FROM invoice WHERE id > 100 AND "
+    "invoice_type = 'TRD'",
+    "INSERT INTO bawa_pulang (id, status, tgl) SELECT id, 6, invoice_date FROM invoice WHERE id > 100 AND invoice_type "
+    "= "
+    "'TRP'",
+    "INSERT INTO invoice_bawa_pulang (invoice_id, bawa_pulang_id, member_id) SELECT id, id, nullif((random() * "
+    "3)::int, "
+    "0) FROM invoice WHERE id > 100 AND invoice_type = 'TRP'",
+    "INSERT INTO invoice_fast_food (invoice_id, member_id) SELECT id, nullif((random() * 3)::int, 0) FROM invoice "
+    "WHERE "
+    "id > 100 AND invoice_type = 'TRF'",
+    "INSERT INTO credit_note (id, no, credit_note_date, supplier_id, status, grandtotal_amount, bank_id) SELECT 100 + "
+    "i, "
+    "'R' || i, date '2026-02-01' + (random() * 80)::int, 1 + i % 2, 1 + (random() * 3)::int, 10, 1 FROM "
+    "generate_series(1, 40) i",
+    "INSERT INTO credit_note_detail (credit_note_id, item_id, qty_returned, total_price_amount) SELECT 101 + i % 40, 1 "
+    "+ "
+    "(random() * 3)::int, (random() * 3)::int, 10 FROM generate_series(1, 60) i",
+    "INSERT INTO stock_take (item_id, tanggal, qty, qty_adj, reason, source_acct_code, createdby) SELECT 1 + (random() "
+    "* "
+    "3)::int, date '2026-02-01' + (random() * 80)::int, (random() * 200)::int - 20, 1, 'Loss', '5-100', 101 FROM "
+    "generate_series(1, 12) i",
+    "INSERT INTO purchase_order (id, no, purchase_date, ship_date, supplier_id, status_id) SELECT 100 + i, 'O' || i, "
+    "'2026-03-01', '2026-03-09', 1 + i % 2, 1 + (random() * 5)::int FROM generate_series(1, 20) i",
+    "INSERT INTO purchase_order_detail (purchase_order_id, item_id, jumlah) SELECT 101 + i % 20, 1, 5 FROM "
+    "generate_series(1, 30) i",
+    "INSERT INTO payment (id, no, payment_type, supplier_id, payment_date, grandtotal_amount, bank_id) SELECT 100 + i, "
+    "'P' || i, 1 + i % 3, 1 + i % 2, date '2026-02-01' + (random() * 80)::int, (random() * 500)::int, nullif(i % 3, 0) "
+    "FROM generate_series(1, 30) i",
+};
+
+template <class Document, class Base>
+double sumOf(const QList<Document*>& documents, Money* (Base::*amount)() const)
+{
+    double sum = 0;
+    for (const Document* document : documents)
+        sum += (document->*amount)()->getAmount();
+    return sum;
+}
+
+/** The values of one column by those of another. */
+QMap<QString, double> valuesBy(const ReadReport& read, const QString& key, const QString& field)
+{
+    QMap<QString, double> values;
+    for (int row = 0; row < read.table.rowCount(); ++row)
+        values[read.value(row, key).toString()] += read.value(row, field).toDouble();
+    return values;
+}
+} // namespace
+
+/** The reports of goods say what the program's own screens say. */
+class TestGoodsReports : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QLocale::setDefault(QLocale("en_US")); }
+    void cleanup() { m_database.reset(); }
+    void theStockIsWhatTheItemsShow_data() { seeds(); }
+    void theStockIsWhatTheItemsShow();
+    void whatIsOwedIsWhatTheBillsShow_data() { seeds(); }
+    void whatIsOwedIsWhatTheBillsShow();
+    void membersOweWhatTheirPaymentsOffer_data() { seeds(); }
+    void membersOweWhatTheirPaymentsOffer();
+    void documentsAreThoseOfTheLists_data() { seeds(); }
+    void documentsAreThoseOfTheLists();
+
+private:
+    static void seeds();
+    /** A house with the row's random quarter. */
+    void open();
+    [[nodiscard]] ReadReport read(const QString& id, const QDate& day = lastDay) const;
+
+    std::unique_ptr<TestDatabase> m_database;
+};
+
+void TestGoodsReports::seeds()
+{
+    QTest::addColumn<double>("seed");
+    for (const double seed : {0.1, 0.26, 0.77})
+        QTest::newRow(qPrintable(QString("seed %1").arg(seed))) << seed;
+}
+
+void TestGoodsReports::open()
+{
+    QFETCH(double, seed);
+    m_database = std::make_unique<TestDatabase>();
+    insertMonthOfTrade(*m_database);
+    m_database->value(QString("SELECT setseed(%1)").arg(seed));
+    for (const char* statement : quarter)
+        m_database->run(statement);
+}
+
+ReadReport TestGoodsReports::read(const QString& id, const QDate& day) const
+{
+    ReadReport read = readReport(*m_database, id, firstDay, day);
+    if (!read.error.isEmpty())
+        qWarning() << id << read.error;
+    return read;
+}
+
+void TestGoodsReports::theStockIsWhatTheItemsShow()
+{
+    open();
+    auto* inventory = service<BusinessInventory>("Inventory");
+    const QList<KorEntity*> items = service<BusinessItem>("Item")->search({}, {});
+    const auto onHand = [&](const QDate& day) {
+        QMap<QString, double> quantities;
+        for (const KorEntity* entity : items) {
+            const auto* item = static_cast<const EntityItem*>(entity);
+            if (item->getItemType() == EntityItem::INV)
+                quantities[item->getKode()] = inventory->getQuantityOnHand(item, day);
+        }
+        return quantities;
+    };
+    for (const QDate& day : {QDate(2025, 1, 1), firstDay.addDays(-1), QDate(2026, 3, 10), lastDay, lastDay.addDays(90)})
+        QCOMPARE(valuesBy(read("stock-on-hand", day), "code", "qty"), onHand(day));
+    const ReadReport movements = read("stock-movements");
+    QCOMPARE(valuesBy(movements, "code", "opening"), onHand(firstDay.addDays(-1)));
+    QCOMPARE(valuesBy(movements, "code", "closing"), onHand(lastDay));
+    const QMap<QString, double> below = valuesBy(read("stock-negative"), "code", "qty");
+    QMap<QString, double> expected = onHand(lastDay);
+    for (const QString& code : expected.keys()) {
+        if (expected.value(code) >= 0)
+            expected.remove(code);
+    }
+    QCOMPARE(below, expected);
+}
+
+void TestGoodsReports::whatIsOwedIsWhatTheBillsShow()
+{
+    open();
+    auto* purchases = service<BusinessPurchases>("Purchases");
+    QMap<QString, double> expected;
+    for (const KorEntity* supplier : service<BusinessSupplier>("Supplier")->findAll({})) {
+        const auto* owed = static_cast<const EntitySupplier*>(supplier);
+        expected[owed->getNama()] = sumOf(purchases->getPendingInvoiceBySupplier(owed), &EntityAcquisition::getNetDue);
+    }
+    QCOMPARE(valuesBy(read("payables"), "supplier", "due"), expected);
+    QCOMPARE(valuesBy(read("suppliers"), "name", "due"), expected);
+    const ReadReport ages = read("payables-by-age");
+    QCOMPARE(valuesBy(ages, "supplier", "due"), expected);
+    double parts = 0;
+    for (const char* age : {"notdue", "month", "second", "third", "older"})
+        parts += ages.table.total(ages.table.report().columnOf(age)).toDouble();
+    QCOMPARE(parts, ages.table.total(ages.table.report().columnOf("due")).toDouble());
+}
+
+void TestGoodsReports::membersOweWhatTheirPaymentsOffer()
+{
+    open();
+    QMap<QString, double> expected;
+    for (const KorEntity* entity : service<BusinessMember>("Member")->findAll({})) {
+        const auto* member = static_cast<const EntityMember*>(entity);
+        expected[member->getNama()] =
+            sumOf(service<BusinessPenjualan>("Sales")->getUnpaidInvoicesForMember(member->getId()),
+                  &EntityPiutangDetail::getAmountDue);
+        QVERIFY(expected[member->getNama()] > 0);
+    }
+    QCOMPARE(valuesBy(read("members"), "name", "due"), expected);
+}
+
+void TestGoodsReports::documentsAreThoseOfTheLists()
+{
+    open();
+    PurchasingFilter month;
+    month.from = firstDay;
+    month.to = lastDay;
+    const auto bought = service<BusinessPurchases>("Purchases")->findAll(month);
+    const double total = sumOf(bought, &EntityAcquisition::getGrandTotal);
+    const auto totalOf = [this](const QString& id, const QString& field) {
+        const ReadReport report = read(id);
+        return report.table.total(report.table.report().columnOf(field)).toDouble();
+    };
+    QCOMPARE(read("purchases").table.rowCount(), bought.size());
+    QCOMPARE(totalOf("purchases", "due"), sumOf(bought, &EntityAcquisition::getNetDue));
+    for (const char* id : {"purchases", "purchases-by-day", "purchases-by-supplier"})
+        QCOMPARE(totalOf(id, "total"), total);
+
+    const auto paid = service<BusinessPayment>("Payment")->findAll(month);
+    QCOMPARE(read("supplier-payments").table.rowCount(), paid.size());
+    QCOMPARE(totalOf("supplier-payments", "total"), sumOf(paid, &EntityPayment::getGrandTotal));
+
+    QSet<QString> returned;
+    for (const EntityCreditNote* note : service<BusinessCreditNote>("Credit Note")->findAll(month)) {
+        if (note->getStatus() != EntityCreditNote::CANCELLED)
+            returned.insert(note->getNo());
+    }
+    QCOMPARE(valuesBy(read("purchase-returns"), "no", "qty").keys().toSet(), returned);
+
+    QSet<QString> ordered;
+    for (const KorEntity* supplier : service<BusinessSupplier>("Supplier")->findAll({})) {
+        const auto* asked = static_cast<const EntitySupplier*>(supplier);
+        for (const EntityPurchaseOrder* order :
+             service<BusinessPurchaseOrder>("Purchase Order")->getOpenBySupplier(asked))
+            ordered.insert(order->getNo());
+    }
+    QCOMPARE(valuesBy(read("purchase-orders-open"), "no", "late").keys().toSet(), ordered);
+
+    int counts = 0;
+    for (const KorEntity* take : service<BusinessInventory>("Inventory")->findAll({})) {
+        const QDate day = static_cast<const EntityStockTake*>(take)->getStockTakeDate();
+        counts += day >= firstDay && day <= lastDay ? 1 : 0;
+    }
+    QCOMPARE(read("stock-adjustments").table.rowCount(), counts);
+}
+
+QTEST_GUILESS_MAIN(TestGoodsReports)
+#include "tst_goods_reports.moc"
