@@ -73,25 +73,25 @@
     <name>AppDBUpdateConclusion</name>
     <message>
         <source>The update is waiting for the database. Is the program still open on another workstation? Please close it there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pembaruan menunggu basis data. Apakah program masih terbuka di komputer lain? Tutuplah di sana.</translation>
     </message>
 </context>
 <context>
     <name>AppDBUpdaterWizard</name>
     <message>
         <source>ZavelPOS DB Updater Wizard</source>
-        <translation type="unfinished"></translation>
+        <translation>Panduan Pembaruan DB ZavelPOS</translation>
     </message>
 </context>
 <context>
     <name>AppDbUpdateInfo</name>
     <message>
         <source>Update DB</source>
-        <translation type="unfinished"></translation>
+        <translation>Perbarui DB</translation>
     </message>
     <message>
         <source>This wizard will help you update ZavelPOS database on your computer. IMPORTANT: before updating, please back up your database. Please click Next to update the database or click Cancel then backup your database.</source>
-        <translation type="unfinished"></translation>
+        <translation>Panduan ini membantu memperbarui basis data ZavelPOS di komputer Anda. PENTING: sebelum memperbarui, cadangkan basis data Anda. Klik Lanjut untuk memperbarui basis data, atau klik Batal lalu cadangkan basis data Anda.</translation>
     </message>
 </context>
 <context>
@@ -161,43 +161,43 @@
     <name>BackupFile</name>
     <message>
         <source>Save File</source>
-        <translation type="unfinished"></translation>
+        <translation>Simpan Berkas</translation>
     </message>
     <message>
         <source>Backup File (*.bak)</source>
-        <translation type="unfinished"></translation>
+        <translation>Berkas Cadangan (*.bak)</translation>
     </message>
     <message>
         <source>Open File</source>
-        <translation type="unfinished"></translation>
+        <translation>Buka Berkas</translation>
     </message>
     <message>
         <source>There is no folder %1. Please choose another one for the backup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Folder %1 tidak ada. Pilih folder lain untuk cadangan.</translation>
     </message>
     <message>
         <source>%1 is no file. Please enter the name of a file for the backup.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 bukan berkas. Isi nama berkas untuk cadangan.</translation>
     </message>
     <message>
         <source>The backup can not be written to the folder %1: %2. Please choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cadangan tidak dapat ditulis ke folder %1: %2. Pilih folder lain.</translation>
     </message>
     <message>
         <source>The backup is complete: %1, %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pencadangan selesai: %1, %2.</translation>
     </message>
     <message>
         <source>The backup failed, the reason stands above. No new backup was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pencadangan gagal, sebabnya tertulis di atas. Tidak ada cadangan baru yang ditulis.</translation>
     </message>
     <message>
         <source>The earlier one lies in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Yang terdahulu ada di %1.</translation>
     </message>
     <message>
         <source>The earlier one in %1 is as it was.</source>
-        <translation type="unfinished"></translation>
+        <translation>Yang terdahulu di %1 tetap seperti semula.</translation>
     </message>
 </context>
 <context>
@@ -854,7 +854,7 @@
     <name>ContactTableModel</name>
     <message>
         <source>ID</source>
-        <translation type="unfinished"></translation>
+        <translation>ID</translation>
     </message>
     <message>
         <source>Code</source>
@@ -1389,15 +1389,15 @@
     <name>DatabaseUpdate</name>
     <message>
         <source>The database is being updated. Please wait...</source>
-        <translation type="unfinished"></translation>
+        <translation>Basis data sedang diperbarui. Harap tunggu...</translation>
     </message>
     <message>
         <source>The update of the database has ended. Please restart the app.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pembaruan basis data sudah selesai. Silakan jalankan ulang aplikasi.</translation>
     </message>
     <message>
         <source>These steps failed; the log file has the particulars:</source>
-        <translation type="unfinished"></translation>
+        <translation>Langkah berikut gagal; rinciannya ada di berkas log:</translation>
     </message>
     <message>
         <source>Info</source>
@@ -1405,7 +1405,7 @@
     </message>
     <message>
         <source>The database is being updated. Please wait until that has ended; the program can be closed then.</source>
-        <translation type="unfinished"></translation>
+        <translation>Basis data sedang diperbarui. Tunggu sampai selesai; setelah itu program dapat ditutup.</translation>
     </message>
 </context>
 <context>
@@ -1526,7 +1526,7 @@
     </message>
     <message>
         <source>Backup</source>
-        <translation type="unfinished"></translation>
+        <translation>Cadangkan</translation>
     </message>
     <message>
         <source>DB Host :</source>
@@ -1550,7 +1550,7 @@
     </message>
     <message>
         <source>Output File :</source>
-        <translation type="unfinished"></translation>
+        <translation>Berkas Keluaran :</translation>
     </message>
     <message>
         <source>Browse</source>
@@ -1562,51 +1562,51 @@
     </message>
     <message>
         <source>Restore</source>
-        <translation type="unfinished"></translation>
+        <translation>Pulihkan</translation>
     </message>
     <message>
         <source>Input File :</source>
-        <translation type="unfinished"></translation>
+        <translation>Berkas Masukan :</translation>
     </message>
     <message>
         <source>Create a New Database</source>
-        <translation type="unfinished"></translation>
+        <translation>Buat Basis Data Baru</translation>
     </message>
     <message>
         <source>Make the database of that name first; the server must not have it yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Buat dahulu basis data dengan nama itu; di server belum boleh ada</translation>
     </message>
     <message>
         <source>Set as Active Database</source>
-        <translation type="unfinished"></translation>
+        <translation>Jadikan Basis Data Aktif</translation>
     </message>
     <message>
         <source>Make this program work with the database that is named above</source>
-        <translation type="unfinished"></translation>
+        <translation>Pakai basis data yang disebut di atas untuk program ini</translation>
     </message>
     <message>
         <source>Maintenance</source>
-        <translation type="unfinished"></translation>
+        <translation>Pemeliharaan</translation>
     </message>
     <message>
         <source>Vacuum</source>
-        <translation type="unfinished"></translation>
+        <translation>Bersihkan</translation>
     </message>
     <message>
         <source>Give the room of deleted rows free again</source>
-        <translation type="unfinished"></translation>
+        <translation>Bebaskan kembali ruang dari baris yang sudah dihapus</translation>
     </message>
     <message>
         <source>Reindex</source>
-        <translation type="unfinished"></translation>
+        <translation>Indeks Ulang</translation>
     </message>
     <message>
         <source>Make all indexes anew; nobody can write meanwhile</source>
-        <translation type="unfinished"></translation>
+        <translation>Buat ulang semua indeks; selama itu tidak ada yang dapat menyimpan</translation>
     </message>
     <message>
         <source>process exited with code: %1, status: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>proses berakhir dengan kode: %1, status: %2</translation>
     </message>
     <message>
         <source>Error</source>
@@ -1614,39 +1614,39 @@
     </message>
     <message>
         <source>Enter the ouput file</source>
-        <translation type="unfinished"></translation>
+        <translation>Isi berkas keluaran</translation>
     </message>
     <message>
         <source>dumping your db...</source>
-        <translation type="unfinished"></translation>
+        <translation>mencadangkan db Anda...</translation>
     </message>
     <message>
         <source>pg_dump started...</source>
-        <translation type="unfinished"></translation>
+        <translation>pg_dump dimulai...</translation>
     </message>
     <message>
         <source>process exited with code: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>proses berakhir dengan kode: %1</translation>
     </message>
     <message>
         <source>, status:</source>
-        <translation type="unfinished"></translation>
+        <translation>, status:</translation>
     </message>
     <message>
         <source>DB Backup Selesai</source>
-        <translation type="unfinished"></translation>
+        <translation>Pencadangan DB Selesai</translation>
     </message>
     <message>
         <source>Please enter the input file</source>
-        <translation type="unfinished"></translation>
+        <translation>Isi berkas masukan</translation>
     </message>
     <message>
         <source>Please enter the database name</source>
-        <translation type="unfinished"></translation>
+        <translation>Isi nama basis data</translation>
     </message>
     <message>
         <source>There is no backup file %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Berkas cadangan %1 tidak ada.</translation>
     </message>
     <message>
         <source>Question</source>
@@ -1656,63 +1656,65 @@
         <source>The database %1 holds %2 tables already. A restore does not replace what is in them: it would mix the backup into them and spoil their numbering. Restore into a new database instead, and make it the active one afterwards.
 
 Do you want to restore into %1 all the same?</source>
-        <translation type="unfinished"></translation>
+        <translation>Basis data %1 sudah berisi %2 tabel. Pemulihan tidak mengganti isinya: cadangan akan tercampur ke dalamnya dan merusak penomorannya. Pulihkan ke basis data baru, lalu jadikan basis data itu yang aktif.
+
+Tetap pulihkan ke %1?</translation>
     </message>
     <message>
         <source>Nothing was restored. The database %1 is as it was.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tidak ada yang dipulihkan. Basis data %1 tetap seperti semula.</translation>
     </message>
     <message>
         <source>creating your db...</source>
-        <translation type="unfinished"></translation>
+        <translation>membuat db Anda...</translation>
     </message>
     <message>
         <source>createdb started...</source>
-        <translation type="unfinished"></translation>
+        <translation>createdb dimulai...</translation>
     </message>
     <message>
         <source>The database %1 was not created, and nothing was restored.</source>
-        <translation type="unfinished"></translation>
+        <translation>Basis data %1 tidak dibuat, dan tidak ada yang dipulihkan.</translation>
     </message>
     <message>
         <source>The database %1 was not created, the reason stands above.</source>
-        <translation type="unfinished"></translation>
+        <translation>Basis data %1 tidak dibuat, sebabnya tertulis di atas.</translation>
     </message>
     <message>
         <source>restoring your db...</source>
-        <translation type="unfinished"></translation>
+        <translation>memulihkan db Anda...</translation>
     </message>
     <message>
         <source>pg_restore started...</source>
-        <translation type="unfinished"></translation>
+        <translation>pg_restore dimulai...</translation>
     </message>
     <message>
         <source>Nothing was restored. The new database %1 is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tidak ada yang dipulihkan. Basis data baru %1 kosong.</translation>
     </message>
     <message>
         <source>The backup was restored to the database %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cadangan sudah dipulihkan ke basis data %1.</translation>
     </message>
     <message>
         <source>The restore failed, the reason stands above. The new database %1 is not complete: do not work with it. Restore into another new one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pemulihan gagal, sebabnya tertulis di atas. Basis data baru %1 tidak lengkap: jangan dipakai. Pulihkan ke basis data baru yang lain.</translation>
     </message>
     <message>
         <source>The restore failed or left something out, the reason stands above. If there is a database %1, do not work with it: restore into a new one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pemulihan gagal atau tidak lengkap, sebabnya tertulis di atas. Bila ada basis data %1, jangan dipakai: pulihkan ke basis data baru.</translation>
     </message>
     <message>
         <source>Your database has been successfully restored</source>
-        <translation type="unfinished"></translation>
+        <translation>Basis data Anda berhasil dipulihkan</translation>
     </message>
     <message>
         <source>Update DB Config</source>
-        <translation type="unfinished"></translation>
+        <translation>Perbarui Konfigurasi DB</translation>
     </message>
     <message>
         <source>Are you sure, you want to use this database: %1 for this application?</source>
-        <translation type="unfinished"></translation>
+        <translation>Yakin ingin memakai basis data ini: %1 untuk aplikasi ini?</translation>
     </message>
     <message>
         <source>Can&apos;t write the settings file: %1</source>
@@ -1720,23 +1722,23 @@ Do you want to restore into %1 all the same?</source>
     </message>
     <message>
         <source>Please restart the app first!</source>
-        <translation type="unfinished"></translation>
+        <translation>Jalankan ulang aplikasi dahulu!</translation>
     </message>
     <message>
         <source>vacuuming your db...</source>
-        <translation type="unfinished"></translation>
+        <translation>membersihkan db Anda...</translation>
     </message>
     <message>
         <source>reindexing your db...</source>
-        <translation type="unfinished"></translation>
+        <translation>mengindeks ulang db Anda...</translation>
     </message>
     <message>
         <source>started...</source>
-        <translation type="unfinished"></translation>
+        <translation>dimulai...</translation>
     </message>
     <message>
         <source>Nothing was done. The database is as it was.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tidak ada yang dilakukan. Basis data tetap seperti semula.</translation>
     </message>
     <message>
         <source>Done</source>
@@ -1744,11 +1746,11 @@ Do you want to restore into %1 all the same?</source>
     </message>
     <message>
         <source>The database was tidied.</source>
-        <translation type="unfinished"></translation>
+        <translation>Basis data sudah dirapikan.</translation>
     </message>
     <message>
         <source>The work was not finished, the reason stands above. No data was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pekerjaan tidak selesai, sebabnya tertulis di atas. Tidak ada data yang berubah.</translation>
     </message>
 </context>
 <context>
@@ -2160,7 +2162,7 @@ Do you want to restore into %1 all the same?</source>
     </message>
     <message>
         <source>Empties everything that was sold, bought, paid and counted. Items, tables, people, users, rights, numbers and settings stay. A backup is made first; without a good one nothing is cleared.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mengosongkan semua yang sudah dijual, dibeli, dibayar dan dihitung. Barang, meja, orang, pengguna, hak akses, nomor dan pengaturan tetap ada. Cadangan dibuat lebih dahulu; tanpa cadangan yang baik tidak ada yang dikosongkan.</translation>
     </message>
     <message>
         <source>DB Host :</source>
@@ -2184,7 +2186,7 @@ Do you want to restore into %1 all the same?</source>
     </message>
     <message>
         <source>Backup File :</source>
-        <translation type="unfinished"></translation>
+        <translation>Berkas Cadangan :</translation>
     </message>
     <message>
         <source>Browse</source>
@@ -2192,7 +2194,7 @@ Do you want to restore into %1 all the same?</source>
     </message>
     <message>
         <source>Backup and Clear Transactions</source>
-        <translation type="unfinished"></translation>
+        <translation>Cadangkan dan Kosongkan Transaksi</translation>
     </message>
     <message>
         <source>Status :</source>
@@ -4395,11 +4397,11 @@ Do you want to restore into %1 all the same?</source>
     </message>
     <message>
         <source>Every update tells this one; nothing is wrong.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pesan ini muncul pada setiap pembaruan; tidak ada yang salah.</translation>
     </message>
     <message>
         <source>Failed steps: %1. The particulars are in the log file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Langkah yang gagal: %1. Rinciannya ada di berkas log.</translation>
     </message>
 </context>
 <context>
@@ -4545,11 +4547,11 @@ Do you want to restore into %1 all the same?</source>
     </message>
     <message>
         <source>This database is being installed or updated at this very moment, from here or from another workstation. Please wait until that has ended.</source>
-        <translation type="unfinished"></translation>
+        <translation>Basis data ini sedang dipasang atau diperbarui, dari sini atau dari komputer lain. Tunggu sampai selesai.</translation>
     </message>
     <message>
         <source>The connection to the database was lost on the way, and steps failed. Please run it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sambungan ke basis data terputus di tengah jalan, dan ada langkah yang gagal. Jalankan sekali lagi.</translation>
     </message>
     <message>
         <source> installed</source>
@@ -5572,7 +5574,7 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>none of its purchases is there</source>
-        <translation type="unfinished"></translation>
+        <translation>tidak satu pun pembeliannya ada</translation>
     </message>
     <message>
         <source>its lines do not add up to what was paid</source>
@@ -5853,71 +5855,71 @@ Isi kolom sambungan db dan pasang data awal</translation>
     <name>Reports</name>
     <message>
         <source>Cash Flow Reports</source>
-        <translation type="unfinished"></translation>
+        <translation>Laporan Arus Kas</translation>
     </message>
     <message>
         <source>Master Data Reports</source>
-        <translation type="unfinished"></translation>
+        <translation>Laporan Data Induk</translation>
     </message>
     <message>
         <source>Purchases Reports</source>
-        <translation type="unfinished"></translation>
+        <translation>Laporan Pembelian</translation>
     </message>
     <message>
         <source>Type of sale:</source>
-        <translation type="unfinished"></translation>
+        <translation>Jenis penjualan:</translation>
     </message>
     <message>
         <source>Dine in</source>
-        <translation type="unfinished"></translation>
+        <translation>Makan di tempat</translation>
     </message>
     <message>
         <source>Fast food</source>
-        <translation type="unfinished"></translation>
+        <translation>Cepat saji</translation>
     </message>
     <message>
         <source>Take away</source>
-        <translation type="unfinished"></translation>
+        <translation>Bawa pulang</translation>
     </message>
     <message>
         <source>Cashier:</source>
-        <translation type="unfinished"></translation>
+        <translation>Kasir:</translation>
     </message>
     <message>
         <source>Item type:</source>
-        <translation type="unfinished"></translation>
+        <translation>Jenis barang:</translation>
     </message>
     <message>
         <source>Item:</source>
-        <translation type="unfinished"></translation>
+        <translation>Barang:</translation>
     </message>
     <message>
         <source>Member:</source>
-        <translation type="unfinished"></translation>
+        <translation>Anggota:</translation>
     </message>
     <message>
         <source>Supplier:</source>
-        <translation type="unfinished"></translation>
+        <translation>Pemasok:</translation>
     </message>
     <message>
         <source>Agent:</source>
-        <translation type="unfinished"></translation>
+        <translation>Agen:</translation>
     </message>
     <message>
         <source>Waitress:</source>
-        <translation type="unfinished"></translation>
+        <translation>Pramusaji:</translation>
     </message>
     <message>
         <source>Account:</source>
-        <translation type="unfinished"></translation>
+        <translation>Akun:</translation>
     </message>
     <message>
         <source>Sales by day</source>
-        <translation type="unfinished"></translation>
+        <translation>Penjualan per hari</translation>
     </message>
     <message>
         <source>What was invoiced on each day, paid or not.</source>
-        <translation type="unfinished"></translation>
+        <translation>Yang difakturkan setiap hari, sudah dibayar atau belum.</translation>
     </message>
     <message>
         <source>Date</source>
@@ -5929,7 +5931,7 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>Subtotal</source>
-        <translation type="unfinished"></translation>
+        <translation>Subtotal</translation>
     </message>
     <message>
         <source>Discount</source>
@@ -5941,7 +5943,7 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>Service</source>
-        <translation type="unfinished"></translation>
+        <translation>Layanan</translation>
     </message>
     <message>
         <source>Total</source>
@@ -5949,71 +5951,71 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>Average sale</source>
-        <translation type="unfinished"></translation>
+        <translation>Rata-rata penjualan</translation>
     </message>
     <message>
         <source>Sales Reports</source>
-        <translation type="unfinished"></translation>
+        <translation>Laporan Penjualan</translation>
     </message>
     <message>
         <source>Inventory Reports</source>
-        <translation type="unfinished"></translation>
+        <translation>Laporan Persediaan</translation>
     </message>
     <message>
         <source>Total %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Total %1</translation>
     </message>
     <message>
         <source>Page %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Halaman %1 dari %2</translation>
     </message>
     <message>
         <source>Others</source>
-        <translation type="unfinished"></translation>
+        <translation>Lainnya</translation>
     </message>
     <message>
         <source>This month</source>
-        <translation type="unfinished"></translation>
+        <translation>Bulan ini</translation>
     </message>
     <message>
         <source>Today</source>
-        <translation type="unfinished"></translation>
+        <translation>Hari ini</translation>
     </message>
     <message>
         <source>Yesterday</source>
-        <translation type="unfinished"></translation>
+        <translation>Kemarin</translation>
     </message>
     <message>
         <source>This week</source>
-        <translation type="unfinished"></translation>
+        <translation>Minggu ini</translation>
     </message>
     <message>
         <source>Last week</source>
-        <translation type="unfinished"></translation>
+        <translation>Minggu lalu</translation>
     </message>
     <message>
         <source>Last month</source>
-        <translation type="unfinished"></translation>
+        <translation>Bulan lalu</translation>
     </message>
     <message>
         <source>This year</source>
-        <translation type="unfinished"></translation>
+        <translation>Tahun ini</translation>
     </message>
     <message>
         <source>Last year</source>
-        <translation type="unfinished"></translation>
+        <translation>Tahun lalu</translation>
     </message>
     <message>
         <source>Five years</source>
-        <translation type="unfinished"></translation>
+        <translation>Lima tahun</translation>
     </message>
     <message>
         <source>Other period</source>
-        <translation type="unfinished"></translation>
+        <translation>Periode lain</translation>
     </message>
     <message>
         <source>Period:</source>
-        <translation type="unfinished"></translation>
+        <translation>Periode:</translation>
     </message>
     <message>
         <source>All</source>
@@ -6021,27 +6023,27 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Tampilkan</translation>
     </message>
     <message>
         <source>Read the report</source>
-        <translation type="unfinished"></translation>
+        <translation>Baca laporan</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Batal</translation>
     </message>
     <message>
         <source>Stop reading</source>
-        <translation type="unfinished"></translation>
+        <translation>Hentikan pembacaan</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Pratinjau</translation>
     </message>
     <message>
         <source>See the pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Lihat halaman</translation>
     </message>
     <message>
         <source>Print</source>
@@ -6049,55 +6051,55 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>Print the report</source>
-        <translation type="unfinished"></translation>
+        <translation>Cetak laporan</translation>
     </message>
     <message>
         <source>PDF</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF</translation>
     </message>
     <message>
         <source>Save the pages as a file</source>
-        <translation type="unfinished"></translation>
+        <translation>Simpan halaman sebagai berkas</translation>
     </message>
     <message>
         <source>CSV</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV</translation>
     </message>
     <message>
         <source>Save the rows for a spreadsheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Simpan baris untuk lembar kerja</translation>
     </message>
     <message>
         <source>Press Show (F5) to read the report.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tekan Tampilkan (F5) untuk membaca laporan.</translation>
     </message>
     <message>
         <source>The report could not be read. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Laporan tidak dapat dibaca. %1</translation>
     </message>
     <message>
         <source>Cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibatalkan.</translation>
     </message>
     <message>
         <source>Reading... %1 rows, %2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Membaca... %1 baris, %2 dtk</translation>
     </message>
     <message>
         <source>Nothing was found for these questions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tidak ada data untuk pilihan ini.</translation>
     </message>
     <message>
         <source>Only the first %1 rows are shown, and the totals are theirs alone. Please ask for a shorter period.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hanya %1 baris pertama yang ditampilkan, dan totalnya hanya dari baris itu. Pilih periode yang lebih pendek.</translation>
     </message>
     <message>
         <source>%1 rows, read on %2 in %3 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 baris, dibaca pada %2 dalam %3 dtk</translation>
     </message>
     <message>
         <source>Saved as %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Disimpan sebagai %1</translation>
     </message>
     <message>
         <source>Error</source>
@@ -6105,15 +6107,15 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>The file %1 could not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Berkas %1 tidak dapat ditulis.</translation>
     </message>
     <message>
         <source>Printed %1 by %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Dicetak %1 oleh %2</translation>
     </message>
     <message>
         <source>The report could not be printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Laporan tidak dapat dicetak.</translation>
     </message>
 </context>
 <context>
@@ -7679,7 +7681,7 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     <name>TableModelBank</name>
     <message>
         <source>ID</source>
-        <translation type="unfinished"></translation>
+        <translation>ID</translation>
     </message>
     <message>
         <source>Code</source>
@@ -7698,7 +7700,7 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     <name>TableModelBawaPulang</name>
     <message>
         <source>Id</source>
-        <translation type="unfinished"></translation>
+        <translation>Id</translation>
     </message>
     <message>
         <source>Guest</source>
@@ -7922,7 +7924,7 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     <name>TableModelGroupedItem</name>
     <message>
         <source>ID</source>
-        <translation type="unfinished"></translation>
+        <translation>ID</translation>
     </message>
     <message>
         <source>Code</source>
@@ -7972,7 +7974,7 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     <name>TableModelItem</name>
     <message>
         <source>ID</source>
-        <translation type="unfinished"></translation>
+        <translation>ID</translation>
     </message>
     <message>
         <source>Code</source>
@@ -8011,7 +8013,7 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     <name>TableModelJenisItem</name>
     <message>
         <source>ID</source>
-        <translation type="unfinished"></translation>
+        <translation>ID</translation>
     </message>
     <message>
         <source>Code</source>
@@ -8228,7 +8230,7 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     <name>TableModelMeja</name>
     <message>
         <source>ID</source>
-        <translation type="unfinished"></translation>
+        <translation>ID</translation>
     </message>
     <message>
         <source>Code</source>
@@ -8519,7 +8521,7 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     <name>TableModelSatuan</name>
     <message>
         <source>ID</source>
-        <translation type="unfinished"></translation>
+        <translation>ID</translation>
     </message>
     <message>
         <source>Name</source>
@@ -8615,7 +8617,7 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     <name>TableModelUser</name>
     <message>
         <source>ID</source>
-        <translation type="unfinished"></translation>
+        <translation>ID</translation>
     </message>
     <message>
         <source>User Name</source>
@@ -8642,7 +8644,7 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     <name>TableModelUserAccess</name>
     <message>
         <source>ID</source>
-        <translation type="unfinished"></translation>
+        <translation>ID</translation>
     </message>
     <message>
         <source>Permission Name</source>
@@ -8684,7 +8686,7 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     </message>
     <message>
         <source>The work is still going on. Do you want to stop it? A backup that is stopped is thrown away; a database that is being restored stays incomplete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pekerjaan masih berjalan. Hentikan? Cadangan yang dihentikan akan dibuang; basis data yang sedang dipulihkan menjadi tidak lengkap.</translation>
     </message>
     <message>
         <source>Info</source>
@@ -8692,7 +8694,7 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     </message>
     <message>
         <source>Error %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kesalahan %1</translation>
     </message>
     <message>
         <source>Error</source>
@@ -8700,7 +8702,7 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     </message>
     <message>
         <source>Error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kesalahan: %1</translation>
     </message>
 </context>
 <context>
@@ -8718,7 +8720,7 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     <name>UserGroupTableModel</name>
     <message>
         <source>ID</source>
-        <translation type="unfinished"></translation>
+        <translation>ID</translation>
     </message>
     <message>
         <source>Name</source>
