@@ -109,6 +109,21 @@
     </message>
 </context>
 <context>
+    <name>AppInstallerWizard</name>
+    <message>
+        <source>ZavelPOS Installer Wizard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Info</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please wait until the installation completed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>AppLinePrinter</name>
     <message>
         <source>Error Opening Printer:</source>
@@ -720,6 +735,77 @@
     </message>
 </context>
 <context>
+    <name>ConclusionPage</name>
+    <message>
+        <source>The installation is NOT complete: %1 of its steps failed, see the lines above. Install once more when the reason is gone: the program offers it under &quot;Setup&quot; when it starts.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>creating your db...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>restoring your db...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>process exited with code: %1, status: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>createdb started...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The program that creates databases could not be started. Are PostgreSQL&apos;s client programs installed on this machine?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The database %1 was NOT created. The backup goes into the database of that name, if there is one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>pg_restore started...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The program that restores backups could not be started, and nothing was restored. Are PostgreSQL&apos;s client programs installed on this machine?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The backup was NOT restored completely: pg_restore ended with code %1. What it says stands above.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be used like this, and the program was not set up for it. &quot;Finish&quot; begins the wizard once more; restore the backup into a new database.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The database %1 holds none of the program&apos;s tables.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Info</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Your database has been successfully restored</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ConfigDialog</name>
     <message>
         <source>Configuration</source>
@@ -839,10 +925,6 @@
     </message>
     <message>
         <source>Question</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The database %1 is in use already. A clean installation makes all tables anew, and everything that they hold is lost. Do you want that?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1314,6 +1396,49 @@
     <name>DataMapperStockTakeMigration11</name>
     <message>
         <source>update source_acct_code column to varchar(20)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>DatabaseCondition</name>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Restore your last backup once more, into a new database: rename the file %1, start the program, and choose the restore in the wizard that comes up.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The database is not complete: there are tables missing (%1). An installation or the restore of a backup was cut short.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>If nothing was ever sold with it, install it anew under &quot;Setup&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>If it is to hold your data:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The restore of a backup was cut short: there are tables without a primary key (%1), and rows may be missing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The installation was cut short: nobody has any right yet. Install the database anew under &quot;Setup&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The restore of a backup was cut short before its end: references between tables are missing (%1). The rows are there, but the database does not watch over them: a record that others need can be deleted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An installation or an update was cut short: the rights of some services are not complete (%1).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Run &quot;Update&quot; under Configuration &gt; General, &quot;Setup&quot;; it keeps what the tables hold. After a first installation that was cut short, with nothing entered yet, install &quot;Clean&quot; instead.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2175,6 +2300,78 @@ Do you want to restore into %1 all the same?</source>
     </message>
     <message>
         <source>Status :</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter a valid backup file path</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The program has no connection to its database. Nothing was cleared.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The connection above leads to another database than the one that this program works with. Nothing was backed up, and nothing was cleared.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>dumping your db...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>pg_dump started...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was cleared.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>process exited with code: %1 , status: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was cleared: it could not be made sure that the backup is one of the database that this program works with.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The backup can not be read again. Nothing was cleared.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Somebody saved something while the backup was made, and the backup does not hold it: %1. Nothing was cleared. Please close the program at all other workstations and try again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All transactions were cleared. They are in the backup.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What is marked by [error] was not cleared; the reason stands there. Everything is in the backup.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Done. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>resetting transactions: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> [ok]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> [error]</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -4359,6 +4556,49 @@ Do you want to restore into %1 all the same?</source>
     </message>
 </context>
 <context>
+    <name>FreshInstallPage</name>
+    <message>
+        <source>Fresh Installation Details</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Below you should enter your database connection details and administrator account profiles.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hostname:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Username:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Database Name:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Database Port:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Admin Username:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Admin Password:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The database has to exist on the server already</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>InstallProgressPage</name>
     <message>
         <source>Installing...</source>
@@ -4378,6 +4618,33 @@ Do you want to restore into %1 all the same?</source>
     </message>
     <message>
         <source>Failed steps: %1. The particulars are in the log file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>IntroPage</name>
+    <message>
+        <source>&amp;Fresh Installation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Introduction</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This wizard will help you install ZavelPOS on your computer. Please select installation type.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Restore from Backup File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lay down empty tables in a database that exists already</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Go on with the data of a backup, in a new database or in an existing one</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -5100,10 +5367,6 @@ Please fill the db connection fields and install the initial data</source>
     </message>
     <message>
         <source>Do you want to open the converter now? Ignore: do not tell this again.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>This version of the program does not have it yet: %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -5893,10 +6156,6 @@ Please fill the db connection fields and install the initial data</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>What was invoiced on each day, paid or not.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Date</source>
         <translation type="unfinished"></translation>
     </message>
@@ -6092,11 +6351,1379 @@ Please fill the db connection fields and install the initial data</source>
         <source>The report could not be printed.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Day&apos;s close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What each cashier took on the day. Expected cash is the cash of the sales without the change, the cash from members, and what else came into and left accounts of the type Cash; the change in the drawer at opening comes on top. Credit is what the sales of the day had settled otherwise, and later by members.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Day:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cashier</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not known</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Account</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cash</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Credit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Still due</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Members: cash</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Members: transfer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Members: check</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Other in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paid out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expected cash</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opening balance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Member payment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Returned to supplier</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Purchases</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Purchase order</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bill paid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Agent commission</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Transfer of funds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Journal entry</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Closing balance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Debit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ledger by account</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every movement of each account with its balance, as in the general journal: documents with their whole total, whatever was paid of it, and none without an account.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Balance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Entered by</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Account balances</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What each account had at the beginning of the period, what came and went, and what it had at the end, reckoned from all documents since the first as the general journal has them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Movements</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Money in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Money out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In less out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Money in and out by kind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The movements of the general journal by their kind. A transfer counts on both of its accounts; choose an account to see one side alone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Money in and out by day</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The movements of the general journal day by day, and the balance at the end of each day since the first document.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Item</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Item type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Supplier</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fully paid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unpaid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Partially paid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Class</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stock</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Menu or service</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Items and prices</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every item with its unit cost, the price of its last purchase, and the margin that its sales price leaves over the unit cost.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Class:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unit cost</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last bought at</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last purchase</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sales price</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Margin %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Items and accounts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The accounts that each item&apos;s sales, stock and cost are booked on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sales account</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Inventory account</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cost of sales account</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Components of grouped items</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What each grouped item is made of, and what that costs at the components&apos; unit costs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Grouped item</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Component</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cost</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Accounts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The ledger&apos;s accounts by their types.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Accounts payable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Accounts receivable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Income</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expense</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Assets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Other current liabilities</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Inventory</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cost of sales</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Type of account:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Type of account</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Active</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tables</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The tables of the restaurant.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stock items</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Menu and service items</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Items</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Item types</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The kinds of items, and how many items are of each.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Units</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The units that items are counted in, and how many items use each.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Age on:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open orders</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Orders that are not received, closed or cancelled, with what has come of each item so far. Late is counted from the ship date.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ship date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Days late</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sent to supplier</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ordered</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>To come</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Worth to come</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Returns to suppliers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What went back to suppliers, item by item. Cancelled returns are not in it; they moved nothing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Purchase No.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Price each</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unpaid purchases</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every purchase that is not fully paid today, the first due first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Invoice No.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Due date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Net due</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Payables by age</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What is still to be paid to each supplier today, by the days that have gone since it was due.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not yet due</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1-30 days</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>31-60 days</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>61-90 days</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Over 90 days</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bills paid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What was paid to suppliers for earlier purchases and for expenses. What was paid with the purchase itself is not in it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paid by</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Electronic funds transfer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expenses</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Code or name:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Phone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>E-mail</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Account No.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Account holder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Suppliers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The suppliers with their bank accounts, and what is to be paid to each today.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only those to be paid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>To be paid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Members</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The members with their discounts, and what each owes today on invoices that are not fully paid.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only those who owe</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expires</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open invoices</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Owes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Agents</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The agents with their commissions and bank accounts.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Commission</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Employees</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The employees who serve the tables.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>User group:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>User group</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Users</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Who can log in, and in which group.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Created</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rights by group</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What each group of users may do. Own records are those that the user entered.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Own records</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All records</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Right:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Subject</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Granted on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Purchases by day</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What was bought on each day, paid or not. Returns are not taken off.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Purchases by supplier</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What was bought from each supplier, and what of it is still to be paid. Returns are not taken off the totals.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Average</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Purchases by item</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What was bought of each item at the prices of the lines: discount and tax of the whole purchase are not in it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lowest price</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Highest price</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Average price</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>List of purchases</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every purchase with what was paid at once, what was paid or credited later, and what is still due.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Status:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paid later</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Price history by item</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What each supplier asked for an item from purchase to purchase. The change is against the item&apos;s purchase before, from whomever it was.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Net price</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Commissions earned</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The invoices that agents brought, with the commission at the percentage that the agent has today, and what was paid for it. Percentages of former times are known only where the commission was paid.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not yet paid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Agent</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Percent</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paid on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Amount paid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Commissions paid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The payments to agents, by the day of the payment. Amount paid is what was handed over: more than the commission means change came back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Payment No.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Invoices</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Invoice number missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Order paid or ended, its invoice deleted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Invoice whose order&apos;s other invoice was deleted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Payment for an invoice that was deleted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Invoice saved again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Credit other than what members paid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Large discount</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Order ended with money still due</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dated on another day than it was saved</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exceptions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where to look twice. The data do not tell who deleted an invoice or when, nor what stood in it: a gap in the numbers or an order without its invoice is all that remains, and a gap may also come from running numbers that were changed. Of a changed invoice they tell who changed it last, but not what. A deleted member payment is seen only while another one of the same invoice stands.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kind:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Discounts from percent:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Guest or table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Amount</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved by</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changed by</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Guest</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Member</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No member</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Each invoice of the period, as in the list of all sales. For years of sales the reports by month are the better choice.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waitress</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Discounts given</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The invoices with a discount, by the cashier who saved them first. The percentage is of the subtotal, before tax and service.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From percent:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Until:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The invoices up to the day that are not fully paid today. Days late are counted from the due date, or from the sale where there is none.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Receivables by age</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What members and guests owe on the invoices up to the day, as it stands today, by the days since it was due.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 to 30 days</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>31 to 60 days</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>61 to 90 days</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Share</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sold</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sales by item</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What was sold of each item, at the prices of the lines: discount, tax and service of the whole invoice are not in it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sales by item type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the kinds of items bring, at the prices of the lines: discount, tax and service of the whole invoice are not in it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Different items</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Margin by item</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What remains of the sales of each item after its cost: the price of its last purchase up to the end of the period, before discounts of that purchase, or the item&apos;s unit cost where none was made. Discounts of whole invoices are not in it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cost each</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sales by type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dine in, fast food and take away side by side.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sales by table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What each table brought, at the table where the guests paid. Each part of a divided bill counts as a sale.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sales by waitress</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What was sold under each waitress&apos;s name. Take-away has none.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No waitress</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sales by cashier</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Who saved the invoices first. Whoever changes one later is told on the page of exceptions.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sales by member</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What each member spent, and what is still due of it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sales by agent</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the guests spent whom an agent brought. Take-away has none.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Total per day</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sales by hour</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At which hours of the day the invoices were saved first, which is when the guests paid rather than when they came. Days counts the days of the period with any sale.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hour</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sales by weekday</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What each weekday brings. Days counts the days with a sale, so that a holiday does not lower the total per day.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weekday</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What was invoiced on each day, paid or not. Cash is what was received at the sale less the change; credit is what was settled otherwise, by members later too.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sales by week</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What was invoiced in each week from Monday to Sunday. The first and the last week count the days of the period alone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Week from</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sales by month</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What was invoiced in each month. The first and the last month count the days of the period alone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Month</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Movements by item</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What there was of each item before the period, what came and went in it, and what was left. Counted is what counts of the storeroom changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bought</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Returned</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Counted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Movements by day</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every purchase, return and adjustment of an item, and what was sold of it on each day.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Purchase</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Adjustment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Movement:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Movement</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No. or reason</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Adjustments by reason</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What counts of the storeroom took away or added, why, and who entered it; the worth is at the price of the last purchase.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>User:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Worth</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Usage against purchases</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What was bought of each item, less what went back, beside what was sold of it, alone or as a component of grouped items. Much more bought than used is waste, loss or a growing stock. Components do not change the stock on hand.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In grouped items</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Used</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not used</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Used %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On hand</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stock on hand</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What there was of each stock item at the end of the day, and its worth at the price of the last purchase until then, or at the item&apos;s unit cost where none was made.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quantity:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>More than zero</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zero or below</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Negative stock</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Items of which more was sold than there can have been: a purchase or a count was not entered, or a sale was entered on the wrong item.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last counted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Idle stock</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What there is of items that were neither sold nor bought for so many days: money that lies in the storeroom.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Idle days:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last sold</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Idle days</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
-    <name>Sale</name>
+    <name>RestoreInstallPage</name>
     <message>
-        <source>Can not find entity with id: %1</source>
+        <source>Restore from Backup File Installation Details</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Below you should enter your database connection details and backup file path.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hostname:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Username:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Database Port:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Browse</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Backup File Path:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Restore to Database:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set it where the server has no database of this name yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create a New Database:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Backup File (*.bak)</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -8732,6 +10359,10 @@ Please install the initial data</source>
     </message>
     <message>
         <source>Successfully connected to the database.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Warning</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -34,7 +34,7 @@ class ReportRun final : public QThread
 
 public:
     /** More rows than anybody reads, and still within the memory of a workstation. */
-    static constexpr int maximalRows = 200'000;
+    static constexpr int maximalRows = 200000;
 
     ReportRun(ReportConnection connection, QList<ReportStatement> statements, QObject* parent = nullptr);
     ~ReportRun() override;

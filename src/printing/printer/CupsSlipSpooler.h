@@ -8,6 +8,8 @@
  */
 class CupsSlipSpooler final : public SlipSpooler
 {
+    Q_DECLARE_TR_FUNCTIONS(CupsSlipSpooler)
+
 public:
     CupsSlipSpooler();
     ~CupsSlipSpooler() override;

@@ -14,6 +14,8 @@
  */
 class FolderSlipSpooler final : public SlipSpooler
 {
+    Q_DECLARE_TR_FUNCTIONS(FolderSlipSpooler)
+
 public:
     explicit FolderSlipSpooler(const QString& folder);
     ~FolderSlipSpooler() override;

@@ -59,7 +59,8 @@ void ZavelReportFactory::printBillBawaPulang(int invoiceId)
     printBill<ReportBillBawaPulang>(&BusinessPenjualan::findInvoiceBawaPulang, invoiceId);
 }
 
-template <class Report, class Sale>
+// Not "class": lupdate would take the texts for those of a class Sale.
+template <typename Report, typename Sale>
 void ZavelReportFactory::printBill(Sale* (BusinessPenjualan::*find)(int), int invoiceId)
 {
     if (!reload() || !readyForCashier())
