@@ -112,7 +112,7 @@
     <name>AppInstallerWizard</name>
     <message>
         <source>ZavelPOS Installer Wizard</source>
-        <translation type="unfinished"></translation>
+        <translation>Panduan Pemasangan ZavelPOS</translation>
     </message>
     <message>
         <source>Info</source>
@@ -738,7 +738,7 @@
     <name>ConclusionPage</name>
     <message>
         <source>The installation is NOT complete: %1 of its steps failed, see the lines above. Install once more when the reason is gone: the program offers it under &quot;Setup&quot; when it starts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pemasangan TIDAK lengkap: %1 langkahnya gagal, lihat baris di atas. Pasang sekali lagi setelah sebabnya hilang: program menawarkannya di &quot;Pemasangan&quot; saat dijalankan.</translation>
     </message>
     <message>
         <source>creating your db...</source>
@@ -770,11 +770,11 @@
     </message>
     <message>
         <source>The program that creates databases could not be started. Are PostgreSQL&apos;s client programs installed on this machine?</source>
-        <translation type="unfinished"></translation>
+        <translation>Program pembuat basis data tidak dapat dijalankan. Apakah program klien PostgreSQL terpasang di komputer ini?</translation>
     </message>
     <message>
         <source>The database %1 was NOT created. The backup goes into the database of that name, if there is one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Basis data %1 TIDAK dibuat. Cadangan masuk ke basis data dengan nama itu, bila ada.</translation>
     </message>
     <message>
         <source>pg_restore started...</source>
@@ -782,19 +782,19 @@
     </message>
     <message>
         <source>The program that restores backups could not be started, and nothing was restored. Are PostgreSQL&apos;s client programs installed on this machine?</source>
-        <translation type="unfinished"></translation>
+        <translation>Program pemulih cadangan tidak dapat dijalankan, dan tidak ada yang dipulihkan. Apakah program klien PostgreSQL terpasang di komputer ini?</translation>
     </message>
     <message>
         <source>The backup was NOT restored completely: pg_restore ended with code %1. What it says stands above.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cadangan TIDAK dipulihkan seluruhnya: pg_restore berakhir dengan kode %1. Pesannya tertulis di atas.</translation>
     </message>
     <message>
         <source>The database %1 cannot be used like this, and the program was not set up for it. &quot;Finish&quot; begins the wizard once more; restore the backup into a new database.</source>
-        <translation type="unfinished"></translation>
+        <translation>Basis data %1 tidak dapat dipakai seperti ini, dan program tidak disiapkan untuknya. &quot;Selesai&quot; memulai panduan sekali lagi; pulihkan cadangan ke basis data baru.</translation>
     </message>
     <message>
         <source>The database %1 holds none of the program&apos;s tables.</source>
-        <translation type="unfinished"></translation>
+        <translation>Basis data %1 tidak berisi satu pun tabel program ini.</translation>
     </message>
     <message>
         <source>Info</source>
@@ -1428,39 +1428,39 @@
     </message>
     <message>
         <source>Restore your last backup once more, into a new database: rename the file %1, start the program, and choose the restore in the wizard that comes up.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pulihkan cadangan terakhir sekali lagi ke basis data baru: ganti nama berkas %1, jalankan program, lalu pilih pemulihan di panduan yang muncul.</translation>
     </message>
     <message>
         <source>The database is not complete: there are tables missing (%1). An installation or the restore of a backup was cut short.</source>
-        <translation type="unfinished"></translation>
+        <translation>Basis data tidak lengkap: ada tabel yang hilang (%1). Pemasangan atau pemulihan cadangan terputus.</translation>
     </message>
     <message>
         <source>If nothing was ever sold with it, install it anew under &quot;Setup&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bila belum pernah dipakai berjualan, pasang ulang di &quot;Pemasangan&quot;.</translation>
     </message>
     <message>
         <source>If it is to hold your data:</source>
-        <translation type="unfinished"></translation>
+        <translation>Bila basis data itu harus berisi data Anda:</translation>
     </message>
     <message>
         <source>The restore of a backup was cut short: there are tables without a primary key (%1), and rows may be missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pemulihan cadangan terputus: ada tabel tanpa kunci utama (%1), dan mungkin ada baris yang hilang.</translation>
     </message>
     <message>
         <source>The installation was cut short: nobody has any right yet. Install the database anew under &quot;Setup&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pemasangan terputus: belum ada yang punya hak akses. Pasang ulang basis data di &quot;Pemasangan&quot;.</translation>
     </message>
     <message>
         <source>The restore of a backup was cut short before its end: references between tables are missing (%1). The rows are there, but the database does not watch over them: a record that others need can be deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pemulihan cadangan terputus sebelum selesai: hubungan antartabel tidak lengkap (%1). Barisnya ada, tetapi tidak dijaga oleh basis data: data yang dibutuhkan data lain dapat terhapus.</translation>
     </message>
     <message>
         <source>An installation or an update was cut short: the rights of some services are not complete (%1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Pemasangan atau pembaruan terputus: hak akses beberapa layanan tidak lengkap (%1).</translation>
     </message>
     <message>
         <source>Run &quot;Update&quot; under Configuration &gt; General, &quot;Setup&quot;; it keeps what the tables hold. After a first installation that was cut short, with nothing entered yet, install &quot;Clean&quot; instead.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jalankan &quot;Perbarui&quot; di Konfigurasi &gt; Umum, &quot;Pemasangan&quot;; isi tabel tetap dipertahankan. Setelah pemasangan pertama yang terputus dan belum ada isinya, pasang &quot;Bersih&quot; saja.</translation>
     </message>
 </context>
 <context>
@@ -2327,15 +2327,15 @@ Tetap pulihkan ke %1?</translation>
     </message>
     <message>
         <source>Enter a valid backup file path</source>
-        <translation type="unfinished"></translation>
+        <translation>Isi lokasi berkas cadangan yang benar</translation>
     </message>
     <message>
         <source>The program has no connection to its database. Nothing was cleared.</source>
-        <translation type="unfinished"></translation>
+        <translation>Program tidak tersambung ke basis datanya. Tidak ada yang dikosongkan.</translation>
     </message>
     <message>
         <source>The connection above leads to another database than the one that this program works with. Nothing was backed up, and nothing was cleared.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sambungan di atas menuju basis data lain dari yang dipakai program ini. Tidak ada yang dicadangkan, dan tidak ada yang dikosongkan.</translation>
     </message>
     <message>
         <source>dumping your db...</source>
@@ -2347,23 +2347,23 @@ Tetap pulihkan ke %1?</translation>
     </message>
     <message>
         <source>Nothing was cleared.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tidak ada yang dikosongkan.</translation>
     </message>
     <message>
         <source>process exited with code: %1 , status: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>proses berakhir dengan kode: %1 , status: %2</translation>
     </message>
     <message>
         <source>Nothing was cleared: it could not be made sure that the backup is one of the database that this program works with.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tidak ada yang dikosongkan: tidak dapat dipastikan bahwa cadangan itu berasal dari basis data yang dipakai program ini.</translation>
     </message>
     <message>
         <source>The backup can not be read again. Nothing was cleared.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cadangan tidak dapat dibaca kembali. Tidak ada yang dikosongkan.</translation>
     </message>
     <message>
         <source>Somebody saved something while the backup was made, and the backup does not hold it: %1. Nothing was cleared. Please close the program at all other workstations and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ada yang menyimpan sesuatu saat cadangan dibuat, dan itu tidak ada di cadangan: %1. Tidak ada yang dikosongkan. Tutup program di semua komputer lain lalu coba lagi.</translation>
     </message>
     <message>
         <source>Error</source>
@@ -2371,15 +2371,15 @@ Tetap pulihkan ke %1?</translation>
     </message>
     <message>
         <source>All transactions were cleared. They are in the backup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Semua transaksi sudah dikosongkan. Semuanya ada di cadangan.</translation>
     </message>
     <message>
         <source>What is marked by [error] was not cleared; the reason stands there. Everything is in the backup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Yang bertanda [gagal] tidak dikosongkan; sebabnya tertulis di sana. Semuanya ada di cadangan.</translation>
     </message>
     <message>
         <source>Done. </source>
-        <translation type="unfinished"></translation>
+        <translation>Selesai. </translation>
     </message>
     <message>
         <source>Error: %1</source>
@@ -2387,15 +2387,15 @@ Tetap pulihkan ke %1?</translation>
     </message>
     <message>
         <source>resetting transactions: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>mengosongkan transaksi: %1</translation>
     </message>
     <message>
         <source> [ok]</source>
-        <translation type="unfinished"></translation>
+        <translation> [ok]</translation>
     </message>
     <message>
         <source> [error]</source>
-        <translation type="unfinished"></translation>
+        <translation> [gagal]</translation>
     </message>
 </context>
 <context>
@@ -4582,43 +4582,43 @@ Tetap pulihkan ke %1?</translation>
     <name>FreshInstallPage</name>
     <message>
         <source>Fresh Installation Details</source>
-        <translation type="unfinished"></translation>
+        <translation>Rincian Pemasangan Baru</translation>
     </message>
     <message>
         <source>Below you should enter your database connection details and administrator account profiles.</source>
-        <translation type="unfinished"></translation>
+        <translation>Isi rincian sambungan basis data dan akun administrator di bawah ini.</translation>
     </message>
     <message>
         <source>Hostname:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nama Host:</translation>
     </message>
     <message>
         <source>Username:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nama Pengguna:</translation>
     </message>
     <message>
         <source>Password:</source>
-        <translation type="unfinished"></translation>
+        <translation>Kata Sandi:</translation>
     </message>
     <message>
         <source>Database Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nama Basis Data:</translation>
     </message>
     <message>
         <source>Database Port:</source>
-        <translation type="unfinished"></translation>
+        <translation>Port Basis Data:</translation>
     </message>
     <message>
         <source>Admin Username:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nama Pengguna Admin:</translation>
     </message>
     <message>
         <source>Admin Password:</source>
-        <translation type="unfinished"></translation>
+        <translation>Kata Sandi Admin:</translation>
     </message>
     <message>
         <source>The database has to exist on the server already</source>
-        <translation type="unfinished"></translation>
+        <translation>Basis data harus sudah ada di server</translation>
     </message>
 </context>
 <context>
@@ -4648,27 +4648,27 @@ Tetap pulihkan ke %1?</translation>
     <name>IntroPage</name>
     <message>
         <source>&amp;Fresh Installation</source>
-        <translation type="unfinished"></translation>
+        <translation>Pasang &amp;Baru</translation>
     </message>
     <message>
         <source>Introduction</source>
-        <translation type="unfinished"></translation>
+        <translation>Pengantar</translation>
     </message>
     <message>
         <source>This wizard will help you install ZavelPOS on your computer. Please select installation type.</source>
-        <translation type="unfinished"></translation>
+        <translation>Panduan ini membantu memasang ZavelPOS di komputer Anda. Pilih jenis pemasangan.</translation>
     </message>
     <message>
         <source>&amp;Restore from Backup File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pulihkan dari Berkas Cadangan</translation>
     </message>
     <message>
         <source>Lay down empty tables in a database that exists already</source>
-        <translation type="unfinished"></translation>
+        <translation>Buat tabel kosong di basis data yang sudah ada</translation>
     </message>
     <message>
         <source>Go on with the data of a backup, in a new database or in an existing one</source>
-        <translation type="unfinished"></translation>
+        <translation>Lanjutkan dengan data dari cadangan, di basis data baru atau yang sudah ada</translation>
     </message>
 </context>
 <context>
@@ -6378,27 +6378,27 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>Day&apos;s close</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutup hari</translation>
     </message>
     <message>
         <source>What each cashier took on the day. Expected cash is the cash of the sales without the change, the cash from members, and what else came into and left accounts of the type Cash; the change in the drawer at opening comes on top. Credit is what the sales of the day had settled otherwise, and later by members.</source>
-        <translation type="unfinished"></translation>
+        <translation>Penerimaan tiap kasir pada hari itu. Kas seharusnya adalah uang tunai penjualan tanpa kembalian, uang tunai dari anggota, dan yang lain yang masuk ke dan keluar dari akun berjenis Tunai; uang receh di laci saat buka ditambahkan lagi. Kredit adalah penjualan hari itu yang dilunasi dengan cara lain, juga kemudian oleh anggota.</translation>
     </message>
     <message>
         <source>Day:</source>
-        <translation type="unfinished"></translation>
+        <translation>Hari:</translation>
     </message>
     <message>
         <source>Cashier</source>
-        <translation type="unfinished"></translation>
+        <translation>Kasir</translation>
     </message>
     <message>
         <source>Not known</source>
-        <translation type="unfinished"></translation>
+        <translation>Tidak diketahui</translation>
     </message>
     <message>
         <source>Account</source>
-        <translation type="unfinished"></translation>
+        <translation>Akun</translation>
     </message>
     <message>
         <source>Cash</source>
@@ -6410,43 +6410,43 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>Still due</source>
-        <translation type="unfinished"></translation>
+        <translation>Masih terutang</translation>
     </message>
     <message>
         <source>Members: cash</source>
-        <translation type="unfinished"></translation>
+        <translation>Anggota: tunai</translation>
     </message>
     <message>
         <source>Members: transfer</source>
-        <translation type="unfinished"></translation>
+        <translation>Anggota: transfer</translation>
     </message>
     <message>
         <source>Members: check</source>
-        <translation type="unfinished"></translation>
+        <translation>Anggota: cek</translation>
     </message>
     <message>
         <source>Other in</source>
-        <translation type="unfinished"></translation>
+        <translation>Masuk lainnya</translation>
     </message>
     <message>
         <source>Paid out</source>
-        <translation type="unfinished"></translation>
+        <translation>Dikeluarkan</translation>
     </message>
     <message>
         <source>Expected cash</source>
-        <translation type="unfinished"></translation>
+        <translation>Kas seharusnya</translation>
     </message>
     <message>
         <source>Opening balance</source>
-        <translation type="unfinished"></translation>
+        <translation>Saldo awal</translation>
     </message>
     <message>
         <source>Member payment</source>
-        <translation type="unfinished"></translation>
+        <translation>Pembayaran anggota</translation>
     </message>
     <message>
         <source>Returned to supplier</source>
-        <translation type="unfinished"></translation>
+        <translation>Diretur ke pemasok</translation>
     </message>
     <message>
         <source>Purchases</source>
@@ -6454,27 +6454,27 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>Purchase order</source>
-        <translation type="unfinished"></translation>
+        <translation>Pesanan pembelian</translation>
     </message>
     <message>
         <source>Bill paid</source>
-        <translation type="unfinished"></translation>
+        <translation>Tagihan dibayar</translation>
     </message>
     <message>
         <source>Agent commission</source>
-        <translation type="unfinished"></translation>
+        <translation>Komisi agen</translation>
     </message>
     <message>
         <source>Transfer of funds</source>
-        <translation type="unfinished"></translation>
+        <translation>Pemindahan dana</translation>
     </message>
     <message>
         <source>Journal entry</source>
-        <translation type="unfinished"></translation>
+        <translation>Entri jurnal</translation>
     </message>
     <message>
         <source>Closing balance</source>
-        <translation type="unfinished"></translation>
+        <translation>Saldo akhir</translation>
     </message>
     <message>
         <source>Debit</source>
@@ -6482,19 +6482,19 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Macam</translation>
     </message>
     <message>
         <source>Ledger by account</source>
-        <translation type="unfinished"></translation>
+        <translation>Buku besar per akun</translation>
     </message>
     <message>
         <source>Every movement of each account with its balance, as in the general journal: documents with their whole total, whatever was paid of it, and none without an account.</source>
-        <translation type="unfinished"></translation>
+        <translation>Setiap mutasi tiap akun dengan saldonya, seperti di jurnal umum: dokumen dengan total penuhnya, berapa pun yang sudah dibayar, dan tidak ada yang tanpa akun.</translation>
     </message>
     <message>
         <source>Number</source>
-        <translation type="unfinished"></translation>
+        <translation>Nomor</translation>
     </message>
     <message>
         <source>Description</source>
@@ -6502,19 +6502,19 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>Balance</source>
-        <translation type="unfinished"></translation>
+        <translation>Saldo</translation>
     </message>
     <message>
         <source>Entered by</source>
-        <translation type="unfinished"></translation>
+        <translation>Diisi oleh</translation>
     </message>
     <message>
         <source>Account balances</source>
-        <translation type="unfinished"></translation>
+        <translation>Saldo akun</translation>
     </message>
     <message>
         <source>What each account had at the beginning of the period, what came and went, and what it had at the end, reckoned from all documents since the first as the general journal has them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Saldo tiap akun pada awal periode, yang masuk dan keluar, dan saldonya pada akhir periode, dihitung dari semua dokumen sejak yang pertama seperti di jurnal umum.</translation>
     </message>
     <message>
         <source>Name</source>
@@ -6522,35 +6522,35 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>Movements</source>
-        <translation type="unfinished"></translation>
+        <translation>Mutasi</translation>
     </message>
     <message>
         <source>Money in</source>
-        <translation type="unfinished"></translation>
+        <translation>Uang masuk</translation>
     </message>
     <message>
         <source>Money out</source>
-        <translation type="unfinished"></translation>
+        <translation>Uang keluar</translation>
     </message>
     <message>
         <source>In less out</source>
-        <translation type="unfinished"></translation>
+        <translation>Masuk dikurangi keluar</translation>
     </message>
     <message>
         <source>Money in and out by kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Uang masuk dan keluar per macam</translation>
     </message>
     <message>
         <source>The movements of the general journal by their kind. A transfer counts on both of its accounts; choose an account to see one side alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mutasi jurnal umum menurut macamnya. Pemindahan dana dihitung pada kedua akunnya; pilih satu akun untuk melihat satu sisi saja.</translation>
     </message>
     <message>
         <source>Money in and out by day</source>
-        <translation type="unfinished"></translation>
+        <translation>Uang masuk dan keluar per hari</translation>
     </message>
     <message>
         <source>The movements of the general journal day by day, and the balance at the end of each day since the first document.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mutasi jurnal umum hari demi hari, dan saldo pada akhir setiap hari sejak dokumen pertama.</translation>
     </message>
     <message>
         <source>Code</source>
@@ -6558,11 +6558,11 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>Item</source>
-        <translation type="unfinished"></translation>
+        <translation>Barang</translation>
     </message>
     <message>
         <source>Item type</source>
-        <translation type="unfinished"></translation>
+        <translation>Jenis barang</translation>
     </message>
     <message>
         <source>Unit</source>
@@ -6578,7 +6578,7 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Catatan</translation>
     </message>
     <message>
         <source>User</source>
@@ -6590,7 +6590,7 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>Fully paid</source>
-        <translation type="unfinished"></translation>
+        <translation>Lunas</translation>
     </message>
     <message>
         <source>Unpaid</source>
@@ -6598,7 +6598,7 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>Partially paid</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibayar sebagian</translation>
     </message>
     <message>
         <source>Class</source>
@@ -6610,15 +6610,15 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>Menu or service</source>
-        <translation type="unfinished"></translation>
+        <translation>Menu atau layanan</translation>
     </message>
     <message>
         <source>Items and prices</source>
-        <translation type="unfinished"></translation>
+        <translation>Barang dan harga</translation>
     </message>
     <message>
         <source>Every item with its unit cost, the price of its last purchase, and the margin that its sales price leaves over the unit cost.</source>
-        <translation type="unfinished"></translation>
+        <translation>Setiap barang dengan biaya satuannya, harga pembelian terakhir, dan margin harga jual di atas biaya satuan.</translation>
     </message>
     <message>
         <source>Class:</source>
@@ -6626,71 +6626,71 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>Unit cost</source>
-        <translation type="unfinished"></translation>
+        <translation>Biaya satuan</translation>
     </message>
     <message>
         <source>Last bought at</source>
-        <translation type="unfinished"></translation>
+        <translation>Harga beli terakhir</translation>
     </message>
     <message>
         <source>Last purchase</source>
-        <translation type="unfinished"></translation>
+        <translation>Pembelian terakhir</translation>
     </message>
     <message>
         <source>Sales price</source>
-        <translation type="unfinished"></translation>
+        <translation>Harga jual</translation>
     </message>
     <message>
         <source>Margin</source>
-        <translation type="unfinished"></translation>
+        <translation>Margin</translation>
     </message>
     <message>
         <source>Margin %</source>
-        <translation type="unfinished"></translation>
+        <translation>Margin %</translation>
     </message>
     <message>
         <source>Items and accounts</source>
-        <translation type="unfinished"></translation>
+        <translation>Barang dan akun</translation>
     </message>
     <message>
         <source>The accounts that each item&apos;s sales, stock and cost are booked on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Akun tempat penjualan, stok dan biaya tiap barang dibukukan.</translation>
     </message>
     <message>
         <source>Sales account</source>
-        <translation type="unfinished"></translation>
+        <translation>Akun penjualan</translation>
     </message>
     <message>
         <source>Inventory account</source>
-        <translation type="unfinished"></translation>
+        <translation>Akun persediaan</translation>
     </message>
     <message>
         <source>Cost of sales account</source>
-        <translation type="unfinished"></translation>
+        <translation>Akun harga pokok penjualan</translation>
     </message>
     <message>
         <source>Components of grouped items</source>
-        <translation type="unfinished"></translation>
+        <translation>Komponen barang paket</translation>
     </message>
     <message>
         <source>What each grouped item is made of, and what that costs at the components&apos; unit costs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Isi tiap barang paket, dan biayanya menurut biaya satuan komponennya.</translation>
     </message>
     <message>
         <source>Grouped item</source>
-        <translation type="unfinished"></translation>
+        <translation>Barang paket</translation>
     </message>
     <message>
         <source>Component</source>
-        <translation type="unfinished"></translation>
+        <translation>Komponen</translation>
     </message>
     <message>
         <source>Quantity</source>
-        <translation type="unfinished"></translation>
+        <translation>Jumlah</translation>
     </message>
     <message>
         <source>Cost</source>
-        <translation type="unfinished"></translation>
+        <translation>Biaya</translation>
     </message>
     <message>
         <source>Accounts</source>
@@ -6698,15 +6698,15 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>The ledger&apos;s accounts by their types.</source>
-        <translation type="unfinished"></translation>
+        <translation>Akun buku besar menurut jenisnya.</translation>
     </message>
     <message>
         <source>Accounts payable</source>
-        <translation type="unfinished"></translation>
+        <translation>Utang usaha</translation>
     </message>
     <message>
         <source>Accounts receivable</source>
-        <translation type="unfinished"></translation>
+        <translation>Piutang usaha</translation>
     </message>
     <message>
         <source>Income</source>
@@ -6722,7 +6722,7 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>Other current liabilities</source>
-        <translation type="unfinished"></translation>
+        <translation>Kewajiban lancar lainnya</translation>
     </message>
     <message>
         <source>Inventory</source>
@@ -6730,19 +6730,19 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>Cost of sales</source>
-        <translation type="unfinished"></translation>
+        <translation>Harga pokok penjualan</translation>
     </message>
     <message>
         <source>Type of account:</source>
-        <translation type="unfinished"></translation>
+        <translation>Jenis akun:</translation>
     </message>
     <message>
         <source>Type of account</source>
-        <translation type="unfinished"></translation>
+        <translation>Jenis akun</translation>
     </message>
     <message>
         <source>Active</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktif</translation>
     </message>
     <message>
         <source>Yes</source>
@@ -6758,15 +6758,15 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>The tables of the restaurant.</source>
-        <translation type="unfinished"></translation>
+        <translation>Meja-meja restoran.</translation>
     </message>
     <message>
         <source>Stock items</source>
-        <translation type="unfinished"></translation>
+        <translation>Barang stok</translation>
     </message>
     <message>
         <source>Menu and service items</source>
-        <translation type="unfinished"></translation>
+        <translation>Menu dan layanan</translation>
     </message>
     <message>
         <source>Items</source>
@@ -6774,11 +6774,11 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>Item types</source>
-        <translation type="unfinished"></translation>
+        <translation>Jenis barang</translation>
     </message>
     <message>
         <source>The kinds of items, and how many items are of each.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jenis barang, dan jumlah barang pada tiap jenis.</translation>
     </message>
     <message>
         <source>Units</source>
@@ -6786,31 +6786,31 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>The units that items are counted in, and how many items use each.</source>
-        <translation type="unfinished"></translation>
+        <translation>Satuan untuk menghitung barang, dan jumlah barang yang memakainya.</translation>
     </message>
     <message>
         <source>Age on:</source>
-        <translation type="unfinished"></translation>
+        <translation>Umur per:</translation>
     </message>
     <message>
         <source>Open orders</source>
-        <translation type="unfinished"></translation>
+        <translation>Pesanan terbuka</translation>
     </message>
     <message>
         <source>Orders that are not received, closed or cancelled, with what has come of each item so far. Late is counted from the ship date.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pesanan yang belum diterima, ditutup atau dibatalkan, dengan yang sudah datang dari tiap barang. Keterlambatan dihitung dari tanggal kirim.</translation>
     </message>
     <message>
         <source>Ship date</source>
-        <translation type="unfinished"></translation>
+        <translation>Tanggal kirim</translation>
     </message>
     <message>
         <source>Days late</source>
-        <translation type="unfinished"></translation>
+        <translation>Hari terlambat</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Baru</translation>
     </message>
     <message>
         <source>Sent to supplier</source>
@@ -6830,19 +6830,19 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>To come</source>
-        <translation type="unfinished"></translation>
+        <translation>Akan datang</translation>
     </message>
     <message>
         <source>Worth to come</source>
-        <translation type="unfinished"></translation>
+        <translation>Nilai yang akan datang</translation>
     </message>
     <message>
         <source>Returns to suppliers</source>
-        <translation type="unfinished"></translation>
+        <translation>Retur ke pemasok</translation>
     </message>
     <message>
         <source>What went back to suppliers, item by item. Cancelled returns are not in it; they moved nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Yang diretur ke pemasok, barang demi barang. Retur yang dibatalkan tidak termasuk; tidak ada yang berpindah.</translation>
     </message>
     <message>
         <source>Purchase No.</source>
@@ -6850,15 +6850,15 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>Price each</source>
-        <translation type="unfinished"></translation>
+        <translation>Harga satuan</translation>
     </message>
     <message>
         <source>Unpaid purchases</source>
-        <translation type="unfinished"></translation>
+        <translation>Pembelian belum lunas</translation>
     </message>
     <message>
         <source>Every purchase that is not fully paid today, the first due first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Setiap pembelian yang belum lunas hari ini, yang paling dulu jatuh tempo di atas.</translation>
     </message>
     <message>
         <source>Invoice No.</source>
@@ -6866,7 +6866,7 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>Due date</source>
-        <translation type="unfinished"></translation>
+        <translation>Jatuh tempo</translation>
     </message>
     <message>
         <source>Paid</source>
@@ -6874,51 +6874,51 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>Net due</source>
-        <translation type="unfinished"></translation>
+        <translation>Sisa tagihan</translation>
     </message>
     <message>
         <source>Payables by age</source>
-        <translation type="unfinished"></translation>
+        <translation>Utang menurut umur</translation>
     </message>
     <message>
         <source>What is still to be paid to each supplier today, by the days that have gone since it was due.</source>
-        <translation type="unfinished"></translation>
+        <translation>Yang masih harus dibayar kepada tiap pemasok hari ini, menurut jumlah hari sejak jatuh tempo.</translation>
     </message>
     <message>
         <source>Not yet due</source>
-        <translation type="unfinished"></translation>
+        <translation>Belum jatuh tempo</translation>
     </message>
     <message>
         <source>1-30 days</source>
-        <translation type="unfinished"></translation>
+        <translation>1-30 hari</translation>
     </message>
     <message>
         <source>31-60 days</source>
-        <translation type="unfinished"></translation>
+        <translation>31-60 hari</translation>
     </message>
     <message>
         <source>61-90 days</source>
-        <translation type="unfinished"></translation>
+        <translation>61-90 hari</translation>
     </message>
     <message>
         <source>Over 90 days</source>
-        <translation type="unfinished"></translation>
+        <translation>Lebih dari 90 hari</translation>
     </message>
     <message>
         <source>Bills paid</source>
-        <translation type="unfinished"></translation>
+        <translation>Tagihan dibayar</translation>
     </message>
     <message>
         <source>What was paid to suppliers for earlier purchases and for expenses. What was paid with the purchase itself is not in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Yang dibayar kepada pemasok untuk pembelian terdahulu dan untuk beban. Yang dibayar bersama pembeliannya tidak termasuk.</translation>
     </message>
     <message>
         <source>Paid by</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibayar dengan</translation>
     </message>
     <message>
         <source>Electronic funds transfer</source>
-        <translation type="unfinished"></translation>
+        <translation>Transfer dana elektronik</translation>
     </message>
     <message>
         <source>Check</source>
@@ -6926,15 +6926,15 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>Expenses</source>
-        <translation type="unfinished"></translation>
+        <translation>Beban</translation>
     </message>
     <message>
         <source>Code or name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Kode atau nama:</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished"></translation>
+        <translation>Alamat</translation>
     </message>
     <message>
         <source>Phone</source>
@@ -6942,19 +6942,19 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>E-mail</source>
-        <translation type="unfinished"></translation>
+        <translation>E-mail</translation>
     </message>
     <message>
         <source>Account No.</source>
-        <translation type="unfinished"></translation>
+        <translation>No. Rekening</translation>
     </message>
     <message>
         <source>Account holder</source>
-        <translation type="unfinished"></translation>
+        <translation>Pemilik rekening</translation>
     </message>
     <message>
         <source>Show:</source>
-        <translation type="unfinished"></translation>
+        <translation>Tampilkan:</translation>
     </message>
     <message>
         <source>Suppliers</source>
@@ -6962,15 +6962,15 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>The suppliers with their bank accounts, and what is to be paid to each today.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pemasok dengan rekening banknya, dan yang harus dibayar kepada masing-masing hari ini.</translation>
     </message>
     <message>
         <source>Only those to be paid</source>
-        <translation type="unfinished"></translation>
+        <translation>Hanya yang harus dibayar</translation>
     </message>
     <message>
         <source>To be paid</source>
-        <translation type="unfinished"></translation>
+        <translation>Harus dibayar</translation>
     </message>
     <message>
         <source>Members</source>
@@ -6978,23 +6978,23 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>The members with their discounts, and what each owes today on invoices that are not fully paid.</source>
-        <translation type="unfinished"></translation>
+        <translation>Anggota dengan diskonnya, dan utang masing-masing hari ini pada faktur yang belum lunas.</translation>
     </message>
     <message>
         <source>Only those who owe</source>
-        <translation type="unfinished"></translation>
+        <translation>Hanya yang berutang</translation>
     </message>
     <message>
         <source>Expires</source>
-        <translation type="unfinished"></translation>
+        <translation>Berakhir</translation>
     </message>
     <message>
         <source>Open invoices</source>
-        <translation type="unfinished"></translation>
+        <translation>Faktur belum lunas</translation>
     </message>
     <message>
         <source>Owes</source>
-        <translation type="unfinished"></translation>
+        <translation>Utang</translation>
     </message>
     <message>
         <source>Agents</source>
@@ -7002,11 +7002,11 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>The agents with their commissions and bank accounts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Agen dengan komisi dan rekening banknya.</translation>
     </message>
     <message>
         <source>Commission</source>
-        <translation type="unfinished"></translation>
+        <translation>Komisi</translation>
     </message>
     <message>
         <source>Employees</source>
@@ -7014,15 +7014,15 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>The employees who serve the tables.</source>
-        <translation type="unfinished"></translation>
+        <translation>Karyawan yang melayani meja.</translation>
     </message>
     <message>
         <source>User group:</source>
-        <translation type="unfinished"></translation>
+        <translation>Grup pengguna:</translation>
     </message>
     <message>
         <source>User group</source>
-        <translation type="unfinished"></translation>
+        <translation>Grup pengguna</translation>
     </message>
     <message>
         <source>Users</source>
@@ -7030,7 +7030,7 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>Who can log in, and in which group.</source>
-        <translation type="unfinished"></translation>
+        <translation>Siapa yang dapat masuk, dan di grup mana.</translation>
     </message>
     <message>
         <source>Created</source>
@@ -7038,11 +7038,11 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>Rights by group</source>
-        <translation type="unfinished"></translation>
+        <translation>Hak akses per grup</translation>
     </message>
     <message>
         <source>What each group of users may do. Own records are those that the user entered.</source>
-        <translation type="unfinished"></translation>
+        <translation>Yang boleh dilakukan tiap grup pengguna. Data sendiri adalah data yang diisi pengguna itu.</translation>
     </message>
     <message>
         <source>None</source>
@@ -7050,75 +7050,75 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>Own records</source>
-        <translation type="unfinished"></translation>
+        <translation>Data sendiri</translation>
     </message>
     <message>
         <source>All records</source>
-        <translation type="unfinished"></translation>
+        <translation>Semua data</translation>
     </message>
     <message>
         <source>Right:</source>
-        <translation type="unfinished"></translation>
+        <translation>Hak:</translation>
     </message>
     <message>
         <source>Subject</source>
-        <translation type="unfinished"></translation>
+        <translation>Bidang</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Hak</translation>
     </message>
     <message>
         <source>Granted on</source>
-        <translation type="unfinished"></translation>
+        <translation>Diberikan pada</translation>
     </message>
     <message>
         <source>Purchases by day</source>
-        <translation type="unfinished"></translation>
+        <translation>Pembelian per hari</translation>
     </message>
     <message>
         <source>What was bought on each day, paid or not. Returns are not taken off.</source>
-        <translation type="unfinished"></translation>
+        <translation>Yang dibeli setiap hari, sudah dibayar atau belum. Retur tidak dikurangkan.</translation>
     </message>
     <message>
         <source>Purchases by supplier</source>
-        <translation type="unfinished"></translation>
+        <translation>Pembelian per pemasok</translation>
     </message>
     <message>
         <source>What was bought from each supplier, and what of it is still to be paid. Returns are not taken off the totals.</source>
-        <translation type="unfinished"></translation>
+        <translation>Yang dibeli dari tiap pemasok, dan yang masih harus dibayar. Retur tidak mengurangi total.</translation>
     </message>
     <message>
         <source>Average</source>
-        <translation type="unfinished"></translation>
+        <translation>Rata-rata</translation>
     </message>
     <message>
         <source>Purchases by item</source>
-        <translation type="unfinished"></translation>
+        <translation>Pembelian per barang</translation>
     </message>
     <message>
         <source>What was bought of each item at the prices of the lines: discount and tax of the whole purchase are not in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Yang dibeli dari tiap barang menurut harga baris: diskon dan pajak seluruh pembelian tidak termasuk.</translation>
     </message>
     <message>
         <source>Lowest price</source>
-        <translation type="unfinished"></translation>
+        <translation>Harga terendah</translation>
     </message>
     <message>
         <source>Highest price</source>
-        <translation type="unfinished"></translation>
+        <translation>Harga tertinggi</translation>
     </message>
     <message>
         <source>Average price</source>
-        <translation type="unfinished"></translation>
+        <translation>Harga rata-rata</translation>
     </message>
     <message>
         <source>List of purchases</source>
-        <translation type="unfinished"></translation>
+        <translation>Daftar pembelian</translation>
     </message>
     <message>
         <source>Every purchase with what was paid at once, what was paid or credited later, and what is still due.</source>
-        <translation type="unfinished"></translation>
+        <translation>Setiap pembelian dengan yang dibayar langsung, yang dibayar atau dikreditkan kemudian, dan yang masih terutang.</translation>
     </message>
     <message>
         <source>Status:</source>
@@ -7126,59 +7126,59 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>Paid later</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibayar kemudian</translation>
     </message>
     <message>
         <source>Price history by item</source>
-        <translation type="unfinished"></translation>
+        <translation>Riwayat harga per barang</translation>
     </message>
     <message>
         <source>What each supplier asked for an item from purchase to purchase. The change is against the item&apos;s purchase before, from whomever it was.</source>
-        <translation type="unfinished"></translation>
+        <translation>Harga barang dari tiap pemasok dari pembelian ke pembelian. Perubahan dibandingkan dengan pembelian barang itu sebelumnya, dari pemasok mana pun.</translation>
     </message>
     <message>
         <source>Net price</source>
-        <translation type="unfinished"></translation>
+        <translation>Harga bersih</translation>
     </message>
     <message>
         <source>Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Perubahan</translation>
     </message>
     <message>
         <source>Commissions earned</source>
-        <translation type="unfinished"></translation>
+        <translation>Komisi diperoleh</translation>
     </message>
     <message>
         <source>The invoices that agents brought, with the commission at the percentage that the agent has today, and what was paid for it. Percentages of former times are known only where the commission was paid.</source>
-        <translation type="unfinished"></translation>
+        <translation>Faktur yang dibawa agen, dengan komisi menurut persentase agen hari ini, dan yang sudah dibayar. Persentase dahulu hanya diketahui bila komisinya sudah dibayar.</translation>
     </message>
     <message>
         <source>Not yet paid</source>
-        <translation type="unfinished"></translation>
+        <translation>Belum dibayar</translation>
     </message>
     <message>
         <source>Agent</source>
-        <translation type="unfinished"></translation>
+        <translation>Agen</translation>
     </message>
     <message>
         <source>Percent</source>
-        <translation type="unfinished"></translation>
+        <translation>Persen</translation>
     </message>
     <message>
         <source>Paid on</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibayar pada</translation>
     </message>
     <message>
         <source>Amount paid</source>
-        <translation type="unfinished"></translation>
+        <translation>Jumlah dibayar</translation>
     </message>
     <message>
         <source>Commissions paid</source>
-        <translation type="unfinished"></translation>
+        <translation>Komisi dibayar</translation>
     </message>
     <message>
         <source>The payments to agents, by the day of the payment. Amount paid is what was handed over: more than the commission means change came back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pembayaran kepada agen menurut hari pembayarannya. Jumlah dibayar adalah uang yang diserahkan: lebih dari komisi berarti ada kembalian.</translation>
     </message>
     <message>
         <source>Payment No.</source>
@@ -7190,67 +7190,67 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Referensi</translation>
     </message>
     <message>
         <source>Invoice number missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Nomor faktur hilang</translation>
     </message>
     <message>
         <source>Order paid or ended, its invoice deleted</source>
-        <translation type="unfinished"></translation>
+        <translation>Pesanan dibayar atau diakhiri, fakturnya dihapus</translation>
     </message>
     <message>
         <source>Invoice whose order&apos;s other invoice was deleted</source>
-        <translation type="unfinished"></translation>
+        <translation>Faktur yang faktur lain dari pesanannya dihapus</translation>
     </message>
     <message>
         <source>Payment for an invoice that was deleted</source>
-        <translation type="unfinished"></translation>
+        <translation>Pembayaran untuk faktur yang dihapus</translation>
     </message>
     <message>
         <source>Invoice saved again</source>
-        <translation type="unfinished"></translation>
+        <translation>Faktur disimpan lagi</translation>
     </message>
     <message>
         <source>Credit other than what members paid</source>
-        <translation type="unfinished"></translation>
+        <translation>Kredit selain yang dibayar anggota</translation>
     </message>
     <message>
         <source>Large discount</source>
-        <translation type="unfinished"></translation>
+        <translation>Diskon besar</translation>
     </message>
     <message>
         <source>Order ended with money still due</source>
-        <translation type="unfinished"></translation>
+        <translation>Pesanan diakhiri padahal masih ada tagihan</translation>
     </message>
     <message>
         <source>Dated on another day than it was saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Tanggalnya bukan hari penyimpanan</translation>
     </message>
     <message>
         <source>Exceptions</source>
-        <translation type="unfinished"></translation>
+        <translation>Pengecualian</translation>
     </message>
     <message>
         <source>Where to look twice. The data do not tell who deleted an invoice or when, nor what stood in it: a gap in the numbers or an order without its invoice is all that remains, and a gap may also come from running numbers that were changed. Of a changed invoice they tell who changed it last, but not what. A deleted member payment is seen only while another one of the same invoice stands.</source>
-        <translation type="unfinished"></translation>
+        <translation>Yang perlu diperiksa lagi. Data tidak mencatat siapa yang menghapus faktur atau kapan, dan apa isinya: yang tersisa hanya nomor yang terlewat atau pesanan tanpa faktur, dan nomor juga dapat terlewat karena nomor urut diubah. Dari faktur yang diubah tercatat siapa yang terakhir mengubahnya, tetapi tidak apa yang diubah. Pembayaran anggota yang dihapus hanya terlihat selama pembayaran lain untuk faktur yang sama masih ada.</translation>
     </message>
     <message>
         <source>Kind:</source>
-        <translation type="unfinished"></translation>
+        <translation>Macam:</translation>
     </message>
     <message>
         <source>Discounts from percent:</source>
-        <translation type="unfinished"></translation>
+        <translation>Diskon mulai persen:</translation>
     </message>
     <message>
         <source>Document</source>
-        <translation type="unfinished"></translation>
+        <translation>Dokumen</translation>
     </message>
     <message>
         <source>Guest or table</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamu atau meja</translation>
     </message>
     <message>
         <source>Amount</source>
@@ -7258,15 +7258,15 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>Saved by</source>
-        <translation type="unfinished"></translation>
+        <translation>Disimpan oleh</translation>
     </message>
     <message>
         <source>Saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Disimpan</translation>
     </message>
     <message>
         <source>Changed by</source>
-        <translation type="unfinished"></translation>
+        <translation>Diubah oleh</translation>
     </message>
     <message>
         <source>Guest</source>
@@ -7274,15 +7274,15 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>Member</source>
-        <translation type="unfinished"></translation>
+        <translation>Anggota</translation>
     </message>
     <message>
         <source>No member</source>
-        <translation type="unfinished"></translation>
+        <translation>Tanpa anggota</translation>
     </message>
     <message>
         <source>Each invoice of the period, as in the list of all sales. For years of sales the reports by month are the better choice.</source>
-        <translation type="unfinished"></translation>
+        <translation>Setiap faktur dalam periode, seperti di daftar semua penjualan. Untuk penjualan bertahun-tahun lebih baik pilih laporan per bulan.</translation>
     </message>
     <message>
         <source>Waitress</source>
@@ -7290,139 +7290,139 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>Discounts given</source>
-        <translation type="unfinished"></translation>
+        <translation>Diskon diberikan</translation>
     </message>
     <message>
         <source>The invoices with a discount, by the cashier who saved them first. The percentage is of the subtotal, before tax and service.</source>
-        <translation type="unfinished"></translation>
+        <translation>Faktur dengan diskon, per kasir yang pertama menyimpannya. Persentasenya dari subtotal, sebelum pajak dan layanan.</translation>
     </message>
     <message>
         <source>From percent:</source>
-        <translation type="unfinished"></translation>
+        <translation>Mulai persen:</translation>
     </message>
     <message>
         <source>Until:</source>
-        <translation type="unfinished"></translation>
+        <translation>Sampai:</translation>
     </message>
     <message>
         <source>The invoices up to the day that are not fully paid today. Days late are counted from the due date, or from the sale where there is none.</source>
-        <translation type="unfinished"></translation>
+        <translation>Faktur sampai hari itu yang belum lunas hari ini. Hari terlambat dihitung dari jatuh tempo, atau dari penjualan bila tidak ada.</translation>
     </message>
     <message>
         <source>Receivables by age</source>
-        <translation type="unfinished"></translation>
+        <translation>Piutang menurut umur</translation>
     </message>
     <message>
         <source>What members and guests owe on the invoices up to the day, as it stands today, by the days since it was due.</source>
-        <translation type="unfinished"></translation>
+        <translation>Utang anggota dan tamu pada faktur sampai hari itu, menurut keadaan hari ini, berdasarkan jumlah hari sejak jatuh tempo.</translation>
     </message>
     <message>
         <source>1 to 30 days</source>
-        <translation type="unfinished"></translation>
+        <translation>1 sampai 30 hari</translation>
     </message>
     <message>
         <source>31 to 60 days</source>
-        <translation type="unfinished"></translation>
+        <translation>31 sampai 60 hari</translation>
     </message>
     <message>
         <source>61 to 90 days</source>
-        <translation type="unfinished"></translation>
+        <translation>61 sampai 90 hari</translation>
     </message>
     <message>
         <source>Share</source>
-        <translation type="unfinished"></translation>
+        <translation>Bagian</translation>
     </message>
     <message>
         <source>Sold</source>
-        <translation type="unfinished"></translation>
+        <translation>Terjual</translation>
     </message>
     <message>
         <source>Sales by item</source>
-        <translation type="unfinished"></translation>
+        <translation>Penjualan per barang</translation>
     </message>
     <message>
         <source>What was sold of each item, at the prices of the lines: discount, tax and service of the whole invoice are not in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Yang terjual dari tiap barang menurut harga baris: diskon, pajak dan layanan seluruh faktur tidak termasuk.</translation>
     </message>
     <message>
         <source>Sales by item type</source>
-        <translation type="unfinished"></translation>
+        <translation>Penjualan per jenis barang</translation>
     </message>
     <message>
         <source>What the kinds of items bring, at the prices of the lines: discount, tax and service of the whole invoice are not in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pendapatan tiap jenis barang menurut harga baris: diskon, pajak dan layanan seluruh faktur tidak termasuk.</translation>
     </message>
     <message>
         <source>Different items</source>
-        <translation type="unfinished"></translation>
+        <translation>Ragam barang</translation>
     </message>
     <message>
         <source>Margin by item</source>
-        <translation type="unfinished"></translation>
+        <translation>Margin per barang</translation>
     </message>
     <message>
         <source>What remains of the sales of each item after its cost: the price of its last purchase up to the end of the period, before discounts of that purchase, or the item&apos;s unit cost where none was made. Discounts of whole invoices are not in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sisa penjualan tiap barang setelah biayanya: harga pembelian terakhir sampai akhir periode, sebelum diskon pembelian itu, atau biaya satuan barang bila belum pernah dibeli. Diskon seluruh faktur tidak termasuk.</translation>
     </message>
     <message>
         <source>Cost each</source>
-        <translation type="unfinished"></translation>
+        <translation>Biaya satuan</translation>
     </message>
     <message>
         <source>Sales by type</source>
-        <translation type="unfinished"></translation>
+        <translation>Penjualan per jenis</translation>
     </message>
     <message>
         <source>Dine in, fast food and take away side by side.</source>
-        <translation type="unfinished"></translation>
+        <translation>Makan di tempat, cepat saji dan bawa pulang berdampingan.</translation>
     </message>
     <message>
         <source>Sales by table</source>
-        <translation type="unfinished"></translation>
+        <translation>Penjualan per meja</translation>
     </message>
     <message>
         <source>What each table brought, at the table where the guests paid. Each part of a divided bill counts as a sale.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pendapatan tiap meja, pada meja tempat tamu membayar. Tiap bagian tagihan yang dipisah dihitung sebagai satu penjualan.</translation>
     </message>
     <message>
         <source>Table</source>
-        <translation type="unfinished"></translation>
+        <translation>Meja</translation>
     </message>
     <message>
         <source>Sales by waitress</source>
-        <translation type="unfinished"></translation>
+        <translation>Penjualan per pramusaji</translation>
     </message>
     <message>
         <source>What was sold under each waitress&apos;s name. Take-away has none.</source>
-        <translation type="unfinished"></translation>
+        <translation>Yang terjual atas nama tiap pramusaji. Bawa pulang tidak memiliki pramusaji.</translation>
     </message>
     <message>
         <source>No waitress</source>
-        <translation type="unfinished"></translation>
+        <translation>Tanpa pramusaji</translation>
     </message>
     <message>
         <source>Sales by cashier</source>
-        <translation type="unfinished"></translation>
+        <translation>Penjualan per kasir</translation>
     </message>
     <message>
         <source>Who saved the invoices first. Whoever changes one later is told on the page of exceptions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Siapa yang pertama menyimpan faktur. Yang mengubahnya kemudian tercantum di halaman pengecualian.</translation>
     </message>
     <message>
         <source>Sales by member</source>
-        <translation type="unfinished"></translation>
+        <translation>Penjualan per anggota</translation>
     </message>
     <message>
         <source>What each member spent, and what is still due of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Belanja tiap anggota, dan sisa yang masih terutang.</translation>
     </message>
     <message>
         <source>Sales by agent</source>
-        <translation type="unfinished"></translation>
+        <translation>Penjualan per agen</translation>
     </message>
     <message>
         <source>What the guests spent whom an agent brought. Take-away has none.</source>
-        <translation type="unfinished"></translation>
+        <translation>Belanja tamu yang dibawa agen. Bawa pulang tidak memiliki agen.</translation>
     </message>
     <message>
         <source>Type</source>
@@ -7430,107 +7430,107 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>Days</source>
-        <translation type="unfinished"></translation>
+        <translation>Hari</translation>
     </message>
     <message>
         <source>Total per day</source>
-        <translation type="unfinished"></translation>
+        <translation>Total per hari</translation>
     </message>
     <message>
         <source>Sales by hour</source>
-        <translation type="unfinished"></translation>
+        <translation>Penjualan per jam</translation>
     </message>
     <message>
         <source>At which hours of the day the invoices were saved first, which is when the guests paid rather than when they came. Days counts the days of the period with any sale.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pada jam berapa faktur pertama kali disimpan, yaitu saat tamu membayar, bukan saat tamu datang. Hari menghitung hari dalam periode yang ada penjualannya.</translation>
     </message>
     <message>
         <source>Hour</source>
-        <translation type="unfinished"></translation>
+        <translation>Jam</translation>
     </message>
     <message>
         <source>Sales by weekday</source>
-        <translation type="unfinished"></translation>
+        <translation>Penjualan per hari dalam minggu</translation>
     </message>
     <message>
         <source>What each weekday brings. Days counts the days with a sale, so that a holiday does not lower the total per day.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pendapatan tiap hari dalam minggu. Hari menghitung hari yang ada penjualannya, sehingga hari libur tidak menurunkan total per hari.</translation>
     </message>
     <message>
         <source>Weekday</source>
-        <translation type="unfinished"></translation>
+        <translation>Hari</translation>
     </message>
     <message>
         <source>Monday</source>
-        <translation type="unfinished"></translation>
+        <translation>Senin</translation>
     </message>
     <message>
         <source>Tuesday</source>
-        <translation type="unfinished"></translation>
+        <translation>Selasa</translation>
     </message>
     <message>
         <source>Wednesday</source>
-        <translation type="unfinished"></translation>
+        <translation>Rabu</translation>
     </message>
     <message>
         <source>Thursday</source>
-        <translation type="unfinished"></translation>
+        <translation>Kamis</translation>
     </message>
     <message>
         <source>Friday</source>
-        <translation type="unfinished"></translation>
+        <translation>Jumat</translation>
     </message>
     <message>
         <source>Saturday</source>
-        <translation type="unfinished"></translation>
+        <translation>Sabtu</translation>
     </message>
     <message>
         <source>Sunday</source>
-        <translation type="unfinished"></translation>
+        <translation>Minggu</translation>
     </message>
     <message>
         <source>What was invoiced on each day, paid or not. Cash is what was received at the sale less the change; credit is what was settled otherwise, by members later too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Yang difakturkan setiap hari, sudah dibayar atau belum. Tunai adalah yang diterima saat penjualan dikurangi kembalian; kredit adalah yang dilunasi dengan cara lain, juga kemudian oleh anggota.</translation>
     </message>
     <message>
         <source>Sales by week</source>
-        <translation type="unfinished"></translation>
+        <translation>Penjualan per minggu</translation>
     </message>
     <message>
         <source>What was invoiced in each week from Monday to Sunday. The first and the last week count the days of the period alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Yang difakturkan setiap minggu dari Senin sampai Minggu. Minggu pertama dan terakhir hanya menghitung hari dalam periode.</translation>
     </message>
     <message>
         <source>Week from</source>
-        <translation type="unfinished"></translation>
+        <translation>Minggu mulai</translation>
     </message>
     <message>
         <source>Sales by month</source>
-        <translation type="unfinished"></translation>
+        <translation>Penjualan per bulan</translation>
     </message>
     <message>
         <source>What was invoiced in each month. The first and the last month count the days of the period alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Yang difakturkan setiap bulan. Bulan pertama dan terakhir hanya menghitung hari dalam periode.</translation>
     </message>
     <message>
         <source>Month</source>
-        <translation type="unfinished"></translation>
+        <translation>Bulan</translation>
     </message>
     <message>
         <source>Movements by item</source>
-        <translation type="unfinished"></translation>
+        <translation>Mutasi per barang</translation>
     </message>
     <message>
         <source>What there was of each item before the period, what came and went in it, and what was left. Counted is what counts of the storeroom changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stok tiap barang sebelum periode, yang masuk dan keluar selama periode, dan sisanya. Hasil hitung adalah perubahan dari hitungan gudang.</translation>
     </message>
     <message>
         <source>Before</source>
-        <translation type="unfinished"></translation>
+        <translation>Sebelum</translation>
     </message>
     <message>
         <source>Bought</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibeli</translation>
     </message>
     <message>
         <source>Returned</source>
@@ -7538,23 +7538,23 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>Counted</source>
-        <translation type="unfinished"></translation>
+        <translation>Hasil hitung</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Sisa</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Nilai</translation>
     </message>
     <message>
         <source>Movements by day</source>
-        <translation type="unfinished"></translation>
+        <translation>Mutasi per hari</translation>
     </message>
     <message>
         <source>Every purchase, return and adjustment of an item, and what was sold of it on each day.</source>
-        <translation type="unfinished"></translation>
+        <translation>Setiap pembelian, retur dan penyesuaian suatu barang, serta yang terjual setiap hari.</translation>
     </message>
     <message>
         <source>Purchase</source>
@@ -7570,15 +7570,15 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>Movement:</source>
-        <translation type="unfinished"></translation>
+        <translation>Mutasi:</translation>
     </message>
     <message>
         <source>Movement</source>
-        <translation type="unfinished"></translation>
+        <translation>Mutasi</translation>
     </message>
     <message>
         <source>No. or reason</source>
-        <translation type="unfinished"></translation>
+        <translation>No. atau alasan</translation>
     </message>
     <message>
         <source>In</source>
@@ -7590,138 +7590,138 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>Adjustments by reason</source>
-        <translation type="unfinished"></translation>
+        <translation>Penyesuaian per alasan</translation>
     </message>
     <message>
         <source>What counts of the storeroom took away or added, why, and who entered it; the worth is at the price of the last purchase.</source>
-        <translation type="unfinished"></translation>
+        <translation>Yang dikurangi atau ditambah oleh hitungan gudang, alasannya, dan siapa yang mengisinya; nilainya menurut harga pembelian terakhir.</translation>
     </message>
     <message>
         <source>User:</source>
-        <translation type="unfinished"></translation>
+        <translation>Pengguna:</translation>
     </message>
     <message>
         <source>Reason</source>
-        <translation type="unfinished"></translation>
+        <translation>Alasan</translation>
     </message>
     <message>
         <source>After</source>
-        <translation type="unfinished"></translation>
+        <translation>Sesudah</translation>
     </message>
     <message>
         <source>Worth</source>
-        <translation type="unfinished"></translation>
+        <translation>Nilai</translation>
     </message>
     <message>
         <source>Usage against purchases</source>
-        <translation type="unfinished"></translation>
+        <translation>Pemakaian terhadap pembelian</translation>
     </message>
     <message>
         <source>What was bought of each item, less what went back, beside what was sold of it, alone or as a component of grouped items. Much more bought than used is waste, loss or a growing stock. Components do not change the stock on hand.</source>
-        <translation type="unfinished"></translation>
+        <translation>Yang dibeli dari tiap barang, dikurangi yang diretur, di samping yang terjual, sendiri atau sebagai komponen barang paket. Pembelian yang jauh melebihi pemakaian berarti terbuang, hilang atau stok bertambah. Komponen tidak mengubah stok tersedia.</translation>
     </message>
     <message>
         <source>In grouped items</source>
-        <translation type="unfinished"></translation>
+        <translation>Dalam barang paket</translation>
     </message>
     <message>
         <source>Used</source>
-        <translation type="unfinished"></translation>
+        <translation>Terpakai</translation>
     </message>
     <message>
         <source>Not used</source>
-        <translation type="unfinished"></translation>
+        <translation>Tidak dipakai</translation>
     </message>
     <message>
         <source>Used %</source>
-        <translation type="unfinished"></translation>
+        <translation>Terpakai %</translation>
     </message>
     <message>
         <source>On:</source>
-        <translation type="unfinished"></translation>
+        <translation>Pada:</translation>
     </message>
     <message>
         <source>On hand</source>
-        <translation type="unfinished"></translation>
+        <translation>Stok</translation>
     </message>
     <message>
         <source>Stock on hand</source>
-        <translation type="unfinished"></translation>
+        <translation>Stok tersedia</translation>
     </message>
     <message>
         <source>What there was of each stock item at the end of the day, and its worth at the price of the last purchase until then, or at the item&apos;s unit cost where none was made.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stok tiap barang pada akhir hari, dan nilainya menurut harga pembelian terakhir sampai saat itu, atau menurut biaya satuan barang bila belum pernah dibeli.</translation>
     </message>
     <message>
         <source>Quantity:</source>
-        <translation type="unfinished"></translation>
+        <translation>Jumlah:</translation>
     </message>
     <message>
         <source>More than zero</source>
-        <translation type="unfinished"></translation>
+        <translation>Lebih dari nol</translation>
     </message>
     <message>
         <source>Zero or below</source>
-        <translation type="unfinished"></translation>
+        <translation>Nol atau kurang</translation>
     </message>
     <message>
         <source>Negative stock</source>
-        <translation type="unfinished"></translation>
+        <translation>Stok minus</translation>
     </message>
     <message>
         <source>Items of which more was sold than there can have been: a purchase or a count was not entered, or a sale was entered on the wrong item.</source>
-        <translation type="unfinished"></translation>
+        <translation>Barang yang terjual lebih banyak daripada yang mungkin ada: pembelian atau hitungan stok belum diisi, atau penjualan diisi pada barang yang salah.</translation>
     </message>
     <message>
         <source>Last counted</source>
-        <translation type="unfinished"></translation>
+        <translation>Terakhir dihitung</translation>
     </message>
     <message>
         <source>Idle stock</source>
-        <translation type="unfinished"></translation>
+        <translation>Stok diam</translation>
     </message>
     <message>
         <source>What there is of items that were neither sold nor bought for so many days: money that lies in the storeroom.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stok barang yang tidak terjual dan tidak dibeli selama sekian hari: uang yang mengendap di gudang.</translation>
     </message>
     <message>
         <source>Idle days:</source>
-        <translation type="unfinished"></translation>
+        <translation>Hari diam:</translation>
     </message>
     <message>
         <source>Last sold</source>
-        <translation type="unfinished"></translation>
+        <translation>Terakhir terjual</translation>
     </message>
     <message>
         <source>Idle days</source>
-        <translation type="unfinished"></translation>
+        <translation>Hari diam</translation>
     </message>
 </context>
 <context>
     <name>RestoreInstallPage</name>
     <message>
         <source>Restore from Backup File Installation Details</source>
-        <translation type="unfinished"></translation>
+        <translation>Rincian Pemulihan dari Berkas Cadangan</translation>
     </message>
     <message>
         <source>Below you should enter your database connection details and backup file path.</source>
-        <translation type="unfinished"></translation>
+        <translation>Isi rincian sambungan basis data dan lokasi berkas cadangan di bawah ini.</translation>
     </message>
     <message>
         <source>Hostname:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nama Host:</translation>
     </message>
     <message>
         <source>Username:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nama Pengguna:</translation>
     </message>
     <message>
         <source>Password:</source>
-        <translation type="unfinished"></translation>
+        <translation>Kata Sandi:</translation>
     </message>
     <message>
         <source>Database Port:</source>
-        <translation type="unfinished"></translation>
+        <translation>Port Basis Data:</translation>
     </message>
     <message>
         <source>Browse</source>
@@ -7729,19 +7729,19 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>Backup File Path:</source>
-        <translation type="unfinished"></translation>
+        <translation>Lokasi Berkas Cadangan:</translation>
     </message>
     <message>
         <source>Restore to Database:</source>
-        <translation type="unfinished"></translation>
+        <translation>Pulihkan ke Basis Data:</translation>
     </message>
     <message>
         <source>Set it where the server has no database of this name yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Pilih bila server belum punya basis data dengan nama ini</translation>
     </message>
     <message>
         <source>Create a New Database:</source>
-        <translation type="unfinished"></translation>
+        <translation>Buat Basis Data Baru:</translation>
     </message>
     <message>
         <source>Open File</source>
@@ -10394,7 +10394,7 @@ Silakan pasang data awal</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Peringatan</translation>
     </message>
 </context>
 <context>
