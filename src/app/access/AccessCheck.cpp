@@ -9,8 +9,6 @@
 namespace
 {
 enum Grant { None, Owner, All };
-
-QString text(const char* source) { return QCoreApplication::translate("AccessCheck", source); }
 } // namespace
 
 bool checkAccess(const QString& businessName, int key, const KorEntity* entity)
@@ -36,7 +34,9 @@ bool hasAccess(const QString& businessName, int key, const KorEntity* entity)
         return true;
     const AppContext::Captions* captions = AppContext::instance()->accessCaptions();
     const QString caption = captions ? captions->value(businessName + QString::number(key)) : QString();
-    QMessageBox::critical(nullptr, text("Error"),
-                          text("You don't have access.\r\nRequired permission: %1").arg(businessName + '.' + caption));
+    QMessageBox::critical(
+        nullptr, QCoreApplication::translate("AccessCheck", "Error"),
+        QCoreApplication::translate("AccessCheck", "You don't have access.\r\nRequired permission: %1")
+            .arg(businessName + '.' + caption));
     return false;
 }

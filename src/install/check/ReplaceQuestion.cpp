@@ -6,25 +6,20 @@
 #include <QMessageBox>
 #include <QPushButton>
 
-namespace
-{
-QString text(const char* source) { return QCoreApplication::translate("ReplaceQuestion", source); }
-} // namespace
-
 ReplaceQuestion::Answer ReplaceQuestion::ask(QWidget* parent, Offer offer)
 {
     const DatabaseCondition condition = DatabaseCondition::read();
     if (!condition.hasTables())
         return Replace;
-    QMessageBox box(QMessageBox::Question, text("Question"),
-                    text("The database %1 is in use already. A clean installation makes all tables anew, and "
-                         "everything that they hold is lost. Do you want that?")
+    QMessageBox box(QMessageBox::Question, tr("Question"),
+                    tr("The database %1 is in use already. A clean installation makes all tables anew, and "
+                       "everything that they hold is lost. Do you want that?")
                         .arg(KorDatabase::current().databaseName()),
                     QMessageBox::Yes | QMessageBox::No, parent);
     if (offer == UseToo && condition.isUsable()) {
-        box.setInformativeText(text("A further workstation of the restaurant uses it as it is."));
+        box.setInformativeText(tr("A further workstation of the restaurant uses it as it is."));
         QPushButton* use = box.addButton(QMessageBox::Open);
-        use->setText(text("&Use It As It Is"));
+        use->setText(tr("&Use It As It Is"));
         use->setIcon(QIcon(":/icons/database.png"));
     }
     box.setDefaultButton(QMessageBox::No);

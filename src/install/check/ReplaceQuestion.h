@@ -1,10 +1,14 @@
 #pragma once
 
+#include <QCoreApplication>
+
 class QWidget;
 
 /** Asks before the tables of the open database are made anew. */
 class ReplaceQuestion
 {
+    Q_DECLARE_TR_FUNCTIONS(ReplaceQuestion)
+
 public:
     enum Answer { Replace, Leave, UseAsItIs };
     enum Offer { ReplaceOnly, UseToo };

@@ -9,21 +9,14 @@
 #include <QFileInfo>
 #include <QMessageBox>
 
-namespace
-{
-QString text(const char* source) { return QCoreApplication::translate("WizardConnection", source); }
-} // namespace
-
-namespace WizardConnection
-{
-QString settingsPath()
+QString WizardConnection::settingsPath()
 {
     const QString path = ConnectionSettings::defaultPath();
     QDir().mkpath(QFileInfo(path).path());
     return path;
 }
 
-bool open(QWidget* parent, const ConnectionSettings& connection)
+bool WizardConnection::open(QWidget* parent, const ConnectionSettings& connection)
 {
     DatabaseManager* manager = AppContext::instance()->databaseManager();
     QApplication::setOverrideCursor(Qt::WaitCursor);
@@ -33,19 +26,18 @@ bool open(QWidget* parent, const ConnectionSettings& connection)
     QApplication::restoreOverrideCursor();
     if (opened)
         return true;
-    QMessageBox box(QMessageBox::Critical, text("Error"),
-                    text("Can not connect to the database, please update your database connection details"),
+    QMessageBox box(QMessageBox::Critical, tr("Error"),
+                    tr("Can not connect to the database, please update your database connection details"),
                     QMessageBox::Ok, parent);
     box.setInformativeText(manager->lastErrorText().trimmed());
     box.exec();
     return false;
 }
 
-bool save(QWidget* parent, const ConnectionSettings& connection, const QString& path)
+bool WizardConnection::save(QWidget* parent, const ConnectionSettings& connection, const QString& path)
 {
     if (connection.write(path))
         return true;
-    QMessageBox::critical(parent, text("Error"), text("Can't write the settings file: %1").arg(path));
+    QMessageBox::critical(parent, tr("Error"), tr("Can't write the settings file: %1").arg(path));
     return false;
 }
-} // namespace WizardConnection

@@ -28,8 +28,7 @@ QList<QPair<QString, QVariant>> paymentTypeRows()
 
 QList<QPair<QString, QVariant>> supplierPaymentTypeRows()
 {
-    const auto text = [](const char* words) { return QCoreApplication::translate("PaymentType", words); };
-    return {{text("Cash"), EntityPayment::CASH},
-            {text("Electronic funds transfer"), EntityPayment::ELECTRONIC},
-            {text("Checks"), EntityPayment::CHECK}};
+    return {{QCoreApplication::translate("PaymentType", "Cash"), EntityPayment::CASH},
+            {QCoreApplication::translate("PaymentType", "Electronic funds transfer"), EntityPayment::ELECTRONIC},
+            {QCoreApplication::translate("PaymentType", "Checks"), EntityPayment::CHECK}};
 }
