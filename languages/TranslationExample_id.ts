@@ -1774,6 +1774,10 @@
         <translation>Berkas cadangan %1 tidak ada.</translation>
     </message>
     <message>
+        <source>The backup %1 was cut off while it was written. The one before it is %2: please take that.</source>
+        <translation>Cadangan %1 terputus saat ditulis. Yang sebelumnya ada di %2: pakailah yang itu.</translation>
+    </message>
+    <message>
         <source>Question</source>
         <translation>Pertanyaan</translation>
     </message>
