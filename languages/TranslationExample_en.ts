@@ -7172,15 +7172,15 @@ Please fill the db connection fields and install the initial data</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Order paid or ended, its invoice deleted</source>
+        <source>Order without its invoice</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Invoice whose order&apos;s other invoice was deleted</source>
+        <source>Invoice without its order</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Payment for an invoice that was deleted</source>
+        <source>Payment for a deleted invoice</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -7188,7 +7188,7 @@ Please fill the db connection fields and install the initial data</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Credit other than what members paid</source>
+        <source>Credit unlike the payments</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -7196,11 +7196,11 @@ Please fill the db connection fields and install the initial data</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Order ended with money still due</source>
+        <source>Ended with money due</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Dated on another day than it was saved</source>
+        <source>Dated on another day</source>
         <translation type="unfinished"></translation>
     </message>
     <message>

@@ -7201,36 +7201,36 @@ Isi kolom sambungan db dan pasang data awal</translation>
         <translation>Nomor faktur hilang</translation>
     </message>
     <message>
-        <source>Order paid or ended, its invoice deleted</source>
-        <translation>Pesanan dibayar atau diakhiri, fakturnya dihapus</translation>
+        <source>Order without its invoice</source>
+        <translation>Pesanan tanpa fakturnya</translation>
     </message>
     <message>
-        <source>Invoice whose order&apos;s other invoice was deleted</source>
-        <translation>Faktur yang faktur lain dari pesanannya dihapus</translation>
+        <source>Invoice without its order</source>
+        <translation>Faktur tanpa pesanannya</translation>
     </message>
     <message>
-        <source>Payment for an invoice that was deleted</source>
-        <translation>Pembayaran untuk faktur yang dihapus</translation>
+        <source>Payment for a deleted invoice</source>
+        <translation>Pembayaran untuk faktur yang sudah dihapus</translation>
     </message>
     <message>
         <source>Invoice saved again</source>
         <translation>Faktur disimpan lagi</translation>
     </message>
     <message>
-        <source>Credit other than what members paid</source>
-        <translation>Kredit selain yang dibayar anggota</translation>
+        <source>Credit unlike the payments</source>
+        <translation>Kredit tidak sama dengan pembayaran</translation>
     </message>
     <message>
         <source>Large discount</source>
         <translation>Diskon besar</translation>
     </message>
     <message>
-        <source>Order ended with money still due</source>
-        <translation>Pesanan diakhiri padahal masih ada tagihan</translation>
+        <source>Ended with money due</source>
+        <translation>Diakhiri tetapi belum lunas</translation>
     </message>
     <message>
-        <source>Dated on another day than it was saved</source>
-        <translation>Tanggalnya bukan hari penyimpanan</translation>
+        <source>Dated on another day</source>
+        <translation>Tanggalnya lain dari hari disimpan</translation>
     </message>
     <message>
         <source>Exceptions</source>

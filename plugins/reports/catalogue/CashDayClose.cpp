@@ -73,6 +73,7 @@ Report dayClose()
     report.columns = {Column::text("cashier", QT_TRANSLATE_NOOP("Reports", "Cashier"))
                           .words({{"", QT_TRANSLATE_NOOP("Reports", "Not known")}}),
                       Column::text("account", QT_TRANSLATE_NOOP("Reports", "Account")),
+                      money("expected", QT_TRANSLATE_NOOP("Reports", "Expected cash")),
                       Column::count("sales", QT_TRANSLATE_NOOP("Reports", "Sales")).sum(),
                       money("total", QT_TRANSLATE_NOOP("Reports", "Total")),
                       money("cash", QT_TRANSLATE_NOOP("Reports", "Cash")),
@@ -82,7 +83,6 @@ Report dayClose()
                       money("membertransfer", QT_TRANSLATE_NOOP("Reports", "Members: transfer")),
                       money("membercheck", QT_TRANSLATE_NOOP("Reports", "Members: check")),
                       money("received", QT_TRANSLATE_NOOP("Reports", "Other in")),
-                      money("spent", QT_TRANSLATE_NOOP("Reports", "Paid out")),
-                      money("expected", QT_TRANSLATE_NOOP("Reports", "Expected cash"))};
+                      money("spent", QT_TRANSLATE_NOOP("Reports", "Paid out"))};
     return report;
 }

@@ -105,7 +105,8 @@ Report byKind()
                                      "on both of its accounts; choose an account to see one side alone."));
     report.query = "select kind, count(*) as movements, sum(debit) as debit, sum(credit) as credit, "
                    "sum(debit - credit) as net from (" +
-                   CashLedger::movements("between :from and :to") + ") moved group by kind order by kind";
+                   CashLedger::movements("between :from and :to") +
+                   ") moved group by kind order by sum(debit + credit) desc, kind";
     report.columns = {kind(), Column::count("movements", QT_TRANSLATE_NOOP("Reports", "Movements")).sum(), in(), out(),
                       net()};
     report.chart = ReportChart::bars("kind", {"debit", "credit"});

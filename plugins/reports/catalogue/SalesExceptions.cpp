@@ -9,14 +9,14 @@ const QList<QPair<QVariant, const char*>>& kinds()
 {
     static const QList<QPair<QVariant, const char*>> kinds{
         {"gap", QT_TRANSLATE_NOOP("Reports", "Invoice number missing")},
-        {"gone", QT_TRANSLATE_NOOP("Reports", "Order paid or ended, its invoice deleted")},
-        {"loose", QT_TRANSLATE_NOOP("Reports", "Invoice whose order's other invoice was deleted")},
-        {"orphan", QT_TRANSLATE_NOOP("Reports", "Payment for an invoice that was deleted")},
+        {"gone", QT_TRANSLATE_NOOP("Reports", "Order without its invoice")},
+        {"loose", QT_TRANSLATE_NOOP("Reports", "Invoice without its order")},
+        {"orphan", QT_TRANSLATE_NOOP("Reports", "Payment for a deleted invoice")},
         {"again", QT_TRANSLATE_NOOP("Reports", "Invoice saved again")},
-        {"credit", QT_TRANSLATE_NOOP("Reports", "Credit other than what members paid")},
+        {"credit", QT_TRANSLATE_NOOP("Reports", "Credit unlike the payments")},
         {"discount", QT_TRANSLATE_NOOP("Reports", "Large discount")},
-        {"unpaid", QT_TRANSLATE_NOOP("Reports", "Order ended with money still due")},
-        {"day", QT_TRANSLATE_NOOP("Reports", "Dated on another day than it was saved")}};
+        {"unpaid", QT_TRANSLATE_NOOP("Reports", "Ended with money due")},
+        {"day", QT_TRANSLATE_NOOP("Reports", "Dated on another day")}};
     return kinds;
 }
 
