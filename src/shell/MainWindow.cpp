@@ -26,13 +26,12 @@
 #include "shell/DialogAbout.h"
 #include "shell/InterfaceLanguage.h"
 #include "shell/MenuShortcuts.h"
-#include "shell/PageBoxes.h"
+#include "shell/PageArea.h"
 #include "shell/RestartStatus.h"
 #include "shell/Sidebar.h"
 
 #include "ui_MainWindow.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QEvent>
 #include <QHash>
@@ -47,8 +46,7 @@ constexpr int updateCheckDelay = 2000;
 } // namespace
 
 MainWindow::MainWindow(QWidget* parent)
-    : QMainWindow(parent), m_ui(std::make_unique<Ui::MainWindow>()), m_tabFactories(allTabFactories()),
-      m_statusUser(new QLabel(this)),
+    : QMainWindow(parent), m_ui(std::make_unique<Ui::MainWindow>()), m_statusUser(new QLabel(this)),
       m_language(new InterfaceLanguage(QCoreApplication::applicationDirPath() + "/languages", this))
 {
     m_ui->setupUi(this);
@@ -60,7 +58,8 @@ MainWindow::MainWindow(QWidget* parent)
     showMaximized();
     m_configuration = service<BusinessConfiguration>("Configuration");
 
-    m_ui->tabWidget->setTabsClosable(true);
+    m_pages = new PageArea(m_ui->tabWidget);
+    connect(m_pages, &PageArea::changed, this, &MainWindow::tickDashboard);
     connect(m_ui->tabWidget, &QTabWidget::tabCloseRequested, this, &MainWindow::closeTabX);
     nameUser();
     setWindowIcon(QIcon(":/icons/Beverage-Coffee-02.png"));
@@ -129,7 +128,7 @@ void MainWindow::changeEvent(QEvent* event)
         m_ui->retranslateUi(this);
         m_sidebar->retranslate();
         nameUser();
-        retranslatePages();
+        m_pages->retranslate();
     }
     QMainWindow::changeEvent(event);
 }
@@ -156,155 +155,34 @@ void MainWindow::slotLanguageChanged(QAction* action)
 
 bool MainWindow::openTab(const QString& className)
 {
-    const int open = findPage(className);
-    if (open >= 0) {
-        showPage(open);
-        return false;
-    }
-    const auto factory = m_tabFactories.constFind(className);
-    if (factory == m_tabFactories.constEnd()) {
-        QMessageBox::critical(this, tr("Error"), tr("can not load tab: %1").arg(className));
-        return false;
-    }
-    // A page forgets where it wants the keys when it moves into the window.
-    KorTab* tab = makePage(className);
-    QWidget* inner = tab->focusWidget();
-    tab->setParent(this);
-    addPage(tab);
-    if (inner)
-        inner->setFocus(Qt::OtherFocusReason);
-    return true;
-}
-
-KorTab* MainWindow::makePage(const QString& className)
-{
-    KorTab* tab = m_tabFactories.value(className)();
-    connect(tab, &KorTab::onclose, this, &MainWindow::closeTab);
-    return tab;
-}
-
-void MainWindow::retranslatePages()
-{
-    QTabWidget* pages = m_ui->tabWidget;
-    const int shown = pages->currentIndex();
-    for (int index = 0; index < pages->count(); ++index) {
-        QWidget* page = pages->widget(index);
-        const QString className = page->metaObject()->className();
-        if (!m_tabFactories.contains(className)) {
-            // A report speaks the new language by itself, when the same event reaches it.
-            continue;
-        }
-        // A page holds no unsaved work, and its lists have to be read for their words anyway.
-        KorTab* successor = makePage(className);
-        const bool differs = PageBoxes(*page).putInto(*successor);
-        pages->removeTab(index);
-        pages->insertTab(index, successor, successor->windowTitle());
-        page->deleteLater();
-        auto* search = successor->findChild<QAbstractButton*>("btnSearch");
-        if (differs && search)
-            search->click();
-    }
-    pages->setCurrentIndex(shown);
-    tickDashboard();
+    if (m_pages->knows(className))
+        return m_pages->open(className);
+    QMessageBox::critical(this, tr("Error"), tr("can not load tab: %1").arg(className));
+    return false;
 }
 
 void MainWindow::openReport(const QString& reportName)
 {
-    KorTab* tab = m_reports.plugin() ? m_reports.plugin()->createTab(reportName) : nullptr;
-    if (!tab) {
+    KorTab* report = m_reports.plugin() ? m_reports.plugin()->createTab(reportName) : nullptr;
+    if (report)
+        m_pages->openReport(report);
+    else
         QMessageBox::critical(
             this, tr("Error"),
             tr("The report can not be shown, because no plug-in with reports is installed: %1").arg(reportName));
-        return;
-    }
-    for (int index = 0; index < m_ui->tabWidget->count(); ++index) {
-        if (m_ui->tabWidget->widget(index)->windowTitle() == tab->windowTitle()) {
-            delete tab;
-            showPage(index);
-            return;
-        }
-    }
-    connect(tab, &KorTab::onclose, this, &MainWindow::closeReportTab);
-    connect(tab, &QWidget::windowTitleChanged, this,
-            [this, tab](const QString& title) { m_ui->tabWidget->setTabText(m_ui->tabWidget->indexOf(tab), title); });
-    addPage(tab);
 }
 
-void MainWindow::addPage(QWidget* page)
-{
-    showPage(m_ui->tabWidget->addTab(page, page->windowTitle()));
-    tickDashboard();
-}
+void MainWindow::closeTab(QWidget* tab) { m_pages->removeClass(tab->metaObject()->className()); }
 
-void MainWindow::showPage(int index)
-{
-    m_ui->tabWidget->setCurrentIndex(index);
-    m_ui->tabWidget->setFocus(Qt::OtherFocusReason);
-    focusPage();
-}
+void MainWindow::closeReportTab(QWidget* tab) { m_pages->removeReport(tab); }
 
-void MainWindow::focusPage()
-{
-    // On into the page, to where it had the keys last.
-    const QWidget* page = m_ui->tabWidget->currentWidget();
-    if (QWidget* inner = page ? page->focusWidget() : nullptr)
-        inner->setFocus(Qt::OtherFocusReason);
-}
+void MainWindow::closeTabX(int index) { m_pages->remove(index); }
 
-int MainWindow::findPage(const QString& className, const QString& title) const
-{
-    for (int index = 0; index < m_ui->tabWidget->count(); ++index) {
-        const QWidget* page = m_ui->tabWidget->widget(index);
-        if (className == QLatin1String(page->metaObject()->className()) &&
-            (title.isNull() || title == page->windowTitle()))
-            return index;
-    }
-    return -1;
-}
+void MainWindow::closeAllTab() { m_pages->removeAll(); }
 
-void MainWindow::removePage(int index)
-{
-    // The tab bar has the keys meanwhile: out of a page that goes they would jump into the next one's first field.
-    m_ui->tabWidget->setFocus(Qt::OtherFocusReason);
-    if (QWidget* page = m_ui->tabWidget->widget(index))
-        page->deleteLater();
-    m_ui->tabWidget->removeTab(index);
-    tickDashboard();
-    focusPage();
-}
+void MainWindow::closeDashboard() { m_pages->removeClass("TabDashboard"); }
 
-void MainWindow::closeTab(QWidget* tab)
-{
-    const int index = findPage(tab->metaObject()->className());
-    if (index >= 0)
-        removePage(index);
-}
-
-void MainWindow::closeReportTab(QWidget* tab)
-{
-    const QString className = tab->metaObject()->className();
-    const QString title = tab->windowTitle();
-    for (int index = findPage(className, title); index >= 0; index = findPage(className, title))
-        removePage(index);
-}
-
-void MainWindow::closeTabX(int index) { removePage(index); }
-
-void MainWindow::closeAllTab()
-{
-    while (m_ui->tabWidget->count() > 0)
-        removePage(0);
-    m_ui->tabWidget->clear();
-}
-
-void MainWindow::closeDashboard()
-{
-    const int index = findPage("TabDashboard");
-    if (index >= 0)
-        removePage(index);
-}
-
-void MainWindow::tickDashboard() { m_ui->actionShow_Dashboard->setChecked(findPage("TabDashboard") >= 0); }
+void MainWindow::tickDashboard() { m_ui->actionShow_Dashboard->setChecked(m_pages->find("TabDashboard") >= 0); }
 
 // Actions and commands
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "shell/ReportPlugins.h"
-#include "shell/TabFactories.h"
 
 #include <QMainWindow>
 
@@ -10,7 +9,7 @@
 class BusinessConfiguration;
 class DatabaseUpdate;
 class InterfaceLanguage;
-class KorTab;
+class PageArea;
 class QLabel;
 class Sidebar;
 
@@ -120,16 +119,6 @@ private:
     void buildSidebar();
     void showStartPages();
     void openReport(const QString& reportName);
-    void addPage(QWidget* page);
-    void showPage(int index);
-    void focusPage();
-    /** The first page of that class and, where one is given, of that title; -1 for none. */
-    [[nodiscard]] int findPage(const QString& className, const QString& title = QString()) const;
-    void removePage(int index);
-    /** Makes every page anew in the language in use; what stands in its boxes stays. */
-    void retranslatePages();
-    /** A new page of this class, which is known to have a factory, as a child of the window. */
-    [[nodiscard]] KorTab* makePage(const QString& className);
     void nameUser();
     void closeDashboard();
     /** The menu's tick tells whether the page is there, however it came or went. */
@@ -137,7 +126,7 @@ private:
     void showInfo(const QString& text);
 
     std::unique_ptr<Ui::MainWindow> m_ui;
-    TabFactories m_tabFactories;
+    PageArea* m_pages = nullptr;
     QString m_settingsFile;
     ReportPlugins m_reports;
     QLabel* m_statusUser;

@@ -19,6 +19,7 @@
 #include <QIcon>
 #include <QMessageBox>
 #include <QSplashScreen>
+#include <QTimer>
 
 namespace
 {
@@ -135,5 +136,8 @@ int ZavelApplication::run()
     window.show();
     processEvents();
     splash.finish(&window);
+    // The converter is needed once in a restaurant's life, and stands in no menu.
+    if (arguments().contains("--converter"))
+        QTimer::singleShot(0, &window, &MainWindow::on_actionConverter_triggered);
     return exec();
 }

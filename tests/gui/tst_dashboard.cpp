@@ -6,6 +6,7 @@
 #include "printing/configuration/DialogCashierAndKitchenPrinter.h"
 #include "shell/HouseStyle.h"
 #include "shell/MainWindow.h"
+#include "shell/TabFactories.h"
 #include "support/ModalDriver.h"
 #include "support/ShopRows.h"
 #include "support/TestDatabase.h"

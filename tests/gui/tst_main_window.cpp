@@ -12,6 +12,7 @@
 #include "shell/InterfaceLanguage.h"
 #include "shell/MainWindow.h"
 #include "shell/QtCategoryButton.h"
+#include "shell/TabFactories.h"
 #include "support/ModalDriver.h"
 #include "support/TestDatabase.h"
 
