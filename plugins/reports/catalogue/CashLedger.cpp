@@ -2,48 +2,67 @@
 
 namespace
 {
-enum Side { Debit, Credit };
-
-/** Documents stand in the journal with their whole total, and only with an account and a user that are there. */
-QString branch(const QString& table, const QString& date, const QString& account, const QString& kind,
-               const QString& debit, const QString& credit, const QString& condition, const QString& no = "no",
-               const QString& note = "note")
+/** A table that moves money: its account's condition, what came in or went out, and where it calls things otherwise. */
+struct Branch
 {
-    return "select bank.kode as account, bank.nama as accountname, " + date + "::date as day, t." + no + " as no, '" +
-           kind + "' as kind, t." + note + " as note, " + debit + " as debit, " + credit +
-           " as credit, t.id, users.username "
-           "from " +
-           table + " t join bank on " + account + " join users on users.id = t.createdby where " + date + ' ' +
+    const char* kind;
+    const char* table;
+    const char* date;
+    const char* account = "bank.id = t.bank_id";
+    const char* debit = "0";
+    const char* credit = "0";
+    const char* no = "no";
+    const char* note = "note";
+};
+
+// Documents stand in the journal with their whole total, whatever was paid of them.
+const Branch branches[] = {
+    {"order", "purchase_order", "purchase_date", "bank.id = t.bank_id", "0", "t.grandtotal_amount"},
+    {"purchase", "acquisition", "purchase_date", "bank.id = t.bank_id", "0", "t.grandtotal_amount"},
+    {"return", "credit_note", "credit_note_date", "bank.id = t.bank_id", "t.grandtotal_amount"},
+    {"bill", "payment", "payment_date", "bank.id = t.bank_id", "0", "t.grandtotal_amount"},
+    {"member", "piutang", "payment_date", "bank.id = t.bank_id", "t.grandtotal_amount"},
+    {"commission", "komisi_agen", "payment_date", "bank.id = t.bank_id", "0", "t.grandtotal_amount"},
+    {"sale", "invoice", "invoice_date", "bank.kode = t.acct_code", "t.grandtotal_amount"},
+    {"entry", "cash_flow", "trans_date", "bank.kode = t.account_code", "t.debet_amount", "t.credit_amount", "trans_no",
+     "notes"},
+    {"transfer", "accounting_trans", "trans_date", "bank.id = t.from_account_id", "0", "t.amount_amount", "trans_no",
+     "notes"},
+    {"transfer", "accounting_trans", "trans_date", "bank.id = t.to_account_id", "t.amount_amount", "0", "trans_no",
+     "notes"}};
+
+/** Only what has an account and a user that are there. */
+QString fromOf(const Branch& branch, const QString& condition)
+{
+    return QString(" from %1 t join bank on %2 join users on users.id = t.createdby where t.%3 ")
+               .arg(branch.table, branch.account, branch.date) +
            condition + " and (:account::text is null or bank.kode = :account)";
-}
-
-QString document(const QString& table, const QString& date, const QString& kind, Side side, const QString& condition)
-{
-    const QString total = "t.grandtotal_amount";
-    return branch(table, "t." + date, "bank.id = t.bank_id", kind, side == Debit ? total : "0",
-                  side == Credit ? total : "0", condition);
 }
 } // namespace
 
 QString CashLedger::movements(const QString& condition)
 {
-    const auto transfer = [&condition](const QString& account, const QString& debit, const QString& credit) {
-        return branch("accounting_trans", "t.trans_date", "bank.id = t." + account, "transfer", debit, credit,
-                      condition, "trans_no", "notes");
-    };
-    return QStringList{
-        document("purchase_order", "purchase_date", "order", Credit, condition),
-        document("acquisition", "purchase_date", "purchase", Credit, condition),
-        document("credit_note", "credit_note_date", "return", Debit, condition),
-        document("payment", "payment_date", "bill", Credit, condition),
-        document("piutang", "payment_date", "member", Debit, condition),
-        document("komisi_agen", "payment_date", "commission", Credit, condition),
-        branch("invoice", "t.invoice_date", "bank.kode = t.acct_code", "sale", "t.grandtotal_amount", "0", condition),
-        branch("cash_flow", "t.trans_date", "bank.kode = t.account_code", "entry", "t.debet_amount", "t.credit_amount",
-               condition, "trans_no", "notes"),
-        transfer("from_account_id", "0", "t.amount_amount"),
-        transfer("to_account_id", "t.amount_amount", "0")}
-        .join(" union all ");
+    QStringList selects;
+    for (const Branch& branch : branches)
+        selects.append(QString("select bank.kode as account, bank.nama as accountname, t.%1::date as day, t.%2 as no, "
+                               "'%3' as kind, t.%4 as note, %5 as debit, %6 as credit, t.id, users.username")
+                           .arg(branch.date, branch.no, branch.kind, branch.note, branch.debit, branch.credit) +
+                       fromOf(branch, condition));
+    return selects.join(" union all ");
+}
+
+QString CashLedger::sums(const QString& condition)
+{
+    QStringList selects;
+    for (const Branch& branch : branches)
+        selects.append(QString("select bank.kode as account, bank.nama as accountname, count(*) as movements, "
+                               "sum(%1) as debit, sum(%2) as credit")
+                           .arg(branch.debit, branch.credit) +
+                       fromOf(branch, condition) + " group by bank.id, bank.kode, bank.nama");
+    return "select account, accountname, sum(movements)::bigint as movements, sum(debit) as debit, sum(credit) as "
+           "credit "
+           "from (" +
+           selects.join(" union all ") + ") sums group by account, accountname";
 }
 
 QList<QPair<QVariant, const char*>> CashLedger::kindWords()

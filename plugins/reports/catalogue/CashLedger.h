@@ -7,9 +7,11 @@ namespace CashLedger
 {
 /**
  * A select of every movement whose day fulfils the condition ("<= :to"), which stands behind the day: account (its
- * code), day, no, kind, note, debit, credit, createdby, id. ":account" narrows it.
+ * code), accountname, day, no, kind, note, debit, credit, id, username. ":account" narrows it.
  */
 [[nodiscard]] QString movements(const QString& condition);
+/** Of each account, what those movements come to: account, accountname, movements, debit, credit. */
+[[nodiscard]] QString sums(const QString& condition);
 /** How the kinds of movements read. */
 [[nodiscard]] QList<QPair<QVariant, const char*>> kindWords();
 } // namespace CashLedger

@@ -25,12 +25,17 @@ Report ofMovements(const QString& id, const char* title, const char* about)
     return report;
 }
 
-/** Movements of the period as "moved", and what each account had before as "opening". */
+/** What each account had before the period. */
+QString opening()
+{
+    return "opening as (select account, accountname, debit - credit as balance from (" + CashLedger::sums("< :from") +
+           ") before)";
+}
+
+/** The same after the movements of the period, as "moved". */
 QString periodAndBefore()
 {
-    return "with moved as (" + CashLedger::movements("between :from and :to") +
-           "), opening as (select account, accountname, sum(debit - credit) as balance from (" +
-           CashLedger::movements("< :from") + ") before group by account, accountname)";
+    return "with moved as (" + CashLedger::movements("between :from and :to") + "), " + opening();
 }
 
 Report ledger()
@@ -75,9 +80,7 @@ Report balances()
         QT_TRANSLATE_NOOP("Reports", "What each account had at the beginning of the period, what came and went, "
                                      "and what it had at the end, reckoned from all documents since the "
                                      "first as the general journal has them."));
-    report.query = periodAndBefore() + R"(,
-        sums as (select account, accountname, count(*) as movements, sum(debit) as debit, sum(credit) as credit
-                 from moved group by account, accountname)
+    report.query = "with " + opening() + ", sums as (" + CashLedger::sums("between :from and :to") + R"()
         select account, accountname as name, coalesce(opening.balance, 0) as opening, coalesce(movements, 0) as movements,
                coalesce(debit, 0) as debit, coalesce(credit, 0) as credit,
                coalesce(opening.balance, 0) + coalesce(debit, 0) - coalesce(credit, 0) as closing
