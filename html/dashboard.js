@@ -5,12 +5,70 @@
 
   var bridge = window.dashboard;
   var format = JSON.parse(bridge.getLocalization());
-  var monthNames = ['January', 'February', 'March', 'April', 'May', 'June', 'July', 'August', 'September', 'October',
-    'November', 'December'];
-  var dayNames = ['Sunday', 'Monday', 'Tuesday', 'Wednesday', 'Thursday', 'Friday', 'Saturday'];
+  // The bridge names days in English, whatever the program speaks.
+  var keyMonths = ['Jan', 'Feb', 'Mar', 'Apr', 'May', 'Jun', 'Jul', 'Aug', 'Sep', 'Oct', 'Nov', 'Dec'];
+  var monthNames = [qsTr('January'), qsTr('February'), qsTr('March'), qsTr('April'), qsTr('May'), qsTr('June'),
+    qsTr('July'), qsTr('August'), qsTr('September'), qsTr('October'), qsTr('November'), qsTr('December')];
+  var dayNames = [qsTr('Sunday'), qsTr('Monday'), qsTr('Tuesday'), qsTr('Wednesday'), qsTr('Thursday'), qsTr('Friday'),
+    qsTr('Saturday')];
+  // What stands in the page itself.
+  var words = [
+    QT_TR_NOOP('Dashboard'), QT_TR_NOOP('Welcome'), QT_TR_NOOP('Read the figures anew (F5)'), QT_TR_NOOP('Refresh'),
+    QT_TR_NOOP('No sales yet'), QT_TR_NOOP('Begin with the company profile'), QT_TR_NOOP('Figures'),
+    QT_TR_NOOP('Today'), QT_TR_NOOP('Average sale'), QT_TR_NOOP('Best day'), QT_TR_NOOP('Sales by day'),
+    QT_TR_NOOP('Amount'), QT_TR_NOOP('Number of sales'), QT_TR_NOOP('Day'), QT_TR_NOOP('Best sellers'),
+    QT_TR_NOOP('by quantity'), QT_TR_NOOP('Item'), QT_TR_NOOP('Sold'),
+    QT_TR_NOOP('Nothing was sold by the piece.'), QT_TR_NOOP('Set up the restaurant'),
+    QT_TR_NOOP('Company profile'), QT_TR_NOOP('Name, address and logo'),
+    QT_TR_NOOP('Cashier printer'), QT_TR_NOOP('For the guests’ bills'),
+    QT_TR_NOOP('Kitchen printers'), QT_TR_NOOP('For what is to be cooked'),
+    QT_TR_NOOP('Item types'), QT_TR_NOOP('Food, drinks, desserts'),
+    QT_TR_NOOP('Units'), QT_TR_NOOP('Portion, glass, kilogram'),
+    QT_TR_NOOP('Tables'), QT_TR_NOOP('Where your guests sit'),
+    QT_TR_NOOP('Items'), QT_TR_NOOP('Dishes with their prices'),
+    QT_TR_NOOP('Beginning balances'), QT_TR_NOOP('What lies on the shelf'),
+    QT_TR_NOOP('Cash'), QT_TR_NOOP('What lies in the drawer'), QT_TR_NOOP('Every day'),
+    QT_TR_NOOP('Dine in'), QT_TR_NOOP('Tables, orders and bills'),
+    QT_TR_NOOP('Fast food'), QT_TR_NOOP('Sell over the counter')
+  ];
   var topItems = 10;
   var chart = null;
   var reading = false;
+
+  // --- words ------------------------------------------------------------------------------------------------------
+
+  // The program's catalogues know the page's texts by these two names.
+  function qsTr(text) { return bridge.translated(text); }
+  function QT_TR_NOOP(text) { return text; }
+
+  function filled(text, first, second) { return text.split('%1').join(first).split('%2').join(second); }
+
+  function translateAttribute(element, name) {
+    if (element.hasAttribute(name))
+      element.setAttribute(name, translatedWord(element.getAttribute(name)));
+  }
+
+  function translatedWord(text) {
+    if (words.indexOf(text) < 0)
+      console.error('The catalogues do not know: ' + text);
+    return qsTr(text);
+  }
+
+  /** The page stands in English. */
+  function translatePage() {
+    document.documentElement.lang = qsTr('en');
+    var walker = document.createTreeWalker(document.body, NodeFilter.SHOW_TEXT, null, false);
+    while (walker.nextNode()) {
+      var node = walker.currentNode;
+      var text = node.data.trim();
+      if (text && node.parentNode.nodeName !== 'SCRIPT')
+        node.data = node.data.replace(text, translatedWord(text));
+    }
+    Array.prototype.forEach.call(document.querySelectorAll('[title], [aria-label]'), function (element) {
+      translateAttribute(element, 'title');
+      translateAttribute(element, 'aria-label');
+    });
+  }
 
   function byId(id) { return document.getElementById(id); }
   function say(id, text) { byId(id).textContent = text; }
@@ -22,11 +80,11 @@
   }
   function plain(value) { return (value < 0 ? '-' : '') + grouped(value); }
   function money(value) { return (value < 0 ? '-' : '') + format.money.split('%1').join(grouped(value)); }
-  function times(count) { return plain(count) + (count === 1 ? ' sale' : ' sales'); }
+  function times(count) { return filled(count === 1 ? qsTr('%1 sale') : qsTr('%1 sales'), plain(count)); }
 
   function shortMonth(month) { return monthNames[month].substr(0, 3); }
   /** The bridge's name of a day, "05 Nov". */
-  function keyOf(day) { return (day.getDate() < 10 ? '0' : '') + day.getDate() + ' ' + shortMonth(day.getMonth()); }
+  function keyOf(day) { return (day.getDate() < 10 ? '0' : '') + day.getDate() + ' ' + keyMonths[day.getMonth()]; }
   function shortDay(day) { return day.getDate() + ' ' + shortMonth(day.getMonth()); }
   function longDay(day) { return dayNames[day.getDay()] + ' ' + day.getDate() + ' ' + monthNames[day.getMonth()]; }
 
@@ -34,7 +92,7 @@
   function parseLimit(text) {
     var parts = text.split(' ');
     var month = 0;
-    while (month < 11 && shortMonth(month) !== parts[1])
+    while (month < 11 && keyMonths[month] !== parts[1])
       month += 1;
     return new Date(Number(parts[2]), month, Number(parts[0]), 12);
   }
@@ -58,7 +116,8 @@
 
   function greet() {
     var hour = new Date().getHours();
-    var part = hour >= 4 && hour < 12 ? 'Good morning' : hour >= 12 && hour < 18 ? 'Good afternoon' : 'Good evening';
+    var part = hour >= 4 && hour < 12 ? qsTr('Good morning') : hour >= 12 && hour < 18 ? qsTr('Good afternoon') :
+      qsTr('Good evening');
     var name = bridge.getUsername().trim();
     say('greeting', name ? part + ', ' + name : part);
   }
@@ -75,11 +134,11 @@
     var today = days[days.length - 1];
     say('today-total', money(today.total));
     say('today-count', times(today.count));
-    say('period-title', 'Last ' + days.length + ' days');
+    say('period-title', filled(qsTr('Last %1 days'), days.length));
     say('period-total', money(sum.total));
     say('period-count', times(sum.count));
     say('average', sum.count ? money(sum.total / sum.count) : '–');
-    say('average-of', 'over ' + days.length + ' days');
+    say('average-of', filled(qsTr('over %1 days'), days.length));
     say('best-total', money(best.total));
     say('best-day', longDay(best.date));
   }
@@ -149,11 +208,11 @@
       data: {
         labels: [],
         datasets: [{
-          type: 'line', label: 'Number of sales', yAxisID: 'count', data: [], fill: false, lineTension: 0,
+          type: 'line', label: qsTr('Number of sales'), yAxisID: 'count', data: [], fill: false, lineTension: 0,
           borderColor: '#c26a00', borderWidth: 2.5, pointRadius: 3.5, pointHoverRadius: 5,
           pointBackgroundColor: '#ffffff', pointBorderColor: '#c26a00', pointBorderWidth: 2
         }, {
-          label: 'Amount', yAxisID: 'money', data: [], backgroundColor: '#005782', hoverBackgroundColor: '#006a9f',
+          label: qsTr('Amount'), yAxisID: 'money', data: [], backgroundColor: '#005782', hoverBackgroundColor: '#006a9f',
           barPercentage: 0.72, categoryPercentage: 0.92
         }]
       },
@@ -212,9 +271,9 @@
     byId('page').className = nothing ? 'nothing' : '';
     say('today', longDay(days[days.length - 1].date));
     if (nothing) {
-      say('empty-text', 'Nothing was sold between ' + shortDay(days[0].date) + ' and ' +
-        shortDay(days[days.length - 1].date) + '. As soon as the first invoice is saved, the figures appear here. ' +
-        'Is the restaurant new? The steps below set it up, one after the other.');
+      say('empty-text', filled(qsTr('Nothing was sold between %1 and %2. As soon as the first invoice is saved, the ' +
+        'figures appear here. Is the restaurant new? The steps below set it up, one after the other.'),
+        shortDay(days[0].date), shortDay(days[days.length - 1].date)));
       return;
     }
     showFigures(days);
@@ -238,5 +297,6 @@
   });
   window.addEventListener('resize', fitFigures);
   bridge.shownAgain.connect(refresh);
+  translatePage();
   refresh();
 }());

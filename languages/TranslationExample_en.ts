@@ -1418,10 +1418,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>If it is to hold your data:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The restore of a backup was cut short: there are tables without a primary key (%1), and rows may be missing.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1439,6 +1435,10 @@
     </message>
     <message>
         <source>Run &quot;Update&quot; under Configuration &gt; General, &quot;Setup&quot;; it keeps what the tables hold. After a first installation that was cut short, with nothing entered yet, install &quot;Clean&quot; instead.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>If sales were made with it, go back to a backup.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1852,6 +1852,10 @@ Do you want to restore into %1 all the same?</source>
     </message>
     <message>
         <source>The work was not finished, the reason stands above. No data was changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The backup %1 was cut off while it was written. The one before it is %2: please take that.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -10468,6 +10472,293 @@ Please install the initial data</source>
     </message>
     <message>
         <source>Error</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>dashboard</name>
+    <message>
+        <source>January</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>February</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>March</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>April</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>May</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>June</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>July</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>August</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>September</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>October</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>November</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>December</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dashboard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Welcome</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read the figures anew (F5)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No sales yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Begin with the company profile</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Figures</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Average sale</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Best day</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sales by day</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Amount</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Number of sales</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Best sellers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>by quantity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Item</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sold</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was sold by the piece.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set up the restaurant</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Company profile</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name, address and logo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cashier printer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>For the guests’ bills</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kitchen printers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>For what is to be cooked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Item types</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Food, drinks, desserts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Units</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Portion, glass, kilogram</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tables</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where your guests sit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Items</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dishes with their prices</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Beginning balances</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What lies on the shelf</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cash</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What lies in the drawer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every day</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dine in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tables, orders and bills</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fast food</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sell over the counter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>en</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 sale</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 sales</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Good morning</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Good afternoon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Good evening</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last %1 days</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>over %1 days</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was sold between %1 and %2. As soon as the first invoice is saved, the figures appear here. Is the restaurant new? The steps below set it up, one after the other.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

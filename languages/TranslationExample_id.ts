@@ -1439,10 +1439,6 @@
         <translation>Bila belum pernah dipakai berjualan, pasang ulang di &quot;Pemasangan&quot;.</translation>
     </message>
     <message>
-        <source>If it is to hold your data:</source>
-        <translation>Bila basis data itu harus berisi data Anda:</translation>
-    </message>
-    <message>
         <source>The restore of a backup was cut short: there are tables without a primary key (%1), and rows may be missing.</source>
         <translation>Pemulihan cadangan terputus: ada tabel tanpa kunci utama (%1), dan mungkin ada baris yang hilang.</translation>
     </message>
@@ -1461,6 +1457,10 @@
     <message>
         <source>Run &quot;Update&quot; under Configuration &gt; General, &quot;Setup&quot;; it keeps what the tables hold. After a first installation that was cut short, with nothing entered yet, install &quot;Clean&quot; instead.</source>
         <translation>Jalankan &quot;Perbarui&quot; di Konfigurasi &gt; Umum, &quot;Pemasangan&quot;; isi tabel tetap dipertahankan. Setelah pemasangan pertama yang terputus dan belum ada isinya, pasang &quot;Bersih&quot; saja.</translation>
+    </message>
+    <message>
+        <source>If sales were made with it, go back to a backup.</source>
+        <translation>Bila sudah dipakai berjualan, kembalilah ke cadangan.</translation>
     </message>
 </context>
 <context>
@@ -1881,6 +1881,10 @@ Tetap pulihkan ke %1?</translation>
         <source>The work was not finished, the reason stands above. No data was changed.</source>
         <translation>Pekerjaan tidak selesai, sebabnya tertulis di atas. Tidak ada data yang berubah.</translation>
     </message>
+    <message>
+        <source>The backup %1 was cut off while it was written. The one before it is %2: please take that.</source>
+        <translation>Cadangan %1 terputus saat ditulis. Cadangan sebelumnya adalah %2: pakailah yang itu.</translation>
+    </message>
 </context>
 <context>
     <name>DialogBank</name>
@@ -2120,7 +2124,7 @@ Tetap pulihkan ke %1?</translation>
     </message>
     <message>
         <source> Split: </source>
-        <translation>  Pisah: </translation>
+        <translation> Pisah: </translation>
     </message>
 </context>
 <context>
@@ -10504,6 +10508,293 @@ Silakan pasang data awal</translation>
     <message>
         <source>Error</source>
         <translation>Kesalahan</translation>
+    </message>
+</context>
+<context>
+    <name>dashboard</name>
+    <message>
+        <source>January</source>
+        <translation>Januari</translation>
+    </message>
+    <message>
+        <source>February</source>
+        <translation>Februari</translation>
+    </message>
+    <message>
+        <source>March</source>
+        <translation>Maret</translation>
+    </message>
+    <message>
+        <source>April</source>
+        <translation>April</translation>
+    </message>
+    <message>
+        <source>May</source>
+        <translation>Mei</translation>
+    </message>
+    <message>
+        <source>June</source>
+        <translation>Juni</translation>
+    </message>
+    <message>
+        <source>July</source>
+        <translation>Juli</translation>
+    </message>
+    <message>
+        <source>August</source>
+        <translation>Agustus</translation>
+    </message>
+    <message>
+        <source>September</source>
+        <translation>September</translation>
+    </message>
+    <message>
+        <source>October</source>
+        <translation>Oktober</translation>
+    </message>
+    <message>
+        <source>November</source>
+        <translation>November</translation>
+    </message>
+    <message>
+        <source>December</source>
+        <translation>Desember</translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation>Minggu</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>Senin</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation>Selasa</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation>Rabu</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation>Kamis</translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation>Jumat</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>Sabtu</translation>
+    </message>
+    <message>
+        <source>Dashboard</source>
+        <translation>Dasbor</translation>
+    </message>
+    <message>
+        <source>Welcome</source>
+        <translation>Selamat datang</translation>
+    </message>
+    <message>
+        <source>Read the figures anew (F5)</source>
+        <translation>Baca ulang angka (F5)</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Segarkan</translation>
+    </message>
+    <message>
+        <source>No sales yet</source>
+        <translation>Belum ada penjualan</translation>
+    </message>
+    <message>
+        <source>Begin with the company profile</source>
+        <translation>Mulai dengan profil perusahaan</translation>
+    </message>
+    <message>
+        <source>Figures</source>
+        <translation>Angka</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>Hari ini</translation>
+    </message>
+    <message>
+        <source>Average sale</source>
+        <translation>Rata-rata penjualan</translation>
+    </message>
+    <message>
+        <source>Best day</source>
+        <translation>Hari terbaik</translation>
+    </message>
+    <message>
+        <source>Sales by day</source>
+        <translation>Penjualan per hari</translation>
+    </message>
+    <message>
+        <source>Amount</source>
+        <translation>Jumlah Uang</translation>
+    </message>
+    <message>
+        <source>Number of sales</source>
+        <translation>Jumlah penjualan</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Hari</translation>
+    </message>
+    <message>
+        <source>Best sellers</source>
+        <translation>Terlaris</translation>
+    </message>
+    <message>
+        <source>by quantity</source>
+        <translation>menurut jumlah</translation>
+    </message>
+    <message>
+        <source>Item</source>
+        <translation>Barang</translation>
+    </message>
+    <message>
+        <source>Sold</source>
+        <translation>Terjual</translation>
+    </message>
+    <message>
+        <source>Nothing was sold by the piece.</source>
+        <translation>Tidak ada yang terjual per barang.</translation>
+    </message>
+    <message>
+        <source>Set up the restaurant</source>
+        <translation>Siapkan restoran</translation>
+    </message>
+    <message>
+        <source>Company profile</source>
+        <translation>Profil perusahaan</translation>
+    </message>
+    <message>
+        <source>Name, address and logo</source>
+        <translation>Nama, alamat dan logo</translation>
+    </message>
+    <message>
+        <source>Cashier printer</source>
+        <translation>Printer kasir</translation>
+    </message>
+    <message>
+        <source>For the guests’ bills</source>
+        <translation>Untuk tagihan tamu</translation>
+    </message>
+    <message>
+        <source>Kitchen printers</source>
+        <translation>Printer dapur</translation>
+    </message>
+    <message>
+        <source>For what is to be cooked</source>
+        <translation>Untuk yang harus dimasak</translation>
+    </message>
+    <message>
+        <source>Item types</source>
+        <translation>Jenis barang</translation>
+    </message>
+    <message>
+        <source>Food, drinks, desserts</source>
+        <translation>Makanan, minuman, penutup</translation>
+    </message>
+    <message>
+        <source>Units</source>
+        <translation>Satuan</translation>
+    </message>
+    <message>
+        <source>Portion, glass, kilogram</source>
+        <translation>Porsi, gelas, kilogram</translation>
+    </message>
+    <message>
+        <source>Tables</source>
+        <translation>Meja</translation>
+    </message>
+    <message>
+        <source>Where your guests sit</source>
+        <translation>Tempat tamu duduk</translation>
+    </message>
+    <message>
+        <source>Items</source>
+        <translation>Barang</translation>
+    </message>
+    <message>
+        <source>Dishes with their prices</source>
+        <translation>Hidangan dengan harganya</translation>
+    </message>
+    <message>
+        <source>Beginning balances</source>
+        <translation>Saldo awal</translation>
+    </message>
+    <message>
+        <source>What lies on the shelf</source>
+        <translation>Isi rak</translation>
+    </message>
+    <message>
+        <source>Cash</source>
+        <translation>Tunai</translation>
+    </message>
+    <message>
+        <source>What lies in the drawer</source>
+        <translation>Isi laci kasir</translation>
+    </message>
+    <message>
+        <source>Every day</source>
+        <translation>Setiap hari</translation>
+    </message>
+    <message>
+        <source>Dine in</source>
+        <translation>Makan di tempat</translation>
+    </message>
+    <message>
+        <source>Tables, orders and bills</source>
+        <translation>Meja, pesanan dan tagihan</translation>
+    </message>
+    <message>
+        <source>Fast food</source>
+        <translation>Cepat saji</translation>
+    </message>
+    <message>
+        <source>Sell over the counter</source>
+        <translation>Jual di konter</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <translation>id</translation>
+    </message>
+    <message>
+        <source>%1 sale</source>
+        <translation>%1 penjualan</translation>
+    </message>
+    <message>
+        <source>%1 sales</source>
+        <translation>%1 penjualan</translation>
+    </message>
+    <message>
+        <source>Good morning</source>
+        <translation>Selamat pagi</translation>
+    </message>
+    <message>
+        <source>Good afternoon</source>
+        <translation>Selamat siang</translation>
+    </message>
+    <message>
+        <source>Good evening</source>
+        <translation>Selamat malam</translation>
+    </message>
+    <message>
+        <source>Last %1 days</source>
+        <translation>%1 hari terakhir</translation>
+    </message>
+    <message>
+        <source>over %1 days</source>
+        <translation>selama %1 hari</translation>
+    </message>
+    <message>
+        <source>Nothing was sold between %1 and %2. As soon as the first invoice is saved, the figures appear here. Is the restaurant new? The steps below set it up, one after the other.</source>
+        <translation>Tidak ada penjualan antara %1 dan %2. Begitu faktur pertama disimpan, angkanya muncul di sini. Restoran masih baru? Siapkan dengan langkah-langkah di bawah, satu per satu.</translation>
     </message>
 </context>
 </TS>

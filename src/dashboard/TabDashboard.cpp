@@ -155,3 +155,9 @@ QString TabDashboard::getLocalization() const
                         {"money", money},
                         {"group", locale.toString(1000).size() > 4 ? QString(locale.groupSeparator()) : QString()}});
 }
+
+QString TabDashboard::translated(const QString& text) const
+{
+    // The catalogues know the page's texts under the name of its script.
+    return QCoreApplication::translate("dashboard", text.toUtf8().constData());
+}

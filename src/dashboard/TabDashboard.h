@@ -30,6 +30,8 @@ public slots:
     [[nodiscard]] QString getSoldItemsData();
     /** JSON: how the restaurant writes numbers and money. */
     [[nodiscard]] QString getLocalization() const;
+    /** A text of the page in the program's language. */
+    [[nodiscard]] QString translated(const QString& text) const;
 
     // Each asks the main window for a screen.
     void companyprofile() { emit callMainWindowCmd("companyprofile"); }

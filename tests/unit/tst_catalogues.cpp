@@ -1,0 +1,178 @@
+#include <QFile>
+#include <QKeySequence>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QXmlStreamReader>
+
+namespace
+{
+struct Message
+{
+    QString context;
+    QString source;
+    QString translation;
+    bool finished = true;
+};
+
+QString sourceFolder() { return qEnvironmentVariable("ZAVEL_SOURCE_DIR"); }
+QString catalogue(const QString& name) { return sourceFolder() + "/languages/" + name; }
+
+/** The catalogues write a carriage return as an element of its own. */
+QString readText(QXmlStreamReader& xml)
+{
+    QString text;
+    while (!xml.atEnd() && xml.readNext() != QXmlStreamReader::EndElement) {
+        if (xml.isCharacters()) {
+            text += xml.text();
+        } else if (xml.name() == QLatin1String("byte")) {
+            text += QChar(xml.attributes().value("value").mid(1).toInt(nullptr, 16));
+            xml.skipCurrentElement();
+        } else if (xml.isStartElement()) {
+            text += readText(xml);
+        }
+    }
+    return text;
+}
+
+QVector<Message> readCatalogue(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    QVector<Message> messages;
+    QString context;
+    QXmlStreamReader xml(&file);
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        if (xml.name() == QLatin1String("name")) {
+            context = readText(xml);
+        } else if (xml.name() == QLatin1String("message")) {
+            messages.append({context, {}, {}});
+        } else if (xml.name() == QLatin1String("source")) {
+            messages.last().source = readText(xml);
+        } else if (xml.name() == QLatin1String("translation")) {
+            messages.last().finished = !xml.attributes().hasAttribute("type");
+            messages.last().translation = readText(xml);
+        }
+    }
+    return messages;
+}
+
+QStringList found(const QString& text, const char* pattern)
+{
+    QStringList parts;
+    const QRegularExpression expression(QString::fromLatin1(pattern));
+    for (auto match = expression.globalMatch(text); match.hasNext();)
+        parts += match.next().captured();
+    parts.sort();
+    return parts;
+}
+
+bool isShortcut(const QString& text)
+{
+    static const QRegularExpression shortcut("^((Alt|Ctrl|Shift)\\+\\S+|F\\d+|Del|Esc|Ins)$");
+    return shortcut.match(text).hasMatch();
+}
+
+/** What a translation has to keep, because the program puts something in, or keys and forms rely on it. */
+QStringList kept(const QString& text)
+{
+    return QStringList{isShortcut(text) ? "shortcut " + text : QString(),
+                       QKeySequence::mnemonic(text).isEmpty() ? "no marked letter" : "a marked letter",
+                       found(text, "^\\s+|\\s+$").join('|'), QString::number(text.count('\n'))} +
+           found(text, "%[0-9Ln]+") + found(text, "\\[F\\d+\\]|\\((F\\d+|Del|Esc|Ctrl\\+\\w)\\)|\\*\\.\\w+");
+}
+} // namespace
+
+/// A text without its translation, or one that lost a place for a number, would show on the till first.
+class TestCatalogues final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void everyTextOfTheSourcesIsInTheCatalogues_data();
+    void everyTextOfTheSourcesIsInTheCatalogues();
+    void everyTextIsTranslated_data();
+    void everyTextIsTranslated();
+    void aTranslationKeepsPlacesKeysAndBlanks_data() { everyTextIsTranslated_data(); }
+    void aTranslationKeepsPlacesKeysAndBlanks();
+};
+
+void TestCatalogues::everyTextOfTheSourcesIsInTheCatalogues_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("Indonesian") << "TranslationExample_id.ts";
+    QTest::newRow("English") << "TranslationExample_en.ts";
+}
+
+void TestCatalogues::everyTextOfTheSourcesIsInTheCatalogues()
+{
+    QFETCH(QString, name);
+    const QTemporaryDir folder;
+    const QString copy = folder.filePath(name);
+    QVERIFY(QFile::copy(catalogue(name), copy));
+    QProcess lupdate;
+    lupdate.setWorkingDirectory(sourceFolder());
+    lupdate.start(LUPDATE,
+                  QString(TEXT_SOURCES).split(' ') + QStringList{"-locations", "none", "-no-obsolete", "-ts", copy});
+    QVERIFY2(lupdate.waitForFinished(60000), qPrintable(lupdate.errorString()));
+    QCOMPARE(lupdate.exitCode(), 0);
+
+    // Its complaints mean that it would read texts under other names than the program asks for them.
+    const QStringList complaints =
+        found(QString::fromLocal8Bit(lupdate.readAllStandardError()), "[^\n]*/src/[^\n]*|"
+                                                                      "[^\n]*/plugins/[^\n]*");
+    QCOMPARE(complaints, QStringList());
+    const auto texts = [](const QString& path) {
+        QStringList list;
+        const QVector<Message> messages = readCatalogue(path);
+        for (const Message& message : messages)
+            list += message.context + " | " + message.source;
+        list.sort();
+        return list;
+    };
+    const QStringList wanted = texts(copy);
+    const QStringList actual = texts(catalogue(name));
+    QVERIFY(wanted.size() > 1000);
+    for (const QString& text : wanted)
+        QVERIFY2(actual.contains(text), qPrintable("missing, build the target update_languages: " + text));
+    QCOMPARE(actual, wanted);
+}
+
+void TestCatalogues::everyTextIsTranslated_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("the program's") << "TranslationExample_id.ts";
+    QTest::newRow("the toolkit's") << "qt_id.ts";
+}
+
+void TestCatalogues::everyTextIsTranslated()
+{
+    QFETCH(QString, name);
+    const QVector<Message> messages = readCatalogue(catalogue(name));
+    QVERIFY(messages.size() > 300);
+    QStringList missing;
+    for (const Message& message : messages) {
+        if (!message.finished || message.translation.isEmpty())
+            missing += message.context + " | " + message.source;
+    }
+    QCOMPARE(missing, QStringList());
+}
+
+void TestCatalogues::aTranslationKeepsPlacesKeysAndBlanks()
+{
+    QFETCH(QString, name);
+    QStringList broken;
+    const QVector<Message> messages = readCatalogue(catalogue(name));
+    for (const Message& message : messages) {
+        if (kept(message.source) != kept(message.translation))
+            broken += message.context + " | " + message.source + " | " + message.translation;
+    }
+    QCOMPARE(broken, QStringList());
+}
+
+QTEST_MAIN(TestCatalogues)
+#include "tst_catalogues.moc"
