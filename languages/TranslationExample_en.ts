@@ -2,6 +2,18 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_US">
 <context>
+    <name>AccessCheck</name>
+    <message>
+        <source>Error</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>You don&apos;t have access.<byte value="xd"/>
+Required permission: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>AccountType</name>
     <message>
         <source>Cash</source>
@@ -5841,6 +5853,14 @@ Please fill the db connection fields and install the initial data</source>
         <source>Check</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Electronic funds transfer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Checks</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PosInstaller</name>
@@ -6090,6 +6110,25 @@ Please fill the db connection fields and install the initial data</source>
     </message>
     <message>
         <source>Account Payable :</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ReplaceQuestion</name>
+    <message>
+        <source>Question</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The database %1 is in use already. A clean installation makes all tables anew, and everything that they hold is lost. Do you want that?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A further workstation of the restaurant uses it as it is.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Use It As It Is</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -10330,6 +10369,21 @@ Exit status of status: 0 installed, 3 reachable but not installed, 1 otherwise.<
     </message>
     <message>
         <source>Created Date</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>WizardConnection</name>
+    <message>
+        <source>Error</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Can not connect to the database, please update your database connection details</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Can&apos;t write the settings file: %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -2,6 +2,19 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="id_ID">
 <context>
+    <name>AccessCheck</name>
+    <message>
+        <source>Error</source>
+        <translation>Kesalahan</translation>
+    </message>
+    <message>
+        <source>You don&apos;t have access.<byte value="xd"/>
+Required permission: %1</source>
+        <translation>Anda tidak punya akses.<byte value="xd"/>
+Hak akses yang dibutuhkan: %1</translation>
+    </message>
+</context>
+<context>
     <name>AccountType</name>
     <message>
         <source>Cash</source>
@@ -1880,10 +1893,6 @@ Tetap pulihkan ke %1?</translation>
     <message>
         <source>The work was not finished, the reason stands above. No data was changed.</source>
         <translation>Pekerjaan tidak selesai, sebabnya tertulis di atas. Tidak ada data yang berubah.</translation>
-    </message>
-    <message>
-        <source>The backup %1 was cut off while it was written. The one before it is %2: please take that.</source>
-        <translation>Cadangan %1 terputus saat ditulis. Cadangan sebelumnya adalah %2: pakailah yang itu.</translation>
     </message>
 </context>
 <context>
@@ -5870,6 +5879,14 @@ Isi kolom sambungan db dan pasang data awal</translation>
         <source>Check</source>
         <translation>Cek</translation>
     </message>
+    <message>
+        <source>Electronic funds transfer</source>
+        <translation>Transfer dana elektronik</translation>
+    </message>
+    <message>
+        <source>Checks</source>
+        <translation>Cek</translation>
+    </message>
 </context>
 <context>
     <name>PosInstaller</name>
@@ -6120,6 +6137,25 @@ Isi kolom sambungan db dan pasang data awal</translation>
     <message>
         <source>Account Payable :</source>
         <translation>Utang Usaha :</translation>
+    </message>
+</context>
+<context>
+    <name>ReplaceQuestion</name>
+    <message>
+        <source>Question</source>
+        <translation>Pertanyaan</translation>
+    </message>
+    <message>
+        <source>The database %1 is in use already. A clean installation makes all tables anew, and everything that they hold is lost. Do you want that?</source>
+        <translation>Basis data %1 sudah dipakai. Pemasangan bersih membuat semua tabel dari awal, dan semua isinya hilang. Ingin melakukannya?</translation>
+    </message>
+    <message>
+        <source>A further workstation of the restaurant uses it as it is.</source>
+        <translation>Komputer restoran yang lain memakainya apa adanya.</translation>
+    </message>
+    <message>
+        <source>&amp;Use It As It Is</source>
+        <translation>&amp;Pakai Apa Adanya</translation>
     </message>
 </context>
 <context>
@@ -10364,6 +10400,21 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     <message>
         <source>Created Date</source>
         <translation>Tanggal Dibuat</translation>
+    </message>
+</context>
+<context>
+    <name>WizardConnection</name>
+    <message>
+        <source>Error</source>
+        <translation>Kesalahan</translation>
+    </message>
+    <message>
+        <source>Can not connect to the database, please update your database connection details</source>
+        <translation>Tidak dapat tersambung ke basis data, perbarui rincian sambungan basis data Anda</translation>
+    </message>
+    <message>
+        <source>Can&apos;t write the settings file: %1</source>
+        <translation>Berkas pengaturan tidak dapat ditulis: %1</translation>
     </message>
 </context>
 <context>
