@@ -8,10 +8,12 @@
  */
 namespace StockFigures
 {
-/** "moved": item_id, day, bought, sold, returned; several rows for an item's day. Nothing after the limit. */
-[[nodiscard]] QString moved(const QString& limit);
-/** A part of that name with item_id, qty and counted, the day of the count that it goes by; every item has a row. */
-[[nodiscard]] QString onHand(const QString& name, const QString& day);
+/**
+ * "stock" with a row for every item: item_id, closing, what there was at the end of the last day; counted, the day of
+ * the count that it goes by; lastbought and lastsold. With a first day also opening, what there was before it, and
+ * what was bought, sold and returned from that day on. Both are statement text.
+ */
+[[nodiscard]] QString stock(const QString& lastDay, const QString& firstDay = QString());
 /** "price": item_id, price, bought. */
 [[nodiscard]] QString price(const QString& limit);
 } // namespace StockFigures

@@ -22,20 +22,13 @@ Report movements()
                                                 "it, and what was left. Counted is what counts of the storeroom "
                                                 "changed.");
     report.parameters = {ReportParameter::period(), Questions::itemType(), Questions::item()};
-    report.query = "with " + StockFigures::moved(":to::date") + ", " +
-                   StockFigures::onHand("opening", ":from::date - 1") + ", " +
-                   StockFigures::onHand("closing", ":to::date") + ", " + StockFigures::price(":to::date") + R"(,
-        inside as (select item_id, sum(bought) as bought, sum(sold) as sold, sum(returned) as returned from moved
-                   where day >= :from::date group by item_id)
-        select *, closing - opening - bought + sold + returned as counted from (
-            select )" +
-                   itemFields + R"(, opening.qty as opening, coalesce(inside.bought, 0) as bought,
-                   coalesce(inside.sold, 0) as sold, coalesce(inside.returned, 0) as returned,
-                   closing.qty as closing, closing.qty * price.price as value
-            from item join opening on opening.item_id = item.id join closing on closing.item_id = item.id
-            join price on price.item_id = item.id left join inside on inside.item_id = item.id)" +
-                   itemJoins + " where item.item_type = 1 " + Asked::item + R"(
-        ) items order by itemtype, name, code)";
+    report.query = "with " + StockFigures::stock(":to::date", ":from::date") + ", " + StockFigures::price(":to::date") +
+                   " select " + itemFields + R"(, stock.opening, stock.bought, stock.sold, stock.returned,
+               stock.closing - stock.opening - stock.bought + stock.sold + stock.returned as counted, stock.closing,
+               stock.closing * price.price as value
+        from item join stock on stock.item_id = item.id join price on price.item_id = item.id)" +
+                   itemJoins + " where item.item_type = 1 " + Asked::item +
+                   " order by jenis_item.nama, item.nama, item.id";
     report.columns = {Columns::itemType(),
                       Columns::code(),
                       Columns::item(),

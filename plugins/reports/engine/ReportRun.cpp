@@ -26,10 +26,11 @@ public:
         database.setDatabaseName(to.database);
         database.setUserName(to.user);
         database.setPassword(to.password);
-        // Two processes' work for one report would hold up the tills; a report must not write.
+        // More processes for one report would hold up the tills; sums over years fit the memory; a report must not
+        // write.
         database.setConnectOptions("connect_timeout=5;tcp_user_timeout=10000;application_name=zavelpos-reports;"
                                    "options=-c\\ default_transaction_read_only=on\\ "
-                                   "-c\\ max_parallel_workers_per_gather=1\\ -c\\ TimeZone=" +
+                                   "-c\\ max_parallel_workers_per_gather=1\\ -c\\ work_mem=64MB\\ -c\\ TimeZone=" +
                                    QString::fromLatin1(QTimeZone::systemTimeZoneId()));
         database.open();
     }
