@@ -155,7 +155,8 @@ const char* const money[] = {
     "INSERT INTO piutang (id, no, payment_type, member_id, payment_date, grandtotal_amount, bank_id, createdby, "
     "createdtime) VALUES (1, 'PIU-1', 1, 2, '2026-03-20', 160, 1, 101, '2026-03-20 15:00'), "
     "(2, 'PIU-2', 2, 1, '2026-03-31', 90, 2, 102, '2026-03-31 16:00')",
-    "INSERT INTO piutang_detail (piutang_id, invoice_id, amount_paid_amount) VALUES (1, 3, 160), (2, 999, 90)",
+    "INSERT INTO piutang_detail (piutang_id, invoice_id, amount_paid_amount) VALUES (1, 3, 160), (2, 6, 10), (2, 999, "
+    "90)",
     "INSERT INTO komisi_agen (id, no, agent_id, payment_date, grandtotal_amount, amount_paid_amount, bank_id, noref, "
     "createdby) VALUES (1, 'KAG-1', 1, '2026-03-31', 237, 250, 1, 'R7', 102)",
     "INSERT INTO komisi_agen_detail (komisi_agen_id, invoice_id, commision_perc, commision_amount) VALUES (1, 2, 10, "

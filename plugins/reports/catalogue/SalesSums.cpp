@@ -33,18 +33,26 @@ ReportColumn statusColumn()
                 {3, QT_TRANSLATE_NOOP("Reports", "Partially paid")}});
 }
 
-QList<ReportColumn> columns()
+QList<ReportColumn> columns(const QStringList& fields)
 {
-    return {Column::count("sales", QT_TRANSLATE_NOOP("Reports", "Sales")).sum(),
-            Column::money("subtotal", QT_TRANSLATE_NOOP("Reports", "Subtotal")).sum(),
-            Column::money("discount", QT_TRANSLATE_NOOP("Reports", "Discount")).sum(),
-            Column::money("tax", QT_TRANSLATE_NOOP("Reports", "Tax")).sum(),
-            Column::money("service", QT_TRANSLATE_NOOP("Reports", "Service")).sum(),
-            Column::money("total", QT_TRANSLATE_NOOP("Reports", "Total")).sum(),
-            Column::money("cash", QT_TRANSLATE_NOOP("Reports", "Cash")).sum(),
-            Column::money("credit", QT_TRANSLATE_NOOP("Reports", "Credit")).sum(),
-            Column::money("due", QT_TRANSLATE_NOOP("Reports", "Still due")).sum(),
-            Column::average("average", QT_TRANSLATE_NOOP("Reports", "Average sale"), "total", "sales")};
+    const QList<ReportColumn> all{
+        Column::count("sales", QT_TRANSLATE_NOOP("Reports", "Sales")).sum(),
+        Column::money("subtotal", QT_TRANSLATE_NOOP("Reports", "Subtotal")).sum(),
+        Column::money("discount", QT_TRANSLATE_NOOP("Reports", "Discount")).sum(),
+        Column::money("tax", QT_TRANSLATE_NOOP("Reports", "Tax")).sum(),
+        Column::money("service", QT_TRANSLATE_NOOP("Reports", "Service")).sum(),
+        Column::money("total", QT_TRANSLATE_NOOP("Reports", "Total")).sum(),
+        Column::percent("share", QT_TRANSLATE_NOOP("Reports", "Share")).sum(),
+        Column::average("average", QT_TRANSLATE_NOOP("Reports", "Average sale"), "total", "sales"),
+        Column::money("cash", QT_TRANSLATE_NOOP("Reports", "Cash")).sum(),
+        Column::money("credit", QT_TRANSLATE_NOOP("Reports", "Credit")).sum(),
+        Column::money("due", QT_TRANSLATE_NOOP("Reports", "Still due")).sum()};
+    QList<ReportColumn> columns;
+    for (const ReportColumn& column : all) {
+        if (fields.contains(column.field))
+            columns.append(column);
+    }
+    return columns;
 }
 
 Report salesBy(const QString& id, const char* title, const char* about, const Key& key)
@@ -62,8 +70,8 @@ Report salesBy(const QString& id, const char* title, const char* about, const Ke
                    "from invoice i " +
                    key.joins + " where " + scope + ' ' + key.condition + " group by " + places.join(", ") +
                    " order by total desc, 1";
-    report.columns = key.columns + columns();
-    report.columns.append(Column::percent("share", QT_TRANSLATE_NOOP("Reports", "Share")).sum());
+    report.columns =
+        key.columns + columns({"sales", "subtotal", "discount", "total", "share", "average", "cash", "credit", "due"});
     report.chart = ReportChart::ranking(key.columns.first().field, "total");
     return report;
 }

@@ -16,8 +16,8 @@ extern const char* const sums;
 [[nodiscard]] ReportColumn typeColumn();
 /** How an invoice's status reads. */
 [[nodiscard]] ReportColumn statusColumn();
-/** Columns of the sums, and the average sale. */
-[[nodiscard]] QList<ReportColumn> columns();
+/** The columns of these sums, of the share and of the average sale, in the order of an invoice. */
+[[nodiscard]] QList<ReportColumn> columns(const QStringList& fields);
 
 /** What the sales are told by. */
 struct Key

@@ -28,7 +28,9 @@ Report overTime(const QString& id, const char* title, const char* about, const Q
                    unit + R"(')::date as day from sold) series
         left join sold on sold.day = series.day
         order by series.day)";
-    report.columns = QList<ReportColumn>{column} + SalesSums::columns();
+    report.columns =
+        QList<ReportColumn>{column} + SalesSums::columns({"sales", "subtotal", "discount", "tax", "service", "total",
+                                                          "average", "cash", "credit", "due"});
     report.chart = ReportChart::lines("day", {"total"});
     return report;
 }
@@ -36,13 +38,9 @@ Report overTime(const QString& id, const char* title, const char* about, const Q
 /** Columns of what comes back day after day: the average of the days on which anything was sold. */
 QList<ReportColumn> recurringColumns(const ReportColumn& column)
 {
-    return {column,
-            Column::count("sales", QT_TRANSLATE_NOOP("Reports", "Sales")).sum(),
-            Column::money("total", QT_TRANSLATE_NOOP("Reports", "Total")).sum(),
-            Column::percent("share", QT_TRANSLATE_NOOP("Reports", "Share")).sum(),
-            Column::average("average", QT_TRANSLATE_NOOP("Reports", "Average sale"), "total", "sales"),
-            Column::count("days", QT_TRANSLATE_NOOP("Reports", "Days")),
-            Column::money("perday", QT_TRANSLATE_NOOP("Reports", "Total per day"))};
+    return QList<ReportColumn>{column} + SalesSums::columns({"sales", "total", "share", "average"}) +
+           QList<ReportColumn>{Column::count("days", QT_TRANSLATE_NOOP("Reports", "Days")),
+                               Column::money("perday", QT_TRANSLATE_NOOP("Reports", "Total per day"))};
 }
 
 Report byHour()

@@ -322,8 +322,11 @@ void TabReport::showAnswer(bool cutOff)
     m_model->finish();
     const ReportTable& table = m_model->table();
     m_grid->resizeColumnsToContents();
+    // A little air, as long as nothing is pushed out of sight by it.
+    const int room = m_grid->viewport()->width() - m_grid->horizontalHeader()->length();
+    const int air = m_model->columnCount() > 0 ? qBound(0, room / m_model->columnCount(), 12) : 0;
     for (int i = 0; i < m_model->columnCount(); ++i)
-        m_grid->setColumnWidth(i, qMin(m_grid->columnWidth(i) + 12, widestColumn));
+        m_grid->setColumnWidth(i, qMin(m_grid->columnWidth(i) + air, widestColumn));
     const bool hasPlot = m_plot->show(table, ReportFormat(m_dateFormat));
     m_plot->setVisible(hasPlot);
     const double seconds = (QDateTime::currentMSecsSinceEpoch() - m_startedAt) / 1000.0;
