@@ -87,16 +87,22 @@ Report discounts()
     return report;
 }
 
-/** Everything that is still to be paid, by the day until which it should have been. */
+/**
+ * Everything that is still to be paid, by the day until which it should have been. It is owed by the member to whose
+ * payments the invoice is offered: the order's, as far as there is one.
+ */
 const char* const openInvoices = R"(
     select i.id, i.no, i.invoice_date as day, coalesce(dine.due_date, i.invoice_date) as until,
            coalesce(m.nama, '') as member, m.kode as code, m.telp as phone, i.pemesan as guest, i.status,
            i.grandtotal_amount as total, i.amount_paid_amount + i.other_payment_amount as paid,
            i.grandtotal_amount - i.amount_paid_amount - i.other_payment_amount as due,
            greatest(:day::date - coalesce(dine.due_date, i.invoice_date), 0) as late
-    from invoice i left join member m on m.id = i.member_id
-         left join invoice_makan_ditempat dine on dine.invoice_id = i.id
-    where i.status <> 1 and i.invoice_date <= :day and (:member::bigint is null or i.member_id = :member::bigint))";
+    from invoice i left join invoice_makan_ditempat dine on dine.invoice_id = i.id
+         left join makan_ditempat ordered on ordered.id = dine.makan_ditempat_id
+         left join invoice_bawa_pulang away on away.invoice_id = i.id
+         left join invoice_fast_food fast on fast.invoice_id = i.id
+         left join member m on m.id = coalesce(ordered.member_id, away.member_id, fast.member_id)
+    where i.status <> 1 and i.invoice_date <= :day and (:member::bigint is null or m.id = :member::bigint))";
 
 QList<ReportParameter> openQuestions()
 {
