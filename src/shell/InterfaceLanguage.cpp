@@ -53,6 +53,7 @@ void InterfaceLanguage::load(const QString& code)
     QLocale::setDefault(locale);
     switchTranslator(m_translator, QString("TranslationExample_%1.qm").arg(code));
     switchTranslator(m_qtTranslator, QString("qt_%1.qm").arg(code));
+    emit switched(code);
     emit loaded(QLocale::languageToString(locale.language()));
 }
 

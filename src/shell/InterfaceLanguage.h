@@ -29,6 +29,7 @@ signals:
     /** An entry of the menu was chosen. */
     void chosen(QAction* action);
     void loaded(const QString& languageName);
+    void switched(const QString& code);
 
 private:
     void switchTranslator(QTranslator& translator, const QString& fileName);

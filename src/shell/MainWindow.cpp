@@ -25,6 +25,7 @@
 #include "shell/DatabaseChange.h"
 #include "shell/DialogAbout.h"
 #include "shell/InterfaceLanguage.h"
+#include "shell/Manual.h"
 #include "shell/MenuShortcuts.h"
 #include "shell/PageArea.h"
 #include "shell/RestartStatus.h"
@@ -50,6 +51,7 @@ MainWindow::MainWindow(QWidget* parent)
       m_language(new InterfaceLanguage(QCoreApplication::applicationDirPath() + "/languages", this))
 {
     m_ui->setupUi(this);
+    m_manual = new Manual(QCoreApplication::applicationDirPath() + "/help", m_ui->tabWidget);
     m_statusUser->setAlignment(Qt::AlignHCenter);
     m_statusUser->setContentsMargins(8, 2, 8, 2);
     m_ui->statusBar->addWidget(m_statusUser);
@@ -74,6 +76,7 @@ MainWindow::MainWindow(QWidget* parent)
     });
     m_language->fillMenu(m_ui->menuLanguage_2);
     connect(m_language, &InterfaceLanguage::chosen, this, &MainWindow::slotLanguageChanged);
+    connect(m_language, &InterfaceLanguage::switched, m_manual, &Manual::setLanguage);
     connect(m_language, &InterfaceLanguage::loaded, this, [this](const QString& name) {
         m_ui->statusBar->showMessage(tr("Current Language changed to %1").arg(name));
     });
@@ -275,6 +278,8 @@ void MainWindow::on_actionConverter_triggered()
 }
 
 void MainWindow::on_actionPrinter_triggered() { DialogPrinter(this).exec(); }
+
+void MainWindow::on_actionManual_triggered() { m_manual->open(); }
 
 void MainWindow::on_actionAbout_triggered() { DialogAbout(this).exec(); }
 

@@ -9,6 +9,7 @@
 class BusinessConfiguration;
 class DatabaseUpdate;
 class InterfaceLanguage;
+class Manual;
 class PageArea;
 class QLabel;
 class Sidebar;
@@ -91,6 +92,7 @@ public slots:
     void on_actionPesanan_Masuk_triggered() { openTab("TabPesananMasuk"); }
     void on_actionDaftar_Penjualan_triggered() { openTab("TabDaftarPenjualan"); }
     void on_actionPiutang_triggered() { openTab("TabPiutang"); }
+    void on_actionManual_triggered();
     void on_actionAbout_triggered();
     void on_actionDaftar_Pembayaran_Komisi_triggered() { openTab("TabKomisiAgen"); }
     void on_actionDaftar_Komisi_Agen_triggered() { openTab("TabAllKomisiAgen"); }
@@ -134,5 +136,6 @@ private:
     bool m_inDatabaseSetup = false;
     DatabaseUpdate* m_update = nullptr;
     InterfaceLanguage* m_language;
+    Manual* m_manual;
     Sidebar* m_sidebar = nullptr;
 };

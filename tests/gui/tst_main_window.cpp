@@ -72,6 +72,7 @@ const Entry entries[] = {
     {"actionPesanan_Masuk", "Incoming Orders ", "Ctrl+K", "TabPesananMasuk"},
     {"actionDaftar_Penjualan", "Customer Payments", "Ctrl+L", "TabDaftarPenjualan"},
     {"actionPiutang", "Member Payments", "Ctrl+I", "TabPiutang"},
+    {"actionManual", "Manual", "F1", ""},
     {"actionAbout", "About", "", ""},
     {"actionDaftar_Pembayaran_Komisi", "Agent Commission Payments", "Ctrl+D", "TabKomisiAgen"},
     {"actionDaftar_Komisi_Agen", "Agent Commissions", "Ctrl+G", "TabAllKomisiAgen"},
@@ -255,7 +256,7 @@ void TestMainWindow::theMenusStandInTheirOrder()
         {"C&onfiguration",
          {"General", "Running Numbers", "Printer >", "Show Sidebar", "Show Dashboard", "Database Management",
           "Clear Transactions", "Language >"}},
-        {"Help", {"About"}},
+        {"Help", {"Manual", "About"}},
     };
     QList<QPair<QString, QStringList>> actual;
     const QList<QAction*> bar = m_window->menuBar()->actions();

@@ -8,6 +8,7 @@
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -92,22 +93,31 @@ QList<QWidget*> visibleWindows()
             return 3;
         if (window == QApplication::activeModalWidget())
             return 2;
-        return window->isModal() ? 1 : 0;
+        return window->isModal() || window->parentWidget() ? 1 : 0;
     };
     std::stable_sort(windows.begin(), windows.end(),
                      [&rank](const QWidget* left, const QWidget* right) { return rank(left) < rank(right); });
     return windows;
 }
 
-/** The screen as a person sees it: forms in the middle of the window behind them, where a window manager puts them. */
-QPixmap screen()
+QString spot(const QRect& area)
+{
+    return QString("%1x%2+%3+%4").arg(area.width()).arg(area.height()).arg(area.x()).arg(area.y());
+}
+
+/**
+ * The screen as a person sees it: forms in the middle of the window behind them, where a window manager puts them.
+ * The picture tells where in it the page lies, and all that lies over the main window, for who wants no more of it.
+ */
+QImage screen()
 {
     constexpr int frame = 2;
     const QList<QWidget*> windows = visibleWindows();
     if (windows.isEmpty())
-        return QPixmap(1, 1);
+        return QImage(1, 1, QImage::Format_RGB32);
     const QRect ground = windows.first()->geometry();
     QRect area = ground;
+    QRect front;
     QList<QPoint> corners;
     QPoint shift;
     for (const QWidget* window : windows) {
@@ -115,19 +125,28 @@ QPixmap screen()
         if (window->windowType() != Qt::Popup && window->windowType() != Qt::ToolTip && window != windows.first()) {
             place.moveCenter(ground.center());
             shift = place.topLeft() - window->geometry().topLeft();
+            front = QRect();
         } else if (window != windows.first()) {
             place.translate(shift);
         }
         corners.append(place.topLeft());
-        area |= place.adjusted(-frame, -frame, frame, frame);
+        const QRect framed = place.adjusted(-frame, -frame, frame, frame);
+        area |= framed;
+        if (window != windows.first())
+            front |= framed;
     }
-    QPixmap picture(area.size());
+    QImage picture(area.size(), QImage::Format_RGB32);
     picture.fill(QColor("#3a4650"));
     QPainter painter(&picture);
     for (int i = 0; i < windows.size(); ++i) {
         const QRect place(corners.at(i) - area.topLeft(), windows.at(i)->size());
         painter.fillRect(place.adjusted(-frame, -frame, frame, frame), QColor("#20262b"));
         painter.drawPixmap(place.topLeft(), windows.at(i)->grab());
+    }
+    picture.setText("tour-front", spot(front.isNull() ? picture.rect() : front.translated(-area.topLeft())));
+    if (const auto* pages = windows.first()->findChild<QTabWidget*>("tabWidget")) {
+        const QPoint corner = corners.first() - area.topLeft() + pages->mapTo(windows.first(), QPoint());
+        picture.setText("tour-page", spot(QRect(corner, pages->size())));
     }
     return picture;
 }
@@ -391,30 +410,44 @@ void Guide::lookUp(const QString& field, const QString& text)
     });
 }
 
-void Guide::menu(const QString& menuName, const QString& actionName)
+void Guide::menu(const QString& menuName, const QString& actionName, const QString& subMenuName)
 {
-    const auto theMenu = [menuName]() -> QMenu* {
+    const auto named = [](const QString& name) -> QMenu* {
         for (QWidget* window : QApplication::topLevelWidgets()) {
-            if (auto* menu = window->findChild<QMenu*>(menuName))
+            if (auto* menu = window->findChild<QMenu*>(name))
                 return menu;
         }
         return nullptr;
     };
-    waitFor("menu " + menuName, [&theMenu] { return theMenu() != nullptr; });
-    act([theMenu] {
-        QMenu* menu = theMenu();
+    const auto press = [this, named](const QString& pressed, const std::function<bool(const QAction*)>& isMeant) {
+        act([named, pressed, isMeant] {
+            QMenu* menu = named(pressed);
+            for (QAction* action : menu->actions()) {
+                if (isMeant(action))
+                    QTest::mouseClick(menu, Qt::LeftButton, Qt::NoModifier, menu->actionGeometry(action).center());
+            }
+        });
+    };
+    const auto waitForMenu = [this, named](const QString& name) {
+        waitFor("open menu " + name, [&] { return named(name)->isVisible(); });
+    };
+    waitFor("menu " + menuName, [&] { return named(menuName) != nullptr; });
+    act([named, menuName] {
+        QMenu* menu = named(menuName);
         auto* bar = menu->parentWidget()->window()->findChild<QMenuBar*>();
         QTest::mouseClick(bar, Qt::LeftButton, Qt::NoModifier, bar->actionGeometry(menu->menuAction()).center());
     });
-    waitFor("open menu " + menuName, [&theMenu] { return theMenu()->isVisible(); });
-    act([theMenu, actionName] {
-        QMenu* menu = theMenu();
-        for (QAction* action : menu->actions()) {
-            if (action->objectName() == actionName)
-                QTest::mouseClick(menu, Qt::LeftButton, Qt::NoModifier, menu->actionGeometry(action).center());
-        }
+    waitForMenu(menuName);
+    if (!subMenuName.isEmpty()) {
+        press(menuName, [subMenuName](const QAction* action) {
+            return action->menu() && action->menu()->objectName() == subMenuName;
+        });
+        waitForMenu(subMenuName);
+    }
+    press(subMenuName.isEmpty() ? menuName : subMenuName, [actionName](const QAction* action) {
+        return action->objectName() == actionName || action->data().toString() == actionName;
     });
-    waitFor("closed menu " + menuName, [&theMenu] { return !theMenu()->isVisible(); });
+    waitFor("closed menu " + menuName, [&] { return !named(menuName)->isVisible(); });
 }
 
 void Guide::closePage()

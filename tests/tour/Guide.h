@@ -55,8 +55,8 @@ public:
     void choose(const QString& box, const QString& text);
     /** Types into a lookup box, waits for its list and takes the first entry. */
     void lookUp(const QString& field, const QString& text);
-    /** Triggers the entry of the main window's menu that has this object name, by the mouse. */
-    void menu(const QString& menuName, const QString& actionName);
+    /** Triggers the entry of the menu, or of the one in it, that has this object name or data, by the mouse. */
+    void menu(const QString& menuName, const QString& actionName, const QString& subMenuName = {});
 
     /** Closes the page in front by its key. */
     void closePage();

@@ -1,6 +1,7 @@
 #include "tour/BackOfficeTour.h"
 #include "tour/DineInTour.h"
 #include "tour/Guide.h"
+#include "tour/OwnerTour.h"
 #include "tour/SellingTour.h"
 #include "tour/StartTour.h"
 
@@ -42,6 +43,8 @@ private:
             playBackOffice(guide);
         else if (name == "selling")
             playSelling(guide);
+        else if (name == "owner")
+            playOwner(guide);
         else if (name == "start")
             playStart(guide);
         else

@@ -1,0 +1,243 @@
+#include "shell/HelpWindow.h"
+#include "shell/Manual.h"
+
+#include <QDialog>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QRegularExpression>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTextBrowser>
+#include <QTimer>
+#include <QTreeWidget>
+
+namespace
+{
+QString folder() { return qEnvironmentVariable("ZAVEL_SOURCE_DIR") + "/help"; }
+
+QString read(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+QStringList allOf(const QString& text, const QString& pattern)
+{
+    QStringList found;
+    auto matches = QRegularExpression(pattern).globalMatch(text);
+    while (matches.hasNext())
+        found += matches.next().captured(1);
+    return found;
+}
+
+QStringList anchorsOf(const QString& text) { return allOf(text, "<a name=\"(\\w+)\">"); }
+
+/** The pictures that the list promises. */
+QStringList listedPictures() { return allOf(read(folder() + "/pictures/pictures.txt"), "(?m)^([\\w-]+) +\\|"); }
+
+QTextBrowser* pageOf(const QWidget* window) { return window->findChild<QTextBrowser*>("page"); }
+
+QString placeOf(const QWidget* window)
+{
+    const QUrl source = pageOf(window)->source();
+    return source.fileName() + (source.hasFragment() ? '#' + source.fragment() : QString());
+}
+} // namespace
+
+class TestHelpWindow : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void everyLinkAndPictureOfThePageIsThere_data();
+    void everyLinkAndPictureOfThePageIsThere();
+    void bothLanguagesTellTheSame_data() { everyPage(); }
+    void bothLanguagesTellTheSame();
+    void everyListedPictureIsThereAndUsed();
+    void thePicturesAreSmall();
+    void theContentsLeadToEveryPartOfEveryPage();
+    void theManualFollowsTheLanguageAndFallsBackToEnglish();
+    void aSearchGoesRoundThePage();
+    void aMissingManualSaysWhereItBelongs();
+    void everyTopicIsAPlaceInTheManual();
+    void theKeyOpensWhatThePageInFrontIsAbout();
+    void aFormGetsAManualOfItsOwn();
+
+private:
+    static void everyPage();
+};
+
+void TestHelpWindow::everyPage()
+{
+    QTest::addColumn<QString>("page");
+    for (const QString& page : HelpWindow::pages())
+        QTest::newRow(qPrintable(page)) << page;
+}
+
+void TestHelpWindow::everyLinkAndPictureOfThePageIsThere_data()
+{
+    QTest::addColumn<QString>("path");
+    for (const char* language : {"en", "id"}) {
+        for (const QString& page : HelpWindow::pages())
+            QTest::newRow(qPrintable(QString("%1: %2").arg(language, page)))
+                << QString("%1/%2/%3").arg(folder(), language, page);
+    }
+}
+
+void TestHelpWindow::everyLinkAndPictureOfThePageIsThere()
+{
+    QFETCH(QString, path);
+    const QString text = read(path);
+    const QDir here = QFileInfo(path).dir();
+    QVERIFY(!text.isEmpty());
+    for (const QString& link : allOf(text, "href=\"([^\"]+)\"")) {
+        const QString target = read(here.filePath(link.section('#', 0, 0)));
+        QVERIFY2(!target.isEmpty(), qPrintable(link));
+        const QString anchor = link.section('#', 1);
+        QVERIFY2(anchor.isEmpty() || anchorsOf(target).contains(anchor), qPrintable(link));
+    }
+    for (const QString& picture : allOf(text, "src=\"([^\"]+)\"")) {
+        QVERIFY2(picture.startsWith("../pictures/"), qPrintable(picture));
+        QVERIFY2(QFileInfo::exists(here.filePath(picture)), qPrintable(picture));
+    }
+}
+
+void TestHelpWindow::bothLanguagesTellTheSame()
+{
+    QFETCH(QString, page);
+    const QString english = read(folder() + "/en/" + page);
+    const QString indonesian = read(folder() + "/id/" + page);
+    for (const char* same : {"<a name=\"(\\w+)\">", "src=\"([^\"]+)\"", "href=\"([^\"]+)\"", "(<li>|<tr>|<h\\d>)",
+                             "class=\"key\">&nbsp;([^<]+)&nbsp;<"})
+        QCOMPARE(allOf(indonesian, same), allOf(english, same));
+}
+
+void TestHelpWindow::everyListedPictureIsThereAndUsed()
+{
+    QString all;
+    for (const QString& page : HelpWindow::pages())
+        all += read(folder() + "/en/" + page);
+    QStringList used = allOf(all, "src=\"../pictures/([\\w-]+).png\"");
+    QStringList there = QDir(folder() + "/pictures").entryList({"*.png"}).replaceInStrings(".png", "");
+    QStringList listed = listedPictures();
+    for (QStringList* list : {&used, &there, &listed}) {
+        list->removeDuplicates();
+        list->sort();
+    }
+    QCOMPARE(there, listed);
+    QCOMPARE(used, listed);
+}
+
+void TestHelpWindow::thePicturesAreSmall()
+{
+    qint64 all = 0;
+    for (const QFileInfo& picture : QDir(folder() + "/pictures").entryInfoList({"*.png"})) {
+        QVERIFY2(picture.size() < 60 * 1024, qPrintable(picture.fileName()));
+        QVERIFY2(QImage(picture.filePath()).width() <= 900, qPrintable(picture.fileName()));
+        all += picture.size();
+    }
+    QVERIFY(all < 1536 * 1024);
+}
+
+void TestHelpWindow::theContentsLeadToEveryPartOfEveryPage()
+{
+    HelpWindow window(folder(), nullptr);
+    auto* contents = window.findChild<QTreeWidget*>("contents");
+    QCOMPARE(contents->topLevelItemCount(), HelpWindow::pages().size());
+    for (int i = 0; i < contents->topLevelItemCount(); ++i) {
+        QTreeWidgetItem* page = contents->topLevelItem(i);
+        const QString name = HelpWindow::pages().at(i);
+        QCOMPARE(page->childCount(), anchorsOf(read(folder() + "/en/" + name)).size());
+        emit contents->itemActivated(page->child(page->childCount() - 1), 0);
+        QCOMPARE(placeOf(&window).section('#', 0, 0), name);
+        QCOMPARE(contents->currentItem(), page->child(page->childCount() - 1));
+    }
+}
+
+void TestHelpWindow::theManualFollowsTheLanguageAndFallsBackToEnglish()
+{
+    HelpWindow window(folder(), nullptr);
+    window.showPage("owner.html#backup");
+    for (const char* language : {"id", "fr", "en"}) {
+        window.setLanguage(language);
+        const QString spoken = language == QString("id") ? "id" : "en";
+        QVERIFY(pageOf(&window)->source().path().endsWith(QString("/%1/owner.html").arg(spoken)));
+        QCOMPARE(placeOf(&window), QString("owner.html#backup"));
+    }
+}
+
+void TestHelpWindow::aSearchGoesRoundThePage()
+{
+    HelpWindow window(folder(), nullptr);
+    window.showPage("waiter.html");
+    auto* find = window.findChild<QLineEdit*>("find");
+    find->setText("no chili");
+    for (int time = 0; time < 2; ++time) {
+        QTest::keyClick(find, Qt::Key_Return);
+        QCOMPARE(pageOf(&window)->textCursor().selectedText(), QString("no chili"));
+    }
+    find->setText("submarine");
+    QTest::keyClick(find, Qt::Key_Return);
+    QVERIFY(!find->styleSheet().isEmpty());
+    find->setText("board");
+    QVERIFY(find->styleSheet().isEmpty());
+}
+
+void TestHelpWindow::aMissingManualSaysWhereItBelongs()
+{
+    const QTemporaryDir empty;
+    HelpWindow window(empty.filePath("help"), nullptr);
+    window.showPage("waiter.html");
+    QVERIFY(pageOf(&window)->toPlainText().contains(empty.filePath("help")));
+}
+
+void TestHelpWindow::everyTopicIsAPlaceInTheManual()
+{
+    for (const QString& topic : Manual::topics()) {
+        const QString text = read(folder() + "/en/" + topic.section('#', 0, 0));
+        QVERIFY2(!text.isEmpty(), qPrintable(topic));
+        const QString anchor = topic.section('#', 1);
+        QVERIFY2(anchor.isEmpty() || anchorsOf(text).contains(anchor), qPrintable(topic));
+    }
+}
+
+void TestHelpWindow::theKeyOpensWhatThePageInFrontIsAbout()
+{
+    QTabWidget pages;
+    Manual manual(folder(), &pages);
+    manual.open();
+    auto* window = pages.findChild<HelpWindow*>();
+    QVERIFY(window->isVisible());
+    QCOMPARE(placeOf(window), QString("index.html"));
+    pages.addTab(new QWidget, "a page without a part of its own");
+    manual.open();
+    QCOMPARE(placeOf(window), QString("owner.html"));
+    QCOMPARE(Manual::topicOf("TabMakanDitempat"), QString("waiter.html"));
+    QCOMPARE(Manual::topicOf("TabPesananMasuk"), QString("kitchen.html"));
+    QCOMPARE(Manual::topicOf("DialogBayarMakanDitempat"), QString("cashier.html#table"));
+    manual.setLanguage("id");
+    QVERIFY(pageOf(window)->source().path().endsWith("/id/owner.html"));
+    QCOMPARE(pages.findChildren<HelpWindow*>().size(), 1);
+}
+
+void TestHelpWindow::aFormGetsAManualOfItsOwn()
+{
+    QTabWidget pages;
+    Manual manual(folder(), &pages);
+    QDialog form(&pages);
+    auto* field = new QLineEdit(&form);
+    bool opened = false;
+    QTimer::singleShot(0, &form, [&] {
+        QTest::keyClick(field, Qt::Key_F1);
+        const auto* window = form.findChild<HelpWindow*>();
+        opened = window && window->isVisible() && window->window() == window;
+        form.reject();
+    });
+    form.exec();
+    QVERIFY(opened);
+    QVERIFY(!pages.findChild<HelpWindow*>(QString(), Qt::FindDirectChildrenOnly));
+}
+
+QTEST_MAIN(TestHelpWindow)
+#include "tst_help_window.moc"
