@@ -4615,6 +4615,41 @@ Do you want to restore into %1 all the same?</source>
     </message>
 </context>
 <context>
+    <name>HelpWindow</name>
+    <message>
+        <source>Manual</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Find in the page:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Return goes on to the next place (Ctrl+F)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The manual is not here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Its pages were not installed with the program. They belong into this folder: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>InstallProgressPage</name>
     <message>
         <source>Installing...</source>
@@ -5383,6 +5418,14 @@ Please fill the db connection fields and install the initial data</source>
     </message>
     <message>
         <source>Do you want to open the converter now? Ignore: do not tell this again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>F1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -4639,6 +4639,41 @@ Tetap pulihkan ke %1?</translation>
     </message>
 </context>
 <context>
+    <name>HelpWindow</name>
+    <message>
+        <source>Manual</source>
+        <translation>Panduan</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Kembali</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Maju</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Daftar Isi</translation>
+    </message>
+    <message>
+        <source>Find in the page:</source>
+        <translation>Cari di halaman:</translation>
+    </message>
+    <message>
+        <source>Return goes on to the next place (Ctrl+F)</source>
+        <translation>Return melanjutkan ke tempat berikutnya (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>The manual is not here</source>
+        <translation>Panduan tidak ada di sini</translation>
+    </message>
+    <message>
+        <source>Its pages were not installed with the program. They belong into this folder: %1</source>
+        <translation>Halamannya tidak terpasang bersama program. Tempatnya di folder ini: %1</translation>
+    </message>
+</context>
+<context>
     <name>InstallProgressPage</name>
     <message>
         <source>Installing...</source>
@@ -5409,6 +5444,14 @@ Isi kolom sambungan db dan pasang data awal</translation>
     <message>
         <source>Do you want to open the converter now? Ignore: do not tell this again.</source>
         <translation>Buka konverter sekarang? Abaikan: jangan beri tahu lagi.</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Panduan</translation>
+    </message>
+    <message>
+        <source>F1</source>
+        <translation>F1</translation>
     </message>
 </context>
 <context>
