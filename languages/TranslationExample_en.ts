@@ -9256,10 +9256,6 @@ Exit status of status: 0 installed, 3 reachable but not installed, 1 otherwise.<
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Group :</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Error</source>
         <translation type="unfinished"></translation>
     </message>
@@ -9269,6 +9265,10 @@ Exit status of status: 0 installed, 3 reachable but not installed, 1 otherwise.<
     </message>
     <message>
         <source>Application needs to be restarted to take the effect</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Group :</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -10359,6 +10359,57 @@ Exit status of status: 0 installed, 3 reachable but not installed, 1 otherwise.<
     </message>
     <message>
         <source>Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TimeAgoWords</name>
+    <message>
+        <source>1 second</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> second</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 minute</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> minutes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 hour</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> hours</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>yesterday</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> day</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 month</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> months</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 year</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> years</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

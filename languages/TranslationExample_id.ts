@@ -9286,10 +9286,6 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
         <translation>Hak Akses Pengguna</translation>
     </message>
     <message>
-        <source>&amp;Group :</source>
-        <translation>&amp;Grup :</translation>
-    </message>
-    <message>
         <source>Error</source>
         <translation>Kesalahan</translation>
     </message>
@@ -9300,6 +9296,10 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     <message>
         <source>Application needs to be restarted to take the effect</source>
         <translation>Aplikasi perlu dijalankan ulang agar perubahan berlaku</translation>
+    </message>
+    <message>
+        <source>Group :</source>
+        <translation>Grup :</translation>
     </message>
 </context>
 <context>
@@ -10390,6 +10390,57 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     <message>
         <source>Name</source>
         <translation>Nama</translation>
+    </message>
+</context>
+<context>
+    <name>TimeAgoWords</name>
+    <message>
+        <source>1 second</source>
+        <translation>1 detik</translation>
+    </message>
+    <message>
+        <source> second</source>
+        <translation> detik</translation>
+    </message>
+    <message>
+        <source>1 minute</source>
+        <translation>1 menit</translation>
+    </message>
+    <message>
+        <source> minutes</source>
+        <translation> menit</translation>
+    </message>
+    <message>
+        <source>1 hour</source>
+        <translation>1 jam</translation>
+    </message>
+    <message>
+        <source> hours</source>
+        <translation> jam</translation>
+    </message>
+    <message>
+        <source>yesterday</source>
+        <translation>kemarin</translation>
+    </message>
+    <message>
+        <source> day</source>
+        <translation> hari</translation>
+    </message>
+    <message>
+        <source>1 month</source>
+        <translation>1 bulan</translation>
+    </message>
+    <message>
+        <source> months</source>
+        <translation> bulan</translation>
+    </message>
+    <message>
+        <source>1 year</source>
+        <translation>1 tahun</translation>
+    </message>
+    <message>
+        <source> years</source>
+        <translation> tahun</translation>
     </message>
 </context>
 <context>

@@ -53,6 +53,9 @@ void PageArea::openReport(KorTab* report)
 void PageArea::retranslate()
 {
     const int shown = m_tabs->currentIndex();
+    // Close buttons keep the words that they were made with.
+    m_tabs->setTabsClosable(false);
+    m_tabs->setTabsClosable(true);
     for (int index = 0; index < m_tabs->count(); ++index) {
         QWidget* page = m_tabs->widget(index);
         const QString className = page->metaObject()->className();

@@ -1,8 +1,11 @@
 #include "reports/engine/ReportFormat.h"
 
+#include "app/context/AppContext.h"
 #include "reports/engine/ReportTable.h"
 
 #include <QDateTime>
+
+QLocale restaurantLocale() { return QLocale(AppContext::instance()->locale()); }
 
 ReportFormat::ReportFormat(QString dateFormat, QLocale locale)
     : m_dateFormat(std::move(dateFormat)), m_locale(std::move(locale))

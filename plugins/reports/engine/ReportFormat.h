@@ -6,11 +6,14 @@
 
 class ReportTable;
 
+/** How the restaurant writes figures and days, whatever language the program speaks. */
+[[nodiscard]] QLocale restaurantLocale();
+
 /** How a report's values read on screen and paper. */
 class ReportFormat
 {
 public:
-    explicit ReportFormat(QString dateFormat = "d MMM yyyy", QLocale locale = QLocale());
+    explicit ReportFormat(QString dateFormat = "d MMM yyyy", QLocale locale = restaurantLocale());
 
     [[nodiscard]] QString text(const QVariant& value, ReportColumn::Kind kind) const;
     [[nodiscard]] QString number(double value, ReportColumn::Kind kind) const;

@@ -1,5 +1,7 @@
 #include "reports/page/ReportQuestions.h"
 
+#include "reports/engine/ReportFormat.h"
+
 #include <QComboBox>
 #include <QDateEdit>
 #include <QHBoxLayout>
@@ -246,7 +248,7 @@ QVariantMap ReportQuestions::values() const
 QStringList ReportQuestions::words(const QString& dateFormat) const
 {
     QStringList words;
-    const auto day = [&dateFormat](const QDate& date) { return QLocale().toString(date, dateFormat); };
+    const auto day = [&dateFormat](const QDate& date) { return restaurantLocale().toString(date, dateFormat); };
     for (const Question& question : m_questions) {
         QString answer;
         switch (question.parameter.kind) {
@@ -258,7 +260,7 @@ QStringList ReportQuestions::words(const QString& dateFormat) const
             answer = day(static_cast<QDateEdit*>(question.box)->date());
             break;
         case ReportParameter::Number:
-            answer = QLocale().toString(static_cast<QSpinBox*>(question.box)->value());
+            answer = restaurantLocale().toString(static_cast<QSpinBox*>(question.box)->value());
             break;
         case ReportParameter::Text:
             answer = static_cast<QLineEdit*>(question.box)->text().trimmed();

@@ -179,6 +179,10 @@ void TabReport::retranslate()
     word(m_csv, QT_TRANSLATE_NOOP("Reports", "CSV"), QT_TRANSLATE_NOOP("Reports", "Save the rows for a spreadsheet"));
     m_questions->retranslate();
     m_model->retranslate();
+    if (!m_plot->isHidden())
+        m_plot->show(table(), ReportFormat(m_dateFormat));
+    if (m_noteWords)
+        m_note->setText(m_noteWords().trimmed());
     if (m_current >= 0) {
         m_title->setText(m_subject.reports.at(m_current).titleText());
         m_about->setText(m_subject.reports.at(m_current).aboutText());
@@ -228,7 +232,7 @@ void TabReport::showReport(int index)
     m_grid->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
     m_grid->resizeColumnsToContents();
     m_plot->hide();
-    showNote(reportText(QT_TRANSLATE_NOOP("Reports", "Press Show (F5) to read the report.")));
+    showNote([] { return reportText(QT_TRANSLATE_NOOP("Reports", "Press Show (F5) to read the report.")); });
     // Not for a page that is thrown away at once, because one of its kind is open already.
     QTimer::singleShot(0, this, &TabReport::loadChoices);
     updateButtons();
@@ -252,7 +256,8 @@ void TabReport::loadChoices()
         else
             m_questions->fillChoices(boxes.at(statement), rows);
     });
-    connect(m_choices.get(), &ReportRun::failed, this, [this](const QString& reason) { showNote(reason, true); });
+    connect(m_choices.get(), &ReportRun::failed, this,
+            [this](const QString& reason) { showNote([reason] { return reason; }, true); });
     m_choices->start();
 }
 
@@ -280,11 +285,15 @@ void TabReport::runReport()
     });
     connect(m_run.get(), &ReportRun::failed, this, [this](const QString& reason) {
         endRun();
-        showNote(reportText(QT_TRANSLATE_NOOP("Reports", "The report could not be read. %1")).arg(reason), true);
+        showNote(
+            [reason] {
+                return reportText(QT_TRANSLATE_NOOP("Reports", "The report could not be read. %1")).arg(reason);
+            },
+            true);
     });
     connect(m_run.get(), &ReportRun::stopped, this, [this] {
         endRun();
-        showNote(reportText(QT_TRANSLATE_NOOP("Reports", "Cancelled.")));
+        showNote([] { return reportText(QT_TRANSLATE_NOOP("Reports", "Cancelled.")); });
     });
     m_plot->hide();
     m_progress->show();
@@ -313,8 +322,11 @@ void TabReport::endRun()
 void TabReport::tellProgress()
 {
     const double seconds = (QDateTime::currentMSecsSinceEpoch() - m_startedAt) / 1000.0;
-    showNote(reportText(QT_TRANSLATE_NOOP("Reports", "Reading... %1 rows, %2 s"))
-                 .arg(QLocale().toString(m_rowsSoFar), QLocale().toString(seconds, 'f', 1)));
+    const QString rows = restaurantLocale().toString(m_rowsSoFar);
+    const QString duration = restaurantLocale().toString(seconds, 'f', 1);
+    showNote([rows, duration] {
+        return reportText(QT_TRANSLATE_NOOP("Reports", "Reading... %1 rows, %2 s")).arg(rows, duration);
+    });
 }
 
 void TabReport::showAnswer(bool cutOff)
@@ -330,26 +342,34 @@ void TabReport::showAnswer(bool cutOff)
     const bool hasPlot = m_plot->show(table, ReportFormat(m_dateFormat));
     m_plot->setVisible(hasPlot);
     const double seconds = (QDateTime::currentMSecsSinceEpoch() - m_startedAt) / 1000.0;
+    const QString count = restaurantLocale().toString(cutOff ? ReportRun::maximalRows : table.rowCount());
+    const QDateTime readAt = QDateTime::currentDateTime();
     if (table.rowCount() == 0) {
-        showNote(reportText(QT_TRANSLATE_NOOP("Reports", "Nothing was found for these questions.")));
+        showNote([] { return reportText(QT_TRANSLATE_NOOP("Reports", "Nothing was found for these questions.")); });
     } else if (cutOff) {
-        showNote(reportText(QT_TRANSLATE_NOOP("Reports", "Only the first %1 rows are shown, and the totals are theirs "
-                                                         "alone. Please ask for a shorter period."))
-                     .arg(QLocale().toString(ReportRun::maximalRows)),
-                 true);
+        showNote(
+            [count] {
+                return reportText(QT_TRANSLATE_NOOP("Reports",
+                                                    "Only the first %1 rows are shown, and the totals are theirs "
+                                                    "alone. Please ask for a shorter period."))
+                    .arg(count);
+            },
+            true);
     } else {
-        showNote(reportText(QT_TRANSLATE_NOOP("Reports", "%1 rows, read on %2 in %3 s"))
-                     .arg(QLocale().toString(table.rowCount()),
-                          QLocale().toString(QDateTime::currentDateTime(), m_dateFormat + " HH:mm"),
-                          QLocale().toString(seconds, 'f', 1)));
+        showNote([this, count, readAt, seconds] {
+            return reportText(QT_TRANSLATE_NOOP("Reports", "%1 rows, read on %2 in %3 s"))
+                .arg(count, restaurantLocale().toString(readAt, m_dateFormat + " HH:mm"),
+                     restaurantLocale().toString(seconds, 'f', 1));
+        });
     }
     updateButtons();
 }
 
-void TabReport::showNote(const QString& text, bool isError)
+void TabReport::showNote(const std::function<QString()>& words, bool isError)
 {
+    m_noteWords = words;
     m_note->setStyleSheet(isError ? "color: #a32020; font-weight: bold;" : QString());
-    m_note->setText(text.trimmed());
+    m_note->setText(words().trimmed());
 }
 
 void TabReport::updateButtons()
@@ -377,7 +397,7 @@ QString TabReport::fileFor(const QString& title, const QString& suffix, const QS
 void TabReport::tellSaved(bool good, const QString& fileName)
 {
     if (good)
-        showNote(reportText(QT_TRANSLATE_NOOP("Reports", "Saved as %1")).arg(fileName));
+        showNote([fileName] { return reportText(QT_TRANSLATE_NOOP("Reports", "Saved as %1")).arg(fileName); });
     else
         QMessageBox::critical(
             this, reportText(QT_TRANSLATE_NOOP("Reports", "Error")),
@@ -414,7 +434,7 @@ bool TabReport::paintOn(QPagedPaintDevice* device)
     heading.company = m_company;
     heading.asked = m_asked;
     heading.printed = reportText(QT_TRANSLATE_NOOP("Reports", "Printed %1 by %2"))
-                          .arg(QLocale().toString(QDateTime::currentDateTime(), m_dateFormat + " HH:mm"),
+                          .arg(restaurantLocale().toString(QDateTime::currentDateTime(), m_dateFormat + " HH:mm"),
                                printedBy ? printedBy->getUserName() : QString());
     return ReportPaper(table(), m_plot->isHidden() ? nullptr : m_plot, ReportFormat(m_dateFormat), heading)
         .print(device);

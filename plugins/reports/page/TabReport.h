@@ -51,7 +51,8 @@ private:
     void cancelRun();
     void endRun();
     void showAnswer(bool cutOff);
-    void showNote(const QString& text, bool isError = false);
+    /** The words are asked for again when the program speaks another language. */
+    void showNote(const std::function<QString()>& words, bool isError = false);
     void tellProgress();
     void updateButtons();
     [[nodiscard]] QString fileFor(const QString& title, const QString& suffix, const QString& filter);
@@ -84,6 +85,7 @@ private:
     QPushButton* m_csv;
     QProgressBar* m_progress;
     QLabel* m_note;
+    std::function<QString()> m_noteWords;
     ReportPlot* m_plot;
     QTableView* m_grid;
     ReportModel* m_model;

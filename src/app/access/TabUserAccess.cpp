@@ -40,7 +40,7 @@ void TabUserAccess::arrange()
             item->widget()->hide();
         delete item;
     }
-    auto* caption = new QLabel(tr("&Group :"), this);
+    auto* caption = new QLabel(tr("Group :"), this);
     m_groups->setObjectName("cbGroup");
     m_groups->setMinimumWidth(240);
     caption->setBuddy(m_groups);

@@ -1,13 +1,12 @@
 #include "app/text/TimeAgo.h"
 
-const TimeAgoWords& TimeAgoWords::english()
+TimeAgoWords TimeAgoWords::onScreen()
 {
-    static const TimeAgoWords words{"1 second",  " second", "1 minute", " minutes", "1 hour", " hours",
-                                    "yesterday", " day",    "1 month",  " months",  "1 year", " years"};
-    return words;
+    return {tr("1 second"),  tr(" second"), tr("1 minute"), tr(" minutes"), tr("1 hour"), tr(" hours"),
+            tr("yesterday"), tr(" day"),    tr("1 month"),  tr(" months"),  tr("1 year"), tr(" years")};
 }
 
-const TimeAgoWords& TimeAgoWords::indonesian()
+const TimeAgoWords& TimeAgoWords::onSlips()
 {
     static const TimeAgoWords words{"1 detik", " detik", "1 menit", " menit", "1 jam",   " jam",
                                     "kemaren", " hari",  "1 bulan", " bulan", "1 tahun", " tahun"};

@@ -1,11 +1,15 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QString>
 
 /** The words of the age ladder; the numbers stand in front of the plural ones. */
 struct TimeAgoWords
 {
+    Q_DECLARE_TR_FUNCTIONS(TimeAgoWords)
+
+public:
     QString oneSecond;
     QString seconds;
     QString oneMinute;
@@ -19,10 +23,10 @@ struct TimeAgoWords
     QString oneYear;
     QString years;
 
-    /** On screen; "second" and "day" have no plural. */
-    [[nodiscard]] static const TimeAgoWords& english();
-    /** On kitchen slips. */
-    [[nodiscard]] static const TimeAgoWords& indonesian();
+    /** In the program's language; "second" and "day" have no plural. */
+    [[nodiscard]] static TimeAgoWords onScreen();
+    /** On kitchen slips: Indonesian, whatever the program speaks. */
+    [[nodiscard]] static const TimeAgoWords& onSlips();
 };
 
 /**

@@ -17,5 +17,5 @@ QString AppEntityModel::moneyText(const Money* money) const
 
 QString AppEntityModel::elapsedText(const QDateTime& dateTime)
 {
-    return timeAgo(dateTime, QDateTime::currentDateTime(), TimeAgoWords::english());
+    return timeAgo(dateTime, QDateTime::currentDateTime(), TimeAgoWords::onScreen());
 }

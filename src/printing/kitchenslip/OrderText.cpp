@@ -33,7 +33,7 @@ QString tableText(const EntityOrder& order)
 void addFrame(SlipText& text, const KitchenSlipData& slip, const QString& takeAwayLabel)
 {
     const EntityOrder& order = *slip.order;
-    const auto age = [&slip](const QDateTime& moment) { return timeAgo(moment, slip.now, TimeAgoWords::indonesian()); };
+    const auto age = [&slip](const QDateTime& moment) { return timeAgo(moment, slip.now, TimeAgoWords::onSlips()); };
     text.line("Member : " + memberText(order.getMember()));
     text.line("Guest  : " + order.getPemesan());
     text.line(dateLine(order.getCreatedTime().isNull() ? slip.now : order.getCreatedTime()));

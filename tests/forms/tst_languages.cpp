@@ -1,0 +1,239 @@
+#include "app/context/AppContext.h"
+#include "app/context/ConnectionSettings.h"
+#include "forms/AllForms.h"
+#include "forms/FormTexts.h"
+#include "kor/widgets/KorTab.h"
+#include "shell/InterfaceLanguage.h"
+#include "shell/MainWindow.h"
+#include "shell/TabFactories.h"
+#include "support/ModalDriver.h"
+#include "support/TestDatabase.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QMenuBar>
+#include <QRegularExpression>
+#include <QSet>
+#include <QTabWidget>
+#include <QTest>
+#include <QWebElement>
+#include <QWebFrame>
+#include <QWebView>
+
+namespace
+{
+/** Figures, and the words that both languages share. */
+bool isAlike(QString text)
+{
+    static const QSet<QString> alike{"English", "Indonesian", "ZavelPOS", "CSV",      "E-mail", "ENTER", "Email",
+                                     "Format",  "Host",       "ID",       "Id",       "Login",  "Logo",  "Margin",
+                                     "Menu",    "No",         "OK",       "Operator", "PDF",    "Port",  "Printer",
+                                     "Saldo",   "Status",     "SubTotal", "Subtotal", "Total"};
+    static const QRegularExpression marks("\\[F\\d+\\]|[\\s:.%&*]");
+    static const QRegularExpression figures("^(Rp)?[^A-Za-z]*$|^[A-Z]$|^(Alt|Ctrl)\\+");
+    return figures.match(text).hasMatch() || alike.contains(text.remove(marks)) || text.startsWith("Qt5");
+}
+/** Empty when both hold the same texts. */
+QString difference(QStringList actual, QStringList expected)
+{
+    const QStringList all = actual;
+    for (const QString& text : qAsConst(expected))
+        actual.removeOne(text);
+    for (const QString& text : all)
+        expected.removeOne(text);
+    return actual.isEmpty() && expected.isEmpty() ? QString()
+                                                  : actual.join(" | ") + " instead of " + expected.join(" | ");
+}
+
+/** What the reports offer to choose from; they ask the database for it on a thread of their own. */
+QStringList reportChoices(const MainWindow& window)
+{
+    QStringList choices;
+    const QList<KorTab*> pages = window.findChildren<KorTab*>();
+    for (KorTab* page : pages) {
+        if (page->inherits("TabReport"))
+            choices += listTexts(page);
+    }
+    return choices;
+}
+} // namespace
+
+/// Both languages over every screen of the program, made in them and switched to them while it is open.
+class TestLanguages final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init() { m_language->load("en"); }
+    void cleanupTestCase();
+
+    void nothingStaysEnglishInIndonesian_data();
+    void nothingStaysEnglishInIndonesian();
+    void noTwoThingsInAFormAnswerToOneKey_data();
+    void noTwoThingsInAFormAnswerToOneKey();
+    void noTwoEntriesOfAMenuMarkOneLetter();
+    void whatIsOpenFollowsTheLanguage();
+
+private:
+    std::unique_ptr<MainWindow> makeWindowWithEverything();
+    static void choose(const MainWindow& window, const QString& code);
+    static QStringList textsOf(MainWindow& window);
+
+    std::unique_ptr<TestDatabase> m_database;
+    std::unique_ptr<ModalDriver> m_people;
+    std::unique_ptr<InterfaceLanguage> m_language;
+};
+
+void TestLanguages::initTestCase()
+{
+    m_database = std::make_unique<TestDatabase>();
+    openShopForForms(*m_database);
+    AppContext::instance()->setShowDashboard(true);
+    ConnectionSettings settings;
+    settings.host = TestDatabase::host();
+    settings.database = m_database->name();
+    settings.user = TestDatabase::user();
+    settings.port = TestDatabase::port();
+    settings.putIntoContext();
+    m_people = std::make_unique<ModalDriver>();
+    m_language = std::make_unique<InterfaceLanguage>(QCoreApplication::applicationDirPath() + "/languages", nullptr);
+}
+
+void TestLanguages::cleanupTestCase()
+{
+    m_language.reset();
+    m_people.reset();
+    m_database.reset();
+}
+
+void TestLanguages::nothingStaysEnglishInIndonesian_data()
+{
+    QTest::addColumn<int>("form");
+    for (int i = 0; i < allForms().size(); ++i)
+        QTest::newRow(allForms().at(i).name.constData()) << i;
+}
+
+void TestLanguages::nothingStaysEnglishInIndonesian()
+{
+    QFETCH(int, form);
+    const QStringList english = formTexts(allForms().at(form).make().get());
+    m_language->load("id");
+    const QStringList indonesian = formTexts(allForms().at(form).make().get());
+    QCOMPARE(indonesian.size(), english.size());
+    QStringList same;
+    for (const QString& text : indonesian) {
+        if (english.contains(text) && !isAlike(text) && !same.contains(text))
+            same += text;
+    }
+    QVERIFY2(same.isEmpty(), qPrintable(same.join(" | ")));
+}
+
+void TestLanguages::noTwoThingsInAFormAnswerToOneKey_data()
+{
+    QTest::addColumn<int>("form");
+    QTest::addColumn<QString>("code");
+    for (int i = 0; i < allForms().size(); ++i) {
+        for (const char* code : {"en", "id"})
+            QTest::newRow(allForms().at(i).name + " in " + code) << i << code;
+    }
+}
+
+void TestLanguages::noTwoThingsInAFormAnswerToOneKey()
+{
+    QFETCH(int, form);
+    QFETCH(QString, code);
+    m_language->load(code);
+    const std::unique_ptr<QWidget> made = allForms().at(form).make();
+    QStringList keys = formKeys(made.get());
+    // A page lies in the window, whose own keys work there too.
+    if (!made->isWindow() || made->inherits("KorTab"))
+        keys += formKeys(allForms().last().make().get());
+    QMap<QString, QStringList> users;
+    for (const QString& key : qAsConst(keys))
+        users[key.section(": ", 0, 0)] += key.section(": ", 1);
+    QStringList clashes;
+    for (auto user = users.cbegin(); user != users.cend(); ++user) {
+        if (user->size() > 1)
+            clashes += user.key() + ": " + user->join(" and ");
+    }
+    QVERIFY2(clashes.isEmpty(), qPrintable(clashes.join(" | ")));
+}
+
+void TestLanguages::noTwoEntriesOfAMenuMarkOneLetter()
+{
+    for (const char* code : {"en", "id"}) {
+        m_language->load(code);
+        const MainWindow window;
+        QList<QWidget*> menus{window.menuBar()};
+        for (QMenu* menu : window.findChildren<QMenu*>())
+            menus += menu;
+        for (const QWidget* menu : qAsConst(menus)) {
+            QSet<QString> marked;
+            const QList<QAction*> entries = menu->actions();
+            for (const QAction* entry : entries) {
+                const QString letter = QKeySequence::mnemonic(entry->text()).toString();
+                QVERIFY2(letter.isEmpty() || !marked.contains(letter), qPrintable(entry->text()));
+                marked.insert(letter);
+            }
+        }
+    }
+}
+
+std::unique_ptr<MainWindow> TestLanguages::makeWindowWithEverything()
+{
+    auto window = std::make_unique<MainWindow>();
+    AppContext::instance()->setMainWindow(window.get());
+    const TabFactories factories = allTabFactories();
+    for (auto page = factories.cbegin(); page != factories.cend(); ++page)
+        window->openTab(page.key());
+    for (const char* report :
+         {"actionMaster_Data", "actionPersediaan", "actionPembelian", "actionPenjualan", "actionKas"})
+        window->findChild<QAction*>(report)->trigger();
+    window->openTab("TabMeja");
+    return window;
+}
+
+void TestLanguages::choose(const MainWindow& window, const QString& code)
+{
+    for (QAction* entry : window.findChild<QMenu*>("menuLanguage_2")->actions()) {
+        if (entry->data() == code)
+            entry->trigger();
+    }
+}
+
+QStringList TestLanguages::textsOf(MainWindow& window)
+{
+    // The language goes round by events, and so do pages that make room for others.
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    const auto* dashboard = window.findChild<QWebView*>("webView")->page()->mainFrame();
+    const auto isComplete = [&window, dashboard] {
+        const QStringList choices = reportChoices(window);
+        return !dashboard->findFirstElement("#today").toPlainText().isEmpty() && choices.contains("Market") &&
+               choices.count("Food") == 2 && choices.count("admin") == 2 && choices.contains("1-100 Cash");
+    };
+    if (!QTest::qWaitFor(isComplete))
+        qWarning("The window does not become complete");
+    return formTexts(&window) + listTexts(&window);
+}
+
+void TestLanguages::whatIsOpenFollowsTheLanguage()
+{
+    QStringList switched;
+    {
+        const auto window = makeWindowWithEverything();
+        const QStringList english = textsOf(*window);
+        choose(*window, "id");
+        switched = textsOf(*window);
+        QVERIFY(switched != english);
+        choose(*window, "en");
+        QCOMPARE(difference(textsOf(*window), english), QString());
+    }
+    m_language->load("id");
+    const auto window = makeWindowWithEverything();
+    QCOMPARE(difference(switched, textsOf(*window)), QString());
+}
+
+QTEST_MAIN(TestLanguages)
+#include "tst_languages.moc"
