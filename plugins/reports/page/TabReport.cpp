@@ -63,6 +63,7 @@ void TabReport::build()
     m_list->setFixedWidth(listWidth);
     for (int i = 0; i < m_subject.reports.size(); ++i)
         m_list->addItem(QString());
+    m_list->setSpacing(3);
     connect(m_list, &QListWidget::currentRowChanged, this, &TabReport::showReport);
     connect(m_list, &QListWidget::itemActivated, this, &TabReport::runReport);
 
