@@ -30,6 +30,7 @@
 #include "shell/PageArea.h"
 #include "shell/RestartStatus.h"
 #include "shell/Sidebar.h"
+#include "shell/WindowKeys.h"
 
 #include "ui_MainWindow.h"
 
@@ -81,6 +82,7 @@ MainWindow::MainWindow(QWidget* parent)
         m_ui->statusBar->showMessage(tr("Current Language changed to %1").arg(name));
     });
     new MenuShortcuts(m_ui->menuBar);
+    new WindowKeys(m_ui->menuBar, m_ui->tabWidget);
 }
 
 MainWindow::~MainWindow() = default;

@@ -8,6 +8,7 @@
 #include "app/numbers/DialogKeyTable.h"
 #include "cash/accounting/DialogTransaction.h"
 #include "cash/cashflow/DialogCashFlow.h"
+#include "install/clearing/DialogClearTransactions.h"
 #include "install/converter/DialogConverter.h"
 #include "install/database/DialogBackupDB.h"
 #include "install/updater/AppDBUpdaterWizard.h"
@@ -170,6 +171,7 @@ QList<Form> dialogs()
         form<DialogBayarPiutang>(),
         form<DialogCashFlow>(),
         form<DialogCashierAndKitchenPrinter>(),
+        form<DialogClearTransactions>(),
         form<DialogConverter>(),
         form<DialogCreditNote>(),
         form<DialogDataPerusahaan>(),
@@ -240,4 +242,6 @@ void openShopForForms(TestDatabase& database)
     insertRows(database, "bawa_pulang_detail", {{"status", "1"}, {"qty", "2"}, {"total_amount", "300"}});
     loginAsAdmin();
     AppContext::instance()->setLocale("id_ID");
+    AppContext::instance()->setShowDashboard(true);
+    AppContext::instance()->setShowSidebar(true);
 }

@@ -131,6 +131,7 @@ private slots:
     void aShortcutReachesItsPageEvenWhereAMenuMarksTheSameLetter();
     void anOpenPageIsOnlyShownAgainAndNotReadAnew();
     void theKeysGoToTheListOfThePageThatIsShown();
+    void theKeysGoFromPageToPageAndIntoTheMenus();
     void aPageIsClosedByItsButtonByEscAndByTheTab();
     void closingAllPagesLeavesNone();
     void pagesOfADatabaseThatIsLeftOrClearedAreClosed();
@@ -355,6 +356,32 @@ void TestMainWindow::theKeysGoToTheListOfThePageThatIsShown()
     QTest::keyClick(pages()->currentWidget(), Qt::Key_Escape);
     QTRY_VERIFY(hasKeys("tblSatuan"));
 }
+
+void TestMainWindow::theKeysGoFromPageToPageAndIntoTheMenus()
+{
+    const auto withKeys = [] {
+        const QWidget* widget = QApplication::focusWidget();
+        return widget ? widget->objectName() : QString();
+    };
+    for (const char* page : {"TabMeja", "TabSatuan", "TabBank"})
+        m_window->openTab(page);
+    const QList<QPair<int, QString>> turns{{Qt::CTRL + Qt::Key_Tab, "tblMeja"},
+                                           {Qt::CTRL + Qt::Key_PageUp, "tblBank"},
+                                           {Qt::CTRL + Qt::SHIFT + Qt::Key_Tab, "tblSatuan"},
+                                           {Qt::CTRL + Qt::Key_PageDown, "tblBank"},
+                                           {Qt::CTRL + Qt::Key_W, "tblSatuan"}};
+    for (const auto& turn : turns) {
+        QTest::keyClick(m_window.get(), Qt::Key(turn.first & ~int(Qt::KeyboardModifierMask)),
+                        Qt::KeyboardModifiers(turn.first & int(Qt::KeyboardModifierMask)));
+        QTRY_COMPARE(withKeys(), turn.second);
+    }
+    QCOMPARE(openPages(), QStringList({"TabMeja", "TabSatuan"}));
+    QTest::keyClick(m_window.get(), Qt::Key_F10);
+    QTRY_VERIFY(QApplication::activePopupWidget());
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+    QTRY_VERIFY(!QApplication::activePopupWidget());
+}
+
 void TestMainWindow::aPageIsClosedByItsButtonByEscAndByTheTab()
 {
     const QList<std::function<void()>> ways{

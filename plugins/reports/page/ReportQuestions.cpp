@@ -137,7 +137,8 @@ QWidget* ReportQuestions::makeBox(const ReportParameter& parameter)
         break;
     }
     auto* box = new QComboBox;
-    box->setMinimumWidth(150);
+    box->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    box->setMinimumWidth(130);
     box->setMaximumWidth(260);
     if (!parameter.required)
         box->addItem(reportText(QT_TRANSLATE_NOOP("Reports", "All")), QVariant());
@@ -177,6 +178,9 @@ QWidget* ReportQuestions::makePeriod()
 
 void ReportQuestions::fillPeriods()
 {
+    // The days have no label of their own.
+    m_from->setAccessibleName(reportText("Period:"));
+    m_to->setAccessibleName(reportText("Period:"));
     const QSignalBlocker quiet(m_periods);
     m_periods->clear();
     int current = OtherPeriod;

@@ -2,6 +2,7 @@
 
 #include "app/access/EntityUser.h"
 #include "app/context/AppContext.h"
+#include "kor/widgets/KorTabOrder.h"
 #include "reports/output/ReportCsv.h"
 #include "reports/output/ReportPaper.h"
 #include "reports/output/ReportPlot.h"
@@ -60,7 +61,6 @@ void TabReport::build()
 {
     m_list = new QListWidget;
     m_list->setObjectName("reports");
-    m_list->setFixedWidth(listWidth);
     for (int i = 0; i < m_subject.reports.size(); ++i)
         m_list->addItem(QString());
     m_list->setSpacing(3);
@@ -163,6 +163,7 @@ void TabReport::retranslate()
     setWindowTitle(reportText(m_subject.title));
     for (int i = 0; i < m_subject.reports.size(); ++i)
         m_list->item(i)->setText(m_subject.reports.at(i).titleText());
+    m_list->setFixedWidth(std::max(listWidth, m_list->sizeHintForColumn(0) + 2 * m_list->frameWidth()));
     const auto word = [](QPushButton* button, const char* text, const char* hint) {
         // Setting the text takes a shortcut away.
         const QKeySequence shortcut = button->shortcut();
@@ -229,6 +230,7 @@ void TabReport::showReport(int index)
     m_title->setText(report.titleText());
     m_about->setText(report.aboutText());
     m_questions->ask(report);
+    putIntoTabOrder(m_list, m_questions);
     m_model->begin(report, ReportFormat(m_dateFormat));
     m_grid->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
     m_grid->resizeColumnsToContents();

@@ -146,7 +146,9 @@ QPushButton* AppLinesTab::addButton(const QString& name, const QString& text, co
     auto* extra = new QPushButton(QIcon(icon), text, this);
     extra->setObjectName(name);
     extra->setAutoDefault(false);
-    m_ui->buttonLayout->insertWidget(m_ui->buttonLayout->indexOf(m_ui->lblCount), extra);
+    const int place = m_ui->buttonLayout->indexOf(m_ui->lblCount);
+    setTabOrder(m_ui->buttonLayout->itemAt(place - 1)->widget(), extra);
+    m_ui->buttonLayout->insertWidget(place, extra);
     return extra;
 }
 

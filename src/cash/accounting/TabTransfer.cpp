@@ -38,7 +38,7 @@ void TabTransfer::modelApplied()
     for (const auto& width :
          {std::pair(Model::TransNo, 120), std::pair(Model::FromCode, 112), std::pair(Model::FromName, 124),
           std::pair(Model::ToCode, 112), std::pair(Model::ToName, 124), std::pair(Model::Description, 150)})
-        grid()->setColumnWidth(width.first, width.second);
+        setColumnWidth(grid(), width.first, width.second);
 }
 
 std::unique_ptr<KorDialog> TabTransfer::createDialog() { return std::make_unique<DialogTransaction>(this); }

@@ -83,7 +83,7 @@ void TabCashFlow::modelApplied()
     for (const auto& width :
          {std::pair(Model::AccountCode, 96), std::pair(Model::TransNo, 142), std::pair(Model::AccountName, 200),
           std::pair(Model::Type, 150), std::pair(Model::Description, 150)})
-        grid()->setColumnWidth(width.first, width.second);
+        setColumnWidth(grid(), width.first, width.second);
     const QList<KorEntity*> rows = model()->entities();
     m_totals->show(rows);
     // The account of a code that was typed, as far as it has rows.

@@ -59,7 +59,9 @@ void TabKartuStok::makeTotals()
     totals->addStretch();
     for (const auto& total : {std::pair(tr("Total In :"), m_in), std::pair(tr("Saldo :"), m_balance)}) {
         totals->addSpacing(16);
-        totals->addWidget(new QLabel(total.first, this));
+        auto* caption = new QLabel(total.first, this);
+        caption->setBuddy(total.second);
+        totals->addWidget(caption);
         totals->addWidget(total.second);
         total.second->setMinimumWidth(70);
         total.second->setAlignment(Qt::AlignRight | Qt::AlignVCenter);

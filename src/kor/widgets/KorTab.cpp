@@ -10,6 +10,8 @@
 #include <QCoreApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QResizeEvent>
+#include <QStyleOptionHeader>
 #include <QTableView>
 
 #include <algorithm>
@@ -39,6 +41,36 @@ void fitColumns(QTableView* view, const QVector<int>& formerWidths)
         view->setColumnWidth(column, width);
         room -= width;
     }
+}
+
+/** What the words take. The header's own hint keeps room for an arrow as well, in every column. */
+int headingWidth(const QHeaderView* header, int column)
+{
+    constexpr int anyWidth = 1000;
+    QStyleOptionHeader option;
+    option.initFrom(header);
+    option.rect.setWidth(anyWidth);
+    const int room = header->style()->subElementRect(QStyle::SE_HeaderLabel, &option, header).width();
+    const QString words = header->model()->headerData(column, Qt::Horizontal).toString();
+    return header->fontMetrics().horizontalAdvance(words) + anyWidth - room;
+}
+
+/** The last column takes what the others leave it, unless that is too little for its heading. */
+void stretchLastColumn(QHeaderView* header, int room)
+{
+    const int last = header->count() - 1;
+    for (int section = 0; section <= last; ++section) {
+        // A page that lets another column take the rest.
+        if (header->sectionResizeMode(section) == QHeaderView::Stretch)
+            return;
+    }
+    if (last < 0 || header->isSectionHidden(last))
+        return;
+    const int needed = headingWidth(header, last);
+    const bool fits = header->length() - header->sectionSize(last) + needed <= room;
+    header->setStretchLastSection(fits);
+    if (!fits && header->sectionSize(last) < needed)
+        header->resizeSection(last, needed);
 }
 
 QVector<int> columnWidths(const QTableView* view)
@@ -115,6 +147,13 @@ void KorTab::applyModel(QTableView* view, KorEntityModel* model)
     view->setSelectionBehavior(QAbstractItemView::SelectRows);
     view->setTabKeyNavigation(false);
     view->installEventFilter(this);
+    view->horizontalHeader()->installEventFilter(this);
+    if (!formerModel) {
+        connect(view->horizontalHeader(), &QHeaderView::sectionResized, this, [view](int section) {
+            if (section < view->horizontalHeader()->count() - 1)
+                stretchLastColumn(view->horizontalHeader(), view->viewport()->width());
+        });
+    }
 
     KorSortFilterProxyModel* proxy = createProxyModel();
     proxy->setSourceModel(model);
@@ -127,6 +166,7 @@ void KorTab::applyModel(QTableView* view, KorEntityModel* model)
     if (!firstTime)
         view->horizontalHeader()->restoreState(header);
     fitColumns(view, formerWidths);
+    stretchLastColumn(view->horizontalHeader(), view->viewport()->width());
     delete formerSelection;
     if (qobject_cast<KorSortFilterProxyModel*>(formerModel))
         delete formerModel;
@@ -140,6 +180,9 @@ void KorTab::applyModel(QTableView* view, KorEntityModel* model)
 
 bool KorTab::eventFilter(QObject* watched, QEvent* event)
 {
+    auto* header = qobject_cast<QHeaderView*>(watched);
+    if (header && event->type() == QEvent::Resize)
+        stretchLastColumn(header, static_cast<QResizeEvent*>(event)->size().width());
     auto* view = qobject_cast<QTableView*>(watched);
     if (view && event->type() == QEvent::KeyPress && startsAtCurrentRow(view, *static_cast<QKeyEvent*>(event))) {
         view->selectRow(std::max(0, view->currentIndex().row()));
@@ -159,8 +202,14 @@ void KorTab::setColumnWidths(QTableView* view, const QList<int>& widths)
     if (widths.isEmpty())
         return;
     for (int column = 0; column < widths.size(); ++column)
-        view->setColumnWidth(column, widths.at(column));
+        setColumnWidth(view, column, widths.at(column));
     view->setColumnWidth(widths.size(), view->horizontalHeader()->minimumSectionSize());
+    stretchLastColumn(view->horizontalHeader(), view->viewport()->width());
+}
+
+void KorTab::setColumnWidth(QTableView* view, int column, int width)
+{
+    view->setColumnWidth(column, std::max(width, headingWidth(view->horizontalHeader(), column)));
 }
 
 QList<int> KorTab::selectedIds(const QTableView* view, const KorEntityModel* model)

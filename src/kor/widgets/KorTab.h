@@ -40,6 +40,8 @@ protected:
 
     /** Widths on first sight, where what the rows need is not the best; the last column takes the rest of the grid. */
     static void setColumnWidths(QTableView* view, const QList<int>& widths);
+    /** A heading is read in full also where the font is larger than the one that the width was chosen for. */
+    static void setColumnWidth(QTableView* view, int column, int width);
 
     // The selected rows from top to bottom as the grid shows them.
     [[nodiscard]] static QList<int> selectedIds(const QTableView* view, const KorEntityModel* model);

@@ -1,6 +1,7 @@
 #include "masterdata/item/DialogItem.h"
 
 #include "kor/business/KorServiceDirectory.h"
+#include "kor/widgets/KorTabOrder.h"
 #include "masterdata/bank/BusinessBank.h"
 #include "masterdata/item/BusinessItem.h"
 #include "masterdata/item/TabGLAccounts.h"
@@ -18,6 +19,8 @@ DialogItem::DialogItem(QWidget* parent)
     m_ui->componentsLayout->addWidget(m_components);
     m_ui->accountsLayout->addWidget(m_accounts);
     m_ui->accountsLayout->addStretch();
+    putIntoTabOrder(m_ui->cbGabungan, m_components);
+    putIntoTabOrder(m_ui->cbGabungan, m_accounts);
     setComponentsEnabled(false);
     fillCombos();
     showDefaultAccounts();

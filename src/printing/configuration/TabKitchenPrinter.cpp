@@ -20,6 +20,7 @@ TabKitchenPrinter::TabKitchenPrinter(QWidget* parent)
 {
     m_column->setObjectName("ddlFilter");
     m_column->setToolTip(tr("Where to search"));
+    m_column->setAccessibleName(m_column->toolTip());
     m_column->addItem(tr("Kitchen Name"), KitchenName);
     m_column->addItem(tr("Printer"), Printer);
     filterLayout()->insertWidget(filterLayout()->count() - 1, m_column);

@@ -19,7 +19,7 @@ constexpr int choicesInRow = 3;
 TabSelectPurchases::TabSelectPurchases(const EntitySupplier* supplier, QWidget* parent)
     : SelectDocumentTab("tblPurchases", service<BusinessPurchases>("Purchases"), parent), m_supplier(supplier)
 {
-    AppFilterBar* filters = addFilters(choicesInRow);
+    auto* filters = new AppFilterBar(choicesInRow, this);
     AppFilterBar::Rows states{{tr("All"), 0}};
     for (int status : {EntityAcquisition::FULL_PAID, EntityAcquisition::PARTIALLY_PAID, EntityAcquisition::UNPAID})
         states.append({paidStatusText(status), status});
@@ -28,6 +28,7 @@ TabSelectPurchases::TabSelectPurchases(const EntitySupplier* supplier, QWidget* 
     m_field = filters->addChoice(
         "ddlFilter", tr("In :"),
         {{tr("Purchase No."), PurchasingFilter::DocumentNo}, {tr("Invoice No."), PurchasingFilter::OtherNo}});
+    addFilters(filters);
     refresh();
 }
 

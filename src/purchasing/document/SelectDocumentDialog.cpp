@@ -16,6 +16,9 @@ SelectDocumentDialog::SelectDocumentDialog(const QString& title, SelectDocumentT
     resize(940, 460);
     auto* pages = new QTabWidget(this);
     pages->addTab(page, pageTitle);
+    // Within the page alone the order is a circle, in which the list comes after the search already.
+    if (auto* search = page->findChild<QPushButton*>("btnSearch"))
+        setTabOrder(search, page->focusProxy());
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     auto* layout = new QVBoxLayout(this);
     layout->setSpacing(12);

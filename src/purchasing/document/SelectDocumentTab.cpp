@@ -29,9 +29,8 @@ SelectDocumentTab::SelectDocumentTab(const QString& gridName, KorBusinessLogic* 
     connect(m_grid, &QTableView::activated, this, &SelectDocumentTab::chosen);
 }
 
-AppFilterBar* SelectDocumentTab::addFilters(int filtersPerRow)
+void SelectDocumentTab::addFilters(AppFilterBar* bar)
 {
-    auto* bar = new AppFilterBar(filtersPerRow, this);
     auto* search = new QPushButton(QIcon(":/icons/zoom.png"), tr("Search"), this);
     search->setObjectName("btnSearch");
     // Return in a filter searches; on the list it chooses.
@@ -42,9 +41,6 @@ AppFilterBar* SelectDocumentTab::addFilters(int filtersPerRow)
     row->addWidget(bar, 1);
     row->addWidget(search, 0, Qt::AlignTop);
     m_layout->insertLayout(0, row);
-    setTabOrder(bar, search);
-    setTabOrder(search, m_grid);
-    return bar;
 }
 
 void SelectDocumentTab::refresh()

@@ -35,7 +35,7 @@ protected:
     virtual KorEntityModel* createModel(const QList<KorEntity*>& rows) = 0;
     [[nodiscard]] virtual QList<int> columnWidths() const { return {}; }
     /** An empty row of filters above the list, with a button that searches. */
-    AppFilterBar* addFilters(int filtersPerRow);
+    void addFilters(AppFilterBar* bar);
 
 private:
     KorBusinessLogic* m_documents;

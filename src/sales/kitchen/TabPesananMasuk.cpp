@@ -169,7 +169,7 @@ void TabPesananMasuk::scaleGrids()
     m_pointSize = pointSize;
     const QFontMetrics queue = scaleRows(m_ui->tblQueue, pointSize + 3);
     const int queueWidth = std::max(queue.horizontalAdvance("Take Away:12 44 minutes"), width() * 3 / 10);
-    m_ui->tblQueue->setColumnWidth(TableModelQueue::ElapsedTime, queue.horizontalAdvance("44 minutes") + cellPadding);
+    setColumnWidth(m_ui->tblQueue, TableModelQueue::ElapsedTime, queue.horizontalAdvance("44 minutes") + cellPadding);
     m_ui->splitter->setSizes({queueWidth, width() - queueWidth});
 
     const QFontMetrics menu = scaleRows(m_ui->tblMenu, pointSize);

@@ -154,7 +154,7 @@ void TabDaftarPenjualan::modelApplied()
     for (const auto& width :
          {std::pair(Model::Type, 134), std::pair(Model::User, 96), std::pair(Model::MemberCode, 152),
           std::pair(Model::Guest, 168), std::pair(Model::Waitress, 112)})
-        grid()->setColumnWidth(width.first, width.second);
+        setColumnWidth(grid(), width.first, width.second);
 }
 
 // --- one sale ------------------------------------------------------------------------------------------------------

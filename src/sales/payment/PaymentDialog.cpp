@@ -4,6 +4,7 @@
 #include "app/widgets/AppNumberEdit.h"
 #include "app/widgets/MoneyEdit.h"
 #include "kor/business/KorServiceDirectory.h"
+#include "kor/widgets/KorTabOrder.h"
 #include "masterdata/agent/AgentTextBox.h"
 #include "masterdata/bank/AccountField.h"
 #include "masterdata/employee/EmployeeTextBox.h"
@@ -30,6 +31,7 @@ void PaymentDialog::setUp(const Form& form, QWidget* linesPage)
     m_form = form;
     m_linesPage = linesPage;
     m_form.pages->addTab(linesPage, tr("[F3] Menu"));
+    putIntoTabOrder(m_form.pages, linesPage);
     m_cascade = new TotalsCascade(form.amounts, this);
     m_parties = new PaymentParties(form.parties, this);
     connectParties();

@@ -1,0 +1,104 @@
+#include "forms/AllForms.h"
+#include "forms/FormFaults.h"
+#include "kor/widgets/KorTab.h"
+#include "shell/HouseStyle.h"
+#include "support/ModalDriver.h"
+#include "support/TestDatabase.h"
+
+#include <QApplication>
+#include <QStandardPaths>
+#include <QTabWidget>
+#include <QTest>
+
+namespace
+{
+// What a screen of 1366 x 768 leaves to a page, and one of 1024 x 768 to a dialog with its frame.
+constexpr QSize pageRoom(1130, 640);
+constexpr QSize dialogRoom(1004, 720);
+constexpr QSize screenRoom(1366, 768);
+
+QSize roomOf(const QWidget* form)
+{
+    if (qobject_cast<const KorTab*>(form))
+        return pageRoom;
+    return form->inherits("QMainWindow") ? screenRoom : dialogRoom;
+}
+} // namespace
+
+/** Every screen of the program, at the house's font and a quarter larger, under the keys and under the ruler. */
+class TestForms : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void cleanupTestCase() { m_database.reset(); }
+    void every_form_is_worked_without_a_mouse_and_read_without_guessing_data();
+    void every_form_is_worked_without_a_mouse_and_read_without_guessing();
+
+private:
+    std::unique_ptr<TestDatabase> m_database;
+};
+
+void TestForms::initTestCase()
+{
+    HouseStyle::apply(*qApp);
+    m_database = std::make_unique<TestDatabase>();
+    openShopForForms(*m_database);
+}
+
+void TestForms::every_form_is_worked_without_a_mouse_and_read_without_guessing_data()
+{
+    QTest::addColumn<int>("form");
+    QTest::addColumn<double>("pointSize");
+    for (int form = 0; form < allForms().size(); ++form) {
+        QTest::newRow(allForms()[form].name) << form << 11.0;
+        QTest::newRow(allForms()[form].name + " at 125 %") << form << 13.75;
+    }
+}
+
+void TestForms::every_form_is_worked_without_a_mouse_and_read_without_guessing()
+{
+    QFETCH(int, form);
+    QFETCH(double, pointSize);
+    QFont font = QApplication::font();
+    font.setPointSizeF(pointSize);
+    QApplication::setFont(font);
+    ModalDriver people;
+    const std::unique_ptr<QWidget> shown = allForms()[form].make();
+    const QSize room = roomOf(shown.get());
+    shown->setWindowState(Qt::WindowNoState);
+    shown->resize(qobject_cast<KorTab*>(shown.get()) ? room : shown->size().boundedTo(room));
+    shown->show();
+    shown->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(shown.get()));
+    QCoreApplication::processEvents();
+    QStringList faults;
+    if (shown->width() > room.width() || shown->height() > room.height())
+        faults.append(QString("too large: %1x%2").arg(shown->width()).arg(shown->height()));
+    auto* pages = shown->findChild<QTabWidget*>();
+    for (int page = 0; page < (pages ? std::max(1, pages->count()) : 1); ++page) {
+        if (pages)
+            pages->setCurrentIndex(page);
+        QCoreApplication::processEvents();
+        // The keys of the keyboard on the screen are for a finger, and leave the field to be written in alone.
+        if (allForms()[form].name != "DialogKeyboard")
+            faults += tabFaults(shown.get());
+        faults += labelFaults(shown.get()) + roomFaults(shown.get());
+        if (qEnvironmentVariableIsSet("FORM_PICTURES"))
+            shown->grab().save(QString("%1/%2-%3-%4.png")
+                                   .arg(qEnvironmentVariable("FORM_PICTURES"), QString(allForms()[form].name))
+                                   .arg(pointSize)
+                                   .arg(page));
+    }
+    for (const SeenBox& box : people.boxes())
+        faults.append("box: " + box.text);
+    faults.removeDuplicates();
+    // Line by line: a message of the test framework has its end.
+    for (const QString& fault : qAsConst(faults))
+        qWarning("%s", qPrintable(fault));
+    QVERIFY(faults.isEmpty());
+}
+
+QTEST_MAIN(TestForms)
+#include "tst_forms.moc"
