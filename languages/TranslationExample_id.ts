@@ -514,7 +514,7 @@ Hak akses yang dibutuhkan: %1</translation>
     <name>BusinessPenjualan</name>
     <message>
         <source>Add New Order</source>
-        <translation>Tambah Pesanan Baru</translation>
+        <translation>Pesanan Baru</translation>
     </message>
     <message>
         <source>Edit an Order</source>
@@ -3311,7 +3311,7 @@ Tetap pulihkan ke %1?</translation>
     </message>
     <message>
         <source>CLEAR</source>
-        <translation>KOSONGKAN</translation>
+        <translation>KOSONG</translation>
     </message>
     <message>
         <source>SPACE</source>
@@ -3660,7 +3660,7 @@ Tetap pulihkan ke %1?</translation>
     </message>
     <message>
         <source>Payment Type :</source>
-        <translation>Jenis Pembayaran :</translation>
+        <translation>Jenis Bayar :</translation>
     </message>
     <message>
         <source>Check No. :</source>
@@ -3781,7 +3781,7 @@ Tetap pulihkan ke %1?</translation>
     </message>
     <message>
         <source>Payment Type :</source>
-        <translation>Jenis Pembayaran :</translation>
+        <translation>Jenis Bayar :</translation>
     </message>
     <message>
         <source>Check No. :</source>
@@ -6124,11 +6124,11 @@ Isi kolom sambungan db dan pasang data awal</translation>
     <name>PurchasingListTab</name>
     <message>
         <source>From Date :</source>
-        <translation>Dari Tanggal :</translation>
+        <translation>Dari :</translation>
     </message>
     <message>
         <source>To Date :</source>
-        <translation>Sampai Tanggal :</translation>
+        <translation>Sampai :</translation>
     </message>
     <message>
         <source>All</source>
@@ -6289,7 +6289,7 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>Service</source>
-        <translation>Layanan</translation>
+        <translation>Servis</translation>
     </message>
     <message>
         <source>Total</source>
@@ -7381,7 +7381,7 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>The invoices with a discount, by the cashier who saved them first. The percentage is of the subtotal, before tax and service.</source>
-        <translation>Faktur dengan diskon, per kasir yang pertama menyimpannya. Persentasenya dari subtotal, sebelum pajak dan layanan.</translation>
+        <translation>Faktur dengan diskon, per kasir yang pertama menyimpannya. Persentasenya dari subtotal, sebelum pajak dan servis.</translation>
     </message>
     <message>
         <source>From percent:</source>
@@ -7429,7 +7429,7 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>What was sold of each item, at the prices of the lines: discount, tax and service of the whole invoice are not in it.</source>
-        <translation>Yang terjual dari tiap barang menurut harga baris: diskon, pajak dan layanan seluruh faktur tidak termasuk.</translation>
+        <translation>Yang terjual dari tiap barang menurut harga baris: diskon, pajak dan servis seluruh faktur tidak termasuk.</translation>
     </message>
     <message>
         <source>Sales by item type</source>
@@ -7437,7 +7437,7 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>What the kinds of items bring, at the prices of the lines: discount, tax and service of the whole invoice are not in it.</source>
-        <translation>Pendapatan tiap jenis barang menurut harga baris: diskon, pajak dan layanan seluruh faktur tidak termasuk.</translation>
+        <translation>Pendapatan tiap jenis barang menurut harga baris: diskon, pajak dan servis seluruh faktur tidak termasuk.</translation>
     </message>
     <message>
         <source>Different items</source>
@@ -7537,7 +7537,7 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>Sales by weekday</source>
-        <translation>Penjualan per hari dalam minggu</translation>
+        <translation>Penjualan per nama hari</translation>
     </message>
     <message>
         <source>What each weekday brings. Days counts the days with a sale, so that a holiday does not lower the total per day.</source>
@@ -7621,7 +7621,7 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>Returned</source>
-        <translation>Dikembalikan</translation>
+        <translation>Diretur</translation>
     </message>
     <message>
         <source>Counted</source>
@@ -8020,11 +8020,11 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     </message>
     <message>
         <source>From Date :</source>
-        <translation>Dari Tanggal :</translation>
+        <translation>Dari :</translation>
     </message>
     <message>
         <source>To Date :</source>
-        <translation>Sampai Tanggal :</translation>
+        <translation>Sampai :</translation>
     </message>
     <message>
         <source>Status :</source>
@@ -8094,7 +8094,7 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     </message>
     <message>
         <source>Add New Order</source>
-        <translation>Tambah Pesanan Baru</translation>
+        <translation>Pesanan Baru</translation>
     </message>
     <message>
         <source>Take a new order (F12)</source>
@@ -8142,7 +8142,7 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     </message>
     <message>
         <source>Cancel Order</source>
-        <translation>Batalkan Pesanan</translation>
+        <translation>Batalkan</translation>
     </message>
     <message>
         <source>Cancel the selected orders (Del)</source>
@@ -8252,7 +8252,7 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     </message>
     <message>
         <source>From Date :</source>
-        <translation>Dari Tanggal :</translation>
+        <translation>Dari :</translation>
     </message>
     <message>
         <source>Account :</source>
@@ -8276,7 +8276,7 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     </message>
     <message>
         <source>To Date :</source>
-        <translation>Sampai Tanggal :</translation>
+        <translation>Sampai :</translation>
     </message>
     <message>
         <source>Account Name :</source>
@@ -8360,7 +8360,7 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     </message>
     <message>
         <source>From Date :</source>
-        <translation>Dari Tanggal :</translation>
+        <translation>Dari :</translation>
     </message>
     <message>
         <source>Invoice No. :</source>
@@ -8388,7 +8388,7 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     </message>
     <message>
         <source>To Date :</source>
-        <translation>Sampai Tanggal :</translation>
+        <translation>Sampai :</translation>
     </message>
     <message>
         <source>Guest :</source>
@@ -8469,11 +8469,11 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     </message>
     <message>
         <source>From Date :</source>
-        <translation>Dari Tanggal :</translation>
+        <translation>Dari :</translation>
     </message>
     <message>
         <source>To Date :</source>
-        <translation>Sampai Tanggal :</translation>
+        <translation>Sampai :</translation>
     </message>
     <message>
         <source>Status :</source>
@@ -8501,7 +8501,7 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     </message>
     <message>
         <source>Add New Order</source>
-        <translation>Tambah Pesanan Baru</translation>
+        <translation>Pesanan Baru</translation>
     </message>
     <message>
         <source>Edit Order</source>
@@ -8606,11 +8606,11 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     </message>
     <message>
         <source>From Date :</source>
-        <translation>Dari Tanggal :</translation>
+        <translation>Dari :</translation>
     </message>
     <message>
         <source>To Date :</source>
-        <translation>Sampai Tanggal :</translation>
+        <translation>Sampai :</translation>
     </message>
     <message>
         <source>Item :</source>
@@ -8667,11 +8667,11 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     </message>
     <message>
         <source>From Date :</source>
-        <translation>Dari Tanggal :</translation>
+        <translation>Dari :</translation>
     </message>
     <message>
         <source>To Date :</source>
-        <translation>Sampai Tanggal :</translation>
+        <translation>Sampai :</translation>
     </message>
     <message>
         <source>Agent :</source>
@@ -8729,7 +8729,7 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     </message>
     <message>
         <source>Add New Order</source>
-        <translation>Tambah Pesanan Baru</translation>
+        <translation>Pesanan Baru</translation>
     </message>
     <message>
         <source>Take an order for the selected tables (F12)</source>
@@ -8789,7 +8789,7 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     </message>
     <message>
         <source>Cancel Order</source>
-        <translation>Batalkan Pesanan</translation>
+        <translation>Batalkan</translation>
     </message>
     <message>
         <source>Cancel the orders of the selected tables (Del)</source>
@@ -8874,7 +8874,7 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     </message>
     <message>
         <source>Payment Type :</source>
-        <translation>Jenis Pembayaran :</translation>
+        <translation>Jenis Bayar :</translation>
     </message>
     <message>
         <source>Purchase Invoice No.</source>
@@ -9027,15 +9027,15 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     </message>
     <message>
         <source>From Date :</source>
-        <translation>Dari Tanggal :</translation>
+        <translation>Dari :</translation>
     </message>
     <message>
         <source>To Date :</source>
-        <translation>Sampai Tanggal :</translation>
+        <translation>Sampai :</translation>
     </message>
     <message>
         <source>Payment Type :</source>
-        <translation>Jenis Pembayaran :</translation>
+        <translation>Jenis Bayar :</translation>
     </message>
     <message>
         <source>All</source>
@@ -9249,11 +9249,11 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     </message>
     <message>
         <source>From Date :</source>
-        <translation>Dari Tanggal :</translation>
+        <translation>Dari :</translation>
     </message>
     <message>
         <source>To Date :</source>
-        <translation>Sampai Tanggal :</translation>
+        <translation>Sampai :</translation>
     </message>
     <message>
         <source>Can not find transaction with id: %1</source>
@@ -9523,7 +9523,7 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     </message>
     <message>
         <source>Returned</source>
-        <translation>Dikembalikan</translation>
+        <translation>Retur</translation>
     </message>
     <message>
         <source>Discount</source>
@@ -9545,7 +9545,7 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     <name>TableModelDaftarPenjualan</name>
     <message>
         <source>No</source>
-        <translation>Tidak</translation>
+        <translation>No.</translation>
     </message>
     <message>
         <source>Date</source>
@@ -9669,7 +9669,7 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     </message>
     <message>
         <source>Old Qty</source>
-        <translation>Jumlah Lama</translation>
+        <translation>Jml Lama</translation>
     </message>
     <message>
         <source>Adjust Qty by</source>
@@ -9677,7 +9677,7 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     </message>
     <message>
         <source>New Qty</source>
-        <translation>Jumlah Baru</translation>
+        <translation>Jml Baru</translation>
     </message>
     <message>
         <source>Reason to Adjust</source>

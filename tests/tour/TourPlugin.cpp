@@ -1,6 +1,7 @@
 #include "tour/BackOfficeTour.h"
 #include "tour/DineInTour.h"
 #include "tour/Guide.h"
+#include "tour/LanguageTour.h"
 #include "tour/OwnerTour.h"
 #include "tour/SellingTour.h"
 #include "tour/StartTour.h"
@@ -45,6 +46,8 @@ private:
             playSelling(guide);
         else if (name == "owner")
             playOwner(guide);
+        else if (name == "indonesian")
+            playLanguage(guide);
         else if (name == "start")
             playStart(guide);
         else
