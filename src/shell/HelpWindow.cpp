@@ -121,6 +121,7 @@ void HelpWindow::build()
 void HelpWindow::retranslate()
 {
     setWindowTitle(tr("Manual"));
+    m_page->setAccessibleName(windowTitle());
     const auto word = [](QPushButton* button, const QString& text, const QKeySequence& key) {
         button->setText(text);
         button->setShortcut(key);

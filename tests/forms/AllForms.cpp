@@ -12,6 +12,9 @@
 #include "install/converter/DialogConverter.h"
 #include "install/database/DialogBackupDB.h"
 #include "install/updater/AppDBUpdaterWizard.h"
+#include "install/wizard/AppInstallerWizard.h"
+#include "install/wizard/FreshInstallPage.h"
+#include "install/wizard/RestoreInstallPage.h"
 #include "inventory/adjustment/DialogInventoryAdj.h"
 #include "inventory/balance/DialogStokAwal.h"
 #include "kor/business/KorServiceDirectory.h"
@@ -71,6 +74,7 @@
 #include "sales/takeaway/EntityBawaPulang.h"
 #include "shell/ConfigDialog.h"
 #include "shell/DialogAbout.h"
+#include "shell/HelpWindow.h"
 #include "shell/MainWindow.h"
 #include "shell/TabFactories.h"
 #include "support/LedgerRows.h"
@@ -158,6 +162,19 @@ QList<Form> pages()
     return pages;
 }
 
+/** The wizard of a new machine as it asks for the particulars. */
+template <class Page>
+Form wizardAt(void (*answer)(QWizard&))
+{
+    return {Page::staticMetaObject.className(), [answer] {
+                auto wizard = std::make_unique<AppInstallerWizard>();
+                wizard->restart();
+                answer(*wizard);
+                wizard->next();
+                return wizard;
+            }};
+}
+
 QList<Form> dialogs()
 {
     return {
@@ -203,6 +220,9 @@ QList<Form> dialogs()
         form<DialogUserAccess>(),
         form<DialogUserGroup>(),
         form<AppDBUpdaterWizard>(),
+        wizardAt<FreshInstallPage>([](QWizard&) {}),
+        wizardAt<RestoreInstallPage>([](QWizard& wizard) { wizard.setField("installtype.restoreinstall", true); }),
+        {"HelpWindow", [] { return std::make_unique<HelpWindow>(QString(), nullptr); }},
         picker<DialogSelectBawaPulangInventory>(),
         picker<DialogSelectBawaPulangMenu>(),
         picker<DialogSelectFastFoodInventory>(),
