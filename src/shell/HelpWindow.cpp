@@ -18,7 +18,7 @@
 
 namespace
 {
-constexpr int contentsWidth = 230;
+constexpr int contentsWidth = 260;
 constexpr int placeRole = Qt::UserRole;
 
 struct Heading
@@ -53,7 +53,7 @@ HelpWindow::HelpWindow(QString folder, QWidget* parent)
     build();
     retranslate();
     fillContents();
-    resize(1100, 700);
+    resize(1130, 700);
 }
 
 HelpWindow::~HelpWindow() = default;
@@ -88,7 +88,7 @@ void HelpWindow::build()
     parts->addWidget(m_contents);
     parts->addWidget(m_page);
     parts->setStretchFactor(1, 1);
-    parts->setSizes({contentsWidth, 1100 - contentsWidth});
+    parts->setSizes({contentsWidth, 1130 - contentsWidth});
     parts->setChildrenCollapsible(false);
     auto* all = new QVBoxLayout(this);
     all->setContentsMargins(12, 12, 12, 12);

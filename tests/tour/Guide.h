@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tour/Words.h"
+
 #include <QSize>
 #include <QString>
 #include <QStringList>
@@ -58,6 +60,8 @@ public:
     /** Triggers the entry of the menu, or of the one in it, that has this object name or data, by the mouse. */
     void menu(const QString& menuName, const QString& actionName, const QString& subMenuName = {});
 
+    /** Changes the interface to the language that the tour was asked to speak, if to any. */
+    void chooseLanguage();
     /** Closes the page in front by its key. */
     void closePage();
     /** Presses OK in the front dialog's button box. */
@@ -70,8 +74,11 @@ public:
 private:
     void act(const std::function<void()>& action);
     QString nextSlip();
+    [[nodiscard]] bool isAmong(const QStringList& texts, const QString& expected) const;
 
     QString m_folder;
+    QString m_language;
+    Words m_words;
     QString m_chapter;
     int m_pictures = 0;
     int m_slips = 0;

@@ -16,6 +16,7 @@ void logIn(Guide& guide)
     guide.waitUntilClosed("DialogLogin");
     guide.waitForWindow("MainWindow");
     guide.resizeMainWindow(QSize(1366, 768));
+    guide.chooseLanguage();
     guide.picture("main-window");
 }
 
