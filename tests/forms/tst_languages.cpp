@@ -6,6 +6,7 @@
 #include "shell/InterfaceLanguage.h"
 #include "shell/MainWindow.h"
 #include "shell/TabFactories.h"
+#include "support/InstallerRun.h"
 #include "support/ModalDriver.h"
 #include "support/TestDatabase.h"
 
@@ -74,6 +75,7 @@ private slots:
     void noTwoThingsInAFormAnswerToOneKey();
     void noTwoEntriesOfAMenuMarkOneLetter();
     void whatIsOpenFollowsTheLanguage();
+    void aDatabaseInstalledInIndonesianIsComplete();
 
 private:
     std::unique_ptr<MainWindow> makeWindowWithEverything();
@@ -233,6 +235,19 @@ void TestLanguages::whatIsOpenFollowsTheLanguage()
     m_language->load("id");
     const auto window = makeWindowWithEverything();
     QCOMPARE(difference(switched, textsOf(*window)), QString());
+}
+
+void TestLanguages::aDatabaseInstalledInIndonesianIsComplete()
+{
+    // Names of rights are stored as they are told, and no two may be the same.
+    TestDatabase database(TestDatabase::Empty);
+    m_language->load("id");
+    const InstallerRun run(KorInstaller::FreshInstall);
+    QCOMPARE(run.failures + run.errors, QStringList());
+    for (const char* table : {"permissions", "access", "keytable"}) {
+        const QString count = QString("select count(*) from %1").arg(table);
+        QCOMPARE(database.value(count), m_database->value(count));
+    }
 }
 
 QTEST_MAIN(TestLanguages)
