@@ -2304,7 +2304,7 @@ Tetap pulihkan ke %1?</translation>
     </message>
     <message>
         <source>Empties everything that was sold, bought, paid and counted. Items, tables, people, users, rights, numbers and settings stay. A backup is made first; without a good one nothing is cleared.</source>
-        <translation>Mengosongkan semua yang sudah dijual, dibeli, dibayar dan dihitung. Barang, meja, orang, pengguna, hak akses, nomor dan pengaturan tetap ada. Cadangan dibuat lebih dahulu; tanpa cadangan yang baik tidak ada yang dikosongkan.</translation>
+        <translation>Mengosongkan semua penjualan, pembelian, pembayaran dan hitungan. Barang, meja, orang, pengguna, hak, nomor dan pengaturan tetap. Cadangan dibuat dahulu; tanpa cadangan yang baik tidak ada yang dikosongkan.</translation>
     </message>
     <message>
         <source>DB Host :</source>
@@ -6217,11 +6217,11 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
     <message>
         <source>Type of sale:</source>
-        <translation>Jenis penjualan:</translation>
+        <translation>Jenis:</translation>
     </message>
     <message>
         <source>Dine in</source>
-        <translation>Makan di tempat</translation>
+        <translation>Di tempat</translation>
     </message>
     <message>
         <source>Fast food</source>

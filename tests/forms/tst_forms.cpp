@@ -2,6 +2,7 @@
 #include "forms/FormFaults.h"
 #include "kor/widgets/KorTab.h"
 #include "shell/HouseStyle.h"
+#include "shell/InterfaceLanguage.h"
 #include "support/ModalDriver.h"
 #include "support/TestDatabase.h"
 
@@ -32,12 +33,13 @@ class TestForms : public QObject
 
 private slots:
     void initTestCase();
-    void cleanupTestCase() { m_database.reset(); }
+    void cleanupTestCase();
     void every_form_is_worked_without_a_mouse_and_read_without_guessing_data();
     void every_form_is_worked_without_a_mouse_and_read_without_guessing();
 
 private:
     std::unique_ptr<TestDatabase> m_database;
+    std::unique_ptr<InterfaceLanguage> m_language;
 };
 
 void TestForms::initTestCase()
@@ -45,15 +47,25 @@ void TestForms::initTestCase()
     HouseStyle::apply(*qApp);
     m_database = std::make_unique<TestDatabase>();
     openShopForForms(*m_database);
+    m_language = std::make_unique<InterfaceLanguage>(LANGUAGES_FOLDER, nullptr);
+}
+
+void TestForms::cleanupTestCase()
+{
+    m_language.reset();
+    m_database.reset();
 }
 
 void TestForms::every_form_is_worked_without_a_mouse_and_read_without_guessing_data()
 {
     QTest::addColumn<int>("form");
     QTest::addColumn<double>("pointSize");
+    QTest::addColumn<QString>("language");
     for (int form = 0; form < allForms().size(); ++form) {
-        QTest::newRow(allForms()[form].name) << form << 11.0;
-        QTest::newRow(allForms()[form].name + " at 125 %") << form << 13.75;
+        QTest::newRow(allForms()[form].name) << form << 11.0 << "en";
+        QTest::newRow(allForms()[form].name + " at 125 %") << form << 13.75 << "en";
+        // Its words are longer.
+        QTest::newRow(allForms()[form].name + " in Indonesian at 125 %") << form << 13.75 << "id";
     }
 }
 
@@ -61,6 +73,8 @@ void TestForms::every_form_is_worked_without_a_mouse_and_read_without_guessing()
 {
     QFETCH(int, form);
     QFETCH(double, pointSize);
+    QFETCH(QString, language);
+    m_language->load(language);
     QFont font = QApplication::font();
     font.setPointSizeF(pointSize);
     QApplication::setFont(font);
@@ -87,7 +101,7 @@ void TestForms::every_form_is_worked_without_a_mouse_and_read_without_guessing()
         faults += labelFaults(shown.get()) + roomFaults(shown.get());
         if (qEnvironmentVariableIsSet("FORM_PICTURES"))
             shown->grab().save(QString("%1/%2-%3-%4.png")
-                                   .arg(qEnvironmentVariable("FORM_PICTURES"), QString(allForms()[form].name))
+                                   .arg(qEnvironmentVariable("FORM_PICTURES"), language + '-' + allForms()[form].name)
                                    .arg(pointSize)
                                    .arg(page));
     }

@@ -163,7 +163,8 @@ void TabReport::retranslate()
     setWindowTitle(reportText(m_subject.title));
     for (int i = 0; i < m_subject.reports.size(); ++i)
         m_list->item(i)->setText(m_subject.reports.at(i).titleText());
-    m_list->setFixedWidth(std::max(listWidth, m_list->sizeHintForColumn(0) + 2 * m_list->frameWidth()));
+    m_list->setFixedWidth(
+        std::max(listWidth, m_list->sizeHintForColumn(0) + 2 * (m_list->frameWidth() + m_list->spacing())));
     const auto word = [](QPushButton* button, const char* text, const char* hint) {
         // Setting the text takes a shortcut away.
         const QKeySequence shortcut = button->shortcut();
