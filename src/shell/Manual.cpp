@@ -74,7 +74,7 @@ QStringList Manual::topics() { return places().values(); }
 QString Manual::topic() const
 {
     for (const QWidget* place : {QApplication::activeModalWidget(), m_pages->currentWidget()}) {
-        const QString found = place ? topicOf(place->metaObject()->className()) : QString();
+        QString found = place ? topicOf(place->metaObject()->className()) : QString();
         if (!found.isEmpty())
             return found;
     }

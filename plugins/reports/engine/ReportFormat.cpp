@@ -7,8 +7,8 @@
 
 QLocale restaurantLocale() { return QLocale(AppContext::instance()->locale()); }
 
-ReportFormat::ReportFormat(QString dateFormat, QLocale locale)
-    : m_dateFormat(std::move(dateFormat)), m_locale(std::move(locale))
+ReportFormat::ReportFormat(QString dateFormat, const QLocale& locale)
+    : m_dateFormat(std::move(dateFormat)), m_locale(locale)
 {}
 
 QString ReportFormat::text(const QVariant& value, ReportColumn::Kind kind) const
@@ -41,7 +41,7 @@ QString ReportFormat::number(double value, ReportColumn::Kind kind) const
 QString ReportFormat::cell(const ReportTable& table, int line, int column) const
 {
     const Report& report = table.report();
-    const QString shown = text(table.value(line, column), report.columns.at(column).kind);
+    QString shown = text(table.value(line, column), report.columns.at(column).kind);
     const ReportTable::LineKind kind = table.lineKind(line);
     if (kind == ReportTable::TotalLine && column == 0 && shown.isEmpty())
         return reportText(QT_TRANSLATE_NOOP("Reports", "Total"));

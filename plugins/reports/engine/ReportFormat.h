@@ -13,7 +13,7 @@ class ReportTable;
 class ReportFormat
 {
 public:
-    explicit ReportFormat(QString dateFormat = "d MMM yyyy", QLocale locale = restaurantLocale());
+    explicit ReportFormat(QString dateFormat = "d MMM yyyy", const QLocale& locale = restaurantLocale());
 
     [[nodiscard]] QString text(const QVariant& value, ReportColumn::Kind kind) const;
     [[nodiscard]] QString number(double value, ReportColumn::Kind kind) const;

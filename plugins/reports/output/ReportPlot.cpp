@@ -17,7 +17,6 @@
 #include <qwt_text.h>
 
 #include <algorithm>
-#include <cmath>
 
 namespace
 {
@@ -230,9 +229,9 @@ void ReportPlot::setScales(const QStringList& labels, const ReportFormat& format
     categories->setLabelRotation(crowded ? -35 : 0);
     categories->setLabelAlignment(crowded ? Qt::AlignLeft | Qt::AlignBottom : Qt::AlignHCenter | Qt::AlignBottom);
     setAxisScaleDraw(QwtPlot::xBottom, categories);
-    const double step = std::max(1.0, std::ceil(labels.size() / 16.0));
+    const int step = std::max(1, (labels.size() + 15) / 16);
     QList<double> ticks;
-    for (double tick = 0; tick < labels.size(); tick += step)
+    for (int tick = 0; tick < labels.size(); tick += step)
         ticks.append(tick);
     QwtScaleDiv division(-0.5, labels.size() - 0.5);
     division.setTicks(QwtScaleDiv::MajorTick, ticks);

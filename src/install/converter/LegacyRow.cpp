@@ -14,7 +14,7 @@ QString LegacyRow::text(const QString& column) const
 QString LegacyRow::firstText(const QStringList& columns) const
 {
     for (const QString& column : columns) {
-        const QString found = text(column);
+        QString found = text(column);
         if (!found.isEmpty())
             return found;
     }

@@ -41,7 +41,7 @@ double percent(Conversion& run, double number)
 QString freeUnitName(Conversion& run, const QString& name, const QString& code)
 {
     BusinessSatuan* units = run.services().units;
-    const QString fitted = Conversion::fitted(name, *units, "Nama");
+    QString fitted = Conversion::fitted(name, *units, "Nama");
     if (!units->find("nama", fitted))
         return fitted;
     run.mend(Words::tr("the unit's name was taken, its code has been put behind it"));

@@ -99,7 +99,7 @@ QString ZavelConverter::runSteps(Conversion& run)
     for (int i = 0; i < steps.size(); ++i) {
         const int percent = 100 * i / steps.size();
         tell(percent, steps.at(i).text);
-        const QString failure = runStep(run, steps.at(i), percent);
+        QString failure = runStep(run, steps.at(i), percent);
         if (!failure.isEmpty())
             return failure;
         unreadable += run.rows().failure().isEmpty() ? 0 : 1;

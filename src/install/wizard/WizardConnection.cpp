@@ -11,7 +11,7 @@
 
 QString WizardConnection::settingsPath()
 {
-    const QString path = ConnectionSettings::defaultPath();
+    QString path = ConnectionSettings::defaultPath();
     QDir().mkpath(QFileInfo(path).path());
     return path;
 }
