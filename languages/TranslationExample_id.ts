@@ -4769,7 +4769,7 @@ Tetap pulihkan ke %1?</translation>
     </message>
     <message>
         <source>Split Group</source>
-        <translation>Kelompok Pisah</translation>
+        <translation>Kelompok</translation>
     </message>
     <message>
         <source>Unit</source>

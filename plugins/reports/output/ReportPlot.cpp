@@ -21,6 +21,7 @@
 namespace
 {
 constexpr int rankedBars = 12;
+constexpr int fewBars = 6;
 constexpr int longestLabel = 16;
 
 const QColor seriesColors[] = {QColor("#2f6fb5"), QColor("#e08a2b"), QColor("#4c9a5b"), QColor("#a2527f")};
@@ -192,6 +193,11 @@ void ReportPlot::drawBars(const QList<Series>& series)
     bars->setBarTitles(barTitles);
     bars->setSamples(samples);
     bars->setLayoutPolicy(QwtPlotMultiBarChart::AutoAdjustSamples);
+    if (samples.size() < fewBars) {
+        // Two bars that fill the whole picture are walls.
+        bars->setLayoutPolicy(QwtPlotMultiBarChart::ScaleSampleToCanvas);
+        bars->setLayoutHint(0.7 / fewBars);
+    }
     bars->setSpacing(samples.size() > 40 ? 1 : 8);
     bars->setMargin(8);
     for (int i = 0; i < series.size(); ++i) {
