@@ -62,24 +62,6 @@ private:
     ReportColumn::Kind m_kind;
 };
 
-class Bars final : public QwtPlotMultiBarChart
-{
-public:
-    explicit Bars(QStringList titles) : m_titles(std::move(titles)) {}
-
-protected:
-    QwtColumnSymbol* specialSymbol(int, int index) const override
-    {
-        auto* symbol = new QwtColumnSymbol(QwtColumnSymbol::Box);
-        symbol->setFrameStyle(QwtColumnSymbol::NoFrame);
-        symbol->setPalette(QPalette(seriesColor(index)));
-        return symbol;
-    }
-
-private:
-    QStringList m_titles;
-};
-
 /** Values of equal categories as one, in the order in which the categories first come. */
 struct Categories
 {
@@ -180,16 +162,14 @@ bool ReportPlot::show(const ReportTable& table, const ReportFormat& format)
 
 void ReportPlot::drawBars(const QList<Series>& series)
 {
-    QStringList titles;
     QVector<QVector<double>> samples(series.first().values.size());
     QList<QwtText> barTitles;
     for (const Series& values : series) {
         barTitles.append(QwtText(values.title));
-        titles.append(values.title);
         for (int i = 0; i < samples.size(); ++i)
             samples[i].append(values.values.at(i));
     }
-    auto* bars = new Bars(titles);
+    auto* bars = new QwtPlotMultiBarChart;
     bars->setBarTitles(barTitles);
     bars->setSamples(samples);
     bars->setLayoutPolicy(QwtPlotMultiBarChart::AutoAdjustSamples);

@@ -61,10 +61,9 @@ QDateEdit* makeDateEdit(const QDate& day)
 
 ReportQuestions::ReportQuestions(QWidget* parent) : QWidget(parent)
 {
-    std::tie(m_firstDay, m_lastDay) = [] {
-        const auto days = daysOf(ThisMonth, QDate::currentDate());
-        return std::make_tuple(days.first, days.second);
-    }();
+    const auto days = daysOf(ThisMonth, QDate::currentDate());
+    m_firstDay = days.first;
+    m_lastDay = days.second;
     auto* lines = new QVBoxLayout(this);
     lines->setContentsMargins(0, 0, 0, 0);
     lines->setSpacing(8);
