@@ -2,12 +2,12 @@
 
 #include "app/context/EntityPool.h"
 #include "kor/business/KorServiceDirectory.h"
-#include "masterdata/meja/BusinessMeja.h"
-#include "masterdata/meja/DataMapperMeja.h"
-#include "registry/zavel/ZavelMapperRegistry.h"
-#include "sales/order/DataMapperMakanDitempat.h"
-#include "sales/order/EntityMakanDitempat.h"
-#include "sales/service/BusinessPenjualan.h"
+#include "zavel/dinein/DataMapperMakanDitempat.h"
+#include "zavel/dinein/EntityMakanDitempat.h"
+#include "zavel/registry/ZavelMapperRegistry.h"
+#include "zavel/service/BusinessPenjualan.h"
+#include "zavel/tables/BusinessMeja.h"
+#include "zavel/tables/DataMapperMeja.h"
 
 // The board with 100 tables, 60 of them with an order of 8 lines.
 

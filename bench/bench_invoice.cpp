@@ -1,16 +1,16 @@
 #include "BenchMain.h"
 
 #include "app/numbers/DataMapperKey.h"
+#include "app/registry/AppMapperRegistry.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/entity/KorMetaDataMap.h"
-#include "registry/app/AppMapperRegistry.h"
-#include "registry/pos/PosMapperRegistry.h"
-#include "registry/zavel/ZavelMapperRegistry.h"
-#include "sales/invoice/DataMapperInvoice.h"
-#include "sales/invoice/EntityInvoiceDetail.h"
-#include "sales/payment/DataMapperInvoiceMakanDitempat.h"
-#include "sales/payment/EntityInvoiceMakanDitempat.h"
-#include "sales/service/BusinessPenjualan.h"
+#include "pos/invoice/DataMapperInvoice.h"
+#include "pos/invoice/EntityInvoiceDetail.h"
+#include "pos/registry/PosMapperRegistry.h"
+#include "zavel/dinein/DataMapperInvoiceMakanDitempat.h"
+#include "zavel/dinein/EntityInvoiceMakanDitempat.h"
+#include "zavel/registry/ZavelMapperRegistry.h"
+#include "zavel/service/BusinessPenjualan.h"
 
 // Saving the invoice of an order on a table: number, invoice, link, 10 lines, and the order's status.
 

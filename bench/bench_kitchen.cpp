@@ -1,9 +1,9 @@
 #include "BenchMain.h"
 
-#include "registry/zavel/ZavelMapperRegistry.h"
-#include "sales/kitchen/TabPesananMasuk.h"
-#include "sales/order/DataMapperMakanDitempat.h"
-#include "sales/takeaway/DataMapperBawaPulang.h"
+#include "zavel/dinein/DataMapperMakanDitempat.h"
+#include "zavel/kitchen/TabPesananMasuk.h"
+#include "zavel/registry/ZavelMapperRegistry.h"
+#include "zavel/takeaway/DataMapperBawaPulang.h"
 
 #include <QTableView>
 

@@ -2,9 +2,9 @@
 
 #include "app/context/EntityPool.h"
 #include "kor/business/KorServiceDirectory.h"
-#include "masterdata/meja/DataMapperMeja.h"
-#include "masterdata/meja/TabMeja.h"
-#include "registry/zavel/ZavelMapperRegistry.h"
+#include "zavel/registry/ZavelMapperRegistry.h"
+#include "zavel/tables/DataMapperMeja.h"
+#include "zavel/tables/TabMeja.h"
 
 #include <QApplication>
 #include <QTableView>

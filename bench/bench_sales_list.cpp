@@ -2,12 +2,12 @@
 
 #include "app/context/EntityPool.h"
 #include "kor/business/KorServiceDirectory.h"
-#include "registry/zavel/ZavelMapperRegistry.h"
-#include "sales/list/DataMapperPenjualanInfo.h"
-#include "sales/list/TabDaftarPenjualan.h"
-#include "sales/service/BusinessPenjualan.h"
 #include "support/SalesRows.h"
 #include "support/ShopRows.h"
+#include "zavel/list/DataMapperPenjualanInfo.h"
+#include "zavel/list/TabDaftarPenjualan.h"
+#include "zavel/registry/ZavelMapperRegistry.h"
+#include "zavel/service/BusinessPenjualan.h"
 
 #include <QApplication>
 #include <QTableView>

@@ -1,8 +1,8 @@
 #include "BenchMain.h"
 
-#include "inventory/stock/BusinessInventory.h"
 #include "kor/business/KorServiceDirectory.h"
-#include "masterdata/item/TabItem.h"
+#include "pos/inventory/stock/BusinessInventory.h"
+#include "pos/masterdata/item/TabItem.h"
 #include "support/ShopRows.h"
 #include "support/StockRows.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "kor/plugin/KorPluginTabInterface.h"
+#include "kor/widgets/KorPluginTabInterface.h"
 
 #include <QMap>
 #include <QObject>

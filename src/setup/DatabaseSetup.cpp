@@ -3,9 +3,9 @@
 #include "app/configuration/BusinessConfiguration.h"
 #include "app/context/AppContext.h"
 #include "app/context/DatabaseManager.h"
-#include "install/zavel/ZavelInstaller.h"
 #include "kor/business/KorServiceDirectory.h"
-#include "registry/zavel/ZavelBusinessRegistry.h"
+#include "zavel/install/ZavelInstaller.h"
+#include "zavel/registry/ZavelBusinessRegistry.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,4 +1,4 @@
-#include "shell/ZavelApplication.h"
+#include "shell/window/ZavelApplication.h"
 
 #include <QTextCodec>
 

@@ -5,7 +5,8 @@
 
 namespace
 {
-const QStringList layers{"kor", "app", "pos", "zavel", "shell"};
+// The floors of the house, lowest first: each is a folder, a library and the beginning of its includes.
+const QStringList floors{"kor", "app", "pos", "zavel", "shell"};
 
 QString sourceRoot() { return qEnvironmentVariable("ZAVEL_SOURCE_DIR") + "/src"; }
 
@@ -15,70 +16,67 @@ QString textOf(const QString& path)
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
-/** The layer that a folder's list of classes names; the nearest list upwards counts. */
-QString layerOf(const QString& folder)
+/** Paths below src, of the files with these endings. */
+QStringList sources(const QStringList& endings)
 {
-    static const QRegularExpression family("add_family\\(\\s*(\\w+)");
-    for (QDir dir(folder); dir.path().startsWith(sourceRoot()); dir.cdUp()) {
-        const auto match = family.match(textOf(dir.filePath("CMakeLists.txt")));
-        if (match.hasMatch())
-            return match.captured(1);
-    }
-    return "shell";
+    QStringList paths;
+    QDirIterator files(sourceRoot(), endings, QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext())
+        paths.append(files.next().mid(sourceRoot().size() + 1));
+    paths.sort();
+    return paths;
 }
+
+/** What the file includes of the house, as written; its form and its meta-objects are its own. */
+QStringList includesOf(const QString& path)
+{
+    static const QRegularExpression include("^\\s*#include \"([^\"]+)\"", QRegularExpression::MultilineOption);
+    QStringList names;
+    auto matches = include.globalMatch(textOf(sourceRoot() + '/' + path));
+    while (matches.hasNext()) {
+        const QString name = matches.next().captured(1);
+        if (!QFileInfo(name).fileName().startsWith("ui_") && !name.endsWith(".moc"))
+            names.append(name);
+    }
+    return names;
+}
+
+QString floorOf(const QString& path) { return path.section('/', 0, 0); }
+
+/** The folder that a file lies in. */
+QString folderOf(const QString& path) { return path.section('/', 0, -2); }
+
+/** Registries and installers put the house together, so they know everybody of their floor. */
+bool composes(const QString& path)
+{
+    const QString room = path.section('/', 1, 1);
+    return room == "registry" || room == "install";
+}
+
 } // namespace
 
-/** A layer includes only what lies below it, and includes are rooted, so that a path tells where a class lives. */
+/** A floor includes only what lies below it. */
 class TestLayers : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void aFolderBelongsToOneLayer()
-    {
-        static const QRegularExpression family("add_family\\(\\s*(\\w+)");
-        QDirIterator lists(sourceRoot(), {"CMakeLists.txt"}, QDir::Files, QDirIterator::Subdirectories);
-        int families = 0;
-        while (lists.hasNext()) {
-            const QString path = lists.next();
-            QStringList named;
-            auto matches = family.globalMatch(textOf(path));
-            while (matches.hasNext())
-                named.append(matches.next().captured(1));
-            named.removeDuplicates();
-            QVERIFY2(named.size() <= 1, qPrintable(path + " names " + named.join(" and ")));
-            families += named.size();
-        }
-        QVERIFY(families > 10);
-    }
-
     void includesPointDownwards_data()
     {
         QTest::addColumn<QString>("path");
-        QDirIterator files(sourceRoot(), {"*.h", "*.cpp"}, QDir::Files, QDirIterator::Subdirectories);
-        while (files.hasNext()) {
-            const QString path = files.next();
-            QTest::newRow(qPrintable(path.mid(sourceRoot().size() + 1))) << path;
-        }
+        for (const QString& path : sources({"*.h", "*.cpp"}))
+            QTest::newRow(qPrintable(path)) << path;
     }
     void includesPointDownwards()
     {
         QFETCH(QString, path);
-        static const QRegularExpression include("^\\s*#include \"([^\"]+)\"", QRegularExpression::MultilineOption);
-        const QString own = layerOf(QFileInfo(path).absolutePath());
-        QVERIFY2(layers.contains(own), qPrintable("unknown layer " + own));
-
-        auto matches = include.globalMatch(textOf(path));
-        while (matches.hasNext()) {
-            const QString name = matches.next().captured(1);
-            if (name.startsWith("ui_") || name.endsWith(".moc"))
-                continue;
-            const QFileInfo included(sourceRoot() + '/' + name);
-            QVERIFY2(!name.contains("..") && name.contains('/') && included.exists(),
+        const QString own = floorOf(path) == "setup" ? "shell" : floorOf(path);
+        QVERIFY2(floors.contains(own), qPrintable("no floor: " + own));
+        for (const QString& name : includesOf(path)) {
+            QVERIFY2(!name.contains("..") && name.contains('/') && QFileInfo::exists(sourceRoot() + '/' + name),
                      qPrintable("not a rooted include: " + name));
-            const QString other = layerOf(included.absolutePath());
-            QVERIFY2(layers.indexOf(other) <= layers.indexOf(own),
-                     qPrintable(name + " is of layer " + other + ", above " + own));
+            const QString other = floorOf(name) == "setup" ? "shell" : floorOf(name);
+            QVERIFY2(floors.indexOf(other) <= floors.indexOf(own), qPrintable(name + " lies above " + own));
         }
     }
 
@@ -86,11 +84,28 @@ private slots:
     void onlyTheRootsOfCompositionKnowRegistries()
     {
         QFETCH(QString, path);
-        const QString folder = path.mid(sourceRoot().size() + 1).section('/', 0, 0);
-        if (folder == "registry" || folder == "install" || folder == "shell" || folder == "setup")
+        if (composes(path) || floorOf(path) == "shell" || floorOf(path) == "setup")
             return;
-        QVERIFY2(!textOf(path).contains("#include \"registry/") && !textOf(path).contains("#include \"install/"),
-                 "a class below the shell reaches for a registry or an installer");
+        for (const QString& name : includesOf(path))
+            QVERIFY2(!composes(name) || floorOf(name) == "kor",
+                     qPrintable(name + ": a class below the shell reaches for a registry or an installer"));
+    }
+
+    void aFormLiesBesideItsClass_data()
+    {
+        QTest::addColumn<QString>("path");
+        for (const QString& path : sources({"*.ui"}))
+            QTest::newRow(qPrintable(path)) << path;
+    }
+    void aFormLiesBesideItsClass()
+    {
+        QFETCH(QString, path);
+        const QString form = "\"ui_" + QFileInfo(path).completeBaseName() + ".h\"";
+        QDir folder(sourceRoot() + '/' + folderOf(path));
+        bool used = false;
+        for (const QString& name : folder.entryList({"*.h", "*.cpp"}, QDir::Files))
+            used = used || textOf(folder.filePath(name)).contains(form);
+        QVERIFY2(used, "no class in the form's folder uses it");
     }
 };
 

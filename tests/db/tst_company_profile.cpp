@@ -1,6 +1,6 @@
 #include "kor/business/KorServiceDirectory.h"
-#include "masterdata/company/BusinessDataPerusahaan.h"
-#include "masterdata/company/EntityDataPerusahaan.h"
+#include "pos/masterdata/company/BusinessDataPerusahaan.h"
+#include "pos/masterdata/company/EntityDataPerusahaan.h"
 #include "support/TestDatabase.h"
 
 #include <QTest>

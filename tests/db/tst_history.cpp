@@ -1,7 +1,7 @@
-#include "app/access/EntityUser.h"
+#include "app/context/EntityUser.h"
 #include "app/history/DataMapperHistory.h"
 #include "app/money/Money.h"
-#include "registry/app/AppMapperRegistry.h"
+#include "app/registry/AppMapperRegistry.h"
 #include "support/TestDatabase.h"
 
 #include <QCryptographicHash>

@@ -1,12 +1,12 @@
 #include "kor/business/KorServiceDirectory.h"
-#include "registry/pos/PosMapperRegistry.h"
-#include "sales/invoice/DataMapperInvoice.h"
-#include "sales/invoice/EntityInvoiceDetail.h"
-#include "sales/invoice/InvoiceTotals.h"
-#include "sales/payment/EntityInvoiceMakanDitempat.h"
-#include "sales/service/BusinessPenjualan.h"
+#include "pos/invoice/DataMapperInvoice.h"
+#include "pos/invoice/EntityInvoiceDetail.h"
+#include "pos/registry/PosMapperRegistry.h"
+#include "pos/totals/InvoiceTotals.h"
 #include "support/ShopRows.h"
 #include "support/TestDatabase.h"
+#include "zavel/dinein/EntityInvoiceMakanDitempat.h"
+#include "zavel/service/BusinessPenjualan.h"
 
 #include <QTest>
 

@@ -1,11 +1,11 @@
-#include "inventory/stock/BusinessStokAwal.h"
-#include "inventory/stock/EntityStokAwal.h"
 #include "kor/business/KorServiceDirectory.h"
-#include "masterdata/item/BusinessGroupedItem.h"
-#include "masterdata/item/BusinessItem.h"
-#include "masterdata/item/EntityGroupedItem.h"
-#include "masterdata/jenisitem/BusinessJenisItem.h"
-#include "masterdata/satuan/BusinessSatuan.h"
+#include "pos/inventory/stock/BusinessStokAwal.h"
+#include "pos/masterdata/item/BusinessGroupedItem.h"
+#include "pos/masterdata/item/BusinessItem.h"
+#include "pos/masterdata/item/EntityGroupedItem.h"
+#include "pos/masterdata/item/EntityStokAwal.h"
+#include "pos/masterdata/itemtype/BusinessJenisItem.h"
+#include "pos/masterdata/unit/BusinessSatuan.h"
 #include "support/TestDatabase.h"
 
 #include <QTest>

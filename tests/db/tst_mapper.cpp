@@ -1,11 +1,11 @@
 #include "kor/entity/KorColumnMap.h"
 #include "kor/persistence/KorDatabase.h"
 #include "kor/persistence/KorPaging.h"
-#include "masterdata/meja/DataMapperMeja.h"
-#include "masterdata/meja/EntityMeja.h"
-#include "registry/zavel/ZavelMapperRegistry.h"
 #include "support/TestCluster.h"
 #include "support/TestDatabase.h"
+#include "zavel/registry/ZavelMapperRegistry.h"
+#include "zavel/tables/DataMapperMeja.h"
+#include "zavel/tables/EntityMeja.h"
 
 #include <QTest>
 #include <QThread>

@@ -1,7 +1,7 @@
 #include "kor/business/KorServiceDirectory.h"
-#include "sales/service/BusinessPenjualan.h"
 #include "support/Builders.h"
 #include "support/TestDatabase.h"
+#include "zavel/service/BusinessPenjualan.h"
 
 #include <QTest>
 

@@ -1,7 +1,7 @@
 #include "kor/business/KorServiceDirectory.h"
-#include "printing/printer/BusinessPrinterType.h"
-#include "registry/zavel/ZavelBusinessRegistry.h"
+#include "pos/printing/printer/BusinessPrinterType.h"
 #include "support/TestDatabase.h"
+#include "zavel/registry/ZavelBusinessRegistry.h"
 
 #include <QTest>
 

@@ -1,8 +1,8 @@
-#include "purchasing/acquisition/DataMapperAcquisition.h"
-#include "purchasing/purchaseorder/BusinessPurchaseOrder.h"
-#include "purchasing/purchaseorder/DataMapperPurchaseOrder.h"
-#include "registry/pos/PosBusinessRegistry.h"
-#include "registry/pos/PosMapperRegistry.h"
+#include "pos/purchasing/purchase/DataMapperAcquisition.h"
+#include "pos/purchasing/purchaseorder/BusinessPurchaseOrder.h"
+#include "pos/purchasing/purchaseorder/DataMapperPurchaseOrder.h"
+#include "pos/registry/PosBusinessRegistry.h"
+#include "pos/registry/PosMapperRegistry.h"
 #include "support/ShopRows.h"
 #include "support/TestDatabase.h"
 

@@ -1,9 +1,9 @@
 #include "kor/business/KorServiceDirectory.h"
-#include "sales/receivable/EntityPiutang.h"
-#include "sales/service/BusinessPenjualan.h"
 #include "support/SalesRows.h"
 #include "support/ShopRows.h"
 #include "support/TestDatabase.h"
+#include "zavel/receivable/EntityPiutang.h"
+#include "zavel/service/BusinessPenjualan.h"
 
 #include <QRandomGenerator>
 #include <QTest>

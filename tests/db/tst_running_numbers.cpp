@@ -2,9 +2,9 @@
 #include "app/numbers/DataMapperKey.h"
 #include "app/numbers/DocumentNumber.h"
 #include "app/numbers/EntityKey.h"
+#include "app/registry/AppMapperRegistry.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/persistence/KorDatabase.h"
-#include "registry/app/AppMapperRegistry.h"
 #include "support/TestDatabase.h"
 
 #include <QMutex>

@@ -1,10 +1,10 @@
 #include "app/context/EntityPool.h"
 #include "kor/business/KorServiceDirectory.h"
-#include "sales/list/EntitySalesSummaryInfo.h"
-#include "sales/list/EntitySoldItem.h"
-#include "sales/service/BusinessPenjualan.h"
 #include "support/ShopRows.h"
 #include "support/TestDatabase.h"
+#include "zavel/list/EntitySalesSummaryInfo.h"
+#include "zavel/list/EntitySoldItem.h"
+#include "zavel/service/BusinessPenjualan.h"
 
 #include <QTest>
 

@@ -1,12 +1,12 @@
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/persistence/KorDataMapper.h"
-#include "sales/list/EntityPenjualanInfo.h"
-#include "sales/list/EntitySalesSummaryInfo.h"
-#include "sales/list/EntitySoldItem.h"
-#include "sales/service/BusinessPenjualan.h"
 #include "support/SalesRows.h"
 #include "support/ShopRows.h"
 #include "support/TestDatabase.h"
+#include "zavel/list/EntityPenjualanInfo.h"
+#include "zavel/list/EntitySalesSummaryInfo.h"
+#include "zavel/list/EntitySoldItem.h"
+#include "zavel/service/BusinessPenjualan.h"
 
 #include <QRandomGenerator>
 #include <QTest>

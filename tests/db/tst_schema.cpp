@@ -1,10 +1,10 @@
-#include "inventory/stock/StockMovements.h"
+#include "app/registry/AppMapperRegistry.h"
 #include "kor/persistence/KorDataMapper.h"
 #include "kor/persistence/KorQuery.h"
-#include "registry/app/AppMapperRegistry.h"
-#include "registry/pos/PosMapperRegistry.h"
-#include "registry/zavel/ZavelMapperRegistry.h"
+#include "pos/inventory/stock/StockMovements.h"
+#include "pos/registry/PosMapperRegistry.h"
 #include "support/TestDatabase.h"
+#include "zavel/registry/ZavelMapperRegistry.h"
 
 #include <QTest>
 

@@ -1,9 +1,9 @@
 #include "kor/business/KorServiceDirectory.h"
-#include "sales/service/BusinessPenjualan.h"
-#include "sales/takeaway/EntityBawaPulangDetail.h"
-#include "sales/takeaway/EntityInvoiceBawaPulang.h"
 #include "support/Builders.h"
 #include "support/TestDatabase.h"
+#include "zavel/service/BusinessPenjualan.h"
+#include "zavel/takeaway/EntityBawaPulangDetail.h"
+#include "zavel/takeaway/EntityInvoiceBawaPulang.h"
 
 #include <QTest>
 

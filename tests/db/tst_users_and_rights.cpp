@@ -1,14 +1,14 @@
-#include "app/access/AccessCheck.h"
 #include "app/access/BusinessPermission.h"
 #include "app/access/BusinessUser.h"
 #include "app/access/BusinessUserAccess.h"
 #include "app/access/BusinessUserGroup.h"
 #include "app/access/DataMapperUser.h"
 #include "app/access/EntityAccess.h"
-#include "app/access/EntityUser.h"
+#include "app/context/AccessCheck.h"
 #include "app/context/AppContext.h"
+#include "app/context/EntityUser.h"
+#include "app/registry/AppMapperRegistry.h"
 #include "kor/business/KorServiceDirectory.h"
-#include "registry/app/AppMapperRegistry.h"
 #include "support/TestDatabase.h"
 
 #include <QTest>

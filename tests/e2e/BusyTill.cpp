@@ -1,15 +1,15 @@
 #include "app/context/AppContext.h"
 #include "app/context/DatabaseManager.h"
 #include "kor/business/KorServiceDirectory.h"
-#include "masterdata/item/DataMapperItem.h"
-#include "masterdata/item/EntityItem.h"
-#include "registry/pos/PosMapperRegistry.h"
-#include "registry/zavel/ZavelBusinessRegistry.h"
-#include "sales/fastfood/EntityInvoiceFastFood.h"
-#include "sales/invoice/EntityInvoiceDetail.h"
-#include "sales/invoice/InvoiceTotals.h"
-#include "sales/service/BusinessPenjualan.h"
+#include "pos/invoice/EntityInvoiceDetail.h"
+#include "pos/masterdata/item/DataMapperItem.h"
+#include "pos/masterdata/item/EntityItem.h"
+#include "pos/registry/PosMapperRegistry.h"
+#include "pos/totals/InvoiceTotals.h"
 #include "support/TestDatabase.h"
+#include "zavel/fastfood/EntityInvoiceFastFood.h"
+#include "zavel/registry/ZavelBusinessRegistry.h"
+#include "zavel/service/BusinessPenjualan.h"
 
 #include <QCoreApplication>
 #include <QTextStream>

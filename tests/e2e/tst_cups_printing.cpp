@@ -1,6 +1,6 @@
 #include "PrivateCups.h"
-#include "printing/printer/AppLinePrinter.h"
-#include "printing/printer/CupsSlipSpooler.h"
+#include "pos/printing/printer/AppLinePrinter.h"
+#include "pos/printing/printer/CupsSlipSpooler.h"
 
 #include <QTest>
 

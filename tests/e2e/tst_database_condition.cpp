@@ -1,5 +1,5 @@
-#include "install/check/DatabaseCondition.h"
-#include "install/tools/ClientPrograms.h"
+#include "shell/database/check/DatabaseCondition.h"
+#include "shell/database/tools/ClientPrograms.h"
 #include "support/InstallerRun.h"
 #include "support/TestDatabase.h"
 

@@ -3,15 +3,15 @@
 #include "app/context/AppContext.h"
 #include "app/context/ConnectionSettings.h"
 #include "app/context/DatabaseManager.h"
-#include "registry/zavel/ZavelBusinessRegistry.h"
-#include "sales/order/DialogMakanDitempat.h"
-#include "sales/order/TabMakanDitempat.h"
-#include "sales/order/TableModelMakanDitempat.h"
-#include "shell/ConfigDialog.h"
-#include "shell/MainWindow.h"
+#include "shell/window/ConfigDialog.h"
+#include "shell/window/MainWindow.h"
 #include "support/Hands.h"
 #include "support/OrderKeys.h"
 #include "support/TestDatabase.h"
+#include "zavel/dinein/DialogMakanDitempat.h"
+#include "zavel/dinein/TabMakanDitempat.h"
+#include "zavel/dinein/TableModelMakanDitempat.h"
+#include "zavel/registry/ZavelBusinessRegistry.h"
 
 #include <QLabel>
 #include <QSet>

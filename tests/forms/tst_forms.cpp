@@ -1,8 +1,8 @@
 #include "forms/AllForms.h"
 #include "forms/FormFaults.h"
 #include "kor/widgets/KorTab.h"
-#include "shell/HouseStyle.h"
-#include "shell/InterfaceLanguage.h"
+#include "shell/window/HouseStyle.h"
+#include "shell/window/InterfaceLanguage.h"
 #include "support/ModalDriver.h"
 #include "support/TestDatabase.h"
 

@@ -1,14 +1,14 @@
 #include "app/context/AppContext.h"
 #include "kor/business/KorServiceDirectory.h"
-#include "sales/commission/DialogKomisiAgen.h"
-#include "sales/commission/DialogSetPercentage.h"
-#include "sales/commission/TabAllKomisiAgen.h"
-#include "sales/commission/TabKomisiAgen.h"
-#include "sales/service/BusinessPenjualan.h"
 #include "support/Hands.h"
 #include "support/SalesRows.h"
 #include "support/ShopRows.h"
 #include "support/TestDatabase.h"
+#include "zavel/commission/DialogKomisiAgen.h"
+#include "zavel/commission/DialogSetPercentage.h"
+#include "zavel/commission/TabAllKomisiAgen.h"
+#include "zavel/commission/TabKomisiAgen.h"
+#include "zavel/service/BusinessPenjualan.h"
 
 #include <QComboBox>
 #include <QLabel>

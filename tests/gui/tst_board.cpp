@@ -1,15 +1,15 @@
 #include "app/context/AppContext.h"
 #include "kor/business/KorServiceDirectory.h"
-#include "sales/order/DialogMakanDitempat.h"
-#include "sales/order/TabMakanDitempat.h"
-#include "sales/order/TableModelMakanDitempat.h"
-#include "sales/payment/DialogBayarMakanDitempat.h"
-#include "sales/service/BusinessPenjualan.h"
 #include "support/Builders.h"
 #include "support/ModalDriver.h"
 #include "support/OrderKeys.h"
 #include "support/TestCluster.h"
 #include "support/TestDatabase.h"
+#include "zavel/dinein/DialogBayarMakanDitempat.h"
+#include "zavel/dinein/DialogMakanDitempat.h"
+#include "zavel/dinein/TabMakanDitempat.h"
+#include "zavel/dinein/TableModelMakanDitempat.h"
+#include "zavel/service/BusinessPenjualan.h"
 
 #include <QApplication>
 #include <QLabel>

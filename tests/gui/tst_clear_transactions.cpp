@@ -1,5 +1,5 @@
 #include "app/context/ConnectionSettings.h"
-#include "install/clearing/DialogClearTransactions.h"
+#include "shell/database/clearing/DialogClearTransactions.h"
 #include "support/Hands.h"
 #include "support/TestCluster.h"
 #include "support/TestDatabase.h"

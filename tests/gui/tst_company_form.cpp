@@ -1,6 +1,6 @@
-#include "masterdata/company/DialogDataPerusahaan.h"
-#include "masterdata/company/EntityDataPerusahaan.h"
-#include "masterdata/company/QPictureLabel.h"
+#include "pos/masterdata/company/DialogDataPerusahaan.h"
+#include "pos/masterdata/company/EntityDataPerusahaan.h"
+#include "pos/masterdata/company/QPictureLabel.h"
 #include "support/MasterFamilies.h"
 #include "support/ModalDriver.h"
 

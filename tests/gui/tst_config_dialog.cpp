@@ -3,10 +3,10 @@
 #include "app/context/ConnectionSettings.h"
 #include "app/context/DatabaseManager.h"
 #include "kor/business/KorServiceDirectory.h"
-#include "masterdata/meja/BusinessMeja.h"
-#include "shell/ConfigDialog.h"
+#include "shell/window/ConfigDialog.h"
 #include "support/ModalDriver.h"
 #include "support/TestDatabase.h"
+#include "zavel/tables/BusinessMeja.h"
 
 #include <QCheckBox>
 #include <QComboBox>

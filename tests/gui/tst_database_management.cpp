@@ -1,7 +1,7 @@
 #include "app/context/AppContext.h"
 #include "app/context/ConnectionSettings.h"
 #include "app/context/DatabaseManager.h"
-#include "install/database/DialogBackupDB.h"
+#include "shell/database/backup/DialogBackupDB.h"
 #include "support/Hands.h"
 #include "support/TestCluster.h"
 #include "support/TestDatabase.h"

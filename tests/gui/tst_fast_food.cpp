@@ -1,16 +1,16 @@
 #include "app/context/AppContext.h"
 #include "kor/business/KorServiceDirectory.h"
-#include "sales/fastfood/DialogFastFood.h"
-#include "sales/fastfood/DialogSelectFastFoodInventory.h"
-#include "sales/fastfood/DialogSelectFastFoodMenu.h"
-#include "sales/fastfood/TabFastFood.h"
-#include "sales/fastfood/TableModelFastFood.h"
-#include "sales/fastfood/TableModelFastFoodDetail.h"
-#include "sales/service/BusinessPenjualan.h"
 #include "support/ModalDriver.h"
 #include "support/SalesRows.h"
 #include "support/ShopRows.h"
 #include "support/TestDatabase.h"
+#include "zavel/fastfood/DialogFastFood.h"
+#include "zavel/fastfood/DialogSelectFastFoodInventory.h"
+#include "zavel/fastfood/DialogSelectFastFoodMenu.h"
+#include "zavel/fastfood/TabFastFood.h"
+#include "zavel/fastfood/TableModelFastFood.h"
+#include "zavel/fastfood/TableModelFastFoodDetail.h"
+#include "zavel/service/BusinessPenjualan.h"
 
 #include <QApplication>
 #include <QComboBox>

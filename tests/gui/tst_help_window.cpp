@@ -1,5 +1,5 @@
-#include "shell/HelpWindow.h"
-#include "shell/Manual.h"
+#include "shell/window/HelpWindow.h"
+#include "shell/window/Manual.h"
 
 #include <QDialog>
 #include <QDirIterator>

@@ -1,5 +1,5 @@
-#include "masterdata/item/DialogItem.h"
-#include "masterdata/item/TabItem.h"
+#include "pos/masterdata/item/DialogItem.h"
+#include "pos/masterdata/item/TabItem.h"
 #include "support/MasterFamilies.h"
 #include "support/ModalDriver.h"
 #include "support/TestDatabase.h"

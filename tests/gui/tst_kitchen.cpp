@@ -2,16 +2,16 @@
 #include "app/context/DatabaseManager.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/persistence/KorConnectionProbe.h"
-#include "sales/kitchen/TabPesananMasuk.h"
-#include "sales/kitchen/TableModelQueue.h"
-#include "sales/kitchen/TableModelQueueMenu.h"
-#include "sales/order/TableModelMakanDitempatDetail.h"
-#include "sales/service/BusinessPenjualan.h"
 #include "support/Builders.h"
 #include "support/Golden.h"
 #include "support/ModalDriver.h"
 #include "support/TestCluster.h"
 #include "support/TestDatabase.h"
+#include "zavel/dinein/TableModelMakanDitempatDetail.h"
+#include "zavel/kitchen/TabPesananMasuk.h"
+#include "zavel/kitchen/TableModelQueue.h"
+#include "zavel/kitchen/TableModelQueueMenu.h"
+#include "zavel/service/BusinessPenjualan.h"
 
 #include <QApplication>
 #include <QComboBox>

@@ -1,7 +1,7 @@
-#include "masterdata/meja/DialogMeja.h"
-#include "masterdata/meja/TabMeja.h"
 #include "support/ModalDriver.h"
 #include "support/TestDatabase.h"
+#include "zavel/tables/DialogMeja.h"
+#include "zavel/tables/TabMeja.h"
 
 #include <QLineEdit>
 #include <QTableView>

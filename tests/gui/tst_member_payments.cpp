@@ -1,15 +1,15 @@
 #include "app/context/AppContext.h"
 #include "kor/business/KorServiceDirectory.h"
-#include "sales/receivable/DialogBayarPiutang.h"
-#include "sales/receivable/DialogPiutang.h"
-#include "sales/receivable/EntityPiutang.h"
-#include "sales/receivable/TabPiutang.h"
-#include "sales/service/BusinessPenjualan.h"
 #include "support/Hands.h"
 #include "support/SalesRows.h"
 #include "support/ShopRows.h"
 #include "support/TestCluster.h"
 #include "support/TestDatabase.h"
+#include "zavel/receivable/DialogBayarPiutang.h"
+#include "zavel/receivable/DialogPiutang.h"
+#include "zavel/receivable/EntityPiutang.h"
+#include "zavel/receivable/TabPiutang.h"
+#include "zavel/service/BusinessPenjualan.h"
 
 #include <QComboBox>
 #include <QDateEdit>

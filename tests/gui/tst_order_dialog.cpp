@@ -1,10 +1,10 @@
-#include "sales/order/DialogMakanDitempat.h"
-#include "sales/order/DialogSelectInventory.h"
-#include "sales/order/DialogSelectMenu.h"
-#include "sales/order/TabMakanDitempatDetail.h"
 #include "support/Builders.h"
 #include "support/ModalDriver.h"
 #include "support/TestDatabase.h"
+#include "zavel/dinein/DialogMakanDitempat.h"
+#include "zavel/dinein/TabMakanDitempatDetail.h"
+#include "zavel/order/DialogSelectInventory.h"
+#include "zavel/order/DialogSelectMenu.h"
 
 #include <QAbstractItemModelTester>
 #include <QComboBox>

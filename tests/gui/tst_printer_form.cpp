@@ -1,4 +1,4 @@
-#include "printing/printer/DialogPrinter.h"
+#include "pos/printing/printer/DialogPrinter.h"
 
 #include <QComboBox>
 #include <QDir>

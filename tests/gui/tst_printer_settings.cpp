@@ -1,12 +1,12 @@
 #include "kor/business/KorServiceDirectory.h"
-#include "printing/configuration/BusinessPrinterConfig.h"
-#include "printing/configuration/DialogCashierAndKitchenPrinter.h"
-#include "printing/configuration/DialogFilterJenisItem.h"
-#include "printing/configuration/DialogKitchenFoodPrinter.h"
-#include "printing/configuration/TabKitchenPrinter.h"
-#include "registry/zavel/ZavelBusinessRegistry.h"
+#include "pos/printing/configuration/BusinessPrinterConfig.h"
+#include "pos/printing/configuration/DialogCashierAndKitchenPrinter.h"
+#include "pos/printing/configuration/DialogFilterJenisItem.h"
+#include "pos/printing/configuration/DialogKitchenFoodPrinter.h"
+#include "pos/printing/configuration/TabKitchenPrinter.h"
 #include "support/ModalDriver.h"
 #include "support/TestDatabase.h"
+#include "zavel/registry/ZavelBusinessRegistry.h"
 
 #include <QCheckBox>
 #include <QComboBox>

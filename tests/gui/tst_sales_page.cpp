@@ -1,15 +1,15 @@
 #include "app/context/AppContext.h"
 #include "kor/business/KorServiceDirectory.h"
-#include "sales/fastfood/DialogFastFood.h"
-#include "sales/list/TabDaftarPenjualan.h"
-#include "sales/list/TableModelDaftarPenjualan.h"
-#include "sales/payment/DialogBayarMakanDitempat.h"
-#include "sales/service/BusinessPenjualan.h"
-#include "sales/takeaway/DialogBayarBawaPulang.h"
 #include "support/ModalDriver.h"
 #include "support/SalesRows.h"
 #include "support/ShopRows.h"
 #include "support/TestDatabase.h"
+#include "zavel/dinein/DialogBayarMakanDitempat.h"
+#include "zavel/fastfood/DialogFastFood.h"
+#include "zavel/list/TabDaftarPenjualan.h"
+#include "zavel/list/TableModelDaftarPenjualan.h"
+#include "zavel/service/BusinessPenjualan.h"
+#include "zavel/takeaway/DialogBayarBawaPulang.h"
 
 #include <QApplication>
 #include <QComboBox>

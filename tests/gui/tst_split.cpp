@@ -1,15 +1,15 @@
 #include "app/context/AppContext.h"
 #include "kor/business/KorServiceDirectory.h"
-#include "sales/invoice/EntityInvoiceDetail.h"
-#include "sales/invoice/InvoiceTotals.h"
-#include "sales/payment/DialogBayarMakanDitempat.h"
-#include "sales/payment/DialogBayarMakanDitempatDetailSplit.h"
-#include "sales/payment/InvoiceSplit.h"
-#include "sales/service/BusinessPenjualan.h"
+#include "pos/invoice/EntityInvoiceDetail.h"
+#include "pos/totals/InvoiceTotals.h"
 #include "support/Builders.h"
 #include "support/ModalDriver.h"
 #include "support/TestCluster.h"
 #include "support/TestDatabase.h"
+#include "zavel/dinein/DialogBayarMakanDitempat.h"
+#include "zavel/dinein/DialogBayarMakanDitempatDetailSplit.h"
+#include "zavel/dinein/InvoiceSplit.h"
+#include "zavel/service/BusinessPenjualan.h"
 
 #include <QApplication>
 #include <QCheckBox>

@@ -1,12 +1,12 @@
 #include "kor/business/KorServiceDirectory.h"
-#include "sales/service/BusinessPenjualan.h"
-#include "sales/takeaway/DialogBawaPulang.h"
-#include "sales/takeaway/DialogBayarBawaPulang.h"
-#include "sales/takeaway/TabBawaPulang.h"
-#include "sales/takeaway/TableModelBawaPulang.h"
 #include "support/Builders.h"
 #include "support/OrderKeys.h"
 #include "support/TestDatabase.h"
+#include "zavel/service/BusinessPenjualan.h"
+#include "zavel/takeaway/DialogBawaPulang.h"
+#include "zavel/takeaway/DialogBayarBawaPulang.h"
+#include "zavel/takeaway/TabBawaPulang.h"
+#include "zavel/takeaway/TableModelBawaPulang.h"
 
 #include <QComboBox>
 #include <QLabel>

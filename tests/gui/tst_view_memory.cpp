@@ -1,8 +1,8 @@
 #include "kor/widgets/KorViewMemory.h"
-#include "masterdata/meja/DialogMeja.h"
-#include "masterdata/meja/TabMeja.h"
 #include "support/ModalDriver.h"
 #include "support/TestDatabase.h"
+#include "zavel/tables/DialogMeja.h"
+#include "zavel/tables/TabMeja.h"
 
 #include <QHeaderView>
 #include <QPushButton>

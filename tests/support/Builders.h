@@ -1,12 +1,12 @@
 #pragma once
 
-#include "masterdata/item/EntityItem.h"
-#include "masterdata/meja/EntityMeja.h"
-#include "masterdata/member/EntityMember.h"
-#include "sales/order/EntityMakanDitempat.h"
-#include "sales/order/EntityMakanDitempatDetail.h"
-#include "sales/payment/EntityInvoiceMakanDitempat.h"
-#include "sales/takeaway/EntityInvoiceBawaPulang.h"
+#include "pos/masterdata/item/EntityItem.h"
+#include "pos/masterdata/member/EntityMember.h"
+#include "zavel/dinein/EntityInvoiceMakanDitempat.h"
+#include "zavel/dinein/EntityMakanDitempat.h"
+#include "zavel/dinein/EntityMakanDitempatDetail.h"
+#include "zavel/tables/EntityMeja.h"
+#include "zavel/takeaway/EntityInvoiceBawaPulang.h"
 
 /**
  * A small restaurant for tests: rows written by the program's own mappers, and records on top of them. The records

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "install/zavel/ZavelInstaller.h"
+#include "zavel/install/ZavelInstaller.h"
 
 #include <functional>
 

@@ -1,14 +1,14 @@
 #include "support/MasterFamilies.h"
 
 #include "kor/business/KorServiceDirectory.h"
-#include "masterdata/agent/TabAgent.h"
-#include "masterdata/bank/TabBank.h"
-#include "masterdata/employee/TabEmployee.h"
-#include "masterdata/jenisitem/TabJenisItem.h"
-#include "masterdata/meja/TabMeja.h"
-#include "masterdata/member/TabMember.h"
-#include "masterdata/satuan/TabSatuan.h"
-#include "masterdata/supplier/TabSupplier.h"
+#include "pos/masterdata/account/TabBank.h"
+#include "pos/masterdata/agent/TabAgent.h"
+#include "pos/masterdata/employee/TabEmployee.h"
+#include "pos/masterdata/itemtype/TabJenisItem.h"
+#include "pos/masterdata/member/TabMember.h"
+#include "pos/masterdata/supplier/TabSupplier.h"
+#include "pos/masterdata/unit/TabSatuan.h"
+#include "zavel/tables/TabMeja.h"
 
 #include <QPlainTextEdit>
 #include <QTest>

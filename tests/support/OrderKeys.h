@@ -1,7 +1,7 @@
 #pragma once
 
-#include "sales/order/DialogSelectMenu.h"
 #include "support/ModalDriver.h"
+#include "zavel/order/DialogSelectMenu.h"
 
 #include <QApplication>
 #include <QTest>

@@ -1,15 +1,15 @@
 #include "support/TestDatabase.h"
 
-#include "app/access/EntityUser.h"
 #include "app/context/AppContext.h"
 #include "app/context/DatabaseManager.h"
+#include "app/context/EntityUser.h"
+#include "app/registry/AppBusinessRegistry.h"
 #include "kor/business/KorBusinessLogic.h"
 #include "kor/persistence/KorQuery.h"
-#include "registry/app/AppBusinessRegistry.h"
-#include "registry/pos/PosBusinessRegistry.h"
-#include "registry/zavel/ZavelBusinessRegistry.h"
+#include "pos/registry/PosBusinessRegistry.h"
 #include "support/TestCluster.h"
 #include "support/TestTemplate.h"
+#include "zavel/registry/ZavelBusinessRegistry.h"
 
 #include <QSqlError>
 #include <QSqlQuery>

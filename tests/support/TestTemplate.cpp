@@ -2,8 +2,8 @@
 
 #include "app/context/AppContext.h"
 #include "app/context/DatabaseManager.h"
-#include "install/zavel/ZavelInstaller.h"
 #include "support/TestCluster.h"
+#include "zavel/install/ZavelInstaller.h"
 
 QString installedTemplateName() { return "zavel_installed"; }
 

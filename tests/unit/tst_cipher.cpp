@@ -1,4 +1,4 @@
-#include "kor/settings/KorSimpleEncrypt.h"
+#include "kor/system/KorSimpleEncrypt.h"
 
 #include <QTest>
 

@@ -1,5 +1,5 @@
-#include "printing/printer/AppLinePrinter.h"
-#include "printing/printer/SlipSpooler.h"
+#include "pos/printing/printer/AppLinePrinter.h"
+#include "pos/printing/printer/SlipSpooler.h"
 #include "support/ModalDriver.h"
 
 #include <QDir>

@@ -1,5 +1,5 @@
-#include "app/text/TimeAgo.h"
 #include "app/widgets/AppEntityModel.h"
+#include "app/widgets/TimeAgo.h"
 
 #include <QTest>
 

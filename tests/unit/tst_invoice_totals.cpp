@@ -1,10 +1,10 @@
 #include "app/context/AppContext.h"
-#include "sales/invoice/EntityInvoiceDetail.h"
-#include "sales/invoice/Invoice.h"
-#include "sales/invoice/InvoiceStatus.h"
-#include "sales/invoice/InvoiceTotals.h"
-#include "sales/order/EntityOrder.h"
-#include "sales/service/OrderStatus.h"
+#include "pos/invoice/EntityInvoiceDetail.h"
+#include "pos/invoice/Invoice.h"
+#include "pos/invoice/InvoiceStatus.h"
+#include "pos/totals/InvoiceTotals.h"
+#include "zavel/order/EntityOrder.h"
+#include "zavel/order/OrderStatus.h"
 
 #include <QTest>
 

@@ -1,7 +1,7 @@
+#include "app/registry/AppBusinessRegistry.h"
 #include "kor/business/KorServiceDirectory.h"
-#include "registry/app/AppBusinessRegistry.h"
-#include "registry/pos/PosBusinessRegistry.h"
-#include "registry/zavel/ZavelBusinessRegistry.h"
+#include "pos/registry/PosBusinessRegistry.h"
+#include "zavel/registry/ZavelBusinessRegistry.h"
 
 #include <QMetaEnum>
 #include <QTest>

@@ -1,7 +1,7 @@
 #include "reports/page/TabReport.h"
 
-#include "app/access/EntityUser.h"
 #include "app/context/AppContext.h"
+#include "app/context/EntityUser.h"
 #include "kor/widgets/KorTabOrder.h"
 #include "reports/output/ReportCsv.h"
 #include "reports/output/ReportPaper.h"

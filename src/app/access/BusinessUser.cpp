@@ -2,8 +2,8 @@
 
 #include "app/access/BusinessUserAccess.h"
 #include "app/access/DataMapperUser.h"
-#include "app/access/EntityUser.h"
 #include "app/context/AppContext.h"
+#include "app/context/EntityUser.h"
 
 #include <QLocale>
 

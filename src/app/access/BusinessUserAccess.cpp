@@ -2,9 +2,9 @@
 
 #include "app/access/DataMapperAccess.h"
 #include "app/access/EntityAccess.h"
-#include "app/access/EntityUser.h"
 #include "app/context/AppContext.h"
 #include "app/context/EntityPool.h"
+#include "app/context/EntityUser.h"
 
 BusinessUserAccess::BusinessUserAccess(QObject* parent, DataMapperAccess* mapper)
     : KorBusinessLogic("User Access", mapper, parent), m_access(mapper)

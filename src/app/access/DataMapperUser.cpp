@@ -1,7 +1,7 @@
 #include "app/access/DataMapperUser.h"
 
 #include "app/access/DataMapperUserGroup.h"
-#include "app/access/EntityUser.h"
+#include "app/context/EntityUser.h"
 #include "kor/entity/KorMetaDataMap.h"
 #include "kor/persistence/KorPaging.h"
 

@@ -1,6 +1,6 @@
 #include "app/access/DataMapperUserGroup.h"
 
-#include "app/access/EntityUserGroup.h"
+#include "app/context/EntityUserGroup.h"
 #include "kor/entity/KorMetaDataMap.h"
 #include "kor/persistence/KorPaging.h"
 

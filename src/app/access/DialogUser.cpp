@@ -2,8 +2,8 @@
 
 #include "app/access/BusinessUser.h"
 #include "app/access/BusinessUserGroup.h"
-#include "app/access/EntityUser.h"
 #include "app/context/EntityPool.h"
+#include "app/context/EntityUser.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/persistence/KorDataMapper.h"
 

@@ -1,7 +1,7 @@
 #include "app/access/DialogUserGroup.h"
 
 #include "app/access/BusinessUserGroup.h"
-#include "app/access/EntityUserGroup.h"
+#include "app/context/EntityUserGroup.h"
 #include "kor/business/KorServiceDirectory.h"
 
 #include "ui_DialogUserGroup.h"

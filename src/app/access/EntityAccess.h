@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/access/EntityPermission.h"
-#include "app/access/EntityUserGroup.h"
+#include "app/context/EntityUserGroup.h"
 
 /** What a group may do with one permission. */
 class EntityAccess : public KorEntity

@@ -1,6 +1,6 @@
 #include "app/access/TabUser.h"
 
-#include "app/access/EntityUser.h"
+#include "app/context/EntityUser.h"
 
 #include <QPushButton>
 

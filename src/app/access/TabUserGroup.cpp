@@ -1,7 +1,7 @@
 #include "app/access/TabUserGroup.h"
 
 #include "app/access/BusinessUser.h"
-#include "app/access/EntityUserGroup.h"
+#include "app/context/EntityUserGroup.h"
 #include "kor/business/KorServiceDirectory.h"
 
 #include <QMessageBox>

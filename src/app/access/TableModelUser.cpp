@@ -1,6 +1,6 @@
 #include "app/access/TableModelUser.h"
 
-#include "app/access/EntityUser.h"
+#include "app/context/EntityUser.h"
 
 TableModelUser::TableModelUser(const QList<KorEntity*>& users, QObject* parent) : AppEntityModel(users, parent)
 {

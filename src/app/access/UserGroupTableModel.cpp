@@ -1,6 +1,6 @@
 #include "app/access/UserGroupTableModel.h"
 
-#include "app/access/EntityUserGroup.h"
+#include "app/context/EntityUserGroup.h"
 
 UserGroupTableModel::UserGroupTableModel(const QList<KorEntity*>& groups, QObject* parent)
     : AppEntityModel(groups, parent)

@@ -1,10 +1,10 @@
 #include "app/context/AppContext.h"
 
-#include "app/access/EntityUser.h"
 #include "app/context/DatabaseManager.h"
 #include "app/context/EntityPool.h"
-#include "kor/log/KorLogger.h"
+#include "app/context/EntityUser.h"
 #include "kor/persistence/KorDatabase.h"
+#include "kor/system/KorLogger.h"
 
 #include <QCoreApplication>
 

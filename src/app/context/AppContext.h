@@ -1,6 +1,6 @@
 #pragma once
 
-#include "kor/log/KorLogger.h"
+#include "kor/system/KorLogger.h"
 
 #include <QMultiMap>
 #include <QObject>

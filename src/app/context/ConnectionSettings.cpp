@@ -1,7 +1,7 @@
 #include "app/context/ConnectionSettings.h"
 
 #include "app/context/AppContext.h"
-#include "kor/settings/KorSimpleEncrypt.h"
+#include "kor/system/KorSimpleEncrypt.h"
 
 #include <QDir>
 #include <QFile>

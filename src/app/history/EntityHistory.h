@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/access/EntityUser.h"
+#include "app/context/EntityUser.h"
 
 /** One saved state of one record, as JSON text with its SHA-1; Version is the version that the record had. */
 class EntityHistory : public KorEntity

@@ -1,7 +1,7 @@
 #include "app/widgets/AppEntityModel.h"
 
 #include "app/context/AppContext.h"
-#include "app/text/TimeAgo.h"
+#include "app/widgets/TimeAgo.h"
 
 AppEntityModel::AppEntityModel(QObject* parent) : AppEntityModel(QList<KorEntity*>(), parent) {}
 

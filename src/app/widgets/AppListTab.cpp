@@ -1,6 +1,6 @@
 #include "app/widgets/AppListTab.h"
 
-#include "app/access/AccessCheck.h"
+#include "app/context/AccessCheck.h"
 #include "kor/business/KorBusinessLogic.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/entity/KorEntity.h"

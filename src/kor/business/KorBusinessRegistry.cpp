@@ -2,7 +2,7 @@
 
 #include "kor/business/KorBusinessLogic.h"
 #include "kor/business/KorServiceDirectory.h"
-#include "kor/log/KorLogger.h"
+#include "kor/system/KorLogger.h"
 
 KorBusinessRegistry::~KorBusinessRegistry()
 {

@@ -1,11 +1,11 @@
 #include "kor/install/KorInstaller.h"
 
 #include "kor/business/KorBusinessLogic.h"
-#include "kor/log/KorLogger.h"
 #include "kor/persistence/KorDataMapper.h"
 #include "kor/persistence/KorDatabase.h"
 #include "kor/persistence/KorMigration.h"
 #include "kor/persistence/KorQuery.h"
+#include "kor/system/KorLogger.h"
 
 #include <QSqlError>
 

@@ -1,4 +1,4 @@
-#include "kor/plugin/KorPluginTabInterface.h"
+#include "kor/widgets/KorPluginTabInterface.h"
 #include "kor/widgets/KorTab.h"
 
 #include <QMap>

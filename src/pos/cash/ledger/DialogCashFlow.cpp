@@ -1,0 +1,68 @@
+#include "pos/cash/ledger/DialogCashFlow.h"
+
+#include "app/context/AppContext.h"
+#include "app/context/EntityUser.h"
+#include "pos/cash/entry/AmountRule.h"
+#include "pos/cash/ledger/CashFlowFilter.h"
+#include "pos/cash/ledger/EntityCashFlow.h"
+#include "pos/masterdata/account/AccountField.h"
+
+#include "ui_DialogCashFlow.h"
+
+DialogCashFlow::DialogCashFlow(QWidget* parent) : KorDialog(parent), m_ui(std::make_unique<Ui::DialogCashFlow>())
+{
+    m_ui->setupUi(this);
+    const AppContext* context = AppContext::instance();
+    m_ui->txtOperator->setText(context->currentUser() ? context->currentUser()->getUserName() : QString());
+    m_ui->datePayment->setDisplayFormat(context->dateFormat());
+    m_ui->datePayment->setDate(QDate::currentDate());
+    m_ui->ddlType->addItem(tr("DEBET"), CashFlowFilter::DebitRows);
+    m_ui->ddlType->addItem(tr("CREDIT"), CashFlowFilter::CreditRows);
+    m_account = new AccountField(m_ui->txtAccount, m_ui->lblAccountName, this);
+    connect(m_account->box(), &BankTextBox::onItemSelected, this, &DialogCashFlow::onBankSelected);
+    focusLater(m_ui->txtAccount);
+}
+
+DialogCashFlow::~DialogCashFlow() = default;
+
+void DialogCashFlow::onBankSelected() { m_ui->txtPaid->setFocus(); }
+
+bool DialogCashFlow::validate()
+{
+    const QString unknown = tr("There is no account with the code: %1").arg(m_ui->txtAccount->text());
+    m_account->check(tr("Select account code"), unknown);
+    requireAmount(*this, m_ui->txtPaid, tr("Enter the amount paid"));
+    if (!m_ui->datePayment->date().isValid())
+        addError(m_ui->datePayment, tr("Enter valid date"));
+    return !hasError();
+}
+
+KorEntity* DialogCashFlow::getEntity()
+{
+    auto* entry = heldOrNew<EntityCashFlow>();
+    if (const EntityBank* account = m_account->account())
+        entry->setAccountCode(account->getKode());
+    entry->setDate(m_ui->datePayment->date());
+    entry->setNotes(m_ui->txtNotes->toPlainText());
+    const bool isDebit = m_ui->ddlType->currentData().toInt() == CashFlowFilter::DebitRows;
+    entry->setTransType(isDebit ? tr("DEBET") : tr("CREDIT"));
+    Money* amount = m_ui->txtPaid->money();
+    const Money nothing(nullptr, 0, amount->getCurrency());
+    entry->setDebet(isDebit ? amount->copy(entry) : nothing.copy(entry));
+    entry->setCredit(isDebit ? nothing.copy(entry) : amount->copy(entry));
+    return entry;
+}
+
+void DialogCashFlow::setEntity(KorEntity* entity)
+{
+    hold(entity);
+    const auto* entry = held<EntityCashFlow>();
+    const bool isDebit = entry->getDebet() && entry->getDebet()->rawAmount() != 0;
+    m_ui->txtNoTrans->setText(entry->getTransNo());
+    m_ui->datePayment->setDate(entry->getDate());
+    m_ui->ddlType->setCurrentIndex(
+        m_ui->ddlType->findData(isDebit ? CashFlowFilter::DebitRows : CashFlowFilter::CreditRows));
+    m_ui->txtPaid->setMoney(isDebit ? entry->getDebet() : entry->getCredit());
+    m_ui->txtNotes->setPlainText(entry->getNotes());
+    m_account->showCode(entry->getAccountCode());
+}

@@ -1,0 +1,209 @@
+#include "pos/cash/settlement/SettlementDialog.h"
+
+#include "app/context/AppContext.h"
+#include "app/money/Money.h"
+#include "app/widgets/AppLinesTab.h"
+#include "app/widgets/MoneyEdit.h"
+#include "kor/business/KorServiceDirectory.h"
+#include "pos/cash/settlement/SettlementTab.h"
+#include "pos/masterdata/account/AccountField.h"
+#include "pos/masterdata/contact/EntityContact.h"
+
+#include <QDateEdit>
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QShortcut>
+#include <QTabWidget>
+
+#include <algorithm>
+#include <limits>
+
+void SettlementDialog::setUpSettlement(const Boxes& boxes, const Words& words, SettlementTab* page,
+                                       KorBusinessLogic* people, KorBusinessLogic* documents)
+{
+    m_boxes = boxes;
+    m_words = words;
+    m_page = page;
+    m_people = people;
+    m_documents = documents;
+    m_account = new AccountField(boxes.account, boxes.accountName, this);
+    m_boxes.date->setDisplayFormat(AppContext::instance()->dateFormat());
+    m_boxes.date->setDate(QDate::currentDate());
+    makeTouchable(m_boxes.buttons);
+    connect(m_boxes.person, &QLineEdit::editingFinished, this, &SettlementDialog::personTyped);
+    connect(m_page, &SettlementTab::Paid, this, &SettlementDialog::showTotal);
+    connect(new QShortcut(Qt::Key_F3, this), &QShortcut::activated, this, &SettlementDialog::onTabInvoicesSelected);
+    m_page->setLines({});
+}
+
+void SettlementDialog::addLinesPage(AppLinesTab* page, Qt::Key key)
+{
+    connect(page, &AppLinesTab::ItemAdded, this, &SettlementDialog::showTotal);
+    connect(new QShortcut(key, this), &QShortcut::activated, this, [this, page] {
+        m_boxes.pages->setCurrentWidget(page);
+        page->focusLines();
+    });
+}
+
+void SettlementDialog::onTabInvoicesSelected()
+{
+    m_boxes.pages->setCurrentWidget(m_page);
+    m_page->focusGrid();
+}
+
+void SettlementDialog::tell(const QString& failure)
+{
+    if (!failure.isEmpty())
+        showError(failure);
+}
+
+// --- the person ----------------------------------------------------------------------------------------------------
+
+void SettlementDialog::readAgain() { tell(readLines()); }
+
+void SettlementDialog::takePerson(EntityContact* person)
+{
+    // A choice from the list arrives twice: when the focus leaves the box, and as the choice itself.
+    if (!person || person != m_person)
+        tell(changePerson(person));
+}
+
+void SettlementDialog::personTyped()
+{
+    if (m_boxes.person->text() != m_handledCode)
+        tell(choosePerson());
+}
+
+QString SettlementDialog::choosePerson()
+{
+    const QString code = m_boxes.person->text();
+    m_handledCode = code;
+    if (m_person && m_person->getKode().compare(code, Qt::CaseInsensitive) == 0)
+        return m_linesKnown ? QString() : readLines();
+    EntityContact* found = nullptr;
+    if (!code.isEmpty()) {
+        const EntityPoolScope scope(m_found);
+        m_people->clearErrors();
+        found = findPerson(code);
+        if (m_people->hasError())
+            return m_people->takeErrors();
+    }
+    return changePerson(found);
+}
+
+QString SettlementDialog::changePerson(EntityContact* person)
+{
+    showChosen(person);
+    return readLines();
+}
+
+void SettlementDialog::showChosen(EntityContact* person)
+{
+    m_person = person;
+    if (person) {
+        m_handledCode = person->getKode();
+        m_boxes.person->setText(m_handledCode);
+    }
+    showPerson(person);
+}
+
+QString SettlementDialog::readLines()
+{
+    EntityPool read;
+    QList<KorEntity*> lines;
+    m_documents->clearErrors();
+    if (m_person) {
+        const EntityPoolScope scope(read);
+        lines = readOpenLines(*m_person);
+    }
+    m_linesKnown = !m_documents->hasError();
+    if (m_person && m_person->getId() == m_storedPersonId) {
+        // What is stored stands in the place of what is open of the same document, and shows even if nothing is.
+        for (KorEntity* stored : qAsConst(m_stored)) {
+            // A document may stand in two stored lines: neither takes the other's place.
+            const auto same = std::find_if(lines.begin(), lines.end(), [this, stored](KorEntity* line) {
+                return !m_stored.contains(line) && documentIdOf(*line) == documentIdOf(*stored);
+            });
+            if (same == lines.end())
+                lines.append(stored);
+            else
+                *same = stored;
+        }
+    }
+    m_page->setLines(lines);
+    m_open.swap(read);
+    return m_linesKnown ? QString() : m_documents->takeErrors();
+}
+
+void SettlementDialog::showStored(EntityContact* person, EntityBank* account, const QList<KorEntity*>& lines,
+                                  bool offerOthers)
+{
+    m_stored = lines;
+    m_storedPersonId = person->getId();
+    m_account->show(account);
+    if (offerOthers) {
+        takePerson(person);
+        return;
+    }
+    showChosen(person);
+    m_linesKnown = true;
+    m_page->setLines(lines);
+}
+
+EntityBank* SettlementDialog::account() const { return m_account->account(); }
+
+QList<KorEntity*> SettlementDialog::removedLines(const QList<KorEntity*>& taken) const
+{
+    QList<KorEntity*> removed;
+    for (KorEntity* line : m_stored) {
+        if (!taken.contains(line))
+            removed.append(line);
+    }
+    return removed;
+}
+
+// --- the money -----------------------------------------------------------------------------------------------------
+
+qint64 SettlementDialog::sum() const
+{
+    qint64 total = furtherAmount();
+    for (const KorEntity* line : m_page->lines())
+        total += amountOf(*line)->rawAmount();
+    return total;
+}
+
+void SettlementDialog::showTotal()
+{
+    const QList<KorEntity*>& lines = m_page->lines();
+    Money total(nullptr, 0, lines.isEmpty() ? m_boxes.total->currency() : amountOf(*lines.first())->getCurrency());
+    total.setRawAmount(static_cast<double>(sum()));
+    m_boxes.total->setMoney(&total);
+    totalChanged();
+}
+
+void SettlementDialog::checkLines()
+{
+    if (m_page->lines().isEmpty())
+        addError(m_boxes.pages, m_words.noDocument);
+    else if (const KorEntity* line = lineWithoutAmount())
+        addError(m_boxes.pages, m_words.unpaidDocument.arg(documentNoOf(*line)));
+}
+
+bool SettlementDialog::validate()
+{
+    // A code typed by hand counts like one that was picked from the list.
+    const QString failure = choosePerson();
+    if (!failure.isEmpty()) {
+        // A database that does not answer is told once, not once a box.
+        addError(m_boxes.person, failure.trimmed());
+        return false;
+    }
+    if (!m_person)
+        addError(m_boxes.person, m_words.noPerson);
+    checkLines();
+    if (sum() > std::numeric_limits<int>::max())
+        addError(m_boxes.pages, tr("The total is larger than a payment can hold. Please check the figures."));
+    checkAmounts();
+    m_account->check(m_words.noAccount, m_words.unknownAccount);
+    return !hasError();
+}

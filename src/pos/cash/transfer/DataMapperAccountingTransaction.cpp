@@ -1,0 +1,46 @@
+#include "pos/cash/transfer/DataMapperAccountingTransaction.h"
+
+#include "app/access/DataMapperUser.h"
+#include "app/access/DataMapperUserGroup.h"
+#include "kor/entity/KorMetaDataMap.h"
+#include "kor/persistence/KorPaging.h"
+#include "pos/cash/transfer/AccountingTransactionFilter.h"
+#include "pos/masterdata/account/DataMapperBank.h"
+
+DataMapperAccountingTransaction::DataMapperAccountingTransaction(QObject* parent, DataMapperKey* keys,
+                                                                 DataMapperBank* accounts, DataMapperUser* users,
+                                                                 DataMapperUserGroup* groups)
+    : NumberedEntryMapper(parent, keys)
+{
+    setName("Accounting Transaction");
+    metaData()->setTableName("accounting_trans");
+    column("trans_no", "varchar(50) not null", "TransNo");
+    column("trans_date", "date not null", "Date");
+    column("notes", "text NULL", "Notes");
+    column("from_account_id", "integer null", "FromAccount.Id");
+    column("to_account_id", "integer null", "ToAccount.Id");
+    moneyColumns("amount", "Amount");
+    addJoin("FromAccount", accounts, "inner", "from_account_id", "id", "from_account");
+    addJoin("ToAccount", accounts, "inner", "to_account_id", "id", "to_account");
+    // Left, so that a row that no user entered is still listed. The creator's column is not the table's own: no key.
+    addJoin("User", users, "left", "createdby", "id");
+    addJoin("Group", groups, "left", "users.user_group_id", "id");
+}
+
+KorEntity* DataMapperAccountingTransaction::createEntity() { return new EntityAccountingTransaction(entityParent()); }
+
+QStringList DataMapperAccountingTransaction::indexStatements() const
+{
+    return {index("trans_date", "(trans_date)"), index("from_account_id", "(from_account_id)"),
+            index("to_account_id", "(to_account_id)")};
+}
+
+QList<EntityAccountingTransaction*> DataMapperAccountingTransaction::search(const AccountingTransactionFilter& filter)
+{
+    KorPaging paging;
+    paging.addFilter("trans_date >= ", dateToSql(filter.fromDate));
+    paging.addFilter(" and trans_date <= ", dateToSql(filter.toDate));
+    paging.addSort("trans_date", "desc");
+    paging.addSort(", accounting_trans.id", "desc");
+    return castAll<EntityAccountingTransaction>(find(&paging));
+}

@@ -1,0 +1,68 @@
+#include "pos/cash/transfer/DialogTransaction.h"
+
+#include "app/context/AppContext.h"
+#include "pos/cash/entry/AmountRule.h"
+#include "pos/cash/transfer/EntityAccountingTransaction.h"
+#include "pos/masterdata/account/AccountField.h"
+
+#include "ui_DialogTransaction.h"
+
+DialogTransaction::DialogTransaction(QWidget* parent)
+    : KorDialog(parent), m_ui(std::make_unique<Ui::DialogTransaction>())
+{
+    m_ui->setupUi(this);
+    const AppContext* context = AppContext::instance();
+    m_ui->txtOperator->setText(context->currentUser() ? context->currentUser()->getUserName() : QString());
+    m_ui->dateTrans->setDisplayFormat(context->dateFormat());
+    m_ui->dateTrans->setDate(QDate::currentDate());
+    m_from = new AccountField(m_ui->txtFromAccount, m_ui->lblFromAccountName, this);
+    m_to = new AccountField(m_ui->txtToAccount, m_ui->lblToAccountName, this);
+    connect(m_from->box(), &BankTextBox::onItemSelected, this, &DialogTransaction::onFromAccountSelected);
+    connect(m_to->box(), &BankTextBox::onItemSelected, this, &DialogTransaction::onToAccountSelected);
+    focusLater(m_ui->txtFromAccount);
+}
+
+DialogTransaction::~DialogTransaction() = default;
+
+void DialogTransaction::onFromAccountSelected() { m_ui->txtToAccount->setFocus(); }
+
+void DialogTransaction::onToAccountSelected() { m_ui->txtAmount->setFocus(); }
+
+bool DialogTransaction::validate()
+{
+    const QString unknown = tr("There is no account with the code: %1");
+    const bool fromStands =
+        m_from->check(tr("Enter the source account code"), unknown.arg(m_ui->txtFromAccount->text()));
+    const bool toStands =
+        m_to->check(tr("Enter the destination account code"), unknown.arg(m_ui->txtToAccount->text()));
+    if (fromStands && toStands && m_from->account()->getId() == m_to->account()->getId())
+        addError(m_ui->txtToAccount,
+                 tr("The source account code should not be the same as the destination account code"));
+    requireAmount(*this, m_ui->txtAmount, tr("Enter amount paid"));
+    if (!m_ui->dateTrans->date().isValid())
+        addError(m_ui->dateTrans, tr("Enter date"));
+    return !hasError();
+}
+
+KorEntity* DialogTransaction::getEntity()
+{
+    auto* transfer = heldOrNew<EntityAccountingTransaction>();
+    transfer->setFromAccount(m_from->account());
+    transfer->setToAccount(m_to->account());
+    transfer->setAmount(m_ui->txtAmount->money());
+    transfer->setDate(m_ui->dateTrans->date());
+    transfer->setNotes(m_ui->txtNotes->toPlainText());
+    return transfer;
+}
+
+void DialogTransaction::setEntity(KorEntity* entity)
+{
+    hold(entity);
+    const auto* transfer = held<EntityAccountingTransaction>();
+    m_ui->txtNoTrans->setText(transfer->getTransNo());
+    m_ui->dateTrans->setDate(transfer->getDate());
+    m_ui->txtAmount->setMoney(transfer->getAmount());
+    m_ui->txtNotes->setPlainText(transfer->getNotes());
+    m_from->show(transfer->getFromAccount());
+    m_to->show(transfer->getToAccount());
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "pos/cash/entry/CutTextModel.h"
+
+/** Transfers between accounts as their page shows them. */
+class TableModelAccountingTransaction final : public CutTextModel
+{
+    Q_OBJECT
+
+public:
+    enum Column { Date, TransNo, FromCode, FromName, ToCode, ToName, Amount, Description, Operator };
+
+    TableModelAccountingTransaction(const QList<KorEntity*>& transfers, QObject* parent);
+};

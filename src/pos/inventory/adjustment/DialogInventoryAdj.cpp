@@ -1,0 +1,116 @@
+#include "pos/inventory/adjustment/DialogInventoryAdj.h"
+
+#include "app/context/AppContext.h"
+#include "kor/business/KorServiceDirectory.h"
+#include "pos/inventory/stock/BusinessInventory.h"
+#include "pos/inventory/stock/EntityStockTake.h"
+#include "pos/inventory/stock/QuantityEntry.h"
+#include "pos/masterdata/account/AccountField.h"
+#include "pos/masterdata/item/ItemField.h"
+
+#include "ui_DialogInventoryAdj.h"
+
+#include <QPushButton>
+
+DialogInventoryAdj::DialogInventoryAdj(QWidget* parent)
+    : KorDialog(parent), m_ui(std::make_unique<Ui::DialogInventoryAdj>())
+{
+    m_ui->setupUi(this);
+    m_item = new ItemField(m_ui->txtKode, m_ui->txtNama, m_read, this);
+    m_item->lookUpWhenLeft();
+    connect(m_item, &ItemField::chosen, this, &DialogInventoryAdj::onItemSelected);
+    // Another code was typed: what stood beside the former one is no longer true. After the field, which forgets first.
+    connect(m_ui->txtKode, &QLineEdit::textEdited, this, &DialogInventoryAdj::readQuantityBefore);
+    m_source = new AccountField(m_ui->txtSourceAccount, m_ui->lblSource, this);
+    m_source->box()->setNextWidget(m_ui->buttonBox->button(QDialogButtonBox::Ok));
+    m_ui->ddlReason->addItem(tr("Broken"), Broken);
+    m_ui->ddlReason->addItem(tr("Loss"), Loss);
+    m_ui->ddlReason->addItem(tr("Other"), Other);
+    m_ui->dateQtyOnHand->setDisplayFormat(AppContext::instance()->dateFormat());
+    m_ui->dateQtyOnHand->setDate(QDate::currentDate());
+    focusLater(m_ui->txtKode);
+}
+
+DialogInventoryAdj::~DialogInventoryAdj() = default;
+
+bool DialogInventoryAdj::validate()
+{
+    const bool isItem = m_item->check(tr("Enter the item code"), tr("Enter the item code"));
+    if (isItem && m_ui->txtQtyOnHand->text().isEmpty())
+        readQuantityBefore();
+    if (isItem && m_ui->txtQtyOnHand->text().isEmpty())
+        addError(m_ui->txtKode, tr("The quantity on hand is not known, please choose the item again"));
+    const int adjustment = QuantityEntry::read(*m_ui->txtStok).value_or(0);
+    if (adjustment == 0)
+        addError(m_ui->txtStok, tr("Enter the qty adjustment of the item"));
+    else if (std::abs(qint64(m_before) + adjustment) > QuantityEntry::largest)
+        addError(m_ui->txtStok, tr("The new qty is more than can be counted"));
+    m_source->check(tr("Select GL Source Account"), tr("Select a valid GL Source Account"));
+    return !hasError();
+}
+
+KorEntity* DialogInventoryAdj::getEntity()
+{
+    auto* take = heldOrNew<EntityStockTake>();
+    const int adjustment = QuantityEntry::read(*m_ui->txtStok).value_or(0);
+    take->setItem(m_item->item());
+    take->setStockTakeDate(m_ui->dateQtyOnHand->date());
+    take->setQtyBefore(m_before);
+    take->setQtyAdj(adjustment);
+    take->setQty(m_before + adjustment);
+    take->setReason(reason());
+    if (const EntityBank* source = m_source->account())
+        take->setSourceAcctCode(source->getKode());
+    return take;
+}
+
+void DialogInventoryAdj::setEntity(KorEntity* entity) { hold(entity); }
+
+// --- the item and its quantities -----------------------------------------------------------------------------------
+
+void DialogInventoryAdj::onItemSelected()
+{
+    readQuantityBefore();
+    if (!m_item->item())
+        return;
+    m_source->showCode(m_item->item()->getCostOfSalesAcctCode());
+    if (m_ui->txtKode->hasFocus())
+        m_ui->txtStok->setFocus(Qt::TabFocusReason);
+}
+
+void DialogInventoryAdj::readQuantityBefore()
+{
+    const EntityItem* item = m_item->item();
+    m_before = 0;
+    m_ui->txtQtyOnHand->clear();
+    if (item) {
+        auto* inventory = service<BusinessInventory>("Inventory");
+        m_before = inventory->getQuantityOnHand(item, m_ui->dateQtyOnHand->date());
+        if (inventory->hasError())
+            showError(inventory->takeErrors());
+        else
+            m_ui->txtQtyOnHand->setText(m_ui->txtStok->locale().toString(m_before));
+    }
+    showNewQuantity();
+}
+
+void DialogInventoryAdj::showNewQuantity()
+{
+    const auto adjustment = QuantityEntry::read(*m_ui->txtStok);
+    const bool isKnown = adjustment && !m_ui->txtQtyOnHand->text().isEmpty();
+    m_ui->txtNewQty->setText(isKnown ? m_ui->txtStok->locale().toString(qint64(m_before) + *adjustment) : QString());
+}
+
+// --- reason ---------------------------------------------------------------------------------------------------------
+
+void DialogInventoryAdj::on_ddlReason_currentIndexChanged(int)
+{
+    const bool isOther = m_ui->ddlReason->currentData().toInt() == Other;
+    m_ui->txtOtherReason->setEnabled(isOther);
+}
+
+QString DialogInventoryAdj::reason() const
+{
+    return m_ui->ddlReason->currentData().toInt() == Other ? m_ui->txtOtherReason->text()
+                                                           : m_ui->ddlReason->currentText();
+}

@@ -1,0 +1,186 @@
+#include "pos/invoice/DataMapperInvoiceLink.h"
+
+#include "app/numbers/DocumentNumber.h"
+#include "app/persistence/IdKeeper.h"
+#include "kor/persistence/KorDatabase.h"
+#include "pos/invoice/EntityInvoiceDetail.h"
+#include "pos/invoice/IInvoice.h"
+#include "pos/invoice/Invoice.h"
+
+DataMapperInvoiceLink::DataMapperInvoiceLink(QObject* parent, DataMapperInvoice* invoices)
+    : DataMapperInvoice(parent, invoices), m_invoices(invoices)
+{}
+
+IInvoice* DataMapperInvoiceLink::saleOf(KorEntity* link) { return dynamic_cast<IInvoice*>(link); }
+
+bool DataMapperInvoiceLink::createTable(int mode)
+{
+    // The invoice's table and its lines are the invoice mapper's own business.
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call)
+    return KorDataMapper::createTable(mode);
+}
+
+QString DataMapperInvoiceLink::nextNo()
+{
+    QString error;
+    QString number = drawNumber(partners().keys, keyName(), &error);
+    if (number.isNull())
+        setError(error);
+    return number;
+}
+
+void DataMapperInvoiceLink::prepareInvoice(KorEntity*, Invoice*) {}
+
+bool DataMapperInvoiceLink::loadOrders(const QList<KorEntity*>&) { return true; }
+
+bool DataMapperInvoiceLink::fail(const QString& message, const QString& reasons)
+{
+    setError(message + reasons);
+    return false;
+}
+
+// --- writing -------------------------------------------------------------------------------------------------------
+
+bool DataMapperInvoiceLink::insertLines(IInvoice* sale, QString* reason)
+{
+    const QList<EntityInvoiceDetail*> lines = sale->getDetails();
+    for (EntityInvoiceDetail* line : lines) {
+        line->setInvoiceId(sale->getInvoice()->getId());
+        const Money nothing(nullptr, 0, line->getTotal() ? line->getTotal()->getCurrency() : QString());
+        line->setDiscount(nothing.copy(line));
+        if (detailMapper()->insert(line))
+            continue;
+        // The transaction is lost with this line; what the database says of the others would only hide why.
+        *reason = " \r\n " + detailMapper()->takeError();
+        return false;
+    }
+    return true;
+}
+
+bool DataMapperInvoiceLink::insert(KorEntity* link)
+{
+    IInvoice* sale = saleOf(link);
+    Invoice* invoice = sale->getInvoice();
+    QList<KorEntity*> written{link, invoice};
+    for (EntityInvoiceDetail* line : sale->getDetails())
+        written.append(line);
+    const IdKeeper ids(written);
+
+    KorTransaction transaction;
+    if (!transaction.isOpen())
+        setError(tr("error: transaction failed"));
+    const QString number = nextNo();
+    QString reason = number.isNull() ? " \r\n " + takeError() : QString();
+    if (reason.isEmpty()) {
+        invoice->setInvoiceNo(number);
+        invoice->setInvoiceType(keyName());
+        prepareInvoice(link, invoice);
+        if (!m_invoices->insert(invoice))
+            reason = " \r\n " + m_invoices->takeError();
+        else if (!AppDataMapper::insert(link))
+            reason = " \r\n " + takeError();
+    }
+    QString message = messages().insertHeader;
+    if (reason.isEmpty()) {
+        message = messages().insertLines;
+        if (insertLines(sale, &reason)) {
+            if (transaction.commit())
+                return true;
+            reason = transaction.failure();
+        }
+    }
+    transaction.rollback();
+    ids.restore();
+    invoice->setInvoiceNo("");
+    return fail(message, reason);
+}
+
+bool DataMapperInvoiceLink::update(KorEntity* link)
+{
+    IInvoice* sale = saleOf(link);
+    Invoice* invoice = sale->getInvoice();
+    QList<KorEntity*> lines;
+    for (EntityInvoiceDetail* line : sale->getDetails())
+        lines.append(line);
+    const IdKeeper ids(lines);
+
+    KorTransaction transaction;
+    if (!transaction.isOpen())
+        setError(tr("error: transaction failed"));
+    prepareInvoice(link, invoice);
+    QString reason;
+    if (!m_invoices->update(invoice))
+        reason = " \r\n " + m_invoices->takeError();
+    else if (!AppDataMapper::update(link))
+        reason = " \r\n " + takeError();
+    QString message = messages().updateHeader;
+    if (reason.isEmpty()) {
+        // Lines are replaced, not matched: the stored ones go, whatever the form shows now comes.
+        message = messages().updateLines;
+        if (!detailMapper()->removeByInvoiceId(invoice->getId()))
+            reason = " \r\n " + detailMapper()->takeError();
+        else if (insertLines(sale, &reason)) {
+            if (transaction.commit()) {
+                // A form that cannot read the sale again saves it again from memory.
+                invoice->setVersion(invoice->getVersion() + 1);
+                link->setVersion(link->getVersion() + 1);
+                return true;
+            }
+            reason = transaction.failure();
+        }
+    }
+    transaction.rollback();
+    ids.restore();
+    return fail(message, reason);
+}
+
+// --- reading -------------------------------------------------------------------------------------------------------
+
+KorEntity* DataMapperInvoiceLink::findById(int id)
+{
+    return findLinks(" where " + tableName() + ".id = :id", {{":id", id}}).value(0);
+}
+
+KorEntity* DataMapperInvoiceLink::findByInvoiceId(int invoiceId)
+{
+    return findLinks(" where invoice_id = :id", {{":id", invoiceId}}).value(0);
+}
+
+QList<KorEntity*> DataMapperInvoiceLink::findLinks(const QString& tail, Bindings values)
+{
+    return loaded(findMany(tail, values));
+}
+
+QList<KorEntity*> DataMapperInvoiceLink::findLinks(KorPaging* paging) { return loaded(find(paging)); }
+
+QList<KorEntity*> DataMapperInvoiceLink::loaded(const QList<KorEntity*>& links)
+{
+    return links.isEmpty() || load(links) ? links : QList<KorEntity*>();
+}
+
+bool DataMapperInvoiceLink::load(const QList<KorEntity*>& links)
+{
+    QList<int> invoiceIds;
+    for (KorEntity* link : links)
+        invoiceIds.append(saleOf(link)->getInvoice()->getId());
+    const QList<Invoice*> invoices = m_invoices->findByIds(invoiceIds);
+    const QList<EntityInvoiceDetail*> lines = detailMapper()->findByInvoices(invoiceIds);
+    if (m_invoices->hasError() || detailMapper()->hasError()) {
+        setError(m_invoices->takeError() + detailMapper()->takeError());
+        return false;
+    }
+    QHash<int, Invoice*> byId;
+    for (Invoice* invoice : invoices)
+        byId.insert(invoice->getId(), invoice);
+    QHash<int, QList<EntityInvoiceDetail*>> linesOf;
+    for (EntityInvoiceDetail* line : lines)
+        linesOf[line->getInvoiceId()].append(line);
+    for (KorEntity* link : links) {
+        IInvoice* sale = saleOf(link);
+        const int id = sale->getInvoice()->getId();
+        if (Invoice* invoice = byId.value(id))
+            sale->setInvoice(invoice);
+        sale->setDetails(linesOf.value(id));
+    }
+    return loadOrders(links);
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "app/widgets/AppEntityTextBox.h"
+#include "pos/masterdata/agent/BusinessAgent.h"
+
+/** Makes a line edit find agents. */
+class AgentTextBox final : public AppMasterTextBox<EntityAgent, BusinessAgent>
+{
+    Q_OBJECT
+
+public:
+    AgentTextBox(QLineEdit* editor, BusinessAgent* agents) : AppMasterTextBox(editor, agents, {tr("Code"), tr("Name")})
+    {}
+};

@@ -1,0 +1,44 @@
+#include "pos/masterdata/agent/DialogAgent.h"
+
+#include "pos/masterdata/agent/BusinessAgent.h"
+
+#include "ui_DialogAgent.h"
+
+DialogAgent::DialogAgent(QWidget* parent) : PayeeDialog(parent), m_ui(std::make_unique<Ui::DialogAgent>())
+{
+    m_ui->setupUi(this);
+    usePayeeFields(*m_ui, m_ui->lblAgentID);
+    m_ui->txtPerc->setValue(0.0);
+}
+
+DialogAgent::~DialogAgent() = default;
+
+bool DialogAgent::validate()
+{
+    validateContact<BusinessAgent>("Agent", {tr("Enter the agent code"),
+                                             tr("This agent code already used, please choose another code"),
+                                             tr("Enter the agent name"), tr("Enter the address"),
+                                             tr("Enter the telp no"), tr("Enter the correct email address")});
+    // What is no number would leave the former share standing behind the user's back; an empty field may.
+    const bool readable = m_ui->txtPerc->text().isEmpty() || m_ui->txtPerc->isValid();
+    const double commission = m_ui->txtPerc->value();
+    if (!readable || commission < 0 || commission > 100)
+        addError(m_ui->txtPerc, tr("Enter the number between 0-100"));
+    return !hasError();
+}
+
+KorEntity* DialogAgent::getEntity()
+{
+    auto* agent = heldOrNew<EntityAgent>();
+    readPayee(*agent);
+    agent->setCommisionPerc(m_ui->txtPerc->value());
+    return agent;
+}
+
+void DialogAgent::setEntity(KorEntity* entity)
+{
+    hold(entity);
+    const auto* agent = held<EntityAgent>();
+    showPayee(*agent);
+    m_ui->txtPerc->setValue(agent->getCommisionPerc());
+}

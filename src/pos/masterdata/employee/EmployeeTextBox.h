@@ -1,0 +1,15 @@
+#pragma once
+
+#include "app/widgets/AppEntityTextBox.h"
+#include "pos/masterdata/employee/BusinessEmployee.h"
+
+/** Makes a line edit find the people who work here. */
+class EmployeeTextBox final : public AppMasterTextBox<EntityEmployee, BusinessEmployee>
+{
+    Q_OBJECT
+
+public:
+    EmployeeTextBox(QLineEdit* editor, BusinessEmployee* employees)
+        : AppMasterTextBox(editor, employees, {tr("Code"), tr("Name")})
+    {}
+};

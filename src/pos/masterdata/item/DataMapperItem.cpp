@@ -1,0 +1,91 @@
+#include "pos/masterdata/item/DataMapperItem.h"
+
+#include "kor/entity/KorMetaDataMap.h"
+#include "kor/persistence/KorPaging.h"
+#include "pos/masterdata/account/DataMapperBank.h"
+#include "pos/masterdata/item/EntityItem.h"
+#include "pos/masterdata/itemtype/DataMapperJenisItem.h"
+#include "pos/masterdata/unit/DataMapperSatuan.h"
+
+#include <QDebug>
+
+namespace
+{
+QString contains(const QString& text) { return '%' + text.toLower() + '%'; }
+
+constexpr char order[] = " order by item.id";
+} // namespace
+
+DataMapperItem::DataMapperItem(QObject* parent, DataMapperJenisItem* types, DataMapperSatuan* units,
+                               DataMapperBank* accounts)
+    : AppMasterMapper(parent)
+{
+    setName("item");
+    metaData()->setTableName("item");
+    column("kode", "varchar(100) not null UNIQUE", "Kode");
+    column("item_type", "integer not null", "ItemType");
+    column("is_group", "boolean not null", "IsGroup");
+    column("nama", "varchar(200) not null", "Nama");
+    reference("jenis", "integer not null", "Jenis", types, "inner");
+    reference("satuan", "integer not null", "Satuan", units, "inner");
+    moneyColumns("harga_beli", "HargaBeli");
+    moneyColumns("harga_jual_lokal", "HargaJualLokal");
+    moneyColumns("harga_jual_luar", "HargaJualLuar", "null");
+    column("notes", "text null", "Notes");
+    column("sales_acct_code", "varchar(20) not null", "SalesAcctCode");
+    column("inventory_acct_code", "varchar(20) not null", "InventoryAcctCode");
+    column("cost_of_sales_acct_code", "varchar(20) not null", "CostOfSalesAcctCode");
+
+    // Qualified on purpose: createTable() adds these foreign keys under names of their own.
+    addJoin("SalesAccount", accounts, "inner", "item.sales_acct_code", "kode", "sales_acc");
+    addJoin("InventoryAccount", accounts, "inner", "item.inventory_acct_code", "kode", "inv_acc");
+    addJoin("CostOfSalesAccount", accounts, "inner", "item.cost_of_sales_acct_code", "kode", "cost_sales_acc");
+}
+
+KorEntity* DataMapperItem::createEntity() { return new EntityItem(entityParent()); }
+
+bool DataMapperItem::createTable(int mode)
+{
+    return AppMasterMapper::createTable(mode) && ensureForeignKey("sales_acc", "sales_acct_code", "bank", "kode") &&
+           ensureForeignKey("inv_acc", "inventory_acct_code", "bank", "kode") &&
+           ensureForeignKey("cost_sales_acc", "cost_of_sales_acct_code", "bank", "kode");
+}
+
+QStringList DataMapperItem::indexStatements() const
+{
+    return {index("jenis", "(jenis)"), index("satuan", "(satuan)"), index("sales_acct_code", "(sales_acct_code)"),
+            index("inventory_acct_code", "(inventory_acct_code)"),
+            index("cost_of_sales_acct_code", "(cost_of_sales_acct_code)")};
+}
+
+QList<KorEntity*> DataMapperItem::search(const KorPaging& criteria)
+{
+    const QString type = criteria.filterValue("jenis");
+    const QString code = contains(criteria.filterValue("kode"));
+    const QString name = contains(criteria.filterValue("nama"));
+    QString tail = " where (lower(item.kode) like :kode OR lower(item.nama) like :nama)";
+    if (!type.isEmpty())
+        tail += " and jenis_item.kode = :itemtype";
+    tail += order;
+    qDebug().noquote() << "search item:" << selectStatement() + tail;
+    if (type.isEmpty())
+        return findMany(tail, {{":kode", code}, {":nama", name}});
+    return findMany(tail, {{":kode", code}, {":nama", name}, {":itemtype", type}});
+}
+
+QList<KorEntity*> DataMapperItem::searchByType(const KorPaging& criteria) { return searchClass(criteria); }
+
+QList<KorEntity*> DataMapperItem::searchServices(const KorPaging& criteria) { return searchClass(criteria); }
+
+QList<KorEntity*> DataMapperItem::searchClass(const KorPaging& criteria)
+{
+    const QString itemClass = criteria.filterValue("type");
+    const QString type = criteria.filterValue("jenis");
+    const QString code = contains(criteria.filterValue("kode"));
+    const QString name = contains(criteria.filterValue("nama"));
+    const QString tail = " where item_type = :type and (lower(item.kode) like :kode OR lower(item.nama) like :nama)";
+    if (type.isEmpty() || type == "-1")
+        return findMany(tail + order, {{":type", itemClass}, {":kode", code}, {":nama", name}});
+    return findMany(tail + " and jenis = :jenis" + order,
+                    {{":type", itemClass}, {":kode", code}, {":nama", name}, {":jenis", type}});
+}

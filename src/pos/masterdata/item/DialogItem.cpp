@@ -1,0 +1,159 @@
+#include "pos/masterdata/item/DialogItem.h"
+
+#include "kor/business/KorServiceDirectory.h"
+#include "kor/widgets/KorTabOrder.h"
+#include "pos/masterdata/account/BusinessBank.h"
+#include "pos/masterdata/item/BusinessItem.h"
+#include "pos/masterdata/item/TabGLAccounts.h"
+#include "pos/masterdata/item/TabSubItem.h"
+#include "pos/masterdata/itemtype/BusinessJenisItem.h"
+#include "pos/masterdata/unit/BusinessSatuan.h"
+
+#include "ui_DialogItem.h"
+
+DialogItem::DialogItem(QWidget* parent)
+    : KorDialog(parent), m_ui(std::make_unique<Ui::DialogItem>()), m_components(new TabSubItem(this)),
+      m_accounts(new TabGLAccounts(this))
+{
+    m_ui->setupUi(this);
+    m_ui->componentsLayout->addWidget(m_components);
+    m_ui->accountsLayout->addWidget(m_accounts);
+    m_ui->accountsLayout->addStretch();
+    putIntoTabOrder(m_ui->cbGabungan, m_components);
+    putIntoTabOrder(m_ui->cbGabungan, m_accounts);
+    setComponentsEnabled(false);
+    fillCombos();
+    showDefaultAccounts();
+    focusLater(m_ui->txtKode);
+}
+
+DialogItem::~DialogItem() = default;
+
+void DialogItem::fillCombos()
+{
+    const EntityPoolScope scope(m_read);
+    auto* types = service<BusinessJenisItem>("Item Type");
+    for (const KorEntity* type : types->findAll(QString()))
+        m_ui->ddlJenis->addItem(static_cast<const EntityJenisItem*>(type)->getNama(), type->getId());
+    auto* units = service<BusinessSatuan>("Unit");
+    for (const KorEntity* unit : units->findAll(QString()))
+        m_ui->ddlSatuan->addItem(static_cast<const EntitySatuan*>(unit)->getNama(), unit->getId());
+    const QString errors = types->takeErrors() + units->takeErrors();
+    if (!errors.isEmpty())
+        showError(errors);
+}
+
+void DialogItem::showDefaultAccounts()
+{
+    const EntityPoolScope scope(m_read);
+    auto* accounts = service<BusinessBank>("Bank");
+    m_accounts->setSalesAccount(accounts->salesOfMaterials());
+    m_accounts->setInventoryAccount(accounts->inventory());
+    m_accounts->setCostOfSalesAccount(accounts->costOfSales());
+    if (accounts->hasError())
+        showError(accounts->takeErrors());
+}
+
+void DialogItem::showAccounts()
+{
+    const EntityPoolScope scope(m_read);
+    const auto* item = held<EntityItem>();
+    auto* accounts = service<BusinessBank>("Bank");
+    m_accounts->setSalesAccount(accounts->findByCode(item->getSalesAcctCode()));
+    m_accounts->setInventoryAccount(accounts->findByCode(item->getInventoryAcctCode()));
+    m_accounts->setCostOfSalesAccount(accounts->findByCode(item->getCostOfSalesAcctCode()));
+    if (accounts->hasError())
+        showError(accounts->takeErrors());
+}
+
+bool DialogItem::validate()
+{
+    requireCode(
+        m_ui->txtKode, service<BusinessItem>("Item"),
+        [this](BusinessItem* items, const QString& code) {
+            const EntityPoolScope scope(m_read);
+            return items->findByCode(code);
+        },
+        tr("Enter the item code"), tr("This item code is already in use please use another code"));
+    require(m_ui->txtNama, tr("Enter the item name"));
+    const auto rule = [this](bool passed, QWidget* field, const QString& message) {
+        if (!passed)
+            addError(field, message);
+    };
+    rule(m_ui->ddlJenis->currentData().isValid(), m_ui->ddlJenis, tr("Select the item type"));
+    rule(m_ui->ddlSatuan->currentData().isValid(), m_ui->ddlSatuan, tr("Select the item unit"));
+    rule(m_ui->txtHargaBeli->isValid(), m_ui->txtHargaBeli, tr("Enter the unit cost"));
+    rule(m_ui->txtHargaJualLokal->isValid(), m_ui->txtHargaJualLokal, tr("Enter sales price"));
+    const bool onlyAccounts = !hasError();
+    rule(!m_accounts->salesAccountCode().isEmpty(), m_accounts, tr("Enter the Sales Account"));
+    rule(!m_accounts->inventoryAccountCode().isEmpty(), m_accounts, tr("Enter the Inventory Account"));
+    rule(!m_accounts->costOfSalesAccountCode().isEmpty(), m_accounts, tr("Enter the Cost of Sales Account"));
+    if (hasError())
+        m_ui->tabItem->setCurrentWidget(onlyAccounts ? m_ui->pageAccounts : m_ui->pageDetail);
+    return !hasError();
+}
+
+KorEntity* DialogItem::getEntity()
+{
+    const EntityPoolScope scope(m_read);
+    auto* item = heldOrNew<EntityItem>();
+    item->setItemType(m_ui->rbService->isChecked() ? EntityItem::SRV : EntityItem::INV);
+    item->setKode(m_ui->txtKode->text());
+    item->setNama(m_ui->txtNama->text());
+    item->setJenis(service<BusinessJenisItem>("Item Type")->find(m_ui->ddlJenis->currentData().toInt()));
+    item->setSatuan(service<BusinessSatuan>("Unit")->find(m_ui->ddlSatuan->currentData().toInt()));
+    item->setHargaBeli(m_ui->txtHargaBeli->money());
+    item->setHargaJualLokal(m_ui->txtHargaJualLokal->money());
+    item->setNotes(m_ui->txtNotes->toPlainText());
+    item->setIsGroup(m_ui->cbGabungan->isChecked());
+    item->setSalesAcctCode(m_accounts->salesAccountCode());
+    item->setInventoryAcctCode(m_accounts->inventoryAccountCode());
+    item->setCostOfSalesAcctCode(m_accounts->costOfSalesAccountCode());
+    return item;
+}
+
+void DialogItem::setEntity(KorEntity* entity)
+{
+    hold(entity);
+    const auto* item = held<EntityItem>();
+    m_ui->lblItemID->setText(QString::number(item->getId()));
+    m_ui->txtKode->setText(item->getKode());
+    m_ui->txtNama->setText(item->getNama());
+    m_ui->ddlJenis->setCurrentIndex(
+        m_ui->ddlJenis->findData(item->getJenis() ? item->getJenis()->getId() : KorNoValue));
+    m_ui->ddlSatuan->setCurrentIndex(
+        m_ui->ddlSatuan->findData(item->getSatuan() ? item->getSatuan()->getId() : KorNoValue));
+    m_ui->txtHargaBeli->setMoney(item->getHargaBeli());
+    m_ui->txtHargaJualLokal->setMoney(item->getHargaJualLokal());
+    m_ui->txtNotes->setPlainText(item->getNotes());
+    // In this order: choosing the class clears the box, which would take the grouping from a grouped menu item.
+    (item->getItemType() == EntityItem::SRV ? m_ui->rbService : m_ui->rbStok)->setChecked(true);
+    m_ui->cbGabungan->setChecked(item->getIsGroup());
+    setComponentsEnabled(item->getIsGroup());
+    m_components->setParentItem(item->getId());
+    showAccounts();
+}
+
+// --- how the class, the box and the components page hang together --------------------------------------------------
+
+void DialogItem::setComponentsEnabled(bool enabled)
+{
+    m_ui->tabItem->setTabEnabled(m_ui->tabItem->indexOf(m_ui->pageComponents), enabled);
+}
+
+void DialogItem::on_rbService_toggled(bool checked)
+{
+    m_ui->cbGabungan->setEnabled(!checked);
+    if (!checked)
+        return;
+    m_ui->cbGabungan->setChecked(false);
+    setComponentsEnabled(false);
+}
+
+void DialogItem::on_cbGabungan_toggled(bool checked) { m_ui->cbGabungan->setEnabled(checked); }
+
+void DialogItem::on_cbGabungan_clicked()
+{
+    const auto* item = held<EntityItem>();
+    setComponentsEnabled(m_ui->cbGabungan->isChecked() && item && item->isSaved());
+}

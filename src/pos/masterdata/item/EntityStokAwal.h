@@ -1,0 +1,21 @@
+#pragma once
+
+#include "app/money/Money.h"
+#include "kor/entity/KorEntity.h"
+#include "pos/masterdata/item/EntityItem.h"
+
+/** The beginning balance of an item: how many there were, and at what unit cost, when counting began. */
+class EntityStokAwal : public KorEntity
+{
+    Q_OBJECT
+    KOR_REFERENCE(EntityItem, Item)
+    MONEY_PROPERTY(Harga)
+    KOR_PROPERTY(int, Jumlah, 0)
+    Q_PROPERTY(QDateTime DateTime READ getDateTime)
+
+public:
+    using KorEntity::KorEntity;
+
+    /** The moment from which the balance stands. */
+    [[nodiscard]] QDateTime getDateTime() const { return getCreatedTime(); }
+};

@@ -1,0 +1,72 @@
+#include "pos/masterdata/item/TabItem.h"
+
+#include "kor/business/KorServiceDirectory.h"
+#include "pos/inventory/stock/BusinessInventory.h"
+#include "pos/masterdata/itemtype/BusinessJenisItem.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMessageBox>
+#include <QTableView>
+
+TabItem::TabItem(QWidget* parent) : AppFamilyTab({tr("Items"), "tblItem", "Item"}, parent), m_types(new QComboBox(this))
+{
+    m_types->setObjectName("ddlItemType");
+    auto* label = new QLabel(tr("Item Type:"), this);
+    label->setBuddy(m_types);
+    filterLabel()->setText(tr("Filter:"));
+    filterLayout()->insertWidget(2, label);
+    filterLayout()->insertWidget(3, m_types);
+    QWidget::setTabOrder(filterLayout()->itemAt(1)->widget(), m_types);
+    fillTypes();
+    connect(m_types, qOverload<int>(&QComboBox::activated), this, [this] { refresh(); });
+    refresh();
+}
+
+void TabItem::fillTypes()
+{
+    m_types->addItem(tr("All"), QString(""));
+    auto* types = service<BusinessJenisItem>("Item Type");
+    EntityPool pool;
+    const EntityPoolScope scope(pool);
+    for (const KorEntity* entity : types->findAll(QString())) {
+        const auto* type = static_cast<const EntityJenisItem*>(entity);
+        m_types->addItem(type->getNama(), type->getKode());
+    }
+    if (types->hasError())
+        QMessageBox::critical(this, tr("Error"), types->takeErrors());
+}
+
+QList<KorEntity*> TabItem::readRows(const QString& filter)
+{
+    return businessAs<BusinessItem>()->search(filter, m_types->currentData().toString());
+}
+
+KorEntityModel* TabItem::createModel(const QList<KorEntity*>& rows)
+{
+    auto* stock = service<BusinessInventory>("Inventory");
+    auto* model = new TableModelItem(rows, this);
+    model->setStock(stock->quantitiesOnHand(QDate::currentDate()));
+    if (stock->hasError())
+        QMessageBox::critical(this, tr("Error"), stock->takeErrors());
+    return model;
+}
+
+void TabItem::modelApplied()
+{
+    // Once: from then on the widths are the user's.
+    if (std::exchange(m_sized, true))
+        return;
+    const auto atLeast = [this](int column, int width) {
+        grid()->setColumnWidth(column, std::max(width, grid()->columnWidth(column)));
+    };
+    atLeast(2, 200);
+    for (int column : {5, 6, 7})
+        atLeast(column, 120);
+}
+
+QString TabItem::deleteQuestion(const KorEntity* entity) const
+{
+    return tr("Are you sure you want to delete this item: %1 ?").arg(static_cast<const EntityItem*>(entity)->getNama());
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "pos/masterdata/contact/PayeeDialog.h"
+
+#include <memory>
+
+namespace Ui
+{
+class DialogSupplier;
+}
+
+/** The entry form of a supplier. */
+class DialogSupplier final : public PayeeDialog
+{
+    Q_OBJECT
+
+public:
+    explicit DialogSupplier(QWidget* parent = nullptr);
+    ~DialogSupplier() override;
+
+    bool validate() override;
+    KorEntity* getEntity() override;
+    void setEntity(KorEntity* entity) override;
+
+private:
+    std::unique_ptr<Ui::DialogSupplier> m_ui;
+};

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "app/persistence/AppDataMapper.h"
+#include "pos/printing/printer/EntityPrinterType.h"
+
+/** The printer models, in the table "printer_type". */
+class DataMapperPrinterType final : public AppDataMapper
+{
+    Q_OBJECT
+
+public:
+    explicit DataMapperPrinterType(QObject* parent);
+
+    KorEntity* createEntity() override;
+
+    [[nodiscard]] EntityPrinterType* findByType(const QString& name);
+    /** In the order of their names. */
+    [[nodiscard]] QList<EntityPrinterType*> getAll();
+};

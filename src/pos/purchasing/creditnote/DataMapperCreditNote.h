@@ -1,0 +1,33 @@
+#pragma once
+
+#include "pos/purchasing/creditnote/EntityCreditNote.h"
+#include "pos/purchasing/document/PurchasingDocumentMapper.h"
+
+class DataMapperBank;
+class DataMapperSupplier;
+
+/** Credit notes with their lines, in the tables "credit_note" and "credit_note_detail". */
+class DataMapperCreditNote final : public PurchasingDocumentMapper<EntityCreditNote, EntityCreditNoteDetail>
+{
+    Q_OBJECT
+
+public:
+    DataMapperCreditNote(QObject* parent, DataMapperKey* keys, DataMapperSupplier* suppliers, DataMapperBank* accounts,
+                         ItemPartners partners);
+
+    [[nodiscard]] QString keyName() const override { return "NR"; }
+    KorEntity* createEntity() override;
+    [[nodiscard]] QStringList indexStatements() const override;
+
+    /** The notes for the purchase, without lines. */
+    [[nodiscard]] QList<EntityCreditNote*> findByAcquisition(int purchaseId);
+    /** The purchase that the stored note is for, KorNoValue for none. */
+    [[nodiscard]] int purchaseOf(int noteId);
+    /** How many of the purchase's line went back already on other notes; those of cancelled notes did not. */
+    [[nodiscard]] int returnedElsewhere(const EntityCreditNoteDetail& line);
+
+protected:
+    [[nodiscard]] const Messages& messages() const override;
+    void attachLine(KorEntity* line, int documentId) override;
+    [[nodiscard]] PurchasingColumns filterColumns() const override;
+};

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "pos/purchasing/document/PurchasingLineDialog.h"
+
+/** One item that goes back freely. */
+class DialogCreditNotePurchases final : public PurchasingLineDialog
+{
+    Q_OBJECT
+
+public:
+    DialogCreditNotePurchases(EntityPool& items, QWidget* parent);
+};

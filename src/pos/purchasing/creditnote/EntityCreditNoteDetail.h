@@ -1,0 +1,20 @@
+#pragma once
+
+#include "pos/purchasing/document/EntityPurchasingLine.h"
+
+/** One item of a credit note: what the purchase held and what goes back. */
+class EntityCreditNoteDetail : public EntityPurchasingLine
+{
+    Q_OBJECT
+    KOR_PROPERTY(int, CreditNoteId, KorNoValue)
+    KOR_PROPERTY(int, Qty, 0)
+    KOR_PROPERTY(int, QtyReturned, 0)
+    /** The purchase's line, KorNoValue for an item returned freely. */
+    KOR_PROPERTY(int, AcquisitionDetailId, KorNoValue)
+    MONEY_PROPERTY(PriceEach)
+    MONEY_PROPERTY(TotalPrice)
+    PURCHASING_LINE(QtyReturned, PriceEach, TotalPrice)
+
+public:
+    using EntityPurchasingLine::EntityPurchasingLine;
+};

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "pos/purchasing/document/PurchasingLinesModel.h"
+
+/** What goes back freely. */
+class TableModelCreditNotePurchases final : public PurchasingLinesModel
+{
+    Q_OBJECT
+
+public:
+    TableModelCreditNotePurchases(const QList<KorEntity*>& lines, QObject* parent) : PurchasingLinesModel(lines, parent)
+    {
+        addItem();
+        addQuantity(tr("Qty"));
+        addUnit();
+        addUnitPrice();
+        addDiscount(tr("Discount"));
+        addAmount();
+    }
+};

@@ -1,0 +1,170 @@
+#include "pos/purchasing/document/PurchasingDialog.h"
+
+#include "app/context/AppContext.h"
+#include "app/widgets/AppLinesTab.h"
+#include "app/widgets/MoneyEdit.h"
+#include "kor/business/KorServiceDirectory.h"
+#include "pos/masterdata/account/AccountField.h"
+#include "pos/masterdata/supplier/SupplierTextBox.h"
+#include "pos/purchasing/document/PurchasingTotalsPane.h"
+
+#include <QDateEdit>
+#include <QDialogButtonBox>
+#include <QShortcut>
+#include <QTabWidget>
+
+void PurchasingDialog::setUpPurchasing(const Form& form, const Words& words, const QString& accountCode)
+{
+    m_form = form;
+    m_words = words;
+    m_cascade = new TotalsCascade(form.totals->boxes(), this);
+    m_cascade->keepPercentsOfNothing();
+    m_account = new AccountField(form.totals->accountBox(), form.totals->accountName(), this);
+    m_account->showCode(accountCode);
+    m_supplierBox = new SupplierTextBox(form.supplier, service<BusinessSupplier>("Supplier"));
+    connect(m_supplierBox, &KorTextBoxExtender::onItemSelected, this, &PurchasingDialog::onSupplierSelected);
+    connect(form.supplier, &QLineEdit::editingFinished, this, [this] {
+        // What fails here is told when the form is confirmed.
+        const QString failure = lookUpSupplier();
+        Q_UNUSED(failure)
+    });
+    for (QDateEdit* date : form.dates) {
+        date->setCalendarPopup(true);
+        date->setDisplayFormat(AppContext::instance()->dateFormat());
+        date->setDate(QDate::currentDate());
+    }
+    m_cascade->clear();
+    focusLater(form.supplier);
+}
+
+void PurchasingDialog::addLinesPage(AppLinesTab* page, const QString& title, Qt::Key key)
+{
+    m_form.pages->addTab(page, title);
+    connect(page, &AppLinesTab::ItemAdded, this, &PurchasingDialog::onItemAdded);
+    connect(new QShortcut(key, this), &QShortcut::activated, this, [this, page] {
+        m_form.pages->setCurrentWidget(page);
+        page->focusLines();
+    });
+}
+
+// --- the supplier --------------------------------------------------------------------------------------------------
+
+void PurchasingDialog::onSupplierSelected()
+{
+    if (EntitySupplier* chosen = m_supplierBox->selectedItem())
+        showSupplier(chosen);
+}
+
+void PurchasingDialog::showSupplier(EntitySupplier* supplier)
+{
+    const bool changed = supplier != m_supplier;
+    m_supplier = supplier;
+    if (supplier)
+        m_form.supplier->setText(supplier->getKode());
+    m_form.supplierName->setText(supplier ? supplier->getNama() : QString());
+    m_form.supplierAddress->setText(supplier ? supplier->getAlamat() : QString());
+    m_form.supplierPhone->setText(supplier ? supplier->getTelp() : QString());
+    if (changed)
+        supplierChanged();
+}
+
+QString PurchasingDialog::lookUpSupplier()
+{
+    const QString code = m_form.supplier->text().trimmed();
+    if (m_supplier && m_supplier->getKode().compare(code, Qt::CaseInsensitive) == 0)
+        return {};
+    const EntityPoolScope scope(m_found);
+    auto* suppliers = service<BusinessSupplier>("Supplier");
+    suppliers->clearErrors();
+    showSupplier(code.isEmpty() ? nullptr : suppliers->findByCode(code));
+    return suppliers->takeErrors();
+}
+
+void PurchasingDialog::checkSupplier()
+{
+    const QString failure = lookUpSupplier();
+    if (!failure.isEmpty())
+        addError(m_form.supplier, failure.trimmed());
+    else if (!m_supplier)
+        addError(m_form.supplier, m_words.noSupplier);
+}
+
+// --- the money -----------------------------------------------------------------------------------------------------
+
+void PurchasingDialog::onItemAdded()
+{
+    double subtotal = 0;
+    const PurchasingLines lines = allLines();
+    for (const EntityPurchasingLine* line : lines) {
+        if (line->lineTotal())
+            subtotal += double(line->lineTotal()->rawAmount()) / line->lineTotal()->factor();
+    }
+    m_cascade->setSubtotal(subtotal);
+}
+
+void PurchasingDialog::on_txtPaid_textChanged(const QString&) { m_cascade->calculateTotal(); }
+
+void PurchasingDialog::on_txtDiscPerc_editingFinished() { m_cascade->percentEntered(InvoiceTotals::Discount); }
+
+void PurchasingDialog::on_txtDiscount_editingFinished() { m_cascade->amountEntered(InvoiceTotals::Discount); }
+
+void PurchasingDialog::on_txtTaxPerc_editingFinished() { m_cascade->percentEntered(InvoiceTotals::Tax); }
+
+void PurchasingDialog::on_txtTax_editingFinished() { m_cascade->amountEntered(InvoiceTotals::Tax); }
+
+void PurchasingDialog::showTotals(const InvoiceTotals& stored) { m_cascade->show(stored); }
+
+const InvoiceTotals& PurchasingDialog::totals()
+{
+    m_cascade->calculateTotal();
+    return m_cascade->totals();
+}
+
+EntityBank* PurchasingDialog::account() const { return m_account->account(); }
+
+void PurchasingDialog::showAccount(EntityBank* account) { m_account->show(account); }
+
+// --- saving --------------------------------------------------------------------------------------------------------
+
+bool PurchasingDialog::validate()
+{
+    checkSupplier();
+    checkLines();
+    checkMoney();
+    m_account->check(m_words.noAccount, m_words.unknownAccount);
+    checkAmounts();
+    return !hasError();
+}
+
+void PurchasingDialog::checkLines()
+{
+    if (allLines().isEmpty())
+        addError(m_form.pages, m_words.noLine);
+}
+
+void PurchasingDialog::checkAmounts()
+{
+    if (QLineEdit* box = m_cascade->wrongEntry()) {
+        if (errorsOf(box).isEmpty())
+            addError(box, tr("Please enter a number"));
+        return;
+    }
+    const InvoiceTotals& figures = totals();
+    const bool isNegative =
+        figures.amount(InvoiceTotals::Discount) < 0 || figures.amount(InvoiceTotals::Tax) < 0 || figures.paid() < 0;
+    // A form may have told in its own words already.
+    if (isNegative && !hasError())
+        addError(m_form.pages, tr("Discount, tax and payment should not be less than zero"));
+    if (figures.grandTotal() < 0)
+        addError(m_form.pages, tr("The discount should not be larger than the sub total"));
+    const QString tooLarge = tr("An amount is larger than a document can hold. Please check the figures.");
+    const PurchasingLines lines = allLines();
+    for (const EntityPurchasingLine* line : lines) {
+        if (!line->totalFits()) {
+            addError(m_form.pages, tooLarge);
+            return;
+        }
+    }
+    if (!figures.fits())
+        addError(m_form.pages, tooLarge);
+}

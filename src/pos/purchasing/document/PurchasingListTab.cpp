@@ -1,0 +1,60 @@
+#include "pos/purchasing/document/PurchasingListTab.h"
+
+#include "kor/business/KorServiceDirectory.h"
+#include "pos/masterdata/supplier/SupplierTextBox.h"
+#include "pos/purchasing/document/PurchasingService.h"
+
+#include <QComboBox>
+#include <QDateEdit>
+#include <QLineEdit>
+
+namespace
+{
+constexpr int filtersPerRow = 3;
+
+QDate firstOfMonth()
+{
+    const QDate today = QDate::currentDate();
+    return {today.year(), today.month(), 1};
+}
+} // namespace
+
+PurchasingListTab::PurchasingListTab(const Page& page, const Filters& words, QWidget* parent)
+    : AppDocumentTab(page, filtersPerRow, parent)
+{
+    m_from = filters()->addDate("dateFrom", tr("From Date :"), firstOfMonth());
+    m_to = filters()->addDate("dateTo", tr("To Date :"));
+    m_kind = filters()->addChoice(words.kindName, words.kindLabel, AppFilterBar::Rows{{tr("All"), 0}} + words.kinds);
+    m_supplier = filters()->addText("txtSupplier", tr("Supplier :"));
+    m_text = filters()->addText("txtFilter", tr("Search :"));
+    m_field = filters()->addChoice("ddlFilter", tr("In :"), words.fields);
+    m_suppliers = new SupplierTextBox(m_supplier, service<BusinessSupplier>("Supplier"));
+    connect(m_suppliers, &KorTextBoxExtender::onItemSelected, this, &PurchasingListTab::on_btnSearch_clicked);
+}
+
+PurchasingFilter PurchasingListTab::chosen() const
+{
+    // Whoever searches has typed to the end: no list of suggestions follows.
+    m_suppliers->preventSuggest();
+    PurchasingFilter filter;
+    filter.from = m_from->date();
+    filter.to = m_to->date();
+    filter.kind = m_kind->currentData().toInt();
+    filter.supplierCode = m_supplier->text().trimmed();
+    filter.field = static_cast<PurchasingFilter::Field>(m_field->currentData().toInt());
+    filter.text = m_text->text().trimmed();
+    return filter;
+}
+
+bool PurchasingListTab::insertEntity(KorEntity* document) { return stands(AppDocumentTab::insertEntity(document)); }
+
+bool PurchasingListTab::updateEntity(KorEntity* document) { return stands(AppDocumentTab::updateEntity(document)); }
+
+/** A document that is saved is not entered again because something that follows from it has failed. */
+bool PurchasingListTab::stands(bool done)
+{
+    if (done || !businessAs<PurchasingService>()->documentStands())
+        return done;
+    showServiceError();
+    return true;
+}

@@ -1,0 +1,41 @@
+#include "pos/purchasing/document/PurchasingService.h"
+
+#include "app/persistence/AppDocumentMapper.h"
+#include "kor/business/KorServiceTransaction.h"
+
+PurchasingService::PurchasingService(const QString& name, AppDocumentMapper* documents, QObject* parent)
+    : KorBusinessLogic(name, documents, parent)
+{}
+
+AppDocumentMapper* PurchasingService::documents() const { return static_cast<AppDocumentMapper*>(mapper()); }
+
+KorDataMapper* PurchasingService::mapperOf(const KorEntity&) const { return documents()->lineMapper(); }
+
+bool PurchasingService::insert(KorEntity* document) { return save(*document, Insert); }
+
+bool PurchasingService::update(KorEntity* document) { return save(*document, Update); }
+
+bool PurchasingService::save(KorEntity& document, Save kind)
+{
+    beforeSave(document);
+    mapper()->clearError();
+    const bool done = kind == Insert ? mapper()->insert(&document) : mapper()->update(&document);
+    // A mapper may call a save done that it took back: its error tells.
+    m_stands = done && !mapper()->hasError();
+    return written(m_stands, mapper(), kind == Insert ? "insert" : "update") && afterSave(document, kind);
+}
+
+bool PurchasingService::remove(KorEntity* document)
+{
+    const auto removeAll = [this, document] {
+        const QList<KorEntity*> lines = linesOf(*document);
+        for (KorEntity* line : lines) {
+            if (!written(mapperOf(*line)->remove(line), mapperOf(*line), "remove"))
+                return false;
+        }
+        return written(mapper()->remove(document), mapper(), "remove");
+    };
+    return inOneTransaction(*this, "remove", removeAll, notBegunText());
+}
+
+bool PurchasingService::clearTransactions() { return clearTables(documents()->lineMappers() << mapper()); }

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "app/money/Money.h"
+#include "pos/totals/InvoiceTotals.h"
+
+// A form's figures out of a stored document and back. The documents are no common type: they share the names alone.
+
+[[nodiscard]] inline double wholeUnits(const Money* money)
+{
+    return money ? double(money->rawAmount()) / money->factor() : 0;
+}
+
+/** An amount of the form in the document's possession. */
+[[nodiscard]] inline Money* moneyOf(const InvoiceTotals& totals, double amount, QObject* document)
+{
+    return new Money(document, amount, totals.currency());
+}
+
+/** What all documents have: the subtotal (which each calls by its own name) and the discount. */
+template <class Document>
+[[nodiscard]] InvoiceTotals storedTotals(const Document& document, const Money* subtotal)
+{
+    InvoiceTotals totals;
+    totals.setCurrency(subtotal->getCurrency());
+    totals.setSubtotal(wholeUnits(subtotal));
+    totals.restore(InvoiceTotals::Discount, document.getDiscountPercentage(), wholeUnits(document.getDiscount()));
+    return totals;
+}
+
+template <class Document>
+void readTax(InvoiceTotals& totals, const Document& document)
+{
+    totals.restore(InvoiceTotals::Tax, document.getTaxPercentage(), wholeUnits(document.getTax()));
+}
+
+/** Discount and grand total. */
+template <class Document>
+void writeTotals(const InvoiceTotals& totals, Document* document)
+{
+    document->setDiscountPercentage(totals.percent(InvoiceTotals::Discount));
+    document->setDiscount(moneyOf(totals, totals.amount(InvoiceTotals::Discount), document));
+    document->setGrandTotal(moneyOf(totals, totals.grandTotal(), document));
+}
+
+template <class Document>
+void writeTax(const InvoiceTotals& totals, Document* document)
+{
+    document->setTaxPercentage(totals.percent(InvoiceTotals::Tax));
+    document->setTax(moneyOf(totals, totals.amount(InvoiceTotals::Tax), document));
+}

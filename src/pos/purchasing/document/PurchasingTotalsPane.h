@@ -1,0 +1,41 @@
+#pragma once
+
+#include "pos/totals/TotalsCascade.h"
+
+#include <QWidget>
+
+#include <memory>
+
+namespace Ui
+{
+class PurchasingTotalsPane;
+}
+
+/** The column of a purchasing form that holds the money, from the subtotal to the account. */
+class PurchasingTotalsPane final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit PurchasingTotalsPane(QWidget* parent = nullptr);
+    ~PurchasingTotalsPane() override;
+
+    /** Without the boxes of rows that were hidden. */
+    [[nodiscard]] TotalsCascade::Boxes boxes() const;
+    [[nodiscard]] QLineEdit* accountBox() const;
+    [[nodiscard]] QLabel* accountName() const;
+
+    // What a form calls a row, and which rows it does without.
+    void setPaidCaption(const QString& text);
+    void setAccountCaption(const QString& text);
+    void hideTax();
+    void hideCredit();
+    /** What was paid, other credits and what is due. */
+    void hideMoney();
+
+private:
+    std::unique_ptr<Ui::PurchasingTotalsPane> m_ui;
+    bool m_hasTax = true;
+    bool m_hasCredit = true;
+    bool m_hasMoney = true;
+};

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "pos/purchasing/document/PurchasingFilter.h"
+#include "pos/purchasing/document/PurchasingService.h"
+
+class BusinessPurchases;
+class DataMapperPayment;
+class EntityPayment;
+
+/** The service of payments to suppliers. */
+class BusinessPayment final : public PurchasingService
+{
+    Q_OBJECT
+
+public:
+    enum PERMISSIONS { INSERT_PAYMENT, UPDATE_PAYMENT, DELETE_PAYMENT };
+    Q_ENUM(PERMISSIONS)
+
+    BusinessPayment(QObject* parent, DataMapperPayment* payments, BusinessPurchases* purchases);
+
+    [[nodiscard]] QList<KorPermission> getPermissions() const override;
+
+    // The finders give payments without lines, as a list shows them; find(id) reads a payment with its lines.
+    [[nodiscard]] QList<EntityPayment*> findAll(const PurchasingFilter& filter);
+    [[nodiscard]] EntityPayment* findByNo(const QString& no);
+
+    /**
+     * Reckons anew what is due for the purchases that the payment pays, and for those that it paid before its last
+     * save. A payment that is removed leaves its purchases as they are until they are reckoned next.
+     */
+    bool updatePurchase(const EntityPayment& payment);
+
+protected:
+    bool afterSave(const KorEntity& payment, Save kind) override;
+    [[nodiscard]] QList<KorEntity*> linesOf(const KorEntity& payment) const override;
+    [[nodiscard]] KorDataMapper* mapperOf(const KorEntity& line) const override;
+
+private:
+    DataMapperPayment* m_payments;
+    BusinessPurchases* m_purchases;
+};

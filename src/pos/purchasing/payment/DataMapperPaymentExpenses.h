@@ -1,0 +1,17 @@
+#pragma once
+
+#include "pos/masterdata/item/ItemLineMapper.h"
+
+class DataMapperPayment;
+
+/** What payments paid without a purchase, in the table "payment_expense". */
+class DataMapperPaymentExpenses final : public ItemLineMapper
+{
+    Q_OBJECT
+
+public:
+    DataMapperPaymentExpenses(DataMapperPayment* payments, const ItemPartners& partners);
+
+    KorEntity* createEntity() override;
+    [[nodiscard]] QStringList indexStatements() const override;
+};

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "pos/purchasing/document/EntityPurchasingLine.h"
+
+/** Something paid for without a purchase; it moves no stock. */
+class EntityPaymentExpenses : public EntityPurchasingLine
+{
+    Q_OBJECT
+    KOR_PROPERTY(int, PaymentId, KorNoValue)
+    KOR_PROPERTY(int, Qty, 0)
+    MONEY_PROPERTY(UnitPrice)
+    MONEY_PROPERTY(Amount)
+    PURCHASING_LINE(Qty, UnitPrice, Amount)
+
+public:
+    using EntityPurchasingLine::EntityPurchasingLine;
+};

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "pos/purchasing/document/PurchasingListTab.h"
+
+/** The list of what was paid to suppliers. */
+class TabPayment final : public PurchasingListTab
+{
+    Q_OBJECT
+
+public:
+    explicit TabPayment(QWidget* parent = nullptr);
+
+protected:
+    QList<KorEntity*> readRows(const QString& filter) override;
+    KorEntityModel* createModel(const QList<KorEntity*>& rows) override;
+    void modelApplied() override;
+    std::unique_ptr<KorDialog> createDialog() override;
+    [[nodiscard]] QString deleteQuestion(const KorEntity* entity) const override;
+    [[nodiscard]] QString notFoundText(int id) const override;
+    [[nodiscard]] QString deleteNotFoundText(int id) const override { return notFoundText(id); }
+};

@@ -1,0 +1,14 @@
+#include "pos/purchasing/payment/TableModelPayment.h"
+
+#include "pos/purchasing/payment/EntityPayment.h"
+
+TableModelPayment::TableModelPayment(const QList<KorEntity*>& payments, QObject* parent)
+    : AppEntityModel(payments, parent)
+{
+    using Payment = EntityPayment;
+    addText(tr("Payment No."), &Payment::getNo);
+    addField<Payment>(QMetaType::QDateTime, tr("Date"), [this](const Payment& one) { return dateText(one.getDate()); });
+    addField<Payment>(QMetaType::QString, tr("Supplier"),
+                      [](const Payment& one) { return one.getSupplier()->getNama(); });
+    addMoney<Payment>(tr("Total Payment"), [](const Payment& one) { return one.getGrandTotal(); });
+}

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "pos/purchasing/document/PurchasingLineDialog.h"
+
+/** One item that was bought freely. */
+class DialogPurchaseDetail final : public PurchasingLineDialog
+{
+    Q_OBJECT
+
+public:
+    DialogPurchaseDetail(EntityPool& items, QWidget* parent);
+};

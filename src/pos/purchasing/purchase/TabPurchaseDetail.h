@@ -1,0 +1,16 @@
+#pragma once
+
+#include "pos/purchasing/document/PurchasingLinesTab.h"
+#include "pos/purchasing/purchase/DialogPurchaseDetail.h"
+#include "pos/purchasing/purchase/EntityAcquisitionDetail.h"
+#include "pos/purchasing/purchase/TableModelPurchaseDetail.h"
+
+/** What was bought freely, in the form of a purchase. */
+class TabPurchaseDetail final
+    : public PurchasingLinesOf<EntityAcquisitionDetail, TableModelPurchaseDetail, DialogPurchaseDetail>
+{
+    Q_OBJECT
+
+public:
+    explicit TabPurchaseDetail(QWidget* parent = nullptr) : PurchasingLinesOf(parent) { refresh(); }
+};

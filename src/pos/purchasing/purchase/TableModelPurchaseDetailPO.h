@@ -1,0 +1,25 @@
+#pragma once
+
+#include "pos/purchasing/document/PurchasingLinesModel.h"
+#include "pos/purchasing/purchase/EntityAcquisitionDetail.h"
+
+/** What an order had asked for, and what came of it. */
+class TableModelPurchaseDetailPO final : public PurchasingLinesModel
+{
+    Q_OBJECT
+
+public:
+    TableModelPurchaseDetailPO(const QList<KorEntity*>& lines, QObject* parent) : PurchasingLinesModel(lines, parent)
+    {
+        using Line = EntityAcquisitionDetail;
+        addItem();
+        addField<Line>(
+            QMetaType::Int, tr("Ordered"), [](const Line& line) { return QString::number(line.getQtyOrdered()); },
+            RightAligned);
+        addQuantity(tr("Received"));
+        addUnit();
+        addUnitPrice();
+        addDiscount(tr("Discount"));
+        addAmount();
+    }
+};

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "pos/purchasing/document/PurchasingFilter.h"
+#include "pos/purchasing/document/PurchasingService.h"
+
+class DataMapperAcquisition;
+class DataMapperPurchaseOrder;
+class EntityAcquisition;
+class EntityPurchaseOrder;
+class EntitySupplier;
+
+/** The service of purchase orders. */
+class BusinessPurchaseOrder final : public PurchasingService
+{
+    Q_OBJECT
+
+public:
+    enum PERMISSIONS { INSERT_PO, UPDATE_PO, DELETE_PO, INSERT_PO_DETAIL, UPDATE_PO_DETAIL, DELETE_PO_DETAIL };
+    Q_ENUM(PERMISSIONS)
+
+    BusinessPurchaseOrder(QObject* parent, DataMapperPurchaseOrder* orders, DataMapperAcquisition* purchases);
+
+    [[nodiscard]] QList<KorPermission> getPermissions() const override;
+    /** Refused while a purchase was made of the order. */
+    bool remove(KorEntity* order) override;
+
+    // The finders give orders without lines, as a list shows them; find(id) reads an order with its lines.
+    [[nodiscard]] QList<EntityPurchaseOrder*> findAll(const PurchasingFilter& filter);
+    [[nodiscard]] EntityPurchaseOrder* findByNo(const QString& no);
+    [[nodiscard]] EntityPurchaseOrder* findHeader(int id);
+    /** What can still be received. */
+    [[nodiscard]] QList<EntityPurchaseOrder*> getOpenBySupplier(const EntitySupplier* supplier);
+    /** A purchase that was made of the order, or null. */
+    [[nodiscard]] EntityAcquisition* isPurchased(const EntityPurchaseOrder* order);
+
+protected:
+    [[nodiscard]] QList<KorEntity*> linesOf(const KorEntity& order) const override;
+    [[nodiscard]] QString notBegunText() const override { return tr("Create transaction failed"); }
+
+private:
+    DataMapperPurchaseOrder* m_orders;
+    DataMapperAcquisition* m_purchases;
+};

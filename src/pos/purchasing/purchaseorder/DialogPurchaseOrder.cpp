@@ -1,0 +1,86 @@
+#include "pos/purchasing/purchaseorder/DialogPurchaseOrder.h"
+
+#include "pos/purchasing/document/PurchasingTotals.h"
+#include "pos/purchasing/purchaseorder/EntityPurchaseOrder.h"
+#include "pos/purchasing/purchaseorder/TabPurchaseOrderDetail.h"
+
+#include "ui_DialogPurchaseOrder.h"
+
+#include <QShortcut>
+
+namespace
+{
+/** At midnight: a list up to a day holds all orders of that day. */
+QDateTime dayOf(const QDateEdit* box) { return QDateTime(box->date(), QTime(0, 0)); }
+} // namespace
+
+DialogPurchaseOrder::DialogPurchaseOrder(QWidget* parent)
+    : PurchasingDialog(parent), m_ui(std::make_unique<Ui::DialogPurchaseOrder>()), m_items(new TabPurchaseOrderDetail)
+{
+    m_ui->setupUi(this);
+    using Order = EntityPurchaseOrder;
+    m_ui->ddlStatus->addItem(tr("Sent to Supplier"), Order::RELEASED);
+    m_ui->ddlStatus->addItem(tr("Received"), Order::RECEIVED);
+    m_ui->ddlStatus->addItem(tr("Order Changed"), Order::CHANGE_ORDER);
+    m_ui->ddlStatus->addItem(tr("Cancelled"), Order::CANCELED);
+    m_ui->ddlStatus->addItem(tr("Closed"), Order::CLOSED);
+    m_ui->totalsPane->setPaidCaption(tr("Deposit :"));
+    m_ui->totalsPane->hideCredit();
+    Form form = formOf(*m_ui);
+    form.dates = {m_ui->datePO, m_ui->dateShip};
+    setUpPurchasing(form,
+                    {tr("Select a supplier"), tr("Insert one or more item"), tr("Please select an Accounts Payable"),
+                     tr("Please select a valid Accounts Payable")},
+                    payableAccount());
+    addLinesPage(m_items, tr("[F3] Items"), Qt::Key_F3);
+    connect(new QShortcut(Qt::Key_F4, this), &QShortcut::activated, m_ui->txtNotes,
+            [this] { m_ui->txtNotes->setFocus(); });
+}
+
+DialogPurchaseOrder::~DialogPurchaseOrder() = default;
+
+PurchasingDialog::PurchasingLines DialogPurchaseOrder::allLines() const
+{
+    return castAll<EntityPurchasingLine>(m_items->lines());
+}
+
+void DialogPurchaseOrder::setEntity(KorEntity* entity)
+{
+    hold(entity);
+    const auto* order = held<EntityPurchaseOrder>();
+    showSupplier(order->getSupplier());
+    m_ui->txtPONo->setText(order->getNo());
+    m_ui->datePO->setDate(order->getDate().date());
+    m_ui->dateShip->setDate(order->getShipDate().date());
+    // A status that cannot be chosen stays until another one is.
+    m_ui->ddlStatus->setCurrentIndex(m_ui->ddlStatus->findData(order->getStatus()));
+    m_ui->txtNoRek->setText(order->getNoRek());
+    m_ui->txtNotes->setPlainText(order->getNote());
+    showAccount(order->getBank());
+    m_items->setLines(asEntities(order->getDetails()));
+    InvoiceTotals stored = storedTotals(*order, order->getSubTotal());
+    readTax(stored, *order);
+    stored.setPaid(wholeUnits(order->getDeposit()));
+    showTotals(stored);
+}
+
+KorEntity* DialogPurchaseOrder::getEntity()
+{
+    auto* order = heldOrNew<EntityPurchaseOrder>();
+    order->setSupplier(supplier());
+    order->setDate(dayOf(m_ui->datePO));
+    order->setShipDate(dayOf(m_ui->dateShip));
+    if (m_ui->ddlStatus->currentIndex() >= 0)
+        order->setStatus(m_ui->ddlStatus->currentData().toInt());
+    order->setNoRek(m_ui->txtNoRek->text());
+    order->setNote(m_ui->txtNotes->toPlainText());
+    order->setBank(account());
+    order->setDetails(castAll<EntityPurchaseOrderDetail>(m_items->lines()));
+    order->setRemovedDetails(castAll<EntityPurchaseOrderDetail>(m_items->removedLines()));
+    const InvoiceTotals& money = totals();
+    order->setSubTotal(moneyOf(money, money.subtotal(), order));
+    writeTotals(money, order);
+    writeTax(money, order);
+    order->setDeposit(moneyOf(money, money.paid(), order));
+    return order;
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "pos/purchasing/document/EntityPurchasingLine.h"
+
+/** One item of a purchase order: how many were ordered and at which price. */
+class EntityPurchaseOrderDetail : public EntityPurchasingLine
+{
+    Q_OBJECT
+    KOR_PROPERTY(int, PurchaseOrderId, KorNoValue)
+    KOR_PROPERTY(int, Jumlah, 0)
+    MONEY_PROPERTY(Price)
+    MONEY_PROPERTY(TotalPrice)
+    PURCHASING_LINE(Jumlah, Price, TotalPrice)
+
+public:
+    using EntityPurchasingLine::EntityPurchasingLine;
+};

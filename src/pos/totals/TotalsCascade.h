@@ -1,0 +1,67 @@
+#pragma once
+
+#include "pos/totals/InvoiceTotals.h"
+
+#include <QObject>
+
+class AppNumberEdit;
+class MoneyEdit;
+class QLabel;
+class QLineEdit;
+
+/**
+ * Binds the boxes of a form that takes or gives money to the totals: which entry changes which figure, and when. All
+ * ways of selling and buying share it. The boxes are borrowed; the form's slots say which box was left.
+ */
+class TotalsCascade : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** A form without one of the parts, without credit or without a net due has null there. */
+    struct Boxes
+    {
+        MoneyEdit* subtotal;
+        AppNumberEdit* percents[3];
+        MoneyEdit* amounts[3];
+        MoneyEdit* paid;
+        MoneyEdit* credit;
+        /** Every box that shows the grand total. */
+        QList<MoneyEdit*> grandTotals;
+        MoneyEdit* netDue;
+        QLabel* netDueLabel;
+    };
+
+    TotalsCascade(const Boxes& boxes, QObject* parent);
+
+    /** An amount leaves its percent alone while there is no subtotal, instead of making it infinite. */
+    void keepPercentsOfNothing() { m_keepsPercentsOfNothing = true; }
+
+    /** All boxes at zero, for a new invoice. */
+    void clear();
+    /** The lines have changed; amounts are not derived from their percents again. */
+    void setSubtotal(double amount);
+    /** A discount that the amount follows only when the user leaves the percent's box. */
+    void proposeDiscount(double percent);
+    void percentEntered(InvoiceTotals::Part part);
+    void amountEntered(InvoiceTotals::Part part);
+    /** Shows the grand total and what is due from what the boxes hold now. */
+    void calculateTotal();
+
+    /** The first box that somebody left with a text that is no number, and whose figure is thus another; or null. */
+    [[nodiscard]] QLineEdit* wrongEntry() const;
+
+    void readFrom(const Invoice& invoice);
+    void writeTo(Invoice* invoice);
+    [[nodiscard]] const InvoiceTotals& totals() const { return m_totals; }
+
+    /** Shows the parts and the money as they stand in a stored document. */
+    void show(const InvoiceTotals& stored);
+
+private:
+    void showPart(InvoiceTotals::Part part);
+
+    Boxes m_boxes;
+    InvoiceTotals m_totals;
+    bool m_keepsPercentsOfNothing = false;
+};

@@ -1,9 +1,0 @@
-#include "sales/order/DialogSelectInventory.h"
-
-#include "masterdata/item/InventoryTextBox.h"
-
-DialogSelectInventory::DialogSelectInventory(EntityPool& items, QWidget* parent) : OrderItemPicker(items, parent)
-{
-    setWindowTitle(tr("Select an inventory item"));
-    findItemsWith<InventoryTextBox>();
-}

@@ -1,0 +1,163 @@
+#include "shell/dashboard/TabDashboard.h"
+
+#include "app/context/AppContext.h"
+#include "app/context/EntityPool.h"
+#include "app/context/EntityUser.h"
+#include "kor/business/KorServiceDirectory.h"
+#include "shell/dashboard/DashboardPage.h"
+#include "shell/window/MainWindow.h"
+#include "zavel/list/EntitySalesSummaryInfo.h"
+#include "zavel/list/EntitySoldItem.h"
+#include "zavel/service/BusinessPenjualan.h"
+
+#include "ui_TabDashboard.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QFontInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLocale>
+#include <QMessageBox>
+#include <QTimer>
+#include <QWebFrame>
+
+namespace
+{
+constexpr int daysBack = 14;
+
+/** The days that the figures are about; both count. */
+struct Period
+{
+    QDate to = QDate::currentDate();
+    QDate from = to.addDays(-daysBack);
+};
+
+// In English whatever the workstation speaks: the page reads these.
+QString dayText(const QDate& day) { return QLocale::c().toString(day, "dd MMM"); }
+QString limitText(const QDate& day) { return QLocale::c().toString(day, "dd MMM yyyy"); }
+
+QString compactText(const QJsonObject& object)
+{
+    return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
+}
+} // namespace
+
+TabDashboard::TabDashboard(QWidget* parent)
+    : KorTab(parent), m_ui(std::make_unique<Ui::TabDashboard>()), m_sales(service<BusinessPenjualan>("Sales"))
+{
+    m_ui->setupUi(this);
+    m_ui->webView->setPage(new DashboardPage(m_ui->webView));
+    // The page is written in the program's own letters.
+    m_ui->webView->settings()->setFontFamily(QWebSettings::StandardFont, QFontInfo(QApplication::font()).family());
+    connect(m_ui->webView->page()->mainFrame(), &QWebFrame::javaScriptWindowObjectCleared, this,
+            &TabDashboard::populateJavaScriptWindowObject);
+    // The engine would show a page of its own about a missing file.
+    const QString file = QApplication::applicationDirPath() + "/html/index.html";
+    if (QFile::exists(file))
+        m_ui->webView->load(QUrl::fromLocalFile(file));
+    else
+        AppContext::log("dashboard: there is no " + file);
+    m_ui->webView->setFocus();
+    QTimer::singleShot(0, this, &TabDashboard::bindMainWnd);
+}
+
+TabDashboard::~TabDashboard() = default;
+
+void TabDashboard::populateJavaScriptWindowObject()
+{
+    m_ui->webView->page()->mainFrame()->addToJavaScriptWindowObject("dashboard", this);
+}
+
+void TabDashboard::bindMainWnd()
+{
+    // Queued: the script's click is over before a screen opens, which may be a dialog that stays for long.
+    if (auto* window = qobject_cast<MainWindow*>(AppContext::instance()->mainWindow()))
+        connect(this, &TabDashboard::callMainWindowCmd, window, &MainWindow::on_callMainWindowCmd,
+                Qt::QueuedConnection);
+}
+
+void TabDashboard::showEvent(QShowEvent* event)
+{
+    KorTab::showEvent(event);
+    if (m_shownBefore)
+        QTimer::singleShot(0, this, &TabDashboard::shownAgain);
+    m_shownBefore = true;
+}
+
+void TabDashboard::tellErrors()
+{
+    if (m_sales->hasError())
+        QMessageBox::critical(this, tr("Error"), m_sales->takeErrors());
+}
+
+QString TabDashboard::getUsername() const
+{
+    const EntityUser* user = AppContext::instance()->currentUser();
+    if (!user)
+        return QString();
+    // The blank between two empty names is a text too, so the user name only stands in where that is left out.
+    const QString name = user->getFirstName() + ' ' + user->getLastName();
+    return name.isEmpty() ? user->getUserName() : name;
+}
+
+QString TabDashboard::getSalesChartData()
+{
+    const Period period;
+    EntityPool pool;
+    const EntityPoolScope scope(pool);
+    QJsonArray dates;
+    QJsonArray counts;
+    QJsonArray totals;
+    for (const EntitySalesSummaryInfo* day :
+         m_sales->getDailySales(period.from, period.to, BusinessPenjualan::AllUsers)) {
+        dates.append(dayText(day->getDate()));
+        counts.append(QString::number(day->getSalesCount()));
+        totals.append(QString::number(day->getTotal()));
+    }
+    tellErrors();
+    return compactText({{"dates", dates},
+                        {"nsales", counts},
+                        {"totalsales", totals},
+                        {"fromdate", limitText(period.from)},
+                        {"todate", limitText(period.to)}});
+}
+
+QString TabDashboard::getSoldItemsData()
+{
+    const Period period;
+    EntityPool pool;
+    const EntityPoolScope scope(pool);
+    QJsonArray names;
+    QJsonArray quantities;
+    QJsonArray totals;
+    for (const EntitySoldItem* item : m_sales->getSoldItems(period.from, period.to, "desc", "total_qty", "")) {
+        names.append(item->getNama());
+        quantities.append(QString::number(item->getTotalQty()));
+        totals.append(QString::number(item->getTotalPrice()));
+    }
+    tellErrors();
+    return compactText({{"items", names},
+                        {"nsales", quantities},
+                        {"totalsales", totals},
+                        {"fromdate", limitText(period.from)},
+                        {"todate", limitText(period.to)}});
+}
+
+QString TabDashboard::getLocalization() const
+{
+    const QLocale locale(AppContext::instance()->locale());
+    // Where the sign of the currency stands, learnt from a sample without cents: amounts are whole units.
+    QString money = locale.toCurrencyString(1, locale.currencySymbol());
+    money.replace(locale.toString(1), "%1");
+    return compactText({{"currency", locale.currencySymbol()},
+                        {"money", money},
+                        {"group", locale.toString(1000).size() > 4 ? QString(locale.groupSeparator()) : QString()}});
+}
+
+QString TabDashboard::translated(const QString& text) const
+{
+    // The catalogues know the page's texts under the name of its script.
+    return QCoreApplication::translate("dashboard", text.toUtf8().constData());
+}

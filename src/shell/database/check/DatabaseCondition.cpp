@@ -1,0 +1,183 @@
+#include "shell/database/check/DatabaseCondition.h"
+
+#include "app/context/ConnectionSettings.h"
+#include "app/registry/AppBusinessRegistry.h"
+#include "app/registry/AppMapperRegistry.h"
+#include "kor/business/KorBusinessLogic.h"
+#include "kor/entity/KorColumnMap.h"
+#include "kor/entity/KorMetaDataMap.h"
+#include "kor/persistence/KorDataMapper.h"
+#include "kor/persistence/KorJoinMapper.h"
+#include "kor/persistence/KorQuery.h"
+#include "pos/registry/PosBusinessRegistry.h"
+#include "pos/registry/PosMapperRegistry.h"
+#include "zavel/install/ZavelInstaller.h"
+#include "zavel/registry/ZavelBusinessRegistry.h"
+#include "zavel/registry/ZavelMapperRegistry.h"
+
+#include <QDir>
+#include <QHash>
+#include <QSet>
+
+namespace
+{
+QList<KorDataMapper*> allMappers()
+{
+    QList<KorDataMapper*> mappers;
+    for (KorDataMapper* mapper : AppMapperRegistry::instance()->all() + PosMapperRegistry::instance()->all() +
+                                     ZavelMapperRegistry::instance()->all())
+        mappers += QList<KorDataMapper*>{mapper} + mapper->lineMappers();
+    return mappers;
+}
+
+QList<KorBusinessLogic*> allServices()
+{
+    return AppBusinessRegistry::instance()->all() + PosBusinessRegistry::instance()->all() +
+           ZavelBusinessRegistry::instance()->all();
+}
+
+QString reference(const QString& table, const QString& column) { return table + '.' + column; }
+
+/** The references that a table is created with, but those that databases of an earlier version do without. */
+QStringList referencesOf(const KorDataMapper& mapper)
+{
+    static const QSet<QString> later{"acquisition.po_id", "acquisition_detail.po_detail_id",
+                                     "purchase_order_detail.purchase_order_id"};
+    QSet<QString> columns;
+    for (const KorColumnMap* column : mapper.metaData()->columns())
+        columns.insert(column->columnName());
+    QStringList references;
+    for (const KorJoinMapper* join : mapper.joins()) {
+        const QString found = reference(mapper.tableName(), join->localColumn());
+        if (columns.contains(join->localColumn()) && !later.contains(found))
+            references.append(found);
+    }
+    return references;
+}
+
+} // namespace
+
+DatabaseCondition DatabaseCondition::read(const QString& version)
+{
+    DatabaseCondition condition;
+    condition.readTables();
+    if (!version.isEmpty() && condition.m_missingTables.isEmpty() &&
+        version.toDouble() >= ZavelInstaller().getAppVersion())
+        condition.readRights();
+    return condition;
+}
+
+void DatabaseCondition::readTables()
+{
+    KorQuery query;
+    if (!query.exec("SELECT c.relname, k.contype::text, a.attname FROM pg_class c "
+                    "LEFT JOIN pg_constraint k ON k.conrelid = c.oid AND k.contype IN ('p', 'f') "
+                    "LEFT JOIN pg_attribute a ON a.attrelid = c.oid AND a.attnum = k.conkey[1] "
+                    "WHERE c.relkind IN ('r', 'p') AND pg_table_is_visible(c.oid) "
+                    "AND c.relnamespace <> 'pg_catalog'::regnamespace")) {
+        m_hasTables = true;
+        return;
+    }
+    QSet<QString> tables;
+    QSet<QString> withKey;
+    QSet<QString> references;
+    while (query.next()) {
+        const QString table = query.value(0).toString();
+        tables.insert(table);
+        if (query.value(1).toString() == "p")
+            withKey.insert(table);
+        if (query.value(1).toString() == "f")
+            references.insert(reference(table, query.value(2).toString()));
+    }
+    for (const KorDataMapper* mapper : allMappers()) {
+        const QString& table = mapper->tableName();
+        m_hasTables = m_hasTables || tables.contains(table);
+        if (!tables.contains(table)) {
+            m_missingTables.append(table);
+            continue;
+        }
+        if (!withKey.contains(table))
+            m_tablesWithoutKey.append(table);
+        for (const QString& wanted : referencesOf(*mapper)) {
+            if (!references.contains(wanted))
+                m_missingReferences.append(wanted);
+        }
+    }
+    // Some mappers read over the table of another.
+    for (QStringList* names : {&m_missingTables, &m_tablesWithoutKey, &m_missingReferences})
+        names->removeDuplicates();
+}
+
+void DatabaseCondition::readRights()
+{
+    KorQuery query;
+    if (!query.exec("SELECT business.name, permissions.permission_key FROM business "
+                    "LEFT JOIN permissions ON permissions.business_id = business.id"))
+        return;
+    QHash<QString, QSet<int>> registered;
+    while (query.next())
+        registered[query.value(0).toString()].insert(query.value(1).toInt());
+    m_anyRights = !registered.isEmpty();
+    for (const KorBusinessLogic* service : allServices()) {
+        bool complete = registered.contains(service->name());
+        for (const KorPermission& permission : service->getPermissions())
+            complete = complete && registered.value(service->name()).contains(permission.first);
+        if (!complete)
+            m_incompleteServices.append(service->name());
+    }
+}
+
+bool DatabaseCondition::isUsable() const
+{
+    return m_missingTables.isEmpty() && m_tablesWithoutKey.isEmpty() && m_anyRights;
+}
+
+bool DatabaseCondition::isWhole() const
+{
+    return isUsable() && m_missingReferences.isEmpty() && m_incompleteServices.isEmpty();
+}
+
+QString DatabaseCondition::some(const QStringList& names)
+{
+    constexpr int shown = 5;
+    const QString list = names.mid(0, shown).join(", ");
+    return names.size() <= shown ? list : tr("%1 and %2 more").arg(list).arg(names.size() - shown);
+}
+
+QString DatabaseCondition::restoreAgain()
+{
+    return tr("Restore your last backup once more, into a new database: rename the file %1, start the program, and "
+              "choose the restore in the wizard that comes up.")
+        .arg(QDir::toNativeSeparators(ConnectionSettings::defaultPath()));
+}
+
+QString DatabaseCondition::explanation() const
+{
+    if (!m_hasTables || isWhole())
+        return {};
+    if (!m_missingTables.isEmpty())
+        return tr("The database is not complete: there are tables missing (%1). An installation or the restore of a "
+                  "backup was cut short.")
+                   .arg(some(m_missingTables)) +
+               "\n\n" + tr("If nothing was ever sold with it, install it anew under \"Setup\".") + "\n\n" +
+               tr("If sales were made with it, go back to a backup.") + ' ' + restoreAgain();
+    if (!m_tablesWithoutKey.isEmpty())
+        return tr("The restore of a backup was cut short: there are tables without a primary key (%1), and rows may "
+                  "be missing.")
+                   .arg(some(m_tablesWithoutKey)) +
+               "\n\n" + restoreAgain();
+    if (!m_anyRights)
+        return tr("The installation was cut short: nobody has any right yet. Install the database anew under "
+                  "\"Setup\".");
+    if (!m_missingReferences.isEmpty())
+        return tr("The restore of a backup was cut short before its end: references between tables are missing (%1). "
+                  "The rows are there, but the database does not watch over them: a record that others need can be "
+                  "deleted.")
+                   .arg(some(m_missingReferences)) +
+               "\n\n" + restoreAgain();
+    return tr("An installation or an update was cut short: the rights of some services are not complete (%1).")
+               .arg(some(m_incompleteServices)) +
+           "\n\n" +
+           tr("Run \"Update\" under Configuration > General, \"Setup\"; it keeps what the tables hold. After a first "
+              "installation that was cut short, with nothing entered yet, install \"Clean\" instead.");
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "shell/database/converter/Conversion.h"
+
+class PurchasingService;
+
+/** What taking over purchases and payments has in common: known by their numbers, with lines in a second table. */
+class DocumentStep
+{
+    Q_DECLARE_TR_FUNCTIONS(DocumentStep)
+
+public:
+    DocumentStep(Conversion& run, PurchasingService* service) : m_run(run), m_service(service) {}
+    virtual ~DocumentStep();
+    Q_DISABLE_COPY(DocumentStep)
+
+    void convert(const LegacyRow& row);
+    /**
+     * The last document of a run that was broken off may stand without its journal rows or its dues, which follow from
+     * a save: it is saved once more.
+     */
+    void end();
+
+protected:
+    /** The number of the document in this row. */
+    [[nodiscard]] virtual QString numberIn(const LegacyRow& row) const = 0;
+    /** The stored document of that number, or null. */
+    [[nodiscard]] virtual KorEntity* stored(const QString& no) = 0;
+    virtual void convertNew(const LegacyRow& row, const QString& no) = 0;
+
+    [[nodiscard]] Conversion& run() const { return m_run; }
+    /** Counts a line; false for one that was deleted in the former system. */
+    [[nodiscard]] bool takesLine(const LegacyRow& line, const QString& key);
+    /** The row's date; where it has none, the other one, and the row is marked. */
+    [[nodiscard]] QDate dateOr(const QDate& date, const QDate& other);
+    bool save(KorEntity& document, const QString& no, int lineCount);
+
+private:
+    Conversion& m_run;
+    PurchasingService* m_service;
+    int m_latest = KorNoValue;
+};

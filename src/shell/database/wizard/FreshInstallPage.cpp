@@ -1,0 +1,49 @@
+#include "shell/database/wizard/FreshInstallPage.h"
+
+#include "shell/database/check/ReplaceQuestion.h"
+#include "shell/database/wizard/AppInstallerWizard.h"
+#include "shell/database/wizard/WizardConnection.h"
+
+#include <QLineEdit>
+
+FreshInstallPage::FreshInstallPage(QWidget* parent)
+    : DetailsPage(parent), m_settingsPath(WizardConnection::settingsPath())
+{
+    setTitle(tr("Fresh Installation Details"));
+    setSubTitle(tr("Below you should enter your database connection details and administrator account profiles."));
+    m_connection.host = addLine(tr("Hostname:"), "dbserverfresh.hostname");
+    m_connection.user = addLine(tr("Username:"), "dbserverfresh.username");
+    m_connection.password = addPassword(tr("Password:"), "dbserverfresh.password");
+    m_connection.database = addLine(tr("Database Name:"), "dbserverfresh.dbname");
+    m_connection.port = addPort(tr("Database Port:"), "dbserverfresh.dbport");
+    m_adminName = addLine(tr("Admin Username:"), "admin.username");
+    addPassword(tr("Admin Password:"), "admin.password");
+    m_connection.database->setToolTip(tr("The database has to exist on the server already"));
+}
+
+void FreshInstallPage::initializePage()
+{
+    DetailsPage::initializePage();
+    if (m_adminName->text().isEmpty())
+        m_adminName->setText("admin");
+}
+
+bool FreshInstallPage::validatePage()
+{
+    if (m_nothingToInstall)
+        return true;
+    const ConnectionSettings connection = m_connection.read();
+    if (!WizardConnection::open(this, connection))
+        return false;
+    const ReplaceQuestion::Answer answer = ReplaceQuestion::ask(this, ReplaceQuestion::UseToo);
+    if (answer == ReplaceQuestion::Leave || !WizardConnection::save(this, connection, m_settingsPath))
+        return false;
+    if (answer == ReplaceQuestion::Replace)
+        return true;
+    // The page behind this one would install. The wizard asks for a last validation before it closes.
+    m_nothingToInstall = true;
+    wizard()->accept();
+    return false;
+}
+
+int FreshInstallPage::nextId() const { return AppInstallerWizard::Conclusion; }

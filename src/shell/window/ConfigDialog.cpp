@@ -1,0 +1,213 @@
+#include "shell/window/ConfigDialog.h"
+
+#include "app/configuration/BusinessConfiguration.h"
+#include "app/context/AppContext.h"
+#include "app/context/ConnectionSettings.h"
+#include "app/context/DatabaseManager.h"
+#include "kor/business/KorServiceDirectory.h"
+#include "kor/install/KorInstallerThread.h"
+#include "shell/database/check/ReplaceQuestion.h"
+#include "shell/window/RestartStatus.h"
+#include "zavel/install/ZavelInstaller.h"
+
+#include "ui_ConfigDialog.h"
+
+#include <QDir>
+#include <QEventLoop>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QPointer>
+#include <QTimer>
+
+namespace
+{
+constexpr int settleTime = 1000;
+constexpr int closingTime = 2000;
+} // namespace
+
+ConfigDialog::ConfigDialog(QWidget* parent)
+    : QDialog(parent), m_ui(std::make_unique<Ui::ConfigDialog>()), m_settingsPath(ConnectionSettings::defaultPath()),
+      m_configuration(service<BusinessConfiguration>("Configuration"))
+{
+    m_ui->setupUi(this);
+    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+    setWindowIcon(QIcon(":/icons/Beverage-Coffee-02.png"));
+    m_ui->txtLocale->addItems({"en_US", "id_ID"});
+    connect(this, &ConfigDialog::onClearMemory, this, &ConfigDialog::onClearMemory_trigered);
+    QDir().mkpath(QFileInfo(m_settingsPath).path());
+    m_ui->tabWidget->setCurrentIndex(0);
+    loadSettings();
+    QTimer::singleShot(0, m_ui->txtDBHost, [this] { m_ui->txtDBHost->setFocus(); });
+}
+
+ConfigDialog::~ConfigDialog() = default;
+
+bool ConfigDialog::isConnected()
+{
+    const DatabaseManager* manager = AppContext::instance()->databaseManager();
+    return manager && manager->isOpen();
+}
+
+ConnectionEdits ConfigDialog::connectionEdits() const
+{
+    return {m_ui->txtDBHost, m_ui->txtDBName, m_ui->txtDBUser, m_ui->txtDBPassword, m_ui->txtDBPort};
+}
+
+void ConfigDialog::loadSettings()
+{
+    if (const KorLogger* logger = AppContext::instance()->logger())
+        m_ui->txtLogFile->setText(logger->filePath());
+    const ConnectionSettings settings = ConnectionSettings::read(m_settingsPath).withDefaults();
+    connectionEdits().show(settings);
+    loadLocalization();
+    m_ui->cbShowSidebar->setChecked(settings.showSidebar);
+    m_ui->cbShowDashboard->setChecked(settings.showDashboard);
+}
+
+void ConfigDialog::loadLocalization()
+{
+    // Without a connection every read would wait for a server that is not there.
+    if (!m_configuration || !isConnected())
+        return;
+    m_localization = m_configuration->getLocalization();
+    m_configuration->clearErrors();
+    m_ui->txtDateTimeFormat->setText(m_localization->getDateTimeFormat());
+    m_ui->txtLocale->setCurrentText(m_localization->getLocale());
+}
+
+bool ConfigDialog::saveSettings()
+{
+    ConnectionSettings settings = connectionEdits().read();
+    settings.showSidebar = m_ui->cbShowSidebar->isChecked();
+    settings.showDashboard = m_ui->cbShowDashboard->isChecked();
+    if (!settings.write(m_settingsPath)) {
+        QMessageBox::critical(this, tr("Error"), tr("Can't write the settings file: %1").arg(m_settingsPath));
+        return false;
+    }
+    saveLocalization();
+    waitFor(settleTime);
+    emit onUpdateDBConf();
+    if (m_reconnect)
+        m_reconnect();
+    // What was read before may belong to another database by now, and a saved record does not know its new version.
+    loadLocalization();
+    return true;
+}
+
+void ConfigDialog::saveLocalization()
+{
+    // On the connection as it was before this change.
+    if (!m_localization || m_localization->getId() == KorNoValue || !isConnected())
+        return;
+    m_localization->setDateTimeFormat(m_ui->txtDateTimeFormat->text());
+    m_localization->setLocale(m_ui->txtLocale->currentText());
+    if (!m_configuration->update(m_localization))
+        QMessageBox::critical(this, tr("Error"), m_configuration->takeErrors());
+    m_configuration->clearErrors();
+}
+
+void ConfigDialog::on_btnSaveDBConf_clicked() { saveSettings(); }
+
+void ConfigDialog::on_buttonBox_accepted()
+{
+    if (saveSettings())
+        accept();
+}
+
+void ConfigDialog::waitFor(int milliseconds)
+{
+    const QPointer<QWidget> focused = focusWidget();
+    setEnabled(false);
+    QEventLoop loop;
+    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+    loop.exec();
+    setEnabled(true);
+    if (focused)
+        focused->setFocus();
+}
+
+void ConfigDialog::done(int result)
+{
+    if (m_installing) {
+        QMessageBox::information(this, tr("Info"), tr("Please wait until the installation completed."));
+        return;
+    }
+    QDialog::done(result);
+}
+
+void ConfigDialog::on_btnRestart_clicked()
+{
+    done(Accepted);
+    emit onRestart();
+    QCoreApplication::exit(restartStatus);
+}
+
+void ConfigDialog::on_installBtn_clicked()
+{
+    m_ui->txtStatus->clear();
+    if (!isConnected()) {
+        errorString(tr("There is no connection to a database yet. Please save one under \"Database\" first."));
+        return;
+    }
+    const bool isUpdate = m_ui->rbInstallUpdate->isChecked();
+    if (!isUpdate && ReplaceQuestion::ask(this) != ReplaceQuestion::Replace)
+        return;
+
+    auto* installer = new ZavelInstaller;
+    installer->setLogger(AppContext::instance()->logger());
+    installer->setType(isUpdate ? KorInstaller::UpdateInstall : KorInstaller::FreshInstall);
+    installer->setDateFormat(m_ui->txtDateTimeFormat->text());
+    installer->setLocale(m_ui->txtLocale->currentText());
+    connect(installer, &KorInstaller::onProgress, this, &ConfigDialog::onProgress);
+    connect(installer, &KorInstaller::error, this, &ConfigDialog::errorString);
+    connect(installer, &KorInstaller::finished, this, [this] {
+        setInstalling(false);
+        loadLocalization();
+    });
+    setInstalling(true);
+    startInstaller(installer);
+}
+
+void ConfigDialog::setInstalling(bool installing)
+{
+    m_installing = installing;
+    // One run at a time, and nobody else at the database meanwhile.
+    for (QWidget* widget : std::initializer_list<QWidget*>{m_ui->installBtn, m_ui->btnSaveDBConf, m_ui->buttonBox})
+        widget->setEnabled(!installing);
+}
+
+void ConfigDialog::onProgress(int perc, const QString& status)
+{
+    m_ui->txtStatus->appendPlainText(QString("[%1%] %2").arg(perc).arg(status));
+}
+
+void ConfigDialog::errorString(const QString& err) { m_ui->txtStatus->insertPlainText(err); }
+
+void ConfigDialog::on_btnListEntities_clicked()
+{
+    QString text;
+    const QList<KorEntity*> entities = AppContext::instance()->liveEntities();
+    for (int i = 0; i < entities.size(); ++i)
+        text += QString("child #%1:%2 id:%3\r\n")
+                    .arg(i)
+                    .arg(QLatin1String(entities.at(i)->metaObject()->className()))
+                    .arg(entities.at(i)->getId());
+    m_ui->txtStatusEntities->setPlainText(text);
+}
+
+void ConfigDialog::on_btnKillEntities_clicked()
+{
+    if (QMessageBox::question(this, tr("Question"), tr("Are you sure all the windows has been closed?"),
+                              QMessageBox::Yes | QMessageBox::No) != QMessageBox::Yes)
+        return;
+    emit onCloseAllTab();
+    waitFor(closingTime);
+    emit onClearMemory();
+}
+
+void ConfigDialog::onClearMemory_trigered()
+{
+    AppContext::instance()->resetEntityPool();
+    on_btnListEntities_clicked();
+    loadLocalization();
+}

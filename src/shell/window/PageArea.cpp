@@ -1,0 +1,142 @@
+#include "shell/window/PageArea.h"
+
+#include "kor/widgets/KorTab.h"
+#include "shell/window/PageBoxes.h"
+
+#include <QAbstractButton>
+#include <QTabWidget>
+
+PageArea::PageArea(QTabWidget* tabs) : QObject(tabs), m_tabs(tabs), m_factories(allTabFactories())
+{
+    tabs->setTabsClosable(true);
+}
+
+bool PageArea::open(const QString& className)
+{
+    const int index = find(className);
+    if (index >= 0) {
+        show(index);
+        return false;
+    }
+    // A page forgets where it wants the keys when it moves into the window.
+    KorTab* tab = make(className);
+    QWidget* inner = tab->focusWidget();
+    tab->setParent(m_tabs->window());
+    add(tab);
+    if (inner)
+        inner->setFocus(Qt::OtherFocusReason);
+    return true;
+}
+
+KorTab* PageArea::make(const QString& className)
+{
+    KorTab* tab = m_factories.value(className)();
+    connect(tab, &KorTab::onclose, this, [this, className] { removeClass(className); });
+    return tab;
+}
+
+void PageArea::openReport(KorTab* report)
+{
+    for (int index = 0; index < m_tabs->count(); ++index) {
+        if (m_tabs->widget(index)->windowTitle() == report->windowTitle()) {
+            delete report;
+            show(index);
+            return;
+        }
+    }
+    connect(report, &KorTab::onclose, this, &PageArea::removeReport);
+    connect(report, &QWidget::windowTitleChanged, this,
+            [this, report](const QString& title) { m_tabs->setTabText(m_tabs->indexOf(report), title); });
+    add(report);
+}
+
+void PageArea::retranslate()
+{
+    const int shown = m_tabs->currentIndex();
+    // Close buttons keep the words that they were made with.
+    m_tabs->setTabsClosable(false);
+    m_tabs->setTabsClosable(true);
+    for (int index = 0; index < m_tabs->count(); ++index) {
+        QWidget* page = m_tabs->widget(index);
+        const QString className = page->metaObject()->className();
+        // A report speaks the new language by itself, when the same event reaches it.
+        if (!knows(className))
+            continue;
+        // A page holds no unsaved work, and its lists have to be read for their words anyway.
+        KorTab* successor = make(className);
+        const bool differs = PageBoxes(*page).putInto(*successor);
+        m_tabs->removeTab(index);
+        m_tabs->insertTab(index, successor, successor->windowTitle());
+        page->deleteLater();
+        auto* search = successor->findChild<QAbstractButton*>("btnSearch");
+        if (differs && search)
+            search->click();
+    }
+    m_tabs->setCurrentIndex(shown);
+    emit changed();
+}
+
+void PageArea::add(QWidget* page)
+{
+    show(m_tabs->addTab(page, page->windowTitle()));
+    emit changed();
+}
+
+void PageArea::show(int index)
+{
+    m_tabs->setCurrentIndex(index);
+    m_tabs->setFocus(Qt::OtherFocusReason);
+    focusPage();
+}
+
+void PageArea::focusPage()
+{
+    // On into the page, to where it had the keys last.
+    const QWidget* page = m_tabs->currentWidget();
+    if (QWidget* inner = page ? page->focusWidget() : nullptr)
+        inner->setFocus(Qt::OtherFocusReason);
+}
+
+int PageArea::find(const QString& className, const QString& title) const
+{
+    for (int index = 0; index < m_tabs->count(); ++index) {
+        const QWidget* page = m_tabs->widget(index);
+        if (className == QLatin1String(page->metaObject()->className()) &&
+            (title.isNull() || title == page->windowTitle()))
+            return index;
+    }
+    return -1;
+}
+
+void PageArea::remove(int index)
+{
+    // The tab bar has the keys meanwhile: out of a page that goes they would jump into the next one's first field.
+    m_tabs->setFocus(Qt::OtherFocusReason);
+    if (QWidget* page = m_tabs->widget(index))
+        page->deleteLater();
+    m_tabs->removeTab(index);
+    emit changed();
+    focusPage();
+}
+
+void PageArea::removeClass(const QString& className)
+{
+    const int index = find(className);
+    if (index >= 0)
+        remove(index);
+}
+
+void PageArea::removeReport(const QWidget* report)
+{
+    const QString className = report->metaObject()->className();
+    const QString title = report->windowTitle();
+    for (int index = find(className, title); index >= 0; index = find(className, title))
+        remove(index);
+}
+
+void PageArea::removeAll()
+{
+    while (m_tabs->count() > 0)
+        remove(0);
+    m_tabs->clear();
+}

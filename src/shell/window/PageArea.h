@@ -1,0 +1,46 @@
+#pragma once
+
+#include "shell/window/TabFactories.h"
+
+#include <QObject>
+
+class QTabWidget;
+class QWidget;
+
+/** The open pages of the main window: each class at most once, reports told apart by their titles as well. */
+class PageArea final : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit PageArea(QTabWidget* tabs);
+
+    [[nodiscard]] bool knows(const QString& className) const { return m_factories.contains(className); }
+    /** True when a new page was opened; an open page of that class is only shown. The class has to be known. */
+    bool open(const QString& className);
+    /** Shows a new report, or the open one of that title, and the new one goes. Takes the report over. */
+    void openReport(KorTab* report);
+    /** The first page of that class and, where one is given, of that title; -1 for none. */
+    [[nodiscard]] int find(const QString& className, const QString& title = QString()) const;
+
+    void remove(int index);
+    /** Removes the page of that class, if there is one. */
+    void removeClass(const QString& className);
+    void removeReport(const QWidget* report);
+    void removeAll();
+    /** Makes every page anew in the language in use; what stands in its boxes stays. */
+    void retranslate();
+
+signals:
+    /** A page has come or gone. */
+    void changed();
+
+private:
+    [[nodiscard]] KorTab* make(const QString& className);
+    void add(QWidget* page);
+    void show(int index);
+    void focusPage();
+
+    QTabWidget* m_tabs;
+    TabFactories m_factories;
+};

@@ -1,0 +1,52 @@
+#include "kor/business/KorServiceTransaction.h"
+#include "zavel/commission/DataMapperAllAgentCommision.h"
+#include "zavel/commission/DataMapperKomisiAgen.h"
+#include "zavel/commission/DataMapperKomisiAgenDetail.h"
+#include "zavel/service/BusinessPenjualan.h"
+
+// What agents earn.
+
+EntityKomisiAgen* BusinessPenjualan::findKomisiAgen(int id)
+{
+    return static_cast<EntityKomisiAgen*>(
+        read(m_mappers.commissions->findById(id), m_mappers.commissions, "findKomisiAgen"));
+}
+
+bool BusinessPenjualan::insertCommision(EntityKomisiAgen* payment)
+{
+    return written(m_mappers.commissions->insert(payment), m_mappers.commissions, "insertCommision");
+}
+
+bool BusinessPenjualan::updateCommision(EntityKomisiAgen* payment)
+{
+    return written(m_mappers.commissions->update(payment), m_mappers.commissions, "updateCommision");
+}
+
+bool BusinessPenjualan::remove(EntityKomisiAgen* payment)
+{
+    DataMapperKomisiAgenDetail* lines = m_mappers.commissions->lines();
+    return inOneTransaction(*this, "remove", [this, payment, lines] {
+        return written(lines->removeByPayment(payment->getId()), lines, "remove") &&
+               written(m_mappers.commissions->remove(payment), m_mappers.commissions, "remove");
+    });
+}
+
+QList<EntityKomisiAgen*> BusinessPenjualan::searchKomisiAgen(const CommissionFilter& filter)
+{
+    return read(m_mappers.commissions->search(filter), m_mappers.commissions, "searchKomisiAgen");
+}
+
+EntityKomisiAgen* BusinessPenjualan::getKomisiAgenByInvoiceId(int invoiceId)
+{
+    DataMapperKomisiAgenDetail* lines = m_mappers.commissions->lines();
+    const EntityKomisiAgenDetail* line = read(lines->findByInvoice(invoiceId), lines, "getKomisiAgenByInvoiceId");
+    if (!line)
+        return nullptr;
+    return static_cast<EntityKomisiAgen*>(read(m_mappers.commissions->findById(line->getKomisiAgenID()),
+                                               m_mappers.commissions, "getKomisiAgenByInvoiceId"));
+}
+
+QList<EntityAllKomisiAgen*> BusinessPenjualan::searchInvoiceForAgentCommision(const AgentSalesFilter& filter)
+{
+    return read(m_mappers.agentSales->search(filter), m_mappers.agentSales, "searchInvoiceForAgentCommision");
+}

@@ -1,0 +1,17 @@
+#include "zavel/commission/CommissionAmount.h"
+
+#include "app/context/AppContext.h"
+#include "zavel/commission/EntityKomisiAgenDetail.h"
+
+std::unique_ptr<Money> commissionOf(const Invoice& invoice, double percent)
+{
+    return std::unique_ptr<Money>(invoice.getGrandTotal()->multiply(percent / 100));
+}
+
+void setCommission(EntityKomisiAgenDetail* line, double percent)
+{
+    line->setCommisionPerc(percent);
+    line->setCommision(commissionOf(*line->getInvoice(), percent).get());
+}
+
+QString percentText(double percent) { return QLocale(AppContext::instance()->locale()).toString(percent, 'g', 10); }

@@ -1,0 +1,73 @@
+#include "zavel/commission/DataMapperAllAgentCommision.h"
+
+#include "kor/entity/KorMetaDataMap.h"
+#include "kor/persistence/KorPaging.h"
+#include "pos/invoice/DataMapperInvoice.h"
+#include "pos/masterdata/agent/DataMapperAgent.h"
+#include "zavel/commission/CommissionAmount.h"
+#include "zavel/commission/EntityAllKomisiAgen.h"
+#include "zavel/service/SalesFilters.h"
+
+DataMapperAllAgentCommision::DataMapperAllAgentCommision(QObject* parent, DataMapperInvoice* invoices,
+                                                         DataMapperAgent* agents)
+    : AppDataMapper(parent), m_invoices(invoices), m_agents(agents)
+{
+    setName("all agent commision");
+    metaData()->setTableName(invoices->tableName());
+}
+
+KorEntity* DataMapperAllAgentCommision::createEntity() { return new EntityAllKomisiAgen(entityParent()); }
+
+QString DataMapperAllAgentCommision::selectStatement() const
+{
+    const QString agent = m_agents->tableName();
+    return "select " + columnList(*m_invoices, "invoice") + " , " + columnList(*m_agents, "agent_mkn") + " , " +
+           columnList(*m_agents, "agent_ff") +
+           " , komisi_agen_detail.invoice_id as paid_invoice_id from  invoice"
+           " left join invoice_makan_ditempat on invoice.id = invoice_makan_ditempat.invoice_id"
+           " left join invoice_bawa_pulang on invoice.id = invoice_bawa_pulang.invoice_id"
+           " left join invoice_fast_food on invoice.id = invoice_fast_food.invoice_id"
+           " left join " +
+           agent + " agent_mkn on invoice_makan_ditempat.agent_id = agent_mkn.id left join " + agent +
+           " agent_ff on invoice_fast_food.agent_id = agent_ff.id"
+           " left join komisi_agen_detail on komisi_agen_detail.invoice_id = invoice.id";
+}
+
+QList<EntityAllKomisiAgen*> DataMapperAllAgentCommision::search(const AgentSalesFilter& filter)
+{
+    KorPaging paging;
+    paging.addFilter("invoice.invoice_date >= ", dateToSql(filter.from));
+    paging.addFilter(" and invoice.invoice_date <= ", dateToSql(filter.to));
+    if (filter.agentId != KorNoValue) {
+        const QString id = QString::number(filter.agentId);
+        paging.addFilter(" and (invoice_makan_ditempat.agent_id = ", id);
+        paging.addFilter(" or invoice_fast_food.agent_id = ", id);
+        paging.addFilter(") and 1=", "1");
+    } else {
+        paging.addFilter(" and (invoice_makan_ditempat.agent_id is not null or invoice_fast_food.agent_id is not null) "
+                         "and 1 =",
+                         "1");
+    }
+    if (filter.status == EntityAllKomisiAgen::UNPAID)
+        paging.addFilter(" and komisi_agen_detail.invoice_id is null  and 1=", "1");
+    else if (filter.status == EntityAllKomisiAgen::FULL_PAID)
+        paging.addFilter(" and komisi_agen_detail.invoice_id is not null  and 1=", "1");
+    paging.addSort("invoice.invoice_date desc, invoice.id", "desc");
+    return castAll<EntityAllKomisiAgen>(find(&paging));
+}
+
+KorEntity* DataMapperAllAgentCommision::fillFromRow(KorQuery& query, KorEntity* entity)
+{
+    auto* row = static_cast<EntityAllKomisiAgen*>(entity);
+    auto* invoice = static_cast<Invoice*>(m_invoices->fromRow(query));
+    auto* agent = static_cast<EntityAgent*>(m_agents->fromRow(query, "agent_mkn"));
+    if (!agent)
+        agent = static_cast<EntityAgent*>(m_agents->fromRow(query, "agent_ff"));
+    row->setInvoice(invoice);
+    row->setAgent(agent);
+    row->setStatus(query.field("paid_invoice_id").isNull() ? EntityAllKomisiAgen::UNPAID
+                                                           : EntityAllKomisiAgen::FULL_PAID);
+    if (agent && invoice->getGrandTotal())
+        row->setCommision(commissionOf(*invoice, agent->getCommisionPerc()).get());
+    return row;
+}

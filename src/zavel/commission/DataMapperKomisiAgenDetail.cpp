@@ -1,0 +1,44 @@
+#include "zavel/commission/DataMapperKomisiAgenDetail.h"
+
+#include "kor/entity/KorMetaDataMap.h"
+#include "pos/invoice/DataMapperInvoice.h"
+#include "zavel/commission/DataMapperKomisiAgen.h"
+#include "zavel/commission/EntityKomisiAgenDetail.h"
+
+DataMapperKomisiAgenDetail::DataMapperKomisiAgenDetail(DataMapperKomisiAgen* payments, DataMapperInvoice* invoices)
+    : AppDataMapper(payments)
+{
+    setName("komisi agen detail");
+    metaData()->setTableName("komisi_agen_detail");
+    column("komisi_agen_id", "integer not null", "KomisiAgenID");
+    addJoin("KomisiAgenID", payments, "inner", "komisi_agen_id", "id");
+    column("invoice_id", "integer not null", "Invoice.Id");
+    addJoin("Invoice", invoices, "inner", "komisi_agen_detail.invoice_id", "id");
+    column("commision_perc", "numeric not NULL", "CommisionPerc");
+    moneyColumns("commision", "Commision");
+}
+
+KorEntity* DataMapperKomisiAgenDetail::createEntity() { return new EntityKomisiAgenDetail(entityParent()); }
+
+QStringList DataMapperKomisiAgenDetail::indexStatements() const
+{
+    return {index("invoice_id", "(invoice_id)"), index("komisi_agen_id", "(komisi_agen_id)")};
+}
+
+QList<EntityKomisiAgenDetail*> DataMapperKomisiAgenDetail::findByPayment(int paymentId)
+{
+    return castAll<EntityKomisiAgenDetail>(
+        findMany(" where komisi_agen_id = :id order by komisi_agen_detail.id", {{":id", paymentId}}));
+}
+
+EntityKomisiAgenDetail* DataMapperKomisiAgenDetail::findByInvoice(int invoiceId)
+{
+    return static_cast<EntityKomisiAgenDetail*>(
+        findOne(" where invoice_id = :id order by komisi_agen_detail.id", {{":id", invoiceId}}));
+}
+
+bool DataMapperKomisiAgenDetail::removeByPayment(int paymentId)
+{
+    KorQuery query;
+    return execute(query, "delete from komisi_agen_detail where komisi_agen_id = :id", {{":id", paymentId}});
+}

@@ -1,0 +1,148 @@
+#include "zavel/commission/DialogKomisiAgen.h"
+
+#include "app/persistence/AppDataMapper.h"
+#include "kor/business/KorServiceDirectory.h"
+#include "pos/masterdata/agent/AgentTextBox.h"
+#include "zavel/commission/CommissionAmount.h"
+#include "zavel/commission/EntityKomisiAgen.h"
+#include "zavel/commission/TabKomisiAgenDetail.h"
+#include "zavel/list/EntityPenjualanInfo.h"
+#include "zavel/service/BusinessPenjualan.h"
+
+#include "ui_DialogKomisiAgen.h"
+
+namespace
+{
+const EntityKomisiAgenDetail& commissionLine(const KorEntity& line)
+{
+    return static_cast<const EntityKomisiAgenDetail&>(line);
+}
+} // namespace
+
+DialogKomisiAgen::DialogKomisiAgen(QWidget* parent)
+    : SettlementDialog(parent), m_ui(std::make_unique<Ui::DialogKomisiAgen>()),
+      m_sales(service<BusinessPenjualan>("Sales"))
+{
+    m_ui->setupUi(this);
+    m_agentBox = new AgentTextBox(m_ui->txtAgen, service<BusinessAgent>("Agent"));
+    m_agentBox->setNextWidget(m_ui->txtExpenseAccount);
+    connect(m_agentBox, &KorTextBoxExtender::onItemSelected, this, &DialogKomisiAgen::onAgentSelected);
+    setUpSettlement({m_ui->txtAgen, m_ui->datePay, m_ui->txtExpenseAccount, m_ui->lblExpenseAccount, m_ui->tabDetail,
+                     m_ui->txtGrandTotal, m_ui->buttonBox},
+                    {tr("Select an agent"), tr("Add one or more sales invoices"),
+                     tr("Enter the amount paid for this Invoice no: %1"), tr("Please select an Expense Account"),
+                     tr("Please select a valid Expense Account")},
+                    m_ui->tabInvoices, service<BusinessAgent>("Agent"), m_sales);
+    focusLater(m_ui->txtAgen);
+}
+
+DialogKomisiAgen::~DialogKomisiAgen() = default;
+
+// --- the agent and the invoices ------------------------------------------------------------------------------------
+
+void DialogKomisiAgen::openAgent(EntityAgent* agent)
+{
+    takePerson(agent);
+    focusLater(m_ui->txtExpenseAccount);
+}
+
+void DialogKomisiAgen::onAgentSelected() { takePerson(m_agentBox->selectedItem()); }
+
+EntityContact* DialogKomisiAgen::findPerson(const QString& code)
+{
+    // Picked from the list, it has just been read.
+    EntityAgent* picked = m_agentBox->selectedItem();
+    return picked && picked->getKode() == code ? picked : service<BusinessAgent>("Agent")->findByCode(code);
+}
+
+void DialogKomisiAgen::showPerson(const EntityContact* person)
+{
+    const auto* agent = static_cast<const EntityAgent*>(person);
+    m_ui->txtName->setText(agent ? agent->getNama() : QString());
+    m_ui->txtAddress->setText(agent ? agent->getAlamat() : QString());
+    m_ui->txtTelp->setText(agent ? agent->getTelp() : QString());
+    m_ui->txtEmail->setText(agent ? agent->getEmail() : QString());
+    m_ui->txtPerc->setValue(agent ? agent->getCommisionPerc() : 0.0);
+}
+
+QList<KorEntity*> DialogKomisiAgen::readOpenLines(const EntityContact& person)
+{
+    QList<KorEntity*> lines;
+    for (const EntityPenjualanInfo* sale : m_sales->searchPendingInvoiceForAgentCommision(person.getId())) {
+        auto* line = new EntityKomisiAgenDetail(AppDataMapper::entityParent());
+        line->setInvoice(sale->getInvoice());
+        setCommission(line, static_cast<const EntityAgent&>(person).getCommisionPerc());
+        lines.append(line);
+    }
+    return lines;
+}
+
+int DialogKomisiAgen::documentIdOf(const KorEntity& line) const { return commissionLine(line).getInvoice()->getId(); }
+
+QString DialogKomisiAgen::documentNoOf(const KorEntity& line) const
+{
+    return commissionLine(line).getInvoice()->getInvoiceNo();
+}
+
+const Money* DialogKomisiAgen::amountOf(const KorEntity& line) const { return commissionLine(line).getCommision(); }
+
+// --- the money -----------------------------------------------------------------------------------------------------
+
+const KorEntity* DialogKomisiAgen::lineWithoutAmount() const
+{
+    for (const KorEntity* line : m_ui->tabInvoices->lines()) {
+        if (commissionLine(*line).getCommision()->rawAmount() == 0)
+            return line;
+    }
+    return nullptr;
+}
+
+void DialogKomisiAgen::on_txtPaid_textChanged(const QString&) { totalChanged(); }
+
+void DialogKomisiAgen::totalChanged()
+{
+    // What remains to be paid; the payment forms of sales show the opposite sign.
+    const double due = m_ui->txtGrandTotal->value() - m_ui->txtPaid->value();
+    m_ui->txtNetDue->setValue(due);
+    m_ui->lblNetDue->setText(due <= 0 ? tr("Change :") : tr("Less :"));
+}
+
+void DialogKomisiAgen::checkAmounts()
+{
+    // An empty box pays nothing; one that holds no number still has the value of the last one.
+    const double paid = m_ui->txtPaid->text().isEmpty() ? 0 : m_ui->txtPaid->value();
+    if (!m_ui->txtPaid->text().isEmpty() && !m_ui->txtPaid->isValid())
+        addError(m_ui->txtPaid, tr("Please enter a number"));
+    else if (paid <= 0 || paid < m_ui->txtGrandTotal->value())
+        addError(m_ui->txtPaid, tr("The amount paid less than the total invoice"));
+}
+
+// --- the record ----------------------------------------------------------------------------------------------------
+
+void DialogKomisiAgen::setEntity(KorEntity* entity)
+{
+    hold(entity);
+    const auto* payment = held<EntityKomisiAgen>();
+    m_ui->txtKode->setText(payment->getNo());
+    m_ui->datePay->setDate(payment->getPaymentDate());
+    m_ui->txtNoRef->setText(payment->getNoRef());
+    m_ui->txtNotes->setPlainText(payment->getNote());
+    m_ui->txtPaid->setMoney(payment->getAmountPaid());
+    showStored(payment->getAgent(), payment->getBank(), asEntities(payment->getDetails()), false);
+}
+
+KorEntity* DialogKomisiAgen::getEntity()
+{
+    auto* payment = heldOrNew<EntityKomisiAgen>();
+    payment->setAgent(static_cast<EntityAgent*>(person()));
+    payment->setPaymentDate(m_ui->datePay->date());
+    payment->setBank(account());
+    payment->setNoRef(m_ui->txtNoRef->text());
+    payment->setNote(m_ui->txtNotes->toPlainText());
+    payment->setGrandTotal(m_ui->txtGrandTotal->money());
+    payment->setAmountPaid(m_ui->txtPaid->money());
+    payment->setNetDue(m_ui->txtNetDue->money());
+    payment->setDetails(castAll<EntityKomisiAgenDetail>(m_ui->tabInvoices->lines()));
+    payment->setRemovedDetails(castAll<EntityKomisiAgenDetail>(removedLines(m_ui->tabInvoices->lines())));
+    return payment;
+}

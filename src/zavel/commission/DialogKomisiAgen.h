@@ -1,0 +1,50 @@
+#pragma once
+
+#include "pos/cash/settlement/SettlementDialog.h"
+
+#include <memory>
+
+class AgentTextBox;
+class BusinessPenjualan;
+class EntityAgent;
+
+namespace Ui
+{
+class DialogKomisiAgen;
+}
+
+/** Pays an agent's commissions on a group of invoices, all of what they come to. */
+class DialogKomisiAgen final : public SettlementDialog
+{
+    Q_OBJECT
+
+public:
+    explicit DialogKomisiAgen(QWidget* parent = nullptr);
+    ~DialogKomisiAgen() override;
+
+    /** Opens a new payment on this agent, who is borrowed. */
+    void openAgent(EntityAgent* agent);
+
+    KorEntity* getEntity() override;
+    void setEntity(KorEntity* entity) override;
+
+public slots:
+    void onAgentSelected();
+    void on_txtPaid_textChanged(const QString& text);
+
+protected:
+    [[nodiscard]] EntityContact* findPerson(const QString& code) override;
+    void showPerson(const EntityContact* person) override;
+    [[nodiscard]] QList<KorEntity*> readOpenLines(const EntityContact& person) override;
+    [[nodiscard]] int documentIdOf(const KorEntity& line) const override;
+    [[nodiscard]] QString documentNoOf(const KorEntity& line) const override;
+    [[nodiscard]] const Money* amountOf(const KorEntity& line) const override;
+    [[nodiscard]] const KorEntity* lineWithoutAmount() const override;
+    void checkAmounts() override;
+    void totalChanged() override;
+
+private:
+    std::unique_ptr<Ui::DialogKomisiAgen> m_ui;
+    BusinessPenjualan* m_sales;
+    AgentTextBox* m_agentBox;
+};

@@ -1,0 +1,33 @@
+#include "zavel/commission/TableModelAllKomisiAgen.h"
+
+#include "pos/invoice/InvoiceStatusText.h"
+#include "zavel/commission/CommissionAmount.h"
+#include "zavel/commission/EntityAllKomisiAgen.h"
+
+TableModelAllKomisiAgen::TableModelAllKomisiAgen(const QList<KorEntity*>& sales, QObject* parent)
+    : AppEntityModel(sales, parent), m_marks(invoiceStatusMarks())
+{
+    using Sale = EntityAllKomisiAgen;
+    addField<Sale>(QMetaType::QString, tr("Invoice No."),
+                   [](const Sale& sale) { return sale.getInvoice()->getInvoiceNo(); });
+    addField<Sale>(QMetaType::QDateTime, tr("Date"),
+                   [this](const Sale& sale) { return dateText(sale.getInvoice()->getInvoiceDate()); });
+    addField<Sale>(QMetaType::QString, tr("Agent Name"), [](const Sale& sale) { return sale.getAgent()->getNama(); });
+    addMoney<Sale>(tr("Invoice Total"), [](const Sale& sale) { return sale.getInvoice()->getGrandTotal(); });
+    // Today's percent, also where the commission was paid at another one. Sorted by its number, like money.
+    addField<Sale>(
+        moneyType(), tr("% Commision"),
+        [](const Sale& sale) { return percentText(sale.getAgent()->getCommisionPerc()); }, RightAligned);
+    addMoney<Sale>(tr("Total Commision"), [](const Sale& sale) { return sale.getCommision(); });
+    // Its numbers are those of an invoice.
+    addField<Sale>(QMetaType::QString, tr("Status"),
+                   [](const Sale& sale) { return invoiceStatusText(sale.getStatus()); });
+}
+
+QVariant TableModelAllKomisiAgen::data(const QModelIndex& index, int role) const
+{
+    const auto* sale = index.isValid() ? static_cast<const EntityAllKomisiAgen*>(entityAt(index.row())) : nullptr;
+    if (sale && role == Qt::DecorationRole && index.column() == Status)
+        return m_marks.value(sale->getStatus());
+    return AppEntityModel::data(index, role);
+}

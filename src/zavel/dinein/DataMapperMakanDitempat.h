@@ -1,0 +1,29 @@
+#pragma once
+
+#include "zavel/dinein/EntityMakanDitempat.h"
+#include "zavel/order/DataMapperOrder.h"
+
+class DataMapperMeja;
+
+/** The orders on tables, in "makan_ditempat". */
+class DataMapperMakanDitempat final : public DataMapperOrder
+{
+    Q_OBJECT
+
+public:
+    DataMapperMakanDitempat(QObject* parent, DataMapperMember* members, DataMapperMeja* tables,
+                            const ItemPartners& partners);
+
+    KorEntity* createEntity() override;
+    [[nodiscard]] QStringList indexStatements() const override;
+
+    /**
+     * The open orders, and with a status other than 0 those in it as well. A text narrows to the table of exactly
+     * this code or name; it is compared as it comes with the lowered ones, so the caller lowers it, or does not.
+     */
+    [[nodiscard]] QList<EntityMakanDitempat*> getMakanDitempatList(int status, const QString& text);
+
+protected:
+    [[nodiscard]] const Messages& messages() const override;
+    [[nodiscard]] QString statusFailure() const override;
+};

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "pos/invoice/EntityInvoiceLink.h"
+#include "zavel/dinein/EntityMakanDitempat.h"
+
+/** Ties an invoice to the order on a table; an order that is paid apart has several. */
+class EntityInvoiceMakanDitempat final : public EntityInvoiceLink
+{
+    Q_OBJECT
+    KOR_REFERENCE(EntityMakanDitempat, MakanDitempat)
+    KOR_REFERENCE(EntityEmployee, Employee)
+    KOR_REFERENCE(EntityAgent, Agent)
+    KOR_PROPERTY(QDate, DueDate, QDate())
+
+public:
+    using EntityInvoiceLink::EntityInvoiceLink;
+};

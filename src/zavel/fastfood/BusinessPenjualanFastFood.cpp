@@ -1,0 +1,16 @@
+#include "zavel/fastfood/DataMapperInvoiceFastFood.h"
+#include "zavel/fastfood/EntityInvoiceFastFood.h"
+#include "zavel/service/BusinessPenjualan.h"
+
+// Sales over the counter.
+
+EntityInvoiceFastFood* BusinessPenjualan::findFastFoodByInvoiceId(int invoiceId)
+{
+    return static_cast<EntityInvoiceFastFood*>(
+        read(m_mappers.fastFoodInvoices->findByInvoiceId(invoiceId), m_mappers.fastFoodInvoices, "find"));
+}
+
+QList<EntityInvoiceFastFood*> BusinessPenjualan::getFastFoodList(const FastFoodFilter& filter)
+{
+    return read(m_mappers.fastFoodInvoices->getFastFoodList(filter), m_mappers.fastFoodInvoices, "getFastFoodList");
+}

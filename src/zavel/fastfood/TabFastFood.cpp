@@ -1,0 +1,139 @@
+#include "zavel/fastfood/TabFastFood.h"
+
+#include "app/context/AccessCheck.h"
+#include "kor/business/KorServiceDirectory.h"
+#include "pos/masterdata/employee/EmployeeTextBox.h"
+#include "zavel/fastfood/DialogFastFood.h"
+#include "zavel/fastfood/EntityInvoiceFastFood.h"
+#include "zavel/fastfood/TableModelFastFood.h"
+#include "zavel/service/BusinessPenjualan.h"
+#include "zavel/slips/ZavelReportFactory.h"
+
+#include <QComboBox>
+#include <QDateEdit>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTableView>
+
+namespace
+{
+constexpr char businessName[] = "Sales";
+constexpr int filtersPerRow = 4;
+constexpr int rowHeight = 40;
+} // namespace
+
+TabFastFood::TabFastFood(QWidget* parent)
+    : AppDocumentTab({tr("Fast Food"), "tblMeja", businessName}, filtersPerRow, parent)
+{
+    makeFilters();
+    nameButtons();
+    grid()->verticalHeader()->setDefaultSectionSize(rowHeight);
+    grid()->setWordWrap(false);
+    refresh();
+}
+
+void TabFastFood::makeFilters()
+{
+    m_from = filters()->addDate("dateFrom", tr("From Date :"));
+    m_to = filters()->addDate("dateTo", tr("To Date :"));
+    m_status = filters()->addChoice("ddlStatus", tr("Status :"),
+                                    {{tr("All"), 0},
+                                     {tr("Fully Paid"), Invoice::FULL_PAID},
+                                     {tr("Partially Paid"), Invoice::PARTIALLY_PAID},
+                                     {tr("Unpaid"), Invoice::UNPAID}});
+    m_employee =
+        new EmployeeTextBox(filters()->addText("txtEmployee", tr("Waitress :")), service<BusinessEmployee>("Employee"));
+}
+
+void TabFastFood::nameButtons()
+{
+    const auto rename = [this](const char* name, const QString& text) {
+        QPushButton* named = button(name);
+        // A new text takes the key away.
+        const QKeySequence key = named->shortcut();
+        named->setText(text);
+        named->setShortcut(key);
+    };
+    rename("btnAdd", tr("Add New Order"));
+    rename("btnEdit", tr("Edit Order"));
+}
+
+// --- the list ------------------------------------------------------------------------------------------------------
+
+QList<KorEntity*> TabFastFood::readRows(const QString&)
+{
+    m_employee->preventSuggest();
+    FastFoodFilter filter;
+    filter.from = m_from->date();
+    filter.to = m_to->date();
+    filter.status = m_status->currentData().toInt();
+    filter.employeeCode = m_employee->editor()->text().trimmed();
+    QList<KorEntity*> rows;
+    for (EntityInvoiceFastFood* sale : businessAs<BusinessPenjualan>()->getFastFoodList(filter))
+        rows.append(sale);
+    return rows;
+}
+
+KorEntityModel* TabFastFood::createModel(const QList<KorEntity*>& rows) { return new TableModelFastFood(rows, this); }
+
+void TabFastFood::modelApplied()
+{
+    // The names give way to the money and the date, which are never cut.
+    setColumnWidths(grid(), {135, 140, 125, 150, 150, 115, 150});
+}
+
+// --- a sale --------------------------------------------------------------------------------------------------------
+
+int TabFastFood::addKey() const { return BusinessPenjualan::SAVE_INVOICE; }
+
+int TabFastFood::editKey() const { return BusinessPenjualan::SAVE_INVOICE; }
+
+int TabFastFood::deleteKey() const { return BusinessPenjualan::DELETE_SALES; }
+
+bool TabFastFood::asksOnce(int key) const { return key == BusinessPenjualan::SAVE_INVOICE; }
+
+std::unique_ptr<KorDialog> TabFastFood::createDialog() { return std::make_unique<DialogFastFood>(this); }
+
+KorEntity* TabFastFood::readEntity(int id) { return businessAs<BusinessPenjualan>()->findInvoiceFastFood(id); }
+
+QString TabFastFood::notFoundText(int id) const { return tr("Can not find entity #") + QString::number(id); }
+
+bool TabFastFood::editEntity(KorEntity* sale)
+{
+    // To take money is one right, to touch what somebody has sold already is another one. A sale of somebody else's
+    // is passed over, and the walk goes on.
+    return !hasAccess(businessName, BusinessPenjualan::UBAH_PESANAN, sale) || AppDocumentTab::editEntity(sale);
+}
+
+bool TabFastFood::insertEntity(KorEntity* sale)
+{
+    m_soldNow = true;
+    return businessAs<BusinessPenjualan>()->insertInvoice(static_cast<EntityInvoiceFastFood*>(sale));
+}
+
+bool TabFastFood::updateEntity(KorEntity* sale)
+{
+    m_soldNow = false;
+    return businessAs<BusinessPenjualan>()->updateInvoice(static_cast<EntityInvoiceFastFood*>(sale));
+}
+
+void TabFastFood::entitySaved(KorEntity* sale)
+{
+    if (m_soldNow && QMessageBox::question(this, tr("Question"), tr("Do you want to print this invoice ?"),
+                                           QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes)
+        ZavelReportFactory::instance()->printBillFastFood(sale->getId());
+}
+
+bool TabFastFood::removeEntity(KorEntity* sale)
+{
+    return businessAs<BusinessPenjualan>()->deleteSales(static_cast<EntityInvoiceFastFood*>(sale)->getInvoice()) &&
+           !business()->hasError();
+}
+
+QString TabFastFood::deleteQuestion(const KorEntity* entity) const
+{
+    return tr("Are you sure, you want to delete this invoice: %1 ?")
+        .arg(static_cast<const EntityInvoiceFastFood*>(entity)->getInvoice()->getInvoiceNo());
+}

@@ -1,0 +1,61 @@
+#include "zavel/service/BusinessPenjualan.h"
+
+#include "app/context/EntityPool.h"
+#include "kor/business/KorServiceTransaction.h"
+#include "pos/invoice/DataMapperInvoice.h"
+#include "pos/invoice/EntityInvoiceDetail.h"
+#include "pos/invoice/Invoice.h"
+#include "zavel/dinein/DataMapperInvoiceMakanDitempat.h"
+#include "zavel/dinein/EntityInvoiceMakanDitempat.h"
+#include "zavel/fastfood/DataMapperInvoiceFastFood.h"
+#include "zavel/list/DataMapperPenjualanInfo.h"
+#include "zavel/list/EntityPenjualanInfo.h"
+#include "zavel/takeaway/DataMapperInvoiceBawaPulang.h"
+
+// All sales, whatever the way of selling.
+
+QList<EntityPenjualanInfo*> BusinessPenjualan::searchPenjualan(const SalesFilter& filter)
+{
+    return read(m_mappers.salesList->search(filter), m_mappers.salesList, "searchPenjualan");
+}
+
+QList<EntityPenjualanInfo*> BusinessPenjualan::searchPendingInvoiceForAgentCommision(int agentId)
+{
+    return read(m_mappers.salesList->findPendingOfAgent(agentId), m_mappers.salesList,
+                "searchPendingInvoiceForAgentCommision");
+}
+
+bool BusinessPenjualan::deleteSales(Invoice* invoice)
+{
+    const QString operation = "deleteSales";
+    const QHash<QString, DataMapperInvoiceLink*> mappers{{Invoice::Dine, m_mappers.dineInvoices},
+                                                         {Invoice::FastFood, m_mappers.fastFoodInvoices},
+                                                         {Invoice::TakeAway, m_mappers.takeAwayInvoices}};
+    EntityPool pool;
+    const EntityPoolScope scope(pool);
+    return inOneTransaction(*this, operation, [&] {
+        DataMapperInvoiceLink* links = mappers.value(invoice->getInvoiceType());
+        if (!links) {
+            // The transaction ends here too, rolled back: left open, it would swallow the next saves.
+            addError(operation, tr("mapper not found"));
+            return false;
+        }
+        // A row that does not go is noted, and the walk goes on: the invoice at the end tells whether all can stand.
+        const auto removeEach = [&](const auto& rows, KorDataMapper* mapper) {
+            for (KorEntity* row : rows)
+                written(mapper->remove(row), mapper, operation);
+        };
+        if (KorEntity* link = read(links->findByInvoiceId(invoice->getId()), links, operation)) {
+            // Of a split order all links go: its other invoices stay behind without one.
+            if (const auto* dine = qobject_cast<EntityInvoiceMakanDitempat*>(link))
+                removeEach(
+                    read(m_mappers.dineInvoices->findMoneyOfOrder(dine->getMakanDitempat()->getId()), links, operation),
+                    links);
+            else
+                removeEach(QList<KorEntity*>{link}, links);
+        }
+        DataMapperInvoiceDetail* lines = m_mappers.invoices->detailMapper();
+        removeEach(read(lines->findByInvoice(invoice->getId()), lines, operation), lines);
+        return written(m_mappers.invoices->remove(invoice), m_mappers.invoices, operation);
+    });
+}

@@ -1,0 +1,128 @@
+#include "zavel/order/DataMapperOrder.h"
+
+#include "app/context/AppContext.h"
+#include "app/context/EntityPool.h"
+#include "app/persistence/AppDocumentLines.h"
+#include "kor/entity/KorMetaDataMap.h"
+
+// --- lines ---------------------------------------------------------------------------------------------------------
+
+DataMapperOrderDetail::DataMapperOrderDetail(QObject* parent, const QString& tableName, const QString& orderColumn,
+                                             const QString& orderProperty, KorDataMapper* orders,
+                                             const ItemPartners& partners)
+    : ItemLineMapper(parent), m_orderColumn(orderColumn)
+{
+    metaData()->setTableName(tableName);
+    documentColumn(orderColumn, orderProperty, orders);
+    itemColumn(partners);
+    column("qty", "integer not null", "Qty");
+    column("status", "integer not null", "Status");
+    moneyColumns("total", "Total");
+    moneyColumns("price_each", "PriceEach");
+    column("description", "varchar(50) null", "Description");
+    column("kitchen_status", "varchar(255) null", "KitchenStatus");
+}
+
+QStringList DataMapperOrderDetail::indexStatements() const
+{
+    return {index("order", '(' + m_orderColumn + ')'), index("item_id", "(item_id)")};
+}
+
+QList<EntityOrderDetail*> DataMapperOrderDetail::findByOrders(const QList<int>& orderIds)
+{
+    return castAll<EntityOrderDetail>(findMany(
+        " where " + m_orderColumn + " = ANY(:ids) order by " + tableName() + ".id", {{":ids", idList(orderIds)}}));
+}
+
+QList<EntityOrderDetail*> DataMapperOrderDetail::findByOrder(int orderId)
+{
+    return castAll<EntityOrderDetail>(
+        findMany(" where " + m_orderColumn + "=:id order by " + tableName() + ".id", {{":id", orderId}}));
+}
+
+// --- orders --------------------------------------------------------------------------------------------------------
+
+KorEntity* DataMapperOrder::findById(int id)
+{
+    return findOrders(" where " + tableName() + ".id = :id", {{":id", id}}).value(0);
+}
+
+QList<EntityOrder*> DataMapperOrder::findByIds(const QList<int>& ids)
+{
+    return findOrders(" where " + tableName() + ".id = ANY(:ids)", {{":ids", idList(ids)}});
+}
+
+QList<EntityOrder*> DataMapperOrder::findOrders(const QString& tail, Bindings values)
+{
+    const QList<EntityOrder*> orders = castAll<EntityOrder>(findMany(tail, values));
+    if (orders.isEmpty())
+        return orders;
+    QList<int> ids;
+    for (const EntityOrder* order : orders)
+        ids.append(order->getId());
+    QHash<int, EntityOrder::Lines> linesOf;
+    const EntityOrder::Lines lines = m_lines->findByOrders(ids);
+    if (m_lines->hasError()) {
+        setError(m_lines->takeError());
+        return {};
+    }
+    for (EntityOrderDetail* line : lines)
+        linesOf[line->getOrderId()].append(line);
+    for (EntityOrder* order : orders)
+        order->setDetails(linesOf.value(order->getId()));
+    return orders;
+}
+
+bool DataMapperOrder::remove(KorEntity* order) { return removeWithLines(order, linesOf(order)); }
+
+bool DataMapperOrder::updateStatus(EntityOrder* order)
+{
+    KorQuery query;
+    const int user = AppContext::instance()->currentUserId();
+    const bool sent = execute(query,
+                              "update " + tableName() +
+                                  " set status = :status, updatedBy = :user, updatedTime = now(), version = version+1 "
+                                  "where id = :id and version = :version",
+                              {{":status", order->getStatus()},
+                               {":user", user == KorNoValue ? QVariant(QVariant::Int) : QVariant(user)},
+                               {":id", order->getId()},
+                               {":version", order->getVersion()}});
+    if (sent && query.numRowsAffected() > 0) {
+        order->setVersion(order->getVersion() + 1);
+        return true;
+    }
+    if (sent)
+        explainFailedWrite(order);
+    setError(statusFailure() + " \r\n " + takeError());
+    return false;
+}
+
+bool DataMapperOrder::markDone(int orderId)
+{
+    // Read again: the row's version has moved on with every save since the order was opened.
+    EntityPool pool;
+    const EntityPoolScope scope(pool);
+    auto* fresh = static_cast<EntityOrder*>(findById(orderId));
+    if (!fresh) {
+        if (!hasError())
+            setError(tr("Can not find entity with id: %1").arg(orderId));
+        return false;
+    }
+    fresh->setStatus(EntityOrder::DONE);
+    return updateStatus(fresh);
+}
+
+QList<KorEntity*> DataMapperOrder::linesOf(KorEntity* order) const
+{
+    return asEntities(static_cast<EntityOrder*>(order)->getDetails());
+}
+
+QList<KorEntity*> DataMapperOrder::removedLinesOf(KorEntity* order) const
+{
+    return asEntities(static_cast<EntityOrder*>(order)->getRemovedDetails());
+}
+
+void DataMapperOrder::attachLine(KorEntity* line, int orderId)
+{
+    static_cast<EntityOrderDetail*>(line)->setOrderId(orderId);
+}

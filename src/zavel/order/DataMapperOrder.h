@@ -1,0 +1,60 @@
+#pragma once
+
+#include "app/persistence/AppDocumentMapper.h"
+#include "pos/masterdata/item/ItemLineMapper.h"
+#include "zavel/order/EntityOrder.h"
+
+class DataMapperMember;
+
+/** Mapper of the lines of one kind of order. */
+class DataMapperOrderDetail : public ItemLineMapper
+{
+    Q_OBJECT
+
+public:
+    [[nodiscard]] QStringList indexStatements() const override;
+    /** The lines of several orders in one statement, in the order in which they were entered. */
+    [[nodiscard]] QList<EntityOrderDetail*> findByOrders(const QList<int>& orderIds);
+    [[nodiscard]] QList<EntityOrderDetail*> findByOrder(int orderId);
+
+protected:
+    DataMapperOrderDetail(QObject* parent, const QString& tableName, const QString& orderColumn,
+                          const QString& orderProperty, KorDataMapper* orders, const ItemPartners& partners);
+
+private:
+    QString m_orderColumn;
+};
+
+/** Mapper of one kind of order: an order is always read with its lines, and written with them in one transaction. */
+class DataMapperOrder : public AppDocumentMapper
+{
+    Q_OBJECT
+
+public:
+    using AppDocumentMapper::AppDocumentMapper;
+
+    [[nodiscard]] KorEntity* findById(int id) override;
+    bool remove(KorEntity* order) override;
+    /** Writes the status alone. */
+    bool updateStatus(EntityOrder* order);
+    /** Writes that the guests are served and gone, whatever was saved since the order was opened. */
+    bool markDone(int orderId);
+    /** Orders by their ids, with lines; two statements. */
+    [[nodiscard]] QList<EntityOrder*> findByIds(const QList<int>& ids);
+
+    [[nodiscard]] KorDataMapper* lineMapper() const override { return m_lines; }
+    [[nodiscard]] DataMapperOrderDetail* detailMapper() const { return m_lines; }
+
+protected:
+    void setDetailMapper(DataMapperOrderDetail* lines) { m_lines = lines; }
+    /** The orders of this tail with their lines: two statements, whatever their number. */
+    QList<EntityOrder*> findOrders(const QString& tail, Bindings values);
+    [[nodiscard]] virtual QString statusFailure() const = 0;
+
+    [[nodiscard]] QList<KorEntity*> linesOf(KorEntity* order) const override;
+    [[nodiscard]] QList<KorEntity*> removedLinesOf(KorEntity* order) const override;
+    void attachLine(KorEntity* line, int orderId) override;
+
+private:
+    DataMapperOrderDetail* m_lines = nullptr;
+};

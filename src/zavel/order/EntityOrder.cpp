@@ -1,0 +1,96 @@
+#include "zavel/order/EntityOrder.h"
+
+#include <limits>
+
+EntityOrder::EntityOrder(QObject* parent) : KorEntity(parent) {}
+
+EntityOrder::~EntityOrder() { qDeleteAll(m_snapshot); }
+
+qint64 EntityOrder::totalOf(const Lines& lines)
+{
+    qint64 sum = 0;
+    for (const EntityOrderDetail* line : lines)
+        sum += line->getTotal()->rawAmount();
+    return sum;
+}
+
+bool EntityOrder::totalFits(const Lines& lines) { return totalOf(lines) <= std::numeric_limits<int>::max(); }
+
+void EntityOrder::takeSnapshot()
+{
+    qDeleteAll(m_snapshot);
+    m_snapshot.clear();
+    for (const EntityOrderDetail* line : qAsConst(m_details))
+        m_snapshot.append(line->snapshot());
+}
+
+void EntityOrder::compareWithSnapshot()
+{
+    clearChanges();
+    for (EntityOrderDetail* line : qAsConst(m_details)) {
+        bool known = false;
+        bool changed = false;
+        for (const EntityOrderDetail* before : qAsConst(m_snapshot)) {
+            if (before->itemId() != line->itemId())
+                continue;
+            known = true;
+            changed =
+                changed || before->getQty() != line->getQty() || before->getDescription() != line->getDescription();
+        }
+        if (!known)
+            noteNew(line);
+        else if (changed)
+            noteUpdated(line);
+    }
+}
+
+void EntityOrder::mergeLines(const Lines& entered)
+{
+    clearChanges();
+    for (EntityOrderDetail* line : entered) {
+        bool known = false;
+        for (EntityOrderDetail* stored : qAsConst(m_details)) {
+            if (stored->itemId() != line->itemId())
+                continue;
+            known = true;
+            stored->setQty(stored->getQty() + line->getQty());
+            stored->setStatus(EntityOrderDetail::UPDATED);
+            noteUpdated(line);
+        }
+        if (!known)
+            noteNew(line);
+    }
+    m_details += m_newDetails;
+}
+
+void EntityOrder::collectMarkedLines()
+{
+    clearChanges();
+    for (EntityOrderDetail* line : qAsConst(m_details)) {
+        if (line->getStatus() == EntityOrderDetail::UPDATED)
+            noteUpdated(line);
+        else if (line->getStatus() == EntityOrderDetail::NEW)
+            noteNew(line);
+    }
+}
+
+void EntityOrder::clearChanges()
+{
+    m_newDetails.clear();
+    m_updatedDetails.clear();
+    m_changedDetails.clear();
+}
+
+void EntityOrder::noteNew(EntityOrderDetail* line)
+{
+    line->setStatus(EntityOrderDetail::NEW);
+    m_newDetails.append(line);
+    m_changedDetails.append(line);
+}
+
+void EntityOrder::noteUpdated(EntityOrderDetail* line)
+{
+    line->setStatus(EntityOrderDetail::UPDATED);
+    m_updatedDetails.append(line);
+    m_changedDetails.append(line);
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "app/money/Money.h"
+#include "kor/entity/KorEntity.h"
+#include "pos/masterdata/item/EntityItem.h"
+
+/** One menu line of an order, on a table or to take away. */
+class EntityOrderDetail : public KorEntity
+{
+    Q_OBJECT
+    KOR_REFERENCE(EntityItem, Item)
+    KOR_PROPERTY(int, Qty, 0)
+    KOR_PROPERTY(int, Status, NEW)
+    MONEY_PROPERTY(Total)
+    MONEY_PROPERTY(PriceEach)
+    /** What the guest wants done differently. */
+    KOR_PROPERTY(QString, Description, QString())
+    /** What the kitchen reports, in free text. */
+    KOR_PROPERTY(QString, KitchenStatus, QString())
+
+public:
+    /** OUT_OF_STOCK and IN_PROGRESS are declared for the kitchen and never written. */
+    enum MENU_ITEM_STATUS { NEW = 1, OUT_OF_STOCK = 2, IN_PROGRESS = 3, UPDATED = 4 };
+    Q_ENUM(MENU_ITEM_STATUS)
+
+    using KorEntity::KorEntity;
+
+    [[nodiscard]] virtual int getOrderId() const = 0;
+    virtual void setOrderId(int id) = 0;
+    /** An unsaved line of the same kind. The caller owns it. */
+    [[nodiscard]] virtual EntityOrderDetail* createSibling() const = 0;
+    /** A copy with its own money, for comparing after an edit. The caller owns it. */
+    [[nodiscard]] EntityOrderDetail* snapshot() const;
+    [[nodiscard]] int itemId() const { return m_Item ? m_Item->getId() : KorNoValue; }
+};

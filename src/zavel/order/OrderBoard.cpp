@@ -1,0 +1,171 @@
+#include "zavel/order/OrderBoard.h"
+
+#include "app/context/AccessCheck.h"
+#include "kor/business/KorServiceDirectory.h"
+#include "zavel/order/OrderBoardModel.h"
+#include "zavel/order/OrderDialog.h"
+#include "zavel/service/BusinessPenjualan.h"
+#include "zavel/slips/ZavelReportFactory.h"
+
+#include <QHeaderView>
+#include <QLabel>
+#include <QMessageBox>
+#include <QSortFilterProxyModel>
+#include <QTableView>
+
+namespace
+{
+constexpr int boardRowHeight = 44;
+}
+
+OrderBoard::OrderBoard(OrderKind kind, QWidget* parent)
+    : AppTab(parent), m_kind(kind), m_sales(service<BusinessPenjualan>(businessName))
+{}
+
+void OrderBoard::setGrid(QTableView* grid, QLabel* count, const QList<int>& widths)
+{
+    m_grid = grid;
+    m_count = count;
+    m_widths = widths;
+    grid->verticalHeader()->setDefaultSectionSize(boardRowHeight);
+    grid->setWordWrap(false);
+}
+
+// --- the rows ------------------------------------------------------------------------------------------------------
+
+void OrderBoard::refresh()
+{
+    EntityPool read;
+    QList<KorEntity*> rows;
+    {
+        const EntityPoolScope scope(read);
+        if (!readRows(&rows, read.parent()))
+            return;
+    }
+    showRows(rows);
+    m_rows.swap(read);
+}
+
+void OrderBoard::showRows(const QList<KorEntity*>& rows)
+{
+    const EntityOrder* current = selectedOrders().value(0);
+    const int place = current ? placeOf(*current) : KorNoValue;
+
+    const OrderBoardModel* former = m_model;
+    m_model = createModel(rows);
+    applyModel(m_grid, m_model);
+    if (!former)
+        setColumnWidths(m_grid, m_widths);
+    // No clear(): the pool of the rows frees them together.
+    delete former;
+
+    const auto* shown = static_cast<const QSortFilterProxyModel*>(m_grid->model());
+    for (int row = 0; row < rows.size(); ++row) {
+        if (placeOf(*static_cast<const EntityOrder*>(rows.at(row))) != place)
+            continue;
+        m_grid->setCurrentIndex(shown->mapFromSource(m_model->index(row, 0)));
+        break;
+    }
+    m_grid->setFocus();
+    m_count->setText(tr("%1 Items").arg(rows.size()));
+}
+
+QList<EntityOrder*> OrderBoard::selectedOrders() const
+{
+    QList<EntityOrder*> orders;
+    const QList<KorEntity*> rows = m_model ? selectedEntities(m_grid, m_model) : QList<KorEntity*>();
+    for (KorEntity* row : rows)
+        orders.append(static_cast<EntityOrder*>(row));
+    return orders;
+}
+
+void OrderBoard::on_btnRefresh_clicked() { refresh(); }
+
+void OrderBoard::on_btnSearch_clicked() { refresh(); }
+
+void OrderBoard::on_btnClose_clicked() { close(); }
+
+// --- what is done with an order ------------------------------------------------------------------------------------
+
+void OrderBoard::on_btnEdit_clicked()
+{
+    if (!hasAccess(businessName, BusinessPenjualan::UBAH_PESANAN))
+        return;
+    const QList<EntityOrder*> rows = selectedOrders();
+    for (const EntityOrder* row : rows) {
+        if (carriesOrder(*row, Edit) && !editOrder(row->getId()))
+            break;
+    }
+    refresh();
+}
+
+bool OrderBoard::editOrder(int id)
+{
+    EntityPool pool;
+    EntityOrder* order = readOrder(id, pool);
+    if (!order || !hasAccess(businessName, BusinessPenjualan::UBAH_PESANAN, order))
+        return true;
+    order->takeSnapshot();
+    const auto form = createEditForm();
+    form->setEntity(order);
+    form->setSaver([&] {
+        form->getEntity();
+        order->compareWithSnapshot();
+        return updateOrder(order) || failed(m_sales);
+    });
+    if (form->exec() != QDialog::Accepted)
+        return false;
+    // The kitchen sees only what changed.
+    order->setDetails(order->getChangedDetails());
+    sendToKitchen(order);
+    return true;
+}
+
+void OrderBoard::cancelSelectedOrders()
+{
+    if (!hasAccess(businessName, BusinessPenjualan::HAPUS_PESANAN))
+        return;
+    const QList<EntityOrder*> rows = selectedOrders();
+    for (EntityOrder* row : rows) {
+        if (carriesOrder(*row, Cancel))
+            cancelOrder(row);
+    }
+    refresh();
+}
+
+void OrderBoard::on_btnPay_clicked()
+{
+    if (!hasAccess(businessName, BusinessPenjualan::SAVE_INVOICE))
+        return;
+    const QList<EntityOrder*> rows = selectedOrders();
+    if (rows.isEmpty())
+        tell(nothingSelectedText());
+    for (const EntityOrder* row : rows) {
+        EntityPool pool;
+        EntityOrder* order = carriesOrder(*row, Pay) ? readOrder(row->getId(), pool) : nullptr;
+        if (order)
+            payOrder(order);
+    }
+    refresh();
+}
+
+void OrderBoard::sendToKitchen(EntityOrder* order) { ZavelReportFactory::instance()->printMenuOrder(m_kind, order); }
+
+EntityOrder* OrderBoard::readOrder(int id, EntityPool& pool)
+{
+    const EntityPoolScope scope(pool);
+    EntityOrder* order = findOrder(id);
+    if (m_sales->hasError())
+        failed(m_sales);
+    else if (!order)
+        QMessageBox::information(this, tr("Error"), tr("Can not find entity with id: %1").arg(id));
+    return order;
+}
+
+void OrderBoard::tell(const QString& text) { QMessageBox::information(this, tr("Info"), text); }
+
+bool OrderBoard::failed(KorBusinessLogic* service)
+{
+    QMessageBox::critical(this, tr("Error"), service->takeErrors());
+    return false;
+}

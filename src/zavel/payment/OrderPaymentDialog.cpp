@@ -1,0 +1,175 @@
+#include "zavel/payment/OrderPaymentDialog.h"
+
+#include "pos/invoice/EntityInvoiceDetail.h"
+#include "pos/invoice/EntityInvoiceLink.h"
+#include "zavel/order/EntityOrder.h"
+#include "zavel/service/BusinessPenjualan.h"
+
+#include <QLineEdit>
+#include <QMessageBox>
+
+namespace
+{
+QList<EntityInvoiceDetail*> linesOf(const EntityOrder& order, QObject* owner)
+{
+    QList<EntityInvoiceDetail*> lines;
+    for (const EntityOrderDetail* ordered : order.getDetails()) {
+        // Recomputed from price and quantity: the order line's own total may be behind its quantity.
+        auto* line = new EntityInvoiceDetail(owner);
+        line->setItem(ordered->getItem());
+        line->setQty(ordered->getQty());
+        line->setPriceEach(ordered->getPriceEach());
+        line->recomputeTotal();
+        lines.append(line);
+    }
+    return lines;
+}
+} // namespace
+
+// --- opening -------------------------------------------------------------------------------------------------------
+
+bool OrderPaymentDialog::openOrder(EntityOrder* order)
+{
+    m_order = order;
+    sales()->clearErrors();
+    QList<EntityInvoiceLink*> invoices;
+    if (order->isSaved()) {
+        const EntityPoolScope scope(m_read);
+        invoices = readInvoices(order->getId());
+    }
+    if (sales()->hasError()) {
+        showServiceError();
+        return false;
+    }
+    if (invoices.isEmpty()) {
+        showNewSale(order, linesOf(*order, this));
+        return true;
+    }
+    EntityInvoiceLink* chosen = invoices.size() == 1 ? invoices.first() : choose(invoices);
+    if (chosen)
+        setEntity(chosen);
+    return chosen;
+}
+
+void OrderPaymentDialog::showNewSale(EntityOrder* order, const QList<EntityInvoiceDetail*>& lines)
+{
+    m_order = order;
+    showNewInvoice(order->getTgl().isValid() ? order->getTgl() : QDate::currentDate());
+    setLines(lines);
+    showOrder(*order);
+    showGuest(order->getMember(), order->getPemesan());
+    applyMemberDiscount(order->getMember());
+}
+
+void OrderPaymentDialog::setEntity(KorEntity* sale)
+{
+    m_sale = static_cast<EntityInvoiceLink*>(sale);
+    m_order = orderOf(*m_sale);
+    const Invoice* invoice = m_sale->getInvoice();
+    showInvoice(*invoice);
+    showSale(*m_sale);
+    setLines(m_sale->getDetails());
+    m_order->setMember(invoice->getMember());
+    showOrder(*m_order);
+    showGuest(m_order->getMember(), m_order->getPemesan());
+}
+
+bool OrderPaymentDialog::isStored() const { return m_sale && m_sale->isSaved(); }
+
+// --- saving --------------------------------------------------------------------------------------------------------
+
+KorEntity* OrderPaymentDialog::getEntity()
+{
+    if (!m_sale)
+        m_sale = createSale();
+    m_order->setMember(parties()->member());
+    fillSale(m_sale, m_order);
+    m_sale->setDetails(invoiceLines());
+    // An order's guest may have a longer name than an invoice has room for.
+    m_sale->getInvoice()->setPemesan(m_order->getPemesan().left(50));
+    fillInvoice(m_sale->getInvoice());
+    return m_sale;
+}
+
+bool OrderPaymentDialog::beforeAccept()
+{
+    if (saveInvoice())
+        offerToFinish();
+    // The form stays on the saved invoice; closing it is the cashier's choice.
+    return false;
+}
+
+bool OrderPaymentDialog::saveInvoice()
+{
+    getEntity();
+    sales()->clearErrors();
+    const bool saved = isStored() ? sales()->updateInvoice(m_sale) : sales()->insertInvoice(m_sale);
+    if (sales()->hasError())
+        showServiceError();
+    if (!saved)
+        return false;
+    // What the database has now, before anything is asked: a question may stay open for a long time.
+    if (!readAgain()) {
+        showInvoice(*m_sale->getInvoice());
+        return false;
+    }
+    if (!m_print && ask(texts().print))
+        m_print = true;
+    if (m_print)
+        printBill(m_sale->getId());
+    // The box in hand shows the stored figure; what is typed next replaces it.
+    if (auto* box = qobject_cast<QLineEdit*>(focusWidget()))
+        box->selectAll();
+    return true;
+}
+
+bool OrderPaymentDialog::readAgain()
+{
+    const EntityPoolScope scope(m_read);
+    EntityInvoiceLink* fresh = readSale(m_sale->getId());
+    if (!fresh) {
+        showMissing(m_sale->getId());
+        return false;
+    }
+    setEntity(fresh);
+    return true;
+}
+
+void OrderPaymentDialog::showMissing(int id)
+{
+    showError(sales()->hasError() ? sales()->takeErrors() : tr("Can not find entity with id: %1").arg(id));
+}
+
+void OrderPaymentDialog::saveAndPrint(QWidget* button)
+{
+    // By its key the button is pressed while a box is still being typed in.
+    button->setFocus();
+    m_print = true;
+    accept();
+}
+
+// --- the end of the order ------------------------------------------------------------------------------------------
+
+void OrderPaymentDialog::offerToFinish()
+{
+    if (m_order->getStatus() == EntityOrder::PAID && ask(texts().finish) && finishOrder())
+        readAgain();
+}
+
+bool OrderPaymentDialog::finishOrder()
+{
+    if (finish(m_order))
+        return true;
+    showServiceError();
+    return false;
+}
+
+void OrderPaymentDialog::on_btnFinish_clicked()
+{
+    if (!isStored()) {
+        QMessageBox::critical(this, tr("Error"), texts().notSavedYet);
+        return;
+    }
+    if (finishOrder())
+        reject();
+}

@@ -1,0 +1,83 @@
+#pragma once
+
+#include "app/context/EntityPool.h"
+#include "zavel/payment/PaymentDialog.h"
+
+class EntityInvoiceLink;
+class EntityOrder;
+
+/**
+ * The payment form of an order, on a table or to take away: turns the order into an invoice, prints the bill and ends
+ * the order. A save leaves the form open on the saved invoice; a failed one leaves it as it was typed.
+ */
+class OrderPaymentDialog : public PaymentDialog
+{
+    Q_OBJECT
+
+public:
+    /**
+     * Opens the order's invoice or a new one. False means that the action is to be dropped: the cashier cancelled, or
+     * the invoices could not be read. The order is borrowed; what the form puts into it dies with the form.
+     */
+    [[nodiscard]] bool openOrder(EntityOrder* order);
+
+    KorEntity* getEntity() override;
+    void setEntity(KorEntity* sale) override;
+    bool beforeAccept() override;
+
+public slots:
+    void on_btnFinish_clicked();
+
+protected:
+    /** What the form asks and says. */
+    struct Texts
+    {
+        QString print;
+        QString finish;
+        QString notSavedYet;
+    };
+
+    OrderPaymentDialog(NetDueSign netDue, QWidget* parent) : PaymentDialog(netDue, parent) {}
+
+    // What a concrete form tells.
+    [[nodiscard]] virtual Texts texts() const = 0;
+    virtual void setLines(const QList<EntityInvoiceDetail*>& lines) = 0;
+    virtual QList<EntityInvoiceLink*> readInvoices(int orderId) = 0;
+    /** The one to open of an order's invoices; null when the cashier wants none. */
+    virtual EntityInvoiceLink* choose(const QList<EntityInvoiceLink*>& invoices) { return invoices.first(); }
+    virtual EntityInvoiceLink* createSale() = 0;
+    virtual EntityInvoiceLink* readSale(int id) = 0;
+    [[nodiscard]] virtual EntityOrder* orderOf(const EntityInvoiceLink& sale) const = 0;
+    /** What the link keeps beside the invoice; both are the form's. */
+    virtual void fillSale(EntityInvoiceLink* sale, EntityOrder* order) = 0;
+    /** Shows what the link keeps beside the invoice. */
+    virtual void showSale(const EntityInvoiceLink&) {}
+    virtual void showOrder(const EntityOrder& order) = 0;
+    virtual bool finish(EntityOrder* order) = 0;
+    virtual void printBill(int saleId) = 0;
+
+    /** A new invoice for these lines, which the form takes. */
+    void showNewSale(EntityOrder* order, const QList<EntityInvoiceDetail*>& lines);
+    /** Saves, reads everything again and offers to print; false, with a box, when one of the first two failed. */
+    bool saveInvoice();
+    void offerToFinish();
+    /** What a print button does: the bill comes without a question. */
+    void saveAndPrint(QWidget* button);
+    /** Replaces the order and the invoice by what stands in the database now; false, with a box, when it fails. */
+    bool readAgain();
+
+    [[nodiscard]] bool isStored() const override;
+    [[nodiscard]] EntityOrder* order() const { return m_order; }
+    /** Null before the first save. */
+    [[nodiscard]] EntityInvoiceLink* sale() const { return m_sale; }
+
+private:
+    void showMissing(int id);
+    bool finishOrder();
+
+    // All that the form read. Nothing of it goes before the form does: lines in hand show items that were read earlier.
+    EntityPool m_read;
+    EntityOrder* m_order = nullptr;
+    EntityInvoiceLink* m_sale = nullptr;
+    bool m_print = false;
+};

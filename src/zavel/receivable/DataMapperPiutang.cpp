@@ -1,0 +1,81 @@
+#include "zavel/receivable/DataMapperPiutang.h"
+
+#include "kor/entity/KorMetaDataMap.h"
+#include "kor/persistence/KorPaging.h"
+#include "pos/masterdata/account/DataMapperBank.h"
+#include "pos/masterdata/member/DataMapperMember.h"
+#include "zavel/receivable/DataMapperPiutangDetail.h"
+#include "zavel/service/SalesFilters.h"
+
+#include <QDebug>
+
+DataMapperPiutang::DataMapperPiutang(QObject* parent, DataMapperKey* keys, DataMapperMember* members,
+                                     DataMapperBank* accounts, DataMapperInvoice* invoices,
+                                     DataMapperEmployee* employees, DataMapperAgent* agents)
+    : NumberedDocumentMapper(parent, keys)
+{
+    setName("piutang");
+    metaData()->setTableName("piutang");
+    column("payment_type", "integer not null", "PaymentType");
+    reference("member_id", "integer not null", "Member", members, "inner");
+    column("payment_date", "date not null", "Date");
+    column("no", "varchar(50) not null", "No");
+    column("check_no", "varchar(50) null", "CheckNo");
+    column("note", "text NULL", "Note");
+    moneyColumns("grandtotal", "GrandTotal");
+    reference("bank_id", "integer null", "Bank", accounts, "left");
+    column("noref", "varchar(20)  null", "NoRef");
+    m_lines = new DataMapperPiutangDetail(this, invoices, employees, agents, members);
+}
+
+KorDataMapper* DataMapperPiutang::lineMapper() const { return m_lines; }
+
+KorEntity* DataMapperPiutang::findById(int id)
+{
+    auto* payment = static_cast<EntityPiutang*>(NumberedDocumentMapper::findById(id));
+    if (!payment)
+        return nullptr;
+    payment->setDetails(m_lines->findByPayment(id));
+    if (!m_lines->hasError())
+        return payment;
+    setError(m_lines->takeError());
+    return nullptr;
+}
+
+QList<EntityPiutang*> DataMapperPiutang::search(const ReceivableFilter& filter)
+{
+    qDebug() << "from date" << filter.from << "to date" << filter.to << "payment id" << filter.paymentType << "memberId"
+             << filter.memberId;
+    KorPaging paging;
+    paging.addFilter("payment_date >= ", dateToSql(filter.from));
+    paging.addFilter(" and payment_date <= ", dateToSql(filter.to));
+    if (filter.paymentType != 0)
+        paging.addFilter(" and payment_type = ", QString::number(filter.paymentType));
+    if (filter.memberId != KorNoValue)
+        paging.addFilter(" and member.id = ", QString::number(filter.memberId));
+    paging.addSort("payment_date desc, piutang.id", "desc");
+    return castAll<EntityPiutang>(find(&paging));
+}
+
+KorEntity* DataMapperPiutang::createEntity() { return new EntityPiutang(entityParent()); }
+
+QStringList DataMapperPiutang::indexStatements() const
+{
+    return {index("payment_date", "(payment_date)"), index("member_id", "(member_id)"), index("bank_id", "(bank_id)")};
+}
+
+const AppDocumentMapper::Messages& DataMapperPiutang::messages() const
+{
+    static const Messages texts{tr("error: insert credit invoice failed"),
+                                tr("error: insert credit detail invoice failed.\r\n"),
+                                tr("error: update credit invoice failed"),
+                                tr("error: update credit invoice failed\r\n"),
+                                {},
+                                {}};
+    return texts;
+}
+
+void DataMapperPiutang::attachLine(KorEntity* line, int documentId)
+{
+    static_cast<EntityPiutangDetail*>(line)->setPiutangId(documentId);
+}

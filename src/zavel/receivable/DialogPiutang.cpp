@@ -1,0 +1,78 @@
+#include "zavel/receivable/DialogPiutang.h"
+
+#include "app/persistence/AppDocumentLines.h"
+#include "kor/business/KorServiceDirectory.h"
+#include "pos/cash/settlement/PaymentTypeText.h"
+#include "pos/masterdata/member/MemberTextBox.h"
+#include "zavel/receivable/AmountLeft.h"
+#include "zavel/receivable/EntityPiutang.h"
+#include "zavel/receivable/TabPiutangInvoice.h"
+#include "zavel/service/BusinessPenjualan.h"
+
+#include "ui_DialogPiutang.h"
+
+DialogPiutang::DialogPiutang(QWidget* parent)
+    : PartPaymentsDialog(parent), m_ui(std::make_unique<Ui::DialogPiutang>()),
+      m_sales(service<BusinessPenjualan>("Sales"))
+{
+    m_ui->setupUi(this);
+    offerTypes(*m_ui, paymentTypeRows());
+    m_memberBox = new MemberTextBox(m_ui->txtMember, service<BusinessMember>("Member"));
+    m_memberBox->setNextWidget(m_ui->txtARAccount);
+    connect(m_memberBox, &KorTextBoxExtender::onItemSelected, this, &DialogPiutang::onMemberSelected);
+    setUpSettlement({m_ui->txtMember, m_ui->datePay, m_ui->txtARAccount, m_ui->lblARAccount, m_ui->tabDetail,
+                     m_ui->txtGrandTotal, m_ui->buttonBox},
+                    {tr("Select a member"), tr("Enter one or more sales invoice"),
+                     tr("Enter the amount paid for the invoice no: %1"), tr("Please select an Accounts Receivable"),
+                     tr("Please select a valid Accounts Receivable")},
+                    m_ui->tabInvoices, service<BusinessMember>("Member"), m_sales);
+    focusLater(m_ui->txtMember);
+}
+
+DialogPiutang::~DialogPiutang() = default;
+
+void DialogPiutang::onMemberSelected() { takePerson(m_memberBox->selectedItem()); }
+
+EntityContact* DialogPiutang::findPerson(const QString& code)
+{
+    // Picked from the list, it has just been read.
+    EntityMember* picked = m_memberBox->selectedItem();
+    return picked && picked->getKode() == code ? picked : service<BusinessMember>("Member")->findByCode(code);
+}
+
+void DialogPiutang::showPerson(const EntityContact* person)
+{
+    m_ui->txtNamaPelanggan->setText(person ? person->getNama() : QString());
+}
+
+QList<KorEntity*> DialogPiutang::readOpenLines(const EntityContact& person)
+{
+    return asEntities(m_sales->getUnpaidInvoicesForMember(person.getId()));
+}
+
+const KorEntity* DialogPiutang::lineWithoutAmount() const
+{
+    return m_ui->tabInvoices->paidLines().isEmpty() ? m_ui->tabInvoices->lines().first() : nullptr;
+}
+
+void DialogPiutang::setEntity(KorEntity* entity)
+{
+    hold(entity);
+    const auto* payment = held<EntityPiutang>();
+    showPayment(*m_ui, *payment);
+    // As things stand now: other payments may have paid of the same invoices since.
+    for (EntityPiutangDetail* line : payment->getDetails())
+        line->setAmountDue(amountLeft(*line->getInvoice()).get());
+    showStored(payment->getMember(), payment->getBank(), asEntities(payment->getDetails()), true);
+}
+
+KorEntity* DialogPiutang::getEntity()
+{
+    auto* payment = heldOrNew<EntityPiutang>();
+    payment->setMember(static_cast<EntityMember*>(person()));
+    takePayment(*m_ui, payment);
+    const QList<KorEntity*> paid = m_ui->tabInvoices->paidLines();
+    payment->setDetails(castAll<EntityPiutangDetail>(paid));
+    payment->setRemovedDetails(castAll<EntityPiutangDetail>(removedLines(paid)));
+    return payment;
+}

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "pos/cash/settlement/PartPaymentsDialog.h"
+
+#include <memory>
+
+class BusinessPenjualan;
+class MemberTextBox;
+
+namespace Ui
+{
+class DialogPiutang;
+}
+
+/** Takes a member's payment for invoices that were left open. */
+class DialogPiutang final : public PartPaymentsDialog
+{
+    Q_OBJECT
+
+public:
+    explicit DialogPiutang(QWidget* parent = nullptr);
+    ~DialogPiutang() override;
+
+    KorEntity* getEntity() override;
+    void setEntity(KorEntity* entity) override;
+
+public slots:
+    void onMemberSelected();
+
+protected:
+    [[nodiscard]] EntityContact* findPerson(const QString& code) override;
+    void showPerson(const EntityContact* person) override;
+    [[nodiscard]] QList<KorEntity*> readOpenLines(const EntityContact& person) override;
+    [[nodiscard]] const KorEntity* lineWithoutAmount() const override;
+
+private:
+    std::unique_ptr<Ui::DialogPiutang> m_ui;
+    BusinessPenjualan* m_sales;
+    MemberTextBox* m_memberBox;
+};

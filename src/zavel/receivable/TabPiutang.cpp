@@ -1,0 +1,83 @@
+#include "zavel/receivable/TabPiutang.h"
+
+#include "app/persistence/AppDocumentLines.h"
+#include "app/widgets/CodeFilter.h"
+#include "kor/business/KorServiceDirectory.h"
+#include "pos/cash/settlement/PaymentTypeText.h"
+#include "pos/masterdata/member/MemberTextBox.h"
+#include "zavel/receivable/DialogPiutang.h"
+#include "zavel/receivable/EntityPiutang.h"
+#include "zavel/receivable/TableModelPiutang.h"
+#include "zavel/service/BusinessPenjualan.h"
+
+#include <QComboBox>
+#include <QDateEdit>
+
+namespace
+{
+EntityPiutang* payment(KorEntity* entity) { return static_cast<EntityPiutang*>(entity); }
+} // namespace
+
+TabPiutang::TabPiutang(QWidget* parent) : AppDocumentTab({tr("Member Payments"), "tblPiutang", "Sales"}, 3, parent)
+{
+    const QDate today = QDate::currentDate();
+    m_from = filters()->addDate("dateFrom", tr("From Date :"), today.addDays(1 - today.day()));
+    m_to = filters()->addDate("dateTo", tr("To Date :"), today);
+    m_type = filters()->addChoice("ddlPayment", tr("Payment Type :"),
+                                  AppFilterBar::Rows{{tr("All"), 0}} + paymentTypeRows());
+    m_member = filters()->addText("txtMember", tr("Member :"));
+    const auto* members = new MemberTextBox(m_member, service<BusinessMember>("Member"));
+    connect(members, &KorTextBoxExtender::onItemSelected, this, &TabPiutang::on_btnSearch_clicked);
+    refresh();
+}
+
+QList<KorEntity*> TabPiutang::readRows(const QString&)
+{
+    ReceivableFilter filter;
+    filter.from = m_from->date();
+    filter.to = m_to->date();
+    filter.paymentType = m_type->currentData().toInt();
+    filter.memberId = idOfCode(m_member, service<BusinessMember>("Member"));
+    return asEntities(businessAs<BusinessPenjualan>()->searchPiutang(filter));
+}
+
+KorEntityModel* TabPiutang::createModel(const QList<KorEntity*>& rows) { return new TableModelPiutang(rows, this); }
+
+std::unique_ptr<KorDialog> TabPiutang::createDialog() { return std::make_unique<DialogPiutang>(this); }
+
+QString TabPiutang::deleteQuestion(const KorEntity* entity) const
+{
+    return tr("Are you sure you want to delete Payment with No: %1 ?")
+        .arg(static_cast<const EntityPiutang*>(entity)->getNo());
+}
+
+int TabPiutang::addKey() const { return BusinessPenjualan::BAYAR_PIUTANG; }
+
+int TabPiutang::editKey() const { return BusinessPenjualan::UPDATE_PIUTANG; }
+
+int TabPiutang::deleteKey() const { return BusinessPenjualan::DELETE_PIUTANG; }
+
+QString TabPiutang::notFoundText(int id) const { return tr("Can not find Payment with id: %1").arg(id); }
+
+KorEntity* TabPiutang::readEntity(int id) { return businessAs<BusinessPenjualan>()->findPiutang(id); }
+
+bool TabPiutang::insertEntity(KorEntity* entity)
+{
+    return stands(businessAs<BusinessPenjualan>()->insert(payment(entity)), "insert");
+}
+
+bool TabPiutang::updateEntity(KorEntity* entity)
+{
+    return stands(businessAs<BusinessPenjualan>()->updatePiutang(payment(entity)), "updatePiutang");
+}
+
+bool TabPiutang::removeEntity(KorEntity* entity) { return businessAs<BusinessPenjualan>()->remove(payment(entity)); }
+
+/** A payment that is saved is not entered again because its invoices could not be counted. */
+bool TabPiutang::stands(bool done, const QString& operation)
+{
+    if (done || business()->errors().contains(operation))
+        return done;
+    showServiceError();
+    return true;
+}

@@ -1,0 +1,178 @@
+#pragma once
+
+#include "kor/business/KorBusinessLogic.h"
+#include "zavel/service/SalesFilters.h"
+
+class DataMapperAllAgentCommision;
+class DataMapperBawaPulang;
+class DataMapperInvoice;
+class DataMapperInvoiceBawaPulang;
+class DataMapperInvoiceFastFood;
+class DataMapperInvoiceLink;
+class DataMapperInvoiceMakanDitempat;
+class DataMapperKomisiAgen;
+class DataMapperMakanDitempat;
+class DataMapperPenjualanInfo;
+class DataMapperPiutang;
+class EntityAllKomisiAgen;
+class EntityBawaPulang;
+class EntityBawaPulangDetail;
+class EntityInvoiceBawaPulang;
+class EntityInvoiceFastFood;
+class EntityInvoiceMakanDitempat;
+class EntityKomisiAgen;
+class EntityMakanDitempat;
+class EntityMakanDitempatDetail;
+class EntityPenjualanInfo;
+class EntityPiutang;
+class EntityPiutangDetail;
+class EntityQueue;
+class EntitySalesSummaryInfo;
+class EntitySoldItem;
+class IInvoice;
+class Invoice;
+
+/**
+ * The one service of sales. It keeps a failure under the operation's name; a read that finds nothing returns null
+ * without one. Rights are tested by the screens.
+ */
+class BusinessPenjualan final : public KorBusinessLogic
+{
+    Q_OBJECT
+
+public:
+    enum PERMISSIONS {
+        TAMBAH_PESANAN,
+        UBAH_PESANAN,
+        HAPUS_PESANAN,
+        SAVE_INVOICE,
+        SET_KITCHEN_STATUS,
+        BAYAR_PIUTANG,
+        UPDATE_PIUTANG,
+        BAYAR_KOMISI_AGEN,
+        UPDATE_BAYAR_KOMISI_AGEN,
+        DELETE_SALES,
+        DELETE_PIUTANG,
+        HAPUS_BAYAR_KOMISI
+    };
+    Q_ENUM(PERMISSIONS)
+
+    /** The mappers are borrowed. */
+    struct Mappers
+    {
+        DataMapperInvoiceMakanDitempat* dineInvoices = nullptr;
+        DataMapperInvoiceFastFood* fastFoodInvoices = nullptr;
+        DataMapperInvoiceBawaPulang* takeAwayInvoices = nullptr;
+        DataMapperMakanDitempat* dineOrders = nullptr;
+        DataMapperBawaPulang* takeAwayOrders = nullptr;
+        DataMapperPenjualanInfo* salesList = nullptr;
+        DataMapperPiutang* receivables = nullptr;
+        DataMapperInvoice* invoices = nullptr;
+        DataMapperKomisiAgen* commissions = nullptr;
+        DataMapperAllAgentCommision* agentSales = nullptr;
+    };
+
+    BusinessPenjualan(QObject* parent, const Mappers& mappers);
+
+    [[nodiscard]] QList<KorPermission> getPermissions() const override;
+    bool clearTransactions() override;
+
+    // Orders on tables.
+    /** Refused on a table that carries an open order, as far as its code is written in lower case. */
+    bool insertNewOrder(EntityMakanDitempat* order);
+    bool updateOrder(EntityMakanDitempat* order);
+    /** Refused once money was taken for the order. */
+    bool removeOrder(EntityMakanDitempat* order);
+    [[nodiscard]] EntityMakanDitempat* findOrder(int id);
+    /** Open orders; see DataMapperMakanDitempat for how the status and the text narrow them. */
+    [[nodiscard]] QList<EntityMakanDitempat*> getMakanDitempatList(int status, const QString& text);
+    bool updateStatusMakanDitempat(EntityMakanDitempat* order);
+    /** The guests have gone: the table is free again. */
+    bool makanDitempatSelesai(EntityMakanDitempat* order);
+
+    // Orders to take away.
+    /** A take-away order is always a new one: it sits on no table. */
+    bool insertNewOrder(EntityBawaPulang* order);
+    bool updateOrder(EntityBawaPulang* order);
+    /** Refused once money was taken for the order. */
+    bool removeOrder(EntityBawaPulang* order);
+    [[nodiscard]] EntityBawaPulang* findOrderBawaPulang(int id);
+    /** Orders in the status; 0 gives all that are not done. */
+    [[nodiscard]] QList<EntityBawaPulang*> getBawaPulangList(int status);
+    /** The guest has taken the food: the order is done. */
+    bool bawaPulangSelesai(EntityBawaPulang* order);
+    /** The order's status follows its invoice's. */
+    bool updateStatusBawaPulang(EntityInvoiceBawaPulang* sale);
+
+    // The kitchen.
+    /** The open orders, those on tables first, each part in its list's order; the text narrows the tables alone. */
+    [[nodiscard]] QList<EntityQueue*> getQueue(const QString& text);
+    /** Writes what the kitchen reports about the line, and nothing else of the order. */
+    bool setKitchenStatus(EntityMakanDitempatDetail* line, const QString& text);
+    bool setKitchenStatus(EntityBawaPulangDetail* line, const QString& text);
+
+    // Invoices of all ways of selling. True when the invoice stands; what failed behind it, the order's status, is an
+    // error all the same.
+    /** Saves the first state of an invoice, draws its number, then sets the order's status from all its invoices. */
+    bool insertInvoice(IInvoice* sale);
+    /** Saves a changed invoice; the order's status then follows from this one invoice alone. */
+    bool updateInvoice(IInvoice* sale);
+    [[nodiscard]] EntityInvoiceMakanDitempat* findInvoiceMakanDitempat(int id);
+    [[nodiscard]] EntityInvoiceFastFood* findInvoiceFastFood(int id);
+    [[nodiscard]] EntityInvoiceBawaPulang* findInvoiceBawaPulang(int id);
+    [[nodiscard]] EntityInvoiceMakanDitempat* findMakanDitempatByInvoiceId(int invoiceId);
+    [[nodiscard]] EntityInvoiceFastFood* findFastFoodByInvoiceId(int invoiceId);
+    [[nodiscard]] EntityInvoiceBawaPulang* findBawaPulangByInvoiceId(int invoiceId);
+    [[nodiscard]] QList<EntityInvoiceMakanDitempat*> getInvoicesOfOrder(int orderId);
+    [[nodiscard]] QList<EntityInvoiceBawaPulang*> getInvoicesOfBawaPulang(int orderId);
+    [[nodiscard]] QList<EntityInvoiceFastFood*> getFastFoodList(const FastFoodFilter& filter);
+
+    // All sales.
+    /**
+     * Deletes the invoice with its lines and links. Of a table's order all links go, so that its other invoices lose
+     * theirs; the order itself, payments and commissions stay as they are.
+     */
+    bool deleteSales(Invoice* invoice);
+    [[nodiscard]] QList<EntityPenjualanInfo*> searchPenjualan(const SalesFilter& filter);
+    // Figures by day or month, oldest first; both limits count. AllUsers asks for the sales of all users.
+    static constexpr int AllUsers = -1;
+    [[nodiscard]] QList<EntitySalesSummaryInfo*> getDailySales(const QDate& from, const QDate& to, int userId);
+    [[nodiscard]] QList<EntitySalesSummaryInfo*> getMonthlySales(const QDate& from, const QDate& to, int userId);
+    /** What was sold of each item, sorted by one of the columns; an empty item type asks for all. */
+    [[nodiscard]] QList<EntitySoldItem*> getSoldItems(const QDate& from, const QDate& to, const QString& direction,
+                                                      const QString& sortColumn, const QString& itemType);
+
+    // What members pay later.
+    using KorBusinessLogic::insert;
+    using KorBusinessLogic::remove;
+    [[nodiscard]] EntityPiutang* findPiutang(int id);
+    /** Saves the payment, then counts the invoices that it pays anew; true when both stand. */
+    bool insert(EntityPiutang* payment);
+    bool updatePiutang(EntityPiutang* payment);
+    /** The invoices keep the money until a later payment counts them anew. */
+    bool remove(EntityPiutang* payment);
+    [[nodiscard]] QList<EntityPiutang*> searchPiutang(const ReceivableFilter& filter);
+    /** A line for each open invoice of the member, with what is due and nothing paid yet. */
+    [[nodiscard]] QList<EntityPiutangDetail*> getUnpaidInvoicesForMember(int memberId);
+
+    // What agents earn.
+    [[nodiscard]] EntityKomisiAgen* findKomisiAgen(int id);
+    bool insertCommision(EntityKomisiAgen* payment);
+    bool updateCommision(EntityKomisiAgen* payment);
+    /** The invoices are pending again. */
+    bool remove(EntityKomisiAgen* payment);
+    [[nodiscard]] QList<EntityKomisiAgen*> searchKomisiAgen(const CommissionFilter& filter);
+    /** The payment that paid the invoice's commission; null without an error when none did. */
+    [[nodiscard]] EntityKomisiAgen* getKomisiAgenByInvoiceId(int invoiceId);
+    [[nodiscard]] QList<EntityPenjualanInfo*> searchPendingInvoiceForAgentCommision(int agentId);
+    [[nodiscard]] QList<EntityAllKomisiAgen*> searchInvoiceForAgentCommision(const AgentSalesFilter& filter);
+
+private:
+    [[nodiscard]] DataMapperInvoiceLink* mapperOf(IInvoice* sale) const;
+    void followInvoices(EntityMakanDitempat* order);
+    void setDineStatus(EntityMakanDitempat* order, int status);
+    /** Books what all payments paid of the payment's invoices as their other payment. */
+    bool updateInvoicesOfPiutang(const EntityPiutang* payment);
+
+    Mappers m_mappers;
+};

@@ -1,0 +1,124 @@
+#include "zavel/slips/OrderText.h"
+
+#include "app/widgets/TimeAgo.h"
+#include "pos/printing/configuration/EntityConfigCashierPrinter.h"
+#include "pos/printing/configuration/EntityConfigKitchenPrinter.h"
+#include "pos/printing/printer/SlipText.h"
+#include "zavel/dinein/EntityMakanDitempat.h"
+#include "zavel/slips/BillText.h"
+
+#include <QCoreApplication>
+
+namespace
+{
+struct OrderLabels
+{
+    Q_DECLARE_TR_FUNCTIONS(OrderText)
+
+public:
+    static QString phone() { return tr("Telp : "); }
+    static QString total() { return tr("Total"); }
+    static QString cancelled() { return tr("Order Cancelled.\n"); }
+};
+
+QString dateLine(const QDateTime& moment) { return "Date   : " + moment.toString(slipTimeFormat()); }
+
+QString tableText(const EntityOrder& order)
+{
+    const auto* dine = qobject_cast<const EntityMakanDitempat*>(&order);
+    return dine ? dine->tableTrail() : QString();
+}
+
+/** What all slips of a kitchen begin with. */
+void addFrame(SlipText& text, const KitchenSlipData& slip, const QString& takeAwayLabel)
+{
+    const EntityOrder& order = *slip.order;
+    const auto age = [&slip](const QDateTime& moment) { return timeAgo(moment, slip.now, TimeAgoWords::onSlips()); };
+    text.line("Member : " + memberText(order.getMember()));
+    text.line("Guest  : " + order.getPemesan());
+    text.line(dateLine(order.getCreatedTime().isNull() ? slip.now : order.getCreatedTime()));
+    const QString ages = "Created: " + age(order.getCreatedTime()) + " Updated : " + age(order.getUpdatedTime());
+    text.line(ages.left(qMax(text.columns(), 0)));
+    text.line(slip.kind == TakeAwayOrder ? takeAwayLabel + QString::number(order.getId())
+                                         : "Table  : " + tableText(order));
+    text.separator();
+}
+
+QString typeCode(const EntityOrderDetail& line)
+{
+    const EntityItem* item = line.getItem();
+    return item && item->getJenis() ? item->getJenis()->getKode() : QString();
+}
+
+QString menuLine(int number, const EntityOrderDetail& line, const QString& marker)
+{
+    constexpr int codeWidth = 5;
+    constexpr int nameWidth = 18;
+    constexpr int quantityWidth = 6;
+    const QString code = line.getItem() ? line.getItem()->getKode() : QString();
+    const QString name = line.getItem() ? line.getItem()->getNama() : QString();
+    return SlipText::right(QString::number(number), 3) + "  " + SlipText::left(code.left(codeWidth), codeWidth) + "  " +
+           SlipText::left(marker + name.left(nameWidth - marker.size()), nameWidth) + "  " +
+           SlipText::right(QString::number(line.getQty()).left(quantityWidth), quantityWidth) + "  ";
+}
+
+void addTotal(SlipText& text, int total)
+{
+    text.separator();
+    text.line(SlipText::left(OrderLabels::total(), 30) + " :" + SlipText::right(QString::number(total), 6) + "  ");
+}
+} // namespace
+
+std::optional<QString> composeMenuOrder(const KitchenSlipData& slip)
+{
+    SlipText text(slip.kitchen->columns());
+    addFrame(text, slip, "Take Away : ");
+    int number = 0;
+    int total = 0;
+    bool cooksAny = false;
+    for (const EntityOrderDetail* line : slip.order->getDetails()) {
+        // Lines keep their place in the whole order, so that kitchen and waiter speak of the same number.
+        ++number;
+        if (!slip.kitchen->cooks(typeCode(*line)))
+            continue;
+        cooksAny = true;
+        total += line->getQty();
+        text.line(menuLine(number, *line, line->getStatus() == EntityOrderDetail::UPDATED ? "*" : ""));
+        if (!line->getDescription().isEmpty())
+            text.line(SlipText::left(line->getDescription(), 40));
+    }
+    if (!cooksAny)
+        return std::nullopt;
+    addTotal(text, total);
+    text.lineFeeds(slip.kitchen->blankLines());
+    return text.text();
+}
+
+QString composeMenuOrderCanceled(const KitchenSlipData& slip)
+{
+    SlipText text(slip.kitchen->columns());
+    addFrame(text, slip, "Take Away: ");
+    text.append(OrderLabels::cancelled());
+    text.separator();
+    text.lineFeeds(slip.kitchen->blankLines());
+    return text.text();
+}
+
+QString composeOrderRecap(const EntityMakanDitempat& order, const EntityDataPerusahaan& company,
+                          const EntityConfigCashierPrinter& printer)
+{
+    SlipText text(printer.columns());
+    addCompany(text, company, OrderLabels::phone());
+    text.line("Table  : " + (order.getMeja() ? order.getMeja()->getNama() : QString()));
+    text.line(dateLine(order.getCreatedTime()));
+    text.separator();
+    int number = 0;
+    int total = 0;
+    for (const EntityOrderDetail* line : order.getDetails()) {
+        text.line(menuLine(++number, *line, QString()));
+        total += line->getQty();
+    }
+    addTotal(text, total);
+    text.lineFeeds(printer.blankLines());
+    return text.text();
+}

@@ -1,0 +1,26 @@
+#include "zavel/slips/ReportBill.h"
+
+#include "app/context/EntityUser.h"
+#include "pos/invoice/IInvoice.h"
+#include "pos/printing/configuration/EntityConfigCashierPrinter.h"
+
+ReportBill::ReportBill(QObject* parent, const EntityConfigCashierPrinter* cashierPrinter, const IInvoice* sale,
+                       const EntityDataPerusahaan* company, const EntityUser* user,
+                       const EntityPrinterType* printerType)
+    : SlipReport(parent, printerType)
+{
+    m_bill.company = company;
+    m_bill.printer = cashierPrinter;
+    m_bill.invoice = sale->getInvoice();
+    m_bill.lines = sale->getDetails();
+    // A user who was deleted since leaves the bill without a name.
+    m_bill.cashier = user ? user->getUserName() : QString();
+}
+
+void ReportBill::setGuest(const QString& name, const EntityMember* member)
+{
+    m_bill.guest = name;
+    m_bill.member = member;
+}
+
+bool ReportBill::print() { return printText("Bill", compose(), *m_bill.printer); }

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "zavel/slips/ReportKitchenSlip.h"
+
+/** Tells all kitchens that an order is off. */
+class ReportMenuOrderCanceled final : public ReportKitchenSlip
+{
+    Q_OBJECT
+
+public:
+    ReportMenuOrderCanceled(QObject* parent, const QList<EntityConfigKitchenPrinter*>& kitchens,
+                            const EntityOrder* order, OrderKind kind, const EntityDataPerusahaan* company,
+                            const EntityUser* user, const EntityPrinterType* printerType)
+        : ReportKitchenSlip(parent, kitchens, order, kind, company, user, printerType)
+    {}
+
+protected:
+    [[nodiscard]] std::optional<QString> compose(const KitchenSlipData& slip) const override
+    {
+        return composeMenuOrderCanceled(slip);
+    }
+};

@@ -1,0 +1,179 @@
+#include "zavel/slips/ZavelReportFactory.h"
+
+#include "app/access/BusinessUser.h"
+#include "app/context/AppContext.h"
+#include "app/context/EntityUser.h"
+#include "kor/business/KorServiceDirectory.h"
+#include "pos/masterdata/company/BusinessDataPerusahaan.h"
+#include "pos/masterdata/company/EntityDataPerusahaan.h"
+#include "pos/printing/configuration/BusinessPrinterConfig.h"
+#include "pos/printing/printer/BusinessPrinterType.h"
+#include "zavel/dinein/EntityInvoiceMakanDitempat.h"
+#include "zavel/fastfood/EntityInvoiceFastFood.h"
+#include "zavel/service/BusinessPenjualan.h"
+#include "zavel/slips/ReportBillBawaPulang.h"
+#include "zavel/slips/ReportBillFastFood.h"
+#include "zavel/slips/ReportBillMakanDitempat.h"
+#include "zavel/slips/ReportMakanDitempat.h"
+#include "zavel/slips/ReportMenuOrder.h"
+#include "zavel/slips/ReportMenuOrderCanceled.h"
+#include "zavel/takeaway/EntityInvoiceBawaPulang.h"
+
+#include <QApplication>
+#include <QMessageBox>
+
+namespace
+{
+/** The service without what an earlier operation left behind, which must not pass for a failure to print. */
+template <class Service>
+Service* fresh(const QString& name)
+{
+    auto* found = service<Service>(name);
+    found->clearErrors();
+    return found;
+}
+} // namespace
+
+ZavelReportFactory* ZavelReportFactory::instance()
+{
+    static QPointer<ZavelReportFactory> factory;
+    if (!factory)
+        factory = new ZavelReportFactory(AppContext::instance());
+    return factory;
+}
+
+ZavelReportFactory::ZavelReportFactory(QObject* parent) : QObject(parent) {}
+
+void ZavelReportFactory::printBillMakanDitempat(int invoiceId)
+{
+    printBill<ReportBillMakanDitempat>(&BusinessPenjualan::findInvoiceMakanDitempat, invoiceId);
+}
+
+void ZavelReportFactory::printBillFastFood(int invoiceId)
+{
+    printBill<ReportBillFastFood>(&BusinessPenjualan::findInvoiceFastFood, invoiceId);
+}
+
+void ZavelReportFactory::printBillBawaPulang(int invoiceId)
+{
+    printBill<ReportBillBawaPulang>(&BusinessPenjualan::findInvoiceBawaPulang, invoiceId);
+}
+
+// Not "class": lupdate would take the texts for those of a class Sale.
+template <typename Report, typename Sale>
+void ZavelReportFactory::printBill(Sale* (BusinessPenjualan::*find)(int), int invoiceId)
+{
+    if (!reload() || !readyForCashier())
+        return;
+    const EntityPoolScope scope(m_records);
+    auto* sales = fresh<BusinessPenjualan>("Sales");
+    const Sale* sale = (sales->*find)(invoiceId);
+    if (showErrors({sales}))
+        return;
+    if (!sale) {
+        showError(tr("Can not find entity with id: %1").arg(invoiceId));
+        return;
+    }
+    const EntityUser* user = findUser(sale->getInvoice()->getCreatedBy());
+    Report(nullptr, m_cashierPrinter, sale, m_company, user, m_printerType).print();
+}
+
+void ZavelReportFactory::printMakanDitempat(int orderId)
+{
+    if (!reload() || !readyForCashier())
+        return;
+    const EntityPoolScope scope(m_records);
+    auto* sales = fresh<BusinessPenjualan>("Sales");
+    const EntityMakanDitempat* order = sales->findOrder(orderId);
+    if (showErrors({sales}))
+        return;
+    if (!order) {
+        showError(tr("Can not find entity with id: %1").arg(orderId));
+        return;
+    }
+    const EntityUser* user = findUser(order->getCreatedBy());
+    ReportMakanDitempat(nullptr, m_cashierPrinter, order, m_company, user, m_printerType).print();
+}
+
+void ZavelReportFactory::printMenuOrder(OrderKind kind, EntityOrder* order)
+{
+    if (!reload())
+        return;
+    QList<EntityConfigKitchenPrinter*> kitchens;
+    for (EntityConfigKitchenPrinter* kitchen : qAsConst(m_kitchenPrinters)) {
+        if (kitchen->printsByItself())
+            kitchens.append(kitchen);
+    }
+    printForKitchens<ReportMenuOrder>(kitchens, kind, order);
+}
+
+void ZavelReportFactory::reprintMenuOrder(OrderKind kind, EntityOrder* order)
+{
+    if (!reload())
+        return;
+    printForKitchens<ReportMenuOrder>(m_kitchenPrinters, kind, order);
+}
+
+void ZavelReportFactory::printMenuOrderCanceled(OrderKind kind, EntityOrder* order)
+{
+    if (!reload())
+        return;
+    printForKitchens<ReportMenuOrderCanceled>(m_kitchenPrinters, kind, order);
+}
+
+bool ZavelReportFactory::reload()
+{
+    m_records.clear();
+    const EntityPoolScope scope(m_records);
+    auto* companies = fresh<BusinessDataPerusahaan>("Company Profile");
+    m_company = companies->getData();
+    auto* printers = fresh<BusinessPrinterConfig>("Printer Config");
+    m_cashierPrinter = printers->getCashierPrinterConfig();
+    m_kitchenPrinters = printers->getAllKitchenPrinterConfig();
+    auto* types = fresh<BusinessPrinterType>("Printer Type");
+    m_printerType = m_cashierPrinter ? types->findByType(m_cashierPrinter->getPrinterType()) : nullptr;
+    return !showErrors({companies, printers, types});
+}
+
+bool ZavelReportFactory::readyForCashier()
+{
+    if (!m_company)
+        showError(tr("There is no company profile, so nothing can be printed at the cashier. Please enter it first."));
+    else if (!m_cashierPrinter)
+        showError(tr("There are no settings of the cashier printer in this database, so nothing can be printed at the "
+                     "cashier."));
+    return m_company && m_cashierPrinter;
+}
+
+template <class Report>
+void ZavelReportFactory::printForKitchens(const QList<EntityConfigKitchenPrinter*>& kitchens, OrderKind kind,
+                                          const EntityOrder* order)
+{
+    if (kitchens.isEmpty())
+        return;
+    const EntityPoolScope scope(m_records);
+    Report(nullptr, kitchens, order, kind, m_company, findUser(order->getCreatedBy()), m_printerType).print();
+}
+
+EntityUser* ZavelReportFactory::findUser(int id)
+{
+    auto* users = fresh<BusinessUser>("User");
+    auto* user = qobject_cast<EntityUser*>(users->find(id));
+    showErrors({users});
+    return user;
+}
+
+bool ZavelReportFactory::showErrors(const QList<KorBusinessLogic*>& services)
+{
+    QString text;
+    for (KorBusinessLogic* business : services)
+        text += business->takeErrors();
+    if (!text.isEmpty())
+        showError(text);
+    return !text.isEmpty();
+}
+
+void ZavelReportFactory::showError(const QString& text)
+{
+    QMessageBox::critical(QApplication::activeWindow(), tr("Error"), text);
+}

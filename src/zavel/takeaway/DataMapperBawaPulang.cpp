@@ -1,0 +1,52 @@
+#include "zavel/takeaway/DataMapperBawaPulang.h"
+
+#include "kor/entity/KorMetaDataMap.h"
+#include "pos/masterdata/member/DataMapperMember.h"
+#include "zavel/takeaway/DataMapperBawaPulangDetail.h"
+
+DataMapperBawaPulang::DataMapperBawaPulang(QObject* parent, DataMapperMember* members, ItemPartners partners)
+    : DataMapperOrder(parent)
+{
+    setName("bawa pulang");
+    metaData()->setTableName("bawa_pulang");
+    column("status", "integer not null", "Status");
+    reference("member_id", "integer null", "Member", members, "left");
+    column("pemesan", "varchar(100)", "Pemesan");
+    column("tgl", "date not null", "Tgl");
+    setDetailMapper(new DataMapperBawaPulangDetail(this, this, partners));
+}
+
+KorEntity* DataMapperBawaPulang::createEntity() { return new EntityBawaPulang(entityParent()); }
+
+QStringList DataMapperBawaPulang::indexStatements() const
+{
+    // In the words of the list's condition, or the planner would not see that the index answers it.
+    return {index("open", "(id) WHERE status is null or (status is not null and status <> 6)"),
+            index("member_id", "(member_id) WHERE member_id IS NOT NULL")};
+}
+
+QList<EntityBawaPulang*> DataMapperBawaPulang::getBawaPulangList(int status)
+{
+    // The open ones in the words of the index, with the number in it.
+    const QString order = " order by bawa_pulang.id";
+    const QString open = " where status is null or (status is not null and status <> %1) ";
+    const QList<EntityOrder*> found =
+        status == 0 ? findOrders(open.arg(EntityOrder::DONE) + order, {})
+                    : findOrders(" where (status is not null and status = :status)" + order, {{":status", status}});
+    QList<EntityBawaPulang*> orders;
+    for (EntityOrder* one : found)
+        orders.append(static_cast<EntityBawaPulang*>(one));
+    return orders;
+}
+
+const AppDocumentMapper::Messages& DataMapperBawaPulang::messages() const
+{
+    // The words for an order and for its lines are the same.
+    static const Messages texts{
+        tr("error: insert take away food detail failed"), tr("error: insert take away food detail failed.\r\n"),
+        tr("error: update take away food detail failed"), tr("error: update take away food detail failed\r\n"),
+        tr("error: delete take away food detail failed"), tr("error: delete take away food detail failed\r\n")};
+    return texts;
+}
+
+QString DataMapperBawaPulang::statusFailure() const { return tr("error update status"); }

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "zavel/order/EntityOrder.h"
+
+/** An order to take away. */
+class EntityBawaPulang final : public EntityOrder
+{
+    Q_OBJECT
+
+public:
+    /** The statuses are those of every order. */
+    using BAWA_PULANG_STATUS = MAKAN_DITEMPAT_STATUS;
+
+    using EntityOrder::EntityOrder;
+};
