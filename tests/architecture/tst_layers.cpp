@@ -1,6 +1,8 @@
 #include <QDir>
 #include <QDirIterator>
+#include <QHash>
 #include <QRegularExpression>
+#include <QSet>
 #include <QTest>
 
 namespace
@@ -46,6 +48,9 @@ QString floorOf(const QString& path) { return path.section('/', 0, 0); }
 /** The folder that a file lies in. */
 QString folderOf(const QString& path) { return path.section('/', 0, -2); }
 
+/** The part of a floor that a folder belongs to: "pos/cash" of "pos/cash/ledger". */
+QString roomOf(const QString& path) { return folderOf(path).section('/', 0, 1); }
+
 /** Registries and installers put the house together, so they know everybody of their floor. */
 bool composes(const QString& path)
 {
@@ -53,9 +58,34 @@ bool composes(const QString& path)
     return room == "registry" || room == "install";
 }
 
+using Arrows = QHash<QString, QSet<QString>>;
+
+/** A way that leads from the room back to it; empty when there is none. */
+QStringList circleThrough(const QString& room, const Arrows& arrows)
+{
+    QHash<QString, QString> from;
+    QStringList next{room};
+    while (!next.isEmpty()) {
+        const QString here = next.takeFirst();
+        for (const QString& there : arrows.value(here)) {
+            if (there == room) {
+                QStringList way{room};
+                for (QString step = here; step != room; step = from.value(step))
+                    way.prepend(step);
+                way.prepend(room);
+                return way;
+            }
+            if (!from.contains(there)) {
+                from.insert(there, here);
+                next.append(there);
+            }
+        }
+    }
+    return {};
+}
 } // namespace
 
-/** A floor includes only what lies below it. */
+/** A floor includes only what lies below it, and its rooms have an order of their own. */
 class TestLayers : public QObject
 {
     Q_OBJECT
@@ -77,6 +107,33 @@ private slots:
                      qPrintable("not a rooted include: " + name));
             const QString other = floorOf(name) == "setup" ? "shell" : floorOf(name);
             QVERIFY2(floors.indexOf(other) <= floors.indexOf(own), qPrintable(name + " lies above " + own));
+        }
+    }
+
+    void noCircleAmongRooms_data()
+    {
+        QTest::addColumn<bool>("folders");
+        QTest::newRow("rooms") << false;
+        QTest::newRow("folders") << true;
+    }
+    /** Who reads one room needs the rooms below it, and never the whole floor. */
+    void noCircleAmongRooms()
+    {
+        QFETCH(bool, folders);
+        const auto place = folders ? folderOf : roomOf;
+        Arrows arrows;
+        for (const QString& path : sources({"*.h", "*.cpp"})) {
+            if (composes(path))
+                continue;
+            for (const QString& name : includesOf(path)) {
+                if (place(name) != place(path))
+                    arrows[place(path)].insert(place(name));
+            }
+        }
+        QVERIFY(arrows.size() > floors.size());
+        for (auto room = arrows.keyBegin(); room != arrows.keyEnd(); ++room) {
+            const QStringList circle = circleThrough(*room, arrows);
+            QVERIFY2(circle.isEmpty(), qPrintable("a circle: " + circle.join(" -> ")));
         }
     }
 

@@ -259,9 +259,9 @@ void TestReceivables::theListFindsPayments_data()
                         const QString& found) { QTest::newRow(name) << from << to << type << member << found; };
     row("both limits count, the latest first", "2026-03-01", "2026-03-03", 0, KorNoValue, "9 8 7");
     row("one day", "2026-03-02", "2026-03-02", 0, KorNoValue, "8");
-    row("by check", "2026-03-01", "2026-03-03", EntityPayment::CHECK, KorNoValue, "9 7");
+    row("by check", "2026-03-01", "2026-03-03", PaymentType::Check, KorNoValue, "9 7");
     row("of one member", "2026-03-01", "2026-03-03", 0, 2, "8");
-    row("none", "2026-03-01", "2026-03-03", EntityPayment::CASH, 1, "");
+    row("none", "2026-03-01", "2026-03-03", PaymentType::Cash, 1, "");
 }
 
 void TestReceivables::theListFindsPayments()
@@ -271,7 +271,7 @@ void TestReceivables::theListFindsPayments()
     for (int day : {1, 2, 3}) {
         EntityPiutang* one = payment(day == 2 ? 2 : 1, {line(sell("TRD", 100, 0, 0, 1), 100)});
         one->setDate(QDate(2026, 3, day));
-        one->setPaymentType(day == 2 ? EntityPayment::ELECTRONIC : EntityPayment::CHECK);
+        one->setPaymentType(day == 2 ? PaymentType::Electronic : PaymentType::Check);
         QVERIFY(save(one));
     }
     ReceivableFilter filter;

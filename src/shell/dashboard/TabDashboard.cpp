@@ -5,7 +5,6 @@
 #include "app/context/EntityUser.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "shell/dashboard/DashboardPage.h"
-#include "shell/window/MainWindow.h"
 #include "zavel/list/EntitySalesSummaryInfo.h"
 #include "zavel/list/EntitySoldItem.h"
 #include "zavel/service/BusinessPenjualan.h"
@@ -73,8 +72,8 @@ void TabDashboard::populateJavaScriptWindowObject()
 void TabDashboard::bindMainWnd()
 {
     // Queued: the script's click is over before a screen opens, which may be a dialog that stays for long.
-    if (auto* window = qobject_cast<MainWindow*>(AppContext::instance()->mainWindow()))
-        connect(this, &TabDashboard::callMainWindowCmd, window, &MainWindow::on_callMainWindowCmd,
+    if (QObject* window = AppContext::instance()->mainWindow())
+        connect(this, SIGNAL(callMainWindowCmd(QString)), window, SLOT(on_callMainWindowCmd(QString)),
                 Qt::QueuedConnection);
 }
 

@@ -36,9 +36,6 @@ public:
     bool openTab(const QString& className);
     /** Lets the user choose another database from outside of the menus; false when the dialog was given up. */
     bool setupDatabase();
-    /** Carries out a command of the dashboard page; an unknown one is ignored. */
-    void on_callMainWindowCmd(const QString& cmd);
-    void slotLanguageChanged(QAction* action);
 
     // Not under "slots": no action of the form bears these names, and connecting by name would warn at every start.
     void on_actionPrinter_triggered();
@@ -63,6 +60,9 @@ public slots:
     /** Tells when bringing over the data of a former system was broken off. */
     void checkConversion();
     void onLoaded() {}
+    /** Carries out a command of the dashboard page; an unknown one is ignored. */
+    void on_callMainWindowCmd(const QString& cmd);
+    void slotLanguageChanged(QAction* action);
 
     void on_actionMeja_triggered() { openTab("TabMeja"); }
     void on_actionUser_triggered() { openTab("TabUser"); }

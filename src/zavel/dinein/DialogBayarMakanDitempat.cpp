@@ -7,9 +7,9 @@
 #include "zavel/dinein/DialogSelectSplitInvoice.h"
 #include "zavel/dinein/EntityInvoiceMakanDitempat.h"
 #include "zavel/dinein/TabBayarMakanDitempatDetail.h"
+#include "zavel/order/SlipRequests.h"
 #include "zavel/payment/PaymentMoneyPane.h"
 #include "zavel/service/BusinessPenjualan.h"
-#include "zavel/slips/ZavelReportFactory.h"
 
 #include "ui_DialogBayarMakanDitempat.h"
 
@@ -101,7 +101,7 @@ bool DialogBayarMakanDitempat::finish(EntityOrder* order)
     return sales()->makanDitempatSelesai(static_cast<EntityMakanDitempat*>(order));
 }
 
-void DialogBayarMakanDitempat::printBill(int saleId) { ZavelReportFactory::instance()->printBillMakanDitempat(saleId); }
+void DialogBayarMakanDitempat::printBill(int saleId) { SlipRequests::instance()->printBillMakanDitempat(saleId); }
 
 // --- lines and saving ----------------------------------------------------------------------------------------------
 

@@ -6,8 +6,8 @@
 #include "zavel/dinein/DialogMakanDitempat.h"
 #include "zavel/dinein/EntityMakanDitempat.h"
 #include "zavel/dinein/TableModelMakanDitempat.h"
+#include "zavel/order/SlipRequests.h"
 #include "zavel/service/BusinessPenjualan.h"
-#include "zavel/slips/ZavelReportFactory.h"
 #include "zavel/tables/BusinessMeja.h"
 
 #include "ui_TabMakanDitempat.h"
@@ -194,6 +194,6 @@ void TabMakanDitempat::on_btnPrint_clicked()
         tell(nothingSelectedText());
     for (const EntityOrder* row : rows) {
         if (carriesOrder(*row, Print))
-            ZavelReportFactory::instance()->printMakanDitempat(row->getId());
+            SlipRequests::instance()->printMakanDitempat(row->getId());
     }
 }

@@ -4,6 +4,12 @@
 
 // Sales over the counter.
 
+EntityInvoiceFastFood* BusinessPenjualan::findInvoiceFastFood(int id)
+{
+    return static_cast<EntityInvoiceFastFood*>(
+        read(m_mappers.fastFoodInvoices->findById(id), m_mappers.fastFoodInvoices, "find"));
+}
+
 EntityInvoiceFastFood* BusinessPenjualan::findFastFoodByInvoiceId(int invoiceId)
 {
     return static_cast<EntityInvoiceFastFood*>(

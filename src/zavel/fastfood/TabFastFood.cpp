@@ -6,8 +6,8 @@
 #include "zavel/fastfood/DialogFastFood.h"
 #include "zavel/fastfood/EntityInvoiceFastFood.h"
 #include "zavel/fastfood/TableModelFastFood.h"
+#include "zavel/order/SlipRequests.h"
 #include "zavel/service/BusinessPenjualan.h"
-#include "zavel/slips/ZavelReportFactory.h"
 
 #include <QComboBox>
 #include <QDateEdit>
@@ -123,7 +123,7 @@ void TabFastFood::entitySaved(KorEntity* sale)
 {
     if (m_soldNow && QMessageBox::question(this, tr("Question"), tr("Do you want to print this invoice ?"),
                                            QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes)
-        ZavelReportFactory::instance()->printBillFastFood(sale->getId());
+        SlipRequests::instance()->printBillFastFood(sale->getId());
 }
 
 bool TabFastFood::removeEntity(KorEntity* sale)

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "zavel/order/EntityOrder.h"
-#include "zavel/slips/OrderText.h"
+#include "zavel/order/OrderKind.h"
 
 #include <memory>
 

@@ -11,8 +11,8 @@
 #include "zavel/kitchen/EntityQueue.h"
 #include "zavel/kitchen/TableModelQueue.h"
 #include "zavel/kitchen/TableModelQueueMenu.h"
+#include "zavel/order/SlipRequests.h"
 #include "zavel/service/BusinessPenjualan.h"
-#include "zavel/slips/ZavelReportFactory.h"
 #include "zavel/takeaway/EntityBawaPulangDetail.h"
 
 #include "ui_TabPesananMasuk.h"
@@ -386,8 +386,8 @@ void TabPesananMasuk::printChosen(bool additionsOnly)
     for (const EntityQueue* row : orders) {
         const auto kind = static_cast<OrderKind>(row->getType());
         if (additionsOnly)
-            ZavelReportFactory::instance()->reprintMenuOrder(kind, row->addition().get());
+            SlipRequests::instance()->reprintMenuOrder(kind, row->addition().get());
         else
-            ZavelReportFactory::instance()->reprintMenuOrder(kind, row->getOrder());
+            SlipRequests::instance()->reprintMenuOrder(kind, row->getOrder());
     }
 }

@@ -1,3 +1,4 @@
+#include "zavel/order/OrderStatus.h"
 #include "zavel/service/BusinessPenjualan.h"
 
 #include "app/context/EntityPool.h"
@@ -5,14 +6,67 @@
 #include "pos/invoice/DataMapperInvoice.h"
 #include "pos/invoice/EntityInvoiceDetail.h"
 #include "pos/invoice/Invoice.h"
+#include "pos/invoice/InvoiceStatus.h"
 #include "zavel/dinein/DataMapperInvoiceMakanDitempat.h"
 #include "zavel/dinein/EntityInvoiceMakanDitempat.h"
 #include "zavel/fastfood/DataMapperInvoiceFastFood.h"
 #include "zavel/list/DataMapperPenjualanInfo.h"
 #include "zavel/list/EntityPenjualanInfo.h"
 #include "zavel/takeaway/DataMapperInvoiceBawaPulang.h"
+#include "zavel/takeaway/EntityInvoiceBawaPulang.h"
 
 // All sales, whatever the way of selling.
+
+DataMapperInvoiceLink* BusinessPenjualan::mapperOf(IInvoice* sale) const
+{
+    const auto* link = dynamic_cast<KorEntity*>(sale);
+    if (!link)
+        return nullptr;
+    const QString type = link->metaObject()->className();
+    if (type == "EntityInvoiceMakanDitempat")
+        return m_mappers.dineInvoices;
+    if (type == "EntityInvoiceFastFood")
+        return m_mappers.fastFoodInvoices;
+    if (type == "EntityInvoiceBawaPulang")
+        return m_mappers.takeAwayInvoices;
+    return nullptr;
+}
+
+bool BusinessPenjualan::insertInvoice(IInvoice* sale)
+{
+    DataMapperInvoiceLink* mapper = mapperOf(sale);
+    if (!mapper) {
+        addError("insertInvoice", tr("mapper not found"));
+        return false;
+    }
+    setInvoiceStatus(sale->getInvoice());
+    if (!written(mapper->insert(dynamic_cast<KorEntity*>(sale)), mapper, "insertInvoice"))
+        return false;
+    // What follows stands outside the invoice's transaction: the sale is kept even if the order's status is not.
+    if (const auto* dine = dynamic_cast<EntityInvoiceMakanDitempat*>(sale))
+        followInvoices(dine->getMakanDitempat());
+    else if (auto* takeAway = dynamic_cast<EntityInvoiceBawaPulang*>(sale))
+        updateStatusBawaPulang(takeAway);
+    return true;
+}
+
+bool BusinessPenjualan::updateInvoice(IInvoice* sale)
+{
+    DataMapperInvoiceLink* mapper = mapperOf(sale);
+    if (!mapper) {
+        addError("updateInvoice", tr("mapper not found"));
+        return false;
+    }
+    setInvoiceStatus(sale->getInvoice());
+    if (!written(mapper->update(dynamic_cast<KorEntity*>(sale)), mapper, "updateInvoice"))
+        return false;
+    // From this invoice alone, unlike the first save: other invoices of a split order are not asked here.
+    if (const auto* dine = dynamic_cast<EntityInvoiceMakanDitempat*>(sale))
+        setDineStatus(dine->getMakanDitempat(), orderStatusOfInvoice(*sale->getInvoice()));
+    else if (auto* takeAway = dynamic_cast<EntityInvoiceBawaPulang*>(sale))
+        updateStatusBawaPulang(takeAway);
+    return true;
+}
 
 QList<EntityPenjualanInfo*> BusinessPenjualan::searchPenjualan(const SalesFilter& filter)
 {

@@ -4,8 +4,8 @@
 #include "kor/business/KorServiceDirectory.h"
 #include "zavel/order/OrderBoardModel.h"
 #include "zavel/order/OrderDialog.h"
+#include "zavel/order/SlipRequests.h"
 #include "zavel/service/BusinessPenjualan.h"
-#include "zavel/slips/ZavelReportFactory.h"
 
 #include <QHeaderView>
 #include <QLabel>
@@ -149,7 +149,7 @@ void OrderBoard::on_btnPay_clicked()
     refresh();
 }
 
-void OrderBoard::sendToKitchen(EntityOrder* order) { ZavelReportFactory::instance()->printMenuOrder(m_kind, order); }
+void OrderBoard::sendToKitchen(EntityOrder* order) { SlipRequests::instance()->printMenuOrder(m_kind, order); }
 
 EntityOrder* OrderBoard::readOrder(int id, EntityPool& pool)
 {

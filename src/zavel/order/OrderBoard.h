@@ -3,7 +3,7 @@
 #include "app/context/EntityPool.h"
 #include "app/widgets/AppTab.h"
 #include "zavel/order/EntityOrder.h"
-#include "zavel/slips/OrderText.h"
+#include "zavel/order/OrderKind.h"
 
 #include <memory>
 

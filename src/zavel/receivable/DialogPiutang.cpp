@@ -2,7 +2,7 @@
 
 #include "app/persistence/AppDocumentLines.h"
 #include "kor/business/KorServiceDirectory.h"
-#include "pos/cash/settlement/PaymentTypeText.h"
+#include "pos/cash/settlement/PaymentType.h"
 #include "pos/masterdata/member/MemberTextBox.h"
 #include "zavel/receivable/AmountLeft.h"
 #include "zavel/receivable/EntityPiutang.h"

@@ -1,16 +1,16 @@
 #pragma once
 
 #include "app/persistence/AppDocumentLines.h"
+#include "pos/cash/settlement/PaymentType.h"
 #include "pos/masterdata/account/EntityBank.h"
 #include "pos/masterdata/member/EntityMember.h"
-#include "pos/purchasing/payment/EntityPayment.h"
 #include "zavel/receivable/EntityPiutangDetail.h"
 
 /** A member's later payment for invoices that were left open. */
 class EntityPiutang : public KorEntity, public AppDocumentLines<EntityPiutangDetail>
 {
     Q_OBJECT
-    KOR_PROPERTY(int, PaymentType, EntityPayment::CASH)
+    KOR_PROPERTY(int, PaymentType, PaymentType::Cash)
     KOR_REFERENCE(EntityMember, Member)
     KOR_PROPERTY(QDate, Date, QDate())
     KOR_PROPERTY(QString, No, QString(""))

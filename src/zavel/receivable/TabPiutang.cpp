@@ -3,7 +3,7 @@
 #include "app/persistence/AppDocumentLines.h"
 #include "app/widgets/CodeFilter.h"
 #include "kor/business/KorServiceDirectory.h"
-#include "pos/cash/settlement/PaymentTypeText.h"
+#include "pos/cash/settlement/PaymentType.h"
 #include "pos/masterdata/member/MemberTextBox.h"
 #include "zavel/receivable/DialogPiutang.h"
 #include "zavel/receivable/EntityPiutang.h"

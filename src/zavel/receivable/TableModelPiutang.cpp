@@ -1,6 +1,6 @@
 #include "zavel/receivable/TableModelPiutang.h"
 
-#include "pos/cash/settlement/PaymentTypeText.h"
+#include "pos/cash/settlement/PaymentType.h"
 #include "zavel/receivable/EntityPiutang.h"
 
 TableModelPiutang::TableModelPiutang(const QList<KorEntity*>& payments, QObject* parent)

@@ -2,15 +2,19 @@
 
 #include "app/context/AppContext.h"
 #include "app/registry/AppBusinessRegistry.h"
+#include "pos/invoice/DataMapperInvoice.h"
 #include "pos/registry/PosBusinessRegistry.h"
 #include "pos/registry/PosMapperRegistry.h"
 #include "zavel/commission/DataMapperAllAgentCommision.h"
 #include "zavel/commission/DataMapperKomisiAgen.h"
+#include "zavel/dinein/DataMapperInvoiceMakanDitempat.h"
+#include "zavel/dinein/DataMapperMakanDitempat.h"
 #include "zavel/fastfood/DataMapperInvoiceFastFood.h"
 #include "zavel/list/DataMapperPenjualanInfo.h"
 #include "zavel/receivable/DataMapperPiutang.h"
 #include "zavel/registry/ZavelMapperRegistry.h"
 #include "zavel/service/BusinessPenjualan.h"
+#include "zavel/slips/ZavelReportFactory.h"
 #include "zavel/tables/BusinessMeja.h"
 #include "zavel/takeaway/DataMapperBawaPulang.h"
 #include "zavel/takeaway/DataMapperInvoiceBawaPulang.h"
@@ -41,5 +45,9 @@ ZavelBusinessRegistry::ZavelBusinessRegistry(QObject* parent)
     sales.commissions = mappers->komisiAgenMapper();
     sales.agentSales = mappers->allAgentCommisionMapper();
     sales.invoices = PosMapperRegistry::instance()->invoiceMapper();
-    make<BusinessPenjualan>(sales);
+    sales.transactions = {sales.commissions,      sales.receivables, sales.dineInvoices, sales.fastFoodInvoices,
+                          sales.takeAwayInvoices, sales.invoices,    sales.dineOrders,   sales.takeAwayOrders};
+    make<BusinessPenjualan>(sales.dineInvoices, sales);
+    // Who answers what the screens of sales ask for.
+    ZavelReportFactory::instance();
 }

@@ -35,6 +35,9 @@ class Invoice;
 /**
  * The one service of sales. It keeps a failure under the operation's name; a read that finds nothing returns null
  * without one. Rights are tested by the screens.
+ *
+ * All screens of sales know the service, and the service knows the records of them all. Therefore only its declaration
+ * lies here, below its users: each operation is defined in the folder of the way of selling that it is about.
  */
 class BusinessPenjualan final : public KorBusinessLogic
 {
@@ -70,9 +73,12 @@ public:
         DataMapperInvoice* invoices = nullptr;
         DataMapperKomisiAgen* commissions = nullptr;
         DataMapperAllAgentCommision* agentSales = nullptr;
+        /** What clearing empties, in this order: what refers to others goes first. */
+        QList<KorDataMapper*> transactions;
     };
 
-    BusinessPenjualan(QObject* parent, const Mappers& mappers);
+    /** The generic operations go to the first mapper. */
+    BusinessPenjualan(QObject* parent, KorDataMapper* mapper, const Mappers& mappers);
 
     [[nodiscard]] QList<KorPermission> getPermissions() const override;
     bool clearTransactions() override;

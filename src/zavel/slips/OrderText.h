@@ -1,5 +1,7 @@
 #pragma once
 
+#include "zavel/order/OrderKind.h"
+
 #include <QDateTime>
 #include <QString>
 
@@ -11,14 +13,12 @@ class EntityDataPerusahaan;
 class EntityMakanDitempat;
 class EntityOrder;
 
-/** How an order is served; the slips of the two kinds differ in one line. */
-enum OrderKind { DineOrder = 1, TakeAwayOrder = 2 };
-
 /** What stands on a kitchen's slip: the order seen from one kitchen at one moment. All records are borrowed. */
 struct KitchenSlipData
 {
     const EntityConfigKitchenPrinter* kitchen = nullptr;
     const EntityOrder* order = nullptr;
+    /** The slips of the two kinds differ in one line. */
     OrderKind kind = DineOrder;
     QDateTime now;
 };

@@ -42,7 +42,7 @@ ZavelReportFactory* ZavelReportFactory::instance()
     return factory;
 }
 
-ZavelReportFactory::ZavelReportFactory(QObject* parent) : QObject(parent) {}
+ZavelReportFactory::ZavelReportFactory(QObject* parent) : SlipRequests(parent) {}
 
 void ZavelReportFactory::printBillMakanDitempat(int invoiceId)
 {

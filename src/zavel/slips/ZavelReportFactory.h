@@ -1,39 +1,36 @@
 #pragma once
 
 #include "app/context/EntityPool.h"
-#include "zavel/slips/OrderText.h"
+#include "zavel/order/SlipRequests.h"
 
 #include <QList>
-#include <QObject>
 
 class BusinessPenjualan;
+class EntityConfigCashierPrinter;
+class EntityConfigKitchenPrinter;
+class EntityDataPerusahaan;
 class EntityPrinterType;
 class EntityUser;
 class KorBusinessLogic;
 
 /**
- * Where screens ask for a bill or a slip. Each request reads company, printers and printer type anew, so that a change
- * at one till counts at all of them at once. What cannot be printed is told in a box; the sale stands either way.
+ * Composes the bills and slips that screens ask for. Each request reads company, printers and printer type anew, so
+ * that a change at one till counts at all of them at once.
  */
-class ZavelReportFactory final : public QObject
+class ZavelReportFactory final : public SlipRequests
 {
     Q_OBJECT
 
 public:
     static ZavelReportFactory* instance();
 
-    // By the sale's own row: the one that ties the invoice to its way of selling.
-    void printBillMakanDitempat(int invoiceId);
-    void printBillFastFood(int invoiceId);
-    void printBillBawaPulang(int invoiceId);
-
-    /** The recap of an order on the cashier printer. */
-    void printMakanDitempat(int orderId);
-    /** A slip to each kitchen that prints by itself, with the lines that the order holds in memory. */
-    void printMenuOrder(OrderKind kind, EntityOrder* order);
-    /** The same to all kitchens. */
-    void reprintMenuOrder(OrderKind kind, EntityOrder* order);
-    void printMenuOrderCanceled(OrderKind kind, EntityOrder* order);
+    void printBillMakanDitempat(int invoiceId) override;
+    void printBillFastFood(int invoiceId) override;
+    void printBillBawaPulang(int invoiceId) override;
+    void printMakanDitempat(int orderId) override;
+    void printMenuOrder(OrderKind kind, EntityOrder* order) override;
+    void reprintMenuOrder(OrderKind kind, EntityOrder* order) override;
+    void printMenuOrderCanceled(OrderKind kind, EntityOrder* order) override;
 
 private:
     explicit ZavelReportFactory(QObject* parent);

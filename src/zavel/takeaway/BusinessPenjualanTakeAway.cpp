@@ -51,6 +51,12 @@ bool BusinessPenjualan::updateStatusBawaPulang(EntityInvoiceBawaPulang* sale)
     return written(m_mappers.takeAwayOrders->updateStatus(order), m_mappers.takeAwayOrders, "updateStatusBawaPulang");
 }
 
+EntityInvoiceBawaPulang* BusinessPenjualan::findInvoiceBawaPulang(int id)
+{
+    return static_cast<EntityInvoiceBawaPulang*>(
+        read(m_mappers.takeAwayInvoices->findById(id), m_mappers.takeAwayInvoices, "find"));
+}
+
 EntityInvoiceBawaPulang* BusinessPenjualan::findBawaPulangByInvoiceId(int invoiceId)
 {
     return static_cast<EntityInvoiceBawaPulang*>(

@@ -1,9 +1,9 @@
 #include "zavel/takeaway/DialogBayarBawaPulang.h"
 
 #include "pos/invoice/EntityInvoiceDetail.h"
+#include "zavel/order/SlipRequests.h"
 #include "zavel/payment/PaymentMoneyPane.h"
 #include "zavel/service/BusinessPenjualan.h"
-#include "zavel/slips/ZavelReportFactory.h"
 #include "zavel/takeaway/EntityInvoiceBawaPulang.h"
 #include "zavel/takeaway/TabBayarBawaPulangDetail.h"
 
@@ -64,6 +64,6 @@ bool DialogBayarBawaPulang::finish(EntityOrder* order)
     return sales()->bawaPulangSelesai(static_cast<EntityBawaPulang*>(order));
 }
 
-void DialogBayarBawaPulang::printBill(int saleId) { ZavelReportFactory::instance()->printBillBawaPulang(saleId); }
+void DialogBayarBawaPulang::printBill(int saleId) { SlipRequests::instance()->printBillBawaPulang(saleId); }
 
 void DialogBayarBawaPulang::on_btnPrint_clicked() { saveAndPrint(m_ui->btnPrint); }

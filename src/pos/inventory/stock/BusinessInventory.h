@@ -1,9 +1,7 @@
 #pragma once
 
 #include "kor/business/KorBusinessLogic.h"
-
-#include <QDate>
-#include <QHash>
+#include "pos/masterdata/item/ItemStock.h"
 
 class DataMapperItemHistory;
 class EntityItemHistory;
@@ -13,9 +11,10 @@ class DataMapperStockTake;
 class DataMapperStokAwal;
 
 /** The service of the stock: how much of an item is on hand, and the adjustments that fix it. */
-class BusinessInventory final : public KorBusinessLogic
+class BusinessInventory final : public KorBusinessLogic, public ItemStock
 {
     Q_OBJECT
+    Q_INTERFACES(ItemStock)
 
 public:
     enum PERMISSIONS { INSERT_STOCKTAKE = 10, DELETE_STOCKTAKE = 11 };
@@ -35,7 +34,7 @@ public:
      */
     [[nodiscard]] int getQuantityOnHand(const KorEntity* item, const QDate& date);
     /** The same figure for every item, by its id, in one statement. */
-    [[nodiscard]] QHash<int, int> quantitiesOnHand(const QDate& date);
+    [[nodiscard]] QHash<int, int> quantitiesOnHand(const QDate& date) override;
 
     /** The adjustments of the item with this code; all of them for an empty code. */
     [[nodiscard]] QList<KorEntity*> findAll(const QString& code);

@@ -1,7 +1,7 @@
 #include "pos/masterdata/item/TabItem.h"
 
 #include "kor/business/KorServiceDirectory.h"
-#include "pos/inventory/stock/BusinessInventory.h"
+#include "pos/masterdata/item/ItemStock.h"
 #include "pos/masterdata/itemtype/BusinessJenisItem.h"
 
 #include <QComboBox>
@@ -45,11 +45,11 @@ QList<KorEntity*> TabItem::readRows(const QString& filter)
 
 KorEntityModel* TabItem::createModel(const QList<KorEntity*>& rows)
 {
-    auto* stock = service<BusinessInventory>("Inventory");
+    KorBusinessLogic* inventory = KorServiceDirectory::get("Inventory");
     auto* model = new TableModelItem(rows, this);
-    model->setStock(stock->quantitiesOnHand(QDate::currentDate()));
-    if (stock->hasError())
-        QMessageBox::critical(this, tr("Error"), stock->takeErrors());
+    model->setStock(qobject_cast<ItemStock*>(inventory)->quantitiesOnHand(QDate::currentDate()));
+    if (inventory->hasError())
+        QMessageBox::critical(this, tr("Error"), inventory->takeErrors());
     return model;
 }
 

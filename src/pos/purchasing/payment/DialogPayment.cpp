@@ -3,7 +3,7 @@
 #include "app/money/MinorUnits.h"
 #include "app/persistence/AppDocumentLines.h"
 #include "kor/business/KorServiceDirectory.h"
-#include "pos/cash/settlement/PaymentTypeText.h"
+#include "pos/cash/settlement/PaymentType.h"
 #include "pos/masterdata/account/AccountField.h"
 #include "pos/masterdata/supplier/SupplierTextBox.h"
 #include "pos/purchasing/payment/EntityPayment.h"

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/persistence/AppDocumentLines.h"
+#include "pos/cash/settlement/PaymentType.h"
 #include "pos/purchasing/payment/EntityPaymentExpenses.h"
 #include "pos/purchasing/payment/EntityPaymentInvoices.h"
 
@@ -10,7 +11,7 @@ class EntityPayment : public KorEntity
     Q_OBJECT
 
 public:
-    enum PAYMENT_TYPE { CASH = 1, ELECTRONIC = 2, CHECK = 3 };
+    enum PAYMENT_TYPE { CASH = PaymentType::Cash, ELECTRONIC = PaymentType::Electronic, CHECK = PaymentType::Check };
     Q_ENUM(PAYMENT_TYPE)
 
     KOR_PROPERTY(int, PaymentType, CASH)

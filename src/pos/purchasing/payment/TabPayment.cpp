@@ -1,7 +1,7 @@
 #include "pos/purchasing/payment/TabPayment.h"
 
 #include "app/persistence/AppDocumentLines.h"
-#include "pos/cash/settlement/PaymentTypeText.h"
+#include "pos/cash/settlement/PaymentType.h"
 #include "pos/purchasing/payment/BusinessPayment.h"
 #include "pos/purchasing/payment/DialogPayment.h"
 #include "pos/purchasing/payment/EntityPayment.h"

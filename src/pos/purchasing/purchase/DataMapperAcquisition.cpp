@@ -55,10 +55,12 @@ QList<EntityAcquisition*> DataMapperAcquisition::getPendingInvoiceBySupplier(con
     return castAll<EntityAcquisition>(find(&paging));
 }
 
-EntityAcquisition* DataMapperAcquisition::findByOrder(int orderId)
+QString DataMapperAcquisition::purchaseNo(int orderId)
 {
-    return static_cast<EntityAcquisition*>(
-        findOne(" where acquisition.po_id = :order order by acquisition.id", {{":order", orderId}}));
+    KorQuery query;
+    const bool done =
+        execute(query, "select no from acquisition where po_id = :order order by id limit 1", {{":order", orderId}});
+    return done && query.next() ? query.value(0).toString() : QString();
 }
 
 double DataMapperAcquisition::paidLater(int purchaseId)

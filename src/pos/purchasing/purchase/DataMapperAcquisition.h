@@ -2,6 +2,7 @@
 
 #include "pos/purchasing/document/PurchasingDocumentMapper.h"
 #include "pos/purchasing/purchase/EntityAcquisition.h"
+#include "pos/purchasing/purchaseorder/PurchasesOfOrders.h"
 
 class DataMapperBank;
 class DataMapperPurchaseOrder;
@@ -11,7 +12,8 @@ class DataMapperSupplier;
  * Purchases with their lines, in the tables "acquisition" and "acquisition_detail". A save that was taken back because
  * of a line returns true and leaves its error: whoever saves here must ask hasError() as well.
  */
-class DataMapperAcquisition final : public PurchasingDocumentMapper<EntityAcquisition, EntityAcquisitionDetail>
+class DataMapperAcquisition final : public PurchasingDocumentMapper<EntityAcquisition, EntityAcquisitionDetail>,
+                                    public PurchasesOfOrders
 {
     Q_OBJECT
 
@@ -26,8 +28,8 @@ public:
 
     /** Without lines: what is not fully paid, the first due first. */
     [[nodiscard]] QList<EntityAcquisition*> getPendingInvoiceBySupplier(const EntitySupplier* supplier);
-    /** A purchase made of the order, or null. */
-    [[nodiscard]] EntityAcquisition* findByOrder(int orderId);
+    [[nodiscard]] QString purchaseNo(int orderId) override;
+    [[nodiscard]] KorDataMapper* mapper() override { return this; }
     /** What credit notes and payments gave for the purchase since, in whole units of the currency. */
     [[nodiscard]] double paidLater(int purchaseId);
     /** The number of a payment that paid of the purchase; empty when there is none. */

@@ -1,11 +1,10 @@
 #include "pos/purchasing/purchaseorder/BusinessPurchaseOrder.h"
 
-#include "app/context/EntityPool.h"
-#include "pos/purchasing/purchase/DataMapperAcquisition.h"
 #include "pos/purchasing/purchaseorder/DataMapperPurchaseOrder.h"
+#include "pos/purchasing/purchaseorder/PurchasesOfOrders.h"
 
 BusinessPurchaseOrder::BusinessPurchaseOrder(QObject* parent, DataMapperPurchaseOrder* orders,
-                                             DataMapperAcquisition* purchases)
+                                             PurchasesOfOrders* purchases)
     : PurchasingService("Purchase Order", orders, parent), m_orders(orders), m_purchases(purchases)
 {}
 
@@ -44,20 +43,18 @@ QList<EntityPurchaseOrder*> BusinessPurchaseOrder::getOpenBySupplier(const Entit
     return read(m_orders->getOpenBySupplier(supplier), m_orders, "getOpenBySupplier");
 }
 
-EntityAcquisition* BusinessPurchaseOrder::isPurchased(const EntityPurchaseOrder* order)
+QString BusinessPurchaseOrder::isPurchased(const EntityPurchaseOrder* order)
 {
-    return read(m_purchases->findByOrder(order->getId()), m_purchases, "isPurchased");
+    return read(m_purchases->purchaseNo(order->getId()), m_purchases->mapper(), "isPurchased");
 }
 
 bool BusinessPurchaseOrder::remove(KorEntity* order)
 {
-    EntityPool pool;
-    const EntityPoolScope scope(pool);
-    const EntityAcquisition* purchase = isPurchased(static_cast<EntityPurchaseOrder*>(order));
-    if (purchase) {
+    const QString purchase = isPurchased(static_cast<EntityPurchaseOrder*>(order));
+    if (!purchase.isEmpty()) {
         addError("remove", tr("There is already purchase transaction using this PO, please delete it first: "
                               "Purchase No: %1")
-                               .arg(purchase->getNo()));
+                               .arg(purchase));
     }
-    return !purchase && !errors().contains("isPurchased") && PurchasingService::remove(order);
+    return purchase.isEmpty() && !errors().contains("isPurchased") && PurchasingService::remove(order);
 }

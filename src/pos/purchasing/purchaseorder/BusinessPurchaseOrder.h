@@ -3,11 +3,10 @@
 #include "pos/purchasing/document/PurchasingFilter.h"
 #include "pos/purchasing/document/PurchasingService.h"
 
-class DataMapperAcquisition;
 class DataMapperPurchaseOrder;
-class EntityAcquisition;
 class EntityPurchaseOrder;
 class EntitySupplier;
+class PurchasesOfOrders;
 
 /** The service of purchase orders. */
 class BusinessPurchaseOrder final : public PurchasingService
@@ -18,7 +17,7 @@ public:
     enum PERMISSIONS { INSERT_PO, UPDATE_PO, DELETE_PO, INSERT_PO_DETAIL, UPDATE_PO_DETAIL, DELETE_PO_DETAIL };
     Q_ENUM(PERMISSIONS)
 
-    BusinessPurchaseOrder(QObject* parent, DataMapperPurchaseOrder* orders, DataMapperAcquisition* purchases);
+    BusinessPurchaseOrder(QObject* parent, DataMapperPurchaseOrder* orders, PurchasesOfOrders* purchases);
 
     [[nodiscard]] QList<KorPermission> getPermissions() const override;
     /** Refused while a purchase was made of the order. */
@@ -30,8 +29,8 @@ public:
     [[nodiscard]] EntityPurchaseOrder* findHeader(int id);
     /** What can still be received. */
     [[nodiscard]] QList<EntityPurchaseOrder*> getOpenBySupplier(const EntitySupplier* supplier);
-    /** A purchase that was made of the order, or null. */
-    [[nodiscard]] EntityAcquisition* isPurchased(const EntityPurchaseOrder* order);
+    /** The number of a purchase that was made of the order; empty when there is none. */
+    [[nodiscard]] QString isPurchased(const EntityPurchaseOrder* order);
 
 protected:
     [[nodiscard]] QList<KorEntity*> linesOf(const KorEntity& order) const override;
@@ -39,5 +38,5 @@ protected:
 
 private:
     DataMapperPurchaseOrder* m_orders;
-    DataMapperAcquisition* m_purchases;
+    PurchasesOfOrders* m_purchases;
 };

@@ -5,7 +5,13 @@
 #include <QString>
 #include <QVariant>
 
-/** How money changes hands, in words; empty for a number that is no PAYMENT_TYPE. */
+/** How money changes hands, as payments store it. */
+namespace PaymentType
+{
+enum PaymentType { Cash = 1, Electronic = 2, Check = 3 };
+}
+
+/** The kind in words; empty for a number that is none. */
 [[nodiscard]] QString paymentTypeText(int type);
 /** All kinds with their words, as a choice offers them. */
 [[nodiscard]] QList<QPair<QString, QVariant>> paymentTypeRows();

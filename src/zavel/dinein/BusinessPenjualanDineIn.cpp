@@ -1,0 +1,105 @@
+#include "app/context/EntityPool.h"
+#include "pos/invoice/Invoice.h"
+#include "zavel/dinein/DataMapperInvoiceMakanDitempat.h"
+#include "zavel/dinein/DataMapperMakanDitempat.h"
+#include "zavel/dinein/EntityInvoiceMakanDitempat.h"
+#include "zavel/order/OrderStatus.h"
+#include "zavel/service/BusinessPenjualan.h"
+
+#include <QDebug>
+
+// Orders on tables, and their invoices.
+
+bool BusinessPenjualan::insertNewOrder(EntityMakanDitempat* order)
+{
+    // The code goes out as it is written and meets lowered ones, so a code with a capital finds no order.
+    const QList<EntityMakanDitempat*> open = m_mappers.dineOrders->getMakanDitempatList(0, order->getMeja()->getKode());
+    if (m_mappers.dineOrders->hasError())
+        return written(false, m_mappers.dineOrders, "insertNewOrder");
+    for (const EntityMakanDitempat* other : open) {
+        if (other->getMeja()->getId() != order->getMeja()->getId() || other->getId() == order->getId())
+            continue;
+        qDebug() << "sama" << other->getId();
+        addError("meja", tr("Meja sudah terisi"));
+        return false;
+    }
+    return written(m_mappers.dineOrders->insert(order), m_mappers.dineOrders, "insertNewOrder");
+}
+
+bool BusinessPenjualan::updateOrder(EntityMakanDitempat* order)
+{
+    return written(m_mappers.dineOrders->update(order), m_mappers.dineOrders, "updateOrder");
+}
+
+bool BusinessPenjualan::removeOrder(EntityMakanDitempat* order)
+{
+    if (order->getStatus() == EntityOrder::PAID || order->getStatus() == EntityOrder::PARTIALY_PAID) {
+        addError("removeOrder", tr("Order sudah dibayar tidak bisa dihapus"));
+        return false;
+    }
+    return written(m_mappers.dineOrders->remove(order), m_mappers.dineOrders, "removeOrder");
+}
+
+EntityMakanDitempat* BusinessPenjualan::findOrder(int id)
+{
+    return static_cast<EntityMakanDitempat*>(
+        read(m_mappers.dineOrders->findById(id), m_mappers.dineOrders, "findOrder"));
+}
+
+QList<EntityMakanDitempat*> BusinessPenjualan::getMakanDitempatList(int status, const QString& text)
+{
+    return read(m_mappers.dineOrders->getMakanDitempatList(status, text), m_mappers.dineOrders, "getMakanDitempatList");
+}
+
+bool BusinessPenjualan::updateStatusMakanDitempat(EntityMakanDitempat* order)
+{
+    return written(m_mappers.dineOrders->updateStatus(order), m_mappers.dineOrders, "updateStatusMakanDitempat");
+}
+
+void BusinessPenjualan::setDineStatus(EntityMakanDitempat* order, int status)
+{
+    order->setStatus(status);
+    updateStatusMakanDitempat(order);
+}
+
+bool BusinessPenjualan::makanDitempatSelesai(EntityMakanDitempat* order)
+{
+    return written(m_mappers.dineOrders->markDone(order->getId()), m_mappers.dineOrders, "makanDitempatSelesai");
+}
+
+void BusinessPenjualan::followInvoices(EntityMakanDitempat* order)
+{
+    EntityPool sums;
+    const EntityPoolScope scope(sums);
+    m_mappers.dineInvoices->clearError();
+    const QList<EntityInvoiceMakanDitempat*> all = m_mappers.dineInvoices->findMoneyOfOrder(order->getId());
+    if (m_mappers.dineInvoices->hasError()) {
+        addError("insertInvoice", m_mappers.dineInvoices->takeError());
+        return;
+    }
+    qint64 paid = 0;
+    qint64 grandTotal = 0;
+    for (const EntityInvoiceMakanDitempat* one : all) {
+        const Invoice* invoice = one->getInvoice();
+        paid += qint64(invoice->getAmountPaid()->rawAmount()) + invoice->getOtherPayment()->rawAmount();
+        grandTotal += invoice->getGrandTotal()->rawAmount();
+    }
+    setDineStatus(order, orderStatusOfMoney(paid, grandTotal));
+}
+
+EntityInvoiceMakanDitempat* BusinessPenjualan::findInvoiceMakanDitempat(int id)
+{
+    return static_cast<EntityInvoiceMakanDitempat*>(
+        read(m_mappers.dineInvoices->findById(id), m_mappers.dineInvoices, "find"));
+}
+
+EntityInvoiceMakanDitempat* BusinessPenjualan::findMakanDitempatByInvoiceId(int invoiceId)
+{
+    return static_cast<EntityInvoiceMakanDitempat*>(
+        read(m_mappers.dineInvoices->findByInvoiceId(invoiceId), m_mappers.dineInvoices, "find"));
+}
+
+QList<EntityInvoiceMakanDitempat*> BusinessPenjualan::getInvoicesOfOrder(int orderId)
+{
+    return read(m_mappers.dineInvoices->findByOrder(orderId), m_mappers.dineInvoices, "find");
+}
