@@ -308,6 +308,7 @@ void TestBoard::aTableThatWasTakenMeanwhileIsToldAndTheFormStays()
             QCOMPARE(same->findChild<QLabel*>("lblTotal")->text(), QString("Rp5,000.00"));
             typeInto(same, "txtKode", "T2");
             QTest::keyClick(same->focusWidget(), Qt::Key_Return);
+            QTest::keyClick(same->focusWidget(), Qt::Key_Return);
             QVERIFY(!same->isVisible());
         });
     });
@@ -355,6 +356,8 @@ void TestBoard::anEditMovesTheOrderAndStartsTheWaitAgain()
     m_people->expect<DialogMakanDitempat>([](DialogMakanDitempat* form) {
         QCOMPARE(form->windowTitle(), QString("Dine - Edit Order"));
         typeInto(form, "txtKode", "t2");
+        // The first takes the table, the second confirms the form.
+        QTest::keyClick(form->focusWidget(), Qt::Key_Return);
         QTest::keyClick(form->focusWidget(), Qt::Key_Return);
     });
     press(Qt::Key_F2);

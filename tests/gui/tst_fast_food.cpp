@@ -253,13 +253,13 @@ void TestFastFood::theMoneyDecidesWhereTheSaleStands()
     QFETCH(QString, credit);
     QFETCH(QString, figures);
     show();
+    m_people->answer(QMessageBox::No);
     sell([&](DialogFastFood* form) {
         QTest::keyClicks(form->focusWidget(), paid);
         QTest::keyClick(form, Qt::Key_F10);
         QTest::keyClicks(form->focusWidget(), credit);
         QTest::keyClick(form->focusWidget(), Qt::Key_Return);
     });
-    m_people->answer(QMessageBox::No);
     QTRY_COMPARE(column(Column::InvoiceNo), QStringList("TRF-0007"));
     // The counter stores the figure that it shows: what is short is negative.
     QCOMPARE(stored("status, amount_paid_amount, other_payment_amount, net_due_amount"), figures);
@@ -379,8 +379,8 @@ void TestFastFood::aDeletedSaleLeavesNothing()
 {
     insertSale(*m_database, {"F1", "TRF", 100, 40, 0, 3, QDate::currentDate()});
     show();
-    press(Qt::Key_Delete);
     m_people->answer(QMessageBox::No);
+    press(Qt::Key_Delete);
     QTRY_COMPARE(m_people->texts(), QStringList("Are you sure, you want to delete this invoice: F1 ?"));
     QCOMPARE(m_people->lastTitle(), QString("Delete"));
     QCOMPARE(stored("no"), QString("F1"));

@@ -275,7 +275,7 @@ void TestItemForm::eachLookupFindsItsOwnItems()
     QCOMPARE(found(stock, "RIC"), QString());
     ServiceTextBox menu(&editor, items);
     menu.setItemType(foods);
-    QCOMPARE(found(menu, "rice"), QString("fr Foods, llp Foods"));
+    QCOMPARE(found(menu, "rice"), QString("llp Foods, fr Foods"));
     ItemTextBox any(&editor, items);
     QCOMPARE(found(any, "fri"), QString("aym Fried Chicken, fr Fried Rice"));
     any.setItemType("mnm");

@@ -233,6 +233,8 @@ private:
     /** After a box the page has to be in front again before it hears keys. */
     void comeBack()
     {
+        // What the box's end brings along comes first.
+        QCoreApplication::processEvents();
         m_page->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(m_page.get()));
     }

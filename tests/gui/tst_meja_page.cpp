@@ -142,6 +142,8 @@ private:
     /** The refusal's box has no window behind it, so the page has to be called to the front again. */
     void comeBack()
     {
+        // What the box's end brings along comes first.
+        QCoreApplication::processEvents();
         m_page->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(m_page.get()));
     }

@@ -454,6 +454,7 @@ void TestPurchases::anOrderIsPlacedAndChanged()
         QTest::keyClicks(form->findChild<QPlainTextEdit*>("txtNotes"), "by Friday");
         save(form);
         QCOMPARE(m_people->lastText(), QString("Select a supplier\r\nInsert one or more item\r\n"));
+        QApplication::setActiveWindow(form);
         enter(form, "txtSupplier", "S1");
         addLines<DialogPurchaseOrderDetail>(form->findChild<TabPurchaseOrderDetail*>(),
                                             {{{"txtCode", "RICE"}, {"txtQty", "5"}}});

@@ -31,6 +31,8 @@ AppListTab::~AppListTab()
 
 void AppListTab::refresh()
 {
+    if (putOff([this] { refresh(); }))
+        return;
     const int currentId = m_model ? selectedEntityIds(grid(), m_model).value(0, KorNoValue) : KorNoValue;
 
     m_business->clearErrors();

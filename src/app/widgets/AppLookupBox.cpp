@@ -4,6 +4,31 @@
 
 #include <QDebug>
 #include <QMetaProperty>
+#include <QVector>
+
+#include <algorithm>
+#include <tuple>
+
+namespace
+{
+/** How far a record is from what was typed; 0 is the record itself. */
+int distanceTo(const QString& typed, const QString& code, const QString& name)
+{
+    const QString text = typed.trimmed();
+    if (code.compare(text, Qt::CaseInsensitive) == 0)
+        return 0;
+    if (code.startsWith(text, Qt::CaseInsensitive))
+        return 1;
+    if (name.startsWith(text, Qt::CaseInsensitive))
+        return 2;
+    for (int at = name.indexOf(text, 0, Qt::CaseInsensitive); at > 0;
+         at = name.indexOf(text, at + 1, Qt::CaseInsensitive)) {
+        if (!name.at(at - 1).isLetterOrNumber())
+            return 3;
+    }
+    return 4;
+}
+} // namespace
 
 AppLookupBox::AppLookupBox(QLineEdit* editor, KorBusinessLogic* business, const QStringList& headers)
     : KorTextBoxExtender(editor, business)
@@ -15,21 +40,50 @@ AppLookupBox::AppLookupBox(QLineEdit* editor, KorBusinessLogic* business, const 
 void AppLookupBox::search(const QString& text)
 {
     qDebug() << "search:" << text;
-    m_items.clear();
-    m_found.clear();
-    if (business()) {
-        const EntityPoolScope scope(m_found);
-        business()->clearErrors();
-        m_items = find(text);
-        // The list says "No result"; the text of the failure must not surface in some other form later.
-        if (business()->hasError())
-            m_items.clear();
-        business()->clearErrors();
-    }
+    findSorted(text);
     setRowCount(0);
     qDebug() << "result";
     setRowCount(m_items.size());
     searchComplete();
+}
+
+void AppLookupBox::findSorted(const QString& text)
+{
+    m_items.clear();
+    m_found.clear();
+    if (!business())
+        return;
+    const EntityPoolScope scope(m_found);
+    business()->clearErrors();
+    m_items = find(text);
+    // The list says "No result"; the text of the failure must not surface in some other form later.
+    if (business()->hasError())
+        m_items.clear();
+    business()->clearErrors();
+
+    struct Row
+    {
+        int distance;
+        QString code;
+        KorEntity* record;
+    };
+    QVector<Row> rows;
+    rows.reserve(m_items.size());
+    for (KorEntity* record : qAsConst(m_items)) {
+        const QString code = codeOf(*record);
+        rows.append({distanceTo(text, code, nameOf(*record)), code.toLower(), record});
+    }
+    std::stable_sort(rows.begin(), rows.end(), [](const Row& left, const Row& right) {
+        return std::tie(left.distance, left.code) < std::tie(right.distance, right.code);
+    });
+    std::transform(rows.cbegin(), rows.cend(), m_items.begin(), [](const Row& row) { return row.record; });
+}
+
+int AppLookupBox::findExact(const QString& text)
+{
+    findSorted(text);
+    setRowCount(m_items.size());
+    return !m_items.isEmpty() && codeOf(*m_items.first()).compare(text.trimmed(), Qt::CaseInsensitive) == 0 ? 0 : -1;
 }
 
 QVariant AppLookupBox::rowText(int row, int column) const

@@ -7,6 +7,8 @@
 /**
  * A lookup box for records. It keeps what the last search found; a chosen record lives as long as the box, because
  * forms hold on to it while the user searches on, and everything else that was found goes with the next search.
+ * Whatever order the service reads in, the rows stand by how well they match: the code itself, a code that begins with
+ * the text, a name, a word of a name, the rest; then by code. So the first row is what fast and slow hands mean alike.
  * Families derive from the templates in AppEntityTextBox.h, which know the record's type.
  */
 class AppLookupBox : public KorTextBoxExtender
@@ -34,8 +36,10 @@ protected:
 
     [[nodiscard]] KorEntity* selectedRecord() const { return m_items.isEmpty() ? nullptr : m_selected.data(); }
     void rowChosen(int row) override;
+    [[nodiscard]] int findExact(const QString& text) override;
 
 private:
+    void findSorted(const QString& text);
     void keep(QObject* record);
 
     EntityPool m_found;

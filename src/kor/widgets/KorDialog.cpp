@@ -1,6 +1,7 @@
 #include "kor/widgets/KorDialog.h"
 
 #include "kor/entity/KorEntity.h"
+#include "kor/widgets/KorButtonKeys.h"
 #include "kor/widgets/KorViewMemory.h"
 
 #include <QAbstractButton>
@@ -12,6 +13,7 @@
 
 KorDialog::KorDialog(QWidget* parent) : QDialog(parent)
 {
+    KorButtonKeys::watch();
     // No field exists yet, so the filter reaches none and Return keeps pressing the default button.
     const QList<QWidget*> fields = findChildren<QWidget*>();
     for (QWidget* field : fields)
@@ -22,7 +24,15 @@ KorDialog::KorDialog(QWidget* parent) : QDialog(parent)
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
 }
 
-KorDialog::~KorDialog() { delete m_entity; }
+KorDialog::~KorDialog()
+{
+    // A form that goes while it is shown loses the focus on its way, and a box that is left tells the form so: by now
+    // the part that would hear it is gone.
+    const QList<QObject*> parts = findChildren<QObject*>();
+    for (const QObject* part : parts)
+        part->disconnect(this);
+    delete m_entity;
+}
 
 bool KorDialog::beforeAccept() { return !m_saver || m_saver(); }
 

@@ -1,18 +1,21 @@
 #include "kor/widgets/KorTab.h"
 
 #include "kor/entity/KorEntity.h"
+#include "kor/widgets/KorButtonKeys.h"
 #include "kor/widgets/KorEmptyHint.h"
 #include "kor/widgets/KorEntityModel.h"
 #include "kor/widgets/KorSortFilterProxyModel.h"
 #include "kor/widgets/KorViewMemory.h"
 
 #include <QAbstractButton>
-#include <QCoreApplication>
+#include <QApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMessageBox>
 #include <QResizeEvent>
 #include <QStyleOptionHeader>
 #include <QTableView>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -21,6 +24,7 @@ namespace
 constexpr int widestFirstSight = 360;
 constexpr int narrowestRest = 110;
 constexpr int cellPadding = 16;
+constexpr int nextLook = 50;
 
 /**
  * Widths that show headers and the first rows' texts in full, within reason. A list is often empty at first sight, or
@@ -104,7 +108,32 @@ bool startsAtCurrentRow(const QTableView* view, const QKeyEvent& key)
 }
 } // namespace
 
-KorTab::KorTab(QWidget* parent) : QWidget(parent) {}
+KorTab::KorTab(QWidget* parent) : QWidget(parent) { KorButtonKeys::watch(); }
+
+bool KorTab::isBusy(const QWidget* page)
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    return std::any_of(windows.cbegin(), windows.cend(), [page](const QWidget* window) {
+        if (!window->isModal() || !window->isVisible())
+            return false;
+        const QWidget* parent = window->parentWidget();
+        // A box that belongs to the window, or to nobody, may be the page's word as well.
+        const bool isBox = qobject_cast<const QMessageBox*>(window);
+        return (parent && (parent == page || page->isAncestorOf(parent))) ||
+               (isBox && (!parent || parent == page->window()));
+    });
+}
+
+bool KorTab::putOff(const std::function<void()>& work)
+{
+    if (!isBusy(this))
+        return false;
+    QTimer::singleShot(nextLook, this, [this, work] {
+        if (!putOff(work))
+            work();
+    });
+    return true;
+}
 
 void KorTab::close()
 {
@@ -121,6 +150,9 @@ void KorTab::doubleClickedSlot(const QModelIndex& index)
 
 void KorTab::keyPressEvent(QKeyEvent* event)
 {
+    // What was posted comes late: by now a form may be open, or the page be gone.
+    if (KorButtonKeys::isBlocked(this) || (window()->isVisible() && !isVisible()))
+        return;
     const QList<QAbstractButton*> buttons = findChildren<QAbstractButton*>();
     for (QAbstractButton* button : buttons) {
         if (event->key() == Qt::Key_F2 && button->shortcut() == QKeySequence(Qt::Key_F2)) {

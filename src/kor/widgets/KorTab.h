@@ -3,6 +3,8 @@
 #include <QModelIndex>
 #include <QWidget>
 
+#include <functional>
+
 class KorEntity;
 class KorEntityModel;
 class KorSortFilterProxyModel;
@@ -18,6 +20,8 @@ public:
 
     /** Asks the main window to take the page away, and closes it. */
     void close();
+    /** A form or a question of the page is open: neither the page nor its rows may go from under it. */
+    [[nodiscard]] static bool isBusy(const QWidget* page);
 
 signals:
     void onclose(QWidget* tab);
@@ -28,6 +32,9 @@ public slots:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+
+    /** Puts off what may not be done while the page is busy, until it is free; false when nothing is in the way. */
+    bool putOff(const std::function<void()>& work);
 
     /** A new sort proxy with the tab as parent. */
     virtual KorSortFilterProxyModel* createProxyModel();

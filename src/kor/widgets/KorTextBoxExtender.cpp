@@ -1,5 +1,7 @@
 #include "kor/widgets/KorTextBoxExtender.h"
 
+#include "kor/widgets/KorButtonKeys.h"
+
 #include <QAbstractItemModel>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -16,10 +18,9 @@ constexpr int visibleRows = 10;
 constexpr int extraHeight = 20;
 constexpr int extraWidth = 10;
 
-bool endsTheChoice(const QKeyEvent& key)
-{
-    return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter || key.key() == Qt::Key_Escape;
-}
+bool isEnter(const QKeyEvent& key) { return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter; }
+
+bool endsTheChoice(const QKeyEvent& key) { return isEnter(key) || key.key() == Qt::Key_Escape; }
 } // namespace
 
 KorTextBoxExtender::KorTextBoxExtender(QLineEdit* editor, KorBusinessLogic* business)
@@ -47,7 +48,11 @@ KorTextBoxExtender::KorTextBoxExtender(QLineEdit* editor, KorBusinessLogic* busi
 
     m_timer->setSingleShot(true);
     m_timer->setInterval(searchDelay);
-    connect(m_timer, &QTimer::timeout, this, &KorTextBoxExtender::autoSuggest);
+    connect(m_timer, &QTimer::timeout, this, [this] {
+        // No list over a form that has opened meanwhile.
+        if (!KorButtonKeys::isBlocked(m_editor))
+            autoSuggest();
+    });
     editor->installEventFilter(this);
     connect(editor, &QLineEdit::textEdited, m_timer, qOverload<>(&QTimer::start));
     connect(this, &KorTextBoxExtender::onSearchComplete, this, &KorTextBoxExtender::searchComplete);
@@ -153,8 +158,13 @@ void KorTextBoxExtender::doneCompletion()
     m_timer->stop();
     m_popup->hide();
     m_editor->setFocus();
+    choose(m_popup->currentIndex().row());
+}
+
+void KorTextBoxExtender::choose(int row)
+{
     m_currentRow = -1;
-    m_currentRow = m_popup->currentIndex().row();
+    m_currentRow = row;
     rowChosen(m_currentRow);
     m_editor->setText(selectedText(m_currentRow));
     // What the form does on Return may close it, and this box with it.
@@ -175,6 +185,15 @@ bool KorTextBoxExtender::eventFilter(QObject* watched, QEvent* event)
         event->accept();
         return true;
     }
+    if (watched == m_editor && event->type() == QEvent::ShortcutOverride && m_timer->isActive() &&
+        wantsEnter(*static_cast<QKeyEvent*>(event))) {
+        event->accept();
+        return true;
+    }
+    if (watched == m_editor && event->type() == QEvent::KeyPress && wantsEnter(*static_cast<QKeyEvent*>(event))) {
+        takeTyped();
+        return true;
+    }
     if (watched == m_editor && event->type() == QEvent::FocusOut) {
         // Whoever has gone on would find the list in the way, and the next field's keys would land in this one.
         const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
@@ -189,6 +208,34 @@ bool KorTextBoxExtender::eventFilter(QObject* watched, QEvent* event)
         return true;
     }
     return event->type() == QEvent::KeyPress && popupKey(static_cast<QKeyEvent*>(event));
+}
+
+bool KorTextBoxExtender::wantsEnter(const QKeyEvent& key) const
+{
+    return isEnter(key) && (m_timer->isActive() || m_taker) && !m_editor->text().isEmpty();
+}
+
+void KorTextBoxExtender::takeTyped()
+{
+    m_timer->stop();
+    if (m_taker) {
+        if (!m_taker())
+            autoSuggest();
+        else if (m_nextWidget)
+            m_nextWidget->setFocus(Qt::TabFocusReason);
+        return;
+    }
+    const int row = findExact(m_editor->text());
+    if (row < 0)
+        searchComplete();
+    else
+        choose(row);
+}
+
+int KorTextBoxExtender::findExact(const QString& text)
+{
+    Q_UNUSED(text)
+    return -1;
 }
 
 bool KorTextBoxExtender::popupKey(QKeyEvent* event)

@@ -5,6 +5,7 @@
 #include <QVariant>
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 
 class KorBusinessLogic;
@@ -43,6 +44,12 @@ public:
     void setNextWidget(QWidget* widget) { m_nextWidget = widget; }
     [[nodiscard]] QWidget* nextWidget() const { return m_nextWidget; }
 
+    /**
+     * How the form itself takes a typed code, if it knows better than the search: true when there is such a record.
+     * Enter then always takes the code that stands in the box, also one that was not typed just now.
+     */
+    void setTaker(std::function<bool()> taker) { m_taker = std::move(taker); }
+
     [[nodiscard]] QLineEdit* editor() const { return m_editor; }
     [[nodiscard]] KorBusinessLogic* business() const { return m_business; }
 
@@ -64,11 +71,17 @@ protected:
 
     /** A row has been chosen, -1 for none; called before the text goes into the line edit. */
     virtual void rowChosen(int row);
+    /** Searches without showing the list; the row whose code is just this text, or -1. */
+    [[nodiscard]] virtual int findExact(const QString& text);
 
 private:
     void fillPopup();
     void placePopup();
     bool popupKey(QKeyEvent* event);
+    /** Whether Enter is the box's own: it has a text that nothing was made of yet. */
+    [[nodiscard]] bool wantsEnter(const QKeyEvent& key) const;
+    void takeTyped();
+    void choose(int row);
 
     KorBusinessLogic* m_business;
     QLineEdit* m_editor;
@@ -79,4 +92,5 @@ private:
     int m_rowCount = 0;
     int m_currentRow = -1;
     QPointer<QWidget> m_nextWidget;
+    std::function<bool()> m_taker;
 };

@@ -3,6 +3,7 @@
 #include "app/widgets/AppNumberEdit.h"
 #include "app/widgets/MoneyEdit.h"
 
+#include <QFocusEvent>
 #include <QLabel>
 
 namespace
@@ -34,10 +35,43 @@ void TotalsCascade::proposeDiscount(double percent)
 {
     m_totals.proposePercent(InvoiceTotals::Discount, percent);
     m_boxes.percents[InvoiceTotals::Discount]->setValue(percent);
+    m_isProposed = true;
+    // Wherever the user goes on from; the form's own steps from box to box are none of his.
+    const QList<QWidget*> boxes = m_boxes.subtotal->window()->findChildren<QWidget*>();
+    for (QWidget* box : boxes)
+        box->installEventFilter(this);
+}
+
+bool TotalsCascade::eventFilter(QObject* watched, QEvent* event)
+{
+    // These two tell of their change themselves.
+    const bool tells =
+        watched == m_boxes.percents[InvoiceTotals::Discount] || watched == m_boxes.amounts[InvoiceTotals::Discount];
+    if (event->type() == QEvent::FocusOut && !tells) {
+        switch (static_cast<QFocusEvent*>(event)->reason()) {
+        case Qt::TabFocusReason:
+        case Qt::BacktabFocusReason:
+        case Qt::MouseFocusReason:
+        case Qt::ShortcutFocusReason:
+            settleProposal();
+            break;
+        default:
+            break;
+        }
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void TotalsCascade::settleProposal()
+{
+    if (m_isProposed)
+        percentEntered(InvoiceTotals::Discount);
 }
 
 void TotalsCascade::percentEntered(InvoiceTotals::Part part)
 {
+    if (part == InvoiceTotals::Discount)
+        m_isProposed = false;
     m_totals.setPercent(part, m_boxes.percents[part]->value());
     m_boxes.amounts[part]->setValue(m_totals.amount(part));
     calculateTotal();
@@ -45,6 +79,8 @@ void TotalsCascade::percentEntered(InvoiceTotals::Part part)
 
 void TotalsCascade::amountEntered(InvoiceTotals::Part part)
 {
+    if (part == InvoiceTotals::Discount)
+        m_isProposed = false;
     if (m_keepsPercentsOfNothing && qFuzzyIsNull(m_totals.subtotal()))
         m_totals.restore(part, m_totals.percent(part), m_boxes.amounts[part]->value());
     else
@@ -90,6 +126,7 @@ void TotalsCascade::showPart(InvoiceTotals::Part part)
 
 void TotalsCascade::show(const InvoiceTotals& stored)
 {
+    m_isProposed = false;
     m_totals = stored;
     m_boxes.subtotal->setValue(stored.subtotal());
     showPart(InvoiceTotals::Discount);

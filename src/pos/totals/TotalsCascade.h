@@ -41,8 +41,10 @@ public:
     void clear();
     /** The lines have changed; amounts are not derived from their percents again. */
     void setSubtotal(double amount);
-    /** A discount that the amount follows only when the user leaves the percent's box. */
+    /** A discount that the amount follows when the user goes on: to another box, or to the end of the form. */
     void proposeDiscount(double percent);
+    /** Lets the amount follow a discount that was proposed and not yet changed by hand. */
+    void settleProposal();
     void percentEntered(InvoiceTotals::Part part);
     void amountEntered(InvoiceTotals::Part part);
     /** Shows the grand total and what is due from what the boxes hold now. */
@@ -58,10 +60,14 @@ public:
     /** Shows the parts and the money as they stand in a stored document. */
     void show(const InvoiceTotals& stored);
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     void showPart(InvoiceTotals::Part part);
 
     Boxes m_boxes;
     InvoiceTotals m_totals;
     bool m_keepsPercentsOfNothing = false;
+    bool m_isProposed = false;
 };

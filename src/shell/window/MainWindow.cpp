@@ -45,6 +45,11 @@
 namespace
 {
 constexpr int updateCheckDelay = 2000;
+QStringList databaseInUse()
+{
+    const QSqlDatabase open = AppContext::instance()->databaseManager()->database();
+    return {open.hostName(), QString::number(open.port()), open.databaseName()};
+}
 } // namespace
 
 MainWindow::MainWindow(QWidget* parent)
@@ -251,16 +256,12 @@ void MainWindow::on_actionBackup_Database_triggered()
 {
     if (!hasAccess("Printer Config", 0))
         return;
-    const auto database = [] {
-        const QSqlDatabase open = AppContext::instance()->databaseManager()->database();
-        return QStringList{open.hostName(), QString::number(open.port()), open.databaseName()};
-    };
-    const QStringList before = database();
     DialogBackupDB dialog(this);
+    const QStringList before = databaseInUse();
     connect(&dialog, &DialogBackupDB::onUpdateDBConf, this, &MainWindow::updateDBConfig);
     dialog.exec();
-    // What the pages show is in the former database: a save from there would hit other records in this one.
-    if (database() != before)
+    // Restored or chosen, it is another one.
+    if (databaseInUse() != before)
         closeAllTab();
 }
 
@@ -327,6 +328,7 @@ void MainWindow::updateDBConfig()
         return;
     }
     const ConnectionSettings settings = ConnectionSettings::read(m_settingsFile);
+    const QStringList former = databaseInUse();
     QString reason;
     if (!changeDatabase(settings, &reason)) {
         showInfo(tr("Failed open db. Host: %1, dbname: %2, dbuser: %3, dbpass: %4,  port: %5. %6")
@@ -337,6 +339,7 @@ void MainWindow::updateDBConfig()
     const bool installed = m_configuration->getConfig("app_version");
     m_configuration->clearErrors();
     if (!installed) {
+        closeAllTab();
         showInfo(tr("Table: Config corrupted") + pleaseInstall);
         return;
     }
@@ -351,6 +354,9 @@ void MainWindow::updateDBConfig()
     context->setShowSidebar(settings.showDashboard);
     if (m_inDatabaseSetup)
         QMessageBox::information(this, tr("Info"), tr("Connected!"));
+    // What the pages show is in the former database: a save from there would hit other records in this one.
+    if (databaseInUse() != former)
+        m_pages->makeAnew();
 }
 
 void MainWindow::checkDBUpdate()

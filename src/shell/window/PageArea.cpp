@@ -4,7 +4,9 @@
 #include "shell/window/PageBoxes.h"
 
 #include <QAbstractButton>
+#include <QPointer>
 #include <QTabWidget>
+#include <QTimer>
 
 PageArea::PageArea(QTabWidget* tabs) : QObject(tabs), m_tabs(tabs), m_factories(allTabFactories())
 {
@@ -52,22 +54,41 @@ void PageArea::openReport(KorTab* report)
 
 void PageArea::retranslate()
 {
-    const int shown = m_tabs->currentIndex();
+    for (const QWidget* page : pages()) {
+        if (putOff(page, [this] { retranslate(); }))
+            return;
+    }
     // Close buttons keep the words that they were made with.
     m_tabs->setTabsClosable(false);
     m_tabs->setTabsClosable(true);
-    for (int index = 0; index < m_tabs->count(); ++index) {
-        QWidget* page = m_tabs->widget(index);
+    // A report speaks the new language by itself, when the same event reaches it.
+    makePagesAnew();
+}
+
+void PageArea::makeAnew()
+{
+    for (QWidget* page : pages()) {
+        // A report is asked for again.
+        if (!knows(page->metaObject()->className()))
+            removePage(page);
+    }
+    makePagesAnew();
+}
+
+void PageArea::makePagesAnew()
+{
+    const int shown = m_tabs->currentIndex();
+    for (QWidget* page : pages()) {
         const QString className = page->metaObject()->className();
-        // A report speaks the new language by itself, when the same event reaches it.
         if (!knows(className))
             continue;
-        // A page holds no unsaved work, and its lists have to be read for their words anyway.
+        // A page holds no unsaved work, and its lists have to be read again anyway.
         KorTab* successor = make(className);
         const bool differs = PageBoxes(*page).putInto(*successor);
+        const int index = m_tabs->indexOf(page);
         m_tabs->removeTab(index);
         m_tabs->insertTab(index, successor, successor->windowTitle());
-        page->deleteLater();
+        delete page;
         auto* search = successor->findChild<QAbstractButton*>("btnSearch");
         if (differs && search)
             search->click();
@@ -110,13 +131,37 @@ int PageArea::find(const QString& className, const QString& title) const
 
 void PageArea::remove(int index)
 {
+    if (QWidget* page = m_tabs->widget(index))
+        removePage(page);
+}
+
+void PageArea::removePage(QWidget* page)
+{
+    if (putOff(page, [this, page = QPointer<QWidget>(page)] {
+            if (page)
+                removePage(page);
+        }))
+        return;
+    takeOut(page);
+    page->deleteLater();
+}
+
+void PageArea::takeOut(QWidget* page)
+{
     // The tab bar has the keys meanwhile: out of a page that goes they would jump into the next one's first field.
     m_tabs->setFocus(Qt::OtherFocusReason);
-    if (QWidget* page = m_tabs->widget(index))
-        page->deleteLater();
-    m_tabs->removeTab(index);
+    m_tabs->removeTab(m_tabs->indexOf(page));
     emit changed();
     focusPage();
+}
+
+bool PageArea::putOff(const QWidget* page, const std::function<void()>& work)
+{
+    constexpr int nextLook = 50;
+    if (!KorTab::isBusy(page))
+        return false;
+    QTimer::singleShot(nextLook, this, work);
+    return true;
 }
 
 void PageArea::removeClass(const QString& className)
@@ -130,13 +175,28 @@ void PageArea::removeReport(const QWidget* report)
 {
     const QString className = report->metaObject()->className();
     const QString title = report->windowTitle();
-    for (int index = find(className, title); index >= 0; index = find(className, title))
-        remove(index);
+    for (QWidget* page : pages()) {
+        if (className == QLatin1String(page->metaObject()->className()) && title == page->windowTitle())
+            removePage(page);
+    }
+}
+
+QWidgetList PageArea::pages() const
+{
+    QWidgetList all;
+    for (int index = 0; index < m_tabs->count(); ++index)
+        all.append(m_tabs->widget(index));
+    return all;
 }
 
 void PageArea::removeAll()
 {
-    while (m_tabs->count() > 0)
-        remove(0);
-    m_tabs->clear();
+    for (QWidget* page : pages()) {
+        if (KorTab::isBusy(page)) {
+            removePage(page);
+            continue;
+        }
+        takeOut(page);
+        delete page;
+    }
 }

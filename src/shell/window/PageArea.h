@@ -4,6 +4,8 @@
 
 #include <QObject>
 
+#include <functional>
+
 class QTabWidget;
 class QWidget;
 
@@ -23,13 +25,17 @@ public:
     /** The first page of that class and, where one is given, of that title; -1 for none. */
     [[nodiscard]] int find(const QString& className, const QString& title = QString()) const;
 
+    /** A page with a form or a question open stays until that is closed. */
     void remove(int index);
     /** Removes the page of that class, if there is one. */
     void removeClass(const QString& className);
     void removeReport(const QWidget* report);
+    /** At once, and not only when the program comes to rest: their records may be about to go. */
     void removeAll();
     /** Makes every page anew in the language in use; what stands in its boxes stays. */
     void retranslate();
+    /** Makes every page anew on the database in use; what stands in its boxes stays, and reports go. */
+    void makeAnew();
 
 signals:
     /** A page has come or gone. */
@@ -37,8 +43,15 @@ signals:
 
 private:
     [[nodiscard]] KorTab* make(const QString& className);
+    /** Removes the page unless it is busy; then it goes when it is free. */
+    void removePage(QWidget* page);
+    void takeOut(QWidget* page);
+    void makePagesAnew();
+    /** Puts off what cannot be done while a page is busy; false when nothing is in the way. */
+    bool putOff(const QWidget* page, const std::function<void()>& work);
     void add(QWidget* page);
     void show(int index);
+    [[nodiscard]] QWidgetList pages() const;
     void focusPage();
 
     QTabWidget* m_tabs;

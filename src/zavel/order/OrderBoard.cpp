@@ -35,6 +35,8 @@ void OrderBoard::setGrid(QTableView* grid, QLabel* count, const QList<int>& widt
 
 void OrderBoard::refresh()
 {
+    if (putOff([this] { refresh(); }))
+        return;
     EntityPool read;
     QList<KorEntity*> rows;
     {

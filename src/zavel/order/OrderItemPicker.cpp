@@ -9,8 +9,6 @@
 
 #include "ui_OrderItemPicker.h"
 
-#include <QKeyEvent>
-
 #include <cmath>
 #include <limits>
 
@@ -26,7 +24,6 @@ OrderItemPicker::OrderItemPicker(EntityPool& items, QWidget* parent)
 {
     m_ui->setupUi(this);
     makeTouchable(m_ui->buttonBox);
-    m_ui->txtCode->installEventFilter(this);
     fillTypes();
     focusLater(m_ui->txtCode);
 }
@@ -37,8 +34,8 @@ QLineEdit* OrderItemPicker::codeField() const { return m_ui->txtCode; }
 
 void OrderItemPicker::watch(AppLookupBox* box)
 {
-    m_box = box;
     box->setNextWidget(m_ui->txtQty);
+    box->setTaker([this] { return chooseByCode(); });
     connect(box, &AppLookupBox::onItemSelected, this, &OrderItemPicker::chooseByCode);
 }
 
@@ -63,23 +60,6 @@ void OrderItemPicker::on_ddlType_currentIndexChanged(int row)
 {
     if (m_narrow)
         m_narrow(m_ui->ddlType->itemData(row).toInt());
-}
-
-bool OrderItemPicker::eventFilter(QObject* watched, QEvent* event)
-{
-    if (watched == m_ui->txtCode && event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        if ((key == Qt::Key_Return || key == Qt::Key_Enter) && !m_ui->txtCode->text().isEmpty()) {
-            m_box->preventSuggest();
-            // A code that is known needs no list; anything else is searched for at once.
-            if (chooseByCode())
-                m_ui->txtQty->setFocus(Qt::TabFocusReason);
-            else
-                m_box->autoSuggest();
-            return true;
-        }
-    }
-    return KorDialog::eventFilter(watched, event);
 }
 
 void OrderItemPicker::on_txtCode_textEdited(const QString& text)

@@ -53,7 +53,6 @@ protected:
         m_narrow = [box](int type) { box->setItemType(type); };
         watch(box);
     }
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     [[nodiscard]] QLineEdit* codeField() const;
@@ -70,7 +69,6 @@ private:
     std::unique_ptr<Ui::OrderItemPicker> m_ui;
     EntityPool& m_items;
     BusinessItem* m_service;
-    AppLookupBox* m_box = nullptr;
     std::function<void(int)> m_narrow;
     EntityOrderDetail* m_line = nullptr;
     EntityItem* m_item = nullptr;

@@ -147,6 +147,7 @@ void PaymentDialog::on_txtService_editingFinished() { m_cascade->amountEntered(I
 
 bool PaymentDialog::validate()
 {
+    m_cascade->settleProposal();
     if (invoiceLines().isEmpty())
         addError(m_form.pages, tr("Add one or more menu"));
     m_parties->lookUp();

@@ -4,18 +4,23 @@
 #include "kor/widgets/KorDialog.h"
 
 #include <QApplication>
-#include <QKeyEvent>
 
 ItemField::ItemField(QLineEdit* code, QLineEdit* name, EntityPool& items, KorDialog* form)
     : QObject(code), m_code(code), m_name(name), m_items(items), m_form(form),
       m_box(new ItemTextBox(code, service<BusinessItem>("Item")))
 {
-    code->installEventFilter(this);
     connect(m_box, &KorTextBoxExtender::onItemSelected, this, [this] {
         // Read anew: what the box found goes with its next search.
         const QString failure = lookUp();
         if (failure.isEmpty())
             emit chosen();
+    });
+    m_box->setTaker([this] {
+        const QString failure = lookUp();
+        if (!failure.isEmpty() || !m_item)
+            return false;
+        emit chosen();
+        return true;
     });
     connect(m_code, &QLineEdit::textEdited, this, [this] {
         m_item = nullptr;
@@ -76,22 +81,4 @@ bool ItemField::check(const QString& missing, const QString& unknown)
     else if (!m_item)
         m_form->addError(m_code, unknown);
     return m_item;
-}
-
-bool ItemField::eventFilter(QObject* watched, QEvent* event)
-{
-    const auto isReturn = [event] {
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        return key == Qt::Key_Return || key == Qt::Key_Enter;
-    };
-    if (watched != m_code || event->type() != QEvent::KeyPress || !isReturn() || m_code->text().isEmpty())
-        return QObject::eventFilter(watched, event);
-    m_box->preventSuggest();
-    // A code that is known needs no list; anything else is searched for at once.
-    const QString failure = lookUp();
-    if (failure.isEmpty() && m_item)
-        emit chosen();
-    else
-        m_box->autoSuggest();
-    return true;
 }

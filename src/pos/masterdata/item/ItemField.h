@@ -33,9 +33,6 @@ signals:
     /** Another item was chosen by the user, or none. */
     void chosen();
 
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 private:
     QLineEdit* m_code;
     QLineEdit* m_name;
