@@ -25,6 +25,7 @@ private slots:
     void takeAwayIsNeverListed();
     void theListFollowsTodaysPercentAndItsFilters();
     void aPaymentThatWentMeanwhileIsTold();
+    void anotherAgentsCodeAndF2InABurst();
     void aPercentIsSetForOneInvoice_data();
     void aPercentIsSetForOneInvoice();
     void whatIsStillDueIsTold_data();
@@ -196,6 +197,39 @@ void TestAgentCommissions::aPaymentThatWentMeanwhileIsTold()
 }
 
 // --- the form ------------------------------------------------------------------------------------------------------
+
+void TestAgentCommissions::anotherAgentsCodeAndF2InABurst()
+{
+    m_database->run("INSERT INTO agent (id, kode, nama, alamat, telp, email, commision_perc, version) VALUES "
+                    "(2, 'A2', 'Hotel', '', '', '', 20, 1)");
+    m_database->run("UPDATE invoice_fast_food SET agent_id = 2");
+    m_database->run("UPDATE invoice SET agent_id = 2 WHERE no LIKE 'TRF%'");
+    show<TabKomisiAgen>();
+    onForm("btnAdd", [this](DialogKomisiAgen* form) {
+        enter(form, "txtAgen", "a1");
+        choose(form, 0);
+        box(form, "txtAgen")->setFocus();
+        box(form, "txtAgen")->selectAll();
+        QTest::keyClicks(box(form, "txtAgen"), "a2");
+        m_people->expect<DialogSetPercentage>([](DialogSetPercentage* one) {
+            QApplication::setActiveWindow(one);
+            enter(one, "txtPerc", "5");
+            confirm(one, "txtPerc");
+        });
+        QTest::keyClick(box(form, "txtAgen"), Qt::Key_F2);
+        QCOMPARE(shown(form, "txtName"), QString("Hotel"));
+        if (!m_people->finished()) {
+            choose(form, 0);
+            click(form, "btnSetPerc");
+        }
+        QCOMPARE(cells(form, 0).mid(2), (QStringList{"Mary", "Rp300,00", "5", "Rp15,00"}));
+        QApplication::setActiveWindow(form);
+        enter(form, "txtExpenseAccount", "1-100");
+        enter(form, "txtPaid", "15");
+        confirm(form, "txtNoRef");
+    });
+    QTRY_COMPARE(value("SELECT concat_ws(' ', agent_id, grandtotal_amount) FROM komisi_agen"), QString("2 15"));
+}
 
 void TestAgentCommissions::aPercentIsSetForOneInvoice_data()
 {

@@ -24,6 +24,8 @@ private slots:
     void init();
     void cleanup();
     void aSupplierIsPaidAllThatIsOpen();
+    void anotherSuppliersCodeAndF2InABurst();
+    void aFormMayGoWithACodeThatNobodyHasRead();
     void whatCanBePaidOfOnePurchase_data();
     void whatCanBePaidOfOnePurchase();
     void whatIsMissingIsTold_data();
@@ -155,6 +157,48 @@ void TestBillPayments::aSupplierIsPaidAllThatIsOpen()
     QCOMPARE(cells(m_page.get(), 0).mid(2), (QStringList{"Market", "Rp800,00"}));
     QCOMPARE(value("SELECT concat_ws(' ', payment_type, check_no, bank_id) FROM payment"), QString("3 77 1"));
     QCOMPARE(purchasesStand(), QString("500 0 1, 300 0 1"));
+}
+
+void TestBillPayments::anotherSuppliersCodeAndF2InABurst()
+{
+    m_database->run("INSERT INTO supplier (id, kode, nama, alamat, telp, email, version) VALUES "
+                    "(2, 'S2', 'Dairy', 'Street 5', '5', '', 1)");
+    buy("NB-3", 700, 700);
+    m_database->run("UPDATE acquisition SET supplier_id = 2 WHERE no = 'NB-3'");
+    show();
+    onForm<DialogPayment>(*m_people, m_page.get(), "btnAdd", [this](DialogPayment* form) {
+        enter(form, "txtSupplier", "S1");
+        choose(purchases(form), 1);
+        box(form, "txtSupplier")->setFocus();
+        box(form, "txtSupplier")->selectAll();
+        QTest::keyClicks(box(form, "txtSupplier"), "S2");
+        m_people->expect<DialogPaymentInvoice>([](DialogPaymentInvoice* one) {
+            QApplication::setActiveWindow(one);
+            QTest::keyClicks(box(one, "txtPaid"), "70");
+            confirm(one, "txtPaid");
+        });
+        QTest::keyClick(box(form, "txtSupplier"), Qt::Key_F2);
+        // The key meant a line of the one who is named by now.
+        QCOMPARE(shown(form, "txtSupplierName"), QString("Dairy"));
+        if (!m_people->finished()) {
+            choose(purchases(form), 0);
+            click(form, "btnPay");
+        }
+        QCOMPARE(figures(form), QString("630 70"));
+        enter(form, "txtCashAccount", "1-100");
+        confirm(form, "txtRefNo");
+    });
+    QTRY_COMPARE(purchasesStand(), QString("0 500 2, 0 300 3, 70 630 3"));
+}
+
+void TestBillPayments::aFormMayGoWithACodeThatNobodyHasRead()
+{
+    auto form = std::make_unique<DialogPayment>();
+    form->show();
+    QVERIFY(QTest::qWaitForWindowActive(form.get()));
+    box(form.get(), "txtSupplier")->setFocus();
+    QTest::keyClicks(box(form.get(), "txtSupplier"), "S1");
+    form.reset();
 }
 
 void TestBillPayments::whatCanBePaidOfOnePurchase_data()

@@ -3,6 +3,7 @@
 #include "pos/invoice/EntityInvoiceDetail.h"
 #include "pos/invoice/Invoice.h"
 #include "pos/totals/InvoiceTotals.h"
+#include "support/Hands.h"
 #include "support/ModalDriver.h"
 #include "support/ShopRows.h"
 #include "support/TestCluster.h"
@@ -24,6 +25,7 @@
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 namespace
 {
@@ -50,6 +52,10 @@ private slots:
     void aMembersDiscountHoldsToItsLastDay_data();
     void aMembersDiscountHoldsToItsLastDay();
     void aMemberIsPickedWhileTyping();
+    void aMembersCodeMeansTheSameAtEverySpeed_data();
+    void aMembersCodeMeansTheSameAtEverySpeed();
+    void pressedTwiceDoesOneThing_data();
+    void pressedTwiceDoesOneThing();
     void aWrongEntryIsTold_data();
     void aWrongEntryIsTold();
     void theMoneyDecidesWhereTheSaleStands_data();
@@ -403,6 +409,86 @@ void TestPayment::aMemberIsPickedWhileTyping()
     save();
     QTRY_COMPARE(invoice("version, member_id"), QStringList{"2"});
     QCOMPARE(shown("txtNamaPelanggan"), QString("Mary"));
+}
+
+void TestPayment::aMembersCodeMeansTheSameAtEverySpeed_data()
+{
+    QTest::addColumn<bool>("waitsForTheList");
+    QTest::addColumn<int>("then");
+    QTest::newRow("a card scanner, and Return") << false << int(Qt::Key_Return);
+    QTest::newRow("a card scanner, and straight to the money") << false << int(Qt::Key_F9);
+    QTest::newRow("a slow typist, and Return") << true << int(Qt::Key_Return);
+}
+
+void TestPayment::aMembersCodeMeansTheSameAtEverySpeed()
+{
+    QFETCH(bool, waitsForTheList);
+    QFETCH(int, then);
+    m_database->run("UPDATE member SET discount_percentage = 15, expired_date = current_date + 1");
+    openForm();
+    type("txtMember", "m1");
+    if (waitsForTheList) {
+        QTRY_VERIFY(QApplication::activePopupWidget());
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
+    } else {
+        QTest::keyClick(box("txtMember"), Qt::Key_Return);
+    }
+    QCOMPARE(invoices(), 0);
+    QVERIFY(m_people->texts().isEmpty());
+    QCOMPARE(shown("txtNamaPelanggan"), QString("Guest"));
+    press(Qt::Key(then));
+    if (then == Qt::Key_F9) {
+        QCOMPARE(shown("txtDiscount"), QString("150,00"));
+        save();
+    }
+    QTRY_COMPARE(invoices(), 1);
+    QCOMPARE(invoice("member_id, disc_perc, discount_amount, grandtotal_amount"),
+             (QStringList{"1", "15", "150", "850"}));
+}
+
+void TestPayment::pressedTwiceDoesOneThing_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<bool>("byFinger");
+    QTest::newRow("Print by finger") << "btnPrintBill" << true;
+    QTest::newRow("Print by its key") << "btnPrintBill" << false;
+    QTest::newRow("OK by finger") << "" << true;
+    QTest::newRow("OK by Return") << "" << false;
+}
+
+void TestPayment::pressedTwiceDoesOneThing()
+{
+    QFETCH(QString, button);
+    QFETCH(bool, byFinger);
+    openForm();
+    enter("txtPaid", "1000");
+    box("txtPaid")->setFocus();
+    bringToFront();
+    // The questions are answered by hand as well, when both presses are over.
+    m_people.reset();
+    QTimer answers;
+    connect(&answers, &QTimer::timeout, this, [] {
+        if (::openForm())
+            QTimer::singleShot(0, [] { strikeKey(Qt::Key_Escape); });
+    });
+    QTimer::singleShot(150, &answers, [&answers] { answers.start(10); });
+    const QWidget* target = button.isEmpty() ? m_form->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)
+                                             : m_form->findChild<QPushButton*>(button);
+    const QPoint place = target->mapTo(m_form.get(), target->rect().center());
+    const auto press = [this, button, byFinger, place](int time) {
+        if (byFinger)
+            tap(m_form->windowHandle(), place, time);
+        else if (button.isEmpty())
+            strikeKey(Qt::Key_Return);
+        else
+            strikeKey(Qt::Key_P, {}, Qt::ControlModifier);
+    };
+    QTimer::singleShot(40, m_form.get(), [press] { press(100040); });
+    press(100000);
+    QTest::qWait(250);
+    QCOMPARE(invoices(), 1);
+    QCOMPARE(invoice("version"), QStringList("1"));
+    QCOMPARE(slips().size(), button.isEmpty() ? 0 : 1);
 }
 
 // --- saving --------------------------------------------------------------------------------------------------------

@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QTableView>
 #include <QTest>
+#include <QWindow>
 
 // What a person does at a page or a form, and sees of it. Boxes and buttons go by their names.
 
@@ -50,6 +51,35 @@ inline void confirm(QWidget* form, const char* inBox) { QTest::keyClick(box(form
 inline void press(const QWidget* form, QDialogButtonBox::StandardButton button)
 {
     QTest::mouseClick(form->findChild<QDialogButtonBox*>()->button(button), Qt::LeftButton);
+}
+
+/** The list, form or question that takes the keys; null where only a page is there. */
+[[nodiscard]] inline QWidget* openForm()
+{
+    QWidget* popup = QApplication::activePopupWidget();
+    return popup ? popup : QApplication::activeModalWidget();
+}
+
+/** Sends the key, and the text that it writes, to the window that has the keys, as the window system does. */
+inline void strikeKey(int key, const QString& text = {}, Qt::KeyboardModifiers modifiers = {})
+{
+    QWidget* form = openForm();
+    const QPointer<QWindow> window = form ? form->windowHandle() : QGuiApplication::focusWindow();
+    // Straight to the window system: what the testing library has for it lets other strokes happen in between.
+    if (window)
+        qt_handleKeyEvent(window, QEvent::KeyPress, key, modifiers, text);
+    if (window)
+        qt_handleKeyEvent(window, QEvent::KeyRelease, key, modifiers, text);
+}
+
+/** A finger on the place in the window, at that moment of the window system's clock in milliseconds. */
+inline void tap(QWindow* window, const QPoint& place, int time)
+{
+    const QPointer<QWindow> alive(window);
+    const QPoint global = window->mapToGlobal(place);
+    qt_handleMouseEvent(window, place, global, Qt::LeftButton, Qt::LeftButton, QEvent::MouseButtonPress, {}, time);
+    if (alive)
+        qt_handleMouseEvent(window, place, global, {}, Qt::LeftButton, QEvent::MouseButtonRelease, {}, time + 10);
 }
 
 inline void giveUp(QWidget* form) { QTest::keyClick(form, Qt::Key_Escape); }

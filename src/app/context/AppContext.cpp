@@ -75,6 +75,17 @@ QObject* AppContext::entityPool() const
     return KorDatabase::isApplicationThread() ? m_entityPool.get() : nullptr;
 }
 
-void AppContext::resetEntityPool() { m_entityPool = std::make_unique<QObject>(); }
+void AppContext::resetEntityPool()
+{
+    m_resetIsDue = EntityPoolScope::current() != nullptr;
+    if (!m_resetIsDue)
+        m_entityPool = std::make_unique<QObject>();
+}
+
+void AppContext::recordsAreFree()
+{
+    if (m_resetIsDue)
+        resetEntityPool();
+}
 
 QList<KorEntity*> AppContext::liveEntities() const { return m_entityPool->findChildren<KorEntity*>(); }

@@ -55,8 +55,13 @@ public:
      */
     [[nodiscard]] QObject* entityPool() const;
     [[nodiscard]] QObject* mainEntityPool() const { return m_entityPool.get(); }
-    /** Frees every record that a mapper made. Grids that still show some would dangle: close them first. */
+    /**
+     * Frees every record that a mapper made; grids that show some get empty. While somebody works on records, in a
+     * form that is open, it waits until that has ended.
+     */
     void resetEntityPool();
+    /** The last scope of the main thread has ended. */
+    void recordsAreFree();
     [[nodiscard]] QList<KorEntity*> liveEntities() const;
 
     [[nodiscard]] QString dbHost() const { return m_dbHost; }
@@ -88,6 +93,7 @@ private:
     QPointer<KorLogger> m_logger;
     QString m_locale;
     std::unique_ptr<QObject> m_entityPool;
+    bool m_resetIsDue = false;
     QString m_dbHost;
     QString m_dbPort;
     QString m_dbName;

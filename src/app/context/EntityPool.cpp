@@ -31,6 +31,11 @@ EntityPoolScope::EntityPoolScope(EntityPool& pool) : m_former(innermost)
     innermost = pool.parent();
 }
 
-EntityPoolScope::~EntityPoolScope() { innermost = m_former; }
+EntityPoolScope::~EntityPoolScope()
+{
+    innermost = m_former;
+    if (!innermost && KorDatabase::isApplicationThread())
+        AppContext::instance()->recordsAreFree();
+}
 
 QObject* EntityPoolScope::current() { return innermost; }

@@ -25,6 +25,12 @@ QWidget* ownerOf(QObject* receiver)
     return static_cast<QWidget*>(receiver);
 }
 
+bool isModifier(int key)
+{
+    return key == Qt::Key_Control || key == Qt::Key_Shift || key == Qt::Key_Alt || key == Qt::Key_AltGr ||
+           key == Qt::Key_Meta;
+}
+
 /** Searching or typing twice is nothing to guard against; what is written, printed or paid is. */
 bool actsOnce(const QPushButton& button)
 {
@@ -75,7 +81,10 @@ bool KorButtonKeys::eventFilter(QObject* watched, QEvent* event)
     case QEvent::Polish:
         // Behind what a button does, since that was connected when it was made.
         if (auto* button = qobject_cast<QPushButton*>(watched); button && actsOnce(*button)) {
-            connect(button, &QPushButton::released, this, [this, button] { m_open.append({button, m_now}); });
+            connect(button, &QPushButton::released, this, [this, button] {
+                m_begun = m_now;
+                m_open.append({button, m_now});
+            });
             connect(button, &QPushButton::clicked, this, [this, button] { ends(button); });
         }
         return false;
@@ -92,7 +101,8 @@ bool KorButtonKeys::eventFilter(QObject* watched, QEvent* event)
             return true;
         auto* button = qobject_cast<QAbstractButton*>(watched);
         const bool mine = button && !static_cast<QShortcutEvent*>(event)->isAmbiguous();
-        if (mine && isSecondPress(button))
+        // The key that has just come, by the way of its override.
+        if (mine && (isSameGesture(m_now) || isSecondPress(button)))
             return true;
         ++m_now.number;
         if (mine)
@@ -109,8 +119,22 @@ bool KorButtonKeys::eventFilter(QObject* watched, QEvent* event)
     }
 }
 
+bool KorButtonKeys::isSameGesture(const Input& input) const
+{
+    // By the clock of the window system it was one movement of the hand, whatever the first half has opened meanwhile:
+    // the second must not answer a question that nobody has read.
+    const bool sameAim = input.key ? input.key == m_begun.key
+                                   : !m_begun.key && (input.place - m_begun.place).manhattanLength() < fingertip;
+    return sameAim && input.time && m_begun.time && input.time >= m_begun.time && input.time - m_begun.time < blink;
+}
+
 bool KorButtonKeys::takeKey(const QKeyEvent& key)
 {
+    if (isSameGesture({key.key(), {}, key.timestamp()}))
+        return true;
+    // A scanner is as fast as that, and means each Return of its own.
+    if (!isModifier(key.key()))
+        m_begun = {};
     m_now.key = key.key();
     m_now.time = key.timestamp();
     // Enter on a form goes no road of shortcuts: a second one would press the same button again, or that of the form
@@ -131,10 +155,9 @@ bool KorButtonKeys::takeTap(QObject* watched, const QMouseEvent& tap)
     // Each tap comes to its window first, and then to the widget there.
     if (!watched->isWidgetType())
         return false;
-    const bool samePlace = (tap.globalPos() - m_press.place).manhattanLength() < fingertip;
-    if (!m_press.key && samePlace && m_press.number == m_now.number && tap.timestamp() &&
-        tap.timestamp() - m_press.time < blink)
+    if (isSameGesture({0, tap.globalPos(), tap.timestamp()}))
         return true;
+    m_begun = {};
     if (const auto* button = qobject_cast<QPushButton*>(watched); button && isSecondPress(button))
         return true;
     m_now.key = 0;

@@ -56,6 +56,9 @@ private:
         int number = 0;
     };
     Input m_now;
+    /** Whether it is the second half of what pressed the last such button, by the window system's own clock. */
+    [[nodiscard]] bool isSameGesture(const Input& input) const;
+    Input m_begun;
     struct Press
     {
         QPointer<QAbstractButton> button;

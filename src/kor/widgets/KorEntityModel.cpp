@@ -6,7 +6,22 @@ KorEntityModel::KorEntityModel(QObject* parent) : QAbstractTableModel(parent) {}
 
 KorEntityModel::KorEntityModel(const QList<KorEntity*>& entities, QObject* parent)
     : QAbstractTableModel(parent), m_entities(entities)
-{}
+{
+    watchOwner();
+}
+
+void KorEntityModel::watchOwner()
+{
+    disconnect(m_owner);
+    const QObject* owner = m_entities.value(0) ? m_entities.first()->parent() : nullptr;
+    if (!owner)
+        return;
+    m_owner = connect(owner, &QObject::destroyed, this, [this] {
+        beginResetModel();
+        m_entities.clear();
+        endResetModel();
+    });
+}
 
 void KorEntityModel::setEntities(const QList<KorEntity*>& entities)
 {
@@ -14,6 +29,7 @@ void KorEntityModel::setEntities(const QList<KorEntity*>& entities)
         return;
     beginResetModel();
     m_entities = entities;
+    watchOwner();
     endResetModel();
 }
 

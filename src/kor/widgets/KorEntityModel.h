@@ -73,7 +73,11 @@ private:
         int alignment = 0;
     };
 
+    /** Rows go before the records that they show, whoever frees these. */
+    void watchOwner();
+
     QList<KorEntity*> m_entities;
+    QMetaObject::Connection m_owner;
     QStringList m_headers;
     QList<int> m_columnTypes;
     QList<Answer> m_answers;

@@ -15,6 +15,7 @@
 #include <QResizeEvent>
 #include <QStyleOptionHeader>
 #include <QTableView>
+#include <QThread>
 #include <QTimer>
 
 #include <algorithm>
@@ -25,6 +26,7 @@ constexpr int widestFirstSight = 360;
 constexpr int narrowestRest = 110;
 constexpr int cellPadding = 16;
 constexpr int nextLook = 50;
+constexpr int mainLoop = 1;
 
 /**
  * Widths that show headers and the first rows' texts in full, within reason. A list is often empty at first sight, or
@@ -114,25 +116,39 @@ bool KorTab::isBusy(const QWidget* page)
 {
     const QWidgetList windows = QApplication::topLevelWidgets();
     return std::any_of(windows.cbegin(), windows.cend(), [page](const QWidget* window) {
-        if (!window->isModal() || !window->isVisible())
+        // A form is modal until its own loop has ended, a little longer than it is seen.
+        if (!window->isModal())
             return false;
-        const QWidget* parent = window->parentWidget();
+        const QWidget* opener = window->parentWidget();
         // A box that belongs to the window, or to nobody, may be the page's word as well.
-        const bool isBox = qobject_cast<const QMessageBox*>(window);
-        return (parent && (parent == page || page->isAncestorOf(parent))) ||
-               (isBox && (!parent || parent == page->window()));
+        if (qobject_cast<const QMessageBox*>(window) && (!opener || opener == page->window()))
+            return true;
+        // Forms open forms.
+        while (opener && opener != page)
+            opener = opener->parentWidget();
+        return opener != nullptr;
     });
 }
 
-bool KorTab::putOff(const std::function<void()>& work)
+bool KorTab::putOff(const QWidget* page, QObject* context, const std::function<void()>& work)
 {
-    if (!isBusy(this))
+    if (!isBusy(page))
         return false;
-    QTimer::singleShot(nextLook, this, [this, work] {
-        if (!putOff(work))
+    doOnceFree(page, context, QThread::currentThread()->loopLevel(), work);
+    return true;
+}
+
+void KorTab::doOnceFree(const QPointer<const QWidget>& page, QObject* context, int level,
+                        const std::function<void()>& work)
+{
+    QTimer::singleShot(nextLook, context, [page, context, level, work] {
+        // What the page was doing ends behind its last form, and only then has left the loop that this came from.
+        const int now = QThread::currentThread()->loopLevel();
+        if (page && (isBusy(page) || (now >= level && now > mainLoop)))
+            doOnceFree(page, context, std::min(level, now), work);
+        else
             work();
     });
-    return true;
 }
 
 void KorTab::close()

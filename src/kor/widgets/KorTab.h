@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QModelIndex>
+#include <QPointer>
 #include <QWidget>
 
 #include <functional>
@@ -22,6 +23,11 @@ public:
     void close();
     /** A form or a question of the page is open: neither the page nor its rows may go from under it. */
     [[nodiscard]] static bool isBusy(const QWidget* page);
+    /**
+     * Puts off what may not be done while the page is busy, until it is free or gone; false when nothing is in the
+     * way. The work goes with the context.
+     */
+    static bool putOff(const QWidget* page, QObject* context, const std::function<void()>& work);
 
 signals:
     void onclose(QWidget* tab);
@@ -33,8 +39,8 @@ public slots:
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
-    /** Puts off what may not be done while the page is busy, until it is free; false when nothing is in the way. */
-    bool putOff(const std::function<void()>& work);
+    /** The same for what the page does itself. */
+    bool putOff(const std::function<void()>& work) { return putOff(this, this, work); }
 
     /** A new sort proxy with the tab as parent. */
     virtual KorSortFilterProxyModel* createProxyModel();
@@ -59,4 +65,8 @@ protected:
 
     /** What a double click posts presses the button with this shortcut; a real F2 has gone there already. */
     void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    static void doOnceFree(const QPointer<const QWidget>& page, QObject* context, int level,
+                           const std::function<void()>& work);
 };

@@ -49,8 +49,8 @@ KorTextBoxExtender::KorTextBoxExtender(QLineEdit* editor, KorBusinessLogic* busi
     m_timer->setSingleShot(true);
     m_timer->setInterval(searchDelay);
     connect(m_timer, &QTimer::timeout, this, [this] {
-        // No list over a form that has opened meanwhile.
-        if (!KorButtonKeys::isBlocked(m_editor))
+        // No list over a form that has opened meanwhile, nor when it has led on to another field.
+        if (!KorButtonKeys::isBlocked(m_editor) && m_editor->window()->focusWidget() == m_editor)
             autoSuggest();
     });
     editor->installEventFilter(this);

@@ -21,6 +21,7 @@
 #include "pos/purchasing/creditnote/BusinessCreditNote.h"
 #include "pos/purchasing/payment/BusinessPayment.h"
 #include "pos/purchasing/purchase/BusinessPurchases.h"
+#include "pos/purchasing/purchase/DataMapperAcquisition.h"
 #include "pos/purchasing/purchaseorder/BusinessPurchaseOrder.h"
 #include "pos/registry/PosMapperRegistry.h"
 

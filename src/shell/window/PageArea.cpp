@@ -6,7 +6,6 @@
 #include <QAbstractButton>
 #include <QPointer>
 #include <QTabWidget>
-#include <QTimer>
 
 PageArea::PageArea(QTabWidget* tabs) : QObject(tabs), m_tabs(tabs), m_factories(allTabFactories())
 {
@@ -55,7 +54,7 @@ void PageArea::openReport(KorTab* report)
 void PageArea::retranslate()
 {
     for (const QWidget* page : pages()) {
-        if (putOff(page, [this] { retranslate(); }))
+        if (KorTab::putOff(page, this, [this] { retranslate(); }))
             return;
     }
     // Close buttons keep the words that they were made with.
@@ -67,6 +66,10 @@ void PageArea::retranslate()
 
 void PageArea::makeAnew()
 {
+    for (QWidget* page : pages()) {
+        if (KorTab::putOff(page, this, [this] { makeAnew(); }))
+            return;
+    }
     for (QWidget* page : pages()) {
         // A report is asked for again.
         if (!knows(page->metaObject()->className()))
@@ -137,7 +140,7 @@ void PageArea::remove(int index)
 
 void PageArea::removePage(QWidget* page)
 {
-    if (putOff(page, [this, page = QPointer<QWidget>(page)] {
+    if (KorTab::putOff(page, this, [this, page = QPointer<QWidget>(page)] {
             if (page)
                 removePage(page);
         }))
@@ -153,15 +156,6 @@ void PageArea::takeOut(QWidget* page)
     m_tabs->removeTab(m_tabs->indexOf(page));
     emit changed();
     focusPage();
-}
-
-bool PageArea::putOff(const QWidget* page, const std::function<void()>& work)
-{
-    constexpr int nextLook = 50;
-    if (!KorTab::isBusy(page))
-        return false;
-    QTimer::singleShot(nextLook, this, work);
-    return true;
 }
 
 void PageArea::removeClass(const QString& className)

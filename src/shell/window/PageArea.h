@@ -3,8 +3,7 @@
 #include "shell/window/TabFactories.h"
 
 #include <QObject>
-
-#include <functional>
+#include <QWidget>
 
 class QTabWidget;
 class QWidget;
@@ -47,8 +46,6 @@ private:
     void removePage(QWidget* page);
     void takeOut(QWidget* page);
     void makePagesAnew();
-    /** Puts off what cannot be done while a page is busy; false when nothing is in the way. */
-    bool putOff(const QWidget* page, const std::function<void()>& work);
     void add(QWidget* page);
     void show(int index);
     [[nodiscard]] QWidgetList pages() const;

@@ -1,6 +1,7 @@
 #include "zavel/dinein/TabMakanDitempat.h"
 
 #include "app/context/AccessCheck.h"
+#include "app/context/EntityPool.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "zavel/dinein/DialogBayarMakanDitempat.h"
 #include "zavel/dinein/DialogMakanDitempat.h"
@@ -90,6 +91,9 @@ void TabMakanDitempat::on_btnAdd_clicked()
 {
     if (!hasAccess(businessName, BusinessPenjualan::TAMBAH_PESANAN))
         return;
+    // The rows stay as long as the forms that show their tables.
+    EntityPool read;
+    const EntityPoolScope scope(read);
     const QList<EntityOrder*> rows = selectedOrders();
     if (rows.isEmpty()) {
         tell(nothingSelectedText());

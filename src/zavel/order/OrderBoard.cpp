@@ -93,6 +93,8 @@ void OrderBoard::on_btnEdit_clicked()
 {
     if (!hasAccess(businessName, BusinessPenjualan::UBAH_PESANAN))
         return;
+    EntityPool read;
+    const EntityPoolScope scope(read);
     const QList<EntityOrder*> rows = selectedOrders();
     for (const EntityOrder* row : rows) {
         if (carriesOrder(*row, Edit) && !editOrder(row->getId()))
@@ -127,6 +129,8 @@ void OrderBoard::cancelSelectedOrders()
 {
     if (!hasAccess(businessName, BusinessPenjualan::HAPUS_PESANAN))
         return;
+    EntityPool read;
+    const EntityPoolScope scope(read);
     const QList<EntityOrder*> rows = selectedOrders();
     for (EntityOrder* row : rows) {
         if (carriesOrder(*row, Cancel))
@@ -139,6 +143,8 @@ void OrderBoard::on_btnPay_clicked()
 {
     if (!hasAccess(businessName, BusinessPenjualan::SAVE_INVOICE))
         return;
+    EntityPool read;
+    const EntityPoolScope scope(read);
     const QList<EntityOrder*> rows = selectedOrders();
     if (rows.isEmpty())
         tell(nothingSelectedText());

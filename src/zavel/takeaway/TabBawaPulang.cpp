@@ -1,6 +1,7 @@
 #include "zavel/takeaway/TabBawaPulang.h"
 
 #include "app/context/AccessCheck.h"
+#include "app/context/EntityPool.h"
 #include "app/persistence/AppDocumentLines.h"
 #include "zavel/service/BusinessPenjualan.h"
 #include "zavel/takeaway/DialogBawaPulang.h"
@@ -47,6 +48,8 @@ void TabBawaPulang::on_btnAdd_clicked()
 {
     if (!hasAccess(businessName, BusinessPenjualan::TAMBAH_PESANAN))
         return;
+    EntityPool read;
+    const EntityPoolScope scope(read);
     DialogBawaPulang form(this);
     form.setWindowTitle(tr("Take Away - Add a new order"));
     EntityBawaPulang* order = nullptr;

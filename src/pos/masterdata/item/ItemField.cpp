@@ -12,7 +12,8 @@ ItemField::ItemField(QLineEdit* code, QLineEdit* name, EntityPool& items, KorDia
     connect(m_box, &KorTextBoxExtender::onItemSelected, this, [this] {
         // Read anew: what the box found goes with its next search.
         const QString failure = lookUp();
-        if (failure.isEmpty())
+        // The row that says that there is nothing can be chosen, too.
+        if (failure.isEmpty() && m_item)
             emit chosen();
     });
     m_box->setTaker([this] {

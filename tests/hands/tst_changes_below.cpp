@@ -1,0 +1,235 @@
+#include "app/context/AppContext.h"
+#include "app/context/ConnectionSettings.h"
+#include "app/context/DatabaseManager.h"
+#include "hands/Keys.h"
+#include "hands/TradeChecks.h"
+#include "kor/widgets/KorTab.h"
+#include "shell/window/HouseStyle.h"
+#include "shell/window/MainWindow.h"
+#include "shell/window/TabFactories.h"
+#include "support/TestDatabase.h"
+
+#include <QApplication>
+#include <QTabWidget>
+#include <QTableView>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include <optional>
+
+namespace
+{
+/** Something that happens below a page, and below the form that is open over it. */
+enum Change { EmptyMemory, OtherDatabase, OtherLanguage, LostConnection, PagesClose, WindowCloses };
+} // namespace
+Q_DECLARE_METATYPE(Change)
+
+/**
+ * Every page, alone and with a form open, while the ground is pulled away: the program lives, the form stays as it was
+ * typed, and the page works again afterwards.
+ */
+class TestChangesBelow : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void thePageAndItsFormOutliveIt_data();
+    void thePageAndItsFormOutliveIt();
+    void memoryIsEmptiedWithAllPagesOpen();
+
+private:
+    KorTab* open(const QString& page);
+    void happen(Change change);
+    /** Whoever is at the form that is open lets the change happen and goes on typing, or gives the form up. */
+    void atAForm();
+    static void rest();
+    static QStringList pageNames();
+    void connectTo(const TestDatabase& database);
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<TestDatabase> m_other;
+    std::unique_ptr<TestDatabase> m_database;
+    std::unique_ptr<MainWindow> m_window;
+    QTimer m_hands;
+    std::optional<Change> m_change;
+    bool m_isFormGone = false;
+};
+
+void TestChangesBelow::initTestCase()
+{
+    HouseStyle::apply(*qApp);
+    connect(&m_hands, &QTimer::timeout, this, &TestChangesBelow::atAForm);
+    m_hands.start(1);
+}
+
+void TestChangesBelow::rest()
+{
+    do
+        QCoreApplication::processEvents();
+    while (openForm());
+}
+
+void TestChangesBelow::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    qputenv("ZAVEL_SPOOL_DIR", QFile::encodeName(m_folder->path()));
+    m_other = std::make_unique<TestDatabase>();
+    openShopForHands(*m_other);
+    m_database = std::make_unique<TestDatabase>();
+    openShopForHands(*m_database);
+    AppContext::instance()->setShowDashboard(false);
+    m_window = std::make_unique<MainWindow>();
+    m_window->setSettingsFile(m_folder->filePath("settings.ini"));
+    AppContext::instance()->setMainWindow(m_window.get());
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+}
+
+void TestChangesBelow::cleanup()
+{
+    AppContext::instance()->setMainWindow(nullptr);
+    m_window.reset();
+    m_database.reset();
+    m_other.reset();
+    m_folder.reset();
+    qunsetenv("ZAVEL_SPOOL_DIR");
+}
+
+QStringList TestChangesBelow::pageNames()
+{
+    QStringList names = allTabFactories().keys();
+    // The dashboard is a web page, and has no forms.
+    names.removeOne("TabDashboard");
+    return names;
+}
+
+KorTab* TestChangesBelow::open(const QString& page)
+{
+    m_window->show();
+    m_window->openTab(page);
+    QApplication::setActiveWindow(m_window.get());
+    auto* tab = qobject_cast<KorTab*>(m_window->findChild<QTabWidget*>("tabWidget")->currentWidget());
+    if (QTableView* grid = gridInFront(*tab)) {
+        grid->setFocus();
+        if (grid->model() && grid->model()->rowCount() > 0)
+            grid->selectRow(0);
+    }
+    return tab;
+}
+
+void TestChangesBelow::connectTo(const TestDatabase& database)
+{
+    ConnectionSettings settings;
+    settings.host = TestDatabase::host();
+    settings.port = TestDatabase::port();
+    settings.user = TestDatabase::user();
+    settings.database = database.name();
+    QVERIFY(settings.write(m_folder->filePath("settings.ini")));
+    m_window->updateDBConfig();
+}
+
+void TestChangesBelow::happen(Change change)
+{
+    switch (change) {
+    case EmptyMemory:
+        AppContext::instance()->resetEntityPool();
+        break;
+    case OtherDatabase:
+        connectTo(AppContext::instance()->dbName() == m_other->name() ? *m_database : *m_other);
+        break;
+    case OtherLanguage: {
+        QEvent event(QEvent::LanguageChange);
+        QCoreApplication::sendEvent(m_window.get(), &event);
+        break;
+    }
+    case LostConnection:
+        m_database->killConnections();
+        break;
+    case PagesClose:
+        m_window->closeAllTab();
+        break;
+    case WindowCloses:
+        m_window->close();
+        break;
+    }
+}
+
+void TestChangesBelow::thePageAndItsFormOutliveIt_data()
+{
+    QTest::addColumn<Change>("change");
+    QTest::newRow("the memory is emptied") << EmptyMemory;
+    QTest::newRow("another database is chosen") << OtherDatabase;
+    QTest::newRow("another language is chosen") << OtherLanguage;
+    QTest::newRow("the connection dies") << LostConnection;
+    QTest::newRow("all pages are closed") << PagesClose;
+    QTest::newRow("the window is closed") << WindowCloses;
+}
+
+void TestChangesBelow::atAForm()
+{
+    QWidget* form = openForm();
+    if (!form)
+        return;
+    if (!m_change) {
+        // What is said is read, and what is open is given up.
+        strikeSoon(Qt::Key_Escape);
+        return;
+    }
+    const QPointer<QWidget> still(form);
+    const Change change = *m_change;
+    m_change.reset();
+    happen(change);
+    strikeKey('1', "1");
+    strikeKey(Qt::Key_Tab);
+    m_isFormGone = !still || !(still->isVisible() || openForm());
+    strikeSoon(Qt::Key_Return);
+}
+
+void TestChangesBelow::thePageAndItsFormOutliveIt()
+{
+    QFETCH(Change, change);
+    const QStringList names = pageNames();
+    for (const QString& name : names) {
+        for (int key : {Qt::Key_F12, Qt::Key_F2}) {
+            const QPointer<KorTab> page = open(name);
+            m_change = change;
+            strikeKey(key);
+            rest();
+            QVERIFY2(!m_isFormGone, qPrintable(name + ": the form went away"));
+            m_change.reset();
+        }
+        // The page alone; it reads anew, and shows what it reads.
+        open(name);
+        happen(change);
+        m_window->grab();
+        strikeKey(Qt::Key_F5);
+        rest();
+        open(name);
+        m_window->grab();
+        rest();
+    }
+    const QStringList faults = faultsOfTrade();
+    QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
+}
+
+void TestChangesBelow::memoryIsEmptiedWithAllPagesOpen()
+{
+    const QStringList names = pageNames();
+    for (const QString& name : names)
+        open(name);
+    AppContext::instance()->resetEntityPool();
+    auto* pages = m_window->findChild<QTabWidget*>("tabWidget");
+    for (int index = 0; index < pages->count(); ++index) {
+        pages->setCurrentIndex(index);
+        m_window->grab();
+    }
+    m_window->closeAllTab();
+    QCOMPARE(pages->count(), 0);
+}
+
+QTEST_MAIN(TestChangesBelow)
+#include "tst_changes_below.moc"
