@@ -1,7 +1,6 @@
 #include "hands/TradeChecks.h"
 
 #include "forms/AllForms.h"
-#include "kor/persistence/KorQuery.h"
 #include "support/ShopRows.h"
 #include "support/TestDatabase.h"
 
@@ -139,21 +138,15 @@ void openShopForHands(TestDatabase& database)
                  "generate_series(2, 6) i");
 }
 
-QStringList faultsOfTrade()
+QStringList faultsOfTrade(TestDatabase& database)
 {
     QStringList faults;
     const QList<Check> all = checks();
     for (const Check& check : all) {
-        KorQuery query;
-        if (!query.prepare(check.second) || !query.exec()) {
-            faults.append(check.first + " can not be checked: " + query.failure());
-            continue;
-        }
-        QStringList rows;
-        while (query.next())
-            rows.append(query.value(0).toString());
+        const QString rows =
+            database.value("SELECT string_agg(what::text, ', ') FROM (" + check.second + ") AS found(what)").toString();
         if (!rows.isEmpty())
-            faults.append(check.first + ": " + rows.join(", "));
+            faults.append(check.first + ": " + rows);
     }
     return faults;
 }

@@ -9,6 +9,6 @@ void openShopForHands(TestDatabase& database);
 
 /**
  * What must hold in a shop's database whoever pressed what: lines and headers, numbers, statuses, dues, stock. Each
- * line names what does not hold, and of which rows; empty when all is well. Runs on the open connection.
+ * line names what does not hold, and of which rows; empty when all is well.
  */
-[[nodiscard]] QStringList faultsOfTrade();
+[[nodiscard]] QStringList faultsOfTrade(TestDatabase& database);

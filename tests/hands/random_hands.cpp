@@ -92,7 +92,7 @@ int supervise(quint32 seed, int programs, int seconds, const QString& folder)
             wrong = true;
         }
     }
-    const QStringList faults = faultsOfTrade();
+    const QStringList faults = faultsOfTrade(database);
     for (const QString& fault : faults)
         out() << fault << Qt::endl;
     for (const char* table : {"invoice", "makan_ditempat", "bawa_pulang", "acquisition", "purchase_order", "payment",

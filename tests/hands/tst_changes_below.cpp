@@ -212,7 +212,7 @@ void TestChangesBelow::thePageAndItsFormOutliveIt()
         m_window->grab();
         rest();
     }
-    const QStringList faults = faultsOfTrade();
+    const QStringList faults = faultsOfTrade(*m_database);
     QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
 }
 

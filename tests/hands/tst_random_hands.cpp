@@ -35,7 +35,7 @@ void TestRandomHands::nothingBreaks()
     qputenv("ZAVEL_SPOOL_DIR", QFile::encodeName(spool.path()));
     TestDatabase database;
     openShopForHands(database);
-    const QStringList before = faultsOfTrade();
+    const QStringList before = faultsOfTrade(database);
     QVERIFY2(before.isEmpty(), qPrintable(before.join('\n')));
     AppContext::instance()->setShowDashboard(false);
     MainWindow window;
@@ -52,7 +52,7 @@ void TestRandomHands::nothingBreaks()
     hands.addEvent("all pages close", [&window] { window.closeAllTab(); });
     for (int round = 0; round < 5; ++round) {
         hands.play(200);
-        const QStringList faults = faultsOfTrade();
+        const QStringList faults = faultsOfTrade(database);
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
     }
     window.closeAllTab();

@@ -80,8 +80,7 @@ void AppInstaller::insertInitialData()
     insertGroup(admins, adminGroup);
     insertGroup(operators, "operator");
     insertGroup(cashiers, "kasir");
-    insertUser("admin", "pos", textOr(m_adminUserName, "admin"), textOr(m_adminPassword, defaultPassword),
-               admins);
+    insertUser("admin", "pos", textOr(m_adminUserName, "admin"), textOr(m_adminPassword, defaultPassword), admins);
     insertUser("operator", "dewi", "dewi", defaultPassword, operators);
 
     if (!m_configuration->insertInitialData(m_dateFormat, m_locale))
