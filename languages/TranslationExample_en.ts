@@ -1235,6 +1235,10 @@ Required permission: %1</source>
         <source>error: transaction failed</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>This order was billed meanwhile. Nothing was saved.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>DataMapperInvoiceMakanDitempat</name>
@@ -5725,6 +5729,18 @@ Please fill the db connection fields and install the initial data</source>
     </message>
     <message>
         <source>Error</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2, by %3 at %4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This order was billed meanwhile: %1. Nothing was saved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do you want to open that bill?</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

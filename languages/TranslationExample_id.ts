@@ -1247,6 +1247,10 @@ Hak akses yang dibutuhkan: %1</translation>
         <source>error: transaction failed</source>
         <translation>kesalahan: transaksi gagal</translation>
     </message>
+    <message>
+        <source>This order was billed meanwhile. Nothing was saved.</source>
+        <translation>Pesanan ini sementara itu sudah ditagih. Tidak ada yang disimpan.</translation>
+    </message>
 </context>
 <context>
     <name>DataMapperInvoiceMakanDitempat</name>
@@ -5751,6 +5755,18 @@ Isi kolom sambungan db dan pasang data awal</translation>
     <message>
         <source>Error</source>
         <translation>Kesalahan</translation>
+    </message>
+    <message>
+        <source>%1 of %2, by %3 at %4</source>
+        <translation>%1 sebesar %2, oleh %3 pukul %4</translation>
+    </message>
+    <message>
+        <source>This order was billed meanwhile: %1. Nothing was saved.</source>
+        <translation>Pesanan ini sementara itu sudah ditagih: %1. Tidak ada yang disimpan.</translation>
+    </message>
+    <message>
+        <source>Do you want to open that bill?</source>
+        <translation>Apakah Anda ingin membuka tagihan itu?</translation>
     </message>
 </context>
 <context>

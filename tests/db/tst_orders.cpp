@@ -1,5 +1,6 @@
 #include "kor/business/KorServiceDirectory.h"
 #include "support/Builders.h"
+#include "support/SlowNeighbour.h"
 #include "support/TestDatabase.h"
 #include "zavel/service/BusinessPenjualan.h"
 
@@ -15,6 +16,7 @@ private slots:
     void cleanup();
     void aTableCarriesOneOrderAsFarAsItsCodeIsInSmallLetters_data();
     void aTableCarriesOneOrderAsFarAsItsCodeIsInSmallLetters();
+    void ofTwoWaitersAtOneTableOneIsRefused();
     void anOrderMovesOntoATakenTable();
     void aMovedOrderRemembersTheTablesItLeft();
     void theKitchenIsToldWhatIsOtherThanBefore_data();
@@ -93,6 +95,22 @@ void TestOrders::aTableCarriesOneOrderAsFarAsItsCodeIsInSmallLetters()
     QCOMPARE(stored("status", first).toInt(), int(EntityOrder::DONE));
     if (refused)
         QVERIFY2(m_sales->insertNewOrder(second), qPrintable(m_sales->takeErrors()));
+}
+
+void TestOrders::ofTwoWaitersAtOneTableOneIsRefused()
+{
+    EntityMeja* table = m_make->table("t1");
+    EntityItem* rice = m_make->item("RICE", "Rice", 10000);
+    // The other one is at it, and done a moment later.
+    const QString id = QString::number(table->getId());
+    const SlowNeighbour other(*m_database, {"SELECT 1 FROM meja WHERE id = " + id + " FOR UPDATE",
+                                            "INSERT INTO makan_ditempat (status, meja_id, pemesan, tgl, version) "
+                                            "VALUES (1, " +
+                                                id + ", 'Bob', current_date, 1)"});
+    EntityMakanDitempat* order = m_make->order(table, {m_make->line(rice, 1)});
+    QVERIFY(!m_sales->insertNewOrder(order));
+    QCOMPARE(m_sales->takeErrors(), QString("Meja sudah terisi\r\n"));
+    QCOMPARE(m_database->value("SELECT string_agg(pemesan, ',') FROM makan_ditempat").toString(), QString("Bob"));
 }
 
 void TestOrders::anOrderMovesOntoATakenTable()

@@ -6,6 +6,7 @@
 #include "support/Hands.h"
 #include "support/ModalDriver.h"
 #include "support/ShopRows.h"
+#include "support/SlowNeighbour.h"
 #include "support/TestCluster.h"
 #include "support/TestDatabase.h"
 #include "zavel/dinein/DialogBayarMakanDitempat.h"
@@ -54,6 +55,9 @@ private slots:
     void aMemberIsPickedWhileTyping();
     void aMembersCodeMeansTheSameAtEverySpeed_data();
     void aMembersCodeMeansTheSameAtEverySpeed();
+    void anOrderIsBilledOnce_data();
+    void anOrderIsBilledOnce();
+    void whoPaysLaterIsFoundByTheOrdersMember();
     void pressedTwiceDoesOneThing_data();
     void pressedTwiceDoesOneThing();
     void aWrongEntryIsTold_data();
@@ -444,6 +448,62 @@ void TestPayment::aMembersCodeMeansTheSameAtEverySpeed()
     QTRY_COMPARE(invoices(), 1);
     QCOMPARE(invoice("member_id, disc_perc, discount_amount, grandtotal_amount"),
              (QStringList{"1", "15", "150", "850"}));
+}
+
+void TestPayment::anOrderIsBilledOnce_data()
+{
+    QTest::addColumn<bool>("atTheSameMoment");
+    QTest::addColumn<bool>("opensIt");
+    QTest::newRow("a moment earlier, left alone") << false << false;
+    QTest::newRow("a moment earlier, opened") << false << true;
+    QTest::newRow("at the same moment, opened") << true << true;
+}
+
+void TestPayment::anOrderIsBilledOnce()
+{
+    QFETCH(bool, atTheSameMoment);
+    QFETCH(bool, opensIt);
+    openForm();
+    enter("txtPaid", "500");
+    // The other cashier's bill: of the same lines, by the same user.
+    const QString order = QString::number(m_order);
+    const QStringList bill{
+        "SELECT 1 FROM makan_ditempat WHERE id = " + order + " FOR UPDATE",
+        "INSERT INTO invoice (no, invoice_date, invoice_type, status, sub_total_currency, sub_total_amount, disc_perc, "
+        "discount_currency, discount_amount, tax_perc, tax_currency, tax_amount, grandtotal_currency, "
+        "grandtotal_amount, amount_paid_currency, amount_paid_amount, net_due_currency, net_due_amount, "
+        "other_payment_currency, other_payment_amount, service_perc, service_currency, service_amount, acct_code, "
+        "createdby, createdtime, version) VALUES ('TRD-X', '2026-03-01', 'TRD', 1, 'Rp', 1000, 0, 'Rp', 0, 0, 'Rp', 0, "
+        "'Rp', 1000, 'Rp', 1000, 'Rp', 0, 'Rp', 0, 0, 'Rp', 0, '1010', 1, '2026-03-01 20:15', 1)",
+        "INSERT INTO invoice_makan_ditempat (invoice_id, makan_ditempat_id, version) SELECT max(id), " + order +
+            ", 1 FROM invoice"};
+    std::unique_ptr<SlowNeighbour> neighbour;
+    if (atTheSameMoment) {
+        neighbour = std::make_unique<SlowNeighbour>(*m_database, bill);
+    } else {
+        for (const QString& statement : bill)
+            m_database->run(statement);
+    }
+    m_people->answer(opensIt ? QMessageBox::Yes : QMessageBox::No);
+    save();
+    QTRY_COMPARE(m_people->texts().size(), 1);
+    QCOMPARE(m_people->lastText(),
+             QString("This order was billed meanwhile: TRD-X of Rp1.000, by admin at 20:15. Nothing was saved.\r\n"
+                     "Do you want to open that bill?"));
+    QCOMPARE(invoices(), 1);
+    QCOMPARE(shown("txtKode"), opensIt ? QString("TRD-X") : QString());
+    QCOMPARE(shown("txtPaid"), opensIt ? QString("1.000,00") : QString("500,00"));
+}
+
+void TestPayment::whoPaysLaterIsFoundByTheOrdersMember()
+{
+    openForm();
+    type("txtMember", "m1");
+    press(Qt::Key_Return);
+    m_people->answer(QMessageBox::No);
+    save();
+    QTRY_COMPARE(invoices(), 1);
+    QCOMPARE(m_database->value("SELECT member_id FROM makan_ditempat").toInt(), 1);
 }
 
 void TestPayment::pressedTwiceDoesOneThing_data()

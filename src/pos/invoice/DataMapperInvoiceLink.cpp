@@ -31,6 +31,25 @@ QString DataMapperInvoiceLink::nextNo()
 
 void DataMapperInvoiceLink::prepareInvoice(KorEntity*, Invoice*) {}
 
+QString DataMapperInvoiceLink::objection(const KorEntity&) { return {}; }
+
+QString DataMapperInvoiceLink::billedMeanwhile(const QString& orderTable, const QString& orderColumn, int orderId,
+                                               const QList<int>& knownBills)
+{
+    KorQuery held;
+    KorQuery bills;
+    // Of two first saves at the same moment the second waits here, and then sees the bill of the first.
+    if (!execute(held, "select id from " + orderTable + " where id = :id for update", {{":id", orderId}}) ||
+        !execute(bills, "select invoice_id from " + tableName() + " where " + orderColumn + " = :id",
+                 {{":id", orderId}}))
+        return takeError();
+    while (bills.next()) {
+        if (!knownBills.contains(bills.value(0).toInt()))
+            return tr("This order was billed meanwhile. Nothing was saved.");
+    }
+    return {};
+}
+
 bool DataMapperInvoiceLink::loadOrders(const QList<KorEntity*>&) { return true; }
 
 bool DataMapperInvoiceLink::fail(const QString& message, const QString& reasons)
@@ -69,6 +88,12 @@ bool DataMapperInvoiceLink::insert(KorEntity* link)
     KorTransaction transaction;
     if (!transaction.isOpen())
         setError(tr("error: transaction failed"));
+    const QString refusal = objection(*link);
+    if (!refusal.isEmpty()) {
+        transaction.rollback();
+        ids.restore();
+        return fail(refusal, {});
+    }
     const QString number = nextNo();
     QString reason = number.isNull() ? " \r\n " + takeError() : QString();
     if (reason.isEmpty()) {

@@ -3,6 +3,8 @@
 #include "pos/invoice/IInvoice.h"
 #include "pos/invoice/Invoice.h"
 
+#include <optional>
+
 /** What ties an invoice to its way of selling. A new link has a new invoice; the lines are borrowed. */
 class EntityInvoiceLink : public KorEntity, public IInvoice
 {
@@ -17,7 +19,15 @@ public:
     [[nodiscard]] QList<EntityInvoiceDetail*> getDetails() const override { return m_details; }
     void setDetails(const QList<EntityInvoiceDetail*>& details) override { m_details = details; }
 
+    /**
+     * The order's bills that are no surprise to this one, by the ids of their invoices; others stop its first save.
+     * Nothing is asked where nobody has said which ones are known.
+     */
+    [[nodiscard]] const std::optional<QList<int>>& knownBills() const { return m_knownBills; }
+    void setKnownBills(const QList<int>& invoiceIds) { m_knownBills = invoiceIds; }
+
 private:
     class Invoice* m_invoice;
     QList<EntityInvoiceDetail*> m_details;
+    std::optional<QList<int>> m_knownBills;
 };

@@ -6,24 +6,18 @@
 #include "zavel/order/OrderStatus.h"
 #include "zavel/service/BusinessPenjualan.h"
 
-#include <QDebug>
-
 // Orders on tables, and their invoices.
 
 bool BusinessPenjualan::insertNewOrder(EntityMakanDitempat* order)
 {
-    // The code goes out as it is written and meets lowered ones, so a code with a capital finds no order.
-    const QList<EntityMakanDitempat*> open = m_mappers.dineOrders->getMakanDitempatList(0, order->getMeja()->getKode());
-    if (m_mappers.dineOrders->hasError())
-        return written(false, m_mappers.dineOrders, "insertNewOrder");
-    for (const EntityMakanDitempat* other : open) {
-        if (other->getMeja()->getId() != order->getMeja()->getId() || other->getId() == order->getId())
-            continue;
-        qDebug() << "sama" << other->getId();
-        addError("meja", tr("Meja sudah terisi"));
-        return false;
-    }
-    return written(m_mappers.dineOrders->insert(order), m_mappers.dineOrders, "insertNewOrder");
+    EntityPool others;
+    const EntityPoolScope scope(others);
+    const bool placed = m_mappers.dineOrders->insertAtFreeTable(order);
+    if (placed || !m_mappers.dineOrders->foundTableTaken())
+        return written(placed, m_mappers.dineOrders, "insertNewOrder");
+    m_mappers.dineOrders->clearError();
+    addError("meja", tr("Meja sudah terisi"));
+    return false;
 }
 
 bool BusinessPenjualan::updateOrder(EntityMakanDitempat* order)

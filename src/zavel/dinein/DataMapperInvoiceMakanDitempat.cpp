@@ -47,6 +47,15 @@ void DataMapperInvoiceMakanDitempat::prepareInvoice(KorEntity* link, Invoice* in
     invoice->setEmployee(static_cast<EntityInvoiceMakanDitempat*>(link)->getEmployee());
 }
 
+QString DataMapperInvoiceMakanDitempat::objection(const KorEntity& link)
+{
+    const auto& sale = static_cast<const EntityInvoiceMakanDitempat&>(link);
+    if (!sale.knownBills())
+        return {};
+    return billedMeanwhile(m_orders->tableName(), "makan_ditempat_id", sale.getMakanDitempat()->getId(),
+                           *sale.knownBills());
+}
+
 QList<EntityInvoiceMakanDitempat*> DataMapperInvoiceMakanDitempat::findByOrder(int orderId)
 {
     return castAll<EntityInvoiceMakanDitempat>(

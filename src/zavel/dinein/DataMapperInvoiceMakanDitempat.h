@@ -24,6 +24,7 @@ public:
 
 protected:
     [[nodiscard]] Messages messages() const override;
+    [[nodiscard]] QString objection(const KorEntity& link) override;
     void prepareInvoice(KorEntity* link, Invoice* invoice) override;
     bool loadOrders(const QList<KorEntity*>& links) override;
 

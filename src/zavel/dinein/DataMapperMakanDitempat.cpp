@@ -5,6 +5,8 @@
 #include "zavel/dinein/DataMapperMakanDitempatDetail.h"
 #include "zavel/tables/DataMapperMeja.h"
 
+#include <algorithm>
+
 DataMapperMakanDitempat::DataMapperMakanDitempat(QObject* parent, DataMapperMember* members, DataMapperMeja* tables,
                                                  const ItemPartners& partners)
     : DataMapperOrder(parent)
@@ -44,6 +46,32 @@ QList<EntityMakanDitempat*> DataMapperMakanDitempat::getMakanDitempatList(int st
     for (EntityOrder* order : findOrders(tail + " order by makan_ditempat.id", {}))
         orders.append(static_cast<EntityMakanDitempat*>(order));
     return orders;
+}
+
+bool DataMapperMakanDitempat::insertAtFreeTable(EntityMakanDitempat* order)
+{
+    m_foundTaken = false;
+    m_asksForTable = true;
+    const bool placed = insert(order);
+    m_asksForTable = false;
+    return placed;
+}
+
+bool DataMapperMakanDitempat::beforeInsert(KorEntity* order)
+{
+    if (!m_asksForTable)
+        return true;
+    const auto* placed = static_cast<const EntityMakanDitempat*>(order);
+    KorQuery held;
+    // Of two waiters at the same moment the second waits here, and then sees the order of the first.
+    if (!execute(held, "select id from meja where id = :id for update", {{":id", placed->getMeja()->getId()}}))
+        return false;
+    // The code goes out as it is written and meets lowered ones, so a code with a capital finds no order.
+    const QList<EntityMakanDitempat*> open = getMakanDitempatList(0, placed->getMeja()->getKode());
+    m_foundTaken = std::any_of(open.cbegin(), open.cend(), [placed](const EntityMakanDitempat* other) {
+        return other->getMeja()->getId() == placed->getMeja()->getId() && other->getId() != placed->getId();
+    });
+    return !m_foundTaken && !hasError();
 }
 
 const AppDocumentMapper::Messages& DataMapperMakanDitempat::messages() const

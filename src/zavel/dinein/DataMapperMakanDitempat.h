@@ -22,8 +22,17 @@ public:
      * this code or name; it is compared as it comes with the lowered ones, so the caller lowers it, or does not.
      */
     [[nodiscard]] QList<EntityMakanDitempat*> getMakanDitempatList(int status, const QString& text);
+    /** Inserts the order unless somebody sits at its table: asked and written under one lock of the table. */
+    bool insertAtFreeTable(EntityMakanDitempat* order);
+    /** Why the last of these was refused. */
+    [[nodiscard]] bool foundTableTaken() const { return m_foundTaken; }
 
 protected:
+    bool beforeInsert(KorEntity* order) override;
     [[nodiscard]] const Messages& messages() const override;
     [[nodiscard]] QString statusFailure() const override;
+
+private:
+    bool m_asksForTable = false;
+    bool m_foundTaken = false;
 };

@@ -196,8 +196,11 @@ bool DialogBayarMakanDitempat::payGroup(const QString& group, const InvoiceLines
         return false;
     }
     DialogBayarMakanDitempat form(this);
+    form.addKnownBills(knownBills());
     form.showGroup(fresh, lines, sale()->getInvoice()->getInvoiceNo() + tr(" Split: ") + group);
     form.exec();
+    if (form.isStored())
+        addKnownBills({form.sale()->getInvoice()->getId()});
     return form.isStored();
 }
 

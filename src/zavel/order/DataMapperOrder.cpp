@@ -79,14 +79,18 @@ bool DataMapperOrder::updateStatus(EntityOrder* order)
 {
     KorQuery query;
     const int user = AppContext::instance()->currentUserId();
-    const bool sent = execute(query,
-                              "update " + tableName() +
-                                  " set status = :status, updatedBy = :user, updatedTime = now(), version = version+1 "
-                                  "where id = :id and version = :version",
-                              {{":status", order->getStatus()},
-                               {":user", user == KorNoValue ? QVariant(QVariant::Int) : QVariant(user)},
-                               {":id", order->getId()},
-                               {":version", order->getVersion()}});
+    const EntityMember* member = order->getMember();
+    // The guest as the bill has him: whoever pays later is looked for by the order's member as well.
+    const bool sent = execute(
+        query,
+        "update " + tableName() +
+            " set status = :status, member_id = :member, updatedBy = :user, updatedTime = now(), version = version+1 "
+            "where id = :id and version = :version",
+        {{":status", order->getStatus()},
+         {":member", member ? QVariant(member->getId()) : QVariant(QVariant::Int)},
+         {":user", user == KorNoValue ? QVariant(QVariant::Int) : QVariant(user)},
+         {":id", order->getId()},
+         {":version", order->getVersion()}});
     if (sent && query.numRowsAffected() > 0) {
         order->setVersion(order->getVersion() + 1);
         return true;

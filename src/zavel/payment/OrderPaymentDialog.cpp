@@ -1,5 +1,9 @@
 #include "zavel/payment/OrderPaymentDialog.h"
 
+#include "app/access/BusinessUser.h"
+#include "app/context/EntityUser.h"
+#include "app/money/Money.h"
+#include "kor/business/KorServiceDirectory.h"
 #include "pos/invoice/EntityInvoiceDetail.h"
 #include "pos/invoice/EntityInvoiceLink.h"
 #include "zavel/order/EntityOrder.h"
@@ -7,6 +11,8 @@
 
 #include <QLineEdit>
 #include <QMessageBox>
+
+#include <algorithm>
 
 namespace
 {
@@ -45,6 +51,8 @@ bool OrderPaymentDialog::openOrder(EntityOrder* order)
         showNewSale(order, linesOf(*order, this));
         return true;
     }
+    for (const EntityInvoiceLink* invoice : qAsConst(invoices))
+        m_knownBills.append(invoice->getInvoice()->getId());
     EntityInvoiceLink* chosen = invoices.size() == 1 ? invoices.first() : choose(invoices);
     if (chosen)
         setEntity(chosen);
@@ -103,11 +111,17 @@ bool OrderPaymentDialog::saveInvoice()
 {
     getEntity();
     sales()->clearErrors();
+    const bool isFirst = !isStored();
+    m_sale->setKnownBills(m_knownBills);
     const bool saved = isStored() ? sales()->updateInvoice(m_sale) : sales()->insertInvoice(m_sale);
-    if (sales()->hasError())
-        showServiceError();
+    const QString failure = sales()->takeErrors();
+    if (!saved && isFirst && showBillOfAnother())
+        return false;
+    if (!failure.isEmpty())
+        showError(failure);
     if (!saved)
         return false;
+    m_knownBills.append(m_sale->getInvoice()->getId());
     // What the database has now, before anything is asked: a question may stay open for a long time.
     if (!readAgain()) {
         showInvoice(*m_sale->getInvoice());
@@ -120,6 +134,41 @@ bool OrderPaymentDialog::saveInvoice()
     // The box in hand shows the stored figure; what is typed next replaces it.
     if (auto* box = qobject_cast<QLineEdit*>(focusWidget()))
         box->selectAll();
+    return true;
+}
+
+bool OrderPaymentDialog::showBillOfAnother()
+{
+    const EntityPoolScope scope(m_read);
+    QList<EntityInvoiceLink*> strangers = readInvoices(m_order->getId());
+    strangers.erase(std::remove_if(strangers.begin(), strangers.end(),
+                                   [this](const EntityInvoiceLink* bill) {
+                                       return m_knownBills.contains(bill->getInvoice()->getId());
+                                   }),
+                    strangers.end());
+    sales()->clearErrors();
+    if (strangers.isEmpty())
+        return false;
+    QStringList bills;
+    for (const EntityInvoiceLink* bill : qAsConst(strangers)) {
+        const Invoice* invoice = bill->getInvoice();
+        const EntityUser* user =
+            qobject_cast<EntityUser*>(service<BusinessUser>("User")->find(invoice->getCreatedBy()));
+        bills.append(tr("%1 of %2, by %3 at %4")
+                         .arg(invoice->getInvoiceNo(),
+                              invoice->getGrandTotal()->getCurrency() + invoice->getGrandTotal()->toString(),
+                              user ? user->getUserName() : QString(),
+                              invoice->getCreatedTime().time().toString("HH:mm")));
+    }
+    const QString told = tr("This order was billed meanwhile: %1. Nothing was saved.").arg(bills.join("; "));
+    if (!ask(told + "\r\n" + tr("Do you want to open that bill?")))
+        return true;
+    EntityInvoiceLink* chosen = strangers.size() == 1 ? strangers.first() : choose(strangers);
+    if (chosen) {
+        for (const EntityInvoiceLink* bill : qAsConst(strangers))
+            m_knownBills.append(bill->getInvoice()->getId());
+        setEntity(chosen);
+    }
     return true;
 }
 

@@ -56,6 +56,9 @@ protected:
     virtual bool finish(EntityOrder* order) = 0;
     virtual void printBill(int saleId) = 0;
 
+    /** Bills of the order that were made beside this form, and with its knowledge. */
+    [[nodiscard]] const QList<int>& knownBills() const { return m_knownBills; }
+    void addKnownBills(const QList<int>& invoiceIds) { m_knownBills += invoiceIds; }
     /** A new invoice for these lines, which the form takes. */
     void showNewSale(EntityOrder* order, const QList<EntityInvoiceDetail*>& lines);
     /** Saves, reads everything again and offers to print; false, with a box, when one of the first two failed. */
@@ -73,6 +76,8 @@ protected:
 
 private:
     void showMissing(int id);
+    /** Says who has billed the order meanwhile, and opens that bill on request; false where nobody has. */
+    bool showBillOfAnother();
     bool finishOrder();
 
     // All that the form read. Nothing of it goes before the form does: lines in hand show items that were read earlier.
@@ -80,4 +85,5 @@ private:
     EntityOrder* m_order = nullptr;
     EntityInvoiceLink* m_sale = nullptr;
     bool m_print = false;
+    QList<int> m_knownBills;
 };

@@ -36,6 +36,14 @@ DataMapperInvoiceLink::Messages DataMapperInvoiceBawaPulang::messages() const
             tr("error: insert take away invoice detail failed.\r\n")};
 }
 
+QString DataMapperInvoiceBawaPulang::objection(const KorEntity& link)
+{
+    const auto& sale = static_cast<const EntityInvoiceBawaPulang&>(link);
+    if (!sale.knownBills())
+        return {};
+    return billedMeanwhile(m_orders->tableName(), "bawa_pulang_id", sale.getBawaPulang()->getId(), *sale.knownBills());
+}
+
 QList<EntityInvoiceBawaPulang*> DataMapperInvoiceBawaPulang::findByOrder(int orderId)
 {
     return castAll<EntityInvoiceBawaPulang>(

@@ -22,6 +22,7 @@ public:
 
 protected:
     [[nodiscard]] Messages messages() const override;
+    [[nodiscard]] QString objection(const KorEntity& link) override;
     bool loadOrders(const QList<KorEntity*>& links) override;
 
 private:
