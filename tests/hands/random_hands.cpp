@@ -2,8 +2,8 @@
 #include "app/context/DatabaseManager.h"
 #include "hands/RandomHands.h"
 #include "hands/TradeChecks.h"
+#include "hands/Workplace.h"
 #include "shell/window/HouseStyle.h"
-#include "shell/window/MainWindow.h"
 #include "support/TestDatabase.h"
 #include "zavel/registry/ZavelBusinessRegistry.h"
 
@@ -11,7 +11,6 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
-#include <QTest>
 #include <QTextStream>
 
 #include <memory>
@@ -39,31 +38,24 @@ int work(const QString& databaseName, quint32 seed, int seconds, const QString& 
     }
     loginAsAdmin();
     AppContext::instance()->setLocale("id_ID");
-    AppContext::instance()->setShowDashboard(false);
     HouseStyle::apply(*qApp);
-    MainWindow window;
-    AppContext::instance()->setMainWindow(&window);
-    window.show();
-    if (!QTest::qWaitForWindowActive(&window))
+    Workplace place;
+    if (!place.isReady())
         return 1;
     QFile file(logName);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
         return 1;
     QTextStream log(&file);
-    RandomHands hands(window, seed);
+    RandomHands hands(place.window(), seed);
     hands.setLog(&log);
-    hands.addEvent("language", [&window] {
-        QEvent change(QEvent::LanguageChange);
-        QCoreApplication::sendEvent(&window, &change);
-    });
-    hands.addEvent("all pages close", [&window] { window.closeAllTab(); });
+    hands.addEvent("language", [&place] { place.changeLanguage(); });
+    hands.addEvent("all pages close", [&place] { place.window().closeAllTab(); });
     QElapsedTimer time;
     time.start();
     int strokes = 0;
     for (; time.elapsed() < qint64(seconds) * 1000; strokes += strokesARound)
         hands.play(strokesARound);
-    window.closeAllTab();
-    AppContext::instance()->setMainWindow(nullptr);
+    place.window().closeAllTab();
     out() << strokes << " strokes with seed " << seed << Qt::endl;
     return 0;
 }

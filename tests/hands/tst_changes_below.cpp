@@ -3,15 +3,13 @@
 #include "app/context/DatabaseManager.h"
 #include "hands/Keys.h"
 #include "hands/TradeChecks.h"
+#include "hands/Workplace.h"
 #include "kor/widgets/KorTab.h"
 #include "shell/window/HouseStyle.h"
-#include "shell/window/MainWindow.h"
-#include "shell/window/TabFactories.h"
 #include "support/TestDatabase.h"
 
 #include <QApplication>
 #include <QTabWidget>
-#include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -42,18 +40,16 @@ private slots:
     void memoryIsEmptiedWithAllPagesOpen();
 
 private:
-    KorTab* open(const QString& page);
     void happen(Change change);
     /** Whoever is at the form that is open lets the change happen and goes on typing, or gives the form up. */
     void atAForm();
     static void rest();
-    static QStringList pageNames();
     void connectTo(const TestDatabase& database);
 
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<TestDatabase> m_other;
     std::unique_ptr<TestDatabase> m_database;
-    std::unique_ptr<MainWindow> m_window;
+    std::unique_ptr<Workplace> m_place;
     QTimer m_hands;
     std::optional<Change> m_change;
     bool m_isFormGone = false;
@@ -81,44 +77,17 @@ void TestChangesBelow::init()
     openShopForHands(*m_other);
     m_database = std::make_unique<TestDatabase>();
     openShopForHands(*m_database);
-    AppContext::instance()->setShowDashboard(false);
-    m_window = std::make_unique<MainWindow>();
-    m_window->setSettingsFile(m_folder->filePath("settings.ini"));
-    AppContext::instance()->setMainWindow(m_window.get());
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    m_place = std::make_unique<Workplace>(m_folder->filePath("settings.ini"));
+    QVERIFY(m_place->isReady());
 }
 
 void TestChangesBelow::cleanup()
 {
-    AppContext::instance()->setMainWindow(nullptr);
-    m_window.reset();
+    m_place.reset();
     m_database.reset();
     m_other.reset();
     m_folder.reset();
     qunsetenv("ZAVEL_SPOOL_DIR");
-}
-
-QStringList TestChangesBelow::pageNames()
-{
-    QStringList names = allTabFactories().keys();
-    // The dashboard is a web page, and has no forms.
-    names.removeOne("TabDashboard");
-    return names;
-}
-
-KorTab* TestChangesBelow::open(const QString& page)
-{
-    m_window->show();
-    m_window->openTab(page);
-    QApplication::setActiveWindow(m_window.get());
-    auto* tab = qobject_cast<KorTab*>(m_window->findChild<QTabWidget*>("tabWidget")->currentWidget());
-    if (QTableView* grid = gridInFront(*tab)) {
-        grid->setFocus();
-        if (grid->model() && grid->model()->rowCount() > 0)
-            grid->selectRow(0);
-    }
-    return tab;
 }
 
 void TestChangesBelow::connectTo(const TestDatabase& database)
@@ -129,7 +98,7 @@ void TestChangesBelow::connectTo(const TestDatabase& database)
     settings.user = TestDatabase::user();
     settings.database = database.name();
     QVERIFY(settings.write(m_folder->filePath("settings.ini")));
-    m_window->updateDBConfig();
+    m_place->window().updateDBConfig();
 }
 
 void TestChangesBelow::happen(Change change)
@@ -141,19 +110,17 @@ void TestChangesBelow::happen(Change change)
     case OtherDatabase:
         connectTo(AppContext::instance()->dbName() == m_other->name() ? *m_database : *m_other);
         break;
-    case OtherLanguage: {
-        QEvent event(QEvent::LanguageChange);
-        QCoreApplication::sendEvent(m_window.get(), &event);
+    case OtherLanguage:
+        m_place->changeLanguage();
         break;
-    }
     case LostConnection:
         m_database->killConnections();
         break;
     case PagesClose:
-        m_window->closeAllTab();
+        m_place->window().closeAllTab();
         break;
     case WindowCloses:
-        m_window->close();
+        m_place->window().close();
         break;
     }
 }
@@ -192,10 +159,10 @@ void TestChangesBelow::atAForm()
 void TestChangesBelow::thePageAndItsFormOutliveIt()
 {
     QFETCH(Change, change);
-    const QStringList names = pageNames();
+    const QStringList names = Workplace::pageNames();
     for (const QString& name : names) {
         for (int key : {Qt::Key_F12, Qt::Key_F2}) {
-            const QPointer<KorTab> page = open(name);
+            const QPointer<KorTab> page = m_place->open(name);
             m_change = change;
             strikeKey(key);
             rest();
@@ -203,13 +170,13 @@ void TestChangesBelow::thePageAndItsFormOutliveIt()
             m_change.reset();
         }
         // The page alone; it reads anew, and shows what it reads.
-        open(name);
+        m_place->open(name);
         happen(change);
-        m_window->grab();
+        m_place->window().grab();
         strikeKey(Qt::Key_F5);
         rest();
-        open(name);
-        m_window->grab();
+        m_place->open(name);
+        m_place->window().grab();
         rest();
     }
     const QStringList faults = faultsOfTrade(*m_database);
@@ -218,16 +185,16 @@ void TestChangesBelow::thePageAndItsFormOutliveIt()
 
 void TestChangesBelow::memoryIsEmptiedWithAllPagesOpen()
 {
-    const QStringList names = pageNames();
+    const QStringList names = Workplace::pageNames();
     for (const QString& name : names)
-        open(name);
+        m_place->open(name);
     AppContext::instance()->resetEntityPool();
-    auto* pages = m_window->findChild<QTabWidget*>("tabWidget");
+    auto* pages = m_place->window().findChild<QTabWidget*>("tabWidget");
     for (int index = 0; index < pages->count(); ++index) {
         pages->setCurrentIndex(index);
-        m_window->grab();
+        m_place->window().grab();
     }
-    m_window->closeAllTab();
+    m_place->window().closeAllTab();
     QCOMPARE(pages->count(), 0);
 }
 

@@ -1,15 +1,12 @@
-#include "app/context/AppContext.h"
 #include "forms/AllForms.h"
 #include "hands/Keys.h"
+#include "hands/Workplace.h"
 #include "kor/widgets/KorTab.h"
 #include "shell/window/HouseStyle.h"
-#include "shell/window/MainWindow.h"
-#include "shell/window/TabFactories.h"
 #include "support/TestDatabase.h"
 
 #include <QApplication>
 #include <QDialog>
-#include <QTabWidget>
 #include <QTableView>
 #include <QTest>
 #include <QTimer>
@@ -25,6 +22,12 @@ bool isWorthAPause(const Stroke& first, const Stroke& second)
     const bool hits = second.key == 0 || second.key == Qt::Key_Escape || second.key == Qt::Key_Return ||
                       second.key == Qt::Key_F5 || second.key == Qt::Key_F12;
     return first.opens() && hits && first.key != second.key;
+}
+
+bool has(const QList<Stroke>& strokes, const Stroke& wanted)
+{
+    return std::any_of(strokes.cbegin(), strokes.cend(),
+                       [&wanted](const Stroke& stroke) { return stroke.key == wanted.key; });
 }
 } // namespace
 
@@ -47,12 +50,11 @@ private slots:
 
 private:
     void addPages();
-    KorTab* open(const QString& page);
-    /** Plays the bursts of the form that has just opened, one a visit; false when there is none left. */
+    /** Plays the next burst of the form that has just opened; its page opens it once for each. */
     void inForm(QWidget* form);
 
     std::unique_ptr<TestDatabase> m_database;
-    std::unique_ptr<MainWindow> m_window;
+    std::unique_ptr<Workplace> m_place;
     QStringList m_faults;
     int m_pair = 0;
     int m_pairs = 0;
@@ -62,56 +64,36 @@ void TestKeyBursts::init()
 {
     m_database = std::make_unique<TestDatabase>();
     openShopForForms(*m_database);
-    AppContext::instance()->setShowDashboard(false);
-    m_window = std::make_unique<MainWindow>();
-    AppContext::instance()->setMainWindow(m_window.get());
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    m_place = std::make_unique<Workplace>();
+    QVERIFY(m_place->isReady());
     m_faults.clear();
 }
 
 void TestKeyBursts::cleanup()
 {
-    AppContext::instance()->setMainWindow(nullptr);
-    m_window.reset();
+    m_place.reset();
     m_database.reset();
 }
 
 void TestKeyBursts::addPages()
 {
     QTest::addColumn<QString>("page");
-    const TabFactories factories = allTabFactories();
-    for (auto factory = factories.cbegin(); factory != factories.cend(); ++factory) {
-        // The dashboard is a web page without keys of its own.
-        if (factory.key() != "TabDashboard")
-            QTest::newRow(qPrintable(factory.key())) << factory.key();
-    }
-}
-
-KorTab* TestKeyBursts::open(const QString& page)
-{
-    m_window->openTab(page);
-    m_window->activateWindow();
-    auto* tab = qobject_cast<KorTab*>(m_window->findChild<QTabWidget*>("tabWidget")->currentWidget());
-    if (QTableView* grid = gridInFront(*tab)) {
-        grid->setFocus();
-        if (grid->model() && grid->model()->rowCount() > 0)
-            grid->selectRow(0);
-    }
-    return tab;
+    const QStringList pages = Workplace::pageNames();
+    for (const QString& page : pages)
+        QTest::newRow(qPrintable(page)) << page;
 }
 
 void TestKeyBursts::twoKeysOfAPage()
 {
     QFETCH(QString, page);
-    const QList<Stroke> strokes = strokesOf(*open(page));
+    const QList<Stroke> strokes = strokesOf(*m_place->open(page));
     for (const Stroke& first : strokes) {
         for (const Stroke& second : strokes) {
             for (int delay : delays) {
                 if (delay > 0 && !isWorthAPause(first, second))
                     continue;
                 Burst burst;
-                burst.play(open(page), first, second, delay);
+                burst.play(m_place->open(page), first, second, delay);
                 QVERIFY2(burst.faults().isEmpty(), qPrintable(QString("%1, %2 after %3 ms: %4")
                                                                   .arg(first.name, second.name)
                                                                   .arg(delay)
@@ -146,7 +128,9 @@ void TestKeyBursts::twoKeysOfAForm()
         m_pair = 0;
         m_pairs = 1;
         while (m_pair < m_pairs) {
-            KorTab* tab = open(page);
+            // An Escape of the visit before, which found its form gone already, must not meet the next one.
+            QCoreApplication::processEvents();
+            KorTab* tab = m_place->open(page);
             m_pairs = 0;
             // In the form's own loop, as soon as it is there; what the page says when it is closed is heard out.
             QTimer waiting;
@@ -158,7 +142,13 @@ void TestKeyBursts::twoKeysOfAForm()
                     inForm(form);
             });
             waiting.start(1);
+            const QTableView* grid = gridInFront(*tab);
+            const bool hasRow = grid && grid->model() && grid->model()->rowCount() > 0;
+            const bool opens = has(strokesOf(*tab), opener) && (opener.key == Qt::Key_F12 || hasRow);
             strike(tab, opener);
+            // A form that is late must not be missed: nothing would be struck in it.
+            if (opens)
+                QTRY_VERIFY2(m_pairs > 0, qPrintable(QString("%1 opens nothing, at pair %2").arg(opener.name).arg(m_pair)));
             ++m_pair;
         }
     }

@@ -1,8 +1,7 @@
-#include "app/context/AppContext.h"
 #include "hands/RandomHands.h"
 #include "hands/TradeChecks.h"
+#include "hands/Workplace.h"
 #include "shell/window/HouseStyle.h"
-#include "shell/window/MainWindow.h"
 #include "support/TestDatabase.h"
 
 #include <QApplication>
@@ -37,26 +36,19 @@ void TestRandomHands::nothingBreaks()
     openShopForHands(database);
     const QStringList before = faultsOfTrade(database);
     QVERIFY2(before.isEmpty(), qPrintable(before.join('\n')));
-    AppContext::instance()->setShowDashboard(false);
-    MainWindow window;
-    AppContext::instance()->setMainWindow(&window);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
+    Workplace place;
+    QVERIFY(place.isReady());
 
-    RandomHands hands(window, seed);
-    hands.addEvent("language", [&window] {
-        QEvent change(QEvent::LanguageChange);
-        QCoreApplication::sendEvent(&window, &change);
-    });
+    RandomHands hands(place.window(), seed);
+    hands.addEvent("language", [&place] { place.changeLanguage(); });
     hands.addEvent("lost connection", [&database] { database.killConnections(); });
-    hands.addEvent("all pages close", [&window] { window.closeAllTab(); });
+    hands.addEvent("all pages close", [&place] { place.window().closeAllTab(); });
     for (int round = 0; round < 5; ++round) {
         hands.play(200);
         const QStringList faults = faultsOfTrade(database);
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
     }
-    window.closeAllTab();
-    AppContext::instance()->setMainWindow(nullptr);
+    place.window().closeAllTab();
 }
 
 QTEST_MAIN(TestRandomHands)

@@ -64,7 +64,10 @@ inline void press(const QWidget* form, QDialogButtonBox::StandardButton button)
 inline void strikeKey(int key, const QString& text = {}, Qt::KeyboardModifiers modifiers = {})
 {
     QWidget* form = openForm();
-    const QPointer<QWindow> window = form ? form->windowHandle() : QGuiApplication::focusWindow();
+    QPointer<QWindow> window = form ? form->windowHandle() : QGuiApplication::focusWindow();
+    // Where a form has closed nobody has the keys until a window manager gives them back.
+    if (!window && QApplication::activeWindow())
+        window = QApplication::activeWindow()->windowHandle();
     // Straight to the window system: what the testing library has for it lets other strokes happen in between.
     if (window)
         qt_handleKeyEvent(window, QEvent::KeyPress, key, modifiers, text);

@@ -39,13 +39,6 @@ protected:
 private:
     using QObject::QObject;
 
-    [[nodiscard]] bool takeKey(const QKeyEvent& key);
-    [[nodiscard]] bool takeTap(QObject* watched, const QMouseEvent& tap);
-    void pressByKey(QAbstractButton* button);
-    [[nodiscard]] bool isSecondPress(const QAbstractButton* button) const;
-    [[nodiscard]] bool withinABlink(ulong time) const;
-    void ends(QAbstractButton* button);
-
     // What the hands did last; a key has no place, a tap no key.
     struct Input
     {
@@ -55,15 +48,23 @@ private:
         ulong time = 0;
         int number = 0;
     };
-    Input m_now;
-    /** Whether it is the second half of what pressed the last such button, by the window system's own clock. */
-    [[nodiscard]] bool isSameGesture(const Input& input) const;
-    Input m_begun;
     struct Press
     {
         QPointer<QAbstractButton> button;
         Input input;
     };
+
+    [[nodiscard]] bool takeKey(const QKeyEvent& key);
+    [[nodiscard]] bool takeTap(QObject* watched, const QMouseEvent& tap);
+    void pressByKey(QAbstractButton* button);
+    [[nodiscard]] bool isSecondPress(const QAbstractButton* button) const;
+    [[nodiscard]] bool withinABlink(ulong time) const;
+    /** Whether it is the second half of what pressed the last such button, by the window system's own clock. */
+    [[nodiscard]] bool isSameGesture(const Input& input) const;
+    void ends(QAbstractButton* button);
+
+    Input m_now;
+    Input m_begun;
     // What is at work, the innermost last.
     QList<Press> m_open;
     // The button that was pressed last, by which input, and since when it has done what it does.

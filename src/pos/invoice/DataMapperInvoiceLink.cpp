@@ -34,8 +34,10 @@ void DataMapperInvoiceLink::prepareInvoice(KorEntity*, Invoice*) {}
 QString DataMapperInvoiceLink::objection(const KorEntity&) { return {}; }
 
 QString DataMapperInvoiceLink::billedMeanwhile(const QString& orderTable, const QString& orderColumn, int orderId,
-                                               const QList<int>& knownBills)
+                                               const std::optional<QList<int>>& knownBills)
 {
+    if (!knownBills)
+        return {};
     KorQuery held;
     KorQuery bills;
     // Of two first saves at the same moment the second waits here, and then sees the bill of the first.
@@ -44,7 +46,7 @@ QString DataMapperInvoiceLink::billedMeanwhile(const QString& orderTable, const 
                  {{":id", orderId}}))
         return takeError();
     while (bills.next()) {
-        if (!knownBills.contains(bills.value(0).toInt()))
+        if (!knownBills->contains(bills.value(0).toInt()))
             return tr("This order was billed meanwhile. Nothing was saved.");
     }
     return {};

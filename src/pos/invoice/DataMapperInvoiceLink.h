@@ -2,6 +2,8 @@
 
 #include "pos/invoice/DataMapperInvoice.h"
 
+#include <optional>
+
 class IInvoice;
 
 /**
@@ -39,9 +41,12 @@ protected:
     [[nodiscard]] virtual Messages messages() const = 0;
     /** Asked inside the transaction before the first row of a new sale: what speaks against it, or nothing. */
     [[nodiscard]] virtual QString objection(const KorEntity& link);
-    /** The same for the bill of an order, which is held until the commit: a bill that the sale does not know of. */
+    /**
+     * The same for the bill of an order, which is held until the commit: a bill that the sale does not know of, where
+     * it says which ones it knows.
+     */
     [[nodiscard]] QString billedMeanwhile(const QString& orderTable, const QString& orderColumn, int orderId,
-                                          const QList<int>& knownBills);
+                                          const std::optional<QList<int>>& knownBills);
     /** What the link knows and the invoice keeps too, before it is written. */
     virtual void prepareInvoice(KorEntity* link, Invoice* invoice);
     /** Reads what stands behind a link beside the invoice and the lines; for all links of a list at once. */

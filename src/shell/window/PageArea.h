@@ -6,7 +6,6 @@
 #include <QWidget>
 
 class QTabWidget;
-class QWidget;
 
 /** The open pages of the main window: each class at most once, reports told apart by their titles as well. */
 class PageArea final : public QObject

@@ -39,9 +39,7 @@ DataMapperInvoiceLink::Messages DataMapperInvoiceBawaPulang::messages() const
 QString DataMapperInvoiceBawaPulang::objection(const KorEntity& link)
 {
     const auto& sale = static_cast<const EntityInvoiceBawaPulang&>(link);
-    if (!sale.knownBills())
-        return {};
-    return billedMeanwhile(m_orders->tableName(), "bawa_pulang_id", sale.getBawaPulang()->getId(), *sale.knownBills());
+    return billedMeanwhile(m_orders->tableName(), "bawa_pulang_id", sale.getBawaPulang()->getId(), sale.knownBills());
 }
 
 QList<EntityInvoiceBawaPulang*> DataMapperInvoiceBawaPulang::findByOrder(int orderId)
