@@ -368,6 +368,9 @@ void TestBoard::anEditMovesTheOrderAndStartsTheWaitAgain()
     choose("t1");
     m_people->expect<DialogMakanDitempat>([](DialogMakanDitempat* form) {
         QCOMPARE(form->windowTitle(), QString("Dine - Edit Order"));
+        const auto* notice = form->findChild<QLabel*>("lblNotice");
+        QVERIFY(notice->isVisible());
+        QVERIFY2(notice->text().startsWith("This order is billed already: TRD"), qPrintable(notice->text()));
         typeInto(form, "txtKode", "t2");
         // The first takes the table, the second confirms the form.
         QTest::keyClick(form->focusWidget(), Qt::Key_Return);

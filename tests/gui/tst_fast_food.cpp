@@ -230,21 +230,14 @@ void TestFastFood::theMoneyDecidesWhereTheSaleStands_data()
     QTest::addColumn<QString>("paid");
     QTest::addColumn<QString>("credit");
     QTest::addColumn<QString>("figures");
-    QTest::newRow("nothing paid") << ""
-                                  << ""
-                                  << "2 0 0 -55000";
-    QTest::newRow("a part") << "20000"
-                            << ""
-                            << "3 20000 0 -35000";
-    QTest::newRow("the sum") << "55000"
-                             << ""
-                             << "1 55000 0 0";
-    QTest::newRow("a larger note") << "100000"
-                                   << ""
-                                   << "1 100000 0 45000";
-    QTest::newRow("on credit") << ""
-                               << "55000"
-                               << "1 0 55000 0";
+    QTest::addColumn<QString>("change");
+    const auto row = [](const char* name, const char* paid, const char* credit, const char* figures,
+                        const char* change) { QTest::newRow(name) << paid << credit << figures << change; };
+    row("nothing paid", "", "", "2 0 0 -55000", "Less : Rp55.000");
+    row("a part", "20000", "", "3 20000 0 -35000", "Less : Rp35.000");
+    row("the sum", "55000", "", "1 55000 0 0", "Change : Rp0");
+    row("a larger note", "100000", "", "1 100000 0 45000", "Change : Rp45.000");
+    row("on credit", "", "55000", "1 0 55000 0", "Change : Rp0");
 }
 
 void TestFastFood::theMoneyDecidesWhereTheSaleStands()
@@ -252,7 +245,10 @@ void TestFastFood::theMoneyDecidesWhereTheSaleStands()
     QFETCH(QString, paid);
     QFETCH(QString, credit);
     QFETCH(QString, figures);
+    QFETCH(QString, change);
     show();
+    const auto* shownChange = m_page->findChild<QLabel*>("lblChange");
+    QVERIFY(!shownChange->isVisible());
     m_people->answer(QMessageBox::No);
     sell([&](DialogFastFood* form) {
         QTest::keyClicks(form->focusWidget(), paid);
@@ -264,6 +260,15 @@ void TestFastFood::theMoneyDecidesWhereTheSaleStands()
     // The counter stores the figure that it shows: what is short is negative.
     QCOMPARE(stored("status, amount_paid_amount, other_payment_amount, net_due_amount"), figures);
     QCOMPARE(slips(), QStringList());
+    // The coins are still to be counted when the form has gone.
+    QVERIFY(shownChange->isVisible());
+    QCOMPARE(shownChange->text(), change);
+    m_people->expect<DialogFastFood>([shownChange](DialogFastFood* form) {
+        QVERIFY(!shownChange->isVisible());
+        QTest::keyClick(form, Qt::Key_Escape);
+    });
+    press(Qt::Key_F12);
+    QTRY_VERIFY(m_people->finished());
 }
 
 void TestFastFood::aSaveThatFailsKeepsWhatWasTyped()

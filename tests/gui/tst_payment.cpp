@@ -57,6 +57,8 @@ private slots:
     void aMembersCodeMeansTheSameAtEverySpeed();
     void anOrderIsBilledOnce_data();
     void anOrderIsBilledOnce();
+    void whatChangesAfterTheBillIsAskedFor_data();
+    void whatChangesAfterTheBillIsAskedFor();
     void whoPaysLaterIsFoundByTheOrdersMember();
     void pressedTwiceDoesOneThing_data();
     void pressedTwiceDoesOneThing();
@@ -493,6 +495,58 @@ void TestPayment::anOrderIsBilledOnce()
     QCOMPARE(invoices(), 1);
     QCOMPARE(shown("txtKode"), opensIt ? QString("TRD-X") : QString());
     QCOMPARE(shown("txtPaid"), opensIt ? QString("1.000,00") : QString("500,00"));
+}
+
+void TestPayment::whatChangesAfterTheBillIsAskedFor_data()
+{
+    QTest::addColumn<int>("quantity");
+    QTest::addColumn<int>("answer");
+    QTest::addColumn<QString>("bills");
+    QTest::addColumn<bool>("isSettled");
+    // Of the first dish two are billed, at 300 each; there are 10 % tax.
+    QTest::newRow("one more, added to the bill") << 3 << int(QMessageBox::Yes) << "1430" << true;
+    QTest::newRow("one more, on a second bill") << 3 << int(QMessageBox::Save) << "1100 300" << true;
+    QTest::newRow("one more, left alone") << 3 << int(QMessageBox::No) << "1100" << false;
+    QTest::newRow("one taken back, off the bill") << 1 << int(QMessageBox::Yes) << "770" << true;
+    QTest::newRow("one taken back, left alone") << 1 << int(QMessageBox::No) << "1100" << false;
+    QTest::newRow("all taken back, off the bill") << 0 << int(QMessageBox::Yes) << "440" << true;
+}
+
+void TestPayment::whatChangesAfterTheBillIsAskedFor()
+{
+    QFETCH(int, quantity);
+    QFETCH(int, answer);
+    QFETCH(QString, bills);
+    QFETCH(bool, isSettled);
+    openForm();
+    enter("txtTaxPerc", "10");
+    type("txtPaid", "1100");
+    save();
+    QTRY_COMPARE(m_people->texts().size(), 2);
+    // A waiter changes the order at the table, after the guests had their bill.
+    m_database->run(quantity > 0 ? QString("UPDATE makan_ditempat_detail SET qty = %1 WHERE qty = 2").arg(quantity)
+                                 : QString("DELETE FROM makan_ditempat_detail WHERE qty = 2"));
+    m_people->answer(QMessageBox::Yes);
+    click("btnFinish");
+    const QString difference = quantity > 2   ? "Ordered, but on no bill: 1 Rice (Rp300)"
+                               : quantity > 0 ? "On the bill, but taken back: 1 Rice (Rp300)"
+                                              : "On the bill, but taken back: 2 Rice (Rp600)";
+    QTRY_COMPARE(m_people->lastText(), difference + "\r\nDo you want to end this order all the same?");
+    QCOMPARE(orderStatus(), int(EntityOrder::DONE));
+
+    m_database->run("UPDATE makan_ditempat SET status = 1");
+    m_people->clear();
+    m_people->answer(QMessageBox::StandardButton(answer));
+    openForm();
+    QCOMPARE(m_people->texts(), QStringList{"This order has changed since it was billed.\r\n" + difference});
+    save();
+    QTRY_COMPARE(
+        m_database->value("SELECT string_agg(grandtotal_amount::text, ' ' ORDER BY id) FROM invoice").toString(),
+        bills);
+    m_people->clear();
+    click("btnFinish");
+    QCOMPARE(m_people->texts().isEmpty(), isSettled);
+    QCOMPARE(orderStatus() == EntityOrder::DONE, isSettled);
 }
 
 void TestPayment::whoPaysLaterIsFoundByTheOrdersMember()

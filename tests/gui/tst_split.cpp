@@ -8,7 +8,7 @@
 #include "support/TestDatabase.h"
 #include "zavel/dinein/DialogBayarMakanDitempat.h"
 #include "zavel/dinein/DialogBayarMakanDitempatDetailSplit.h"
-#include "zavel/dinein/InvoiceSplit.h"
+#include "zavel/payment/BillLines.h"
 #include "zavel/service/BusinessPenjualan.h"
 
 #include <QApplication>
@@ -348,7 +348,7 @@ void TestSplit::whateverIsSplitTheInvoicesAddUpToTheOrder()
         count(parent);
         for (const InvoiceLines& group : groups) {
             if (random.bounded(4) == 0) {
-                giveBack(group, &lines, &owner);
+                addLines(group, &lines, &owner);
                 continue;
             }
             EntityInvoiceMakanDitempat own;

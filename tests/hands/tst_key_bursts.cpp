@@ -148,7 +148,8 @@ void TestKeyBursts::twoKeysOfAForm()
             strike(tab, opener);
             // A form that is late must not be missed: nothing would be struck in it.
             if (opens)
-                QTRY_VERIFY2(m_pairs > 0, qPrintable(QString("%1 opens nothing, at pair %2").arg(opener.name).arg(m_pair)));
+                QTRY_VERIFY2(m_pairs > 0,
+                             qPrintable(QString("%1 opens nothing, at pair %2").arg(opener.name).arg(m_pair)));
             ++m_pair;
         }
     }

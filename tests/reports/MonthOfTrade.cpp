@@ -151,7 +151,7 @@ const char* const money[] = {
     "INSERT INTO invoice_makan_ditempat (invoice_id, makan_ditempat_id) VALUES (8, 5)",
     "INSERT INTO makan_ditempat_detail (makan_ditempat_id, item_id, qty, status, price_each_amount, total_amount) "
     "VALUES "
-    "(6, 1, 2, 1, 250, 500), (6, 3, 1, 1, 80, 80)",
+    "(6, 1, 2, 1, 250, 500), (6, 3, 1, 1, 80, 80), (2, 1, 6, 1, 250, 1500), (2, 2, 1, 1, 900, 900)",
     "INSERT INTO piutang (id, no, payment_type, member_id, payment_date, grandtotal_amount, bank_id, createdby, "
     "createdtime) VALUES (1, 'PIU-1', 1, 2, '2026-03-20', 160, 1, 101, '2026-03-20 15:00'), "
     "(2, 'PIU-2', 2, 1, '2026-03-31', 90, 2, 102, '2026-03-31 16:00')",

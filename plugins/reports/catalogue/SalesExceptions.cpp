@@ -10,6 +10,7 @@ const QList<QPair<QVariant, const char*>>& kinds()
     static const QList<QPair<QVariant, const char*>> kinds{
         {"gap", QT_TRANSLATE_NOOP("Reports", "Invoice number missing")},
         {"gone", QT_TRANSLATE_NOOP("Reports", "Order without its invoice")},
+        {"unbilled", QT_TRANSLATE_NOOP("Reports", "Ordered, not billed")},
         {"loose", QT_TRANSLATE_NOOP("Reports", "Invoice without its order")},
         {"orphan", QT_TRANSLATE_NOOP("Reports", "Payment for a deleted invoice")},
         {"again", QT_TRANSLATE_NOOP("Reports", "Invoice saved again")},
@@ -59,6 +60,27 @@ QString ordersWithoutInvoice(const QString& table, const QString& subject, const
            subject;
 }
 
+/** What came to the table after the bill, and was never added to one. */
+QString orderedNotBilled(const QString& table, const QString& subject, const QString& joins)
+{
+    const QString orders = " from " + table + " o join invoice_" + table + " link on link." + table + "_id = o.id ";
+    const QString ofPeriod = " where o.tgl between :from and :to ";
+    return "select 'unbilled', o.tgl, bills.no, " + subject +
+           ", sum(price * (ordered.qty - coalesce(billed.qty, 0))), null, sum(ordered.qty - coalesce(billed.qty, 0)), "
+           "o.createdby, o.createdtime, o.updatedby, o.updatedtime from " +
+           table + " o " + joins + " join (select o.id, string_agg(i.no, ', ' order by i.id) as no" + orders +
+           "join invoice i on i.id = link.invoice_id" + ofPeriod +
+           "group by 1) bills on bills.id = o.id "
+           "join (select o.id, line.item_id, sum(line.qty) as qty, max(line.price_each_amount) as price from " +
+           table + " o join " + table + "_detail line on line." + table + "_id = o.id" + ofPeriod +
+           "group by 1, 2) ordered on ordered.id = o.id "
+           "left join (select o.id, line.item_id, sum(line.qty) as qty" +
+           orders + "join invoice_detail line on line.invoice_id = link.invoice_id" + ofPeriod +
+           "group by 1, 2) billed on billed.id = o.id and billed.item_id = ordered.item_id "
+           "where ordered.qty > coalesce(billed.qty, 0) group by o.id, bills.no, " +
+           subject;
+}
+
 /** Lines of payments stay when an invoice is deleted. */
 QString paidForNothing(const QString& table, const QString& partner, const QString& amount)
 {
@@ -74,12 +96,13 @@ QString allKinds()
 {
     const QString links = "left join invoice_makan_ditempat dine on dine.invoice_id = i.id "
                           "left join invoice_bawa_pulang away on away.invoice_id = i.id ";
+    const QString table = "concat_ws(' / ', meja.nama, nullif(o.pemesan, ''))";
+    const QString tables = "join meja on meja.id = o.meja_id";
     const QString due = "i.grandtotal_amount - i.amount_paid_amount - i.other_payment_amount";
     return QStringList{
-        missingNumbers,
-        ordersWithoutInvoice("makan_ditempat", "concat_ws(' / ', meja.nama, nullif(o.pemesan, ''))",
-                             "join meja on meja.id = o.meja_id"),
-        ordersWithoutInvoice("bawa_pulang", "o.pemesan", {}),
+        missingNumbers, ordersWithoutInvoice("makan_ditempat", table, tables),
+        ordersWithoutInvoice("bawa_pulang", "o.pemesan", {}), orderedNotBilled("makan_ditempat", table, tables),
+        orderedNotBilled("bawa_pulang", "o.pemesan", {}),
         ofInvoices("loose", "i.grandtotal_amount, null, null", links,
                    "i.invoice_type = 'TRD' and dine.id is null or i.invoice_type = 'TRP' and away.id is null"),
         paidForNothing("piutang", "member", "amount_paid_amount"),

@@ -52,6 +52,8 @@ QList<EntityInvoiceLink*> DialogBayarMakanDitempat::readInvoices(int orderId)
     return invoices;
 }
 
+EntityOrder* DialogBayarMakanDitempat::readOrder(int id) { return sales()->findOrder(id); }
+
 EntityInvoiceLink* DialogBayarMakanDitempat::choose(const QList<EntityInvoiceLink*>& invoices)
 {
     QList<EntityInvoiceMakanDitempat*> ofTable;
@@ -107,7 +109,7 @@ void DialogBayarMakanDitempat::printBill(int saleId) { SlipRequests::instance()-
 
 QList<EntityInvoiceDetail*> DialogBayarMakanDitempat::invoiceLines() const { return m_menu->details(); }
 
-void DialogBayarMakanDitempat::setLines(const QList<EntityInvoiceDetail*>& lines) { m_menu->setDetails(lines); }
+void DialogBayarMakanDitempat::setLines(const InvoiceLines& lines) { m_menu->setDetails(lines); }
 
 void DialogBayarMakanDitempat::focusLines() { m_menu->focusGrid(); }
 
@@ -214,7 +216,7 @@ void DialogBayarMakanDitempat::showGroup(EntityMakanDitempat* order, const Invoi
 void DialogBayarMakanDitempat::takeBack(const InvoiceLines& lines)
 {
     InvoiceLines all = m_menu->details();
-    giveBack(lines, &all, this);
+    addLines(lines, &all, this);
     m_menu->setDetails(all);
     m_splitting = true;
     accept();

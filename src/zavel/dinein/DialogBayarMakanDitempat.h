@@ -1,6 +1,6 @@
 #pragma once
 
-#include "zavel/dinein/InvoiceSplit.h"
+#include "zavel/payment/BillLines.h"
 #include "zavel/payment/OrderPaymentDialog.h"
 
 #include <memory>
@@ -38,7 +38,8 @@ protected:
     [[nodiscard]] QList<EntityInvoiceDetail*> invoiceLines() const override;
     void focusLines() override;
     [[nodiscard]] Texts texts() const override;
-    void setLines(const QList<EntityInvoiceDetail*>& lines) override;
+    void setLines(const InvoiceLines& lines) override;
+    EntityOrder* readOrder(int id) override;
     QList<EntityInvoiceLink*> readInvoices(int orderId) override;
     EntityInvoiceLink* choose(const QList<EntityInvoiceLink*>& invoices) override;
     EntityInvoiceLink* createSale() override;

@@ -2,9 +2,11 @@
 
 #include "app/context/AccessCheck.h"
 #include "app/context/EntityPool.h"
+#include "app/persistence/AppDocumentLines.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "zavel/dinein/DialogBayarMakanDitempat.h"
 #include "zavel/dinein/DialogMakanDitempat.h"
+#include "zavel/dinein/EntityInvoiceMakanDitempat.h"
 #include "zavel/dinein/EntityMakanDitempat.h"
 #include "zavel/dinein/TableModelMakanDitempat.h"
 #include "zavel/order/SlipRequests.h"
@@ -130,6 +132,8 @@ void TabMakanDitempat::addToOrder(const EntityMakanDitempat& row)
     EntityPool pool;
     DialogMakanDitempat dialog(this, row.getMeja());
     dialog.setWindowTitle(tr("Dine - Add a new order"));
+    if (!tellOfBills(row.getId(), &dialog))
+        return;
     dialog.showOpenOrder(row);
     EntityMakanDitempat* stored = nullptr;
     dialog.setSaver([&] {
@@ -149,6 +153,11 @@ void TabMakanDitempat::addToOrder(const EntityMakanDitempat& row)
 }
 
 EntityOrder* TabMakanDitempat::findOrder(int id) { return sales()->findOrder(id); }
+
+QList<EntityInvoiceLink*> TabMakanDitempat::readBills(int orderId)
+{
+    return castAll<EntityInvoiceLink>(asEntities(sales()->getInvoicesOfOrder(orderId)));
+}
 
 std::unique_ptr<OrderDialog> TabMakanDitempat::createEditForm()
 {
@@ -175,7 +184,7 @@ void TabMakanDitempat::cancelOrder(EntityOrder* row)
         return;
     EntityPool pool;
     const EntityPoolScope scope(pool);
-    const bool hasInvoice = !sales()->getInvoicesOfOrder(row->getId()).isEmpty();
+    const bool hasInvoice = !readBills(row->getId()).isEmpty();
     if (!sales()->hasError() && hasInvoice)
         tell(tr("Table %1 is already have an invoice. Please finish the payment or click Finish button on Payment "
                 "Dialog")

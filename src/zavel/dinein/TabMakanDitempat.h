@@ -32,6 +32,7 @@ protected:
     bool carriesOrder(const EntityOrder& row, Action action) override;
     [[nodiscard]] QString nothingSelectedText() const override { return tr("Please select a table"); }
     EntityOrder* findOrder(int id) override;
+    QList<EntityInvoiceLink*> readBills(int orderId) override;
     std::unique_ptr<OrderDialog> createEditForm() override;
     bool updateOrder(EntityOrder* order) override;
     void cancelOrder(EntityOrder* row) override;

@@ -11,7 +11,9 @@
 
 #include <QComboBox>
 #include <QDateEdit>
+#include <QHBoxLayout>
 #include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -22,13 +24,16 @@ namespace
 constexpr char businessName[] = "Sales";
 constexpr int filtersPerRow = 4;
 constexpr int rowHeight = 40;
+constexpr double changeScale = 1.8;
 } // namespace
 
 TabFastFood::TabFastFood(QWidget* parent)
-    : AppDocumentTab({tr("Fast Food"), "tblMeja", businessName}, filtersPerRow, parent)
+    : AppDocumentTab({tr("Fast Food"), "tblMeja", businessName}, filtersPerRow, parent), m_changeRow(new QWidget(this)),
+      m_sale(new QLabel(m_changeRow)), m_change(new QLabel(m_changeRow))
 {
     makeFilters();
     nameButtons();
+    makeChangeRow();
     grid()->verticalHeader()->setDefaultSectionSize(rowHeight);
     grid()->setWordWrap(false);
     refresh();
@@ -58,6 +63,22 @@ void TabFastFood::nameButtons()
     };
     rename("btnAdd", tr("Add New Order"));
     rename("btnEdit", tr("Edit Order"));
+}
+
+void TabFastFood::makeChangeRow()
+{
+    m_change->setObjectName("lblChange");
+    QFont large = m_change->font();
+    large.setPointSizeF(large.pointSizeF() * changeScale);
+    large.setBold(true);
+    m_change->setFont(large);
+    auto* row = new QHBoxLayout(m_changeRow);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(m_sale);
+    row->addStretch();
+    row->addWidget(m_change);
+    m_changeRow->hide();
+    addFoot(m_changeRow);
 }
 
 // --- the list ------------------------------------------------------------------------------------------------------
@@ -94,6 +115,23 @@ int TabFastFood::deleteKey() const { return BusinessPenjualan::DELETE_SALES; }
 
 bool TabFastFood::asksOnce(int key) const { return key == BusinessPenjualan::SAVE_INVOICE; }
 
+void TabFastFood::on_btnAdd_clicked()
+{
+    m_changeRow->hide();
+    AppDocumentTab::on_btnAdd_clicked();
+}
+
+void TabFastFood::showChange(const EntityInvoiceFastFood& sale)
+{
+    const Invoice& invoice = *sale.getInvoice();
+    const auto text = [](const Money& amount) { return amount.getCurrency() + amount.toString(); };
+    const int due = invoice.getNetDue()->rawAmount();
+    const Money left(nullptr, qAbs(due), invoice.getGrandTotal()->getCurrency());
+    m_sale->setText(tr("%1 of %2").arg(invoice.getInvoiceNo(), text(*invoice.getGrandTotal())));
+    m_change->setText((due < 0 ? tr("Less :") : tr("Change :")) + ' ' + text(left));
+    m_changeRow->show();
+}
+
 std::unique_ptr<KorDialog> TabFastFood::createDialog() { return std::make_unique<DialogFastFood>(this); }
 
 KorEntity* TabFastFood::readEntity(int id) { return businessAs<BusinessPenjualan>()->findInvoiceFastFood(id); }
@@ -121,8 +159,11 @@ bool TabFastFood::updateEntity(KorEntity* sale)
 
 void TabFastFood::entitySaved(KorEntity* sale)
 {
-    if (m_soldNow && QMessageBox::question(this, tr("Question"), tr("Do you want to print this invoice ?"),
-                                           QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes)
+    if (!m_soldNow)
+        return;
+    showChange(*static_cast<EntityInvoiceFastFood*>(sale));
+    if (QMessageBox::question(this, tr("Question"), tr("Do you want to print this invoice ?"),
+                              QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes)
         SlipRequests::instance()->printBillFastFood(sale->getId());
 }
 

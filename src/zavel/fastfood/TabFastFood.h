@@ -3,8 +3,10 @@
 #include "app/widgets/AppDocumentTab.h"
 
 class EmployeeTextBox;
+class EntityInvoiceFastFood;
 class QComboBox;
 class QDateEdit;
+class QLabel;
 
 /** The page of the counter: takes a sale and its money in one form, and lists what was sold. */
 class TabFastFood final : public AppDocumentTab
@@ -13,6 +15,9 @@ class TabFastFood final : public AppDocumentTab
 
 public:
     explicit TabFastFood(QWidget* parent = nullptr);
+
+public slots:
+    void on_btnAdd_clicked() override;
 
 protected:
     QList<KorEntity*> readRows(const QString& filter) override;
@@ -35,10 +40,16 @@ protected:
 private:
     void makeFilters();
     void nameButtons();
+    void makeChangeRow();
+    /** The form has gone with the sale; its change stays in sight until the next one begins. */
+    void showChange(const EntityInvoiceFastFood& sale);
 
     QDateEdit* m_from = nullptr;
     QDateEdit* m_to = nullptr;
     QComboBox* m_status = nullptr;
     EmployeeTextBox* m_employee = nullptr;
+    QWidget* m_changeRow;
+    QLabel* m_sale;
+    QLabel* m_change;
     bool m_soldNow = false;
 };

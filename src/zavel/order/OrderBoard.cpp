@@ -2,6 +2,7 @@
 
 #include "app/context/AccessCheck.h"
 #include "kor/business/KorServiceDirectory.h"
+#include "pos/invoice/EntityInvoiceLink.h"
 #include "zavel/order/OrderBoardModel.h"
 #include "zavel/order/OrderDialog.h"
 #include "zavel/order/SlipRequests.h"
@@ -16,7 +17,12 @@
 namespace
 {
 constexpr int boardRowHeight = 44;
+
+QString billText(const Invoice& bill)
+{
+    return bill.getInvoiceNo() + ' ' + bill.getGrandTotal()->getCurrency() + bill.getGrandTotal()->toString();
 }
+} // namespace
 
 OrderBoard::OrderBoard(OrderKind kind, QWidget* parent)
     : AppTab(parent), m_kind(kind), m_sales(service<BusinessPenjualan>(businessName))
@@ -109,8 +115,10 @@ bool OrderBoard::editOrder(int id)
     EntityOrder* order = readOrder(id, pool);
     if (!order || !hasAccess(businessName, BusinessPenjualan::UBAH_PESANAN, order))
         return true;
-    order->takeSnapshot();
     const auto form = createEditForm();
+    if (!tellOfBills(id, form.get()))
+        return true;
+    order->takeSnapshot();
     form->setEntity(order);
     form->setSaver([&] {
         form->getEntity();
@@ -168,6 +176,23 @@ EntityOrder* OrderBoard::readOrder(int id, EntityPool& pool)
     else if (!order)
         QMessageBox::information(this, tr("Error"), tr("Can not find entity with id: %1").arg(id));
     return order;
+}
+
+bool OrderBoard::tellOfBills(int orderId, OrderDialog* form)
+{
+    EntityPool pool;
+    const EntityPoolScope scope(pool);
+    QStringList bills;
+    const QList<EntityInvoiceLink*> links = readBills(orderId);
+    for (const EntityInvoiceLink* link : links)
+        bills.append(billText(*link->getInvoice()));
+    if (m_sales->hasError())
+        return failed(m_sales);
+    if (!bills.isEmpty())
+        form->showNotice(
+            tr("This order is billed already: %1. What you change now is not on the bill. Press Pay afterwards.")
+                .arg(bills.join("; ")));
+    return true;
 }
 
 void OrderBoard::tell(const QString& text) { QMessageBox::information(this, tr("Info"), text); }

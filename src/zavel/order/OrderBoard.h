@@ -8,6 +8,7 @@
 #include <memory>
 
 class BusinessPenjualan;
+class EntityInvoiceLink;
 class KorBusinessLogic;
 class OrderBoardModel;
 class OrderDialog;
@@ -48,6 +49,8 @@ protected:
     [[nodiscard]] virtual QString nothingSelectedText() const = 0;
     /** The order with this id as it stands now; a failure is left in the service. */
     virtual EntityOrder* findOrder(int id) = 0;
+    /** The order's bills; a failure is left in the service. */
+    virtual QList<EntityInvoiceLink*> readBills(int orderId) = 0;
     virtual std::unique_ptr<OrderDialog> createEditForm() = 0;
     virtual bool updateOrder(EntityOrder* order) = 0;
     /** Asks, and cancels the order as the user saw it: one that has changed since is not cancelled unseen. */
@@ -62,6 +65,8 @@ protected:
     void sendToKitchen(EntityOrder* order);
     /** The order as it stands now, read into the pool; null, with a box, when it is not there. */
     [[nodiscard]] EntityOrder* readOrder(int id, EntityPool& pool);
+    /** What the order's form says of its bills, if it has any; false, with a box, when they could not be read. */
+    bool tellOfBills(int orderId, OrderDialog* form);
     void tell(const QString& text);
     /** Shows what the service has to tell; always false. */
     bool failed(KorBusinessLogic* service);

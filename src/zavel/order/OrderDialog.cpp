@@ -46,6 +46,12 @@ void OrderDialog::onTabItemSelected()
     m_lines->focusFirstControl();
 }
 
+void OrderDialog::showNotice(const QString& text)
+{
+    m_ui->lblNotice->setText(text);
+    m_ui->lblNotice->setVisible(!text.isEmpty());
+}
+
 void OrderDialog::showMember(EntityMember* member)
 {
     m_member = member;

@@ -23,6 +23,8 @@ public:
     ~OrderDialog() override;
 
     bool validate() override;
+    /** What the waiter should know of this order all the time; nothing takes the notice away. */
+    void showNotice(const QString& text);
 
 public slots:
     void onMemberSelected();

@@ -11,23 +11,17 @@
 
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
 
 #include <algorithm>
 
 namespace
 {
-QList<EntityInvoiceDetail*> linesOf(const EntityOrder& order, QObject* owner)
+InvoiceLines linesOf(const QList<EntityInvoiceLink*>& bills)
 {
-    QList<EntityInvoiceDetail*> lines;
-    for (const EntityOrderDetail* ordered : order.getDetails()) {
-        // Recomputed from price and quantity: the order line's own total may be behind its quantity.
-        auto* line = new EntityInvoiceDetail(owner);
-        line->setItem(ordered->getItem());
-        line->setQty(ordered->getQty());
-        line->setPriceEach(ordered->getPriceEach());
-        line->recomputeTotal();
-        lines.append(line);
-    }
+    InvoiceLines lines;
+    for (const EntityInvoiceLink* bill : bills)
+        lines += bill->getDetails();
     return lines;
 }
 } // namespace
@@ -48,18 +42,61 @@ bool OrderPaymentDialog::openOrder(EntityOrder* order)
         return false;
     }
     if (invoices.isEmpty()) {
-        showNewSale(order, linesOf(*order, this));
+        showNewSale(order, billOf(*order, this));
         return true;
     }
     for (const EntityInvoiceLink* invoice : qAsConst(invoices))
         m_knownBills.append(invoice->getInvoice()->getId());
+    const BillDifference difference = differenceOf(*order, linesOf(invoices), this);
+    const Remedy remedy = difference.isEmpty() ? LeaveBill : askForRemedy(difference);
+    if (remedy == MakeSecondBill) {
+        showNewSale(order, difference.unbilled);
+        return true;
+    }
     EntityInvoiceLink* chosen = invoices.size() == 1 ? invoices.first() : choose(invoices);
-    if (chosen)
-        setEntity(chosen);
-    return chosen;
+    if (!chosen)
+        return false;
+    setEntity(chosen);
+    if (remedy == ChangeBill)
+        changeLines(difference);
+    return true;
 }
 
-void OrderPaymentDialog::showNewSale(EntityOrder* order, const QList<EntityInvoiceDetail*>& lines)
+OrderPaymentDialog::Remedy OrderPaymentDialog::askForRemedy(const BillDifference& difference)
+{
+    QMessageBox box(QMessageBox::Question, tr("Question"),
+                    tr("This order has changed since it was billed.") + "\r\n" + difference.text(),
+                    QMessageBox::NoButton, this);
+    QPushButton* change = box.addButton(QMessageBox::Yes);
+    change->setText(difference.unbilled.isEmpty() ? tr("Take Off the Bill") : tr("Add to This Bill"));
+    if (!difference.unbilled.isEmpty())
+        box.addButton(QMessageBox::Save)->setText(tr("Make a Second Bill"));
+    QPushButton* leave = box.addButton(QMessageBox::No);
+    leave->setText(tr("Leave the Bill"));
+    box.setDefaultButton(change);
+    box.setEscapeButton(leave);
+    switch (box.exec()) {
+    case QMessageBox::Yes:
+        return ChangeBill;
+    case QMessageBox::Save:
+        return MakeSecondBill;
+    default:
+        return LeaveBill;
+    }
+}
+
+void OrderPaymentDialog::changeLines(const BillDifference& difference)
+{
+    InvoiceLines lines = invoiceLines();
+    takeOffLines(difference.takenBack, &lines);
+    addLines(difference.unbilled, &lines, this);
+    setLines(lines);
+    // A dish more is a dish more for the tax, the service and the discount too.
+    for (const InvoiceTotals::Part part : {InvoiceTotals::Discount, InvoiceTotals::Tax, InvoiceTotals::Service})
+        cascade()->percentEntered(part);
+}
+
+void OrderPaymentDialog::showNewSale(EntityOrder* order, const InvoiceLines& lines)
 {
     m_order = order;
     showNewInvoice(order->getTgl().isValid() ? order->getTgl() : QDate::currentDate());
@@ -205,8 +242,29 @@ void OrderPaymentDialog::offerToFinish()
         readAgain();
 }
 
+bool OrderPaymentDialog::mayEnd()
+{
+    // As it stands now: a waiter may have added to the order while this form was open.
+    EntityPool pool;
+    const EntityPoolScope scope(pool);
+    QObject lines;
+    const EntityOrder* fresh = readOrder(m_order->getId());
+    const QList<EntityInvoiceLink*> bills = fresh ? readInvoices(m_order->getId()) : QList<EntityInvoiceLink*>();
+    if (!fresh || sales()->hasError()) {
+        showMissing(m_order->getId());
+        return false;
+    }
+    const BillDifference difference = differenceOf(*fresh, linesOf(bills), &lines);
+    return difference.isEmpty() ||
+           QMessageBox::question(this, tr("Question"),
+                                 difference.text() + "\r\n" + tr("Do you want to end this order all the same?"),
+                                 QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
+}
+
 bool OrderPaymentDialog::finishOrder()
 {
+    if (!mayEnd())
+        return false;
     if (finish(m_order))
         return true;
     showServiceError();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/context/EntityPool.h"
+#include "zavel/payment/BillLines.h"
 #include "zavel/payment/PaymentDialog.h"
 
 class EntityInvoiceLink;
@@ -41,7 +42,9 @@ protected:
 
     // What a concrete form tells.
     [[nodiscard]] virtual Texts texts() const = 0;
-    virtual void setLines(const QList<EntityInvoiceDetail*>& lines) = 0;
+    virtual void setLines(const InvoiceLines& lines) = 0;
+    /** The order as it stands now; a failure is left in the service. */
+    virtual EntityOrder* readOrder(int id) = 0;
     virtual QList<EntityInvoiceLink*> readInvoices(int orderId) = 0;
     /** The one to open of an order's invoices; null when the cashier wants none. */
     virtual EntityInvoiceLink* choose(const QList<EntityInvoiceLink*>& invoices) { return invoices.first(); }
@@ -60,7 +63,7 @@ protected:
     [[nodiscard]] const QList<int>& knownBills() const { return m_knownBills; }
     void addKnownBills(const QList<int>& invoiceIds) { m_knownBills += invoiceIds; }
     /** A new invoice for these lines, which the form takes. */
-    void showNewSale(EntityOrder* order, const QList<EntityInvoiceDetail*>& lines);
+    void showNewSale(EntityOrder* order, const InvoiceLines& lines);
     /** Saves, reads everything again and offers to print; false, with a box, when one of the first two failed. */
     bool saveInvoice();
     void offerToFinish();
@@ -75,9 +78,16 @@ protected:
     [[nodiscard]] EntityInvoiceLink* sale() const { return m_sale; }
 
 private:
+    enum Remedy { ChangeBill, MakeSecondBill, LeaveBill };
+    /** Tells what was ordered or taken back since the order was billed, and asks what to do about it. */
+    Remedy askForRemedy(const BillDifference& difference);
+    /** Brings the bill in hand up to the order; nothing is saved yet. */
+    void changeLines(const BillDifference& difference);
     void showMissing(int id);
     /** Says who has billed the order meanwhile, and opens that bill on request; false where nobody has. */
     bool showBillOfAnother();
+    /** Whether the order may be ended: nothing is unbilled, or the cashier wants it so. */
+    bool mayEnd();
     bool finishOrder();
 
     // All that the form read. Nothing of it goes before the form does: lines in hand show items that were read earlier.

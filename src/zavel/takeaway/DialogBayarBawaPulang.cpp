@@ -30,7 +30,7 @@ OrderPaymentDialog::Texts DialogBayarBawaPulang::texts() const
 
 QList<EntityInvoiceDetail*> DialogBayarBawaPulang::invoiceLines() const { return m_menu->details(); }
 
-void DialogBayarBawaPulang::setLines(const QList<EntityInvoiceDetail*>& lines) { m_menu->setDetails(lines); }
+void DialogBayarBawaPulang::setLines(const InvoiceLines& lines) { m_menu->setDetails(lines); }
 
 void DialogBayarBawaPulang::focusLines() { m_menu->focusGrid(); }
 
@@ -41,6 +41,8 @@ QList<EntityInvoiceLink*> DialogBayarBawaPulang::readInvoices(int orderId)
         invoices.append(invoice);
     return invoices;
 }
+
+EntityOrder* DialogBayarBawaPulang::readOrder(int id) { return sales()->findOrderBawaPulang(id); }
 
 EntityInvoiceLink* DialogBayarBawaPulang::createSale() { return new EntityInvoiceBawaPulang(this); }
 

@@ -27,7 +27,8 @@ protected:
     [[nodiscard]] QList<EntityInvoiceDetail*> invoiceLines() const override;
     void focusLines() override;
     [[nodiscard]] Texts texts() const override;
-    void setLines(const QList<EntityInvoiceDetail*>& lines) override;
+    void setLines(const InvoiceLines& lines) override;
+    EntityOrder* readOrder(int id) override;
     QList<EntityInvoiceLink*> readInvoices(int orderId) override;
     EntityInvoiceLink* createSale() override;
     EntityInvoiceLink* readSale(int id) override;

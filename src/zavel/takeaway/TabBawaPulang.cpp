@@ -65,6 +65,11 @@ void TabBawaPulang::on_btnAdd_clicked()
     refresh();
 }
 
+QList<EntityInvoiceLink*> TabBawaPulang::readBills(int orderId)
+{
+    return castAll<EntityInvoiceLink>(asEntities(sales()->getInvoicesOfBawaPulang(orderId)));
+}
+
 std::unique_ptr<OrderDialog> TabBawaPulang::createEditForm()
 {
     auto form = std::make_unique<DialogBawaPulang>(this);
@@ -91,7 +96,7 @@ void TabBawaPulang::cancelOrder(EntityOrder* row)
     const EntityPoolScope scope(pool);
     const bool isPaid = row->getStatus() == EntityOrder::PAID || row->getStatus() == EntityOrder::PARTIALY_PAID;
     // A bill without money, or one from before an edit: the database would refuse, in its own words.
-    const bool hasOpenInvoice = !isPaid && !sales()->getInvoicesOfBawaPulang(row->getId()).isEmpty();
+    const bool hasOpenInvoice = !isPaid && !readBills(row->getId()).isEmpty();
     if (!sales()->hasError() && hasOpenInvoice)
         tell(tr("Order %1 already has an invoice. Please finish the payment, or press Done in the payment form")
                  .arg(row->getId()));

@@ -25,6 +25,7 @@ protected:
     OrderBoardModel* createModel(const QList<KorEntity*>& rows) override;
     [[nodiscard]] QString nothingSelectedText() const override { return tr("Please select an order"); }
     EntityOrder* findOrder(int id) override;
+    QList<EntityInvoiceLink*> readBills(int orderId) override;
     std::unique_ptr<OrderDialog> createEditForm() override;
     bool updateOrder(EntityOrder* order) override;
     void cancelOrder(EntityOrder* row) override;

@@ -1,0 +1,162 @@
+#include "zavel/payment/BillLines.h"
+
+#include "pos/invoice/EntityInvoiceDetail.h"
+#include "zavel/order/EntityOrder.h"
+
+#include <QStringList>
+
+#include <algorithm>
+
+namespace
+{
+EntityInvoiceDetail* newLine(EntityItem* item, Money* price, int quantity, QObject* owner)
+{
+    auto* line = new EntityInvoiceDetail(owner);
+    line->setItem(item);
+    line->setQty(quantity);
+    line->setPriceEach(price);
+    // Recomputed from price and quantity: an order line's own total may be behind its quantity.
+    line->recomputeTotal();
+    return line;
+}
+
+void changeQuantity(EntityInvoiceDetail* line, int by)
+{
+    line->setQty(line->getQty() + by);
+    line->recomputeTotal();
+}
+
+int itemOf(const EntityInvoiceDetail& line) { return line.getItem() ? line.getItem()->getId() : KorNoValue; }
+
+bool isSameDish(const EntityInvoiceDetail& one, const EntityInvoiceDetail& other)
+{
+    return itemOf(one) == itemOf(other);
+}
+
+bool sellsTheSame(const EntityInvoiceDetail& one, const EntityInvoiceDetail& other)
+{
+    return isSameDish(one, other) && one.getPriceEach()->rawAmount() == other.getPriceEach()->rawAmount();
+}
+
+QString told(const Money& amount) { return amount.getCurrency() + amount.toString(); }
+} // namespace
+
+InvoiceLines billOf(const EntityOrder& order, QObject* owner)
+{
+    InvoiceLines lines;
+    for (const EntityOrderDetail* ordered : order.getDetails())
+        lines.append(newLine(ordered->getItem(), ordered->getPriceEach(), ordered->getQty(), owner));
+    return lines;
+}
+
+QMap<QString, InvoiceLines> splitGroups(const InvoiceLines& lines, QObject* owner)
+{
+    QMap<QString, InvoiceLines> groups;
+    for (const EntityInvoiceDetail* line : lines) {
+        if (line->qtySplit() <= 0)
+            continue;
+        EntityInvoiceDetail* part = newLine(line->getItem(), line->getPriceEach(), line->qtySplit(), owner);
+        part->setSplitGroup(line->splitGroup());
+        groups[line->splitGroup()].append(part);
+    }
+    return groups;
+}
+
+void addLines(const InvoiceLines& added, InvoiceLines* lines, QObject* owner)
+{
+    for (const EntityInvoiceDetail* part : added) {
+        const auto home = std::find_if(lines->cbegin(), lines->cend(),
+                                       [part](const EntityInvoiceDetail* line) { return sellsTheSame(*line, *part); });
+        if (home == lines->cend())
+            lines->append(newLine(part->getItem(), part->getPriceEach(), part->getQty(), owner));
+        else
+            changeQuantity(*home, part->getQty());
+    }
+}
+
+void takeOffLines(const InvoiceLines& takenOff, InvoiceLines* lines)
+{
+    using Same = bool (*)(const EntityInvoiceDetail&, const EntityInvoiceDetail&);
+    for (const EntityInvoiceDetail* part : takenOff) {
+        int left = part->getQty();
+        // The price may have changed meanwhile; what is sold at the same one goes first.
+        for (const Same same : {Same(sellsTheSame), Same(isSameDish)}) {
+            for (EntityInvoiceDetail* line : qAsConst(*lines)) {
+                const int taken = same(*line, *part) ? std::min(left, line->getQty()) : 0;
+                changeQuantity(line, -taken);
+                left -= taken;
+            }
+        }
+    }
+    lines->erase(std::remove_if(lines->begin(), lines->end(),
+                                [](const EntityInvoiceDetail* line) { return line->getQty() == 0; }),
+                 lines->end());
+}
+
+BillDifference differenceOf(const EntityOrder& order, const InvoiceLines& billed, QObject* owner)
+{
+    // Quantities by dish and price in the order in which they were ordered, less what was billed of each.
+    InvoiceLines rest;
+    const auto count = [&rest, owner](const EntityInvoiceDetail& line, int sign) {
+        if (!line.getItem() || !line.getPriceEach())
+            return;
+        const auto known = std::find_if(rest.cbegin(), rest.cend(),
+                                        [&line](const EntityInvoiceDetail* dish) { return sellsTheSame(*dish, line); });
+        if (known == rest.cend())
+            rest.append(newLine(line.getItem(), line.getPriceEach(), sign * line.getQty(), owner));
+        else
+            changeQuantity(*known, sign * line.getQty());
+    };
+    QObject lines;
+    const InvoiceLines ordered = billOf(order, &lines);
+    for (const EntityInvoiceDetail* line : ordered)
+        count(*line, 1);
+    for (const EntityInvoiceDetail* line : billed)
+        count(*line, -1);
+
+    // A dish whose price has changed since is neither missing nor taken back.
+    for (EntityInvoiceDetail* more : qAsConst(rest)) {
+        for (EntityInvoiceDetail* less : qAsConst(rest)) {
+            if (!isSameDish(*more, *less) || more->getQty() <= 0 || less->getQty() >= 0)
+                continue;
+            const int both = std::min(more->getQty(), -less->getQty());
+            changeQuantity(more, -both);
+            changeQuantity(less, both);
+        }
+    }
+
+    BillDifference difference;
+    for (EntityInvoiceDetail* dish : qAsConst(rest)) {
+        if (dish->getQty() > 0)
+            difference.unbilled.append(dish);
+        else if (dish->getQty() < 0) {
+            changeQuantity(dish, -2 * dish->getQty());
+            difference.takenBack.append(dish);
+        }
+    }
+    return difference;
+}
+
+QString BillDifference::dishesOf(const InvoiceLines& lines)
+{
+    QStringList dishes;
+    qint64 sum = 0;
+    for (const EntityInvoiceDetail* line : lines) {
+        dishes.append(tr("%1 %2 (%3)").arg(line->getQty()).arg(line->getItem()->getNama(), told(*line->getTotal())));
+        sum += line->getTotal()->rawAmount();
+    }
+    if (lines.size() < 2)
+        return dishes.join(", ");
+    const Money total(nullptr, int(sum), lines.first()->getTotal()->getCurrency());
+    return tr("%1; %2 in all").arg(dishes.join(", "), told(total));
+}
+
+QString BillDifference::text() const
+{
+    QStringList parts;
+    if (!unbilled.isEmpty())
+        parts.append(tr("Ordered, but on no bill: %1").arg(dishesOf(unbilled)));
+    if (!takenBack.isEmpty())
+        parts.append(tr("On the bill, but taken back: %1").arg(dishesOf(takenBack)));
+    return parts.join("\r\n");
+}
