@@ -243,6 +243,25 @@ Required permission: %1</source>
     </message>
 </context>
 <context>
+    <name>BillDifference</name>
+    <message>
+        <source>%1 %2 (%3)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1; %2 in all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ordered, but on no bill: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On the bill, but taken back: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>BillText</name>
     <message>
         <source>Sub total</source>
@@ -3360,6 +3379,14 @@ Do you want to restore into %1 all the same?</source>
         <source>Enter the kitchen name</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Say what a changed line was</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A changed dish is printed with its quantity in all, and with the quantity and the wish that it had before</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>DialogKomisiAgen</name>
@@ -5521,6 +5548,10 @@ Please fill the db connection fields and install the initial data</source>
         <source>Info</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>This order is billed already: %1. What you change now is not on the bill. Press Pay afterwards.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>OrderBoardModel</name>
@@ -5743,6 +5774,34 @@ Please fill the db connection fields and install the initial data</source>
         <source>Do you want to open that bill?</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Question</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This order has changed since it was billed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take Off the Bill</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add to This Bill</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make a Second Bill</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Leave the Bill</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do you want to end this order all the same?</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>OrderText</name>
@@ -5757,6 +5816,22 @@ Please fill the db connection fields and install the initial data</source>
     <message>
         <source>Order Cancelled.
 </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Taken back:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Moved from table %1 to table %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>was %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>was %1, %2</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -7773,6 +7848,10 @@ Please fill the db connection fields and install the initial data</source>
         <source>Idle days</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Ordered, not billed</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>RestoreInstallPage</name>
@@ -8508,6 +8587,18 @@ Exit status of status: 0 installed, 3 reachable but not installed, 1 otherwise.<
     </message>
     <message>
         <source>Are you sure, you want to delete this invoice: %1 ?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Less :</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change :</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -244,6 +244,25 @@ Hak akses yang dibutuhkan: %1</translation>
     </message>
 </context>
 <context>
+    <name>BillDifference</name>
+    <message>
+        <source>%1 %2 (%3)</source>
+        <translation>%1 %2 (%3)</translation>
+    </message>
+    <message>
+        <source>%1; %2 in all</source>
+        <translation>%1; seluruhnya %2</translation>
+    </message>
+    <message>
+        <source>Ordered, but on no bill: %1</source>
+        <translation>Dipesan, tetapi tidak ada di tagihan: %1</translation>
+    </message>
+    <message>
+        <source>On the bill, but taken back: %1</source>
+        <translation>Ada di tagihan, tetapi ditarik kembali: %1</translation>
+    </message>
+</context>
+<context>
     <name>BillText</name>
     <message>
         <source>Sub total</source>
@@ -3384,6 +3403,14 @@ Tetap pulihkan ke %1?</translation>
         <source>Enter the kitchen name</source>
         <translation>Isi nama dapur</translation>
     </message>
+    <message>
+        <source>Say what a changed line was</source>
+        <translation>Sebutkan baris berubah dari apa</translation>
+    </message>
+    <message>
+        <source>A changed dish is printed with its quantity in all, and with the quantity and the wish that it had before</source>
+        <translation>Masakan yang berubah dicetak dengan jumlah seluruhnya, serta jumlah dan pesan semula</translation>
+    </message>
 </context>
 <context>
     <name>DialogKomisiAgen</name>
@@ -5546,6 +5573,10 @@ Isi kolom sambungan db dan pasang data awal</translation>
         <source>Info</source>
         <translation>Info</translation>
     </message>
+    <message>
+        <source>This order is billed already: %1. What you change now is not on the bill. Press Pay afterwards.</source>
+        <translation>Pesanan ini sudah ditagih: %1. Yang Anda ubah sekarang tidak ada di tagihan. Tekan Bayar sesudahnya.</translation>
+    </message>
 </context>
 <context>
     <name>OrderBoardModel</name>
@@ -5768,6 +5799,34 @@ Isi kolom sambungan db dan pasang data awal</translation>
         <source>Do you want to open that bill?</source>
         <translation>Apakah Anda ingin membuka tagihan itu?</translation>
     </message>
+    <message>
+        <source>Question</source>
+        <translation>Pertanyaan</translation>
+    </message>
+    <message>
+        <source>This order has changed since it was billed.</source>
+        <translation>Pesanan ini berubah sesudah ditagih.</translation>
+    </message>
+    <message>
+        <source>Take Off the Bill</source>
+        <translation>Keluarkan dari Tagihan</translation>
+    </message>
+    <message>
+        <source>Add to This Bill</source>
+        <translation>Tambahkan ke Tagihan Ini</translation>
+    </message>
+    <message>
+        <source>Make a Second Bill</source>
+        <translation>Buat Tagihan Kedua</translation>
+    </message>
+    <message>
+        <source>Leave the Bill</source>
+        <translation>Biarkan Tagihan</translation>
+    </message>
+    <message>
+        <source>Do you want to end this order all the same?</source>
+        <translation>Apakah pesanan ini tetap diakhiri?</translation>
+    </message>
 </context>
 <context>
     <name>OrderText</name>
@@ -5784,6 +5843,22 @@ Isi kolom sambungan db dan pasang data awal</translation>
 </source>
         <translation>Pesanan Dibatalkan.
 </translation>
+    </message>
+    <message>
+        <source>Taken back:</source>
+        <translation>Ditarik kembali:</translation>
+    </message>
+    <message>
+        <source>Moved from table %1 to table %2</source>
+        <translation>Pindah dari meja %1 ke meja %2</translation>
+    </message>
+    <message>
+        <source>was %1</source>
+        <translation>semula %1</translation>
+    </message>
+    <message>
+        <source>was %1, %2</source>
+        <translation>semula %1, %2</translation>
     </message>
 </context>
 <context>
@@ -7799,6 +7874,10 @@ Isi kolom sambungan db dan pasang data awal</translation>
         <source>Idle days</source>
         <translation>Hari diam</translation>
     </message>
+    <message>
+        <source>Ordered, not billed</source>
+        <translation>Dipesan, tidak ditagih</translation>
+    </message>
 </context>
 <context>
     <name>RestoreInstallPage</name>
@@ -8538,6 +8617,18 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     <message>
         <source>Are you sure, you want to delete this invoice: %1 ?</source>
         <translation>Yakin ingin menghapus faktur ini: %1 ?</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sebesar %2</translation>
+    </message>
+    <message>
+        <source>Less :</source>
+        <translation>Kurang :</translation>
+    </message>
+    <message>
+        <source>Change :</source>
+        <translation>Kembali :</translation>
     </message>
 </context>
 <context>

@@ -331,6 +331,12 @@ void TestSlips::kitchenSlipsAreComposedLineByLine_data()
              orderedLine<EntityMakanDitempatDetail>(item("KOPI", "Kopi tubruk", "DRINK"), 12345678,
                                                     "this wish is longer than the paper is wide at this kitchen")});
     });
+    row("what a changed line was", "", "kitchen_former.txt", [this] {
+        EntityOrderDetail* line = orderedLine<EntityMakanDitempatDetail>(item("TEH", "Teh manis", "DRINK"), 4,
+                                                                         "less sugar", EntityOrderDetail::UPDATED);
+        line->setFormer({2, 6, "much sugar"});
+        m_order->setDetails({line});
+    });
     row("moved twice", "DRINK", "kitchen_moved.txt", [this] { m_order->setPindahMeja("T3>T4"); });
     row("just entered", "DRINK", "kitchen_new.txt", [this] {
         m_order->setCreatedTime(QDateTime());
@@ -344,7 +350,10 @@ void TestSlips::kitchenSlipsAreComposedLineByLine()
     QFETCH(QString, types);
     QFETCH(QString, printed);
     arrange();
-    const std::optional<QString> text = composeMenuOrder({kitchen("Dapur", types), m_order, DineOrder, m_now});
+    // Where nobody knows what a line was, it says nothing of it.
+    EntityConfigKitchenPrinter* cook = kitchen("Dapur", types);
+    cook->setSayFormer("Yes");
+    const std::optional<QString> text = composeMenuOrder({cook, m_order, DineOrder, m_now});
     QCOMPARE(text.has_value(), !printed.isEmpty());
     if (!text)
         return;
@@ -359,6 +368,21 @@ void TestSlips::recapsTakeAwaysAndCancellationsAreComposed()
         difference += goldenDifference(name, text.toUtf8());
     };
     compare("recap.txt", composeOrderRecap(*m_order, *m_company, *m_cashier));
+    // Of the meal the tea is off, and two of ten skewers.
+    EntityOrder::Lines lines = m_order->getDetails();
+    for (int place = 0; place < lines.size(); ++place)
+        lines.at(place)->getItem()->setId(place);
+    m_order->takeSnapshot();
+    lines.at(2)->setQty(8);
+    m_order->setDetails({lines.at(0), lines.at(2)});
+    m_order->compareWithSnapshot();
+    const auto change = [this](const QString& types) {
+        return KitchenSlipData{kitchen("Dapur", types), m_order, DineOrder, m_now};
+    };
+    compare("kitchen_taken_back.txt", composeTakenBack(change({})).value_or("no slip"));
+    compare("kitchen_moved_alone.txt", composeMove(change({}), "T3").value_or("no slip"));
+    for (const auto& slip : {composeTakenBack(change("FOOD")), composeMove(change("DRINK"), "T3")})
+        QCOMPARE(slip.value_or("no slip"), QString("no slip"));
 
     EntityBawaPulang takeAway;
     takeAway.setId(305);

@@ -78,6 +78,8 @@ OrderBoardModel* TabMakanDitempat::createModel(const QList<KorEntity*>& rows)
 // A free table's row has no id of its own, so the table is what the cursor stays on.
 int TabMakanDitempat::placeOf(const EntityOrder& row) const { return tableOf(row)->getId(); }
 
+QString TabMakanDitempat::tableCodeOf(const EntityOrder& order) const { return tableOf(order)->getKode(); }
+
 bool TabMakanDitempat::carriesOrder(const EntityOrder& row, Action action)
 {
     if (row.isSaved())
@@ -175,22 +177,23 @@ bool TabMakanDitempat::updateOrder(EntityOrder* order)
 
 void TabMakanDitempat::on_btnDelete_clicked() { cancelSelectedOrders(); }
 
-void TabMakanDitempat::cancelOrder(EntityOrder* row)
+bool TabMakanDitempat::cancelOrder(EntityOrder* row)
 {
     const QString table = tableOf(*row)->getNama();
     if (QMessageBox::question(this, tr("Delete"),
                               tr("Are you sure you want to delete order of table: %1 ?").arg(table)) !=
         QMessageBox::Yes)
-        return;
+        return false;
     EntityPool pool;
     const EntityPoolScope scope(pool);
     const bool hasInvoice = !readBills(row->getId()).isEmpty();
-    if (!sales()->hasError() && hasInvoice)
+    if (!sales()->hasError() && hasInvoice) {
         tell(tr("Table %1 is already have an invoice. Please finish the payment or click Finish button on Payment "
                 "Dialog")
                  .arg(table));
-    else if (sales()->hasError() || !sales()->removeOrder(static_cast<EntityMakanDitempat*>(row)))
-        failed(sales());
+        return false;
+    }
+    return (!sales()->hasError() && sales()->removeOrder(static_cast<EntityMakanDitempat*>(row))) || failed(sales());
 }
 
 void TabMakanDitempat::payOrder(EntityOrder* order)

@@ -29,13 +29,14 @@ protected:
     bool readRows(QList<KorEntity*>* rows, QObject* pool) override;
     OrderBoardModel* createModel(const QList<KorEntity*>& rows) override;
     [[nodiscard]] int placeOf(const EntityOrder& row) const override;
+    [[nodiscard]] QString tableCodeOf(const EntityOrder& order) const override;
     bool carriesOrder(const EntityOrder& row, Action action) override;
     [[nodiscard]] QString nothingSelectedText() const override { return tr("Please select a table"); }
     EntityOrder* findOrder(int id) override;
     QList<EntityInvoiceLink*> readBills(int orderId) override;
     std::unique_ptr<OrderDialog> createEditForm() override;
     bool updateOrder(EntityOrder* order) override;
-    void cancelOrder(EntityOrder* row) override;
+    bool cancelOrder(EntityOrder* row) override;
     void payOrder(EntityOrder* order) override;
 
 private:

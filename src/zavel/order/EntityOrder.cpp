@@ -1,10 +1,16 @@
 #include "zavel/order/EntityOrder.h"
 
+#include <QSet>
+
 #include <limits>
 
 EntityOrder::EntityOrder(QObject* parent) : KorEntity(parent) {}
 
-EntityOrder::~EntityOrder() { qDeleteAll(m_snapshot); }
+EntityOrder::~EntityOrder()
+{
+    qDeleteAll(m_snapshot);
+    qDeleteAll(m_takenBackDetails);
+}
 
 qint64 EntityOrder::totalOf(const Lines& lines)
 {
@@ -36,11 +42,34 @@ void EntityOrder::compareWithSnapshot()
             known = true;
             changed =
                 changed || before->getQty() != line->getQty() || before->getDescription() != line->getDescription();
+            line->setFormer({before->getQty(), line->getQty(), before->getDescription()});
         }
         if (!known)
             noteNew(line);
         else if (changed)
             noteUpdated(line);
+    }
+    noteTakenBack();
+}
+
+void EntityOrder::noteTakenBack()
+{
+    const auto quantityOf = [](const Lines& lines, int item) {
+        int sum = 0;
+        for (const EntityOrderDetail* line : lines)
+            sum += line->itemId() == item ? line->getQty() : 0;
+        return sum;
+    };
+    QSet<int> seen;
+    for (const EntityOrderDetail* before : qAsConst(m_snapshot)) {
+        const int item = before->itemId();
+        const int less = quantityOf(m_snapshot, item) - quantityOf(m_details, item);
+        if (less <= 0 || seen.contains(item))
+            continue;
+        seen.insert(item);
+        EntityOrderDetail* line = before->snapshot();
+        line->setQty(less);
+        m_takenBackDetails.append(line);
     }
 }
 
@@ -53,6 +82,7 @@ void EntityOrder::mergeLines(const Lines& entered)
             if (stored->itemId() != line->itemId())
                 continue;
             known = true;
+            line->setFormer({stored->getQty(), stored->getQty() + line->getQty(), stored->getDescription()});
             stored->setQty(stored->getQty() + line->getQty());
             stored->setStatus(EntityOrderDetail::UPDATED);
             noteUpdated(line);
@@ -79,6 +109,8 @@ void EntityOrder::clearChanges()
     m_newDetails.clear();
     m_updatedDetails.clear();
     m_changedDetails.clear();
+    qDeleteAll(m_takenBackDetails);
+    m_takenBackDetails.clear();
 }
 
 void EntityOrder::noteNew(EntityOrderDetail* line)

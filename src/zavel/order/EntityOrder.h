@@ -41,6 +41,8 @@ public:
     [[nodiscard]] const Lines& getUpdatedDetails() const { return m_updatedDetails; }
     /** New and updated lines together, in the order of the visit. */
     [[nodiscard]] const Lines& getChangedDetails() const { return m_changedDetails; }
+    /** What was removed or lessened, one line for each item with the quantity that is not wanted any more. */
+    [[nodiscard]] const Lines& getTakenBackDetails() const { return m_takenBackDetails; }
 
     /** What the lines cost, in the smallest unit of their currency; wider than what one amount can hold. */
     [[nodiscard]] static qint64 totalOf(const Lines& lines);
@@ -48,7 +50,7 @@ public:
 
     /** Remembers the lines as they are now. */
     void takeSnapshot();
-    /** Marks and lists what is new or changed since the snapshot, item by item. */
+    /** Marks and lists what is new, changed or taken back since the snapshot, item by item. */
     void compareWithSnapshot();
     /**
      * Puts lines that were keyed in for a standing order to its own. An item that it has already grows in quantity, and
@@ -59,6 +61,7 @@ public:
     void collectMarkedLines();
 
 private:
+    void noteTakenBack();
     void noteNew(EntityOrderDetail* line);
     void noteUpdated(EntityOrderDetail* line);
     void clearChanges();
@@ -70,4 +73,5 @@ private:
     Lines m_changedDetails;
     // Owned, unlike the other lists.
     Lines m_snapshot;
+    Lines m_takenBackDetails;
 };

@@ -4,6 +4,8 @@
 #include "kor/entity/KorEntity.h"
 #include "pos/masterdata/item/EntityItem.h"
 
+#include <optional>
+
 /** One menu line of an order, on a table or to take away. */
 class EntityOrderDetail : public KorEntity
 {
@@ -23,7 +25,19 @@ public:
     enum MENU_ITEM_STATUS { NEW = 1, OUT_OF_STOCK = 2, IN_PROGRESS = 3, UPDATED = 4 };
     Q_ENUM(MENU_ITEM_STATUS)
 
+    /** What a changed line was when the kitchen heard of it last, and how many it is now in all. */
+    struct Former
+    {
+        int qty;
+        int qtyNow;
+        QString description;
+    };
+
     using KorEntity::KorEntity;
+
+    /** In memory alone, between a change and its slip; nothing for a new line. */
+    [[nodiscard]] const std::optional<Former>& former() const { return m_former; }
+    void setFormer(const Former& former) { m_former = former; }
 
     [[nodiscard]] virtual int getOrderId() const = 0;
     virtual void setOrderId(int id) = 0;
@@ -32,4 +46,7 @@ public:
     /** A copy with its own money, for comparing after an edit. The caller owns it. */
     [[nodiscard]] EntityOrderDetail* snapshot() const;
     [[nodiscard]] int itemId() const { return m_Item ? m_Item->getId() : KorNoValue; }
+
+private:
+    std::optional<Former> m_former;
 };

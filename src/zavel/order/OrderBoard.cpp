@@ -119,6 +119,7 @@ bool OrderBoard::editOrder(int id)
     if (!tellOfBills(id, form.get()))
         return true;
     order->takeSnapshot();
+    const QString formerTable = tableCodeOf(*order);
     form->setEntity(order);
     form->setSaver([&] {
         form->getEntity();
@@ -127,9 +128,8 @@ bool OrderBoard::editOrder(int id)
     });
     if (form->exec() != QDialog::Accepted)
         return false;
-    // The kitchen sees only what changed.
-    order->setDetails(order->getChangedDetails());
-    sendToKitchen(order);
+    const QString table = tableCodeOf(*order);
+    SlipRequests::instance()->printMenuOrderChange(m_kind, order, table == formerTable ? QString() : formerTable);
     return true;
 }
 
@@ -141,8 +141,9 @@ void OrderBoard::cancelSelectedOrders()
     const EntityPoolScope scope(read);
     const QList<EntityOrder*> rows = selectedOrders();
     for (EntityOrder* row : rows) {
-        if (carriesOrder(*row, Cancel))
-            cancelOrder(row);
+        // To the kitchens it is off only when it is: the database may have refused.
+        if (carriesOrder(*row, Cancel) && cancelOrder(row))
+            SlipRequests::instance()->printMenuOrderCanceled(m_kind, row, SlipRequests::KitchensThatHadIt);
     }
     refresh();
 }

@@ -44,6 +44,8 @@ protected:
     virtual OrderBoardModel* createModel(const QList<KorEntity*>& rows) = 0;
     /** What the cursor stays on when the rows are read anew. */
     [[nodiscard]] virtual int placeOf(const EntityOrder& row) const { return row.getId(); }
+    /** The code of the table that the order stands on; empty where it stands on none. */
+    [[nodiscard]] virtual QString tableCodeOf(const EntityOrder&) const { return {}; }
     /** Whether the row carries an order at all; if not, that is told. */
     virtual bool carriesOrder(const EntityOrder&, Action) { return true; }
     [[nodiscard]] virtual QString nothingSelectedText() const = 0;
@@ -53,8 +55,11 @@ protected:
     virtual QList<EntityInvoiceLink*> readBills(int orderId) = 0;
     virtual std::unique_ptr<OrderDialog> createEditForm() = 0;
     virtual bool updateOrder(EntityOrder* order) = 0;
-    /** Asks, and cancels the order as the user saw it: one that has changed since is not cancelled unseen. */
-    virtual void cancelOrder(EntityOrder* row) = 0;
+    /**
+     * Asks, and cancels the order as the user saw it: one that has changed since is not cancelled unseen. True when it
+     * is gone.
+     */
+    virtual bool cancelOrder(EntityOrder* row) = 0;
     virtual void payOrder(EntityOrder* order) = 0;
 
     /** Reads the rows anew. A read that fails leaves the former ones. */

@@ -30,7 +30,14 @@ public:
     virtual void printMenuOrder(OrderKind kind, EntityOrder* order) = 0;
     /** The same to all kitchens. */
     virtual void reprintMenuOrder(OrderKind kind, EntityOrder* order) = 0;
-    virtual void printMenuOrderCanceled(OrderKind kind, EntityOrder* order) = 0;
+    /**
+     * What an edit has changed, from the order's own lists: first what is taken back, then what is new or changed, and
+     * where the table is another one a word to the kitchens that hear nothing else of it. To kitchens that print by
+     * themselves, and only of what they cook. The former table is empty where the order has not moved.
+     */
+    virtual void printMenuOrderChange(OrderKind kind, EntityOrder* order, const QString& formerTable) = 0;
+    enum CancelTo { AllKitchens, KitchensThatHadIt };
+    virtual void printMenuOrderCanceled(OrderKind kind, EntityOrder* order, CancelTo to = AllKitchens) = 0;
 
 protected:
     explicit SlipRequests(QObject* parent);

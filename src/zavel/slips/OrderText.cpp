@@ -9,6 +9,8 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+
 namespace
 {
 struct OrderLabels
@@ -19,6 +21,16 @@ public:
     static QString phone() { return tr("Telp : "); }
     static QString total() { return tr("Total"); }
     static QString cancelled() { return tr("Order Cancelled.\n"); }
+    static QString takenBack() { return tr("Taken back:"); }
+    static QString moved(const QString& from, const QString& to)
+    {
+        return tr("Moved from table %1 to table %2").arg(from, to);
+    }
+    static QString former(const EntityOrderDetail::Former& former)
+    {
+        return former.description.isEmpty() ? tr("was %1").arg(former.qty)
+                                            : tr("was %1, %2").arg(former.qty).arg(former.description);
+    }
 };
 
 QString dateLine(const QDateTime& moment) { return "Date   : " + moment.toString(slipTimeFormat()); }
@@ -50,7 +62,7 @@ QString typeCode(const EntityOrderDetail& line)
     return item && item->getJenis() ? item->getJenis()->getKode() : QString();
 }
 
-QString menuLine(int number, const EntityOrderDetail& line, const QString& marker)
+QString menuLine(int number, const EntityOrderDetail& line, const QString& marker, int quantity)
 {
     constexpr int codeWidth = 5;
     constexpr int nameWidth = 18;
@@ -59,7 +71,7 @@ QString menuLine(int number, const EntityOrderDetail& line, const QString& marke
     const QString name = line.getItem() ? line.getItem()->getNama() : QString();
     return SlipText::right(QString::number(number), 3) + "  " + SlipText::left(code.left(codeWidth), codeWidth) + "  " +
            SlipText::left(marker + name.left(nameWidth - marker.size()), nameWidth) + "  " +
-           SlipText::right(QString::number(line.getQty()).left(quantityWidth), quantityWidth) + "  ";
+           SlipText::right(QString::number(quantity).left(quantityWidth), quantityWidth) + "  ";
 }
 
 void addTotal(SlipText& text, int total)
@@ -69,25 +81,34 @@ void addTotal(SlipText& text, int total)
 }
 } // namespace
 
+bool cooksAny(const EntityConfigKitchenPrinter& kitchen, const EntityOrder::Lines& lines)
+{
+    return std::any_of(lines.cbegin(), lines.cend(),
+                       [&kitchen](const EntityOrderDetail* line) { return kitchen.cooks(typeCode(*line)); });
+}
+
 std::optional<QString> composeMenuOrder(const KitchenSlipData& slip)
 {
     SlipText text(slip.kitchen->columns());
     addFrame(text, slip, "Take Away : ");
     int number = 0;
     int total = 0;
-    bool cooksAny = false;
     for (const EntityOrderDetail* line : slip.order->getDetails()) {
         // Lines keep their place in the whole order, so that kitchen and waiter speak of the same number.
         ++number;
         if (!slip.kitchen->cooks(typeCode(*line)))
             continue;
-        cooksAny = true;
-        total += line->getQty();
-        text.line(menuLine(number, *line, line->getStatus() == EntityOrderDetail::UPDATED ? "*" : ""));
+        const bool isChanged = line->getStatus() == EntityOrderDetail::UPDATED;
+        const bool saysFormer = isChanged && slip.kitchen->saysFormer() && line->former();
+        const int quantity = saysFormer ? line->former()->qtyNow : line->getQty();
+        total += quantity;
+        text.line(menuLine(number, *line, isChanged ? "*" : "", quantity));
         if (!line->getDescription().isEmpty())
             text.line(SlipText::left(line->getDescription(), 40));
+        if (saysFormer)
+            text.line(SlipText::left(OrderLabels::former(*line->former()), 40));
     }
-    if (!cooksAny)
+    if (!cooksAny(*slip.kitchen, slip.order->getDetails()))
         return std::nullopt;
     addTotal(text, total);
     text.lineFeeds(slip.kitchen->blankLines());
@@ -104,6 +125,36 @@ QString composeMenuOrderCanceled(const KitchenSlipData& slip)
     return text.text();
 }
 
+std::optional<QString> composeTakenBack(const KitchenSlipData& slip)
+{
+    if (!cooksAny(*slip.kitchen, slip.order->getTakenBackDetails()))
+        return std::nullopt;
+    SlipText text(slip.kitchen->columns());
+    addFrame(text, slip, "Take Away: ");
+    text.line(OrderLabels::takenBack());
+    int number = 0;
+    for (const EntityOrderDetail* line : slip.order->getTakenBackDetails()) {
+        if (slip.kitchen->cooks(typeCode(*line)))
+            text.line(menuLine(++number, *line, QString(), line->getQty()));
+    }
+    text.separator();
+    text.lineFeeds(slip.kitchen->blankLines());
+    return text.text();
+}
+
+std::optional<QString> composeMove(const KitchenSlipData& slip, const QString& formerTable)
+{
+    const auto* dine = qobject_cast<const EntityMakanDitempat*>(slip.order);
+    if (!dine || !dine->getMeja() || !cooksAny(*slip.kitchen, dine->getDetails()))
+        return std::nullopt;
+    SlipText text(slip.kitchen->columns());
+    addFrame(text, slip, {});
+    text.line(OrderLabels::moved(formerTable, dine->getMeja()->getKode()));
+    text.separator();
+    text.lineFeeds(slip.kitchen->blankLines());
+    return text.text();
+}
+
 QString composeOrderRecap(const EntityMakanDitempat& order, const EntityDataPerusahaan& company,
                           const EntityConfigCashierPrinter& printer)
 {
@@ -115,7 +166,7 @@ QString composeOrderRecap(const EntityMakanDitempat& order, const EntityDataPeru
     int number = 0;
     int total = 0;
     for (const EntityOrderDetail* line : order.getDetails()) {
-        text.line(menuLine(++number, *line, QString()));
+        text.line(menuLine(++number, *line, QString(), line->getQty()));
         total += line->getQty();
     }
     addTotal(text, total);

@@ -14,6 +14,7 @@
 #include "zavel/slips/ReportBillBawaPulang.h"
 #include "zavel/slips/ReportBillFastFood.h"
 #include "zavel/slips/ReportBillMakanDitempat.h"
+#include "zavel/slips/ReportKitchenChange.h"
 #include "zavel/slips/ReportMakanDitempat.h"
 #include "zavel/slips/ReportMenuOrder.h"
 #include "zavel/slips/ReportMenuOrderCanceled.h"
@@ -97,14 +98,8 @@ void ZavelReportFactory::printMakanDitempat(int orderId)
 
 void ZavelReportFactory::printMenuOrder(OrderKind kind, EntityOrder* order)
 {
-    if (!reload())
-        return;
-    QList<EntityConfigKitchenPrinter*> kitchens;
-    for (EntityConfigKitchenPrinter* kitchen : qAsConst(m_kitchenPrinters)) {
-        if (kitchen->printsByItself())
-            kitchens.append(kitchen);
-    }
-    printForKitchens<ReportMenuOrder>(kitchens, kind, order);
+    if (reload())
+        printForKitchens<ReportMenuOrder>(kitchensThatPrintByThemselves(), kind, order);
 }
 
 void ZavelReportFactory::reprintMenuOrder(OrderKind kind, EntityOrder* order)
@@ -114,11 +109,48 @@ void ZavelReportFactory::reprintMenuOrder(OrderKind kind, EntityOrder* order)
     printForKitchens<ReportMenuOrder>(m_kitchenPrinters, kind, order);
 }
 
-void ZavelReportFactory::printMenuOrderCanceled(OrderKind kind, EntityOrder* order)
+void ZavelReportFactory::printMenuOrderChange(OrderKind kind, EntityOrder* order, const QString& formerTable)
 {
     if (!reload())
         return;
-    printForKitchens<ReportMenuOrderCanceled>(m_kitchenPrinters, kind, order);
+    const Kitchens kitchens = kitchensThatPrintByThemselves();
+    printChange(kitchens, kind, order, composeTakenBack);
+    const EntityOrder::Lines standing = order->getDetails();
+    order->setDetails(order->getChangedDetails());
+    printForKitchens<ReportMenuOrder>(kitchens, kind, order);
+    order->setDetails(standing);
+    if (formerTable.isEmpty())
+        return;
+    Kitchens unaware;
+    for (EntityConfigKitchenPrinter* kitchen : kitchens) {
+        // The others read the way of the tables on the slip that they have just got.
+        if (!cooksAny(*kitchen, order->getTakenBackDetails() + order->getChangedDetails()))
+            unaware.append(kitchen);
+    }
+    printChange(unaware, kind, order,
+                [&formerTable](const KitchenSlipData& slip) { return composeMove(slip, formerTable); });
+}
+
+void ZavelReportFactory::printMenuOrderCanceled(OrderKind kind, EntityOrder* order, CancelTo to)
+{
+    if (!reload())
+        return;
+    Kitchens kitchens;
+    for (EntityConfigKitchenPrinter* kitchen : qAsConst(m_kitchenPrinters)) {
+        if (to == AllKitchens || (kitchen->printsByItself() && cooksAny(*kitchen, order->getDetails())))
+            kitchens.append(kitchen);
+    }
+    printForKitchens<ReportMenuOrderCanceled>(kitchens, kind, order);
+}
+
+ZavelReportFactory::Kitchens ZavelReportFactory::kitchensThatPrintByThemselves() const
+{
+    Kitchens kitchens;
+    for (EntityConfigKitchenPrinter* kitchen : m_kitchenPrinters) {
+        if (kitchen->printsByItself())
+            kitchens.append(kitchen);
+    }
+    return kitchens;
 }
 
 bool ZavelReportFactory::reload()
@@ -145,9 +177,14 @@ bool ZavelReportFactory::readyForCashier()
     return m_company && m_cashierPrinter;
 }
 
+void ZavelReportFactory::printChange(const Kitchens& kitchens, OrderKind kind, const EntityOrder* order,
+                                     const KitchenSlipComposer& composer)
+{
+    ReportKitchenChange(nullptr, kitchens, order, kind, composer, m_printerType).print();
+}
+
 template <class Report>
-void ZavelReportFactory::printForKitchens(const QList<EntityConfigKitchenPrinter*>& kitchens, OrderKind kind,
-                                          const EntityOrder* order)
+void ZavelReportFactory::printForKitchens(const Kitchens& kitchens, OrderKind kind, const EntityOrder* order)
 {
     if (kitchens.isEmpty())
         return;

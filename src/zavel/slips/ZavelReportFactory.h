@@ -2,6 +2,7 @@
 
 #include "app/context/EntityPool.h"
 #include "zavel/order/SlipRequests.h"
+#include "zavel/slips/OrderText.h"
 
 #include <QList>
 
@@ -30,7 +31,8 @@ public:
     void printMakanDitempat(int orderId) override;
     void printMenuOrder(OrderKind kind, EntityOrder* order) override;
     void reprintMenuOrder(OrderKind kind, EntityOrder* order) override;
-    void printMenuOrderCanceled(OrderKind kind, EntityOrder* order) override;
+    void printMenuOrderChange(OrderKind kind, EntityOrder* order, const QString& formerTable) override;
+    void printMenuOrderCanceled(OrderKind kind, EntityOrder* order, CancelTo to = AllKitchens) override;
 
 private:
     explicit ZavelReportFactory(QObject* parent);
@@ -41,8 +43,11 @@ private:
     bool readyForCashier();
     template <class Report, class Sale>
     void printBill(Sale* (BusinessPenjualan::*find)(int), int invoiceId);
+    using Kitchens = QList<EntityConfigKitchenPrinter*>;
+    [[nodiscard]] Kitchens kitchensThatPrintByThemselves() const;
     template <class Report>
-    void printForKitchens(const QList<EntityConfigKitchenPrinter*>& kitchens, OrderKind kind, const EntityOrder* order);
+    void printForKitchens(const Kitchens& kitchens, OrderKind kind, const EntityOrder* order);
+    void printChange(const Kitchens& kitchens, OrderKind kind, const EntityOrder* order, const KitchenSlipComposer&);
     [[nodiscard]] EntityUser* findUser(int id);
     /** Shows in one box what the services could not read; true when there was something. */
     bool showErrors(const QList<KorBusinessLogic*>& services);
@@ -52,6 +57,6 @@ private:
     EntityPool m_records;
     EntityDataPerusahaan* m_company = nullptr;
     EntityConfigCashierPrinter* m_cashierPrinter = nullptr;
-    QList<EntityConfigKitchenPrinter*> m_kitchenPrinters;
+    Kitchens m_kitchenPrinters;
     EntityPrinterType* m_printerType = nullptr;
 };

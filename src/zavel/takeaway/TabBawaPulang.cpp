@@ -86,22 +86,23 @@ bool TabBawaPulang::updateOrder(EntityOrder* order)
 
 void TabBawaPulang::on_btnCancel_clicked() { cancelSelectedOrders(); }
 
-void TabBawaPulang::cancelOrder(EntityOrder* row)
+bool TabBawaPulang::cancelOrder(EntityOrder* row)
 {
     if (QMessageBox::question(this, tr("Delete"),
                               tr("Are you sure you want to delete this order? order id: %1 ").arg(row->getId())) !=
         QMessageBox::Yes)
-        return;
+        return false;
     EntityPool pool;
     const EntityPoolScope scope(pool);
     const bool isPaid = row->getStatus() == EntityOrder::PAID || row->getStatus() == EntityOrder::PARTIALY_PAID;
     // A bill without money, or one from before an edit: the database would refuse, in its own words.
     const bool hasOpenInvoice = !isPaid && !readBills(row->getId()).isEmpty();
-    if (!sales()->hasError() && hasOpenInvoice)
+    if (!sales()->hasError() && hasOpenInvoice) {
         tell(tr("Order %1 already has an invoice. Please finish the payment, or press Done in the payment form")
                  .arg(row->getId()));
-    else if (sales()->hasError() || !sales()->removeOrder(static_cast<EntityBawaPulang*>(row)))
-        failed(sales());
+        return false;
+    }
+    return (!sales()->hasError() && sales()->removeOrder(static_cast<EntityBawaPulang*>(row))) || failed(sales());
 }
 
 void TabBawaPulang::payOrder(EntityOrder* order)

@@ -28,7 +28,7 @@ protected:
     QList<EntityInvoiceLink*> readBills(int orderId) override;
     std::unique_ptr<OrderDialog> createEditForm() override;
     bool updateOrder(EntityOrder* order) override;
-    void cancelOrder(EntityOrder* row) override;
+    bool cancelOrder(EntityOrder* row) override;
     void payOrder(EntityOrder* order) override;
 
 private:

@@ -34,6 +34,9 @@ KorEntity* DialogKitchenFoodPrinter::getEntity()
     kitchen->setKitchenName(m_ui->txtKitchenName->text());
     readPrinter(*kitchen);
     kitchen->setAutoPrint(m_ui->cbAutoPrint->isChecked() ? kitchen->yes() : kitchen->no());
+    // A kitchen that never said it keeps its row as it was.
+    if (m_ui->cbSayFormer->isChecked() != kitchen->saysFormer())
+        kitchen->setSayFormer(m_ui->cbSayFormer->isChecked() ? kitchen->yes() : kitchen->no());
     kitchen->setKodeJenisItem(m_ui->txtKodeJenisItems->text());
     kitchen->setIsStoredAsJSON(true);
     return kitchen;
@@ -47,6 +50,7 @@ void DialogKitchenFoodPrinter::setEntity(KorEntity* entity)
     m_ui->txtKitchenName->setText(kitchen->getKitchenName());
     showPrinter(*kitchen);
     m_ui->cbAutoPrint->setChecked(kitchen->printsByItself());
+    m_ui->cbSayFormer->setChecked(kitchen->saysFormer());
     m_ui->txtKodeJenisItems->setText(kitchen->getKodeJenisItem());
 }
 

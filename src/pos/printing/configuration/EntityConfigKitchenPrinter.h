@@ -16,6 +16,8 @@ class EntityConfigKitchenPrinter final : public EntityConfigPrinter
     CONFIG_MEMBER(AutoPrint, "auto_print")
     /** Codes of item types, joined by commas; empty means all. */
     CONFIG_MEMBER(KodeJenisItem, "kode_jenis_item")
+    /** "Yes" where a changed line tells what it was. */
+    CONFIG_MEMBER(SayFormer, "say_former")
     /** Kept in the row; nothing reads it. */
     CONFIG_MEMBER(FilterItemTypeCode, "filter_item_type_code")
 
@@ -30,6 +32,7 @@ public:
     using EntityConfigPrinter::EntityConfigPrinter;
 
     [[nodiscard]] bool printsByItself() const { return getAutoPrint() == yes(); }
+    [[nodiscard]] bool saysFormer() const { return getSayFormer() == yes(); }
     /** Minds letter case and blanks. */
     [[nodiscard]] bool cooks(const QString& itemTypeCode) const
     {
