@@ -20,6 +20,8 @@
 #include <QTableView>
 #include <QTest>
 
+#include <numeric>
+
 namespace
 {
 const char* const printQuestion = "Do you want to print this invoice?";
@@ -44,6 +46,7 @@ private slots:
     void aPartlyPaidInvoiceCanStillBeSplit();
     void aSplitLineCanBeSharedOutAnew();
     void whateverIsSplitTheInvoicesAddUpToTheOrder();
+    void aDifferenceIsToldInItsCurrency();
 
 private:
     void openForm();
@@ -285,6 +288,22 @@ void TestSplit::aSplitLineCanBeSharedOutAnew()
     QCOMPARE(grid()->model()->index(0, 4).data().toString(), QString("Grp 2"));
 }
 
+void TestSplit::aDifferenceIsToldInItsCurrency()
+{
+    QObject owner;
+    InvoiceLines billed;
+    for (EntityItem* dish : {m_builders->item("PIE", "Pie", 0), m_builders->item("ALE", "Ale", 0)}) {
+        auto* line = new EntityInvoiceDetail(&owner);
+        line->setItem(dish);
+        line->setQty(2);
+        line->setPriceEach(new Money(line, 12.0, "$"));
+        line->recomputeTotal();
+        billed.append(line);
+    }
+    QCOMPARE(differenceOf(EntityMakanDitempat(), billed, &owner).text(),
+             QString("On the bill, but taken back: 2 Pie ($24), 2 Ale ($24); $48 in all"));
+}
+
 // --- conservation --------------------------------------------------------------------------------------------------
 
 void TestSplit::whateverIsSplitTheInvoicesAddUpToTheOrder()
@@ -315,15 +334,7 @@ void TestSplit::whateverIsSplitTheInvoicesAddUpToTheOrder()
             sale->setDetails(lines);
             return sale->isSaved() ? sales->updateInvoice(sale) : sales->insertInvoice(sale);
         };
-        InvoiceLines lines;
-        for (const EntityOrderDetail* line : ordered) {
-            auto* copy = new EntityInvoiceDetail(&owner);
-            copy->setItem(line->getItem());
-            copy->setQty(line->getQty());
-            copy->setPriceEach(line->getPriceEach());
-            copy->recomputeTotal();
-            lines.append(copy);
-        }
+        InvoiceLines lines = billOf(*order, &owner);
         for (int step = 0; step < 12; ++step) {
             EntityInvoiceDetail* line = lines.at(int(random.bounded(lines.size())));
             line->setQtySplit(int(random.bounded(line->getQty() + line->qtySplit() + 1)));
@@ -339,6 +350,15 @@ void TestSplit::whateverIsSplitTheInvoicesAddUpToTheOrder()
             line->setQty(kept);
             line->recomputeTotal();
         }
+        // What the guests of the groups have still to pay is what no bill knows yet.
+        const auto sum = [](const InvoiceLines& some) {
+            return std::accumulate(some.cbegin(), some.cend(), 0, [](int all, const EntityInvoiceDetail* line) {
+                return all + line->getTotal()->rawAmount();
+            });
+        };
+        const BillDifference difference = differenceOf(*order, lines, &owner);
+        QCOMPARE(sum(difference.unbilled), sum(std::accumulate(groups.cbegin(), groups.cend(), InvoiceLines())));
+        QVERIFY(difference.takenBack.isEmpty());
         qint64 due = 0;
         qint64 taken = 0;
         const auto count = [&](const EntityInvoiceMakanDitempat& sale) {

@@ -42,6 +42,8 @@ public:
     /** The amount as a number of the context's locale, without a currency sign. */
     [[nodiscard]] QString toString() const;
     [[nodiscard]] QString toStringAbs() const;
+    /** The same with the sign in front of it, for a sentence. */
+    [[nodiscard]] QString toCurrencyString() const { return m_currency + toString(); }
     /** From "currency number"; null for anything else. The caller owns the result. */
     [[nodiscard]] static Money* fromString(const QString& text);
 

@@ -50,7 +50,8 @@ void DataMapperInvoiceMakanDitempat::prepareInvoice(KorEntity* link, Invoice* in
 QString DataMapperInvoiceMakanDitempat::objection(const KorEntity& link)
 {
     const auto& sale = static_cast<const EntityInvoiceMakanDitempat&>(link);
-    return billedMeanwhile(m_orders->tableName(), "makan_ditempat_id", sale.getMakanDitempat()->getId(), sale.knownBills());
+    return billedMeanwhile(m_orders->tableName(), "makan_ditempat_id", sale.getMakanDitempat()->getId(),
+                           sale.knownBills());
 }
 
 QList<EntityInvoiceMakanDitempat*> DataMapperInvoiceMakanDitempat::findByOrder(int orderId)

@@ -124,11 +124,10 @@ void TabFastFood::on_btnAdd_clicked()
 void TabFastFood::showChange(const EntityInvoiceFastFood& sale)
 {
     const Invoice& invoice = *sale.getInvoice();
-    const auto text = [](const Money& amount) { return amount.getCurrency() + amount.toString(); };
-    const int due = invoice.getNetDue()->rawAmount();
-    const Money left(nullptr, qAbs(due), invoice.getGrandTotal()->getCurrency());
-    m_sale->setText(tr("%1 of %2").arg(invoice.getInvoiceNo(), text(*invoice.getGrandTotal())));
-    m_change->setText((due < 0 ? tr("Less :") : tr("Change :")) + ' ' + text(left));
+    const Money& change = *invoice.getNetDue();
+    m_sale->setText(tr("%1 of %2").arg(invoice.getInvoiceNo(), invoice.getGrandTotal()->toCurrencyString()));
+    m_change->setText((change.rawAmount() < 0 ? tr("Less :") : tr("Change :")) + ' ' + change.getCurrency() +
+                      change.toStringAbs());
     m_changeRow->show();
 }
 

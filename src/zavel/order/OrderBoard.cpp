@@ -20,7 +20,7 @@ constexpr int boardRowHeight = 44;
 
 QString billText(const Invoice& bill)
 {
-    return bill.getInvoiceNo() + ' ' + bill.getGrandTotal()->getCurrency() + bill.getGrandTotal()->toString();
+    return bill.getInvoiceNo() + ' ' + bill.getGrandTotal()->toCurrencyString();
 }
 } // namespace
 

@@ -6,6 +6,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <memory>
 
 namespace
 {
@@ -37,8 +38,6 @@ bool sellsTheSame(const EntityInvoiceDetail& one, const EntityInvoiceDetail& oth
 {
     return isSameDish(one, other) && one.getPriceEach()->rawAmount() == other.getPriceEach()->rawAmount();
 }
-
-QString told(const Money& amount) { return amount.getCurrency() + amount.toString(); }
 } // namespace
 
 InvoiceLines billOf(const EntityOrder& order, QObject* owner)
@@ -140,15 +139,13 @@ BillDifference differenceOf(const EntityOrder& order, const InvoiceLines& billed
 QString BillDifference::dishesOf(const InvoiceLines& lines)
 {
     QStringList dishes;
-    qint64 sum = 0;
+    std::unique_ptr<Money> sum(lines.first()->getTotal()->multiply(0));
     for (const EntityInvoiceDetail* line : lines) {
-        dishes.append(tr("%1 %2 (%3)").arg(line->getQty()).arg(line->getItem()->getNama(), told(*line->getTotal())));
-        sum += line->getTotal()->rawAmount();
+        dishes.append(
+            tr("%1 %2 (%3)").arg(line->getQty()).arg(line->getItem()->getNama(), line->getTotal()->toCurrencyString()));
+        sum.reset(sum->add(line->getTotal()));
     }
-    if (lines.size() < 2)
-        return dishes.join(", ");
-    const Money total(nullptr, int(sum), lines.first()->getTotal()->getCurrency());
-    return tr("%1; %2 in all").arg(dishes.join(", "), told(total));
+    return lines.size() < 2 ? dishes.join(", ") : tr("%1; %2 in all").arg(dishes.join(", "), sum->toCurrencyString());
 }
 
 QString BillDifference::text() const

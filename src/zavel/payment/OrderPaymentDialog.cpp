@@ -193,7 +193,7 @@ bool OrderPaymentDialog::showBillOfAnother()
             qobject_cast<EntityUser*>(service<BusinessUser>("User")->find(invoice->getCreatedBy()));
         bills.append(tr("%1 of %2, by %3 at %4")
                          .arg(invoice->getInvoiceNo(),
-                              invoice->getGrandTotal()->getCurrency() + invoice->getGrandTotal()->toString(),
+                              invoice->getGrandTotal()->toCurrencyString(),
                               user ? user->getUserName() : QString(),
                               invoice->getCreatedTime().time().toString("HH:mm")));
     }
