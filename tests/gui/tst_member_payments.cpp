@@ -30,6 +30,7 @@ private slots:
     void aPartIsPaidOfOneInvoice();
     void whatIsMissingIsTold_data();
     void whatIsMissingIsTold();
+    void aCardAtTheSaleIsNotReplacedUnasked();
     void anEditShowsItsOwnPartAndWhatElseIsOpen();
     void anotherMembersPaymentTakesTheStoredLinesOff();
     void aStaleEditIsToldAndTheFormStays();
@@ -297,6 +298,38 @@ void TestMemberPayments::whatIsMissingIsTold()
         giveUp(form);
     });
     QCOMPARE(value("SELECT count(*) FROM piutang"), QString("0"));
+}
+
+void TestMemberPayments::aCardAtTheSaleIsNotReplacedUnasked()
+{
+    m_database->run("UPDATE invoice SET other_payment_amount = 40, status = 3 WHERE no = 'TRD-300'");
+    show();
+    onForm("btnAdd", [this](DialogPiutang* form) {
+        enter(form, "txtMember", "m1");
+        click(form, "pushButton");
+        enter(form, "txtARAccount", "1-100");
+        confirm(form, "txtRefNo");
+        // No is the answer of a hasty Return.
+        QVERIFY(form->isVisible());
+        QVERIFY2(m_people->lastText().contains("as of a card at the sale: Rp40 on TRD-300."),
+                 qPrintable(m_people->lastText()));
+        QCOMPARE(value("SELECT count(*) FROM piutang"), QString("0"));
+        m_people->answer(QMessageBox::Yes);
+        confirm(form, "txtRefNo");
+    });
+    QTRY_COMPARE(value("SELECT string_agg(concat_ws(' ', other_payment_amount, net_due_amount), ', ' ORDER BY id) FROM "
+                       "invoice"),
+                 QString("500 0, 260 40"));
+    // What members have paid is no surprise to their next payment.
+    m_people->clear();
+    onForm("btnAdd", [](DialogPiutang* form) {
+        enter(form, "txtMember", "m1");
+        click(form, "pushButton");
+        enter(form, "txtARAccount", "1-100");
+        confirm(form, "txtRefNo");
+    });
+    QTRY_COMPARE(value("SELECT sum(net_due_amount) FROM invoice"), QString("0"));
+    QCOMPARE(m_people->texts(), QStringList());
 }
 
 // --- editing -------------------------------------------------------------------------------------------------------

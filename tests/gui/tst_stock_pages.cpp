@@ -1,8 +1,12 @@
 #include "app/widgets/MoneyEdit.h"
+#include "kor/business/KorServiceDirectory.h"
 #include "pos/inventory/adjustment/TabInventoryAdj.h"
 #include "pos/inventory/balance/TabStokAwal.h"
+#include "pos/inventory/stock/BusinessInventory.h"
 #include "pos/inventory/stockcard/TabKartuStok.h"
+#include "pos/masterdata/item/EntityItem.h"
 #include "support/ModalDriver.h"
+#include "support/SalesRows.h"
 #include "support/ShopRows.h"
 #include "support/TestDatabase.h"
 
@@ -57,6 +61,8 @@ private slots:
     void whatIsNoBalanceIsRefused_data();
     void whatIsNoBalanceIsRefused();
     void anAdjustmentIsKeyedIn();
+    void aCountOnADayOfTradeIsOfferedTheNextDay_data();
+    void aCountOnADayOfTradeIsOfferedTheNextDay();
     void theQuantityBeforeFollowsTheDate();
     void whatIsNoAdjustmentIsRefused_data();
     void whatIsNoAdjustmentIsRefused();
@@ -257,6 +263,45 @@ void TestStockPages::anAdjustmentIsKeyedIn()
                     "FROM item_history"),
              QString("3 0 12 10 t"));
     QCOMPARE(stored("source_acct_code FROM stock_take"), QString("1-100"));
+}
+
+void TestStockPages::aCountOnADayOfTradeIsOfferedTheNextDay_data()
+{
+    QTest::addColumn<int>("answer");
+    QTest::addColumn<int>("days");
+    QTest::addColumn<int>("tomorrow");
+    // Of seven three are sold, five are counted.
+    QTest::newRow("the next day") << int(QMessageBox::Yes) << 1 << 5;
+    QTest::newRow("this day all the same") << int(QMessageBox::No) << 0 << 2;
+    QTest::newRow("back to the form") << int(QMessageBox::Cancel) << -1 << 4;
+}
+
+void TestStockPages::aCountOnADayOfTradeIsOfferedTheNextDay()
+{
+    QFETCH(int, answer);
+    QFETCH(int, days);
+    QFETCH(int, tomorrow);
+    SaleRow sale;
+    sale.date = today;
+    insertSale(*m_database, sale);
+    m_database->run("UPDATE invoice_detail SET qty = 3");
+    show<TabInventoryAdj>();
+    m_people->answer(QMessageBox::StandardButton(answer));
+    m_people->expect<DialogInventoryAdj>([answer](DialogInventoryAdj* form) {
+        enter(form, "txtKode", "rice");
+        enter(form, "txtStok", "1");
+        ::press(form, QDialogButtonBox::Ok);
+        QCOMPARE(form->isVisible(), answer == QMessageBox::Cancel);
+        form->reject();
+    });
+    press("btnAdd");
+    QTRY_VERIFY(m_people->finished());
+    QVERIFY2(m_people->lastText().contains("0 of this item were bought, 3 sold and 0 returned"),
+             qPrintable(m_people->lastText()));
+    QCOMPARE(stored("coalesce(max(tanggal - current_date), -1) FROM stock_take").toInt(), days);
+    EntityItem rice;
+    rice.setId(1);
+    QCOMPARE(service<BusinessInventory>("Inventory")->getQuantityOnHand(&rice, today.addDays(1)), tomorrow);
 }
 
 void TestStockPages::theQuantityBeforeFollowsTheDate()

@@ -14,6 +14,7 @@
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QUuid>
+#include <QTimeZone>
 
 QString TestDatabase::host() { return TestCluster::instance().host(); }
 
@@ -43,6 +44,8 @@ TestDatabase::TestDatabase(Kind kind)
     database.setDatabaseName(m_name);
     if (!database.open())
         qFatal("other workstation: %s", qPrintable(database.lastError().text()));
+    // The server's clock is another one on purpose; workstations go by their own, or "today" is two days at night.
+    QSqlQuery(database).exec("SET TIME ZONE '" + QTimeZone::systemTimeZoneId() + '\'');
     if (!open())
         qFatal("program's connection: %s", qPrintable(AppContext::instance()->databaseManager()->lastErrorText()));
 }

@@ -30,25 +30,53 @@ bool BusinessPenjualan::updatePiutang(EntityPiutang* payment)
            updateInvoicesOfPiutang(payment);
 }
 
+bool BusinessPenjualan::readPaidInvoices(const EntityPiutang* payment, QList<Invoice*>* invoices,
+                                         QHash<int, double>* paid)
+{
+    QList<int> ids;
+    for (const EntityPiutangDetail* line : payment->getDetails())
+        ids.append(line->getInvoice()->getId());
+    DataMapperPiutangDetail* lines = m_mappers.receivables->lines();
+    for (const EntityPiutangDetail* line : lines->findByInvoices(ids))
+        (*paid)[line->getInvoice()->getId()] += line->getAmountPaid()->rawAmount();
+    bool done = !lines->hasError();
+    takeMapperError(lines, "updateInvoice");
+    if (done)
+        *invoices = m_mappers.invoices->findByIds(ids);
+    done = done && !m_mappers.invoices->hasError();
+    takeMapperError(m_mappers.invoices, "updateInvoice");
+    return done;
+}
+
+QList<EntityPiutangDetail*> BusinessPenjualan::creditsReplacedBy(const EntityPiutang* payment)
+{
+    QList<Invoice*> invoices;
+    QHash<int, double> paid;
+    QList<EntityPiutangDetail*> credits;
+    if (!readPaidInvoices(payment, &invoices, &paid))
+        return credits;
+    for (Invoice* invoice : qAsConst(invoices)) {
+        const Money* credit = invoice->getOtherPayment();
+        const double replaced = credit->rawAmount() - paid.value(invoice->getId());
+        if (replaced <= 0)
+            continue;
+        auto* line = new EntityPiutangDetail(AppDataMapper::entityParent());
+        line->setInvoice(invoice);
+        line->setAmountPaid(minorUnits(replaced, credit->getCurrency()).get());
+        credits.append(line);
+    }
+    return credits;
+}
+
 bool BusinessPenjualan::updateInvoicesOfPiutang(const EntityPiutang* payment)
 {
     EntityPool pool;
     const EntityPoolScope scope(pool);
-    QList<int> ids;
-    for (const EntityPiutangDetail* line : payment->getDetails())
-        ids.append(line->getInvoice()->getId());
-
-    DataMapperPiutangDetail* lines = m_mappers.receivables->lines();
+    QList<Invoice*> invoices;
     QHash<int, double> paid;
-    for (const EntityPiutangDetail* line : lines->findByInvoices(ids))
-        paid[line->getInvoice()->getId()] += line->getAmountPaid()->rawAmount();
-    bool done = !lines->hasError();
-    takeMapperError(lines, "updateInvoice");
-    const QList<Invoice*> invoices = done ? m_mappers.invoices->findByIds(ids) : QList<Invoice*>();
-    done = done && !m_mappers.invoices->hasError();
-    takeMapperError(m_mappers.invoices, "updateInvoice");
+    bool done = readPaidInvoices(payment, &invoices, &paid);
 
-    for (Invoice* invoice : invoices) {
+    for (Invoice* invoice : qAsConst(invoices)) {
         // In place of any other credit, also of one that was given at the sale.
         invoice->setOtherPayment(
             minorUnits(paid.value(invoice->getId()), payment->getGrandTotal()->getCurrency()).get());

@@ -11,6 +11,8 @@
 
 #include "ui_DialogPiutang.h"
 
+#include <QMessageBox>
+
 DialogPiutang::DialogPiutang(QWidget* parent)
     : PartPaymentsDialog(parent), m_ui(std::make_unique<Ui::DialogPiutang>()),
       m_sales(service<BusinessPenjualan>("Sales"))
@@ -64,6 +66,30 @@ void DialogPiutang::setEntity(KorEntity* entity)
     for (EntityPiutangDetail* line : payment->getDetails())
         line->setAmountDue(amountLeft(*line->getInvoice()).get());
     showStored(payment->getMember(), payment->getBank(), asEntities(payment->getDetails()), true);
+}
+
+bool DialogPiutang::beforeAccept() { return mayReplaceCredits() && PartPaymentsDialog::beforeAccept(); }
+
+bool DialogPiutang::mayReplaceCredits()
+{
+    EntityPool pool;
+    const EntityPoolScope scope(pool);
+    const QList<EntityPiutangDetail*> credits = m_sales->creditsReplacedBy(static_cast<EntityPiutang*>(getEntity()));
+    if (m_sales->hasError()) {
+        showError(m_sales->takeErrors());
+        return false;
+    }
+    QStringList lost;
+    for (const EntityPiutangDetail* credit : credits)
+        lost.append(tr("%1 on %2").arg(credit->getAmountPaid()->toCurrencyString(), credit->documentNo()));
+    return lost.isEmpty() ||
+           QMessageBox::question(
+               this, tr("Question"),
+               tr("Credit stands on these invoices that no member's payment accounts for, as of a card at the sale: "
+                  "%1. This payment takes its place, and the sum is due again.")
+                       .arg(lost.join("; ")) +
+                   "\r\n" + tr("Do you want to save this payment all the same?"),
+               QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
 }
 
 KorEntity* DialogPiutang::getEntity()

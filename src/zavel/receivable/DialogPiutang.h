@@ -23,6 +23,7 @@ public:
 
     KorEntity* getEntity() override;
     void setEntity(KorEntity* entity) override;
+    bool beforeAccept() override;
 
 public slots:
     void onMemberSelected();
@@ -34,6 +35,9 @@ protected:
     [[nodiscard]] const KorEntity* lineWithoutAmount() const override;
 
 private:
+    /** Asks where the payment would take the place of another credit. */
+    bool mayReplaceCredits();
+
     std::unique_ptr<Ui::DialogPiutang> m_ui;
     BusinessPenjualan* m_sales;
     MemberTextBox* m_memberBox;

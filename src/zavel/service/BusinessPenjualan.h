@@ -155,6 +155,12 @@ public:
     /** Saves the payment, then counts the invoices that it pays anew; true when both stand. */
     bool insert(EntityPiutang* payment);
     bool updatePiutang(EntityPiutang* payment);
+    /**
+     * Credit that stands on the payment's invoices without a member's payment behind it, given at the sale or left by a
+     * payment that was deleted: counting anew puts the payments in its place. One line an invoice, the amount in
+     * AmountPaid; the pool's.
+     */
+    [[nodiscard]] QList<EntityPiutangDetail*> creditsReplacedBy(const EntityPiutang* payment);
     /** The invoices keep the money until a later payment counts them anew. */
     bool remove(EntityPiutang* payment);
     [[nodiscard]] QList<EntityPiutang*> searchPiutang(const ReceivableFilter& filter);
@@ -178,6 +184,9 @@ private:
     void followInvoices(EntityMakanDitempat* order);
     void setDineStatus(EntityMakanDitempat* order, int status);
     /** Books what all payments paid of the payment's invoices as their other payment. */
+    /** The invoices that the payment pays of, as they stand, and what members have paid of each; false after a failure.
+     */
+    bool readPaidInvoices(const EntityPiutang* payment, QList<Invoice*>* invoices, QHash<int, double>* paid);
     bool updateInvoicesOfPiutang(const EntityPiutang* payment);
 
     Mappers m_mappers;

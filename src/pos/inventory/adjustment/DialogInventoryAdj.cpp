@@ -10,6 +10,7 @@
 
 #include "ui_DialogInventoryAdj.h"
 
+#include <QMessageBox>
 #include <QPushButton>
 
 DialogInventoryAdj::DialogInventoryAdj(QWidget* parent)
@@ -47,6 +48,38 @@ bool DialogInventoryAdj::validate()
         addError(m_ui->txtStok, tr("The new qty is more than can be counted"));
     m_source->check(tr("Select GL Source Account"), tr("Select a valid GL Source Account"));
     return !hasError();
+}
+
+bool DialogInventoryAdj::beforeAccept() { return settleDay() && KorDialog::beforeAccept(); }
+
+bool DialogInventoryAdj::settleDay()
+{
+    auto* inventory = service<BusinessInventory>("Inventory");
+    const QDate day = m_ui->dateQtyOnHand->date();
+    const BusinessInventory::Movements moved = inventory->movementsOf(m_item->item(), day);
+    if (inventory->hasError()) {
+        showError(inventory->takeErrors());
+        return false;
+    }
+    if (moved.isEmpty())
+        return true;
+    const QLocale locale = m_ui->txtStok->locale();
+    const QString format = AppContext::instance()->dateFormat();
+    const QDate next = day.addDays(1);
+    const QString text = tr("On %1 %2 of this item were bought, %3 sold and %4 returned. They count on top of an "
+                            "adjustment of that day, "
+                            "although the quantity on hand that you see includes them.")
+                             .arg(locale.toString(day, format), locale.toString(moved.acquired),
+                                  locale.toString(moved.used), locale.toString(moved.returned));
+    const auto answer = QMessageBox::question(
+        this, tr("Question"), text + "\r\n" + tr("Do you want to date it on %1?").arg(locale.toString(next, format)),
+        QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes);
+    if (answer != QMessageBox::Yes)
+        return answer == QMessageBox::No;
+    const int before = m_before;
+    m_ui->dateQtyOnHand->setDate(next);
+    // Another quantity on hand than the one that was adjusted is looked at before it is saved.
+    return m_before == before && !m_ui->txtQtyOnHand->text().isEmpty();
 }
 
 KorEntity* DialogInventoryAdj::getEntity()

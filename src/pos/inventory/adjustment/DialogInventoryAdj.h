@@ -26,6 +26,7 @@ public:
     ~DialogInventoryAdj() override;
 
     bool validate() override;
+    bool beforeAccept() override;
     KorEntity* getEntity() override;
     void setEntity(KorEntity* entity) override;
 
@@ -36,6 +37,9 @@ private slots:
     void on_ddlReason_currentIndexChanged(int);
 
 private:
+    /** A count on a day that has movements is wrong by them: offers the next day. False when it is not to be saved yet.
+     */
+    bool settleDay();
     void readQuantityBefore();
     void showNewQuantity();
     [[nodiscard]] QString reason() const;

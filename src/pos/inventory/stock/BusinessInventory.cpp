@@ -43,18 +43,32 @@ int BusinessInventory::getQuantityOnHand(const KorEntity* item, const QDate& dat
     const int opening = balance ? balance->getJumlah() : 0;
     const int base = take ? take->getQty() : opening;
     const QDate start = take ? take->getStockTakeDate() : QDate();
+    const Movements moved = movements(item, start, date, "getQuantityOnHand");
+    qDebug() << " laswt:" << base << " qtyAcq:" << moved.acquired << " qtyUsed:" << moved.used
+             << " qtyReturned:" << moved.returned;
+    return base + moved.acquired - moved.used - moved.returned;
+}
+
+BusinessInventory::Movements BusinessInventory::movementsOf(const KorEntity* item, const QDate& day)
+{
+    return movements(item, day, day, "movementsOf");
+}
+
+BusinessInventory::Movements BusinessInventory::movements(const KorEntity* item, const QDate& from, const QDate& to,
+                                                          const QString& operation)
+{
     const auto moved = [&](StockMovements::Kind kind) {
         int quantity = 0;
         KorQuery query;
-        if (!StockMovements::quantity(query, kind, item->getId(), start, date, quantity))
-            addError("getQuantityOnHand", query.failure());
+        if (!StockMovements::quantity(query, kind, item->getId(), from, to, quantity))
+            addError(operation, query.failure());
         return quantity;
     };
-    const int acquired = moved(StockMovements::Acquired);
-    const int used = moved(StockMovements::Used);
-    const int returned = moved(StockMovements::Returned);
-    qDebug() << " laswt:" << base << " qtyAcq:" << acquired << " qtyUsed:" << used << " qtyReturned:" << returned;
-    return base + acquired - used - returned;
+    Movements sums;
+    sums.acquired = moved(StockMovements::Acquired);
+    sums.used = moved(StockMovements::Used);
+    sums.returned = moved(StockMovements::Returned);
+    return sums;
 }
 
 QHash<int, int> BusinessInventory::quantitiesOnHand(const QDate& date)

@@ -33,6 +33,16 @@ public:
      * it is worth nothing, and the service holds the error.
      */
     [[nodiscard]] int getQuantityOnHand(const KorEntity* item, const QDate& date);
+    struct Movements
+    {
+        int acquired = 0;
+        int used = 0;
+        int returned = 0;
+
+        [[nodiscard]] bool isEmpty() const { return acquired == 0 && used == 0 && returned == 0; }
+    };
+    /** What comes on top of a count that is dated on this day; after a failure the service holds the error. */
+    [[nodiscard]] Movements movementsOf(const KorEntity* item, const QDate& day);
     /** The same figure for every item, by its id, in one statement. */
     [[nodiscard]] QHash<int, int> quantitiesOnHand(const QDate& date) override;
 
@@ -49,6 +59,9 @@ public:
     [[nodiscard]] QList<EntityItemHistory*> findAllKartuStok(const ItemHistoryFilter& filter);
 
 private:
+    /** From a day on where one is given, otherwise from the beginning; both limits count. */
+    [[nodiscard]] Movements movements(const KorEntity* item, const QDate& from, const QDate& to,
+                                           const QString& operation);
     [[nodiscard]] EntityItemHistory* beginningRow(int itemId);
 
     DataMapperStockTake* m_stockTakes;
