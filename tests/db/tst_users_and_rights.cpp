@@ -6,12 +6,17 @@
 #include "app/access/EntityAccess.h"
 #include "app/context/AccessCheck.h"
 #include "app/context/AppContext.h"
+#include "app/context/DatabaseManager.h"
 #include "app/context/EntityUser.h"
 #include "app/registry/AppMapperRegistry.h"
 #include "kor/business/KorServiceDirectory.h"
+#include "kor/persistence/KorQuery.h"
+#include "support/SlowNeighbour.h"
 #include "support/TestDatabase.h"
 
 #include <QTest>
+
+#include <ctime>
 
 namespace
 {
@@ -89,6 +94,63 @@ private slots:
         QVERIFY(!m_users->login("ann", "secret"));
         QVERIFY(m_users->errors().contains("username"));
         m_users->clearErrors();
+    }
+
+    void aLoginIsGivenAwayOnce_data()
+    {
+        QTest::addColumn<bool>("isRenamed");
+        QTest::newRow("to a new user") << false;
+        QTest::newRow("to a user who gets another name") << true;
+    }
+    void aLoginIsGivenAwayOnce()
+    {
+        QFETCH(bool, isRenamed);
+        EntityUser user;
+        user.setFirstName("Bob");
+        user.setLastName("Ash");
+        user.setUserName(isRenamed ? "bob" : "ann");
+        user.setGroup(m_kasir);
+        if (isRenamed) {
+            QVERIFY(m_users->insert(&user));
+            user.setUserName("ann");
+        }
+        // At another workstation the form has found the name free as well, and saves a moment earlier.
+        const SlowNeighbour neighbour(
+            *m_database, {"INSERT INTO users (first_name, last_name, username, password, user_group_id, currency, "
+                          "version) VALUES ('Ann', 'Lee', 'ann', '', 1, 'Rp', 1)"});
+        QVERIFY(!(isRenamed ? m_users->update(&user) : m_users->insert(&user)));
+        QCOMPARE(m_users->takeErrors().trimmed(), QString("Username already exists"));
+        QCOMPARE(m_database->value("SELECT count(*) FROM users WHERE username = 'ann'").toInt(), 1);
+    }
+
+    void aSessionHasTheWorkstationsTimeZone_data()
+    {
+        QTest::addColumn<QByteArray>("zone");
+        QTest::addColumn<QString>("offset");
+        QTest::newRow("by its name") << QByteArray("Asia/Tokyo") << "09:00:00";
+        QTest::newRow("by a file") << QByteArray(":/usr/share/zoneinfo/Asia/Tokyo") << "09:00:00";
+        QTest::newRow("by a file without the colon") << QByteArray("/usr/share/zoneinfo/Asia/Tokyo") << "09:00:00";
+        QTest::newRow("by its rule, east") << QByteArray("HERE-05:30") << "05:30:00";
+        QTest::newRow("by its rule, west") << QByteArray("HERE3:30") << "-03:30:00";
+    }
+    void aSessionHasTheWorkstationsTimeZone()
+    {
+        QFETCH(QByteArray, zone);
+        const QByteArray former = qgetenv("TZ");
+        qputenv("TZ", zone);
+        tzset();
+        const bool isOpen = m_database->open();
+        KorQuery query;
+        const bool told =
+            isOpen && query.exec("select extract(timezone from now()) * interval '1 second'") && query.next();
+        const QString offset =
+            told ? query.value(0).toString() : AppContext::instance()->databaseManager()->lastErrorText();
+        if (former.isNull())
+            qunsetenv("TZ");
+        else
+            qputenv("TZ", former);
+        tzset();
+        QTEST(offset, "offset");
     }
 
     void passwordsAreStoredAsDigests_data()

@@ -233,6 +233,7 @@ void TestSlips::billsAreComposedLineByLine_data()
     row("bill_dine_paid_exactly", [this] { settle(m_invoice, 56700, 0); });
     row("bill_dine_on_credit", [this] { settle(m_invoice, 0, 56700); });
     row("bill_dine_narrow_paper", [this] { m_cashier->setColumnPaper("32"); });
+    row("bill_dine_address_of_two_lines", [this] { m_company->setAlamat("Jl. Kenanga 7\nBandung 40115"); });
     row("bill_dine_no_width", [this] { m_cashier->setColumnPaper("wide"); });
     row("bill_dine_no_notes", [this] {
         m_cashier->setNotes("");

@@ -3,7 +3,9 @@
 #include "app/access/BusinessUserAccess.h"
 #include "app/access/DataMapperUser.h"
 #include "app/context/AppContext.h"
+#include "app/context/EntityPool.h"
 #include "app/context/EntityUser.h"
+#include "kor/business/KorServiceTransaction.h"
 
 #include <QLocale>
 
@@ -37,7 +39,34 @@ bool BusinessUser::insert(KorEntity* user)
     const QString symbol = QLocale(AppContext::instance()->locale()).currencySymbol(QLocale::CurrencySymbol);
     // A locale without a country has none at all, which the table would not take.
     static_cast<EntityUser*>(user)->setCurrency(symbol.isNull() ? QString("") : symbol);
-    return KorBusinessLogic::insert(user);
+    return saveAlone(*static_cast<EntityUser*>(user), "insert", [=] { return KorBusinessLogic::insert(user); });
+}
+
+bool BusinessUser::update(KorEntity* user)
+{
+    return saveAlone(*static_cast<EntityUser*>(user), "update", [=] { return KorBusinessLogic::update(user); });
+}
+
+bool BusinessUser::saveAlone(const EntityUser& user, const QString& operation, const std::function<bool()>& save)
+{
+    return inOneTransaction(*this, operation, [&] {
+        // Two forms have found the login free at the same moment: the second waits here, and finds it taken.
+        EntityPool pool;
+        const EntityPoolScope scope(pool);
+        if (!written(m_users->lockTable(), m_users, operation))
+            return false;
+        const EntityUser* other = findByUsername(user.getUserName());
+        const auto* stored = user.isSaved() ? static_cast<EntityUser*>(find(user.getId())) : nullptr;
+        if (hasError())
+            return false;
+        // A login that was given away twice in former times can still be worked on.
+        const bool isNew = !stored || stored->getUserName() != user.getUserName();
+        if (isNew && other && other->getId() != user.getId()) {
+            addError(operation, tr("Username already exists"));
+            return false;
+        }
+        return save();
+    });
 }
 
 EntityUser* BusinessUser::findByUsername(const QString& username)

@@ -2,6 +2,8 @@
 
 #include "kor/business/KorBusinessLogic.h"
 
+#include <functional>
+
 class BusinessUserAccess;
 class DataMapperUser;
 class EntityUser;
@@ -23,12 +25,16 @@ public:
     [[nodiscard]] bool login(const QString& username, const QString& password);
     /** Gives the user the currency of the configured locale. */
     bool insert(KorEntity* user) override;
+    bool update(KorEntity* user) override;
     [[nodiscard]] EntityUser* findByUsername(const QString& username);
     [[nodiscard]] QList<KorEntity*> findByGroup(int groupId);
     [[nodiscard]] QList<KorEntity*> findAll(const QString& filter);
     [[nodiscard]] QList<KorEntity*> search(const QString& filter);
 
 private:
+    /** Saves while no other workstation can give the login away; false, with the reason, where it is taken. */
+    bool saveAlone(const EntityUser& user, const QString& operation, const std::function<bool()>& save);
+
     DataMapperUser* m_users;
     BusinessUserAccess* m_access;
 };

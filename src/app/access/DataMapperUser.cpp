@@ -28,6 +28,12 @@ KorEntity* DataMapperUser::createEntity() { return new EntityUser(entityParent()
 
 QStringList DataMapperUser::indexStatements() const { return {index("user_group_id", "(user_group_id)")}; }
 
+bool DataMapperUser::lockTable()
+{
+    KorQuery query;
+    return execute(query, "lock table " + tableName() + " in share row exclusive mode");
+}
+
 QString DataMapperUser::digest(const QString& password)
 {
     return QString::fromLatin1(QCryptographicHash::hash(password.toUtf8(), QCryptographicHash::Md5).toHex());

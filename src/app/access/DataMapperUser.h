@@ -21,6 +21,9 @@ public:
     /** For look-ups, in the letters as typed. */
     [[nodiscard]] QList<KorEntity*> search(const QString& filter);
 
+    /** Holds all other writers off until the transaction ends; they may read. */
+    [[nodiscard]] bool lockTable();
+
     /** The form in which passwords are stored and compared. */
     [[nodiscard]] static QString digest(const QString& password);
 

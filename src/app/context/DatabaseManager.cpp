@@ -1,7 +1,24 @@
 #include "app/context/DatabaseManager.h"
 
+#include <QDateTime>
 #include <QSqlError>
 #include <QTimeZone>
+
+namespace
+{
+/** The workstation's time zone by a name that the server knows too; it would refuse the connection for another one. */
+QString sessionTimeZone()
+{
+    // A file of the system's zones is a way to tell it as well.
+    const QString id = QString::fromLatin1(QTimeZone::systemTimeZoneId()).section("zoneinfo/", -1);
+    if (QTimeZone(id.toLatin1()).isValid())
+        return id;
+    const int offset = QDateTime::currentDateTime().offsetFromUtc();
+    // As POSIX writes it: what is east of Greenwich is behind it.
+    const QString hours = QTime(0, 0).addSecs(qAbs(offset)).toString("HH:mm");
+    return offset < 0 ? QString("<-%1>%1").arg(hours) : QString("<+%1>-%1").arg(hours);
+}
+} // namespace
 
 DatabaseManager::DatabaseManager(QObject* parent) : QObject(parent) {}
 
@@ -29,7 +46,7 @@ bool DatabaseManager::open(const QString& host, const QString& databaseName, con
     // over where the host names several servers, and refused otherwise.
     m_database.setConnectOptions("connect_timeout=5;tcp_user_timeout=10000;keepalives_idle=5;keepalives_interval=2;"
                                  "target_session_attrs=read-write;options=-c\\ TimeZone=" +
-                                 QString::fromLatin1(QTimeZone::systemTimeZoneId()));
+                                 sessionTimeZone());
     return m_database.open();
 }
 

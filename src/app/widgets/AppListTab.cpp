@@ -77,7 +77,6 @@ void AppListTab::on_btnEdit_clicked()
     const bool once = asksOnce(editKey());
     if (once && !hasAccess(m_serviceName, editKey()))
         return;
-    bool saved = false;
     const QList<int> ids = selectedEntityIds(grid(), m_model);
     for (int id : ids) {
         EntityPool read;
@@ -93,10 +92,9 @@ void AppListTab::on_btnEdit_clicked()
         }
         if (!editEntity(entity))
             break;
-        saved = true;
         refresh();
     }
-    if (saved)
+    if (!ids.isEmpty())
         edited();
 }
 

@@ -75,7 +75,7 @@ protected:
     virtual bool mayDelete(KorEntity*) { return true; }
     /** Called when a form has been saved and is closed, before the list is read again: printing and the like. */
     virtual void entitySaved(KorEntity*) {}
-    /** Called when the walk over the selected rows has ended and at least one of them was saved. */
+    /** Called when a walk over selected rows has ended, whatever came of it. */
     virtual void edited() {}
     /** Called after the grid got a new model: column widths and the like. */
     virtual void modelApplied() {}

@@ -113,7 +113,9 @@ QString composeTakeAwayBill(const BillData& bill) { return composeBill(bill, Bil
 void addCompany(SlipText& slip, const EntityDataPerusahaan& company, const QString& phoneLabel)
 {
     slip.centred(company.getNamaPerusahaan());
-    slip.centred(company.getAlamat());
+    const QStringList address = company.getAlamat().split('\n');
+    for (const QString& line : address)
+        slip.centred(line.trimmed());
     slip.centred(phoneLabel + company.getTelp());
     slip.line();
 }

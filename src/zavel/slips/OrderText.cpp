@@ -49,7 +49,9 @@ void addFrame(SlipText& text, const KitchenSlipData& slip, const QString& takeAw
     text.line("Member : " + memberText(order.getMember()));
     text.line("Guest  : " + order.getPemesan());
     text.line(dateLine(order.getCreatedTime().isNull() ? slip.now : order.getCreatedTime()));
-    const QString ages = "Created: " + age(order.getCreatedTime()) + " Updated : " + age(order.getUpdatedTime());
+    // An order that was never changed is as old as it is new.
+    const QDateTime updated = order.getUpdatedTime().isNull() ? order.getCreatedTime() : order.getUpdatedTime();
+    const QString ages = "Created: " + age(order.getCreatedTime()) + " Updated : " + age(updated);
     text.line(ages.left(qMax(text.columns(), 0)));
     text.line(slip.kind == TakeAwayOrder ? takeAwayLabel + QString::number(order.getId())
                                          : "Table  : " + tableText(order));

@@ -131,7 +131,7 @@ QList<EntityItemHistory*> BusinessInventory::findAllKartuStok(const ItemHistoryF
 EntityItemHistory* BusinessInventory::beginningRow(int itemId)
 {
     auto* row = new EntityItemHistory(AppDataMapper::entityParent());
-    row->setTransType(EntityItemHistory::BEGINNING_BALANCE);
+    row->setTransType(EntityItemHistory::BEGINING_BALANCE);
     // Rows that came from elsewhere may lack their balance.
     if (const EntityStokAwal* balance = read(m_balances->findByItemId(itemId), m_balances, "findAllKartuStok")) {
         row->setQtyIn(balance->getJumlah());

@@ -25,7 +25,7 @@ class EntityItemHistory : public KorEntity
 
 public:
     /** Sales are counted from the invoices and write no line; the beginning balance is never stored. */
-    enum TRANS_TYPE { PURCHASE = 1, SALE, ADJUSMENT, CREDIT_NOTE, BEGINNING_BALANCE };
+    enum TRANS_TYPE { PURCHASE = 1, SALE, ADJUSMENT, CREDIT_NOTE, BEGINING_BALANCE };
 
     using KorEntity::KorEntity;
 };

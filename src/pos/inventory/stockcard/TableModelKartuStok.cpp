@@ -28,7 +28,7 @@ QString TableModelKartuStok::typeText(int transType)
         return tr("Adjustment");
     case EntityItemHistory::CREDIT_NOTE:
         return tr("Credit Note");
-    case EntityItemHistory::BEGINNING_BALANCE:
+    case EntityItemHistory::BEGINING_BALANCE:
         return tr("Begining Balance");
     default:
         return tr("None");

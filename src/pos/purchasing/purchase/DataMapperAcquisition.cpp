@@ -1,6 +1,7 @@
 #include "pos/purchasing/purchase/DataMapperAcquisition.h"
 
 #include "kor/entity/KorMetaDataMap.h"
+#include "pos/inventory/stock/StockMovements.h"
 #include "pos/masterdata/account/DataMapperBank.h"
 #include "pos/masterdata/supplier/DataMapperSupplier.h"
 #include "pos/purchasing/purchase/DataMapperAcquisitionDetail.h"
@@ -53,6 +54,20 @@ QList<EntityAcquisition*> DataMapperAcquisition::getPendingInvoiceBySupplier(con
     paging.addFilter(" and acquisition.status <> ", QString::number(EntityAcquisition::FULL_PAID));
     paging.addSort("acquisition.due_date asc, acquisition.id", "asc");
     return castAll<EntityAcquisition>(find(&paging));
+}
+
+int DataMapperAcquisition::getQuantityAcquired(const KorEntity* item, const QDate& date)
+{
+    return getQuantityAcquired(item, QDate(), date);
+}
+
+int DataMapperAcquisition::getQuantityAcquired(const KorEntity* item, const QDate& from, const QDate& to)
+{
+    int quantity = 0;
+    KorQuery query;
+    if (!StockMovements::quantity(query, StockMovements::Acquired, item->getId(), from, to, quantity))
+        setError(query.failure());
+    return quantity;
 }
 
 QString DataMapperAcquisition::purchaseNo(int orderId)

@@ -28,6 +28,10 @@ public:
 
     /** Without lines: what is not fully paid, the first due first. */
     [[nodiscard]] QList<EntityAcquisition*> getPendingInvoiceBySupplier(const EntitySupplier* supplier);
+    /** What was bought of the item up to that day, or from a day on; both limits count. 0 with an error after a
+     * failure. */
+    [[nodiscard]] int getQuantityAcquired(const KorEntity* item, const QDate& date);
+    [[nodiscard]] int getQuantityAcquired(const KorEntity* item, const QDate& from, const QDate& to);
     [[nodiscard]] QString purchaseNo(int orderId) override;
     [[nodiscard]] KorDataMapper* mapper() override { return this; }
     /** What credit notes and payments gave for the purchase since, in whole units of the currency. */
