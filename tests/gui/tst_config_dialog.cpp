@@ -4,6 +4,7 @@
 #include "app/context/DatabaseManager.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "shell/window/ConfigDialog.h"
+#include "support/Builders.h"
 #include "support/ModalDriver.h"
 #include "support/TestDatabase.h"
 #include "zavel/tables/BusinessMeja.h"
@@ -33,6 +34,8 @@ private slots:
     void cancellingWritesNothing();
     void whatIsSavedReadsBackAndCannotBeReadInTheFile();
     void theFormatsAreSharedWithAllWorkstations();
+    void pricesInAnotherCurrencyAreAskedFor_data();
+    void pricesInAnotherCurrencyAreAskedFor();
     void savingTwiceIsNoConflictWithOneself();
     void anotherWorkstationsChangeIsTold();
     void aDatabaseWithoutFormatsIsNoReasonToComplain();
@@ -164,6 +167,44 @@ void TestConfigDialog::theFormatsAreSharedWithAllWorkstations()
     const QString stored = m_database->value("SELECT appvalue FROM appconfig").toString();
     QVERIFY(stored.contains("whatever I like"));
     QVERIFY(stored.contains("en_US"));
+}
+
+void TestConfigDialog::pricesInAnotherCurrencyAreAskedFor_data()
+{
+    QTest::addColumn<int>("answer");
+    QTest::addColumn<QString>("stored");
+    QTest::newRow("restated") << int(QMessageBox::Yes) << "en_US $ 25000 $ 7";
+    QTest::newRow("left alone") << int(QMessageBox::No) << "en_US Rp 25000 Rp 7";
+    QTest::newRow("locale kept") << int(QMessageBox::Cancel) << "id_ID Rp 25000 Rp 7";
+}
+
+void TestConfigDialog::pricesInAnotherCurrencyAreAskedFor()
+{
+    QFETCH(int, answer);
+    m_database->run("DELETE FROM stok_awal");
+    m_database->run("DELETE FROM grouped_item");
+    m_database->run("DELETE FROM item");
+    loginAsAdmin();
+    {
+        Builders make;
+        EntityItem* rice = make.item("RICE", "Rice", 25000);
+        make.openOrder(make.table("t1"), {make.line(rice, 1)});
+        m_database->run(QString("INSERT INTO stok_awal (item_id, harga_currency, harga_amount, jumlah, version) VALUES "
+                                "(%1, 'Rp', 7, 1, 1)")
+                            .arg(rice->getId()));
+    }
+    open();
+    m_dialog->findChild<QComboBox*>("txtLocale")->setCurrentText("en_US");
+    m_people->answer(QMessageBox::StandardButton(answer));
+    save();
+    QVERIFY2(m_people->lastText().startsWith("1 items and 1 open orders are priced in another currency than $."),
+             qPrintable(m_people->lastText()));
+    QTEST(m_database
+              ->value("SELECT concat_ws(' ', appvalue::json->>'locale', harga_jual_lokal_currency, "
+                      "harga_jual_lokal_amount, harga_currency, harga_amount) FROM appconfig, item JOIN stok_awal ON "
+                      "item_id = item.id WHERE appkey = 'localization'")
+              .toString(),
+          "stored");
 }
 
 void TestConfigDialog::savingTwiceIsNoConflictWithOneself()

@@ -3,6 +3,8 @@
 #include <QCoreApplication>
 #include <QDir>
 
+#include <QLocale>
+
 BusinessConfiguration::BusinessConfiguration(QObject* parent, DataMapperAppConfig* mapper)
     : KorBusinessLogic("Configuration", mapper, parent), m_configs(mapper)
 {}
@@ -42,6 +44,12 @@ EntityConfigLocalizationFormat* BusinessConfiguration::getLocalization()
     localization->setDateTimeFormat(defaultDateFormat());
     localization->setLocale(defaultLocale());
     return localization;
+}
+
+QString BusinessConfiguration::localeOfMachine()
+{
+    const QString name = QLocale::system().name();
+    return locales().contains(name) ? name : defaultLocale();
 }
 
 bool BusinessConfiguration::insertInitialData(const QString& dateFormat, const QString& locale)

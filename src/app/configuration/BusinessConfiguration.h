@@ -41,6 +41,10 @@ public:
     [[nodiscard]] static QString defaultDateFormat() { return EntityConfigLocalizationFormat::defaultDateFormat(); }
     [[nodiscard]] static QString defaultLocale() { return EntityConfigLocalizationFormat::defaultLocale(); }
 
+    /** What a shop can be set to, and the one of them that this machine goes by; the default where it is another. */
+    [[nodiscard]] static QStringList locales() { return {"en_US", "id_ID"}; }
+    [[nodiscard]] static QString localeOfMachine();
+
     /** The first rows of a new database, with these formats, or the defaults where they are empty. */
     bool insertInitialData(const QString& dateFormat = QString(), const QString& locale = QString());
 

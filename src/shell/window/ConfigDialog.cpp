@@ -6,9 +6,11 @@
 #include "app/context/DatabaseManager.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/install/KorInstallerThread.h"
+#include "pos/masterdata/item/BusinessItem.h"
 #include "shell/database/check/ReplaceQuestion.h"
 #include "shell/window/RestartStatus.h"
 #include "zavel/install/ZavelInstaller.h"
+#include "zavel/service/BusinessPenjualan.h"
 
 #include "ui_ConfigDialog.h"
 
@@ -32,7 +34,13 @@ ConfigDialog::ConfigDialog(QWidget* parent)
     m_ui->setupUi(this);
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     setWindowIcon(QIcon(":/icons/Beverage-Coffee-02.png"));
-    m_ui->txtLocale->addItems({"en_US", "id_ID"});
+    // One choice at two places: Setup lays the first prices down in its currency, General changes it later.
+    for (QComboBox* box : {m_ui->txtLocale, m_ui->ddlSetupLocale}) {
+        box->addItems(BusinessConfiguration::locales());
+        box->setCurrentText(BusinessConfiguration::localeOfMachine());
+    }
+    connect(m_ui->txtLocale, &QComboBox::currentTextChanged, m_ui->ddlSetupLocale, &QComboBox::setCurrentText);
+    connect(m_ui->ddlSetupLocale, &QComboBox::currentTextChanged, m_ui->txtLocale, &QComboBox::setCurrentText);
     connect(this, &ConfigDialog::onClearMemory, this, &ConfigDialog::onClearMemory_trigered);
     QDir().mkpath(QFileInfo(m_settingsPath).path());
     m_ui->tabWidget->setCurrentIndex(0);
@@ -100,10 +108,46 @@ void ConfigDialog::saveLocalization()
     if (!m_localization || m_localization->getId() == KorNoValue || !isConnected())
         return;
     m_localization->setDateTimeFormat(m_ui->txtDateTimeFormat->text());
-    m_localization->setLocale(m_ui->txtLocale->currentText());
+    if (m_localization->getLocale() != m_ui->txtLocale->currentText() && settleCurrencies())
+        m_localization->setLocale(m_ui->txtLocale->currentText());
     if (!m_configuration->update(m_localization))
         QMessageBox::critical(this, tr("Error"), m_configuration->takeErrors());
     m_configuration->clearErrors();
+}
+
+bool ConfigDialog::settleCurrencies()
+{
+    auto* items = service<BusinessItem>("Item");
+    auto* sales = service<BusinessPenjualan>("Sales");
+    const QString sign = QLocale(m_ui->txtLocale->currentText()).currencySymbol(QLocale::CurrencySymbol);
+    const int otherItems = items->countOfOtherCurrency(sign);
+    const int otherOrders = sales->countOpenOrdersOfOtherCurrency(sign);
+    const QString failure = items->takeErrors() + sales->takeErrors();
+    if (!failure.isEmpty()) {
+        QMessageBox::critical(this, tr("Error"), failure);
+        return false;
+    }
+    if (otherItems == 0 && otherOrders == 0)
+        return true;
+    QMessageBox box(QMessageBox::Question, tr("Question"),
+                    tr("%1 items and %2 open orders are priced in another currency than %3. Amounts of two currencies "
+                       "would be added as if they were one. Finish the open orders first; the items can be restated: "
+                       "the same figures, in %3.")
+                        .arg(otherItems)
+                        .arg(otherOrders)
+                        .arg(sign),
+                    QMessageBox::Cancel, this);
+    box.addButton(QMessageBox::Yes)->setText(tr("Restate the Items"));
+    box.addButton(QMessageBox::No)->setText(tr("Leave Them"));
+    box.button(QMessageBox::Cancel)->setText(tr("Keep the Locale"));
+    box.setDefaultButton(QMessageBox::Yes);
+    box.setEscapeButton(QMessageBox::Cancel);
+    const int answer = box.exec();
+    if (answer == QMessageBox::Yes && !items->restate(sign)) {
+        QMessageBox::critical(this, tr("Error"), items->takeErrors());
+        return false;
+    }
+    return answer == QMessageBox::Yes || answer == QMessageBox::No;
 }
 
 void ConfigDialog::on_btnSaveDBConf_clicked() { saveSettings(); }

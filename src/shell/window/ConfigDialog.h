@@ -59,6 +59,9 @@ private:
     /** False when the file could not be written; the user has been told then. */
     bool saveSettings();
     void saveLocalization();
+    /** Asks what to do about prices in another currency than that of the chosen locale; false: it is not to be saved.
+     */
+    bool settleCurrencies();
     [[nodiscard]] static bool isConnected();
     [[nodiscard]] ConnectionEdits connectionEdits() const;
     void setInstalling(bool installing);

@@ -74,6 +74,8 @@ bool DialogFastFood::isStored() const
     return stored && stored->isSaved();
 }
 
+bool DialogFastFood::beforeAccept() { return m_menu->mayAddCurrencies() && PaymentDialog::beforeAccept(); }
+
 KorEntity* DialogFastFood::getEntity()
 {
     auto* stored = heldOrNew<EntityInvoiceFastFood>();

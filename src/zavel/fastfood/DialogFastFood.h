@@ -24,6 +24,7 @@ public:
     explicit DialogFastFood(QWidget* parent = nullptr);
     ~DialogFastFood() override;
 
+    bool beforeAccept() override;
     KorEntity* getEntity() override;
     void setEntity(KorEntity* sale) override;
 

@@ -71,3 +71,10 @@ bool BusinessPenjualan::setKitchenStatus(EntityBawaPulangDetail* line, const QSt
         addError("setKitchenStatus", failure);
     return done;
 }
+
+int BusinessPenjualan::countOpenOrdersOfOtherCurrency(const QString& sign)
+{
+    const QString operation = "countOpenOrdersOfOtherCurrency";
+    return read(m_mappers.dineOrders->countOpenOfOtherCurrency(sign), m_mappers.dineOrders, operation) +
+           read(m_mappers.takeAwayOrders->countOpenOfOtherCurrency(sign), m_mappers.takeAwayOrders, operation);
+}

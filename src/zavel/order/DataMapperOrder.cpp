@@ -40,6 +40,18 @@ QList<EntityOrderDetail*> DataMapperOrderDetail::findByOrder(int orderId)
         findMany(" where " + m_orderColumn + "=:id order by " + tableName() + ".id", {{":id", orderId}}));
 }
 
+int DataMapperOrderDetail::countOrdersOfOtherCurrency(const QString& orderTable, const QString& sign)
+{
+    KorQuery query;
+    const bool read =
+        execute(query,
+                "select count(distinct o.id) from " + orderTable + " o join " + tableName() + " line on line." +
+                    m_orderColumn + " = o.id where o.status <> :done and line.price_each_currency <> :sign",
+                {{":done", int(EntityOrder::DONE)}, {":sign", sign}}) &&
+        query.next();
+    return read ? query.value(0).toInt() : -1;
+}
+
 // --- orders --------------------------------------------------------------------------------------------------------
 
 KorEntity* DataMapperOrder::findById(int id)
@@ -71,6 +83,14 @@ QList<EntityOrder*> DataMapperOrder::findOrders(const QString& tail, Bindings va
     for (EntityOrder* order : orders)
         order->setDetails(linesOf.value(order->getId()));
     return orders;
+}
+
+int DataMapperOrder::countOpenOfOtherCurrency(const QString& sign)
+{
+    const int count = m_lines->countOrdersOfOtherCurrency(tableName(), sign);
+    if (m_lines->hasError())
+        setError(m_lines->takeError());
+    return count;
 }
 
 bool DataMapperOrder::remove(KorEntity* order) { return removeWithLines(order, linesOf(order)); }

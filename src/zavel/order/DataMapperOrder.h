@@ -16,6 +16,8 @@ public:
     /** The lines of several orders in one statement, in the order in which they were entered. */
     [[nodiscard]] QList<EntityOrderDetail*> findByOrders(const QList<int>& orderIds);
     [[nodiscard]] QList<EntityOrderDetail*> findByOrder(int orderId);
+    /** Open orders of the table that have a line priced in another currency than this sign; -1 with an error. */
+    [[nodiscard]] int countOrdersOfOtherCurrency(const QString& orderTable, const QString& sign);
 
 protected:
     DataMapperOrderDetail(QObject* parent, const QString& tableName, const QString& orderColumn,
@@ -35,6 +37,8 @@ public:
 
     [[nodiscard]] KorEntity* findById(int id) override;
     bool remove(KorEntity* order) override;
+    /** Open orders with a line priced in another currency than this sign; -1 with an error. */
+    [[nodiscard]] int countOpenOfOtherCurrency(const QString& sign);
     /** Writes the status alone. */
     bool updateStatus(EntityOrder* order);
     /** Writes that the guests are served and gone, whatever was saved since the order was opened. */

@@ -18,10 +18,7 @@ namespace
 {
 constexpr int boardRowHeight = 44;
 
-QString billText(const Invoice& bill)
-{
-    return bill.getInvoiceNo() + ' ' + bill.getGrandTotal()->toCurrencyString();
-}
+QString billText(const Invoice& bill) { return bill.getInvoiceNo() + ' ' + bill.getGrandTotal()->toCurrencyString(); }
 } // namespace
 
 OrderBoard::OrderBoard(OrderKind kind, QWidget* parent)

@@ -97,6 +97,8 @@ bool OrderDialog::validate()
     return !hasError();
 }
 
+bool OrderDialog::beforeAccept() { return m_lines->mayAddCurrencies() && KorDialog::beforeAccept(); }
+
 void OrderDialog::writeTo(EntityOrder* order) const
 {
     order->setMember(m_member);

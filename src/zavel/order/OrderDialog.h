@@ -23,6 +23,7 @@ public:
     ~OrderDialog() override;
 
     bool validate() override;
+    bool beforeAccept() override;
     /** What the waiter should know of this order all the time; nothing takes the notice away. */
     void showNotice(const QString& text);
 

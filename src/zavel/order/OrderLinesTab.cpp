@@ -5,6 +5,8 @@
 
 #include "ui_OrderLinesTab.h"
 
+#include <QMessageBox>
+
 #include <QHeaderView>
 #include <QLocale>
 
@@ -32,6 +34,22 @@ QString OrderLinesTab::totalText() const
     const Money* unit = all.isEmpty() ? &nothing : all.first()->getTotal();
     return QLocale(AppContext::instance()->locale())
         .toCurrencyString(static_cast<double>(EntityOrder::totalOf(all)) / unit->factor(), unit->getCurrency());
+}
+
+bool OrderLinesTab::mayAddCurrencies()
+{
+    QStringList signs;
+    const OrderLines all = orderLines();
+    for (const EntityOrderDetail* line : all)
+        signs.append(line->getTotal()->getCurrency());
+    signs.removeDuplicates();
+    return signs.size() < 2 ||
+           QMessageBox::question(this, tr("Question"),
+                                 tr("The items are priced in %1, and the total adds them as if they were one currency. "
+                                    "The owner can restate the items under Configuration > General.")
+                                         .arg(signs.join(", ")) +
+                                     "\r\n" + tr("Do you want to save it all the same?"),
+                                 QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
 }
 
 // --- lines ---------------------------------------------------------------------------------------------------------

@@ -29,6 +29,8 @@ public:
     void setOrderLines(const OrderLines& lines) { setLines(asEntities(lines)); }
     void focusFirstControl();
 
+    /** Asks where the lines are priced in several currencies, which the total adds as if they were one. */
+    bool mayAddCurrencies();
     /** The total as a person reads it. */
     [[nodiscard]] QString totalText() const;
 

@@ -110,6 +110,9 @@ public:
     /** The order's status follows its invoice's. */
     bool updateStatusBawaPulang(EntityInvoiceBawaPulang* sale);
 
+    /** Open orders of both kinds with a line priced in another currency than this sign. */
+    [[nodiscard]] int countOpenOrdersOfOtherCurrency(const QString& sign);
+
     // The kitchen.
     /** The open orders, those on tables first, each part in its list's order; the text narrows the tables alone. */
     [[nodiscard]] QList<EntityQueue*> getQueue(const QString& text);

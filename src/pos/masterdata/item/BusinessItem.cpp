@@ -73,6 +73,16 @@ bool BusinessItem::remove(KorEntity* item)
     return false;
 }
 
+int BusinessItem::countOfOtherCurrency(const QString& sign)
+{
+    return read(m_items->countOfOtherCurrency(sign), m_items, "countOfOtherCurrency");
+}
+
+bool BusinessItem::restate(const QString& sign)
+{
+    return inOneTransaction(*this, "restate", [&] { return written(m_items->restate(sign), m_items, "restate"); });
+}
+
 QList<KorEntity*> BusinessItem::search(const QString& filter, const QString& jenisCode)
 {
     KorPaging criteria;

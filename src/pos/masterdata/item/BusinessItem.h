@@ -23,6 +23,11 @@ public:
     bool insert(KorEntity* item) override;
     bool remove(KorEntity* item) override;
 
+    /** Items with a price, cost or beginning balance in another currency than this sign; -1 with an error. */
+    [[nodiscard]] int countOfOtherCurrency(const QString& sign);
+    /** Gives all these amounts the sign, all or none; the figures stay. */
+    bool restate(const QString& sign);
+
     // The filter is a part of a code or a name, in lower case.
     /** "jenisCode" is the code of an item type, empty for all. */
     [[nodiscard]] QList<KorEntity*> search(const QString& filter, const QString& jenisCode = QString());

@@ -89,3 +89,29 @@ QList<KorEntity*> DataMapperItem::searchClass(const KorPaging& criteria)
     return findMany(tail + " and jenis = :jenis" + order,
                     {{":type", itemClass}, {":kode", code}, {":nama", name}, {":jenis", type}});
 }
+
+int DataMapperItem::countOfOtherCurrency(const QString& sign)
+{
+    KorQuery query;
+    const bool read =
+        execute(query,
+                "select count(*) from item left join stok_awal on stok_awal.item_id = item.id where :sign <> any "
+                "(array[harga_beli_currency, harga_jual_lokal_currency, coalesce(harga_jual_luar_currency, :sign), "
+                "coalesce(harga_currency, :sign)])",
+                {{":sign", sign}}) &&
+        query.next();
+    return read ? query.value(0).toInt() : -1;
+}
+
+bool DataMapperItem::restate(const QString& sign)
+{
+    KorQuery items;
+    KorQuery balances;
+    // A form that is open on one of them is told that the item has changed.
+    return execute(items,
+                   "update item set harga_beli_currency = :sign, harga_jual_lokal_currency = :sign, "
+                   "harga_jual_luar_currency = case when harga_jual_luar_currency is not null then :sign end, "
+                   "version = version + 1",
+                   {{":sign", sign}}) &&
+           execute(balances, "update stok_awal set harga_currency = :sign, version = version + 1", {{":sign", sign}});
+}

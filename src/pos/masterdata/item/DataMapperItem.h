@@ -26,6 +26,11 @@ public:
     [[nodiscard]] QList<KorEntity*> searchByType(const KorPaging& criteria);
     [[nodiscard]] QList<KorEntity*> searchServices(const KorPaging& criteria);
 
+    /** Items with an amount in another currency than this sign; -1 with an error. */
+    [[nodiscard]] int countOfOtherCurrency(const QString& sign);
+    /** Two statements; the caller has a transaction around them. */
+    [[nodiscard]] bool restate(const QString& sign);
+
 protected:
     [[nodiscard]] QString codeColumn() const override { return "item.kode"; }
     [[nodiscard]] QString nameColumn() const override { return "item.nama"; }

@@ -1,6 +1,5 @@
 #include "shell/database/wizard/ConclusionPage.h"
 
-#include "app/configuration/BusinessConfiguration.h"
 #include "app/context/AppContext.h"
 #include "shell/database/check/DatabaseCondition.h"
 #include "shell/database/tools/ClientProcess.h"
@@ -52,12 +51,13 @@ void ConclusionPage::setBusy(bool busy)
 void ConclusionPage::installFresh()
 {
     // There is no row yet that says how prices are written, but the first ones are.
-    AppContext::instance()->setLocale(BusinessConfiguration::defaultLocale());
+    const QString locale = field("localization.locale").toString();
+    AppContext::instance()->setLocale(locale);
     auto* installer = new ZavelInstaller;
     installer->setAdminUserName(field("admin.username").toString());
     installer->setAdminPassword(field("admin.password").toString());
     installer->setType(KorInstaller::FreshInstall);
-    installer->setLocale(BusinessConfiguration::defaultLocale());
+    installer->setLocale(locale);
     run(installer);
 }
 

@@ -1,9 +1,12 @@
 #include "shell/database/wizard/FreshInstallPage.h"
 
+#include "app/configuration/BusinessConfiguration.h"
 #include "shell/database/check/ReplaceQuestion.h"
 #include "shell/database/wizard/AppInstallerWizard.h"
 #include "shell/database/wizard/WizardConnection.h"
 
+#include <QComboBox>
+#include <QFormLayout>
 #include <QLineEdit>
 
 FreshInstallPage::FreshInstallPage(QWidget* parent)
@@ -18,6 +21,12 @@ FreshInstallPage::FreshInstallPage(QWidget* parent)
     m_connection.port = addPort(tr("Database Port:"), "dbserverfresh.dbport");
     m_adminName = addLine(tr("Admin Username:"), "admin.username");
     addPassword(tr("Admin Password:"), "admin.password");
+    auto* locale = new QComboBox(this);
+    locale->addItems(BusinessConfiguration::locales());
+    locale->setCurrentText(BusinessConfiguration::localeOfMachine());
+    locale->setToolTip(tr("How numbers and money are written, and in which currency the first items are priced"));
+    form()->addRow(tr("Locale (ISO 639) :"), locale);
+    registerField("localization.locale", locale, "currentText");
     m_connection.database->setToolTip(tr("The database has to exist on the server already"));
 }
 
