@@ -83,6 +83,13 @@ private slots:
         QVERIFY(error.contains("insert into meja"));
         QVERIFY(!table.isSaved());
         QVERIFY2(m_mapper->insert(&table), qPrintable(m_mapper->takeError()));
+
+        // Lost behind the statement, which saves by itself, it may have been saved.
+        m_database->run("CREATE FUNCTION hang_up() RETURNS trigger LANGUAGE plpgsql AS 'BEGIN PERFORM "
+                        "pg_terminate_backend(pg_backend_pid()); RETURN NEW; END'; CREATE TRIGGER hang_up BEFORE "
+                        "INSERT ON meja FOR EACH ROW EXECUTE FUNCTION hang_up()");
+        QVERIFY(!m_mapper->insert(&table));
+        QVERIFY(m_mapper->takeError().contains("it is not certain whether it was saved"));
     }
 
     void aTransactionThatCouldNotBeginWritesNothing()

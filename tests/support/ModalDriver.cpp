@@ -5,6 +5,8 @@
 #include <QTest>
 #include <QTimer>
 
+#include <algorithm>
+
 namespace
 {
 constexpr int lookInterval = 5;
@@ -71,9 +73,14 @@ void ModalDriver::look()
 
 void ModalDriver::press(QMessageBox* box)
 {
-    m_boxes.append({box->windowTitle(), box->text(), box->icon()});
+    m_boxes.append({box->windowTitle(), box->text(), box->icon(), box->detailedText()});
+    // The button that only opens the details answers nothing.
+    const QList<QAbstractButton*> buttons = box->buttons();
+    const auto answers = std::count_if(buttons.cbegin(), buttons.cend(), [box](QAbstractButton* one) {
+        return box->buttonRole(one) != QMessageBox::ActionRole;
+    });
     QAbstractButton* button = nullptr;
-    if (!m_answers.isEmpty() && box->buttons().size() > 1)
+    if (!m_answers.isEmpty() && answers > 1)
         button = box->button(m_answers.takeFirst());
     if (!button)
         button = box->defaultButton();

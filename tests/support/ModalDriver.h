@@ -12,6 +12,8 @@ struct SeenBox
     QString title;
     QString text;
     QMessageBox::Icon icon;
+    /** What stands behind "Show Details...". */
+    QString details;
 };
 
 /**

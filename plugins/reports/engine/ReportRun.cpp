@@ -1,5 +1,7 @@
 #include "reports/engine/ReportRun.h"
 
+#include "kor/system/KorFailure.h"
+
 #include <QRegularExpression>
 #include <QSqlDatabase>
 #include <QSqlError>
@@ -10,6 +12,14 @@
 
 namespace
 {
+/** In plain words first, and without the piece of the statement that the server quotes; on one line. */
+QString told(const QSqlError& error, const QSqlDatabase& database)
+{
+    const KorFailure::Connection connection = database.isOpen() ? KorFailure::Kept : KorFailure::Lost;
+    const QString whole = KorFailure::of(connection, error.nativeErrorCode(), error.text(), {}).told();
+    return KorToldFailure::in(whole).text().simplified();
+}
+
 constexpr int batchSize = 2000;
 
 QString newName() { return "report-" + QUuid::createUuid().toString(QUuid::WithoutBraces); }
@@ -92,7 +102,7 @@ void ReportRun::run()
         const QSqlDatabase database = connection.database();
         m_name = database.connectionName();
         if (!database.isOpen())
-            error = database.lastError().text();
+            error = told(database.lastError(), database);
         if (error.isEmpty()) {
             QSqlQuery query("select pg_backend_pid()", database);
             if (query.next())
@@ -125,7 +135,7 @@ bool ReportRun::read(int index, QString* error, bool* cutOff)
     }
     good = good && query.exec();
     if (!good) {
-        *error = query.lastError().text();
+        *error = told(query.lastError(), QSqlDatabase::database(m_name, false));
         return false;
     }
     QStringList names;
@@ -151,7 +161,7 @@ bool ReportRun::read(int index, QString* error, bool* cutOff)
         }
     }
     if (!m_cancelled && query.lastError().isValid()) {
-        *error = query.lastError().text();
+        *error = told(query.lastError(), QSqlDatabase::database(m_name, false));
         return false;
     }
     if (!batch.isEmpty())

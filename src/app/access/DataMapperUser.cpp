@@ -42,7 +42,7 @@ QString DataMapperUser::digest(const QString& password)
 void DataMapperUser::bindInsert(KorQuery& query, KorEntity* entity)
 {
     AppDataMapper::bindInsert(query, entity);
-    query.bindValue(passwordColumn, digest(static_cast<EntityUser*>(entity)->getPassword()));
+    query.bindSecret(passwordColumn, digest(static_cast<EntityUser*>(entity)->getPassword()));
 }
 
 void DataMapperUser::bindUpdate(KorQuery& query, KorEntity* entity)
@@ -55,6 +55,7 @@ void DataMapperUser::bindUpdate(KorQuery& query, KorEntity* entity)
     if (const auto* stored = static_cast<EntityUser*>(findById(user->getId())))
         user->setPassword(stored->getPassword());
     AppDataMapper::bindUpdate(query, user);
+    query.bindSecret(passwordColumn, user->getPassword());
 }
 
 EntityUser* DataMapperUser::findByUsername(const QString& username)

@@ -8,6 +8,7 @@
 #include "app/access/TableModelUserAccess.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/persistence/KorDataMapper.h"
+#include "kor/widgets/KorErrorBox.h"
 
 #include <QBoxLayout>
 #include <QComboBox>
@@ -78,7 +79,7 @@ void TabUserAccess::fillChoices()
     m_businesses->setCurrentRow(0);
     const QString errors = groups->takeErrors() + permissions->takeErrors();
     if (!errors.isEmpty())
-        QMessageBox::critical(this, tr("Error"), errors);
+        KorErrorBox::critical(this, tr("Error"), errors);
 }
 
 void TabUserAccess::choiceChanged()
@@ -105,7 +106,7 @@ QList<KorEntity*> TabUserAccess::readRows(const QString& filter)
     auto* permissions = service<BusinessPermission>("Permission");
     const QList<KorEntity*> rows = permissions->getPermissionByBusiness(business->data(Qt::UserRole).toInt());
     if (permissions->hasError())
-        QMessageBox::critical(this, tr("Error"), permissions->takeErrors());
+        KorErrorBox::critical(this, tr("Error"), permissions->takeErrors());
     return rows;
 }
 

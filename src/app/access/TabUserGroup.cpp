@@ -3,6 +3,7 @@
 #include "app/access/BusinessUser.h"
 #include "app/context/EntityUserGroup.h"
 #include "kor/business/KorServiceDirectory.h"
+#include "kor/widgets/KorErrorBox.h"
 
 #include <QMessageBox>
 
@@ -25,7 +26,7 @@ bool TabUserGroup::mayDelete(KorEntity* entity)
     auto* users = service<BusinessUser>("User");
     const bool inUse = !users->findByGroup(entity->getId()).isEmpty();
     if (users->hasError())
-        QMessageBox::critical(this, tr("Error"), users->takeErrors());
+        KorErrorBox::critical(this, tr("Error"), users->takeErrors());
     else if (inUse)
         QMessageBox::critical(this, tr("Error"),
                               tr("Can not delete user groupd with id: %1, it is still in use").arg(entity->getId()));

@@ -52,7 +52,7 @@ bool DataMapperHistory::createTable(int mode)
     KorQuery query;
     if (query.exec(text))
         return true;
-    setError(query.failure() + "\r\n" + text);
+    setError(query.failureOf(text));
     return false;
 }
 
@@ -76,7 +76,7 @@ bool DataMapperHistory::save(KorEntity* entity, int userId, int operationId)
     query.bindValue(6, operationId);
     if (query.exec())
         return true;
-    setError(query.failure() + "\r\n" + lastQueryWithValues(query));
+    setError(query.failureWithStatement());
     return false;
 }
 

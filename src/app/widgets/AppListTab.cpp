@@ -6,6 +6,7 @@
 #include "kor/entity/KorEntity.h"
 #include "kor/widgets/KorDialog.h"
 #include "kor/widgets/KorEntityModel.h"
+#include "kor/widgets/KorErrorBox.h"
 
 #include "ui_ListPage.h"
 
@@ -150,9 +151,9 @@ void AppListTab::showServiceError(bool critical)
 {
     const QString text = m_business->takeErrors();
     if (critical)
-        QMessageBox::critical(this, tr("Error"), text);
+        KorErrorBox::critical(this, tr("Error"), text);
     else
-        QMessageBox::information(this, tr("Error"), text);
+        KorErrorBox::information(this, tr("Error"), text);
 }
 
 void AppListTab::tellNotFound(const QString& text)

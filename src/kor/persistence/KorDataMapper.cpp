@@ -210,7 +210,7 @@ bool KorDataMapper::update(KorEntity* entity)
         return true;
 
     qDebug() << "update failed";
-    m_errorText = "update failed" + lastQueryWithValues(query);
+    m_errorText = KorFailure::of(KorFailure::Kept, {}, "update failed", query.statementWithValues()).told({});
     explainFailedWrite(entity);
     return false;
 }
@@ -233,7 +233,7 @@ bool KorDataMapper::remove(KorEntity* entity)
 
 bool KorDataMapper::failWrite(const KorQuery& query)
 {
-    setError(query.failure() + "\r\n" + lastQueryWithValues(query));
+    setError(query.failureWithStatement());
     return false;
 }
 
@@ -335,7 +335,7 @@ bool KorDataMapper::createTableBase(int mode)
     KorQuery query;
     if (query.exec(text))
         return true;
-    setError(query.failure() + "\r\n" + text);
+    setError(query.failureOf(text));
     return false;
 }
 

@@ -1,8 +1,8 @@
 #include "kor/persistence/KorDatabase.h"
 
 #include "kor/persistence/KorStatementCache.h"
+#include "kor/system/KorFailure.h"
 
-#include <QSqlDriver>
 #include <QSqlError>
 #include <QThread>
 #include <QThreadStorage>
@@ -64,14 +64,7 @@ QSqlDatabase KorDatabase::current()
     return workerConnections.localData()->database();
 }
 
-QString KorDatabase::failure(const QSqlDriver* driver, const QString& driverText)
-{
-    if (driver && driver->isOpen())
-        return driverText;
-    return tr("The connection to the database is lost. Please try again in a moment; if that does not help, see "
-              "whether the database server is running.") +
-           "\r\n\r\n" + driverText;
-}
+bool KorDatabase::isInTransaction() { return openTransactions > 0; }
 
 KorTransaction::KorTransaction() : m_database(KorDatabase::current()), m_open(m_database.transaction())
 {
@@ -107,12 +100,11 @@ bool KorTransaction::rollback()
 
 QString KorTransaction::failure() const
 {
-    const QString driverText = m_database.lastError().text();
-    if (!m_unsure)
-        return KorDatabase::failure(m_database.driver(), driverText);
-    return KorDatabase::tr("The connection to the database was lost at the very moment of saving, so it is not certain "
-                           "whether it was saved. Please look for it before you save it again.") +
-           "\r\n\r\n" + driverText;
+    const QSqlError error = m_database.lastError();
+    const KorFailure::Connection connection = m_unsure              ? KorFailure::LostWhileSaving
+                                              : m_database.isOpen() ? KorFailure::Kept
+                                                                    : KorFailure::Lost;
+    return KorFailure::of(connection, error.nativeErrorCode(), error.text(), {}).told();
 }
 
 void KorTransaction::end()

@@ -7,8 +7,6 @@
 /** The way to the program's connection from any thread. */
 class KorDatabase
 {
-    Q_DECLARE_TR_FUNCTIONS(KorDatabase)
-
 public:
     /**
      * The default connection on the thread of the application; on any other thread a clone of it, opened there on
@@ -19,8 +17,8 @@ public:
     /** True on the application's own thread, where the default connection and the entity pool live. */
     [[nodiscard]] static bool isApplicationThread();
 
-    /** The driver's words for a failure; on a lost connection behind a sentence for the person at the till. */
-    [[nodiscard]] static QString failure(const QSqlDriver* driver, const QString& driverText);
+    /** True while a KorTransaction of this thread is under way. */
+    [[nodiscard]] static bool isInTransaction();
 };
 
 /**
@@ -39,7 +37,9 @@ public:
     [[nodiscard]] bool isConnected() const { return m_database.isOpen(); }
     bool commit();
     bool rollback();
-    /** Why it could not begin or end. Where the connection went while it ended, nobody knows whether it stands. */
+    /** True when the connection went while it ended: nobody knows whether it stands. */
+    [[nodiscard]] bool isUnsure() const { return m_unsure; }
+    /** Why it could not begin or end. */
     [[nodiscard]] QString failure() const;
 
 private:

@@ -19,7 +19,7 @@ bool KorMigration::run(const QStringList& statements)
     for (const QString& statement : statements) {
         KorQuery query;
         if (!query.exec(statement)) {
-            m_errorText = query.failure() + "\r\n" + lastQueryWithValues(query);
+            m_errorText = query.failureWithStatement();
             failures.append(m_errorText);
             succeeded = false;
         }

@@ -3,8 +3,10 @@
 #include "kor/persistence/KorDatabase.h"
 #include "kor/persistence/KorStatementCache.h"
 
-#include <QSqlError>
+#include <QRegularExpression>
+#include <QSqlDriver>
 
+#include <algorithm>
 #include <atomic>
 
 namespace
@@ -15,14 +17,19 @@ std::atomic<quint64> sentStatements{0};
 constexpr char planOutdated[] = "0A000";
 constexpr char statementUnknown[] = "26000";
 
-bool changesSchema(const QString& statement)
+bool beginsWith(const QString& statement, std::initializer_list<const char*> words)
 {
-    for (const char* word : {"create", "alter", "drop"}) {
-        if (statement.startsWith(QLatin1String(word), Qt::CaseInsensitive))
-            return true;
-    }
-    return false;
+    return std::any_of(words.begin(), words.end(), [&statement](const char* word) {
+        return statement.startsWith(QLatin1String(word), Qt::CaseInsensitive);
+    });
 }
+
+bool changesSchema(const QString& statement) { return beginsWith(statement, {"create", "alter", "drop"}); }
+
+bool writes(const QString& statement) { return beginsWith(statement, {"insert", "update", "delete"}); }
+
+/** What stands in the place of a secret. */
+QString hidden() { return QStringLiteral("***"); }
 } // namespace
 
 KorQuery::KorQuery(const KorDataMapper* selector) : QSqlQuery(KorDatabase::current()), m_selector(selector) {}
@@ -40,7 +47,8 @@ void KorQuery::letGo()
 bool KorQuery::prepare(const QString& statement)
 {
     letGo();
-    m_prepareError.clear();
+    m_prepareError = QSqlError();
+    m_secrets.clear();
     m_statement = KorStatementCache::ofThread().take(statement, driver());
     m_reused = m_statement != nullptr;
     if (m_reused) {
@@ -52,7 +60,7 @@ bool KorQuery::prepare(const QString& statement)
         return true;
     }
     if (!QSqlQuery::prepare(statement)) {
-        m_prepareError = lastError().text();
+        m_prepareError = lastError();
         return false;
     }
     // Made with its query: one that stands alone for a moment would ask for the default connection, on any thread.
@@ -64,7 +72,7 @@ bool KorQuery::prepare(const QString& statement)
 bool KorQuery::exec()
 {
     ++sentStatements;
-    if (!m_prepareError.isEmpty())
+    if (m_prepareError.isValid())
         return false;
     return QSqlQuery::exec() || (m_reused && prepareAgain());
 }
@@ -80,8 +88,10 @@ bool KorQuery::prepareAgain()
     for (int i = 0; i < values.size(); ++i)
         positional.append(boundValue(i));
     const QString text = m_statement->text;
+    const QStringList secrets = m_secrets;
     KorStatementCache::ofThread().abandon(std::move(m_statement));
     if (prepare(text)) {
+        m_secrets = secrets;
         // Question marks have names as well once they are bound, but the text does not hold them.
         if (!values.isEmpty() && text.contains(values.firstKey())) {
             for (auto value = values.begin(); value != values.end(); ++value)
@@ -95,7 +105,8 @@ bool KorQuery::prepareAgain()
             return true;
     }
     // Inside a transaction the second try only says that the transaction has failed.
-    m_prepareError = first.text();
+    m_secrets = secrets;
+    m_prepareError = first;
     return false;
 }
 
@@ -103,7 +114,8 @@ bool KorQuery::exec(const QString& statement)
 {
     letGo();
     m_layout.clear();
-    m_prepareError.clear();
+    m_prepareError = QSqlError();
+    m_secrets.clear();
     ++sentStatements;
     if (changesSchema(statement))
         KorStatementCache::schemaChanged();
@@ -118,9 +130,34 @@ bool KorQuery::exec(const QString& statement)
     return true;
 }
 
-QString KorQuery::failure() const
+QString KorQuery::failure() const { return failureOf({}); }
+
+QString KorQuery::failureOf(const QString& statement) const
 {
-    return KorDatabase::failure(driver(), m_prepareError.isEmpty() ? lastError().text() : m_prepareError);
+    const QSqlError error = m_prepareError.isValid() ? m_prepareError : lastError();
+    QString words = error.text();
+    for (const QString& secret : m_secrets)
+        words.replace(secret, hidden());
+    // A quoted piece of a statement may begin or end in the middle of a secret.
+    if (!m_secrets.isEmpty())
+        words.remove(QRegularExpression("^LINE \\d+: .*$", QRegularExpression::MultilineOption));
+    return KorFailure::of(connection(), error.nativeErrorCode(), words, statement).told();
+}
+
+KorFailure::Connection KorQuery::connection() const
+{
+    if (driver() && driver()->isOpen())
+        return KorFailure::Kept;
+    // Outside a transaction a statement saves by itself, and only its answer may have been lost.
+    const bool mayBeDone = !m_prepareError.isValid() && !KorDatabase::isInTransaction() && writes(lastQuery());
+    return mayBeDone ? KorFailure::LostWhileSaving : KorFailure::Lost;
+}
+
+void KorQuery::bindSecret(int position, const QString& value)
+{
+    bindValue(position, value);
+    if (!value.isEmpty())
+        m_secrets.append(value);
 }
 
 KorResultLayout& KorQuery::layout() { return m_statement ? m_statement->layout : m_layout; }
@@ -136,8 +173,11 @@ const KorRowPlan& KorQuery::plan(const KorDataMapper& mapper, const QString& ali
     return layout().plan(*this, mapper, alias);
 }
 
-QString KorQuery::textWithValues(const QSqlQuery& query)
+QString KorQuery::textWithValues(const QSqlQuery& query, const QStringList& secrets)
 {
+    const auto shown = [&secrets](const QVariant& value) {
+        return secrets.contains(value.toString()) ? hidden() : value.toString();
+    };
     QString text = query.lastQuery();
     const QMap<QString, QVariant> values = query.boundValues();
     const bool positional = text.contains('?');
@@ -147,7 +187,7 @@ QString KorQuery::textWithValues(const QSqlQuery& query)
             position = text.indexOf('?', position);
             if (position < 0)
                 break;
-            const QString value = query.boundValue(i).toString();
+            const QString value = shown(query.boundValue(i));
             text.replace(position, 1, value);
             position += value.size();
         }
@@ -156,7 +196,7 @@ QString KorQuery::textWithValues(const QSqlQuery& query)
     // From the last name to the first, so that ":prm10" is filled before ":prm1".
     for (auto it = values.constEnd(); it != values.constBegin();) {
         --it;
-        text.replace(it.key(), it.value().toString());
+        text.replace(it.key(), shown(it.value()));
     }
     return text;
 }

@@ -1,8 +1,11 @@
 #pragma once
 
 #include "kor/persistence/KorResultLayout.h"
+#include "kor/system/KorFailure.h"
 
+#include <QSqlError>
 #include <QSqlQuery>
+#include <QStringList>
 #include <QVariant>
 
 #include <memory>
@@ -28,8 +31,16 @@ public:
     /** Runs the text at once; with several statements in it, all their results count. */
     bool exec(const QString& statement);
 
+    /** Binds a value that no text may show: neither statementWithValues() nor failure() does. */
+    void bindSecret(int position, const QString& value);
+
     /** What went wrong, in the database's words; a failed prepare says more than the exec behind it. */
     [[nodiscard]] QString failure() const;
+    /** The same, with this statement on a line of its own. */
+    [[nodiscard]] QString failureOf(const QString& statement) const;
+    /** The same, with the statement that was run and its values. */
+    [[nodiscard]] QString failureWithStatement() const { return failureOf(statementWithValues()); }
+    [[nodiscard]] QString statementWithValues() const { return textWithValues(*this, m_secrets); }
     [[nodiscard]] const KorDataMapper* selector() const { return m_selector; }
 
     /** The value under this column name or alias, invalid when the result has no such column. */
@@ -37,7 +48,7 @@ public:
     [[nodiscard]] const KorRowPlan& plan(const KorDataMapper& mapper, const QString& alias);
 
     /** The text of the last statement with the bound values in the places of their placeholders; for messages. */
-    [[nodiscard]] static QString textWithValues(const QSqlQuery& query);
+    [[nodiscard]] static QString textWithValues(const QSqlQuery& query, const QStringList& secrets = {});
     /** How many statements the program has sent so far. */
     [[nodiscard]] static quint64 statementCount();
 
@@ -45,9 +56,12 @@ private:
     [[nodiscard]] KorResultLayout& layout();
     void letGo();
     bool prepareAgain();
+    [[nodiscard]] KorFailure::Connection connection() const;
 
     const KorDataMapper* m_selector;
-    QString m_prepareError;
+    // Says more than what was tried behind it; no error where the statement could be prepared.
+    QSqlError m_prepareError;
+    QStringList m_secrets;
     // The prepared statement in use; it shares its query with this one.
     std::unique_ptr<KorStatement> m_statement;
     bool m_reused = false;

@@ -2,18 +2,20 @@
 
 #include "kor/entity/KorEntity.h"
 #include "kor/widgets/KorButtonKeys.h"
+#include "kor/widgets/KorErrorBox.h"
+#include "kor/widgets/KorTextGuard.h"
 #include "kor/widgets/KorViewMemory.h"
 
 #include <QAbstractButton>
 #include <QDialogButtonBox>
 #include <QIcon>
 #include <QKeyEvent>
-#include <QMessageBox>
 #include <QTimer>
 
 KorDialog::KorDialog(QWidget* parent) : QDialog(parent)
 {
     KorButtonKeys::watch();
+    KorTextGuard::watch();
     // No field exists yet, so the filter reaches none and Return keeps pressing the default button.
     const QList<QWidget*> fields = findChildren<QWidget*>();
     for (QWidget* field : fields)
@@ -85,7 +87,7 @@ void KorDialog::done(int result)
     if (!validate()) {
         const QString text = composeErrors();
         if (!text.isEmpty())
-            QMessageBox::critical(this, tr("Error"), text);
+            KorErrorBox::critical(this, tr("Error"), text);
         if (!m_errorFields.isEmpty())
             m_errorFields.first()->setFocus();
         return;
@@ -131,7 +133,7 @@ bool KorDialog::requireUnused(QWidget* field, const KorEntity* found, const QStr
     return false;
 }
 
-void KorDialog::showError(const QString& text) { QMessageBox::critical(this, tr("Error"), text); }
+void KorDialog::showError(const QString& text) { KorErrorBox::critical(this, tr("Error"), text); }
 
 void KorDialog::makeTouchable(const QDialogButtonBox* buttons)
 {

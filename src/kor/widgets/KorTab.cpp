@@ -5,6 +5,7 @@
 #include "kor/widgets/KorEmptyHint.h"
 #include "kor/widgets/KorEntityModel.h"
 #include "kor/widgets/KorSortFilterProxyModel.h"
+#include "kor/widgets/KorTextGuard.h"
 #include "kor/widgets/KorViewMemory.h"
 
 #include <QAbstractButton>
@@ -110,7 +111,11 @@ bool startsAtCurrentRow(const QTableView* view, const QKeyEvent& key)
 }
 } // namespace
 
-KorTab::KorTab(QWidget* parent) : QWidget(parent) { KorButtonKeys::watch(); }
+KorTab::KorTab(QWidget* parent) : QWidget(parent)
+{
+    KorButtonKeys::watch();
+    KorTextGuard::watch();
+}
 
 bool KorTab::isBusy(const QWidget* page)
 {

@@ -4,6 +4,7 @@
 #include "app/context/EntityPool.h"
 #include "app/context/EntityUser.h"
 #include "kor/business/KorServiceDirectory.h"
+#include "kor/widgets/KorErrorBox.h"
 #include "shell/dashboard/DashboardPage.h"
 #include "zavel/list/EntitySalesSummaryInfo.h"
 #include "zavel/list/EntitySoldItem.h"
@@ -18,7 +19,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLocale>
-#include <QMessageBox>
 #include <QTimer>
 #include <QWebFrame>
 
@@ -88,7 +88,7 @@ void TabDashboard::showEvent(QShowEvent* event)
 void TabDashboard::tellErrors()
 {
     if (m_sales->hasError())
-        QMessageBox::critical(this, tr("Error"), m_sales->takeErrors());
+        KorErrorBox::critical(this, tr("Error"), m_sales->takeErrors());
 }
 
 QString TabDashboard::getUsername() const

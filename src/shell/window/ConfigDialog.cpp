@@ -6,6 +6,7 @@
 #include "app/context/DatabaseManager.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/install/KorInstallerThread.h"
+#include "kor/widgets/KorErrorBox.h"
 #include "pos/masterdata/item/BusinessItem.h"
 #include "shell/database/check/ReplaceQuestion.h"
 #include "shell/window/RestartStatus.h"
@@ -111,7 +112,7 @@ void ConfigDialog::saveLocalization()
     if (m_localization->getLocale() != m_ui->txtLocale->currentText() && settleCurrencies())
         m_localization->setLocale(m_ui->txtLocale->currentText());
     if (!m_configuration->update(m_localization))
-        QMessageBox::critical(this, tr("Error"), m_configuration->takeErrors());
+        KorErrorBox::critical(this, tr("Error"), m_configuration->takeErrors());
     m_configuration->clearErrors();
 }
 
@@ -124,7 +125,7 @@ bool ConfigDialog::settleCurrencies()
     const int otherOrders = sales->countOpenOrdersOfOtherCurrency(sign);
     const QString failure = items->takeErrors() + sales->takeErrors();
     if (!failure.isEmpty()) {
-        QMessageBox::critical(this, tr("Error"), failure);
+        KorErrorBox::critical(this, tr("Error"), failure);
         return false;
     }
     if (otherItems == 0 && otherOrders == 0)
@@ -144,7 +145,7 @@ bool ConfigDialog::settleCurrencies()
     box.setEscapeButton(QMessageBox::Cancel);
     const int answer = box.exec();
     if (answer == QMessageBox::Yes && !items->restate(sign)) {
-        QMessageBox::critical(this, tr("Error"), items->takeErrors());
+        KorErrorBox::critical(this, tr("Error"), items->takeErrors());
         return false;
     }
     return answer == QMessageBox::Yes || answer == QMessageBox::No;

@@ -8,6 +8,7 @@
 #include "app/context/EntityPool.h"
 #include "app/context/EntityUser.h"
 #include "kor/business/KorServiceDirectory.h"
+#include "kor/widgets/KorErrorBox.h"
 #include "kor/widgets/KorPluginTabInterface.h"
 #include "kor/widgets/KorTab.h"
 #include "pos/masterdata/company/BusinessDataPerusahaan.h"
@@ -231,7 +232,7 @@ void MainWindow::on_actionPerusahaan_triggered()
     EntityPool read;
     const EntityPoolScope scope(read);
     auto* company = service<BusinessDataPerusahaan>("Company Profile");
-    const auto showFailure = [this, company] { QMessageBox::critical(this, tr("Error"), company->takeErrors()); };
+    const auto showFailure = [this, company] { KorErrorBox::critical(this, tr("Error"), company->takeErrors()); };
     DialogDataPerusahaan dialog(this);
     if (EntityDataPerusahaan* profile = company->getData())
         dialog.setEntity(profile);
@@ -397,7 +398,7 @@ void MainWindow::checkConversion()
     if (answer == QMessageBox::Yes)
         on_actionConverter_triggered();
     else if (answer == QMessageBox::Ignore && !mark.remove())
-        QMessageBox::critical(this, tr("Error"), m_configuration->takeErrors());
+        KorErrorBox::critical(this, tr("Error"), m_configuration->takeErrors());
 }
 
 void MainWindow::showInfo(const QString& text) { QMessageBox::information(this, tr("Error"), text); }

@@ -7,6 +7,7 @@
 #include "app/context/ConnectionSettings.h"
 #include "app/context/DatabaseManager.h"
 #include "kor/business/KorServiceDirectory.h"
+#include "kor/widgets/KorTextGuard.h"
 #include "kor/widgets/KorViewMemory.h"
 #include "shell/database/check/DatabaseCondition.h"
 #include "shell/database/wizard/AppInstallerWizard.h"
@@ -36,6 +37,7 @@ ZavelApplication::ZavelApplication(int& argc, char** argv)
     : QApplication(sharpOnDenseScreens(argc), argv), m_dataDir(QFileInfo(ConnectionSettings::defaultPath()).path())
 {
     HouseStyle::apply(*this);
+    KorTextGuard::watch();
     // For the messages that stand alone before the first window.
     setWindowIcon(QIcon(":/icons/Beverage-Coffee-02.png"));
     m_dataDir.mkpath(".");

@@ -6,6 +6,8 @@
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/persistence/KorConnectionProbe.h"
 #include "kor/persistence/KorDatabase.h"
+#include "kor/system/KorFailure.h"
+#include "kor/widgets/KorErrorBox.h"
 #include "kor/widgets/KorSortFilterProxyModel.h"
 #include "zavel/dinein/EntityMakanDitempatDetail.h"
 #include "zavel/kitchen/EntityQueue.h"
@@ -217,7 +219,8 @@ void TabPesananMasuk::refresh(Selection selection)
 void TabPesananMasuk::serverAnswered(bool reachable)
 {
     if (!reachable) {
-        notUpToDate(KorDatabase::failure(nullptr, QString()).trimmed());
+        const KorFailure lost = KorFailure::of(KorFailure::Lost, {}, {}, {});
+        notUpToDate(lost.sentence + ' ' + lost.advice);
     } else if (!m_busy) {
         const QScopedValueRollback<bool> busy(m_busy, true);
         reload(Select);
@@ -273,7 +276,8 @@ void TabPesananMasuk::notUpToDate(const QString& reason)
 QMessageBox* TabPesananMasuk::tell(const QString& failure)
 {
     // The ticks go on behind it, since nobody may be there to close it.
-    auto* box = new QMessageBox(QMessageBox::Critical, tr("Error"), failure, QMessageBox::Ok, this);
+    auto* box = new QMessageBox(QMessageBox::Critical, tr("Error"), QString(), QMessageBox::Ok, this);
+    KorErrorBox::fill(box, failure);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->open();
     return box;

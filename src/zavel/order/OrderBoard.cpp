@@ -2,6 +2,7 @@
 
 #include "app/context/AccessCheck.h"
 #include "kor/business/KorServiceDirectory.h"
+#include "kor/widgets/KorErrorBox.h"
 #include "pos/invoice/EntityInvoiceLink.h"
 #include "zavel/order/OrderBoardModel.h"
 #include "zavel/order/OrderDialog.h"
@@ -193,10 +194,10 @@ bool OrderBoard::tellOfBills(int orderId, OrderDialog* form)
     return true;
 }
 
-void OrderBoard::tell(const QString& text) { QMessageBox::information(this, tr("Info"), text); }
+void OrderBoard::tell(const QString& text) { KorErrorBox::information(this, tr("Info"), text); }
 
 bool OrderBoard::failed(KorBusinessLogic* service)
 {
-    QMessageBox::critical(this, tr("Error"), service->takeErrors());
+    KorErrorBox::critical(this, tr("Error"), service->takeErrors());
     return false;
 }

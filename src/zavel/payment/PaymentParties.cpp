@@ -2,13 +2,13 @@
 
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/widgets/KorDialog.h"
+#include "kor/widgets/KorErrorBox.h"
 #include "pos/masterdata/account/AccountField.h"
 #include "pos/masterdata/agent/AgentTextBox.h"
 #include "pos/masterdata/employee/EmployeeTextBox.h"
 #include "pos/masterdata/member/MemberTextBox.h"
 
 #include <QLabel>
-#include <QMessageBox>
 
 namespace
 {
@@ -82,7 +82,7 @@ void PaymentParties::showDefaultAccount()
     auto* accounts = service<BusinessBank>("Bank");
     m_account->show(accounts->cashOnHand());
     if (accounts->hasError())
-        QMessageBox::critical(m_form, KorDialog::tr("Error"), accounts->takeErrors());
+        KorErrorBox::critical(m_form, KorDialog::tr("Error"), accounts->takeErrors());
 }
 
 void PaymentParties::showAccount(const QString& code) { m_account->showCode(code); }

@@ -4,6 +4,7 @@
 #include "app/context/AppContext.h"
 #include "app/context/EntityUser.h"
 #include "kor/business/KorServiceDirectory.h"
+#include "kor/widgets/KorErrorBox.h"
 #include "pos/masterdata/company/BusinessDataPerusahaan.h"
 #include "pos/masterdata/company/EntityDataPerusahaan.h"
 #include "pos/printing/configuration/BusinessPrinterConfig.h"
@@ -21,7 +22,6 @@
 #include "zavel/takeaway/EntityInvoiceBawaPulang.h"
 
 #include <QApplication>
-#include <QMessageBox>
 
 namespace
 {
@@ -212,5 +212,5 @@ bool ZavelReportFactory::showErrors(const QList<KorBusinessLogic*>& services)
 
 void ZavelReportFactory::showError(const QString& text)
 {
-    QMessageBox::critical(QApplication::activeWindow(), tr("Error"), text);
+    KorErrorBox::critical(QApplication::activeWindow(), tr("Error"), text);
 }

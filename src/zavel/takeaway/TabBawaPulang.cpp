@@ -3,6 +3,7 @@
 #include "app/context/AccessCheck.h"
 #include "app/context/EntityPool.h"
 #include "app/persistence/AppDocumentLines.h"
+#include "kor/widgets/KorErrorBox.h"
 #include "zavel/service/BusinessPenjualan.h"
 #include "zavel/takeaway/DialogBawaPulang.h"
 #include "zavel/takeaway/DialogBayarBawaPulang.h"
@@ -57,7 +58,7 @@ void TabBawaPulang::on_btnAdd_clicked()
         order = static_cast<EntityBawaPulang*>(form.getEntity());
         if (sales()->insertNewOrder(order))
             return true;
-        QMessageBox::information(this, tr("Error"), sales()->takeErrors());
+        KorErrorBox::information(this, tr("Error"), sales()->takeErrors());
         return false;
     });
     if (form.exec() == QDialog::Accepted)

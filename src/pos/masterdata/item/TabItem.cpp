@@ -1,13 +1,13 @@
 #include "pos/masterdata/item/TabItem.h"
 
 #include "kor/business/KorServiceDirectory.h"
+#include "kor/widgets/KorErrorBox.h"
 #include "pos/masterdata/item/ItemStock.h"
 #include "pos/masterdata/itemtype/BusinessJenisItem.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QMessageBox>
 #include <QTableView>
 
 TabItem::TabItem(QWidget* parent) : AppFamilyTab({tr("Items"), "tblItem", "Item"}, parent), m_types(new QComboBox(this))
@@ -35,7 +35,7 @@ void TabItem::fillTypes()
         m_types->addItem(type->getNama(), type->getKode());
     }
     if (types->hasError())
-        QMessageBox::critical(this, tr("Error"), types->takeErrors());
+        KorErrorBox::critical(this, tr("Error"), types->takeErrors());
 }
 
 QList<KorEntity*> TabItem::readRows(const QString& filter)
@@ -49,7 +49,7 @@ KorEntityModel* TabItem::createModel(const QList<KorEntity*>& rows)
     auto* model = new TableModelItem(rows, this);
     model->setStock(qobject_cast<ItemStock*>(inventory)->quantitiesOnHand(QDate::currentDate()));
     if (inventory->hasError())
-        QMessageBox::critical(this, tr("Error"), inventory->takeErrors());
+        KorErrorBox::critical(this, tr("Error"), inventory->takeErrors());
     return model;
 }
 

@@ -1,13 +1,12 @@
 #include "pos/printing/configuration/DialogFilterJenisItem.h"
 
 #include "kor/business/KorServiceDirectory.h"
+#include "kor/widgets/KorErrorBox.h"
 #include "kor/widgets/KorSortFilterProxyModel.h"
 #include "pos/masterdata/itemtype/BusinessJenisItem.h"
 #include "pos/masterdata/itemtype/TableModelJenisItem.h"
 
 #include "ui_DialogFilterJenisItem.h"
-
-#include <QMessageBox>
 
 namespace
 {
@@ -22,7 +21,7 @@ DialogFilterJenisItem::DialogFilterJenisItem(const QString& codes, QWidget* pare
     const EntityPoolScope scope(m_types);
     m_model = new TableModelJenisItem(types->findAll(QString()), this);
     if (types->hasError())
-        QMessageBox::critical(this, tr("Error"), types->takeErrors());
+        KorErrorBox::critical(this, tr("Error"), types->takeErrors());
     m_proxy = new KorSortFilterProxyModel(this);
     m_proxy->setSourceModel(m_model);
     m_ui->tblJenisItem->setModel(m_proxy);

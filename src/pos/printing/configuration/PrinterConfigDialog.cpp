@@ -3,12 +3,12 @@
 #include "app/context/EntityPool.h"
 #include "app/widgets/AppNumberEdit.h"
 #include "kor/business/KorServiceDirectory.h"
+#include "kor/widgets/KorErrorBox.h"
 #include "pos/printing/configuration/EntityConfigPrinter.h"
 #include "pos/printing/printer/BusinessPrinterType.h"
 #include "pos/printing/printer/SlipSpooler.h"
 
 #include <QComboBox>
-#include <QMessageBox>
 
 namespace
 {
@@ -70,4 +70,4 @@ void PrinterConfigDialog::readPrinter(EntityConfigPrinter& config) const
     config.setNoOfBlankLines(QString::number(qRound(m_fields.blankLines->value())));
 }
 
-void PrinterConfigDialog::showSaveError(const QString& text) { QMessageBox::critical(this, tr("Error!"), text); }
+void PrinterConfigDialog::showSaveError(const QString& text) { KorErrorBox::critical(this, tr("Error!"), text); }

@@ -5,10 +5,10 @@
 #include "kor/entity/KorEntity.h"
 #include "kor/widgets/KorDialog.h"
 #include "kor/widgets/KorEntityModel.h"
+#include "kor/widgets/KorErrorBox.h"
 
 #include <QHeaderView>
 #include <QLabel>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QTableView>
 #include <QVBoxLayout>
@@ -53,7 +53,7 @@ void SelectDocumentTab::refresh()
         rows = readRows();
     }
     if (m_documents->hasError())
-        QMessageBox::critical(this, KorDialog::tr("Error"), m_documents->takeErrors());
+        KorErrorBox::critical(this, KorDialog::tr("Error"), m_documents->takeErrors());
     const KorEntityModel* former = m_model;
     m_model = createModel(rows);
     applyModel(m_grid, m_model);

@@ -3,6 +3,7 @@
 #include "kor/business/KorBusinessLogic.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/widgets/KorDialog.h"
+#include "kor/widgets/KorErrorBox.h"
 #include "pos/masterdata/supplier/EntitySupplier.h"
 #include "pos/purchasing/document/SelectDocumentDialog.h"
 
@@ -48,7 +49,7 @@ void SourceLinesTab::selectSource()
     if (const KorEntity* document = documents->find(dialog->selectedId()))
         takeSource(*document);
     else if (documents->hasError())
-        QMessageBox::critical(this, KorDialog::tr("Error"), documents->takeErrors());
+        KorErrorBox::critical(this, KorDialog::tr("Error"), documents->takeErrors());
     else
         QMessageBox::information(this, KorDialog::tr("Error"), m_source.notFound.arg(dialog->selectedId()));
     focusLines();

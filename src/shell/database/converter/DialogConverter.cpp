@@ -2,6 +2,7 @@
 
 #include "app/configuration/BusinessConfiguration.h"
 #include "kor/business/KorServiceDirectory.h"
+#include "kor/widgets/KorErrorBox.h"
 #include "shell/database/converter/ConversionMark.h"
 #include "shell/database/converter/ZavelConverter.h"
 #include "shell/database/tools/StatusText.h"
@@ -123,5 +124,5 @@ void DialogConverter::errorString(const QString& err)
 {
     appendStatusLine(m_ui->txtStatus, err);
     if (!m_closing)
-        QMessageBox::critical(this, tr("Error"), err);
+        KorErrorBox::critical(this, tr("Error"), err);
 }
