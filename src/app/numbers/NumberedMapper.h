@@ -2,6 +2,7 @@
 
 #include "app/numbers/DocumentNumber.h"
 #include "app/persistence/AppDocumentLines.h"
+#include "app/persistence/IdKeeper.h"
 #include "kor/persistence/KorDatabase.h"
 
 /** A mapper, on top of the base that it would have without, whose records take a running number at their insert. */
@@ -57,12 +58,62 @@ class NumberedEntryMapper : public NumberedMapper<AppDataMapper>
 public:
     using NumberedMapper<AppDataMapper>::NumberedMapper;
 
+    /**
+     * Of a record whose former insert may stand, it looks for that one first: found, it takes what the record holds
+     * now, and nothing is entered twice.
+     */
     bool insert(KorEntity* entity) override
     {
+        auto* entry = static_cast<Entry*>(entity);
+        const IdKeeper ids({entity});
         // In one transaction, so that an entry that fails gives its number back.
         KorTransaction transaction;
+        if (!transaction.isOpen()) {
+            setError(transaction.failure());
+            return false;
+        }
         const QString number = nextNo();
-        static_cast<Entry*>(entity)->setTransNo(number);
-        return !number.isNull() && AppDataMapper::insert(entity) && transaction.commit();
+        if (number.isNull())
+            return false;
+        // Behind the number, which a former insert holds until it has ended.
+        bool stands = false;
+        if (entity->uncertainId() != KorNoValue && !findFormer(*entry, &stands))
+            return false;
+        if (stands) {
+            transaction.rollback();
+            return updateFormer(*entry);
+        }
+        entry->setTransNo(number);
+        if (AppDataMapper::insert(entity)) {
+            if (transaction.commit())
+                return true;
+            setError(transaction.failure());
+            if (transaction.isUnsure())
+                entity->setUncertainId(entity->getId());
+        }
+        ids.restore();
+        return false;
+    }
+
+private:
+    bool findFormer(const Entry& entry, bool* stands)
+    {
+        KorQuery query;
+        if (!execute(query, "select id from " + tableName() + " where id = :id and trans_no = :no",
+                     {{":id", entry.uncertainId()}, {":no", entry.getTransNo()}}))
+            return false;
+        *stands = query.next();
+        return true;
+    }
+
+    bool updateFormer(Entry& entry)
+    {
+        entry.setId(entry.uncertainId());
+        if (update(&entry)) {
+            entry.setUncertainId(KorNoValue);
+            return true;
+        }
+        entry.setId(KorNoValue);
+        return false;
     }
 };

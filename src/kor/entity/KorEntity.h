@@ -21,4 +21,14 @@ public:
 
     /** True once the record has a row, that is from its first insert on. */
     [[nodiscard]] bool isSaved() const { return m_Id != KorNoValue; }
+
+    /**
+     * The id that an insert had drawn when the connection went before the server confirmed it: a row with this id is
+     * this record, saved after all. KorNoValue where nothing is uncertain.
+     */
+    [[nodiscard]] int uncertainId() const { return m_uncertainId; }
+    void setUncertainId(int id) { m_uncertainId = id; }
+
+private:
+    int m_uncertainId = KorNoValue;
 };
