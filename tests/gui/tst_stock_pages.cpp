@@ -67,7 +67,6 @@ private slots:
     void whatIsNoAdjustmentIsRefused_data();
     void whatIsNoAdjustmentIsRefused();
     void anAccountThatWentMeanwhileLeavesTheFormAsTyped();
-    void anAdjustmentIsNotEnteredTwiceWhenTheJournalFails();
     void aWrongAdjustmentIsDeletedAndNeverEdited();
     void nothingHappensWithoutTheRight();
     void theStockCardTellsAnItemsMonth();
@@ -390,22 +389,6 @@ void TestStockPages::anAccountThatWentMeanwhileLeavesTheFormAsTyped()
     press("btnAdd");
     QTRY_COMPARE(rows().size(), 1);
     QCOMPARE(stored("qty || reason || source_acct_code FROM stock_take"), QString("5Broken1-100"));
-}
-
-void TestStockPages::anAdjustmentIsNotEnteredTwiceWhenTheJournalFails()
-{
-    show<TabInventoryAdj>();
-    m_database->run("ALTER TABLE item_history RENAME TO elsewhere");
-    m_people->expect<DialogInventoryAdj>([](DialogInventoryAdj* form) {
-        enter(form, "txtKode", "RICE");
-        enter(form, "txtStok", "3");
-        ::press(form, QDialogButtonBox::Ok);
-        QVERIFY(!form->isVisible());
-    });
-    press("btnAdd");
-    QTRY_COMPARE(rows().size(), 1);
-    QCOMPARE(m_people->lastTitle(), QString("Error"));
-    QVERIFY(m_people->lastText().startsWith("The adjustment is saved"));
 }
 
 void TestStockPages::aWrongAdjustmentIsDeletedAndNeverEdited()

@@ -50,10 +50,10 @@ bool BusinessPenjualan::updateStatusMakanDitempat(EntityMakanDitempat* order)
     return written(m_mappers.dineOrders->updateStatus(order), m_mappers.dineOrders, "updateStatusMakanDitempat");
 }
 
-void BusinessPenjualan::setDineStatus(EntityMakanDitempat* order, int status)
+bool BusinessPenjualan::setDineStatus(EntityMakanDitempat* order, int status)
 {
     order->setStatus(status);
-    updateStatusMakanDitempat(order);
+    return updateStatusMakanDitempat(order);
 }
 
 bool BusinessPenjualan::makanDitempatSelesai(EntityMakanDitempat* order)
@@ -61,7 +61,7 @@ bool BusinessPenjualan::makanDitempatSelesai(EntityMakanDitempat* order)
     return written(m_mappers.dineOrders->markDone(order->getId()), m_mappers.dineOrders, "makanDitempatSelesai");
 }
 
-void BusinessPenjualan::followInvoices(EntityMakanDitempat* order)
+bool BusinessPenjualan::followInvoices(EntityMakanDitempat* order)
 {
     EntityPool sums;
     const EntityPoolScope scope(sums);
@@ -69,7 +69,7 @@ void BusinessPenjualan::followInvoices(EntityMakanDitempat* order)
     const QList<EntityInvoiceMakanDitempat*> all = m_mappers.dineInvoices->findMoneyOfOrder(order->getId());
     if (m_mappers.dineInvoices->hasError()) {
         addError("insertInvoice", m_mappers.dineInvoices->takeError());
-        return;
+        return false;
     }
     qint64 paid = 0;
     qint64 grandTotal = 0;
@@ -78,7 +78,7 @@ void BusinessPenjualan::followInvoices(EntityMakanDitempat* order)
         paid += qint64(invoice->getAmountPaid()->rawAmount()) + invoice->getOtherPayment()->rawAmount();
         grandTotal += invoice->getGrandTotal()->rawAmount();
     }
-    setDineStatus(order, orderStatusOfMoney(paid, grandTotal));
+    return setDineStatus(order, orderStatusOfMoney(paid, grandTotal));
 }
 
 EntityInvoiceMakanDitempat* BusinessPenjualan::findInvoiceMakanDitempat(int id)

@@ -43,10 +43,7 @@ bool BusinessPenjualan::insertInvoice(IInvoice* sale)
     if (!written(mapper->insert(dynamic_cast<KorEntity*>(sale)), mapper, "insertInvoice"))
         return false;
     // What follows stands outside the invoice's transaction: the sale is kept even if the order's status is not.
-    if (const auto* dine = dynamic_cast<EntityInvoiceMakanDitempat*>(sale))
-        followInvoices(dine->getMakanDitempat());
-    else if (auto* takeAway = dynamic_cast<EntityInvoiceBawaPulang*>(sale))
-        updateStatusBawaPulang(takeAway);
+    (void)setOrderStatus(sale, true);
     return true;
 }
 
@@ -60,12 +57,39 @@ bool BusinessPenjualan::updateInvoice(IInvoice* sale)
     setInvoiceStatus(sale->getInvoice());
     if (!written(mapper->update(dynamic_cast<KorEntity*>(sale)), mapper, "updateInvoice"))
         return false;
-    // From this invoice alone, unlike the first save: other invoices of a split order are not asked here.
-    if (const auto* dine = dynamic_cast<EntityInvoiceMakanDitempat*>(sale))
-        setDineStatus(dine->getMakanDitempat(), orderStatusOfInvoice(*sale->getInvoice()));
-    else if (auto* takeAway = dynamic_cast<EntityInvoiceBawaPulang*>(sale))
-        updateStatusBawaPulang(takeAway);
+    (void)setOrderStatus(sale, false);
     return true;
+}
+
+bool BusinessPenjualan::setOrderStatus(IInvoice* sale, bool isFirst)
+{
+    if (auto* takeAway = dynamic_cast<EntityInvoiceBawaPulang*>(sale))
+        return updateStatusBawaPulang(takeAway);
+    const auto* dine = dynamic_cast<EntityInvoiceMakanDitempat*>(sale);
+    if (!dine)
+        return true;
+    if (isFirst)
+        return followInvoices(dine->getMakanDitempat());
+    // From this invoice alone, unlike the first save: other invoices of a split order are not asked here.
+    return setDineStatus(dine->getMakanDitempat(), orderStatusOfInvoice(*sale->getInvoice()));
+}
+
+bool BusinessPenjualan::finishInvoice(IInvoice* sale, bool isFirst)
+{
+    EntityPool pool;
+    const EntityPoolScope scope(pool);
+    EntityOrder* order = nullptr;
+    const EntityOrder* fresh = nullptr;
+    if (const auto* dine = dynamic_cast<EntityInvoiceMakanDitempat*>(sale)) {
+        order = dine->getMakanDitempat();
+        fresh = findOrder(order->getId());
+    } else if (const auto* takeAway = dynamic_cast<EntityInvoiceBawaPulang*>(sale)) {
+        order = takeAway->getBawaPulang();
+        fresh = findOrderBawaPulang(order->getId());
+    }
+    if (fresh)
+        order->setVersion(fresh->getVersion());
+    return !hasError() && setOrderStatus(sale, isFirst);
 }
 
 QList<EntityPenjualanInfo*> BusinessPenjualan::searchPenjualan(const SalesFilter& filter)

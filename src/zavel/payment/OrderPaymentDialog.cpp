@@ -3,6 +3,7 @@
 #include "app/access/BusinessUser.h"
 #include "app/context/EntityUser.h"
 #include "app/money/Money.h"
+#include "app/widgets/UnfinishedSave.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "pos/invoice/EntityInvoiceDetail.h"
 #include "pos/invoice/EntityInvoiceLink.h"
@@ -151,13 +152,18 @@ bool OrderPaymentDialog::saveInvoice()
     const bool isFirst = !isStored();
     m_sale->setKnownBills(m_knownBills);
     const bool saved = isStored() ? sales()->updateInvoice(m_sale) : sales()->insertInvoice(m_sale);
-    const QString failure = sales()->takeErrors();
-    if (!saved && isFirst && showBillOfAnother())
+    if (!saved) {
+        const QString failure = sales()->takeErrors();
+        if ((!isFirst || !showBillOfAnother()) && !failure.isEmpty())
+            showError(failure);
         return false;
-    if (!failure.isEmpty())
-        showError(failure);
-    if (!saved)
-        return false;
+    }
+    if (sales()->hasError()) {
+        UnfinishedSave{UnfinishedSave::saved(m_sale->getInvoice()->getInvoiceNo()), tr("the status of its order"),
+                       tr("Later, press OK in this form again."),
+                       [&] { return sales()->finishInvoice(m_sale, isFirst); }}
+            .offer(this, sales());
+    }
     m_knownBills.append(m_sale->getInvoice()->getId());
     // What the database has now, before anything is asked: a question may stay open for a long time.
     if (!readAgain()) {

@@ -2,6 +2,7 @@
 
 #include "app/persistence/AppDocumentLines.h"
 #include "app/widgets/CodeFilter.h"
+#include "app/widgets/UnfinishedSave.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "pos/cash/settlement/PaymentType.h"
 #include "pos/masterdata/member/MemberTextBox.h"
@@ -63,21 +64,24 @@ KorEntity* TabPiutang::readEntity(int id) { return businessAs<BusinessPenjualan>
 
 bool TabPiutang::insertEntity(KorEntity* entity)
 {
-    return stands(businessAs<BusinessPenjualan>()->insert(payment(entity)), "insert");
+    return stands(businessAs<BusinessPenjualan>()->insert(payment(entity)), "insert", *payment(entity));
 }
 
 bool TabPiutang::updateEntity(KorEntity* entity)
 {
-    return stands(businessAs<BusinessPenjualan>()->updatePiutang(payment(entity)), "updatePiutang");
+    return stands(businessAs<BusinessPenjualan>()->updatePiutang(payment(entity)), "updatePiutang", *payment(entity));
 }
 
 bool TabPiutang::removeEntity(KorEntity* entity) { return businessAs<BusinessPenjualan>()->remove(payment(entity)); }
 
 /** A payment that is saved is not entered again because its invoices could not be counted. */
-bool TabPiutang::stands(bool done, const QString& operation)
+bool TabPiutang::stands(bool done, const QString& operation, const EntityPiutang& payment)
 {
     if (done || business()->errors().contains(operation))
         return done;
-    showServiceError();
+    UnfinishedSave{UnfinishedSave::saved(payment.getNo()), tr("what is still due of the invoices that it pays"),
+                   UnfinishedSave::laterByOk(),
+                   [&] { return businessAs<BusinessPenjualan>()->updateInvoicesOfPiutang(&payment); }}
+        .offer(this, business());
     return true;
 }

@@ -3,6 +3,7 @@
 #include "app/widgets/AppDocumentTab.h"
 
 class MemberTextBox;
+class EntityPiutang;
 class QComboBox;
 class QDateEdit;
 class QLineEdit;
@@ -30,7 +31,7 @@ protected:
     bool removeEntity(KorEntity* entity) override;
 
 private:
-    bool stands(bool done, const QString& operation);
+    bool stands(bool done, const QString& operation, const EntityPiutang& payment);
 
     QDateEdit* m_from;
     QDateEdit* m_to;

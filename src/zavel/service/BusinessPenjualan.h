@@ -126,6 +126,8 @@ public:
     bool insertInvoice(IInvoice* sale);
     /** Saves a changed invoice; the order's status then follows from this one invoice alone. */
     bool updateInvoice(IInvoice* sale);
+    /** The second half of both, for an order that was read before somebody else changed it too: sets its status. */
+    bool finishInvoice(IInvoice* sale, bool isFirst);
     [[nodiscard]] EntityInvoiceMakanDitempat* findInvoiceMakanDitempat(int id);
     [[nodiscard]] EntityInvoiceFastFood* findInvoiceFastFood(int id);
     [[nodiscard]] EntityInvoiceBawaPulang* findInvoiceBawaPulang(int id);
@@ -158,6 +160,8 @@ public:
     /** Saves the payment, then counts the invoices that it pays anew; true when both stand. */
     bool insert(EntityPiutang* payment);
     bool updatePiutang(EntityPiutang* payment);
+    /** The second half of both: books what all payments paid of the payment's invoices as their other payment. */
+    bool updateInvoicesOfPiutang(const EntityPiutang* payment);
     /**
      * Credit that stands on the payment's invoices without a member's payment behind it, given at the sale or left by a
      * payment that was deleted: counting anew puts the payments in its place. One line an invoice, the amount in
@@ -184,13 +188,11 @@ public:
 
 private:
     [[nodiscard]] DataMapperInvoiceLink* mapperOf(IInvoice* sale) const;
-    void followInvoices(EntityMakanDitempat* order);
-    void setDineStatus(EntityMakanDitempat* order, int status);
-    /** Books what all payments paid of the payment's invoices as their other payment. */
-    /** The invoices that the payment pays of, as they stand, and what members have paid of each; false after a failure.
-     */
+    bool setOrderStatus(IInvoice* sale, bool isFirst);
+    bool followInvoices(EntityMakanDitempat* order);
+    bool setDineStatus(EntityMakanDitempat* order, int status);
+    /** The invoices that the payment pays of, as they stand, and what members have paid of each; false if it failed. */
     bool readPaidInvoices(const EntityPiutang* payment, QList<Invoice*>* invoices, QHash<int, double>* paid);
-    bool updateInvoicesOfPiutang(const EntityPiutang* payment);
 
     Mappers m_mappers;
 };

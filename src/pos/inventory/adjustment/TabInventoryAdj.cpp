@@ -1,9 +1,9 @@
 #include "pos/inventory/adjustment/TabInventoryAdj.h"
 
+#include "app/widgets/UnfinishedSave.h"
 #include "pos/inventory/stock/EntityStockTake.h"
 #include "pos/inventory/stock/ItemFilter.h"
 
-#include <QMessageBox>
 #include <QPushButton>
 #include <QTableView>
 
@@ -31,20 +31,31 @@ QList<KorEntity*> TabInventoryAdj::readRows(const QString& code)
 
 bool TabInventoryAdj::insertEntity(KorEntity* take)
 {
-    if (businessAs<BusinessInventory>()->addInventoryAdjustment(static_cast<EntityStockTake*>(take)))
+    auto* inventory = businessAs<BusinessInventory>();
+    auto* adjustment = static_cast<EntityStockTake*>(take);
+    if (inventory->addInventoryAdjustment(adjustment))
         return true;
-    if (!take->isSaved())
+    if (!inventory->onlyJournalLags())
         return false;
-    // The adjustment stands without its row in the journal: entered again, it would count twice.
-    QMessageBox::critical(
-        this, tr("Error"),
-        tr("The adjustment is saved, but it is missing on the stock card:\r\n%1").arg(business()->takeErrors()));
+    UnfinishedSave{tr("The adjustment is saved. Please do not enter it again."), tr("its row on the stock card"),
+                   tr("Later, delete the adjustment and enter it anew."),
+                   [&] { return inventory->finishAdjustment(adjustment); }}
+        .offer(this, inventory);
     return true;
 }
 
 bool TabInventoryAdj::removeEntity(KorEntity* take)
 {
-    return businessAs<BusinessInventory>()->stockTakeRemove(static_cast<EntityStockTake*>(take));
+    auto* inventory = businessAs<BusinessInventory>();
+    auto* adjustment = static_cast<EntityStockTake*>(take);
+    if (inventory->stockTakeRemove(adjustment))
+        return true;
+    if (!inventory->onlyJournalLags())
+        return false;
+    UnfinishedSave{tr("The adjustment is deleted."), tr("taking its row off the stock card"), QString(),
+                   [&] { return inventory->finishRemoval(adjustment); }}
+        .offer(this, inventory);
+    return true;
 }
 
 void TabInventoryAdj::modelApplied() { setColumnWidths(grid(), {110, 210, 120, 90, 130, 90}); }

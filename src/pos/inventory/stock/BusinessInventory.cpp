@@ -90,8 +90,12 @@ QList<KorEntity*> BusinessInventory::findAll(const QString& code)
 bool BusinessInventory::addInventoryAdjustment(EntityStockTake* take)
 {
     const QString operation = "addInventoryAdjustment";
-    if (!written(m_stockTakes->insert(take), m_stockTakes, operation))
-        return false;
+    m_onlyJournalLags = written(m_stockTakes->insert(take), m_stockTakes, operation);
+    return m_onlyJournalLags && writeMovement(take, operation);
+}
+
+bool BusinessInventory::writeMovement(EntityStockTake* take, const QString& operation)
+{
     const int difference = take->getQtyAdj();
     const ItemMovement movement{EntityItemHistory::ADJUSMENT,
                                 take->getId(),
@@ -101,14 +105,19 @@ bool BusinessInventory::addInventoryAdjustment(EntityStockTake* take)
                                 take->getItem()->getHargaBeli(),
                                 take->getStockTakeDate(),
                                 QString()};
-    return written(m_history->add(movement), m_history, operation);
+    return written(m_history->write(movement), m_history, operation);
 }
 
 bool BusinessInventory::stockTakeRemove(EntityStockTake* take)
 {
     const QString operation = "stockTakeRemove";
-    return written(m_stockTakes->remove(take), m_stockTakes, operation) &&
-           written(m_history->removeLine(EntityItemHistory::ADJUSMENT, take->getId()), m_history, operation);
+    m_onlyJournalLags = written(m_stockTakes->remove(take), m_stockTakes, operation);
+    return m_onlyJournalLags && removeMovement(take, operation);
+}
+
+bool BusinessInventory::removeMovement(EntityStockTake* take, const QString& operation)
+{
+    return written(m_history->removeLine(EntityItemHistory::ADJUSMENT, take->getId()), m_history, operation);
 }
 
 // --- the stock card ------------------------------------------------------------------------------------------------

@@ -51,6 +51,11 @@ public:
     /** Saves the adjustment and its row in the journal; when only the row fails, the adjustment stays all the same. */
     bool addInventoryAdjustment(EntityStockTake* take);
     bool stockTakeRemove(EntityStockTake* take);
+    /** After either was false: the adjustment itself is saved, or gone, and only its row in the journal lags behind. */
+    [[nodiscard]] bool onlyJournalLags() const { return m_onlyJournalLags; }
+    /** Writes, or removes, that row. */
+    bool finishAdjustment(EntityStockTake* take) { return writeMovement(take, "addInventoryAdjustment"); }
+    bool finishRemoval(EntityStockTake* take) { return removeMovement(take, "stockTakeRemove"); }
 
     /**
      * The stock card of an item: its beginning balance, then the journal's rows of the period with the running
@@ -62,9 +67,12 @@ private:
     /** From a day on where one is given, otherwise from the beginning; both limits count. */
     [[nodiscard]] Movements movements(const KorEntity* item, const QDate& from, const QDate& to,
                                            const QString& operation);
+    bool writeMovement(EntityStockTake* take, const QString& operation);
+    bool removeMovement(EntityStockTake* take, const QString& operation);
     [[nodiscard]] EntityItemHistory* beginningRow(int itemId);
 
     DataMapperStockTake* m_stockTakes;
     DataMapperStokAwal* m_balances;
     DataMapperItemHistory* m_history;
+    bool m_onlyJournalLags = false;
 };

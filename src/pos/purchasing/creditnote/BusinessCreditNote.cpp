@@ -59,6 +59,16 @@ bool BusinessCreditNote::afterSave(const KorEntity& note, Save kind)
     return StockDocumentService::afterSave(note, kind) && done;
 }
 
+QString BusinessCreditNote::unfinished() const
+{
+    const bool lacksDue = errors().contains("updatePurchaseNetDue");
+    const QString due = tr("what is still due of its purchase");
+    const QString rows = StockDocumentService::unfinished();
+    if (lacksDue && errors().size() > 1)
+        return due + ", " + rows;
+    return lacksDue ? due : rows;
+}
+
 bool BusinessCreditNote::updatePurchaseNetDue(const EntityCreditNote& note)
 {
     return recalculateDue(note.getAcquisitionId());

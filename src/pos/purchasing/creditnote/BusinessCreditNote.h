@@ -27,6 +27,7 @@ public:
                        BusinessPurchases* purchases);
 
     [[nodiscard]] QList<KorPermission> getPermissions() const override;
+    [[nodiscard]] QString unfinished() const override;
 
     /** Without lines, as a list shows them; find(id) reads a note with its lines. */
     [[nodiscard]] QList<EntityCreditNote*> findAll(const PurchasingFilter& filter);

@@ -1,6 +1,8 @@
 #include "pos/purchasing/document/PurchasingListTab.h"
 
+#include "app/widgets/UnfinishedSave.h"
 #include "kor/business/KorServiceDirectory.h"
+#include "kor/entity/KorEntity.h"
 #include "pos/masterdata/supplier/SupplierTextBox.h"
 #include "pos/purchasing/document/PurchasingService.h"
 
@@ -46,15 +48,24 @@ PurchasingFilter PurchasingListTab::chosen() const
     return filter;
 }
 
-bool PurchasingListTab::insertEntity(KorEntity* document) { return stands(AppDocumentTab::insertEntity(document)); }
+bool PurchasingListTab::insertEntity(KorEntity* document)
+{
+    return stands(AppDocumentTab::insertEntity(document), *document);
+}
 
-bool PurchasingListTab::updateEntity(KorEntity* document) { return stands(AppDocumentTab::updateEntity(document)); }
+bool PurchasingListTab::updateEntity(KorEntity* document)
+{
+    return stands(AppDocumentTab::updateEntity(document), *document);
+}
 
 /** A document that is saved is not entered again because something that follows from it has failed. */
-bool PurchasingListTab::stands(bool done)
+bool PurchasingListTab::stands(bool done, const KorEntity& document)
 {
-    if (done || !businessAs<PurchasingService>()->documentStands())
+    auto* documents = businessAs<PurchasingService>();
+    if (done || !documents->documentStands())
         return done;
-    showServiceError();
+    UnfinishedSave{UnfinishedSave::saved(document.property("No").toString()), documents->unfinished(),
+                   UnfinishedSave::laterByOk(), [&] { return documents->finish(document); }}
+        .offer(this, documents);
     return true;
 }

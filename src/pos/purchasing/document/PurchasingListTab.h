@@ -34,7 +34,7 @@ protected:
     bool updateEntity(KorEntity* document) override;
 
 private:
-    bool stands(bool done);
+    bool stands(bool done, const KorEntity& document);
 
     QDateEdit* m_from;
     QDateEdit* m_to;

@@ -19,6 +19,10 @@ public:
     bool insert(KorEntity* document) override;
     bool update(KorEntity* document) override;
     [[nodiscard]] bool documentStands() const { return m_stands; }
+    /** What follows from a saved document, once more; what is done already stays as it is. */
+    bool finish(const KorEntity& document) { return afterSave(document, Update); }
+    /** What of it has failed, by the errors that the service holds. */
+    [[nodiscard]] virtual QString unfinished() const { return {}; }
     bool remove(KorEntity* document) override;
     bool clearTransactions() override;
 

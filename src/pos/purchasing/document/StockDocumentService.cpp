@@ -7,6 +7,8 @@ StockDocumentService::StockDocumentService(const QString& name, AppDocumentMappe
     : PurchasingService(name, documents, parent), m_journal(journal)
 {}
 
+QString StockDocumentService::unfinished() const { return tr("the rows of its goods on the stock card"); }
+
 bool StockDocumentService::afterSave(const KorEntity& document, Save kind)
 {
     bool done = true;

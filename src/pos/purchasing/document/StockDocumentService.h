@@ -12,6 +12,8 @@ public:
     StockDocumentService(const QString& name, AppDocumentMapper* documents, DataMapperItemHistory* journal,
                          QObject* parent);
 
+    [[nodiscard]] QString unfinished() const override;
+
 protected:
     bool afterSave(const KorEntity& document, Save kind) override;
     [[nodiscard]] virtual QList<KorEntity*> removedLinesOf(const KorEntity& document) const = 0;

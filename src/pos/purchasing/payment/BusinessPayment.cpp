@@ -43,6 +43,8 @@ bool BusinessPayment::updatePurchase(const EntityPayment& payment)
     return done;
 }
 
+QString BusinessPayment::unfinished() const { return tr("what is still due of the purchases that it pays"); }
+
 bool BusinessPayment::afterSave(const KorEntity& payment, Save) { return updatePurchase(asPayment(payment)); }
 
 QList<KorEntity*> BusinessPayment::linesOf(const KorEntity& payment) const

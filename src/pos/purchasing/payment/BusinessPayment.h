@@ -19,6 +19,7 @@ public:
     BusinessPayment(QObject* parent, DataMapperPayment* payments, BusinessPurchases* purchases);
 
     [[nodiscard]] QList<KorPermission> getPermissions() const override;
+    [[nodiscard]] QString unfinished() const override;
 
     // The finders give payments without lines, as a list shows them; find(id) reads a payment with its lines.
     [[nodiscard]] QList<EntityPayment*> findAll(const PurchasingFilter& filter);

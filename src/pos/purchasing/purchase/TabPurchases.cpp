@@ -1,7 +1,9 @@
 #include "pos/purchasing/purchase/TabPurchases.h"
 
 #include "app/persistence/AppDocumentLines.h"
+#include "app/widgets/UnfinishedSave.h"
 #include "kor/business/KorServiceDirectory.h"
+#include "kor/widgets/KorErrorBox.h"
 #include "pos/purchasing/purchase/BusinessPurchases.h"
 #include "pos/purchasing/purchase/DialogPurchases.h"
 #include "pos/purchasing/purchase/EntityAcquisition.h"
@@ -56,11 +58,12 @@ void TabPurchases::entitySaved(KorEntity* entity)
         return line->getQty() < line->getQtyOrdered();
     });
     if (purchase->getIsApplyToPurchaseOrder() && !isShort)
-        offerToClose(purchase->getPurchaseOrderId());
+        offerToClose(*purchase);
 }
 
-void TabPurchases::offerToClose(int orderId)
+void TabPurchases::offerToClose(const EntityAcquisition& purchase)
 {
+    const int orderId = purchase.getPurchaseOrderId();
     EntityPool read;
     const EntityPoolScope scope(read);
     auto* orders = service<BusinessPurchaseOrder>("Purchase Order");
@@ -68,7 +71,7 @@ void TabPurchases::offerToClose(int orderId)
     EntityPurchaseOrder* order = orders->findHeader(orderId);
     if (!order) {
         if (orders->hasError())
-            QMessageBox::critical(this, tr("Error"), orders->takeErrors());
+            KorErrorBox::critical(this, tr("Error"), orders->takeErrors());
         else
             QMessageBox::information(this, tr("Error"), tr("Can not find PO with id: %1").arg(orderId));
         return;
@@ -80,6 +83,10 @@ void TabPurchases::offerToClose(int orderId)
         QMessageBox::question(this, tr("Info"), question.arg(order->getNo())) != QMessageBox::Yes)
         return;
     order->setStatus(EntityPurchaseOrder::CLOSED);
-    if (!orders->update(order))
-        QMessageBox::critical(this, tr("Error"), orders->takeErrors());
+    if (orders->update(order))
+        return;
+    UnfinishedSave{UnfinishedSave::saved(purchase.getNo()),
+                   tr("the closing of Purchase Order No: %1").arg(order->getNo()),
+                   tr("Later, close it in the form of the purchase order."), [&] { return orders->update(order); }}
+        .offer(this, orders);
 }

@@ -22,5 +22,5 @@ protected:
     void entitySaved(KorEntity* entity) override;
 
 private:
-    void offerToClose(int orderId);
+    void offerToClose(const EntityAcquisition& purchase);
 };
