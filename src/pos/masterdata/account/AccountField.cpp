@@ -2,9 +2,9 @@
 
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/widgets/KorDialog.h"
+#include "kor/widgets/KorErrorBox.h"
 
 #include <QLabel>
-#include <QMessageBox>
 
 AccountField::AccountField(QLineEdit* code, QLabel* name, KorDialog* form)
     : QObject(form), m_code(code), m_name(name), m_form(form),
@@ -23,6 +23,7 @@ void AccountField::show(EntityBank* account)
     m_account = account;
     m_code->setText(account ? account->getKode() : QString());
     m_name->setText(account ? account->getNama() : QString());
+    emit changed();
 }
 
 void AccountField::showCode(const QString& code)
@@ -31,7 +32,7 @@ void AccountField::showCode(const QString& code)
     m_code->setText(code);
     const QString failure = lookUp();
     if (!failure.isEmpty())
-        QMessageBox::critical(m_form, KorDialog::tr("Error"), failure);
+        KorErrorBox::critical(m_form, KorDialog::tr("Error"), failure);
 }
 
 QString AccountField::lookUp()
@@ -45,7 +46,9 @@ QString AccountField::lookUp()
     m_account = code.isEmpty() ? nullptr : accounts->findByCode(code);
     m_name->setText(m_account ? m_account->getNama() : QString());
     m_couldAsk = !accounts->hasError();
-    return accounts->takeErrors();
+    QString failure = accounts->takeErrors();
+    emit changed();
+    return failure;
 }
 
 bool AccountField::check(const QString& missing, const QString& unknown)

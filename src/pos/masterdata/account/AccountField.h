@@ -32,6 +32,10 @@ public:
     /** False when the accounts could not be asked at the last look. */
     [[nodiscard]] bool couldAsk() const { return m_couldAsk; }
 
+signals:
+    /** Another account, or none; told again with every look at the box. */
+    void changed();
+
 private:
     /** What failed, or nothing. */
     [[nodiscard]] QString lookUp();

@@ -20,6 +20,7 @@ void PurchasingDialog::setUpPurchasing(const Form& form, const Words& words, con
     m_cascade = new TotalsCascade(form.totals->boxes(), this);
     m_cascade->keepPercentsOfNothing();
     m_account = new AccountField(form.totals->accountBox(), form.totals->accountName(), this);
+    connect(m_account, &AccountField::changed, this, &PurchasingDialog::noteWhatCashMisses);
     m_account->showCode(accountCode);
     m_supplierBox = new SupplierTextBox(form.supplier, service<BusinessSupplier>("Supplier"));
     connect(m_supplierBox, &KorTextBoxExtender::onItemSelected, this, &PurchasingDialog::onSupplierSelected);
@@ -102,7 +103,19 @@ void PurchasingDialog::onItemAdded()
     m_cascade->setSubtotal(subtotal);
 }
 
-void PurchasingDialog::on_txtPaid_textChanged(const QString&) { m_cascade->calculateTotal(); }
+void PurchasingDialog::on_txtPaid_textChanged(const QString&)
+{
+    m_cascade->calculateTotal();
+    noteWhatCashMisses();
+}
+
+void PurchasingDialog::noteWhatCashMisses()
+{
+    const bool isMissed = account() && account()->getAccountType() != CashAccount && totals().paid() > 0;
+    m_form.totals->setNote(isMissed ? tr("The account is not of the type Cash: the day's close does not count the "
+                                         "amount paid.")
+                                    : QString());
+}
 
 void PurchasingDialog::on_txtDiscPerc_editingFinished() { m_cascade->percentEntered(InvoiceTotals::Discount); }
 

@@ -101,6 +101,8 @@ private:
     /** Takes the supplier of the code that stands in the box; what failed, or nothing. */
     [[nodiscard]] QString lookUpSupplier();
     void checkSupplier();
+    /** Money that does not come from a cash account is no cash that has left the drawer. */
+    void noteWhatCashMisses();
     void checkAmounts();
 
     Form m_form{};

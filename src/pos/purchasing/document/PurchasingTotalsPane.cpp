@@ -28,6 +28,12 @@ QLineEdit* PurchasingTotalsPane::accountBox() const { return m_ui->txtAPAccount;
 
 QLabel* PurchasingTotalsPane::accountName() const { return m_ui->lblAPAccount; }
 
+void PurchasingTotalsPane::setNote(const QString& text)
+{
+    m_ui->lblNote->setText(text);
+    m_ui->lblNote->setVisible(!text.isEmpty());
+}
+
 void PurchasingTotalsPane::setPaidCaption(const QString& text) { m_ui->lblPaid->setText(text); }
 
 void PurchasingTotalsPane::setAccountCaption(const QString& text) { m_ui->lblAccount->setText(text); }

@@ -25,6 +25,9 @@ public:
     [[nodiscard]] QLineEdit* accountBox() const;
     [[nodiscard]] QLabel* accountName() const;
 
+    /** Below the account; no text takes no room. */
+    void setNote(const QString& text);
+
     // What a form calls a row, and which rows it does without.
     void setPaidCaption(const QString& text);
     void setAccountCaption(const QString& text);
