@@ -59,6 +59,7 @@ private slots:
     void cleanup();
     void aFailedSaveIsToldInPlainWords_data();
     void aFailedSaveIsToldInPlainWords();
+    void aSaveWhoseListCannotBeReadIsNotCalledLost();
     void aNulIsDroppedWhereItIsPasted();
     void whatFailsBehindASavedDocumentIsToldAndFinished_data();
     void whatFailsBehindASavedDocumentIsToldAndFinished();
@@ -190,6 +191,18 @@ void TestToldFailures::aFailedSaveIsToldInPlainWords()
     // The log has the statement, and what is secret stands nowhere.
     QVERIFY2(logged.contains(details), qPrintable(logged));
     QVERIFY(!(box.text + box.details + logged).contains(digest));
+}
+
+void TestToldFailures::aSaveWhoseListCannotBeReadIsNotCalledLost()
+{
+    unit([this](QDialog* form) {
+        ok(form);
+        m_database->killConnections();
+    });
+    QCOMPARE(m_people->boxes().size(), 1);
+    QVERIFY2(m_people->lastText().startsWith("It is saved. Only the list could not be read again.") &&
+                 !m_people->lastText().contains("try again"),
+             qPrintable(m_people->lastText()));
 }
 
 void TestToldFailures::aNulIsDroppedWhereItIsPasted()

@@ -4,6 +4,7 @@
 #include "kor/business/KorBusinessLogic.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/entity/KorEntity.h"
+#include "kor/system/KorFailure.h"
 #include "kor/widgets/KorDialog.h"
 #include "kor/widgets/KorEntityModel.h"
 #include "kor/widgets/KorErrorBox.h"
@@ -11,6 +12,7 @@
 #include "ui_ListPage.h"
 
 #include <QMessageBox>
+#include <QScopedValueRollback>
 #include <QShortcut>
 
 AppListTab::AppListTab(const Page& page, QWidget* parent)
@@ -44,7 +46,7 @@ void AppListTab::refresh()
         rows = readRows(filterText());
     }
     if (m_business->hasError())
-        showServiceError();
+        tellUnread();
 
     KorEntityModel* former = m_model;
     m_model = createModel(rows);
@@ -62,6 +64,25 @@ void AppListTab::refresh()
     m_ui->lblCount->setText(countText(m_model->rowCount()));
 }
 
+void AppListTab::refreshAfterSave()
+{
+    const QScopedValueRollback<bool> justSaved(m_justSaved, true);
+    refresh();
+}
+
+void AppListTab::tellUnread()
+{
+    if (!m_justSaved) {
+        showServiceError();
+        return;
+    }
+    // The advice to try again would be taken for the save.
+    KorToldFailure failure = KorToldFailure::in(m_business->takeErrors());
+    failure.advice.clear();
+    KorErrorBox::critical(this, tr("Error"),
+                          tr("It is saved. Only the list could not be read again.") + "\r\n\r\n" + failure.text());
+}
+
 void AppListTab::on_btnAdd_clicked()
 {
     if (!hasAccess(m_serviceName, addKey()))
@@ -70,7 +91,7 @@ void AppListTab::on_btnAdd_clicked()
     const EntityPoolScope scope(read);
     const auto dialog = createDialog();
     if (runDialog(*dialog, true))
-        refresh();
+        refreshAfterSave();
 }
 
 void AppListTab::on_btnEdit_clicked()
@@ -93,7 +114,7 @@ void AppListTab::on_btnEdit_clicked()
         }
         if (!editEntity(entity))
             break;
-        refresh();
+        refreshAfterSave();
     }
     if (!ids.isEmpty())
         edited();

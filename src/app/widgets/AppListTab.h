@@ -110,10 +110,14 @@ protected:
     [[nodiscard]] QString filterText() const;
 
 private:
+    void refreshAfterSave();
+    void tellUnread();
+
     std::unique_ptr<Ui::ListPage> m_ui;
     QString m_serviceName;
     KorBusinessLogic* m_business;
     KorEntityModel* m_model = nullptr;
+    bool m_justSaved = false;
     // The records of the rows shown; the next refresh frees them with all that was read with them.
     EntityPool m_rows;
 };

@@ -166,7 +166,7 @@ bool OrderPaymentDialog::saveInvoice()
     }
     m_knownBills.append(m_sale->getInvoice()->getId());
     // What the database has now, before anything is asked: a question may stay open for a long time.
-    if (!readAgain()) {
+    if (!readSaved()) {
         showInvoice(*m_sale->getInvoice());
         return false;
     }
@@ -215,16 +215,33 @@ bool OrderPaymentDialog::showBillOfAnother()
     return true;
 }
 
-bool OrderPaymentDialog::readAgain()
+bool OrderPaymentDialog::readStored()
 {
     const EntityPoolScope scope(m_read);
     EntityInvoiceLink* fresh = readSale(m_sale->getId());
-    if (!fresh) {
+    if (fresh)
+        setEntity(fresh);
+    return fresh;
+}
+
+bool OrderPaymentDialog::readSaved()
+{
+    if (readStored())
+        return true;
+    if (sales()->hasError())
+        return UnfinishedSave{UnfinishedSave::saved(m_sale->getInvoice()->getInvoiceNo()), tr("reading it again"),
+                              QString(), [this] { return readStored(); }}
+            .offer(this, sales());
+    showMissing(m_sale->getId());
+    return false;
+}
+
+bool OrderPaymentDialog::readAgain()
+{
+    const bool done = readStored();
+    if (!done)
         showMissing(m_sale->getId());
-        return false;
-    }
-    setEntity(fresh);
-    return true;
+    return done;
 }
 
 void OrderPaymentDialog::showMissing(int id)

@@ -71,6 +71,10 @@ protected:
     void saveAndPrint(QWidget* button);
     /** Replaces the order and the invoice by what stands in the database now; false, with a box, when it fails. */
     bool readAgain();
+    /** The same without a word about a failure, which the service keeps. */
+    bool readStored();
+    /** The same behind a save: a failure to read is not taken for one to save. */
+    bool readSaved();
 
     [[nodiscard]] bool isStored() const override;
     [[nodiscard]] EntityOrder* order() const { return m_order; }
