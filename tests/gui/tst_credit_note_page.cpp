@@ -250,7 +250,7 @@ void TestCreditNotePage::whatIsMissingIsTold_data()
     add("the purchase is another supplier's", {paid, {"txtSupplier", "S2"}}, "bought free",
         {"The purchase is of another supplier"});
     add("more than money can be written in", {supplier, {"txtPaid", "99999999999"}}, "free",
-        {"An amount is larger than a document can hold. Please check the figures."});
+        {"The amount is too large, the largest is 2.147.483.647"});
 }
 
 void TestCreditNotePage::whatIsMissingIsTold()

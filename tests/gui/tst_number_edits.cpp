@@ -76,7 +76,7 @@ void tst_NumberEdits::aTypedNumberIsReadInTheLocaleAndShownWithItsSeparators_dat
     QTest::addColumn<QString>("shown");
     QTest::newRow("group and decimal") << "1.234,5" << 1234.5 << "1.234,5";
     QTest::newRow("no group") << "1234,5" << 1234.5 << "1.234,5";
-    QTest::newRow("misplaced groups") << "12.34.567" << 1234567.0 << "1.234.567";
+    QTest::newRow("groups") << "-12.034.567" << -12034567.0 << "-12.034.567";
     QTest::newRow("negative") << "-2500" << -2500.0 << "-2.500";
     QTest::newRow("ten digits") << "1234567890" << 1234567890.0 << "1.234.567.890";
     QTest::newRow("zero") << "0" << 0.0 << "0";
@@ -103,6 +103,13 @@ void tst_NumberEdits::aTextThatIsNoNumberStaysInTheFieldAndTheFormerValueCounts_
     QTest::newRow("letters") << "abc";
     QTest::newRow("nothing") << "";
     QTest::newRow("two decimal commas") << "1,2,3";
+    QTest::newRow("a point for a comma") << "1.5";
+    QTest::newRow("misplaced groups") << "12.34.567";
+    QTest::newRow("a group of four") << "1.2345";
+    QTest::newRow("a first group of four") << "1234.567";
+    QTest::newRow("a group behind the comma") << "1,234.567";
+    QTest::newRow("nothing before the group") << ".500";
+    QTest::newRow("half, with the other's point") << "0.500";
     QTest::newRow("infinite") << "inf";
     QTest::newRow("not a number") << "nan";
 }

@@ -346,7 +346,9 @@ void TestOrderDialog::aPickerSaysWhatIsMissing()
 void TestOrderDialog::halfPortionsAreRounded()
 {
     open(m_t1);
+    m_people->answer(QMessageBox::Yes);
     add({{"RICE", "1.5"}});
+    QCOMPARE(m_people->lastText(), QString("Qty: 1.5 will be stored as 2\n\nDo you want to go on?"));
     QCOMPARE(lines()->orderLines().first()->getQty(), 2);
     QCOMPARE(total(), QString("Rp50,000.00"));
 }

@@ -208,6 +208,8 @@ void TestPrinterSettings::withoutItsRowTheCashierFormSavesNothing()
 {
     m_database->run("DELETE FROM appconfig WHERE appkey = 'cashier_printer'");
     DialogCashierAndKitchenPrinter form;
+    type(field<QLineEdit>(&form, "txtCol"), "32");
+    type(field<QLineEdit>(&form, "txtBlankLines"), "6");
     form.accept();
     QCOMPARE(m_people->boxes().size(), 1);
     QCOMPARE(m_people->lastTitle(), QString("Error!"));

@@ -270,14 +270,13 @@ void TestPurchases::whatIsMissingIsTold_data()
     QTest::newRow("an account deleted meanwhile") << Entries{} << "DELETE FROM bank WHERE id = 2"
                                                   << "Please select a valid Accounts Payable";
     QTest::newRow("a payment below zero") << Entries{{"txtPaid", "-1"}} << ""
-                                          << "Discount, tax and payment should not be less than zero";
+                                          << "The amount must not be negative";
     QTest::newRow("a discount above all") << Entries{{"txtDiscount", "31"}} << ""
                                           << "The discount should not be larger than the sub total";
     QTest::newRow("no number") << Entries{{"txtTax", "a lot"}} << ""
                                << "Please enter a number";
-    QTest::newRow("more than money can hold")
-        << Entries{{"txtPaid", "99999999999"}} << ""
-        << "An amount is larger than a document can hold. Please check the figures.";
+    QTest::newRow("more than money can hold") << Entries{{"txtPaid", "99999999999"}} << ""
+                                              << "The amount is too large, the largest is 2.147.483.647";
 }
 
 void TestPurchases::whatIsMissingIsTold()

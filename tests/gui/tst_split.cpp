@@ -223,7 +223,7 @@ void TestSplit::aSplitThatCannotBeIsTold_data()
     QTest::newRow("less than nothing") << "-1"
                                        << "btnSplit"
                                        << "Error"
-                                       << "Please enter a number\r\n";
+                                       << "Please enter a whole number from 0 to 999.999.999\r\n";
     QTest::newRow("nothing to split") << "0"
                                       << "btnProcessSplit"
                                       << "Error"

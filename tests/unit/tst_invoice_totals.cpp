@@ -86,8 +86,9 @@ void TestInvoiceTotals::theFiguresFollowWhatIsTyped_data()
     row("a surcharge is a negative discount", "Rp", 1000, {"-10%", "", ""}, 0, 0, {-100, 0, 0}, 1100, -1100);
     row("half a coin of surcharge", "Rp", 5, {"-10%", "", ""}, 0, 0, {0, 0, 0}, 5, -5);
     row("more off than it costs", "Rp", 1000, {"150%", "", ""}, 0, 0, {1500, 0, 0}, -500, 500);
-    row("cents", "$", 9.99, {"7.5%", "", ""}, 10, 0, {0.75, 0, 0}, 9.24, 0.76);
-    row("cents that binary fractions miss", "$", 1.10, {"", "2.20", ""}, 3.30, 0, {0, 2.20, 0}, 3.30, 0);
+    row("cents are not stored", "$", 9.99, {"7.5%", "", ""}, 10.5, 0, {0, 0, 0}, 9, 1);
+    row("a tenth of 36 dollars", "$", 36, {"10%", "", ""}, 33, 0, {3, 0, 0}, 33, 0);
+    row("cents that binary fractions miss", "$", 10, {"", "4.35", "0.29"}, 14, 0, {0, 4, 0}, 14, 0);
     row("no number for what was paid", "Rp", 1000, {"", "", ""}, nothing, 0, {0, 0, 0}, 1000, -1000);
 }
 

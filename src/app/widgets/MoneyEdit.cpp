@@ -4,6 +4,9 @@
 
 #include <QDebug>
 
+#include <cmath>
+#include <limits>
+
 namespace
 {
 constexpr int decimals = 2;
@@ -31,6 +34,36 @@ Money* MoneyEdit::money()
     validate();
     return m_money;
 }
+
+double MoneyEdit::largest() const { return std::floor(double(std::numeric_limits<int>::max()) / m_money->factor()); }
+
+double MoneyEdit::kept() const
+{
+    return std::abs(storedValue()) > largest() ? storedValue() : Money(nullptr, storedValue(), m_currency).getAmount();
+}
+
+bool MoneyEdit::isNothing() { return !isValid() || qFuzzyIsNull(kept()); }
+
+QString MoneyEdit::fault()
+{
+    const QString fault = AppNumberEdit::fault();
+    if (!fault.isEmpty() || !holdsNumber())
+        return fault;
+    if (storedValue() < 0)
+        return tr("The amount must not be negative");
+    return storedValue() > largest()
+               ? tr("The amount is too large, the largest is %1").arg(locale().toString(largest(), 'f', 0))
+               : QString();
+}
+
+QString MoneyEdit::doubt()
+{
+    if (!isValid() || qFuzzyCompare(1 + kept(), 1 + storedValue()))
+        return {};
+    return tr("%1 will be stored as %2").arg(rawText(), locale().toString(kept(), 'f', 0));
+}
+
+void MoneyEdit::settle() { setValue(kept()); }
 
 void MoneyEdit::setMoney(const Money* money)
 {

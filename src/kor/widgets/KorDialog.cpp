@@ -4,13 +4,34 @@
 #include "kor/widgets/KorButtonKeys.h"
 #include "kor/widgets/KorErrorBox.h"
 #include "kor/widgets/KorTextGuard.h"
+#include "kor/widgets/KorNumberEdit.h"
 #include "kor/widgets/KorViewMemory.h"
 
 #include <QAbstractButton>
 #include <QDialogButtonBox>
 #include <QIcon>
 #include <QKeyEvent>
+#include <QLabel>
+#include <QMessageBox>
+#include <QRegularExpression>
 #include <QTimer>
+
+#include <algorithm>
+
+namespace
+{
+/** What the form calls the box, without the marks around it. */
+QString nameOf(const QWidget* box)
+{
+    QString name = box->accessibleName();
+    const QList<QLabel*> labels = box->window()->findChildren<QLabel*>();
+    for (const QLabel* label : labels) {
+        if (label->buddy() == box)
+            name = label->text();
+    }
+    return name.remove('&').remove(QRegularExpression("[\\s:*]+$"));
+}
+} // namespace
 
 KorDialog::KorDialog(QWidget* parent) : QDialog(parent)
 {
@@ -84,7 +105,8 @@ void KorDialog::done(int result)
     }
     m_errors.clear();
     m_errorFields.clear();
-    if (!validate()) {
+    const bool isFit = validate();
+    if (!checkNumbers() || !isFit) {
         const QString text = composeErrors();
         if (!text.isEmpty())
             KorErrorBox::critical(this, tr("Error"), text);
@@ -92,8 +114,58 @@ void KorDialog::done(int result)
             m_errorFields.first()->setFocus();
         return;
     }
-    if (beforeAccept())
+    if (settleDoubts() && beforeAccept())
         QDialog::done(Accepted);
+}
+
+QList<KorNumberEdit*> KorDialog::numberBoxes() const
+{
+    QList<KorNumberEdit*> boxes = findChildren<KorNumberEdit*>();
+    const auto takesNoEntry = [this](const KorNumberEdit* box) {
+        return box->isReadOnly() || !box->isEnabled() || box->isHidden() || box->window() != window();
+    };
+    boxes.erase(std::remove_if(boxes.begin(), boxes.end(), takesNoEntry), boxes.end());
+    return boxes;
+}
+
+bool KorDialog::checkNumbers()
+{
+    bool isFit = true;
+    const QList<KorNumberEdit*> boxes = numberBoxes();
+    for (KorNumberEdit* box : boxes) {
+        const QString fault = box->fault();
+        isFit = isFit && fault.isEmpty() && !m_errors.contains(box);
+        // The form's own words stand alone, but that a comma was meant for a point they do not tell.
+        const bool isTold = m_errors.contains(box) && !box->isMisspelt();
+        if (!fault.isEmpty() && !isTold && !m_errors.value(box).contains(fault))
+            addError(box, fault);
+    }
+    return isFit;
+}
+
+bool KorDialog::settleDoubts()
+{
+    QList<KorNumberEdit*> doubtful;
+    QStringList doubts;
+    const QList<KorNumberEdit*> boxes = numberBoxes();
+    for (KorNumberEdit* box : boxes) {
+        const QString doubt = box->doubt();
+        if (doubt.isEmpty())
+            continue;
+        doubtful.append(box);
+        const QString name = nameOf(box);
+        doubts.append(name.isEmpty() ? doubt : name + ": " + doubt);
+    }
+    if (doubtful.isEmpty())
+        return true;
+    if (QMessageBox::question(this, tr("Question"), doubts.join('\n') + "\n\n" + tr("Do you want to go on?"),
+                              QMessageBox::Yes | QMessageBox::No, QMessageBox::No) != QMessageBox::Yes) {
+        doubtful.first()->setFocus();
+        return false;
+    }
+    for (KorNumberEdit* box : qAsConst(doubtful))
+        box->settle();
+    return true;
 }
 
 QString KorDialog::composeErrors() const

@@ -9,11 +9,15 @@
 
 #include <functional>
 
+class KorNumberEdit;
 class QDialogButtonBox;
 
 /**
  * Base of every entry form. A form reports what is wrong field by field, and all of it is shown in one box; a
  * confirmed form closes only when it is valid and, where a saver is set, when it has been saved.
+ *
+ * The form finds the number boxes that can be typed in by itself: what a box cannot store is an error beside those that
+ * validate() tells, and what would be stored otherwise than typed is asked about, once for all boxes of a save.
  */
 class KorDialog : public QDialog
 {
@@ -69,6 +73,8 @@ protected:
     bool requireText(QWidget* field, const QString& text, const QString& message);
     /** The found record counts as a clash unless it is the one being edited. */
     bool requireUnused(QWidget* field, const KorEntity* found, const QString& message);
+    /** Adds the faults of the number boxes that have no error yet; false when a box has one. done() calls it anyway. */
+    bool checkNumbers();
     /** Required and not taken by another record; a look-up that fails is told in a box of its own. */
     template <class Service, class Find>
     bool requireCode(QLineEdit* field, Service* service, Find find, const QString& missing, const QString& taken)
@@ -88,6 +94,8 @@ protected:
 
 private:
     [[nodiscard]] QString composeErrors() const;
+    [[nodiscard]] QList<KorNumberEdit*> numberBoxes() const;
+    bool settleDoubts();
 
     QPointer<KorEntity> m_entity;
     std::function<bool()> m_saver;

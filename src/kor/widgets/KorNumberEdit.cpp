@@ -2,6 +2,7 @@
 
 #include <QFocusEvent>
 #include <QKeyEvent>
+#include <QRegularExpression>
 #include <QScopedValueRollback>
 #include <QStyle>
 #include <QStyleOption>
@@ -22,16 +23,42 @@ void KorNumberEdit::validate()
     rememberEntry();
     if (holdsUntouchedNumber())
         return;
-    const QLocale language = locale();
-    bool isNumber = false;
-    const double number = language.toDouble(text().remove(language.groupSeparator()), &isNumber);
-    // "nan" and "inf" are numbers to the locale, but nobody can pay them.
-    m_valid = isNumber && std::isfinite(number);
+    const std::optional<double> number = parse(text(), locale());
+    m_valid = number.has_value();
     if (!m_valid)
         return;
-    m_value = number;
+    m_value = *number;
     if (!hasFocus() || m_finishing)
         write(displayText());
+}
+
+std::optional<double> KorNumberEdit::parse(const QString& text, const QLocale& language)
+{
+    const QString group = QRegularExpression::escape(language.groupSeparator());
+    // What follows the groups has no group mark: the decimal point with its digits.
+    const QRegularExpression grouped(QString("^\\s*[-+]?[1-9]\\d{0,2}(%1\\d{3})+(?!\\d)(?!.*%1)").arg(group));
+    if (text.contains(language.groupSeparator()) && !grouped.match(text).hasMatch())
+        return std::nullopt;
+    bool isNumber = false;
+    const double number = language.toDouble(QString(text).remove(language.groupSeparator()), &isNumber);
+    // "nan" and "inf" are numbers to the locale, but nobody can pay them.
+    return isNumber && std::isfinite(number) ? std::optional(number) : std::nullopt;
+}
+
+bool KorNumberEdit::isMisspelt()
+{
+    static const QRegularExpression digitsAndMarks("^(?=.*\\d)[-+\\d.,'\\s]+$");
+    return !isValid() && digitsAndMarks.match(text()).hasMatch();
+}
+
+QString KorNumberEdit::fault()
+{
+    // The form itself shows a percent of nothing, which is no number; that is no entry.
+    if (isValid() || (!std::isfinite(m_value) && text() == displayText()))
+        return {};
+    return isMisspelt()
+               ? tr("\"%1\" is no number here, please write it like %2").arg(text(), locale().toString(1234.5, 'f', 1))
+               : tr("Please enter a number");
 }
 
 bool KorNumberEdit::holdsUntouchedNumber()

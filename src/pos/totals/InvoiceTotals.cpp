@@ -6,12 +6,20 @@
 #include <cmath>
 #include <limits>
 
-double InvoiceTotals::rounded(double amount) const
+namespace
+{
+/** The largest amount, in whole units. */
+double largest(const QString& currency)
+{
+    return std::numeric_limits<int>::max() / Money(nullptr, 0, currency).factor();
+}
+} // namespace
+
+double InvoiceTotals::kept(double amount, const QString& currency)
 {
     if (!std::isfinite(amount))
         return 0;
-    const int factor = Money(nullptr, 0, m_currency).factor();
-    return std::floor(amount * factor + 0.5) / factor;
+    return std::abs(amount) > largest(currency) ? amount : Money(nullptr, amount, currency).getAmount();
 }
 
 double InvoiceTotals::percentOf(double amount, double subtotal)
@@ -22,32 +30,32 @@ double InvoiceTotals::percentOf(double amount, double subtotal)
 
 void InvoiceTotals::setAmount(Part part, double amount)
 {
-    m_amount[part] = rounded(amount);
+    m_amount[part] = kept(amount);
     m_percent[part] = percentOf(m_amount[part], m_subtotal);
 }
 
 void InvoiceTotals::setPercent(Part part, double percent)
 {
     m_percent[part] = percent;
-    m_amount[part] = rounded(m_subtotal * (percent / 100));
+    m_amount[part] = kept(m_subtotal * (percent / 100));
 }
 
 void InvoiceTotals::restore(Part part, double percent, double amount)
 {
     m_percent[part] = percent;
-    m_amount[part] = rounded(amount);
+    m_amount[part] = kept(amount);
 }
 
 double InvoiceTotals::grandTotal() const
 {
-    return rounded(m_subtotal - m_amount[Discount] + m_amount[Tax] + m_amount[Service]);
+    return kept(m_subtotal - m_amount[Discount] + m_amount[Tax] + m_amount[Service]);
 }
 
-double InvoiceTotals::change() const { return rounded(m_paid + m_credit - grandTotal()); }
+double InvoiceTotals::change() const { return kept(m_paid + m_credit - grandTotal()); }
 
 bool InvoiceTotals::fits() const
 {
-    const int limit = std::numeric_limits<int>::max() / Money(nullptr, 0, m_currency).factor();
+    const double limit = largest(m_currency);
     for (double figure : {m_subtotal, m_amount[Discount], m_amount[Tax], m_amount[Service], m_paid, m_credit,
                           grandTotal(), m_paid + m_credit, change()}) {
         if (!(std::abs(figure) <= limit))

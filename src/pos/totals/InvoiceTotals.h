@@ -7,7 +7,7 @@ class Money;
 
 /**
  * The money of a document in the making: the cascade of what is typed and what follows from it. Amounts are in whole
- * units of the currency and rounded as money is; no widget is involved.
+ * units of the currency, as money stores them, so that the figures add up to the stored ones; no widget is involved.
  */
 class InvoiceTotals
 {
@@ -16,7 +16,7 @@ public:
 
     void setCurrency(const QString& currency) { m_currency = currency; }
     [[nodiscard]] const QString& currency() const { return m_currency; }
-    void setSubtotal(double amount) { m_subtotal = rounded(amount); }
+    void setSubtotal(double amount) { m_subtotal = kept(amount); }
     /** Takes the amount and lets the percent follow. Without a subtotal the percent is infinite or not a number. */
     void setAmount(Part part, double amount);
     /** Takes the percent and lets the amount follow; all three are taken of the subtotal alone. */
@@ -25,8 +25,8 @@ public:
     void restore(Part part, double percent, double amount);
     /** Takes the percent alone; the amount follows when somebody leaves the percent's box. */
     void proposePercent(Part part, double percent) { m_percent[part] = percent; }
-    void setPaid(double amount) { m_paid = rounded(amount); }
-    void setCredit(double amount) { m_credit = rounded(amount); }
+    void setPaid(double amount) { m_paid = kept(amount); }
+    void setCredit(double amount) { m_credit = kept(amount); }
 
     [[nodiscard]] double subtotal() const { return m_subtotal; }
     [[nodiscard]] double amount(Part part) const { return m_amount[part]; }
@@ -46,9 +46,11 @@ public:
 
     /** Three decimals with a rounding point of 0.49 at the third place. */
     [[nodiscard]] static double percentOf(double amount, double subtotal);
+    /** What money keeps of the amount; all of one that is too large for it, which fits() tells, and nothing of none. */
+    [[nodiscard]] static double kept(double amount, const QString& currency);
 
 private:
-    [[nodiscard]] double rounded(double amount) const;
+    [[nodiscard]] double kept(double amount) const { return kept(amount, m_currency); }
 
     QString m_currency;
     double m_subtotal = 0;

@@ -2,6 +2,7 @@
 
 #include "app/widgets/AppNumberEdit.h"
 #include "app/widgets/MoneyEdit.h"
+#include "kor/widgets/KorDialog.h"
 
 #include <QFocusEvent>
 #include <QLabel>
@@ -104,16 +105,11 @@ void TotalsCascade::calculateTotal()
     m_boxes.netDue->setPalette(palette);
 }
 
-QLineEdit* TotalsCascade::wrongEntry() const
+void TotalsCascade::checkDiscount(KorDialog& form) const
 {
-    const QList<AppNumberEdit*> boxes{m_boxes.percents[0], m_boxes.amounts[0], m_boxes.percents[1], m_boxes.amounts[1],
-                                      m_boxes.percents[2], m_boxes.amounts[2], m_boxes.paid,        m_boxes.credit};
-    for (AppNumberEdit* box : boxes) {
-        // What the form itself wrote may be no number either: a percent of nothing.
-        if (box && !box->isValid() && box->text() != box->displayText())
-            return box;
-    }
-    return nullptr;
+    if (m_totals.amount(InvoiceTotals::Discount) > m_totals.subtotal())
+        form.addError(m_boxes.amounts[InvoiceTotals::Discount],
+                      tr("The discount should not be larger than the sub total"));
 }
 
 void TotalsCascade::showPart(InvoiceTotals::Part part)

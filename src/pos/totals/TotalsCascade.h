@@ -5,9 +5,9 @@
 #include <QObject>
 
 class AppNumberEdit;
+class KorDialog;
 class MoneyEdit;
 class QLabel;
-class QLineEdit;
 
 /**
  * Binds the boxes of a form that takes or gives money to the totals: which entry changes which figure, and when. All
@@ -50,8 +50,8 @@ public:
     /** Shows the grand total and what is due from what the boxes hold now. */
     void calculateTotal();
 
-    /** The first box that somebody left with a text that is no number, and whose figure is thus another; or null. */
-    [[nodiscard]] QLineEdit* wrongEntry() const;
+    /** Adds an error to the form where more is taken off than there is. */
+    void checkDiscount(KorDialog& form) const;
 
     void readFrom(const Invoice& invoice);
     void writeTo(Invoice* invoice);

@@ -5,7 +5,8 @@
 
 std::unique_ptr<Money> commissionOf(const Invoice& invoice, double percent)
 {
-    return std::unique_ptr<Money>(invoice.getGrandTotal()->multiply(percent / 100));
+    const std::unique_ptr<Money> share(invoice.getGrandTotal()->multiply(percent / 100));
+    return std::make_unique<Money>(nullptr, share->getAmount(), share->getCurrency());
 }
 
 void setCommission(EntityKomisiAgenDetail* line, double percent)

@@ -110,10 +110,11 @@ void DialogKomisiAgen::totalChanged()
 void DialogKomisiAgen::checkAmounts()
 {
     // An empty box pays nothing; one that holds no number still has the value of the last one.
-    const double paid = m_ui->txtPaid->text().isEmpty() ? 0 : m_ui->txtPaid->value();
-    if (!m_ui->txtPaid->text().isEmpty() && !m_ui->txtPaid->isValid())
-        addError(m_ui->txtPaid, tr("Please enter a number"));
-    else if (paid <= 0 || paid < m_ui->txtGrandTotal->value())
+    const bool isEmpty = m_ui->txtPaid->text().isEmpty();
+    const double paid = isEmpty ? 0 : m_ui->txtPaid->value();
+    if (!isEmpty && !m_ui->txtPaid->isValid())
+        return;
+    if (paid <= 0 || paid < m_ui->txtGrandTotal->value())
         addError(m_ui->txtPaid, tr("The amount paid less than the total invoice"));
 }
 

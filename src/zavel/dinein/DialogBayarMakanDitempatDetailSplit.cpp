@@ -39,10 +39,7 @@ void DialogBayarMakanDitempatDetailSplit::setEntity(KorEntity* line)
 
 bool DialogBayarMakanDitempatDetailSplit::validate()
 {
-    const double quantity = m_ui->txtQtySplit->value();
-    if (!m_ui->txtQtySplit->isValid() || quantity < 0) {
-        addError(m_ui->txtQtySplit, tr("Please enter a number"));
-    } else if (quantity > m_ui->txtQty->value()) {
+    if (checkNumbers() && m_ui->txtQtySplit->value() > m_ui->txtQty->value()) {
         // Told once, in a box of its own, with the field ready for another number.
         QMessageBox::information(this, tr("Info"),
                                  tr("Split number should be less than equal to the number of orders"));

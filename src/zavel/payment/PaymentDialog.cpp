@@ -157,10 +157,8 @@ bool PaymentDialog::validate()
 
 void PaymentDialog::checkAmounts()
 {
-    if (QLineEdit* box = m_cascade->wrongEntry()) {
-        addError(box, tr("Please enter a number"));
+    if (!checkNumbers())
         return;
-    }
     const QString tooLarge = tr("An amount is larger than an invoice can hold. Please check the figures.");
     const QList<EntityInvoiceDetail*> lines = invoiceLines();
     for (const EntityInvoiceDetail* line : lines) {
@@ -170,6 +168,7 @@ void PaymentDialog::checkAmounts()
         }
     }
     m_cascade->calculateTotal();
+    m_cascade->checkDiscount(*this);
     if (!m_cascade->totals().fits())
         addError(m_form.amounts.paid, tooLarge);
 }

@@ -2,7 +2,6 @@
 
 #include "app/context/AppContext.h"
 #include "app/context/EntityUser.h"
-#include "pos/cash/entry/AmountRule.h"
 #include "pos/cash/ledger/CashFlowFilter.h"
 #include "pos/cash/ledger/EntityCashFlow.h"
 #include "pos/masterdata/account/AccountField.h"
@@ -31,7 +30,8 @@ bool DialogCashFlow::validate()
 {
     const QString unknown = tr("There is no account with the code: %1").arg(m_ui->txtAccount->text());
     m_account->check(tr("Select account code"), unknown);
-    requireAmount(*this, m_ui->txtPaid, tr("Enter the amount paid"));
+    if (m_ui->txtPaid->isNothing())
+        addError(m_ui->txtPaid, tr("Enter the amount paid"));
     if (!m_ui->datePayment->date().isValid())
         addError(m_ui->datePayment, tr("Enter valid date"));
     return !hasError();

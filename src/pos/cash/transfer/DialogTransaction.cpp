@@ -1,7 +1,6 @@
 #include "pos/cash/transfer/DialogTransaction.h"
 
 #include "app/context/AppContext.h"
-#include "pos/cash/entry/AmountRule.h"
 #include "pos/cash/transfer/EntityAccountingTransaction.h"
 #include "pos/masterdata/account/AccountField.h"
 
@@ -38,7 +37,8 @@ bool DialogTransaction::validate()
     if (fromStands && toStands && m_from->account()->getId() == m_to->account()->getId())
         addError(m_ui->txtToAccount,
                  tr("The source account code should not be the same as the destination account code"));
-    requireAmount(*this, m_ui->txtAmount, tr("Enter amount paid"));
+    if (m_ui->txtAmount->isNothing())
+        addError(m_ui->txtAmount, tr("Enter amount paid"));
     if (!m_ui->dateTrans->date().isValid())
         addError(m_ui->dateTrans, tr("Enter date"));
     return !hasError();

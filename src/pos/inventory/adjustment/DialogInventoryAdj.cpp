@@ -4,7 +4,6 @@
 #include "kor/business/KorServiceDirectory.h"
 #include "pos/inventory/stock/BusinessInventory.h"
 #include "pos/inventory/stock/EntityStockTake.h"
-#include "pos/inventory/stock/QuantityEntry.h"
 #include "pos/masterdata/account/AccountField.h"
 #include "pos/masterdata/item/ItemField.h"
 
@@ -41,10 +40,10 @@ bool DialogInventoryAdj::validate()
         readQuantityBefore();
     if (isItem && m_ui->txtQtyOnHand->text().isEmpty())
         addError(m_ui->txtKode, tr("The quantity on hand is not known, please choose the item again"));
-    const int adjustment = QuantityEntry::read(*m_ui->txtStok).value_or(0);
-    if (adjustment == 0)
+    const double adjustment = m_ui->txtStok->value();
+    if (!m_ui->txtStok->isValid() || qFuzzyIsNull(adjustment))
         addError(m_ui->txtStok, tr("Enter the qty adjustment of the item"));
-    else if (std::abs(qint64(m_before) + adjustment) > QuantityEntry::largest)
+    else if (std::abs(m_before + adjustment) > QuantityEdit::largest)
         addError(m_ui->txtStok, tr("The new qty is more than can be counted"));
     m_source->check(tr("Select GL Source Account"), tr("Select a valid GL Source Account"));
     return !hasError();
@@ -85,7 +84,7 @@ bool DialogInventoryAdj::settleDay()
 KorEntity* DialogInventoryAdj::getEntity()
 {
     auto* take = heldOrNew<EntityStockTake>();
-    const int adjustment = QuantityEntry::read(*m_ui->txtStok).value_or(0);
+    const int adjustment = m_ui->txtStok->quantity().value_or(0);
     take->setItem(m_item->item());
     take->setStockTakeDate(m_ui->dateQtyOnHand->date());
     take->setQtyBefore(m_before);
@@ -129,7 +128,7 @@ void DialogInventoryAdj::readQuantityBefore()
 
 void DialogInventoryAdj::showNewQuantity()
 {
-    const auto adjustment = QuantityEntry::read(*m_ui->txtStok);
+    const auto adjustment = m_ui->txtStok->quantity();
     const bool isKnown = adjustment && !m_ui->txtQtyOnHand->text().isEmpty();
     m_ui->txtNewQty->setText(isKnown ? m_ui->txtStok->locale().toString(qint64(m_before) + *adjustment) : QString());
 }

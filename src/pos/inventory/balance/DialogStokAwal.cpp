@@ -1,6 +1,5 @@
 #include "pos/inventory/balance/DialogStokAwal.h"
 
-#include "pos/inventory/stock/QuantityEntry.h"
 #include "pos/masterdata/item/EntityStokAwal.h"
 #include "pos/masterdata/item/ItemField.h"
 
@@ -20,12 +19,9 @@ DialogStokAwal::~DialogStokAwal() = default;
 bool DialogStokAwal::validate()
 {
     m_item->check(tr("Enter the item code"), tr("Enter the item code"));
-    // An amount that money cannot hold would be saved as another one.
-    const bool isCost = m_ui->txtHarga->isValid() && m_ui->txtHarga->value() >= 0 &&
-                        std::abs(m_ui->txtHarga->money()->getAmount() - m_ui->txtHarga->value()) < 1;
-    if (!isCost)
+    if (!m_ui->txtHarga->isValid())
         addError(m_ui->txtHarga, tr("Enter the unit cost"));
-    if (!QuantityEntry::read(*m_ui->txtJumlah))
+    if (!m_ui->txtJumlah->isValid())
         addError(m_ui->txtJumlah, tr("Enter the qty of the item"));
     return !hasError();
 }
@@ -35,7 +31,7 @@ KorEntity* DialogStokAwal::getEntity()
     auto* balance = heldOrNew<EntityStokAwal>();
     balance->setItem(m_item->item());
     balance->setHarga(m_ui->txtHarga->money());
-    balance->setJumlah(QuantityEntry::read(*m_ui->txtJumlah).value_or(0));
+    balance->setJumlah(m_ui->txtJumlah->quantity().value_or(0));
     return balance;
 }
 

@@ -19,10 +19,12 @@ bool DialogAgent::validate()
                                              tr("This agent code already used, please choose another code"),
                                              tr("Enter the agent name"), tr("Enter the address"),
                                              tr("Enter the telp no"), tr("Enter the correct email address")});
-    // What is no number would leave the former share standing behind the user's back; an empty field may.
-    const bool readable = m_ui->txtPerc->text().isEmpty() || m_ui->txtPerc->isValid();
+    // No share was meant; the box shows what is stored.
+    if (m_ui->txtPerc->text().isEmpty())
+        m_ui->txtPerc->setValue(0.0);
+    // What is no number would leave the former share standing behind the user's back.
     const double commission = m_ui->txtPerc->value();
-    if (!readable || commission < 0 || commission > 100)
+    if (!m_ui->txtPerc->isValid() || commission < 0 || commission > 100)
         addError(m_ui->txtPerc, tr("Enter the number between 0-100"));
     return !hasError();
 }

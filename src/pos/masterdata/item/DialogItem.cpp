@@ -84,6 +84,7 @@ bool DialogItem::validate()
     rule(m_ui->ddlSatuan->currentData().isValid(), m_ui->ddlSatuan, tr("Select the item unit"));
     rule(m_ui->txtHargaBeli->isValid(), m_ui->txtHargaBeli, tr("Enter the unit cost"));
     rule(m_ui->txtHargaJualLokal->isValid(), m_ui->txtHargaJualLokal, tr("Enter sales price"));
+    checkNumbers();
     const bool onlyAccounts = !hasError();
     rule(!m_accounts->salesAccountCode().isEmpty(), m_accounts, tr("Enter the Sales Account"));
     rule(!m_accounts->inventoryAccountCode().isEmpty(), m_accounts, tr("Enter the Inventory Account"));

@@ -12,6 +12,7 @@ DialogMember::DialogMember(QWidget* parent) : ContactDialog(parent), m_ui(std::m
     m_ui->dateExpired->setDisplayFormat(AppContext::instance()->dateFormat());
     m_ui->dateExpired->setDateTime(QDateTime::currentDateTime().addYears(1));
     m_ui->txtDiscPerc->setValue(0.0);
+    m_ui->txtDiscPerc->askBeyondHundred();
 }
 
 DialogMember::~DialogMember() = default;

@@ -157,19 +157,10 @@ void PurchasingDialog::checkLines()
 
 void PurchasingDialog::checkAmounts()
 {
-    if (QLineEdit* box = m_cascade->wrongEntry()) {
-        if (errorsOf(box).isEmpty())
-            addError(box, tr("Please enter a number"));
+    if (!checkNumbers())
         return;
-    }
     const InvoiceTotals& figures = totals();
-    const bool isNegative =
-        figures.amount(InvoiceTotals::Discount) < 0 || figures.amount(InvoiceTotals::Tax) < 0 || figures.paid() < 0;
-    // A form may have told in its own words already.
-    if (isNegative && !hasError())
-        addError(m_form.pages, tr("Discount, tax and payment should not be less than zero"));
-    if (figures.grandTotal() < 0)
-        addError(m_form.pages, tr("The discount should not be larger than the sub total"));
+    m_cascade->checkDiscount(*this);
     const QString tooLarge = tr("An amount is larger than a document can hold. Please check the figures.");
     const PurchasingLines lines = allLines();
     for (const EntityPurchasingLine* line : lines) {

@@ -8,7 +8,6 @@
 
 #include <QLabel>
 
-#include <cmath>
 #include <limits>
 
 namespace
@@ -60,10 +59,7 @@ void PurchasingLineDialog::proposePrice()
     showAmount();
 }
 
-double PurchasingLineDialog::quantity() const
-{
-    return m_ui->txtQty->isValid() ? std::round(m_ui->txtQty->value()) : 0;
-}
+double PurchasingLineDialog::quantity() const { return m_ui->txtQty->quantity().value_or(0); }
 
 double PurchasingLineDialog::gross() const { return m_ui->txtUnitPrice->value() * quantity(); }
 
@@ -83,7 +79,8 @@ void PurchasingLineDialog::on_txtDiscount_textChanged(const QString&) { showAmou
 
 void PurchasingLineDialog::on_txtDiscPerc_editingFinished()
 {
-    m_ui->txtDiscount->setValue(gross() * (m_ui->txtDiscPerc->value() / 100));
+    m_ui->txtDiscount->setValue(
+        InvoiceTotals::kept(gross() * (m_ui->txtDiscPerc->value() / 100), m_ui->txtDiscount->currency()));
     showAmount();
 }
 
@@ -91,7 +88,8 @@ void PurchasingLineDialog::on_txtDiscount_editingFinished()
 {
     // A discount of nothing has no percent; the one that stands is left alone.
     if (!qFuzzyIsNull(gross()))
-        m_ui->txtDiscPerc->setValue(InvoiceTotals::percentOf(m_ui->txtDiscount->value(), gross()));
+        m_ui->txtDiscPerc->setValue(InvoiceTotals::percentOf(
+            InvoiceTotals::kept(m_ui->txtDiscount->value(), m_ui->txtDiscount->currency()), gross()));
     showAmount();
 }
 
@@ -108,16 +106,14 @@ void PurchasingLineDialog::checkFigures()
 {
     if (!m_ui->txtUnitPrice->isValid() || m_ui->txtUnitPrice->value() <= 0)
         addError(m_ui->txtUnitPrice, m_words.noPrice);
-    if (quantity() < 1)
+    const double typed = m_ui->txtQty->value();
+    if (!m_ui->txtQty->isValid() || typed < 1)
         addError(m_ui->txtQty, m_words.noQuantity);
-    else if (quantity() > m_largest)
+    else if (typed > m_largest)
         addError(m_ui->txtQty, m_tooMany);
-    if (hasError())
+    if (!checkNumbers() || hasError())
         return;
-    const double discount = m_ui->txtDiscount->value();
-    if (!m_ui->txtDiscount->isValid() || !m_ui->txtDiscPerc->isValid())
-        addError(m_ui->txtDiscount, tr("Please enter a number"));
-    else if (discount < 0 || discount > gross())
+    if (m_ui->txtDiscount->value() > gross())
         addError(m_ui->txtDiscount, tr("The discount should be between zero and the amount of the line"));
     if (gross() * m_ui->txtUnitPrice->money()->factor() > std::numeric_limits<int>::max())
         addError(m_ui->txtQty, tr("This amount is too large for one line. Please enter a smaller qty"));
