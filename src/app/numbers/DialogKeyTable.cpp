@@ -1,8 +1,15 @@
 #include "app/numbers/DialogKeyTable.h"
 
 #include "app/numbers/EntityKey.h"
+#include "app/widgets/QuantityEdit.h"
 
 #include "ui_DialogKeyTable.h"
+
+namespace
+{
+// A document's number has room for fifty characters, its date included.
+constexpr int mostDigits = 20;
+} // namespace
 
 DialogKeyTable::DialogKeyTable(QWidget* parent) : KorDialog(parent), m_ui(std::make_unique<Ui::DialogKeyTable>())
 {
@@ -14,15 +21,30 @@ DialogKeyTable::~DialogKeyTable() = default;
 
 bool DialogKeyTable::validate()
 {
-    const auto requireInteger = [this](QLineEdit* field, const QString& missing, const QString& invalid) {
-        bool valid = false;
-        field->text().toInt(&valid);
-        if (require(field, missing) && !valid)
-            addError(field, invalid);
+    struct Field
+    {
+        QLineEdit* box;
+        QString missing;
+        QString invalid;
+        int lowest;
+        int highest;
     };
-    requireInteger(m_ui->txtNextId, tr("Enter Next Id"), tr("Enter valid number for Next Id"));
-    requireInteger(m_ui->txtIncrementBy, tr("Enter Increment Value"), tr("Enter valid number for Increment value"));
-    requireInteger(m_ui->txtNoZero, tr("Enter Number of zero"), tr("Enter valid number for Number of zero"));
+    // Numbers that stand still, run backwards or overflow would meet those that were drawn already.
+    const Field fields[] = {
+        {m_ui->txtNextId, tr("Enter Next Id"), tr("Enter valid number for Next Id"), 0, QuantityEdit::largest},
+        {m_ui->txtIncrementBy, tr("Enter Increment Value"), tr("Enter valid number for Increment value"), 1,
+         QuantityEdit::largest},
+        {m_ui->txtNoZero, tr("Enter Number of zero"), tr("Enter valid number for Number of zero"), 0, mostDigits}};
+    for (const Field& field : fields) {
+        bool valid = false;
+        const int number = field.box->text().toInt(&valid);
+        if (!require(field.box, field.missing))
+            continue;
+        if (!valid)
+            addError(field.box, field.invalid);
+        else if (number < field.lowest || number > field.highest)
+            addError(field.box, QuantityEdit::outside(field.lowest, field.highest));
+    }
     require(m_ui->txtFormat, tr("Enter Format"));
     require(m_ui->txtDescription, tr("Enter Description"));
     return !hasError();

@@ -2,6 +2,7 @@
 
 #include "kor/persistence/KorPaging.h"
 #include "pos/masterdata/item/DataMapperGroupedItem.h"
+#include "pos/masterdata/item/EntityGroupedItem.h"
 
 BusinessGroupedItem::BusinessGroupedItem(QObject* parent, DataMapperGroupedItem* mapper)
     : KorBusinessLogic("Grouped Item", mapper, parent), m_groupedItems(mapper)
@@ -26,4 +27,21 @@ QList<KorEntity*> BusinessGroupedItem::search(const QString& filter, int parentI
     criteria.addFilter("parent", QString::number(parentId));
     criteria.addFilter("filter", filter);
     return read(m_groupedItems->search(criteria), m_groupedItems, "search");
+}
+
+bool BusinessGroupedItem::consistsOf(int itemId, int componentId)
+{
+    // Each item once: rows from before this was asked may go round in a circle.
+    QList<int> items{itemId};
+    for (int index = 0; index < items.size(); ++index) {
+        if (items[index] == componentId)
+            return true;
+        const QList<KorEntity*> components = search(QString(), items[index]);
+        for (const KorEntity* component : components) {
+            const EntityItem* original = static_cast<const EntityGroupedItem*>(component)->getOriginal();
+            if (original && !items.contains(original->getId()))
+                items.append(original->getId());
+        }
+    }
+    return false;
 }

@@ -19,6 +19,8 @@ public:
     [[nodiscard]] QList<KorPermission> getPermissions() const override;
 
     [[nodiscard]] EntityGroupedItem* findByParentAndItem(int parentId, int itemId);
+    /** Whether the item is that component, or has it among its components or theirs. */
+    [[nodiscard]] bool consistsOf(int itemId, int componentId);
     [[nodiscard]] QList<KorEntity*> search(const QString& filter, int parentId);
 
 private:

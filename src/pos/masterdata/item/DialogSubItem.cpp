@@ -27,7 +27,7 @@ bool DialogSubItem::validate()
 {
     if (!item())
         addError(m_ui->txtKode, tr("Enter the item code"));
-    if (int(m_ui->txtJumlah->value()) <= 0)
+    if (!m_ui->txtJumlah->isValid() || m_ui->txtJumlah->value() < 1)
         addError(m_ui->txtJumlah, tr("Enter the qty"));
     return !hasError();
 }
@@ -37,9 +37,16 @@ bool DialogSubItem::beforeAccept()
     const auto* component = held<EntityGroupedItem>();
     auto* components = service<BusinessGroupedItem>("Grouped Item");
     const EntityPoolScope scope(m_read);
+    const bool isCircle = components->consistsOf(item()->getId(), m_parentId);
     const EntityGroupedItem* found = components->findByParentAndItem(m_parentId, item()->getId());
     if (components->hasError()) {
         showError(components->takeErrors());
+        return false;
+    }
+    if (isCircle) {
+        showError(item()->getId() == m_parentId
+                      ? tr("An item cannot be its own component")
+                      : tr("%1 is made of this item, it cannot be a component of it").arg(item()->getNama()));
         return false;
     }
     if (found && (!component || component->getId() != found->getId())) {
@@ -58,7 +65,7 @@ KorEntity* DialogSubItem::getEntity()
         component->setParentItem(parent);
     }
     component->setOriginal(item());
-    component->setJumlah(int(m_ui->txtJumlah->value()));
+    component->setJumlah(m_ui->txtJumlah->quantity().value_or(0));
     return component;
 }
 
