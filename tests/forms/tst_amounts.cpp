@@ -188,6 +188,8 @@ void TestAmounts::anEntryIsStoredAsItStandsOrTold_data()
         {"Discount: 150 is not between 0 and 100" + go}, discount, "0");
     row("less than nothing, agreed to", "member", en, {{"txtDiscPerc", "-3"}, {"yes", ""}},
         {"Discount: -3 is not between 0 and 100" + go}, discount, "-3");
+    row("the number that stands for none", "member", en, {{"txtDiscPerc", "-9999"}},
+        {"-9,999 cannot be stored, please enter another number\r\n"}, discount, "0");
     const char* const share = "SELECT commision_perc::float FROM agent";
     row("an agent's share", "agent", id, {{"txtPerc", "1.5"}},
         {"Enter the number between 0-100\r\n" + mark("1.5", "1.234,5")}, share, "10");
@@ -211,6 +213,8 @@ void TestAmounts::anEntryIsStoredAsItStandsOrTold_data()
         {"Enter the amount paid\r\n" + mark("1,5", "1,234.5")}, entry, "");
     row("cents in the cash", "cash entry", en, {{"txtAccount", "1-100"}, {"txtPaid", "1.50"}, {"yes", ""}},
         {"Amount: 1.50 will be stored as 1" + go}, entry, "1");
+    row("nothing but a part in the cash", "cash entry", id, {{"txtAccount", "1-100"}, {"txtPaid", "0,4"}},
+        {"Enter the amount paid\r\n"}, entry, "");
     row("too much for a transfer", "transfer", en,
         {{"txtFromAccount", "1-100"}, {"txtToAccount", "1010"}, {"txtAmount", "25000000"}},
         {"The amount is too large, the largest is 21,474,836\r\n"}, "SELECT count(*) FROM accounting_trans", "0");

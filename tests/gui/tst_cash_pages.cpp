@@ -325,11 +325,8 @@ void TestCashPages::aFormSaysWhatIsWrong_data()
     for (const bool isTransfer : {false, true}) {
         const char* field = isTransfer ? "txtAmount" : "txtPaid";
         const QString missing = isTransfer ? "Enter amount paid" : "Enter the amount paid";
-        for (const char* nothing : {"0", "0,4", "ten"})
+        for (const char* nothing : {"0", "ten"})
             row(nothing, isTransfer, {{field, nothing}}, missing);
-        row("negative", isTransfer, {{field, "-5"}}, "The amount must not be negative");
-        for (const char* tooMuch : {"2147483648", "1e300"})
-            row(tooMuch, isTransfer, {{field, tooMuch}}, "The amount is too large, the largest is 2.147.483.647");
     }
 }
 

@@ -626,15 +626,9 @@ void TestPayment::aWrongEntryIsTold_data()
                                    << "zz" << unknown.arg("zz");
     QTest::newRow("no such waitress") << "txtEmployee"
                                       << "zz" << unknown.arg("zz");
-    QTest::newRow("more than money holds") << "txtPaid"
-                                           << "3000000000"
-                                           << "The amount is too large, the largest is 2.147.483.647\r\n";
     QTest::newRow("letters for money") << "txtPaid"
                                        << "9oo"
                                        << "Please enter a number\r\n";
-    QTest::newRow("letters for a percent") << "txtTaxPerc"
-                                           << "x"
-                                           << "Please enter a number\r\n";
     QTest::newRow("an emptied box") << "txtCredit"
                                     << ""
                                     << "Please enter a number\r\n";

@@ -11,6 +11,7 @@ public:
     explicit AppNumberEdit(QWidget* parent = nullptr);
 
     [[nodiscard]] QLocale locale() const override { return m_locale; }
+    [[nodiscard]] QString fault() override;
 
 protected:
     [[nodiscard]] QString editableText() const override;
