@@ -64,17 +64,6 @@ Required permission: %1</source>
     </message>
 </context>
 <context>
-    <name>AmountRule</name>
-    <message>
-        <source>The amount must not be negative</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The amount is too large, the largest is %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
     <name>AppCodeMigration11</name>
     <message>
         <source>update kode column to varchar(20)</source>
@@ -181,6 +170,17 @@ Required permission: %1</source>
     </message>
     <message>
         <source>%1 Items</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It is saved. Only the list could not be read again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>AppNumberEdit</name>
+    <message>
+        <source>%1 cannot be stored, please enter another number</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -401,6 +401,10 @@ Required permission: %1</source>
         <source>create transaction failed</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>what is still due of its purchase</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>BusinessDataPerusahaan</name>
@@ -525,6 +529,10 @@ Required permission: %1</source>
     </message>
     <message>
         <source>Delete Payment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what is still due of the purchases that it pays</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -740,6 +748,10 @@ Required permission: %1</source>
     </message>
     <message>
         <source>Delete user</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Username already exists</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -960,6 +972,26 @@ Required permission: %1</source>
     </message>
     <message>
         <source>Are you sure all the windows has been closed?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How numbers and money are written, and in which currency the first items are priced</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 items and %2 open orders are priced in another currency than %3. Amounts of two currencies would be added as if they were one. Finish the open orders first; the items can be restated: the same figures, in %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Restate the Items</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Leave Them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep the Locale</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2166,10 +2198,6 @@ Do you want to restore into %1 all the same?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Please enter a number</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Info</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2920,6 +2948,18 @@ Do you want to restore into %1 all the same?</source>
         <source>Select a valid GL Source Account</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>On %1 %2 of this item were bought, %3 sold and %4 returned. They count on top of an adjustment of that day, although the quantity on hand that you see includes them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Question</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do you want to date it on %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>DialogItem</name>
@@ -3479,10 +3519,6 @@ Do you want to restore into %1 all the same?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Please enter a number</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The amount paid less than the total invoice</source>
         <translation type="unfinished"></translation>
     </message>
@@ -3820,6 +3856,22 @@ Do you want to restore into %1 all the same?</source>
     </message>
     <message>
         <source>Please select a valid Accounts Receivable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Question</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Credit stands on these invoices that no member&apos;s payment accounts for, as of a card at the sale: %1. This payment takes its place, and the sum is due again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do you want to save this payment all the same?</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -4263,6 +4315,14 @@ Do you want to restore into %1 all the same?</source>
         <source>This item is already in the list, please update it</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>An item cannot be its own component</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is made of this item, it cannot be a component of it</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>DialogSupplier</name>
@@ -4644,6 +4704,14 @@ Do you want to restore into %1 all the same?</source>
         <source>The database has to exist on the server already</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>How numbers and money are written, and in which currency the first items are priced</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Locale (ISO 639) :</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>HelpWindow</name>
@@ -4825,20 +4893,17 @@ Do you want to restore into %1 all the same?</source>
     </message>
 </context>
 <context>
-    <name>KorDatabase</name>
-    <message>
-        <source>The connection to the database is lost. Please try again in a moment; if that does not help, see whether the database server is running.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The connection to the database was lost at the very moment of saving, so it is not certain whether it was saved. Please look for it before you save it again.</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
     <name>KorDialog</name>
     <message>
         <source>Error</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Question</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do you want to go on?</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -4846,6 +4911,77 @@ Do you want to restore into %1 all the same?</source>
     <name>KorEmptyHint</name>
     <message>
         <source>Nothing to show here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>KorFailure</name>
+    <message>
+        <source>This code, name or number is already in use.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is still in use, so it can not be deleted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Something that this refers to has been deleted, or is still in use.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A value is missing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A text is longer than there is room for.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A number is larger than there is room for.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A text holds a character that can not be stored.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The disk of the database server is full. Nothing can be saved until there is room.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The database server is read-only at the moment. Nothing can be saved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another workstation was working on the same records at this moment.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The program&apos;s user of the database may not do this.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The database lacks something that this program needs. It may have to be updated.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The database could not do this.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The connection to the database was lost at the very moment of saving, so it is not certain whether it was saved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please look for it before you save it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The connection to the database is lost.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please try again in a moment; if that does not help, see whether the database server is running.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -4885,6 +5021,17 @@ Do you want to restore into %1 all the same?</source>
     </message>
     <message>
         <source> error: </source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>KorNumberEdit</name>
+    <message>
+        <source>&quot;%1&quot; is no number here, please write it like %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please enter a number</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -5531,6 +5678,21 @@ Please fill the db connection fields and install the initial data</source>
     </message>
 </context>
 <context>
+    <name>MoneyEdit</name>
+    <message>
+        <source>The amount must not be negative</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The amount is too large, the largest is %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 will be stored as %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>OrderBoard</name>
     <message>
         <source>%1 Items</source>
@@ -5751,6 +5913,18 @@ Please fill the db connection fields and install the initial data</source>
         <source>This item: %1 is already exist in the list. Do you want to update it with this data?</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Question</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The items are priced in %1, and the total adds them as if they were one currency. The owner can restate the items under Configuration &gt; General.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do you want to save it all the same?</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>OrderPaymentDialog</name>
@@ -5800,6 +5974,18 @@ Please fill the db connection fields and install the initial data</source>
     </message>
     <message>
         <source>Do you want to end this order all the same?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the status of its order</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Later, press OK in this form again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>reading it again</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -5881,10 +6067,6 @@ Please fill the db connection fields and install the initial data</source>
     </message>
     <message>
         <source>Add one or more menu</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Please enter a number</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -5997,6 +6179,17 @@ Please fill the db connection fields and install the initial data</source>
     </message>
 </context>
 <context>
+    <name>PercentEdit</name>
+    <message>
+        <source>The percentage must not be negative</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is not between 0 and 100</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PosInstaller</name>
     <message>
         <source>POS Data</source>
@@ -6092,19 +6285,11 @@ Please fill the db connection fields and install the initial data</source>
 <context>
     <name>PurchasingDialog</name>
     <message>
-        <source>Please enter a number</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Discount, tax and payment should not be less than zero</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The discount should not be larger than the sub total</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>An amount is larger than a document can hold. Please check the figures.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The account is not of the type Cash: the day&apos;s close does not count the amount paid.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -6140,10 +6325,6 @@ Please fill the db connection fields and install the initial data</source>
     </message>
     <message>
         <source>Please enter a valid item code</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Please enter a number</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -6244,6 +6425,21 @@ Please fill the db connection fields and install the initial data</source>
     </message>
     <message>
         <source>Account Payable :</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>QuantityEdit</name>
+    <message>
+        <source>Please enter a whole number from %1 to %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please enter a whole number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 will be stored as %2</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -8053,6 +8249,13 @@ Exit status of status: 0 installed, 3 reachable but not installed, 1 otherwise.<
     </message>
 </context>
 <context>
+    <name>StockDocumentService</name>
+    <message>
+        <source>the rows of its goods on the stock card</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>SupplierTextBox</name>
     <message>
         <source>Code</source>
@@ -8628,12 +8831,23 @@ Exit status of status: 0 installed, 3 reachable but not installed, 1 otherwise.<
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Error</source>
+        <source>The adjustment is saved. Please do not enter it again.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The adjustment is saved, but it is missing on the stock card:<byte value="xd"/>
-%1</source>
+        <source>its row on the stock card</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Later, delete the adjustment and enter it anew.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The adjustment is deleted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>taking its row off the stock card</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -9130,6 +9344,10 @@ Exit status of status: 0 installed, 3 reachable but not installed, 1 otherwise.<
         <source>Can not find Payment with id: %1</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>what is still due of the invoices that it pays</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>TabPiutangInvoice</name>
@@ -9248,6 +9466,14 @@ Exit status of status: 0 installed, 3 reachable but not installed, 1 otherwise.<
     </message>
     <message>
         <source>Info</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the closing of Purchase Order No: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Later, close it in the form of the purchase order.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -10555,6 +10781,41 @@ Exit status of status: 0 installed, 3 reachable but not installed, 1 otherwise.<
     </message>
     <message>
         <source>Change :</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The discount should not be larger than the sub total</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>UnfinishedSave</name>
+    <message>
+        <source>%1 is saved. Please do not enter it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Later, open it from its list and press OK: that does the same.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not done yet: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do you want to have it done now?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Finish Now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Later</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

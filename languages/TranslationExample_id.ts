@@ -65,17 +65,6 @@ Hak akses yang dibutuhkan: %1</translation>
     </message>
 </context>
 <context>
-    <name>AmountRule</name>
-    <message>
-        <source>The amount must not be negative</source>
-        <translation>Jumlah tidak boleh negatif</translation>
-    </message>
-    <message>
-        <source>The amount is too large, the largest is %1</source>
-        <translation>Jumlah terlalu besar, paling besar %1</translation>
-    </message>
-</context>
-<context>
     <name>AppCodeMigration11</name>
     <message>
         <source>update kode column to varchar(20)</source>
@@ -183,6 +172,17 @@ Hak akses yang dibutuhkan: %1</translation>
     <message>
         <source>%1 Items</source>
         <translation>%1 Barang</translation>
+    </message>
+    <message>
+        <source>It is saved. Only the list could not be read again.</source>
+        <translation>Sudah disimpan. Hanya daftarnya yang tidak bisa dibaca lagi.</translation>
+    </message>
+</context>
+<context>
+    <name>AppNumberEdit</name>
+    <message>
+        <source>%1 cannot be stored, please enter another number</source>
+        <translation>%1 tidak dapat disimpan, masukkan angka lain</translation>
     </message>
 </context>
 <context>
@@ -402,6 +402,10 @@ Hak akses yang dibutuhkan: %1</translation>
         <source>create transaction failed</source>
         <translation>pembuatan transaksi gagal</translation>
     </message>
+    <message>
+        <source>what is still due of its purchase</source>
+        <translation>sisa utang pembeliannya</translation>
+    </message>
 </context>
 <context>
     <name>BusinessDataPerusahaan</name>
@@ -527,6 +531,10 @@ Hak akses yang dibutuhkan: %1</translation>
     <message>
         <source>Delete Payment</source>
         <translation>Hapus Pembayaran</translation>
+    </message>
+    <message>
+        <source>what is still due of the purchases that it pays</source>
+        <translation>sisa utang pembelian yang dibayarnya</translation>
     </message>
 </context>
 <context>
@@ -742,6 +750,10 @@ Hak akses yang dibutuhkan: %1</translation>
     <message>
         <source>Delete user</source>
         <translation>Hapus pengguna</translation>
+    </message>
+    <message>
+        <source>Username already exists</source>
+        <translation>Nama pengguna sudah ada</translation>
     </message>
 </context>
 <context>
@@ -962,6 +974,26 @@ Hak akses yang dibutuhkan: %1</translation>
     <message>
         <source>Are you sure all the windows has been closed?</source>
         <translation>Apakah semua jendela sudah ditutup?</translation>
+    </message>
+    <message>
+        <source>How numbers and money are written, and in which currency the first items are priced</source>
+        <translation>Cara angka dan uang ditulis, dan mata uang harga barang pertama</translation>
+    </message>
+    <message>
+        <source>%1 items and %2 open orders are priced in another currency than %3. Amounts of two currencies would be added as if they were one. Finish the open orders first; the items can be restated: the same figures, in %3.</source>
+        <translation>%1 barang dan %2 pesanan terbuka berharga dalam mata uang selain %3. Jumlah dua mata uang akan dijumlahkan seolah-olah satu. Selesaikan dahulu pesanan terbuka; harga barang dapat dinyatakan ulang: angka yang sama, dalam %3.</translation>
+    </message>
+    <message>
+        <source>Restate the Items</source>
+        <translation>Nyatakan Ulang Harga</translation>
+    </message>
+    <message>
+        <source>Leave Them</source>
+        <translation>Biarkan</translation>
+    </message>
+    <message>
+        <source>Keep the Locale</source>
+        <translation>Tetap Lokal Lama</translation>
     </message>
 </context>
 <context>
@@ -2190,10 +2222,6 @@ Tetap pulihkan ke %1?</translation>
         <translation>Grup %1</translation>
     </message>
     <message>
-        <source>Please enter a number</source>
-        <translation>Isi dengan angka</translation>
-    </message>
-    <message>
         <source>Info</source>
         <translation>Info</translation>
     </message>
@@ -2944,6 +2972,18 @@ Tetap pulihkan ke %1?</translation>
         <source>Select a valid GL Source Account</source>
         <translation>Pilih Akun GL Asal yang benar</translation>
     </message>
+    <message>
+        <source>On %1 %2 of this item were bought, %3 sold and %4 returned. They count on top of an adjustment of that day, although the quantity on hand that you see includes them.</source>
+        <translation>Pada %1 barang ini dibeli %2, dijual %3, dan dikembalikan %4. Semua itu dihitung lagi di atas penyesuaian hari itu, padahal stok yang tampak sudah termasuk itu.</translation>
+    </message>
+    <message>
+        <source>Question</source>
+        <translation>Pertanyaan</translation>
+    </message>
+    <message>
+        <source>Do you want to date it on %1?</source>
+        <translation>Apakah tanggalnya dijadikan %1?</translation>
+    </message>
 </context>
 <context>
     <name>DialogItem</name>
@@ -3503,10 +3543,6 @@ Tetap pulihkan ke %1?</translation>
         <translation>Kembali :</translation>
     </message>
     <message>
-        <source>Please enter a number</source>
-        <translation>Isi dengan angka</translation>
-    </message>
-    <message>
         <source>The amount paid less than the total invoice</source>
         <translation>Jumlah bayar kurang dari total faktur</translation>
     </message>
@@ -3845,6 +3881,22 @@ Tetap pulihkan ke %1?</translation>
     <message>
         <source>Please select a valid Accounts Receivable</source>
         <translation>Pilih Piutang Usaha yang benar</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 pada %2</translation>
+    </message>
+    <message>
+        <source>Question</source>
+        <translation>Pertanyaan</translation>
+    </message>
+    <message>
+        <source>Credit stands on these invoices that no member&apos;s payment accounts for, as of a card at the sale: %1. This payment takes its place, and the sum is due again.</source>
+        <translation>Pada faktur ini ada kredit tanpa pembayaran anggota, misalnya kartu saat penjualan: %1. Pembayaran ini menggantikannya, dan jumlah itu terutang lagi.</translation>
+    </message>
+    <message>
+        <source>Do you want to save this payment all the same?</source>
+        <translation>Apakah pembayaran ini tetap disimpan?</translation>
     </message>
 </context>
 <context>
@@ -4287,6 +4339,14 @@ Tetap pulihkan ke %1?</translation>
         <source>This item is already in the list, please update it</source>
         <translation>Barang ini sudah ada di daftar, silakan perbarui</translation>
     </message>
+    <message>
+        <source>An item cannot be its own component</source>
+        <translation>Barang tidak dapat menjadi komponennya sendiri</translation>
+    </message>
+    <message>
+        <source>%1 is made of this item, it cannot be a component of it</source>
+        <translation>%1 dibuat dari barang ini, jadi tidak dapat menjadi komponennya</translation>
+    </message>
 </context>
 <context>
     <name>DialogSupplier</name>
@@ -4668,6 +4728,14 @@ Tetap pulihkan ke %1?</translation>
         <source>The database has to exist on the server already</source>
         <translation>Basis data harus sudah ada di server</translation>
     </message>
+    <message>
+        <source>How numbers and money are written, and in which currency the first items are priced</source>
+        <translation>Cara angka dan uang ditulis, dan mata uang harga barang pertama</translation>
+    </message>
+    <message>
+        <source>Locale (ISO 639) :</source>
+        <translation>Lokal (ISO 639) :</translation>
+    </message>
 </context>
 <context>
     <name>HelpWindow</name>
@@ -4849,21 +4917,18 @@ Tetap pulihkan ke %1?</translation>
     </message>
 </context>
 <context>
-    <name>KorDatabase</name>
-    <message>
-        <source>The connection to the database is lost. Please try again in a moment; if that does not help, see whether the database server is running.</source>
-        <translation>Sambungan ke basis data terputus. Coba lagi sebentar lagi; bila tidak membantu, periksa apakah server basis data berjalan.</translation>
-    </message>
-    <message>
-        <source>The connection to the database was lost at the very moment of saving, so it is not certain whether it was saved. Please look for it before you save it again.</source>
-        <translation>Sambungan ke basis data terputus tepat saat menyimpan, sehingga tidak pasti apakah sudah tersimpan. Periksa dahulu sebelum menyimpan lagi.</translation>
-    </message>
-</context>
-<context>
     <name>KorDialog</name>
     <message>
         <source>Error</source>
         <translation>Kesalahan</translation>
+    </message>
+    <message>
+        <source>Question</source>
+        <translation>Pertanyaan</translation>
+    </message>
+    <message>
+        <source>Do you want to go on?</source>
+        <translation>Apakah Anda ingin melanjutkan?</translation>
     </message>
 </context>
 <context>
@@ -4871,6 +4936,77 @@ Tetap pulihkan ke %1?</translation>
     <message>
         <source>Nothing to show here.</source>
         <translation>Tidak ada data.</translation>
+    </message>
+</context>
+<context>
+    <name>KorFailure</name>
+    <message>
+        <source>This code, name or number is already in use.</source>
+        <translation>Kode, nama, atau nomor ini sudah dipakai.</translation>
+    </message>
+    <message>
+        <source>This is still in use, so it can not be deleted.</source>
+        <translation>Ini masih dipakai, jadi tidak bisa dihapus.</translation>
+    </message>
+    <message>
+        <source>Something that this refers to has been deleted, or is still in use.</source>
+        <translation>Data yang dirujuk sudah dihapus, atau masih dipakai.</translation>
+    </message>
+    <message>
+        <source>A value is missing.</source>
+        <translation>Ada isian yang belum diisi.</translation>
+    </message>
+    <message>
+        <source>A text is longer than there is room for.</source>
+        <translation>Ada teks yang terlalu panjang.</translation>
+    </message>
+    <message>
+        <source>A number is larger than there is room for.</source>
+        <translation>Ada angka yang terlalu besar.</translation>
+    </message>
+    <message>
+        <source>A text holds a character that can not be stored.</source>
+        <translation>Ada teks dengan karakter yang tidak bisa disimpan.</translation>
+    </message>
+    <message>
+        <source>The disk of the database server is full. Nothing can be saved until there is room.</source>
+        <translation>Disk server basis data penuh. Tidak ada yang bisa disimpan sampai ada ruang lagi.</translation>
+    </message>
+    <message>
+        <source>The database server is read-only at the moment. Nothing can be saved.</source>
+        <translation>Server basis data saat ini hanya bisa dibaca. Tidak ada yang bisa disimpan.</translation>
+    </message>
+    <message>
+        <source>Another workstation was working on the same records at this moment.</source>
+        <translation>Komputer lain sedang mengerjakan data yang sama pada saat ini.</translation>
+    </message>
+    <message>
+        <source>The program&apos;s user of the database may not do this.</source>
+        <translation>Pengguna basis data program ini tidak berhak melakukannya.</translation>
+    </message>
+    <message>
+        <source>The database lacks something that this program needs. It may have to be updated.</source>
+        <translation>Basis data tidak punya sesuatu yang diperlukan program ini. Mungkin perlu diperbarui.</translation>
+    </message>
+    <message>
+        <source>The database could not do this.</source>
+        <translation>Basis data tidak dapat melakukannya.</translation>
+    </message>
+    <message>
+        <source>The connection to the database was lost at the very moment of saving, so it is not certain whether it was saved.</source>
+        <translation>Sambungan ke basis data terputus tepat saat menyimpan, sehingga tidak pasti apakah sudah tersimpan.</translation>
+    </message>
+    <message>
+        <source>Please look for it before you save it again.</source>
+        <translation>Periksa dahulu sebelum menyimpan lagi.</translation>
+    </message>
+    <message>
+        <source>The connection to the database is lost.</source>
+        <translation>Sambungan ke basis data terputus.</translation>
+    </message>
+    <message>
+        <source>Please try again in a moment; if that does not help, see whether the database server is running.</source>
+        <translation>Coba lagi sebentar; bila tidak membantu, periksa apakah server basis data berjalan.</translation>
     </message>
 </context>
 <context>
@@ -4910,6 +5046,17 @@ Tetap pulihkan ke %1?</translation>
     <message>
         <source> error: </source>
         <translation> kesalahan: </translation>
+    </message>
+</context>
+<context>
+    <name>KorNumberEdit</name>
+    <message>
+        <source>&quot;%1&quot; is no number here, please write it like %2</source>
+        <translation>&quot;%1&quot; bukan angka di sini, tulislah seperti %2</translation>
+    </message>
+    <message>
+        <source>Please enter a number</source>
+        <translation>Isi dengan angka</translation>
     </message>
 </context>
 <context>
@@ -5556,6 +5703,21 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
 </context>
 <context>
+    <name>MoneyEdit</name>
+    <message>
+        <source>The amount must not be negative</source>
+        <translation>Jumlah tidak boleh negatif</translation>
+    </message>
+    <message>
+        <source>The amount is too large, the largest is %1</source>
+        <translation>Jumlah terlalu besar, paling besar %1</translation>
+    </message>
+    <message>
+        <source>%1 will be stored as %2</source>
+        <translation>%1 akan disimpan sebagai %2</translation>
+    </message>
+</context>
+<context>
     <name>OrderBoard</name>
     <message>
         <source>%1 Items</source>
@@ -5776,6 +5938,18 @@ Isi kolom sambungan db dan pasang data awal</translation>
         <source>This item: %1 is already exist in the list. Do you want to update it with this data?</source>
         <translation>Barang ini: %1 sudah ada di daftar. Perbarui dengan data ini?</translation>
     </message>
+    <message>
+        <source>Question</source>
+        <translation>Pertanyaan</translation>
+    </message>
+    <message>
+        <source>The items are priced in %1, and the total adds them as if they were one currency. The owner can restate the items under Configuration &gt; General.</source>
+        <translation>Harga barang dalam %1, dan totalnya dijumlahkan seolah-olah satu mata uang. Pemilik dapat menyatakan ulang harga di Konfigurasi &gt; Umum.</translation>
+    </message>
+    <message>
+        <source>Do you want to save it all the same?</source>
+        <translation>Apakah tetap disimpan?</translation>
+    </message>
 </context>
 <context>
     <name>OrderPaymentDialog</name>
@@ -5826,6 +6000,18 @@ Isi kolom sambungan db dan pasang data awal</translation>
     <message>
         <source>Do you want to end this order all the same?</source>
         <translation>Apakah pesanan ini tetap diakhiri?</translation>
+    </message>
+    <message>
+        <source>the status of its order</source>
+        <translation>status pesanannya</translation>
+    </message>
+    <message>
+        <source>Later, press OK in this form again.</source>
+        <translation>Nanti, tekan OK lagi di formulir ini.</translation>
+    </message>
+    <message>
+        <source>reading it again</source>
+        <translation>membacanya kembali</translation>
     </message>
 </context>
 <context>
@@ -5908,10 +6094,6 @@ Isi kolom sambungan db dan pasang data awal</translation>
     <message>
         <source>Add one or more menu</source>
         <translation>Tambahkan satu menu atau lebih</translation>
-    </message>
-    <message>
-        <source>Please enter a number</source>
-        <translation>Isi dengan angka</translation>
     </message>
     <message>
         <source>An amount is larger than an invoice can hold. Please check the figures.</source>
@@ -6023,6 +6205,17 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
 </context>
 <context>
+    <name>PercentEdit</name>
+    <message>
+        <source>The percentage must not be negative</source>
+        <translation>Persentase tidak boleh negatif</translation>
+    </message>
+    <message>
+        <source>%1 is not between 0 and 100</source>
+        <translation>%1 tidak di antara 0 dan 100</translation>
+    </message>
+</context>
+<context>
     <name>PosInstaller</name>
     <message>
         <source>POS Data</source>
@@ -6118,20 +6311,12 @@ Isi kolom sambungan db dan pasang data awal</translation>
 <context>
     <name>PurchasingDialog</name>
     <message>
-        <source>Please enter a number</source>
-        <translation>Isi dengan angka</translation>
-    </message>
-    <message>
-        <source>Discount, tax and payment should not be less than zero</source>
-        <translation>Diskon, pajak dan pembayaran tidak boleh kurang dari nol</translation>
-    </message>
-    <message>
-        <source>The discount should not be larger than the sub total</source>
-        <translation>Diskon tidak boleh melebihi sub total</translation>
-    </message>
-    <message>
         <source>An amount is larger than a document can hold. Please check the figures.</source>
         <translation>Ada jumlah uang yang melebihi batas dokumen. Periksa kembali angkanya.</translation>
+    </message>
+    <message>
+        <source>The account is not of the type Cash: the day&apos;s close does not count the amount paid.</source>
+        <translation>Akun ini bukan jenis Tunai: tutup hari tidak menghitung jumlah yang dibayar.</translation>
     </message>
 </context>
 <context>
@@ -6167,10 +6352,6 @@ Isi kolom sambungan db dan pasang data awal</translation>
     <message>
         <source>Please enter a valid item code</source>
         <translation>Isi kode barang yang benar</translation>
-    </message>
-    <message>
-        <source>Please enter a number</source>
-        <translation>Isi dengan angka</translation>
     </message>
     <message>
         <source>The discount should be between zero and the amount of the line</source>
@@ -6271,6 +6452,21 @@ Isi kolom sambungan db dan pasang data awal</translation>
     <message>
         <source>Account Payable :</source>
         <translation>Utang Usaha :</translation>
+    </message>
+</context>
+<context>
+    <name>QuantityEdit</name>
+    <message>
+        <source>Please enter a whole number from %1 to %2</source>
+        <translation>Masukkan bilangan bulat dari %1 sampai %2</translation>
+    </message>
+    <message>
+        <source>Please enter a whole number</source>
+        <translation>Masukkan bilangan bulat</translation>
+    </message>
+    <message>
+        <source>%1 will be stored as %2</source>
+        <translation>%1 akan disimpan sebagai %2</translation>
     </message>
 </context>
 <context>
@@ -8082,6 +8278,13 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     </message>
 </context>
 <context>
+    <name>StockDocumentService</name>
+    <message>
+        <source>the rows of its goods on the stock card</source>
+        <translation>baris barangnya di kartu stok</translation>
+    </message>
+</context>
+<context>
     <name>SupplierTextBox</name>
     <message>
         <source>Code</source>
@@ -8657,14 +8860,24 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
         <translation>Yakin ingin menghapus barang ini: %1 ?</translation>
     </message>
     <message>
-        <source>Error</source>
-        <translation>Kesalahan</translation>
+        <source>The adjustment is saved. Please do not enter it again.</source>
+        <translation>Penyesuaian sudah disimpan. Jangan dimasukkan lagi.</translation>
     </message>
     <message>
-        <source>The adjustment is saved, but it is missing on the stock card:<byte value="xd"/>
-%1</source>
-        <translation>Penyesuaian sudah disimpan, tetapi tidak ada di kartu stok:<byte value="xd"/>
-%1</translation>
+        <source>its row on the stock card</source>
+        <translation>barisnya di kartu stok</translation>
+    </message>
+    <message>
+        <source>Later, delete the adjustment and enter it anew.</source>
+        <translation>Nanti, hapus penyesuaian ini dan masukkan kembali.</translation>
+    </message>
+    <message>
+        <source>The adjustment is deleted.</source>
+        <translation>Penyesuaian sudah dihapus.</translation>
+    </message>
+    <message>
+        <source>taking its row off the stock card</source>
+        <translation>penghapusan barisnya dari kartu stok</translation>
     </message>
 </context>
 <context>
@@ -9160,6 +9373,10 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
         <source>Can not find Payment with id: %1</source>
         <translation>Pembayaran dengan id: %1 tidak ditemukan</translation>
     </message>
+    <message>
+        <source>what is still due of the invoices that it pays</source>
+        <translation>sisa tagihan faktur yang dibayarnya</translation>
+    </message>
 </context>
 <context>
     <name>TabPiutangInvoice</name>
@@ -9279,6 +9496,14 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     <message>
         <source>Info</source>
         <translation>Info</translation>
+    </message>
+    <message>
+        <source>the closing of Purchase Order No: %1</source>
+        <translation>penutupan Pesanan Pembelian No: %1</translation>
+    </message>
+    <message>
+        <source>Later, close it in the form of the purchase order.</source>
+        <translation>Nanti, tutup di formulir pesanan pembeliannya.</translation>
     </message>
 </context>
 <context>
@@ -10586,6 +10811,41 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     <message>
         <source>Change :</source>
         <translation>Kembali :</translation>
+    </message>
+    <message>
+        <source>The discount should not be larger than the sub total</source>
+        <translation>Diskon tidak boleh melebihi sub total</translation>
+    </message>
+</context>
+<context>
+    <name>UnfinishedSave</name>
+    <message>
+        <source>%1 is saved. Please do not enter it again.</source>
+        <translation>%1 sudah disimpan. Jangan dimasukkan lagi.</translation>
+    </message>
+    <message>
+        <source>Later, open it from its list and press OK: that does the same.</source>
+        <translation>Nanti, buka dari daftarnya lalu tekan OK: hasilnya sama.</translation>
+    </message>
+    <message>
+        <source>Not done yet: %1.</source>
+        <translation>Belum selesai: %1.</translation>
+    </message>
+    <message>
+        <source>Do you want to have it done now?</source>
+        <translation>Selesaikan sekarang?</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Kesalahan</translation>
+    </message>
+    <message>
+        <source>Finish Now</source>
+        <translation>Selesaikan Sekarang</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Nanti</translation>
     </message>
 </context>
 <context>
