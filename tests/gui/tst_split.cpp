@@ -300,8 +300,11 @@ void TestSplit::aDifferenceIsToldInItsCurrency()
         line->recomputeTotal();
         billed.append(line);
     }
-    QCOMPARE(differenceOf(EntityMakanDitempat(), billed, &owner).text(),
-             QString("On the bill, but taken back: 2 Pie ($24), 2 Ale ($24); $48 in all"));
+    EntityMakanDitempat order;
+    order.setDetails({m_builders->line(m_builders->item("GIN", "Gin", 500), 1)});
+    QCOMPARE(differenceOf(order, billed, &owner).text(),
+             QString("Ordered, but on no bill: 1 Gin (Rp500)\r\nOn the bill, but taken back: 2 Pie ($24), 2 Ale ($24); "
+                     "$48 in all"));
 }
 
 // --- conservation --------------------------------------------------------------------------------------------------

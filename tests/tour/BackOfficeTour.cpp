@@ -164,7 +164,10 @@ void adjust(Guide& guide)
     guide.key(Qt::Key_Return);
     guide.fill("txtStok", "-1");
     guide.picture("adjustment");
-    confirm(guide, "DialogInventoryAdj");
+    guide.pressOk();
+    // The next day would be right for the stock; the card that is read next ends today.
+    guide.answer("Do you want to date it on", "No");
+    guide.waitUntilClosed("DialogInventoryAdj");
     guide.expectRow("tblInventoryAdj", "Rice", "Broken");
     guide.picture("adjustments");
     guide.closePage();

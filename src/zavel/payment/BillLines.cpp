@@ -76,24 +76,32 @@ void addLines(const InvoiceLines& added, InvoiceLines* lines, QObject* owner)
 void takeOffLines(const InvoiceLines& takenOff, InvoiceLines* lines)
 {
     using Same = bool (*)(const EntityInvoiceDetail&, const EntityInvoiceDetail&);
+    InvoiceLines emptied;
     for (const EntityInvoiceDetail* part : takenOff) {
         int left = part->getQty();
         // The price may have changed meanwhile; what is sold at the same one goes first.
         for (const Same same : {Same(sellsTheSame), Same(isSameDish)}) {
             for (EntityInvoiceDetail* line : qAsConst(*lines)) {
                 const int taken = same(*line, *part) ? std::min(left, line->getQty()) : 0;
+                if (taken <= 0)
+                    continue;
                 changeQuantity(line, -taken);
                 left -= taken;
+                if (line->getQty() == 0)
+                    emptied.append(line);
             }
         }
     }
-    lines->erase(std::remove_if(lines->begin(), lines->end(),
-                                [](const EntityInvoiceDetail* line) { return line->getQty() == 0; }),
-                 lines->end());
+    // Others with nothing left on them were split up, and stay.
+    for (EntityInvoiceDetail* line : qAsConst(emptied))
+        lines->removeOne(line);
 }
 
 BillDifference differenceOf(const EntityOrder& order, const InvoiceLines& billed, QObject* owner)
 {
+    // An order always has lines; without them nobody knows what it was for.
+    if (order.getDetails().isEmpty())
+        return {};
     // Quantities by dish and price in the order in which they were ordered, less what was billed of each.
     InvoiceLines rest;
     const auto count = [&rest, owner](const EntityInvoiceDetail& line, int sign) {
