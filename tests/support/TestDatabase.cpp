@@ -13,8 +13,8 @@
 
 #include <QSqlError>
 #include <QSqlQuery>
-#include <QUuid>
 #include <QTimeZone>
+#include <QUuid>
 
 QString TestDatabase::host() { return TestCluster::instance().host(); }
 

@@ -3,8 +3,8 @@
 #include "kor/entity/KorEntity.h"
 #include "kor/widgets/KorButtonKeys.h"
 #include "kor/widgets/KorErrorBox.h"
-#include "kor/widgets/KorTextGuard.h"
 #include "kor/widgets/KorNumberEdit.h"
+#include "kor/widgets/KorTextGuard.h"
 #include "kor/widgets/KorViewMemory.h"
 
 #include <QAbstractButton>

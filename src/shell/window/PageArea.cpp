@@ -81,14 +81,21 @@ void PageArea::makeAnew()
 void PageArea::makePagesAnew()
 {
     const int shown = m_tabs->currentIndex();
-    for (QWidget* page : pages()) {
-        const QString className = page->metaObject()->className();
-        if (!knows(className))
+    QList<QPointer<QWidget>> former;
+    for (QWidget* page : pages())
+        former.append(page);
+    for (const QPointer<QWidget>& page : qAsConst(former)) {
+        if (!page || !knows(page->metaObject()->className()))
             continue;
-        // A page holds no unsaved work, and its lists have to be read again anyway.
-        KorTab* successor = make(className);
+        // A page holds no unsaved work, and its lists have to be read again anyway. A failure to read them is told in a
+        // box, and while that is open the former page may go, or be made anew once more.
+        const QPointer<KorTab> successor = make(page->metaObject()->className());
+        const int index = page ? m_tabs->indexOf(page) : -1;
+        if (index < 0 || !successor) {
+            delete successor;
+            continue;
+        }
         const bool differs = PageBoxes(*page).putInto(*successor);
-        const int index = m_tabs->indexOf(page);
         m_tabs->removeTab(index);
         m_tabs->insertTab(index, successor, successor->windowTitle());
         delete page;

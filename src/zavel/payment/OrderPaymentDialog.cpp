@@ -198,8 +198,7 @@ bool OrderPaymentDialog::showBillOfAnother()
         const EntityUser* user =
             qobject_cast<EntityUser*>(service<BusinessUser>("User")->find(invoice->getCreatedBy()));
         bills.append(tr("%1 of %2, by %3 at %4")
-                         .arg(invoice->getInvoiceNo(),
-                              invoice->getGrandTotal()->toCurrencyString(),
+                         .arg(invoice->getInvoiceNo(), invoice->getGrandTotal()->toCurrencyString(),
                               user ? user->getUserName() : QString(),
                               invoice->getCreatedTime().time().toString("HH:mm")));
     }

@@ -66,7 +66,7 @@ public:
 private:
     /** From a day on where one is given, otherwise from the beginning; both limits count. */
     [[nodiscard]] Movements movements(const KorEntity* item, const QDate& from, const QDate& to,
-                                           const QString& operation);
+                                      const QString& operation);
     bool writeMovement(EntityStockTake* take, const QString& operation);
     bool removeMovement(EntityStockTake* take, const QString& operation);
     [[nodiscard]] EntityItemHistory* beginningRow(int itemId);
