@@ -59,6 +59,7 @@ private slots:
     void anOrderIsBilledOnce();
     void whatChangesAfterTheBillIsAskedFor_data();
     void whatChangesAfterTheBillIsAskedFor();
+    void anAmountOffStaysWhenALargeBillGrows();
     void whoPaysLaterIsFoundByTheOrdersMember();
     void pressedTwiceDoesOneThing_data();
     void pressedTwiceDoesOneThing();
@@ -547,6 +548,24 @@ void TestPayment::whatChangesAfterTheBillIsAskedFor()
     click("btnFinish");
     QCOMPARE(m_people->texts().isEmpty(), isSettled);
     QCOMPARE(orderStatus() == EntityOrder::DONE, isSettled);
+}
+
+void TestPayment::anAmountOffStaysWhenALargeBillGrows()
+{
+    // A percent of three decimals is not fine enough for 333 of ten million.
+    m_database->run("UPDATE makan_ditempat_detail SET price_each_amount = price_each_amount * 10000, "
+                    "total_amount = total_amount * 10000");
+    openForm();
+    enter("txtDiscount", "333");
+    enter("txtTaxPerc", "10");
+    save();
+    QTRY_COMPARE(invoices(), 1);
+    m_database->run("UPDATE makan_ditempat_detail SET qty = 3 WHERE qty = 2");
+    m_people->answer(QMessageBox::Yes);
+    openForm();
+    save();
+    QTRY_COMPARE(invoice("sub_total_amount, discount_amount, tax_amount, grandtotal_amount"),
+                 (QStringList{"13000000", "333", "1300000", "14299667"}));
 }
 
 void TestPayment::whoPaysLaterIsFoundByTheOrdersMember()

@@ -88,13 +88,19 @@ OrderPaymentDialog::Remedy OrderPaymentDialog::askForRemedy(const BillDifference
 
 void OrderPaymentDialog::changeLines(const BillDifference& difference)
 {
+    const InvoiceTotals before = cascade()->totals();
     InvoiceLines lines = invoiceLines();
     takeOffLines(difference.takenBack, &lines);
     addLines(difference.unbilled, &lines, this);
     setLines(lines);
-    // A dish more is a dish more for the tax, the service and the discount too.
-    for (const InvoiceTotals::Part part : {InvoiceTotals::Discount, InvoiceTotals::Tax, InvoiceTotals::Service})
-        cascade()->percentEntered(part);
+    for (const InvoiceTotals::Part part : {InvoiceTotals::Discount, InvoiceTotals::Tax, InvoiceTotals::Service}) {
+        // A percentage is one of the dishes that came on top too; an amount that was agreed on stays what it is.
+        const double ofPercent = before.subtotal() * (before.percent(part) / 100);
+        if (InvoiceTotals::kept(ofPercent, before.currency()) == before.amount(part))
+            cascade()->percentEntered(part);
+        else
+            cascade()->amountEntered(part);
+    }
 }
 
 void OrderPaymentDialog::showNewSale(EntityOrder* order, const InvoiceLines& lines)
