@@ -1,0 +1,404 @@
+#include "support/StallingProxy.h"
+
+#include "support/TestCluster.h"
+
+#include <QtGlobal>
+
+#include <algorithm>
+#include <arpa/inet.h>
+#include <cerrno>
+#include <cstring>
+#include <future>
+#include <netdb.h>
+#include <netinet/tcp.h>
+#include <poll.h>
+#include <sys/eventfd.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+using Clock = std::chrono::steady_clock;
+
+/** One direction of a connection. */
+struct StallingProxy::Stream
+{
+    struct Chunk
+    {
+        Clock::time_point due;
+        QByteArray bytes;
+    };
+    std::deque<Chunk> held;
+    bool stalled = false;
+    bool ended = false;
+
+    [[nodiscard]] bool isDue(Clock::time_point now) const { return !held.empty() && held.front().due <= now; }
+};
+
+/** One connection of the program; one that was taken in silence has no server. */
+struct StallingProxy::Line
+{
+    Line(int clientSocket, int serverSocket) : client(clientSocket), server(serverSocket) {}
+    ~Line()
+    {
+        ::close(client);
+        if (server >= 0)
+            ::close(server);
+    }
+    Q_DISABLE_COPY(Line)
+
+    Stream& stream(Direction direction) { return direction == ToServer ? toServer : toClient; }
+
+    int client;
+    int server;
+    Stream toServer;
+    Stream toClient;
+    /** The end of what the client has sent, where the watched text may have begun. */
+    QByteArray tail;
+    bool awaitsAnswer = false;
+};
+
+namespace
+{
+void prepare(int socket)
+{
+    const int on = 1;
+    // Of no use to a unix socket, and no harm.
+    ::setsockopt(socket, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
+}
+
+int connectToSocketFile(const QByteArray& path)
+{
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    qstrncpy(address.sun_path, path.constData(), sizeof address.sun_path);
+    const int server = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    if (::connect(server, reinterpret_cast<sockaddr*>(&address), sizeof address) == 0)
+        return server;
+    ::close(server);
+    return -1;
+}
+
+int connectToPort(const QByteArray& host, int port)
+{
+    addrinfo wanted{};
+    wanted.ai_socktype = SOCK_STREAM;
+    addrinfo* found = nullptr;
+    if (::getaddrinfo(host.constData(), QByteArray::number(port).constData(), &wanted, &found) != 0)
+        return -1;
+    int server = -1;
+    for (const addrinfo* at = found; at && server < 0; at = at->ai_next) {
+        server = ::socket(at->ai_family, at->ai_socktype | SOCK_CLOEXEC, at->ai_protocol);
+        if (::connect(server, at->ai_addr, at->ai_addrlen) != 0) {
+            ::close(server);
+            server = -1;
+        }
+    }
+    ::freeaddrinfo(found);
+    return server;
+}
+
+int connectToCluster()
+{
+    const QByteArray host = TestCluster::instance().host().toLocal8Bit();
+    const int port = TestCluster::instance().port();
+    return host.startsWith('/') ? connectToSocketFile(host + "/.s.PGSQL." + QByteArray::number(port))
+                                : connectToPort(host, port);
+}
+} // namespace
+
+StallingProxy::StallingProxy() : m_wake(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK))
+{
+    // Before the proxy's thread needs it.
+    TestCluster::instance();
+    listenAgain();
+    m_thread = std::thread(&StallingProxy::work, this);
+}
+
+StallingProxy::~StallingProxy()
+{
+    control([this] { m_stop = true; });
+    m_thread.join();
+    m_lines.clear();
+    ::close(m_wake);
+    if (m_listener >= 0)
+        ::close(m_listener);
+}
+
+void StallingProxy::stall(Direction direction)
+{
+    control([=] { m_stalled |= direction; });
+}
+
+void StallingProxy::goOn()
+{
+    control([this] {
+        m_stalled = 0;
+        for (const auto& line : m_lines)
+            line->toServer.stalled = line->toClient.stalled = false;
+    });
+}
+
+void StallingProxy::delay(Direction direction, std::chrono::milliseconds time)
+{
+    control([=] {
+        for (const Direction one : {ToServer, ToClient}) {
+            if (direction & one)
+                m_delays[one] = time;
+        }
+    });
+}
+
+void StallingProxy::cutAll()
+{
+    control([this] { m_lines.clear(); });
+}
+
+void StallingProxy::setDoor(Door door)
+{
+    control([=] {
+        m_door = door;
+        if (door != Refusing) {
+            listenAgain();
+        } else if (m_listener >= 0) {
+            ::close(m_listener);
+            m_listener = -1;
+        }
+    });
+}
+
+void StallingProxy::atText(const QByteArray& text, Moment moment, Deed deed, int n)
+{
+    control([=] {
+        m_watch = {text.toLower(), moment, deed, n};
+        for (const auto& line : m_lines) {
+            line->tail.clear();
+            line->awaitsAnswer = false;
+        }
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_done = false;
+    });
+}
+
+bool StallingProxy::waitUntilDone(std::chrono::milliseconds time)
+{
+    std::unique_lock<std::mutex> lock(m_mutex);
+    return m_changed.wait_for(lock, time, [this] { return m_done; });
+}
+
+int StallingProxy::connections()
+{
+    int number = 0;
+    control([&] { number = static_cast<int>(m_lines.size()); });
+    return number;
+}
+
+int StallingProxy::held()
+{
+    int size = 0;
+    control([&] {
+        for (const auto& line : m_lines) {
+            for (const Stream* stream : {&line->toServer, &line->toClient}) {
+                for (const Stream::Chunk& chunk : stream->held)
+                    size += chunk.bytes.size();
+            }
+        }
+    });
+    return size;
+}
+
+void StallingProxy::control(const std::function<void()>& command)
+{
+    const auto done = std::make_shared<std::promise<void>>();
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_commands.emplace_back([&command, done] {
+            command();
+            done->set_value();
+        });
+    }
+    ::eventfd_write(m_wake, 1);
+    done->get_future().wait();
+}
+
+void StallingProxy::obey()
+{
+    eventfd_t times = 0;
+    ::eventfd_read(m_wake, &times);
+    std::deque<std::function<void()>> commands;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        commands.swap(m_commands);
+    }
+    for (const auto& command : commands)
+        command();
+}
+
+void StallingProxy::listenAgain()
+{
+    if (m_listener >= 0)
+        return;
+    m_listener = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
+    const int on = 1;
+    ::setsockopt(m_listener, SOL_SOCKET, SO_REUSEADDR, &on, sizeof on);
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    address.sin_port = htons(static_cast<quint16>(m_port));
+    auto* where = reinterpret_cast<sockaddr*>(&address);
+    socklen_t size = sizeof address;
+    if (::bind(m_listener, where, size) != 0 || ::listen(m_listener, SOMAXCONN) != 0 ||
+        ::getsockname(m_listener, where, &size) != 0)
+        qFatal("stalling proxy: %s", std::strerror(errno));
+    m_port = ntohs(address.sin_port);
+}
+
+void StallingProxy::work()
+{
+    while (!m_stop) {
+        const Clock::time_point now = Clock::now();
+        // A stream that has ended is not asked again, or its end would wake us for ever.
+        const auto entry = [](int socket, bool reads, bool writes) {
+            const int events = (reads ? POLLIN : 0) | (writes ? POLLOUT : 0);
+            return pollfd{events ? socket : -1, static_cast<short>(events), 0};
+        };
+        std::vector<pollfd> sockets{entry(m_wake, true, false), entry(m_listener, true, false)};
+        for (const auto& line : m_lines) {
+            const bool toServer = line->toServer.isDue(now) && !isHeld(line->toServer, ToServer);
+            const bool toClient = line->toClient.isDue(now) && !isHeld(line->toClient, ToClient);
+            sockets.push_back(entry(line->client, !line->toServer.ended, toClient));
+            sockets.push_back(entry(line->server, !line->toClient.ended, toServer));
+        }
+        ::poll(sockets.data(), sockets.size(), millisecondsToNext(now));
+
+        std::vector<Line*> dead;
+        for (std::size_t i = 0; i < m_lines.size(); ++i) {
+            Line& line = *m_lines[i];
+            if ((sockets[2 * i + 2].revents && !read(line, ToServer)) ||
+                (sockets[2 * i + 3].revents && !read(line, ToClient)))
+                dead.push_back(&line);
+        }
+        const bool knocked = sockets[1].revents != 0;
+        const auto isDead = [&dead](const auto& line) {
+            return std::find(dead.begin(), dead.end(), line.get()) != dead.end();
+        };
+        m_lines.erase(std::remove_if(m_lines.begin(), m_lines.end(), isDead), m_lines.end());
+        obey();
+        if (knocked)
+            take();
+        const auto isOver = [this](const auto& line) { return !handOn(*line, ToServer) || !handOn(*line, ToClient); };
+        m_lines.erase(std::remove_if(m_lines.begin(), m_lines.end(), isOver), m_lines.end());
+    }
+}
+
+void StallingProxy::take()
+{
+    const int client = m_listener < 0 ? -1 : ::accept4(m_listener, nullptr, nullptr, SOCK_CLOEXEC);
+    if (client < 0)
+        return;
+    const int server = m_door == Silent ? -1 : connectToCluster();
+    if (server < 0 && m_door != Silent) {
+        ::close(client);
+        return;
+    }
+    prepare(client);
+    prepare(server);
+    m_lines.push_back(std::make_unique<Line>(client, server));
+}
+
+bool StallingProxy::read(Line& line, Direction direction)
+{
+    const int from = direction == ToServer ? line.client : line.server;
+    Stream& stream = line.stream(direction);
+    QByteArray bytes(65536, Qt::Uninitialized);
+    const ssize_t size = ::recv(from, bytes.data(), static_cast<std::size_t>(bytes.size()), MSG_DONTWAIT);
+    if (size < 0 && errno == EAGAIN)
+        return true;
+    stream.ended = size <= 0;
+    // What a silent connection has sent goes nowhere.
+    if (stream.ended || line.server < 0)
+        return true;
+    bytes.truncate(static_cast<int>(size));
+    if (direction == ToServer ? !look(line, bytes) : !answered(line))
+        return false;
+    stream.held.push_back({Clock::now() + m_delays[direction], bytes});
+    return true;
+}
+
+bool StallingProxy::look(Line& line, const QByteArray& bytes)
+{
+    if (m_watch.left == 0)
+        return true;
+    const QByteArray sent = line.tail + bytes.toLower();
+    int at = -m_watch.text.size();
+    while (m_watch.left > 0 && (at = sent.indexOf(m_watch.text, at + m_watch.text.size())) >= 0)
+        --m_watch.left;
+    line.tail = sent.right(qMin(m_watch.text.size() - 1, sent.size()));
+    if (m_watch.left > 0)
+        return true;
+    if (m_watch.moment == BeforeAnswer) {
+        line.awaitsAnswer = true;
+        return true;
+    }
+    tellDone();
+    line.toServer.stalled = line.toClient.stalled = true;
+    return m_watch.deed == Stall;
+}
+
+bool StallingProxy::answered(Line& line)
+{
+    if (!line.awaitsAnswer)
+        return true;
+    line.awaitsAnswer = false;
+    tellDone();
+    line.toServer.stalled = line.toClient.stalled = true;
+    return m_watch.deed == Stall;
+}
+
+void StallingProxy::tellDone()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_done = true;
+    m_changed.notify_all();
+}
+
+bool StallingProxy::handOn(Line& line, Direction direction) const
+{
+    const int to = direction == ToServer ? line.server : line.client;
+    Stream& stream = line.stream(direction);
+    if (isHeld(stream, direction))
+        return true;
+    while (stream.isDue(Clock::now())) {
+        QByteArray& bytes = stream.held.front().bytes;
+        const ssize_t size =
+            ::send(to, bytes.constData(), static_cast<std::size_t>(bytes.size()), MSG_DONTWAIT | MSG_NOSIGNAL);
+        if (size < 0)
+            return errno == EAGAIN;
+        bytes.remove(0, static_cast<int>(size));
+        if (!bytes.isEmpty())
+            return true;
+        stream.held.pop_front();
+    }
+    return !(stream.ended && stream.held.empty());
+}
+
+bool StallingProxy::isHeld(const Stream& stream, Direction direction) const
+{
+    return stream.stalled || (m_stalled & direction);
+}
+
+int StallingProxy::millisecondsToNext(Clock::time_point now) const
+{
+    Clock::time_point next = Clock::time_point::max();
+    for (const auto& line : m_lines) {
+        for (const Direction direction : {ToServer, ToClient}) {
+            const Stream& stream = line->stream(direction);
+            // What is due already waits for its socket, not for the time.
+            if (!stream.held.empty() && !isHeld(stream, direction) && !stream.isDue(now))
+                next = std::min(next, stream.held.front().due);
+        }
+    }
+    if (next == Clock::time_point::max())
+        return -1;
+    const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(next - now);
+    return static_cast<int>(std::max<qint64>(left.count() + 1, 0));
+}
