@@ -4984,6 +4984,14 @@ Do you want to restore into %1 all the same?</source>
         <source>Please try again in a moment; if that does not help, see whether the database server is running.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Somebody else is working on the same records, and did not let go of them: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please try again in a moment.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>KorInstaller</name>
@@ -5036,9 +5044,39 @@ Do you want to restore into %1 all the same?</source>
     </message>
 </context>
 <context>
+    <name>KorServerWitness</name>
+    <message>
+        <source>Another program</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, since %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>KorTextBoxExtender</name>
     <message>
         <source>No result</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>KorWaitingPanel</name>
+    <message>
+        <source>Waiting for the server...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop waiting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>or press Esc</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Working on the same records: %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

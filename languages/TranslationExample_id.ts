@@ -5008,6 +5008,14 @@ Tetap pulihkan ke %1?</translation>
         <source>Please try again in a moment; if that does not help, see whether the database server is running.</source>
         <translation>Coba lagi sebentar; bila tidak membantu, periksa apakah server basis data berjalan.</translation>
     </message>
+    <message>
+        <source>Somebody else is working on the same records, and did not let go of them: %1.</source>
+        <translation>Orang lain sedang mengerjakan catatan yang sama dan belum melepaskannya: %1.</translation>
+    </message>
+    <message>
+        <source>Please try again in a moment.</source>
+        <translation>Silakan coba lagi sebentar lagi.</translation>
+    </message>
 </context>
 <context>
     <name>KorInstaller</name>
@@ -5060,10 +5068,40 @@ Tetap pulihkan ke %1?</translation>
     </message>
 </context>
 <context>
+    <name>KorServerWitness</name>
+    <message>
+        <source>Another program</source>
+        <translation>Program lain</translation>
+    </message>
+    <message>
+        <source>%1, since %2</source>
+        <translation>%1, sejak %2</translation>
+    </message>
+</context>
+<context>
     <name>KorTextBoxExtender</name>
     <message>
         <source>No result</source>
         <translation>Tidak ada hasil</translation>
+    </message>
+</context>
+<context>
+    <name>KorWaitingPanel</name>
+    <message>
+        <source>Waiting for the server...</source>
+        <translation>Menunggu server...</translation>
+    </message>
+    <message>
+        <source>Stop waiting</source>
+        <translation>Berhenti menunggu</translation>
+    </message>
+    <message>
+        <source>or press Esc</source>
+        <translation>atau tekan Esc</translation>
+    </message>
+    <message>
+        <source>Working on the same records: %1</source>
+        <translation>Sedang mengerjakan catatan yang sama: %1</translation>
     </message>
 </context>
 <context>

@@ -32,6 +32,8 @@ void AppContext::setCurrentUser(EntityUser* user)
 {
     delete m_currentUser;
     m_currentUser = nullptr;
+    if (m_databaseManager)
+        m_databaseManager->tellWho(user ? user->getUserName() : QString());
     if (!user)
         return;
     m_currentUser = new EntityUser(this);

@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <QSettings>
 #include <QStandardPaths>
+#include <QSysInfo>
 
 namespace
 {
@@ -73,6 +74,12 @@ ConnectionSettings ConnectionSettings::withDefaults() const
     if (settings.port == 0)
         settings.port = 6666;
     return settings;
+}
+
+QString ConnectionSettings::workstation()
+{
+    const QString name = QSettings(defaultPath(), QSettings::IniFormat).value("workstation").toString().trimmed();
+    return name.isEmpty() ? QSysInfo::machineHostName() : name;
 }
 
 void ConnectionSettings::putIntoContext() const

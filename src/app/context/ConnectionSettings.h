@@ -27,6 +27,8 @@ struct ConnectionSettings
 
     /** The same with the values that a fresh installation uses, wherever there is none. */
     [[nodiscard]] ConnectionSettings withDefaults() const;
+    /** What the other workstations call this one: "workstation" in the file, or else the machine's name. */
+    [[nodiscard]] static QString workstation();
     /** Hands the connection's values, not the switches, to the context. */
     void putIntoContext() const;
 };

@@ -20,7 +20,13 @@ public:
     [[nodiscard]] QSqlDatabase database() const { return m_database; }
     void setDatabase(const QSqlDatabase& database) { m_database = database; }
     [[nodiscard]] QString lastErrorText() const;
+    /** Names this workstation and who works at it to the others, also after the connection was lost and opened anew. */
+    void tellWho(const QString& userName);
 
 private:
+    [[nodiscard]] QString connectOptions() const;
+
     QSqlDatabase m_database;
+    // As the others read it when they wait for what it holds.
+    QString m_sessionName;
 };

@@ -1,7 +1,10 @@
 #include "kor/persistence/KorConnectionProbe.h"
 
+#include "kor/persistence/KorServerCall.h"
+
 #include <QSqlDatabase>
 #include <QThread>
+#include <QTimer>
 #include <QUuid>
 
 namespace
@@ -38,6 +41,11 @@ void KorConnectionProbe::ask()
 
 void KorConnectionProbe::finish()
 {
+    // Whoever hears the answer reads from the database, which is not to happen in the middle of a statement.
+    if (KorServerCall::isUnderWay()) {
+        QTimer::singleShot(0, this, [this] { finish(); });
+        return;
+    }
     m_thread->wait();
     delete m_thread;
     m_thread = nullptr;

@@ -1,12 +1,17 @@
 #include "kor/persistence/KorDatabase.h"
 
+#include "kor/persistence/KorServerCall.h"
 #include "kor/persistence/KorStatementCache.h"
 #include "kor/system/KorFailure.h"
 
+#include <QElapsedTimer>
+#include <QSqlDriver>
 #include <QSqlError>
 #include <QThread>
 #include <QThreadStorage>
 #include <QUuid>
+
+#include <functional>
 
 namespace
 {
@@ -16,14 +21,47 @@ thread_local int openTransactions = 0;
 
 QString defaultName() { return QString::fromLatin1(QSqlDatabase::defaultConnection); }
 
+/** Keeps the statements of a page, or of a tick, from waiting one after the other for a server that does not answer. */
+class Patience
+{
+public:
+    [[nodiscard]] bool isOver() const { return m_since.isValid() && m_since.elapsed() < rest; }
+    void tried(bool opened, qint64 milliseconds)
+    {
+        // One that refuses at once costs nothing to be asked again.
+        if (opened || milliseconds < slow)
+            m_since.invalidate();
+        else
+            m_since.start();
+    }
+
+private:
+    static constexpr qint64 slow = 1000;
+    static constexpr qint64 rest = 3000;
+    QElapsedTimer m_since;
+};
+
+thread_local Patience patience;
+
 /** The connection, opened anew when it was lost and no transaction went with it. */
 QSqlDatabase opened(const QString& name)
 {
-    const QSqlDatabase database = QSqlDatabase::database(name, false);
-    if (database.isOpen() || openTransactions > 0)
+    QSqlDatabase database = QSqlDatabase::database(name, false);
+    if (database.isOpen() || openTransactions > 0 || patience.isOver())
         return database;
     KorStatementCache::ofThread().connectionLost();
-    return QSqlDatabase::database(name, true);
+    QElapsedTimer time;
+    time.start();
+    KorDatabase::open(database);
+    patience.tried(database.isOpen(), time.elapsed());
+    return database;
+}
+
+bool atServer(const QSqlDatabase& database, const std::function<bool()>& call)
+{
+    bool done = false;
+    KorServerCall::run(database.driver(), [&] { done = call(); });
+    return done;
 }
 
 /** The clone that a worker thread speaks through; it goes with the thread. */
@@ -64,15 +102,22 @@ QSqlDatabase KorDatabase::current()
     return workerConnections.localData()->database();
 }
 
+bool KorDatabase::open(QSqlDatabase& database)
+{
+    bool opened = false;
+    KorServerCall::run(nullptr, [&] { opened = database.open(); });
+    return opened;
+}
+
 bool KorDatabase::isInTransaction() { return openTransactions > 0; }
 
-KorTransaction::KorTransaction() : m_database(KorDatabase::current()), m_open(m_database.transaction())
+KorTransaction::KorTransaction() : m_database(KorDatabase::current()), m_open(begin())
 {
     if (!m_open) {
         // A session that was lost since the last statement shows only now; nothing is written yet, so a new one will
         // do.
         m_database = KorDatabase::current();
-        m_open = m_database.transaction();
+        m_open = begin();
     }
     ++openTransactions;
 }
@@ -84,10 +129,15 @@ KorTransaction::~KorTransaction()
     end();
 }
 
+bool KorTransaction::begin()
+{
+    return atServer(m_database, [this] { return m_database.transaction(); });
+}
+
 bool KorTransaction::commit()
 {
     end();
-    const bool committed = m_database.commit();
+    const bool committed = atServer(m_database, [this] { return m_database.commit(); });
     m_unsure = !committed && !m_database.isOpen();
     return committed;
 }
@@ -95,7 +145,7 @@ bool KorTransaction::commit()
 bool KorTransaction::rollback()
 {
     end();
-    return m_database.rollback();
+    return atServer(m_database, [this] { return m_database.rollback(); });
 }
 
 QString KorTransaction::failure() const
@@ -104,7 +154,7 @@ QString KorTransaction::failure() const
     const KorFailure::Connection connection = m_unsure              ? KorFailure::LostWhileSaving
                                               : m_database.isOpen() ? KorFailure::Kept
                                                                     : KorFailure::Lost;
-    return KorFailure::of(connection, error.nativeErrorCode(), error.text(), {}).told();
+    return KorFailure::of(connection, error.nativeErrorCode(), error.text(), {}, KorServerCall::lastHolders()).told();
 }
 
 void KorTransaction::end()

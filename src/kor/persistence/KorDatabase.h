@@ -14,6 +14,9 @@ public:
      */
     [[nodiscard]] static QSqlDatabase current();
 
+    /** Opens it as QSqlDatabase does, with the window told that the program waits; see KorServerCall. */
+    static bool open(QSqlDatabase& database);
+
     /** True on the application's own thread, where the default connection and the entity pool live. */
     [[nodiscard]] static bool isApplicationThread();
 
@@ -43,6 +46,7 @@ public:
     [[nodiscard]] QString failure() const;
 
 private:
+    [[nodiscard]] bool begin();
     void end();
 
     QSqlDatabase m_database;

@@ -1,6 +1,7 @@
 #include "kor/persistence/KorQuery.h"
 
 #include "kor/persistence/KorDatabase.h"
+#include "kor/persistence/KorServerCall.h"
 #include "kor/persistence/KorStatementCache.h"
 
 #include <QRegularExpression>
@@ -59,8 +60,9 @@ bool KorQuery::prepare(const QString& statement)
             bindValue(placeholder, QVariant());
         return true;
     }
-    if (!QSqlQuery::prepare(statement)) {
-        m_prepareError = lastError();
+    if (!atServer([&] { return QSqlQuery::prepare(statement); })) {
+        if (!m_prepareError.isValid())
+            m_prepareError = lastError();
         return false;
     }
     // Made with its query: one that stands alone for a moment would ask for the default connection, on any thread.
@@ -74,7 +76,15 @@ bool KorQuery::exec()
     ++sentStatements;
     if (m_prepareError.isValid())
         return false;
-    return QSqlQuery::exec() || (m_reused && prepareAgain());
+    return atServer([this] { return QSqlQuery::exec(); }) || (m_reused && prepareAgain());
+}
+
+bool KorQuery::atServer(const std::function<bool()>& call)
+{
+    bool done = false;
+    if (!KorServerCall::run(driver(), [&] { done = call(); }))
+        m_prepareError = QSqlError("The program is waiting for the server.", {}, QSqlError::StatementError);
+    return done;
 }
 
 bool KorQuery::prepareAgain()
@@ -101,7 +111,7 @@ bool KorQuery::prepareAgain()
                 bindValue(i, positional.at(i));
         }
         ++sentStatements;
-        if (QSqlQuery::exec())
+        if (atServer([this] { return QSqlQuery::exec(); }))
             return true;
     }
     // Inside a transaction the second try only says that the transaction has failed.
@@ -119,7 +129,7 @@ bool KorQuery::exec(const QString& statement)
     ++sentStatements;
     if (changesSchema(statement))
         KorStatementCache::schemaChanged();
-    if (!QSqlQuery::exec(statement))
+    if (!atServer([&] { return QSqlQuery::exec(statement); }))
         return false;
     // The driver reports the first result only; a later statement of the text may have failed all the same.
     if (!isSelect()) {
@@ -141,7 +151,7 @@ QString KorQuery::failureOf(const QString& statement) const
     // A quoted piece of a statement may begin or end in the middle of a secret.
     if (!m_secrets.isEmpty())
         words.remove(QRegularExpression("^LINE \\d+: .*$", QRegularExpression::MultilineOption));
-    return KorFailure::of(connection(), error.nativeErrorCode(), words, statement).told();
+    return KorFailure::of(connection(), error.nativeErrorCode(), words, statement, KorServerCall::lastHolders()).told();
 }
 
 KorFailure::Connection KorQuery::connection() const

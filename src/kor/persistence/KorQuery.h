@@ -8,6 +8,7 @@
 #include <QStringList>
 #include <QVariant>
 
+#include <functional>
 #include <memory>
 
 class KorDataMapper;
@@ -56,6 +57,8 @@ private:
     [[nodiscard]] KorResultLayout& layout();
     void letGo();
     bool prepareAgain();
+    /** Makes a call that waits for the server. */
+    bool atServer(const std::function<bool()>& call);
     [[nodiscard]] KorFailure::Connection connection() const;
 
     const KorDataMapper* m_selector;

@@ -1,5 +1,7 @@
 #include "kor/persistence/KorStatementCache.h"
 
+#include "kor/persistence/KorServerCall.h"
+
 #include <atomic>
 
 namespace
@@ -25,7 +27,8 @@ std::unique_ptr<KorStatement> KorStatementCache::take(const QString& text, const
     }
     if (m_schema != schemaChanges) {
         m_schema = schemaChanges;
-        m_idle.clear();
+        // The server is told to forget each of them.
+        KorServerCall::run(driver, [this] { m_idle.clear(); });
     }
     return std::unique_ptr<KorStatement>(m_idle.take(text));
 }
@@ -42,8 +45,15 @@ void KorStatementCache::giveBack(std::unique_ptr<KorStatement> statement)
         if (statement->query.driver() && statement->query.driver() == m_driver)
             abandon(std::move(statement));
     } else if (statement->schema == schemaChanges && !m_idle.contains(statement->text)) {
-        const QString text = statement->text;
-        m_idle.insert(text, statement.release());
+        const auto keep = [&] {
+            const QString text = statement->text;
+            m_idle.insert(text, statement.release());
+        };
+        // What has to go for it is forgotten by the server as well.
+        if (m_idle.totalCost() < m_idle.maxCost())
+            keep();
+        else
+            KorServerCall::run(m_driver, keep);
     }
 }
 

@@ -9,6 +9,7 @@
 namespace
 {
 constexpr char failedTransaction[] = "25P02";
+constexpr char waitedInVain[] = "55P03";
 
 struct Remembered
 {
@@ -71,7 +72,7 @@ QString sentenceOf(const QString& state, const QString& statement)
         return KorFailure::tr("The disk of the database server is full. Nothing can be saved until there is room.");
     if (state == "25006")
         return KorFailure::tr("The database server is read-only at the moment. Nothing can be saved.");
-    if (state == "40001" || state == "40P01" || state == "55P03")
+    if (state == "40001" || state == "40P01" || state == waitedInVain)
         return KorFailure::tr("Another workstation was working on the same records at this moment.");
     if (state == "42501")
         return KorFailure::tr("The program's user of the database may not do this.");
@@ -93,7 +94,8 @@ QString withoutQuotation(const QString& words, QStringList* quoted)
 }
 } // namespace
 
-KorFailure KorFailure::of(Connection connection, const QString& state, const QString& words, const QString& statement)
+KorFailure KorFailure::of(Connection connection, const QString& state, const QString& words, const QString& statement,
+                          const QString& holders)
 {
     switch (connection) {
     case LostWhileSaving:
@@ -105,6 +107,9 @@ KorFailure KorFailure::of(Connection connection, const QString& state, const QSt
                 tr("Please try again in a moment; if that does not help, see whether the database server is running."),
                 words, statement};
     default:
+        if (state == QLatin1String(waitedInVain) && !holders.isEmpty())
+            return {tr("Somebody else is working on the same records, and did not let go of them: %1.").arg(holders),
+                    tr("Please try again in a moment."), words, statement};
         return {sentenceOf(state, statement), {}, words, statement};
     }
 }

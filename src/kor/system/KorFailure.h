@@ -23,9 +23,12 @@ public:
     /** The statement with its values; empty where the text does not hold it. */
     QString statement;
 
-    /** The SQLSTATE tells the plain words where the connection was kept; the statement's first word tells more. */
+    /**
+     * The SQLSTATE tells the plain words where the connection was kept; the statement's first word tells more. The
+     * holders are whoever held what it waited for, where it waited in vain.
+     */
     [[nodiscard]] static KorFailure of(Connection connection, const QString& state, const QString& words,
-                                       const QString& statement);
+                                       const QString& statement, const QString& holders = {});
     /**
      * The whole as one text: the plain words only where the connection was lost, the driver's words, and the statement
      * behind the separator. The parts are remembered, so that a box can tell them apart in whatever holds the text.

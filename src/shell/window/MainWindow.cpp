@@ -8,6 +8,7 @@
 #include "app/context/EntityPool.h"
 #include "app/context/EntityUser.h"
 #include "kor/business/KorServiceDirectory.h"
+#include "kor/persistence/KorServerCall.h"
 #include "kor/widgets/KorErrorBox.h"
 #include "kor/widgets/KorPluginTabInterface.h"
 #include "kor/widgets/KorTab.h"
@@ -302,7 +303,13 @@ void MainWindow::on_callMainWindowCmd(const QString& cmd)
         {"salesorder", &MainWindow::on_actionMakan_Ditempat_triggered},
         {"fastfood", &MainWindow::on_actionFastfood_triggered},
     };
-    if (const auto command = commands.value(cmd))
+    const auto command = commands.value(cmd);
+    if (!command)
+        return;
+    // The page's click comes by itself, and may come while a statement waits: a screen is not to open in its middle.
+    if (KorServerCall::isUnderWay())
+        QTimer::singleShot(0, this, command);
+    else
         (this->*command)();
 }
 

@@ -9,6 +9,7 @@
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/widgets/KorTextGuard.h"
 #include "kor/widgets/KorViewMemory.h"
+#include "kor/widgets/KorWaitingSign.h"
 #include "shell/database/check/DatabaseCondition.h"
 #include "shell/database/wizard/AppInstallerWizard.h"
 #include "shell/window/ConfigDialog.h"
@@ -38,6 +39,7 @@ ZavelApplication::ZavelApplication(int& argc, char** argv)
 {
     HouseStyle::apply(*this);
     KorTextGuard::watch();
+    KorWaitingSign::watch();
     // For the messages that stand alone before the first window.
     setWindowIcon(QIcon(":/icons/Beverage-Coffee-02.png"));
     m_dataDir.mkpath(".");
