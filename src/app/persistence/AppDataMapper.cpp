@@ -20,6 +20,19 @@ bool AppDataMapper::update(KorEntity* entity)
 
 bool AppDataMapper::remove(KorEntity* entity) { return KorDataMapper::remove(entity); }
 
+void AppDataMapper::insertWith(KorBatch& batch, const QList<KorEntity*>& entities)
+{
+    for (KorEntity* entity : entities)
+        entity->setCreatedBy(AppContext::instance()->currentUserId());
+    KorDataMapper::insertWith(batch, entities);
+}
+
+void AppDataMapper::updateWith(KorBatch& batch, KorEntity* entity)
+{
+    entity->setUpdatedBy(AppContext::instance()->currentUserId());
+    KorDataMapper::updateWith(batch, entity);
+}
+
 QObject* AppDataMapper::entityParent() { return AppContext::instance()->entityPool(); }
 
 void AppDataMapper::log(const QString& message) { AppContext::log(message); }

@@ -20,6 +20,8 @@ public:
     bool insert(KorEntity* entity) override;
     bool update(KorEntity* entity) override;
     bool remove(KorEntity* entity) override;
+    void insertWith(KorBatch& batch, const QList<KorEntity*>& entities) override;
+    void updateWith(KorBatch& batch, KorEntity* entity) override;
     using KorDataMapper::fillFromRow;
     KorEntity* fillFromRow(KorQuery& query, KorEntity* entity) override;
 

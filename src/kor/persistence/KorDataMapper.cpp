@@ -2,14 +2,36 @@
 
 #include "kor/entity/KorEntity.h"
 #include "kor/entity/KorMetaDataMap.h"
+#include "kor/persistence/KorBatch.h"
 #include "kor/persistence/KorJoinMapper.h"
 #include "kor/persistence/KorMigration.h"
 #include "kor/persistence/KorPaging.h"
 
 #include <QDebug>
+#include <QSqlDriver>
 #include <QSqlError>
+#include <QSqlField>
 
 #include <utility>
+
+namespace
+{
+QVariant userOrNull(int user) { return user == KorNoValue ? QVariant(QVariant::Int) : QVariant(user); }
+
+/** The first values bound to the query, as the driver writes them into a statement. */
+QStringList literals(const KorQuery& values, int count)
+{
+    QStringList texts;
+    for (int i = 0; i < count; ++i) {
+        const QVariant value = values.boundValue(i);
+        QSqlField field(QString(), value.type());
+        if (!value.isNull())
+            field.setValue(value);
+        texts.append(values.driver()->formatValue(field));
+    }
+    return texts;
+}
+} // namespace
 
 KorDataMapper::KorDataMapper(QObject* parent) : QObject(parent), m_metaData(new KorMetaDataMap(this)) {}
 
@@ -181,8 +203,7 @@ bool KorDataMapper::insert(KorEntity* entity)
                   "?,now(),?) returning id");
     bindInsert(query, entity);
     const int position = m_metaData->columns().size();
-    query.bindValue(position,
-                    entity->getCreatedBy() == KorNoValue ? QVariant(QVariant::Int) : QVariant(entity->getCreatedBy()));
+    query.bindValue(position, userOrNull(entity->getCreatedBy()));
     query.bindValue(position + 1, 1);
     if (!query.exec() || !query.next())
         return failWrite(query);
@@ -200,17 +221,18 @@ bool KorDataMapper::update(KorEntity* entity)
                   " updatedBy = ?, updatedTime = now(),version = version+1 where id = ? and version = ?");
     bindUpdate(query, entity);
     const int position = m_metaData->columns().size();
-    query.bindValue(position,
-                    entity->getUpdatedBy() == KorNoValue ? QVariant(QVariant::Int) : QVariant(entity->getUpdatedBy()));
+    query.bindValue(position, userOrNull(entity->getUpdatedBy()));
     query.bindValue(position + 1, entity->getId());
     query.bindValue(position + 2, entity->getVersion());
     if (!query.exec())
         return failWrite(query);
-    if (query.numRowsAffected() != 0)
-        return true;
+    return query.numRowsAffected() != 0 || failUpdate(entity, query.statementWithValues());
+}
 
+bool KorDataMapper::failUpdate(KorEntity* entity, const QString& statement)
+{
     qDebug() << "update failed";
-    m_errorText = KorFailure::of(KorFailure::Kept, {}, "update failed", query.statementWithValues()).told({});
+    m_errorText = KorFailure::of(KorFailure::Kept, {}, "update failed", statement).told({});
     explainFailedWrite(entity);
     return false;
 }
@@ -223,12 +245,68 @@ bool KorDataMapper::remove(KorEntity* entity)
     query.bindValue(1, entity->getVersion());
     if (!query.exec())
         return failWrite(query);
-    if (query.numRowsAffected() > 0)
-        return true;
+    return query.numRowsAffected() > 0 || failRemove(entity);
+}
 
+bool KorDataMapper::failRemove(KorEntity* entity)
+{
     setError("delete failed");
     explainFailedWrite(entity);
     return false;
+}
+
+void KorDataMapper::insertWith(KorBatch& batch, const QList<KorEntity*>& entities)
+{
+    if (entities.isEmpty())
+        return;
+    QStringList names;
+    for (const KorColumnMap* column : m_metaData->columns())
+        names.append(column->columnName());
+    const int ownColumns = names.size();
+    KorQuery values;
+    QStringList rows;
+    for (KorEntity* entity : entities) {
+        bindInsert(values, entity);
+        values.bindValue(ownColumns, userOrNull(entity->getCreatedBy()));
+        rows.append('(' + literals(values, ownColumns + 1).join(", ") + ",now(),1)");
+    }
+    names.append("createdBy,createdTime,version) values");
+    batch.add(this, "insert into " + tableName() + " (" + names.join(", ") + rows.join(", ") + " returning id",
+              [entities](KorQuery& ids) {
+                  for (KorEntity* entity : entities) {
+                      if (ids.next())
+                          entity->setId(ids.value(0).toInt());
+                  }
+                  return QString();
+              });
+}
+
+void KorDataMapper::updateWith(KorBatch& batch, KorEntity* entity)
+{
+    const QList<KorColumnMap*>& columns = m_metaData->columns();
+    KorQuery values;
+    bindUpdate(values, entity);
+    values.bindValue(columns.size(), userOrNull(entity->getUpdatedBy()));
+    const QStringList texts = literals(values, columns.size() + 1);
+    QString assignments;
+    for (int i = 0; i < columns.size(); ++i)
+        assignments += columns[i]->columnName() + '=' + texts[i] + ", ";
+    const QString statement = "update " + tableName() + " set " + assignments + " updatedBy = " + texts.last() +
+                              QString(", updatedTime = now(),version = version+1 where id = %1 and version = %2")
+                                  .arg(QString::number(entity->getId()), QString::number(entity->getVersion()));
+    batch.add(this, statement, [this, entity, statement](KorQuery& result) {
+        return result.numRowsAffected() != 0 || failUpdate(entity, statement) ? QString() : takeError();
+    });
+}
+
+void KorDataMapper::removeWith(KorBatch& batch, KorEntity* entity)
+{
+    const QString statement = "delete from " + tableName() +
+                              QString(" where id = %1 and version = %2")
+                                  .arg(QString::number(entity->getId()), QString::number(entity->getVersion()));
+    batch.add(this, statement, [this, entity](KorQuery& result) {
+        return result.numRowsAffected() > 0 || failRemove(entity) ? QString() : takeError();
+    });
 }
 
 bool KorDataMapper::failWrite(const KorQuery& query)
@@ -262,6 +340,16 @@ void KorDataMapper::explainFailedWrite(KorEntity* entity)
                           .arg(entity->getId())
                           .arg(query.field("updatedby").toInt());
     }
+}
+
+QString KorDataMapper::lockOf(int id) const
+{
+    return "select id from " + tableName() + " where id = " + QString::number(id) + " for no key update";
+}
+
+QString KorDataMapper::removalLockOf(int id) const
+{
+    return "select id from " + tableName() + " where id = " + QString::number(id) + " for update";
 }
 
 // --- statements and schema -----------------------------------------------------------------------------------------

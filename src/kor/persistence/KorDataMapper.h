@@ -10,6 +10,7 @@
 #include <memory>
 #include <type_traits>
 
+class KorBatch;
 class KorColumnMap;
 class KorEntity;
 class KorJoinMapper;
@@ -39,6 +40,12 @@ public:
     /** Fails when the row's version is no longer the record's; the record keeps its old version after success. */
     virtual bool update(KorEntity* entity);
     virtual bool remove(KorEntity* entity);
+    // The same for many records: they go with the batch, and what fails is told by it. The values come from
+    // bindInsert() and bindUpdate(), but their texts show them all: not for a mapper with secrets.
+    /** One statement for all of them, which gives the ids in their order. */
+    virtual void insertWith(KorBatch& batch, const QList<KorEntity*>& entities);
+    virtual void updateWith(KorBatch& batch, KorEntity* entity);
+    virtual void removeWith(KorBatch& batch, KorEntity* entity);
     /** The record of the row on which the query stands, null where the row's id is absent (empty side of a join). */
     virtual KorEntity* fromRow(KorQuery& query);
     virtual KorEntity* fromRow(KorQuery& query, const QString& alias);
@@ -78,6 +85,12 @@ public:
     bool addForeignKey(const QString& table, const QString& constraintName, const QString& column,
                        const QString& referencedTable, const QString& referencedColumn);
 
+    // Statements for KorTransaction, which hold a row until it ends.
+    /** Against others that write the row; records that only refer to it come and go. */
+    [[nodiscard]] QString lockOf(int id) const;
+    /** Also against records that come to refer to it: for whoever removes the row and what hangs on it. */
+    [[nodiscard]] QString removalLockOf(int id) const;
+
     [[nodiscard]] static QString foreignKeyStatement(const QString& table, const QString& constraintName,
                                                      const QString& column, const QString& referencedTable,
                                                      const QString& referencedColumn);
@@ -103,6 +116,8 @@ protected:
 
 private:
     bool failWrite(const KorQuery& query);
+    bool failUpdate(KorEntity* entity, const QString& statement);
+    bool failRemove(KorEntity* entity);
     [[nodiscard]] static QStringList columnsAs(const QList<KorColumnMap*>& columns, const QString& alias);
 
     KorMetaDataMap* m_metaData;

@@ -120,16 +120,21 @@ bool KorQuery::prepareAgain()
     return false;
 }
 
-bool KorQuery::exec(const QString& statement)
+bool KorQuery::send(const QString& statements)
 {
     letGo();
     m_layout.clear();
     m_prepareError = QSqlError();
     m_secrets.clear();
     ++sentStatements;
-    if (changesSchema(statement))
+    if (changesSchema(statements))
         KorStatementCache::schemaChanged();
-    if (!atServer([&] { return QSqlQuery::exec(statement); }))
+    return atServer([&] { return QSqlQuery::exec(statements); });
+}
+
+bool KorQuery::exec(const QString& statement)
+{
+    if (!send(statement))
         return false;
     // The driver reports the first result only; a later statement of the text may have failed all the same.
     if (!isSelect()) {

@@ -31,6 +31,9 @@ public:
     bool exec();
     /** Runs the text at once; with several statements in it, all their results count. */
     bool exec(const QString& statement);
+    /** The same in one trip, with the first result to be read and nextResult() to go on; false where that one failed.
+     */
+    bool send(const QString& statements);
 
     /** Binds a value that no text may show: neither statementWithValues() nor failure() does. */
     void bindSecret(int position, const QString& value);
