@@ -16,6 +16,8 @@ public:
     BusinessKey(QObject* parent, DataMapperKey* mapper);
 
     [[nodiscard]] QList<KorPermission> getPermissions() const override;
+    /** Waits for the documents that are drawing from the row, and keeps others from drawing meanwhile. */
+    bool update(KorEntity* key) override;
     [[nodiscard]] QList<KorEntity*> findAll(const QString& filter);
 
 private:

@@ -5,6 +5,20 @@
 
 #include <QCoreApplication>
 
+namespace
+{
+// What tells the locks of running numbers from other advisory locks: "KEY" in ASCII, the classid of pg_locks.
+constexpr int numberLockClass = 0x4b4559;
+} // namespace
+
+QString numberLock(const QString& keyName)
+{
+    // Two names with one hash would only wait for each other; no document takes two of these locks.
+    QString quoted = keyName;
+    quoted.replace('\'', "''");
+    return QString("select pg_advisory_xact_lock(%1, hashtext('%2'))").arg(QString::number(numberLockClass), quoted);
+}
+
 QString drawNumber(DataMapperKey* keys, const QString& keyName, QString* error)
 {
     if (EntityKey* key = keys->getKey(keyName)) {

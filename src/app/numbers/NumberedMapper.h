@@ -41,6 +41,10 @@ public:
     using NumberedMapper<Base>::NumberedMapper;
 
 protected:
+    [[nodiscard]] QStringList locksOfInsert(const KorEntity&) const override
+    {
+        return this->keepsNumbers() ? QStringList() : QStringList{numberLock(this->keyName())};
+    }
     bool beforeInsert(KorEntity* document) override
     {
         if (this->keepsNumbers())
@@ -67,8 +71,8 @@ public:
         auto* entry = static_cast<Entry*>(entity);
         const IdKeeper ids({entity});
         // In one transaction, so that an entry that fails gives its number back.
-        KorTransaction transaction;
-        if (!transaction.isOpen()) {
+        KorTransaction transaction({numberLock(keyName())});
+        if (!transaction.isOpen() || transaction.isRefused()) {
             setError(transaction.failure());
             return false;
         }

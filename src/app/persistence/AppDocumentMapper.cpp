@@ -1,6 +1,7 @@
 #include "app/persistence/AppDocumentMapper.h"
 
 #include "app/persistence/IdKeeper.h"
+#include "kor/persistence/KorBatch.h"
 #include "kor/persistence/KorDatabase.h"
 
 bool AppDocumentMapper::createTable(int mode)
@@ -36,12 +37,36 @@ bool AppDocumentMapper::commit(KorTransaction& transaction, QString* reason)
     return false;
 }
 
+void AppDocumentMapper::insertLinesWith(KorBatch& batch, const QList<KorEntity*>& lines, int documentId)
+{
+    QList<KorEntity*> ofOneKind;
+    for (int i = 0; i < lines.size(); ++i) {
+        attachLine(lines[i], documentId);
+        ofOneKind.append(lines[i]);
+        if (i + 1 == lines.size() || mapperOf(lines[i + 1]) != mapperOf(lines[i])) {
+            mapperOf(lines[i])->insertWith(batch, ofOneKind);
+            ofOneKind.clear();
+        }
+    }
+}
+
+bool AppDocumentMapper::send(KorBatch& batch, QString* reason)
+{
+    if (batch.send())
+        return true;
+    for (const QString& words : batch.failures())
+        *reason += " \r\n " + words;
+    return false;
+}
+
 bool AppDocumentMapper::insert(KorEntity* document)
 {
     const QList<KorEntity*> lines = linesOf(document);
     const IdKeeper ids(QList<KorEntity*>{document} + lines);
-    KorTransaction transaction;
+    KorTransaction transaction(locksOfInsert(*document));
     noteTransaction(transaction.isOpen());
+    if (transaction.isRefused())
+        return fail(messages().insertHeader, " \r\n " + transaction.failure());
 
     if (!beforeInsert(document) || !AppDataMapper::insert(document)) {
         const QString reason = takeError();
@@ -51,15 +76,9 @@ bool AppDocumentMapper::insert(KorEntity* document)
     }
 
     QString collected;
-    for (KorEntity* line : lines) {
-        // What a lost connection says of the first line holds for all others.
-        if (!transaction.isConnected())
-            break;
-        attachLine(line, document->getId());
-        if (!mapperOf(line)->insert(line))
-            collected += " \r\n " + mapperOf(line)->takeError();
-    }
-    if (collected.isEmpty() && commit(transaction, &collected))
+    KorBatch batch;
+    insertLinesWith(batch, lines, document->getId());
+    if (send(batch, &collected) && commit(transaction, &collected))
         return true;
     transaction.rollback();
     ids.restore();
@@ -81,21 +100,22 @@ bool AppDocumentMapper::update(KorEntity* document)
     }
 
     QString collected;
+    KorBatch batch;
+    QList<KorEntity*> newLines;
     for (KorEntity* line : lines) {
-        if (!transaction.isConnected())
-            break;
         attachLine(line, document->getId());
-        KorDataMapper* mapper = mapperOf(line);
-        const bool done = line->isSaved() ? mapper->update(line) : mapper->insert(line);
-        if (!done)
-            collected += " \r\n " + mapper->takeError();
+        if (line->isSaved())
+            mapperOf(line)->updateWith(batch, line);
+        else
+            newLines.append(line);
     }
+    insertLinesWith(batch, newLines, document->getId());
     for (KorEntity* line : removedLinesOf(document)) {
         // A line that was never saved has nothing to remove.
-        if (transaction.isConnected() && line->isSaved() && !mapperOf(line)->remove(line))
-            collected += " \r\n " + mapperOf(line)->takeError();
+        if (line->isSaved())
+            mapperOf(line)->removeWith(batch, line);
     }
-    if (collected.isEmpty() && commit(transaction, &collected))
+    if (send(batch, &collected) && commit(transaction, &collected))
         return true;
     transaction.rollback();
     ids.restore();
@@ -105,15 +125,17 @@ bool AppDocumentMapper::update(KorEntity* document)
 
 bool AppDocumentMapper::removeWithLines(KorEntity* document, const QList<KorEntity*>& lines)
 {
-    KorTransaction transaction;
+    // The document first, as a save of it does: the other way round the two would wait for each other.
+    KorTransaction transaction({removalLockOf(document->getId())});
     noteTransaction(transaction.isOpen());
+    if (transaction.isRefused())
+        return fail(messages().removeHeader, " \r\n " + transaction.failure());
 
     QString collected;
-    for (KorEntity* line : lines) {
-        if (transaction.isConnected() && !mapperOf(line)->remove(line))
-            collected += " \r\n " + mapperOf(line)->takeError();
-    }
-    if (!collected.isEmpty()) {
+    KorBatch batch;
+    for (KorEntity* line : lines)
+        mapperOf(line)->removeWith(batch, line);
+    if (!send(batch, &collected)) {
         transaction.rollback();
         return fail(messages().removeLines, collected);
     }

@@ -2,6 +2,7 @@
 
 #include "app/persistence/AppDataMapper.h"
 
+class KorBatch;
 class KorTransaction;
 
 /**
@@ -40,12 +41,14 @@ protected:
     [[nodiscard]] virtual QList<KorEntity*> removedLinesOf(KorEntity*) const { return {}; }
     virtual void attachLine(KorEntity* line, int documentId) = 0;
     [[nodiscard]] virtual KorDataMapper* mapperOf(const KorEntity*) const { return lineMapper(); }
+    /** What an insert has to hold from its beginning on, as KorTransaction takes it. */
+    [[nodiscard]] virtual QStringList locksOfInsert(const KorEntity&) const { return {}; }
     /** Inside the transaction, before the header: draws numbers and the like; false takes all back. */
     virtual bool beforeInsert(KorEntity*) { return true; }
     /** What a save returns that was taken back because of a line; the error text stands in any case. */
     [[nodiscard]] virtual bool resultOfFailedLines() const { return false; }
 
-    /** Removes the lines, then the document, in one transaction. */
+    /** Removes the lines, then the document, in one transaction that holds the document from its beginning on. */
     bool removeWithLines(KorEntity* document, const QList<KorEntity*>& lines);
     /** Opens nothing but notes "error: transaction failed" when the transaction did not open; the work goes on. */
     void noteTransaction(bool open);
@@ -53,6 +56,10 @@ protected:
     bool fail(const QString& message, const QString& collected = QString());
 
 private:
+    /** All lines in one statement for each kind of them. */
+    void insertLinesWith(KorBatch& batch, const QList<KorEntity*>& lines, int documentId);
+    /** Failing, it gives the words of every line that failed. */
+    static bool send(KorBatch& batch, QString* reason);
     /** Failing, it gives the database's words. */
     static bool commit(KorTransaction& transaction, QString* reason);
 };

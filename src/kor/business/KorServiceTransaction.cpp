@@ -4,11 +4,15 @@
 #include "kor/persistence/KorDatabase.h"
 
 bool inOneTransaction(KorBusinessLogic& service, const QString& operation, const std::function<bool()>& writes,
-                      const QString& notBegun)
+                      const QString& notBegun, const QStringList& locks)
 {
-    KorTransaction transaction;
+    KorTransaction transaction(locks);
     if (!transaction.isOpen()) {
         service.addError(operation, notBegun.isEmpty() ? KorBusinessLogic::tr("create transaction failed") : notBegun);
+        return false;
+    }
+    if (transaction.isRefused()) {
+        service.addError(operation, transaction.failure());
         return false;
     }
     // Left unfinished, it is rolled back.

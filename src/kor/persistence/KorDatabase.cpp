@@ -1,5 +1,6 @@
 #include "kor/persistence/KorDatabase.h"
 
+#include "kor/persistence/KorQuery.h"
 #include "kor/persistence/KorServerCall.h"
 #include "kor/persistence/KorStatementCache.h"
 #include "kor/system/KorFailure.h"
@@ -111,15 +112,35 @@ bool KorDatabase::open(QSqlDatabase& database)
 
 bool KorDatabase::isInTransaction() { return openTransactions > 0; }
 
-KorTransaction::KorTransaction() : m_database(KorDatabase::current()), m_open(begin())
+KorTransaction::KorTransaction(const QStringList& locks) : m_database(KorDatabase::current()), m_open(begin(locks))
 {
     if (!m_open) {
         // A session that was lost since the last statement shows only now; nothing is written yet, so a new one will
         // do.
         m_database = KorDatabase::current();
-        m_open = begin();
+        m_open = begin(locks);
     }
     ++openTransactions;
+}
+
+bool KorTransaction::begin(const QStringList& locks)
+{
+    if (locks.isEmpty())
+        return atServer(m_database, [this] { return m_database.transaction(); });
+    KorQuery query;
+    if (!query.send("begin; " + locks.join("; ")))
+        return false;
+    for (int i = 0; i < locks.size(); ++i) {
+        if (!query.nextResult()) {
+            // A session that is lost while it waits has begun nothing.
+            if (m_database.isOpen())
+                m_refusal = query.failure();
+            return m_database.isOpen();
+        }
+    }
+    while (query.next())
+        m_found.append(query.value(0));
+    return true;
 }
 
 KorTransaction::~KorTransaction()
@@ -127,11 +148,6 @@ KorTransaction::~KorTransaction()
     if (m_open)
         rollback();
     end();
-}
-
-bool KorTransaction::begin()
-{
-    return atServer(m_database, [this] { return m_database.transaction(); });
 }
 
 bool KorTransaction::commit()
@@ -150,6 +166,8 @@ bool KorTransaction::rollback()
 
 QString KorTransaction::failure() const
 {
+    if (isRefused())
+        return m_refusal;
     const QSqlError error = m_database.lastError();
     const KorFailure::Connection connection = m_unsure              ? KorFailure::LostWhileSaving
                                               : m_database.isOpen() ? KorFailure::Kept

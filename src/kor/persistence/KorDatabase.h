@@ -3,6 +3,8 @@
 #include <QCoreApplication>
 #include <QSqlDatabase>
 #include <QString>
+#include <QStringList>
+#include <QVariant>
 
 /** The way to the program's connection from any thread. */
 class KorDatabase
@@ -32,24 +34,34 @@ public:
 class KorTransaction
 {
 public:
-    KorTransaction();
+    /**
+     * The statements take the locks that the work needs, in the order that docs/database.md tells. They go in the same
+     * trip as the beginning, and every one of them before the first row is written. The last one may ask something.
+     */
+    explicit KorTransaction(const QStringList& locks = {});
     ~KorTransaction();
     Q_DISABLE_COPY(KorTransaction)
 
     [[nodiscard]] bool isOpen() const { return m_open; }
+    /** True when it is open, but a lock could not be had: nothing can be done in it any more. */
+    [[nodiscard]] bool isRefused() const { return !m_refusal.isEmpty(); }
+    /** What the last statement of the locks found: the first column of its rows. */
+    [[nodiscard]] const QVariantList& found() const { return m_found; }
     [[nodiscard]] bool isConnected() const { return m_database.isOpen(); }
     bool commit();
     bool rollback();
     /** True when the connection went while it ended: nobody knows whether it stands. */
     [[nodiscard]] bool isUnsure() const { return m_unsure; }
-    /** Why it could not begin or end. */
+    /** Why it could not begin or end, or have its locks. */
     [[nodiscard]] QString failure() const;
 
 private:
-    [[nodiscard]] bool begin();
+    bool begin(const QStringList& locks);
     void end();
 
     QSqlDatabase m_database;
+    QString m_refusal;
+    QVariantList m_found;
     bool m_open;
     bool m_ended = false;
     bool m_unsure = false;

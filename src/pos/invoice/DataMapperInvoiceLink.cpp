@@ -2,10 +2,13 @@
 
 #include "app/numbers/DocumentNumber.h"
 #include "app/persistence/IdKeeper.h"
+#include "kor/persistence/KorBatch.h"
 #include "kor/persistence/KorDatabase.h"
 #include "pos/invoice/EntityInvoiceDetail.h"
 #include "pos/invoice/IInvoice.h"
 #include "pos/invoice/Invoice.h"
+
+#include <algorithm>
 
 DataMapperInvoiceLink::DataMapperInvoiceLink(QObject* parent, DataMapperInvoice* invoices)
     : DataMapperInvoice(parent, invoices), m_invoices(invoices)
@@ -31,25 +34,27 @@ QString DataMapperInvoiceLink::nextNo()
 
 void DataMapperInvoiceLink::prepareInvoice(KorEntity*, Invoice*) {}
 
-QString DataMapperInvoiceLink::objection(const KorEntity&) { return {}; }
-
-QString DataMapperInvoiceLink::billedMeanwhile(const QString& orderTable, const QString& orderColumn, int orderId,
-                                               const std::optional<QList<int>>& knownBills)
+std::optional<DataMapperInvoiceLink::BilledOrder> DataMapperInvoiceLink::billedOrder(const KorEntity&) const
 {
-    if (!knownBills)
-        return {};
-    KorQuery held;
-    KorQuery bills;
-    // Of two first saves at the same moment the second waits here, and then sees the bill of the first.
-    if (!execute(held, "select id from " + orderTable + " where id = :id for update", {{":id", orderId}}) ||
-        !execute(bills, "select invoice_id from " + tableName() + " where " + orderColumn + " = :id",
-                 {{":id", orderId}}))
-        return takeError();
-    while (bills.next()) {
-        if (!knownBills->contains(bills.value(0).toInt()))
-            return tr("This order was billed meanwhile. Nothing was saved.");
-    }
     return {};
+}
+
+QStringList DataMapperInvoiceLink::locksOfInsert(const std::optional<BilledOrder>& order) const
+{
+    const QString number = numberLock(keyName());
+    if (!order)
+        return {number};
+    // Of two first saves at the same moment the second waits for the order, and then sees the bill of the first.
+    return {order->orders->lockOf(order->id), number,
+            "select invoice_id from " + tableName() + " where " + order->column + " = " + QString::number(order->id)};
+}
+
+QString DataMapperInvoiceLink::objection(const std::optional<BilledOrder>& order, const QVariantList& foundBills)
+{
+    const bool isBilled = order && std::any_of(foundBills.cbegin(), foundBills.cend(), [&order](const QVariant& bill) {
+                              return !order->knownBills.contains(bill.toInt());
+                          });
+    return isBilled ? tr("This order was billed meanwhile. Nothing was saved.") : QString();
 }
 
 bool DataMapperInvoiceLink::loadOrders(const QList<KorEntity*>&) { return true; }
@@ -62,20 +67,42 @@ bool DataMapperInvoiceLink::fail(const QString& message, const QString& reasons)
 
 // --- writing -------------------------------------------------------------------------------------------------------
 
-bool DataMapperInvoiceLink::insertLines(IInvoice* sale, QString* reason)
+void DataMapperInvoiceLink::insertLinesWith(KorBatch& batch, IInvoice* sale)
 {
-    const QList<EntityInvoiceDetail*> lines = sale->getDetails();
-    for (EntityInvoiceDetail* line : lines) {
+    QList<KorEntity*> lines;
+    for (EntityInvoiceDetail* line : sale->getDetails()) {
         line->setInvoiceId(sale->getInvoice()->getId());
         const Money nothing(nullptr, 0, line->getTotal() ? line->getTotal()->getCurrency() : QString());
         line->setDiscount(nothing.copy(line));
-        if (detailMapper()->insert(line))
-            continue;
-        // The transaction is lost with this line; what the database says of the others would only hide why.
-        *reason = " \r\n " + detailMapper()->takeError();
+        lines.append(line);
+    }
+    detailMapper()->insertWith(batch, lines);
+}
+
+bool DataMapperInvoiceLink::insertLines(IInvoice* sale, QString* reason)
+{
+    KorBatch batch;
+    insertLinesWith(batch, sale);
+    if (!batch.send())
+        *reason = " \r\n " + batch.failures().first();
+    return reason->isEmpty();
+}
+
+bool DataMapperInvoiceLink::insertInvoice(KorEntity* link, QString* reason)
+{
+    Invoice* invoice = saleOf(link)->getInvoice();
+    const QString number = nextNo();
+    if (number.isNull()) {
+        *reason = " \r\n " + takeError();
         return false;
     }
-    return true;
+    invoice->setInvoiceNo(number);
+    invoice->setInvoiceType(keyName());
+    prepareInvoice(link, invoice);
+    if (m_invoices->insert(invoice))
+        return true;
+    *reason = " \r\n " + m_invoices->takeError();
+    return false;
 }
 
 bool DataMapperInvoiceLink::insert(KorEntity* link)
@@ -87,34 +114,28 @@ bool DataMapperInvoiceLink::insert(KorEntity* link)
         written.append(line);
     const IdKeeper ids(written);
 
-    KorTransaction transaction;
+    const std::optional<BilledOrder> order = billedOrder(*link);
+    KorTransaction transaction(locksOfInsert(order));
     if (!transaction.isOpen())
         setError(tr("error: transaction failed"));
-    const QString refusal = objection(*link);
-    if (!refusal.isEmpty()) {
-        transaction.rollback();
-        ids.restore();
+    if (transaction.isRefused())
+        return fail(messages().insertHeader, " \r\n " + transaction.failure());
+    const QString refusal = objection(order, transaction.found());
+    if (!refusal.isEmpty())
         return fail(refusal, {});
-    }
-    const QString number = nextNo();
-    QString reason = number.isNull() ? " \r\n " + takeError() : QString();
-    if (reason.isEmpty()) {
-        invoice->setInvoiceNo(number);
-        invoice->setInvoiceType(keyName());
-        prepareInvoice(link, invoice);
-        if (!m_invoices->insert(invoice))
-            reason = " \r\n " + m_invoices->takeError();
-        else if (!AppDataMapper::insert(link))
-            reason = " \r\n " + takeError();
-    }
+
     QString message = messages().insertHeader;
-    if (reason.isEmpty()) {
-        message = messages().insertLines;
-        if (insertLines(sale, &reason)) {
-            if (transaction.commit())
-                return true;
-            reason = transaction.failure();
-        }
+    QString reason;
+    if (insertInvoice(link, &reason)) {
+        KorBatch batch;
+        AppDataMapper::insertWith(batch, {link});
+        insertLinesWith(batch, sale);
+        const bool done = batch.send();
+        if (done && transaction.commit())
+            return true;
+        reason = done ? transaction.failure() : " \r\n " + batch.failures().first();
+        if (batch.failed() != this)
+            message = messages().insertLines;
     }
     transaction.rollback();
     ids.restore();

@@ -39,14 +39,18 @@ protected:
         QString updateLines;
     };
     [[nodiscard]] virtual Messages messages() const = 0;
-    /** Asked inside the transaction before the first row of a new sale: what speaks against it, or nothing. */
-    [[nodiscard]] virtual QString objection(const KorEntity& link);
-    /**
-     * The same for the bill of an order, which is held until the commit: a bill that the sale does not know of, where
-     * it says which ones it knows.
-     */
-    [[nodiscard]] QString billedMeanwhile(const QString& orderTable, const QString& orderColumn, int orderId,
-                                          const std::optional<QList<int>>& knownBills);
+    /** The order that a new sale is the bill of. */
+    struct BilledOrder
+    {
+        const KorDataMapper* orders;
+        /** The link's column that refers to the order. */
+        QString column;
+        int id;
+        /** The invoices of which the sale knows; with any other one it is refused. */
+        QList<int> knownBills;
+    };
+    /** Nothing where the sale has no order, or does not say which bills it knows. */
+    [[nodiscard]] virtual std::optional<BilledOrder> billedOrder(const KorEntity& link) const;
     /** What the link knows and the invoice keeps too, before it is written. */
     virtual void prepareInvoice(KorEntity* link, Invoice* invoice);
     /** Reads what stands behind a link beside the invoice and the lines; for all links of a list at once. */
@@ -58,6 +62,11 @@ protected:
     [[nodiscard]] DataMapperInvoice* invoices() const { return m_invoices; }
 
 private:
+    /** Where another bill of the order was found, the words for it. */
+    [[nodiscard]] static QString objection(const std::optional<BilledOrder>& order, const QVariantList& foundBills);
+    [[nodiscard]] QStringList locksOfInsert(const std::optional<BilledOrder>& order) const;
+    void insertLinesWith(KorBatch& batch, IInvoice* sale);
+    bool insertInvoice(KorEntity* link, QString* reason);
     bool insertLines(IInvoice* sale, QString* reason);
     /** The same links with what stands behind them; none when it cannot be read. */
     QList<KorEntity*> loaded(const QList<KorEntity*>& links);

@@ -25,10 +25,11 @@ bool BusinessPenjualan::updateCommision(EntityKomisiAgen* payment)
 bool BusinessPenjualan::remove(EntityKomisiAgen* payment)
 {
     DataMapperKomisiAgenDetail* lines = m_mappers.commissions->lines();
-    return inOneTransaction(*this, "remove", [this, payment, lines] {
+    const auto removeAll = [this, payment, lines] {
         return written(lines->removeByPayment(payment->getId()), lines, "remove") &&
                written(m_mappers.commissions->remove(payment), m_mappers.commissions, "remove");
-    });
+    };
+    return inOneTransaction(*this, "remove", removeAll, {}, {m_mappers.commissions->removalLockOf(payment->getId())});
 }
 
 QList<EntityKomisiAgen*> BusinessPenjualan::searchKomisiAgen(const CommissionFilter& filter)

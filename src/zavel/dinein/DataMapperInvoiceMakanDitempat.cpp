@@ -47,11 +47,13 @@ void DataMapperInvoiceMakanDitempat::prepareInvoice(KorEntity* link, Invoice* in
     invoice->setEmployee(static_cast<EntityInvoiceMakanDitempat*>(link)->getEmployee());
 }
 
-QString DataMapperInvoiceMakanDitempat::objection(const KorEntity& link)
+std::optional<DataMapperInvoiceLink::BilledOrder>
+DataMapperInvoiceMakanDitempat::billedOrder(const KorEntity& link) const
 {
     const auto& sale = static_cast<const EntityInvoiceMakanDitempat&>(link);
-    return billedMeanwhile(m_orders->tableName(), "makan_ditempat_id", sale.getMakanDitempat()->getId(),
-                           sale.knownBills());
+    if (!sale.knownBills())
+        return {};
+    return BilledOrder{m_orders, "makan_ditempat_id", sale.getMakanDitempat()->getId(), *sale.knownBills()};
 }
 
 QList<EntityInvoiceMakanDitempat*> DataMapperInvoiceMakanDitempat::findByOrder(int orderId)

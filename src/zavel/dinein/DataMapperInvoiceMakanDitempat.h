@@ -24,7 +24,7 @@ public:
 
 protected:
     [[nodiscard]] Messages messages() const override;
-    [[nodiscard]] QString objection(const KorEntity& link) override;
+    [[nodiscard]] std::optional<BilledOrder> billedOrder(const KorEntity& link) const override;
     void prepareInvoice(KorEntity* link, Invoice* invoice) override;
     bool loadOrders(const QList<KorEntity*>& links) override;
 

@@ -9,7 +9,7 @@
 
 DataMapperMakanDitempat::DataMapperMakanDitempat(QObject* parent, DataMapperMember* members, DataMapperMeja* tables,
                                                  const ItemPartners& partners)
-    : DataMapperOrder(parent)
+    : DataMapperOrder(parent), m_tables(tables)
 {
     setName("makan ditempat");
     metaData()->setTableName("makan_ditempat");
@@ -57,15 +57,18 @@ bool DataMapperMakanDitempat::insertAtFreeTable(EntityMakanDitempat* order)
     return placed;
 }
 
+QStringList DataMapperMakanDitempat::locksOfInsert(const KorEntity& order) const
+{
+    // Of two waiters at the same moment the second waits here, and then sees the order of the first.
+    const auto& placed = static_cast<const EntityMakanDitempat&>(order);
+    return m_asksForTable ? QStringList{m_tables->lockOf(placed.getMeja()->getId())} : QStringList();
+}
+
 bool DataMapperMakanDitempat::beforeInsert(KorEntity* order)
 {
     if (!m_asksForTable)
         return true;
     const auto* placed = static_cast<const EntityMakanDitempat*>(order);
-    KorQuery held;
-    // Of two waiters at the same moment the second waits here, and then sees the order of the first.
-    if (!execute(held, "select id from meja where id = :id for update", {{":id", placed->getMeja()->getId()}}))
-        return false;
     // The code goes out as it is written and meets lowered ones, so a code with a capital finds no order.
     const QList<EntityMakanDitempat*> open = getMakanDitempatList(0, placed->getMeja()->getKode());
     m_foundTaken = std::any_of(open.cbegin(), open.cend(), [placed](const EntityMakanDitempat* other) {

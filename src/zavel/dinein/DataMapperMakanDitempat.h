@@ -28,11 +28,13 @@ public:
     [[nodiscard]] bool foundTableTaken() const { return m_foundTaken; }
 
 protected:
+    [[nodiscard]] QStringList locksOfInsert(const KorEntity& order) const override;
     bool beforeInsert(KorEntity* order) override;
     [[nodiscard]] const Messages& messages() const override;
     [[nodiscard]] QString statusFailure() const override;
 
 private:
+    DataMapperMeja* m_tables;
     bool m_asksForTable = false;
     bool m_foundTaken = false;
 };

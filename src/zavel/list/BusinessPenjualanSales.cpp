@@ -111,7 +111,7 @@ bool BusinessPenjualan::deleteSales(Invoice* invoice)
                                                          {Invoice::TakeAway, m_mappers.takeAwayInvoices}};
     EntityPool pool;
     const EntityPoolScope scope(pool);
-    return inOneTransaction(*this, operation, [&] {
+    const auto removeAll = [&] {
         DataMapperInvoiceLink* links = mappers.value(invoice->getInvoiceType());
         if (!links) {
             // The transaction ends here too, rolled back: left open, it would swallow the next saves.
@@ -135,5 +135,7 @@ bool BusinessPenjualan::deleteSales(Invoice* invoice)
         DataMapperInvoiceDetail* lines = m_mappers.invoices->detailMapper();
         removeEach(read(lines->findByInvoice(invoice->getId()), lines, operation), lines);
         return written(m_mappers.invoices->remove(invoice), m_mappers.invoices, operation);
-    });
+    };
+    // The invoice first, as a save of it does: the other way round the two would wait for each other.
+    return inOneTransaction(*this, operation, removeAll, {}, {m_mappers.invoices->removalLockOf(invoice->getId())});
 }

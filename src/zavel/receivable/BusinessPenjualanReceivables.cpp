@@ -90,10 +90,11 @@ bool BusinessPenjualan::updateInvoicesOfPiutang(const EntityPiutang* payment)
 bool BusinessPenjualan::remove(EntityPiutang* payment)
 {
     DataMapperPiutangDetail* lines = m_mappers.receivables->lines();
-    return inOneTransaction(*this, "remove", [this, payment, lines] {
+    const auto removeAll = [this, payment, lines] {
         return written(lines->removeByPayment(payment->getId()), lines, "remove") &&
                written(m_mappers.receivables->remove(payment), m_mappers.receivables, "remove");
-    });
+    };
+    return inOneTransaction(*this, "remove", removeAll, {}, {m_mappers.receivables->removalLockOf(payment->getId())});
 }
 
 QList<EntityPiutang*> BusinessPenjualan::searchPiutang(const ReceivableFilter& filter)

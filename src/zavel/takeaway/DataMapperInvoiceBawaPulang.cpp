@@ -36,10 +36,12 @@ DataMapperInvoiceLink::Messages DataMapperInvoiceBawaPulang::messages() const
             tr("error: insert take away invoice detail failed.\r\n")};
 }
 
-QString DataMapperInvoiceBawaPulang::objection(const KorEntity& link)
+std::optional<DataMapperInvoiceLink::BilledOrder> DataMapperInvoiceBawaPulang::billedOrder(const KorEntity& link) const
 {
     const auto& sale = static_cast<const EntityInvoiceBawaPulang&>(link);
-    return billedMeanwhile(m_orders->tableName(), "bawa_pulang_id", sale.getBawaPulang()->getId(), sale.knownBills());
+    if (!sale.knownBills())
+        return {};
+    return BilledOrder{m_orders, "bawa_pulang_id", sale.getBawaPulang()->getId(), *sale.knownBills()};
 }
 
 QList<EntityInvoiceBawaPulang*> DataMapperInvoiceBawaPulang::findByOrder(int orderId)

@@ -22,7 +22,7 @@ public:
 
 protected:
     [[nodiscard]] Messages messages() const override;
-    [[nodiscard]] QString objection(const KorEntity& link) override;
+    [[nodiscard]] std::optional<BilledOrder> billedOrder(const KorEntity& link) const override;
     bool loadOrders(const QList<KorEntity*>& links) override;
 
 private:

@@ -35,7 +35,8 @@ bool PurchasingService::remove(KorEntity* document)
         }
         return written(mapper()->remove(document), mapper(), "remove");
     };
-    return inOneTransaction(*this, "remove", removeAll, notBegunText());
+    // The document first, as a save of it does: the other way round the two would wait for each other.
+    return inOneTransaction(*this, "remove", removeAll, notBegunText(), {mapper()->removalLockOf(document->getId())});
 }
 
 bool PurchasingService::clearTransactions() { return clearTables(documents()->lineMappers() << mapper()); }
