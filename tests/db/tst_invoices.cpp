@@ -5,6 +5,7 @@
 #include "pos/totals/InvoiceTotals.h"
 #include "support/ShopRows.h"
 #include "support/TestDatabase.h"
+#include "support/TripCount.h"
 #include "zavel/dinein/EntityInvoiceMakanDitempat.h"
 #include "zavel/service/BusinessPenjualan.h"
 
@@ -33,7 +34,7 @@ private slots:
     void init();
     void cleanup();
     void anInvoiceIsReadBackWithItsPeopleItsOrderAndItsLines();
-    void savingAndReadingTakeAFixedNumberOfStatements();
+    void savingAndReadingTakeAFixedNumberOfTrips();
     void aChangedInvoiceHasExactlyTheNewLines();
     void anInvoiceThatSomebodyElseSavedIsNotOverwritten();
     void aLineThatFailsTakesTheWholeSaleBack();
@@ -185,7 +186,7 @@ void TestInvoices::anInvoiceIsReadBackWithItsPeopleItsOrderAndItsLines()
     QCOMPARE(orderStatus(table->getId()), int(EntityOrder::PAID));
 }
 
-void TestInvoices::savingAndReadingTakeAFixedNumberOfStatements()
+void TestInvoices::savingAndReadingTakeAFixedNumberOfTrips()
 {
     const QList<Dish> dishes{{1, 10}, {2, 20}, {3, 30}, {4, 40}, {5, 50}, {6, 60}};
     const int id = insertDineOrder(*m_database, dishes);
@@ -193,10 +194,17 @@ void TestInvoices::savingAndReadingTakeAFixedNumberOfStatements()
     EntityMakanDitempat* table = m_sales->findOrder(id);
     QVERIFY2(reading.count() <= 3, qPrintable(QString::number(reading.count())));
 
+    // The first bill of the day prepares the statements.
+    QVERIFY(m_sales->insertInvoice(sale(order(dishes), dishes, 0)));
     EntityInvoiceMakanDitempat* first = sale(table, dishes, 100);
-    StatementCount saving;
-    QVERIFY(m_sales->insertInvoice(first));
-    QVERIFY2(saving.count() <= dishes.size() + 14, qPrintable(QString::number(saving.count())));
+    first->setKnownBills({});
+    {
+        // Begin with the locks and the other bills, the number read and raised, the invoice, its link with the lines,
+        // commit; what the bills of the order come to, its status.
+        const TripCount saving;
+        QVERIFY(m_sales->insertInvoice(first));
+        QVERIFY2(saving.sent().size() <= 8, qPrintable(saving.sent().join('\n')));
+    }
 
     StatementCount one;
     QCOMPARE(m_sales->getInvoicesOfOrder(id).size(), 1);

@@ -1,4 +1,5 @@
 #include "kor/entity/KorColumnMap.h"
+#include "kor/persistence/KorBatch.h"
 #include "kor/persistence/KorDatabase.h"
 #include "kor/persistence/KorPaging.h"
 #include "support/TestCluster.h"
@@ -40,6 +41,66 @@ private slots:
         QCOMPARE(found->getUpdatedBy(), KorNoValue);
         QCOMPARE(found->getVersion(), 1);
         QVERIFY(qAbs(found->getCreatedTime().secsTo(QDateTime::currentDateTime())) < 5);
+    }
+
+    void manyTablesAtOnceAreStoredAsOneByOne_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("plain") << "Window";
+        QTest::newRow("empty") << "";
+        QTest::newRow("quotes and backslashes") << "o'B\\'' \\x \"n\"";
+        QTest::newRow("placeholders") << "? :name $1 %1; drop table meja";
+        QTest::newRow("line ends and other letters") << QString::fromUtf8("a\r\nb\tü 窓");
+    }
+    void manyTablesAtOnceAreStoredAsOneByOne()
+    {
+        QFETCH(QString, name);
+        EntityMeja one;
+        EntityMeja first;
+        EntityMeja second;
+        const QList<EntityMeja*> tables{&one, &first, &second};
+        for (EntityMeja* table : tables) {
+            table->setKode(QString("A%1").arg(tables.indexOf(table)));
+            table->setNama(name);
+        }
+        QVERIFY2(m_mapper->insert(&one), qPrintable(m_mapper->takeError()));
+        QVERIFY2(m_mapper->update(&one), qPrintable(m_mapper->takeError()));
+        KorTransaction transaction;
+        KorBatch inserts;
+        m_mapper->insertWith(inserts, {&first, &second});
+        QVERIFY2(inserts.send(), qPrintable(inserts.failures().join('\n')));
+        KorBatch updates;
+        m_mapper->updateWith(updates, &first);
+        m_mapper->updateWith(updates, &second);
+        QVERIFY2(updates.send(), qPrintable(updates.failures().join('\n')));
+        QVERIFY(transaction.commit());
+        QCOMPARE(m_database->value("SELECT count(DISTINCT (nama, createdby, updatedby, version, createdtime IS NULL, "
+                                   "updatedtime IS NULL)) FROM meja"),
+                 QVariant(1));
+        for (const EntityMeja* table : tables)
+            QCOMPARE(static_cast<EntityMeja*>(m_mapper->findById(table->getId()))->getKode(), table->getKode());
+    }
+
+    void whatFoundNoRowIsToldAndStopsNothing()
+    {
+        EntityMeja stays;
+        EntityMeja goes;
+        stays.setKode("A");
+        goes.setKode("B");
+        KorBatch inserts;
+        m_mapper->insertWith(inserts, {&stays, &goes});
+        QVERIFY(inserts.send());
+        m_database->run("DELETE FROM meja WHERE kode = 'B'");
+        stays.setNama("Bar");
+        KorBatch changes;
+        m_mapper->updateWith(changes, &goes);
+        m_mapper->removeWith(changes, &goes);
+        m_mapper->updateWith(changes, &stays);
+        QVERIFY(!changes.send());
+        const QString told = "Table: meja has been deleted";
+        QCOMPARE(changes.failures(), QStringList({told, told}));
+        QCOMPARE(changes.failed(), m_mapper);
+        QCOMPARE(m_database->value("SELECT nama FROM meja").toString(), QString("Bar"));
     }
 
     void theSlowerOfTwoWorkstationsIsTold()

@@ -337,7 +337,7 @@ void TestStock::aLineOfADocumentHasOneRowInTheJournal()
     const int line = 7;
     ItemMovement movement{EntityItemHistory::PURCHASE, line, &rice, 20, 0, &price, firstDay, "PU-1"};
     // The same line of another kind of document is somebody else's.
-    QVERIFY(journal->add({EntityItemHistory::CREDIT_NOTE, line, &rice, 0, 3, nullptr, firstDay, "CN-1"}));
+    QVERIFY(journal->addAll({{EntityItemHistory::CREDIT_NOTE, line, &rice, 0, 3, nullptr, firstDay, "CN-1"}}));
     const auto rows = [this] {
         return m_database
             ->value("SELECT string_agg(concat_ws(' ', tran_type, qty_in, qty_out, qty_remain, unit_price_amount, "
@@ -430,7 +430,8 @@ void TestStock::clearingTheTransactionsKeepsTheItems()
     happen(idOf("ns"), {Event::Count, 1, 10});
     EntityItem rice;
     rice.setId(idOf("ns"));
-    QVERIFY(PosMapperRegistry::instance()->itemHistoryMapper()->add({1, 1, &rice, 2, 0, nullptr, firstDay, "PU-1"}));
+    QVERIFY(
+        PosMapperRegistry::instance()->itemHistoryMapper()->addAll({{1, 1, &rice, 2, 0, nullptr, firstDay, "PU-1"}}));
     QVERIFY(m_inventory->clearTransactions());
     QCOMPARE(m_database->value("SELECT (SELECT count(*) FROM stock_take) + (SELECT count(*) FROM item_history) + "
                                "(SELECT sum(jumlah) FROM stok_awal)"),

@@ -10,8 +10,8 @@ class KorDataMapper;
 class KorQuery;
 
 /**
- * Writes that go to the server in one trip, in the order in which mappers put them in. They belong into a transaction:
- * after a statement that the database refused the rest is not run, and what was written before it has to be taken back.
+ * Writes that go to the server in one trip, in the order in which mappers put them in. More than one statement belongs
+ * into a transaction: when the database refuses one the rest is not run, and a write that found no row stops nothing.
  *
  * The values stand in the text instead of being bound. A text of its own for each number of lines would fill the
  * statements kept prepared with ones that are hardly used twice.

@@ -31,8 +31,7 @@ public:
     bool exec();
     /** Runs the text at once; with several statements in it, all their results count. */
     bool exec(const QString& statement);
-    /** The same in one trip, with the first result to be read and nextResult() to go on; false where that one failed.
-     */
+    /** The same, and stands on the first result, false where that one failed; nextResult() goes on. */
     bool send(const QString& statements);
 
     /** Binds a value that no text may show: neither statementWithValues() nor failure() does. */

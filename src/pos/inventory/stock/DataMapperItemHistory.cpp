@@ -2,6 +2,7 @@
 
 #include "app/context/EntityPool.h"
 #include "kor/entity/KorMetaDataMap.h"
+#include "kor/persistence/KorBatch.h"
 #include "kor/persistence/KorPaging.h"
 #include "pos/inventory/stock/EntityItemHistory.h"
 #include "pos/masterdata/item/DataMapperItem.h"
@@ -75,6 +76,22 @@ bool DataMapperItemHistory::add(const ItemMovement& movement)
     EntityItemHistory row;
     fill(row, movement);
     return insert(&row);
+}
+
+bool DataMapperItemHistory::addAll(const QList<ItemMovement>& movements)
+{
+    QObject rows;
+    QList<KorEntity*> all;
+    for (const ItemMovement& movement : movements) {
+        auto* row = new EntityItemHistory(&rows);
+        fill(*row, movement);
+        all.append(row);
+    }
+    KorBatch batch;
+    insertWith(batch, all);
+    if (!batch.send())
+        setError(batch.failures().first());
+    return batch.failures().isEmpty();
 }
 
 bool DataMapperItemHistory::write(const ItemMovement& movement)

@@ -52,13 +52,14 @@ public:
     [[nodiscard]] QList<EntityItemHistory*> findAll(const ItemHistoryFilter& filter);
 
     // For the services of the documents; written(journal->write(...), journal, "update") keeps a failure's text.
-    /** Makes the row of a new line. */
-    [[nodiscard]] bool add(const ItemMovement& movement);
+    /** Makes the rows of new lines, all or none, in one trip. */
+    [[nodiscard]] bool addAll(const QList<ItemMovement>& movements);
     /** Fills the row of a changed line anew, or makes it where the line has none. */
     [[nodiscard]] bool write(const ItemMovement& movement);
     /** Removes the row of a line that is gone; a line without a row is as good. */
     [[nodiscard]] bool removeLine(int transType, int lineId);
 
 private:
+    [[nodiscard]] bool add(const ItemMovement& movement);
     static void fill(EntityItemHistory& row, const ItemMovement& movement);
 };

@@ -11,15 +11,15 @@ QString StockDocumentService::unfinished() const { return tr("the rows of its go
 
 bool StockDocumentService::afterSave(const KorEntity& document, Save kind)
 {
-    bool done = true;
+    QList<ItemMovement> movements;
     const QList<KorEntity*> lines = linesOf(document);
-    for (const KorEntity* line : lines) {
-        const ItemMovement movement = movementOf(document, *line);
-        const bool kept = kind == Insert ? m_journal->add(movement) : m_journal->write(movement);
-        done = written(kept, m_journal, kind == Insert ? "insert" : "update") && done;
-    }
+    for (const KorEntity* line : lines)
+        movements.append(movementOf(document, *line));
     if (kind == Insert)
-        return done;
+        return written(m_journal->addAll(movements), m_journal, "insert");
+    bool done = true;
+    for (const ItemMovement& movement : qAsConst(movements))
+        done = written(m_journal->write(movement), m_journal, "update") && done;
     const QList<KorEntity*> removed = removedLinesOf(document);
     for (const KorEntity* line : removed) {
         const int type = movementOf(document, *line).transType;
