@@ -292,6 +292,8 @@ void TestInstaller::theOwnerChoosesNamePasswordLocaleAndDateFormat()
     });
     QCOMPARE(run.failures, QStringList());
     QVERIFY(service<BusinessUser>("User")->login("o'hara", "s3cret"));
+    // Beside a password of the owner's own there is none that everybody knows.
+    QVERIFY(!service<BusinessUser>("User")->login("dewi", "Qx7!Rm2z"));
     QCOMPARE(database.value("select count(*) from users").toInt(), 2);
     const auto localization = QJsonDocument::fromJson(
         database.value("select appvalue from appconfig where appkey = 'localization'").toByteArray());

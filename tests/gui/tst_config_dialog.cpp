@@ -251,7 +251,10 @@ void TestConfigDialog::withoutAConnectionNothingIsAskedOfTheServer()
 
 void TestConfigDialog::theLogFileIsNamed()
 {
+    QFile earlier(m_home.filePath("zavel.log"));
+    QVERIFY(earlier.open(QIODevice::WriteOnly) && earlier.setPermissions(QFile::Permissions(0x6644)));
     KorLogger logger(nullptr, m_home.filePath("zavel.log"));
+    QCOMPARE(earlier.permissions(), QFile::Permissions(0x6600));
     AppContext::instance()->setLogger(&logger);
     open();
     QCOMPARE(field("txtLogFile")->text(), m_home.filePath("zavel.log"));

@@ -335,6 +335,8 @@ void TestDatabaseManagement::aBackupThatIsCutOffLeavesTheEarlierOne()
     QTRY_VERIFY(waiting(m_database->name()) != 0);
     QVERIFY(!button("btnBackup")->isEnabled() && !button("btnBrowse")->isEnabled());
     QVERIFY(button("btnVacuum")->isEnabled());
+    // Nobody else reads the marks of the passwords in it, not even meanwhile.
+    QCOMPARE(QFile::permissions(path), QFile::Permissions(0x6600));
     if (who == "the owner") {
         giveUp(m_dialog.get());
         QVERIFY(m_dialog->isVisible());
@@ -363,16 +365,25 @@ void TestDatabaseManagement::filesAreChosenInAWindow()
     const QList<QStringList> windows{{"btnBrowse", "txtOutputFile", "Save File", "new", "new.bak"},
                                      {"btnBrowseImport", "txtInputFileImport", "Open File", "old.bak", "old.bak"}};
     QVERIFY(QFile(m_home.filePath("old.bak")).open(QIODevice::WriteOnly));
+    m_database->run("UPDATE data_perusahaan SET nama_perusahaan = 'Café \"O''Hara/Sons\"'");
     for (const QStringList& window : windows) {
         m_people->expect<QFileDialog>([&](QFileDialog* dialog) {
             QCOMPARE(dialog->windowTitle(), window[2]);
             QCOMPARE(dialog->nameFilters(), QStringList{"Backup File (*.bak)"});
-            dialog->findChild<QLineEdit*>("fileNameEdit")->setText(m_home.filePath(window[3]));
+            auto* name = dialog->findChild<QLineEdit*>("fileNameEdit");
+            if (dialog->acceptMode() == QFileDialog::AcceptSave)
+                QCOMPARE(name->text(), "Café_O_Hara_Sons" + QDate::currentDate().toString("-yyyy-MM-dd") + ".bak");
+            name->setText(m_home.filePath(window[3]));
             static_cast<QDialog*>(dialog)->accept();
         });
         button(window[0].toLatin1())->click();
         QCOMPARE(box(m_dialog.get(), window[1].toLatin1())->text(), m_home.filePath(window[4]));
     }
+    // What is typed without the window gets the ending too.
+    set("txtOutputFile", m_home.filePath("evening"));
+    run("btnBackup");
+    QVERIFY(QFile::exists(m_home.filePath("evening.bak")));
+    QCOMPARE(QFile::permissions(m_home.filePath("evening.bak")), QFile::Permissions(0x6600));
 }
 
 void TestDatabaseManagement::whatIsMissingIsAskedFor()

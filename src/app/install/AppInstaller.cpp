@@ -14,6 +14,9 @@
 #include "kor/persistence/KorDataMapper.h"
 
 #include <QMetaEnum>
+#include <QRandomGenerator>
+
+#include <array>
 
 namespace
 {
@@ -21,6 +24,14 @@ constexpr auto adminGroup = "admin";
 constexpr auto defaultPassword = "Qx7!Rm2z";
 
 QString textOr(const QString& text, const QString& otherwise) { return text.isEmpty() ? otherwise : text; }
+
+/** A password that nobody knows: the administrator gives the user another one before the first login. */
+QString randomPassword()
+{
+    std::array<quint32, 6> words{};
+    QRandomGenerator::system()->fillRange(words.data(), words.size());
+    return QByteArray(reinterpret_cast<const char*>(words.data()), sizeof words).toBase64();
+}
 } // namespace
 
 AppInstaller::AppInstaller(QObject* parent)
@@ -81,7 +92,9 @@ void AppInstaller::insertInitialData()
     insertGroup(operators, "operator");
     insertGroup(cashiers, "kasir");
     insertUser("admin", "pos", textOr(m_adminUserName, "admin"), textOr(m_adminPassword, defaultPassword), admins);
-    insertUser("operator", "dewi", "dewi", defaultPassword, operators);
+    // Whoever chose a password does not want one beside it that everybody knows.
+    const bool isOwn = !m_adminPassword.isEmpty() && m_adminPassword != defaultPassword;
+    insertUser("operator", "dewi", "dewi", isOwn ? randomPassword() : defaultPassword, operators);
 
     if (!m_configuration->insertInitialData(m_dateFormat, m_locale))
         reportFailure(m_configuration->takeErrors());

@@ -26,7 +26,8 @@ public:
     /** Whether the database is of an older version than the program; false where it has no version at all. */
     [[nodiscard]] bool isUpdateNeeded();
 
-    // What a fresh installation asks the user for; what is left empty takes its default.
+    // What a fresh installation asks the user for; what is left empty takes its default. With a password of the
+    // administrator's own the sample user's is a random one that nobody knows.
     void setAdminUserName(const QString& name) { m_adminUserName = name; }
     void setAdminPassword(const QString& password) { m_adminPassword = password; }
     void setDateFormat(const QString& dateFormat) { m_dateFormat = dateFormat; }

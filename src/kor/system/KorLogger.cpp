@@ -11,7 +11,9 @@ KorLogger::KorLogger(QObject* parent, const QString& filePath, QPlainTextEdit* t
     if (filePath.isEmpty())
         return;
     m_logFile = std::make_unique<QFile>(filePath);
-    m_logFile->open(QIODevice::Append | QIODevice::Text);
+    // It tells of customers and statements: nobody else at this machine needs to read it, an older one neither.
+    if (m_logFile->open(QIODevice::Append | QIODevice::Text))
+        m_logFile->setPermissions(QFile::ReadOwner | QFile::WriteOwner);
 }
 
 void KorLogger::log(const QString& message)

@@ -9,7 +9,8 @@
 class QPlainTextEdit;
 
 /**
- * Writes one line a message to a file and, where there is one, to a text view. Each line is on disk at once.
+ * Writes one line a message to a file and, where there is one, to a text view. Each line is on disk at once. Only the
+ * file's owner may read it.
  * Lines from other threads are stamped there and written by the logger's own.
  */
 class KorLogger : public QObject

@@ -110,9 +110,10 @@ void DialogBackupDB::on_btnBrowse_clicked()
 
 void DialogBackupDB::on_btnBackup_clicked()
 {
-    const QString path = m_ui->txtOutputFile->text();
+    const QString path = BackupFile::withEnding(m_ui->txtOutputFile->text());
     if (path.isEmpty())
         return showInfo(tr("Enter the ouput file"));
+    m_ui->txtOutputFile->setText(path);
     m_file = std::make_unique<BackupFile>(path);
     QString reason;
     if (!m_file->prepare(&reason))

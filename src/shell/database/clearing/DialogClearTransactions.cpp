@@ -51,9 +51,10 @@ void DialogClearTransactions::on_btnBrowse_clicked()
 
 void DialogClearTransactions::on_btnBackupAndClearTransactions_clicked()
 {
-    const QString path = m_ui->txtOutputFile->text();
+    const QString path = BackupFile::withEnding(m_ui->txtOutputFile->text());
     if (path.isEmpty())
         return showInfo(tr("Enter a valid backup file path"));
+    m_ui->txtOutputFile->setText(path);
     m_connection = edits(*m_ui).read();
     m_guard = std::make_unique<ClearingGuard>();
     if (!m_guard->begin())

@@ -1,5 +1,11 @@
 #include "shell/database/tools/BackupFile.h"
 
+#include "app/context/EntityPool.h"
+#include "kor/business/KorServiceDirectory.h"
+#include "kor/persistence/KorDatabase.h"
+#include "pos/masterdata/company/BusinessDataPerusahaan.h"
+#include "pos/masterdata/company/EntityDataPerusahaan.h"
+
 #include <QDate>
 #include <QDir>
 #include <QFileDialog>
@@ -16,10 +22,42 @@ QString startFolder(const QString& current)
 
 QString asideOf(const QString& path) { return QFileInfo(path).absoluteFilePath() + ".previous"; }
 
-/** A database's name can hold what a file's name cannot. */
-QString suggestion(QString database)
+/** The name of the restaurant whose database it is; empty where that is not the one that the program works with. */
+QString shopOf(const QString& database)
 {
-    return database.replace('/', '_') + QDate::currentDate().toString("-yyyy-MM-dd") + ".bak";
+    auto* companies = service<BusinessDataPerusahaan>("Company Profile");
+    const QSqlDatabase own = KorDatabase::current();
+    if (!companies || !own.isOpen() || own.databaseName() != database)
+        return {};
+    EntityPool read;
+    const EntityPoolScope scope(read);
+    const EntityDataPerusahaan* company = companies->getData();
+    // Without the name the file still has the database's.
+    companies->clearErrors();
+    return company ? company->getNamaPerusahaan() : QString();
+}
+
+/** Names of people and databases hold what a stick's file system, or a command line, does not take. */
+QString safeName(const QString& name)
+{
+    constexpr int longest = 60;
+    QString safe;
+    for (const QChar letter : name) {
+        if (letter.isLetterOrNumber() || letter == '-')
+            safe.append(letter);
+        else if (!safe.isEmpty() && !safe.endsWith('_'))
+            safe.append('_');
+    }
+    safe.truncate(longest);
+    while (safe.endsWith('_'))
+        safe.chop(1);
+    return safe;
+}
+
+QString suggestion(const QString& database)
+{
+    const QString shop = safeName(shopOf(database));
+    return (shop.isEmpty() ? safeName(database) : shop) + QDate::currentDate().toString("-yyyy-MM-dd") + ".bak";
 }
 } // namespace
 
@@ -29,6 +67,12 @@ BackupFile::~BackupFile()
 {
     if (m_open)
         putBack();
+}
+
+QString BackupFile::withEnding(const QString& path)
+{
+    const QFileInfo file(path);
+    return path.isEmpty() || path.endsWith('/') || file.isDir() || !file.suffix().isEmpty() ? path : path + ".bak";
 }
 
 QString BackupFile::askForNew(QWidget* parent, const QString& current, const QString& database)
@@ -66,6 +110,9 @@ bool BackupFile::prepare(QString* reason)
     const bool earlier = QFileInfo::exists(m_aside) || !file.exists() || QFile::rename(m_path, m_aside);
     QFile place(m_path);
     m_open = earlier && place.open(QIODevice::WriteOnly);
+    // A piece that is written over may be open to all; a stick that knows no owners takes the backup all the same.
+    if (m_open)
+        place.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
     if (m_open)
         return true;
     *reason = tr("The backup can not be written to the folder %1: %2. Please choose another one.")

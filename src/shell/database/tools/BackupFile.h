@@ -8,6 +8,7 @@ class QWidget;
 /**
  * The file that a backup goes to. An earlier backup of that name is moved aside until the new one is complete, and
  * comes back when it is not: what bears the name is a whole backup. Left unsettled, the earlier one comes back too.
+ * From its first byte on only the person who makes it may read it: it holds the marks of all passwords.
  */
 class BackupFile
 {
@@ -18,6 +19,8 @@ public:
     ~BackupFile();
     Q_DISABLE_COPY(BackupFile)
 
+    /** The path as the backup will bear it: with ".bak" where nobody typed an ending. */
+    [[nodiscard]] static QString withEnding(const QString& path);
     // What the person chooses in the window; empty where they gave it up.
     [[nodiscard]] static QString askForNew(QWidget* parent, const QString& current, const QString& database);
     [[nodiscard]] static QString askForExisting(QWidget* parent, const QString& current);

@@ -8,6 +8,7 @@
 
 #include <csignal>
 #include <sys/prctl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 ClientProcess::ClientProcess(QObject* parent) : QProcess(parent), m_decoder(QTextCodec::codecForLocale()->makeDecoder())
@@ -56,6 +57,8 @@ void ClientProcess::setupChildProcess()
 {
     // Without a terminal the tool cannot stop to ask for a password behind the window.
     setsid();
+    // What it writes holds the marks of all passwords.
+    umask(077);
     // A restore that outlived the program would meet the program's next start.
     prctl(PR_SET_PDEATHSIG, SIGTERM);
 }
