@@ -3,20 +3,14 @@
 #include "app/configuration/BusinessConfiguration.h"
 #include "app/context/AppContext.h"
 #include "app/context/DatabaseManager.h"
+#include "app/context/DatabaseServer.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "zavel/install/ZavelInstaller.h"
 #include "zavel/registry/ZavelBusinessRegistry.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QSqlError>
 #include <QSqlQuery>
-
-namespace
-{
-/** The driver's own quoting takes a dot for the end of a schema's name. */
-QString quotedIdentifier(QString name) { return '"' + name.replace('"', "\"\"") + '"'; }
-} // namespace
 
 DatabaseSetup::DatabaseSetup(const SetupOptions& options)
     : m_options(options), m_manager(new DatabaseManager), m_out(stdout), m_err(stderr)
@@ -105,38 +99,17 @@ bool DatabaseSetup::connectToDatabase()
 
 bool DatabaseSetup::isDatabaseMissing()
 {
-    const ConnectionSettings& to = m_options.connection;
-    if (!m_manager->open(to.host, "postgres", to.user, to.password, to.port))
-        return false;
-    bool missing = false;
-    {
-        QSqlQuery query(m_manager->database());
-        query.prepare("SELECT 1 FROM pg_database WHERE datname = :name");
-        query.bindValue(":name", to.database);
-        missing = query.exec() && !query.next();
-    }
-    m_manager->close();
-    return missing;
+    const DatabaseServer server(m_manager, m_options.connection);
+    return server.isOpen() && !server.has(m_options.connection.database);
 }
 
 bool DatabaseSetup::createDatabase()
 {
-    const ConnectionSettings& to = m_options.connection;
-    if (!m_manager->open(to.host, "postgres", to.user, to.password, to.port)) {
-        fail(m_manager->lastErrorText().trimmed());
-        return false;
-    }
-    QString error;
-    {
-        QSqlQuery query(m_manager->database());
-        if (!query.exec(
-                QString("CREATE DATABASE %1 TEMPLATE template0 ENCODING 'UTF8'").arg(quotedIdentifier(to.database))))
-            error = query.lastError().text().trimmed();
-    }
-    m_manager->close();
-    if (error.isEmpty())
+    const QString& name = m_options.connection.database;
+    DatabaseServer server(m_manager, m_options.connection);
+    if (server.create(name))
         return true;
-    fail(tr("The database %1 can not be created: %2").arg(to.database, error));
+    fail(server.isOpen() ? tr("The database %1 can not be created: %2").arg(name, server.failure()) : server.failure());
     return false;
 }
 

@@ -5,12 +5,14 @@
 #include "support/Hands.h"
 #include "support/TestCluster.h"
 #include "support/TestDatabase.h"
+#include "support/TestTemplate.h"
 #include "support/WholeDatabase.h"
 
 #include <QCheckBox>
 #include <QFileDialog>
 #include <QPlainTextEdit>
 #include <QSignalSpy>
+#include <QSqlQuery>
 #include <QTabWidget>
 #include <QTcpServer>
 #include <QTemporaryDir>
@@ -37,6 +39,7 @@ private slots:
     void filesAreChosenInAWindow();
     void whatIsMissingIsAskedFor();
     void aDatabaseInUseIsNotRestoredOverUnasked();
+    void aDatabaseThatIsReplacedIsKeptUnderAnotherName();
     void aRestoreThatIsCutOffIsToldAsIncomplete_data();
     void aRestoreThatIsCutOffIsToldAsIncomplete();
     void aDatabaseThatCannotBeMadeIsTold();
@@ -418,6 +421,54 @@ void TestDatabaseManagement::aDatabaseInUseIsNotRestoredOverUnasked()
     QCOMPARE(m_people->texts().size(), 1);
     QVERIFY(status("txtRestoreStatus").contains("Nothing was restored."));
     QCOMPARE(allRows(m_database->name()), rows);
+
+    // The program works with it, so it can not make way either.
+    m_people->clear();
+    m_people->answer(QMessageBox::Yes);
+    button("btnRestore")->click();
+    QTRY_VERIFY_WITH_TIMEOUT(button("btnRestore")->isEnabled() && !QApplication::activeModalWidget(), 30000);
+    QVERIFY2(m_people->lastText().contains("was not replaced"), qPrintable(m_people->lastText()));
+    QVERIFY(status("txtRestoreStatus").contains("is being accessed by other users"));
+    QCOMPARE(allRows(m_database->name()), rows);
+}
+
+void TestDatabaseManagement::aDatabaseThatIsReplacedIsKeptUnderAnotherName()
+{
+    set("txtInputFileImport", backup());
+    const QMap<QString, QStringList> rows = allRows(m_database->name());
+    const QString name = newDatabase(QString(30, 'x'));
+    TestCluster& cluster = TestCluster::instance();
+    cluster.run("CREATE DATABASE " + name + " TEMPLATE " + installedTemplateName());
+    set("txtDBNameImport", name);
+
+    // It comes back where no new one can be made.
+    const QTemporaryDir programs;
+    QFile program(programs.filePath("createdb"));
+    QVERIFY(program.open(QIODevice::WriteOnly) && program.write("#!/bin/sh\nexit 1\n") > 0);
+    QVERIFY(program.setPermissions(QFile::ReadOwner | QFile::ExeOwner));
+    program.close();
+    qputenv("ZAVEL_PG_BIN", programs.path().toLocal8Bit());
+    m_people->clear();
+    m_people->answer(QMessageBox::Yes);
+    button("btnRestore")->click();
+    QTRY_VERIFY_WITH_TIMEOUT(button("btnRestore")->isEnabled() && !QApplication::activeModalWidget(), 30000);
+    QCOMPARE(m_people->lastText(), "Nothing was restored. The database " + name + " is as it was.");
+    QVERIFY(cluster.hasDatabase(name));
+    qunsetenv("ZAVEL_PG_BIN");
+
+    m_people->answer(QMessageBox::Yes);
+    button("btnRestore")->click();
+    QTRY_VERIFY_WITH_TIMEOUT(button("btnRestore")->isEnabled() && !QApplication::activeModalWidget(), 30000);
+    QCOMPARE(m_people->lastText(), QString("Your database has been successfully restored"));
+    const QString told = status("txtRestoreStatus").section("kept under the name ", -1).section('.', 0, 2);
+    m_made.append(told);
+    QVERIFY2(cluster.hasDatabase(told), qPrintable(told));
+    QCOMPARE(allRows(name), rows);
+    // The numbers go on where the backup's end.
+    AppContext::instance()->databaseManager()->open(TestDatabase::host(), name, TestDatabase::user(), {},
+                                                    TestDatabase::port());
+    QSqlQuery next;
+    QVERIFY(next.exec("INSERT INTO meja (kode, nama, version) VALUES ('m9', 'Garden', 1)"));
 }
 
 void TestDatabaseManagement::aRestoreThatIsCutOffIsToldAsIncomplete_data()

@@ -4,14 +4,17 @@
 #include "shell/database/tools/ClientProcess.h"
 #include "shell/database/tools/ClientPrograms.h"
 #include "shell/database/wizard/AppInstallerWizard.h"
+#include "shell/database/wizard/LocalServers.h"
 #include "support/ModalDriver.h"
 #include "support/TestCluster.h"
 #include "support/TestDatabase.h"
+#include "support/TestTemplate.h"
 
 #include <QAbstractButton>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QSqlQuery>
+#include <QTcpServer>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -48,7 +51,14 @@ private slots:
     void anInstallationThatLosesTheServerClaimsNoSuccess();
     void aBackupIsRestored_data();
     void aBackupIsRestored();
+    void aBackupReplacesADatabaseOnlyAfterAQuestion();
+    void aDatabaseComesBackWhereNoNewOneCanBeMade();
+    void aDatabaseThatCanNotMakeWayStays_data();
+    void aDatabaseThatCanNotMakeWayStays();
     void withoutTheClientProgramsNothingIsRestored();
+    void whatKeepsTheServerAwayIsHelped_data();
+    void whatKeepsTheServerAwayIsHelped();
+    void theServersOfThisMachineAreFound();
 
 private:
     void open();
@@ -60,6 +70,8 @@ private:
     void waitForTheEnd() { QTRY_VERIFY_WITH_TIMEOUT(button(QWizard::FinishButton)->isEnabled(), 60000); }
     bool hasSettings() const { return ConnectionSettings::exists(ConnectionSettings::defaultPath()); }
     QString make(const QString& name);
+    /** From now on these programs of PostgreSQL do not start. */
+    void breakTools(const QStringList& names);
 
     QTemporaryDir m_home;
     QString m_backup;
@@ -109,6 +121,7 @@ void TestInstallWizard::cleanup()
 {
     m_wizard.reset();
     m_people.reset();
+    qunsetenv("ZAVEL_PG_BIN");
     m_database.reset();
     for (const QString& name : qAsConst(m_made))
         TestCluster::instance().run("DROP DATABASE IF EXISTS " + identifier(name) + " WITH (FORCE)");
@@ -366,19 +379,154 @@ void TestInstallWizard::aBackupIsRestored()
     QVERIFY(query.next() && query.value(0).toInt() == 1);
 }
 
-void TestInstallWizard::withoutTheClientProgramsNothingIsRestored()
+void TestInstallWizard::aBackupReplacesADatabaseOnlyAfterAQuestion()
 {
-    for (const char* tool : {"createdb", "pg_restore"}) {
-        QFile broken(m_home.filePath(tool));
+    TestCluster& cluster = TestCluster::instance();
+    const QString name = make(awkwardName);
+    cluster.run("CREATE DATABASE " + identifier(name) + " TEMPLATE " + installedTemplateName());
+    // The port is the first thing to ask about.
+    enter("dbserverrestore", {{"restore.dbname", name}, {"restore.createdb", true}, {"dbserverrestore.dbport", "1"}});
+    m_people->answer(QMessageBox::Yes);
+    next();
+    QCOMPARE(m_wizard->field("dbserverrestore.dbport").toInt(), TestDatabase::port());
+    QVERIFY2(m_people->lastText().contains("holds 48 tables already"), qPrintable(m_people->lastText()));
+    QCOMPARE(m_wizard->currentId(), 3);
+    QVERIFY(!hasSettings());
+
+    m_wizard->setField("restore.createdb", false);
+    m_people->answer(QMessageBox::Yes);
+    next();
+    waitForTheEnd();
+    QCOMPARE(m_people->lastText(), restored);
+    const QString aside = make(status().section("kept under the name ", 1).section(".\n", 0, 0));
+    QVERIFY2(cluster.hasDatabase(aside), qPrintable(aside));
+    // The tables are the backup's, and the numbers go on behind its own.
+    QSqlQuery query(AppContext::instance()->databaseManager()->database());
+    QVERIFY(query.exec("INSERT INTO meja (kode, nama, version) VALUES ('m10', 'Next', 1)"));
+    QVERIFY(query.exec("SELECT string_agg(kode, ',' ORDER BY id) FROM meja") && query.next());
+    QCOMPARE(query.value(0).toString(), QString("m1,m2,m9,m10"));
+}
+
+void TestInstallWizard::aDatabaseComesBackWhereNoNewOneCanBeMade()
+{
+    TestCluster& cluster = TestCluster::instance();
+    const QString name = make("comes back");
+    cluster.run("CREATE DATABASE " + identifier(name) + " TEMPLATE " + installedTemplateName());
+    breakTools({"createdb"});
+    enter("dbserverrestore", {{"restore.dbname", name}});
+    m_people->answer(QMessageBox::Yes);
+    next();
+    waitForTheEnd();
+    QVERIFY(cluster.hasDatabase(name));
+    QVERIFY2(status().endsWith("Nothing was restored into them.\n"), qPrintable(status()));
+    QVERIFY(!hasSettings());
+}
+
+void TestInstallWizard::aDatabaseThatCanNotMakeWayStays_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("said");
+    QTest::newRow("another till works with it") << ""
+                                                << "was not replaced";
+    QTest::newRow("the file is no backup") << "/etc/hostname"
+                                           << "can not be read as a backup";
+}
+
+void TestInstallWizard::aDatabaseThatCanNotMakeWayStays()
+{
+    QFETCH(QString, file);
+    QFETCH(QString, said);
+    m_database = std::make_unique<TestDatabase>();
+    enter("dbserverrestore", {{"restore.file", file.isEmpty() ? m_backup : file}});
+    m_people->answer(QMessageBox::Yes);
+    next();
+    QVERIFY2(m_people->lastText().contains(said), qPrintable(m_people->lastText()));
+    QCOMPARE(m_wizard->currentId(), 3);
+    // Filled behind the question's back it stays as well.
+    m_wizard->page(4)->initializePage();
+    QTRY_VERIFY(status().contains("Nothing was restored into them."));
+    QVERIFY(!hasSettings());
+    QCOMPARE(m_database->value("SELECT count(*) FROM meja").toInt(), 2);
+}
+
+void TestInstallWizard::whatKeepsTheServerAwayIsHelped_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<int>("press");
+    QTest::newRow("port") << "dbport"
+                          << "1" << int(QMessageBox::Retry);
+    QTest::newRow("database") << "dbname" << awkwardName << int(QMessageBox::Yes);
+}
+
+void TestInstallWizard::whatKeepsTheServerAwayIsHelped()
+{
+    QFETCH(QString, line);
+    QFETCH(QString, value);
+    QFETCH(int, press);
+    make(awkwardName);
+    enter("dbserverfresh", {{"dbserverfresh." + line, value}});
+    m_people->answer(QMessageBox::StandardButton(press));
+    next();
+    QCOMPARE(m_people->texts(), QStringList{noConnection});
+    QCOMPARE(m_wizard->currentId(), 4);
+    waitForTheEnd();
+    QVERIFY(status().endsWith("[100%] Done. Please restart the app\n"));
+    const ConnectionSettings left = ConnectionSettings::read(ConnectionSettings::defaultPath());
+    QCOMPARE(left.port, TestDatabase::port());
+    QCOMPARE(left.database, line == "dbname" ? awkwardName : m_database->name());
+}
+
+void TestInstallWizard::theServersOfThisMachineAreFound()
+{
+    QTcpServer listening;
+    QVERIFY(listening.listen(QHostAddress::LocalHost));
+    QTcpServer other;
+    QVERIFY(other.listen(QHostAddress::LocalHost));
+    const QString folder = m_home.filePath("conf");
+    const auto configure = [&folder](const QString& cluster, const QString& text) {
+        QDir().mkpath(folder + cluster);
+        QFile file(folder + cluster + "/postgresql.conf");
+        return file.open(QIODevice::WriteOnly) && file.write(text.toUtf8()) > 0;
+    };
+    QVERIFY(configure("/13/main", "port = 2\n"));
+    QVERIFY(
+        configure("/15/main", QString("#port = 3\nport = %1 # (change requires restart)\n").arg(other.serverPort())));
+    const LocalServers servers("/nowhere", folder);
+    ConnectionSettings connection;
+    connection.port = 1;
+    const QList<QPair<QString, int>> hosts{{"localhost", other.serverPort()},
+                                           {"127.0.0.1", other.serverPort()},
+                                           {"till.example", 0},
+                                           {TestDatabase::host(), TestDatabase::port()}};
+    for (const auto& host : hosts) {
+        connection.host = host.first;
+        QCOMPARE(servers.portInPlaceOf(connection), host.second);
+    }
+    connection.host = "localhost";
+    connection.port = listening.serverPort();
+    QCOMPARE(servers.portInPlaceOf(connection), 0);
+}
+
+void TestInstallWizard::breakTools(const QStringList& names)
+{
+    const QString folder = m_home.filePath("without " + names.join('-'));
+    QDir().mkpath(folder);
+    for (const QString& tool : names) {
+        QFile broken(QDir(folder).filePath(tool));
         QVERIFY(broken.open(QIODevice::WriteOnly));
         broken.write("#!/no/such/interpreter\n");
         broken.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
-    qputenv("ZAVEL_PG_BIN", m_home.path().toLocal8Bit());
+    qputenv("ZAVEL_PG_BIN", folder.toLocal8Bit());
+}
+
+void TestInstallWizard::withoutTheClientProgramsNothingIsRestored()
+{
+    breakTools({"createdb", "pg_restore"});
     enter("dbserverrestore", {{"restore.createdb", true}});
     next();
     waitForTheEnd();
-    qunsetenv("ZAVEL_PG_BIN");
     QCOMPARE(m_people->texts(), QStringList({"Error 0", "Error 0"}));
     QVERIFY(status().contains("nothing was restored"));
     QVERIFY(!hasSettings());

@@ -1,5 +1,7 @@
 #include "shell/database/backup/DialogBackupDB.h"
 
+#include "app/context/DatabaseServer.h"
+#include "shell/database/check/RestoreQuestion.h"
 #include "shell/database/tools/BackupFile.h"
 #include "shell/database/tools/ClientPrograms.h"
 #include "shell/database/tools/ConnectionEdits.h"
@@ -10,11 +12,7 @@
 #include <QFileInfo>
 #include <QMessageBox>
 
-namespace
-{
-const char* const countTables = "SELECT count(*) FROM pg_class c JOIN pg_namespace n ON n.oid = c.relnamespace "
-                                "WHERE c.relkind IN ('r', 'p') AND n.nspname !~ '^(pg_|information_schema$)'";
-} // namespace
+#include <utility>
 
 DialogBackupDB::DialogBackupDB(QWidget* parent) : ToolDialog(parent), m_ui(std::make_unique<Ui::DialogBackupDB>())
 {
@@ -157,6 +155,7 @@ void DialogBackupDB::on_btnRestore_clicked()
     m_target = restoreEdits().read();
     m_source = m_ui->txtInputFileImport->text();
     m_created = false;
+    m_aside.clear();
     if (m_source.isEmpty())
         return showInfo(tr("Please enter the input file"));
     if (m_target.database.isEmpty())
@@ -168,29 +167,65 @@ void DialogBackupDB::on_btnRestore_clicked()
         return showInfo(tr("The backup %1 was cut off while it was written. The one before it is %2: please take that.")
                             .arg(m_source, whole));
     // A database that can not be looked into is none yet, or pg_restore says why.
-    m_import->look(ClientPrograms::query(m_target, countTables),
+    m_import->look(ClientPrograms::query(m_target, RestoreQuestion::countingTables()),
                    [this](bool, const QString& answer) { restoreUnlessInUse(answer.trimmed().toInt()); });
 }
 
 void DialogBackupDB::restoreUnlessInUse(int tables)
 {
-    // pg_restore replaces nothing: rows of the backup come beside those that are there, and all numbers jump back.
-    if (tables > 0 &&
-        QMessageBox::question(this, tr("Question"),
-                              tr("The database %1 holds %2 tables already. A restore does not replace what is in "
-                                 "them: it would mix the backup into them and spoil their numbering. Restore into a "
-                                 "new database instead, and make it the active one afterwards.\n\nDo you want to "
-                                 "restore into %1 all the same?")
-                                  .arg(m_target.database, QString::number(tables)),
-                              QMessageBox::Yes | QMessageBox::No, QMessageBox::No) != QMessageBox::Yes) {
+    if (tables == 0) {
+        if (m_ui->cbCreateNewDB->isChecked())
+            createDatabase();
+        else
+            startRestore();
+        return;
+    }
+    const QString aside = RestoreQuestion::asideName(m_target.database);
+    if (!RestoreQuestion::ask(this, m_target.database, tables, aside)) {
         m_import->say(tr("Nothing was restored. The database %1 is as it was.").arg(m_target.database));
         m_import->end();
         return;
     }
-    if (m_ui->cbCreateNewDB->isChecked())
-        m_createDB->start(ClientPrograms::createDatabase(m_target), tr("creating your db..."));
-    else
-        startRestore();
+    // Nothing makes way for a file that is no backup.
+    m_import->look(ClientPrograms::contents(m_source), [this, aside](bool readable, const QString&) {
+        if (readable)
+            setAside(aside);
+        else
+            refuse(RestoreQuestion::notReadable(m_source));
+    });
+}
+
+void DialogBackupDB::setAside(const QString& aside)
+{
+    rename(m_target.database, aside, [this, aside](bool done, const QString& words) {
+        if (!done) {
+            m_import->say(words);
+            return refuse(RestoreQuestion::notReplaced(m_target.database));
+        }
+        m_aside = aside;
+        m_import->say(RestoreQuestion::kept(aside));
+        createDatabase();
+    });
+}
+
+void DialogBackupDB::rename(const QString& database, const QString& name,
+                            std::function<void(bool, const QString&)> answer)
+{
+    ConnectionSettings maintenance = m_target;
+    maintenance.database = "postgres";
+    m_import->look(ClientPrograms::query(maintenance, DatabaseServer::renaming(database, name)), std::move(answer));
+}
+
+void DialogBackupDB::refuse(const QString& reason)
+{
+    m_import->say(reason);
+    m_import->end();
+    QMessageBox::critical(this, tr("Error"), reason);
+}
+
+void DialogBackupDB::createDatabase()
+{
+    m_createDB->start(ClientPrograms::createDatabase(m_target), tr("creating your db..."));
 }
 
 void DialogBackupDB::processCreateDBStarted() { m_createDB->say(tr("createdb started...")); }
@@ -203,8 +238,19 @@ void DialogBackupDB::checkCreateDBError(QProcess::ProcessError error)
     if (error != QProcess::FailedToStart)
         return;
     m_createDB->end();
+    if (!m_aside.isEmpty())
+        return putBack();
     m_import->say(tr("The database %1 was not created, and nothing was restored.").arg(m_target.database));
     m_import->end();
+}
+
+void DialogBackupDB::putBack()
+{
+    rename(m_aside, m_target.database, [this](bool done, const QString&) {
+        refuse(done ? tr("Nothing was restored. The database %1 is as it was.").arg(m_target.database)
+                    : tr("The database %1 was not created, and nothing was restored.").arg(m_target.database) + ' ' +
+                          RestoreQuestion::kept(m_aside));
+    });
 }
 
 void DialogBackupDB::processCreateDBExited(int exitCode, QProcess::ExitStatus exitStatus)
@@ -214,6 +260,8 @@ void DialogBackupDB::processCreateDBExited(int exitCode, QProcess::ExitStatus ex
     if (!m_created)
         m_createDB->say(tr("The database %1 was not created, the reason stands above.").arg(m_target.database));
     m_createDB->end();
+    if (!m_created && !m_aside.isEmpty())
+        return putBack();
     // It comes to its own end, and tells of it, where there is no database to restore into.
     startRestore();
 }
@@ -248,7 +296,10 @@ void DialogBackupDB::processImportExited(int exitCode, QProcess::ExitStatus exit
     else if (!succeeded)
         verdict = tr("The restore failed or left something out, the reason stands above. If there is a database %1, do "
                      "not work with it: restore into a new one.");
-    conclude(m_import, tr("Your database has been successfully restored"), succeeded, verdict.arg(m_target.database));
+    verdict = verdict.arg(m_target.database);
+    if (!m_aside.isEmpty())
+        verdict += ' ' + RestoreQuestion::kept(m_aside);
+    conclude(m_import, tr("Your database has been successfully restored"), succeeded, verdict);
 }
 
 void DialogBackupDB::on_btnSetActiveDB_clicked()

@@ -5,6 +5,7 @@
 
 #include <QProcess>
 
+#include <functional>
 #include <memory>
 
 class BackupFile;
@@ -67,8 +68,15 @@ private:
     [[nodiscard]] ConnectionEdits backupEdits() const;
     [[nodiscard]] ConnectionEdits restoreEdits() const;
     [[nodiscard]] ConnectionEdits maintenanceEdits() const;
-    /** Goes on with the restore unless the database holds tables and the person steps back. */
+    /** Goes on with the restore; a database that holds tables makes way for it, or the person steps back. */
     void restoreUnlessInUse(int tables);
+    void setAside(const QString& aside);
+    /** Without a new database, the one that made way for it comes back. */
+    void putBack();
+    void rename(const QString& database, const QString& name, std::function<void(bool, const QString&)> answer);
+    /** Ends the restore before it began. */
+    void refuse(const QString& reason);
+    void createDatabase();
     void startRestore();
     void maintain(const ClientCommand& command, const QString& doing);
     void sayExit(ToolRun* run, int exitCode, QProcess::ExitStatus exitStatus);
@@ -85,4 +93,6 @@ private:
     ConnectionSettings m_target;
     QString m_source;
     bool m_created = false;
+    /** The name that the former database is kept under; empty where there was none. */
+    QString m_aside;
 };

@@ -1,7 +1,9 @@
 #include "shell/database/wizard/ConclusionPage.h"
 
 #include "app/context/AppContext.h"
+#include "app/context/DatabaseServer.h"
 #include "shell/database/check/DatabaseCondition.h"
+#include "shell/database/check/RestoreQuestion.h"
 #include "shell/database/tools/ClientProcess.h"
 #include "shell/database/tools/ClientPrograms.h"
 #include "shell/database/tools/StatusText.h"
@@ -82,6 +84,9 @@ void ConclusionPage::restore()
     m_connection.port = field("dbserverrestore.dbport").toInt();
     m_connection.database = field("restore.dbname").toString();
     m_backup = field("restore.file").toString();
+    m_aside = field("restore.aside").toString();
+    if (!m_aside.isEmpty())
+        appendStatusLine(statusBox(), RestoreQuestion::kept(m_aside));
     if (!field("restore.createdb").toBool()) {
         restoreStep();
         return;
@@ -92,6 +97,14 @@ void ConclusionPage::restore()
 
 void ConclusionPage::restoreStep()
 {
+    // One that somebody has made and filled since it was asked about, or that could not be made a second time.
+    if (WizardConnection::tryOpen(m_connection) && WizardConnection::countTables() > 0) {
+        appendStatusLine(
+            statusBox(),
+            tr("The database %1 holds tables. Nothing was restored into them.").arg(m_connection.database));
+        setBusy(false);
+        return;
+    }
     appendStatusLine(statusBox(), tr("restoring your db..."));
     m_import->run(ClientPrograms::restore(m_connection, m_backup));
 }
@@ -119,6 +132,7 @@ void ConclusionPage::checkCreateDBError(QProcess::ProcessError err)
         return;
     appendStatusLine(statusBox(), tr("The program that creates databases could not be started. Are PostgreSQL's "
                                      "client programs installed on this machine?"));
+    putBack();
     restoreStep();
 }
 
@@ -126,11 +140,22 @@ void ConclusionPage::processCreateDBExited(int exitCode, QProcess::ExitStatus st
 {
     processCreateDBReadyRead();
     tellExit(exitCode, status);
-    if (!m_createDB->succeeded())
+    if (!m_createDB->succeeded()) {
         appendStatusLine(statusBox(), tr("The database %1 was NOT created. The backup goes into the database of that "
                                          "name, if there is one.")
                                           .arg(m_connection.database));
+        putBack();
+    }
     restoreStep();
+}
+
+void ConclusionPage::putBack()
+{
+    if (m_aside.isEmpty())
+        return;
+    DatabaseServer server(AppContext::instance()->databaseManager(), m_connection);
+    if (server.rename(m_aside, m_connection.database))
+        m_aside.clear();
 }
 
 void ConclusionPage::processImportStarted() { appendStatusLine(statusBox(), tr("pg_restore started...")); }

@@ -38,6 +38,8 @@ private:
     void installFresh();
     void restore();
     void restoreStep();
+    /** Without a new database, the one that made way for it comes back. */
+    void putBack();
     void tellError(QProcess::ProcessError err);
     void tellExit(int exitCode, QProcess::ExitStatus status);
     /** Whether what pg_restore left can be worked with, and the settings for it. */
@@ -48,6 +50,8 @@ private:
     QString m_settingsPath;
     ConnectionSettings m_connection;
     QString m_backup;
+    /** The name that the former database is kept under; empty where there was none. */
+    QString m_aside;
     ClientProcess* m_createDB;
     ClientProcess* m_import;
     bool m_busy = false;

@@ -27,7 +27,8 @@ FreshInstallPage::FreshInstallPage(QWidget* parent)
     locale->setToolTip(tr("How numbers and money are written, and in which currency the first items are priced"));
     form()->addRow(tr("Locale (ISO 639) :"), locale);
     registerField("localization.locale", locale, "currentText");
-    m_connection.database->setToolTip(tr("The database has to exist on the server already"));
+    m_connection.database->setToolTip(
+        tr("Where the server has no database of this name yet, the program offers to create it"));
 }
 
 void FreshInstallPage::initializePage()
@@ -41,9 +42,9 @@ bool FreshInstallPage::validatePage()
 {
     if (m_nothingToInstall)
         return true;
-    const ConnectionSettings connection = m_connection.read();
-    if (!WizardConnection::open(this, connection))
+    if (!WizardConnection::openOrHelp(this, m_connection))
         return false;
+    const ConnectionSettings connection = m_connection.read();
     const ReplaceQuestion::Answer answer = ReplaceQuestion::ask(this, ReplaceQuestion::UseToo);
     if (answer == ReplaceQuestion::Leave || !WizardConnection::save(this, connection, m_settingsPath))
         return false;

@@ -1,13 +1,26 @@
 #include "shell/database/wizard/RestoreInstallPage.h"
 
+#include "app/context/AppContext.h"
+#include "app/context/DatabaseServer.h"
+#include "shell/database/check/RestoreQuestion.h"
+#include "shell/database/tools/ClientProcess.h"
+#include "shell/database/tools/ClientPrograms.h"
 #include "shell/database/wizard/AppInstallerWizard.h"
+#include "shell/database/wizard/LocalServers.h"
+#include "shell/database/wizard/WizardConnection.h"
 
 #include <QCheckBox>
 #include <QFileDialog>
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
+
+namespace
+{
+const char* const aside = "aside";
+}
 
 RestoreInstallPage::RestoreInstallPage(QWidget* parent) : DetailsPage(parent)
 {
@@ -29,10 +42,60 @@ RestoreInstallPage::RestoreInstallPage(QWidget* parent) : DetailsPage(parent)
     form()->addRow(fileLabel, fileRow);
 
     m_connection.database = addLine(tr("Restore to Database:"), "restore.dbname");
-    auto* create = new QCheckBox(this);
-    create->setToolTip(tr("Set it where the server has no database of this name yet"));
-    form()->addRow(tr("Create a New Database:"), create);
-    registerField("restore.createdb*", create);
+    m_create = new QCheckBox(this);
+    m_create->setToolTip(tr("Set it where the server has no database of this name yet"));
+    form()->addRow(tr("Create a New Database:"), m_create);
+    registerField("restore.createdb*", m_create);
+    setProperty(aside, QString());
+    registerField("restore.aside", this, aside);
+}
+
+bool RestoreInstallPage::validatePage()
+{
+    setProperty(aside, QString());
+    // What can not be opened is no database yet, or the tools say why.
+    const int tables = openTarget() ? WizardConnection::countTables() : 0;
+    return tables == 0 || replace(tables);
+}
+
+bool RestoreInstallPage::openTarget()
+{
+    const ConnectionSettings target = m_connection.read();
+    if (WizardConnection::tryOpen(target))
+        return true;
+    const int port = LocalServers().portInPlaceOf(target);
+    if (port == 0 || QMessageBox::question(this, tr("Question"),
+                                           tr("Nobody answers on port %1. %2 Do you want to use that one?")
+                                               .arg(QString::number(target.port), WizardConnection::listensOn(port))) !=
+                         QMessageBox::Yes)
+        return false;
+    m_connection.port->setText(QString::number(port));
+    return WizardConnection::tryOpen(m_connection.read());
+}
+
+bool RestoreInstallPage::replace(int tables)
+{
+    const ConnectionSettings target = m_connection.read();
+    const QString name = RestoreQuestion::asideName(target.database);
+    if (!RestoreQuestion::ask(this, target.database, tables, name))
+        return false;
+    ClientProcess look;
+    look.run(ClientPrograms::contents(m_file->text()));
+    if (!look.waitForFinished() || !look.succeeded()) {
+        QMessageBox::critical(this, tr("Error"), RestoreQuestion::notReadable(m_file->text()));
+        return false;
+    }
+    DatabaseServer server(AppContext::instance()->databaseManager(), target);
+    if (!server.rename(target.database, name)) {
+        QMessageBox box(QMessageBox::Critical, tr("Error"), RestoreQuestion::notReplaced(target.database),
+                        QMessageBox::Ok, this);
+        box.setInformativeText(server.failure());
+        box.exec();
+        return false;
+    }
+    setProperty(aside, name);
+    m_create->setChecked(true);
+    return true;
 }
 
 int RestoreInstallPage::nextId() const { return AppInstallerWizard::Conclusion; }
