@@ -847,6 +847,10 @@ Required permission: %1</source>
         <source>Your database has been successfully restored</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>The database %1 holds tables. Nothing was restored into them.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ConfigDialog</name>
@@ -1817,16 +1821,6 @@ Required permission: %1</source>
     </message>
     <message>
         <source>There is no backup file %1.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Question</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The database %1 holds %2 tables already. A restore does not replace what is in them: it would mix the backup into them and spoil their numbering. Restore into a new database instead, and make it the active one afterwards.
-
-Do you want to restore into %1 all the same?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -4701,15 +4695,15 @@ Do you want to restore into %1 all the same?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The database has to exist on the server already</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>How numbers and money are written, and in which currency the first items are priced</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Locale (ISO 639) :</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where the server has no database of this name yet, the program offers to create it</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -8141,6 +8135,43 @@ Please fill the db connection fields and install the initial data</source>
         <source>Backup File (*.bak)</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Question</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nobody answers on port %1. %2 Do you want to use that one?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>RestoreQuestion</name>
+    <message>
+        <source>Question</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The database %1 holds %2 tables already. A backup is not restored into them: it would be mixed into what they hold, and spoil their numbering.
+
+Do you want to replace the database? The backup goes into a new database %1, and the one of now stays on the server under the name %3. Nobody may work with it meanwhile.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 can not be read as a backup. Nothing was restored, and the database is as it was.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The database %1 was not replaced: it is as it was, and nothing was restored. While anybody works with it, this program too, it can not be replaced. Restore into a new database instead, and make that one the active one afterwards.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The former database is kept under the name %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>SelectDocumentTab</name>
@@ -10884,6 +10915,26 @@ Exit status of status: 0 installed, 3 reachable but not installed, 1 otherwise.<
     </message>
     <message>
         <source>Can&apos;t write the settings file: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Use Port %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server has no database %1 yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Create Database</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PostgreSQL listens on port %1 here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The database %1 was not created: %2</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

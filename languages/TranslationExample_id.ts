@@ -848,6 +848,10 @@ Hak akses yang dibutuhkan: %1</translation>
         <source>Your database has been successfully restored</source>
         <translation>Basis data Anda berhasil dipulihkan</translation>
     </message>
+    <message>
+        <source>The database %1 holds tables. Nothing was restored into them.</source>
+        <translation>Basis data %1 berisi tabel. Tidak ada yang dipulihkan ke dalamnya.</translation>
+    </message>
 </context>
 <context>
     <name>ConfigDialog</name>
@@ -1844,18 +1848,6 @@ Hak akses yang dibutuhkan: %1</translation>
     <message>
         <source>The backup %1 was cut off while it was written. The one before it is %2: please take that.</source>
         <translation>Cadangan %1 terputus saat ditulis. Yang sebelumnya ada di %2: pakailah yang itu.</translation>
-    </message>
-    <message>
-        <source>Question</source>
-        <translation>Pertanyaan</translation>
-    </message>
-    <message>
-        <source>The database %1 holds %2 tables already. A restore does not replace what is in them: it would mix the backup into them and spoil their numbering. Restore into a new database instead, and make it the active one afterwards.
-
-Do you want to restore into %1 all the same?</source>
-        <translation>Basis data %1 sudah berisi %2 tabel. Pemulihan tidak mengganti isinya: cadangan akan tercampur ke dalamnya dan merusak penomorannya. Pulihkan ke basis data baru, lalu jadikan basis data itu yang aktif.
-
-Tetap pulihkan ke %1?</translation>
     </message>
     <message>
         <source>Nothing was restored. The database %1 is as it was.</source>
@@ -4725,16 +4717,16 @@ Tetap pulihkan ke %1?</translation>
         <translation>Kata Sandi Admin:</translation>
     </message>
     <message>
-        <source>The database has to exist on the server already</source>
-        <translation>Basis data harus sudah ada di server</translation>
-    </message>
-    <message>
         <source>How numbers and money are written, and in which currency the first items are priced</source>
         <translation>Cara angka dan uang ditulis, dan mata uang harga barang pertama</translation>
     </message>
     <message>
         <source>Locale (ISO 639) :</source>
         <translation>Lokal (ISO 639) :</translation>
+    </message>
+    <message>
+        <source>Where the server has no database of this name yet, the program offers to create it</source>
+        <translation>Bila server belum memiliki basis data bernama ini, program menawarkan untuk membuatnya</translation>
     </message>
 </context>
 <context>
@@ -8167,6 +8159,45 @@ Isi kolom sambungan db dan pasang data awal</translation>
         <source>Backup File (*.bak)</source>
         <translation>Berkas Cadangan (*.bak)</translation>
     </message>
+    <message>
+        <source>Question</source>
+        <translation>Pertanyaan</translation>
+    </message>
+    <message>
+        <source>Nobody answers on port %1. %2 Do you want to use that one?</source>
+        <translation>Tidak ada yang menjawab di port %1. %2 Apakah port itu akan dipakai?</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Kesalahan</translation>
+    </message>
+</context>
+<context>
+    <name>RestoreQuestion</name>
+    <message>
+        <source>Question</source>
+        <translation>Pertanyaan</translation>
+    </message>
+    <message>
+        <source>The database %1 holds %2 tables already. A backup is not restored into them: it would be mixed into what they hold, and spoil their numbering.
+
+Do you want to replace the database? The backup goes into a new database %1, and the one of now stays on the server under the name %3. Nobody may work with it meanwhile.</source>
+        <translation>Basis data %1 sudah berisi %2 tabel. Cadangan tidak dipulihkan ke dalamnya: isinya akan tercampur dan penomorannya rusak.
+
+Apakah basis data itu akan diganti? Cadangan masuk ke basis data %1 yang baru, dan yang sekarang tetap ada di server dengan nama %3. Sementara itu tidak boleh ada yang memakainya.</translation>
+    </message>
+    <message>
+        <source>%1 can not be read as a backup. Nothing was restored, and the database is as it was.</source>
+        <translation>%1 tidak dapat dibaca sebagai cadangan. Tidak ada yang dipulihkan, dan basis data tetap seperti semula.</translation>
+    </message>
+    <message>
+        <source>The database %1 was not replaced: it is as it was, and nothing was restored. While anybody works with it, this program too, it can not be replaced. Restore into a new database instead, and make that one the active one afterwards.</source>
+        <translation>Basis data %1 tidak diganti: isinya tetap seperti semula, dan tidak ada yang dipulihkan. Selama masih ada yang memakainya, termasuk program ini, basis data itu tidak dapat diganti. Pulihkan ke basis data baru, lalu jadikan yang baru itu basis data aktif.</translation>
+    </message>
+    <message>
+        <source>The former database is kept under the name %1.</source>
+        <translation>Basis data yang lama disimpan dengan nama %1.</translation>
+    </message>
 </context>
 <context>
     <name>SelectDocumentTab</name>
@@ -10914,6 +10945,26 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     <message>
         <source>Can&apos;t write the settings file: %1</source>
         <translation>Berkas pengaturan tidak dapat ditulis: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Use Port %1</source>
+        <translation>&amp;Pakai Port %1</translation>
+    </message>
+    <message>
+        <source>The server has no database %1 yet.</source>
+        <translation>Server belum memiliki basis data %1.</translation>
+    </message>
+    <message>
+        <source>&amp;Create Database</source>
+        <translation>&amp;Buat Basis Data</translation>
+    </message>
+    <message>
+        <source>PostgreSQL listens on port %1 here.</source>
+        <translation>Di sini PostgreSQL mendengarkan di port %1.</translation>
+    </message>
+    <message>
+        <source>The database %1 was not created: %2</source>
+        <translation>Basis data %1 tidak dibuat: %2</translation>
     </message>
 </context>
 <context>

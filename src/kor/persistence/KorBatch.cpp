@@ -11,7 +11,7 @@ void KorBatch::add(const KorDataMapper* mapper, const QString& statement, const 
 
 bool KorBatch::send()
 {
-    if (isEmpty())
+    if (m_steps.empty())
         return true;
     QStringList statements;
     for (const Step& step : m_steps)

@@ -23,7 +23,6 @@ public:
     using Reader = std::function<QString(KorQuery&)>;
 
     void add(const KorDataMapper* mapper, const QString& statement, const Reader& reader);
-    [[nodiscard]] bool isEmpty() const { return m_steps.empty(); }
 
     /** False when one of the writes did not happen. An empty batch costs nothing. */
     bool send();
