@@ -1,6 +1,6 @@
 #include "PrivateCups.h"
 #include "pos/printing/printer/AppLinePrinter.h"
-#include "pos/printing/printer/CupsSlipSpooler.h"
+#include "pos/printing/spooler/CupsSlipSpooler.h"
 
 #include <QTest>
 

@@ -1,5 +1,5 @@
 #include "pos/printing/printer/AppLinePrinter.h"
-#include "pos/printing/printer/SlipSpooler.h"
+#include "pos/printing/spooler/SlipSpooler.h"
 #include "support/ModalDriver.h"
 
 #include <QDir>

@@ -6,7 +6,7 @@
 #include "kor/widgets/KorErrorBox.h"
 #include "pos/printing/configuration/EntityConfigPrinter.h"
 #include "pos/printing/printer/BusinessPrinterType.h"
-#include "pos/printing/printer/SlipSpooler.h"
+#include "pos/printing/spooler/SlipSpooler.h"
 
 #include <QComboBox>
 
@@ -20,7 +20,7 @@ void choose(QComboBox* box, int index) { box->setCurrentIndex(qMax(index, 0)); }
 
 void PrinterConfigDialog::fillChoices()
 {
-    const QList<SlipPrinter> printers = SlipSpooler::create()->availablePrinters();
+    const QList<SlipPrinter> printers = SlipSpooler::listPrinters();
     for (const SlipPrinter& printer : printers) {
         m_fields.printer->addItem(printer.name, printer.name);
         if (printer.isDefault)

@@ -1,7 +1,7 @@
 #include "pos/printing/printer/AppLinePrinter.h"
 
 #include "pos/printing/printer/PrintHelper.h"
-#include "pos/printing/printer/SlipSpooler.h"
+#include "pos/printing/spooler/SlipSpooler.h"
 
 #include <QApplication>
 #include <QDebug>
@@ -13,15 +13,12 @@ AppLinePrinter::~AppLinePrinter() = default;
 
 bool AppLinePrinter::openPrinter(const QString& documentName)
 {
-    qDebug().noquote() << "opening printer:" + m_printerName;
     auto spooler = SlipSpooler::create();
     if (!spooler->openPrinter(m_printerName, documentName)) {
         qWarning().noquote() << spooler->errorText();
         return false;
     }
     m_printerHandle = std::move(spooler);
-    qDebug() << "Printer opened";
-    qDebug() << "Job is set.";
     return true;
 }
 
@@ -29,7 +26,6 @@ bool AppLinePrinter::writeText(const char* bytes)
 {
     if (!m_printerHandle)
         return false;
-    qDebug() << "Writing text to printer";
     if (m_printerHandle->write(QByteArray(bytes)))
         return true;
     if (!m_printerHandle->errorText().isEmpty())
@@ -70,22 +66,34 @@ QByteArray AppLinePrinter::decodeControlSequence(const QString& text)
     return bytes;
 }
 
+namespace
+{
+/** A printer takes text up to its end, and a zero byte ends it. */
+QByteArray upToZero(const QByteArray& bytes) { return QByteArray(bytes.constData()); }
+} // namespace
+
+SlipQueue::Job AppLinePrinter::jobOf(const QString& printerName, const QString& title, const QByteArray& body,
+                                     int copies, const QByteArray& cutSequence) const
+{
+    const QByteArray copy = upToZero(body) + upToZero(cutSequence);
+    return {m_purpose, printerName, title, copy.repeated(qMax(copies, 0))};
+}
+
 bool AppLinePrinter::printCopies(const QString& printerName, const QString& title, const QByteArray& body, int copies,
                                  const QByteArray& cutSequence)
 {
     setPrinterName(printerName);
-    if (!openPrinter(title)) {
-        showError(tr("Error Opening Printer:") + printerName);
-        return false;
-    }
+    return printTogether({jobOf(printerName, title, body, copies, cutSequence)});
+}
+
+bool AppLinePrinter::printTogether(const QList<SlipQueue::Job>& jobs)
+{
     bool done = true;
-    for (int copy = 0; copy < copies; ++copy) {
-        done = writeText(body.constData()) && done;
-        if (!cutSequence.isEmpty())
-            done = writeText(cutSequence.constData()) && done;
-    }
-    // The sale stands either way, and whether the slip came out is seen at the printer.
-    closePrinter();
+    const QList<SlipQueue::Verdict> verdicts = SlipQueue::instance()->handOver(jobs);
+    for (int i = 0; i < jobs.size(); ++i)
+        done = SlipQueue::tell(verdicts[i], jobs[i]) && done;
+    // The job is closed behind the slip: who writes on is told so.
+    m_printerHandle = SlipSpooler::create();
     return done;
 }
 

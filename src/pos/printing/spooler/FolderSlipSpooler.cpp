@@ -1,4 +1,4 @@
-#include "pos/printing/printer/FolderSlipSpooler.h"
+#include "pos/printing/spooler/FolderSlipSpooler.h"
 
 #include <QRegularExpression>
 
@@ -89,6 +89,20 @@ bool FolderSlipSpooler::takeNumber()
 bool FolderSlipSpooler::isTaken(const QString& number) const
 {
     return !m_folder.entryList({number + "-*" + slipEnding}, QDir::Files).isEmpty();
+}
+
+SlipSpooler::Fate FolderSlipSpooler::fateOf(const QString& mark, const QString& reference)
+{
+    Q_UNUSED(mark)
+    return isTaken(reference) ? Fate::Printed : Fate::NotThere;
+}
+
+SlipSpooler::Fate FolderSlipSpooler::findLeftJob(const QString& mark, const QString& reference)
+{
+    if (reference.isEmpty())
+        return Fate::NotThere;
+    m_folder.remove(reference + jobEnding);
+    return fateOf(mark, reference);
 }
 
 bool FolderSlipSpooler::sendBytes(const QByteArray& bytes)

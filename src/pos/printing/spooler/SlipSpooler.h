@@ -4,6 +4,7 @@
 #include <QList>
 #include <QString>
 
+#include <atomic>
 #include <memory>
 
 /** A printer that slips can go to, under the name by which openPrinter takes it. */
@@ -32,12 +33,37 @@ public:
     /** The folder that ZAVEL_SPOOL_DIR names, where it is set; the print server otherwise. */
     [[nodiscard]] static std::unique_ptr<SlipSpooler> create();
 
+    /**
+     * What availablePrinters() of a new spooler says, for forms: they wait two seconds at most, whatever is slow on the
+     * way to the print server, its name included. Empty where no answer came in that time.
+     */
+    [[nodiscard]] static QList<SlipPrinter> listPrinters();
+    /** Where slips go one by one, whichever printer they are for; otherwise each printer has a line of its own. */
+    [[nodiscard]] static bool hasOneLine();
+
+    /** The next job bears this mark in the print queue, beside its title, so that a later program finds it. */
+    void setMark(const QString& mark) { m_mark = mark; }
+    /** While the flag is set, waiting for the print server is given up. The caller keeps it alive. */
+    void setInterrupt(const std::atomic_bool* interrupt) { m_interrupt = interrupt; }
+
     /** Starts a job with this title; false when the printer is unknown or out of reach, and then there is no job. */
     [[nodiscard]] bool openPrinter(const QString& printerName, const QString& title);
     [[nodiscard]] bool write(const QByteArray& bytes);
     /** Hands the job over; whatever the result, no job is open afterwards. */
     [[nodiscard]] bool close();
     [[nodiscard]] bool isOpen() const { return m_state != State::Closed; }
+
+    /** What became of a job. Taken: it is in the queue or on its way to the paper. */
+    enum class Fate { NoAnswer, NotThere, Taken, Printed, GivenBack };
+    /** How fateOf() knows the job that is open or was the last one; empty where there was none. */
+    [[nodiscard]] virtual QString reference() const = 0;
+    /** The fate of a job that was handed over; the reason for a slip given back is in errorText(). */
+    [[nodiscard]] virtual Fate fateOf(const QString& mark, const QString& reference) = 0;
+    /**
+     * The same for a job that a program left behind while it handed it over; the reference may be empty. What had only
+     * begun is taken back, and then it is not there.
+     */
+    [[nodiscard]] virtual Fate findLeftJob(const QString& mark, const QString& reference) = 0;
 
     /** Empty, with an explanation in errorText(), where the printers cannot be listed. */
     [[nodiscard]] virtual QList<SlipPrinter> availablePrinters() = 0;
@@ -55,10 +81,14 @@ protected:
     /** Keeps the explanation and gives the false that the failed call returns. */
     bool fail(const QString& errorText);
     void clearError() { m_errorText.clear(); }
+    [[nodiscard]] const QString& mark() const { return m_mark; }
+    [[nodiscard]] const std::atomic_bool* interrupt() const { return m_interrupt; }
 
 private:
     enum class State { Closed, Open, Broken };
 
     State m_state = State::Closed;
     QString m_errorText;
+    QString m_mark;
+    const std::atomic_bool* m_interrupt = nullptr;
 };

@@ -1,7 +1,25 @@
-#include "pos/printing/printer/SlipSpooler.h"
+#include "pos/printing/spooler/SlipSpooler.h"
 
-#include "pos/printing/printer/CupsSlipSpooler.h"
-#include "pos/printing/printer/FolderSlipSpooler.h"
+#include "pos/printing/spooler/CupsSlipSpooler.h"
+#include "pos/printing/spooler/FolderSlipSpooler.h"
+
+#include <QDebug>
+
+#include <chrono>
+#include <future>
+#include <thread>
+
+QList<SlipPrinter> SlipSpooler::listPrinters()
+{
+    if (hasOneLine())
+        return create()->availablePrinters();
+    // The thread is left to itself where it is late; nobody hears its answer then.
+    std::packaged_task<QList<SlipPrinter>()> question([] { return create()->availablePrinters(); });
+    std::future<QList<SlipPrinter>> answer = question.get_future();
+    std::thread(std::move(question)).detach();
+    constexpr auto patience = std::chrono::milliseconds(2000);
+    return answer.wait_for(patience) == std::future_status::ready ? answer.get() : QList<SlipPrinter>();
+}
 
 std::unique_ptr<SlipSpooler> SlipSpooler::create()
 {
@@ -11,8 +29,11 @@ std::unique_ptr<SlipSpooler> SlipSpooler::create()
     return std::make_unique<CupsSlipSpooler>();
 }
 
+bool SlipSpooler::hasOneLine() { return !FolderSlipSpooler::folderFromEnvironment().isEmpty(); }
+
 bool SlipSpooler::openPrinter(const QString& printerName, const QString& title)
 {
+    qDebug().noquote() << "opening printer:" + printerName;
     clearError();
     if (isOpen())
         return fail(tr("A slip is being printed already."));
@@ -23,6 +44,8 @@ bool SlipSpooler::openPrinter(const QString& printerName, const QString& title)
         return false;
     }
     m_state = State::Open;
+    qDebug() << "Printer opened";
+    qDebug() << "Job is set.";
     return true;
 }
 
@@ -35,6 +58,7 @@ bool SlipSpooler::write(const QByteArray& bytes)
     case State::Broken:
         return false;
     case State::Open:
+        qDebug() << "Writing text to printer";
         break;
     }
     // Nothing to send must not reach the transport: to a chunked stream an empty write means the end.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "pos/printing/printer/SlipSpooler.h"
+#include "pos/printing/spooler/SlipSpooler.h"
 
 #include <QDir>
 #include <QFile>
@@ -23,6 +23,10 @@ public:
     /** The folder that ZAVEL_SPOOL_DIR names; empty where slips go to the print server. */
     [[nodiscard]] static QString folderFromEnvironment();
 
+    /** The job's number. */
+    [[nodiscard]] QString reference() const override { return m_number; }
+    [[nodiscard]] Fate fateOf(const QString& mark, const QString& reference) override;
+    [[nodiscard]] Fate findLeftJob(const QString& mark, const QString& reference) override;
     [[nodiscard]] QList<SlipPrinter> availablePrinters() override;
 
 protected:
