@@ -3,6 +3,8 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include <csignal>
+
 /**
  * A print server of the test's own, reached through a socket file only, that needs no rights beyond the user's. Its
  * printers write each job to one file. It dies with the test, however the test ends.
@@ -18,6 +20,9 @@ public:
     [[nodiscard]] QString start();
     /** Kills it on the spot, as a cut cable or a crash would. */
     void stop();
+    /** Holds it still, so that it takes connections and answers none, or lets it go on. */
+    void hold() const { ::kill(pid_t(m_server.processId()), SIGSTOP); }
+    void letGo() const { ::kill(pid_t(m_server.processId()), SIGCONT); }
     /** Adds a raw queue; what went wrong, or nothing. */
     [[nodiscard]] QString addRawQueue(const QString& name, bool asDefault);
 

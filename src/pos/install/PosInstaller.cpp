@@ -237,7 +237,7 @@ void PosInstaller::fillPrinter(EntityConfigPrinter& printer, const QString& note
     printer.setNoOfCopy("1");
     printer.setColumnPaper("40");
     printer.setNoOfBlankLines("4");
-    printer.setPrinterName("GenericDotMatrix");
+    printer.setPrinterName(EntityConfigPrinter::installedName());
     printer.setPrinterType(m_printerType.getPrinterType());
 }
 

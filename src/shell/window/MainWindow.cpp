@@ -31,6 +31,7 @@
 #include "shell/window/PageArea.h"
 #include "shell/window/RestartStatus.h"
 #include "shell/window/Sidebar.h"
+#include "shell/window/SlipStatus.h"
 #include "shell/window/WindowKeys.h"
 #include "zavel/install/ZavelInstaller.h"
 
@@ -63,6 +64,12 @@ MainWindow::MainWindow(QWidget* parent)
     m_statusUser->setAlignment(Qt::AlignHCenter);
     m_statusUser->setContentsMargins(8, 2, 8, 2);
     m_ui->statusBar->addWidget(m_statusUser);
+    m_slipStatus = new SlipStatus(this);
+    m_ui->statusBar->addPermanentWidget(m_slipStatus);
+    connect(m_slipStatus, &SlipStatus::listWanted, this, [this] {
+        if (m_pages->knows("TabPrintedSlips"))
+            openTab("TabPrintedSlips");
+    });
     setContextMenuPolicy(Qt::NoContextMenu);
     m_ui->mainToolBar->setVisible(!m_ui->mainToolBar->actions().isEmpty());
     showMaximized();
@@ -140,6 +147,7 @@ void MainWindow::changeEvent(QEvent* event)
         m_ui->retranslateUi(this);
         m_sidebar->retranslate();
         nameUser();
+        m_slipStatus->retranslate();
         m_pages->retranslate();
     }
     QMainWindow::changeEvent(event);

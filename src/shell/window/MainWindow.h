@@ -13,6 +13,7 @@ class Manual;
 class PageArea;
 class QLabel;
 class Sidebar;
+class SlipStatus;
 
 namespace Ui
 {
@@ -138,4 +139,5 @@ private:
     InterfaceLanguage* m_language;
     Manual* m_manual;
     Sidebar* m_sidebar = nullptr;
+    SlipStatus* m_slipStatus = nullptr;
 };

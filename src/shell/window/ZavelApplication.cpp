@@ -10,6 +10,8 @@
 #include "kor/widgets/KorTextGuard.h"
 #include "kor/widgets/KorViewMemory.h"
 #include "kor/widgets/KorWaitingSign.h"
+#include "pos/printing/slips/SlipArchive.h"
+#include "pos/printing/slips/SlipQueue.h"
 #include "shell/database/check/DatabaseCondition.h"
 #include "shell/database/wizard/AppInstallerWizard.h"
 #include "shell/window/ConfigDialog.h"
@@ -47,6 +49,8 @@ ZavelApplication::ZavelApplication(int& argc, char** argv)
     auto* logger = new KorLogger(this, m_dataDir.filePath("zavel.log"));
     logger->log(tr("Application Started"));
     AppContext::instance()->setLogger(logger);
+    SlipArchive::instance()->setFolder(m_dataDir.filePath("slips"),
+                                       SlipArchive::limitsFrom(m_dataDir.filePath("settings.ini")));
 }
 
 bool ZavelApplication::hasSettingsFile()
@@ -140,6 +144,8 @@ int ZavelApplication::run()
     window.show();
     processEvents();
     splash.finish(&window);
+    // Behind the window, whose status bar tells of them.
+    SlipQueue::instance()->takeOver();
     // The converter is needed once in a restaurant's life, and stands in no menu.
     if (arguments().contains("--converter"))
         QTimer::singleShot(0, &window, &MainWindow::on_actionConverter_triggered);

@@ -1,6 +1,7 @@
 #include "zavel/slips/ReportKitchenSlip.h"
 
 #include "pos/printing/configuration/EntityConfigKitchenPrinter.h"
+#include "zavel/dinein/EntityMakanDitempat.h"
 
 ReportKitchenSlip::ReportKitchenSlip(QObject* parent, const QList<EntityConfigKitchenPrinter*>& kitchens,
                                      const EntityOrder* order, OrderKind kind, const EntityDataPerusahaan* company,
@@ -14,14 +15,26 @@ ReportKitchenSlip::ReportKitchenSlip(QObject* parent, const QList<EntityConfigKi
 
 bool ReportKitchenSlip::print()
 {
-    bool done = true;
-    for (const EntityConfigKitchenPrinter* kitchen : qAsConst(m_kitchens))
-        done = printForKitchen(*kitchen) && done;
-    return done;
+    nameOrder();
+    QList<SlipQueue::Job> jobs;
+    for (const EntityConfigKitchenPrinter* kitchen : qAsConst(m_kitchens)) {
+        // Without a printer the kitchen reads its orders from the screen.
+        if (kitchen->getPrinterName().isEmpty())
+            continue;
+        const std::optional<QString> text = compose({kitchen, m_order, m_kind, QDateTime::currentDateTime()});
+        if (text)
+            jobs.append(jobFor("Menu", *text, *kitchen));
+    }
+    return printTogether(jobs);
 }
 
-bool ReportKitchenSlip::printForKitchen(const EntityConfigKitchenPrinter& kitchen)
+void ReportKitchenSlip::nameOrder()
 {
-    const std::optional<QString> text = compose({&kitchen, m_order, m_kind, QDateTime::currentDateTime()});
-    return !text || printText("Menu", *text, kitchen);
+    SlipPurpose known = purpose();
+    known.kind = KeptSlip::Kitchen;
+    const auto* dine = qobject_cast<const EntityMakanDitempat*>(m_order);
+    known.place = dine ? dine->tableTrail() : m_order->getPemesan();
+    if (m_kind == TakeAwayOrder)
+        known.number = QString::number(m_order->getId());
+    setPurpose(known);
 }

@@ -13,7 +13,7 @@ class ReportKitchenSlip : public SlipReport
     Q_OBJECT
 
 public:
-    /** A kitchen whose printer fails does not keep the next one from its slip. */
+    /** All kitchens at once: one whose printer fails does not keep the next one from its slip. */
     bool print() override;
 
 protected:
@@ -25,7 +25,8 @@ protected:
     [[nodiscard]] virtual std::optional<QString> compose(const KitchenSlipData& slip) const = 0;
 
 private:
-    bool printForKitchen(const EntityConfigKitchenPrinter& kitchen);
+    /** What the slips are about, for the list of kept slips. */
+    void nameOrder();
 
     QList<EntityConfigKitchenPrinter*> m_kitchens;
     const EntityOrder* m_order;

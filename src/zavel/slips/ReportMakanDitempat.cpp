@@ -1,7 +1,9 @@
 #include "zavel/slips/ReportMakanDitempat.h"
 
 #include "pos/printing/configuration/EntityConfigCashierPrinter.h"
+#include "zavel/dinein/EntityMakanDitempat.h"
 #include "zavel/slips/OrderText.h"
+#include "zavel/tables/EntityMeja.h"
 
 ReportMakanDitempat::ReportMakanDitempat(QObject* parent, const EntityConfigCashierPrinter* cashierPrinter,
                                          const EntityMakanDitempat* order, const EntityDataPerusahaan* company,
@@ -13,5 +15,9 @@ ReportMakanDitempat::ReportMakanDitempat(QObject* parent, const EntityConfigCash
 
 bool ReportMakanDitempat::print()
 {
+    SlipPurpose known = purpose();
+    known.kind = KeptSlip::Recap;
+    known.place = m_order->getMeja() ? m_order->getMeja()->getNama() : m_order->getPemesan();
+    setPurpose(known);
     return printText("Menu", composeOrderRecap(*m_order, *m_company, *m_cashierPrinter), *m_cashierPrinter);
 }

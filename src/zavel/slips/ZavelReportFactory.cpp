@@ -99,25 +99,26 @@ void ZavelReportFactory::printMakanDitempat(int orderId)
 void ZavelReportFactory::printMenuOrder(OrderKind kind, EntityOrder* order)
 {
     if (reload())
-        printForKitchens<ReportMenuOrder>(kitchensThatPrintByThemselves(), kind, order);
+        printForKitchens<ReportMenuOrder>(kitchensThatPrintByThemselves(), kind, order, orderIsSaved());
 }
 
 void ZavelReportFactory::reprintMenuOrder(OrderKind kind, EntityOrder* order)
 {
     if (!reload())
         return;
-    printForKitchens<ReportMenuOrder>(m_kitchenPrinters, kind, order);
+    printForKitchens<ReportMenuOrder>(m_kitchenPrinters, kind, order, QString());
 }
 
 void ZavelReportFactory::printMenuOrderChange(OrderKind kind, EntityOrder* order, const QString& formerTable)
 {
     if (!reload())
         return;
+    const SlipQueue::Patience together;
     const Kitchens kitchens = kitchensThatPrintByThemselves();
     printChange(kitchens, kind, order, composeTakenBack);
     const EntityOrder::Lines standing = order->getDetails();
     order->setDetails(order->getChangedDetails());
-    printForKitchens<ReportMenuOrder>(kitchens, kind, order);
+    printForKitchens<ReportMenuOrder>(kitchens, kind, order, orderIsSaved());
     order->setDetails(standing);
     if (formerTable.isEmpty())
         return;
@@ -140,7 +141,8 @@ void ZavelReportFactory::printMenuOrderCanceled(OrderKind kind, EntityOrder* ord
         if (to == AllKitchens || (kitchen->printsByItself() && cooksAny(*kitchen, order->getDetails())))
             kitchens.append(kitchen);
     }
-    printForKitchens<ReportMenuOrderCanceled>(kitchens, kind, order);
+    printForKitchens<ReportMenuOrderCanceled>(kitchens, kind, order,
+                                              tr("The order is cancelled. Only its slip is missing."));
 }
 
 ZavelReportFactory::Kitchens ZavelReportFactory::kitchensThatPrintByThemselves() const
@@ -180,17 +182,25 @@ bool ZavelReportFactory::readyForCashier()
 void ZavelReportFactory::printChange(const Kitchens& kitchens, OrderKind kind, const EntityOrder* order,
                                      const KitchenSlipComposer& composer)
 {
-    ReportKitchenChange(nullptr, kitchens, order, kind, composer, m_printerType).print();
+    ReportKitchenChange report(nullptr, kitchens, order, kind, composer, m_printerType);
+    report.setStanding(orderIsSaved());
+    report.print();
 }
 
-template <class Report>
-void ZavelReportFactory::printForKitchens(const Kitchens& kitchens, OrderKind kind, const EntityOrder* order)
+// Not "class" here either.
+template <typename Report>
+void ZavelReportFactory::printForKitchens(const Kitchens& kitchens, OrderKind kind, const EntityOrder* order,
+                                          const QString& standing)
 {
     if (kitchens.isEmpty())
         return;
     const EntityPoolScope scope(m_records);
-    Report(nullptr, kitchens, order, kind, m_company, findUser(order->getCreatedBy()), m_printerType).print();
+    Report report(nullptr, kitchens, order, kind, m_company, findUser(order->getCreatedBy()), m_printerType);
+    report.setStanding(standing);
+    report.print();
 }
+
+QString ZavelReportFactory::orderIsSaved() { return tr("The order is saved. Only its slip is missing."); }
 
 EntityUser* ZavelReportFactory::findUser(int id)
 {

@@ -45,9 +45,11 @@ private:
     void printBill(Sale* (BusinessPenjualan::*find)(int), int invoiceId);
     using Kitchens = QList<EntityConfigKitchenPrinter*>;
     [[nodiscard]] Kitchens kitchensThatPrintByThemselves() const;
+    /** The sentence says what stands although a slip fails. */
     template <class Report>
-    void printForKitchens(const Kitchens& kitchens, OrderKind kind, const EntityOrder* order);
+    void printForKitchens(const Kitchens& kitchens, OrderKind kind, const EntityOrder* order, const QString& standing);
     void printChange(const Kitchens& kitchens, OrderKind kind, const EntityOrder* order, const KitchenSlipComposer&);
+    [[nodiscard]] static QString orderIsSaved();
     [[nodiscard]] EntityUser* findUser(int id);
     /** Shows in one box what the services could not read; true when there was something. */
     bool showErrors(const QList<KorBusinessLogic*>& services);

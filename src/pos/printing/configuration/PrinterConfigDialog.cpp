@@ -21,6 +21,7 @@ void choose(QComboBox* box, int index) { box->setCurrentIndex(qMax(index, 0)); }
 void PrinterConfigDialog::fillChoices()
 {
     const QList<SlipPrinter> printers = SlipSpooler::listPrinters();
+    m_hasPrinters = !printers.isEmpty();
     for (const SlipPrinter& printer : printers) {
         m_fields.printer->addItem(printer.name, printer.name);
         if (printer.isDefault)
@@ -58,6 +59,9 @@ void PrinterConfigDialog::showPrinter(const EntityConfigPrinter& config)
 void PrinterConfigDialog::readPrinter(EntityConfigPrinter& config) const
 {
     config.setPrinterName(m_fields.printer->currentData().toString());
+    // A queue may well bear the installer's name; then it was chosen.
+    if (m_hasPrinters && config.isAsInstalled())
+        config.setPrinterChosen(EntityConfigPrinter::yes());
     EntityPool read;
     const EntityPoolScope scope(read);
     const int typeId = m_fields.printerType->currentData().toInt();

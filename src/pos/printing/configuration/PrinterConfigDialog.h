@@ -42,4 +42,5 @@ private:
     void fillChoices();
 
     Fields m_fields{};
+    bool m_hasPrinters = false;
 };

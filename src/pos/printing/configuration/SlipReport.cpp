@@ -7,10 +7,27 @@ SlipReport::SlipReport(QObject* parent, const EntityPrinterType* printerType)
     : AppLinePrinter(parent), m_printerType(printerType)
 {}
 
-bool SlipReport::printText(const QString& title, const QString& text, const EntityConfigPrinter& settings)
+SlipQueue::Job SlipReport::jobFor(const QString& title, const QString& text, const EntityConfigPrinter& settings)
 {
     QByteArray cutSequence;
     if (settings.cutsPaper() && m_printerType)
         cutSequence = decodeControlSequence(m_printerType->getCutPapperCmd());
-    return printCopies(settings.getPrinterName(), title, text.toUtf8(), settings.copies(), cutSequence);
+    SlipPurpose known = purpose();
+    known.columns = settings.columns();
+    known.withoutPrinter = settings.isAsInstalled();
+    setPurpose(known);
+    return jobOf(settings.getPrinterName(), title, text.toUtf8(), settings.copies(), cutSequence);
+}
+
+bool SlipReport::printText(const QString& title, const QString& text, const EntityConfigPrinter& settings)
+{
+    setPrinterName(settings.getPrinterName());
+    return printTogether({jobFor(title, text, settings)});
+}
+
+void SlipReport::setStanding(const QString& sentence)
+{
+    SlipPurpose known = purpose();
+    known.standing = sentence;
+    setPurpose(known);
 }

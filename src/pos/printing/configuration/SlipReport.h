@@ -18,6 +18,12 @@ public:
 protected:
     /** Prints the text as the settings say: which printer, how many copies, cut or not. */
     bool printText(const QString& title, const QString& text, const EntityConfigPrinter& settings);
+    /** The job that printText would hand over; for slips that go to several printers at once. */
+    [[nodiscard]] SlipQueue::Job jobFor(const QString& title, const QString& text, const EntityConfigPrinter& settings);
+
+public:
+    /** What stands although the slip failed; empty where nothing was saved for it. */
+    void setStanding(const QString& sentence);
 
 private:
     const EntityPrinterType* m_printerType;
