@@ -1,6 +1,7 @@
 #include "pos/install/PosInstaller.h"
 
 #include "app/configuration/BusinessConfiguration.h"
+#include "app/context/EntityPool.h"
 #include "app/numbers/BusinessKey.h"
 #include "app/numbers/EntityKey.h"
 #include "app/registry/AppBusinessRegistry.h"
@@ -52,8 +53,10 @@ void PosInstaller::registerPermissions()
 void PosInstaller::insertInitialData()
 {
     AppInstaller::insertInitialData();
-    if (!isFresh())
+    if (!isFresh()) {
+        insertFurtherPrinterTypes();
         return;
+    }
     setStatus(tr("POS Data"));
     insertCompany();
     insertAccounts();
@@ -66,6 +69,7 @@ void PosInstaller::insertInitialData()
     insertKeys();
     insertPeople();
     insertPrinterTypes();
+    insertFurtherPrinterTypes();
     insertCashierPrinter();
 }
 
@@ -228,6 +232,35 @@ void PosInstaller::insertPrinterTypes()
     insert("EPSON-TM-T88III", "27#112#0#25#250", "27#109");
     insert("EPSON-TM-U220", "27#112#0#25#250", "27#112#0#75#25");
     insert("GENERIC-ESC-POS", "27#112#0#60#120", "29#V#66#0");
+}
+
+void PosInstaller::insertFurtherPrinterTypes()
+{
+    // A sequence is sent up to its first zero byte, and these have none.
+    const QList<QPair<QString, QString>> cuts{{"GENERIC-FEED-CUT", "29#V#66#1"},
+                                              {"GENERIC-PARTIAL-CUT", "29#V#49"},
+                                              {"GENERIC-FULL-CUT", "29#V#48"},
+                                              {"GENERIC-ESC-I-CUT", "27#105"}};
+    EntityPool pool;
+    const EntityPoolScope scope(pool);
+    QStringList known;
+    const QList<EntityPrinterType*> all = m_printerTypes->getAll();
+    for (const EntityPrinterType* type : all)
+        known.append(type->getPrinterType());
+    if (m_printerTypes->hasError()) {
+        reportFailure(m_printerTypes->takeErrors());
+        return;
+    }
+    for (const auto& cut : cuts) {
+        if (known.contains(cut.first))
+            continue;
+        // A record of its own: the settings of the first printers name the type that the other one holds.
+        EntityPrinterType type;
+        type.setPrinterType(cut.first);
+        type.setCashDrawerCmd("27#112#0#60#120");
+        type.setCutPapperCmd(cut.second);
+        insertRow(m_printerTypes, &type);
+    }
 }
 
 void PosInstaller::fillPrinter(EntityConfigPrinter& printer, const QString& notes) const

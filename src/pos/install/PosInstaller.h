@@ -49,6 +49,8 @@ private:
     void insertKeys();
     void insertPeople();
     void insertPrinterTypes();
+    /** Those that are not there yet: a database that is updated gets them too. */
+    void insertFurtherPrinterTypes();
     void insertCashierPrinter();
 
     BusinessBank* const m_banks;
