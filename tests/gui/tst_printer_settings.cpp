@@ -1,9 +1,11 @@
+#include "app/context/EntityPool.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "pos/printing/configuration/BusinessPrinterConfig.h"
 #include "pos/printing/configuration/DialogCashierAndKitchenPrinter.h"
 #include "pos/printing/configuration/DialogFilterJenisItem.h"
 #include "pos/printing/configuration/DialogKitchenFoodPrinter.h"
 #include "pos/printing/configuration/TabKitchenPrinter.h"
+#include "pos/printing/slips/SlipArchive.h"
 #include "support/ModalDriver.h"
 #include "support/TestDatabase.h"
 #include "zavel/registry/ZavelBusinessRegistry.h"
@@ -20,6 +22,8 @@
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
+
+Q_DECLARE_METATYPE(std::function<std::unique_ptr<QDialog>()>)
 
 namespace
 {
@@ -71,6 +75,11 @@ private slots:
     void twoKitchensOfOneSecondCollide();
     void kitchensAreFoundByNameOrByPrinter();
     void itemTypesArePickedFromTheList();
+    void aTestSlipShowsTheFormAsItStands_data();
+    void aTestSlipShowsTheFormAsItStands();
+    void aTestSlipThatFailsIsTold();
+    void aKitchenMayHaveNoPrinter();
+    void theFormSaysWhatTheCutLacks();
 
 private:
     void addRow(const QString& key, const QJsonObject& members) const;
@@ -353,6 +362,104 @@ void TestPrinterSettings::itemTypesArePickedFromTheList()
     QTest::mouseClick(field<QPushButton>(&form, "btnBrowseJenisItem"), Qt::LeftButton);
     QCOMPARE(codes->text(), QString("DRINK,GRILL"));
     QVERIFY(m_people->finished());
+}
+
+void TestPrinterSettings::aTestSlipShowsTheFormAsItStands_data()
+{
+    QTest::addColumn<std::function<std::unique_ptr<QDialog>()>>("open");
+    QTest::newRow("cashier") << std::function(
+        []() -> std::unique_ptr<QDialog> { return std::make_unique<DialogCashierAndKitchenPrinter>(); });
+    QTest::newRow("kitchen") << std::function(
+        []() -> std::unique_ptr<QDialog> { return std::make_unique<DialogKitchenFoodPrinter>(); });
+}
+
+void TestPrinterSettings::aTestSlipShowsTheFormAsItStands()
+{
+    QFETCH(std::function<std::unique_ptr<QDialog>()>, open);
+    const std::unique_ptr<QDialog> form = open();
+    form->show();
+    QVERIFY(QTest::qWaitForWindowActive(form.get()));
+    const QString saved = m_database->value("SELECT string_agg(appvalue, '') FROM appconfig").toString();
+    choose(form.get(), "ddlPrinter", "Bar");
+    choose(form.get(), "ddlPrinterType", "EPSON-TM-T88III");
+    choose(form.get(), "ddlAutoCut", "Yes");
+    choose(form.get(), "ddlNoCopy", "3");
+    type(field<QLineEdit>(form.get(), "txtCol"), "24");
+    QTest::keyClick(form.get(), Qt::Key_F8);
+    QCOMPARE(m_people->texts(), QStringList());
+
+    QFile slip(m_spool->filePath("000001-Bar-Test.slip"));
+    QVERIFY(slip.open(QIODevice::ReadOnly));
+    const QByteArray bytes = slip.readAll();
+    QVERIFY(bytes.endsWith("\n\x1Bm"));
+    QCOMPARE(bytes.count("\x1Bm"), 1);
+    QVERIFY(bytes.contains("\x1B"
+                           "E1This line is bold.\x1B"
+                           "E0\n"));
+    const QStringList lines = QString::fromUtf8(bytes).split('\n');
+    QCOMPARE(lines.first(), QString("123456789012345678901234"));
+    for (const QString& line : lines) {
+        if (!line.contains(QChar(0x1B)))
+            QVERIFY2(line.size() <= 24, qPrintable(line));
+    }
+    for (const char* part : {"Bar", "EPSON-TM-T88III", "ABCDEFGHIJKLMNOPQRSTUVWX\nYZ", "Rp 1.234.567,89", "é"})
+        QVERIFY2(bytes.contains(part), part);
+    const KeptSlip kept = SlipArchive::instance()->slips(QDate::currentDate(), QDate::currentDate()).value(0);
+    QCOMPARE(kept.printer, QString("Bar"));
+    QCOMPARE(int(kept.kind), int(KeptSlip::Test));
+    QCOMPARE(kept.columns, 24);
+    // Nothing was saved by it.
+    QCOMPARE(m_database->value("SELECT string_agg(appvalue, '') FROM appconfig").toString(), saved);
+    QVERIFY(form->isVisible());
+}
+
+void TestPrinterSettings::aTestSlipThatFailsIsTold()
+{
+    DialogCashierAndKitchenPrinter form;
+    form.show();
+    listPrinters("Kasir\n");
+    choose(&form, "ddlPrinter", "Bar");
+    QTest::mouseClick(field<QPushButton>(&form, "btnTestSlip"), Qt::LeftButton);
+    QCOMPARE(m_people->lastTitle(), QString("Error"));
+    QVERIFY2(m_people->lastText().contains("Error Opening Printer:Bar"), qPrintable(m_people->lastText()));
+    QVERIFY(form.isVisible());
+}
+
+void TestPrinterSettings::aKitchenMayHaveNoPrinter()
+{
+    DialogKitchenFoodPrinter form;
+    QCOMPARE(field<QComboBox>(&form, "ddlPrinter")->currentText(), QString("Kasir"));
+    type(field<QLineEdit>(&form, "txtKitchenName"), "Grill");
+    choose(&form, "ddlPrinter", "(no printer: the kitchen's screen)");
+    QVERIFY(!field<QPushButton>(&form, "btnTestSlip")->isEnabled());
+    form.accept();
+    const QString key =
+        m_database->value("SELECT appkey FROM appconfig WHERE appkey LIKE 'kitchen_printer_2%'").toString();
+    QCOMPARE(storedMembers(key).value("printer_name"), QJsonValue(""));
+
+    // It comes back as it was left, and a printer that has gone does not become none.
+    auto* kitchens = service<BusinessPrinterConfig>("Printer Config");
+    EntityPool pool;
+    const EntityPoolScope scope(pool);
+    DialogKitchenFoodPrinter again;
+    again.setEntity(kitchens->getConfig(key));
+    QVERIFY(field<QComboBox>(&again, "ddlPrinter")->currentText().startsWith("(no printer"));
+    listPrinters("Bar\n");
+    DialogKitchenFoodPrinter other;
+    other.setEntity(kitchens->getConfig("kitchen_printer_1"));
+    QCOMPARE(field<QComboBox>(&other, "ddlPrinter")->currentText(), QString("Bar"));
+}
+
+void TestPrinterSettings::theFormSaysWhatTheCutLacks()
+{
+    m_database->run("INSERT INTO printer_type (printer_type, cash_drawer_cmd, cut_papper_cmd, version) VALUES "
+                    "('WHOLE', '', '29#V#66#1', 1)");
+    DialogCashierAndKitchenPrinter form;
+    const auto* told = field<QLabel>(&form, "lblCut");
+    QVERIFY2(told->text().contains("lacks its end") && told->text().endsWith("Choose WHOLE instead."),
+             qPrintable(told->text()));
+    choose(&form, "ddlPrinterType", "WHOLE");
+    QVERIFY2(told->text().startsWith("Feeds the paper"), qPrintable(told->text()));
 }
 
 QTEST_MAIN(TestPrinterSettings)

@@ -11,8 +11,10 @@ DialogKitchenFoodPrinter::DialogKitchenFoodPrinter(QWidget* parent)
 {
     m_ui->setupUi(this);
     usePrinterFields(*m_ui);
+    offerNoPrinter(tr("(no printer: the kitchen's screen)"));
+    setCutRemark(tr("A kitchen's slips are cut as the type of the cashier printer says."));
     EntityConfigKitchenPrinter usual;
-    usual.setPrinterName(m_ui->ddlPrinter->currentText());
+    usual.setPrinterName(m_ui->ddlPrinter->currentData().toString());
     usual.setAutoCutter(EntityConfigPrinter::no());
     usual.setColumnPaper("40");
     usual.setNoOfBlankLines("4");

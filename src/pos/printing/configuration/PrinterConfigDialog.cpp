@@ -5,10 +5,14 @@
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/widgets/KorErrorBox.h"
 #include "pos/printing/configuration/EntityConfigPrinter.h"
+#include "pos/printing/configuration/ReportTestSlip.h"
 #include "pos/printing/printer/BusinessPrinterType.h"
+#include "pos/printing/printer/PaperCut.h"
 #include "pos/printing/spooler/SlipSpooler.h"
 
 #include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
 
 namespace
 {
@@ -28,26 +32,85 @@ void PrinterConfigDialog::fillChoices()
             m_fields.printer->setCurrentIndex(m_fields.printer->count() - 1);
     }
 
-    EntityPool read;
-    const EntityPoolScope scope(read);
-    auto* types = service<BusinessPrinterType>("Printer Type");
-    const QList<EntityPrinterType*> all = types->getAll();
-    for (const EntityPrinterType* type : all)
-        m_fields.printerType->addItem(type->getPrinterType(), type->getId());
-    if (types->hasError())
-        showError(types->takeErrors());
-
+    fillTypes();
     m_fields.autoCut->addItem(tr("Yes"), EntityConfigPrinter::yes());
     m_fields.autoCut->addItem(tr("No"), EntityConfigPrinter::no());
     for (int copies = 1; copies <= mostCopies; ++copies)
         m_fields.copies->addItem(QString::number(copies), QString::number(copies));
 }
 
+void PrinterConfigDialog::fillTypes()
+{
+    EntityPool read;
+    const EntityPoolScope scope(read);
+    auto* types = service<BusinessPrinterType>("Printer Type");
+    const QList<EntityPrinterType*> all = types->getAll();
+    for (const EntityPrinterType* type : all) {
+        m_fields.printerType->addItem(type->getPrinterType(), type->getId());
+        m_cuts.insert(type->getPrinterType(), type->getCutPapperCmd());
+    }
+    if (types->hasError())
+        showError(types->takeErrors());
+}
+
+void PrinterConfigDialog::watchChoices()
+{
+    const auto chosen = QOverload<int>::of(&QComboBox::currentIndexChanged);
+    connect(m_fields.printerType, chosen, this, &PrinterConfigDialog::tellCut);
+    connect(m_fields.printer, chosen, this,
+            [this] { m_fields.testSlip->setEnabled(!m_fields.printer->currentData().toString().isEmpty()); });
+    m_fields.testSlip->setEnabled(!m_fields.printer->currentData().toString().isEmpty());
+    connect(m_fields.testSlip, &QPushButton::clicked, this, &PrinterConfigDialog::printTestSlip);
+    tellCut();
+}
+
+void PrinterConfigDialog::offerNoPrinter(const QString& words)
+{
+    m_fields.printer->addItem(words, QString());
+    m_fields.printer->setItemData(m_fields.printer->count() - 1, words, Qt::ToolTipRole);
+}
+
+void PrinterConfigDialog::setCutRemark(const QString& remark)
+{
+    m_cutRemark = remark;
+    tellCut();
+}
+
+void PrinterConfigDialog::tellCut()
+{
+    const PaperCut cut(m_cuts.value(m_fields.printerType->currentText()));
+    QStringList sentences{cut.description()};
+    for (auto other = m_cuts.cbegin(); other != m_cuts.cend(); ++other) {
+        if (PaperCut(*other).completes(cut)) {
+            sentences.append(tr("Choose %1 instead.").arg(other.key()));
+            break;
+        }
+    }
+    if (!m_cutRemark.isEmpty())
+        sentences.append(m_cutRemark);
+    m_fields.cut->setText(m_fields.printerType->count() > 0 ? sentences.join(' ') : QString());
+}
+
+EntityPrinterType* PrinterConfigDialog::readType() const
+{
+    const int typeId = m_fields.printerType->currentData().toInt();
+    return qobject_cast<EntityPrinterType*>(service<BusinessPrinterType>("Printer Type")->find(typeId));
+}
+
+void PrinterConfigDialog::printTestSlip()
+{
+    EntityPool read;
+    const EntityPoolScope scope(read);
+    EntityConfigPrinter shown;
+    readPrinter(shown);
+    ReportTestSlip(this, &shown, readType()).print();
+}
+
 void PrinterConfigDialog::showPrinter(const EntityConfigPrinter& config)
 {
     // Where no printer can be listed, the stored one stays, so that looking at the form does not lose it.
-    if (m_fields.printer->count() == 0 && !config.getPrinterName().isEmpty())
-        m_fields.printer->addItem(config.getPrinterName(), config.getPrinterName());
+    if (!m_hasPrinters && m_fields.printer->findData(config.getPrinterName()) < 0 && !config.getPrinterName().isEmpty())
+        m_fields.printer->insertItem(0, config.getPrinterName(), config.getPrinterName());
     choose(m_fields.printer, m_fields.printer->findData(config.getPrinterName()));
     choose(m_fields.printerType, m_fields.printerType->findText(config.getPrinterType(), Qt::MatchFixedString));
     choose(m_fields.autoCut, m_fields.autoCut->findData(config.getAutoCutter()));
@@ -64,9 +127,7 @@ void PrinterConfigDialog::readPrinter(EntityConfigPrinter& config) const
         config.setPrinterChosen(EntityConfigPrinter::yes());
     EntityPool read;
     const EntityPoolScope scope(read);
-    const int typeId = m_fields.printerType->currentData().toInt();
-    const auto* type = qobject_cast<EntityPrinterType*>(service<BusinessPrinterType>("Printer Type")->find(typeId));
-    if (type)
+    if (const EntityPrinterType* type = readType())
         config.setPrinterType(type->getPrinterType());
     config.setAutoCutter(m_fields.autoCut->currentData().toString());
     config.setNoOfCopy(m_fields.copies->currentData().toString());
