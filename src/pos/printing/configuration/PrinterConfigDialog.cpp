@@ -11,6 +11,7 @@
 #include "pos/printing/spooler/SlipSpooler.h"
 
 #include <QComboBox>
+#include <QEvent>
 #include <QLabel>
 #include <QPushButton>
 
@@ -60,6 +61,7 @@ void PrinterConfigDialog::watchChoices()
     connect(m_fields.printer, chosen, this,
             [this] { m_fields.testSlip->setEnabled(!m_fields.printer->currentData().toString().isEmpty()); });
     m_fields.testSlip->setEnabled(!m_fields.printer->currentData().toString().isEmpty());
+    m_fields.cut->installEventFilter(this);
     connect(m_fields.testSlip, &QPushButton::clicked, this, &PrinterConfigDialog::printTestSlip);
     tellCut();
 }
@@ -76,19 +78,45 @@ void PrinterConfigDialog::setCutRemark(const QString& remark)
     tellCut();
 }
 
-void PrinterConfigDialog::tellCut()
+QString PrinterConfigDialog::cutWords(const QString& type) const
 {
-    const PaperCut cut(m_cuts.value(m_fields.printerType->currentText()));
+    const PaperCut cut(m_cuts.value(type));
     QStringList sentences{cut.description()};
     for (auto other = m_cuts.cbegin(); other != m_cuts.cend(); ++other) {
         if (PaperCut(*other).completes(cut)) {
-            sentences.append(tr("Choose %1 instead.").arg(other.key()));
+            // The name of a type is not broken at its hyphens.
+            sentences.append(tr("Choose %1 instead.").arg(QString(other.key()).replace('-', QChar(0x2011))));
             break;
         }
     }
     if (!m_cutRemark.isEmpty())
         sentences.append(m_cutRemark);
-    m_fields.cut->setText(m_fields.printerType->count() > 0 ? sentences.join(' ') : QString());
+    return sentences.join(' ');
+}
+
+void PrinterConfigDialog::tellCut()
+{
+    const QString type = m_fields.printerType->currentText();
+    m_fields.cut->setText(type.isEmpty() ? QString() : cutWords(type));
+}
+
+void PrinterConfigDialog::keepRoomForCut()
+{
+    constexpr int anyHeight = 10000;
+    const QRect column(0, 0, m_fields.cut->width(), anyHeight);
+    int height = 0;
+    for (auto type = m_cuts.keyBegin(); type != m_cuts.keyEnd(); ++type) {
+        const QRect words = m_fields.cut->fontMetrics().boundingRect(column, Qt::TextWordWrap, cutWords(*type));
+        height = qMax(height, words.height());
+    }
+    m_fields.cut->setMinimumHeight(height);
+}
+
+bool PrinterConfigDialog::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_fields.cut && event->type() == QEvent::Resize)
+        keepRoomForCut();
+    return KorDialog::eventFilter(watched, event);
 }
 
 EntityPrinterType* PrinterConfigDialog::readType() const

@@ -20,6 +20,8 @@ public:
     using KorDialog::KorDialog;
 
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
     /** Takes the fields of a form that has been set up and fills their choices. */
     template <class Form>
     void usePrinterFields(const Form& form)
@@ -57,6 +59,9 @@ private:
     [[nodiscard]] EntityPrinterType* readType() const;
     /** What the chosen type does to the paper, and which one to take where it lacks something. */
     void tellCut();
+    [[nodiscard]] QString cutWords(const QString& type) const;
+    /** Room for the longest of these words, so that the form stands still while the types are looked through. */
+    void keepRoomForCut();
     void printTestSlip();
 
     Fields m_fields{};

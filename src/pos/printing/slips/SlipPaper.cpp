@@ -1,5 +1,6 @@
 #include "pos/printing/slips/SlipPaper.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QFontDatabase>
 #include <QKeyEvent>
@@ -22,7 +23,7 @@ constexpr qreal groundWidth = 10;
 constexpr qreal paperMargin = 12;
 constexpr qreal tooth = 4;
 constexpr int usualSize = 13;
-constexpr qreal smallestScale = 0.65;
+constexpr qreal smallestScale = 0.58;
 constexpr qreal largestScale = 1.4;
 
 /** Wide enough for the columns of the paper, or for its longest line where it has none. */
@@ -38,6 +39,12 @@ int columnsOf(const QList<SlipLine>& lines, int columns)
 SlipPaper::SlipPaper(QWidget* parent) : QAbstractScrollArea(parent)
 {
     QFont letters = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    // A system that names no such font has one of these all the same.
+    letters.setFamilies({letters.family(), "DejaVu Sans Mono", "Liberation Mono", "monospace"});
+    if (!QFontInfo(letters).fixedPitch())
+        letters.setFamilies(letters.families().mid(1));
+    letters.setStyleHint(QFont::Monospace);
+    letters.setFixedPitch(true);
     letters.setPixelSize(usualSize);
     setFont(letters);
     measure();
@@ -115,7 +122,11 @@ void SlipPaper::paintEvent(QPaintEvent*)
     painter.fillRect(viewport()->rect(), QColor(groundRgb));
     if (m_lines.isEmpty()) {
         painter.setPen(QColor(inkRgb));
-        painter.setFont(parentWidget() ? parentWidget()->font() : QFont());
+        // Not in the letters of the slip.
+        QFont words = QApplication::font();
+        words.setFamily(words.family());
+        words.setPointSizeF(words.pointSizeF());
+        painter.setFont(words);
         painter.drawText(viewport()->rect().adjusted(16, 16, -16, -16), Qt::AlignCenter | Qt::TextWordWrap, m_words);
         return;
     }
