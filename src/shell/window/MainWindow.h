@@ -93,6 +93,7 @@ public slots:
     void on_actionPesanan_Masuk_triggered() { openTab("TabPesananMasuk"); }
     void on_actionDaftar_Penjualan_triggered() { openTab("TabDaftarPenjualan"); }
     void on_actionPiutang_triggered() { openTab("TabPiutang"); }
+    void on_actionPrinted_Slips_triggered() { openTab("TabPrintedSlips"); }
     void on_actionManual_triggered();
     void on_actionAbout_triggered();
     void on_actionDaftar_Pembayaran_Komisi_triggered() { openTab("TabKomisiAgen"); }

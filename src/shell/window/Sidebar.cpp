@@ -7,6 +7,8 @@
 #include <QMenu>
 #include <QTreeWidget>
 
+#include <algorithm>
+
 namespace
 {
 /** The menu's entries; one that opens a sub-menu is replaced by what stands in there. */
@@ -17,7 +19,7 @@ QList<QAction*> entriesOf(const QMenu* menu)
     for (QAction* action : own) {
         if (action->menu())
             entries += action->menu()->actions();
-        else
+        else if (!action->isSeparator())
             entries.append(action);
     }
     return entries;
@@ -54,7 +56,9 @@ QListView* Sidebar::makeList(const QMenu* menu, SidebarModel* model) const
     list->setModel(model);
     list->setFocusPolicy(Qt::NoFocus);
     list->setStyleSheet("background-color:#202020;color:#ffffff;border:none;");
-    const int entries = menu->actions().size();
+    const QList<QAction*> own = menu->actions();
+    const int entries =
+        int(std::count_if(own.cbegin(), own.cend(), [](const QAction* action) { return !action->isSeparator(); }));
     list->setFixedHeight((entries == 0 ? 0 : entries + 2) * list->sizeHintForRow(0) + list->frameWidth());
     connect(list, &QListView::clicked, model, &SidebarModel::onSideBarItemClicked);
     return list;

@@ -18,6 +18,7 @@
 #include "pos/masterdata/supplier/TabSupplier.h"
 #include "pos/masterdata/unit/TabSatuan.h"
 #include "pos/printing/configuration/TabKitchenPrinter.h"
+#include "pos/printing/list/TabPrintedSlips.h"
 #include "pos/purchasing/creditnote/TabCreditNote.h"
 #include "pos/purchasing/payment/TabPayment.h"
 #include "pos/purchasing/purchase/TabPurchases.h"
@@ -70,6 +71,7 @@ TabFactories allTabFactories()
         {"TabPayment", make<TabPayment>},
         {"TabPesananMasuk", make<TabPesananMasuk>},
         {"TabPiutang", make<TabPiutang>},
+        {"TabPrintedSlips", make<TabPrintedSlips>},
         {"TabPurchaseOrder", make<TabPurchaseOrder>},
         {"TabPurchases", make<TabPurchases>},
         {"TabSatuan", make<TabSatuan>},

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "kor/widgets/KorEntityModel.h"
+
+#include <QIcon>
+#include <QMap>
+
+struct KeptSlip;
+
+/** Kept slips as a list shows them. Those of one day need no date. */
+class TableModelPrintedSlips final : public KorEntityModel
+{
+    Q_OBJECT
+
+public:
+    enum Column { Time, Kind, Number, Place, Printer, User, State };
+
+    TableModelPrintedSlips(const QList<KorEntity*>& slips, bool ofOneDay, QObject* parent);
+
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+    /** The row's slip; null behind the last one. */
+    [[nodiscard]] const KeptSlip* slipAt(int row) const;
+
+private:
+    [[nodiscard]] QVariant tip(const KeptSlip& slip, const QModelIndex& index) const;
+
+    QMap<int, QIcon> m_marks;
+};
