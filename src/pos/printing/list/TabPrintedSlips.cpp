@@ -27,7 +27,6 @@
 
 #include <algorithm>
 #include <memory>
-#include <numeric>
 
 namespace
 {
@@ -59,14 +58,13 @@ protected:
     }
 };
 
-QString longestState()
+/** Of the longest word for a state. */
+int widestState(const QFontMetrics& metrics)
 {
-    QString longest;
-    for (int state = KeptSlip::Waiting; state <= KeptSlip::Unsent; ++state) {
-        const QString word = SlipWords::state(static_cast<KeptSlip::State>(state));
-        longest = word.size() > longest.size() ? word : longest;
-    }
-    return longest;
+    int widest = 0;
+    for (int state = KeptSlip::Waiting; state <= KeptSlip::Unsent; ++state)
+        widest = std::max(widest, metrics.horizontalAdvance(SlipWords::state(static_cast<KeptSlip::State>(state))));
+    return widest;
 }
 
 QStringList printersThere()
@@ -243,10 +241,12 @@ void TabPrintedSlips::scaleColumns()
     const auto widthOf = [&metrics](const QString& widest) {
         return metrics.horizontalAdvance(widest) + 2 * cellPadding;
     };
-    // Time, number and state are read in full; the rest is shared, and the kind gives way to the others.
+    // Time, number and state come first; the rest is shared, and the kind gives way to the others.
     using Model = TableModelPrintedSlips;
     const bool ofOneDay = m_from->date() == m_to->date();
-    const int state = widthOf(isNarrow && !ofOneDay ? SlipWords::state(KeptSlip::Printed) : longestState()) + markWidth;
+    const int word =
+        isNarrow && !ofOneDay ? metrics.horizontalAdvance(SlipWords::state(KeptSlip::Printed)) : widestState(metrics);
+    const int state = word + markWidth + 2 * cellPadding;
     QList<int> widths{widthOf(ofOneDay ? "20:58" : "28-11 20:58"),
                       0,
                       widthOf("TRD11260012"),
