@@ -256,12 +256,26 @@
 
   // --- reading ----------------------------------------------------------------------------------------------------
 
+  /** A printer that nobody has chosen yet is a step that is still open. */
+  function showOpenSteps() {
+    var steps = JSON.parse(bridge.getOpenSteps());
+    Array.prototype.forEach.call(document.querySelectorAll('#setup [data-screen]'), function (tile) {
+      var hint = tile.querySelector('.hint');
+      if (!hint.hasAttribute('data-text'))
+        hint.setAttribute('data-text', hint.textContent);
+      var isOpen = steps.indexOf(tile.getAttribute('data-screen')) >= 0;
+      hint.textContent = isOpen ? qsTr('Not chosen yet') : hint.getAttribute('data-text');
+      hint.className = isOpen ? 'hint open' : 'hint';
+    });
+  }
+
   function refresh() {
     // An error box of the program stands in the middle of a read; whatever comes meanwhile finds it going on.
     if (reading)
       return;
     reading = true;
     greet();
+    showOpenSteps();
     var sales = JSON.parse(bridge.getSalesChartData());
     var items = JSON.parse(bridge.getSoldItemsData());
     reading = false;

@@ -5,6 +5,7 @@
 #include "app/context/EntityUser.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/widgets/KorErrorBox.h"
+#include "pos/printing/configuration/BusinessPrinterConfig.h"
 #include "shell/dashboard/DashboardPage.h"
 #include "zavel/list/EntitySalesSummaryInfo.h"
 #include "zavel/list/EntitySoldItem.h"
@@ -21,6 +22,8 @@
 #include <QLocale>
 #include <QTimer>
 #include <QWebFrame>
+
+#include <algorithm>
 
 namespace
 {
@@ -153,6 +156,24 @@ QString TabDashboard::getLocalization() const
     return compactText({{"currency", locale.currencySymbol()},
                         {"money", money},
                         {"group", locale.toString(1000).size() > 4 ? QString(locale.groupSeparator()) : QString()}});
+}
+
+QString TabDashboard::getOpenSteps()
+{
+    EntityPool pool;
+    const EntityPoolScope scope(pool);
+    auto* printers = service<BusinessPrinterConfig>("Printer Config");
+    QJsonArray steps;
+    const auto* cashier = printers->getCashierPrinterConfig();
+    if (cashier && cashier->isAsInstalled())
+        steps.append("cashierprinter");
+    const QList<EntityConfigKitchenPrinter*> kitchens = printers->getAllKitchenPrinterConfig();
+    const auto isOpen = [](const EntityConfigKitchenPrinter* kitchen) { return kitchen->isAsInstalled(); };
+    if (std::all_of(kitchens.cbegin(), kitchens.cend(), isOpen))
+        steps.append("kitchenprinter");
+    // The figures, which are read next, tell of a database that is away.
+    printers->clearErrors();
+    return QString::fromUtf8(QJsonDocument(steps).toJson(QJsonDocument::Compact));
 }
 
 QString TabDashboard::translated(const QString& text) const

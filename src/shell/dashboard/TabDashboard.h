@@ -30,6 +30,8 @@ public slots:
     [[nodiscard]] QString getSoldItemsData();
     /** JSON: how the restaurant writes numbers and money. */
     [[nodiscard]] QString getLocalization() const;
+    /** JSON: the screens of the steps that are still open, "cashierprinter" and "kitchenprinter". */
+    [[nodiscard]] QString getOpenSteps();
     /** A text of the page in the program's language. */
     [[nodiscard]] QString translated(const QString& text) const;
 
