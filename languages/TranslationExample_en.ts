@@ -1090,10 +1090,6 @@ Required permission: %1</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The printer %1 tells nothing about itself</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The printer %1 takes no jobs</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2316,6 +2312,18 @@ Required permission: %1</source>
         <source>This database has no settings of the cashier printer. Please update the database.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Print a Test Slip</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print with these settings, saved or not (F8)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>F8</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>DialogClearTransactions</name>
@@ -3419,6 +3427,26 @@ Required permission: %1</source>
     </message>
     <message>
         <source>A changed dish is printed with its quantity in all, and with the quantity and the wish that it had before</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print a Test Slip</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print with these settings, saved or not (F8)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>F8</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(no printer: the kitchen&apos;s screen)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A kitchen&apos;s slips are cut as the type of the cashier printer says.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -5638,6 +5666,14 @@ Please fill the db connection fields and install the initial data</source>
         <source>F1</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Printed Slips</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ctrl+R</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>MasterSteps</name>
@@ -6054,6 +6090,37 @@ Please fill the db connection fields and install the initial data</source>
     </message>
 </context>
 <context>
+    <name>PaperCut</name>
+    <message>
+        <source>This type cuts nothing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This type&apos;s cut lacks its end: some printers wait for it and swallow the first letters of the next slip.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cuts the paper and leaves a point that holds it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cuts the paper through.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Feeds the paper to the knife and cuts it through.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Feeds the paper to the knife, cuts it and leaves a point that holds it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sends the bytes %1 to cut the paper.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PartPaymentDialog</name>
     <message>
         <source>Amount Due :</source>
@@ -6282,6 +6349,10 @@ Please fill the db connection fields and install the initial data</source>
         <source>Error!</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Choose %1 instead.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PurchaseStep</name>
@@ -6491,6 +6562,40 @@ Please fill the db connection fields and install the initial data</source>
     </message>
     <message>
         <source>&amp;Use It As It Is</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ReportBill</name>
+    <message>
+        <source>The bill is saved. Only its slip is missing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ReportTestSlip</name>
+    <message>
+        <source>Test slip of the printer %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Columns: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Type: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This line is bold.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The paper is cut below.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The paper is not cut.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -8292,6 +8397,25 @@ Exit status of status: 0 installed, 3 reachable but not installed, 1 otherwise.<
     </message>
 </context>
 <context>
+    <name>SlipQueue</name>
+    <message>
+        <source>It is not known whether it was printed: the print server does not answer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not printed before the program ended</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The slip cannot be read any more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>COPY %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>SlipSpooler</name>
     <message>
         <source>A slip is being printed already.</source>
@@ -8303,6 +8427,76 @@ Exit status of status: 0 installed, 3 reachable but not installed, 1 otherwise.<
     </message>
     <message>
         <source>The printer is not open.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SlipStatus</name>
+    <message>
+        <source>1 slip waiting: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 slips waiting: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 slip was not printed: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 slips were not printed: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No printer is chosen yet: slips are kept and shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Slips are printed, but they cannot be kept</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SlipWords</name>
+    <message>
+        <source>Bill</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kitchen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Order recap</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, copy %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waiting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Printed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Given back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No printer</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -9430,6 +9624,93 @@ Exit status of status: 0 installed, 3 reachable but not installed, 1 otherwise.<
     </message>
 </context>
 <context>
+    <name>TabPrintedSlips</name>
+    <message>
+        <source>Printed Slips</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search (Return)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From Date :</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Number :</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>State :</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>To Date :</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kind :</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Printer :</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The slip</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Refresh (F5)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close (Esc)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print Again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print the selected slip once more, marked as a copy (F8)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print on :</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 Slips</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No slip is selected.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The slip is empty, or cannot be read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>TabPurchaseDetailPO</name>
     <message>
         <source>Select PO</source>
@@ -10431,6 +10712,37 @@ Exit status of status: 0 installed, 3 reachable but not installed, 1 otherwise.<
     </message>
 </context>
 <context>
+    <name>TableModelPrintedSlips</name>
+    <message>
+        <source>Time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Table/Guest</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>TableModelPurchaseDetail</name>
     <message>
         <source>Qty</source>
@@ -11079,6 +11391,14 @@ Please install the initial data</source>
         <source>Error</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>The order is cancelled. Only its slip is missing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The order is saved. Only its slip is missing.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>dashboard</name>
@@ -11364,6 +11684,10 @@ Please install the initial data</source>
     </message>
     <message>
         <source>Nothing was sold between %1 and %2. As soon as the first invoice is saved, the figures appear here. Is the restaurant new? The steps below set it up, one after the other.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not chosen yet</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -1091,10 +1091,6 @@ Hak akses yang dibutuhkan: %1</translation>
         <translation>Printer %1 tidak ditemukan</translation>
     </message>
     <message>
-        <source>The printer %1 tells nothing about itself</source>
-        <translation>Printer %1 tidak memberi keterangan</translation>
-    </message>
-    <message>
         <source>The printer %1 takes no jobs</source>
         <translation>Printer %1 tidak menerima tugas</translation>
     </message>
@@ -2338,6 +2334,18 @@ Hak akses yang dibutuhkan: %1</translation>
         <source>This database has no settings of the cashier printer. Please update the database.</source>
         <translation>Basis data ini tidak punya pengaturan printer kasir. Perbarui basis data.</translation>
     </message>
+    <message>
+        <source>Print a Test Slip</source>
+        <translation>Cetak Slip Uji</translation>
+    </message>
+    <message>
+        <source>Print with these settings, saved or not (F8)</source>
+        <translation>Cetak dengan pengaturan ini, sudah disimpan atau belum (F8)</translation>
+    </message>
+    <message>
+        <source>F8</source>
+        <translation>F8</translation>
+    </message>
 </context>
 <context>
     <name>DialogClearTransactions</name>
@@ -3442,6 +3450,26 @@ Hak akses yang dibutuhkan: %1</translation>
     <message>
         <source>A changed dish is printed with its quantity in all, and with the quantity and the wish that it had before</source>
         <translation>Masakan yang berubah dicetak dengan jumlah seluruhnya, serta jumlah dan pesan semula</translation>
+    </message>
+    <message>
+        <source>Print a Test Slip</source>
+        <translation>Cetak Slip Uji</translation>
+    </message>
+    <message>
+        <source>Print with these settings, saved or not (F8)</source>
+        <translation>Cetak dengan pengaturan ini, sudah disimpan atau belum (F8)</translation>
+    </message>
+    <message>
+        <source>F8</source>
+        <translation>F8</translation>
+    </message>
+    <message>
+        <source>(no printer: the kitchen&apos;s screen)</source>
+        <translation>(tanpa printer: layar dapur)</translation>
+    </message>
+    <message>
+        <source>A kitchen&apos;s slips are cut as the type of the cashier printer says.</source>
+        <translation>Slip dapur dipotong menurut jenis printer kasir.</translation>
     </message>
 </context>
 <context>
@@ -5661,6 +5689,14 @@ Isi kolom sambungan db dan pasang data awal</translation>
         <source>F1</source>
         <translation>F1</translation>
     </message>
+    <message>
+        <source>Printed Slips</source>
+        <translation>Slip Tercetak</translation>
+    </message>
+    <message>
+        <source>Ctrl+R</source>
+        <translation>Ctrl+R</translation>
+    </message>
 </context>
 <context>
     <name>MasterSteps</name>
@@ -6078,6 +6114,37 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
 </context>
 <context>
+    <name>PaperCut</name>
+    <message>
+        <source>This type cuts nothing.</source>
+        <translation>Jenis ini tidak memotong.</translation>
+    </message>
+    <message>
+        <source>This type&apos;s cut lacks its end: some printers wait for it and swallow the first letters of the next slip.</source>
+        <translation>Potongan jenis ini tidak lengkap: sebagian printer menunggu sisanya dan menelan huruf pertama slip berikutnya.</translation>
+    </message>
+    <message>
+        <source>Cuts the paper and leaves a point that holds it.</source>
+        <translation>Memotong kertas dan menyisakan satu titik yang menahannya.</translation>
+    </message>
+    <message>
+        <source>Cuts the paper through.</source>
+        <translation>Memotong kertas sampai putus.</translation>
+    </message>
+    <message>
+        <source>Feeds the paper to the knife and cuts it through.</source>
+        <translation>Mendorong kertas ke pisau dan memotongnya sampai putus.</translation>
+    </message>
+    <message>
+        <source>Feeds the paper to the knife, cuts it and leaves a point that holds it.</source>
+        <translation>Mendorong kertas ke pisau, memotongnya dan menyisakan satu titik yang menahannya.</translation>
+    </message>
+    <message>
+        <source>Sends the bytes %1 to cut the paper.</source>
+        <translation>Mengirim bita %1 untuk memotong kertas.</translation>
+    </message>
+</context>
+<context>
     <name>PartPaymentDialog</name>
     <message>
         <source>Amount Due :</source>
@@ -6306,6 +6373,10 @@ Isi kolom sambungan db dan pasang data awal</translation>
         <source>Error!</source>
         <translation>Kesalahan!</translation>
     </message>
+    <message>
+        <source>Choose %1 instead.</source>
+        <translation>Pilih %1 saja.</translation>
+    </message>
 </context>
 <context>
     <name>PurchaseStep</name>
@@ -6516,6 +6587,40 @@ Isi kolom sambungan db dan pasang data awal</translation>
     <message>
         <source>&amp;Use It As It Is</source>
         <translation>&amp;Pakai Apa Adanya</translation>
+    </message>
+</context>
+<context>
+    <name>ReportBill</name>
+    <message>
+        <source>The bill is saved. Only its slip is missing.</source>
+        <translation>Nota sudah disimpan. Hanya slipnya yang belum tercetak.</translation>
+    </message>
+</context>
+<context>
+    <name>ReportTestSlip</name>
+    <message>
+        <source>Test slip of the printer %1</source>
+        <translation>Slip uji printer %1</translation>
+    </message>
+    <message>
+        <source>Columns: %1</source>
+        <translation>Kolom: %1</translation>
+    </message>
+    <message>
+        <source>Type: %1</source>
+        <translation>Jenis: %1</translation>
+    </message>
+    <message>
+        <source>This line is bold.</source>
+        <translation>Baris ini tebal.</translation>
+    </message>
+    <message>
+        <source>The paper is cut below.</source>
+        <translation>Kertas dipotong di bawah ini.</translation>
+    </message>
+    <message>
+        <source>The paper is not cut.</source>
+        <translation>Kertas tidak dipotong.</translation>
     </message>
 </context>
 <context>
@@ -8321,6 +8426,25 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     </message>
 </context>
 <context>
+    <name>SlipQueue</name>
+    <message>
+        <source>It is not known whether it was printed: the print server does not answer.</source>
+        <translation>Tidak diketahui apakah sudah tercetak: server cetak tidak menjawab.</translation>
+    </message>
+    <message>
+        <source>not printed before the program ended</source>
+        <translation>belum tercetak saat program berakhir</translation>
+    </message>
+    <message>
+        <source>The slip cannot be read any more.</source>
+        <translation>Slip ini tidak dapat dibaca lagi.</translation>
+    </message>
+    <message>
+        <source>COPY %1</source>
+        <translation>SALINAN %1</translation>
+    </message>
+</context>
+<context>
     <name>SlipSpooler</name>
     <message>
         <source>A slip is being printed already.</source>
@@ -8333,6 +8457,76 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     <message>
         <source>The printer is not open.</source>
         <translation>Printer belum dibuka.</translation>
+    </message>
+</context>
+<context>
+    <name>SlipStatus</name>
+    <message>
+        <source>1 slip waiting: %1</source>
+        <translation>1 slip menunggu: %1</translation>
+    </message>
+    <message>
+        <source>%1 slips waiting: %2</source>
+        <translation>%1 slip menunggu: %2</translation>
+    </message>
+    <message>
+        <source>1 slip was not printed: %1</source>
+        <translation>1 slip tidak tercetak: %1</translation>
+    </message>
+    <message>
+        <source>%1 slips were not printed: %2</source>
+        <translation>%1 slip tidak tercetak: %2</translation>
+    </message>
+    <message>
+        <source>No printer is chosen yet: slips are kept and shown</source>
+        <translation>Belum ada printer yang dipilih: slip disimpan dan ditampilkan</translation>
+    </message>
+    <message>
+        <source>Slips are printed, but they cannot be kept</source>
+        <translation>Slip tetap dicetak, tetapi tidak dapat disimpan</translation>
+    </message>
+</context>
+<context>
+    <name>SlipWords</name>
+    <message>
+        <source>Bill</source>
+        <translation>Bon</translation>
+    </message>
+    <message>
+        <source>Kitchen</source>
+        <translation>Dapur</translation>
+    </message>
+    <message>
+        <source>Order recap</source>
+        <translation>Rekap pesanan</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Uji</translation>
+    </message>
+    <message>
+        <source>%1, copy %2</source>
+        <translation>%1, salinan %2</translation>
+    </message>
+    <message>
+        <source>Waiting</source>
+        <translation>Menunggu</translation>
+    </message>
+    <message>
+        <source>Printed</source>
+        <translation>Tercetak</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Gagal</translation>
+    </message>
+    <message>
+        <source>Given back</source>
+        <translation>Ditolak</translation>
+    </message>
+    <message>
+        <source>No printer</source>
+        <translation>Tanpa printer</translation>
     </message>
 </context>
 <context>
@@ -9459,6 +9653,93 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     </message>
 </context>
 <context>
+    <name>TabPrintedSlips</name>
+    <message>
+        <source>Printed Slips</source>
+        <translation>Slip Tercetak</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Cari</translation>
+    </message>
+    <message>
+        <source>Search (Return)</source>
+        <translation>Cari (Return)</translation>
+    </message>
+    <message>
+        <source>From Date :</source>
+        <translation>Dari :</translation>
+    </message>
+    <message>
+        <source>Number :</source>
+        <translation>Nomor :</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Semua</translation>
+    </message>
+    <message>
+        <source>State :</source>
+        <translation>Status :</translation>
+    </message>
+    <message>
+        <source>To Date :</source>
+        <translation>Sampai :</translation>
+    </message>
+    <message>
+        <source>Kind :</source>
+        <translation>Macam :</translation>
+    </message>
+    <message>
+        <source>Printer :</source>
+        <translation>Printer :</translation>
+    </message>
+    <message>
+        <source>The slip</source>
+        <translation>Slipnya</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Segarkan</translation>
+    </message>
+    <message>
+        <source>Refresh (F5)</source>
+        <translation>Segarkan (F5)</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Tutup</translation>
+    </message>
+    <message>
+        <source>Close (Esc)</source>
+        <translation>Tutup (Esc)</translation>
+    </message>
+    <message>
+        <source>Print Again</source>
+        <translation>Cetak Lagi</translation>
+    </message>
+    <message>
+        <source>Print the selected slip once more, marked as a copy (F8)</source>
+        <translation>Cetak slip yang dipilih sekali lagi, ditandai sebagai salinan (F8)</translation>
+    </message>
+    <message>
+        <source>Print on :</source>
+        <translation>Cetak di :</translation>
+    </message>
+    <message>
+        <source>%1 Slips</source>
+        <translation>%1 Slip</translation>
+    </message>
+    <message>
+        <source>No slip is selected.</source>
+        <translation>Tidak ada slip yang dipilih.</translation>
+    </message>
+    <message>
+        <source>The slip is empty, or cannot be read.</source>
+        <translation>Slip ini kosong, atau tidak dapat dibaca.</translation>
+    </message>
+</context>
+<context>
     <name>TabPurchaseDetailPO</name>
     <message>
         <source>Select PO</source>
@@ -10460,6 +10741,37 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     </message>
 </context>
 <context>
+    <name>TableModelPrintedSlips</name>
+    <message>
+        <source>Time</source>
+        <translation>Jam</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Macam</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Nomor</translation>
+    </message>
+    <message>
+        <source>Table/Guest</source>
+        <translation>Meja/Tamu</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Printer</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Oleh</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Status</translation>
+    </message>
+</context>
+<context>
     <name>TableModelPurchaseDetail</name>
     <message>
         <source>Qty</source>
@@ -11110,6 +11422,14 @@ Silakan pasang data awal</translation>
         <source>Error</source>
         <translation>Kesalahan</translation>
     </message>
+    <message>
+        <source>The order is cancelled. Only its slip is missing.</source>
+        <translation>Pesanan sudah dibatalkan. Hanya slipnya yang belum tercetak.</translation>
+    </message>
+    <message>
+        <source>The order is saved. Only its slip is missing.</source>
+        <translation>Pesanan sudah disimpan. Hanya slipnya yang belum tercetak.</translation>
+    </message>
 </context>
 <context>
     <name>dashboard</name>
@@ -11396,6 +11716,10 @@ Silakan pasang data awal</translation>
     <message>
         <source>Nothing was sold between %1 and %2. As soon as the first invoice is saved, the figures appear here. Is the restaurant new? The steps below set it up, one after the other.</source>
         <translation>Tidak ada penjualan antara %1 dan %2. Begitu faktur pertama disimpan, angkanya muncul di sini. Restoran masih baru? Siapkan dengan langkah-langkah di bawah, satu per satu.</translation>
+    </message>
+    <message>
+        <source>Not chosen yet</source>
+        <translation>Belum dipilih</translation>
     </message>
 </context>
 </TS>
