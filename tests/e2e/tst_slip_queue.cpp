@@ -3,6 +3,7 @@
 #include "pos/printing/slips/SlipArchive.h"
 #include "pos/printing/slips/SlipQueue.h"
 #include "pos/printing/spooler/SlipSpooler.h"
+#include "shell/window/SlipStatus.h"
 #include "support/ModalDriver.h"
 
 #include <QElapsedTimer>
@@ -206,13 +207,22 @@ void TestSlipQueue::aDeadPrinterHoldsUpNoOther()
 {
     SilentServer silent;
     useServer(silent.address());
+    QWidget bar;
+    SlipStatus status(&bar);
+    QVERIFY(status.isHidden());
     QVERIFY(blockedBy("Mati", "lost") < longestWait);
     useServer(m_cups->address());
     QVERIFY(blockedBy("Kasir", "alive") < 1500);
     QTRY_COMPARE(m_cups->printed(), QList<QByteArray>({"alive"}));
-    QCOMPARE(SlipQueue::instance()->waitingPrinters(), QStringList("Mati"));
+    QCOMPARE(status.text(), QString("1 slip waiting: Mati"));
     silent.close();
     QTRY_VERIFY_WITH_TIMEOUT(SlipQueue::instance()->waitingPrinters().isEmpty(), 15000);
+    QTRY_COMPARE(status.text(), QString("1 slip was not printed: Mati"));
+    QSignalSpy wanted(&status, &SlipStatus::listWanted);
+    bar.show();
+    QTest::mouseClick(&status, Qt::LeftButton);
+    QCOMPARE(wanted.size(), 1);
+    QVERIFY(status.isHidden());
 }
 
 void TestSlipQueue::severalDeadKitchensAreWaitedForTogether()

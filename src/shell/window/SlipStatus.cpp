@@ -1,5 +1,6 @@
 #include "shell/window/SlipStatus.h"
 
+#include "app/widgets/StatusMark.h"
 #include "pos/printing/slips/SlipArchive.h"
 #include "pos/printing/slips/SlipQueue.h"
 
@@ -19,7 +20,11 @@ SlipStatus::SlipStatus(QWidget* parent) : QToolButton(parent)
 {
     setObjectName("btnSlipStatus");
     setAutoRaise(true);
+    setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     setFocusPolicy(Qt::NoFocus);
+    // The bar reckons with its height even while it is hidden: the pages shall not shrink for it.
+    constexpr int margins = 4;
+    setFixedHeight(fontMetrics().height() + margins);
     const auto* queue = SlipQueue::instance();
     connect(queue, &SlipQueue::waitingChanged, this, &SlipStatus::refresh);
     connect(queue, &SlipQueue::failedLater, this, &SlipStatus::noteFailure);
@@ -89,7 +94,7 @@ void SlipStatus::refresh()
     for (const KeptSlip& slip : qAsConst(m_failures))
         reasons.append(slip.printer + ": " + slip.reason);
     setToolTip(reasons.isEmpty() ? m_trouble : reasons.join('\n'));
-    setProperty("failed", !failure.isEmpty());
+    setIcon(statusMark(failure.isEmpty() ? "waiting" : "unpaid"));
     QFont weight = font();
     weight.setBold(!failure.isEmpty());
     setFont(weight);

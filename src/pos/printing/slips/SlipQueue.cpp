@@ -116,7 +116,8 @@ QList<SlipQueue::Verdict> SlipQueue::handOver(const QList<Job>& jobs, const Kept
         const auto ticket = std::make_shared<SlipTicket>();
         ticket->slip = entries[i].slip;
         ticket->bytes = entries[i].bytes;
-        ticket->withoutPrinter = jobs[i].purpose.withoutPrinter;
+        // A folder of slips has no print server to choose a printer from: what it refuses is told as ever.
+        ticket->withoutPrinter = jobs[i].purpose.withoutPrinter && !SlipSpooler::hasOneLine();
         PrinterLine* line = lineOf(ticket->slip.printer);
         const bool isAwaited =
             !line->isBehind() || std::any_of(awaited.cbegin(), awaited.cend(), [&](const Ticket& earlier) {
