@@ -1,10 +1,8 @@
 #include "setup/DatabaseSetup.h"
 
-#include "app/configuration/BusinessConfiguration.h"
 #include "app/context/AppContext.h"
 #include "app/context/DatabaseManager.h"
 #include "app/context/DatabaseServer.h"
-#include "kor/business/KorServiceDirectory.h"
 #include "zavel/install/ZavelInstaller.h"
 #include "zavel/registry/ZavelBusinessRegistry.h"
 
@@ -48,9 +46,16 @@ DatabaseSetup::Result DatabaseSetup::status()
     }
     if (!connectToDatabase())
         return Failed;
-    const QString version = installedVersion();
-    if (!version.isEmpty()) {
-        say(tr("Installed: %1, version %2.").arg(name, version));
+    const DatabaseVersion version = installedVersion();
+    if (version.isKnown()) {
+        say(tr("Installed: %1, version %2.").arg(name, version.text()));
+        if (version.isNewerThan(DatabaseVersion::ofProgram())) {
+            say(version.tooNew());
+            return TooNew;
+        }
+        if (version.isOlderThan(DatabaseVersion::ofProgram()))
+            say(tr("An update to version %1 is due; the command is \"update\". Back up the database first.")
+                    .arg(DatabaseVersion::ofProgramText()));
         return Done;
     }
     say((tableCount() == 0 ? tr("The database %1 is empty.")
@@ -78,7 +83,7 @@ DatabaseSetup::Result DatabaseSetup::update()
 {
     if (!connectToDatabase())
         return Failed;
-    if (installedVersion().isEmpty())
+    if (!installedVersion().isKnown())
         return fail(tr("Nothing is installed in the database %1.").arg(m_options.connection.database));
     return runInstaller(KorInstaller::UpdateInstall) ? Done
                                                      : fail(tr("The update is not complete; see the lines above."));
@@ -119,14 +124,9 @@ int DatabaseSetup::tableCount() const
     return query.next() ? query.value(0).toInt() : 0;
 }
 
-QString DatabaseSetup::installedVersion() const
+DatabaseVersion DatabaseSetup::installedVersion() const
 {
-    if (tableCount() == 0)
-        return {};
-    auto* configuration = service<BusinessConfiguration>("Configuration");
-    QString version = configuration->getValue("app_version");
-    configuration->clearErrors();
-    return version;
+    return tableCount() == 0 ? DatabaseVersion(QString()) : DatabaseVersion::read();
 }
 
 bool DatabaseSetup::runInstaller(int type)
@@ -140,6 +140,13 @@ bool DatabaseSetup::runInstaller(int type)
     QObject::connect(&installer, &KorInstaller::onProgress, &installer, [this](int perc, const QString& status) {
         say(QString("[%1%] %2").arg(perc).arg(status.trimmed()));
     });
+    QObject::connect(&installer, &KorInstaller::stepFailed, &installer,
+                     [this](const QString&, const QStringList& reasons, bool expected) {
+                         for (const QString& reason : reasons)
+                             say(reason.trimmed());
+                         if (expected)
+                             say(tr("Every update tells this one; nothing is wrong."));
+                     });
     QObject::connect(&installer, &KorInstaller::error, &installer, [this](const QString& err) { fail(err); });
     installer.process();
     return !installer.failed();

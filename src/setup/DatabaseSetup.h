@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/context/DatabaseVersion.h"
 #include "setup/SetupOptions.h"
 
 #include <QTextStream>
@@ -12,7 +13,7 @@ class DatabaseSetup
     Q_DECLARE_TR_FUNCTIONS(DatabaseSetup)
 
 public:
-    enum Result { Done = 0, Failed = 1, NotInstalled = 3 };
+    enum Result { Done = 0, Failed = 1, NotInstalled = 3, TooNew = 4 };
 
     explicit DatabaseSetup(const SetupOptions& options);
 
@@ -29,8 +30,7 @@ private:
     [[nodiscard]] bool isDatabaseMissing();
     [[nodiscard]] bool createDatabase();
     [[nodiscard]] int tableCount() const;
-    /** The version that the database says it has; empty where nothing is installed. */
-    [[nodiscard]] QString installedVersion() const;
+    [[nodiscard]] DatabaseVersion installedVersion() const;
     [[nodiscard]] bool runInstaller(int type);
     [[nodiscard]] bool writeSettings();
 

@@ -13,7 +13,8 @@ void declare(QCommandLineParser& parser)
         "Makes or updates the database of Zavel POS.\n"
         "The database password is taken from ZAVEL_DB_PASSWORD, the administrator's from ZAVEL_ADMIN_PASSWORD.\n"
         "Exit status of install and update: 0 when every step was done, 1 otherwise, 2 for wrong arguments.\n"
-        "Exit status of status: 0 installed, 3 reachable but not installed, 1 otherwise."));
+        "Exit status of status: 0 installed, 3 reachable but not installed, 4 installed and of a newer version "
+        "than this program, 1 otherwise."));
     parser.addPositionalArgument("command", SetupOptions::tr("install, update or status"));
     parser.addOptions({
         {{"h", "help"}, SetupOptions::tr("Show this text.")},

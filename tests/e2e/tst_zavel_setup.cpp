@@ -164,7 +164,15 @@ void TestZavelSetup::anOlderDatabaseIsBroughtUpToDate()
              m_database->value("SELECT count(*) FROM permissions"));
     // Two changes cannot be made to tables that this version laid down: the tables have them from the start.
     QCOMPARE(updated.lines.filter(" error:"), QStringList({"[25%] permissions error:", "[25%] acquisition error:"}));
-    QCOMPARE(updated.status, 1);
+    QCOMPARE(updated.status, 0);
+    m_database->run("INSERT INTO supplier (kode, nama, alamat, telp, email, version) VALUES ('T', '', '', '', '', 1)");
+    m_database->run("DO $$ DECLARE k text; BEGIN FOR k IN SELECT conname FROM pg_constraint WHERE conrelid = "
+                    "'supplier'::regclass AND contype = 'u' LOOP EXECUTE 'ALTER TABLE supplier DROP CONSTRAINT ' || k; "
+                    "END LOOP; END $$");
+    m_database->run("UPDATE supplier SET kode = 'T'");
+    const Outcome failed = onDatabase("update");
+    QCOMPARE(failed.status, 1);
+    QVERIFY(failed.lines.join(' ').contains("Key (kode)=(T) is duplicated"));
 }
 
 void TestZavelSetup::nothingInstalledIsNothingToUpdate()

@@ -1,6 +1,7 @@
 #include "app/access/DialogLogin.h"
 #include "app/context/AppContext.h"
 #include "app/context/ConnectionSettings.h"
+#include "kor/persistence/KorQuery.h"
 #include "shell/database/wizard/AppInstallerWizard.h"
 #include "shell/window/ConfigDialog.h"
 #include "shell/window/MainWindow.h"
@@ -86,6 +87,14 @@ int play(int& argc, char** argv)
         nameTheDatabase(person, argv[3]);
         logIn(person, "a guess");
     }
+    if (script == "log in after an update") {
+        person.expect<DialogLogin>([](DialogLogin* login) {
+            KorQuery().exec("UPDATE appconfig SET appvalue = '99' WHERE appkey = 'app_version'");
+            login->findChild<QLineEdit*>("txtUsername")->setText("admin");
+            login->findChild<QLineEdit*>("txtPassword")->setText("secret");
+            login->accept();
+        });
+    }
     if (script == "mend the settings" || script == "work" || script == "restart" || script == "set up")
         logIn(person, "secret");
     onceTheWindowIsThere([script](MainWindow* window) {
@@ -125,6 +134,7 @@ private slots:
     void aDatabaseWithoutAVersionAsksForTheInstallation();
     void aDatabaseThatIsNotWholeIsToldBeforeTheLogin_data();
     void aDatabaseThatIsNotWholeIsToldBeforeTheLogin();
+    void anUpdateDuringTheLoginEndsTheOlderProgram();
     void whoCancelsTheLoginSeesNothingFurther();
     void settingsAreMendedOnTheWayToTheMainWindow();
     void whoLogsInWorksUntilTheWindowIsClosed();
@@ -289,6 +299,10 @@ void TestStartSequence::aDatabaseThatIsNotWholeIsToldBeforeTheLogin_data()
     QTest::newRow("a table is missing") << "DROP TABLE komisi_agen_detail"
                                         << "Error: "
                                         << "ConfigDialog";
+    QTest::newRow("a newer program has updated it") << "UPDATE appconfig SET appvalue = '99' WHERE appkey = "
+                                                       "'app_version'"
+                                                    << "Error: The database is of version 99, and this program is of"
+                                                    << "ConfigDialog";
     QTest::newRow("a reference is missing") << "ALTER TABLE stock_take DROP CONSTRAINT stock_take_item_id_fkey"
                                             << "Warning: "
                                             << "";
@@ -306,6 +320,17 @@ void TestStartSequence::aDatabaseThatIsNotWholeIsToldBeforeTheLogin()
     QFETCH(QString, box);
     QVERIFY(ending.boxes.first().startsWith(box));
     QTEST(ending.surprises, "next");
+}
+
+void TestStartSequence::anUpdateDuringTheLoginEndsTheOlderProgram()
+{
+    install();
+    QVERIFY(settings().write(dataFile("settings.ini")));
+    const Ending ending = start("log in after an update");
+    QCOMPARE(ending.status, 0);
+    QCOMPARE(ending.boxes.size(), 1);
+    QVERIFY(ending.boxes.first().startsWith("Error: The database is of version 99"));
+    QCOMPARE(ending.surprises, QString());
 }
 
 void TestStartSequence::whoCancelsTheLoginSeesNothingFurther()

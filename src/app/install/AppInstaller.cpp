@@ -7,6 +7,7 @@
 #include "app/access/EntityAccess.h"
 #include "app/configuration/BusinessConfiguration.h"
 #include "app/context/AppContext.h"
+#include "app/context/DatabaseVersion.h"
 #include "app/context/EntityPool.h"
 #include "app/context/EntityUser.h"
 #include "app/registry/AppBusinessRegistry.h"
@@ -54,12 +55,14 @@ void AppInstaller::setLocale(const QString& locale)
 
 QString AppInstaller::versionText() const { return QString::number(getAppVersion()); }
 
-bool AppInstaller::isUpdateNeeded()
+bool AppInstaller::isUpdateNeeded() { return DatabaseVersion::read().isOlderThan(getAppVersion()); }
+
+double AppInstaller::installedVersion() const { return DatabaseVersion::read().number(); }
+
+QString AppInstaller::objection() const
 {
-    EntityPool pool;
-    const EntityPoolScope scope(pool);
-    const EntityAppConfig* version = m_configuration->getConfig(versionKey());
-    return version && getAppVersion() > version->getValue().toDouble();
+    const DatabaseVersion version = DatabaseVersion::read();
+    return version.isNewerThan(getAppVersion()) ? version.tooNew() : QString();
 }
 
 // --- tables and rows -----------------------------------------------------------------------------------------------
@@ -140,7 +143,7 @@ void AppInstaller::registerAll(const QList<KorBusinessLogic*>& services)
     for (KorBusinessLogic* service : services) {
         if (isFresh())
             registerFresh(service, admins);
-        else
+        else if (hasTable(service))
             registerMissing(service, admins);
     }
 }
@@ -162,6 +165,12 @@ void AppInstaller::registerFresh(KorBusinessLogic* service, EntityUserGroup* adm
     const QMetaEnum keys = type->enumerator(position);
     for (int i = 0; i < keys.keyCount(); ++i)
         grantAll(admins, &business, keys.value(i));
+}
+
+bool AppInstaller::hasTable(const KorBusinessLogic* service)
+{
+    const KorDataMapper* mapper = service->mapper();
+    return !mapper || mapper->tableName().isEmpty() || mapper->hasTable();
 }
 
 void AppInstaller::registerMissing(KorBusinessLogic* service, EntityUserGroup* admins)

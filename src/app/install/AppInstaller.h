@@ -22,6 +22,9 @@ public:
     void addMappers() override;
     void insertInitialData() override;
     void registerPermissions() override;
+    [[nodiscard]] double installedVersion() const override;
+    /** An older program makes and updates nothing in the database of a newer one. */
+    [[nodiscard]] QString objection() const override;
 
     /** Whether the database is of an older version than the program; false where it has no version at all. */
     [[nodiscard]] bool isUpdateNeeded();
@@ -35,7 +38,6 @@ public:
     void setLocale(const QString& locale);
 
 protected:
-    [[nodiscard]] static QString versionKey() { return QStringLiteral("app_version"); }
     void addAll(const QList<KorDataMapper*>& mappers);
     void registerAll(const QList<KorBusinessLogic*>& services);
     /** The version as the row "app_version" holds it. */
@@ -49,6 +51,8 @@ private:
                     EntityUserGroup& group);
     void registerFresh(KorBusinessLogic* service, EntityUserGroup* admins);
     void registerMissing(KorBusinessLogic* service, EntityUserGroup* admins);
+    /** Of a table that could not be made nobody gets a right; the next update brings both. */
+    [[nodiscard]] static bool hasTable(const KorBusinessLogic* service);
     bool insertBusiness(EntityBusiness* business);
     bool insertPermission(EntityBusiness* business, const KorPermission& permission);
     void grantAll(EntityUserGroup* admins, EntityBusiness* business, int key);

@@ -64,14 +64,21 @@ bool KorInstaller::begin()
     QString reason = database.lastError().text();
     if (database.isOpen()) {
         if (answer("SELECT pg_try_advisory_lock(%1)")) {
-            // The server would remark on each table that is dropped without being there.
-            KorQuery().exec("SET client_min_messages TO warning");
-            (void)KorMigration::takeFailures();
-            return true;
+            reason = objection();
+            if (reason.isEmpty()) {
+                // The server would remark on each table that is dropped without being there.
+                KorQuery().exec("SET client_min_messages TO warning");
+                (void)KorMigration::takeFailures();
+                m_installedVersion = installedVersion();
+                return true;
+            }
+            (void)answer("SELECT pg_advisory_unlock(%1)");
+        } else {
+            reason = tr("This database is being installed or updated at this very moment, from here or from another "
+                        "workstation. Please wait until that has ended.");
         }
-        reason = tr("This database is being installed or updated at this very moment, from here or from another "
-                    "workstation. Please wait until that has ended.");
     }
+    m_failed = true;
     m_failures.append(reason);
     log(reason);
     emit error(reason);
@@ -81,10 +88,14 @@ bool KorInstaller::begin()
 void KorInstaller::end()
 {
     // The lock is the session's: when it is gone, the session was lost and what was sent in between with it.
-    if (answer("SELECT pg_advisory_unlock(%1)"))
-        recordCompletion();
-    else
+    if (!answer("SELECT pg_advisory_unlock(%1)"))
         reportFailure(tr("The connection to the database was lost on the way, and steps failed. Please run it again."));
+    else if (m_incomplete)
+        // Under the new version the start of the program would take what is missing for damage.
+        reportFailure(tr("Tables or columns of the new version could not be made. The database keeps the version that "
+                         "it had; please run the update again."));
+    else
+        recordCompletion();
     KorQuery().exec("RESET client_min_messages");
 }
 
@@ -109,26 +120,53 @@ void KorInstaller::processMappers()
         if (done)
             setStatus(mapper->tableName() + tr(" installed"));
         else
-            reportFailure(mapper->tableName() + tr(" error: ") + mapper->takeError(), KorMigration::takeFailures());
+            reportTable(mapper);
         if (!done && !isConnected())
             return;
     }
 }
 
+void KorInstaller::reportTable(KorDataMapper* mapper)
+{
+    const QString error = mapper->takeError();
+    const QList<KorMigration::Failure> failures = KorMigration::takeFailures();
+    bool expected = error.isEmpty() && !failures.isEmpty();
+    QStringList reasons;
+    for (const KorMigration::Failure& failure : failures) {
+        expected = expected && failure.expected;
+        if (failure.expected)
+            log(failure.text);
+        else
+            reasons.append(failure.text);
+    }
+    reportFailure(mapper->tableName() + tr(" error: ") + error, reasons, expected);
+}
+
 bool KorInstaller::processMapper(KorDataMapper* mapper)
 {
     mapper->clearError();
-    if (isFresh())
-        return mapper->createTable(1);
+    return isFresh() ? mapper->createTable(1) : updateTable(mapper);
+}
 
+bool KorInstaller::updateTable(KorDataMapper* mapper)
+{
+    if (!growTable(mapper))
+        return false;
     bool done = mapper->migrate(m_fromVersion, m_appVersion);
     // Tables that an earlier program made have fewer indexes; those of lines are in no registry.
     done = mapper->createIndexes() && done;
     for (KorDataMapper* lines : mapper->lineMappers()) {
-        if (!lines->createIndexes())
+        if (!growTable(lines) || !lines->createIndexes())
             reportFailure(lines->tableName() + tr(" error: ") + lines->takeError());
     }
     return done;
+}
+
+bool KorInstaller::growTable(KorDataMapper* mapper)
+{
+    const bool grown = mapper->grow(m_installedVersion, m_appVersion);
+    m_incomplete = m_incomplete || !grown;
+    return grown;
 }
 
 bool KorInstaller::insertRow(KorBusinessLogic* service, KorEntity* entity)
@@ -139,14 +177,15 @@ bool KorInstaller::insertRow(KorBusinessLogic* service, KorEntity* entity)
     return done;
 }
 
-void KorInstaller::reportFailure(const QString& text, const QStringList& reasons)
+void KorInstaller::reportFailure(const QString& text, const QStringList& reasons, bool expected)
 {
+    m_failed = m_failed || !expected;
     m_failures.append(text);
     log(text.trimmed());
     for (const QString& reason : reasons)
         log(reason);
     setStatus(text);
-    emit stepFailed(text, reasons);
+    emit stepFailed(text, reasons, expected);
 }
 
 void KorInstaller::log(const QString& message)

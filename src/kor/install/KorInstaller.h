@@ -30,13 +30,18 @@ public:
     virtual void registerPermissions() {}
     /** The last step of a run that nothing broke off: the database is what this program wants. */
     virtual void recordCompletion() {}
+    /** The version of the tables that are there; 0 where the database does not tell. */
+    [[nodiscard]] virtual double installedVersion() const { return 0; }
+    /** Why this database must not be touched; empty where nothing speaks against it. */
+    [[nodiscard]] virtual QString objection() const { return {}; }
 
     bool addMapper(KorDataMapper* mapper);
     /** Always true: what failed is told by the status lines and by failures(). */
     bool install();
 
-    [[nodiscard]] bool failed() const { return !m_failures.isEmpty(); }
-    /** The status lines of the steps that failed, in order. */
+    /** Whether anything failed that does not fail on a database in good order as well. */
+    [[nodiscard]] bool failed() const { return m_failed; }
+    /** The status lines of the steps that failed, in order, those included that were expected to. */
     [[nodiscard]] const QStringList& failures() const { return m_failures; }
 
     [[nodiscard]] int getType() const { return m_installType; }
@@ -58,13 +63,13 @@ signals:
     void finished();
     /** The installation could not begin. */
     void error(const QString& err);
-    /** Beside the status line of a failed step: what the server said to it. */
-    void stepFailed(const QString& status, const QStringList& reasons);
+    /** Beside the status line of a failed step: what the server said to it, nothing where it was expected to fail. */
+    void stepFailed(const QString& status, const QStringList& reasons, bool expected);
 
 protected:
     [[nodiscard]] bool isFresh() const { return m_installType == FreshInstall; }
     /** A status line that is also logged and counted. */
-    void reportFailure(const QString& text, const QStringList& reasons = {});
+    void reportFailure(const QString& text, const QStringList& reasons = {}, bool expected = false);
     /** Inserts through the service; false after reporting its errors. */
     bool insertRow(KorBusinessLogic* service, KorEntity* entity);
     void log(const QString& message);
@@ -75,6 +80,9 @@ private:
     void step(int percent, const QString& status);
     void processMappers();
     [[nodiscard]] bool processMapper(KorDataMapper* mapper);
+    [[nodiscard]] bool updateTable(KorDataMapper* mapper);
+    [[nodiscard]] bool growTable(KorDataMapper* mapper);
+    void reportTable(KorDataMapper* mapper);
 
     int m_installType = FreshInstall;
     double m_fromVersion = 0;
@@ -84,4 +92,8 @@ private:
     QPointer<KorLogger> m_logger;
     int m_percent = 0;
     QStringList m_failures;
+    bool m_failed = false;
+    double m_installedVersion = 0;
+    // A table or a column of a later version could not be made.
+    bool m_incomplete = false;
 };

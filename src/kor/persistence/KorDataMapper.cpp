@@ -459,6 +459,55 @@ bool KorDataMapper::addForeignKey(const QString& table, const QString& constrain
 
 QString KorDataMapper::lastQueryWithValues(const QSqlQuery& query) { return KorQuery::textWithValues(query); }
 
+// --- versions ------------------------------------------------------------------------------------------------------
+
+void KorDataMapper::columnsSince(double version, const QStringList& columns)
+{
+    for (const QString& column : columns)
+        m_columnVersions.insert(column, version);
+}
+
+double KorDataMapper::columnVersion(const QString& column) const
+{
+    return m_columnVersions.value(column, m_tableVersion);
+}
+
+bool KorDataMapper::hasTable() const
+{
+    KorQuery query;
+    return query.exec("SELECT FROM pg_class WHERE oid = to_regclass('" + tableName() +
+                      "') AND relkind IN ('r', 'p')") &&
+           query.next();
+}
+
+bool KorDataMapper::grow(double installedVersion, double toVersion)
+{
+    const auto isNew = [=](double version) { return installedVersion < version && version <= toVersion; };
+    if (isNew(m_tableVersion) && !createTable(2))
+        return false;
+    bool grown = true;
+    for (const KorColumnMap* column : m_metaData->columns()) {
+        if (m_columnVersions.contains(column->columnName()) && isNew(m_columnVersions.value(column->columnName())))
+            grown = addColumn(*column) && grown;
+    }
+    return grown;
+}
+
+bool KorDataMapper::addColumn(const KorColumnMap& column)
+{
+    QString text =
+        "ALTER TABLE " + tableName() + " ADD COLUMN IF NOT EXISTS " + column.columnName() + ' ' + column.sqlType();
+    for (const KorJoinMapper* join : m_joins) {
+        if (join->localColumn() == column.columnName())
+            text += " REFERENCES " + join->mapper()->tableName() + " (" + join->remoteColumn() + ')';
+    }
+    KorQuery query;
+    if (query.exec(text))
+        return true;
+    setError(query.failureOf(text));
+    return false;
+}
+
 QList<KorMigration*> KorDataMapper::migrations() { return {}; }
 
 bool KorDataMapper::migrate(double fromVersion, double toVersion)

@@ -3,6 +3,7 @@
 #include "kor/persistence/KorQuery.h"
 
 #include <QDate>
+#include <QHash>
 #include <QObject>
 #include <QVariant>
 
@@ -81,6 +82,17 @@ public:
                  const QString& localColumn, const QString& remoteColumn, const QString& alias = QString());
     bool truncate(bool cascade);
     bool migrate(double fromVersion, double toVersion);
+    /**
+     * Makes what came with versions above the first one and up to the second: the whole table, or columns. It can be
+     * run again where it was cut short, and leaves what is there as it is.
+     */
+    bool grow(double installedVersion, double toVersion);
+    /** The version that the table came with, 0 for one of the first. */
+    [[nodiscard]] double tableVersion() const { return m_tableVersion; }
+    /** The version that the column came with, that of its table unless columnsSince() says a later one. */
+    [[nodiscard]] double columnVersion(const QString& column) const;
+    /** False also where that could not be found out. */
+    [[nodiscard]] bool hasTable() const;
     bool createIndexes();
     bool addForeignKey(const QString& table, const QString& constraintName, const QString& column,
                        const QString& referencedTable, const QString& referencedColumn);
@@ -103,6 +115,10 @@ public:
 protected:
     using Bindings = std::initializer_list<QPair<QString, QVariant>>;
 
+    // Said in the constructor of what an installed database gets by its update to this version.
+    void tableSince(double version) { m_tableVersion = version; }
+    /** Declared columns. One that is "not null" needs a default for the rows that are there. */
+    void columnsSince(double version, const QStringList& columns);
     bool createTableBase(int mode);
     /** The mapper's base and own columns under this alias, as a SELECT lists them. */
     [[nodiscard]] static QString columnList(const KorDataMapper& mapper, const QString& alias);
@@ -115,6 +131,7 @@ protected:
     void setError(const QString& text);
 
 private:
+    bool addColumn(const KorColumnMap& column);
     bool failWrite(const KorQuery& query);
     bool failUpdate(KorEntity* entity, const QString& statement);
     bool failRemove(KorEntity* entity);
@@ -124,6 +141,8 @@ private:
     QString m_errorText;
     QList<KorJoinMapper*> m_joins;
     QString m_name;
+    double m_tableVersion = 0;
+    QHash<QString, double> m_columnVersions;
 };
 
 /** The list of one record type out of a list of records that a mapper returned. */

@@ -8,19 +8,20 @@
 namespace
 {
 // A migration is gone once its mapper has run it, and the mapper tells only whether all went well.
-thread_local QStringList failures;
+thread_local QList<KorMigration::Failure> failures;
 } // namespace
 
-QStringList KorMigration::takeFailures() { return std::exchange(failures, {}); }
+QList<KorMigration::Failure> KorMigration::takeFailures() { return std::exchange(failures, {}); }
 
-bool KorMigration::run(const QStringList& statements)
+bool KorMigration::run(const QStringList& statements, const QString& expectedState)
 {
     bool succeeded = true;
     for (const QString& statement : statements) {
         KorQuery query;
         if (!query.exec(statement)) {
             m_errorText = query.failureWithStatement();
-            failures.append(m_errorText);
+            const QString state = query.lastError().nativeErrorCode();
+            failures.append({m_errorText, !state.isEmpty() && state == expectedState});
             succeeded = false;
         }
     }
@@ -28,9 +29,11 @@ bool KorMigration::run(const QStringList& statements)
 }
 
 bool KorMigration::addForeignKey(const QString& table, const QString& constraintName, const QString& column,
-                                 const QString& referencedTable, const QString& referencedColumn)
+                                 const QString& referencedTable, const QString& referencedColumn,
+                                 const QString& expectedState)
 {
-    return run({KorDataMapper::foreignKeyStatement(table, constraintName, column, referencedTable, referencedColumn)});
+    return run({KorDataMapper::foreignKeyStatement(table, constraintName, column, referencedTable, referencedColumn)},
+               expectedState);
 }
 
 QString KorMigration::lastQueryWithValues(const QSqlQuery& query) { return KorQuery::textWithValues(query); }

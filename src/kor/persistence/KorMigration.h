@@ -21,36 +21,58 @@ public:
 
     [[nodiscard]] const QString& errorText() const { return m_errorText; }
 
-    /** Why statements of migrations failed on this thread since the last call, each with its text. */
-    [[nodiscard]] static QStringList takeFailures();
+    /** A statement that failed, and whether the migration is made so that this is in order. */
+    struct Failure
+    {
+        QString text;
+        bool expected;
+    };
+    /** What statements of migrations failed on this thread since the last call. */
+    [[nodiscard]] static QList<Failure> takeFailures();
 
 protected:
-    /** Runs each text, going on after a failure; true when all succeeded. */
-    bool run(const QStringList& statements);
+    /**
+     * Runs each text, going on after a failure; true when all succeeded. A failure with the SQLSTATE expectedState is
+     * told like any other, but nothing is wrong with a database that answers so.
+     */
+    bool run(const QStringList& statements, const QString& expectedState = QString());
     bool addForeignKey(const QString& table, const QString& constraintName, const QString& column,
-                       const QString& referencedTable, const QString& referencedColumn);
+                       const QString& referencedTable, const QString& referencedColumn,
+                       const QString& expectedState = QString());
     [[nodiscard]] static QString lastQueryWithValues(const QSqlQuery& query);
 
 private:
     QString m_errorText;
 };
 
-/** A migration that is a list of statements and belongs to schema version 1.1, as all of them so far. */
-class KorStatementMigration11 : public KorMigration
+/** A migration that is a list of statements, each of which can be run again on a database that has the change. */
+class KorStatementMigration : public KorMigration
 {
     Q_OBJECT
 
 public:
-    KorStatementMigration11(const QStringList& statements, const QString& description, QObject* parent)
-        : KorMigration(parent), m_statements(statements), m_description(description)
+    KorStatementMigration(double version, const QStringList& statements, const QString& description, QObject* parent)
+        : KorMigration(parent), m_version(version), m_statements(statements), m_description(description)
     {}
 
     bool up() override { return run(m_statements); }
     void down() override {}
     [[nodiscard]] QString description() const override { return m_description; }
-    [[nodiscard]] double version() const override { return 1.1; }
+    [[nodiscard]] double version() const override { return m_version; }
 
 private:
+    double m_version;
     QStringList m_statements;
     QString m_description;
+};
+
+/** The same for version 1.1, the first one that changed tables. */
+class KorStatementMigration11 : public KorStatementMigration
+{
+    Q_OBJECT
+
+public:
+    KorStatementMigration11(const QStringList& statements, const QString& description, QObject* parent)
+        : KorStatementMigration(1.1, statements, description, parent)
+    {}
 };

@@ -1,5 +1,7 @@
 #include "shell/window/DialogAbout.h"
 
+#include "app/context/DatabaseVersion.h"
+
 #include "ui_DialogAbout.h"
 
 #include <QIcon>
@@ -9,7 +11,7 @@ DialogAbout::DialogAbout(QWidget* parent) : QDialog(parent), m_ui(std::make_uniq
     m_ui->setupUi(this);
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     setWindowIcon(QIcon(":/icons/Beverage-Coffee-02.png"));
-    m_ui->lblVersion->setText(tr("Version %1").arg("1.1"));
+    m_ui->lblVersion->setText(tr("Version %1").arg(DatabaseVersion::ofProgramText()));
     m_ui->lblQt->setText(tr("Qt %1, PostgreSQL, CUPS").arg(QLatin1String(qVersion())));
 }
 

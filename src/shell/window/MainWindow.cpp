@@ -5,6 +5,7 @@
 #include "app/context/AppContext.h"
 #include "app/context/ConnectionSettings.h"
 #include "app/context/DatabaseManager.h"
+#include "app/context/DatabaseVersion.h"
 #include "app/context/EntityPool.h"
 #include "app/context/EntityUser.h"
 #include "kor/business/KorServiceDirectory.h"
@@ -352,11 +353,10 @@ void MainWindow::updateDBConfig()
                           QString::number(settings.port), reason));
         return;
     }
-    const bool installed = m_configuration->getConfig("app_version");
-    m_configuration->clearErrors();
-    if (!installed) {
+    const DatabaseVersion version = DatabaseVersion::read();
+    if (!version.isKnown() || version.isNewerThan(DatabaseVersion::ofProgram())) {
         closeAllTab();
-        showInfo(tr("Table: Config corrupted") + pleaseInstall);
+        showInfo(version.isKnown() ? version.tooNew() : tr("Table: Config corrupted") + pleaseInstall);
         return;
     }
     AppContext* context = AppContext::instance();

@@ -2,10 +2,10 @@
 
 #include "app/access/DialogLogin.h"
 #include "app/configuration/BusinessConfiguration.h"
-#include "app/configuration/EntityAppConfig.h"
 #include "app/context/AppContext.h"
 #include "app/context/ConnectionSettings.h"
 #include "app/context/DatabaseManager.h"
+#include "app/context/DatabaseVersion.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/widgets/KorTextGuard.h"
 #include "kor/widgets/KorViewMemory.h"
@@ -86,11 +86,9 @@ bool ZavelApplication::openDatabase()
 
 bool ZavelApplication::checkDatabase()
 {
-    auto* configuration = service<BusinessConfiguration>("Configuration");
-    const EntityAppConfig* version = configuration->getConfig("app_version");
-    configuration->clearErrors();
-    const DatabaseCondition condition = DatabaseCondition::read(version ? version->getValue() : QString());
-    if (!version) {
+    const DatabaseVersion version = DatabaseVersion::read();
+    const DatabaseCondition condition = DatabaseCondition::read(version.text());
+    if (!version.isKnown()) {
         QMessageBox box(QMessageBox::Critical, tr("Error"),
                         tr("Table: Config corrupted") + tr(".\r\nPlease install the initial data"), QMessageBox::Ok);
         box.setInformativeText(condition.explanation());
@@ -133,6 +131,11 @@ int ZavelApplication::run()
     DialogLogin login;
     if (login.exec() == QDialog::Rejected)
         return 0;
+    // The login may have stood there all night.
+    if (const DatabaseVersion version = DatabaseVersion::read(); version.isNewerThan(DatabaseVersion::ofProgram())) {
+        QMessageBox::critical(nullptr, tr("Error"), version.tooNew());
+        return 0;
+    }
 
     const QPixmap picture(":/images/logo.png");
     QSplashScreen splash(picture);

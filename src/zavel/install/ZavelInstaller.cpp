@@ -1,6 +1,7 @@
 #include "zavel/install/ZavelInstaller.h"
 
 #include "app/configuration/BusinessConfiguration.h"
+#include "app/context/DatabaseVersion.h"
 #include "app/context/EntityPool.h"
 #include "kor/persistence/KorDataMapper.h"
 #include "pos/masterdata/agent/BusinessAgent.h"
@@ -11,16 +12,11 @@
 #include "zavel/registry/ZavelMapperRegistry.h"
 #include "zavel/tables/BusinessMeja.h"
 
-namespace
-{
-constexpr double schemaVersion = 1.1;
-}
-
 ZavelInstaller::ZavelInstaller(QObject* parent)
     : PosInstaller(parent), m_tables(qobject_cast<BusinessMeja*>(ZavelBusinessRegistry::instance()->get("Table"))),
       m_agents(PosBusinessRegistry::instance()->agent())
 {
-    setAppVersion(schemaVersion);
+    setAppVersion(DatabaseVersion::ofProgram());
 }
 
 void ZavelInstaller::addMappers()
@@ -51,7 +47,7 @@ void ZavelInstaller::insertInitialData()
 void ZavelInstaller::insertVersion()
 {
     EntityAppConfig version;
-    version.setKey(versionKey());
+    version.setKey(DatabaseVersion::key());
     version.setValue(versionText());
     insertRow(m_configuration, &version);
 }
@@ -63,7 +59,7 @@ void ZavelInstaller::recordCompletion()
     EntityPool pool;
     const EntityPoolScope scope(pool);
     m_configuration->clearErrors();
-    EntityAppConfig* version = m_configuration->getConfig(versionKey());
+    EntityAppConfig* version = m_configuration->getConfig(DatabaseVersion::key());
     if (version) {
         version->setValue(versionText());
         m_configuration->update(version);

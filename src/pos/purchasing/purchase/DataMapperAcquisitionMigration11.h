@@ -4,7 +4,7 @@
 
 /**
  * Ties the purchases of an older database to their orders. A database made by this program has the constraint from the
- * beginning, and there the migration reports that it exists.
+ * beginning, and there the migration reports that it exists, which is in order.
  */
 class DataMapperAcquisitionMigration11 final : public KorMigration
 {
@@ -16,7 +16,9 @@ public:
     bool up() override
     {
         const bool cleaned = run({"UPDATE acquisition SET po_id = NULL WHERE po_id=0;"});
-        return addForeignKey("acquisition", "acquisition_po_id_fkey", "po_id", "purchase_order", "id") && cleaned;
+        const QString alreadyThere = "42710";
+        return addForeignKey("acquisition", "acquisition_po_id_fkey", "po_id", "purchase_order", "id", alreadyThere) &&
+               cleaned;
     }
     void down() override {}
     [[nodiscard]] QString description() const override

@@ -11,7 +11,6 @@
 #include "kor/persistence/KorQuery.h"
 #include "pos/registry/PosBusinessRegistry.h"
 #include "pos/registry/PosMapperRegistry.h"
-#include "zavel/install/ZavelInstaller.h"
 #include "zavel/registry/ZavelBusinessRegistry.h"
 #include "zavel/registry/ZavelMapperRegistry.h"
 
@@ -21,13 +20,23 @@
 
 namespace
 {
-QList<KorDataMapper*> allMappers()
+struct WantedTable
 {
-    QList<KorDataMapper*> mappers;
-    for (KorDataMapper* mapper : AppMapperRegistry::instance()->all() + PosMapperRegistry::instance()->all() +
-                                     ZavelMapperRegistry::instance()->all())
-        mappers += QList<KorDataMapper*>{mapper} + mapper->lineMappers();
-    return mappers;
+    const KorDataMapper* mapper;
+    /** The one that it came with; lines come with their document at the earliest. */
+    double version;
+};
+
+QList<WantedTable> allTables()
+{
+    QList<WantedTable> tables;
+    for (const KorDataMapper* mapper : AppMapperRegistry::instance()->all() + PosMapperRegistry::instance()->all() +
+                                           ZavelMapperRegistry::instance()->all()) {
+        tables.append({mapper, mapper->tableVersion()});
+        for (const KorDataMapper* lines : mapper->lineMappers())
+            tables.append({lines, qMax(mapper->tableVersion(), lines->tableVersion())});
+    }
+    return tables;
 }
 
 QList<KorBusinessLogic*> allServices()
@@ -38,14 +47,36 @@ QList<KorBusinessLogic*> allServices()
 
 QString reference(const QString& table, const QString& column) { return table + '.' + column; }
 
-/** The references that a table is created with, but those that databases of an earlier version do without. */
-QStringList referencesOf(const KorDataMapper& mapper)
+} // namespace
+
+DatabaseCondition DatabaseCondition::read(const QString& version)
 {
+    DatabaseCondition condition(version);
+    condition.readTables();
+    const bool isCurrent =
+        condition.m_version.isKnown() && !condition.m_version.isOlderThan(DatabaseVersion::ofProgram());
+    if (isCurrent && !condition.isTooNew() && condition.m_missingTables.isEmpty())
+        condition.readRights();
+    return condition;
+}
+
+DatabaseCondition DatabaseCondition::readWithVersion() { return read(DatabaseVersion::read().text()); }
+
+bool DatabaseCondition::isLater(double version) const
+{
+    return m_version.isOlderThan(DatabaseVersion::ofProgram()) && version > m_version.number();
+}
+
+QStringList DatabaseCondition::referencesOf(const KorDataMapper& mapper) const
+{
+    // No update brings these to databases of the first version.
     static const QSet<QString> later{"acquisition.po_id", "acquisition_detail.po_detail_id",
                                      "purchase_order_detail.purchase_order_id"};
     QSet<QString> columns;
-    for (const KorColumnMap* column : mapper.metaData()->columns())
-        columns.insert(column->columnName());
+    for (const KorColumnMap* column : mapper.metaData()->columns()) {
+        if (!isLater(mapper.columnVersion(column->columnName())))
+            columns.insert(column->columnName());
+    }
     QStringList references;
     for (const KorJoinMapper* join : mapper.joins()) {
         const QString found = reference(mapper.tableName(), join->localColumn());
@@ -53,18 +84,6 @@ QStringList referencesOf(const KorDataMapper& mapper)
             references.append(found);
     }
     return references;
-}
-
-} // namespace
-
-DatabaseCondition DatabaseCondition::read(const QString& version)
-{
-    DatabaseCondition condition;
-    condition.readTables();
-    if (!version.isEmpty() && condition.m_missingTables.isEmpty() &&
-        version.toDouble() >= ZavelInstaller().getAppVersion())
-        condition.readRights();
-    return condition;
 }
 
 void DatabaseCondition::readTables()
@@ -89,16 +108,17 @@ void DatabaseCondition::readTables()
         if (query.value(1).toString() == "f")
             references.insert(reference(table, query.value(2).toString()));
     }
-    for (const KorDataMapper* mapper : allMappers()) {
-        const QString& table = mapper->tableName();
+    for (const WantedTable& wantedTable : allTables()) {
+        const QString& table = wantedTable.mapper->tableName();
         m_hasTables = m_hasTables || tables.contains(table);
         if (!tables.contains(table)) {
-            m_missingTables.append(table);
+            if (!isLater(wantedTable.version))
+                m_missingTables.append(table);
             continue;
         }
         if (!withKey.contains(table))
             m_tablesWithoutKey.append(table);
-        for (const QString& wanted : referencesOf(*mapper)) {
+        for (const QString& wanted : referencesOf(*wantedTable.mapper)) {
             if (!references.contains(wanted))
                 m_missingReferences.append(wanted);
         }
@@ -129,7 +149,7 @@ void DatabaseCondition::readRights()
 
 bool DatabaseCondition::isUsable() const
 {
-    return m_missingTables.isEmpty() && m_tablesWithoutKey.isEmpty() && m_anyRights;
+    return !isTooNew() && m_missingTables.isEmpty() && m_tablesWithoutKey.isEmpty() && m_anyRights;
 }
 
 bool DatabaseCondition::isWhole() const
@@ -155,6 +175,8 @@ QString DatabaseCondition::explanation() const
 {
     if (!m_hasTables || isWhole())
         return {};
+    if (isTooNew())
+        return m_version.tooNew();
     if (!m_missingTables.isEmpty())
         return tr("The database is not complete: there are tables missing (%1). An installation or the restore of a "
                   "backup was cut short.")

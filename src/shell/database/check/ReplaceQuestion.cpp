@@ -8,7 +8,7 @@
 
 ReplaceQuestion::Answer ReplaceQuestion::ask(QWidget* parent, Offer offer)
 {
-    const DatabaseCondition condition = DatabaseCondition::read();
+    const DatabaseCondition condition = DatabaseCondition::readWithVersion();
     if (!condition.hasTables())
         return Replace;
     QMessageBox box(QMessageBox::Question, tr("Question"),

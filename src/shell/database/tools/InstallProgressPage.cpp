@@ -12,12 +12,6 @@
 
 namespace
 {
-/** The rights' two old changes: one is of a table that never was, the other has been made in most databases. */
-bool isToldAlways(const QString& reason)
-{
-    return reason.contains("permission_name ADD") || reason.contains("'Manage Printer Configurations'");
-}
-
 /** Without the statement and the driver's remarks, which only the log needs. */
 QString serversWords(const QString& reason)
 {
@@ -58,14 +52,12 @@ void InstallProgressPage::run(ZavelInstaller* installer)
     startInstaller(installer);
 }
 
-void InstallProgressPage::keepFailure(const QString& status, const QStringList& reasons)
+void InstallProgressPage::keepFailure(const QString& status, const QStringList& reasons, bool expected)
 {
     QStringList words{"- " + status.trimmed()};
-    for (const QString& reason : reasons) {
-        if (!isToldAlways(reason))
-            words.append(serversWords(reason));
-    }
-    if (words.size() == 1 && !reasons.isEmpty())
+    for (const QString& reason : reasons)
+        words.append(serversWords(reason));
+    if (expected)
         words.append(tr("Every update tells this one; nothing is wrong."));
     m_failures.append(words.join(' '));
 }

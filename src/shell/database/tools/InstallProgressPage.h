@@ -31,7 +31,7 @@ protected:
     void run(ZavelInstaller* installer);
 
 private:
-    void keepFailure(const QString& status, const QStringList& reasons);
+    void keepFailure(const QString& status, const QStringList& reasons, bool expected);
     void sumUp();
 
     QPlainTextEdit* m_status;

@@ -188,7 +188,7 @@ void ConclusionPage::concludeRestore()
 {
     if (!WizardConnection::open(this, m_connection))
         return;
-    const DatabaseCondition condition = DatabaseCondition::read();
+    const DatabaseCondition condition = DatabaseCondition::readWithVersion();
     if (!condition.isUsable() && !m_import->succeeded()) {
         // Taken for restored it would be asked for a login that it cannot give.
         appendStatusLine(statusBox(), tr("The database %1 cannot be used like this, and the program was not set up "

@@ -1,0 +1,12 @@
+#include "GrownCatalogue.h"
+#include "setup/DatabaseSetup.h"
+
+#include <QCoreApplication>
+
+/** The console program of the next build. */
+int main(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    addGrownCatalogue();
+    return DatabaseSetup(SetupOptions::parse(QCoreApplication::arguments())).run();
+}
