@@ -32,6 +32,13 @@ DataMapperMejaInWing::DataMapperMejaInWing(QObject* parent, DataMapperWing* wing
     columnsSince(DatabaseVersion::ofProgram(), {"seats", "wing_id"});
 }
 
+DataMapperUserWithPin::DataMapperUserWithPin(QObject* parent) : AppDataMapper(parent)
+{
+    metaData()->setTableName("users");
+    column("pin", "varchar(6) null", "Pin");
+    columnsSince(DatabaseVersion::ofProgram(), {"pin"});
+}
+
 void addGrownCatalogue()
 {
     auto* mappers = ZavelMapperRegistry::instance();

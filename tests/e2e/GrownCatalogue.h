@@ -63,5 +63,15 @@ public:
     [[nodiscard]] QList<KorPermission> getPermissions() const override { return {{MANAGE_WINGS, "Manage wings"}}; }
 };
 
-/** Adds all of it to the program's own; it came with the program's version. */
+/** The users, with a column that the login would read. It is not part of the catalogue. */
+class DataMapperUserWithPin final : public AppDataMapper
+{
+    Q_OBJECT
+
+public:
+    explicit DataMapperUserWithPin(QObject* parent);
+    KorEntity* createEntity() override { return new EntityMeja(entityParent()); }
+};
+
+/** Adds all but the last one to the program's own; it came with the program's version. */
 void addGrownCatalogue();

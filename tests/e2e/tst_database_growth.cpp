@@ -1,6 +1,7 @@
 #include "GrownCatalogue.h"
 #include "app/context/AppContext.h"
 #include "app/context/DatabaseVersion.h"
+#include "app/registry/AppMapperRegistry.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "shell/database/check/DatabaseCondition.h"
 #include "shell/database/updater/AppDBUpdaterWizard.h"
@@ -45,6 +46,7 @@ private slots:
     void anUpdateThatFailedIsRepeated();
     void anOlderProgramLeavesTheDatabaseAlone_data();
     void anOlderProgramLeavesTheDatabaseAlone();
+    void whatTheLoginReadsIsUpdatedBeforeIt();
 
 private:
     Outcome run(const QString& program, const QStringList& command) const;
@@ -234,6 +236,15 @@ void TestDatabaseGrowth::anOlderProgramLeavesTheDatabaseAlone()
              qPrintable(outcome.told));
     QCOMPARE(allRows(*m_database), rows);
     QCOMPARE(schemaOf(*m_database), schema);
+}
+
+void TestDatabaseGrowth::whatTheLoginReadsIsUpdatedBeforeIt()
+{
+    QCOMPARE(DatabaseCondition::read(version(-1)).updateFirst(), QString());
+    // Last of all, for it stays in the catalogue.
+    AppMapperRegistry::instance()->add(new DataMapperUserWithPin(AppMapperRegistry::instance()));
+    QVERIFY(!DatabaseCondition::read(version(-1)).updateFirst().isEmpty());
+    QCOMPARE(DatabaseCondition::read(version(0)).updateFirst(), QString());
 }
 
 QTEST_MAIN(TestDatabaseGrowth)

@@ -99,6 +99,10 @@ bool ZavelApplication::checkDatabase()
         QMessageBox::critical(nullptr, tr("Error"), condition.explanation());
         return false;
     }
+    if (const QString text = condition.updateFirst(); !text.isEmpty()) {
+        QMessageBox::information(nullptr, tr("Info"), text);
+        return false;
+    }
     if (!condition.isWhole())
         QMessageBox::warning(nullptr, tr("Warning"), condition.explanation());
     return true;

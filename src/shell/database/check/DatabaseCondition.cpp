@@ -18,6 +18,8 @@
 #include <QHash>
 #include <QSet>
 
+#include <algorithm>
+
 namespace
 {
 struct WantedTable
@@ -65,6 +67,25 @@ DatabaseCondition DatabaseCondition::readWithVersion() { return read(DatabaseVer
 bool DatabaseCondition::isLater(double version) const
 {
     return m_version.isOlderThan(DatabaseVersion::ofProgram()) && version > m_version.number();
+}
+
+bool DatabaseCondition::willGrow(const KorDataMapper& mapper) const
+{
+    const QList<KorColumnMap*>& columns = mapper.metaData()->columns();
+    return std::any_of(columns.begin(), columns.end(),
+                       [&](const KorColumnMap* column) { return isLater(mapper.columnVersion(column->columnName())); });
+}
+
+QString DatabaseCondition::updateFirst() const
+{
+    const QList<KorDataMapper*>& mappers = AppMapperRegistry::instance()->all();
+    // Users, their groups and rights, the settings.
+    if (std::none_of(mappers.begin(), mappers.end(), [this](const KorDataMapper* mapper) { return willGrow(*mapper); }))
+        return {};
+    return tr("The database has to be updated to version %1 before anybody can log in. Close the program on the other "
+              "workstations and back up the database with the older program. Then run \"Update\" under \"Setup\" in "
+              "the window that opens next, and start the program again.")
+        .arg(DatabaseVersion::ofProgramText());
 }
 
 QStringList DatabaseCondition::referencesOf(const KorDataMapper& mapper) const

@@ -35,12 +35,20 @@ public:
      */
     [[nodiscard]] QString explanation() const;
 
+    /**
+     * What to tell where the update that is due has to come before the login, which reads tables that it changes;
+     * empty elsewhere.
+     */
+    [[nodiscard]] QString updateFirst() const;
+
 private:
     explicit DatabaseCondition(const QString& version) : m_version(version) {}
     void readTables();
     /** The references that the table of a mapper has to have in a database of this version. */
     [[nodiscard]] QStringList referencesOf(const KorDataMapper& mapper) const;
     [[nodiscard]] bool isTooNew() const { return m_version.isNewerThan(DatabaseVersion::ofProgram()); }
+    /** Whether the update that is due changes the mapper's table. */
+    [[nodiscard]] bool willGrow(const KorDataMapper& mapper) const;
     /** Whether it came with a version that the database is yet to be updated to. */
     [[nodiscard]] bool isLater(double version) const;
     void readRights();
