@@ -1508,6 +1508,10 @@ Required permission: %1</source>
         <source>If sales were made with it, go back to a backup.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>The database has to be updated to version %1 before anybody can log in. Close the program on the other workstations and back up the database with the older program. Then run &quot;Update&quot; under &quot;Setup&quot; in the window that opens next, and start the program again.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>DatabaseSetup</name>
@@ -1555,6 +1559,14 @@ Required permission: %1</source>
         <source>Can&apos;t write the settings file: %1</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>An update to version %1 is due; the command is &quot;update&quot;. Back up the database first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every update tells this one; nothing is wrong.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>DatabaseUpdate</name>
@@ -1576,6 +1588,13 @@ Required permission: %1</source>
     </message>
     <message>
         <source>The database is being updated. Please wait until that has ended; the program can be closed then.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>DatabaseVersion</name>
+    <message>
+        <source>The database is of version %1, and this program is of version %2: a newer program has updated the database. Please start the newer program. To go back to this one, restore the backup that was made before the update. Nothing was changed.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -5053,6 +5072,10 @@ Required permission: %1</source>
         <source> error: </source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Tables or columns of the new version could not be made. The database keeps the version that it had; please run the update again.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>KorNumberEdit</name>
@@ -8321,13 +8344,6 @@ Do you want to replace the database? The backup goes into a new database %1, and
 <context>
     <name>SetupOptions</name>
     <message>
-        <source>Makes or updates the database of Zavel POS.
-The database password is taken from ZAVEL_DB_PASSWORD, the administrator&apos;s from ZAVEL_ADMIN_PASSWORD.
-Exit status of install and update: 0 when every step was done, 1 otherwise, 2 for wrong arguments.
-Exit status of status: 0 installed, 3 reachable but not installed, 1 otherwise.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>install, update or status</source>
         <translation type="unfinished"></translation>
     </message>
@@ -8393,6 +8409,13 @@ Exit status of status: 0 installed, 3 reachable but not installed, 1 otherwise.<
     </message>
     <message>
         <source>This is no locale: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Makes or updates the database of Zavel POS.
+The database password is taken from ZAVEL_DB_PASSWORD, the administrator&apos;s from ZAVEL_ADMIN_PASSWORD.
+Exit status of install and update: 0 when every step was done, 1 otherwise, 2 for wrong arguments.
+Exit status of status: 0 installed, 3 reachable but not installed, 4 installed and of a newer version than this program, 1 otherwise.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -11284,6 +11307,10 @@ Please install the initial data</source>
     </message>
     <message>
         <source>Warning</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Info</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

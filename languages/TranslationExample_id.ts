@@ -1530,6 +1530,10 @@ Hak akses yang dibutuhkan: %1</translation>
         <source>If sales were made with it, go back to a backup.</source>
         <translation>Bila sudah dipakai berjualan, kembalilah ke cadangan.</translation>
     </message>
+    <message>
+        <source>The database has to be updated to version %1 before anybody can log in. Close the program on the other workstations and back up the database with the older program. Then run &quot;Update&quot; under &quot;Setup&quot; in the window that opens next, and start the program again.</source>
+        <translation>Basis data harus diperbarui ke versi %1 sebelum ada yang dapat masuk. Tutup program di komputer lain dan buat cadangan basis data dengan program yang lama. Lalu jalankan &quot;Perbarui&quot; di bawah &quot;Pemasangan&quot; pada jendela yang terbuka berikutnya, dan jalankan ulang program.</translation>
+    </message>
 </context>
 <context>
     <name>DatabaseSetup</name>
@@ -1577,6 +1581,14 @@ Hak akses yang dibutuhkan: %1</translation>
         <source>Can&apos;t write the settings file: %1</source>
         <translation>Berkas pengaturan tidak dapat ditulis: %1</translation>
     </message>
+    <message>
+        <source>An update to version %1 is due; the command is &quot;update&quot;. Back up the database first.</source>
+        <translation>Pembaruan ke versi %1 diperlukan; perintahnya &quot;update&quot;. Buat cadangan basis data terlebih dahulu.</translation>
+    </message>
+    <message>
+        <source>Every update tells this one; nothing is wrong.</source>
+        <translation>Pesan ini muncul pada setiap pembaruan; tidak ada yang salah.</translation>
+    </message>
 </context>
 <context>
     <name>DatabaseUpdate</name>
@@ -1599,6 +1611,13 @@ Hak akses yang dibutuhkan: %1</translation>
     <message>
         <source>The database is being updated. Please wait until that has ended; the program can be closed then.</source>
         <translation>Basis data sedang diperbarui. Tunggu sampai selesai; setelah itu program dapat ditutup.</translation>
+    </message>
+</context>
+<context>
+    <name>DatabaseVersion</name>
+    <message>
+        <source>The database is of version %1, and this program is of version %2: a newer program has updated the database. Please start the newer program. To go back to this one, restore the backup that was made before the update. Nothing was changed.</source>
+        <translation>Basis data ini versi %1, sedangkan program ini versi %2: program yang lebih baru telah memperbarui basis data. Jalankan program yang lebih baru. Untuk kembali ke program ini, pulihkan cadangan yang dibuat sebelum pembaruan. Tidak ada yang diubah.</translation>
     </message>
 </context>
 <context>
@@ -5075,6 +5094,10 @@ Hak akses yang dibutuhkan: %1</translation>
         <source> error: </source>
         <translation> kesalahan: </translation>
     </message>
+    <message>
+        <source>Tables or columns of the new version could not be made. The database keeps the version that it had; please run the update again.</source>
+        <translation>Tabel atau kolom versi baru tidak dapat dibuat. Basis data tetap pada versi sebelumnya; jalankan pembaruan sekali lagi.</translation>
+    </message>
 </context>
 <context>
     <name>KorNumberEdit</name>
@@ -8347,16 +8370,6 @@ Apakah basis data itu akan diganti? Cadangan masuk ke basis data %1 yang baru, d
 <context>
     <name>SetupOptions</name>
     <message>
-        <source>Makes or updates the database of Zavel POS.
-The database password is taken from ZAVEL_DB_PASSWORD, the administrator&apos;s from ZAVEL_ADMIN_PASSWORD.
-Exit status of install and update: 0 when every step was done, 1 otherwise, 2 for wrong arguments.
-Exit status of status: 0 installed, 3 reachable but not installed, 1 otherwise.</source>
-        <translation>Membuat atau memperbarui basis data Zavel POS.
-Kata sandi basis data diambil dari ZAVEL_DB_PASSWORD, kata sandi administrator dari ZAVEL_ADMIN_PASSWORD.
-Status keluar install dan update: 0 bila semua langkah berhasil, 1 bila tidak, 2 bila argumen salah.
-Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain itu.</translation>
-    </message>
-    <message>
         <source>install, update or status</source>
         <translation>install, update atau status</translation>
     </message>
@@ -8423,6 +8436,16 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 1 selain
     <message>
         <source>This is no locale: %1</source>
         <translation>Ini bukan lokal: %1</translation>
+    </message>
+    <message>
+        <source>Makes or updates the database of Zavel POS.
+The database password is taken from ZAVEL_DB_PASSWORD, the administrator&apos;s from ZAVEL_ADMIN_PASSWORD.
+Exit status of install and update: 0 when every step was done, 1 otherwise, 2 for wrong arguments.
+Exit status of status: 0 installed, 3 reachable but not installed, 4 installed and of a newer version than this program, 1 otherwise.</source>
+        <translation>Membuat atau memperbarui basis data Zavel POS.
+Kata sandi basis data diambil dari ZAVEL_DB_PASSWORD, kata sandi administrator dari ZAVEL_ADMIN_PASSWORD.
+Status keluar install dan update: 0 bila semua langkah berhasil, 1 bila tidak, 2 bila argumen salah.
+Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 4 terpasang dan versinya lebih baru daripada program ini, 1 selain itu.</translation>
     </message>
 </context>
 <context>
@@ -11316,6 +11339,10 @@ Silakan pasang data awal</translation>
     <message>
         <source>Warning</source>
         <translation>Peringatan</translation>
+    </message>
+    <message>
+        <source>Info</source>
+        <translation>Info</translation>
     </message>
 </context>
 <context>
