@@ -1,3 +1,5 @@
+#include "support/Rows.h"
+
 #include <QDir>
 #include <QDirIterator>
 #include <QHash>
@@ -93,9 +95,9 @@ class TestLayers : public QObject
 private slots:
     void includesPointDownwards_data()
     {
-        QTest::addColumn<QString>("path");
+        addColumns<QString>("path");
         for (const QString& path : sources({"*.h", "*.cpp"}))
-            QTest::newRow(qPrintable(path)) << path;
+            addRow(qPrintable(path), path);
     }
     void includesPointDownwards()
     {
@@ -112,9 +114,9 @@ private slots:
 
     void noCircleAmongRooms_data()
     {
-        QTest::addColumn<bool>("folders");
-        QTest::newRow("rooms") << false;
-        QTest::newRow("folders") << true;
+        addColumns<bool>("folders");
+        addRow("rooms", false);
+        addRow("folders", true);
     }
     /** Who reads one room needs the rooms below it, and never the whole floor. */
     void noCircleAmongRooms()
@@ -150,9 +152,9 @@ private slots:
 
     void aFormLiesBesideItsClass_data()
     {
-        QTest::addColumn<QString>("path");
+        addColumns<QString>("path");
         for (const QString& path : sources({"*.ui"}))
-            QTest::newRow(qPrintable(path)) << path;
+            addRow(qPrintable(path), path);
     }
     void aFormLiesBesideItsClass()
     {

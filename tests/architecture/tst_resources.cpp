@@ -1,3 +1,5 @@
+#include "support/Rows.h"
+
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
@@ -9,6 +11,9 @@
 namespace
 {
 QString sourceFolder() { return qEnvironmentVariable("ZAVEL_SOURCE_DIR") + QStringLiteral("/src"); }
+
+/** Anything from ":/" up to a picture's ending: in a string, in a style sheet's url() or in a form's iconset. */
+const QString pictureName = QStringLiteral(":/[A-Za-z0-9][^\"'()<>\\r\\n%]*?\\.(?:png|svg|jpe?g|gif|ico)");
 } // namespace
 
 /// The pictures are found by name at run time only; a wrong name would show as an empty button on the till.
@@ -17,75 +22,67 @@ class TestResources final : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void everyPictureThatTheProgramNamesIsOnBoard_data();
-    void everyPictureThatTheProgramNamesIsOnBoard();
-    void everyIconIsCrispOnAScreenOfTwiceTheDensity_data();
-    void everyIconIsCrispOnAScreenOfTwiceTheDensity();
+    void initTestCase()
+    {
+        Q_INIT_RESOURCE(resources);
+        QVERIFY2(QFileInfo::exists(sourceFolder()), "ZAVEL_SOURCE_DIR names the source tree");
+    }
+
+    void everyPictureThatTheProgramNamesIsOnBoard_data()
+    {
+        addColumns<QString>("usedIn");
+
+        const QRegularExpression picture(pictureName);
+        QMap<QString, QString> uses;
+        QDirIterator sources(sourceFolder(),
+                             {QStringLiteral("*.cpp"), QStringLiteral("*.h"), QStringLiteral("*.ui"),
+                              QStringLiteral("*.qss"), QStringLiteral("*.css")},
+                             QDir::Files, QDirIterator::Subdirectories);
+        while (sources.hasNext()) {
+            QFile source(sources.next());
+            QVERIFY2(source.open(QIODevice::ReadOnly), qPrintable(source.fileName()));
+            const QString text = QString::fromUtf8(source.readAll());
+            for (auto found = picture.globalMatch(text); found.hasNext();)
+                uses.insert(found.next().captured(), source.fileName());
+        }
+
+        // These come from the window and the logo of the company even where the name is composed or kept in a record.
+        for (const char* always : {":/icons/Beverage-Coffee-02.png", ":/images/logo.png", ":/images/brintel-200px.png"})
+            uses.insert(QString::fromLatin1(always), QStringLiteral("the program's start"));
+        for (auto use = uses.cbegin(); use != uses.cend(); ++use)
+            addRow(qPrintable(use.key()), use.value());
+    }
+
+    void everyPictureThatTheProgramNamesIsOnBoard()
+    {
+        QFETCH(QString, usedIn);
+        const QString name = QString::fromUtf8(QTest::currentDataTag());
+        QVERIFY2(QFile::exists(name), qPrintable(usedIn + QStringLiteral(" names a picture that does not exist")));
+        QVERIFY2(!QImage(name).isNull(), qPrintable(usedIn + QStringLiteral(" names a picture that cannot be read")));
+    }
+
+    void everyIconIsCrispOnAScreenOfTwiceTheDensity_data()
+    {
+        addColumns<QString>("name");
+        QDirIterator icons(QStringLiteral(":/icons"), QDir::Files, QDirIterator::Subdirectories);
+        while (icons.hasNext()) {
+            const QString name = icons.next();
+            if (!name.contains(QLatin1Char('@')))
+                addRow(qPrintable(name), name);
+        }
+    }
+
+    void everyIconIsCrispOnAScreenOfTwiceTheDensity()
+    {
+        QFETCH(QString, name);
+        QString dense = name;
+        dense.insert(name.lastIndexOf(QLatin1Char('.')), QStringLiteral("@2x"));
+        const QImage plain(name);
+        QVERIFY(!plain.isNull());
+        QCOMPARE(plain.width(), plain.height());
+        QCOMPARE(QImage(dense).size(), plain.size() * 2);
+    }
 };
-
-void TestResources::initTestCase()
-{
-    Q_INIT_RESOURCE(resources);
-    QVERIFY2(QFileInfo::exists(sourceFolder()), "ZAVEL_SOURCE_DIR names the source tree");
-}
-
-void TestResources::everyPictureThatTheProgramNamesIsOnBoard_data()
-{
-    QTest::addColumn<QString>("usedIn");
-
-    // Anything from ":/" up to a picture's ending: in a string, in a style sheet's url() or in a form's iconset.
-    static const QRegularExpression picture(
-        QString::fromLatin1(R"re(:/[A-Za-z0-9][^"'()<>\r\n%]*?\.(?:png|svg|jpe?g|gif|ico))re"));
-    QMap<QString, QString> uses;
-    QDirIterator sources(sourceFolder(),
-                         {QStringLiteral("*.cpp"), QStringLiteral("*.h"), QStringLiteral("*.ui"),
-                          QStringLiteral("*.qss"), QStringLiteral("*.css")},
-                         QDir::Files, QDirIterator::Subdirectories);
-    while (sources.hasNext()) {
-        QFile source(sources.next());
-        QVERIFY2(source.open(QIODevice::ReadOnly), qPrintable(source.fileName()));
-        const QString text = QString::fromUtf8(source.readAll());
-        for (auto found = picture.globalMatch(text); found.hasNext();)
-            uses.insert(found.next().captured(), source.fileName());
-    }
-
-    // These come from the window and the logo of the company even where the name is composed or kept in a record.
-    for (const char* always : {":/icons/Beverage-Coffee-02.png", ":/images/logo.png", ":/images/brintel-200px.png"})
-        uses.insert(QString::fromLatin1(always), QStringLiteral("the program's start"));
-    for (auto use = uses.cbegin(); use != uses.cend(); ++use)
-        QTest::newRow(qPrintable(use.key())) << use.value();
-}
-
-void TestResources::everyPictureThatTheProgramNamesIsOnBoard()
-{
-    QFETCH(QString, usedIn);
-    const QString name = QString::fromUtf8(QTest::currentDataTag());
-    QVERIFY2(QFile::exists(name), qPrintable(usedIn + QStringLiteral(" names a picture that does not exist")));
-    QVERIFY2(!QImage(name).isNull(), qPrintable(usedIn + QStringLiteral(" names a picture that cannot be read")));
-}
-
-void TestResources::everyIconIsCrispOnAScreenOfTwiceTheDensity_data()
-{
-    QTest::addColumn<QString>("name");
-    QDirIterator icons(QStringLiteral(":/icons"), QDir::Files, QDirIterator::Subdirectories);
-    while (icons.hasNext()) {
-        const QString name = icons.next();
-        if (!name.contains(QLatin1Char('@')))
-            QTest::newRow(qPrintable(name)) << name;
-    }
-}
-
-void TestResources::everyIconIsCrispOnAScreenOfTwiceTheDensity()
-{
-    QFETCH(QString, name);
-    QString dense = name;
-    dense.insert(name.lastIndexOf(QLatin1Char('.')), QStringLiteral("@2x"));
-    const QImage plain(name);
-    QVERIFY(!plain.isNull());
-    QCOMPARE(plain.width(), plain.height());
-    QCOMPARE(QImage(dense).size(), plain.size() * 2);
-}
 
 QTEST_GUILESS_MAIN(TestResources)
 #include "tst_resources.moc"

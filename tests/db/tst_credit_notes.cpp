@@ -6,6 +6,7 @@
 #include "pos/purchasing/purchase/EntityAcquisition.h"
 #include "pos/registry/PosMapperRegistry.h"
 #include "support/PurchasingRows.h"
+#include "support/Rows.h"
 #include "support/ShopRows.h"
 #include "support/TestDatabase.h"
 
@@ -38,28 +39,264 @@ class TestCreditNotes : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-    void theStateFollowsWhatCameBack_data();
-    void theStateFollowsWhatCameBack();
-    void everyPurchaseIsDueWhatTheBookSays_data();
-    void everyPurchaseIsDueWhatTheBookSays();
-    void whatGoesBackLeavesTheShelfAndTheJournalTells();
-    void aNoteThatFailsLeavesNothingBehind();
-    void aNoteStandsWhenItsPurchaseHasGone();
-    void twoWorkstationsReturnGoodsOfOnePurchase_data();
-    void twoWorkstationsReturnGoodsOfOnePurchase();
-    void theListIsNarrowed_data();
-    void theListIsNarrowed();
+    void init()
+    {
+        m_database = std::make_unique<TestDatabase>();
+        m_records = std::make_unique<QObject>();
+        loginAsAdmin();
+        insertShop(*m_database);
+        m_notes = service<BusinessCreditNote>("Credit Note");
+        m_inventory = service<BusinessInventory>("Inventory");
+    }
+
+    void cleanup()
+    {
+        m_notes->clearErrors();
+        m_database.reset();
+    }
+
+    void theStateFollowsWhatCameBack_data()
+    {
+        addColumns<int, int, int>("paid", "before", "after");
+        using Note = EntityCreditNote;
+        addRow("nothing yet", 0, int(Note::UNPAID), int(Note::PARTIALLY_PAID));
+        addRow("a part", 499, int(Note::FULL_PAID), int(Note::PARTIALLY_PAID));
+        addRow("all", 500, int(Note::UNPAID), int(Note::FULL_PAID));
+        addRow("more", 501, int(Note::PARTIALLY_PAID), int(Note::FULL_PAID));
+        addRow("cancelled", 500, int(Note::CANCELLED), int(Note::CANCELLED));
+    }
+
+    void theStateFollowsWhatCameBack()
+    {
+        QFETCH(int, paid);
+        QFETCH(int, before);
+        EntityCreditNote* saved = note(KorNoValue, paid);
+        saved->setStatus(before);
+        save(saved);
+        QTEST(text("SELECT status FROM credit_note").toInt(), "after");
+        QCOMPARE(text("SELECT no FROM credit_note"), QString("NR-0007"));
+    }
+
+    void everyPurchaseIsDueWhatTheBookSays_data()
+    {
+        addColumns<uint>("seed");
+        for (uint seed : {1u, 20u, 300u})
+            QTest::addRow("seed %u", seed) << seed;
+    }
+
+    void everyPurchaseIsDueWhatTheBookSays()
+    {
+        QFETCH(uint, seed);
+        std::mt19937 dice(seed);
+        const auto roll = [&dice](int sides) { return int(dice() % uint(sides)); };
+        const QList<int> purchases{purchase(), purchase(), KorNoValue};
+        QMap<int, QPair<int, int>> notes; // what each note gave, and for which purchase
+        QMap<int, Book> shown;
+        const auto reckon = [&](int purchase) {
+            shown[purchase].credits = 0;
+            for (const auto& given : qAsConst(notes))
+                shown[purchase].credits += given.second == purchase ? given.first : 0;
+        };
+        for (int step = 0; step < 40; ++step) {
+            const int target = purchases.at(roll(purchases.size()));
+            const int paid = roll(500);
+            if (notes.isEmpty() || roll(3) == 0) {
+                EntityCreditNote* added = note(target, paid);
+                save(added);
+                notes.insert(added->getId(), {paid, target});
+                reckon(target);
+                continue;
+            }
+            const int id = notes.keys().at(roll(notes.size()));
+            EntityCreditNote* changed = stored(id);
+            QVERIFY(changed);
+            if (roll(4) == 0) {
+                // What is due stays as it was until the next save of a note.
+                QVERIFY2(m_notes->remove(changed), qPrintable(m_notes->takeErrors()));
+                notes.remove(id);
+            } else {
+                const int former = notes.value(id).second;
+                changed->setAmountPaid(money(paid));
+                changed->setAcquisitionId(target);
+                // A cancelled note counts like any other.
+                if (roll(3) == 0)
+                    changed->setStatus(EntityCreditNote::CANCELLED);
+                save(changed);
+                notes[id] = {paid, target};
+                reckon(former);
+                reckon(target);
+            }
+            for (int i = 0; i < 2; ++i) {
+                const QString due =
+                    text(QString("SELECT concat_ws(' ', other_payment_amount, net_due_amount, status) FROM "
+                                 "acquisition WHERE id = %1")
+                             .arg(purchases.at(i)));
+                const Book book = shown.value(purchases.at(i));
+                QCOMPARE(due, book.credits == 0 && due.endsWith(" 3") ? QString("0 800 3") : book.text());
+            }
+        }
+    }
+
+    void whatGoesBackLeavesTheShelfAndTheJournalTells()
+    {
+        EntityCreditNote* saved = note(purchase(), 500);
+        EntityCreditNoteDetail* ofPurchase = line(3, 1);
+        EntityCreditNoteDetail* free = line(4);
+        saved->setDetails({ofPurchase, free, line(0, 1)});
+        save(saved);
+        QCOMPARE(onHand(), 20 - 7);
+        QCOMPARE(journal(),
+                 QString("1 0 3 10 2026-03-10 NR-0007, 2 0 4 10 2026-03-10 NR-0007, 3 0 0 10 2026-03-10 NR-0007"));
+
+        // Saved again after a change: what stays, what is new, what was taken off.
+        EntityCreditNote* changed = stored(saved->getId());
+        QCOMPARE(changed->getDetails().first()->getAcquisitionDetailId(), 1);
+        QCOMPARE(changed->getDetails().at(1)->getAcquisitionDetailId(), KorNoValue);
+        changed->getDetails().first()->setQtyReturned(5);
+        changed->removeDetail(changed->getDetails().at(1));
+        changed->addDetail(line(6));
+        m_database->run("DELETE FROM item_history WHERE tran_id = 3");
+        save(changed);
+        QCOMPARE(onHand(), 20 - 11);
+        QCOMPARE(journal(),
+                 QString("1 0 5 10 2026-03-10 NR-0007, 3 0 0 10 2026-03-10 NR-0007, 4 0 6 10 2026-03-10 NR-0007"));
+
+        changed = stored(saved->getId());
+        changed->setStatus(EntityCreditNote::CANCELLED);
+        save(changed);
+        QCOMPARE(onHand(), 20);
+
+        QVERIFY2(m_notes->remove(stored(saved->getId())), qPrintable(m_notes->takeErrors()));
+        QCOMPARE(text("SELECT count(*) FROM credit_note_detail"), QString("0"));
+        // The stock card goes on showing what went back.
+        QCOMPARE(journal().count("NR-0007"), 3);
+        QCOMPARE(text("SELECT other_payment_amount FROM acquisition"), QString("500"));
+    }
+
+    void aNoteThatFailsLeavesNothingBehind()
+    {
+        EntityCreditNote* failing = note(purchase(), 500);
+        failing->setDetails({line(1), line(1, KorNoValue, 99)});
+        QVERIFY(!m_notes->insert(failing));
+        QVERIFY(!m_notes->documentStands());
+        QVERIFY(m_notes->takeErrors().startsWith("error: insert credit note detail failed.\r\n"));
+        QVERIFY(!failing->isSaved());
+        QCOMPARE(text("SELECT concat((SELECT count(*) FROM credit_note), (SELECT count(*) FROM item_history), (SELECT "
+                      "next_id FROM keytable WHERE key_name = 'NR'), (SELECT other_payment_amount FROM acquisition))"),
+                 QString("0070"));
+        failing->setDetails({line(1)});
+        save(failing);
+        QCOMPARE(failing->getNo(), QString("NR-0007"));
+    }
+
+    void aNoteStandsWhenItsPurchaseHasGone()
+    {
+        QVERIFY(!m_notes->insert(note(77, 100)));
+        QVERIFY(m_notes->documentStands());
+        QCOMPARE(m_notes->errors().keys(), QStringList("updatePurchaseNetDue"));
+        QCOMPARE(m_notes->takeErrors(), QString("Can not find entity with id: 77\r\n"));
+        // The journal is written all the same.
+        QCOMPARE(journal(), QString("1 0 1 10 2026-03-10 NR-0007"));
+    }
+
+    void twoWorkstationsReturnGoodsOfOnePurchase_data()
+    {
+        addColumns<int, QString>("timesLate", "due");
+        addRow("the other one was faster twice", 2, "300 500");
+        addRow("the other one never stops", 99, "0 800");
+    }
+
+    void twoWorkstationsReturnGoodsOfOnePurchase()
+    {
+        QFETCH(int, timesLate);
+        const int returned = purchase();
+        // What is seen of a purchase that another workstation saves first: nothing is written.
+        m_database->run(QString("CREATE SEQUENCE late; CREATE FUNCTION late() RETURNS trigger AS $$ BEGIN IF "
+                                "nextval('late') <= %1 THEN RETURN NULL; END IF; RETURN NEW; END $$ LANGUAGE plpgsql; "
+                                "CREATE TRIGGER late BEFORE UPDATE ON acquisition FOR EACH ROW EXECUTE FUNCTION late()")
+                            .arg(timesLate));
+        QCOMPARE(m_notes->insert(note(returned, 300)), timesLate == 2);
+        QVERIFY(m_notes->documentStands());
+        QCOMPARE(m_notes->errors().keys(), timesLate == 2 ? QStringList() : QStringList("updatePurchaseNetDue"));
+        QTEST(text("SELECT concat_ws(' ', other_payment_amount, net_due_amount) FROM acquisition"), "due");
+    }
+
+    void theListIsNarrowed_data()
+    {
+        addColumns<int, QString, int, QString, QString>("kind", "supplier", "field", "searched", "found");
+        using Filter = PurchasingFilter;
+        addRow("all, the latest first", 0, "", int(Filter::DocumentNo), "", "NR-0008 NR-0007");
+        addRow("one state", 1, "", int(Filter::DocumentNo), "", "NR-0007");
+        addRow("one supplier", 0, "s1", int(Filter::DocumentNo), "", "NR-0008 NR-0007");
+        addRow("no such supplier", 0, "s", int(Filter::DocumentNo), "", "");
+        addRow("digits of the number", 0, "", int(Filter::DocumentNo), "0008", "NR-0008");
+        addRow("capitals of the number", 0, "", int(Filter::DocumentNo), "NR", "");
+        addRow("a part of the supplier's code", 0, "", int(Filter::SupplierCode), "S", "NR-0008 NR-0007");
+        addRow("the purchase's invoice", 0, "", int(Filter::OtherNo), "b-7", "NR-0007");
+    }
+
+    void theListIsNarrowed()
+    {
+        save(note(purchase("INV-B-77"), 500));
+        save(note(KorNoValue, 100));
+        QFETCH(QString, supplier);
+        QFETCH(QString, searched);
+        QFETCH(int, kind);
+        QFETCH(int, field);
+        const PurchasingFilter filter{today, today, kind, supplier, PurchasingFilter::Field(field), searched};
+        QStringList found;
+        const QList<EntityCreditNote*> notes = m_notes->findAll(filter);
+        for (const EntityCreditNote* one : notes)
+            found.append(one->getNo());
+        QVERIFY2(!m_notes->hasError(), qPrintable(m_notes->takeErrors()));
+        QTEST(found.join(' '), "found");
+    }
 
 private:
     Money* money(double amount) { return new Money(m_records.get(), amount, "Rp"); }
     template <class Entity>
-    Entity* known(int id);
-    EntityCreditNoteDetail* line(int quantity, int purchaseLine = KorNoValue, int item = 1);
-    EntityCreditNote* note(int purchaseId, int paid, int total = 500);
+    Entity* known(int id)
+    {
+        auto* entity = new Entity(m_records.get());
+        entity->setId(id);
+        return entity;
+    }
+
+    EntityCreditNoteDetail* line(int quantity, int purchaseLine = KorNoValue, int item = 1)
+    {
+        auto* line = new EntityCreditNoteDetail(m_records.get());
+        line->setItem(known<EntityItem>(item));
+        line->setQtyReturned(quantity);
+        line->setAcquisitionDetailId(purchaseLine);
+        line->setPriceEach(money(10));
+        line->setDiscount(money(0));
+        line->recomputeTotal();
+        return line;
+    }
+
+    EntityCreditNote* note(int purchaseId, int paid, int total = 500)
+    {
+        auto* note = new EntityCreditNote(m_records.get());
+        note->setDate(today);
+        note->setSupplier(known<EntitySupplier>(1));
+        note->setBank(known<EntityBank>(1));
+        note->setAcquisitionId(purchaseId);
+        note->setSubtotal(money(total));
+        note->setDiscount(money(0));
+        note->setGrandTotal(money(total));
+        note->setAmountPaid(money(paid));
+        note->setChange(money(paid - total));
+        note->setDetails({line(1)});
+        return note;
+    }
+
     EntityCreditNote* stored(int id) { return static_cast<EntityCreditNote*>(m_notes->find(id)); }
-    void save(EntityCreditNote* note);
+    void save(EntityCreditNote* note)
+    {
+        const bool saved = note->isSaved() ? m_notes->update(note) : m_notes->insert(note);
+        QVERIFY2(saved, qPrintable(m_notes->takeErrors()));
+    }
+
     int purchase(const QString& invoiceNo = QString())
     {
         PurchaseRow row;
@@ -83,275 +320,6 @@ private:
     BusinessCreditNote* m_notes = nullptr;
     BusinessInventory* m_inventory = nullptr;
 };
-
-void TestCreditNotes::init()
-{
-    m_database = std::make_unique<TestDatabase>();
-    m_records = std::make_unique<QObject>();
-    loginAsAdmin();
-    insertShop(*m_database);
-    m_notes = service<BusinessCreditNote>("Credit Note");
-    m_inventory = service<BusinessInventory>("Inventory");
-}
-
-void TestCreditNotes::cleanup()
-{
-    m_notes->clearErrors();
-    m_database.reset();
-}
-
-template <class Entity>
-Entity* TestCreditNotes::known(int id)
-{
-    auto* entity = new Entity(m_records.get());
-    entity->setId(id);
-    return entity;
-}
-
-EntityCreditNoteDetail* TestCreditNotes::line(int quantity, int purchaseLine, int item)
-{
-    auto* line = new EntityCreditNoteDetail(m_records.get());
-    line->setItem(known<EntityItem>(item));
-    line->setQtyReturned(quantity);
-    line->setAcquisitionDetailId(purchaseLine);
-    line->setPriceEach(money(10));
-    line->setDiscount(money(0));
-    line->recomputeTotal();
-    return line;
-}
-
-EntityCreditNote* TestCreditNotes::note(int purchaseId, int paid, int total)
-{
-    auto* note = new EntityCreditNote(m_records.get());
-    note->setDate(today);
-    note->setSupplier(known<EntitySupplier>(1));
-    note->setBank(known<EntityBank>(1));
-    note->setAcquisitionId(purchaseId);
-    note->setSubtotal(money(total));
-    note->setDiscount(money(0));
-    note->setGrandTotal(money(total));
-    note->setAmountPaid(money(paid));
-    note->setChange(money(paid - total));
-    note->setDetails({line(1)});
-    return note;
-}
-
-void TestCreditNotes::save(EntityCreditNote* note)
-{
-    const bool saved = note->isSaved() ? m_notes->update(note) : m_notes->insert(note);
-    QVERIFY2(saved, qPrintable(m_notes->takeErrors()));
-}
-
-void TestCreditNotes::theStateFollowsWhatCameBack_data()
-{
-    QTest::addColumn<int>("paid");
-    QTest::addColumn<int>("before");
-    QTest::addColumn<int>("after");
-    using Note = EntityCreditNote;
-    QTest::newRow("nothing yet") << 0 << int(Note::UNPAID) << int(Note::PARTIALLY_PAID);
-    QTest::newRow("a part") << 499 << int(Note::FULL_PAID) << int(Note::PARTIALLY_PAID);
-    QTest::newRow("all") << 500 << int(Note::UNPAID) << int(Note::FULL_PAID);
-    QTest::newRow("more") << 501 << int(Note::PARTIALLY_PAID) << int(Note::FULL_PAID);
-    QTest::newRow("cancelled") << 500 << int(Note::CANCELLED) << int(Note::CANCELLED);
-}
-
-void TestCreditNotes::theStateFollowsWhatCameBack()
-{
-    QFETCH(int, paid);
-    QFETCH(int, before);
-    EntityCreditNote* saved = note(KorNoValue, paid);
-    saved->setStatus(before);
-    save(saved);
-    QTEST(text("SELECT status FROM credit_note").toInt(), "after");
-    QCOMPARE(text("SELECT no FROM credit_note"), QString("NR-0007"));
-}
-
-void TestCreditNotes::everyPurchaseIsDueWhatTheBookSays_data()
-{
-    QTest::addColumn<uint>("seed");
-    for (uint seed : {1u, 20u, 300u})
-        QTest::addRow("seed %u", seed) << seed;
-}
-
-void TestCreditNotes::everyPurchaseIsDueWhatTheBookSays()
-{
-    QFETCH(uint, seed);
-    std::mt19937 dice(seed);
-    const auto roll = [&dice](int sides) { return int(dice() % uint(sides)); };
-    const QList<int> purchases{purchase(), purchase(), KorNoValue};
-    QMap<int, QPair<int, int>> notes; // what each note gave, and for which purchase
-    QMap<int, Book> shown;
-    const auto reckon = [&](int purchase) {
-        shown[purchase].credits = 0;
-        for (const auto& given : qAsConst(notes))
-            shown[purchase].credits += given.second == purchase ? given.first : 0;
-    };
-    for (int step = 0; step < 40; ++step) {
-        const int target = purchases.at(roll(purchases.size()));
-        const int paid = roll(500);
-        if (notes.isEmpty() || roll(3) == 0) {
-            EntityCreditNote* added = note(target, paid);
-            save(added);
-            notes.insert(added->getId(), {paid, target});
-            reckon(target);
-            continue;
-        }
-        const int id = notes.keys().at(roll(notes.size()));
-        EntityCreditNote* changed = stored(id);
-        QVERIFY(changed);
-        if (roll(4) == 0) {
-            // What is due stays as it was until the next save of a note.
-            QVERIFY2(m_notes->remove(changed), qPrintable(m_notes->takeErrors()));
-            notes.remove(id);
-        } else {
-            const int former = notes.value(id).second;
-            changed->setAmountPaid(money(paid));
-            changed->setAcquisitionId(target);
-            // A cancelled note counts like any other.
-            if (roll(3) == 0)
-                changed->setStatus(EntityCreditNote::CANCELLED);
-            save(changed);
-            notes[id] = {paid, target};
-            reckon(former);
-            reckon(target);
-        }
-        for (int i = 0; i < 2; ++i) {
-            const QString due = text(QString("SELECT concat_ws(' ', other_payment_amount, net_due_amount, status) FROM "
-                                             "acquisition WHERE id = %1")
-                                         .arg(purchases.at(i)));
-            const Book book = shown.value(purchases.at(i));
-            QCOMPARE(due, book.credits == 0 && due.endsWith(" 3") ? QString("0 800 3") : book.text());
-        }
-    }
-}
-
-void TestCreditNotes::whatGoesBackLeavesTheShelfAndTheJournalTells()
-{
-    EntityCreditNote* saved = note(purchase(), 500);
-    EntityCreditNoteDetail* ofPurchase = line(3, 1);
-    EntityCreditNoteDetail* free = line(4);
-    saved->setDetails({ofPurchase, free, line(0, 1)});
-    save(saved);
-    QCOMPARE(onHand(), 20 - 7);
-    QCOMPARE(journal(),
-             QString("1 0 3 10 2026-03-10 NR-0007, 2 0 4 10 2026-03-10 NR-0007, 3 0 0 10 2026-03-10 NR-0007"));
-
-    // Saved again after a change: what stays, what is new, what was taken off.
-    EntityCreditNote* changed = stored(saved->getId());
-    QCOMPARE(changed->getDetails().first()->getAcquisitionDetailId(), 1);
-    QCOMPARE(changed->getDetails().at(1)->getAcquisitionDetailId(), KorNoValue);
-    changed->getDetails().first()->setQtyReturned(5);
-    changed->removeDetail(changed->getDetails().at(1));
-    changed->addDetail(line(6));
-    m_database->run("DELETE FROM item_history WHERE tran_id = 3");
-    save(changed);
-    QCOMPARE(onHand(), 20 - 11);
-    QCOMPARE(journal(),
-             QString("1 0 5 10 2026-03-10 NR-0007, 3 0 0 10 2026-03-10 NR-0007, 4 0 6 10 2026-03-10 NR-0007"));
-
-    changed = stored(saved->getId());
-    changed->setStatus(EntityCreditNote::CANCELLED);
-    save(changed);
-    QCOMPARE(onHand(), 20);
-
-    QVERIFY2(m_notes->remove(stored(saved->getId())), qPrintable(m_notes->takeErrors()));
-    QCOMPARE(text("SELECT count(*) FROM credit_note_detail"), QString("0"));
-    // The stock card goes on showing what went back.
-    QCOMPARE(journal().count("NR-0007"), 3);
-    QCOMPARE(text("SELECT other_payment_amount FROM acquisition"), QString("500"));
-}
-
-void TestCreditNotes::aNoteThatFailsLeavesNothingBehind()
-{
-    EntityCreditNote* failing = note(purchase(), 500);
-    failing->setDetails({line(1), line(1, KorNoValue, 99)});
-    QVERIFY(!m_notes->insert(failing));
-    QVERIFY(!m_notes->documentStands());
-    QVERIFY(m_notes->takeErrors().startsWith("error: insert credit note detail failed.\r\n"));
-    QVERIFY(!failing->isSaved());
-    QCOMPARE(text("SELECT concat((SELECT count(*) FROM credit_note), (SELECT count(*) FROM item_history), (SELECT "
-                  "next_id FROM keytable WHERE key_name = 'NR'), (SELECT other_payment_amount FROM acquisition))"),
-             QString("0070"));
-    failing->setDetails({line(1)});
-    save(failing);
-    QCOMPARE(failing->getNo(), QString("NR-0007"));
-}
-
-void TestCreditNotes::aNoteStandsWhenItsPurchaseHasGone()
-{
-    QVERIFY(!m_notes->insert(note(77, 100)));
-    QVERIFY(m_notes->documentStands());
-    QCOMPARE(m_notes->errors().keys(), QStringList("updatePurchaseNetDue"));
-    QCOMPARE(m_notes->takeErrors(), QString("Can not find entity with id: 77\r\n"));
-    // The journal is written all the same.
-    QCOMPARE(journal(), QString("1 0 1 10 2026-03-10 NR-0007"));
-}
-
-void TestCreditNotes::twoWorkstationsReturnGoodsOfOnePurchase_data()
-{
-    QTest::addColumn<int>("timesLate");
-    QTest::addColumn<QString>("due");
-    QTest::newRow("the other one was faster twice") << 2 << "300 500";
-    QTest::newRow("the other one never stops") << 99 << "0 800";
-}
-
-void TestCreditNotes::twoWorkstationsReturnGoodsOfOnePurchase()
-{
-    QFETCH(int, timesLate);
-    const int returned = purchase();
-    // What is seen of a purchase that another workstation saves first: nothing is written.
-    m_database->run(QString("CREATE SEQUENCE late; CREATE FUNCTION late() RETURNS trigger AS $$ BEGIN IF "
-                            "nextval('late') <= %1 THEN RETURN NULL; END IF; RETURN NEW; END $$ LANGUAGE plpgsql; "
-                            "CREATE TRIGGER late BEFORE UPDATE ON acquisition FOR EACH ROW EXECUTE FUNCTION late()")
-                        .arg(timesLate));
-    QCOMPARE(m_notes->insert(note(returned, 300)), timesLate == 2);
-    QVERIFY(m_notes->documentStands());
-    QCOMPARE(m_notes->errors().keys(), timesLate == 2 ? QStringList() : QStringList("updatePurchaseNetDue"));
-    QTEST(text("SELECT concat_ws(' ', other_payment_amount, net_due_amount) FROM acquisition"), "due");
-}
-
-void TestCreditNotes::theListIsNarrowed_data()
-{
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<QString>("supplier");
-    QTest::addColumn<int>("field");
-    QTest::addColumn<QString>("searched");
-    QTest::addColumn<QString>("found");
-    using Filter = PurchasingFilter;
-    QTest::newRow("all, the latest first") << 0 << "" << int(Filter::DocumentNo) << ""
-                                           << "NR-0008 NR-0007";
-    QTest::newRow("one state") << 1 << "" << int(Filter::DocumentNo) << ""
-                               << "NR-0007";
-    QTest::newRow("one supplier") << 0 << "s1" << int(Filter::DocumentNo) << ""
-                                  << "NR-0008 NR-0007";
-    QTest::newRow("no such supplier") << 0 << "s" << int(Filter::DocumentNo) << ""
-                                      << "";
-    QTest::newRow("digits of the number") << 0 << "" << int(Filter::DocumentNo) << "0008"
-                                          << "NR-0008";
-    QTest::newRow("capitals of the number") << 0 << "" << int(Filter::DocumentNo) << "NR"
-                                            << "";
-    QTest::newRow("a part of the supplier's code") << 0 << "" << int(Filter::SupplierCode) << "S"
-                                                   << "NR-0008 NR-0007";
-    QTest::newRow("the purchase's invoice") << 0 << "" << int(Filter::OtherNo) << "b-7"
-                                            << "NR-0007";
-}
-
-void TestCreditNotes::theListIsNarrowed()
-{
-    save(note(purchase("INV-B-77"), 500));
-    save(note(KorNoValue, 100));
-    QFETCH(QString, supplier);
-    QFETCH(QString, searched);
-    QFETCH(int, kind);
-    QFETCH(int, field);
-    const PurchasingFilter filter{today, today, kind, supplier, PurchasingFilter::Field(field), searched};
-    QStringList found;
-    const QList<EntityCreditNote*> notes = m_notes->findAll(filter);
-    for (const EntityCreditNote* one : notes)
-        found.append(one->getNo());
-    QVERIFY2(!m_notes->hasError(), qPrintable(m_notes->takeErrors()));
-    QTEST(found.join(' '), "found");
-}
 
 QTEST_MAIN(TestCreditNotes)
 #include "tst_credit_notes.moc"

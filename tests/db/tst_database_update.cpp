@@ -1,5 +1,6 @@
 #include "app/context/AppContext.h"
 #include "support/InstallerRun.h"
+#include "support/Rows.h"
 #include "support/TestDatabase.h"
 
 #include <QTest>
@@ -23,16 +24,129 @@ private slots:
     }
     void cleanup() { m_database.reset(); }
 
-    void anUpdateIsDueForAnOlderDatabaseOnly_data();
-    void anUpdateIsDueForAnOlderDatabaseOnly();
-    void anUpToDateDatabaseKeepsItsRows();
-    void migrationsBelowTheStartingVersionAreLeftOut();
-    void theVersionIsRaisedOnlyWhereThereIsOne();
-    void aNewPermissionIsAddedAndOldGrantsStay();
-    void aNewServiceIsAddedWithItsPermissions();
-    void withoutAdministratorsNobodyGetsANewPermission();
-    void missingIndexesAreMadeAgain();
-    void aTableThatIsMissingIsToldAndTheRestGoesOn();
+    void anUpdateIsDueForAnOlderDatabaseOnly_data()
+    {
+        addColumns<QString, bool>("change", "due");
+        addRow("just installed", "", false);
+        addRow("older", "UPDATE appconfig SET appvalue = '1.0' WHERE appkey = 'app_version'", true);
+        addRow("newer", "UPDATE appconfig SET appvalue = '1.2' WHERE appkey = 'app_version'", false);
+        addRow("unreadable", "UPDATE appconfig SET appvalue = 'x' WHERE appkey = 'app_version'", true);
+        addRow("unknown", "DELETE FROM appconfig WHERE appkey = 'app_version'", false);
+    }
+
+    void anUpdateIsDueForAnOlderDatabaseOnly()
+    {
+        QFETCH(QString, change);
+        if (!change.isEmpty())
+            m_database->run(change);
+        ZavelInstaller installer;
+        QTEST(installer.isUpdateNeeded(), "due");
+    }
+
+    void anUpToDateDatabaseKeepsItsRows()
+    {
+        const QString rows =
+            "select string_agg(md5(query_to_xml('select * from ' || tablename || ' order by id', true, "
+            "false, '')::text), ' ' order by tablename) from pg_tables where schemaname = 'public' and "
+            "tablename <> 'appconfig'";
+        const QString before = m_database->value(rows).toString();
+        const InstallerRun run(KorInstaller::UpdateInstall);
+        QCOMPARE(run.failures, knownComplaints);
+        QVERIFY(run.lines.contains("[25%] acquisition error: "));
+        QVERIFY(run.lines.contains("[25%] appconfig installed"));
+        QCOMPARE(run.lines.last(), QString("[100%] Done. Please restart the app"));
+        QCOMPARE(m_database->value(rows).toString(), before);
+        QCOMPARE(version(), QString("1.1"));
+    }
+
+    void migrationsBelowTheStartingVersionAreLeftOut()
+    {
+        m_database->run("ALTER TABLE meja ALTER COLUMN kode TYPE varchar(10)");
+        const InstallerRun run(KorInstaller::UpdateInstall, [](ZavelInstaller& installer) {
+            QCOMPARE(installer.getFromVersion(), 0.0);
+            installer.setFromVersion(1.2);
+        });
+        QCOMPARE(run.failures, QStringList());
+        QCOMPARE(widthOfTableCodes(), QString("10"));
+    }
+
+    void theVersionIsRaisedOnlyWhereThereIsOne()
+    {
+        m_database->run("DELETE FROM appconfig WHERE appkey = 'app_version'");
+        const InstallerRun run(KorInstaller::UpdateInstall);
+        QCOMPARE(run.failures, knownComplaints);
+        QCOMPARE(m_database->value("select count(*) from appconfig where appkey = 'app_version'").toInt(), 0);
+    }
+
+    void aNewPermissionIsAddedAndOldGrantsStay()
+    {
+        m_database->run("DELETE FROM access WHERE permission_id = (SELECT id FROM permissions WHERE permission_name = "
+                        "'Add table')");
+        m_database->run("DELETE FROM permissions WHERE permission_name = 'Add table'");
+        m_database->run("UPDATE access SET grant_type = 0 WHERE permission_id = (SELECT id FROM permissions WHERE "
+                        "permission_name = 'Delete table')");
+        m_database->run("INSERT INTO access (group_id, permission_id, grant_type, version) SELECT 3, id, 1, 1 FROM "
+                        "permissions WHERE permission_name = 'Update table'");
+        const InstallerRun run(KorInstaller::UpdateInstall);
+        QCOMPARE(run.failures, knownComplaints);
+        QCOMPARE(grantOf("Add table"), QString("admin 2"));
+        QCOMPARE(grantOf("Delete table"), QString("admin 0"));
+        QCOMPARE(grantOf("Update table"), QString("admin 2, kasir 1"));
+        QCOMPARE(m_database
+                     ->value("select count(*) from permissions join business on business.id = business_id where "
+                             "business.name = 'Table'")
+                     .toInt(),
+                 3);
+    }
+
+    void aNewServiceIsAddedWithItsPermissions()
+    {
+        m_database->run("DELETE FROM access WHERE permission_id = (SELECT id FROM permissions WHERE permission_name = "
+                        "'Manage unit')");
+        m_database->run("DELETE FROM permissions WHERE permission_name = 'Manage unit'");
+        m_database->run("DELETE FROM business WHERE name = 'Unit'");
+        const InstallerRun run(KorInstaller::UpdateInstall);
+        QCOMPARE(run.failures, knownComplaints);
+        QCOMPARE(m_database->value("select count(*) from business where name = 'Unit'").toInt(), 1);
+        QCOMPARE(grantOf("Manage unit"), QString("admin 2"));
+    }
+
+    void withoutAdministratorsNobodyGetsANewPermission()
+    {
+        m_database->run("UPDATE user_group SET name = 'owners' WHERE name = 'admin'");
+        m_database->run("DELETE FROM access");
+        m_database->run("DELETE FROM permissions WHERE permission_name = 'Add table'");
+        const InstallerRun run(KorInstaller::UpdateInstall);
+        QCOMPARE(run.failures, knownComplaints);
+        QCOMPARE(m_database->value("select count(*) from permissions where permission_name = 'Add table'").toInt(), 1);
+        QCOMPARE(m_database->value("select count(*) from access").toInt(), 0);
+    }
+
+    void missingIndexesAreMadeAgain()
+    {
+        const QString named = "select string_agg(indexdef, E'\\n' order by indexname) from pg_indexes where indexname "
+                              "like '%\\_idx'";
+        const QString before = m_database->value(named).toString();
+        m_database->run("DO $$ DECLARE i text; BEGIN FOR i IN SELECT indexname FROM pg_indexes WHERE indexname LIKE "
+                        "'%\\_idx' LOOP EXECUTE 'DROP INDEX ' || i; END LOOP; END $$");
+        QVERIFY(m_database->value(named).toString().isEmpty());
+        const InstallerRun run(KorInstaller::UpdateInstall);
+        QCOMPARE(run.failures, knownComplaints);
+        QCOMPARE(m_database->value(named).toString(), before);
+    }
+
+    void aTableThatIsMissingIsToldAndTheRestGoesOn()
+    {
+        m_database->run("DROP TABLE meja CASCADE");
+        m_database->run("DROP TABLE invoice_detail CASCADE");
+        m_database->run("UPDATE appconfig SET appvalue = '1' WHERE appkey = 'app_version'");
+        const InstallerRun run(KorInstaller::UpdateInstall);
+        QStringList told;
+        for (const QString& failure : run.failures)
+            told.append(failure.section(' ', 0, 0));
+        QCOMPARE(told, (QStringList{"permissions", "acquisition", "invoice_detail", "meja"}));
+        QCOMPARE(version(), QString("1.1"));
+    }
 
 private:
     [[nodiscard]] QString version() const
@@ -58,130 +172,6 @@ private:
 
     std::unique_ptr<TestDatabase> m_database;
 };
-
-void TestDatabaseUpdate::anUpdateIsDueForAnOlderDatabaseOnly_data()
-{
-    QTest::addColumn<QString>("change");
-    QTest::addColumn<bool>("due");
-    QTest::newRow("just installed") << "" << false;
-    QTest::newRow("older") << "UPDATE appconfig SET appvalue = '1.0' WHERE appkey = 'app_version'" << true;
-    QTest::newRow("newer") << "UPDATE appconfig SET appvalue = '1.2' WHERE appkey = 'app_version'" << false;
-    QTest::newRow("unreadable") << "UPDATE appconfig SET appvalue = 'x' WHERE appkey = 'app_version'" << true;
-    QTest::newRow("unknown") << "DELETE FROM appconfig WHERE appkey = 'app_version'" << false;
-}
-
-void TestDatabaseUpdate::anUpdateIsDueForAnOlderDatabaseOnly()
-{
-    QFETCH(QString, change);
-    if (!change.isEmpty())
-        m_database->run(change);
-    ZavelInstaller installer;
-    QTEST(installer.isUpdateNeeded(), "due");
-}
-
-void TestDatabaseUpdate::anUpToDateDatabaseKeepsItsRows()
-{
-    const QString rows = "select string_agg(md5(query_to_xml('select * from ' || tablename || ' order by id', true, "
-                         "false, '')::text), ' ' order by tablename) from pg_tables where schemaname = 'public' and "
-                         "tablename <> 'appconfig'";
-    const QString before = m_database->value(rows).toString();
-    const InstallerRun run(KorInstaller::UpdateInstall);
-    QCOMPARE(run.failures, knownComplaints);
-    QVERIFY(run.lines.contains("[25%] acquisition error: "));
-    QVERIFY(run.lines.contains("[25%] appconfig installed"));
-    QCOMPARE(run.lines.last(), QString("[100%] Done. Please restart the app"));
-    QCOMPARE(m_database->value(rows).toString(), before);
-    QCOMPARE(version(), QString("1.1"));
-}
-
-void TestDatabaseUpdate::migrationsBelowTheStartingVersionAreLeftOut()
-{
-    m_database->run("ALTER TABLE meja ALTER COLUMN kode TYPE varchar(10)");
-    const InstallerRun run(KorInstaller::UpdateInstall, [](ZavelInstaller& installer) {
-        QCOMPARE(installer.getFromVersion(), 0.0);
-        installer.setFromVersion(1.2);
-    });
-    QCOMPARE(run.failures, QStringList());
-    QCOMPARE(widthOfTableCodes(), QString("10"));
-}
-
-void TestDatabaseUpdate::theVersionIsRaisedOnlyWhereThereIsOne()
-{
-    m_database->run("DELETE FROM appconfig WHERE appkey = 'app_version'");
-    const InstallerRun run(KorInstaller::UpdateInstall);
-    QCOMPARE(run.failures, knownComplaints);
-    QCOMPARE(m_database->value("select count(*) from appconfig where appkey = 'app_version'").toInt(), 0);
-}
-
-void TestDatabaseUpdate::aNewPermissionIsAddedAndOldGrantsStay()
-{
-    m_database->run("DELETE FROM access WHERE permission_id = (SELECT id FROM permissions WHERE permission_name = "
-                    "'Add table')");
-    m_database->run("DELETE FROM permissions WHERE permission_name = 'Add table'");
-    m_database->run("UPDATE access SET grant_type = 0 WHERE permission_id = (SELECT id FROM permissions WHERE "
-                    "permission_name = 'Delete table')");
-    m_database->run("INSERT INTO access (group_id, permission_id, grant_type, version) SELECT 3, id, 1, 1 FROM "
-                    "permissions WHERE permission_name = 'Update table'");
-    const InstallerRun run(KorInstaller::UpdateInstall);
-    QCOMPARE(run.failures, knownComplaints);
-    QCOMPARE(grantOf("Add table"), QString("admin 2"));
-    QCOMPARE(grantOf("Delete table"), QString("admin 0"));
-    QCOMPARE(grantOf("Update table"), QString("admin 2, kasir 1"));
-    QCOMPARE(m_database
-                 ->value("select count(*) from permissions join business on business.id = business_id where "
-                         "business.name = 'Table'")
-                 .toInt(),
-             3);
-}
-
-void TestDatabaseUpdate::aNewServiceIsAddedWithItsPermissions()
-{
-    m_database->run("DELETE FROM access WHERE permission_id = (SELECT id FROM permissions WHERE permission_name = "
-                    "'Manage unit')");
-    m_database->run("DELETE FROM permissions WHERE permission_name = 'Manage unit'");
-    m_database->run("DELETE FROM business WHERE name = 'Unit'");
-    const InstallerRun run(KorInstaller::UpdateInstall);
-    QCOMPARE(run.failures, knownComplaints);
-    QCOMPARE(m_database->value("select count(*) from business where name = 'Unit'").toInt(), 1);
-    QCOMPARE(grantOf("Manage unit"), QString("admin 2"));
-}
-
-void TestDatabaseUpdate::withoutAdministratorsNobodyGetsANewPermission()
-{
-    m_database->run("UPDATE user_group SET name = 'owners' WHERE name = 'admin'");
-    m_database->run("DELETE FROM access");
-    m_database->run("DELETE FROM permissions WHERE permission_name = 'Add table'");
-    const InstallerRun run(KorInstaller::UpdateInstall);
-    QCOMPARE(run.failures, knownComplaints);
-    QCOMPARE(m_database->value("select count(*) from permissions where permission_name = 'Add table'").toInt(), 1);
-    QCOMPARE(m_database->value("select count(*) from access").toInt(), 0);
-}
-
-void TestDatabaseUpdate::missingIndexesAreMadeAgain()
-{
-    const QString named = "select string_agg(indexdef, E'\\n' order by indexname) from pg_indexes where indexname "
-                          "like '%\\_idx'";
-    const QString before = m_database->value(named).toString();
-    m_database->run("DO $$ DECLARE i text; BEGIN FOR i IN SELECT indexname FROM pg_indexes WHERE indexname LIKE "
-                    "'%\\_idx' LOOP EXECUTE 'DROP INDEX ' || i; END LOOP; END $$");
-    QVERIFY(m_database->value(named).toString().isEmpty());
-    const InstallerRun run(KorInstaller::UpdateInstall);
-    QCOMPARE(run.failures, knownComplaints);
-    QCOMPARE(m_database->value(named).toString(), before);
-}
-
-void TestDatabaseUpdate::aTableThatIsMissingIsToldAndTheRestGoesOn()
-{
-    m_database->run("DROP TABLE meja CASCADE");
-    m_database->run("DROP TABLE invoice_detail CASCADE");
-    m_database->run("UPDATE appconfig SET appvalue = '1' WHERE appkey = 'app_version'");
-    const InstallerRun run(KorInstaller::UpdateInstall);
-    QStringList told;
-    for (const QString& failure : run.failures)
-        told.append(failure.section(' ', 0, 0));
-    QCOMPARE(told, (QStringList{"permissions", "acquisition", "invoice_detail", "meja"}));
-    QCOMPARE(version(), QString("1.1"));
-}
 
 QTEST_MAIN(TestDatabaseUpdate)
 #include "tst_database_update.moc"

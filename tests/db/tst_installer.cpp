@@ -8,6 +8,7 @@
 #include "pos/masterdata/company/EntityDataPerusahaan.h"
 #include "pos/printing/configuration/BusinessPrinterConfig.h"
 #include "support/InstallerRun.h"
+#include "support/Rows.h"
 #include "support/TestDatabase.h"
 
 #include <QEventLoop>
@@ -76,351 +77,338 @@ private slots:
     void initTestCase() { m_installed = std::make_unique<TestDatabase>(); }
     void cleanupTestCase() { m_installed.reset(); }
     void init() { AppContext::instance()->setCurrentUser(nullptr); }
-    void aNewRestaurantFindsItsFirstRows_data();
-    void aNewRestaurantFindsItsFirstRows();
-    void everyServiceHasItsPermissions_data();
-    void everyServiceHasItsPermissions();
-    void administratorsMayDoEverythingAndNobodyElseAnything();
-    void theFirstUsersCanLogIn_data();
-    void theFirstUsersCanLogIn();
-    void theFirstBillsHaveALogoAndAPrinter();
-    void theOwnerChoosesNamePasswordLocaleAndDateFormat();
-    void theInstallationTellsHowFarItIs();
-    void aWorkerThreadLaysDownTheSameWhileTheWindowLives();
-    void aSecondFreshInstallationReplacesEverything();
-    void aTableThatFailsIsToldAndTheRestGoesOn();
-    void aRowThatFailsIsToldAndTheRestGoesOn();
-    void withoutAServerTheInstallationSaysSoAndEnds();
+    void aNewRestaurantFindsItsFirstRows_data()
+    {
+        addColumns<QString, QString, QStringList>("table", "columns", "expected");
+
+        const auto row = [](const char* table, const char* columns, const QStringList& expected) {
+            addRow(table, QString(table), QString(columns), expected);
+        };
+        row("user_group", "name", {"admin", "operator", "kasir"});
+        row("users", "first_name, last_name, username, user_group_id, currency",
+            {"admin|pos|admin|1|$", "operator|dewi|dewi|2|$"});
+        row("appconfig where appkey <> 'reports'", "appkey, is_json",
+            {"localization|true", "cashier_printer|true", "app_version|false", "kitchen_printer_1|true"});
+        row("data_perusahaan", "nama_perusahaan", {"Brintel"});
+        row("images", "image_name", {"company_logo"});
+        row("bank", "kode, nama, account_type, active",
+            {"1010|Cash on Hand|1|true", "1020|Checking Account|1|true", "5000|Cost of Sales|9|true",
+             "1200|Inventory|8|true", "2000|Accounts Payable|2|true", "1100|Account Receivable|3|true",
+             "6650|Commisions and Fees Expense|5|true", "4050|Sales of Materials|4|true"});
+        row("jenis_item", "kode, nama", {"mkn|Foods", "mnm|Drinks"});
+        row("satuan", "kode, nama", {"kg|Kilogram", "pcs|Packs"});
+        row("supplier", "kode, nama, alamat <> '', telp <> '', email <> ''",
+            {"SUP1|PT Supplier 1|true|true|true", "SUP2|PT Supplier 2|true|true|true"});
+        const QString rest = "|1|1|$|%1|$|%2|4050|1200|5000";
+        row("item",
+            "kode, nama, item_type, is_group, jenis, satuan, harga_beli_currency, harga_beli_amount, "
+            "harga_jual_lokal_currency, harga_jual_lokal_amount, sales_acct_code, inventory_acct_code, "
+            "cost_of_sales_acct_code",
+            {"aym|Fried Chicken|1|false" + rest.arg(1).arg(2), "ns|Rice|1|false" + rest.arg(1).arg(2),
+             "fr|Fried Rice|2|true" + rest.arg(3).arg(5),
+             "llp|Rice with fresh vegetables|2|true" + rest.arg(4).arg(6)});
+        row("stok_awal", "item_id, jumlah", {"1|0", "2|0", "3|0", "4|0"});
+        row("grouped_item", "parent_id, original_item_id, jumlah", {"3|2|2", "3|1|1"});
+        row("keytable", "key_name, format, description, next_id, increment_by, no_zero",
+            {"PO|POMMyy|Purchase Order Key|1|1|4", "NB|NBMMyy|Purchases Key|1|1|4", "NR|NRMMyy|Credit Note Key|1|1|4",
+             "TPH|TPHMMyy|Payment Key|1|1|4", "KK|KKMMyy|Cash Flow Key|1|1|4",
+             "TR|TRMMyy|Accounting Transaction Key|1|1|4", "TRD|TRDMMyy|Dine Invoice Key|1|1|4",
+             "TRF|TRFMMyy|Fast Food Invoice Key|1|1|4", "TRP|TRPMMyy|Take Away Food Invoice Key|1|1|4",
+             "PIU|PIUMMyy|Credit Key|1|1|4", "KAG|KAGMMyy|Agent Commission Key|1|1|4"});
+        row("member", "kode, nama, alamat <> '', telp <> '', email <> ''", {"m123|member 1|true|true|true"});
+        row("employee", "kode, nama, alamat <> '', telp <> '', email <> ''", {"emp1|Waitress 1|true|true|true"});
+        row("agent", "kode, nama <> '', alamat <> '', telp <> '', email <> ''", {"agent1|true|true|true|true"});
+        row("meja", "kode, nama", {"m1|Table 1", "m2|Table 2"});
+        // The types behind these are further ones, whose cuts have no zero byte that would end them.
+        row("printer_type where id <= 3", "printer_type, cash_drawer_cmd, cut_papper_cmd",
+            {"EPSON-TM-T88III|27#112#0#25#250|27#109", "EPSON-TM-U220|27#112#0#25#250|27#112#0#75#25",
+             "GENERIC-ESC-POS|27#112#0#60#120|29#V#66#0"});
+        row("printer_type where id > 3 and cut_papper_cmd ~ '(^|#)0*(#|$)'", "printer_type", {""});
+    }
+
+    void aNewRestaurantFindsItsFirstRows()
+    {
+        QFETCH(QString, table);
+        QFETCH(QString, columns);
+        QFETCH(QStringList, expected);
+        const QString found =
+            m_installed
+                ->value(
+                    QString("select string_agg(concat_ws('|', %1), E'\\n' order by id) from %2").arg(columns, table))
+                .toString();
+        const auto plain = [](QString text) {
+            // The server writes a truth value as one letter.
+            return text.replace(QRegExp("\\|t(?=\\||\\n|$)"), "|true").replace(QRegExp("\\|f(?=\\||\\n|$)"), "|false");
+        };
+        QCOMPARE(plain(found).split('\n'), expected);
+    }
+
+    void everyServiceHasItsPermissions_data()
+    {
+        addColumns<QString>("permissions");
+
+        const auto row = [](const char* service, const char* permissions) { addRow(service, QString(permissions)); };
+        row("Configuration", "0 Manage Configurations");
+        row("Permission", "");
+        row("User Access", "0 Update user access");
+        row("User", "0 Create a new user, 1 Update user, 2 Delete user");
+        row("KeyTable", "2 Update Key");
+        row("User Group", "0 Create a new user group, 1 Update user group, 2 Delete user group");
+        row("Accounting Transaction",
+            "0 Create Accounting Trans, 1 Update Accounting Trans, 2 Delete Accounting Trans");
+        row("Bank", "0 Insert bank, 1 Update bank, 2 Delete bank");
+        row("Agent", "0 Insert agent, 1 Update agent, 2 Delete agent");
+        row("Supplier", "0 Insert supplier, 1 Update supplier, 2 Delete supplier");
+        row("Printer Type", "0 Add Printer Type, 1 Update Printer Type, 2 Delete Printer Type");
+        row("Printer Config", "0 Manage Printer Configurations");
+        row("Company Profile", "0 Manage company info");
+        row("Purchases", "0 Insert Purchases, 1 Update Purchases, 2 Delete Purchases, 3 Insert Purchases Detail, "
+                         "4 Update Purchases Detail, 5 Delete Purchases Detail");
+        row("Credit Note", "0 Insert Credit Note, 1 Update Credit Note, 2 Delete Credit Note, "
+                           "3 Insert Credit Note Detail, 4 Update Credit Note Detail, 5 Delete Credit Note Detail");
+        row("Grouped Item", "0 Insert grouped item, 1 Update grouped item, 2 Delete grouped item");
+        row("Inventory", "10 Insert Inventory Adjustment, 11 Delete Inventory Adjustment");
+        row("Item", "0 Insert item, 1 Update item, 2 Delete item");
+        row("Item Type", "0 Manage item type");
+        row("Member", "0 Insert member, 1 Update member, 2 Delete member");
+        row("Purchase Order", "0 Insert PO, 1 Update PO, 2 Delete PO, 3 Insert PO Detail, 4 Update PO Detail, "
+                              "5 Delete PO Detail");
+        row("Payment", "0 Insert Payment, 1 Update Payment, 2 Delete Payment");
+        row("Unit", "0 Manage unit");
+        row("Beginning Balance", "0 Update Beginning Balance");
+        row("Employee", "0 Insert Employee, 1 Update Employee, 2 Delete Employee");
+        row("Journal Transaction",
+            "1 Insert Journal Transaction, 2 Update Journal Transaction, 3 Delete Journal Transaction");
+        row("Table", "0 Add table, 1 Update table, 2 Delete table");
+        row("Sales", "0 Add New Order, 1 Edit an Order, 2 Delete an Order, 3 Save an Invoice, 4 Set Kitchen Status, "
+                     "5 Pay for an Accounts Receivable, 6 Update an Accounts Receivable, 7 Pay for Agent Commission, "
+                     "8 Update Agent Commission Payment, 9 Delete a Sales Order, 10 Delete Accounts Receivable, "
+                     "11 Delete Agent Commission Payment");
+    }
+
+    void everyServiceHasItsPermissions()
+    {
+        const QString service = QTest::currentDataTag();
+        QCOMPARE(m_installed->value(QString("select count(*) from business where name = '%1'").arg(service)).toInt(),
+                 1);
+        const QString found =
+            m_installed
+                ->value(
+                    QString("select string_agg(permission_key || ' ' || permission_name, ', ' order by permission_key) "
+                            "from permissions join business on business.id = business_id where business.name = '%1'")
+                        .arg(service))
+                .toString();
+        QTEST(found, "permissions");
+    }
+
+    void administratorsMayDoEverythingAndNobodyElseAnything()
+    {
+        QCOMPARE(m_installed->value("select count(*) from business").toInt(), 28);
+        QCOMPARE(m_installed->value("select count(*) from permissions").toInt(), statedPermissions);
+        QCOMPARE(m_installed
+                     ->value("select count(distinct permission_id) from access join user_group on user_group.id = "
+                             "group_id where user_group.name = 'admin' and grant_type = 2")
+                     .toInt(),
+                 statedPermissions);
+        QCOMPARE(m_installed->value("select count(*) from access").toInt(), statedPermissions);
+    }
+
+    void theFirstUsersCanLogIn_data()
+    {
+        addColumns<int>("rights");
+        addRow("admin", statedPermissions);
+        addRow("dewi", 0);
+    }
+
+    void theFirstUsersCanLogIn()
+    {
+        QFETCH(int, rights);
+        TestDatabase database;
+        auto* users = service<BusinessUser>("User");
+        QVERIFY(!users->login(QTest::currentDataTag(), "qx7!rm2z"));
+        QVERIFY(users->login(QTest::currentDataTag(), "Qx7!Rm2z"));
+        QCOMPARE(AppContext::instance()->userRights()->size(), rights);
+    }
+
+    void theFirstBillsHaveALogoAndAPrinter()
+    {
+        TestDatabase database;
+        const EntityDataPerusahaan* company = service<BusinessDataPerusahaan>("Company Profile")->getData();
+        QVERIFY(company && company->getLogo());
+        QCOMPARE(QImage::fromData(company->getLogo()->getImageData(), "PNG").width(), 200);
+
+        auto* printers = service<BusinessPrinterConfig>("Printer Config");
+        const EntityConfigCashierPrinter* cashier = printers->getCashierPrinterConfig();
+        QVERIFY(cashier);
+        const QHash<QString, QString> common{{"auto_cutter", "No"},
+                                             {"no_of_copy", "1"},
+                                             {"column_paper", "40"},
+                                             {"no_of_blank_lines", "4"},
+                                             {"printer_name", "GenericDotMatrix"},
+                                             {"printer_type", "GENERIC-ESC-POS"}};
+        QHash<QString, QString> expected = common;
+        expected.insert("notes", "Thank You");
+        QHash<QString, QString> members = cashier->members();
+        const QString format = members.take("format");
+        QCOMPARE(members, expected);
+        QVERIFY(
+            format.startsWith("{company_name}\r\n{company_address}\r\n\r\nNo. : {trans_no} Cashier : {operator}\r\n"));
+        QVERIFY(format.endsWith("Change : {change}\r\n" + QString(40, '-') + "\r\n{print_time}\r\n{note}\r\n"));
+        QCOMPARE(format.count("\r\n"), 25);
+
+        const EntityConfigKitchenPrinter* kitchen = printers->getConfig("kitchen_printer_1");
+        QVERIFY(kitchen);
+        expected = common;
+        expected.insert("notes", "Thanks");
+        expected.insert("kitchen_name", "Kitchen 1");
+        expected.insert("auto_print", "Yes");
+        QCOMPARE(kitchen->members(), expected);
+    }
+
+    void theOwnerChoosesNamePasswordLocaleAndDateFormat()
+    {
+        TestDatabase database(TestDatabase::Empty);
+        const InstallerRun run(KorInstaller::FreshInstall, [](ZavelInstaller& installer) {
+            installer.setAdminUserName("o'hara");
+            installer.setAdminPassword("s3cret");
+            installer.setLocale("id_ID");
+            installer.setDateFormat("dd/MM/yyyy");
+        });
+        QCOMPARE(run.failures, QStringList());
+        QVERIFY(service<BusinessUser>("User")->login("o'hara", "s3cret"));
+        // Beside a password of the owner's own there is none that everybody knows.
+        QVERIFY(!service<BusinessUser>("User")->login("dewi", "Qx7!Rm2z"));
+        QCOMPARE(database.value("select count(*) from users").toInt(), 2);
+        const auto localization = QJsonDocument::fromJson(
+            database.value("select appvalue from appconfig where appkey = 'localization'").toByteArray());
+        QCOMPARE(localization.object(), (QJsonObject{{"date_time_format", "dd/MM/yyyy"}, {"locale", "id_ID"}}));
+        // The first prices are in the currency that the restaurant speaks.
+        QCOMPARE(database.value("select string_agg(distinct harga_jual_lokal_currency, ',') from item").toString(),
+                 QString("Rp"));
+    }
+
+    void theInstallationTellsHowFarItIs()
+    {
+        TestDatabase database(TestDatabase::Empty);
+        const InstallerRun run(KorInstaller::FreshInstall);
+        QCOMPARE(run.failures, QStringList());
+        QCOMPARE(run.ends, 1);
+        QCOMPARE(run.lines.mid(0, 3), (QStringList{"[0%] Initializing...", "[25%] Creating/Updating tables...",
+                                                   "[25%] appconfig installed"}));
+        // The bar moves on by one after 25 tables.
+        QCOMPARE(run.lines.filter("[25%]").size(), 1 + 25);
+        QCOMPARE(run.lines.filter(" installed").size(), 40);
+        QVERIFY(run.lines.at(2 + 25).startsWith("[26%] "));
+        QCOMPARE(
+            run.lines.mid(2 + 40),
+            (QStringList{"[50%] Inserting initial datas...", "[50%] App Data", "[50%] POS Data", "[50%] Zavel Data",
+                         "[75%] Registering permissions...", "[100%] Done. Please restart the app"}));
+    }
+
+    void aWorkerThreadLaysDownTheSameWhileTheWindowLives()
+    {
+        const QString expected = contentOf(*m_installed);
+        TestDatabase database(TestDatabase::Empty);
+        QTemporaryDir folder;
+        const QString logFile = folder.filePath("install.log");
+        KorLogger logger(nullptr, logFile);
+
+        auto* installer = new ZavelInstaller;
+        installer->setLogger(&logger);
+        QStringList lines;
+        connect(installer, &KorInstaller::onProgress, this, [&lines](int, const QString& status) {
+            QCOMPARE(QThread::currentThread(), qApp->thread());
+            lines.append(status);
+        });
+        QEventLoop window;
+        connect(installer, &KorInstaller::finished, &window, &QEventLoop::quit);
+        QTimer repaint;
+        int repaints = 0;
+        connect(&repaint, &QTimer::timeout, [&repaints] { ++repaints; });
+        repaint.start(1);
+        startInstaller(installer);
+        QTimer::singleShot(60000, &window, &QEventLoop::quit);
+        window.exec();
+
+        QCOMPARE(lines.last(), QString("Done. Please restart the app"));
+        QCOMPARE(lines.size(), 2 + 40 + 6);
+        QVERIFY(repaints > 10);
+        QCOMPARE(difference(contentOf(database), expected), QString());
+        // Nothing of what the worker read stays behind, and neither does its connection.
+        QCOMPARE(AppContext::instance()->liveEntities().size(), 0);
+        QTRY_COMPARE(QSqlDatabase::connectionNames().filter("worker-"), QStringList());
+        QFile log(logFile);
+        QVERIFY(log.open(QIODevice::ReadOnly));
+        const QByteArray text = log.readAll();
+        QVERIFY(text.contains("installing: meja\n"));
+        QVERIFY(text.contains("installing: Table\n"));
+    }
+
+    void aSecondFreshInstallationReplacesEverything()
+    {
+        TestDatabase database;
+        const QString expected = contentOf(database);
+        database.run("INSERT INTO meja (kode, nama, version) VALUES ('m3', 'Table 3', 1)");
+        database.run("INSERT INTO makan_ditempat (tgl, meja_id, status, version) VALUES (now(), 1, 0, 1)");
+        database.run("UPDATE users SET password = 'lost'");
+        database.run("DELETE FROM access");
+        database.run("ALTER TABLE member DROP COLUMN discount_percentage");
+        const InstallerRun run(KorInstaller::FreshInstall);
+        QCOMPARE(run.failures, QStringList());
+        QCOMPARE(difference(contentOf(database), expected), QString());
+    }
+
+    void aTableThatFailsIsToldAndTheRestGoesOn()
+    {
+        TestDatabase database(TestDatabase::Empty);
+        database.run("CREATE VIEW cash_flow AS SELECT 1");
+        QTemporaryDir folder;
+        const QString logFile = folder.filePath("install.log");
+        KorLogger logger(nullptr, logFile);
+        const InstallerRun run(KorInstaller::FreshInstall,
+                               [&logger](ZavelInstaller& installer) { installer.setLogger(&logger); });
+        QCOMPARE(run.failures.size(), 1);
+        QVERIFY2(run.failures.first().startsWith("cash_flow error: ERROR:  \"cash_flow\" is not a table"),
+                 qPrintable(run.failures.first()));
+        QVERIFY(run.lines.contains("[26%] " + run.failures.first()));
+        QCOMPARE(run.lines.filter(" installed").size(), 39);
+        QCOMPARE(run.lines.last(), QString("[100%] Done. Please restart the app"));
+        QCOMPARE(database.value("select count(*) from meja").toInt(), 2);
+        QCOMPARE(database.value("select count(*) from access").toInt(), statedPermissions);
+        QFile log(logFile);
+        QVERIFY(log.open(QIODevice::ReadOnly));
+        QVERIFY(log.readAll().contains("cash_flow error: "));
+    }
+
+    void aRowThatFailsIsToldAndTheRestGoesOn()
+    {
+        TestDatabase database(TestDatabase::Empty);
+        const InstallerRun run(KorInstaller::FreshInstall, [](ZavelInstaller& installer) {
+            installer.setAdminUserName(QString(201, 'x')); // wider than its column
+        });
+        QCOMPARE(run.failures.size(), 1);
+        QVERIFY2(run.failures.first().contains("value too long"), qPrintable(run.failures.first()));
+        QVERIFY(run.lines.contains("[50%] " + run.failures.first()));
+        QCOMPARE(database.value("select string_agg(username, ',') from users").toString(), QString("dewi"));
+        QCOMPARE(database.value("select count(*) from permissions").toInt(), statedPermissions);
+    }
+
+    void withoutAServerTheInstallationSaysSoAndEnds()
+    {
+        TestDatabase database(TestDatabase::Empty);
+        AppContext::instance()->databaseManager()->close();
+        const InstallerRun run(KorInstaller::FreshInstall);
+        QCOMPARE(run.errors.size(), 1);
+        QCOMPARE(run.failures, run.errors);
+        QVERIFY(!run.errors.first().isEmpty());
+        QCOMPARE(run.lines, QStringList());
+        QCOMPARE(run.ends, 1);
+    }
 
 private:
     // For the tests that only look.
     std::unique_ptr<TestDatabase> m_installed;
 };
-
-void TestInstaller::aNewRestaurantFindsItsFirstRows_data()
-{
-    QTest::addColumn<QString>("table");
-    QTest::addColumn<QString>("columns");
-    QTest::addColumn<QStringList>("expected");
-
-    const auto row = [](const char* table, const char* columns, const QStringList& expected) {
-        QTest::newRow(table) << QString(table) << QString(columns) << expected;
-    };
-    row("user_group", "name", {"admin", "operator", "kasir"});
-    row("users", "first_name, last_name, username, user_group_id, currency",
-        {"admin|pos|admin|1|$", "operator|dewi|dewi|2|$"});
-    row("appconfig where appkey <> 'reports'", "appkey, is_json",
-        {"localization|true", "cashier_printer|true", "app_version|false", "kitchen_printer_1|true"});
-    row("data_perusahaan", "nama_perusahaan", {"Brintel"});
-    row("images", "image_name", {"company_logo"});
-    row("bank", "kode, nama, account_type, active",
-        {"1010|Cash on Hand|1|true", "1020|Checking Account|1|true", "5000|Cost of Sales|9|true",
-         "1200|Inventory|8|true", "2000|Accounts Payable|2|true", "1100|Account Receivable|3|true",
-         "6650|Commisions and Fees Expense|5|true", "4050|Sales of Materials|4|true"});
-    row("jenis_item", "kode, nama", {"mkn|Foods", "mnm|Drinks"});
-    row("satuan", "kode, nama", {"kg|Kilogram", "pcs|Packs"});
-    row("supplier", "kode, nama, alamat <> '', telp <> '', email <> ''",
-        {"SUP1|PT Supplier 1|true|true|true", "SUP2|PT Supplier 2|true|true|true"});
-    const QString rest = "|1|1|$|%1|$|%2|4050|1200|5000";
-    row("item",
-        "kode, nama, item_type, is_group, jenis, satuan, harga_beli_currency, harga_beli_amount, "
-        "harga_jual_lokal_currency, harga_jual_lokal_amount, sales_acct_code, inventory_acct_code, "
-        "cost_of_sales_acct_code",
-        {"aym|Fried Chicken|1|false" + rest.arg(1).arg(2), "ns|Rice|1|false" + rest.arg(1).arg(2),
-         "fr|Fried Rice|2|true" + rest.arg(3).arg(5), "llp|Rice with fresh vegetables|2|true" + rest.arg(4).arg(6)});
-    row("stok_awal", "item_id, jumlah", {"1|0", "2|0", "3|0", "4|0"});
-    row("grouped_item", "parent_id, original_item_id, jumlah", {"3|2|2", "3|1|1"});
-    row("keytable", "key_name, format, description, next_id, increment_by, no_zero",
-        {"PO|POMMyy|Purchase Order Key|1|1|4", "NB|NBMMyy|Purchases Key|1|1|4", "NR|NRMMyy|Credit Note Key|1|1|4",
-         "TPH|TPHMMyy|Payment Key|1|1|4", "KK|KKMMyy|Cash Flow Key|1|1|4", "TR|TRMMyy|Accounting Transaction Key|1|1|4",
-         "TRD|TRDMMyy|Dine Invoice Key|1|1|4", "TRF|TRFMMyy|Fast Food Invoice Key|1|1|4",
-         "TRP|TRPMMyy|Take Away Food Invoice Key|1|1|4", "PIU|PIUMMyy|Credit Key|1|1|4",
-         "KAG|KAGMMyy|Agent Commission Key|1|1|4"});
-    row("member", "kode, nama, alamat <> '', telp <> '', email <> ''", {"m123|member 1|true|true|true"});
-    row("employee", "kode, nama, alamat <> '', telp <> '', email <> ''", {"emp1|Waitress 1|true|true|true"});
-    row("agent", "kode, nama <> '', alamat <> '', telp <> '', email <> ''", {"agent1|true|true|true|true"});
-    row("meja", "kode, nama", {"m1|Table 1", "m2|Table 2"});
-    // The types behind these are further ones, whose cuts have no zero byte that would end them.
-    row("printer_type where id <= 3", "printer_type, cash_drawer_cmd, cut_papper_cmd",
-        {"EPSON-TM-T88III|27#112#0#25#250|27#109", "EPSON-TM-U220|27#112#0#25#250|27#112#0#75#25",
-         "GENERIC-ESC-POS|27#112#0#60#120|29#V#66#0"});
-    row("printer_type where id > 3 and cut_papper_cmd ~ '(^|#)0*(#|$)'", "printer_type", {""});
-}
-
-void TestInstaller::aNewRestaurantFindsItsFirstRows()
-{
-    QFETCH(QString, table);
-    QFETCH(QString, columns);
-    QFETCH(QStringList, expected);
-    const QString found =
-        m_installed
-            ->value(QString("select string_agg(concat_ws('|', %1), E'\\n' order by id) from %2").arg(columns, table))
-            .toString();
-    const auto plain = [](QString text) {
-        // The server writes a truth value as one letter.
-        return text.replace(QRegExp("\\|t(?=\\||\\n|$)"), "|true").replace(QRegExp("\\|f(?=\\||\\n|$)"), "|false");
-    };
-    QCOMPARE(plain(found).split('\n'), expected);
-}
-
-void TestInstaller::everyServiceHasItsPermissions_data()
-{
-    QTest::addColumn<QString>("permissions");
-
-    const auto row = [](const char* service, const char* permissions) {
-        QTest::newRow(service) << QString(permissions);
-    };
-    row("Configuration", "0 Manage Configurations");
-    row("Permission", "");
-    row("User Access", "0 Update user access");
-    row("User", "0 Create a new user, 1 Update user, 2 Delete user");
-    row("KeyTable", "2 Update Key");
-    row("User Group", "0 Create a new user group, 1 Update user group, 2 Delete user group");
-    row("Accounting Transaction", "0 Create Accounting Trans, 1 Update Accounting Trans, 2 Delete Accounting Trans");
-    row("Bank", "0 Insert bank, 1 Update bank, 2 Delete bank");
-    row("Agent", "0 Insert agent, 1 Update agent, 2 Delete agent");
-    row("Supplier", "0 Insert supplier, 1 Update supplier, 2 Delete supplier");
-    row("Printer Type", "0 Add Printer Type, 1 Update Printer Type, 2 Delete Printer Type");
-    row("Printer Config", "0 Manage Printer Configurations");
-    row("Company Profile", "0 Manage company info");
-    row("Purchases", "0 Insert Purchases, 1 Update Purchases, 2 Delete Purchases, 3 Insert Purchases Detail, "
-                     "4 Update Purchases Detail, 5 Delete Purchases Detail");
-    row("Credit Note", "0 Insert Credit Note, 1 Update Credit Note, 2 Delete Credit Note, "
-                       "3 Insert Credit Note Detail, 4 Update Credit Note Detail, 5 Delete Credit Note Detail");
-    row("Grouped Item", "0 Insert grouped item, 1 Update grouped item, 2 Delete grouped item");
-    row("Inventory", "10 Insert Inventory Adjustment, 11 Delete Inventory Adjustment");
-    row("Item", "0 Insert item, 1 Update item, 2 Delete item");
-    row("Item Type", "0 Manage item type");
-    row("Member", "0 Insert member, 1 Update member, 2 Delete member");
-    row("Purchase Order", "0 Insert PO, 1 Update PO, 2 Delete PO, 3 Insert PO Detail, 4 Update PO Detail, "
-                          "5 Delete PO Detail");
-    row("Payment", "0 Insert Payment, 1 Update Payment, 2 Delete Payment");
-    row("Unit", "0 Manage unit");
-    row("Beginning Balance", "0 Update Beginning Balance");
-    row("Employee", "0 Insert Employee, 1 Update Employee, 2 Delete Employee");
-    row("Journal Transaction",
-        "1 Insert Journal Transaction, 2 Update Journal Transaction, 3 Delete Journal Transaction");
-    row("Table", "0 Add table, 1 Update table, 2 Delete table");
-    row("Sales", "0 Add New Order, 1 Edit an Order, 2 Delete an Order, 3 Save an Invoice, 4 Set Kitchen Status, "
-                 "5 Pay for an Accounts Receivable, 6 Update an Accounts Receivable, 7 Pay for Agent Commission, "
-                 "8 Update Agent Commission Payment, 9 Delete a Sales Order, 10 Delete Accounts Receivable, "
-                 "11 Delete Agent Commission Payment");
-}
-
-void TestInstaller::everyServiceHasItsPermissions()
-{
-    const QString service = QTest::currentDataTag();
-    QCOMPARE(m_installed->value(QString("select count(*) from business where name = '%1'").arg(service)).toInt(), 1);
-    const QString found =
-        m_installed
-            ->value(QString("select string_agg(permission_key || ' ' || permission_name, ', ' order by permission_key) "
-                            "from permissions join business on business.id = business_id where business.name = '%1'")
-                        .arg(service))
-            .toString();
-    QTEST(found, "permissions");
-}
-
-void TestInstaller::administratorsMayDoEverythingAndNobodyElseAnything()
-{
-    QCOMPARE(m_installed->value("select count(*) from business").toInt(), 28);
-    QCOMPARE(m_installed->value("select count(*) from permissions").toInt(), statedPermissions);
-    QCOMPARE(m_installed
-                 ->value("select count(distinct permission_id) from access join user_group on user_group.id = "
-                         "group_id where user_group.name = 'admin' and grant_type = 2")
-                 .toInt(),
-             statedPermissions);
-    QCOMPARE(m_installed->value("select count(*) from access").toInt(), statedPermissions);
-}
-
-void TestInstaller::theFirstUsersCanLogIn_data()
-{
-    QTest::addColumn<int>("rights");
-    QTest::newRow("admin") << statedPermissions;
-    QTest::newRow("dewi") << 0;
-}
-
-void TestInstaller::theFirstUsersCanLogIn()
-{
-    QFETCH(int, rights);
-    TestDatabase database;
-    auto* users = service<BusinessUser>("User");
-    QVERIFY(!users->login(QTest::currentDataTag(), "qx7!rm2z"));
-    QVERIFY(users->login(QTest::currentDataTag(), "Qx7!Rm2z"));
-    QCOMPARE(AppContext::instance()->userRights()->size(), rights);
-}
-
-void TestInstaller::theFirstBillsHaveALogoAndAPrinter()
-{
-    TestDatabase database;
-    const EntityDataPerusahaan* company = service<BusinessDataPerusahaan>("Company Profile")->getData();
-    QVERIFY(company && company->getLogo());
-    QCOMPARE(QImage::fromData(company->getLogo()->getImageData(), "PNG").width(), 200);
-
-    auto* printers = service<BusinessPrinterConfig>("Printer Config");
-    const EntityConfigCashierPrinter* cashier = printers->getCashierPrinterConfig();
-    QVERIFY(cashier);
-    const QHash<QString, QString> common{{"auto_cutter", "No"},
-                                         {"no_of_copy", "1"},
-                                         {"column_paper", "40"},
-                                         {"no_of_blank_lines", "4"},
-                                         {"printer_name", "GenericDotMatrix"},
-                                         {"printer_type", "GENERIC-ESC-POS"}};
-    QHash<QString, QString> expected = common;
-    expected.insert("notes", "Thank You");
-    QHash<QString, QString> members = cashier->members();
-    const QString format = members.take("format");
-    QCOMPARE(members, expected);
-    QVERIFY(format.startsWith("{company_name}\r\n{company_address}\r\n\r\nNo. : {trans_no} Cashier : {operator}\r\n"));
-    QVERIFY(format.endsWith("Change : {change}\r\n" + QString(40, '-') + "\r\n{print_time}\r\n{note}\r\n"));
-    QCOMPARE(format.count("\r\n"), 25);
-
-    const EntityConfigKitchenPrinter* kitchen = printers->getConfig("kitchen_printer_1");
-    QVERIFY(kitchen);
-    expected = common;
-    expected.insert("notes", "Thanks");
-    expected.insert("kitchen_name", "Kitchen 1");
-    expected.insert("auto_print", "Yes");
-    QCOMPARE(kitchen->members(), expected);
-}
-
-void TestInstaller::theOwnerChoosesNamePasswordLocaleAndDateFormat()
-{
-    TestDatabase database(TestDatabase::Empty);
-    const InstallerRun run(KorInstaller::FreshInstall, [](ZavelInstaller& installer) {
-        installer.setAdminUserName("o'hara");
-        installer.setAdminPassword("s3cret");
-        installer.setLocale("id_ID");
-        installer.setDateFormat("dd/MM/yyyy");
-    });
-    QCOMPARE(run.failures, QStringList());
-    QVERIFY(service<BusinessUser>("User")->login("o'hara", "s3cret"));
-    // Beside a password of the owner's own there is none that everybody knows.
-    QVERIFY(!service<BusinessUser>("User")->login("dewi", "Qx7!Rm2z"));
-    QCOMPARE(database.value("select count(*) from users").toInt(), 2);
-    const auto localization = QJsonDocument::fromJson(
-        database.value("select appvalue from appconfig where appkey = 'localization'").toByteArray());
-    QCOMPARE(localization.object(), (QJsonObject{{"date_time_format", "dd/MM/yyyy"}, {"locale", "id_ID"}}));
-    // The first prices are in the currency that the restaurant speaks.
-    QCOMPARE(database.value("select string_agg(distinct harga_jual_lokal_currency, ',') from item").toString(),
-             QString("Rp"));
-}
-
-void TestInstaller::theInstallationTellsHowFarItIs()
-{
-    TestDatabase database(TestDatabase::Empty);
-    const InstallerRun run(KorInstaller::FreshInstall);
-    QCOMPARE(run.failures, QStringList());
-    QCOMPARE(run.ends, 1);
-    QCOMPARE(run.lines.mid(0, 3),
-             (QStringList{"[0%] Initializing...", "[25%] Creating/Updating tables...", "[25%] appconfig installed"}));
-    // The bar moves on by one after 25 tables.
-    QCOMPARE(run.lines.filter("[25%]").size(), 1 + 25);
-    QCOMPARE(run.lines.filter(" installed").size(), 40);
-    QVERIFY(run.lines.at(2 + 25).startsWith("[26%] "));
-    QCOMPARE(run.lines.mid(2 + 40),
-             (QStringList{"[50%] Inserting initial datas...", "[50%] App Data", "[50%] POS Data", "[50%] Zavel Data",
-                          "[75%] Registering permissions...", "[100%] Done. Please restart the app"}));
-}
-
-void TestInstaller::aWorkerThreadLaysDownTheSameWhileTheWindowLives()
-{
-    const QString expected = contentOf(*m_installed);
-    TestDatabase database(TestDatabase::Empty);
-    QTemporaryDir folder;
-    const QString logFile = folder.filePath("install.log");
-    KorLogger logger(nullptr, logFile);
-
-    auto* installer = new ZavelInstaller;
-    installer->setLogger(&logger);
-    QStringList lines;
-    connect(installer, &KorInstaller::onProgress, this, [&lines](int, const QString& status) {
-        QCOMPARE(QThread::currentThread(), qApp->thread());
-        lines.append(status);
-    });
-    QEventLoop window;
-    connect(installer, &KorInstaller::finished, &window, &QEventLoop::quit);
-    QTimer repaint;
-    int repaints = 0;
-    connect(&repaint, &QTimer::timeout, [&repaints] { ++repaints; });
-    repaint.start(1);
-    startInstaller(installer);
-    QTimer::singleShot(60000, &window, &QEventLoop::quit);
-    window.exec();
-
-    QCOMPARE(lines.last(), QString("Done. Please restart the app"));
-    QCOMPARE(lines.size(), 2 + 40 + 6);
-    QVERIFY(repaints > 10);
-    QCOMPARE(difference(contentOf(database), expected), QString());
-    // Nothing of what the worker read stays behind, and neither does its connection.
-    QCOMPARE(AppContext::instance()->liveEntities().size(), 0);
-    QTRY_COMPARE(QSqlDatabase::connectionNames().filter("worker-"), QStringList());
-    QFile log(logFile);
-    QVERIFY(log.open(QIODevice::ReadOnly));
-    const QByteArray text = log.readAll();
-    QVERIFY(text.contains("installing: meja\n"));
-    QVERIFY(text.contains("installing: Table\n"));
-}
-
-void TestInstaller::aSecondFreshInstallationReplacesEverything()
-{
-    TestDatabase database;
-    const QString expected = contentOf(database);
-    database.run("INSERT INTO meja (kode, nama, version) VALUES ('m3', 'Table 3', 1)");
-    database.run("INSERT INTO makan_ditempat (tgl, meja_id, status, version) VALUES (now(), 1, 0, 1)");
-    database.run("UPDATE users SET password = 'lost'");
-    database.run("DELETE FROM access");
-    database.run("ALTER TABLE member DROP COLUMN discount_percentage");
-    const InstallerRun run(KorInstaller::FreshInstall);
-    QCOMPARE(run.failures, QStringList());
-    QCOMPARE(difference(contentOf(database), expected), QString());
-}
-
-void TestInstaller::aTableThatFailsIsToldAndTheRestGoesOn()
-{
-    TestDatabase database(TestDatabase::Empty);
-    database.run("CREATE VIEW cash_flow AS SELECT 1");
-    QTemporaryDir folder;
-    const QString logFile = folder.filePath("install.log");
-    KorLogger logger(nullptr, logFile);
-    const InstallerRun run(KorInstaller::FreshInstall,
-                           [&logger](ZavelInstaller& installer) { installer.setLogger(&logger); });
-    QCOMPARE(run.failures.size(), 1);
-    QVERIFY2(run.failures.first().startsWith("cash_flow error: ERROR:  \"cash_flow\" is not a table"),
-             qPrintable(run.failures.first()));
-    QVERIFY(run.lines.contains("[26%] " + run.failures.first()));
-    QCOMPARE(run.lines.filter(" installed").size(), 39);
-    QCOMPARE(run.lines.last(), QString("[100%] Done. Please restart the app"));
-    QCOMPARE(database.value("select count(*) from meja").toInt(), 2);
-    QCOMPARE(database.value("select count(*) from access").toInt(), statedPermissions);
-    QFile log(logFile);
-    QVERIFY(log.open(QIODevice::ReadOnly));
-    QVERIFY(log.readAll().contains("cash_flow error: "));
-}
-
-void TestInstaller::aRowThatFailsIsToldAndTheRestGoesOn()
-{
-    TestDatabase database(TestDatabase::Empty);
-    const InstallerRun run(KorInstaller::FreshInstall, [](ZavelInstaller& installer) {
-        installer.setAdminUserName(QString(201, 'x')); // wider than its column
-    });
-    QCOMPARE(run.failures.size(), 1);
-    QVERIFY2(run.failures.first().contains("value too long"), qPrintable(run.failures.first()));
-    QVERIFY(run.lines.contains("[50%] " + run.failures.first()));
-    QCOMPARE(database.value("select string_agg(username, ',') from users").toString(), QString("dewi"));
-    QCOMPARE(database.value("select count(*) from permissions").toInt(), statedPermissions);
-}
-
-void TestInstaller::withoutAServerTheInstallationSaysSoAndEnds()
-{
-    TestDatabase database(TestDatabase::Empty);
-    AppContext::instance()->databaseManager()->close();
-    const InstallerRun run(KorInstaller::FreshInstall);
-    QCOMPARE(run.errors.size(), 1);
-    QCOMPARE(run.failures, run.errors);
-    QVERIFY(!run.errors.first().isEmpty());
-    QCOMPARE(run.lines, QStringList());
-    QCOMPARE(run.ends, 1);
-}
 
 QTEST_MAIN(TestInstaller)
 #include "tst_installer.moc"

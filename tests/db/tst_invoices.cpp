@@ -3,6 +3,7 @@
 #include "pos/invoice/EntityInvoiceDetail.h"
 #include "pos/registry/PosMapperRegistry.h"
 #include "pos/totals/InvoiceTotals.h"
+#include "support/Rows.h"
 #include "support/ShopRows.h"
 #include "support/TestDatabase.h"
 #include "support/TripCount.h"
@@ -31,411 +32,384 @@ class TestInvoices : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-    void anInvoiceIsReadBackWithItsPeopleItsOrderAndItsLines();
-    void savingAndReadingTakeAFixedNumberOfTrips();
-    void aChangedInvoiceHasExactlyTheNewLines();
-    void anInvoiceThatSomebodyElseSavedIsNotOverwritten();
-    void aLineThatFailsTakesTheWholeSaleBack();
-    void aLineThatFailsLeavesTheStoredInvoice();
-    void aFirstSaveAsksAllInvoicesOfTheTableALaterOneOnlyItself();
-    void aSaleStandsEvenWhenTheOrderHasChangedMeanwhile();
-    void anUnknownKindOfSaleIsRefused();
-    void aTableIsFreedHoweverOldItsOrderInMemoryIs();
-    void quantitiesSoldCountBothLimits();
-    void aSaleGoesThroughThoughTheSessionWasLostBefore();
-    void aSessionLostBetweenTwoLinesWritesNothing_data();
-    void aSessionLostBetweenTwoLinesWritesNothing();
-    void aSessionLostWhileAnOrderIsSavedWritesNothing();
+    void init()
+    {
+        m_database = std::make_unique<TestDatabase>();
+        m_records = std::make_unique<QObject>();
+        insertShop(*m_database);
+        loginAsAdmin();
+        m_sales = service<BusinessPenjualan>("Sales");
+    }
+
+    void cleanup()
+    {
+        m_sales->clearErrors();
+        m_records.reset();
+        m_database.reset();
+    }
+
+    void anInvoiceIsReadBackWithItsPeopleItsOrderAndItsLines()
+    {
+        EntityMakanDitempat* table = order({{2, 300}, {1, 400}});
+        EntityInvoiceMakanDitempat* first = sale(table, {{2, 300}, {1, 400}}, 1500);
+        EntityEmployee ann;
+        ann.setId(1);
+        EntityAgent guide;
+        guide.setId(1);
+        EntityMember guest;
+        guest.setId(1);
+        first->setEmployee(&ann);
+        first->setAgent(&guide);
+        first->getInvoice()->setMember(&guest);
+        first->setDueDate(QDate(2026, 4, 1));
+        first->getInvoice()->setPemesan("Mary");
+        QVERIFY2(m_sales->insertInvoice(first), qPrintable(m_sales->takeErrors()));
+
+        EntityInvoiceMakanDitempat* found = m_sales->findMakanDitempatByInvoiceId(first->getInvoice()->getId());
+        QVERIFY(found);
+        QCOMPARE(found->getId(), first->getId());
+        const Invoice* invoice = found->getInvoice();
+        QCOMPARE(invoice->getInvoiceNo(), QString("TRD-0007"));
+        QCOMPARE(invoice->getStatus(), int(Invoice::FULL_PAID));
+        // More was paid than it cost: what is due has the sign of change.
+        QCOMPARE(invoice->getNetDue()->getAmount(), -500.0);
+        QCOMPARE(invoice->getMember()->getNama(), QString("Guest"));
+        QCOMPARE(found->getAgent()->getNama(), QString("Guide"));
+        QCOMPARE(found->getEmployee()->getNama(), QString("Ann"));
+        QCOMPARE(found->getDueDate(), QDate(2026, 4, 1));
+        QCOMPARE(found->getMakanDitempat()->getMeja()->getKode(), QString("T1"));
+        QCOMPARE(found->getMakanDitempat()->getDetails().size(), 2);
+        QCOMPARE(found->getDetails().size(), 2);
+        QCOMPARE(found->getDetails().first()->getItem()->getNama(), QString("Rice"));
+        QCOMPARE(found->getDetails().first()->getTotal()->getAmount(), 600.0);
+        QCOMPARE(stored("invoice_type, employee_id, pemesan", "invoice", invoice->getId()), QString("TRD 1 Mary"));
+        QCOMPARE(m_database->value("select sum(discount_amount) from invoice_detail").toInt(), 0);
+        QCOMPARE(orderStatus(table->getId()), int(EntityOrder::PAID));
+    }
+
+    void savingAndReadingTakeAFixedNumberOfTrips()
+    {
+        const QList<Dish> dishes{{1, 10}, {2, 20}, {3, 30}, {4, 40}, {5, 50}, {6, 60}};
+        const int id = insertDineOrder(*m_database, dishes);
+        StatementCount reading;
+        EntityMakanDitempat* table = m_sales->findOrder(id);
+        QVERIFY2(reading.count() <= 3, qPrintable(QString::number(reading.count())));
+
+        // The first bill of the day prepares the statements.
+        QVERIFY(m_sales->insertInvoice(sale(order(dishes), dishes, 0)));
+        EntityInvoiceMakanDitempat* first = sale(table, dishes, 100);
+        first->setKnownBills({});
+        {
+            // Begin with the locks and the other bills, the number read and raised, the invoice, its link with the
+            // lines, commit; what the bills of the order come to, its status.
+            const TripCount saving;
+            QVERIFY(m_sales->insertInvoice(first));
+            QVERIFY2(saving.sent().size() <= 8, qPrintable(saving.sent().join('\n')));
+        }
+
+        StatementCount one;
+        QCOMPARE(m_sales->getInvoicesOfOrder(id).size(), 1);
+        const int forOne = one.count();
+        QVERIFY(m_sales->insertInvoice(sale(m_sales->findOrder(id), {{1, 10}}, 0)));
+        QVERIFY(m_sales->insertInvoice(sale(m_sales->findOrder(id), {{1, 10}}, 0)));
+        StatementCount three;
+        QCOMPARE(m_sales->getInvoicesOfOrder(id).size(), 3);
+        QCOMPARE(three.count(), forOne);
+    }
+
+    void aChangedInvoiceHasExactlyTheNewLines()
+    {
+        EntityMakanDitempat* table = order({{2, 300}, {1, 400}});
+        EntityInvoiceMakanDitempat* first = sale(table, {{2, 300}, {1, 400}}, 0);
+        QVERIFY(m_sales->insertInvoice(first));
+        const int lastLine = m_database->value("select max(id) from invoice_detail").toInt();
+
+        EntityInvoiceMakanDitempat* again = readAgain(first);
+        again->setDetails({again->getDetails().at(1)});
+        pay(again, 100);
+        QVERIFY2(m_sales->updateInvoice(again), qPrintable(m_sales->takeErrors()));
+        QCOMPARE(soldQuantities(again->getInvoice()->getId()), QString("1"));
+        QVERIFY(m_database->value("select min(id) from invoice_detail").toInt() > lastLine);
+        QCOMPARE(stored("no, sub_total_amount, status", "invoice", again->getInvoice()->getId()),
+                 QString("TRD-0007 400 3"));
+
+        // The form could not read it again, so it saves once more from memory.
+        again->setDetails(lines({{5, 100}}));
+        pay(again, 500);
+        QVERIFY2(m_sales->updateInvoice(again), qPrintable(m_sales->takeErrors()));
+        QVERIFY2(!m_sales->hasError(), qPrintable(m_sales->takeErrors()));
+        QCOMPARE(soldQuantities(again->getInvoice()->getId()), QString("5"));
+        QCOMPARE(orderStatus(table->getId()), int(EntityOrder::PAID));
+    }
+
+    void anInvoiceThatSomebodyElseSavedIsNotOverwritten()
+    {
+        EntityMakanDitempat* table = order({{2, 300}});
+        EntityInvoiceMakanDitempat* first = sale(table, {{2, 300}}, 0);
+        QVERIFY(m_sales->insertInvoice(first));
+        EntityInvoiceMakanDitempat* again = readAgain(first);
+        m_database->run("UPDATE invoice SET version = 2, updatedby = 5");
+
+        again->setDetails(lines({{9, 300}}));
+        pay(again, 2700);
+        QVERIFY(!m_sales->updateInvoice(again));
+        // Changing an invoice fails in the words of writing one.
+        const QString told = m_sales->takeErrors();
+        QVERIFY2(told.startsWith("error: insert dine invoice failed  \r\n Table: invoice has been updated"),
+                 qPrintable(told));
+        QCOMPARE(soldQuantities(again->getInvoice()->getId()), QString("2"));
+        QCOMPARE(orderStatus(table->getId()), int(EntityOrder::UNPAID));
+    }
+
+    void aLineThatFailsTakesTheWholeSaleBack()
+    {
+        EntityMakanDitempat* table = order({{2, 300}});
+        EntityInvoiceMakanDitempat* first = sale(table, {{2, 300}, {1, 100}}, 700);
+        first->getDetails().last()->getItem()->setId(4711);
+        QVERIFY(!m_sales->insertInvoice(first));
+        const QString told = m_sales->takeErrors();
+        QVERIFY2(told.startsWith("error: insert dine invoice detail failed.\r\n \r\n "), qPrintable(told));
+        QVERIFY2(told.contains("foreign key"), qPrintable(told));
+        QCOMPARE(count("invoice") + count("invoice_makan_ditempat") + count("invoice_detail"), 0);
+        QCOMPARE(orderStatus(table->getId()), int(EntityOrder::WAITING_FOR_MENU));
+        QVERIFY(!first->isSaved() && !first->getInvoice()->isSaved());
+
+        first->getDetails().last()->getItem()->setId(1);
+        QVERIFY2(m_sales->insertInvoice(first), qPrintable(m_sales->takeErrors()));
+        // The number was not lost with the attempt.
+        QCOMPARE(first->getInvoice()->getInvoiceNo(), QString("TRD-0007"));
+        QCOMPARE(soldQuantities(first->getInvoice()->getId()), QString("2,1"));
+    }
+
+    void aLineThatFailsLeavesTheStoredInvoice()
+    {
+        EntityMakanDitempat* table = order({{2, 300}});
+        EntityInvoiceMakanDitempat* first = sale(table, {{2, 300}}, 0);
+        QVERIFY(m_sales->insertInvoice(first));
+        EntityInvoiceMakanDitempat* again = readAgain(first);
+        again->setDetails(lines({{8, 300}, {9, 300}}));
+        again->getDetails().last()->getItem()->setId(4711);
+        pay(again, 600);
+        QVERIFY(!m_sales->updateInvoice(again));
+        QVERIFY(m_sales->takeErrors().startsWith("error: insert dine invoice detail failed.\r\n \r\n "));
+        QCOMPARE(soldQuantities(again->getInvoice()->getId()), QString("2"));
+        QCOMPARE(stored("amount_paid_amount, version", "invoice", again->getInvoice()->getId()), QString("0 1"));
+    }
+
+    void aFirstSaveAsksAllInvoicesOfTheTableALaterOneOnlyItself()
+    {
+        const int id = order({{2, 300}})->getId();
+        EntityInvoiceMakanDitempat* paid = sale(m_sales->findOrder(id), {{1, 300}}, 300);
+        QVERIFY(m_sales->insertInvoice(paid));
+        QCOMPARE(orderStatus(id), int(EntityOrder::PAID));
+        EntityInvoiceMakanDitempat* open = sale(m_sales->findOrder(id), {{1, 300}}, 0);
+        QVERIFY(m_sales->insertInvoice(open));
+        QCOMPARE(stored("status", "invoice", open->getInvoice()->getId()).toInt(), int(Invoice::UNPAID));
+        QCOMPARE(orderStatus(id), int(EntityOrder::PARTIALY_PAID));
+
+        // Saved again it is asked alone: the other invoice is no longer counted.
+        QVERIFY(m_sales->updateInvoice(readAgain(open)));
+        QCOMPARE(orderStatus(id), int(EntityOrder::UNPAID));
+        QVERIFY(m_sales->updateInvoice(readAgain(paid)));
+        QCOMPARE(orderStatus(id), int(EntityOrder::PAID));
+    }
+
+    void aSaleStandsEvenWhenTheOrderHasChangedMeanwhile()
+    {
+        EntityMakanDitempat* table = order({{2, 300}});
+        m_database->run("UPDATE makan_ditempat SET version = 2");
+        EntityInvoiceMakanDitempat* first = sale(table, {{2, 300}}, 600);
+        QVERIFY(m_sales->insertInvoice(first));
+        QCOMPARE(count("invoice"), 1);
+        const QString told = m_sales->takeErrors();
+        QVERIFY2(told.startsWith("error update status failed \r\n Table: makan_ditempat has been updated"),
+                 qPrintable(told));
+        QCOMPARE(orderStatus(table->getId()), int(EntityOrder::WAITING_FOR_MENU));
+        // The next save makes up for it.
+        QVERIFY(m_sales->updateInvoice(readAgain(first)));
+        QCOMPARE(orderStatus(table->getId()), int(EntityOrder::PAID));
+    }
+
+    void anUnknownKindOfSaleIsRefused()
+    {
+        StrangeSale strange;
+        QVERIFY(!m_sales->insertInvoice(&strange));
+        QCOMPARE(m_sales->errors().value("insertInvoice"), QStringList{"mapper not found"});
+        QVERIFY(!m_sales->updateInvoice(&strange));
+        QCOMPARE(m_sales->errors().value("updateInvoice"), QStringList{"mapper not found"});
+    }
+
+    void aTableIsFreedHoweverOldItsOrderInMemoryIs()
+    {
+        EntityMakanDitempat* table = order({{2, 300}});
+        m_database->run("UPDATE makan_ditempat SET version = 5");
+        QVERIFY2(m_sales->makanDitempatSelesai(table), qPrintable(m_sales->takeErrors()));
+        QCOMPARE(orderStatus(table->getId()), int(EntityOrder::DONE));
+        m_database->run("DELETE FROM makan_ditempat_detail");
+        m_database->run("DELETE FROM makan_ditempat");
+        QVERIFY(!m_sales->makanDitempatSelesai(table));
+        QVERIFY(m_sales->hasError());
+    }
+
+    void quantitiesSoldCountBothLimits()
+    {
+        const QDate day(2026, 3, 10);
+        DataMapperInvoice* invoices = PosMapperRegistry::instance()->invoiceMapper();
+        QCOMPARE(invoices->quantityUsed(1, day), 0);
+        for (int offset : {-1, 0, 1}) {
+            EntityInvoiceMakanDitempat* one = sale(order({{2, 300}}), {{offset + 3, 300}}, 0);
+            one->getInvoice()->setInvoiceDate(day.addDays(offset));
+            QVERIFY(m_sales->insertInvoice(one));
+        }
+        QCOMPARE(invoices->quantityUsed(1, day), 5);
+        QCOMPARE(invoices->quantityUsed(1, day.addDays(-1), day), 5);
+        QCOMPARE(invoices->quantityUsed(1, day, day.addDays(1)), 7);
+        QCOMPARE(invoices->quantityUsed(1, day.addDays(2), day.addDays(9)), 0);
+        QCOMPARE(invoices->quantityUsed(4711, day), 0);
+    }
+
+    void aSaleGoesThroughThoughTheSessionWasLostBefore()
+    {
+        EntityMakanDitempat* table = order({{2, 300}});
+        EntityInvoiceMakanDitempat* first = sale(table, {{2, 300}, {1, 100}}, 700);
+        m_database->killConnections();
+        QVERIFY2(m_sales->insertInvoice(first), qPrintable(m_sales->takeErrors()));
+        QCOMPARE(soldQuantities(first->getInvoice()->getId()), QString("2,1"));
+        QCOMPARE(orderStatus(table->getId()), int(EntityOrder::PAID));
+    }
+
+    void aSessionLostBetweenTwoLinesWritesNothing_data()
+    {
+        addColumns<bool>("isStored");
+        addRow("of a new invoice", false);
+        addRow("of a changed invoice", true);
+    }
+
+    void aSessionLostBetweenTwoLinesWritesNothing()
+    {
+        QFETCH(bool, isStored);
+        EntityMakanDitempat* table = order({{2, 300}});
+        EntityInvoiceMakanDitempat* first = sale(table, {{2, 300}}, 0);
+        if (isStored) {
+            QVERIFY(m_sales->insertInvoice(first));
+            first = readAgain(first);
+        }
+        first->setDetails(lines({{3, 300}, {13, 300}, {4, 300}}));
+        hangUpAtQuantity13("invoice_detail");
+        const auto save = [&] { return isStored ? m_sales->updateInvoice(first) : m_sales->insertInvoice(first); };
+        QVERIFY(!save());
+        QVERIFY(m_sales->takeErrors().startsWith("error: insert dine invoice detail failed."));
+        QCOMPARE(count("invoice"), isStored ? 1 : 0);
+        QCOMPARE(m_database->value("select coalesce(string_agg(qty::text, ','), '') from invoice_detail").toString(),
+                 QString(isStored ? "2" : ""));
+
+        m_database->run("DROP TRIGGER hang_up ON invoice_detail");
+        QVERIFY2(save(), qPrintable(m_sales->takeErrors()));
+        QCOMPARE(soldQuantities(first->getInvoice()->getId()), QString("3,13,4"));
+    }
+
+    void aSessionLostWhileAnOrderIsSavedWritesNothing()
+    {
+        EntityMakanDitempat* table = order({{2, 300}});
+        EntityOrder::Lines ordered = table->getDetails();
+        for (int quantity : {13, 4}) {
+            EntityOrderDetail* line = ordered.first()->createSibling();
+            line->setParent(m_records.get());
+            line->setItem(ordered.first()->getItem());
+            line->setQty(quantity);
+            line->setPriceEach(new Money(line, 300, "Rp"));
+            line->setTotal(new Money(line, 300, "Rp"));
+            ordered.append(line);
+        }
+        table->setDetails(ordered);
+        hangUpAtQuantity13("makan_ditempat_detail");
+        QVERIFY(!m_sales->updateOrder(table));
+        QCOMPARE(m_sales->takeErrors().count("The connection to the database is lost."), 1);
+        QCOMPARE(count("makan_ditempat_detail"), 1);
+        QCOMPARE(stored("version", "makan_ditempat", table->getId()), QString("1"));
+    }
 
 private:
-    EntityMakanDitempat* order(const QList<Dish>& dishes);
-    QList<EntityInvoiceDetail*> lines(const QList<Dish>& dishes);
+    EntityMakanDitempat* order(const QList<Dish>& dishes)
+    {
+        return m_sales->findOrder(insertDineOrder(*m_database, dishes));
+    }
+
+    QList<EntityInvoiceDetail*> lines(const QList<Dish>& dishes)
+    {
+        auto* rice = new EntityItem(m_records.get());
+        rice->setId(1);
+        QList<EntityInvoiceDetail*> result;
+        for (const Dish& dish : dishes) {
+            auto* line = new EntityInvoiceDetail(m_records.get());
+            line->setItem(rice);
+            line->setQty(dish.first);
+            line->setPriceEach(new Money(line, dish.second, "Rp"));
+            line->recomputeTotal();
+            result.append(line);
+        }
+        return result;
+    }
+
     /** An invoice of the order for these dishes, not yet saved. */
-    EntityInvoiceMakanDitempat* sale(EntityMakanDitempat* order, const QList<Dish>& dishes, double paid);
-    void pay(EntityInvoiceMakanDitempat* sale, double paid);
-    EntityInvoiceMakanDitempat* readAgain(EntityInvoiceMakanDitempat* sale);
-    QString stored(const QString& columns, const QString& table, int id);
+    EntityInvoiceMakanDitempat* sale(EntityMakanDitempat* order, const QList<Dish>& dishes, double paid)
+    {
+        auto* sale = new EntityInvoiceMakanDitempat(m_records.get());
+        sale->setMakanDitempat(order);
+        sale->setDetails(lines(dishes));
+        sale->getInvoice()->setInvoiceDate(QDate(2026, 3, 1));
+        sale->getInvoice()->setAcctCode("1-100");
+        pay(sale, paid);
+        return sale;
+    }
+
+    void pay(EntityInvoiceMakanDitempat* sale, double paid)
+    {
+        double subtotal = 0;
+        for (const EntityInvoiceDetail* line : sale->getDetails())
+            subtotal += line->getTotal()->getAmount();
+        InvoiceTotals totals;
+        totals.setCurrency("Rp");
+        totals.setSubtotal(subtotal);
+        totals.setPaid(paid);
+        totals.writeTo(sale->getInvoice());
+    }
+
+    EntityInvoiceMakanDitempat* readAgain(EntityInvoiceMakanDitempat* sale)
+    {
+        return m_sales->findInvoiceMakanDitempat(sale->getId());
+    }
+
+    QString stored(const QString& columns, const QString& table, int id)
+    {
+        return m_database->value(QString("select concat_ws(' ', %1) from %2 where id = %3").arg(columns, table).arg(id))
+            .toString();
+    }
+
     int count(const QString& table) { return m_database->value("select count(*) from " + table).toInt(); }
     int orderStatus(int id) { return stored("status", "makan_ditempat", id).toInt(); }
-    QString soldQuantities(int invoiceId);
+    QString soldQuantities(int invoiceId)
+    {
+        return m_database
+            ->value(QString("select string_agg(qty::text, ',' order by id) from invoice_detail where invoice_id = %1")
+                        .arg(invoiceId))
+            .toString();
+    }
+
     /** The server ends the program's session when it writes such a line to the table. */
-    void hangUpAtQuantity13(const QString& table);
+    void hangUpAtQuantity13(const QString& table)
+    {
+        m_database->run("CREATE FUNCTION hang_up() RETURNS trigger LANGUAGE plpgsql AS "
+                        "'BEGIN PERFORM pg_terminate_backend(pg_backend_pid()); RETURN NEW; END'");
+        m_database->run("CREATE TRIGGER hang_up BEFORE INSERT ON " + table +
+                        " FOR EACH ROW WHEN (NEW.qty = 13) "
+                        "EXECUTE FUNCTION hang_up()");
+    }
 
     std::unique_ptr<TestDatabase> m_database;
     std::unique_ptr<QObject> m_records;
     BusinessPenjualan* m_sales = nullptr;
 };
-
-void TestInvoices::init()
-{
-    m_database = std::make_unique<TestDatabase>();
-    m_records = std::make_unique<QObject>();
-    insertShop(*m_database);
-    loginAsAdmin();
-    m_sales = service<BusinessPenjualan>("Sales");
-}
-
-void TestInvoices::cleanup()
-{
-    m_sales->clearErrors();
-    m_records.reset();
-    m_database.reset();
-}
-
-EntityMakanDitempat* TestInvoices::order(const QList<Dish>& dishes)
-{
-    return m_sales->findOrder(insertDineOrder(*m_database, dishes));
-}
-
-QList<EntityInvoiceDetail*> TestInvoices::lines(const QList<Dish>& dishes)
-{
-    auto* rice = new EntityItem(m_records.get());
-    rice->setId(1);
-    QList<EntityInvoiceDetail*> result;
-    for (const Dish& dish : dishes) {
-        auto* line = new EntityInvoiceDetail(m_records.get());
-        line->setItem(rice);
-        line->setQty(dish.first);
-        line->setPriceEach(new Money(line, dish.second, "Rp"));
-        line->recomputeTotal();
-        result.append(line);
-    }
-    return result;
-}
-
-void TestInvoices::pay(EntityInvoiceMakanDitempat* sale, double paid)
-{
-    double subtotal = 0;
-    for (const EntityInvoiceDetail* line : sale->getDetails())
-        subtotal += line->getTotal()->getAmount();
-    InvoiceTotals totals;
-    totals.setCurrency("Rp");
-    totals.setSubtotal(subtotal);
-    totals.setPaid(paid);
-    totals.writeTo(sale->getInvoice());
-}
-
-EntityInvoiceMakanDitempat* TestInvoices::sale(EntityMakanDitempat* order, const QList<Dish>& dishes, double paid)
-{
-    auto* sale = new EntityInvoiceMakanDitempat(m_records.get());
-    sale->setMakanDitempat(order);
-    sale->setDetails(lines(dishes));
-    sale->getInvoice()->setInvoiceDate(QDate(2026, 3, 1));
-    sale->getInvoice()->setAcctCode("1-100");
-    pay(sale, paid);
-    return sale;
-}
-
-EntityInvoiceMakanDitempat* TestInvoices::readAgain(EntityInvoiceMakanDitempat* sale)
-{
-    return m_sales->findInvoiceMakanDitempat(sale->getId());
-}
-
-QString TestInvoices::stored(const QString& columns, const QString& table, int id)
-{
-    return m_database->value(QString("select concat_ws(' ', %1) from %2 where id = %3").arg(columns, table).arg(id))
-        .toString();
-}
-
-QString TestInvoices::soldQuantities(int invoiceId)
-{
-    return m_database
-        ->value(QString("select string_agg(qty::text, ',' order by id) from invoice_detail where invoice_id = %1")
-                    .arg(invoiceId))
-        .toString();
-}
-
-void TestInvoices::anInvoiceIsReadBackWithItsPeopleItsOrderAndItsLines()
-{
-    EntityMakanDitempat* table = order({{2, 300}, {1, 400}});
-    EntityInvoiceMakanDitempat* first = sale(table, {{2, 300}, {1, 400}}, 1500);
-    EntityEmployee ann;
-    ann.setId(1);
-    EntityAgent guide;
-    guide.setId(1);
-    EntityMember guest;
-    guest.setId(1);
-    first->setEmployee(&ann);
-    first->setAgent(&guide);
-    first->getInvoice()->setMember(&guest);
-    first->setDueDate(QDate(2026, 4, 1));
-    first->getInvoice()->setPemesan("Mary");
-    QVERIFY2(m_sales->insertInvoice(first), qPrintable(m_sales->takeErrors()));
-
-    EntityInvoiceMakanDitempat* found = m_sales->findMakanDitempatByInvoiceId(first->getInvoice()->getId());
-    QVERIFY(found);
-    QCOMPARE(found->getId(), first->getId());
-    const Invoice* invoice = found->getInvoice();
-    QCOMPARE(invoice->getInvoiceNo(), QString("TRD-0007"));
-    QCOMPARE(invoice->getStatus(), int(Invoice::FULL_PAID));
-    // More was paid than it cost: what is due has the sign of change.
-    QCOMPARE(invoice->getNetDue()->getAmount(), -500.0);
-    QCOMPARE(invoice->getMember()->getNama(), QString("Guest"));
-    QCOMPARE(found->getAgent()->getNama(), QString("Guide"));
-    QCOMPARE(found->getEmployee()->getNama(), QString("Ann"));
-    QCOMPARE(found->getDueDate(), QDate(2026, 4, 1));
-    QCOMPARE(found->getMakanDitempat()->getMeja()->getKode(), QString("T1"));
-    QCOMPARE(found->getMakanDitempat()->getDetails().size(), 2);
-    QCOMPARE(found->getDetails().size(), 2);
-    QCOMPARE(found->getDetails().first()->getItem()->getNama(), QString("Rice"));
-    QCOMPARE(found->getDetails().first()->getTotal()->getAmount(), 600.0);
-    QCOMPARE(stored("invoice_type, employee_id, pemesan", "invoice", invoice->getId()), QString("TRD 1 Mary"));
-    QCOMPARE(m_database->value("select sum(discount_amount) from invoice_detail").toInt(), 0);
-    QCOMPARE(orderStatus(table->getId()), int(EntityOrder::PAID));
-}
-
-void TestInvoices::savingAndReadingTakeAFixedNumberOfTrips()
-{
-    const QList<Dish> dishes{{1, 10}, {2, 20}, {3, 30}, {4, 40}, {5, 50}, {6, 60}};
-    const int id = insertDineOrder(*m_database, dishes);
-    StatementCount reading;
-    EntityMakanDitempat* table = m_sales->findOrder(id);
-    QVERIFY2(reading.count() <= 3, qPrintable(QString::number(reading.count())));
-
-    // The first bill of the day prepares the statements.
-    QVERIFY(m_sales->insertInvoice(sale(order(dishes), dishes, 0)));
-    EntityInvoiceMakanDitempat* first = sale(table, dishes, 100);
-    first->setKnownBills({});
-    {
-        // Begin with the locks and the other bills, the number read and raised, the invoice, its link with the lines,
-        // commit; what the bills of the order come to, its status.
-        const TripCount saving;
-        QVERIFY(m_sales->insertInvoice(first));
-        QVERIFY2(saving.sent().size() <= 8, qPrintable(saving.sent().join('\n')));
-    }
-
-    StatementCount one;
-    QCOMPARE(m_sales->getInvoicesOfOrder(id).size(), 1);
-    const int forOne = one.count();
-    QVERIFY(m_sales->insertInvoice(sale(m_sales->findOrder(id), {{1, 10}}, 0)));
-    QVERIFY(m_sales->insertInvoice(sale(m_sales->findOrder(id), {{1, 10}}, 0)));
-    StatementCount three;
-    QCOMPARE(m_sales->getInvoicesOfOrder(id).size(), 3);
-    QCOMPARE(three.count(), forOne);
-}
-
-void TestInvoices::aChangedInvoiceHasExactlyTheNewLines()
-{
-    EntityMakanDitempat* table = order({{2, 300}, {1, 400}});
-    EntityInvoiceMakanDitempat* first = sale(table, {{2, 300}, {1, 400}}, 0);
-    QVERIFY(m_sales->insertInvoice(first));
-    const int lastLine = m_database->value("select max(id) from invoice_detail").toInt();
-
-    EntityInvoiceMakanDitempat* again = readAgain(first);
-    again->setDetails({again->getDetails().at(1)});
-    pay(again, 100);
-    QVERIFY2(m_sales->updateInvoice(again), qPrintable(m_sales->takeErrors()));
-    QCOMPARE(soldQuantities(again->getInvoice()->getId()), QString("1"));
-    QVERIFY(m_database->value("select min(id) from invoice_detail").toInt() > lastLine);
-    QCOMPARE(stored("no, sub_total_amount, status", "invoice", again->getInvoice()->getId()),
-             QString("TRD-0007 400 3"));
-
-    // The form could not read it again, so it saves once more from memory.
-    again->setDetails(lines({{5, 100}}));
-    pay(again, 500);
-    QVERIFY2(m_sales->updateInvoice(again), qPrintable(m_sales->takeErrors()));
-    QVERIFY2(!m_sales->hasError(), qPrintable(m_sales->takeErrors()));
-    QCOMPARE(soldQuantities(again->getInvoice()->getId()), QString("5"));
-    QCOMPARE(orderStatus(table->getId()), int(EntityOrder::PAID));
-}
-
-void TestInvoices::anInvoiceThatSomebodyElseSavedIsNotOverwritten()
-{
-    EntityMakanDitempat* table = order({{2, 300}});
-    EntityInvoiceMakanDitempat* first = sale(table, {{2, 300}}, 0);
-    QVERIFY(m_sales->insertInvoice(first));
-    EntityInvoiceMakanDitempat* again = readAgain(first);
-    m_database->run("UPDATE invoice SET version = 2, updatedby = 5");
-
-    again->setDetails(lines({{9, 300}}));
-    pay(again, 2700);
-    QVERIFY(!m_sales->updateInvoice(again));
-    // Changing an invoice fails in the words of writing one.
-    const QString told = m_sales->takeErrors();
-    QVERIFY2(told.startsWith("error: insert dine invoice failed  \r\n Table: invoice has been updated"),
-             qPrintable(told));
-    QCOMPARE(soldQuantities(again->getInvoice()->getId()), QString("2"));
-    QCOMPARE(orderStatus(table->getId()), int(EntityOrder::UNPAID));
-}
-
-void TestInvoices::aLineThatFailsTakesTheWholeSaleBack()
-{
-    EntityMakanDitempat* table = order({{2, 300}});
-    EntityInvoiceMakanDitempat* first = sale(table, {{2, 300}, {1, 100}}, 700);
-    first->getDetails().last()->getItem()->setId(4711);
-    QVERIFY(!m_sales->insertInvoice(first));
-    const QString told = m_sales->takeErrors();
-    QVERIFY2(told.startsWith("error: insert dine invoice detail failed.\r\n \r\n "), qPrintable(told));
-    QVERIFY2(told.contains("foreign key"), qPrintable(told));
-    QCOMPARE(count("invoice") + count("invoice_makan_ditempat") + count("invoice_detail"), 0);
-    QCOMPARE(orderStatus(table->getId()), int(EntityOrder::WAITING_FOR_MENU));
-    QVERIFY(!first->isSaved() && !first->getInvoice()->isSaved());
-
-    first->getDetails().last()->getItem()->setId(1);
-    QVERIFY2(m_sales->insertInvoice(first), qPrintable(m_sales->takeErrors()));
-    // The number was not lost with the attempt.
-    QCOMPARE(first->getInvoice()->getInvoiceNo(), QString("TRD-0007"));
-    QCOMPARE(soldQuantities(first->getInvoice()->getId()), QString("2,1"));
-}
-
-void TestInvoices::aLineThatFailsLeavesTheStoredInvoice()
-{
-    EntityMakanDitempat* table = order({{2, 300}});
-    EntityInvoiceMakanDitempat* first = sale(table, {{2, 300}}, 0);
-    QVERIFY(m_sales->insertInvoice(first));
-    EntityInvoiceMakanDitempat* again = readAgain(first);
-    again->setDetails(lines({{8, 300}, {9, 300}}));
-    again->getDetails().last()->getItem()->setId(4711);
-    pay(again, 600);
-    QVERIFY(!m_sales->updateInvoice(again));
-    QVERIFY(m_sales->takeErrors().startsWith("error: insert dine invoice detail failed.\r\n \r\n "));
-    QCOMPARE(soldQuantities(again->getInvoice()->getId()), QString("2"));
-    QCOMPARE(stored("amount_paid_amount, version", "invoice", again->getInvoice()->getId()), QString("0 1"));
-}
-
-void TestInvoices::aFirstSaveAsksAllInvoicesOfTheTableALaterOneOnlyItself()
-{
-    const int id = order({{2, 300}})->getId();
-    EntityInvoiceMakanDitempat* paid = sale(m_sales->findOrder(id), {{1, 300}}, 300);
-    QVERIFY(m_sales->insertInvoice(paid));
-    QCOMPARE(orderStatus(id), int(EntityOrder::PAID));
-    EntityInvoiceMakanDitempat* open = sale(m_sales->findOrder(id), {{1, 300}}, 0);
-    QVERIFY(m_sales->insertInvoice(open));
-    QCOMPARE(stored("status", "invoice", open->getInvoice()->getId()).toInt(), int(Invoice::UNPAID));
-    QCOMPARE(orderStatus(id), int(EntityOrder::PARTIALY_PAID));
-
-    // Saved again it is asked alone: the other invoice is no longer counted.
-    QVERIFY(m_sales->updateInvoice(readAgain(open)));
-    QCOMPARE(orderStatus(id), int(EntityOrder::UNPAID));
-    QVERIFY(m_sales->updateInvoice(readAgain(paid)));
-    QCOMPARE(orderStatus(id), int(EntityOrder::PAID));
-}
-
-void TestInvoices::aSaleStandsEvenWhenTheOrderHasChangedMeanwhile()
-{
-    EntityMakanDitempat* table = order({{2, 300}});
-    m_database->run("UPDATE makan_ditempat SET version = 2");
-    EntityInvoiceMakanDitempat* first = sale(table, {{2, 300}}, 600);
-    QVERIFY(m_sales->insertInvoice(first));
-    QCOMPARE(count("invoice"), 1);
-    const QString told = m_sales->takeErrors();
-    QVERIFY2(told.startsWith("error update status failed \r\n Table: makan_ditempat has been updated"),
-             qPrintable(told));
-    QCOMPARE(orderStatus(table->getId()), int(EntityOrder::WAITING_FOR_MENU));
-    // The next save makes up for it.
-    QVERIFY(m_sales->updateInvoice(readAgain(first)));
-    QCOMPARE(orderStatus(table->getId()), int(EntityOrder::PAID));
-}
-
-void TestInvoices::anUnknownKindOfSaleIsRefused()
-{
-    StrangeSale strange;
-    QVERIFY(!m_sales->insertInvoice(&strange));
-    QCOMPARE(m_sales->errors().value("insertInvoice"), QStringList{"mapper not found"});
-    QVERIFY(!m_sales->updateInvoice(&strange));
-    QCOMPARE(m_sales->errors().value("updateInvoice"), QStringList{"mapper not found"});
-}
-
-void TestInvoices::aTableIsFreedHoweverOldItsOrderInMemoryIs()
-{
-    EntityMakanDitempat* table = order({{2, 300}});
-    m_database->run("UPDATE makan_ditempat SET version = 5");
-    QVERIFY2(m_sales->makanDitempatSelesai(table), qPrintable(m_sales->takeErrors()));
-    QCOMPARE(orderStatus(table->getId()), int(EntityOrder::DONE));
-    m_database->run("DELETE FROM makan_ditempat_detail");
-    m_database->run("DELETE FROM makan_ditempat");
-    QVERIFY(!m_sales->makanDitempatSelesai(table));
-    QVERIFY(m_sales->hasError());
-}
-
-void TestInvoices::quantitiesSoldCountBothLimits()
-{
-    const QDate day(2026, 3, 10);
-    DataMapperInvoice* invoices = PosMapperRegistry::instance()->invoiceMapper();
-    QCOMPARE(invoices->quantityUsed(1, day), 0);
-    for (int offset : {-1, 0, 1}) {
-        EntityInvoiceMakanDitempat* one = sale(order({{2, 300}}), {{offset + 3, 300}}, 0);
-        one->getInvoice()->setInvoiceDate(day.addDays(offset));
-        QVERIFY(m_sales->insertInvoice(one));
-    }
-    QCOMPARE(invoices->quantityUsed(1, day), 5);
-    QCOMPARE(invoices->quantityUsed(1, day.addDays(-1), day), 5);
-    QCOMPARE(invoices->quantityUsed(1, day, day.addDays(1)), 7);
-    QCOMPARE(invoices->quantityUsed(1, day.addDays(2), day.addDays(9)), 0);
-    QCOMPARE(invoices->quantityUsed(4711, day), 0);
-}
-
-void TestInvoices::aSaleGoesThroughThoughTheSessionWasLostBefore()
-{
-    EntityMakanDitempat* table = order({{2, 300}});
-    EntityInvoiceMakanDitempat* first = sale(table, {{2, 300}, {1, 100}}, 700);
-    m_database->killConnections();
-    QVERIFY2(m_sales->insertInvoice(first), qPrintable(m_sales->takeErrors()));
-    QCOMPARE(soldQuantities(first->getInvoice()->getId()), QString("2,1"));
-    QCOMPARE(orderStatus(table->getId()), int(EntityOrder::PAID));
-}
-
-void TestInvoices::hangUpAtQuantity13(const QString& table)
-{
-    m_database->run("CREATE FUNCTION hang_up() RETURNS trigger LANGUAGE plpgsql AS "
-                    "'BEGIN PERFORM pg_terminate_backend(pg_backend_pid()); RETURN NEW; END'");
-    m_database->run("CREATE TRIGGER hang_up BEFORE INSERT ON " + table +
-                    " FOR EACH ROW WHEN (NEW.qty = 13) "
-                    "EXECUTE FUNCTION hang_up()");
-}
-
-void TestInvoices::aSessionLostBetweenTwoLinesWritesNothing_data()
-{
-    QTest::addColumn<bool>("isStored");
-    QTest::newRow("of a new invoice") << false;
-    QTest::newRow("of a changed invoice") << true;
-}
-
-void TestInvoices::aSessionLostBetweenTwoLinesWritesNothing()
-{
-    QFETCH(bool, isStored);
-    EntityMakanDitempat* table = order({{2, 300}});
-    EntityInvoiceMakanDitempat* first = sale(table, {{2, 300}}, 0);
-    if (isStored) {
-        QVERIFY(m_sales->insertInvoice(first));
-        first = readAgain(first);
-    }
-    first->setDetails(lines({{3, 300}, {13, 300}, {4, 300}}));
-    hangUpAtQuantity13("invoice_detail");
-    const auto save = [&] { return isStored ? m_sales->updateInvoice(first) : m_sales->insertInvoice(first); };
-    QVERIFY(!save());
-    QVERIFY(m_sales->takeErrors().startsWith("error: insert dine invoice detail failed."));
-    QCOMPARE(count("invoice"), isStored ? 1 : 0);
-    QCOMPARE(m_database->value("select coalesce(string_agg(qty::text, ','), '') from invoice_detail").toString(),
-             QString(isStored ? "2" : ""));
-
-    m_database->run("DROP TRIGGER hang_up ON invoice_detail");
-    QVERIFY2(save(), qPrintable(m_sales->takeErrors()));
-    QCOMPARE(soldQuantities(first->getInvoice()->getId()), QString("3,13,4"));
-}
-
-void TestInvoices::aSessionLostWhileAnOrderIsSavedWritesNothing()
-{
-    EntityMakanDitempat* table = order({{2, 300}});
-    EntityOrder::Lines ordered = table->getDetails();
-    for (int quantity : {13, 4}) {
-        EntityOrderDetail* line = ordered.first()->createSibling();
-        line->setParent(m_records.get());
-        line->setItem(ordered.first()->getItem());
-        line->setQty(quantity);
-        line->setPriceEach(new Money(line, 300, "Rp"));
-        line->setTotal(new Money(line, 300, "Rp"));
-        ordered.append(line);
-    }
-    table->setDetails(ordered);
-    hangUpAtQuantity13("makan_ditempat_detail");
-    QVERIFY(!m_sales->updateOrder(table));
-    QCOMPARE(m_sales->takeErrors().count("The connection to the database is lost."), 1);
-    QCOMPARE(count("makan_ditempat_detail"), 1);
-    QCOMPARE(stored("version", "makan_ditempat", table->getId()), QString("1"));
-}
 
 QTEST_MAIN(TestInvoices)
 #include "tst_invoices.moc"

@@ -6,6 +6,7 @@
 #include "pos/masterdata/item/EntityStokAwal.h"
 #include "pos/masterdata/itemtype/BusinessJenisItem.h"
 #include "pos/masterdata/unit/BusinessSatuan.h"
+#include "support/Rows.h"
 #include "support/TestDatabase.h"
 
 #include <QTest>
@@ -28,254 +29,213 @@ class TestItems : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
+    void init()
+    {
+        m_database = std::make_unique<TestDatabase>();
+        loginAsAdmin();
+        m_items = service<BusinessItem>("Item");
+        m_components = service<BusinessGroupedItem>("Grouped Item");
+    }
+
     void cleanup() { m_database.reset(); }
 
-    void anItemKeepsItsPricesAndAccounts();
-    void aSecondPriceIsKeptThoughNoFormShowsIt();
-    void aNewItemStartsWithABalanceOfNothing();
-    void anItemWithoutItsBalanceIsNotSaved_data();
-    void anItemWithoutItsBalanceIsNotSaved();
-    void itemsAreSearched_data();
-    void itemsAreSearched();
-    void componentsAreListedAndFound();
-    void aComponentIsNotDeletedBeforeItsParents();
-    void aFailedLookForParentsDeletesNothing();
+    void anItemKeepsItsPricesAndAccounts()
+    {
+        EntityItem tea;
+        fill(tea, "TEA'1", "mnm", EntityItem::SRV);
+        tea.setIsGroup(true);
+        tea.setNotes("strong");
+        QVERIFY2(m_items->insert(&tea), qPrintable(m_items->takeErrors()));
+
+        const EntityItem* read = find("tea'1");
+        QVERIFY(read);
+        QCOMPARE(read->getNama(), QString("Name of TEA'1"));
+        QCOMPARE(read->getItemType(), int(EntityItem::SRV));
+        QVERIFY(read->getIsGroup());
+        QCOMPARE(read->getJenis()->getNama(), QString("Drinks"));
+        QCOMPARE(read->getSatuan()->getKode(), QString("pcs"));
+        QCOMPARE(read->getHargaBeli()->getCurrency(), QString("Rp"));
+        QCOMPARE(read->getHargaBeli()->rawAmount(), 12000);
+        // Cents never reach the database.
+        QCOMPARE(read->getHargaJualLokal()->getCurrency(), QString("$"));
+        QCOMPARE(read->getHargaJualLokal()->rawAmount(), 1200);
+        QVERIFY(!read->getHargaJualLuar());
+        QCOMPARE(read->getNotes(), QString("strong"));
+        QCOMPARE(read->getSalesAcctCode(), QString("4050"));
+        QCOMPARE(read->getInventoryAcctCode(), QString("1200"));
+        QCOMPARE(read->getCostOfSalesAcctCode(), QString("5000"));
+    }
+
+    void aSecondPriceIsKeptThoughNoFormShowsIt()
+    {
+        m_database->run(
+            "UPDATE item SET harga_jual_luar_currency = 'Rp', harga_jual_luar_amount = 700 WHERE kode = 'ns'");
+        EntityItem* rice = find("ns");
+        rice->setNama("Steamed rice");
+        QVERIFY2(m_items->update(rice), qPrintable(m_items->takeErrors()));
+        QCOMPARE(m_database->value("SELECT harga_jual_luar_amount FROM item WHERE nama = 'Steamed rice'").toInt(), 700);
+    }
+
+    void aNewItemStartsWithABalanceOfNothing()
+    {
+        EntityItem tea;
+        fill(tea, "tea", "mnm", EntityItem::INV);
+        QVERIFY2(m_items->insert(&tea), qPrintable(m_items->takeErrors()));
+
+        auto* balances = service<BusinessStokAwal>("Beginning Balance");
+        const EntityStokAwal* balance = balances->findByItemId(tea.getId());
+        QVERIFY(balance);
+        QCOMPARE(balance->getJumlah(), 0);
+        QCOMPARE(balance->getHarga()->rawAmount(), 12000);
+        QCOMPARE(balance->getItem()->getKode(), QString("tea"));
+        QCOMPARE(balance->getItem()->getSatuan()->getKode(), QString("pcs"));
+        QCOMPARE(balance->getDateTime().date(), QDate::currentDate());
+        QCOMPARE(balances->findAll("TEA").size(), 1);
+        QCOMPARE(balances->findAll(QString()).size(), m_database->value("SELECT count(*) FROM item").toInt());
+    }
+
+    void anItemWithoutItsBalanceIsNotSaved_data()
+    {
+        addColumns<QStringList, QString>("causes", "said");
+        addRow("a refused balance", QStringList{"ALTER TABLE stok_awal ADD CHECK (harga_amount < 100)"}, "stok_awal");
+        addRow("refused at the very end",
+               QStringList{"CREATE FUNCTION refuse() RETURNS trigger LANGUAGE plpgsql AS "
+                           "$$BEGIN RAISE EXCEPTION 'too dear'; END$$",
+                           "CREATE CONSTRAINT TRIGGER refuse AFTER INSERT ON stok_awal DEFERRABLE INITIALLY DEFERRED "
+                           "FOR EACH ROW WHEN (NEW.harga_amount >= 100) EXECUTE FUNCTION refuse()"},
+               "too dear");
+        addRow("no way to the server", QStringList(), "create transaction failed\r\n");
+    }
+
+    void anItemWithoutItsBalanceIsNotSaved()
+    {
+        EntityItem tea;
+        fill(tea, "tea", "mnm", EntityItem::INV);
+        QFETCH(QStringList, causes);
+        for (const QString& cause : qAsConst(causes))
+            m_database->run(cause);
+        if (causes.isEmpty()) {
+            QSqlDatabase program = QSqlDatabase::database(QSqlDatabase::defaultConnection, false);
+            program.close();
+            program.setPort(1);
+        }
+        QVERIFY(!m_items->insert(&tea));
+        QFETCH(QString, said);
+        const QString errors = m_items->takeErrors();
+        QVERIFY2(errors.contains(said), qPrintable(errors));
+        QVERIFY(!causes.isEmpty() || m_database->open());
+        QVERIFY(!tea.isSaved());
+        QVERIFY(!find("tea"));
+
+        tea.setHargaBeli(new Money(&tea, 99, "Rp"));
+        QVERIFY2(m_items->insert(&tea), qPrintable(m_items->takeErrors()));
+    }
+
+    void itemsAreSearched_data()
+    {
+        addColumns<QString, QString, QString, QStringList>("way", "filter", "type", "found");
+
+        using L = QStringList;
+        addRow("all", "any", "", "", L{"aym", "fr", "juice", "llp", "ns", "tea"});
+        addRow("a part of a name", "any", "rice", "", L{"fr", "llp", "ns"});
+        addRow("in whatever letters", "any", "FRI", "", L{"aym", "fr"});
+        addRow("a part of a code", "any", "uic", "", L{"juice"});
+        addRow("one type", "any", "", "mnm", L{"juice", "tea"});
+        addRow("one type and a name", "any", "rice", "mnm", L{});
+        addRow("stock", "stock", "", "", L{"aym", "ns", "tea"});
+        addRow("stock of one type", "stock", "", "mnm", L{"tea"});
+        addRow("stock by name", "stock", "rice", "", L{"ns"});
+        addRow("menu", "menu", "", "", L{"fr", "juice", "llp"});
+        addRow("menu of one type, by code", "menu", "JUI", "mnm", L{"juice"});
+        addRow("an apostrophe", "menu", "o'", "", L{});
+    }
+
+    void itemsAreSearched()
+    {
+        QFETCH(QString, way);
+        QFETCH(QString, filter);
+        QFETCH(QString, type);
+        EntityItem tea;
+        fill(tea, "tea", "mnm", EntityItem::INV);
+        EntityItem juice;
+        fill(juice, "juice", "mnm", EntityItem::SRV);
+        QVERIFY(m_items->insert(&tea) && m_items->insert(&juice));
+
+        const int typeId = type.isEmpty() ? -1 : service<BusinessJenisItem>("Item Type")->findByCode(type)->getId();
+        const QList<KorEntity*> found = way == "stock"  ? m_items->searchByType(filter, typeId)
+                                        : way == "menu" ? m_items->searchServices(filter, typeId)
+                                                        : m_items->search(filter, type);
+        QVERIFY2(!m_items->hasError(), qPrintable(m_items->takeErrors()));
+        QTEST(codesOf(found), "found");
+    }
+
+    void componentsAreListedAndFound()
+    {
+        const int parent = find("fr")->getId();
+        const auto rows = castAll<EntityGroupedItem>(m_components->search("RICE", parent));
+        QCOMPARE(rows.size(), 1);
+        EntityGroupedItem* rice = rows.first();
+        QCOMPARE(rice->getOriginal()->getKode(), QString("ns"));
+        QCOMPARE(rice->getOriginal()->getHargaBeli()->getAmount(), 1.0);
+        QCOMPARE(rice->getJumlah(), 2);
+        QCOMPARE(m_components->search("", parent).size(), 2);
+        QCOMPARE(m_components->search("", find("ns")->getId()).size(), 0);
+        QVERIFY(m_components->findByParentAndItem(parent, find("ns")->getId()));
+        QVERIFY(!m_components->findByParentAndItem(find("ns")->getId(), parent));
+
+        // A row as it was read can be saved again: it knows its parent.
+        rice->setJumlah(3);
+        QVERIFY2(m_components->update(rice), qPrintable(m_components->takeErrors()));
+        QCOMPARE(m_components->findByParentAndItem(parent, find("ns")->getId())->getJumlah(), 3);
+    }
+
+    void aComponentIsNotDeletedBeforeItsParents()
+    {
+        m_database->run(
+            "INSERT INTO grouped_item (parent_id, original_item_id, jumlah, version) SELECT p.id, c.id, 1, 1 "
+            "FROM item p, item c WHERE p.kode = 'llp' AND c.kode = 'ns'");
+        QVERIFY(!m_items->remove(find("ns")));
+        QCOMPARE(m_items->takeErrors(),
+                 QString("This item is used by: Fried Rice\nRice with fresh vegetables. Please delete it first!\r\n"));
+        QVERIFY(find("ns"));
+
+        QVERIFY2(m_items->remove(find("fr")), qPrintable(m_items->takeErrors()));
+        QCOMPARE(m_database->value("SELECT count(*) FROM grouped_item").toInt(), 1);
+        QVERIFY2(m_items->remove(find("llp")), qPrintable(m_items->takeErrors()));
+        QVERIFY2(m_items->remove(find("ns")), qPrintable(m_items->takeErrors()));
+        QCOMPARE(m_database->value("SELECT count(*) FROM stok_awal").toInt(), 1);
+    }
+
+    void aFailedLookForParentsDeletesNothing()
+    {
+        EntityItem* vegetables = find("llp");
+        m_database->run("ALTER TABLE grouped_item RENAME TO elsewhere");
+        QVERIFY(!m_items->remove(vegetables));
+        QCOMPARE(m_items->errors().keys(), QStringList{"remove"});
+        m_items->clearErrors();
+        QVERIFY(find("llp"));
+    }
 
 private:
     [[nodiscard]] EntityItem* find(const QString& code) { return m_items->findByCode(code); }
-    void fill(EntityItem& item, const QString& code, const QString& typeCode, EntityItem::ItemClass itemClass);
+    void fill(EntityItem& item, const QString& code, const QString& typeCode, EntityItem::ItemClass itemClass)
+    {
+        item.setKode(code);
+        item.setNama("Name of " + code);
+        item.setItemType(itemClass);
+        item.setJenis(service<BusinessJenisItem>("Item Type")->findByCode(typeCode));
+        item.setSatuan(service<BusinessSatuan>("Unit")->findByCode("pcs"));
+        item.setHargaBeli(new Money(&item, 12000, "Rp"));
+        item.setHargaJualLokal(new Money(&item, 12.5, "$"));
+        item.setSalesAcctCode("4050");
+        item.setInventoryAcctCode("1200");
+        item.setCostOfSalesAcctCode("5000");
+    }
 
     std::unique_ptr<TestDatabase> m_database;
     BusinessItem* m_items = nullptr;
     BusinessGroupedItem* m_components = nullptr;
 };
-
-void TestItems::init()
-{
-    m_database = std::make_unique<TestDatabase>();
-    loginAsAdmin();
-    m_items = service<BusinessItem>("Item");
-    m_components = service<BusinessGroupedItem>("Grouped Item");
-}
-
-void TestItems::fill(EntityItem& item, const QString& code, const QString& typeCode, EntityItem::ItemClass itemClass)
-{
-    item.setKode(code);
-    item.setNama("Name of " + code);
-    item.setItemType(itemClass);
-    item.setJenis(service<BusinessJenisItem>("Item Type")->findByCode(typeCode));
-    item.setSatuan(service<BusinessSatuan>("Unit")->findByCode("pcs"));
-    item.setHargaBeli(new Money(&item, 12000, "Rp"));
-    item.setHargaJualLokal(new Money(&item, 12.5, "$"));
-    item.setSalesAcctCode("4050");
-    item.setInventoryAcctCode("1200");
-    item.setCostOfSalesAcctCode("5000");
-}
-
-void TestItems::anItemKeepsItsPricesAndAccounts()
-{
-    EntityItem tea;
-    fill(tea, "TEA'1", "mnm", EntityItem::SRV);
-    tea.setIsGroup(true);
-    tea.setNotes("strong");
-    QVERIFY2(m_items->insert(&tea), qPrintable(m_items->takeErrors()));
-
-    const EntityItem* read = find("tea'1");
-    QVERIFY(read);
-    QCOMPARE(read->getNama(), QString("Name of TEA'1"));
-    QCOMPARE(read->getItemType(), int(EntityItem::SRV));
-    QVERIFY(read->getIsGroup());
-    QCOMPARE(read->getJenis()->getNama(), QString("Drinks"));
-    QCOMPARE(read->getSatuan()->getKode(), QString("pcs"));
-    QCOMPARE(read->getHargaBeli()->getCurrency(), QString("Rp"));
-    QCOMPARE(read->getHargaBeli()->rawAmount(), 12000);
-    // Cents never reach the database.
-    QCOMPARE(read->getHargaJualLokal()->getCurrency(), QString("$"));
-    QCOMPARE(read->getHargaJualLokal()->rawAmount(), 1200);
-    QVERIFY(!read->getHargaJualLuar());
-    QCOMPARE(read->getNotes(), QString("strong"));
-    QCOMPARE(read->getSalesAcctCode(), QString("4050"));
-    QCOMPARE(read->getInventoryAcctCode(), QString("1200"));
-    QCOMPARE(read->getCostOfSalesAcctCode(), QString("5000"));
-}
-
-void TestItems::aSecondPriceIsKeptThoughNoFormShowsIt()
-{
-    m_database->run("UPDATE item SET harga_jual_luar_currency = 'Rp', harga_jual_luar_amount = 700 WHERE kode = 'ns'");
-    EntityItem* rice = find("ns");
-    rice->setNama("Steamed rice");
-    QVERIFY2(m_items->update(rice), qPrintable(m_items->takeErrors()));
-    QCOMPARE(m_database->value("SELECT harga_jual_luar_amount FROM item WHERE nama = 'Steamed rice'").toInt(), 700);
-}
-
-void TestItems::aNewItemStartsWithABalanceOfNothing()
-{
-    EntityItem tea;
-    fill(tea, "tea", "mnm", EntityItem::INV);
-    QVERIFY2(m_items->insert(&tea), qPrintable(m_items->takeErrors()));
-
-    auto* balances = service<BusinessStokAwal>("Beginning Balance");
-    const EntityStokAwal* balance = balances->findByItemId(tea.getId());
-    QVERIFY(balance);
-    QCOMPARE(balance->getJumlah(), 0);
-    QCOMPARE(balance->getHarga()->rawAmount(), 12000);
-    QCOMPARE(balance->getItem()->getKode(), QString("tea"));
-    QCOMPARE(balance->getItem()->getSatuan()->getKode(), QString("pcs"));
-    QCOMPARE(balance->getDateTime().date(), QDate::currentDate());
-    QCOMPARE(balances->findAll("TEA").size(), 1);
-    QCOMPARE(balances->findAll(QString()).size(), m_database->value("SELECT count(*) FROM item").toInt());
-}
-
-void TestItems::anItemWithoutItsBalanceIsNotSaved_data()
-{
-    QTest::addColumn<QStringList>("causes");
-    QTest::addColumn<QString>("said");
-    QTest::newRow("a refused balance") << QStringList{"ALTER TABLE stok_awal ADD CHECK (harga_amount < 100)"}
-                                       << "stok_awal";
-    QTest::newRow("refused at the very end")
-        << QStringList{"CREATE FUNCTION refuse() RETURNS trigger LANGUAGE plpgsql AS "
-                       "$$BEGIN RAISE EXCEPTION 'too dear'; END$$",
-                       "CREATE CONSTRAINT TRIGGER refuse AFTER INSERT ON stok_awal DEFERRABLE INITIALLY DEFERRED "
-                       "FOR EACH ROW WHEN (NEW.harga_amount >= 100) EXECUTE FUNCTION refuse()"}
-        << "too dear";
-    QTest::newRow("no way to the server") << QStringList() << "create transaction failed\r\n";
-}
-
-void TestItems::anItemWithoutItsBalanceIsNotSaved()
-{
-    EntityItem tea;
-    fill(tea, "tea", "mnm", EntityItem::INV);
-    QFETCH(QStringList, causes);
-    for (const QString& cause : qAsConst(causes))
-        m_database->run(cause);
-    if (causes.isEmpty()) {
-        QSqlDatabase program = QSqlDatabase::database(QSqlDatabase::defaultConnection, false);
-        program.close();
-        program.setPort(1);
-    }
-    QVERIFY(!m_items->insert(&tea));
-    QFETCH(QString, said);
-    const QString errors = m_items->takeErrors();
-    QVERIFY2(errors.contains(said), qPrintable(errors));
-    QVERIFY(!causes.isEmpty() || m_database->open());
-    QVERIFY(!tea.isSaved());
-    QVERIFY(!find("tea"));
-
-    tea.setHargaBeli(new Money(&tea, 99, "Rp"));
-    QVERIFY2(m_items->insert(&tea), qPrintable(m_items->takeErrors()));
-}
-
-void TestItems::itemsAreSearched_data()
-{
-    QTest::addColumn<QString>("way");
-    QTest::addColumn<QString>("filter");
-    QTest::addColumn<QString>("type");
-    QTest::addColumn<QStringList>("found");
-
-    using L = QStringList;
-    QTest::newRow("all") << "any"
-                         << ""
-                         << "" << L{"aym", "fr", "juice", "llp", "ns", "tea"};
-    QTest::newRow("a part of a name") << "any"
-                                      << "rice"
-                                      << "" << L{"fr", "llp", "ns"};
-    QTest::newRow("in whatever letters") << "any"
-                                         << "FRI"
-                                         << "" << L{"aym", "fr"};
-    QTest::newRow("a part of a code") << "any"
-                                      << "uic"
-                                      << "" << L{"juice"};
-    QTest::newRow("one type") << "any"
-                              << ""
-                              << "mnm" << L{"juice", "tea"};
-    QTest::newRow("one type and a name") << "any"
-                                         << "rice"
-                                         << "mnm" << L{};
-    QTest::newRow("stock") << "stock"
-                           << ""
-                           << "" << L{"aym", "ns", "tea"};
-    QTest::newRow("stock of one type") << "stock"
-                                       << ""
-                                       << "mnm" << L{"tea"};
-    QTest::newRow("stock by name") << "stock"
-                                   << "rice"
-                                   << "" << L{"ns"};
-    QTest::newRow("menu") << "menu"
-                          << ""
-                          << "" << L{"fr", "juice", "llp"};
-    QTest::newRow("menu of one type, by code") << "menu"
-                                               << "JUI"
-                                               << "mnm" << L{"juice"};
-    QTest::newRow("an apostrophe") << "menu"
-                                   << "o'"
-                                   << "" << L{};
-}
-
-void TestItems::itemsAreSearched()
-{
-    QFETCH(QString, way);
-    QFETCH(QString, filter);
-    QFETCH(QString, type);
-    EntityItem tea;
-    fill(tea, "tea", "mnm", EntityItem::INV);
-    EntityItem juice;
-    fill(juice, "juice", "mnm", EntityItem::SRV);
-    QVERIFY(m_items->insert(&tea) && m_items->insert(&juice));
-
-    const int typeId = type.isEmpty() ? -1 : service<BusinessJenisItem>("Item Type")->findByCode(type)->getId();
-    const QList<KorEntity*> found = way == "stock"  ? m_items->searchByType(filter, typeId)
-                                    : way == "menu" ? m_items->searchServices(filter, typeId)
-                                                    : m_items->search(filter, type);
-    QVERIFY2(!m_items->hasError(), qPrintable(m_items->takeErrors()));
-    QTEST(codesOf(found), "found");
-}
-
-void TestItems::componentsAreListedAndFound()
-{
-    const int parent = find("fr")->getId();
-    const auto rows = castAll<EntityGroupedItem>(m_components->search("RICE", parent));
-    QCOMPARE(rows.size(), 1);
-    EntityGroupedItem* rice = rows.first();
-    QCOMPARE(rice->getOriginal()->getKode(), QString("ns"));
-    QCOMPARE(rice->getOriginal()->getHargaBeli()->getAmount(), 1.0);
-    QCOMPARE(rice->getJumlah(), 2);
-    QCOMPARE(m_components->search("", parent).size(), 2);
-    QCOMPARE(m_components->search("", find("ns")->getId()).size(), 0);
-    QVERIFY(m_components->findByParentAndItem(parent, find("ns")->getId()));
-    QVERIFY(!m_components->findByParentAndItem(find("ns")->getId(), parent));
-
-    // A row as it was read can be saved again: it knows its parent.
-    rice->setJumlah(3);
-    QVERIFY2(m_components->update(rice), qPrintable(m_components->takeErrors()));
-    QCOMPARE(m_components->findByParentAndItem(parent, find("ns")->getId())->getJumlah(), 3);
-}
-
-void TestItems::aComponentIsNotDeletedBeforeItsParents()
-{
-    m_database->run("INSERT INTO grouped_item (parent_id, original_item_id, jumlah, version) SELECT p.id, c.id, 1, 1 "
-                    "FROM item p, item c WHERE p.kode = 'llp' AND c.kode = 'ns'");
-    QVERIFY(!m_items->remove(find("ns")));
-    QCOMPARE(m_items->takeErrors(),
-             QString("This item is used by: Fried Rice\nRice with fresh vegetables. Please delete it first!\r\n"));
-    QVERIFY(find("ns"));
-
-    QVERIFY2(m_items->remove(find("fr")), qPrintable(m_items->takeErrors()));
-    QCOMPARE(m_database->value("SELECT count(*) FROM grouped_item").toInt(), 1);
-    QVERIFY2(m_items->remove(find("llp")), qPrintable(m_items->takeErrors()));
-    QVERIFY2(m_items->remove(find("ns")), qPrintable(m_items->takeErrors()));
-    QCOMPARE(m_database->value("SELECT count(*) FROM stok_awal").toInt(), 1);
-}
-
-void TestItems::aFailedLookForParentsDeletesNothing()
-{
-    EntityItem* vegetables = find("llp");
-    m_database->run("ALTER TABLE grouped_item RENAME TO elsewhere");
-    QVERIFY(!m_items->remove(vegetables));
-    QCOMPARE(m_items->errors().keys(), QStringList{"remove"});
-    m_items->clearErrors();
-    QVERIFY(find("llp"));
-}
 
 QTEST_MAIN(TestItems)
 #include "tst_items.moc"

@@ -22,6 +22,7 @@
 #include "pos/purchasing/purchaseorder/DataMapperPurchaseOrder.h"
 #include "pos/totals/InvoiceTotals.h"
 #include "support/PurchasingRows.h"
+#include "support/Rows.h"
 #include "support/SalesRows.h"
 #include "support/ShopRows.h"
 #include "support/TestDatabase.h"
@@ -209,176 +210,160 @@ class TestManyTills : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
+    void init()
+    {
+        m_database = std::make_unique<TestDatabase>();
+        insertShop(*m_database);
+        loginAsAdmin();
+    }
+
     void cleanup() { m_database.reset(); }
-    void aSaleOverTheCounterTakesFewTrips();
-    void whoSavesWithoutAPauseWaitsAndIsNeverRefused();
-    void aLockThatCanNotBeHadIsTheFailureOfTheSave_data();
-    void aLockThatCanNotBeHadIsTheFailureOfTheSave();
-    void whoRemovesADocumentAndWhoSavesItDoNotWaitForEachOther_data();
-    void whoRemovesADocumentAndWhoSavesItDoNotWaitForEachOther();
+    void aSaleOverTheCounterTakesFewTrips()
+    {
+        Till here;
+        EntityPool pool;
+        const EntityPoolScope scope(pool);
+        QVERIFY2(here.fastFood(), qPrintable(here.takeErrors()));
+        // Begin with the lock, the number read and raised, the invoice, its link with the lines, commit.
+        const TripCount trips;
+        QVERIFY2(here.fastFood(), qPrintable(here.takeErrors()));
+        QVERIFY2(trips.sent().size() <= 6, qPrintable(trips.sent().join('\n')));
+    }
+
+    void whoSavesWithoutAPauseWaitsAndIsNeverRefused()
+    {
+        constexpr int tills = 8;
+        constexpr int documents = 25;
+        QMutex mutex;
+        QStringList refusals;
+        std::vector<std::unique_ptr<QThread>> threads;
+        for (int till = 0; till < tills; ++till) {
+            threads.emplace_back(QThread::create([&, till] {
+                Till here;
+                for (int i = 0; i < documents; ++i) {
+                    const Save saves[] = {&Till::dine, &Till::fastFood, &Till::purchase, &Till::dine, &Till::cashEntry};
+                    EntityPool pool;
+                    const EntityPoolScope scope(pool);
+                    if ((here.*saves[(i + till) % 5])())
+                        continue;
+                    const QMutexLocker lock(&mutex);
+                    refusals.append(here.takeErrors());
+                }
+            }));
+            threads.back()->start();
+        }
+        for (const auto& thread : threads)
+            QVERIFY(thread->wait(60000));
+
+        QVERIFY2(refusals.isEmpty(), qPrintable(refusals.join('\n')));
+        // Of each kind as many as were saved, from the first number to the last one that was drawn.
+        const QString kinds =
+            "(SELECT invoice_type AS kind, no FROM invoice UNION ALL SELECT 'NB', no FROM acquisition "
+            "UNION ALL SELECT 'KK', trans_no FROM cash_flow) kinds";
+        QCOMPARE(value("SELECT string_agg(row::text, ' ') FROM (SELECT (kind, count(*), count(DISTINCT no), min(no), "
+                       "max(no) = kind || '-' || lpad((6 + count(*))::text, 4, '0')) AS row FROM " +
+                       kinds + " GROUP BY kind ORDER BY kind) rows"),
+                 QString("(KK,40,40,KK-0007,t) (NB,40,40,NB-0007,t) (TRD,80,80,TRD-0007,t) (TRF,40,40,TRF-0007,t)"));
+        QCOMPARE(value("SELECT string_agg(DISTINCT status::text, ',') FROM makan_ditempat"),
+                 QString::number(EntityOrder::PAID));
+        QCOMPARE(value("SELECT deadlocks FROM pg_stat_database WHERE datname = current_database()"), QString("0"));
+    }
+
+    void aLockThatCanNotBeHadIsTheFailureOfTheSave_data()
+    {
+        addColumns<QString, Save, QString>("held", "save", "frame");
+        addRow("a sale's number", numberLock("TRF"), Save(&Till::fastFood), "error: insert fast food invoice");
+        addRow("a purchase's number", numberLock("NB"), Save(&Till::purchase), "error: insert Purchase failed");
+        addRow("an entry's number", numberLock("KK"), Save(&Till::cashEntry), "");
+        addRow("the numbers' form", numberLock("TRF"), Save(&Till::changeNumber), "");
+        addRow("a table", "SELECT 1 FROM meja FOR UPDATE", Save(&Till::dine), "error: insert dine failed");
+        addRow("a bill's number", numberLock("TRD"), Save(&Till::dine), "error: insert dine invoice failed");
+        addRow("the number's row itself", "SELECT 1 FROM keytable FOR UPDATE", Save(&Till::fastFood),
+               "error: insert fast food invoice");
+    }
+
+    void aLockThatCanNotBeHadIsTheFailureOfTheSave()
+    {
+        QFETCH(QString, held);
+        QFETCH(Save, save);
+        QFETCH(QString, frame);
+        KorQuery().exec("SET lock_timeout = '100ms'");
+        EntityPool pool;
+        const EntityPoolScope scope(pool);
+        Till here;
+        m_database->run("BEGIN; " + held);
+        QVERIFY(!(here.*save)());
+        m_database->run("ROLLBACK");
+        const QString errors = here.takeErrors();
+        QVERIFY2(errors.startsWith(frame) && errors.contains("canceling statement due to lock timeout"),
+                 qPrintable(errors));
+        QVERIFY2(KorToldFailure::in(errors).sentence.startsWith("Another workstation"), qPrintable(errors));
+        QCOMPARE(value("SELECT sum(next_id) FROM keytable"), QString::number(7 * 11));
+
+        // Nothing of it is left, and the same save goes through when the lock is free.
+        QVERIFY2((here.*save)(), qPrintable(here.takeErrors()));
+    }
+
+    void whoRemovesADocumentAndWhoSavesItDoNotWaitForEachOther_data()
+    {
+        addColumns<QString, QString, Save>("document", "line", "removal");
+        addRow("an order", "makan_ditempat", "makan_ditempat_detail", Save(&Till::removeOrder));
+        addRow("a sale", "invoice", "invoice_fast_food", Save(&Till::removeSale));
+        addRow("a purchase", "acquisition", "acquisition_detail", Save(&Till::removePurchase));
+        addRow("a member's payment", "piutang", "piutang_detail", Save(&Till::removeMembersPayment));
+        addRow("a commission", "komisi_agen", "komisi_agen_detail", Save(&Till::removeCommission));
+    }
+
+    void whoRemovesADocumentAndWhoSavesItDoNotWaitForEachOther()
+    {
+        QFETCH(QString, document);
+        QFETCH(QString, line);
+        QFETCH(Save, removal);
+        insertDineOrder(*m_database, {{1, 100}});
+        SaleRow sale;
+        sale.no = "TRF-0001";
+        sale.type = "TRF";
+        insertSale(*m_database, sale);
+        PurchaseRow purchase;
+        purchase.no = "NB-0001";
+        insertPurchase(*m_database, purchase);
+        m_database->run("INSERT INTO piutang (payment_type, member_id, payment_date, no, grandtotal_currency, "
+                        "grandtotal_amount, version) VALUES (1, 1, now(), 'PIU-0001', 'Rp', 100, 1); "
+                        "INSERT INTO piutang_detail (piutang_id, invoice_id, amount_paid_currency, amount_paid_amount, "
+                        "amount_due_currency, amount_due_amount, version) VALUES (1, 1, 'Rp', 100, 'Rp', 100, 1)");
+        m_database->run(
+            "INSERT INTO komisi_agen (no, agent_id, payment_date, grandtotal_currency, grandtotal_amount, "
+            "amount_paid_currency, amount_paid_amount, net_due_currency, net_due_amount, version) VALUES "
+            "('KAG-0001', 1, now(), 'Rp', 10, 'Rp', 10, 'Rp', 0, 1); "
+            "INSERT INTO komisi_agen_detail (komisi_agen_id, invoice_id, commision_perc, commision_currency, "
+            "commision_amount, version) VALUES (1, 1, 10, 'Rp', 10, 1)");
+
+        // A save writes the document, then its lines. The removal begins between the two.
+        const QString change = "UPDATE %1 SET version = version + 1";
+        m_database->run("BEGIN; " + change.arg(document));
+        bool removed = true;
+        QString errors;
+        const std::unique_ptr<QThread> other(QThread::create([&] {
+            EntityPool pool;
+            const EntityPoolScope scope(pool);
+            Till there;
+            removed = (there.*removal)();
+            errors = there.takeErrors();
+        }));
+        other->start();
+        QTRY_COMPARE(value("SELECT count(*) FROM pg_locks WHERE NOT granted"), QString("1"));
+        m_database->run(change.arg(line));
+        m_database->run("COMMIT");
+        QVERIFY(other->wait());
+        QVERIFY(!removed);
+        QVERIFY2(errors.contains("has been updated by user id"), qPrintable(errors));
+    }
 
 private:
     QString value(const QString& statement) { return m_database->value(statement).toString(); }
 
     std::unique_ptr<TestDatabase> m_database;
 };
-
-void TestManyTills::init()
-{
-    m_database = std::make_unique<TestDatabase>();
-    insertShop(*m_database);
-    loginAsAdmin();
-}
-
-void TestManyTills::aSaleOverTheCounterTakesFewTrips()
-{
-    Till here;
-    EntityPool pool;
-    const EntityPoolScope scope(pool);
-    QVERIFY2(here.fastFood(), qPrintable(here.takeErrors()));
-    // Begin with the lock, the number read and raised, the invoice, its link with the lines, commit.
-    const TripCount trips;
-    QVERIFY2(here.fastFood(), qPrintable(here.takeErrors()));
-    QVERIFY2(trips.sent().size() <= 6, qPrintable(trips.sent().join('\n')));
-}
-
-void TestManyTills::whoSavesWithoutAPauseWaitsAndIsNeverRefused()
-{
-    constexpr int tills = 8;
-    constexpr int documents = 25;
-    QMutex mutex;
-    QStringList refusals;
-    std::vector<std::unique_ptr<QThread>> threads;
-    for (int till = 0; till < tills; ++till) {
-        threads.emplace_back(QThread::create([&, till] {
-            Till here;
-            for (int i = 0; i < documents; ++i) {
-                const Save saves[] = {&Till::dine, &Till::fastFood, &Till::purchase, &Till::dine, &Till::cashEntry};
-                EntityPool pool;
-                const EntityPoolScope scope(pool);
-                if ((here.*saves[(i + till) % 5])())
-                    continue;
-                const QMutexLocker lock(&mutex);
-                refusals.append(here.takeErrors());
-            }
-        }));
-        threads.back()->start();
-    }
-    for (const auto& thread : threads)
-        QVERIFY(thread->wait(60000));
-
-    QVERIFY2(refusals.isEmpty(), qPrintable(refusals.join('\n')));
-    // Of each kind as many as were saved, from the first number to the last one that was drawn.
-    const QString kinds = "(SELECT invoice_type AS kind, no FROM invoice UNION ALL SELECT 'NB', no FROM acquisition "
-                          "UNION ALL SELECT 'KK', trans_no FROM cash_flow) kinds";
-    QCOMPARE(value("SELECT string_agg(row::text, ' ') FROM (SELECT (kind, count(*), count(DISTINCT no), min(no), "
-                   "max(no) = kind || '-' || lpad((6 + count(*))::text, 4, '0')) AS row FROM " +
-                   kinds + " GROUP BY kind ORDER BY kind) rows"),
-             QString("(KK,40,40,KK-0007,t) (NB,40,40,NB-0007,t) (TRD,80,80,TRD-0007,t) (TRF,40,40,TRF-0007,t)"));
-    QCOMPARE(value("SELECT string_agg(DISTINCT status::text, ',') FROM makan_ditempat"),
-             QString::number(EntityOrder::PAID));
-    QCOMPARE(value("SELECT deadlocks FROM pg_stat_database WHERE datname = current_database()"), QString("0"));
-}
-
-void TestManyTills::aLockThatCanNotBeHadIsTheFailureOfTheSave_data()
-{
-    QTest::addColumn<QString>("held");
-    QTest::addColumn<Save>("save");
-    QTest::addColumn<QString>("frame");
-    QTest::newRow("a sale's number") << numberLock("TRF") << Save(&Till::fastFood) << "error: insert fast food invoice";
-    QTest::newRow("a purchase's number") << numberLock("NB") << Save(&Till::purchase)
-                                         << "error: insert Purchase failed";
-    QTest::newRow("an entry's number") << numberLock("KK") << Save(&Till::cashEntry) << "";
-    QTest::newRow("the numbers' form") << numberLock("TRF") << Save(&Till::changeNumber) << "";
-    QTest::newRow("a table") << "SELECT 1 FROM meja FOR UPDATE" << Save(&Till::dine) << "error: insert dine failed";
-    QTest::newRow("a bill's number") << numberLock("TRD") << Save(&Till::dine) << "error: insert dine invoice failed";
-    QTest::newRow("the number's row itself")
-        << "SELECT 1 FROM keytable FOR UPDATE" << Save(&Till::fastFood) << "error: insert fast food invoice";
-}
-
-void TestManyTills::aLockThatCanNotBeHadIsTheFailureOfTheSave()
-{
-    QFETCH(QString, held);
-    QFETCH(Save, save);
-    QFETCH(QString, frame);
-    KorQuery().exec("SET lock_timeout = '100ms'");
-    EntityPool pool;
-    const EntityPoolScope scope(pool);
-    Till here;
-    m_database->run("BEGIN; " + held);
-    QVERIFY(!(here.*save)());
-    m_database->run("ROLLBACK");
-    const QString errors = here.takeErrors();
-    QVERIFY2(errors.startsWith(frame) && errors.contains("canceling statement due to lock timeout"),
-             qPrintable(errors));
-    QVERIFY2(KorToldFailure::in(errors).sentence.startsWith("Another workstation"), qPrintable(errors));
-    QCOMPARE(value("SELECT sum(next_id) FROM keytable"), QString::number(7 * 11));
-
-    // Nothing of it is left, and the same save goes through when the lock is free.
-    QVERIFY2((here.*save)(), qPrintable(here.takeErrors()));
-}
-
-void TestManyTills::whoRemovesADocumentAndWhoSavesItDoNotWaitForEachOther_data()
-{
-    QTest::addColumn<QString>("document");
-    QTest::addColumn<QString>("line");
-    QTest::addColumn<Save>("removal");
-    QTest::newRow("an order") << "makan_ditempat"
-                              << "makan_ditempat_detail" << Save(&Till::removeOrder);
-    QTest::newRow("a sale") << "invoice"
-                            << "invoice_fast_food" << Save(&Till::removeSale);
-    QTest::newRow("a purchase") << "acquisition"
-                                << "acquisition_detail" << Save(&Till::removePurchase);
-    QTest::newRow("a member's payment") << "piutang"
-                                        << "piutang_detail" << Save(&Till::removeMembersPayment);
-    QTest::newRow("a commission") << "komisi_agen"
-                                  << "komisi_agen_detail" << Save(&Till::removeCommission);
-}
-
-void TestManyTills::whoRemovesADocumentAndWhoSavesItDoNotWaitForEachOther()
-{
-    QFETCH(QString, document);
-    QFETCH(QString, line);
-    QFETCH(Save, removal);
-    insertDineOrder(*m_database, {{1, 100}});
-    SaleRow sale;
-    sale.no = "TRF-0001";
-    sale.type = "TRF";
-    insertSale(*m_database, sale);
-    PurchaseRow purchase;
-    purchase.no = "NB-0001";
-    insertPurchase(*m_database, purchase);
-    m_database->run("INSERT INTO piutang (payment_type, member_id, payment_date, no, grandtotal_currency, "
-                    "grandtotal_amount, version) VALUES (1, 1, now(), 'PIU-0001', 'Rp', 100, 1); "
-                    "INSERT INTO piutang_detail (piutang_id, invoice_id, amount_paid_currency, amount_paid_amount, "
-                    "amount_due_currency, amount_due_amount, version) VALUES (1, 1, 'Rp', 100, 'Rp', 100, 1)");
-    m_database->run("INSERT INTO komisi_agen (no, agent_id, payment_date, grandtotal_currency, grandtotal_amount, "
-                    "amount_paid_currency, amount_paid_amount, net_due_currency, net_due_amount, version) VALUES "
-                    "('KAG-0001', 1, now(), 'Rp', 10, 'Rp', 10, 'Rp', 0, 1); "
-                    "INSERT INTO komisi_agen_detail (komisi_agen_id, invoice_id, commision_perc, commision_currency, "
-                    "commision_amount, version) VALUES (1, 1, 10, 'Rp', 10, 1)");
-
-    // A save writes the document, then its lines. The removal begins between the two.
-    const QString change = "UPDATE %1 SET version = version + 1";
-    m_database->run("BEGIN; " + change.arg(document));
-    bool removed = true;
-    QString errors;
-    const std::unique_ptr<QThread> other(QThread::create([&] {
-        EntityPool pool;
-        const EntityPoolScope scope(pool);
-        Till there;
-        removed = (there.*removal)();
-        errors = there.takeErrors();
-    }));
-    other->start();
-    QTRY_COMPARE(value("SELECT count(*) FROM pg_locks WHERE NOT granted"), QString("1"));
-    m_database->run(change.arg(line));
-    m_database->run("COMMIT");
-    QVERIFY(other->wait());
-    QVERIFY(!removed);
-    QVERIFY2(errors.contains("has been updated by user id"), qPrintable(errors));
-}
 
 QTEST_MAIN(TestManyTills)
 #include "tst_many_tills.moc"

@@ -2,6 +2,7 @@
 #include "kor/persistence/KorBatch.h"
 #include "kor/persistence/KorDatabase.h"
 #include "kor/persistence/KorPaging.h"
+#include "support/Rows.h"
 #include "support/TestCluster.h"
 #include "support/TestDatabase.h"
 #include "zavel/registry/ZavelMapperRegistry.h"
@@ -45,12 +46,12 @@ private slots:
 
     void manyTablesAtOnceAreStoredAsOneByOne_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::newRow("plain") << "Window";
-        QTest::newRow("empty") << "";
-        QTest::newRow("quotes and backslashes") << "o'B\\'' \\x \"n\"";
-        QTest::newRow("placeholders") << "? :name $1 %1; drop table meja";
-        QTest::newRow("line ends and other letters") << QString::fromUtf8("a\r\nb\tü 窓");
+        addColumns<QString>("name");
+        addRow("plain", "Window");
+        addRow("empty", "");
+        addRow("quotes and backslashes", "o'B\\'' \\x \"n\"");
+        addRow("placeholders", "? :name $1 %1; drop table meja");
+        addRow("line ends and other letters", QString::fromUtf8("a\r\nb\tü 窓"));
     }
     void manyTablesAtOnceAreStoredAsOneByOne()
     {
@@ -172,15 +173,14 @@ private slots:
 
     void searchTextsReachTheDatabaseAsTyped_data()
     {
-        QTest::addColumn<QString>("filter");
-        QTest::addColumn<int>("rows");
-        QTest::newRow("everything") << "" << 3;
-        QTest::newRow("part of a name") << "corner" << 1;
-        QTest::newRow("apostrophe") << "window's" << 1;
-        QTest::newRow("lone apostrophe") << "'" << 1;
-        QTest::newRow("percent sign is a wildcard") << "%" << 3;
-        QTest::newRow("backslash") << "\\" << 0;
-        QTest::newRow("looks like SQL") << "'; drop table meja; --" << 0;
+        addColumns<QString, int>("filter", "rows");
+        addRow("everything", "", 3);
+        addRow("part of a name", "corner", 1);
+        addRow("apostrophe", "window's", 1);
+        addRow("lone apostrophe", "'", 1);
+        addRow("percent sign is a wildcard", "%", 3);
+        addRow("backslash", "\\", 0);
+        addRow("looks like SQL", "'; drop table meja; --", 0);
     }
     void searchTextsReachTheDatabaseAsTyped()
     {

@@ -7,6 +7,7 @@
 #include "pos/masterdata/supplier/BusinessSupplier.h"
 #include "pos/registry/PosMapperRegistry.h"
 #include "support/MasterFamilies.h"
+#include "support/Rows.h"
 #include "support/TestDatabase.h"
 
 #include <QDate>
@@ -184,9 +185,9 @@ private slots:
 
     void olderSuppliersAndAgentsGetOneCodeEach_data()
     {
-        QTest::addColumn<QString>("table");
-        QTest::newRow("supplier") << "supplier";
-        QTest::newRow("agent") << "agent";
+        addColumns<QString>("table");
+        addRow("supplier", "supplier");
+        addRow("agent", "agent");
     }
     void olderSuppliersAndAgentsGetOneCodeEach()
     {

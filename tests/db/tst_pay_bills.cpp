@@ -5,6 +5,7 @@
 #include "pos/purchasing/purchase/BusinessPurchases.h"
 #include "pos/purchasing/purchase/EntityAcquisition.h"
 #include "support/LedgerRows.h"
+#include "support/Rows.h"
 #include "support/ShopRows.h"
 #include "support/TestDatabase.h"
 
@@ -37,28 +38,307 @@ class TestPayBills : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-    void thePurchasesAgreeAfterAnyMonth_data();
-    void thePurchasesAgreeAfterAnyMonth();
-    void payingTheRestTakesThePurchaseOffTheList();
-    void aDeletedPaymentLeavesItsPurchasesUntilTheyAreReckonedNext();
-    void expensesMoveNoStock();
-    void theListFindsPayments_data();
-    void theListFindsPayments();
-    void whatFailsIsToldAndNothingIsHalfDone();
+    void init()
+    {
+        m_database = std::make_unique<TestDatabase>();
+        m_records = std::make_unique<QObject>();
+        insertShop(*m_database);
+        loginAsAdmin();
+        m_payments = service<BusinessPayment>("Payment");
+        m_purchases = service<BusinessPurchases>("Purchases");
+        m_supplier = new EntitySupplier(m_records.get());
+        m_supplier->setId(1);
+        m_paper.clear();
+    }
+
+    void cleanup()
+    {
+        m_payments->clearErrors();
+        m_purchases->clearErrors();
+        m_records.reset();
+        m_database.reset();
+    }
+
+    // --- any month ---------------------------------------------------------------------------------------------------
+
+    void thePurchasesAgreeAfterAnyMonth_data()
+    {
+        addColumns<uint>("seed");
+        for (uint seed : {1U, 2U, 3U})
+            QTest::addRow("month %u", seed) << seed;
+    }
+
+    void thePurchasesAgreeAfterAnyMonth()
+    {
+        QFETCH(uint, seed);
+        QRandomGenerator chance(seed);
+        const auto below = [&chance](int limit) { return static_cast<int>(chance.bounded(limit)); };
+        // What each payment paid of each purchase.
+        QMap<int, QMap<int, int>> paper;
+        const auto reckon = [this, &paper](const QList<int>& purchases) {
+            for (int purchase : purchases) {
+                int other = m_paper[purchase].credits;
+                for (const QMap<int, int>& paid : qAsConst(paper))
+                    other += paid.value(purchase);
+                m_paper[purchase].other = other;
+            }
+        };
+
+        for (int step = 0; step < 40; ++step) {
+            const int action = paper.isEmpty() ? below(2) : std::min(below(7) / 2, 3);
+            const int known = paper.isEmpty() ? 0 : paper.keys().at(below(paper.size()));
+            if (action == 0) {
+                const int total = 100 + below(900);
+                buy(total, below(3) == 0 ? below(total) : 0, below(3) == 0 ? 1 + below(50) : 0);
+            } else if (action == 1) {
+                EntityPayment* fresh = payment({});
+                QMap<int, int> paid;
+                for (int purchase : pending()) {
+                    const int due = m_paper[purchase].due();
+                    if (below(2) == 0)
+                        continue;
+                    paid[purchase] = below(2) == 0 ? due : 1 + below(2 * due);
+                    fresh->invoices().addDetail(line(purchase, paid[purchase]));
+                }
+                if (below(3) == 0)
+                    fresh->expenses().addDetail(expense(1 + below(3), 10));
+                QVERIFY2(save(fresh), qPrintable(m_payments->takeErrors()));
+                paper.insert(fresh->getId(), paid);
+                reckon(paid.keys());
+            } else if (action == 2) {
+                EntityPayment* changed = stored(known);
+                QVERIFY2(changed, qPrintable(m_payments->takeErrors()));
+                QMap<int, int>& paid = paper[known];
+                const QList<int> touched = paid.keys();
+                QCOMPARE(changed->invoices().getDetails().size(), paid.size());
+                for (EntityPaymentInvoices* one : QList<EntityPaymentInvoices*>(changed->invoices().getDetails())) {
+                    const int purchase = one->getAcquisition()->getId();
+                    QCOMPARE(one->getAmountPaid()->rawAmount(), paid.value(purchase));
+                    if (below(4) == 0) {
+                        changed->invoices().removeDetail(one);
+                        paid.remove(purchase);
+                        continue;
+                    }
+                    paid[purchase] = 1 + below(500);
+                    one->setAmountPaid(money(paid[purchase]));
+                }
+                QVERIFY2(save(changed), qPrintable(m_payments->takeErrors()));
+                reckon(touched);
+            } else {
+                // The purchases keep the money.
+                QVERIFY2(m_payments->remove(stored(known)), qPrintable(m_payments->takeErrors()));
+                paper.remove(known);
+            }
+            QList<int> open;
+            for (auto it = m_paper.cbegin(); it != m_paper.cend(); ++it) {
+                QCOMPARE(figures(it.key()), QString("%1 %2 %3").arg(it->other).arg(it->due()).arg(it->status()));
+                if (it->status() != EntityAcquisition::FULL_PAID)
+                    open.append(it.key());
+            }
+            QCOMPARE(pending(), open);
+        }
+        QCOMPARE(count("payment"), paper.size());
+        QVERIFY(paper.size() > 1);
+    }
+
+    // --- one by one --------------------------------------------------------------------------------------------------
+
+    void payingTheRestTakesThePurchaseOffTheList()
+    {
+        const int purchase = buy(500, 100, 50);
+        EntityPayment* first = payment({line(purchase, 100)});
+        QVERIFY2(save(first), qPrintable(m_payments->takeErrors()));
+        QCOMPARE(figures(purchase), QString("150 250 3"));
+        QCOMPARE(stored(first->getId())->invoices().getDetails().first()->getAcquisition()->getBank()->getNama(),
+                 QString("Cash"));
+        QCOMPARE(pending(), QList<int>{purchase});
+        QVERIFY(save(payment({line(purchase, 250)})));
+        QCOMPARE(figures(purchase), QString("400 0 1"));
+        QVERIFY(pending().isEmpty());
+        // Somebody else had the same form open: the supplier owes the house.
+        QVERIFY(save(payment({line(purchase, 250)})));
+        QCOMPARE(figures(purchase), QString("650 -250 1"));
+        QCOMPARE(m_payments->findByNo("TPH-0008")->getSupplier()->getKode(), QString("S1"));
+    }
+
+    void aDeletedPaymentLeavesItsPurchasesUntilTheyAreReckonedNext()
+    {
+        const int purchase = buy(500);
+        EntityPayment* gone = payment({line(purchase, 500)});
+        gone->expenses().addDetail(expense(1, 10));
+        QVERIFY(save(gone));
+        QVERIFY(!m_purchases->remove(m_purchases->find(purchase)));
+        QCOMPARE(
+            m_purchases->takeErrors(),
+            QString("This purchase is paid, please delete the payment first: Payment No: %1\r\n").arg(gone->getNo()));
+        QVERIFY2(m_payments->remove(stored(gone->getId())), qPrintable(m_payments->takeErrors()));
+        QCOMPARE(count("payment") + count("payment_invoice") + count("payment_expense"), 0);
+        QCOMPARE(figures(purchase), QString("500 0 1"));
+        QVERIFY(m_purchases->recalculateDue(purchase));
+        QCOMPARE(figures(purchase), QString("0 500 2"));
+        QVERIFY2(m_purchases->remove(m_purchases->find(purchase)), qPrintable(m_purchases->takeErrors()));
+    }
+
+    void expensesMoveNoStock()
+    {
+        const auto onHand = [] {
+            return service<BusinessInventory>("Inventory")->quantitiesOnHand(QDate::currentDate()).value(1);
+        };
+        const int before = onHand();
+        EntityPayment* paid = payment({});
+        paid->expenses().setDetails({expense(3, 100)});
+        QVERIFY2(save(paid), qPrintable(m_payments->takeErrors()));
+        EntityPayment* changed = stored(paid->getId());
+        QCOMPARE(changed->expenses().getDetails().size(), 1);
+        EntityPaymentExpenses* kept = changed->expenses().getDetails().first();
+        QCOMPARE(kept->getAmount()->rawAmount(), 300);
+        kept->setQty(5);
+        QVERIFY2(save(changed), qPrintable(m_payments->takeErrors()));
+        QCOMPARE(onHand(), before);
+        QCOMPARE(count("item_history"), 0);
+    }
+
+    void theListFindsPayments_data()
+    {
+        addColumns<PurchasingFilter, QString>("filter", "found");
+        const auto row = [](const char* name, const QDate& from, int type, PurchasingFilter::Field field,
+                            const QString& text, const QString& found) {
+            addRow(name, PurchasingFilter{from, {2026, 3, 2}, type, "s1", field, text}, found);
+        };
+        row("both limits count, the latest first", {2026, 3, 1}, 0, PurchasingFilter::DocumentNo, "", "8 7");
+        row("one day, by check", {2026, 3, 2}, EntityPayment::CHECK, PurchasingFilter::DocumentNo, "", "8");
+        row("another type", {2026, 3, 1}, EntityPayment::ELECTRONIC, PurchasingFilter::DocumentNo, "", "");
+        row("digits of the number", {2026, 3, 1}, 0, PurchasingFilter::DocumentNo, "007", "7");
+        row("check number", {2026, 3, 1}, 0, PurchasingFilter::OtherNo, "bCa-2", "8");
+    }
+
+    void theListFindsPayments()
+    {
+        for (int day : {1, 2}) {
+            EntityPayment* one = payment({});
+            one->setDate(QDate(2026, 3, day));
+            one->setPaymentType(day == 2 ? EntityPayment::CHECK : EntityPayment::CASH);
+            one->setCheckNo(QString("BCA-%1").arg(day));
+            QVERIFY2(save(one), qPrintable(m_payments->takeErrors()));
+        }
+        QFETCH(PurchasingFilter, filter);
+        const StatementCount statements;
+        QStringList numbers;
+        for (const EntityPayment* one : m_payments->findAll(filter))
+            numbers.append(one->getNo().right(1));
+        QVERIFY2(!m_payments->hasError(), qPrintable(m_payments->takeErrors()));
+        QCOMPARE(statements.count(), 1);
+        QTEST(numbers.join(' '), "found");
+    }
+
+    void whatFailsIsToldAndNothingIsHalfDone()
+    {
+        // The purchase was deleted meanwhile.
+        EntityPayment* paid = payment({line(99, 100)});
+        QVERIFY(!save(paid));
+        QVERIFY(!m_payments->documentStands() && !paid->isSaved());
+        QVERIFY(m_payments->takeErrors().startsWith("error: insert payment detail:invoice failed.\r\n"));
+        QCOMPARE(count("payment"), 0);
+
+        // The purchase cannot be reckoned: the payment stands.
+        const int purchase = buy(500);
+        m_database->run(
+            "CREATE FUNCTION refuse() RETURNS trigger AS $$ BEGIN RAISE EXCEPTION 'busy'; END $$ LANGUAGE "
+            "plpgsql; CREATE TRIGGER refuse BEFORE UPDATE ON acquisition FOR EACH ROW EXECUTE FUNCTION refuse()");
+        paid->invoices().setDetails({line(purchase, 100)});
+        QVERIFY(!save(paid));
+        QCOMPARE(m_payments->errors().keys(), QStringList("updatePurchase"));
+        QVERIFY(m_payments->documentStands() && paid->isSaved());
+        m_payments->clearErrors();
+
+        // Another workstation changed the payment: neither saved nor deleted half.
+        m_database->run("UPDATE payment SET version = 2, updatedby = 1");
+        QVERIFY(!m_payments->remove(paid));
+        QVERIFY(m_payments->takeErrors().contains("payment has been updated"));
+        QCOMPARE(count("payment_invoice"), 1);
+    }
 
 private:
     /** Lays a purchase down; its id. */
-    int buy(int total, int paid = 0, int credits = 0);
-    EntityPaymentInvoices* line(int purchase, int amount);
-    EntityPaymentExpenses* expense(int qty, int price);
-    EntityPayment* payment(const QList<EntityPaymentInvoices*>& lines);
-    bool save(EntityPayment* payment);
+    int buy(int total, int paid = 0, int credits = 0)
+    {
+        const int id = m_paper.size() + 1;
+        const Paper paper{total, paid, credits, 0};
+        const auto text = [](int number) { return QString::number(number); };
+        insertRows(*m_database, "acquisition",
+                   {{"no", QString("'NB-%1'").arg(id)},
+                    {"supplier_id", "1"},
+                    {"bank_id", "1"},
+                    {"grandtotal_amount", text(total)},
+                    {"amount_paid_amount", text(paid)},
+                    {"net_due_amount", text(total - paid)},
+                    {"status", text(paper.status())}});
+        if (credits > 0)
+            insertRows(*m_database, "credit_note",
+                       {{"acquisition_id", text(id)}, {"amount_paid_amount", text(credits)}, {"bank_id", "1"}});
+        m_paper.insert(id, paper);
+        return id;
+    }
+
+    EntityPaymentInvoices* line(int purchase, int amount)
+    {
+        auto* line = new EntityPaymentInvoices(m_records.get());
+        auto* paid = new EntityAcquisition(m_records.get());
+        paid->setId(purchase);
+        line->setAcquisition(paid);
+        line->setAmountPaid(money(amount));
+        line->setAmountDue(money(0));
+        return line;
+    }
+
+    EntityPaymentExpenses* expense(int qty, int price)
+    {
+        auto* line = new EntityPaymentExpenses(m_records.get());
+        auto* item = new EntityItem(m_records.get());
+        item->setId(1);
+        line->setItem(item);
+        line->setQty(qty);
+        line->setUnitPrice(money(price));
+        line->setDiscount(money(0));
+        line->recomputeTotal();
+        return line;
+    }
+
+    EntityPayment* payment(const QList<EntityPaymentInvoices*>& lines)
+    {
+        auto* payment = new EntityPayment(m_records.get());
+        payment->setSupplier(m_supplier);
+        payment->setDate(QDate(2026, 3, 2));
+        payment->setGrandTotal(money(0));
+        payment->invoices().setDetails(lines);
+        return payment;
+    }
+
+    bool save(EntityPayment* payment)
+    {
+        return payment->isSaved() ? m_payments->update(payment) : m_payments->insert(payment);
+    }
+
     EntityPayment* stored(int id) { return static_cast<EntityPayment*>(m_payments->find(id)); }
     Money* money(int amount) { return new Money(m_records.get(), amount, "Rp"); }
-    QString figures(int purchase);
-    QList<int> pending();
+    QString figures(int purchase)
+    {
+        return m_database
+            ->value(QString("SELECT concat_ws(' ', other_payment_amount, net_due_amount, status) FROM acquisition "
+                            "WHERE id = %1")
+                        .arg(purchase))
+            .toString();
+    }
+
+    QList<int> pending()
+    {
+        QList<int> ids;
+        for (const EntityAcquisition* purchase : m_purchases->getPendingInvoiceBySupplier(m_supplier))
+            ids.append(purchase->getId());
+        std::sort(ids.begin(), ids.end());
+        return ids;
+    }
+
     int count(const QString& table) { return m_database->value("SELECT count(*) FROM " + table).toInt(); }
 
     std::unique_ptr<TestDatabase> m_database;
@@ -68,303 +348,6 @@ private:
     QMap<int, Paper> m_paper;
     EntitySupplier* m_supplier = nullptr;
 };
-
-void TestPayBills::init()
-{
-    m_database = std::make_unique<TestDatabase>();
-    m_records = std::make_unique<QObject>();
-    insertShop(*m_database);
-    loginAsAdmin();
-    m_payments = service<BusinessPayment>("Payment");
-    m_purchases = service<BusinessPurchases>("Purchases");
-    m_supplier = new EntitySupplier(m_records.get());
-    m_supplier->setId(1);
-    m_paper.clear();
-}
-
-void TestPayBills::cleanup()
-{
-    m_payments->clearErrors();
-    m_purchases->clearErrors();
-    m_records.reset();
-    m_database.reset();
-}
-
-int TestPayBills::buy(int total, int paid, int credits)
-{
-    const int id = m_paper.size() + 1;
-    const Paper paper{total, paid, credits, 0};
-    const auto text = [](int number) { return QString::number(number); };
-    insertRows(*m_database, "acquisition",
-               {{"no", QString("'NB-%1'").arg(id)},
-                {"supplier_id", "1"},
-                {"bank_id", "1"},
-                {"grandtotal_amount", text(total)},
-                {"amount_paid_amount", text(paid)},
-                {"net_due_amount", text(total - paid)},
-                {"status", text(paper.status())}});
-    if (credits > 0)
-        insertRows(*m_database, "credit_note",
-                   {{"acquisition_id", text(id)}, {"amount_paid_amount", text(credits)}, {"bank_id", "1"}});
-    m_paper.insert(id, paper);
-    return id;
-}
-
-EntityPaymentInvoices* TestPayBills::line(int purchase, int amount)
-{
-    auto* line = new EntityPaymentInvoices(m_records.get());
-    auto* paid = new EntityAcquisition(m_records.get());
-    paid->setId(purchase);
-    line->setAcquisition(paid);
-    line->setAmountPaid(money(amount));
-    line->setAmountDue(money(0));
-    return line;
-}
-
-EntityPaymentExpenses* TestPayBills::expense(int qty, int price)
-{
-    auto* line = new EntityPaymentExpenses(m_records.get());
-    auto* item = new EntityItem(m_records.get());
-    item->setId(1);
-    line->setItem(item);
-    line->setQty(qty);
-    line->setUnitPrice(money(price));
-    line->setDiscount(money(0));
-    line->recomputeTotal();
-    return line;
-}
-
-EntityPayment* TestPayBills::payment(const QList<EntityPaymentInvoices*>& lines)
-{
-    auto* payment = new EntityPayment(m_records.get());
-    payment->setSupplier(m_supplier);
-    payment->setDate(QDate(2026, 3, 2));
-    payment->setGrandTotal(money(0));
-    payment->invoices().setDetails(lines);
-    return payment;
-}
-
-bool TestPayBills::save(EntityPayment* payment)
-{
-    return payment->isSaved() ? m_payments->update(payment) : m_payments->insert(payment);
-}
-
-QString TestPayBills::figures(int purchase)
-{
-    return m_database
-        ->value(QString("SELECT concat_ws(' ', other_payment_amount, net_due_amount, status) FROM acquisition "
-                        "WHERE id = %1")
-                    .arg(purchase))
-        .toString();
-}
-
-QList<int> TestPayBills::pending()
-{
-    QList<int> ids;
-    for (const EntityAcquisition* purchase : m_purchases->getPendingInvoiceBySupplier(m_supplier))
-        ids.append(purchase->getId());
-    std::sort(ids.begin(), ids.end());
-    return ids;
-}
-
-// --- any month -----------------------------------------------------------------------------------------------------
-
-void TestPayBills::thePurchasesAgreeAfterAnyMonth_data()
-{
-    QTest::addColumn<uint>("seed");
-    for (uint seed : {1U, 2U, 3U})
-        QTest::addRow("month %u", seed) << seed;
-}
-
-void TestPayBills::thePurchasesAgreeAfterAnyMonth()
-{
-    QFETCH(uint, seed);
-    QRandomGenerator chance(seed);
-    const auto below = [&chance](int limit) { return static_cast<int>(chance.bounded(limit)); };
-    // What each payment paid of each purchase.
-    QMap<int, QMap<int, int>> paper;
-    const auto reckon = [this, &paper](const QList<int>& purchases) {
-        for (int purchase : purchases) {
-            int other = m_paper[purchase].credits;
-            for (const QMap<int, int>& paid : qAsConst(paper))
-                other += paid.value(purchase);
-            m_paper[purchase].other = other;
-        }
-    };
-
-    for (int step = 0; step < 40; ++step) {
-        const int action = paper.isEmpty() ? below(2) : std::min(below(7) / 2, 3);
-        const int known = paper.isEmpty() ? 0 : paper.keys().at(below(paper.size()));
-        if (action == 0) {
-            const int total = 100 + below(900);
-            buy(total, below(3) == 0 ? below(total) : 0, below(3) == 0 ? 1 + below(50) : 0);
-        } else if (action == 1) {
-            EntityPayment* fresh = payment({});
-            QMap<int, int> paid;
-            for (int purchase : pending()) {
-                const int due = m_paper[purchase].due();
-                if (below(2) == 0)
-                    continue;
-                paid[purchase] = below(2) == 0 ? due : 1 + below(2 * due);
-                fresh->invoices().addDetail(line(purchase, paid[purchase]));
-            }
-            if (below(3) == 0)
-                fresh->expenses().addDetail(expense(1 + below(3), 10));
-            QVERIFY2(save(fresh), qPrintable(m_payments->takeErrors()));
-            paper.insert(fresh->getId(), paid);
-            reckon(paid.keys());
-        } else if (action == 2) {
-            EntityPayment* changed = stored(known);
-            QVERIFY2(changed, qPrintable(m_payments->takeErrors()));
-            QMap<int, int>& paid = paper[known];
-            const QList<int> touched = paid.keys();
-            QCOMPARE(changed->invoices().getDetails().size(), paid.size());
-            for (EntityPaymentInvoices* one : QList<EntityPaymentInvoices*>(changed->invoices().getDetails())) {
-                const int purchase = one->getAcquisition()->getId();
-                QCOMPARE(one->getAmountPaid()->rawAmount(), paid.value(purchase));
-                if (below(4) == 0) {
-                    changed->invoices().removeDetail(one);
-                    paid.remove(purchase);
-                    continue;
-                }
-                paid[purchase] = 1 + below(500);
-                one->setAmountPaid(money(paid[purchase]));
-            }
-            QVERIFY2(save(changed), qPrintable(m_payments->takeErrors()));
-            reckon(touched);
-        } else {
-            // The purchases keep the money.
-            QVERIFY2(m_payments->remove(stored(known)), qPrintable(m_payments->takeErrors()));
-            paper.remove(known);
-        }
-        QList<int> open;
-        for (auto it = m_paper.cbegin(); it != m_paper.cend(); ++it) {
-            QCOMPARE(figures(it.key()), QString("%1 %2 %3").arg(it->other).arg(it->due()).arg(it->status()));
-            if (it->status() != EntityAcquisition::FULL_PAID)
-                open.append(it.key());
-        }
-        QCOMPARE(pending(), open);
-    }
-    QCOMPARE(count("payment"), paper.size());
-    QVERIFY(paper.size() > 1);
-}
-
-// --- one by one ----------------------------------------------------------------------------------------------------
-
-void TestPayBills::payingTheRestTakesThePurchaseOffTheList()
-{
-    const int purchase = buy(500, 100, 50);
-    EntityPayment* first = payment({line(purchase, 100)});
-    QVERIFY2(save(first), qPrintable(m_payments->takeErrors()));
-    QCOMPARE(figures(purchase), QString("150 250 3"));
-    QCOMPARE(stored(first->getId())->invoices().getDetails().first()->getAcquisition()->getBank()->getNama(),
-             QString("Cash"));
-    QCOMPARE(pending(), QList<int>{purchase});
-    QVERIFY(save(payment({line(purchase, 250)})));
-    QCOMPARE(figures(purchase), QString("400 0 1"));
-    QVERIFY(pending().isEmpty());
-    // Somebody else had the same form open: the supplier owes the house.
-    QVERIFY(save(payment({line(purchase, 250)})));
-    QCOMPARE(figures(purchase), QString("650 -250 1"));
-    QCOMPARE(m_payments->findByNo("TPH-0008")->getSupplier()->getKode(), QString("S1"));
-}
-
-void TestPayBills::aDeletedPaymentLeavesItsPurchasesUntilTheyAreReckonedNext()
-{
-    const int purchase = buy(500);
-    EntityPayment* gone = payment({line(purchase, 500)});
-    gone->expenses().addDetail(expense(1, 10));
-    QVERIFY(save(gone));
-    QVERIFY(!m_purchases->remove(m_purchases->find(purchase)));
-    QCOMPARE(m_purchases->takeErrors(),
-             QString("This purchase is paid, please delete the payment first: Payment No: %1\r\n").arg(gone->getNo()));
-    QVERIFY2(m_payments->remove(stored(gone->getId())), qPrintable(m_payments->takeErrors()));
-    QCOMPARE(count("payment") + count("payment_invoice") + count("payment_expense"), 0);
-    QCOMPARE(figures(purchase), QString("500 0 1"));
-    QVERIFY(m_purchases->recalculateDue(purchase));
-    QCOMPARE(figures(purchase), QString("0 500 2"));
-    QVERIFY2(m_purchases->remove(m_purchases->find(purchase)), qPrintable(m_purchases->takeErrors()));
-}
-
-void TestPayBills::expensesMoveNoStock()
-{
-    const auto onHand = [] {
-        return service<BusinessInventory>("Inventory")->quantitiesOnHand(QDate::currentDate()).value(1);
-    };
-    const int before = onHand();
-    EntityPayment* paid = payment({});
-    paid->expenses().setDetails({expense(3, 100)});
-    QVERIFY2(save(paid), qPrintable(m_payments->takeErrors()));
-    EntityPayment* changed = stored(paid->getId());
-    QCOMPARE(changed->expenses().getDetails().size(), 1);
-    EntityPaymentExpenses* kept = changed->expenses().getDetails().first();
-    QCOMPARE(kept->getAmount()->rawAmount(), 300);
-    kept->setQty(5);
-    QVERIFY2(save(changed), qPrintable(m_payments->takeErrors()));
-    QCOMPARE(onHand(), before);
-    QCOMPARE(count("item_history"), 0);
-}
-
-void TestPayBills::theListFindsPayments_data()
-{
-    QTest::addColumn<PurchasingFilter>("filter");
-    QTest::addColumn<QString>("found");
-    const auto row = [](const char* name, const QDate& from, int type, PurchasingFilter::Field field,
-                        const QString& text, const QString& found) {
-        QTest::newRow(name) << PurchasingFilter{from, {2026, 3, 2}, type, "s1", field, text} << found;
-    };
-    row("both limits count, the latest first", {2026, 3, 1}, 0, PurchasingFilter::DocumentNo, "", "8 7");
-    row("one day, by check", {2026, 3, 2}, EntityPayment::CHECK, PurchasingFilter::DocumentNo, "", "8");
-    row("another type", {2026, 3, 1}, EntityPayment::ELECTRONIC, PurchasingFilter::DocumentNo, "", "");
-    row("digits of the number", {2026, 3, 1}, 0, PurchasingFilter::DocumentNo, "007", "7");
-    row("check number", {2026, 3, 1}, 0, PurchasingFilter::OtherNo, "bCa-2", "8");
-}
-
-void TestPayBills::theListFindsPayments()
-{
-    for (int day : {1, 2}) {
-        EntityPayment* one = payment({});
-        one->setDate(QDate(2026, 3, day));
-        one->setPaymentType(day == 2 ? EntityPayment::CHECK : EntityPayment::CASH);
-        one->setCheckNo(QString("BCA-%1").arg(day));
-        QVERIFY2(save(one), qPrintable(m_payments->takeErrors()));
-    }
-    QFETCH(PurchasingFilter, filter);
-    const StatementCount statements;
-    QStringList numbers;
-    for (const EntityPayment* one : m_payments->findAll(filter))
-        numbers.append(one->getNo().right(1));
-    QVERIFY2(!m_payments->hasError(), qPrintable(m_payments->takeErrors()));
-    QCOMPARE(statements.count(), 1);
-    QTEST(numbers.join(' '), "found");
-}
-
-void TestPayBills::whatFailsIsToldAndNothingIsHalfDone()
-{
-    // The purchase was deleted meanwhile.
-    EntityPayment* paid = payment({line(99, 100)});
-    QVERIFY(!save(paid));
-    QVERIFY(!m_payments->documentStands() && !paid->isSaved());
-    QVERIFY(m_payments->takeErrors().startsWith("error: insert payment detail:invoice failed.\r\n"));
-    QCOMPARE(count("payment"), 0);
-
-    // The purchase cannot be reckoned: the payment stands.
-    const int purchase = buy(500);
-    m_database->run(
-        "CREATE FUNCTION refuse() RETURNS trigger AS $$ BEGIN RAISE EXCEPTION 'busy'; END $$ LANGUAGE "
-        "plpgsql; CREATE TRIGGER refuse BEFORE UPDATE ON acquisition FOR EACH ROW EXECUTE FUNCTION refuse()");
-    paid->invoices().setDetails({line(purchase, 100)});
-    QVERIFY(!save(paid));
-    QCOMPARE(m_payments->errors().keys(), QStringList("updatePurchase"));
-    QVERIFY(m_payments->documentStands() && paid->isSaved());
-    m_payments->clearErrors();
-
-    // Another workstation changed the payment: neither saved nor deleted half.
-    m_database->run("UPDATE payment SET version = 2, updatedby = 1");
-    QVERIFY(!m_payments->remove(paid));
-    QVERIFY(m_payments->takeErrors().contains("payment has been updated"));
-    QCOMPARE(count("payment_invoice"), 1);
-}
 
 QTEST_MAIN(TestPayBills)
 #include "tst_pay_bills.moc"

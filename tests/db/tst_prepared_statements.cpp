@@ -1,5 +1,6 @@
 #include "kor/persistence/KorDatabase.h"
 #include "kor/persistence/KorQuery.h"
+#include "support/Rows.h"
 #include "support/TestDatabase.h"
 #include "zavel/registry/ZavelMapperRegistry.h"
 #include "zavel/tables/DataMapperMeja.h"
@@ -72,9 +73,9 @@ private slots:
 
     void aTableIsReadAndWrittenAfterItsColumnsHaveChanged_data()
     {
-        QTest::addColumn<bool>("byOther");
-        QTest::newRow("by this program") << false;
-        QTest::newRow("by another workstation") << true;
+        addColumns<bool>("byOther");
+        addRow("by this program", false);
+        addRow("by another workstation", true);
     }
     void aTableIsReadAndWrittenAfterItsColumnsHaveChanged()
     {

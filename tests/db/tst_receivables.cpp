@@ -1,4 +1,5 @@
 #include "kor/business/KorServiceDirectory.h"
+#include "support/Rows.h"
 #include "support/SalesRows.h"
 #include "support/ShopRows.h"
 #include "support/TestDatabase.h"
@@ -29,299 +30,280 @@ class TestReceivables : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-    void theBooksAgreeAfterAnyEvening_data();
-    void theBooksAgreeAfterAnyEvening();
-    void anInvoicePaidInPartsIsOpenUntilTheLast();
-    void theListFindsPayments_data();
-    void theListFindsPayments();
-    void aPaymentWhoseInvoicesCannotBeCountedStands();
-    void aPaymentOfADeletedSaleCanStillBeDeleted();
+    void init()
+    {
+        m_database = std::make_unique<TestDatabase>();
+        m_records = std::make_unique<QObject>();
+        insertShop(*m_database);
+        loginAsAdmin();
+        insertSeller(*m_database, 1, "ann");
+        m_database->run("INSERT INTO member (id, kode, nama, alamat, telp, discount_percentage, version) VALUES "
+                        "(2, 'M2', 'Other', '', '', 0, 1)");
+        m_sales = service<BusinessPenjualan>("Sales");
+        m_paper.clear();
+    }
+
+    void cleanup()
+    {
+        m_sales->clearErrors();
+        m_records.reset();
+        m_database.reset();
+    }
+
+    // --- any evening -------------------------------------------------------------------------------------------------
+
+    void theBooksAgreeAfterAnyEvening_data()
+    {
+        addColumns<uint>("seed");
+        for (uint seed : {1U, 2U, 3U})
+            QTest::addRow("evening %u", seed) << seed;
+    }
+
+    void theBooksAgreeAfterAnyEvening()
+    {
+        QFETCH(uint, seed);
+        QRandomGenerator chance(seed);
+        const auto below = [&chance](int limit) { return static_cast<int>(chance.bounded(limit)); };
+        const QStringList types{"TRD", "TRF", "TRP"};
+        // What each payment paid of each invoice.
+        QMap<int, QMap<int, int>> paper;
+        const auto book = [this, &paper](const QMap<int, int>& lines) {
+            for (int invoice : lines.keys()) {
+                int other = 0;
+                for (const QMap<int, int>& paid : qAsConst(paper))
+                    other += paid.value(invoice);
+                m_paper[invoice].other = other;
+            }
+        };
+
+        for (int step = 0; step < 60; ++step) {
+            const int member = 1 + below(2);
+            const int action = paper.isEmpty() ? below(2) : std::min(below(7) / 2, 3);
+            const int known = paper.isEmpty() ? 0 : paper.keys().at(below(paper.size()));
+            if (action == 0) {
+                const int total = 100 + below(900);
+                // Some guests pay a part at once, in cash or with another credit.
+                sell(types[below(3)], total, below(3) == 0 ? below(total) : 0, below(3) == 0 ? below(100) : 0, member);
+            } else if (action == 1) {
+                QList<EntityPiutangDetail*> lines;
+                QMap<int, int> paid;
+                for (const EntityPiutangDetail* open : m_sales->getUnpaidInvoicesForMember(member)) {
+                    const int due = open->getAmountDue()->rawAmount();
+                    if (due == 0 || below(2) == 0)
+                        continue;
+                    const int amount = below(2) == 0 ? due : 1 + below(due);
+                    paid.insert(open->getInvoice()->getId(), amount);
+                    lines.append(line(open->getInvoice()->getId(), amount));
+                }
+                if (lines.isEmpty())
+                    continue;
+                EntityPiutang* fresh = payment(member, lines);
+                QVERIFY2(save(fresh), qPrintable(m_sales->takeErrors()));
+                paper.insert(fresh->getId(), paid);
+                book(paid);
+            } else if (action == 2) {
+                EntityPiutang* stored = m_sales->findPiutang(known);
+                QVERIFY2(stored, qPrintable(m_sales->takeErrors()));
+                QMap<int, int>& paid = paper[known];
+                const QList<EntityPiutangDetail*> lines = stored->getDetails();
+                for (EntityPiutangDetail* one : lines) {
+                    const int invoice = one->getInvoice()->getId();
+                    QCOMPARE(one->getAmountPaid()->rawAmount(), paid.value(invoice));
+                    if (lines.size() > 1 && one == lines.last() && below(2) == 0) {
+                        // Taken off the payment: nobody counts its invoice.
+                        stored->removeDetail(one);
+                        paid.remove(invoice);
+                        continue;
+                    }
+                    paid[invoice] = 1 + below(std::max(1, m_paper[invoice].due() + paid.value(invoice)));
+                    one->setAmountPaid(new Money(one, paid.value(invoice), "Rp"));
+                }
+                QVERIFY2(save(stored), qPrintable(m_sales->takeErrors()));
+                book(paid);
+            } else {
+                // The invoices keep the money.
+                QVERIFY2(m_sales->remove(m_sales->findPiutang(known)), qPrintable(m_sales->takeErrors()));
+                paper.remove(known);
+            }
+            compareWithPaper(member);
+            if (QTest::currentTestFailed())
+                QFAIL(qPrintable(QString("at step %1, action %2").arg(step).arg(action)));
+        }
+        QCOMPARE(m_database->value("SELECT count(*) FROM piutang").toInt(), paper.size());
+        QVERIFY(paper.size() > 1);
+    }
+
+    // --- one by one --------------------------------------------------------------------------------------------------
+
+    void anInvoicePaidInPartsIsOpenUntilTheLast()
+    {
+        const int invoice = sell("TRD", 500, 0, 50, 1);
+        QVERIFY(save(payment(1, {line(invoice, 100)})));
+        // The credit given at the sale is gone: only what was paid later counts.
+        QCOMPARE(figures(invoice), QString("100 400 3"));
+        QVERIFY(save(payment(1, {line(invoice, 200)})));
+        QCOMPARE(figures(invoice), QString("300 200 3"));
+        QCOMPARE(m_sales->getUnpaidInvoicesForMember(1).size(), 1);
+        EntityPiutang* last = payment(1, {line(invoice, 200)});
+        QVERIFY(save(last));
+        QCOMPARE(last->getNo(), QString("PIU-0009"));
+        QCOMPARE(figures(invoice), QString("500 0 1"));
+        QVERIFY(m_sales->getUnpaidInvoicesForMember(1).isEmpty());
+        // The table's order does not hear of it.
+        QCOMPARE(m_database->value("SELECT status FROM makan_ditempat").toInt(), 1);
+    }
+
+    void theListFindsPayments_data()
+    {
+        addColumns<QString, QString, int, int, QString>("from", "to", "type", "member", "found");
+        const auto row = [](const char* name, const QString& from, const QString& to, int type, int member,
+                            const QString& found) { addRow(name, from, to, type, member, found); };
+        row("both limits count, the latest first", "2026-03-01", "2026-03-03", 0, KorNoValue, "9 8 7");
+        row("one day", "2026-03-02", "2026-03-02", 0, KorNoValue, "8");
+        row("by check", "2026-03-01", "2026-03-03", PaymentType::Check, KorNoValue, "9 7");
+        row("of one member", "2026-03-01", "2026-03-03", 0, 2, "8");
+        row("none", "2026-03-01", "2026-03-03", PaymentType::Cash, 1, "");
+    }
+
+    void theListFindsPayments()
+    {
+        QFETCH(QString, from);
+        QFETCH(QString, to);
+        for (int day : {1, 2, 3}) {
+            EntityPiutang* one = payment(day == 2 ? 2 : 1, {line(sell("TRD", 100, 0, 0, 1), 100)});
+            one->setDate(QDate(2026, 3, day));
+            one->setPaymentType(day == 2 ? PaymentType::Electronic : PaymentType::Check);
+            QVERIFY(save(one));
+        }
+        ReceivableFilter filter;
+        filter.from = QDate::fromString(from, Qt::ISODate);
+        filter.to = QDate::fromString(to, Qt::ISODate);
+        QFETCH(int, type);
+        QFETCH(int, member);
+        filter.paymentType = type;
+        filter.memberId = member;
+        const StatementCount statements;
+        QStringList numbers;
+        for (const EntityPiutang* one : m_sales->searchPiutang(filter))
+            numbers.append(one->getNo().right(1));
+        QCOMPARE(statements.count(), 1);
+        QTEST(numbers.join(' '), "found");
+    }
+
+    void aPaymentWhoseInvoicesCannotBeCountedStands()
+    {
+        const int invoice = sell("TRD", 500, 0, 0, 1);
+        m_database->run(
+            "CREATE FUNCTION refuse() RETURNS trigger AS $$ BEGIN RAISE EXCEPTION 'busy'; END $$ LANGUAGE "
+            "plpgsql; CREATE TRIGGER refuse BEFORE UPDATE ON invoice FOR EACH ROW EXECUTE FUNCTION refuse()");
+        EntityPiutang* paid = payment(1, {line(invoice, 100)});
+        QVERIFY(!save(paid));
+        QCOMPARE(m_sales->errors().keys(), QStringList("updateInvoice"));
+        QVERIFY(paid->isSaved());
+        QCOMPARE(m_database->value("SELECT count(*) FROM piutang_detail").toInt(), 1);
+    }
+
+    void aPaymentOfADeletedSaleCanStillBeDeleted()
+    {
+        const int gone = sell("TRD", 500, 0, 0, 1);
+        const int kept = sell("TRF", 300, 0, 0, 1);
+        EntityPiutang* paid = payment(1, {line(gone, 100), line(kept, 50)});
+        QVERIFY(save(paid));
+        Invoice sale;
+        sale.setId(gone);
+        sale.setInvoiceType("TRD");
+        sale.setVersion(2);
+        QVERIFY2(m_sales->deleteSales(&sale), qPrintable(m_sales->takeErrors()));
+        QCOMPARE(m_sales->findPiutang(paid->getId())->getDetails().size(), 1);
+
+        m_database->run("UPDATE piutang SET version = 2, updatedby = 1");
+        QVERIFY(!m_sales->remove(paid));
+        QVERIFY(m_sales->takeErrors().contains("piutang has been updated"));
+        QCOMPARE(m_database->value("SELECT count(*) FROM piutang_detail").toInt(), 2);
+        QVERIFY2(m_sales->remove(m_sales->findPiutang(paid->getId())), qPrintable(m_sales->takeErrors()));
+        QCOMPARE(m_database->value("SELECT count(*) FROM piutang_detail").toInt(), 0);
+        QCOMPARE(figures(kept), QString("50 250 3"));
+    }
 
 private:
-    int sell(const QString& type, int total, int paid, int other, int member);
-    EntityPiutangDetail* line(int invoice, int amount);
-    EntityPiutang* payment(int member, const QList<EntityPiutangDetail*>& lines);
-    bool save(EntityPiutang* payment);
-    void compareWithPaper(int member);
-    QString figures(int invoice);
+    int sell(const QString& type, int total, int paid, int other, int member)
+    {
+        SaleRow sale;
+        sale.no = QString("%1-%2").arg(type).arg(m_paper.size() + 1);
+        sale.type = type;
+        sale.total = total;
+        sale.paid = paid;
+        sale.other = other;
+        sale.member = member;
+        const Paper paper{total, paid, other, member};
+        sale.status = paper.status();
+        const int id = insertSale(*m_database, sale);
+        m_paper.insert(id, paper);
+        return id;
+    }
+
+    EntityPiutangDetail* line(int invoice, int amount)
+    {
+        auto* line = new EntityPiutangDetail(m_records.get());
+        auto* paid = new Invoice(m_records.get());
+        paid->setId(invoice);
+        line->setInvoice(paid);
+        line->setAmountPaid(new Money(line, amount, "Rp"));
+        line->setAmountDue(new Money(line, m_paper.value(invoice).due() - amount, "Rp"));
+        return line;
+    }
+
+    EntityPiutang* payment(int member, const QList<EntityPiutangDetail*>& lines)
+    {
+        auto* payment = new EntityPiutang(m_records.get());
+        auto* payer = new EntityMember(m_records.get());
+        payer->setId(member);
+        payment->setMember(payer);
+        payment->setDate(QDate(2026, 3, 2));
+        payment->setDetails(lines);
+        return payment;
+    }
+
+    bool save(EntityPiutang* payment)
+    {
+        int total = 0;
+        for (const EntityPiutangDetail* line : payment->getDetails())
+            total += line->getAmountPaid()->rawAmount();
+        payment->setGrandTotal(new Money(payment, total, "Rp"));
+        return payment->isSaved() ? m_sales->updatePiutang(payment) : m_sales->insert(payment);
+    }
+
+    void compareWithPaper(int member)
+    {
+        QMap<int, int> open;
+        for (auto it = m_paper.cbegin(); it != m_paper.cend(); ++it) {
+            QCOMPARE(figures(it.key()), QString("%1 %2 %3").arg(it->other).arg(it->due()).arg(it->status()));
+            if (it->member == member && it->status() != Invoice::FULL_PAID)
+                open.insert(it.key(), it->due());
+        }
+        QMap<int, int> offered;
+        for (const EntityPiutangDetail* line : m_sales->getUnpaidInvoicesForMember(member)) {
+            QCOMPARE(line->getAmountPaid()->rawAmount(), 0);
+            offered.insert(line->getInvoice()->getId(), line->getAmountDue()->rawAmount());
+        }
+        QCOMPARE(offered, open);
+    }
+
+    QString figures(int invoice)
+    {
+        return m_database
+            ->value(
+                QString(
+                    "SELECT concat_ws(' ', other_payment_amount, net_due_amount, status) FROM invoice WHERE id = %1")
+                    .arg(invoice))
+            .toString();
+    }
 
     std::unique_ptr<TestDatabase> m_database;
     std::unique_ptr<QObject> m_records;
     BusinessPenjualan* m_sales = nullptr;
     QMap<int, Paper> m_paper;
 };
-
-void TestReceivables::init()
-{
-    m_database = std::make_unique<TestDatabase>();
-    m_records = std::make_unique<QObject>();
-    insertShop(*m_database);
-    loginAsAdmin();
-    insertSeller(*m_database, 1, "ann");
-    m_database->run("INSERT INTO member (id, kode, nama, alamat, telp, discount_percentage, version) VALUES "
-                    "(2, 'M2', 'Other', '', '', 0, 1)");
-    m_sales = service<BusinessPenjualan>("Sales");
-    m_paper.clear();
-}
-
-void TestReceivables::cleanup()
-{
-    m_sales->clearErrors();
-    m_records.reset();
-    m_database.reset();
-}
-
-int TestReceivables::sell(const QString& type, int total, int paid, int other, int member)
-{
-    SaleRow sale;
-    sale.no = QString("%1-%2").arg(type).arg(m_paper.size() + 1);
-    sale.type = type;
-    sale.total = total;
-    sale.paid = paid;
-    sale.other = other;
-    sale.member = member;
-    const Paper paper{total, paid, other, member};
-    sale.status = paper.status();
-    const int id = insertSale(*m_database, sale);
-    m_paper.insert(id, paper);
-    return id;
-}
-
-EntityPiutangDetail* TestReceivables::line(int invoice, int amount)
-{
-    auto* line = new EntityPiutangDetail(m_records.get());
-    auto* paid = new Invoice(m_records.get());
-    paid->setId(invoice);
-    line->setInvoice(paid);
-    line->setAmountPaid(new Money(line, amount, "Rp"));
-    line->setAmountDue(new Money(line, m_paper.value(invoice).due() - amount, "Rp"));
-    return line;
-}
-
-EntityPiutang* TestReceivables::payment(int member, const QList<EntityPiutangDetail*>& lines)
-{
-    auto* payment = new EntityPiutang(m_records.get());
-    auto* payer = new EntityMember(m_records.get());
-    payer->setId(member);
-    payment->setMember(payer);
-    payment->setDate(QDate(2026, 3, 2));
-    payment->setDetails(lines);
-    return payment;
-}
-
-bool TestReceivables::save(EntityPiutang* payment)
-{
-    int total = 0;
-    for (const EntityPiutangDetail* line : payment->getDetails())
-        total += line->getAmountPaid()->rawAmount();
-    payment->setGrandTotal(new Money(payment, total, "Rp"));
-    return payment->isSaved() ? m_sales->updatePiutang(payment) : m_sales->insert(payment);
-}
-
-QString TestReceivables::figures(int invoice)
-{
-    return m_database
-        ->value(
-            QString("SELECT concat_ws(' ', other_payment_amount, net_due_amount, status) FROM invoice WHERE id = %1")
-                .arg(invoice))
-        .toString();
-}
-
-void TestReceivables::compareWithPaper(int member)
-{
-    QMap<int, int> open;
-    for (auto it = m_paper.cbegin(); it != m_paper.cend(); ++it) {
-        QCOMPARE(figures(it.key()), QString("%1 %2 %3").arg(it->other).arg(it->due()).arg(it->status()));
-        if (it->member == member && it->status() != Invoice::FULL_PAID)
-            open.insert(it.key(), it->due());
-    }
-    QMap<int, int> offered;
-    for (const EntityPiutangDetail* line : m_sales->getUnpaidInvoicesForMember(member)) {
-        QCOMPARE(line->getAmountPaid()->rawAmount(), 0);
-        offered.insert(line->getInvoice()->getId(), line->getAmountDue()->rawAmount());
-    }
-    QCOMPARE(offered, open);
-}
-
-// --- any evening ---------------------------------------------------------------------------------------------------
-
-void TestReceivables::theBooksAgreeAfterAnyEvening_data()
-{
-    QTest::addColumn<uint>("seed");
-    for (uint seed : {1U, 2U, 3U})
-        QTest::addRow("evening %u", seed) << seed;
-}
-
-void TestReceivables::theBooksAgreeAfterAnyEvening()
-{
-    QFETCH(uint, seed);
-    QRandomGenerator chance(seed);
-    const auto below = [&chance](int limit) { return static_cast<int>(chance.bounded(limit)); };
-    const QStringList types{"TRD", "TRF", "TRP"};
-    // What each payment paid of each invoice.
-    QMap<int, QMap<int, int>> paper;
-    const auto book = [this, &paper](const QMap<int, int>& lines) {
-        for (int invoice : lines.keys()) {
-            int other = 0;
-            for (const QMap<int, int>& paid : qAsConst(paper))
-                other += paid.value(invoice);
-            m_paper[invoice].other = other;
-        }
-    };
-
-    for (int step = 0; step < 60; ++step) {
-        const int member = 1 + below(2);
-        const int action = paper.isEmpty() ? below(2) : std::min(below(7) / 2, 3);
-        const int known = paper.isEmpty() ? 0 : paper.keys().at(below(paper.size()));
-        if (action == 0) {
-            const int total = 100 + below(900);
-            // Some guests pay a part at once, in cash or with another credit.
-            sell(types[below(3)], total, below(3) == 0 ? below(total) : 0, below(3) == 0 ? below(100) : 0, member);
-        } else if (action == 1) {
-            QList<EntityPiutangDetail*> lines;
-            QMap<int, int> paid;
-            for (const EntityPiutangDetail* open : m_sales->getUnpaidInvoicesForMember(member)) {
-                const int due = open->getAmountDue()->rawAmount();
-                if (due == 0 || below(2) == 0)
-                    continue;
-                const int amount = below(2) == 0 ? due : 1 + below(due);
-                paid.insert(open->getInvoice()->getId(), amount);
-                lines.append(line(open->getInvoice()->getId(), amount));
-            }
-            if (lines.isEmpty())
-                continue;
-            EntityPiutang* fresh = payment(member, lines);
-            QVERIFY2(save(fresh), qPrintable(m_sales->takeErrors()));
-            paper.insert(fresh->getId(), paid);
-            book(paid);
-        } else if (action == 2) {
-            EntityPiutang* stored = m_sales->findPiutang(known);
-            QVERIFY2(stored, qPrintable(m_sales->takeErrors()));
-            QMap<int, int>& paid = paper[known];
-            const QList<EntityPiutangDetail*> lines = stored->getDetails();
-            for (EntityPiutangDetail* one : lines) {
-                const int invoice = one->getInvoice()->getId();
-                QCOMPARE(one->getAmountPaid()->rawAmount(), paid.value(invoice));
-                if (lines.size() > 1 && one == lines.last() && below(2) == 0) {
-                    // Taken off the payment: nobody counts its invoice.
-                    stored->removeDetail(one);
-                    paid.remove(invoice);
-                    continue;
-                }
-                paid[invoice] = 1 + below(std::max(1, m_paper[invoice].due() + paid.value(invoice)));
-                one->setAmountPaid(new Money(one, paid.value(invoice), "Rp"));
-            }
-            QVERIFY2(save(stored), qPrintable(m_sales->takeErrors()));
-            book(paid);
-        } else {
-            // The invoices keep the money.
-            QVERIFY2(m_sales->remove(m_sales->findPiutang(known)), qPrintable(m_sales->takeErrors()));
-            paper.remove(known);
-        }
-        compareWithPaper(member);
-        if (QTest::currentTestFailed())
-            QFAIL(qPrintable(QString("at step %1, action %2").arg(step).arg(action)));
-    }
-    QCOMPARE(m_database->value("SELECT count(*) FROM piutang").toInt(), paper.size());
-    QVERIFY(paper.size() > 1);
-}
-
-// --- one by one ----------------------------------------------------------------------------------------------------
-
-void TestReceivables::anInvoicePaidInPartsIsOpenUntilTheLast()
-{
-    const int invoice = sell("TRD", 500, 0, 50, 1);
-    QVERIFY(save(payment(1, {line(invoice, 100)})));
-    // The credit given at the sale is gone: only what was paid later counts.
-    QCOMPARE(figures(invoice), QString("100 400 3"));
-    QVERIFY(save(payment(1, {line(invoice, 200)})));
-    QCOMPARE(figures(invoice), QString("300 200 3"));
-    QCOMPARE(m_sales->getUnpaidInvoicesForMember(1).size(), 1);
-    EntityPiutang* last = payment(1, {line(invoice, 200)});
-    QVERIFY(save(last));
-    QCOMPARE(last->getNo(), QString("PIU-0009"));
-    QCOMPARE(figures(invoice), QString("500 0 1"));
-    QVERIFY(m_sales->getUnpaidInvoicesForMember(1).isEmpty());
-    // The table's order does not hear of it.
-    QCOMPARE(m_database->value("SELECT status FROM makan_ditempat").toInt(), 1);
-}
-
-void TestReceivables::theListFindsPayments_data()
-{
-    QTest::addColumn<QString>("from");
-    QTest::addColumn<QString>("to");
-    QTest::addColumn<int>("type");
-    QTest::addColumn<int>("member");
-    QTest::addColumn<QString>("found");
-    const auto row = [](const char* name, const QString& from, const QString& to, int type, int member,
-                        const QString& found) { QTest::newRow(name) << from << to << type << member << found; };
-    row("both limits count, the latest first", "2026-03-01", "2026-03-03", 0, KorNoValue, "9 8 7");
-    row("one day", "2026-03-02", "2026-03-02", 0, KorNoValue, "8");
-    row("by check", "2026-03-01", "2026-03-03", PaymentType::Check, KorNoValue, "9 7");
-    row("of one member", "2026-03-01", "2026-03-03", 0, 2, "8");
-    row("none", "2026-03-01", "2026-03-03", PaymentType::Cash, 1, "");
-}
-
-void TestReceivables::theListFindsPayments()
-{
-    QFETCH(QString, from);
-    QFETCH(QString, to);
-    for (int day : {1, 2, 3}) {
-        EntityPiutang* one = payment(day == 2 ? 2 : 1, {line(sell("TRD", 100, 0, 0, 1), 100)});
-        one->setDate(QDate(2026, 3, day));
-        one->setPaymentType(day == 2 ? PaymentType::Electronic : PaymentType::Check);
-        QVERIFY(save(one));
-    }
-    ReceivableFilter filter;
-    filter.from = QDate::fromString(from, Qt::ISODate);
-    filter.to = QDate::fromString(to, Qt::ISODate);
-    QFETCH(int, type);
-    QFETCH(int, member);
-    filter.paymentType = type;
-    filter.memberId = member;
-    const StatementCount statements;
-    QStringList numbers;
-    for (const EntityPiutang* one : m_sales->searchPiutang(filter))
-        numbers.append(one->getNo().right(1));
-    QCOMPARE(statements.count(), 1);
-    QTEST(numbers.join(' '), "found");
-}
-
-void TestReceivables::aPaymentWhoseInvoicesCannotBeCountedStands()
-{
-    const int invoice = sell("TRD", 500, 0, 0, 1);
-    m_database->run("CREATE FUNCTION refuse() RETURNS trigger AS $$ BEGIN RAISE EXCEPTION 'busy'; END $$ LANGUAGE "
-                    "plpgsql; CREATE TRIGGER refuse BEFORE UPDATE ON invoice FOR EACH ROW EXECUTE FUNCTION refuse()");
-    EntityPiutang* paid = payment(1, {line(invoice, 100)});
-    QVERIFY(!save(paid));
-    QCOMPARE(m_sales->errors().keys(), QStringList("updateInvoice"));
-    QVERIFY(paid->isSaved());
-    QCOMPARE(m_database->value("SELECT count(*) FROM piutang_detail").toInt(), 1);
-}
-
-void TestReceivables::aPaymentOfADeletedSaleCanStillBeDeleted()
-{
-    const int gone = sell("TRD", 500, 0, 0, 1);
-    const int kept = sell("TRF", 300, 0, 0, 1);
-    EntityPiutang* paid = payment(1, {line(gone, 100), line(kept, 50)});
-    QVERIFY(save(paid));
-    Invoice sale;
-    sale.setId(gone);
-    sale.setInvoiceType("TRD");
-    sale.setVersion(2);
-    QVERIFY2(m_sales->deleteSales(&sale), qPrintable(m_sales->takeErrors()));
-    QCOMPARE(m_sales->findPiutang(paid->getId())->getDetails().size(), 1);
-
-    m_database->run("UPDATE piutang SET version = 2, updatedby = 1");
-    QVERIFY(!m_sales->remove(paid));
-    QVERIFY(m_sales->takeErrors().contains("piutang has been updated"));
-    QCOMPARE(m_database->value("SELECT count(*) FROM piutang_detail").toInt(), 2);
-    QVERIFY2(m_sales->remove(m_sales->findPiutang(paid->getId())), qPrintable(m_sales->takeErrors()));
-    QCOMPARE(m_database->value("SELECT count(*) FROM piutang_detail").toInt(), 0);
-    QCOMPARE(figures(kept), QString("50 250 3"));
-}
 
 QTEST_MAIN(TestReceivables)
 #include "tst_receivables.moc"

@@ -5,6 +5,7 @@
 #include "app/registry/AppMapperRegistry.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/persistence/KorDatabase.h"
+#include "support/Rows.h"
 #include "support/TestDatabase.h"
 
 #include <QMutex>
@@ -30,18 +31,14 @@ private slots:
 
     void aNumberIsTheDateAndThePaddedCounter_data()
     {
-        QTest::addColumn<QString>("format");
-        QTest::addColumn<int>("next");
-        QTest::addColumn<int>("step");
-        QTest::addColumn<int>("digits");
-        QTest::addColumn<QStringList>("counters");
-        QTest::newRow("as installed") << "MMyy" << 57 << 1 << 4 << QStringList{"0057", "0058"};
-        QTest::newRow("steps of five") << "MMyy" << 5 << 5 << 4 << QStringList{"0005", "0010"};
-        QTest::newRow("more digits than its width are not cut") << "MMyy" << 1234 << 1 << 2 << QStringList{"1234"};
-        QTest::newRow("no padding") << "MMyy" << 7 << 1 << 0 << QStringList{"7"};
-        QTest::newRow("counter alone") << "" << 7 << 1 << 4 << QStringList{"0007"};
-        QTest::newRow("letters that are no date stay") << "POMMyy" << 1 << 1 << 4 << QStringList{"0001"};
-        QTest::newRow("quoted prefix") << "'TPH'MMyy" << 1 << 1 << 4 << QStringList{"0001"};
+        addColumns<QString, int, int, int, QStringList>("format", "next", "step", "digits", "counters");
+        addRow("as installed", "MMyy", 57, 1, 4, QStringList{"0057", "0058"});
+        addRow("steps of five", "MMyy", 5, 5, 4, QStringList{"0005", "0010"});
+        addRow("more digits than its width are not cut", "MMyy", 1234, 1, 2, QStringList{"1234"});
+        addRow("no padding", "MMyy", 7, 1, 0, QStringList{"7"});
+        addRow("counter alone", "", 7, 1, 4, QStringList{"0007"});
+        addRow("letters that are no date stay", "POMMyy", 1, 1, 4, QStringList{"0001"});
+        addRow("quoted prefix", "'TPH'MMyy", 1, 1, 4, QStringList{"0001"});
     }
     void aNumberIsTheDateAndThePaddedCounter()
     {

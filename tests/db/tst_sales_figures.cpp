@@ -1,5 +1,6 @@
 #include "app/context/EntityPool.h"
 #include "kor/business/KorServiceDirectory.h"
+#include "support/Rows.h"
 #include "support/ShopRows.h"
 #include "support/TestDatabase.h"
 #include "zavel/list/EntitySalesSummaryInfo.h"
@@ -20,140 +21,109 @@ class TestSalesFigures : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
+    void initTestCase()
+    {
+        m_database = std::make_unique<TestDatabase>();
+        insertShop(*m_database);
+        loginAsAdmin();
+        m_sales = service<BusinessPenjualan>("Sales");
+        m_database->run("INSERT INTO jenis_item (id, kode, nama, version) VALUES (2, 'DRINK', 'Drink', 1)");
+        insertItem(*m_database, 2, "TEA", "Tea", 2);
+        insertItem(*m_database, 3, "SOUP", "Soup");
+        insertSale(*m_database, {2026, 2, 26}, 1, {5000, 5000, 0}, 50, 1);
+        insertSale(*m_database, {2026, 2, 27}, 1, {900, 1000, 0}, 3, 1);
+        insertSale(*m_database, {2026, 2, 27}, 2, {400, 100, 300}, 8, 2);
+        // More than 32 bits hold.
+        insertSale(*m_database, {2026, 3, 2}, 3, {2000000000, 2000000000, 0}, 3, 2);
+        insertSale(*m_database, {2026, 3, 2}, 3, {2000000000, 0, 0}, 4, 2);
+        insertSale(*m_database, {2026, 3, 3}, 1, {7000, 7000, 0}, 70, 2);
+    }
+
     void cleanupTestCase() { m_database.reset(); }
 
-    void salesAreSummedByDayAndByMonth_data();
-    void salesAreSummedByDayAndByMonth();
-    void soldItemsAreSummedAndSorted_data();
-    void soldItemsAreSummedAndSorted();
-    void anUnknownOrderIsRefusedBeforeItReachesTheDatabase_data();
-    void anUnknownOrderIsRefusedBeforeItReachesTheDatabase();
+    void salesAreSummedByDayAndByMonth_data()
+    {
+        addColumns<bool, int, QStringList>("monthly", "user", "sums");
+        addRow("by day, without the change handed back", false, -1,
+               QStringList{"2026-02-27 2 1300 1000 300", "2026-03-02 2 4000000000 2000000000 0"});
+        addRow("by day, of one user", false, 1, QStringList{"2026-02-27 1 900 900 0"});
+        addRow("by day, of a user who sold nothing", false, 3, QStringList{});
+        addRow("by month", true, -1, QStringList{"2026-02-01 2 1300 1000 300", "2026-03-01 2 4000000000 2000000000 0"});
+        addRow("by month, of one user", true, 1, QStringList{"2026-02-01 1 900 900 0"});
+    }
+
+    void salesAreSummedByDayAndByMonth()
+    {
+        QFETCH(bool, monthly);
+        QFETCH(int, user);
+        const EntityPoolScope scope(m_pool);
+        QStringList sums;
+        for (const EntitySalesSummaryInfo* sum :
+             monthly ? m_sales->getMonthlySales(first, last, user) : m_sales->getDailySales(first, last, user))
+            sums.append(QString("%1 %2 %3 %4 %5")
+                            .arg(sum->getDate().toString(Qt::ISODate))
+                            .arg(sum->getSalesCount())
+                            .arg(sum->getTotal())
+                            .arg(sum->getCash())
+                            .arg(sum->getCredit()));
+        QVERIFY2(!m_sales->hasError(), qPrintable(m_sales->takeErrors()));
+        QTEST(sums, "sums");
+    }
+
+    void soldItemsAreSummedAndSorted_data()
+    {
+        addColumns<QString, QString, QString, QStringList>("direction", "column", "itemType", "items");
+        const QString rice = "RICE Rice FOOD 3 900";
+        const QString tea = "TEA Tea DRINK 8 400";
+        const QString soup = "SOUP Soup FOOD 7 4000000000";
+        addRow("best sellers first", "desc", "total_qty", "", QStringList{tea, soup, rice});
+        addRow("least money first", "ASC", "total_price", "", QStringList{tea, rice, soup});
+        addRow("by name", "asc", "Nama", "", QStringList{rice, soup, tea});
+        addRow("equal ones by their codes", "desc", "item_type", "", QStringList{rice, soup, tea});
+        addRow("of one type", "desc", "kode", "FOOD", QStringList{soup, rice});
+        addRow("of a type with a quote in it", "desc", "kode", "FO'OD", QStringList{});
+    }
+
+    void soldItemsAreSummedAndSorted()
+    {
+        QFETCH(QString, direction);
+        QFETCH(QString, column);
+        QFETCH(QString, itemType);
+        const EntityPoolScope scope(m_pool);
+        QStringList items;
+        for (const EntitySoldItem* item : m_sales->getSoldItems(first, last, direction, column, itemType))
+            items.append(QString("%1 %2 %3 %4 %5")
+                             .arg(item->getKode(), item->getNama(), item->getItemType())
+                             .arg(item->getTotalQty())
+                             .arg(item->getTotalPrice()));
+        QVERIFY2(!m_sales->hasError(), qPrintable(m_sales->takeErrors()));
+        QTEST(items, "items");
+    }
+
+    void anUnknownOrderIsRefusedBeforeItReachesTheDatabase_data()
+    {
+        addColumns<QString, QString>("direction", "column");
+        addRow("column", "desc", "total_qty; drop table invoice");
+        addRow("direction", "desc; drop table invoice", "total_qty");
+        addRow("the wrong way round", "total_qty", "desc");
+        addRow("empty", "", "");
+    }
+
+    void anUnknownOrderIsRefusedBeforeItReachesTheDatabase()
+    {
+        QFETCH(QString, direction);
+        QFETCH(QString, column);
+        const StatementCount statements;
+        QVERIFY(m_sales->getSoldItems(first, last, direction, column, "").isEmpty());
+        QCOMPARE(statements.count(), 0);
+        QCOMPARE(m_sales->takeErrors(), QString("The items can not be sorted by: %1 %2\r\n").arg(column, direction));
+    }
 
 private:
     std::unique_ptr<TestDatabase> m_database;
     BusinessPenjualan* m_sales = nullptr;
     EntityPool m_pool;
 };
-
-void TestSalesFigures::initTestCase()
-{
-    m_database = std::make_unique<TestDatabase>();
-    insertShop(*m_database);
-    loginAsAdmin();
-    m_sales = service<BusinessPenjualan>("Sales");
-    m_database->run("INSERT INTO jenis_item (id, kode, nama, version) VALUES (2, 'DRINK', 'Drink', 1)");
-    insertItem(*m_database, 2, "TEA", "Tea", 2);
-    insertItem(*m_database, 3, "SOUP", "Soup");
-    insertSale(*m_database, {2026, 2, 26}, 1, {5000, 5000, 0}, 50, 1);
-    insertSale(*m_database, {2026, 2, 27}, 1, {900, 1000, 0}, 3, 1);
-    insertSale(*m_database, {2026, 2, 27}, 2, {400, 100, 300}, 8, 2);
-    // More than 32 bits hold.
-    insertSale(*m_database, {2026, 3, 2}, 3, {2000000000, 2000000000, 0}, 3, 2);
-    insertSale(*m_database, {2026, 3, 2}, 3, {2000000000, 0, 0}, 4, 2);
-    insertSale(*m_database, {2026, 3, 3}, 1, {7000, 7000, 0}, 70, 2);
-}
-
-void TestSalesFigures::salesAreSummedByDayAndByMonth_data()
-{
-    QTest::addColumn<bool>("monthly");
-    QTest::addColumn<int>("user");
-    QTest::addColumn<QStringList>("sums");
-    QTest::newRow("by day, without the change handed back")
-        << false << -1 << QStringList{"2026-02-27 2 1300 1000 300", "2026-03-02 2 4000000000 2000000000 0"};
-    QTest::newRow("by day, of one user") << false << 1 << QStringList{"2026-02-27 1 900 900 0"};
-    QTest::newRow("by day, of a user who sold nothing") << false << 3 << QStringList{};
-    QTest::newRow("by month") << true << -1
-                              << QStringList{"2026-02-01 2 1300 1000 300", "2026-03-01 2 4000000000 2000000000 0"};
-    QTest::newRow("by month, of one user") << true << 1 << QStringList{"2026-02-01 1 900 900 0"};
-}
-
-void TestSalesFigures::salesAreSummedByDayAndByMonth()
-{
-    QFETCH(bool, monthly);
-    QFETCH(int, user);
-    const EntityPoolScope scope(m_pool);
-    QStringList sums;
-    for (const EntitySalesSummaryInfo* sum :
-         monthly ? m_sales->getMonthlySales(first, last, user) : m_sales->getDailySales(first, last, user))
-        sums.append(QString("%1 %2 %3 %4 %5")
-                        .arg(sum->getDate().toString(Qt::ISODate))
-                        .arg(sum->getSalesCount())
-                        .arg(sum->getTotal())
-                        .arg(sum->getCash())
-                        .arg(sum->getCredit()));
-    QVERIFY2(!m_sales->hasError(), qPrintable(m_sales->takeErrors()));
-    QTEST(sums, "sums");
-}
-
-void TestSalesFigures::soldItemsAreSummedAndSorted_data()
-{
-    QTest::addColumn<QString>("direction");
-    QTest::addColumn<QString>("column");
-    QTest::addColumn<QString>("itemType");
-    QTest::addColumn<QStringList>("items");
-    const QString rice = "RICE Rice FOOD 3 900";
-    const QString tea = "TEA Tea DRINK 8 400";
-    const QString soup = "SOUP Soup FOOD 7 4000000000";
-    QTest::newRow("best sellers first") << "desc"
-                                        << "total_qty"
-                                        << "" << QStringList{tea, soup, rice};
-    QTest::newRow("least money first") << "ASC"
-                                       << "total_price"
-                                       << "" << QStringList{tea, rice, soup};
-    QTest::newRow("by name") << "asc"
-                             << "Nama"
-                             << "" << QStringList{rice, soup, tea};
-    QTest::newRow("equal ones by their codes") << "desc"
-                                               << "item_type"
-                                               << "" << QStringList{rice, soup, tea};
-    QTest::newRow("of one type") << "desc"
-                                 << "kode"
-                                 << "FOOD" << QStringList{soup, rice};
-    QTest::newRow("of a type with a quote in it") << "desc"
-                                                  << "kode"
-                                                  << "FO'OD" << QStringList{};
-}
-
-void TestSalesFigures::soldItemsAreSummedAndSorted()
-{
-    QFETCH(QString, direction);
-    QFETCH(QString, column);
-    QFETCH(QString, itemType);
-    const EntityPoolScope scope(m_pool);
-    QStringList items;
-    for (const EntitySoldItem* item : m_sales->getSoldItems(first, last, direction, column, itemType))
-        items.append(QString("%1 %2 %3 %4 %5")
-                         .arg(item->getKode(), item->getNama(), item->getItemType())
-                         .arg(item->getTotalQty())
-                         .arg(item->getTotalPrice()));
-    QVERIFY2(!m_sales->hasError(), qPrintable(m_sales->takeErrors()));
-    QTEST(items, "items");
-}
-
-void TestSalesFigures::anUnknownOrderIsRefusedBeforeItReachesTheDatabase_data()
-{
-    QTest::addColumn<QString>("direction");
-    QTest::addColumn<QString>("column");
-    QTest::newRow("column") << "desc"
-                            << "total_qty; drop table invoice";
-    QTest::newRow("direction") << "desc; drop table invoice"
-                               << "total_qty";
-    QTest::newRow("the wrong way round") << "total_qty"
-                                         << "desc";
-    QTest::newRow("empty") << ""
-                           << "";
-}
-
-void TestSalesFigures::anUnknownOrderIsRefusedBeforeItReachesTheDatabase()
-{
-    QFETCH(QString, direction);
-    QFETCH(QString, column);
-    const StatementCount statements;
-    QVERIFY(m_sales->getSoldItems(first, last, direction, column, "").isEmpty());
-    QCOMPARE(statements.count(), 0);
-    QCOMPARE(m_sales->takeErrors(), QString("The items can not be sorted by: %1 %2\r\n").arg(column, direction));
-}
 
 QTEST_MAIN(TestSalesFigures)
 #include "tst_sales_figures.moc"

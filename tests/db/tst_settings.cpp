@@ -1,5 +1,6 @@
 #include "app/configuration/BusinessConfiguration.h"
 #include "kor/business/KorServiceDirectory.h"
+#include "support/Rows.h"
 #include "support/TestDatabase.h"
 
 #include <QDir>
@@ -60,16 +61,11 @@ private slots:
 
     void aDamagedRowHasNoMembersAndIsNoError_data()
     {
-        QTest::addColumn<QString>("stored");
-        QTest::addColumn<QString>("locale");
-        QTest::newRow("cut off") << "{\"locale\": \"id_"
-                                 << "en_US";
-        QTest::newRow("a list") << "[\"id_ID\"]"
-                                << "en_US";
-        QTest::newRow("empty") << ""
-                               << "en_US";
-        QTest::newRow("whole") << "{\"locale\": \"id_ID\"}"
-                               << "id_ID";
+        addColumns<QString, QString>("stored", "locale");
+        addRow("cut off", "{\"locale\": \"id_", "en_US");
+        addRow("a list", "[\"id_ID\"]", "en_US");
+        addRow("empty", "", "en_US");
+        addRow("whole", "{\"locale\": \"id_ID\"}", "id_ID");
     }
     void aDamagedRowHasNoMembersAndIsNoError()
     {
@@ -110,15 +106,9 @@ private slots:
 
     void aNewDatabaseGetsItsFirstRowsOnce_data()
     {
-        QTest::addColumn<QString>("dateFormat");
-        QTest::addColumn<QString>("locale");
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("defaults") << ""
-                                  << ""
-                                  << "d MMM yyyy en_US";
-        QTest::newRow("chosen") << "dd/MM/yy"
-                                << "id_ID"
-                                << "dd/MM/yy id_ID";
+        addColumns<QString, QString, QString>("dateFormat", "locale", "expected");
+        addRow("defaults", "", "", "d MMM yyyy en_US");
+        addRow("chosen", "dd/MM/yy", "id_ID", "dd/MM/yy id_ID");
     }
     void aNewDatabaseGetsItsFirstRowsOnce()
     {

@@ -1,3 +1,4 @@
+#include "support/Rows.h"
 #include "support/StallingProxy.h"
 #include "support/TestDatabase.h"
 
@@ -38,11 +39,10 @@ private slots:
 
     void aStallHoldsBackUntilItGoesOn_data()
     {
-        QTest::addColumn<StallingProxy::Direction>("direction");
-        QTest::addColumn<int>("billsMeanwhile");
-        QTest::newRow("to the server") << StallingProxy::ToServer << 0;
-        QTest::newRow("to the client") << StallingProxy::ToClient << 1;
-        QTest::newRow("both") << StallingProxy::Both << 0;
+        addColumns<StallingProxy::Direction, int>("direction", "billsMeanwhile");
+        addRow("to the server", StallingProxy::ToServer, 0);
+        addRow("to the client", StallingProxy::ToClient, 1);
+        addRow("both", StallingProxy::Both, 0);
     }
     void aStallHoldsBackUntilItGoesOn()
     {
@@ -82,13 +82,11 @@ private slots:
 
     void theTextOfTheClientIsActedOn_data()
     {
-        QTest::addColumn<StallingProxy::Moment>("moment");
-        QTest::addColumn<StallingProxy::Deed>("deed");
-        QTest::addColumn<int>("billsAfterwards");
-        QTest::newRow("cut before it") << StallingProxy::BeforeServer << StallingProxy::Cut << 0;
-        QTest::newRow("cut before the answer") << StallingProxy::BeforeAnswer << StallingProxy::Cut << 1;
-        QTest::newRow("stall before it") << StallingProxy::BeforeServer << StallingProxy::Stall << 0;
-        QTest::newRow("stall before the answer") << StallingProxy::BeforeAnswer << StallingProxy::Stall << 1;
+        addColumns<StallingProxy::Moment, StallingProxy::Deed, int>("moment", "deed", "billsAfterwards");
+        addRow("cut before it", StallingProxy::BeforeServer, StallingProxy::Cut, 0);
+        addRow("cut before the answer", StallingProxy::BeforeAnswer, StallingProxy::Cut, 1);
+        addRow("stall before it", StallingProxy::BeforeServer, StallingProxy::Stall, 0);
+        addRow("stall before the answer", StallingProxy::BeforeAnswer, StallingProxy::Stall, 1);
     }
     void theTextOfTheClientIsActedOn()
     {

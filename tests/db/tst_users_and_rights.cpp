@@ -11,6 +11,7 @@
 #include "app/registry/AppMapperRegistry.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/persistence/KorQuery.h"
+#include "support/Rows.h"
 #include "support/SlowNeighbour.h"
 #include "support/TestDatabase.h"
 
@@ -50,24 +51,15 @@ private slots:
 
     void aLoginNeedsTheExactNameAndPassword_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("password");
-        QTest::addColumn<bool>("accepted");
-        QTest::newRow("right") << "ann"
-                               << "secret" << true;
-        QTest::newRow("wrong password") << "ann"
-                                        << "guess" << false;
-        QTest::newRow("password in other letters") << "ann"
-                                                   << "Secret" << false;
-        QTest::newRow("empty password") << "ann"
-                                        << "" << false;
-        QTest::newRow("the stored digest") << "ann" << secretDigest << false;
-        QTest::newRow("name in other letters") << "Ann"
-                                               << "secret" << false;
-        QTest::newRow("unknown name") << "bob"
-                                      << "secret" << false;
-        QTest::newRow("SQL") << "ann' --"
-                             << "secret" << false;
+        addColumns<QString, QString, bool>("name", "password", "accepted");
+        addRow("right", "ann", "secret", true);
+        addRow("wrong password", "ann", "guess", false);
+        addRow("password in other letters", "ann", "Secret", false);
+        addRow("empty password", "ann", "", false);
+        addRow("the stored digest", "ann", secretDigest, false);
+        addRow("name in other letters", "Ann", "secret", false);
+        addRow("unknown name", "bob", "secret", false);
+        addRow("SQL", "ann' --", "secret", false);
     }
     void aLoginNeedsTheExactNameAndPassword()
     {
@@ -98,9 +90,9 @@ private slots:
 
     void aLoginIsGivenAwayOnce_data()
     {
-        QTest::addColumn<bool>("isRenamed");
-        QTest::newRow("to a new user") << false;
-        QTest::newRow("to a user who gets another name") << true;
+        addColumns<bool>("isRenamed");
+        addRow("to a new user", false);
+        addRow("to a user who gets another name", true);
     }
     void aLoginIsGivenAwayOnce()
     {
@@ -125,13 +117,12 @@ private slots:
 
     void aSessionHasTheWorkstationsTimeZone_data()
     {
-        QTest::addColumn<QByteArray>("zone");
-        QTest::addColumn<QString>("offset");
-        QTest::newRow("by its name") << QByteArray("Asia/Tokyo") << "09:00:00";
-        QTest::newRow("by a file") << QByteArray(":/usr/share/zoneinfo/Asia/Tokyo") << "09:00:00";
-        QTest::newRow("by a file without the colon") << QByteArray("/usr/share/zoneinfo/Asia/Tokyo") << "09:00:00";
-        QTest::newRow("by its rule, east") << QByteArray("HERE-05:30") << "05:30:00";
-        QTest::newRow("by its rule, west") << QByteArray("HERE3:30") << "-03:30:00";
+        addColumns<QByteArray, QString>("zone", "offset");
+        addRow("by its name", QByteArray("Asia/Tokyo"), "09:00:00");
+        addRow("by a file", QByteArray(":/usr/share/zoneinfo/Asia/Tokyo"), "09:00:00");
+        addRow("by a file without the colon", QByteArray("/usr/share/zoneinfo/Asia/Tokyo"), "09:00:00");
+        addRow("by its rule, east", QByteArray("HERE-05:30"), "05:30:00");
+        addRow("by its rule, west", QByteArray("HERE3:30"), "-03:30:00");
     }
     void aSessionHasTheWorkstationsTimeZone()
     {
@@ -155,16 +146,11 @@ private slots:
 
     void passwordsAreStoredAsDigests_data()
     {
-        QTest::addColumn<QString>("first");
-        QTest::addColumn<QString>("second");
-        QTest::addColumn<QString>("stored");
-        QTest::newRow("an empty box keeps it") << "secret"
-                                               << "" << secretDigest;
-        QTest::newRow("a new one replaces it") << "old"
-                                               << "secret" << secretDigest;
-        QTest::newRow("none at all is allowed") << ""
-                                                << "" << emptyDigest;
-        QTest::newRow("beyond Latin") << "x" << QString::fromUtf8("пароль") << "e242f36f4f95f12966da8fa2efd59992";
+        addColumns<QString, QString, QString>("first", "second", "stored");
+        addRow("an empty box keeps it", "secret", "", secretDigest);
+        addRow("a new one replaces it", "old", "secret", secretDigest);
+        addRow("none at all is allowed", "", "", emptyDigest);
+        addRow("beyond Latin", "x", QString::fromUtf8("пароль"), "e242f36f4f95f12966da8fa2efd59992");
     }
     void passwordsAreStoredAsDigests()
     {
@@ -182,14 +168,10 @@ private slots:
 
     void aNewUserGetsTheCurrencyOfTheHouse_data()
     {
-        QTest::addColumn<QString>("locale");
-        QTest::addColumn<QString>("currency");
-        QTest::newRow("dollars") << "en_US"
-                                 << "$";
-        QTest::newRow("rupiah") << "id_ID"
-                                << "Rp";
-        QTest::newRow("a locale without one") << ""
-                                              << "";
+        addColumns<QString, QString>("locale", "currency");
+        addRow("dollars", "en_US", "$");
+        addRow("rupiah", "id_ID", "Rp");
+        addRow("a locale without one", "", "");
     }
     void aNewUserGetsTheCurrencyOfTheHouse()
     {

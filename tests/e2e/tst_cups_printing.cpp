@@ -42,146 +42,135 @@ class TestCupsPrinting final : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-    void everyByteReachesThePaper();
-    void aBillComesWithItsCopiesAndCuts();
-    void nothingIsWrittenForAnEmptySlip();
-    void slipsComeOutInTheOrderOfPrinting();
-    void anUnknownPrinterLeavesNoJob();
-    void thePrintersAreListedWithTheDefaultMarked();
-    void aSlipGivenUpIsNotPrinted();
-    void aServerThatGoesAwayIsToldAndFoundAgain();
+    void init()
+    {
+        qunsetenv("ZAVEL_SPOOL_DIR");
+        for (const char* choice : {"PRINTER", "LPDEST"})
+            qunsetenv(choice);
+        m_cups = std::make_unique<PrivateCups>();
+        const QString problem = m_cups->start();
+        QVERIFY2(problem.isEmpty(), qPrintable(problem));
+        // The library remembers the server it read from the environment first.
+        qputenv("CUPS_SERVER", m_cups->address());
+        cupsSetServer(m_cups->address().constData());
+        for (const auto& queue : {qMakePair(QString("Dapur"), false), qMakePair(QString("Kasir"), true)}) {
+            const QString refused = m_cups->addRawQueue(queue.first, queue.second);
+            QVERIFY2(refused.isEmpty(), qPrintable(refused));
+        }
+    }
+
+    void cleanup() { m_cups.reset(); }
+
+    void everyByteReachesThePaper()
+    {
+        QByteArray all;
+        for (int byte = 0; byte < 256; ++byte)
+            all.append(static_cast<char>(byte));
+        const QByteArray large = all.repeated(1000);
+
+        CupsSlipSpooler spooler;
+        QVERIFY2(spooler.openPrinter("Kasir", "Bytes"), qPrintable(spooler.errorText()));
+        QVERIFY(spooler.write(all.mid(1)));
+        QVERIFY(spooler.write(QByteArray()));
+        QVERIFY(spooler.write(large));
+        QVERIFY(spooler.write("end"));
+        QVERIFY2(spooler.close(), qPrintable(spooler.errorText()));
+
+        QTRY_COMPARE(m_cups->printed().size(), 1);
+        QVERIFY(m_cups->printed().first() == all.mid(1) + large + "end");
+        QTRY_COMPARE(jobsInTheServer(), QStringList(completed("Bytes")));
+    }
+
+    void aBillComesWithItsCopiesAndCuts()
+    {
+        const QByteArray body = QString::fromUtf8("Café Şeker – Rp 1.500\n").toUtf8();
+        QVERIFY(Slip(body, 2, AppLinePrinter::decodeControlSequence("29#V#66#0")).print());
+        QTRY_COMPARE(m_cups->printed(), QList<QByteArray>({body + "\x1D\x56\x42" + body + "\x1D\x56\x42"}));
+        QTRY_COMPARE(jobsInTheServer(), QStringList(completed("Bill")));
+    }
+
+    void nothingIsWrittenForAnEmptySlip()
+    {
+        QVERIFY(Slip("body", 0).print());
+        QVERIFY(Slip("after").print());
+        QTRY_VERIFY(m_cups->printed().contains("after"));
+        QVERIFY(!m_cups->printed().contains("body"));
+    }
+
+    void slipsComeOutInTheOrderOfPrinting()
+    {
+        QList<QByteArray> expected;
+        for (int slip = 1; slip <= 6; ++slip) {
+            expected.append("slip " + QByteArray::number(slip) + '\n');
+            QVERIFY(Slip(expected.last()).print());
+        }
+        QTRY_COMPARE_WITH_TIMEOUT(m_cups->printed().size(), 6, 20000);
+        QCOMPARE(m_cups->printed(), expected);
+    }
+
+    void anUnknownPrinterLeavesNoJob()
+    {
+        CupsSlipSpooler spooler;
+        QVERIFY(!spooler.openPrinter("Gudang", "Menu"));
+        QVERIFY2(spooler.errorText().contains("Gudang"), qPrintable(spooler.errorText()));
+        QVERIFY(!spooler.isOpen());
+        QVERIFY(!spooler.write("x"));
+        QVERIFY(!spooler.close());
+        QCOMPARE(jobsInTheServer(), QStringList());
+        QVERIFY(spooler.openPrinter("Kasir", "Menu")); // the same spooler goes on with a printer that is there
+    }
+
+    void thePrintersAreListedWithTheDefaultMarked()
+    {
+        CupsSlipSpooler spooler;
+        QStringList seen;
+        const QList<SlipPrinter> printers = spooler.availablePrinters();
+        for (const SlipPrinter& printer : printers)
+            seen.append(printer.name + (printer.isDefault ? " [default]" : ""));
+        QCOMPARE(seen, QStringList({"Dapur", "Kasir [default]"}));
+
+        m_cups->stop();
+        QVERIFY(spooler.availablePrinters().isEmpty());
+        QVERIFY(!spooler.errorText().isEmpty());
+    }
+
+    void aSlipGivenUpIsNotPrinted()
+    {
+        {
+            CupsSlipSpooler spooler;
+            QVERIFY(spooler.openPrinter("Kasir", "Bill"));
+            QVERIFY(spooler.write("half a bill"));
+        }
+        QTRY_COMPARE(jobsInTheServer(), QStringList(QString("Kasir Bill %1").arg(int(IPP_JSTATE_CANCELED))));
+        QVERIFY(Slip("whole bill").print());
+        QTRY_COMPARE(m_cups->printed(), QList<QByteArray>({"whole bill"}));
+    }
+
+    void aServerThatGoesAwayIsToldAndFoundAgain()
+    {
+        CupsSlipSpooler spooler;
+        QVERIFY(spooler.openPrinter("Kasir", "Bill"));
+        QVERIFY(spooler.write("first line\n"));
+        m_cups->stop();
+        QVERIFY(!spooler.write("second line\n"));
+        QVERIFY2(spooler.errorText().startsWith("The connection to the print server is lost"),
+                 qPrintable(spooler.errorText()));
+        QVERIFY(!spooler.write("third line\n"));
+        QVERIFY2(spooler.errorText().isEmpty(), "a broken slip is told once");
+        QVERIFY(!spooler.close());
+        QVERIFY(!spooler.openPrinter("Kasir", "Bill"));
+        QVERIFY2(spooler.errorText().startsWith("The print server does not answer"), qPrintable(spooler.errorText()));
+
+        const QString problem = m_cups->start();
+        QVERIFY2(problem.isEmpty(), qPrintable(problem));
+        QTRY_COMPARE(spooler.availablePrinters().size(), 2);
+        QVERIFY(Slip("again").print());
+        QTRY_COMPARE(m_cups->printed(), QList<QByteArray>({"again"}));
+    }
 
 private:
     std::unique_ptr<PrivateCups> m_cups;
 };
-
-void TestCupsPrinting::init()
-{
-    qunsetenv("ZAVEL_SPOOL_DIR");
-    for (const char* choice : {"PRINTER", "LPDEST"})
-        qunsetenv(choice);
-    m_cups = std::make_unique<PrivateCups>();
-    const QString problem = m_cups->start();
-    QVERIFY2(problem.isEmpty(), qPrintable(problem));
-    // The library remembers the server it read from the environment first.
-    qputenv("CUPS_SERVER", m_cups->address());
-    cupsSetServer(m_cups->address().constData());
-    for (const auto& queue : {qMakePair(QString("Dapur"), false), qMakePair(QString("Kasir"), true)}) {
-        const QString refused = m_cups->addRawQueue(queue.first, queue.second);
-        QVERIFY2(refused.isEmpty(), qPrintable(refused));
-    }
-}
-
-void TestCupsPrinting::cleanup() { m_cups.reset(); }
-
-void TestCupsPrinting::everyByteReachesThePaper()
-{
-    QByteArray all;
-    for (int byte = 0; byte < 256; ++byte)
-        all.append(static_cast<char>(byte));
-    const QByteArray large = all.repeated(1000);
-
-    CupsSlipSpooler spooler;
-    QVERIFY2(spooler.openPrinter("Kasir", "Bytes"), qPrintable(spooler.errorText()));
-    QVERIFY(spooler.write(all.mid(1)));
-    QVERIFY(spooler.write(QByteArray()));
-    QVERIFY(spooler.write(large));
-    QVERIFY(spooler.write("end"));
-    QVERIFY2(spooler.close(), qPrintable(spooler.errorText()));
-
-    QTRY_COMPARE(m_cups->printed().size(), 1);
-    QVERIFY(m_cups->printed().first() == all.mid(1) + large + "end");
-    QTRY_COMPARE(jobsInTheServer(), QStringList(completed("Bytes")));
-}
-
-void TestCupsPrinting::aBillComesWithItsCopiesAndCuts()
-{
-    const QByteArray body = QString::fromUtf8("Café Şeker – Rp 1.500\n").toUtf8();
-    QVERIFY(Slip(body, 2, AppLinePrinter::decodeControlSequence("29#V#66#0")).print());
-    QTRY_COMPARE(m_cups->printed(), QList<QByteArray>({body + "\x1D\x56\x42" + body + "\x1D\x56\x42"}));
-    QTRY_COMPARE(jobsInTheServer(), QStringList(completed("Bill")));
-}
-
-void TestCupsPrinting::nothingIsWrittenForAnEmptySlip()
-{
-    QVERIFY(Slip("body", 0).print());
-    QVERIFY(Slip("after").print());
-    QTRY_VERIFY(m_cups->printed().contains("after"));
-    QVERIFY(!m_cups->printed().contains("body"));
-}
-
-void TestCupsPrinting::slipsComeOutInTheOrderOfPrinting()
-{
-    QList<QByteArray> expected;
-    for (int slip = 1; slip <= 6; ++slip) {
-        expected.append("slip " + QByteArray::number(slip) + '\n');
-        QVERIFY(Slip(expected.last()).print());
-    }
-    QTRY_COMPARE_WITH_TIMEOUT(m_cups->printed().size(), 6, 20000);
-    QCOMPARE(m_cups->printed(), expected);
-}
-
-void TestCupsPrinting::anUnknownPrinterLeavesNoJob()
-{
-    CupsSlipSpooler spooler;
-    QVERIFY(!spooler.openPrinter("Gudang", "Menu"));
-    QVERIFY2(spooler.errorText().contains("Gudang"), qPrintable(spooler.errorText()));
-    QVERIFY(!spooler.isOpen());
-    QVERIFY(!spooler.write("x"));
-    QVERIFY(!spooler.close());
-    QCOMPARE(jobsInTheServer(), QStringList());
-    QVERIFY(spooler.openPrinter("Kasir", "Menu")); // the same spooler goes on with a printer that is there
-}
-
-void TestCupsPrinting::thePrintersAreListedWithTheDefaultMarked()
-{
-    CupsSlipSpooler spooler;
-    QStringList seen;
-    const QList<SlipPrinter> printers = spooler.availablePrinters();
-    for (const SlipPrinter& printer : printers)
-        seen.append(printer.name + (printer.isDefault ? " [default]" : ""));
-    QCOMPARE(seen, QStringList({"Dapur", "Kasir [default]"}));
-
-    m_cups->stop();
-    QVERIFY(spooler.availablePrinters().isEmpty());
-    QVERIFY(!spooler.errorText().isEmpty());
-}
-
-void TestCupsPrinting::aSlipGivenUpIsNotPrinted()
-{
-    {
-        CupsSlipSpooler spooler;
-        QVERIFY(spooler.openPrinter("Kasir", "Bill"));
-        QVERIFY(spooler.write("half a bill"));
-    }
-    QTRY_COMPARE(jobsInTheServer(), QStringList(QString("Kasir Bill %1").arg(int(IPP_JSTATE_CANCELED))));
-    QVERIFY(Slip("whole bill").print());
-    QTRY_COMPARE(m_cups->printed(), QList<QByteArray>({"whole bill"}));
-}
-
-void TestCupsPrinting::aServerThatGoesAwayIsToldAndFoundAgain()
-{
-    CupsSlipSpooler spooler;
-    QVERIFY(spooler.openPrinter("Kasir", "Bill"));
-    QVERIFY(spooler.write("first line\n"));
-    m_cups->stop();
-    QVERIFY(!spooler.write("second line\n"));
-    QVERIFY2(spooler.errorText().startsWith("The connection to the print server is lost"),
-             qPrintable(spooler.errorText()));
-    QVERIFY(!spooler.write("third line\n"));
-    QVERIFY2(spooler.errorText().isEmpty(), "a broken slip is told once");
-    QVERIFY(!spooler.close());
-    QVERIFY(!spooler.openPrinter("Kasir", "Bill"));
-    QVERIFY2(spooler.errorText().startsWith("The print server does not answer"), qPrintable(spooler.errorText()));
-
-    const QString problem = m_cups->start();
-    QVERIFY2(problem.isEmpty(), qPrintable(problem));
-    QTRY_COMPARE(spooler.availablePrinters().size(), 2);
-    QVERIFY(Slip("again").print());
-    QTRY_COMPARE(m_cups->printed(), QList<QByteArray>({"again"}));
-}
 
 QTEST_MAIN(TestCupsPrinting)
 #include "tst_cups_printing.moc"

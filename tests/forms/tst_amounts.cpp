@@ -13,6 +13,7 @@
 #include "pos/purchasing/purchase/DialogPurchaseDetail.h"
 #include "pos/purchasing/purchase/EntityAcquisitionDetail.h"
 #include "support/Hands.h"
+#include "support/Rows.h"
 #include "support/ShopRows.h"
 #include "support/TestDatabase.h"
 #include "zavel/dinein/DialogBayarMakanDitempat.h"
@@ -81,215 +82,205 @@ class TestAmounts : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
+    void init()
+    {
+        m_database = std::make_unique<TestDatabase>();
+        openShopForForms(*m_database);
+        m_database->run("UPDATE keytable SET id = 1 WHERE key_name = 'PO'");
+        m_database->run("INSERT INTO bank (id, kode, nama, account_type, active, version) "
+                        "VALUES (5, '1010', 'Cash on Hand', 1, true, 1)");
+    }
+
     void cleanup() { m_database.reset(); }
-    void noBoxOfAnyFormTakesWhatItCannotKeep_data();
-    void noBoxOfAnyFormTakesWhatItCannotKeep();
-    void anEntryIsStoredAsItStandsOrTold_data();
-    void anEntryIsStoredAsItStandsOrTold();
-    void aBillInDollarsAddsUpToWhatIsStored();
+    void noBoxOfAnyFormTakesWhatItCannotKeep_data()
+    {
+        addColumns<QString>("locale");
+        addRow("English", "en_US");
+        addRow("Indonesian", "id_ID");
+    }
+
+    void noBoxOfAnyFormTakesWhatItCannotKeep()
+    {
+        QFETCH(QString, locale);
+        AppContext::instance()->setLocale(locale);
+        const QString point = QLocale(locale).decimalPoint();
+        const QString group = QLocale(locale).groupSeparator();
+        const QStringList wrong{"abc", "1" + group + "5", "1" + point + "5" + group + "000", "-1",
+                                "9" + QString(15, '0')};
+        ModalDriver people;
+        QStringList taken;
+        for (const Form& form : allForms()) {
+            const std::unique_ptr<QWidget> shown = form.make();
+            const QList<KorNumberEdit*> boxes = shown->findChildren<KorNumberEdit*>();
+            if (boxes.isEmpty())
+                continue;
+            shown->show();
+            QVERIFY(QTest::qWaitForWindowActive(shown.get()));
+            for (KorNumberEdit* box : boxes) {
+                for (const QString& text : wrong) {
+                    box->setFocus();
+                    box->clear();
+                    QTest::keyClicks(box, text);
+                    // A percent has no largest, and stock is also taken away.
+                    const bool isNumber = (text.startsWith('9') && box->inherits("PercentEdit")) ||
+                                          (text == "-1" && box->objectName() == "txtStok");
+                    if (box->text() == text && !isNumber && box->fault().isEmpty() && box->doubt().isEmpty())
+                        taken.append(QString("%1 %2 %3").arg(form.name, box->objectName(), text));
+                }
+            }
+        }
+        QCOMPARE(taken.join('\n'), QString());
+    }
+
+    void anEntryIsStoredAsItStandsOrTold_data()
+    {
+        addColumns<QString, QString, Entries, QStringList, QString, QString>("form", "locale", "entries", "told",
+                                                                             "query", "stored");
+        const auto row = [](const char* name, const char* form, const char* locale, const Entries& entries,
+                            const QStringList& told, const char* query,
+                            const QString& stored) { addRow(name, form, locale, entries, told, query, stored); };
+        const auto mark = [](const char* typed, const char* example) {
+            return QString("\"%1\" is no number here, please write it like %2\r\n").arg(typed, example);
+        };
+        const char* const en = "en_US";
+        const char* const id = "id_ID";
+        const QString go = "\n\nDo you want to go on?";
+
+        const char* const price = "SELECT harga_beli_amount || harga_beli_currency FROM item WHERE id = 1";
+        row("a price", "item", en, {{"txtHargaBeli", "1,234"}}, {}, price, "1234$");
+        row("a price that wraps", "item", en, {{"txtHargaBeli", "25,000,000"}},
+            {"The amount is too large, the largest is 21,474,836\r\n"}, price, "10Rp");
+        row("a price that wraps in rupiah", "item", id, {{"txtHargaBeli", "999999999999"}},
+            {"The amount is too large, the largest is 2.147.483.647\r\n"}, price, "10Rp");
+        row("the largest price", "item", id, {{"txtHargaBeli", "2.147.483.647"}}, {}, price, "2147483647Rp");
+        row("a price below nothing", "item", id, {{"txtHargaBeli", "-5"}}, {"The amount must not be negative\r\n"},
+            price, "10Rp");
+        row("a comma for a point", "item", en, {{"txtHargaBeli", "1,5"}},
+            {"Enter the unit cost\r\n" + mark("1,5", "1,234.5")}, price, "10Rp");
+        row("a point for a comma", "item", id, {{"txtHargaBeli", "1.5"}},
+            {"Enter the unit cost\r\n" + mark("1.5", "1.234,5")}, price, "10Rp");
+        row("cents, refused", "item", en, {{"txtHargaBeli", "12.95"}}, {"Unit Cost: 12.95 will be stored as 12" + go},
+            price, "10Rp");
+        row("cents, agreed to", "item", en, {{"txtHargaBeli", "12.95"}, {"txtHargaJualLokal", "1.5"}, {"yes", ""}},
+            {"Unit Cost: 12.95 will be stored as 12\nSales Price: 1.5 will be stored as 1" + go}, price, "12$");
+        row("half a rupiah", "item", id, {{"txtHargaBeli", "12,5"}, {"yes", ""}},
+            {"Unit Cost: 12,5 will be stored as 13" + go}, price, "13Rp");
+
+        const char* const discount = "SELECT discount_percentage::float FROM member";
+        row("a member's percent", "member", en, {{"txtDiscPerc", "7.5"}}, {}, discount, "7.5");
+        row("letters for a member's percent", "member", en, {{"txtDiscPerc", "abc"}}, {"Please enter a number\r\n"},
+            discount, "0");
+        row("more than all, refused", "member", en, {{"txtDiscPerc", "150"}},
+            {"Discount: 150 is not between 0 and 100" + go}, discount, "0");
+        row("less than nothing, agreed to", "member", en, {{"txtDiscPerc", "-3"}, {"yes", ""}},
+            {"Discount: -3 is not between 0 and 100" + go}, discount, "-3");
+        row("the number that stands for none", "member", en, {{"txtDiscPerc", "-9999"}},
+            {"-9,999 cannot be stored, please enter another number\r\n"}, discount, "0");
+        const char* const share = "SELECT commision_perc::float FROM agent";
+        row("an agent's share", "agent", id, {{"txtPerc", "1.5"}},
+            {"Enter the number between 0-100\r\n" + mark("1.5", "1.234,5")}, share, "10");
+        row("an agent's share emptied", "agent", id, {{"txtPerc", ""}}, {}, share, "0");
+
+        const char* const paid = "SELECT string_agg(amount_paid_amount::text, ' ') FROM invoice";
+        const QStringList questions{"Do you want to print this invoice?"};
+        row("a payment", "payment", id, {{"txtPaid", "500"}, {"no", ""}}, questions, paid, "500");
+        row("a wrong mark in a payment", "payment", id, {{"txtPaid", "1.5"}}, {mark("1.5", "1.234,5")}, paid, "");
+        row("a payment below nothing", "payment", id, {{"txtPaid", "-1"}}, {"The amount must not be negative\r\n"},
+            paid, "");
+        row("a tax below nothing", "payment", id, {{"txtTaxPerc", "-1"}},
+            {"The percentage must not be negative\r\nThe amount must not be negative\r\n"}, paid, "");
+        row("more off than there is", "payment", id, {{"txtDiscPerc", "250"}},
+            {"The discount should not be larger than the sub total\r\n"}, paid, "");
+        row("half a rupiah at the till", "payment", id, {{"txtPaid", "500,5"}},
+            {"[F9] Amount Paid at Sale: 500,5 will be stored as 501" + go}, paid, "");
+
+        const char* const entry = "SELECT string_agg(debet_amount::text, ' ') FROM cash_flow";
+        row("a wrong mark in the cash", "cash entry", en, {{"txtAccount", "1-100"}, {"txtPaid", "1,5"}},
+            {"Enter the amount paid\r\n" + mark("1,5", "1,234.5")}, entry, "");
+        row("cents in the cash", "cash entry", en, {{"txtAccount", "1-100"}, {"txtPaid", "1.50"}, {"yes", ""}},
+            {"Amount: 1.50 will be stored as 1" + go}, entry, "1");
+        row("nothing but a part in the cash", "cash entry", id, {{"txtAccount", "1-100"}, {"txtPaid", "0,4"}},
+            {"Enter the amount paid\r\n"}, entry, "");
+        row("too much for a transfer", "transfer", en,
+            {{"txtFromAccount", "1-100"}, {"txtToAccount", "1010"}, {"txtAmount", "25000000"}},
+            {"The amount is too large, the largest is 21,474,836\r\n"}, "SELECT count(*) FROM accounting_trans", "0");
+
+        row("half a piece bought", "purchase line", id, {{"txtCode", "RICE"}, {"txtQty", "2,5"}},
+            {"Please enter a whole number\r\n"}, "SELECT ''", "");
+        row("a share of a line below nothing", "purchase line", id,
+            {{"txtCode", "RICE"}, {"txtQty", "2"}, {"txtDiscPerc", "-10"}},
+            {"The percentage must not be negative\r\nThe amount must not be negative\r\n"}, "SELECT ''", "");
+        row("half a component", "component", id, {{"txtKode", "RICE"}, {"txtJumlah", "1,5"}},
+            {"Please enter a whole number\r\n"}, "SELECT ''", "");
+        row("a component of itself", "component", id, {{"txtKode", "RICE"}, {"txtJumlah", "1"}},
+            {"An item cannot be its own component"}, "SELECT ''", "");
+        row("a component of its component", "component", id, {{"txtKode", "STEW"}, {"txtJumlah", "1"}},
+            {"Stew is made of this item, it cannot be a component of it"}, "SELECT ''", "");
+
+        const char* const number = "SELECT concat_ws(' ', next_id, increment_by, no_zero) FROM keytable WHERE id = 1";
+        row("numbers that stand still", "running number", id, {{"txtIncrementBy", "0"}, {"txtNoZero", "-3"}},
+            {"Please enter a whole number from 1 to 999.999.999\r\nPlease enter a whole number from 0 to 20\r\n"},
+            number, "7 1 4");
+        row("a number without zeros", "running number", id, {{"txtNoZero", "0"}}, {}, number, "7 1 0");
+        row("paper of no width", "printer", id, {{"txtCol", "-5"}, {"txtBlankLines", "abc"}},
+            {"Please enter a whole number from 1 to 255\r\nPlease enter a number\r\n"}, "SELECT ''", "");
+        row("paper as wide as a house", "printer", id, {{"txtCol", "1.000.000"}},
+            {"Please enter a whole number from 1 to 255\r\n"}, "SELECT ''", "");
+    }
+
+    void anEntryIsStoredAsItStandsOrTold()
+    {
+        QFETCH(QString, form);
+        QFETCH(QString, locale);
+        QFETCH(Entries, entries);
+        QFETCH(QStringList, told);
+        QFETCH(QString, query);
+        insertItem(*m_database, 2, "SOUP", "Soup");
+        insertItem(*m_database, 3, "STEW", "Stew");
+        m_database->run("INSERT INTO grouped_item (parent_id, original_item_id, jumlah, version) "
+                        "VALUES (3, 2, 1, 1), (2, 1, 1, 1)");
+        AppContext::instance()->setLocale(locale);
+        ModalDriver people;
+        const Made shown = makers()[form]();
+        shown->show();
+        QVERIFY(QTest::qWaitForWindowActive(shown.get()));
+        for (const auto& entry : qAsConst(entries)) {
+            if (entry.first == "yes" || entry.first == "no")
+                people.answer(entry.first == "yes" ? QMessageBox::Yes : QMessageBox::No);
+            else
+                enter(shown.get(), entry.first, entry.second);
+        }
+        press(shown.get(), QDialogButtonBox::Ok);
+        QTRY_COMPARE(people.texts(), told);
+        QTEST(m_database->value(query).toString(), "stored");
+    }
+
+    void aBillInDollarsAddsUpToWhatIsStored()
+    {
+        AppContext::instance()->setLocale("en_US");
+        m_database->run("UPDATE makan_ditempat_detail SET price_each_currency = '$', total_currency = '$'");
+        m_database->run("UPDATE makan_ditempat_detail SET qty = 1, price_each_amount = 18, total_amount = 18");
+        const char* const stored =
+            "SELECT concat_ws(' ', discount_amount, grandtotal_amount, amount_paid_amount, status) "
+            "FROM invoice";
+        ModalDriver people;
+        const Made form = paymentForm();
+        form->show();
+        QVERIFY(QTest::qWaitForWindowActive(form.get()));
+        ::enter(form.get(), "txtDiscPerc", "10");
+        QCOMPARE(::shown(form.get(), "txtDiscount") + ' ' + ::shown(form.get(), "txtGrandTotal"), QString("3 33.00"));
+        ::enter(form.get(), "txtPaid", "33");
+        press(form.get(), QDialogButtonBox::Ok);
+        QTRY_COMPARE(m_database->value(stored).toString(), QString("3 33 33 1"));
+        form->activateWindow();
+        press(form.get(), QDialogButtonBox::Ok);
+        QTRY_COMPARE(m_database->value("SELECT version FROM invoice").toInt(), 2);
+        QCOMPARE(m_database->value(stored).toString(), QString("3 33 33 1"));
+    }
 
 private:
     std::unique_ptr<TestDatabase> m_database;
 };
-
-void TestAmounts::init()
-{
-    m_database = std::make_unique<TestDatabase>();
-    openShopForForms(*m_database);
-    m_database->run("UPDATE keytable SET id = 1 WHERE key_name = 'PO'");
-    m_database->run("INSERT INTO bank (id, kode, nama, account_type, active, version) "
-                    "VALUES (5, '1010', 'Cash on Hand', 1, true, 1)");
-}
-
-void TestAmounts::noBoxOfAnyFormTakesWhatItCannotKeep_data()
-{
-    QTest::addColumn<QString>("locale");
-    QTest::newRow("English") << "en_US";
-    QTest::newRow("Indonesian") << "id_ID";
-}
-
-void TestAmounts::noBoxOfAnyFormTakesWhatItCannotKeep()
-{
-    QFETCH(QString, locale);
-    AppContext::instance()->setLocale(locale);
-    const QString point = QLocale(locale).decimalPoint();
-    const QString group = QLocale(locale).groupSeparator();
-    const QStringList wrong{"abc", "1" + group + "5", "1" + point + "5" + group + "000", "-1", "9" + QString(15, '0')};
-    ModalDriver people;
-    QStringList taken;
-    for (const Form& form : allForms()) {
-        const std::unique_ptr<QWidget> shown = form.make();
-        const QList<KorNumberEdit*> boxes = shown->findChildren<KorNumberEdit*>();
-        if (boxes.isEmpty())
-            continue;
-        shown->show();
-        QVERIFY(QTest::qWaitForWindowActive(shown.get()));
-        for (KorNumberEdit* box : boxes) {
-            for (const QString& text : wrong) {
-                box->setFocus();
-                box->clear();
-                QTest::keyClicks(box, text);
-                // A percent has no largest, and stock is also taken away.
-                const bool isNumber = (text.startsWith('9') && box->inherits("PercentEdit")) ||
-                                      (text == "-1" && box->objectName() == "txtStok");
-                if (box->text() == text && !isNumber && box->fault().isEmpty() && box->doubt().isEmpty())
-                    taken.append(QString("%1 %2 %3").arg(form.name, box->objectName(), text));
-            }
-        }
-    }
-    QCOMPARE(taken.join('\n'), QString());
-}
-
-void TestAmounts::anEntryIsStoredAsItStandsOrTold_data()
-{
-    QTest::addColumn<QString>("form");
-    QTest::addColumn<QString>("locale");
-    QTest::addColumn<Entries>("entries");
-    QTest::addColumn<QStringList>("told");
-    QTest::addColumn<QString>("query");
-    QTest::addColumn<QString>("stored");
-    const auto row = [](const char* name, const char* form, const char* locale, const Entries& entries,
-                        const QStringList& told, const char* query, const QString& stored) {
-        QTest::newRow(name) << form << locale << entries << told << query << stored;
-    };
-    const auto mark = [](const char* typed, const char* example) {
-        return QString("\"%1\" is no number here, please write it like %2\r\n").arg(typed, example);
-    };
-    const char* const en = "en_US";
-    const char* const id = "id_ID";
-    const QString go = "\n\nDo you want to go on?";
-
-    const char* const price = "SELECT harga_beli_amount || harga_beli_currency FROM item WHERE id = 1";
-    row("a price", "item", en, {{"txtHargaBeli", "1,234"}}, {}, price, "1234$");
-    row("a price that wraps", "item", en, {{"txtHargaBeli", "25,000,000"}},
-        {"The amount is too large, the largest is 21,474,836\r\n"}, price, "10Rp");
-    row("a price that wraps in rupiah", "item", id, {{"txtHargaBeli", "999999999999"}},
-        {"The amount is too large, the largest is 2.147.483.647\r\n"}, price, "10Rp");
-    row("the largest price", "item", id, {{"txtHargaBeli", "2.147.483.647"}}, {}, price, "2147483647Rp");
-    row("a price below nothing", "item", id, {{"txtHargaBeli", "-5"}}, {"The amount must not be negative\r\n"}, price,
-        "10Rp");
-    row("a comma for a point", "item", en, {{"txtHargaBeli", "1,5"}},
-        {"Enter the unit cost\r\n" + mark("1,5", "1,234.5")}, price, "10Rp");
-    row("a point for a comma", "item", id, {{"txtHargaBeli", "1.5"}},
-        {"Enter the unit cost\r\n" + mark("1.5", "1.234,5")}, price, "10Rp");
-    row("cents, refused", "item", en, {{"txtHargaBeli", "12.95"}}, {"Unit Cost: 12.95 will be stored as 12" + go},
-        price, "10Rp");
-    row("cents, agreed to", "item", en, {{"txtHargaBeli", "12.95"}, {"txtHargaJualLokal", "1.5"}, {"yes", ""}},
-        {"Unit Cost: 12.95 will be stored as 12\nSales Price: 1.5 will be stored as 1" + go}, price, "12$");
-    row("half a rupiah", "item", id, {{"txtHargaBeli", "12,5"}, {"yes", ""}},
-        {"Unit Cost: 12,5 will be stored as 13" + go}, price, "13Rp");
-
-    const char* const discount = "SELECT discount_percentage::float FROM member";
-    row("a member's percent", "member", en, {{"txtDiscPerc", "7.5"}}, {}, discount, "7.5");
-    row("letters for a member's percent", "member", en, {{"txtDiscPerc", "abc"}}, {"Please enter a number\r\n"},
-        discount, "0");
-    row("more than all, refused", "member", en, {{"txtDiscPerc", "150"}},
-        {"Discount: 150 is not between 0 and 100" + go}, discount, "0");
-    row("less than nothing, agreed to", "member", en, {{"txtDiscPerc", "-3"}, {"yes", ""}},
-        {"Discount: -3 is not between 0 and 100" + go}, discount, "-3");
-    row("the number that stands for none", "member", en, {{"txtDiscPerc", "-9999"}},
-        {"-9,999 cannot be stored, please enter another number\r\n"}, discount, "0");
-    const char* const share = "SELECT commision_perc::float FROM agent";
-    row("an agent's share", "agent", id, {{"txtPerc", "1.5"}},
-        {"Enter the number between 0-100\r\n" + mark("1.5", "1.234,5")}, share, "10");
-    row("an agent's share emptied", "agent", id, {{"txtPerc", ""}}, {}, share, "0");
-
-    const char* const paid = "SELECT string_agg(amount_paid_amount::text, ' ') FROM invoice";
-    const QStringList questions{"Do you want to print this invoice?"};
-    row("a payment", "payment", id, {{"txtPaid", "500"}, {"no", ""}}, questions, paid, "500");
-    row("a wrong mark in a payment", "payment", id, {{"txtPaid", "1.5"}}, {mark("1.5", "1.234,5")}, paid, "");
-    row("a payment below nothing", "payment", id, {{"txtPaid", "-1"}}, {"The amount must not be negative\r\n"}, paid,
-        "");
-    row("a tax below nothing", "payment", id, {{"txtTaxPerc", "-1"}},
-        {"The percentage must not be negative\r\nThe amount must not be negative\r\n"}, paid, "");
-    row("more off than there is", "payment", id, {{"txtDiscPerc", "250"}},
-        {"The discount should not be larger than the sub total\r\n"}, paid, "");
-    row("half a rupiah at the till", "payment", id, {{"txtPaid", "500,5"}},
-        {"[F9] Amount Paid at Sale: 500,5 will be stored as 501" + go}, paid, "");
-
-    const char* const entry = "SELECT string_agg(debet_amount::text, ' ') FROM cash_flow";
-    row("a wrong mark in the cash", "cash entry", en, {{"txtAccount", "1-100"}, {"txtPaid", "1,5"}},
-        {"Enter the amount paid\r\n" + mark("1,5", "1,234.5")}, entry, "");
-    row("cents in the cash", "cash entry", en, {{"txtAccount", "1-100"}, {"txtPaid", "1.50"}, {"yes", ""}},
-        {"Amount: 1.50 will be stored as 1" + go}, entry, "1");
-    row("nothing but a part in the cash", "cash entry", id, {{"txtAccount", "1-100"}, {"txtPaid", "0,4"}},
-        {"Enter the amount paid\r\n"}, entry, "");
-    row("too much for a transfer", "transfer", en,
-        {{"txtFromAccount", "1-100"}, {"txtToAccount", "1010"}, {"txtAmount", "25000000"}},
-        {"The amount is too large, the largest is 21,474,836\r\n"}, "SELECT count(*) FROM accounting_trans", "0");
-
-    row("half a piece bought", "purchase line", id, {{"txtCode", "RICE"}, {"txtQty", "2,5"}},
-        {"Please enter a whole number\r\n"}, "SELECT ''", "");
-    row("a share of a line below nothing", "purchase line", id,
-        {{"txtCode", "RICE"}, {"txtQty", "2"}, {"txtDiscPerc", "-10"}},
-        {"The percentage must not be negative\r\nThe amount must not be negative\r\n"}, "SELECT ''", "");
-    row("half a component", "component", id, {{"txtKode", "RICE"}, {"txtJumlah", "1,5"}},
-        {"Please enter a whole number\r\n"}, "SELECT ''", "");
-    row("a component of itself", "component", id, {{"txtKode", "RICE"}, {"txtJumlah", "1"}},
-        {"An item cannot be its own component"}, "SELECT ''", "");
-    row("a component of its component", "component", id, {{"txtKode", "STEW"}, {"txtJumlah", "1"}},
-        {"Stew is made of this item, it cannot be a component of it"}, "SELECT ''", "");
-
-    const char* const number = "SELECT concat_ws(' ', next_id, increment_by, no_zero) FROM keytable WHERE id = 1";
-    row("numbers that stand still", "running number", id, {{"txtIncrementBy", "0"}, {"txtNoZero", "-3"}},
-        {"Please enter a whole number from 1 to 999.999.999\r\nPlease enter a whole number from 0 to 20\r\n"}, number,
-        "7 1 4");
-    row("a number without zeros", "running number", id, {{"txtNoZero", "0"}}, {}, number, "7 1 0");
-    row("paper of no width", "printer", id, {{"txtCol", "-5"}, {"txtBlankLines", "abc"}},
-        {"Please enter a whole number from 1 to 255\r\nPlease enter a number\r\n"}, "SELECT ''", "");
-    row("paper as wide as a house", "printer", id, {{"txtCol", "1.000.000"}},
-        {"Please enter a whole number from 1 to 255\r\n"}, "SELECT ''", "");
-}
-
-void TestAmounts::anEntryIsStoredAsItStandsOrTold()
-{
-    QFETCH(QString, form);
-    QFETCH(QString, locale);
-    QFETCH(Entries, entries);
-    QFETCH(QStringList, told);
-    QFETCH(QString, query);
-    insertItem(*m_database, 2, "SOUP", "Soup");
-    insertItem(*m_database, 3, "STEW", "Stew");
-    m_database->run("INSERT INTO grouped_item (parent_id, original_item_id, jumlah, version) "
-                    "VALUES (3, 2, 1, 1), (2, 1, 1, 1)");
-    AppContext::instance()->setLocale(locale);
-    ModalDriver people;
-    const Made shown = makers()[form]();
-    shown->show();
-    QVERIFY(QTest::qWaitForWindowActive(shown.get()));
-    for (const auto& entry : qAsConst(entries)) {
-        if (entry.first == "yes" || entry.first == "no")
-            people.answer(entry.first == "yes" ? QMessageBox::Yes : QMessageBox::No);
-        else
-            enter(shown.get(), entry.first, entry.second);
-    }
-    press(shown.get(), QDialogButtonBox::Ok);
-    QTRY_COMPARE(people.texts(), told);
-    QTEST(m_database->value(query).toString(), "stored");
-}
-
-void TestAmounts::aBillInDollarsAddsUpToWhatIsStored()
-{
-    AppContext::instance()->setLocale("en_US");
-    m_database->run("UPDATE makan_ditempat_detail SET price_each_currency = '$', total_currency = '$'");
-    m_database->run("UPDATE makan_ditempat_detail SET qty = 1, price_each_amount = 18, total_amount = 18");
-    const char* const stored = "SELECT concat_ws(' ', discount_amount, grandtotal_amount, amount_paid_amount, status) "
-                               "FROM invoice";
-    ModalDriver people;
-    const Made form = paymentForm();
-    form->show();
-    QVERIFY(QTest::qWaitForWindowActive(form.get()));
-    ::enter(form.get(), "txtDiscPerc", "10");
-    QCOMPARE(::shown(form.get(), "txtDiscount") + ' ' + ::shown(form.get(), "txtGrandTotal"), QString("3 33.00"));
-    ::enter(form.get(), "txtPaid", "33");
-    press(form.get(), QDialogButtonBox::Ok);
-    QTRY_COMPARE(m_database->value(stored).toString(), QString("3 33 33 1"));
-    form->activateWindow();
-    press(form.get(), QDialogButtonBox::Ok);
-    QTRY_COMPARE(m_database->value("SELECT version FROM invoice").toInt(), 2);
-    QCOMPARE(m_database->value(stored).toString(), QString("3 33 33 1"));
-}
 
 QTEST_MAIN(TestAmounts)
 #include "tst_amounts.moc"

@@ -4,6 +4,7 @@
 #include "shell/window/HouseStyle.h"
 #include "shell/window/InterfaceLanguage.h"
 #include "support/ModalDriver.h"
+#include "support/Rows.h"
 #include "support/TestDatabase.h"
 
 #include <QApplication>
@@ -32,87 +33,81 @@ class TestForms : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void cleanupTestCase();
-    void every_form_is_worked_without_a_mouse_and_read_without_guessing_data();
-    void every_form_is_worked_without_a_mouse_and_read_without_guessing();
+    void initTestCase()
+    {
+        HouseStyle::apply(*qApp);
+        m_database = std::make_unique<TestDatabase>();
+        openShopForForms(*m_database);
+        m_language = std::make_unique<InterfaceLanguage>(LANGUAGES_FOLDER, nullptr);
+    }
+
+    void cleanupTestCase()
+    {
+        m_language.reset();
+        m_database.reset();
+    }
+
+    void every_form_is_worked_without_a_mouse_and_read_without_guessing_data()
+    {
+        addColumns<int, double, QString>("form", "pointSize", "language");
+        for (int form = 0; form < allForms().size(); ++form) {
+            addRow(allForms()[form].name, form, 11.0, "en");
+            addRow(allForms()[form].name + " at 125 %", form, 13.75, "en");
+            // Its words are longer.
+            addRow(allForms()[form].name + " in Indonesian at 125 %", form, 13.75, "id");
+        }
+    }
+
+    void every_form_is_worked_without_a_mouse_and_read_without_guessing()
+    {
+        QFETCH(int, form);
+        QFETCH(double, pointSize);
+        QFETCH(QString, language);
+        m_language->load(language);
+        QFont font = QApplication::font();
+        font.setPointSizeF(pointSize);
+        QApplication::setFont(font);
+        ModalDriver people;
+        const std::unique_ptr<QWidget> shown = allForms()[form].make();
+        const QSize room = roomOf(shown.get());
+        shown->setWindowState(Qt::WindowNoState);
+        shown->resize(qobject_cast<KorTab*>(shown.get()) ? room : shown->size().boundedTo(room));
+        shown->show();
+        shown->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(shown.get()));
+        QCoreApplication::processEvents();
+        QStringList faults;
+        if (shown->width() > room.width() || shown->height() > room.height())
+            faults.append(QString("too large: %1x%2").arg(shown->width()).arg(shown->height()));
+        auto* pages = shown->findChild<QTabWidget*>();
+        for (int page = 0; page < (pages ? std::max(1, pages->count()) : 1); ++page) {
+            if (pages)
+                pages->setCurrentIndex(page);
+            QCoreApplication::processEvents();
+            // The keys of the keyboard on the screen are for a finger, and leave the field to be written in alone.
+            if (allForms()[form].name != "DialogKeyboard")
+                faults += tabFaults(shown.get());
+            faults += labelFaults(shown.get()) + roomFaults(shown.get());
+            if (qEnvironmentVariableIsSet("FORM_PICTURES"))
+                shown->grab().save(
+                    QString("%1/%2-%3-%4.png")
+                        .arg(qEnvironmentVariable("FORM_PICTURES"), language + '-' + allForms()[form].name)
+                        .arg(pointSize)
+                        .arg(page));
+        }
+        for (const SeenBox& box : people.boxes())
+            faults.append("box: " + box.text);
+        faults.removeDuplicates();
+        // Line by line: a message of the test framework has its end.
+        for (const QString& fault : qAsConst(faults))
+            qWarning("%s", qPrintable(fault));
+        QVERIFY(faults.isEmpty());
+    }
 
 private:
     std::unique_ptr<TestDatabase> m_database;
     std::unique_ptr<InterfaceLanguage> m_language;
 };
-
-void TestForms::initTestCase()
-{
-    HouseStyle::apply(*qApp);
-    m_database = std::make_unique<TestDatabase>();
-    openShopForForms(*m_database);
-    m_language = std::make_unique<InterfaceLanguage>(LANGUAGES_FOLDER, nullptr);
-}
-
-void TestForms::cleanupTestCase()
-{
-    m_language.reset();
-    m_database.reset();
-}
-
-void TestForms::every_form_is_worked_without_a_mouse_and_read_without_guessing_data()
-{
-    QTest::addColumn<int>("form");
-    QTest::addColumn<double>("pointSize");
-    QTest::addColumn<QString>("language");
-    for (int form = 0; form < allForms().size(); ++form) {
-        QTest::newRow(allForms()[form].name) << form << 11.0 << "en";
-        QTest::newRow(allForms()[form].name + " at 125 %") << form << 13.75 << "en";
-        // Its words are longer.
-        QTest::newRow(allForms()[form].name + " in Indonesian at 125 %") << form << 13.75 << "id";
-    }
-}
-
-void TestForms::every_form_is_worked_without_a_mouse_and_read_without_guessing()
-{
-    QFETCH(int, form);
-    QFETCH(double, pointSize);
-    QFETCH(QString, language);
-    m_language->load(language);
-    QFont font = QApplication::font();
-    font.setPointSizeF(pointSize);
-    QApplication::setFont(font);
-    ModalDriver people;
-    const std::unique_ptr<QWidget> shown = allForms()[form].make();
-    const QSize room = roomOf(shown.get());
-    shown->setWindowState(Qt::WindowNoState);
-    shown->resize(qobject_cast<KorTab*>(shown.get()) ? room : shown->size().boundedTo(room));
-    shown->show();
-    shown->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(shown.get()));
-    QCoreApplication::processEvents();
-    QStringList faults;
-    if (shown->width() > room.width() || shown->height() > room.height())
-        faults.append(QString("too large: %1x%2").arg(shown->width()).arg(shown->height()));
-    auto* pages = shown->findChild<QTabWidget*>();
-    for (int page = 0; page < (pages ? std::max(1, pages->count()) : 1); ++page) {
-        if (pages)
-            pages->setCurrentIndex(page);
-        QCoreApplication::processEvents();
-        // The keys of the keyboard on the screen are for a finger, and leave the field to be written in alone.
-        if (allForms()[form].name != "DialogKeyboard")
-            faults += tabFaults(shown.get());
-        faults += labelFaults(shown.get()) + roomFaults(shown.get());
-        if (qEnvironmentVariableIsSet("FORM_PICTURES"))
-            shown->grab().save(QString("%1/%2-%3-%4.png")
-                                   .arg(qEnvironmentVariable("FORM_PICTURES"), language + '-' + allForms()[form].name)
-                                   .arg(pointSize)
-                                   .arg(page));
-    }
-    for (const SeenBox& box : people.boxes())
-        faults.append("box: " + box.text);
-    faults.removeDuplicates();
-    // Line by line: a message of the test framework has its end.
-    for (const QString& fault : qAsConst(faults))
-        qWarning("%s", qPrintable(fault));
-    QVERIFY(faults.isEmpty());
-}
 
 QTEST_MAIN(TestForms)
 #include "tst_forms.moc"

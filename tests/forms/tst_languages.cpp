@@ -8,6 +8,7 @@
 #include "shell/window/TabFactories.h"
 #include "support/InstallerRun.h"
 #include "support/ModalDriver.h"
+#include "support/Rows.h"
 #include "support/TestDatabase.h"
 
 #include <QAction>
@@ -71,200 +72,186 @@ class TestLanguages final : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void init() { m_language->load("en"); }
-    void cleanupTestCase();
+    void initTestCase()
+    {
+        m_database = std::make_unique<TestDatabase>();
+        openShopForForms(*m_database);
+        AppContext::instance()->setShowDashboard(true);
+        ConnectionSettings settings;
+        settings.host = TestDatabase::host();
+        settings.database = m_database->name();
+        settings.user = TestDatabase::user();
+        settings.port = TestDatabase::port();
+        settings.putIntoContext();
+        m_people = std::make_unique<ModalDriver>();
+        m_language =
+            std::make_unique<InterfaceLanguage>(QCoreApplication::applicationDirPath() + "/languages", nullptr);
+    }
 
-    void nothingStaysEnglishInIndonesian_data();
-    void nothingStaysEnglishInIndonesian();
-    void noTwoThingsInAFormAnswerToOneKey_data();
-    void noTwoThingsInAFormAnswerToOneKey();
-    void noTwoEntriesOfAMenuMarkOneLetter();
-    void whatIsOpenFollowsTheLanguage();
-    void aDatabaseInstalledInIndonesianIsComplete();
+    void init() { m_language->load("en"); }
+    void cleanupTestCase()
+    {
+        m_language.reset();
+        m_people.reset();
+        m_database.reset();
+    }
+
+    void nothingStaysEnglishInIndonesian_data()
+    {
+        addColumns<int>("form");
+        for (int i = 0; i < allForms().size(); ++i)
+            addRow(allForms().at(i).name.constData(), i);
+    }
+
+    void nothingStaysEnglishInIndonesian()
+    {
+        QFETCH(int, form);
+        const QStringList english = formTexts(allForms().at(form).make().get());
+        m_language->load("id");
+        const QStringList indonesian = formTexts(allForms().at(form).make().get());
+        QCOMPARE(indonesian.size(), english.size());
+        QStringList same;
+        for (const QString& text : indonesian) {
+            if (english.contains(text) && !isAlike(text) && !same.contains(text))
+                same += text;
+        }
+        QVERIFY2(same.isEmpty(), qPrintable(same.join(" | ")));
+    }
+
+    void noTwoThingsInAFormAnswerToOneKey_data()
+    {
+        addColumns<int, QString>("form", "code");
+        for (int i = 0; i < allForms().size(); ++i) {
+            for (const char* code : {"en", "id"})
+                addRow(allForms().at(i).name + " in " + code, i, code);
+        }
+    }
+
+    void noTwoThingsInAFormAnswerToOneKey()
+    {
+        QFETCH(int, form);
+        QFETCH(QString, code);
+        m_language->load(code);
+        const std::unique_ptr<QWidget> made = allForms().at(form).make();
+        QStringList keys = formKeys(made.get());
+        // A page lies in the window, whose own keys work there too.
+        if (!made->isWindow() || made->inherits("KorTab"))
+            keys += formKeys(allForms().last().make().get());
+        QMap<QString, QStringList> users;
+        for (const QString& key : qAsConst(keys))
+            users[key.section(": ", 0, 0)] += key.section(": ", 1);
+        QStringList clashes;
+        for (auto user = users.cbegin(); user != users.cend(); ++user) {
+            if (user->size() > 1)
+                clashes += user.key() + ": " + user->join(" and ");
+        }
+        QVERIFY2(clashes.isEmpty(), qPrintable(clashes.join(" | ")));
+    }
+
+    void noTwoEntriesOfAMenuMarkOneLetter()
+    {
+        for (const char* code : {"en", "id"}) {
+            m_language->load(code);
+            const MainWindow window;
+            QList<QWidget*> menus{window.menuBar()};
+            for (QMenu* menu : window.findChildren<QMenu*>())
+                menus += menu;
+            for (const QWidget* menu : qAsConst(menus)) {
+                QSet<QString> marked;
+                const QList<QAction*> entries = menu->actions();
+                for (const QAction* entry : entries) {
+                    const QString letter = QKeySequence::mnemonic(entry->text()).toString();
+                    QVERIFY2(letter.isEmpty() || !marked.contains(letter), qPrintable(entry->text()));
+                    marked.insert(letter);
+                }
+            }
+        }
+    }
+
+    void whatIsOpenFollowsTheLanguage()
+    {
+        QStringList switched;
+        {
+            const auto window = makeWindowWithEverything();
+            const QStringList english = textsOf(*window);
+            choose(*window, "id");
+            switched = textsOf(*window);
+            QVERIFY(switched != english);
+            choose(*window, "en");
+            QCOMPARE(difference(textsOf(*window), english), QString());
+        }
+        m_language->load("id");
+        const auto window = makeWindowWithEverything();
+        QCOMPARE(difference(switched, textsOf(*window)), QString());
+    }
+
+    void aDatabaseInstalledInIndonesianIsComplete()
+    {
+        // Names of rights are stored as they are told, and no two may be the same.
+        TestDatabase database(TestDatabase::Empty);
+        m_language->load("id");
+        const InstallerRun run(KorInstaller::FreshInstall);
+        QCOMPARE(run.failures + run.errors, QStringList());
+        for (const char* table : {"permissions", "access", "keytable"}) {
+            const QString count = QString("select count(*) from %1").arg(table);
+            QCOMPARE(database.value(count), m_database->value(count));
+        }
+    }
 
 private:
-    std::unique_ptr<MainWindow> makeWindowWithEverything();
-    static void choose(const MainWindow& window, const QString& code);
-    static QStringList textsOf(MainWindow& window);
+    std::unique_ptr<MainWindow> makeWindowWithEverything()
+    {
+        auto window = std::make_unique<MainWindow>();
+        AppContext::instance()->setMainWindow(window.get());
+        const TabFactories factories = allTabFactories();
+        for (auto page = factories.cbegin(); page != factories.cend(); ++page)
+            window->openTab(page.key());
+        for (const char* report :
+             {"actionMaster_Data", "actionPersediaan", "actionPembelian", "actionPenjualan", "actionKas"})
+            window->findChild<QAction*>(report)->trigger();
+        window->openTab("TabMeja");
+        return window;
+    }
+
+    static void choose(const MainWindow& window, const QString& code)
+    {
+        for (QAction* entry : window.findChild<QMenu*>("menuLanguage_2")->actions()) {
+            if (entry->data() == code)
+                entry->trigger();
+        }
+    }
+
+    static QStringList textsOf(MainWindow& window)
+    {
+        // The language goes round by events, and so do pages that make room for others.
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        const auto* dashboard = window.findChild<QWebView*>("webView")->page()->mainFrame();
+        // Each report reads its choices on a thread of its own, whole lists at a time.
+        QStringList texts;
+        const auto isComplete = [&window, &texts, dashboard] {
+            const QStringList former = texts;
+            texts = formTexts(&window) + listTexts(&window);
+            const QStringList choices = reportChoices(window);
+            const bool anyMissing =
+                dashboard->findFirstElement("#today").toPlainText().isEmpty() ||
+                std::any_of(expectedChoices.cbegin(), expectedChoices.cend(),
+                            [&choices](const QString& choice) { return !choices.contains(choice); });
+            return !anyMissing && texts == former;
+        };
+        for (int look = 0; look < mostLooks; ++look) {
+            if (isComplete())
+                return texts;
+            QTest::qWait(nextLook);
+        }
+        qWarning("The window does not become complete");
+        return texts;
+    }
 
     std::unique_ptr<TestDatabase> m_database;
     std::unique_ptr<ModalDriver> m_people;
     std::unique_ptr<InterfaceLanguage> m_language;
 };
-
-void TestLanguages::initTestCase()
-{
-    m_database = std::make_unique<TestDatabase>();
-    openShopForForms(*m_database);
-    AppContext::instance()->setShowDashboard(true);
-    ConnectionSettings settings;
-    settings.host = TestDatabase::host();
-    settings.database = m_database->name();
-    settings.user = TestDatabase::user();
-    settings.port = TestDatabase::port();
-    settings.putIntoContext();
-    m_people = std::make_unique<ModalDriver>();
-    m_language = std::make_unique<InterfaceLanguage>(QCoreApplication::applicationDirPath() + "/languages", nullptr);
-}
-
-void TestLanguages::cleanupTestCase()
-{
-    m_language.reset();
-    m_people.reset();
-    m_database.reset();
-}
-
-void TestLanguages::nothingStaysEnglishInIndonesian_data()
-{
-    QTest::addColumn<int>("form");
-    for (int i = 0; i < allForms().size(); ++i)
-        QTest::newRow(allForms().at(i).name.constData()) << i;
-}
-
-void TestLanguages::nothingStaysEnglishInIndonesian()
-{
-    QFETCH(int, form);
-    const QStringList english = formTexts(allForms().at(form).make().get());
-    m_language->load("id");
-    const QStringList indonesian = formTexts(allForms().at(form).make().get());
-    QCOMPARE(indonesian.size(), english.size());
-    QStringList same;
-    for (const QString& text : indonesian) {
-        if (english.contains(text) && !isAlike(text) && !same.contains(text))
-            same += text;
-    }
-    QVERIFY2(same.isEmpty(), qPrintable(same.join(" | ")));
-}
-
-void TestLanguages::noTwoThingsInAFormAnswerToOneKey_data()
-{
-    QTest::addColumn<int>("form");
-    QTest::addColumn<QString>("code");
-    for (int i = 0; i < allForms().size(); ++i) {
-        for (const char* code : {"en", "id"})
-            QTest::newRow(allForms().at(i).name + " in " + code) << i << code;
-    }
-}
-
-void TestLanguages::noTwoThingsInAFormAnswerToOneKey()
-{
-    QFETCH(int, form);
-    QFETCH(QString, code);
-    m_language->load(code);
-    const std::unique_ptr<QWidget> made = allForms().at(form).make();
-    QStringList keys = formKeys(made.get());
-    // A page lies in the window, whose own keys work there too.
-    if (!made->isWindow() || made->inherits("KorTab"))
-        keys += formKeys(allForms().last().make().get());
-    QMap<QString, QStringList> users;
-    for (const QString& key : qAsConst(keys))
-        users[key.section(": ", 0, 0)] += key.section(": ", 1);
-    QStringList clashes;
-    for (auto user = users.cbegin(); user != users.cend(); ++user) {
-        if (user->size() > 1)
-            clashes += user.key() + ": " + user->join(" and ");
-    }
-    QVERIFY2(clashes.isEmpty(), qPrintable(clashes.join(" | ")));
-}
-
-void TestLanguages::noTwoEntriesOfAMenuMarkOneLetter()
-{
-    for (const char* code : {"en", "id"}) {
-        m_language->load(code);
-        const MainWindow window;
-        QList<QWidget*> menus{window.menuBar()};
-        for (QMenu* menu : window.findChildren<QMenu*>())
-            menus += menu;
-        for (const QWidget* menu : qAsConst(menus)) {
-            QSet<QString> marked;
-            const QList<QAction*> entries = menu->actions();
-            for (const QAction* entry : entries) {
-                const QString letter = QKeySequence::mnemonic(entry->text()).toString();
-                QVERIFY2(letter.isEmpty() || !marked.contains(letter), qPrintable(entry->text()));
-                marked.insert(letter);
-            }
-        }
-    }
-}
-
-std::unique_ptr<MainWindow> TestLanguages::makeWindowWithEverything()
-{
-    auto window = std::make_unique<MainWindow>();
-    AppContext::instance()->setMainWindow(window.get());
-    const TabFactories factories = allTabFactories();
-    for (auto page = factories.cbegin(); page != factories.cend(); ++page)
-        window->openTab(page.key());
-    for (const char* report :
-         {"actionMaster_Data", "actionPersediaan", "actionPembelian", "actionPenjualan", "actionKas"})
-        window->findChild<QAction*>(report)->trigger();
-    window->openTab("TabMeja");
-    return window;
-}
-
-void TestLanguages::choose(const MainWindow& window, const QString& code)
-{
-    for (QAction* entry : window.findChild<QMenu*>("menuLanguage_2")->actions()) {
-        if (entry->data() == code)
-            entry->trigger();
-    }
-}
-
-QStringList TestLanguages::textsOf(MainWindow& window)
-{
-    // The language goes round by events, and so do pages that make room for others.
-    QCoreApplication::processEvents();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    const auto* dashboard = window.findChild<QWebView*>("webView")->page()->mainFrame();
-    // Each report reads its choices on a thread of its own, whole lists at a time.
-    QStringList texts;
-    const auto isComplete = [&window, &texts, dashboard] {
-        const QStringList former = texts;
-        texts = formTexts(&window) + listTexts(&window);
-        const QStringList choices = reportChoices(window);
-        const bool anyMissing = dashboard->findFirstElement("#today").toPlainText().isEmpty() ||
-                                std::any_of(expectedChoices.cbegin(), expectedChoices.cend(),
-                                            [&choices](const QString& choice) { return !choices.contains(choice); });
-        return !anyMissing && texts == former;
-    };
-    for (int look = 0; look < mostLooks; ++look) {
-        if (isComplete())
-            return texts;
-        QTest::qWait(nextLook);
-    }
-    qWarning("The window does not become complete");
-    return texts;
-}
-
-void TestLanguages::whatIsOpenFollowsTheLanguage()
-{
-    QStringList switched;
-    {
-        const auto window = makeWindowWithEverything();
-        const QStringList english = textsOf(*window);
-        choose(*window, "id");
-        switched = textsOf(*window);
-        QVERIFY(switched != english);
-        choose(*window, "en");
-        QCOMPARE(difference(textsOf(*window), english), QString());
-    }
-    m_language->load("id");
-    const auto window = makeWindowWithEverything();
-    QCOMPARE(difference(switched, textsOf(*window)), QString());
-}
-
-void TestLanguages::aDatabaseInstalledInIndonesianIsComplete()
-{
-    // Names of rights are stored as they are told, and no two may be the same.
-    TestDatabase database(TestDatabase::Empty);
-    m_language->load("id");
-    const InstallerRun run(KorInstaller::FreshInstall);
-    QCOMPARE(run.failures + run.errors, QStringList());
-    for (const char* table : {"permissions", "access", "keytable"}) {
-        const QString count = QString("select count(*) from %1").arg(table);
-        QCOMPARE(database.value(count), m_database->value(count));
-    }
-}
 
 QTEST_MAIN(TestLanguages)
 #include "tst_languages.moc"

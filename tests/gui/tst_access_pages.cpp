@@ -12,6 +12,7 @@
 #include "app/numbers/TabKeyTable.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "support/ModalDriver.h"
+#include "support/Rows.h"
 #include "support/TestDatabase.h"
 
 #include <QComboBox>
@@ -83,24 +84,12 @@ private slots:
 
     void theLoginLetsNobodyInWithoutName_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("password");
-        QTest::addColumn<QString>("message");
-        QTest::newRow("nothing typed") << ""
-                                       << ""
-                                       << "Please enter username and password\r\n";
-        QTest::newRow("no password") << "ann"
-                                     << ""
-                                     << "Please enter username and password\r\n";
-        QTest::newRow("no name") << ""
-                                 << "secret"
-                                 << "Please enter username and password\r\n";
-        QTest::newRow("wrong password") << "ann"
-                                        << "secreT"
-                                        << "Invalid login\r\n";
-        QTest::newRow("right") << "ann"
-                               << "secret"
-                               << "";
+        addColumns<QString, QString, QString>("name", "password", "message");
+        addRow("nothing typed", "", "", "Please enter username and password\r\n");
+        addRow("no password", "ann", "", "Please enter username and password\r\n");
+        addRow("no name", "", "secret", "Please enter username and password\r\n");
+        addRow("wrong password", "ann", "secreT", "Invalid login\r\n");
+        addRow("right", "ann", "secret", "");
     }
     void theLoginLetsNobodyInWithoutName()
     {
@@ -138,12 +127,11 @@ private slots:
     void aUserFormTellsAllThatIsWrong_data()
     {
         QTest::addColumn<QStringList>("typed"); // user name, first and last name
-        QTest::addColumn<QString>("message");
-        QTest::newRow("empty") << QStringList{"", "", ""}
-                               << "Enter Username\r\nEnter First Name\r\nEnter Last Name\r\n";
-        QTest::newRow("blank inside") << QStringList{"bo b", "Bob", "Smith"} << "Enter alpha numeric for Username\r\n";
-        QTest::newRow("taken") << QStringList{"ann", "Bob", "Smith"} << "Username already exists\r\n";
-        QTest::newRow("other letters are another user") << QStringList{"Ann", "Bob", "Smith"} << "";
+        addColumns<QString>("message");
+        addRow("empty", QStringList{"", "", ""}, "Enter Username\r\nEnter First Name\r\nEnter Last Name\r\n");
+        addRow("blank inside", QStringList{"bo b", "Bob", "Smith"}, "Enter alpha numeric for Username\r\n");
+        addRow("taken", QStringList{"ann", "Bob", "Smith"}, "Username already exists\r\n");
+        addRow("other letters are another user", QStringList{"Ann", "Bob", "Smith"}, "");
     }
     void aUserFormTellsAllThatIsWrong()
     {

@@ -1,6 +1,7 @@
 #include "app/context/ConnectionSettings.h"
 #include "shell/database/clearing/DialogClearTransactions.h"
 #include "support/Hands.h"
+#include "support/Rows.h"
 #include "support/TestCluster.h"
 #include "support/TestDatabase.h"
 #include "support/WholeDatabase.h"
@@ -14,17 +15,164 @@ class TestClearTransactions : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void init();
-    void cleanup();
+    void initTestCase()
+    {
+        qputenv("XDG_DATA_HOME", m_home.path().toLocal8Bit());
+        m_file = m_home.filePath("old year.bak");
+    }
 
-    void allThatWasTradedGoesAndAllElseStays();
-    void withoutAFileNothingRuns();
-    void withoutAGoodBackupNothingIsCleared_data();
-    void withoutAGoodBackupNothingIsCleared();
-    void whatIsSavedDuringTheBackupIsNotLost();
-    void aPartThatFailsIsToldAndTheOthersAreCleared_data();
-    void aPartThatFailsIsToldAndTheOthersAreCleared();
+    void init()
+    {
+        m_database = std::make_unique<TestDatabase>();
+        fillEveryTable(*m_database);
+        m_people = std::make_unique<ModalDriver>();
+        ConnectionSettings settings;
+        settings.host = TestDatabase::host();
+        settings.port = TestDatabase::port();
+        settings.user = TestDatabase::user();
+        settings.database = m_database->name();
+        QDir().mkpath(QFileInfo(ConnectionSettings::defaultPath()).path());
+        QVERIFY(settings.write(ConnectionSettings::defaultPath()));
+        m_dialog = std::make_unique<DialogClearTransactions>();
+        m_dialog->show();
+        box(m_dialog.get(), "txtOutputFile")->setText(m_file);
+    }
+
+    void cleanup()
+    {
+        m_dialog.reset();
+        m_people.reset();
+        m_database.reset();
+        qunsetenv("ZAVEL_PG_BIN");
+        QFile::remove(m_file);
+    }
+
+    void allThatWasTradedGoesAndAllElseStays()
+    {
+        const QString staying =
+            "access agent appconfig bank business data_perusahaan employee entities_history grouped_item images item "
+            "jenis_item keytable meja member permissions printer_type satuan supplier user_group users";
+        const QMap<QString, QStringList> before = allRows(m_database->name());
+        const QSignalSpy closing(m_dialog.get(), &DialogClearTransactions::onCloseAllTab);
+        button()->click();
+        QVERIFY(!button()->isEnabled());
+        waitForTheEnd();
+        QCOMPARE(m_people->texts(), QStringList{"Done. "});
+        QCOMPARE(m_people->lastTitle(), QString("Info"));
+        QCOMPARE(closing.count(), 1);
+        QVERIFY(QFileInfo(m_file).size() > 0);
+
+        const QMap<QString, QStringList> after = allRows(m_database->name());
+        QStringList stayed;
+        for (auto table = before.cbegin(); table != before.cend(); ++table) {
+            QVERIFY2(!table->isEmpty(), qPrintable(table.key()));
+            if (table.key() == "stok_awal")
+                QCOMPARE(
+                    m_database->value("SELECT count(*) || ' ' || sum(jumlah + harga_amount) FROM stok_awal").toString(),
+                    QString::number(table->size()) + " 0");
+            else if (table.key().endsWith("_seq"))
+                QCOMPARE(after[table.key()], *table);
+            else if (!after[table.key()].isEmpty())
+                stayed.append(table.key());
+        }
+        QCOMPARE(stayed.join(' '), staying);
+        for (const QString& table : stayed)
+            QCOMPARE(after[table], before[table]);
+
+        const QString told = status();
+        QVERIFY(told.startsWith("dumping your db...\npg_dump started...\n"));
+        QVERIFY(told.contains("\nprocess exited with code: 0 , status: 0\nThe backup is complete: " + m_file));
+        QVERIFY(told.contains("\nresetting transactions: Purchases [ok]\n"));
+        QVERIFY(told.indexOf("transactions: Purchases ") < told.indexOf("transactions: Table "));
+        QVERIFY(!told.contains("[error]"));
+    }
+
+    void withoutAFileNothingRuns()
+    {
+        box(m_dialog.get(), "txtOutputFile")->clear();
+        button()->click();
+        QCOMPARE(m_people->texts(), QStringList{"Enter a valid backup file path"});
+        QCOMPARE(m_people->lastTitle(), QString("Info"));
+        QCOMPARE(status(), QString());
+    }
+
+    void withoutAGoodBackupNothingIsCleared_data()
+    {
+        addColumns<QString, QString, QString, QString>("field", "value", "tool", "said");
+        addRow("a user whom the server does not know", "txtDBUser", "stranger", "",
+               "\nprocess exited with code: 1 , status: 0\n");
+        addRow("another database of the same server", "txtDBName", "postgres", "", "another database");
+        addRow("a folder that is not there", "txtOutputFile", "/nowhere/x.bak", "", "There is no folder");
+        addRow("a program that writes nothing", "", "", "exit 0", "process exited with code: 0 , status: 0");
+        addRow("a program that writes no backup", "", "", "while [ \"$1\" != -f ]; do shift; done; echo x >\"$2\"",
+               "can not be read again");
+    }
+
+    void withoutAGoodBackupNothingIsCleared()
+    {
+        QFETCH(QString, field);
+        QFETCH(QString, value);
+        QFETCH(QString, tool);
+        QFETCH(QString, said);
+        const QTemporaryDir programs;
+        if (!tool.isEmpty()) {
+            QFile program(programs.filePath("pg_dump"));
+            QVERIFY(program.open(QIODevice::WriteOnly));
+            program.write("#!/bin/sh\n[ \"$1\" = --version ] && exit 0\n" + tool.toLatin1() + '\n');
+            QVERIFY(program.setPermissions(QFile::ReadOwner | QFile::ExeOwner));
+            qputenv("ZAVEL_PG_BIN", programs.path().toLocal8Bit());
+        } else {
+            box(m_dialog.get(), field.toLatin1())->setText(value);
+        }
+        const QMap<QString, QStringList> before = allRows(m_database->name());
+        button()->click();
+        waitForTheEnd();
+        QVERIFY2(status().contains(said), qPrintable(status()));
+        QVERIFY(!status().contains("resetting transactions"));
+        QCOMPARE(m_people->texts().size(), 1);
+        QCOMPARE(m_people->lastTitle(), QString("Error"));
+        QCOMPARE(allRows(m_database->name()), before);
+    }
+
+    void whatIsSavedDuringTheBackupIsNotLost()
+    {
+        const int sales = count("invoice");
+        m_database->run("BEGIN");
+        m_database->run("LOCK TABLE meja IN ACCESS EXCLUSIVE MODE");
+        m_database->run("UPDATE invoice SET note = 'paid' WHERE id = (SELECT max(id) FROM invoice)");
+        button()->click();
+        QTRY_VERIFY(count("pg_locks WHERE NOT granted") > 0);
+        m_database->run("COMMIT");
+        waitForTheEnd();
+        QVERIFY(m_people->lastText().contains("does not hold it: invoice."));
+        QCOMPARE(count("invoice"), sales);
+        button()->click();
+        waitForTheEnd();
+        QCOMPARE(m_people->lastText(), QString("Done. "));
+        QCOMPARE(count("invoice"), 0);
+    }
+
+    void aPartThatFailsIsToldAndTheOthersAreCleared_data()
+    {
+        addColumns<QString>("statement");
+        addRow("a table that refuses",
+               "CREATE FUNCTION no() RETURNS trigger LANGUAGE plpgsql AS 'BEGIN RAISE ''locked away''; END'; "
+               "CREATE TRIGGER no BEFORE TRUNCATE ON cash_flow EXECUTE FUNCTION no()");
+        addRow("a table that a till holds", "BEGIN; LOCK TABLE cash_flow IN ROW SHARE MODE");
+    }
+
+    void aPartThatFailsIsToldAndTheOthersAreCleared()
+    {
+        QFETCH(QString, statement);
+        m_database->run(statement);
+        button()->click();
+        waitForTheEnd();
+        QCOMPARE(m_people->texts(), QStringList{"Done. Error: 1"});
+        QCOMPARE(status().count(" [error]\n"), 1);
+        QVERIFY(status().contains("is marked by [error]"));
+        QVERIFY(count("cash_flow") > 0);
+        QCOMPARE(count("invoice") + count("accounting_trans") + count("bawa_pulang"), 0);
+    }
 
 private:
     QPushButton* button() const { return m_dialog->findChild<QPushButton*>("btnBackupAndClearTransactions"); }
@@ -41,181 +189,6 @@ private:
     std::unique_ptr<ModalDriver> m_people;
     std::unique_ptr<DialogClearTransactions> m_dialog;
 };
-
-void TestClearTransactions::initTestCase()
-{
-    qputenv("XDG_DATA_HOME", m_home.path().toLocal8Bit());
-    m_file = m_home.filePath("old year.bak");
-}
-
-void TestClearTransactions::init()
-{
-    m_database = std::make_unique<TestDatabase>();
-    fillEveryTable(*m_database);
-    m_people = std::make_unique<ModalDriver>();
-    ConnectionSettings settings;
-    settings.host = TestDatabase::host();
-    settings.port = TestDatabase::port();
-    settings.user = TestDatabase::user();
-    settings.database = m_database->name();
-    QDir().mkpath(QFileInfo(ConnectionSettings::defaultPath()).path());
-    QVERIFY(settings.write(ConnectionSettings::defaultPath()));
-    m_dialog = std::make_unique<DialogClearTransactions>();
-    m_dialog->show();
-    box(m_dialog.get(), "txtOutputFile")->setText(m_file);
-}
-
-void TestClearTransactions::cleanup()
-{
-    m_dialog.reset();
-    m_people.reset();
-    m_database.reset();
-    qunsetenv("ZAVEL_PG_BIN");
-    QFile::remove(m_file);
-}
-
-void TestClearTransactions::allThatWasTradedGoesAndAllElseStays()
-{
-    const QString staying =
-        "access agent appconfig bank business data_perusahaan employee entities_history grouped_item images item "
-        "jenis_item keytable meja member permissions printer_type satuan supplier user_group users";
-    const QMap<QString, QStringList> before = allRows(m_database->name());
-    const QSignalSpy closing(m_dialog.get(), &DialogClearTransactions::onCloseAllTab);
-    button()->click();
-    QVERIFY(!button()->isEnabled());
-    waitForTheEnd();
-    QCOMPARE(m_people->texts(), QStringList{"Done. "});
-    QCOMPARE(m_people->lastTitle(), QString("Info"));
-    QCOMPARE(closing.count(), 1);
-    QVERIFY(QFileInfo(m_file).size() > 0);
-
-    const QMap<QString, QStringList> after = allRows(m_database->name());
-    QStringList stayed;
-    for (auto table = before.cbegin(); table != before.cend(); ++table) {
-        QVERIFY2(!table->isEmpty(), qPrintable(table.key()));
-        if (table.key() == "stok_awal")
-            QCOMPARE(
-                m_database->value("SELECT count(*) || ' ' || sum(jumlah + harga_amount) FROM stok_awal").toString(),
-                QString::number(table->size()) + " 0");
-        else if (table.key().endsWith("_seq"))
-            QCOMPARE(after[table.key()], *table);
-        else if (!after[table.key()].isEmpty())
-            stayed.append(table.key());
-    }
-    QCOMPARE(stayed.join(' '), staying);
-    for (const QString& table : stayed)
-        QCOMPARE(after[table], before[table]);
-
-    const QString told = status();
-    QVERIFY(told.startsWith("dumping your db...\npg_dump started...\n"));
-    QVERIFY(told.contains("\nprocess exited with code: 0 , status: 0\nThe backup is complete: " + m_file));
-    QVERIFY(told.contains("\nresetting transactions: Purchases [ok]\n"));
-    QVERIFY(told.indexOf("transactions: Purchases ") < told.indexOf("transactions: Table "));
-    QVERIFY(!told.contains("[error]"));
-}
-
-void TestClearTransactions::withoutAFileNothingRuns()
-{
-    box(m_dialog.get(), "txtOutputFile")->clear();
-    button()->click();
-    QCOMPARE(m_people->texts(), QStringList{"Enter a valid backup file path"});
-    QCOMPARE(m_people->lastTitle(), QString("Info"));
-    QCOMPARE(status(), QString());
-}
-
-void TestClearTransactions::withoutAGoodBackupNothingIsCleared_data()
-{
-    QTest::addColumn<QString>("field");
-    QTest::addColumn<QString>("value");
-    QTest::addColumn<QString>("tool");
-    QTest::addColumn<QString>("said");
-    QTest::newRow("a user whom the server does not know") << "txtDBUser"
-                                                          << "stranger"
-                                                          << ""
-                                                          << "\nprocess exited with code: 1 , status: 0\n";
-    QTest::newRow("another database of the same server") << "txtDBName"
-                                                         << "postgres"
-                                                         << ""
-                                                         << "another database";
-    QTest::newRow("a folder that is not there") << "txtOutputFile"
-                                                << "/nowhere/x.bak"
-                                                << ""
-                                                << "There is no folder";
-    QTest::newRow("a program that writes nothing") << ""
-                                                   << ""
-                                                   << "exit 0"
-                                                   << "process exited with code: 0 , status: 0";
-    QTest::newRow("a program that writes no backup") << ""
-                                                     << ""
-                                                     << "while [ \"$1\" != -f ]; do shift; done; echo x >\"$2\""
-                                                     << "can not be read again";
-}
-
-void TestClearTransactions::withoutAGoodBackupNothingIsCleared()
-{
-    QFETCH(QString, field);
-    QFETCH(QString, value);
-    QFETCH(QString, tool);
-    QFETCH(QString, said);
-    const QTemporaryDir programs;
-    if (!tool.isEmpty()) {
-        QFile program(programs.filePath("pg_dump"));
-        QVERIFY(program.open(QIODevice::WriteOnly));
-        program.write("#!/bin/sh\n[ \"$1\" = --version ] && exit 0\n" + tool.toLatin1() + '\n');
-        QVERIFY(program.setPermissions(QFile::ReadOwner | QFile::ExeOwner));
-        qputenv("ZAVEL_PG_BIN", programs.path().toLocal8Bit());
-    } else {
-        box(m_dialog.get(), field.toLatin1())->setText(value);
-    }
-    const QMap<QString, QStringList> before = allRows(m_database->name());
-    button()->click();
-    waitForTheEnd();
-    QVERIFY2(status().contains(said), qPrintable(status()));
-    QVERIFY(!status().contains("resetting transactions"));
-    QCOMPARE(m_people->texts().size(), 1);
-    QCOMPARE(m_people->lastTitle(), QString("Error"));
-    QCOMPARE(allRows(m_database->name()), before);
-}
-
-void TestClearTransactions::whatIsSavedDuringTheBackupIsNotLost()
-{
-    const int sales = count("invoice");
-    m_database->run("BEGIN");
-    m_database->run("LOCK TABLE meja IN ACCESS EXCLUSIVE MODE");
-    m_database->run("UPDATE invoice SET note = 'paid' WHERE id = (SELECT max(id) FROM invoice)");
-    button()->click();
-    QTRY_VERIFY(count("pg_locks WHERE NOT granted") > 0);
-    m_database->run("COMMIT");
-    waitForTheEnd();
-    QVERIFY(m_people->lastText().contains("does not hold it: invoice."));
-    QCOMPARE(count("invoice"), sales);
-    button()->click();
-    waitForTheEnd();
-    QCOMPARE(m_people->lastText(), QString("Done. "));
-    QCOMPARE(count("invoice"), 0);
-}
-
-void TestClearTransactions::aPartThatFailsIsToldAndTheOthersAreCleared_data()
-{
-    QTest::addColumn<QString>("statement");
-    QTest::newRow("a table that refuses")
-        << "CREATE FUNCTION no() RETURNS trigger LANGUAGE plpgsql AS 'BEGIN RAISE ''locked away''; END'; "
-           "CREATE TRIGGER no BEFORE TRUNCATE ON cash_flow EXECUTE FUNCTION no()";
-    QTest::newRow("a table that a till holds") << "BEGIN; LOCK TABLE cash_flow IN ROW SHARE MODE";
-}
-
-void TestClearTransactions::aPartThatFailsIsToldAndTheOthersAreCleared()
-{
-    QFETCH(QString, statement);
-    m_database->run(statement);
-    button()->click();
-    waitForTheEnd();
-    QCOMPARE(m_people->texts(), QStringList{"Done. Error: 1"});
-    QCOMPARE(status().count(" [error]\n"), 1);
-    QVERIFY(status().contains("is marked by [error]"));
-    QVERIFY(count("cash_flow") > 0);
-    QCOMPARE(count("invoice") + count("accounting_trans") + count("bawa_pulang"), 0);
-}
 
 QTEST_MAIN(TestClearTransactions)
 #include "tst_clear_transactions.moc"

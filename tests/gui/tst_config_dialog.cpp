@@ -6,6 +6,7 @@
 #include "shell/window/ConfigDialog.h"
 #include "support/Builders.h"
 #include "support/ModalDriver.h"
+#include "support/Rows.h"
 #include "support/TestDatabase.h"
 #include "zavel/tables/BusinessMeja.h"
 
@@ -26,327 +27,305 @@ class TestConfigDialog : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void init();
-    void cleanup();
+    void initTestCase() { qputenv("XDG_DATA_HOME", m_home.path().toLocal8Bit()); }
 
-    void withoutSettingsTheUsualValuesAreOffered();
-    void cancellingWritesNothing();
-    void whatIsSavedReadsBackAndCannotBeReadInTheFile();
-    void theFormatsAreSharedWithAllWorkstations();
-    void pricesInAnotherCurrencyAreAskedFor_data();
-    void pricesInAnotherCurrencyAreAskedFor();
-    void savingTwiceIsNoConflictWithOneself();
-    void anotherWorkstationsChangeIsTold();
-    void aDatabaseWithoutFormatsIsNoReasonToComplain();
-    void withoutAConnectionNothingIsAskedOfTheServer();
-    void theLogFileIsNamed();
-    void liveRecordsAreListedAndFreedOnceTheWindowsAreClosed();
-    void killingIsAskedFirst();
-    void anEmptyDatabaseIsInstalledFromTheDialog();
-    void anInstalledDatabaseIsMadeAnewOnlyAfterAQuestion();
-    void withoutAConnectionThereIsNothingToInstallOn();
+    void init()
+    {
+        m_database = std::make_unique<TestDatabase>();
+        m_database->run("DELETE FROM appconfig");
+        m_database->run("INSERT INTO appconfig (appkey, is_json, appvalue, version) VALUES "
+                        "('localization', true, '{\"locale\":\"id_ID\",\"date_time_format\":\"dd/MM/yy\"}', 1)");
+        m_people = std::make_unique<ModalDriver>();
+    }
+
+    void cleanup()
+    {
+        m_dialog.reset();
+        m_people.reset();
+        m_database.reset();
+        QFile::remove(ConnectionSettings::defaultPath());
+    }
+
+    void withoutSettingsTheUsualValuesAreOffered()
+    {
+        open();
+        QCOMPARE(m_dialog->windowTitle(), QString("Configuration"));
+        QCOMPARE(m_dialog->findChild<QTabWidget*>("tabWidget")->currentIndex(), 0);
+        QCOMPARE(field("txtDBHost")->text(), QString("localhost"));
+        QCOMPARE(field("txtDBName")->text(), QString("ZavelPOS"));
+        QCOMPARE(field("txtDBUser")->text(), QString("postgres"));
+        QCOMPARE(field("txtDBPassword")->text(), QString("Qx7!Rm2z"));
+        QCOMPARE(field("txtDBPort")->text(), QString("6666"));
+        QVERIFY(m_dialog->findChild<QCheckBox*>("cbShowSidebar")->isChecked());
+        QVERIFY(m_dialog->findChild<QCheckBox*>("cbShowDashboard")->isChecked());
+        const auto* locales = m_dialog->findChild<QComboBox*>("txtLocale");
+        QCOMPARE(locales->itemText(0), QString("en_US"));
+        QCOMPARE(locales->itemText(1), QString("id_ID"));
+        QCOMPARE(locales->count(), 2);
+    }
+
+    void cancellingWritesNothing()
+    {
+        open();
+        field("txtDBHost")->setText("elsewhere");
+        field("txtDateTimeFormat")->setText("yyyy");
+        m_dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Cancel)->click();
+        QVERIFY(!QFile::exists(ConnectionSettings::defaultPath()));
+        QVERIFY(m_database->value("SELECT appvalue FROM appconfig").toString().contains("dd/MM/yy"));
+    }
+
+    void whatIsSavedReadsBackAndCannotBeReadInTheFile()
+    {
+        open();
+        field("txtDBHost")->setText("db.restaurant.example");
+        field("txtDBName")->setText(QString::fromUtf8("Dépôt; \"1\""));
+        field("txtDBUser")->setText("waiter");
+        field("txtDBPassword")->setText("hunter=2,;");
+        field("txtDBPort")->setText("5433");
+        m_dialog->findChild<QCheckBox*>("cbShowDashboard")->setChecked(false);
+        m_dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+        QCOMPARE(m_dialog->result(), int(QDialog::Accepted));
+
+        const QString path = ConnectionSettings::defaultPath();
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray content = file.readAll();
+        for (const char* secret : {"restaurant", "waiter", "hunter"})
+            QVERIFY(!content.contains(secret));
+        QVERIFY(content.contains("dbport=5433\n"));
+        QVERIFY(content.contains("showdashboard=false\n"));
+        QVERIFY(!(file.permissions() & (QFile::ReadGroup | QFile::ReadOther)));
+
+        // A copy, so that nothing which this process remembers of the file can answer.
+        const QString copy = m_home.filePath("copy.ini");
+        QFile::remove(copy);
+        QVERIFY(file.copy(copy));
+        const ConnectionSettings read = ConnectionSettings::read(copy);
+        QCOMPARE(read.host, QString("db.restaurant.example"));
+        QCOMPARE(read.database, QString::fromUtf8("Dépôt; \"1\""));
+        QCOMPARE(read.user, QString("waiter"));
+        QCOMPARE(read.password, QString("hunter=2,;"));
+        QCOMPARE(read.port, 5433);
+        QVERIFY(read.showSidebar);
+        QVERIFY(!read.showDashboard);
+    }
+
+    void theFormatsAreSharedWithAllWorkstations()
+    {
+        open();
+        QCOMPARE(field("txtDateTimeFormat")->text(), QString("dd/MM/yy"));
+        QCOMPARE(m_dialog->findChild<QComboBox*>("txtLocale")->currentText(), QString("id_ID"));
+        field("txtDateTimeFormat")->setText("whatever I like");
+        m_dialog->findChild<QComboBox*>("txtLocale")->setCurrentText("en_US");
+        save();
+        const QString stored = m_database->value("SELECT appvalue FROM appconfig").toString();
+        QVERIFY(stored.contains("whatever I like"));
+        QVERIFY(stored.contains("en_US"));
+    }
+
+    void pricesInAnotherCurrencyAreAskedFor_data()
+    {
+        addColumns<int, QString>("answer", "stored");
+        addRow("restated", int(QMessageBox::Yes), "en_US $ 25000 $ 7");
+        addRow("left alone", int(QMessageBox::No), "en_US Rp 25000 Rp 7");
+        addRow("locale kept", int(QMessageBox::Cancel), "id_ID Rp 25000 Rp 7");
+    }
+
+    void pricesInAnotherCurrencyAreAskedFor()
+    {
+        QFETCH(int, answer);
+        m_database->run("DELETE FROM stok_awal");
+        m_database->run("DELETE FROM grouped_item");
+        m_database->run("DELETE FROM item");
+        loginAsAdmin();
+        {
+            Builders make;
+            EntityItem* rice = make.item("RICE", "Rice", 25000);
+            make.openOrder(make.table("t1"), {make.line(rice, 1)});
+            m_database->run(
+                QString("INSERT INTO stok_awal (item_id, harga_currency, harga_amount, jumlah, version) VALUES "
+                        "(%1, 'Rp', 7, 1, 1)")
+                    .arg(rice->getId()));
+        }
+        open();
+        m_dialog->findChild<QComboBox*>("txtLocale")->setCurrentText("en_US");
+        m_people->answer(QMessageBox::StandardButton(answer));
+        save();
+        QVERIFY2(m_people->lastText().startsWith("1 items and 1 open orders are priced in another currency than $."),
+                 qPrintable(m_people->lastText()));
+        QTEST(
+            m_database
+                ->value("SELECT concat_ws(' ', appvalue::json->>'locale', harga_jual_lokal_currency, "
+                        "harga_jual_lokal_amount, harga_currency, harga_amount) FROM appconfig, item JOIN stok_awal ON "
+                        "item_id = item.id WHERE appkey = 'localization'")
+                .toString(),
+            "stored");
+    }
+
+    void savingTwiceIsNoConflictWithOneself()
+    {
+        open();
+        save();
+        field("txtDateTimeFormat")->setText("yyyy-MM-dd");
+        save();
+        QCOMPARE(m_people->texts(), QStringList());
+        QVERIFY(m_database->value("SELECT appvalue FROM appconfig").toString().contains("yyyy-MM-dd"));
+    }
+
+    void anotherWorkstationsChangeIsTold()
+    {
+        open();
+        m_database->run("UPDATE appconfig SET version = version + 1");
+        save();
+        QCOMPARE(m_people->boxes().size(), 1);
+        QCOMPARE(m_people->lastTitle(), QString("Error"));
+        QVERIFY(!service<BusinessMeja>("Table")->hasError());
+        QVERIFY(!KorServiceDirectory::get("Configuration")->hasError());
+    }
+
+    void aDatabaseWithoutFormatsIsNoReasonToComplain()
+    {
+        m_database->run("DROP TABLE appconfig");
+        open();
+        QCOMPARE(field("txtDateTimeFormat")->text(), QString("d MMM yyyy"));
+        save();
+        QCOMPARE(m_people->texts(), QStringList());
+        QVERIFY(!KorServiceDirectory::get("Configuration")->hasError());
+    }
+
+    void withoutAConnectionNothingIsAskedOfTheServer()
+    {
+        AppContext::instance()->databaseManager()->close();
+        const StatementCount statements;
+        open();
+        save();
+        QCOMPARE(statements.count(), 0);
+        QCOMPARE(field("txtDateTimeFormat")->text(), QString("d MMM yyyy"));
+        QCOMPARE(m_people->texts(), QStringList());
+    }
+
+    void theLogFileIsNamed()
+    {
+        QFile earlier(m_home.filePath("zavel.log"));
+        QVERIFY(earlier.open(QIODevice::WriteOnly) && earlier.setPermissions(QFile::Permissions(0x6644)));
+        KorLogger logger(nullptr, m_home.filePath("zavel.log"));
+        QCOMPARE(earlier.permissions(), QFile::Permissions(0x6600));
+        AppContext::instance()->setLogger(&logger);
+        open();
+        QCOMPARE(field("txtLogFile")->text(), m_home.filePath("zavel.log"));
+        QVERIFY(field("txtLogFile")->isReadOnly());
+        AppContext::instance()->setLogger(nullptr);
+    }
+
+    void liveRecordsAreListedAndFreedOnceTheWindowsAreClosed()
+    {
+        m_database->run("INSERT INTO meja (id, kode, nama, createdby, version) VALUES (41, 'x41', 'Bar', 1, 1)");
+        open();
+        const QPointer<KorEntity> table = service<BusinessMeja>("Table")->findByCode("x41");
+        QVERIFY(table);
+        button("btnListEntities")->click();
+        QVERIFY(listed().contains(":EntityMeja id:41"));
+        QVERIFY(listed().startsWith("child #0:"));
+
+        const QSignalSpy closing(m_dialog.get(), &ConfigDialog::onCloseAllTab);
+        m_people->answer(QMessageBox::Yes);
+        button("btnKillEntities")->click();
+        QCOMPARE(m_people->texts(), QStringList{"Are you sure all the windows has been closed?"});
+        QCOMPARE(m_people->lastTitle(), QString("Question"));
+        QCOMPARE(closing.count(), 1);
+        QVERIFY(!table);
+        QVERIFY(!listed().contains("EntityMeja"));
+        // The formats that the dialog held are gone as well; it has read them again.
+        field("txtDateTimeFormat")->setText("after the clearing");
+        save();
+        QVERIFY(m_database->value("SELECT appvalue FROM appconfig").toString().contains("after the clearing"));
+    }
+
+    void killingIsAskedFirst()
+    {
+        open();
+        const QSignalSpy closing(m_dialog.get(), &ConfigDialog::onCloseAllTab);
+        m_people->answer(QMessageBox::No);
+        const int before = AppContext::instance()->liveEntities().size();
+        button("btnKillEntities")->click();
+        QCOMPARE(closing.count(), 0);
+        QCOMPARE(AppContext::instance()->liveEntities().size(), before);
+    }
+
+    void anEmptyDatabaseIsInstalledFromTheDialog()
+    {
+        m_database.reset();
+        m_database = std::make_unique<TestDatabase>(TestDatabase::Empty);
+        open();
+        m_dialog->findChild<QComboBox*>("txtLocale")->setCurrentText("id_ID");
+        button("installBtn")->click();
+        QVERIFY(!button("installBtn")->isEnabled());
+        m_dialog->reject();
+        QVERIFY(m_dialog->isVisible());
+        QCOMPARE(m_people->texts(), QStringList{"Please wait until the installation completed."});
+        const auto* status = m_dialog->findChild<QPlainTextEdit*>("txtStatus");
+        QTRY_VERIFY_WITH_TIMEOUT(button("installBtn")->isEnabled(), 30000);
+        const QStringList lines = status->toPlainText().split('\n');
+        QCOMPARE(lines.first(), QString("[0%] Initializing..."));
+        QCOMPARE(lines.last(), QString("[100%] Done. Please restart the app"));
+        QCOMPARE(lines.filter(" error: "), QStringList());
+        QVERIFY(m_database->value("SELECT appvalue FROM appconfig WHERE appkey = 'localization'")
+                    .toString()
+                    .contains("id_ID"));
+        QCOMPARE(m_dialog->findChild<QComboBox*>("txtLocale")->currentText(), QString("id_ID"));
+        m_dialog->reject();
+        QVERIFY(!m_dialog->isVisible());
+    }
+
+    void anInstalledDatabaseIsMadeAnewOnlyAfterAQuestion()
+    {
+        m_database->run(
+            "INSERT INTO appconfig (appkey, is_json, appvalue, version) VALUES ('app_version', false, '1.1', 1)");
+        m_database->run("INSERT INTO meja (kode, nama, createdby, version) VALUES ('m9', 'Sold at already', 1, 1)");
+        open();
+        m_people->answer(QMessageBox::No);
+        button("installBtn")->click();
+        QVERIFY(button("installBtn")->isEnabled());
+        QVERIFY(m_people->lastText().contains(m_database->name()));
+        QCOMPARE(m_database->value("SELECT count(*) FROM meja WHERE kode = 'm9'").toInt(), 1);
+
+        m_people->answer(QMessageBox::Yes);
+        button("installBtn")->click();
+        QTRY_VERIFY_WITH_TIMEOUT(button("installBtn")->isEnabled(), 30000);
+        QCOMPARE(m_database->value("SELECT count(*) FROM meja WHERE kode = 'm9'").toInt(), 0);
+    }
+
+    void withoutAConnectionThereIsNothingToInstallOn()
+    {
+        AppContext::instance()->databaseManager()->close();
+        open();
+        button("installBtn")->click();
+        QVERIFY(button("installBtn")->isEnabled());
+        QVERIFY(!m_dialog->findChild<QPlainTextEdit*>("txtStatus")->toPlainText().isEmpty());
+    }
 
 private:
     QLineEdit* field(const QString& name) const { return m_dialog->findChild<QLineEdit*>(name); }
     QPushButton* button(const QString& name) const { return m_dialog->findChild<QPushButton*>(name); }
     QString listed() const { return m_dialog->findChild<QPlainTextEdit*>("txtStatusEntities")->toPlainText(); }
-    void open();
-    void save();
+    void open()
+    {
+        m_dialog = std::make_unique<ConfigDialog>();
+        m_dialog->show();
+    }
+
+    void save()
+    {
+        const QSignalSpy saved(m_dialog.get(), &ConfigDialog::onUpdateDBConf);
+        button("btnSaveDBConf")->click();
+        QCOMPARE(saved.count(), 1);
+    }
 
     QTemporaryDir m_home;
     std::unique_ptr<TestDatabase> m_database;
     std::unique_ptr<ModalDriver> m_people;
     std::unique_ptr<ConfigDialog> m_dialog;
 };
-
-void TestConfigDialog::initTestCase() { qputenv("XDG_DATA_HOME", m_home.path().toLocal8Bit()); }
-
-void TestConfigDialog::init()
-{
-    m_database = std::make_unique<TestDatabase>();
-    m_database->run("DELETE FROM appconfig");
-    m_database->run("INSERT INTO appconfig (appkey, is_json, appvalue, version) VALUES "
-                    "('localization', true, '{\"locale\":\"id_ID\",\"date_time_format\":\"dd/MM/yy\"}', 1)");
-    m_people = std::make_unique<ModalDriver>();
-}
-
-void TestConfigDialog::cleanup()
-{
-    m_dialog.reset();
-    m_people.reset();
-    m_database.reset();
-    QFile::remove(ConnectionSettings::defaultPath());
-}
-
-void TestConfigDialog::open()
-{
-    m_dialog = std::make_unique<ConfigDialog>();
-    m_dialog->show();
-}
-
-void TestConfigDialog::save()
-{
-    const QSignalSpy saved(m_dialog.get(), &ConfigDialog::onUpdateDBConf);
-    button("btnSaveDBConf")->click();
-    QCOMPARE(saved.count(), 1);
-}
-
-void TestConfigDialog::withoutSettingsTheUsualValuesAreOffered()
-{
-    open();
-    QCOMPARE(m_dialog->windowTitle(), QString("Configuration"));
-    QCOMPARE(m_dialog->findChild<QTabWidget*>("tabWidget")->currentIndex(), 0);
-    QCOMPARE(field("txtDBHost")->text(), QString("localhost"));
-    QCOMPARE(field("txtDBName")->text(), QString("ZavelPOS"));
-    QCOMPARE(field("txtDBUser")->text(), QString("postgres"));
-    QCOMPARE(field("txtDBPassword")->text(), QString("Qx7!Rm2z"));
-    QCOMPARE(field("txtDBPort")->text(), QString("6666"));
-    QVERIFY(m_dialog->findChild<QCheckBox*>("cbShowSidebar")->isChecked());
-    QVERIFY(m_dialog->findChild<QCheckBox*>("cbShowDashboard")->isChecked());
-    const auto* locales = m_dialog->findChild<QComboBox*>("txtLocale");
-    QCOMPARE(locales->itemText(0), QString("en_US"));
-    QCOMPARE(locales->itemText(1), QString("id_ID"));
-    QCOMPARE(locales->count(), 2);
-}
-
-void TestConfigDialog::cancellingWritesNothing()
-{
-    open();
-    field("txtDBHost")->setText("elsewhere");
-    field("txtDateTimeFormat")->setText("yyyy");
-    m_dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Cancel)->click();
-    QVERIFY(!QFile::exists(ConnectionSettings::defaultPath()));
-    QVERIFY(m_database->value("SELECT appvalue FROM appconfig").toString().contains("dd/MM/yy"));
-}
-
-void TestConfigDialog::whatIsSavedReadsBackAndCannotBeReadInTheFile()
-{
-    open();
-    field("txtDBHost")->setText("db.restaurant.example");
-    field("txtDBName")->setText(QString::fromUtf8("Dépôt; \"1\""));
-    field("txtDBUser")->setText("waiter");
-    field("txtDBPassword")->setText("hunter=2,;");
-    field("txtDBPort")->setText("5433");
-    m_dialog->findChild<QCheckBox*>("cbShowDashboard")->setChecked(false);
-    m_dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
-    QCOMPARE(m_dialog->result(), int(QDialog::Accepted));
-
-    const QString path = ConnectionSettings::defaultPath();
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QByteArray content = file.readAll();
-    for (const char* secret : {"restaurant", "waiter", "hunter"})
-        QVERIFY(!content.contains(secret));
-    QVERIFY(content.contains("dbport=5433\n"));
-    QVERIFY(content.contains("showdashboard=false\n"));
-    QVERIFY(!(file.permissions() & (QFile::ReadGroup | QFile::ReadOther)));
-
-    // A copy, so that nothing which this process remembers of the file can answer.
-    const QString copy = m_home.filePath("copy.ini");
-    QFile::remove(copy);
-    QVERIFY(file.copy(copy));
-    const ConnectionSettings read = ConnectionSettings::read(copy);
-    QCOMPARE(read.host, QString("db.restaurant.example"));
-    QCOMPARE(read.database, QString::fromUtf8("Dépôt; \"1\""));
-    QCOMPARE(read.user, QString("waiter"));
-    QCOMPARE(read.password, QString("hunter=2,;"));
-    QCOMPARE(read.port, 5433);
-    QVERIFY(read.showSidebar);
-    QVERIFY(!read.showDashboard);
-}
-
-void TestConfigDialog::theFormatsAreSharedWithAllWorkstations()
-{
-    open();
-    QCOMPARE(field("txtDateTimeFormat")->text(), QString("dd/MM/yy"));
-    QCOMPARE(m_dialog->findChild<QComboBox*>("txtLocale")->currentText(), QString("id_ID"));
-    field("txtDateTimeFormat")->setText("whatever I like");
-    m_dialog->findChild<QComboBox*>("txtLocale")->setCurrentText("en_US");
-    save();
-    const QString stored = m_database->value("SELECT appvalue FROM appconfig").toString();
-    QVERIFY(stored.contains("whatever I like"));
-    QVERIFY(stored.contains("en_US"));
-}
-
-void TestConfigDialog::pricesInAnotherCurrencyAreAskedFor_data()
-{
-    QTest::addColumn<int>("answer");
-    QTest::addColumn<QString>("stored");
-    QTest::newRow("restated") << int(QMessageBox::Yes) << "en_US $ 25000 $ 7";
-    QTest::newRow("left alone") << int(QMessageBox::No) << "en_US Rp 25000 Rp 7";
-    QTest::newRow("locale kept") << int(QMessageBox::Cancel) << "id_ID Rp 25000 Rp 7";
-}
-
-void TestConfigDialog::pricesInAnotherCurrencyAreAskedFor()
-{
-    QFETCH(int, answer);
-    m_database->run("DELETE FROM stok_awal");
-    m_database->run("DELETE FROM grouped_item");
-    m_database->run("DELETE FROM item");
-    loginAsAdmin();
-    {
-        Builders make;
-        EntityItem* rice = make.item("RICE", "Rice", 25000);
-        make.openOrder(make.table("t1"), {make.line(rice, 1)});
-        m_database->run(QString("INSERT INTO stok_awal (item_id, harga_currency, harga_amount, jumlah, version) VALUES "
-                                "(%1, 'Rp', 7, 1, 1)")
-                            .arg(rice->getId()));
-    }
-    open();
-    m_dialog->findChild<QComboBox*>("txtLocale")->setCurrentText("en_US");
-    m_people->answer(QMessageBox::StandardButton(answer));
-    save();
-    QVERIFY2(m_people->lastText().startsWith("1 items and 1 open orders are priced in another currency than $."),
-             qPrintable(m_people->lastText()));
-    QTEST(m_database
-              ->value("SELECT concat_ws(' ', appvalue::json->>'locale', harga_jual_lokal_currency, "
-                      "harga_jual_lokal_amount, harga_currency, harga_amount) FROM appconfig, item JOIN stok_awal ON "
-                      "item_id = item.id WHERE appkey = 'localization'")
-              .toString(),
-          "stored");
-}
-
-void TestConfigDialog::savingTwiceIsNoConflictWithOneself()
-{
-    open();
-    save();
-    field("txtDateTimeFormat")->setText("yyyy-MM-dd");
-    save();
-    QCOMPARE(m_people->texts(), QStringList());
-    QVERIFY(m_database->value("SELECT appvalue FROM appconfig").toString().contains("yyyy-MM-dd"));
-}
-
-void TestConfigDialog::anotherWorkstationsChangeIsTold()
-{
-    open();
-    m_database->run("UPDATE appconfig SET version = version + 1");
-    save();
-    QCOMPARE(m_people->boxes().size(), 1);
-    QCOMPARE(m_people->lastTitle(), QString("Error"));
-    QVERIFY(!service<BusinessMeja>("Table")->hasError());
-    QVERIFY(!KorServiceDirectory::get("Configuration")->hasError());
-}
-
-void TestConfigDialog::aDatabaseWithoutFormatsIsNoReasonToComplain()
-{
-    m_database->run("DROP TABLE appconfig");
-    open();
-    QCOMPARE(field("txtDateTimeFormat")->text(), QString("d MMM yyyy"));
-    save();
-    QCOMPARE(m_people->texts(), QStringList());
-    QVERIFY(!KorServiceDirectory::get("Configuration")->hasError());
-}
-
-void TestConfigDialog::withoutAConnectionNothingIsAskedOfTheServer()
-{
-    AppContext::instance()->databaseManager()->close();
-    const StatementCount statements;
-    open();
-    save();
-    QCOMPARE(statements.count(), 0);
-    QCOMPARE(field("txtDateTimeFormat")->text(), QString("d MMM yyyy"));
-    QCOMPARE(m_people->texts(), QStringList());
-}
-
-void TestConfigDialog::theLogFileIsNamed()
-{
-    QFile earlier(m_home.filePath("zavel.log"));
-    QVERIFY(earlier.open(QIODevice::WriteOnly) && earlier.setPermissions(QFile::Permissions(0x6644)));
-    KorLogger logger(nullptr, m_home.filePath("zavel.log"));
-    QCOMPARE(earlier.permissions(), QFile::Permissions(0x6600));
-    AppContext::instance()->setLogger(&logger);
-    open();
-    QCOMPARE(field("txtLogFile")->text(), m_home.filePath("zavel.log"));
-    QVERIFY(field("txtLogFile")->isReadOnly());
-    AppContext::instance()->setLogger(nullptr);
-}
-
-void TestConfigDialog::liveRecordsAreListedAndFreedOnceTheWindowsAreClosed()
-{
-    m_database->run("INSERT INTO meja (id, kode, nama, createdby, version) VALUES (41, 'x41', 'Bar', 1, 1)");
-    open();
-    const QPointer<KorEntity> table = service<BusinessMeja>("Table")->findByCode("x41");
-    QVERIFY(table);
-    button("btnListEntities")->click();
-    QVERIFY(listed().contains(":EntityMeja id:41"));
-    QVERIFY(listed().startsWith("child #0:"));
-
-    const QSignalSpy closing(m_dialog.get(), &ConfigDialog::onCloseAllTab);
-    m_people->answer(QMessageBox::Yes);
-    button("btnKillEntities")->click();
-    QCOMPARE(m_people->texts(), QStringList{"Are you sure all the windows has been closed?"});
-    QCOMPARE(m_people->lastTitle(), QString("Question"));
-    QCOMPARE(closing.count(), 1);
-    QVERIFY(!table);
-    QVERIFY(!listed().contains("EntityMeja"));
-    // The formats that the dialog held are gone as well; it has read them again.
-    field("txtDateTimeFormat")->setText("after the clearing");
-    save();
-    QVERIFY(m_database->value("SELECT appvalue FROM appconfig").toString().contains("after the clearing"));
-}
-
-void TestConfigDialog::killingIsAskedFirst()
-{
-    open();
-    const QSignalSpy closing(m_dialog.get(), &ConfigDialog::onCloseAllTab);
-    m_people->answer(QMessageBox::No);
-    const int before = AppContext::instance()->liveEntities().size();
-    button("btnKillEntities")->click();
-    QCOMPARE(closing.count(), 0);
-    QCOMPARE(AppContext::instance()->liveEntities().size(), before);
-}
-
-void TestConfigDialog::anEmptyDatabaseIsInstalledFromTheDialog()
-{
-    m_database.reset();
-    m_database = std::make_unique<TestDatabase>(TestDatabase::Empty);
-    open();
-    m_dialog->findChild<QComboBox*>("txtLocale")->setCurrentText("id_ID");
-    button("installBtn")->click();
-    QVERIFY(!button("installBtn")->isEnabled());
-    m_dialog->reject();
-    QVERIFY(m_dialog->isVisible());
-    QCOMPARE(m_people->texts(), QStringList{"Please wait until the installation completed."});
-    const auto* status = m_dialog->findChild<QPlainTextEdit*>("txtStatus");
-    QTRY_VERIFY_WITH_TIMEOUT(button("installBtn")->isEnabled(), 30000);
-    const QStringList lines = status->toPlainText().split('\n');
-    QCOMPARE(lines.first(), QString("[0%] Initializing..."));
-    QCOMPARE(lines.last(), QString("[100%] Done. Please restart the app"));
-    QCOMPARE(lines.filter(" error: "), QStringList());
-    QVERIFY(
-        m_database->value("SELECT appvalue FROM appconfig WHERE appkey = 'localization'").toString().contains("id_ID"));
-    QCOMPARE(m_dialog->findChild<QComboBox*>("txtLocale")->currentText(), QString("id_ID"));
-    m_dialog->reject();
-    QVERIFY(!m_dialog->isVisible());
-}
-
-void TestConfigDialog::anInstalledDatabaseIsMadeAnewOnlyAfterAQuestion()
-{
-    m_database->run(
-        "INSERT INTO appconfig (appkey, is_json, appvalue, version) VALUES ('app_version', false, '1.1', 1)");
-    m_database->run("INSERT INTO meja (kode, nama, createdby, version) VALUES ('m9', 'Sold at already', 1, 1)");
-    open();
-    m_people->answer(QMessageBox::No);
-    button("installBtn")->click();
-    QVERIFY(button("installBtn")->isEnabled());
-    QVERIFY(m_people->lastText().contains(m_database->name()));
-    QCOMPARE(m_database->value("SELECT count(*) FROM meja WHERE kode = 'm9'").toInt(), 1);
-
-    m_people->answer(QMessageBox::Yes);
-    button("installBtn")->click();
-    QTRY_VERIFY_WITH_TIMEOUT(button("installBtn")->isEnabled(), 30000);
-    QCOMPARE(m_database->value("SELECT count(*) FROM meja WHERE kode = 'm9'").toInt(), 0);
-}
-
-void TestConfigDialog::withoutAConnectionThereIsNothingToInstallOn()
-{
-    AppContext::instance()->databaseManager()->close();
-    open();
-    button("installBtn")->click();
-    QVERIFY(button("installBtn")->isEnabled());
-    QVERIFY(!m_dialog->findChild<QPlainTextEdit*>("txtStatus")->toPlainText().isEmpty());
-}
 
 QTEST_MAIN(TestConfigDialog)
 #include "tst_config_dialog.moc"

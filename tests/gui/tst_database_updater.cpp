@@ -4,6 +4,7 @@
 #include "shell/window/MainWindow.h"
 #include "support/ModalDriver.h"
 #include "support/OldDatabase.h"
+#include "support/Rows.h"
 #include "support/TestDatabase.h"
 
 #include <QAbstractButton>
@@ -42,28 +43,237 @@ class TestDatabaseUpdater : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init()
+    {
+        m_database = std::make_unique<TestDatabase>();
+        m_newSchema = schemaOf(*m_database);
+        takeBackToVersion10(*m_database);
+        loginAsAdmin();
+        AppContext::instance()->setShowDashboard(false);
+        m_people = std::make_unique<ModalDriver>();
+        start();
+    }
 
-    void theQuestionComesByItselfAndTheOldDatabaseBecomesANewOne();
-    void cancellingLeavesTheDatabaseAsItWas_data();
-    void cancellingLeavesTheDatabaseAsItWas();
-    void nothingIsAskedWithoutReason_data();
-    void nothingIsAskedWithoutReason();
-    void doubleCodesAreToldWithTheServersWords();
-    void whoLeavesEarlyWaitsForTheEnd_data();
-    void whoLeavesEarlyWaitsForTheEnd();
-    void theProgramEndsOnlyAfterTheUpdate();
-    void aBrokenConnectionIsToldAndTheUpdateOfferedAgain();
+    void cleanup()
+    {
+        m_window.reset();
+        m_people.reset();
+        m_database.reset();
+    }
+
+    void theQuestionComesByItselfAndTheOldDatabaseBecomesANewOne()
+    {
+        const auto before = allRows(*m_database);
+        m_window->openTab("TabPesananMasuk");
+        const auto* pages = m_window->findChild<QTabWidget*>("tabWidget");
+        QStringList told;
+        m_people->expect<AppDBUpdaterWizard>([&](QWizard* wizard) {
+            QCOMPARE(wizard->windowTitle(), QString("ZavelPOS DB Updater Wizard"));
+            QCOMPARE(wizard->currentPage()->title(), QString("Update DB"));
+            QCOMPARE(pages->count(), 1);
+            press(wizard, QWizard::NextButton);
+            QCOMPARE(wizard->currentPage()->title(), QString("Installing..."));
+            QCOMPARE(wizard->currentPage()->subTitle(), QString("Please wait until the installation completed."));
+            // The kitchen's page reads the orders by itself.
+            QCOMPARE(pages->count(), 0);
+            QTRY_VERIFY_WITH_TIMEOUT(hasEnded(wizard), longEnough);
+            QVERIFY(!wizard->button(QWizard::BackButton)->isEnabled());
+            told = statusOf(wizard);
+            press(wizard, QWizard::FinishButton);
+        });
+        QTRY_VERIFY_WITH_TIMEOUT(told.size() > 10 && !QApplication::activeModalWidget(), longEnough);
+        QVERIFY(m_people->finished());
+        QVERIFY(m_window->isEnabled());
+        QCOMPARE(told.first(), QString("[0%] Initializing..."));
+        QVERIFY(told.contains("[25%] supplier installed"));
+        QCOMPARE(told.filter(" error:").size(), 2);
+        QCOMPARE(told.at(told.size() - 2),
+                 QString("- permissions error: Every update tells this one; nothing is wrong."));
+
+        // Lines of orders and purchases keep their older constraints.
+        QStringList gone = missing(m_newSchema, schemaOf(*m_database));
+        QCOMPARE(gone.size(), 2);
+        QCOMPARE(gone.filter("detail_id_fkey").size() + gone.filter("purchase_order_id_fkey").size(), 2);
+        QCOMPARE(missing(schemaOf(*m_database), m_newSchema), QStringList());
+        QCOMPARE(m_database->value("SELECT string_agg(no, ', ') FROM acquisition WHERE po_id IS NULL").toString(),
+                 QString("NB1"));
+        QMap<QString, int> lost;
+        QMap<QString, int> gained;
+        const auto after = allRows(*m_database);
+        for (auto table = before.begin(); table != before.end(); ++table) {
+            if (const auto rows = missing(table.value(), after[table.key()]); !rows.isEmpty())
+                lost[table.key()] = rows.size();
+            if (const auto rows = missing(after[table.key()], table.value()); !rows.isEmpty())
+                gained[table.key()] = rows.size();
+        }
+        QCOMPARE(lost, (QMap<QString, int>{{"acquisition", 1}, {"appconfig", 1}}));
+        QCOMPARE(gained,
+                 (QMap<QString, int>{
+                     {"access", 2}, {"acquisition", 1}, {"appconfig", 1}, {"business", 1}, {"permissions", 2}}));
+        QCOMPARE(m_database
+                     ->value("SELECT string_agg(group_id || ' ' || grant_type, ', ') FROM access JOIN permissions "
+                             "ON permissions.id = permission_id WHERE permission_name IN ('Add table', 'Manage "
+                             "unit')")
+                     .toString(),
+                 QString("1 2, 1 2"));
+        QCOMPARE(version(), QString("1.1"));
+        start();
+        m_window->checkDBUpdate();
+        QCOMPARE(m_people->surprises(), QStringList());
+    }
+
+    void cancellingLeavesTheDatabaseAsItWas_data()
+    {
+        addColumns<bool>("onSecondPage");
+        addRow("on the first page", false);
+        addRow("before the work begins", true);
+    }
+
+    void cancellingLeavesTheDatabaseAsItWas()
+    {
+        QFETCH(bool, onSecondPage);
+        const auto before = allRows(*m_database);
+        const auto schema = schemaOf(*m_database);
+        for (int round = 0; round < 2; ++round) {
+            m_people->expect<AppDBUpdaterWizard>([&](QWizard* wizard) {
+                if (onSecondPage)
+                    press(wizard, QWizard::NextButton);
+                press(wizard, QWizard::CancelButton);
+            });
+            m_window->checkDBUpdate();
+            QVERIFY(m_people->finished());
+            QVERIFY(m_window->isEnabled());
+            QCOMPARE(allRows(*m_database), before);
+            QCOMPARE(schemaOf(*m_database), schema);
+            start();
+        }
+    }
+
+    void nothingIsAskedWithoutReason_data()
+    {
+        addColumns<QString>("change");
+        addRow("same version", "UPDATE appconfig SET appvalue = '1.1' WHERE appkey = 'app_version'");
+        addRow("no version", "DELETE FROM appconfig WHERE appkey = 'app_version'");
+    }
+
+    void nothingIsAskedWithoutReason()
+    {
+        QFETCH(QString, change);
+        m_database->run(change);
+        m_window->checkDBUpdate();
+        QCOMPARE(m_people->surprises(), QStringList());
+    }
+
+    void doubleCodesAreToldWithTheServersWords()
+    {
+        m_database->run(
+            "INSERT INTO supplier (kode, nama, alamat, telp, email, version) VALUES ('S1', 'Twin', '', '', '', "
+            "1)");
+        update([](QWizard* wizard) {
+            QTRY_VERIFY_WITH_TIMEOUT(hasEnded(wizard), longEnough);
+            const QStringList summary = statusOf(wizard).mid(statusOf(wizard).size() - 4, 3);
+            QCOMPARE(summary.first(), QString("Failed steps: 2. The particulars are in the log file."));
+            QCOMPARE(summary.last(), QString("- supplier error: ERROR: could not create unique index "
+                                             "\"supplier_kode_key\" DETAIL: Key (kode)=(S1) is duplicated."));
+            press(wizard, QWizard::FinishButton);
+        });
+        QCOMPARE(version(), QString("1.1"));
+    }
+
+    void whoLeavesEarlyWaitsForTheEnd_data()
+    {
+        addColumns<int, bool>("button", "begun");
+        addRow("finished in the middle", int(QWizard::FinishButton), true);
+        addRow("finished before the work began", int(QWizard::FinishButton), false);
+        addRow("cancelled in the middle", int(QWizard::CancelButton), true);
+    }
+
+    void whoLeavesEarlyWaitsForTheEnd()
+    {
+        QFETCH(int, button);
+        QFETCH(bool, begun);
+        holdSuppliers();
+        update([&](QWizard* wizard) {
+            if (begun)
+                QTRY_VERIFY_WITH_TIMEOUT(isHeld(), longEnough);
+            press(wizard, QWizard::WizardButton(button));
+        });
+        QTRY_VERIFY_WITH_TIMEOUT(isHeld(), longEnough);
+        QVERIFY(!m_window->isEnabled());
+        QVERIFY(!m_window->close());
+        QVERIFY(m_people->lastText().startsWith("The database is being updated."));
+        m_window->checkDBUpdate();
+        QCOMPARE(m_people->surprises(), QStringList());
+        m_database->run("COMMIT");
+        QTRY_VERIFY_WITH_TIMEOUT(m_window->isEnabled(), longEnough);
+        QTRY_VERIFY(m_people->lastText().startsWith("The update of the database has ended. Please restart the app."));
+        QVERIFY(m_people->lastText().contains("permissions error:"));
+        QCOMPARE(version(), QString("1.1"));
+        QVERIFY(m_window->close());
+    }
+
+    void theProgramEndsOnlyAfterTheUpdate()
+    {
+        holdSuppliers();
+        update([this](QWizard* wizard) {
+            QTRY_VERIFY_WITH_TIMEOUT(isHeld(), longEnough);
+            press(wizard, QWizard::FinishButton);
+        });
+        QTimer::singleShot(0, this, [this] {
+            m_database->run("COMMIT");
+            QCoreApplication::quit();
+        });
+        QApplication::exec();
+        QCOMPARE(version(), QString("1.1"));
+    }
+
+    void aBrokenConnectionIsToldAndTheUpdateOfferedAgain()
+    {
+        holdSuppliers();
+        update([this](QWizard* wizard) {
+            QTRY_VERIFY_WITH_TIMEOUT(isHeld(), longEnough);
+            m_database->killConnections();
+            m_database->run("COMMIT");
+            QTRY_VERIFY_WITH_TIMEOUT(hasEnded(wizard), longEnough);
+            const QString told = statusOf(wizard).join('\n');
+            QVERIFY(told.contains("supplier error:"));
+            QVERIFY(told.contains("The connection to the database was lost on the way"));
+            press(wizard, QWizard::FinishButton);
+        });
+        QCOMPARE(version(), QString("1.0"));
+        start();
+        update([](QWizard* wizard) {
+            QTRY_VERIFY_WITH_TIMEOUT(hasEnded(wizard), longEnough);
+            press(wizard, QWizard::FinishButton);
+        });
+        QCOMPARE(version(), QString("1.1"));
+        QCOMPARE(missing(m_newSchema, schemaOf(*m_database)).size(), 2);
+    }
 
 private:
     [[nodiscard]] QString version() const
     {
         return m_database->value("SELECT appvalue FROM appconfig WHERE appkey = 'app_version'").toString();
     }
-    void start();
+    void start()
+    {
+        QVERIFY(m_database->open());
+        m_window = std::make_unique<MainWindow>();
+        m_window->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    }
+
     /** Opens the wizard, and works on its second page. */
-    void update(const std::function<void(QWizard*)>& work);
+    void update(const std::function<void(QWizard*)>& work)
+    {
+        m_people->expect<AppDBUpdaterWizard>([work](QWizard* wizard) {
+            press(wizard, QWizard::NextButton);
+            work(wizard);
+        });
+        m_window->checkDBUpdate();
+        QVERIFY(m_people->finished());
+    }
+
     /** Another workstation is in the middle of a supplier's record; the update comes to a stand there. */
     void holdSuppliers() { m_database->run("BEGIN; LOCK TABLE supplier IN ACCESS EXCLUSIVE MODE"); }
     [[nodiscard]] bool isHeld() const
@@ -78,229 +288,6 @@ private:
     std::unique_ptr<MainWindow> m_window;
     QSet<QString> m_newSchema;
 };
-
-void TestDatabaseUpdater::init()
-{
-    m_database = std::make_unique<TestDatabase>();
-    m_newSchema = schemaOf(*m_database);
-    takeBackToVersion10(*m_database);
-    loginAsAdmin();
-    AppContext::instance()->setShowDashboard(false);
-    m_people = std::make_unique<ModalDriver>();
-    start();
-}
-
-void TestDatabaseUpdater::cleanup()
-{
-    m_window.reset();
-    m_people.reset();
-    m_database.reset();
-}
-
-void TestDatabaseUpdater::start()
-{
-    QVERIFY(m_database->open());
-    m_window = std::make_unique<MainWindow>();
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
-}
-
-void TestDatabaseUpdater::update(const std::function<void(QWizard*)>& work)
-{
-    m_people->expect<AppDBUpdaterWizard>([work](QWizard* wizard) {
-        press(wizard, QWizard::NextButton);
-        work(wizard);
-    });
-    m_window->checkDBUpdate();
-    QVERIFY(m_people->finished());
-}
-
-void TestDatabaseUpdater::theQuestionComesByItselfAndTheOldDatabaseBecomesANewOne()
-{
-    const auto before = allRows(*m_database);
-    m_window->openTab("TabPesananMasuk");
-    const auto* pages = m_window->findChild<QTabWidget*>("tabWidget");
-    QStringList told;
-    m_people->expect<AppDBUpdaterWizard>([&](QWizard* wizard) {
-        QCOMPARE(wizard->windowTitle(), QString("ZavelPOS DB Updater Wizard"));
-        QCOMPARE(wizard->currentPage()->title(), QString("Update DB"));
-        QCOMPARE(pages->count(), 1);
-        press(wizard, QWizard::NextButton);
-        QCOMPARE(wizard->currentPage()->title(), QString("Installing..."));
-        QCOMPARE(wizard->currentPage()->subTitle(), QString("Please wait until the installation completed."));
-        // The kitchen's page reads the orders by itself.
-        QCOMPARE(pages->count(), 0);
-        QTRY_VERIFY_WITH_TIMEOUT(hasEnded(wizard), longEnough);
-        QVERIFY(!wizard->button(QWizard::BackButton)->isEnabled());
-        told = statusOf(wizard);
-        press(wizard, QWizard::FinishButton);
-    });
-    QTRY_VERIFY_WITH_TIMEOUT(told.size() > 10 && !QApplication::activeModalWidget(), longEnough);
-    QVERIFY(m_people->finished());
-    QVERIFY(m_window->isEnabled());
-    QCOMPARE(told.first(), QString("[0%] Initializing..."));
-    QVERIFY(told.contains("[25%] supplier installed"));
-    QCOMPARE(told.filter(" error:").size(), 2);
-    QCOMPARE(told.at(told.size() - 2), QString("- permissions error: Every update tells this one; nothing is wrong."));
-
-    // Lines of orders and purchases keep their older constraints.
-    QStringList gone = missing(m_newSchema, schemaOf(*m_database));
-    QCOMPARE(gone.size(), 2);
-    QCOMPARE(gone.filter("detail_id_fkey").size() + gone.filter("purchase_order_id_fkey").size(), 2);
-    QCOMPARE(missing(schemaOf(*m_database), m_newSchema), QStringList());
-    QCOMPARE(m_database->value("SELECT string_agg(no, ', ') FROM acquisition WHERE po_id IS NULL").toString(),
-             QString("NB1"));
-    QMap<QString, int> lost;
-    QMap<QString, int> gained;
-    const auto after = allRows(*m_database);
-    for (auto table = before.begin(); table != before.end(); ++table) {
-        if (const auto rows = missing(table.value(), after[table.key()]); !rows.isEmpty())
-            lost[table.key()] = rows.size();
-        if (const auto rows = missing(after[table.key()], table.value()); !rows.isEmpty())
-            gained[table.key()] = rows.size();
-    }
-    QCOMPARE(lost, (QMap<QString, int>{{"acquisition", 1}, {"appconfig", 1}}));
-    QCOMPARE(gained, (QMap<QString, int>{
-                         {"access", 2}, {"acquisition", 1}, {"appconfig", 1}, {"business", 1}, {"permissions", 2}}));
-    QCOMPARE(m_database
-                 ->value("SELECT string_agg(group_id || ' ' || grant_type, ', ') FROM access JOIN permissions "
-                         "ON permissions.id = permission_id WHERE permission_name IN ('Add table', 'Manage "
-                         "unit')")
-                 .toString(),
-             QString("1 2, 1 2"));
-    QCOMPARE(version(), QString("1.1"));
-    start();
-    m_window->checkDBUpdate();
-    QCOMPARE(m_people->surprises(), QStringList());
-}
-
-void TestDatabaseUpdater::cancellingLeavesTheDatabaseAsItWas_data()
-{
-    QTest::addColumn<bool>("onSecondPage");
-    QTest::newRow("on the first page") << false;
-    QTest::newRow("before the work begins") << true;
-}
-
-void TestDatabaseUpdater::cancellingLeavesTheDatabaseAsItWas()
-{
-    QFETCH(bool, onSecondPage);
-    const auto before = allRows(*m_database);
-    const auto schema = schemaOf(*m_database);
-    for (int round = 0; round < 2; ++round) {
-        m_people->expect<AppDBUpdaterWizard>([&](QWizard* wizard) {
-            if (onSecondPage)
-                press(wizard, QWizard::NextButton);
-            press(wizard, QWizard::CancelButton);
-        });
-        m_window->checkDBUpdate();
-        QVERIFY(m_people->finished());
-        QVERIFY(m_window->isEnabled());
-        QCOMPARE(allRows(*m_database), before);
-        QCOMPARE(schemaOf(*m_database), schema);
-        start();
-    }
-}
-
-void TestDatabaseUpdater::nothingIsAskedWithoutReason_data()
-{
-    QTest::addColumn<QString>("change");
-    QTest::newRow("same version") << "UPDATE appconfig SET appvalue = '1.1' WHERE appkey = 'app_version'";
-    QTest::newRow("no version") << "DELETE FROM appconfig WHERE appkey = 'app_version'";
-}
-
-void TestDatabaseUpdater::nothingIsAskedWithoutReason()
-{
-    QFETCH(QString, change);
-    m_database->run(change);
-    m_window->checkDBUpdate();
-    QCOMPARE(m_people->surprises(), QStringList());
-}
-
-void TestDatabaseUpdater::doubleCodesAreToldWithTheServersWords()
-{
-    m_database->run("INSERT INTO supplier (kode, nama, alamat, telp, email, version) VALUES ('S1', 'Twin', '', '', '', "
-                    "1)");
-    update([](QWizard* wizard) {
-        QTRY_VERIFY_WITH_TIMEOUT(hasEnded(wizard), longEnough);
-        const QStringList summary = statusOf(wizard).mid(statusOf(wizard).size() - 4, 3);
-        QCOMPARE(summary.first(), QString("Failed steps: 2. The particulars are in the log file."));
-        QCOMPARE(summary.last(), QString("- supplier error: ERROR: could not create unique index "
-                                         "\"supplier_kode_key\" DETAIL: Key (kode)=(S1) is duplicated."));
-        press(wizard, QWizard::FinishButton);
-    });
-    QCOMPARE(version(), QString("1.1"));
-}
-
-void TestDatabaseUpdater::whoLeavesEarlyWaitsForTheEnd_data()
-{
-    QTest::addColumn<int>("button");
-    QTest::addColumn<bool>("begun");
-    QTest::newRow("finished in the middle") << int(QWizard::FinishButton) << true;
-    QTest::newRow("finished before the work began") << int(QWizard::FinishButton) << false;
-    QTest::newRow("cancelled in the middle") << int(QWizard::CancelButton) << true;
-}
-
-void TestDatabaseUpdater::whoLeavesEarlyWaitsForTheEnd()
-{
-    QFETCH(int, button);
-    QFETCH(bool, begun);
-    holdSuppliers();
-    update([&](QWizard* wizard) {
-        if (begun)
-            QTRY_VERIFY_WITH_TIMEOUT(isHeld(), longEnough);
-        press(wizard, QWizard::WizardButton(button));
-    });
-    QTRY_VERIFY_WITH_TIMEOUT(isHeld(), longEnough);
-    QVERIFY(!m_window->isEnabled());
-    QVERIFY(!m_window->close());
-    QVERIFY(m_people->lastText().startsWith("The database is being updated."));
-    m_window->checkDBUpdate();
-    QCOMPARE(m_people->surprises(), QStringList());
-    m_database->run("COMMIT");
-    QTRY_VERIFY_WITH_TIMEOUT(m_window->isEnabled(), longEnough);
-    QTRY_VERIFY(m_people->lastText().startsWith("The update of the database has ended. Please restart the app."));
-    QVERIFY(m_people->lastText().contains("permissions error:"));
-    QCOMPARE(version(), QString("1.1"));
-    QVERIFY(m_window->close());
-}
-
-void TestDatabaseUpdater::theProgramEndsOnlyAfterTheUpdate()
-{
-    holdSuppliers();
-    update([this](QWizard* wizard) {
-        QTRY_VERIFY_WITH_TIMEOUT(isHeld(), longEnough);
-        press(wizard, QWizard::FinishButton);
-    });
-    QTimer::singleShot(0, this, [this] {
-        m_database->run("COMMIT");
-        QCoreApplication::quit();
-    });
-    QApplication::exec();
-    QCOMPARE(version(), QString("1.1"));
-}
-
-void TestDatabaseUpdater::aBrokenConnectionIsToldAndTheUpdateOfferedAgain()
-{
-    holdSuppliers();
-    update([this](QWizard* wizard) {
-        QTRY_VERIFY_WITH_TIMEOUT(isHeld(), longEnough);
-        m_database->killConnections();
-        m_database->run("COMMIT");
-        QTRY_VERIFY_WITH_TIMEOUT(hasEnded(wizard), longEnough);
-        const QString told = statusOf(wizard).join('\n');
-        QVERIFY(told.contains("supplier error:"));
-        QVERIFY(told.contains("The connection to the database was lost on the way"));
-        press(wizard, QWizard::FinishButton);
-    });
-    QCOMPARE(version(), QString("1.0"));
-    start();
-    update([](QWizard* wizard) {
-        QTRY_VERIFY_WITH_TIMEOUT(hasEnded(wizard), longEnough);
-        press(wizard, QWizard::FinishButton);
-    });
-    QCOMPARE(version(), QString("1.1"));
-    QCOMPARE(missing(m_newSchema, schemaOf(*m_database)).size(), 2);
-}
 
 QTEST_MAIN(TestDatabaseUpdater)
 #include "tst_database_updater.moc"

@@ -1,6 +1,7 @@
 #include "app/context/AppContext.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "support/ModalDriver.h"
+#include "support/Rows.h"
 #include "support/SalesRows.h"
 #include "support/ShopRows.h"
 #include "support/TestDatabase.h"
@@ -50,32 +51,349 @@ class TestFastFood : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-    void aSaleIsKeyedInAndPaidByTheKeyboardAlone();
-    void theMoneyDecidesWhereTheSaleStands_data();
-    void theMoneyDecidesWhereTheSaleStands();
-    void aSaveThatFailsKeepsWhatWasTyped();
-    void anEditKeepsTheNumberAndReplacesTheLines();
-    void anEditThatSomebodyElseWasFasterWithIsTold();
-    void theListIsNarrowedByDayStatusAndWaitress();
-    void aDeletedSaleLeavesNothing();
-    void nothingHappensWithoutTheRight_data();
-    void nothingHappensWithoutTheRight();
+    void init()
+    {
+        m_spool = std::make_unique<QTemporaryDir>();
+        qputenv("ZAVEL_SPOOL_DIR", QFile::encodeName(m_spool->path()));
+        m_database = std::make_unique<TestDatabase>();
+        AppContext::instance()->setLocale("id_ID");
+        insertShop(*m_database);
+        insertSeller(*m_database, 1, "admin");
+        loginAsAdmin();
+        m_database->run("INSERT INTO bank (kode, nama, account_type, active, version) "
+                        "VALUES ('1010', 'Cash on Hand', 1, true, 1)");
+        m_database->run("UPDATE item SET harga_jual_lokal_amount = 25000");
+        m_database->run(
+            "INSERT INTO item (kode, item_type, is_group, nama, jenis, satuan, harga_beli_currency, "
+            "harga_beli_amount, harga_jual_lokal_currency, harga_jual_lokal_amount, sales_acct_code, "
+            "inventory_acct_code, cost_of_sales_acct_code, version) SELECT 'TEA', 2, false, 'Iced tea', jenis, "
+            "satuan, 'Rp', 1, 'Rp', 5000, '1-100', '1-100', '1-100', 1 FROM item");
+        m_people = std::make_unique<ModalDriver>();
+    }
+
+    void cleanup()
+    {
+        m_page.reset();
+        m_people.reset();
+        service<BusinessPenjualan>("Sales")->clearErrors();
+        m_database.reset();
+        qunsetenv("ZAVEL_SPOOL_DIR");
+    }
+
+    // --- selling -----------------------------------------------------------------------------------------------------
+
+    void aSaleIsKeyedInAndPaidByTheKeyboardAlone()
+    {
+        insertSale(*m_database, {"OLD", "TRF", 100, 100, 0, 1, QDate::currentDate()});
+        m_database->run("UPDATE member SET discount_percentage = 10, expired_date = current_date");
+        show();
+        m_people->expect<DialogFastFood>([this](DialogFastFood* form) {
+            QCOMPARE(form->windowTitle(), QString("Fast Food Form"));
+            QCOMPARE(form->focusWidget()->objectName(), QString("btnAdd"));
+            QCOMPARE(shown(form, "txtCashAccount"), QString("1010"));
+            QCOMPARE(form->findChild<QDateEdit*>("datePay")->date(), QDate::currentDate());
+            QCOMPARE(form->findChild<QLabel*>("lblInvoiceTotal")->text(), QString("Total Invoice :"));
+            type(form, "txtEmployee", "E1");
+            type(form, "txtMember", "M1");
+            type(form, "txtNamaPelanggan", QString(60, 'n'));
+            keyInTheFood(form, [](DialogFastFood* same) {
+                // The last item is in: what is typed now is the money.
+                QCOMPARE(same->focusWidget()->objectName(), QString("txtPaid"));
+                QCOMPARE(shown(same, "txtGrandTotal"), QString("55.000,00"));
+                QCOMPARE(shown(same, "txtNetDue"), QString("-55.000,00"));
+                const QAbstractItemModel* lines = same->findChild<QTableView*>("tblMenu")->model();
+                QCOMPARE(lines->index(1, TableModelFastFoodDetail::Status).data().toString(), QString("None"));
+                QTest::keyClick(same, Qt::Key_F9);
+                QTest::keyClicks(same->focusWidget(), "60000");
+                QCOMPARE(shown(same, "txtNetDue"), QString("5.000,00"));
+                QTest::keyClick(same->focusWidget(), Qt::Key_Return);
+            });
+        });
+        m_people->answer(QMessageBox::Yes);
+        press(Qt::Key_F12);
+        QTRY_COMPARE(slips().size(), 1);
+        QVERIFY(m_people->finished());
+        QCOMPARE(m_people->texts(), QStringList(printQuestion));
+        QCOMPARE(m_people->lastTitle(), QString("Question"));
+        // The new sale stands on top, and the next one is a key away.
+        QTRY_COMPARE(column(Column::InvoiceNo), (QStringList{"TRF-0007", "OLD"}));
+        QCOMPARE(column(Column::Menu).first(), QString("Iced tea, Rice"));
+        QCOMPARE(column(Column::Waitress).first(), QString("Ann"));
+        QCOMPARE(column(Column::Status).first(), QString("Fully Paid"));
+        QCOMPARE(m_page->findChild<QLabel*>("lblCount")->text(), QString("2 Items"));
+        QCOMPARE(m_page->focusWidget(), m_grid);
+        QVERIFY(stored("invoice_type, member_id, employee_id, acct_code").endsWith(",TRF 1 1 1010"));
+        QVERIFY(stored("pemesan").endsWith(',' + QString(50, 'n')));
+        QVERIFY(stored("member_id, employee_id, pemesan", "invoice_fast_food").endsWith(",1 1 " + QString(60, 'n')));
+        QCOMPARE(m_database->value("SELECT count(*) FROM makan_ditempat").toInt(), 0);
+    }
+
+    void theMoneyDecidesWhereTheSaleStands_data()
+    {
+        addColumns<QString, QString, QString, QString>("paid", "credit", "figures", "change");
+        const auto row = [](const char* name, const char* paid, const char* credit, const char* figures,
+                            const char* change) { addRow(name, paid, credit, figures, change); };
+        row("nothing paid", "", "", "2 0 0 -55000", "Less : Rp55.000");
+        row("a part", "20000", "", "3 20000 0 -35000", "Less : Rp35.000");
+        row("the sum", "55000", "", "1 55000 0 0", "Change : Rp0");
+        row("a larger note", "100000", "", "1 100000 0 45000", "Change : Rp45.000");
+        row("on credit", "", "55000", "1 0 55000 0", "Change : Rp0");
+    }
+
+    void theMoneyDecidesWhereTheSaleStands()
+    {
+        QFETCH(QString, paid);
+        QFETCH(QString, credit);
+        QFETCH(QString, figures);
+        QFETCH(QString, change);
+        show();
+        const auto* shownChange = m_page->findChild<QLabel*>("lblChange");
+        QVERIFY(!shownChange->isVisible());
+        m_people->answer(QMessageBox::No);
+        sell([&](DialogFastFood* form) {
+            QTest::keyClicks(form->focusWidget(), paid);
+            QTest::keyClick(form, Qt::Key_F10);
+            QTest::keyClicks(form->focusWidget(), credit);
+            QTest::keyClick(form->focusWidget(), Qt::Key_Return);
+        });
+        QTRY_COMPARE(column(Column::InvoiceNo), QStringList("TRF-0007"));
+        // The counter stores the figure that it shows: what is short is negative.
+        QCOMPARE(stored("status, amount_paid_amount, other_payment_amount, net_due_amount"), figures);
+        QCOMPARE(slips(), QStringList());
+        // The coins are still to be counted when the form has gone.
+        QVERIFY(shownChange->isVisible());
+        QCOMPARE(shownChange->text(), change);
+        m_people->expect<DialogFastFood>([shownChange](DialogFastFood* form) {
+            QVERIFY(!shownChange->isVisible());
+            QTest::keyClick(form, Qt::Key_Escape);
+        });
+        press(Qt::Key_F12);
+        QTRY_VERIFY(m_people->finished());
+    }
+
+    void aSaveThatFailsKeepsWhatWasTyped()
+    {
+        m_database->run("UPDATE keytable SET key_name = 'gone' WHERE key_name = 'TRF'");
+        show();
+        sell([this](DialogFastFood* form) {
+            QTest::keyClicks(form->focusWidget(), "60000");
+            QTest::keyClick(form->focusWidget(), Qt::Key_Return);
+            QVERIFY(form->isVisible());
+            QCOMPARE(shown(form, "txtPaid"), QString("60.000,00"));
+            QCOMPARE(form->findChild<QTableView*>("tblMenu")->model()->rowCount(), 2);
+            QCOMPARE(stored("id") + stored("id", "invoice_fast_food") + stored("id", "invoice_detail"), QString());
+            m_database->run("UPDATE keytable SET key_name = 'TRF' WHERE key_name = 'gone'");
+            m_people->answer(QMessageBox::No);
+            QTest::keyClick(form->focusWidget(), Qt::Key_Return);
+        });
+        QTRY_COMPARE(column(Column::InvoiceNo), QStringList("TRF-0007"));
+        QCOMPARE(m_people->boxes().size(), 2);
+        QCOMPARE(m_people->boxes().first().title, QString("Error"));
+        QVERIFY2(m_people->boxes().first().text.startsWith("error: insert fast food invoice failed"),
+                 qPrintable(m_people->boxes().first().text));
+        QCOMPARE(stored("qty", "invoice_detail"), QString("1,2"));
+    }
+
+    // --- what was sold -----------------------------------------------------------------------------------------------
+
+    void anEditKeepsTheNumberAndReplacesTheLines()
+    {
+        insertSale(*m_database, {"F1", "TRF", 100, 40, 0, 3, QDate::currentDate(), "", 1, 1, 1, 1});
+        m_database->run("UPDATE invoice_fast_food SET pemesan = 'Bob'");
+        show();
+        QCOMPARE(column(Column::Guest), QStringList("Bob"));
+        m_people->expect<DialogFastFood>([this](DialogFastFood* form) {
+            QCOMPARE(shown(form, "txtKode"), QString("F1"));
+            QCOMPARE(shown(form, "txtMember") + shown(form, "txtAgent") + shown(form, "txtEmployee"),
+                     QString("M1A1E1"));
+            QCOMPARE(shown(form, "txtNamaPelanggan"), QString("Bob"));
+            QCOMPARE(shown(form, "txtPaid"), QString("40,00"));
+            QVERIFY(!form->findChild<QDateEdit*>("datePay")->isEnabled());
+            form->findChild<QLineEdit*>("txtMember")->clear();
+            expectRound<DialogSelectFastFoodMenu>("TEA", "2", form, [](DialogFastFood* same) {
+                QCOMPARE(shown(same, "txtGrandTotal"), QString("10.100,00"));
+                QTest::keyClicks(same->focusWidget(), "10100");
+                QTest::keyClick(same->focusWidget(), Qt::Key_Return);
+            });
+        });
+        press(Qt::Key_F2);
+        QTRY_COMPARE(column(Column::Status), QStringList("Fully Paid"));
+        // A bill that was printed once is not asked for again.
+        QCOMPARE(m_people->texts(), QStringList());
+        QCOMPARE(stored("no, version, net_due_amount, member_id"), QString("F1 2 0"));
+        QCOMPARE(stored("version, agent_id, pemesan, member_id", "invoice_fast_food"), QString("2 1 Bob"));
+        QCOMPARE(stored("qty, total_amount", "invoice_detail"), QString("1 100,2 10000"));
+        QVERIFY(m_database->value("SELECT min(id) FROM invoice_detail").toInt() > 1);
+    }
+
+    void anEditThatSomebodyElseWasFasterWithIsTold()
+    {
+        insertSale(*m_database, {"F1", "TRF", 100, 40, 0, 3, QDate::currentDate()});
+        show();
+        m_people->expect<DialogFastFood>([this](DialogFastFood* form) {
+            m_database->run("UPDATE invoice SET version = 9");
+            bringToFront(form);
+            type(form, "txtPaid", "70");
+            QTest::keyClick(form->focusWidget(), Qt::Key_Return);
+            QVERIFY(form->isVisible());
+            QCOMPARE(shown(form, "txtNetDue"), QString("-30,00"));
+            QTest::keyClick(form, Qt::Key_Escape);
+        });
+        press(Qt::Key_F2);
+        QTRY_VERIFY(m_people->finished() && m_people->boxes().size() == 1);
+        QVERIFY2(m_people->lastText().startsWith("error: insert fast food invoice failed"),
+                 qPrintable(m_people->lastText()));
+        QCOMPARE(stored("amount_paid_amount"), QString("40"));
+        QCOMPARE(stored("id", "invoice_detail"), QString("1"));
+        m_database->run("TRUNCATE invoice CASCADE");
+        press(Qt::Key_F2);
+        QTRY_COMPARE(m_people->lastText(), QString("Can not find entity #1"));
+    }
+
+    void theListIsNarrowedByDayStatusAndWaitress()
+    {
+        const QDate today = QDate::currentDate();
+        insertSale(*m_database, {"YESTERDAY", "TRF", 100, 100, 0, 1, today.addDays(-1)});
+        insertSale(*m_database, {"FULL", "TRF", 100, 100, 0, 1, today, "", 1, 0, 1});
+        insertSale(*m_database, {"PART", "TRF", 100, 40, 0, 3, today});
+        insertSale(*m_database, {"NONE", "TRF", 100, 0, 0, 2, today});
+        insertSale(*m_database, {"DINE", "TRD", 100, 0, 0, 2, today});
+        show();
+        QCOMPARE(column(Column::InvoiceNo), (QStringList{"NONE", "PART", "FULL"}));
+        QCOMPARE(column(Column::AmountPaid), (QStringList{"Rp0,00", "Rp40,00", "Rp100,00"}));
+        auto* status = m_page->findChild<QComboBox*>("ddlStatus");
+        const auto found = [&](int row, const QString& waitress) {
+            status->setCurrentIndex(row);
+            m_page->findChild<QLineEdit*>("txtEmployee")->setText(waitress);
+            QTest::mouseClick(m_page->findChild<QPushButton*>("btnSearch"), Qt::LeftButton);
+            return column(Column::InvoiceNo).join(' ');
+        };
+        QCOMPARE(found(1, ""), QString("FULL"));
+        QCOMPARE(found(2, ""), QString("PART"));
+        QCOMPARE(found(3, ""), QString("NONE"));
+        QCOMPARE(found(0, "e1"), QString("FULL"));
+        QCOMPARE(found(0, "E"), QString());
+        QCOMPARE(found(3, "E1"), QString());
+        m_page->findChild<QDateEdit*>("dateFrom")->setDate(today.addDays(-1));
+        const StatementCount statements;
+        QCOMPARE(found(0, ""), QString("NONE PART FULL YESTERDAY"));
+        QVERIFY2(statements.count() <= 3, qPrintable(QString::number(statements.count())));
+        QCOMPARE(m_people->texts(), QStringList());
+    }
+
+    void aDeletedSaleLeavesNothing()
+    {
+        insertSale(*m_database, {"F1", "TRF", 100, 40, 0, 3, QDate::currentDate()});
+        show();
+        m_people->answer(QMessageBox::No);
+        press(Qt::Key_Delete);
+        QTRY_COMPARE(m_people->texts(), QStringList("Are you sure, you want to delete this invoice: F1 ?"));
+        QCOMPARE(m_people->lastTitle(), QString("Delete"));
+        QCOMPARE(stored("no"), QString("F1"));
+        m_people->answer(QMessageBox::Yes);
+        press(Qt::Key_Delete);
+        QTRY_COMPARE(column(Column::InvoiceNo), QStringList());
+        QCOMPARE(stored("id") + stored("id", "invoice_fast_food") + stored("id", "invoice_detail"), QString());
+    }
+
+    void nothingHappensWithoutTheRight_data()
+    {
+        using Grants = QList<QPair<int, int>>;
+        const int save = BusinessPenjualan::SAVE_INVOICE;
+        const int change = BusinessPenjualan::UBAH_PESANAN;
+        const int ownRecords = 1;
+        addColumns<int, Grants>("key", "grants");
+        addRow("add", int(Qt::Key_F12), Grants{});
+        addRow("edit without the right to take money", int(Qt::Key_F2), Grants{{change, 2}});
+        addRow("edit without the right to change", int(Qt::Key_F2), Grants{{save, 2}});
+        addRow("edit what another sold", int(Qt::Key_F2), Grants{{save, 2}, {change, ownRecords}});
+        addRow("delete what another sold", int(Qt::Key_Delete), Grants{{BusinessPenjualan::DELETE_SALES, ownRecords}});
+    }
+
+    void nothingHappensWithoutTheRight()
+    {
+        using Grants = QList<QPair<int, int>>;
+        QFETCH(int, key);
+        QFETCH(Grants, grants);
+        insertSale(*m_database, {"F1", "TRF", 100, 40, 0, 3, QDate::currentDate()});
+        loginWithRights("Sales", grants);
+        show();
+        press(static_cast<Qt::Key>(key));
+        QTRY_COMPARE(m_people->boxes().size(), 1);
+        QVERIFY2(m_people->lastText().startsWith("You don't have access."), qPrintable(m_people->lastText()));
+        QVERIFY(m_people->finished());
+        QCOMPARE(stored("no, version"), QString("F1 1"));
+    }
 
 private:
     using FormStep = std::function<void(DialogFastFood*)>;
 
-    void show();
-    void press(Qt::Key key);
+    void show()
+    {
+        m_page = std::make_unique<TabFastFood>();
+        m_page->resize(1100, 600);
+        m_page->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_page.get()));
+        m_grid = m_page->findChild<QTableView*>("tblMeja");
+    }
+
+    void press(Qt::Key key)
+    {
+        bringToFront(m_page.get());
+        m_grid->selectRow(0);
+        QTest::keyClick(m_grid, key);
+    }
+
     /** Keys in one tea and two rice at the form, ends the rounds and goes on with the form. */
-    void keyInTheFood(DialogFastFood* form, const FormStep& then);
+    void keyInTheFood(DialogFastFood* form, const FormStep& then)
+    {
+        expectRound<DialogSelectFastFoodMenu>("tea", "1", form, [this, then](DialogFastFood* same) {
+            expectRound<DialogSelectFastFoodInventory>("rice", "2", same, then);
+        });
+    }
+
     template <class Picker>
-    void expectRound(const QString& code, const QString& qty, DialogFastFood* form, const FormStep& then);
+    void expectRound(const QString& code, const QString& qty, DialogFastFood* form, const FormStep& then)
+    {
+        m_people->expect<Picker>([code, qty](Picker* picker) {
+            type(picker, "txtCode", code);
+            QTest::keyClick(picker->focusWidget(), Qt::Key_Return);
+            QTest::keyClicks(picker->focusWidget(), qty);
+            QTest::keyClick(picker->focusWidget(), Qt::Key_Return);
+        });
+        m_people->expect<Picker>([this, then](Picker* picker) {
+            m_people->expect<DialogFastFood>([then](DialogFastFood* same) {
+                bringToFront(same);
+                then(same);
+            });
+            QTest::keyClick(picker, Qt::Key_Escape);
+        });
+        bringToFront(form);
+        QTest::keyClick(form->focusWidget(),
+                        std::is_same<Picker, DialogSelectFastFoodMenu>::value ? Qt::Key_F12 : Qt::Key_F11);
+    }
+
     /** Takes a sale from the page up to the money. */
-    void sell(const FormStep& pay);
-    [[nodiscard]] QStringList column(Column column) const;
-    QString stored(const QString& columns, const QString& table = "invoice");
+    void sell(const FormStep& pay)
+    {
+        m_people->expect<DialogFastFood>([this, pay](DialogFastFood* form) { keyInTheFood(form, pay); });
+        press(Qt::Key_F12);
+    }
+
+    [[nodiscard]] QStringList column(Column column) const
+    {
+        QStringList texts;
+        for (int row = 0; row < m_grid->model()->rowCount(); ++row)
+            texts.append(m_grid->model()->index(row, column).data().toString());
+        return texts;
+    }
+
+    QString stored(const QString& columns, const QString& table = "invoice")
+    {
+        return m_database->value("SELECT string_agg(concat_ws(' ', " + columns + "), ',' ORDER BY id) FROM " + table)
+            .toString();
+    }
+
     [[nodiscard]] QStringList slips() const { return QDir(m_spool->path()).entryList({"*.slip"}, QDir::Files); }
 
     std::unique_ptr<QTemporaryDir> m_spool;
@@ -84,347 +402,6 @@ private:
     std::unique_ptr<TabFastFood> m_page;
     QTableView* m_grid = nullptr;
 };
-
-void TestFastFood::init()
-{
-    m_spool = std::make_unique<QTemporaryDir>();
-    qputenv("ZAVEL_SPOOL_DIR", QFile::encodeName(m_spool->path()));
-    m_database = std::make_unique<TestDatabase>();
-    AppContext::instance()->setLocale("id_ID");
-    insertShop(*m_database);
-    insertSeller(*m_database, 1, "admin");
-    loginAsAdmin();
-    m_database->run("INSERT INTO bank (kode, nama, account_type, active, version) "
-                    "VALUES ('1010', 'Cash on Hand', 1, true, 1)");
-    m_database->run("UPDATE item SET harga_jual_lokal_amount = 25000");
-    m_database->run("INSERT INTO item (kode, item_type, is_group, nama, jenis, satuan, harga_beli_currency, "
-                    "harga_beli_amount, harga_jual_lokal_currency, harga_jual_lokal_amount, sales_acct_code, "
-                    "inventory_acct_code, cost_of_sales_acct_code, version) SELECT 'TEA', 2, false, 'Iced tea', jenis, "
-                    "satuan, 'Rp', 1, 'Rp', 5000, '1-100', '1-100', '1-100', 1 FROM item");
-    m_people = std::make_unique<ModalDriver>();
-}
-
-void TestFastFood::cleanup()
-{
-    m_page.reset();
-    m_people.reset();
-    service<BusinessPenjualan>("Sales")->clearErrors();
-    m_database.reset();
-    qunsetenv("ZAVEL_SPOOL_DIR");
-}
-
-void TestFastFood::show()
-{
-    m_page = std::make_unique<TabFastFood>();
-    m_page->resize(1100, 600);
-    m_page->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_page.get()));
-    m_grid = m_page->findChild<QTableView*>("tblMeja");
-}
-
-void TestFastFood::press(Qt::Key key)
-{
-    bringToFront(m_page.get());
-    m_grid->selectRow(0);
-    QTest::keyClick(m_grid, key);
-}
-
-template <class Picker>
-void TestFastFood::expectRound(const QString& code, const QString& qty, DialogFastFood* form, const FormStep& then)
-{
-    m_people->expect<Picker>([code, qty](Picker* picker) {
-        type(picker, "txtCode", code);
-        QTest::keyClick(picker->focusWidget(), Qt::Key_Return);
-        QTest::keyClicks(picker->focusWidget(), qty);
-        QTest::keyClick(picker->focusWidget(), Qt::Key_Return);
-    });
-    m_people->expect<Picker>([this, then](Picker* picker) {
-        m_people->expect<DialogFastFood>([then](DialogFastFood* same) {
-            bringToFront(same);
-            then(same);
-        });
-        QTest::keyClick(picker, Qt::Key_Escape);
-    });
-    bringToFront(form);
-    QTest::keyClick(form->focusWidget(),
-                    std::is_same<Picker, DialogSelectFastFoodMenu>::value ? Qt::Key_F12 : Qt::Key_F11);
-}
-
-void TestFastFood::keyInTheFood(DialogFastFood* form, const FormStep& then)
-{
-    expectRound<DialogSelectFastFoodMenu>("tea", "1", form, [this, then](DialogFastFood* same) {
-        expectRound<DialogSelectFastFoodInventory>("rice", "2", same, then);
-    });
-}
-
-void TestFastFood::sell(const FormStep& pay)
-{
-    m_people->expect<DialogFastFood>([this, pay](DialogFastFood* form) { keyInTheFood(form, pay); });
-    press(Qt::Key_F12);
-}
-
-QStringList TestFastFood::column(Column column) const
-{
-    QStringList texts;
-    for (int row = 0; row < m_grid->model()->rowCount(); ++row)
-        texts.append(m_grid->model()->index(row, column).data().toString());
-    return texts;
-}
-
-QString TestFastFood::stored(const QString& columns, const QString& table)
-{
-    return m_database->value("SELECT string_agg(concat_ws(' ', " + columns + "), ',' ORDER BY id) FROM " + table)
-        .toString();
-}
-
-// --- selling -------------------------------------------------------------------------------------------------------
-
-void TestFastFood::aSaleIsKeyedInAndPaidByTheKeyboardAlone()
-{
-    insertSale(*m_database, {"OLD", "TRF", 100, 100, 0, 1, QDate::currentDate()});
-    m_database->run("UPDATE member SET discount_percentage = 10, expired_date = current_date");
-    show();
-    m_people->expect<DialogFastFood>([this](DialogFastFood* form) {
-        QCOMPARE(form->windowTitle(), QString("Fast Food Form"));
-        QCOMPARE(form->focusWidget()->objectName(), QString("btnAdd"));
-        QCOMPARE(shown(form, "txtCashAccount"), QString("1010"));
-        QCOMPARE(form->findChild<QDateEdit*>("datePay")->date(), QDate::currentDate());
-        QCOMPARE(form->findChild<QLabel*>("lblInvoiceTotal")->text(), QString("Total Invoice :"));
-        type(form, "txtEmployee", "E1");
-        type(form, "txtMember", "M1");
-        type(form, "txtNamaPelanggan", QString(60, 'n'));
-        keyInTheFood(form, [](DialogFastFood* same) {
-            // The last item is in: what is typed now is the money.
-            QCOMPARE(same->focusWidget()->objectName(), QString("txtPaid"));
-            QCOMPARE(shown(same, "txtGrandTotal"), QString("55.000,00"));
-            QCOMPARE(shown(same, "txtNetDue"), QString("-55.000,00"));
-            const QAbstractItemModel* lines = same->findChild<QTableView*>("tblMenu")->model();
-            QCOMPARE(lines->index(1, TableModelFastFoodDetail::Status).data().toString(), QString("None"));
-            QTest::keyClick(same, Qt::Key_F9);
-            QTest::keyClicks(same->focusWidget(), "60000");
-            QCOMPARE(shown(same, "txtNetDue"), QString("5.000,00"));
-            QTest::keyClick(same->focusWidget(), Qt::Key_Return);
-        });
-    });
-    m_people->answer(QMessageBox::Yes);
-    press(Qt::Key_F12);
-    QTRY_COMPARE(slips().size(), 1);
-    QVERIFY(m_people->finished());
-    QCOMPARE(m_people->texts(), QStringList(printQuestion));
-    QCOMPARE(m_people->lastTitle(), QString("Question"));
-    // The new sale stands on top, and the next one is a key away.
-    QTRY_COMPARE(column(Column::InvoiceNo), (QStringList{"TRF-0007", "OLD"}));
-    QCOMPARE(column(Column::Menu).first(), QString("Iced tea, Rice"));
-    QCOMPARE(column(Column::Waitress).first(), QString("Ann"));
-    QCOMPARE(column(Column::Status).first(), QString("Fully Paid"));
-    QCOMPARE(m_page->findChild<QLabel*>("lblCount")->text(), QString("2 Items"));
-    QCOMPARE(m_page->focusWidget(), m_grid);
-    QVERIFY(stored("invoice_type, member_id, employee_id, acct_code").endsWith(",TRF 1 1 1010"));
-    QVERIFY(stored("pemesan").endsWith(',' + QString(50, 'n')));
-    QVERIFY(stored("member_id, employee_id, pemesan", "invoice_fast_food").endsWith(",1 1 " + QString(60, 'n')));
-    QCOMPARE(m_database->value("SELECT count(*) FROM makan_ditempat").toInt(), 0);
-}
-
-void TestFastFood::theMoneyDecidesWhereTheSaleStands_data()
-{
-    QTest::addColumn<QString>("paid");
-    QTest::addColumn<QString>("credit");
-    QTest::addColumn<QString>("figures");
-    QTest::addColumn<QString>("change");
-    const auto row = [](const char* name, const char* paid, const char* credit, const char* figures,
-                        const char* change) { QTest::newRow(name) << paid << credit << figures << change; };
-    row("nothing paid", "", "", "2 0 0 -55000", "Less : Rp55.000");
-    row("a part", "20000", "", "3 20000 0 -35000", "Less : Rp35.000");
-    row("the sum", "55000", "", "1 55000 0 0", "Change : Rp0");
-    row("a larger note", "100000", "", "1 100000 0 45000", "Change : Rp45.000");
-    row("on credit", "", "55000", "1 0 55000 0", "Change : Rp0");
-}
-
-void TestFastFood::theMoneyDecidesWhereTheSaleStands()
-{
-    QFETCH(QString, paid);
-    QFETCH(QString, credit);
-    QFETCH(QString, figures);
-    QFETCH(QString, change);
-    show();
-    const auto* shownChange = m_page->findChild<QLabel*>("lblChange");
-    QVERIFY(!shownChange->isVisible());
-    m_people->answer(QMessageBox::No);
-    sell([&](DialogFastFood* form) {
-        QTest::keyClicks(form->focusWidget(), paid);
-        QTest::keyClick(form, Qt::Key_F10);
-        QTest::keyClicks(form->focusWidget(), credit);
-        QTest::keyClick(form->focusWidget(), Qt::Key_Return);
-    });
-    QTRY_COMPARE(column(Column::InvoiceNo), QStringList("TRF-0007"));
-    // The counter stores the figure that it shows: what is short is negative.
-    QCOMPARE(stored("status, amount_paid_amount, other_payment_amount, net_due_amount"), figures);
-    QCOMPARE(slips(), QStringList());
-    // The coins are still to be counted when the form has gone.
-    QVERIFY(shownChange->isVisible());
-    QCOMPARE(shownChange->text(), change);
-    m_people->expect<DialogFastFood>([shownChange](DialogFastFood* form) {
-        QVERIFY(!shownChange->isVisible());
-        QTest::keyClick(form, Qt::Key_Escape);
-    });
-    press(Qt::Key_F12);
-    QTRY_VERIFY(m_people->finished());
-}
-
-void TestFastFood::aSaveThatFailsKeepsWhatWasTyped()
-{
-    m_database->run("UPDATE keytable SET key_name = 'gone' WHERE key_name = 'TRF'");
-    show();
-    sell([this](DialogFastFood* form) {
-        QTest::keyClicks(form->focusWidget(), "60000");
-        QTest::keyClick(form->focusWidget(), Qt::Key_Return);
-        QVERIFY(form->isVisible());
-        QCOMPARE(shown(form, "txtPaid"), QString("60.000,00"));
-        QCOMPARE(form->findChild<QTableView*>("tblMenu")->model()->rowCount(), 2);
-        QCOMPARE(stored("id") + stored("id", "invoice_fast_food") + stored("id", "invoice_detail"), QString());
-        m_database->run("UPDATE keytable SET key_name = 'TRF' WHERE key_name = 'gone'");
-        m_people->answer(QMessageBox::No);
-        QTest::keyClick(form->focusWidget(), Qt::Key_Return);
-    });
-    QTRY_COMPARE(column(Column::InvoiceNo), QStringList("TRF-0007"));
-    QCOMPARE(m_people->boxes().size(), 2);
-    QCOMPARE(m_people->boxes().first().title, QString("Error"));
-    QVERIFY2(m_people->boxes().first().text.startsWith("error: insert fast food invoice failed"),
-             qPrintable(m_people->boxes().first().text));
-    QCOMPARE(stored("qty", "invoice_detail"), QString("1,2"));
-}
-
-// --- what was sold -------------------------------------------------------------------------------------------------
-
-void TestFastFood::anEditKeepsTheNumberAndReplacesTheLines()
-{
-    insertSale(*m_database, {"F1", "TRF", 100, 40, 0, 3, QDate::currentDate(), "", 1, 1, 1, 1});
-    m_database->run("UPDATE invoice_fast_food SET pemesan = 'Bob'");
-    show();
-    QCOMPARE(column(Column::Guest), QStringList("Bob"));
-    m_people->expect<DialogFastFood>([this](DialogFastFood* form) {
-        QCOMPARE(shown(form, "txtKode"), QString("F1"));
-        QCOMPARE(shown(form, "txtMember") + shown(form, "txtAgent") + shown(form, "txtEmployee"), QString("M1A1E1"));
-        QCOMPARE(shown(form, "txtNamaPelanggan"), QString("Bob"));
-        QCOMPARE(shown(form, "txtPaid"), QString("40,00"));
-        QVERIFY(!form->findChild<QDateEdit*>("datePay")->isEnabled());
-        form->findChild<QLineEdit*>("txtMember")->clear();
-        expectRound<DialogSelectFastFoodMenu>("TEA", "2", form, [](DialogFastFood* same) {
-            QCOMPARE(shown(same, "txtGrandTotal"), QString("10.100,00"));
-            QTest::keyClicks(same->focusWidget(), "10100");
-            QTest::keyClick(same->focusWidget(), Qt::Key_Return);
-        });
-    });
-    press(Qt::Key_F2);
-    QTRY_COMPARE(column(Column::Status), QStringList("Fully Paid"));
-    // A bill that was printed once is not asked for again.
-    QCOMPARE(m_people->texts(), QStringList());
-    QCOMPARE(stored("no, version, net_due_amount, member_id"), QString("F1 2 0"));
-    QCOMPARE(stored("version, agent_id, pemesan, member_id", "invoice_fast_food"), QString("2 1 Bob"));
-    QCOMPARE(stored("qty, total_amount", "invoice_detail"), QString("1 100,2 10000"));
-    QVERIFY(m_database->value("SELECT min(id) FROM invoice_detail").toInt() > 1);
-}
-
-void TestFastFood::anEditThatSomebodyElseWasFasterWithIsTold()
-{
-    insertSale(*m_database, {"F1", "TRF", 100, 40, 0, 3, QDate::currentDate()});
-    show();
-    m_people->expect<DialogFastFood>([this](DialogFastFood* form) {
-        m_database->run("UPDATE invoice SET version = 9");
-        bringToFront(form);
-        type(form, "txtPaid", "70");
-        QTest::keyClick(form->focusWidget(), Qt::Key_Return);
-        QVERIFY(form->isVisible());
-        QCOMPARE(shown(form, "txtNetDue"), QString("-30,00"));
-        QTest::keyClick(form, Qt::Key_Escape);
-    });
-    press(Qt::Key_F2);
-    QTRY_VERIFY(m_people->finished() && m_people->boxes().size() == 1);
-    QVERIFY2(m_people->lastText().startsWith("error: insert fast food invoice failed"),
-             qPrintable(m_people->lastText()));
-    QCOMPARE(stored("amount_paid_amount"), QString("40"));
-    QCOMPARE(stored("id", "invoice_detail"), QString("1"));
-    m_database->run("TRUNCATE invoice CASCADE");
-    press(Qt::Key_F2);
-    QTRY_COMPARE(m_people->lastText(), QString("Can not find entity #1"));
-}
-
-void TestFastFood::theListIsNarrowedByDayStatusAndWaitress()
-{
-    const QDate today = QDate::currentDate();
-    insertSale(*m_database, {"YESTERDAY", "TRF", 100, 100, 0, 1, today.addDays(-1)});
-    insertSale(*m_database, {"FULL", "TRF", 100, 100, 0, 1, today, "", 1, 0, 1});
-    insertSale(*m_database, {"PART", "TRF", 100, 40, 0, 3, today});
-    insertSale(*m_database, {"NONE", "TRF", 100, 0, 0, 2, today});
-    insertSale(*m_database, {"DINE", "TRD", 100, 0, 0, 2, today});
-    show();
-    QCOMPARE(column(Column::InvoiceNo), (QStringList{"NONE", "PART", "FULL"}));
-    QCOMPARE(column(Column::AmountPaid), (QStringList{"Rp0,00", "Rp40,00", "Rp100,00"}));
-    auto* status = m_page->findChild<QComboBox*>("ddlStatus");
-    const auto found = [&](int row, const QString& waitress) {
-        status->setCurrentIndex(row);
-        m_page->findChild<QLineEdit*>("txtEmployee")->setText(waitress);
-        QTest::mouseClick(m_page->findChild<QPushButton*>("btnSearch"), Qt::LeftButton);
-        return column(Column::InvoiceNo).join(' ');
-    };
-    QCOMPARE(found(1, ""), QString("FULL"));
-    QCOMPARE(found(2, ""), QString("PART"));
-    QCOMPARE(found(3, ""), QString("NONE"));
-    QCOMPARE(found(0, "e1"), QString("FULL"));
-    QCOMPARE(found(0, "E"), QString());
-    QCOMPARE(found(3, "E1"), QString());
-    m_page->findChild<QDateEdit*>("dateFrom")->setDate(today.addDays(-1));
-    const StatementCount statements;
-    QCOMPARE(found(0, ""), QString("NONE PART FULL YESTERDAY"));
-    QVERIFY2(statements.count() <= 3, qPrintable(QString::number(statements.count())));
-    QCOMPARE(m_people->texts(), QStringList());
-}
-
-void TestFastFood::aDeletedSaleLeavesNothing()
-{
-    insertSale(*m_database, {"F1", "TRF", 100, 40, 0, 3, QDate::currentDate()});
-    show();
-    m_people->answer(QMessageBox::No);
-    press(Qt::Key_Delete);
-    QTRY_COMPARE(m_people->texts(), QStringList("Are you sure, you want to delete this invoice: F1 ?"));
-    QCOMPARE(m_people->lastTitle(), QString("Delete"));
-    QCOMPARE(stored("no"), QString("F1"));
-    m_people->answer(QMessageBox::Yes);
-    press(Qt::Key_Delete);
-    QTRY_COMPARE(column(Column::InvoiceNo), QStringList());
-    QCOMPARE(stored("id") + stored("id", "invoice_fast_food") + stored("id", "invoice_detail"), QString());
-}
-
-void TestFastFood::nothingHappensWithoutTheRight_data()
-{
-    using Grants = QList<QPair<int, int>>;
-    const int save = BusinessPenjualan::SAVE_INVOICE;
-    const int change = BusinessPenjualan::UBAH_PESANAN;
-    const int ownRecords = 1;
-    QTest::addColumn<int>("key");
-    QTest::addColumn<Grants>("grants");
-    QTest::newRow("add") << int(Qt::Key_F12) << Grants{};
-    QTest::newRow("edit without the right to take money") << int(Qt::Key_F2) << Grants{{change, 2}};
-    QTest::newRow("edit without the right to change") << int(Qt::Key_F2) << Grants{{save, 2}};
-    QTest::newRow("edit what another sold") << int(Qt::Key_F2) << Grants{{save, 2}, {change, ownRecords}};
-    QTest::newRow("delete what another sold")
-        << int(Qt::Key_Delete) << Grants{{BusinessPenjualan::DELETE_SALES, ownRecords}};
-}
-
-void TestFastFood::nothingHappensWithoutTheRight()
-{
-    using Grants = QList<QPair<int, int>>;
-    QFETCH(int, key);
-    QFETCH(Grants, grants);
-    insertSale(*m_database, {"F1", "TRF", 100, 40, 0, 3, QDate::currentDate()});
-    loginWithRights("Sales", grants);
-    show();
-    press(static_cast<Qt::Key>(key));
-    QTRY_COMPARE(m_people->boxes().size(), 1);
-    QVERIFY2(m_people->lastText().startsWith("You don't have access."), qPrintable(m_people->lastText()));
-    QVERIFY(m_people->finished());
-    QCOMPARE(stored("no, version"), QString("F1 1"));
-}
 
 QTEST_MAIN(TestFastFood)
 #include "tst_fast_food.moc"

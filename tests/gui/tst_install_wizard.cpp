@@ -6,6 +6,7 @@
 #include "shell/database/wizard/AppInstallerWizard.h"
 #include "shell/database/wizard/LocalServers.h"
 #include "support/ModalDriver.h"
+#include "support/Rows.h"
 #include "support/TestCluster.h"
 #include "support/TestDatabase.h"
 #include "support/TestTemplate.h"
@@ -37,41 +38,442 @@ class TestInstallWizard : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void init();
-    void cleanup();
+    void initTestCase()
+    {
+        qputenv("XDG_DATA_HOME", m_home.path().toLocal8Bit());
+        m_backup = m_home.filePath("l'\u00e9t\u00e9 a.bak");
+        TestDatabase database;
+        database.run("INSERT INTO meja (kode, nama, createdby, version) VALUES ('m9', 'Sold at already', 1, 1)");
+        ConnectionSettings connection;
+        connection.host = TestDatabase::host();
+        connection.port = TestDatabase::port();
+        connection.user = TestDatabase::user();
+        connection.database = database.name();
+        ClientProcess dump;
+        dump.run(ClientPrograms::backup(connection, m_backup));
+        QVERIFY(dump.waitForFinished(30000) && dump.succeeded());
 
-    void theFreshInstallationIsOfferedFirst();
-    void anEmptyLineHoldsNext_data();
-    void anEmptyLineHoldsNext();
-    void aServerThatRefusesKeepsThePage_data();
-    void aServerThatRefusesKeepsThePage();
-    void aFreshDatabaseIsInstalledWhileTheWizardWaits();
-    void dataIsLostOnlyAfterAQuestion();
-    void anInstallationThatLosesTheServerClaimsNoSuccess();
-    void aBackupIsRestored_data();
-    void aBackupIsRestored();
-    void aBackupReplacesADatabaseOnlyAfterAQuestion();
-    void aDatabaseComesBackWhereNoNewOneCanBeMade();
-    void aDatabaseThatCanNotMakeWayStays_data();
-    void aDatabaseThatCanNotMakeWayStays();
-    void withoutTheClientProgramsNothingIsRestored();
-    void whatKeepsTheServerAwayIsHelped_data();
-    void whatKeepsTheServerAwayIsHelped();
-    void theServersOfThisMachineAreFound();
+        // One role alone is asked for its password.
+        TestCluster& cluster = TestCluster::instance();
+        cluster.exclusively([&cluster, &database] {
+            cluster.run("DROP ROLE IF EXISTS " + identifier(askedRole));
+            cluster.run("CREATE ROLE " + identifier(askedRole) + " SUPERUSER LOGIN PASSWORD " + literal(askedPassword));
+            const QString file = database.value("SHOW hba_file").toString();
+            const QString line = "all " + identifier(askedRole) + " scram-sha-256";
+            cluster.run(QString("COPY (SELECT %1) TO PROGRAM %2")
+                            .arg(literal("local " + line),
+                                 literal(QString("cat > %1.new; cat %1 >> %1.new; mv %1.new %1").arg(file))));
+            cluster.run("SELECT pg_reload_conf()");
+        });
+    }
+
+    void init()
+    {
+        m_database = std::make_unique<TestDatabase>(TestDatabase::Empty);
+        m_people = std::make_unique<ModalDriver>();
+        open();
+    }
+
+    void cleanup()
+    {
+        m_wizard.reset();
+        m_people.reset();
+        qunsetenv("ZAVEL_PG_BIN");
+        m_database.reset();
+        for (const QString& name : qAsConst(m_made))
+            TestCluster::instance().run("DROP DATABASE IF EXISTS " + identifier(name) + " WITH (FORCE)");
+        m_made.clear();
+        QFile::remove(ConnectionSettings::defaultPath());
+    }
+
+    void theFreshInstallationIsOfferedFirst()
+    {
+        QCOMPARE(m_wizard->windowTitle(), QString("ZavelPOS Installer Wizard"));
+        QCOMPARE(m_wizard->pageIds(), QList<int>({0, 2, 3, 4}));
+        QCOMPARE(m_wizard->currentPage()->title(), QString("Introduction"));
+        next();
+        QCOMPARE(m_wizard->currentId(), 2);
+        QTRY_VERIFY(qobject_cast<QLineEdit*>(QApplication::focusWidget()));
+        const QStringList offered{"localhost", "postgres", "", "ZavelPOS", "6666", "admin", ""};
+        const QStringList names{"hostname", "username", "password", "dbname", "dbport"};
+        for (int i = 0; i < names.size(); ++i)
+            QCOMPARE(m_wizard->field("dbserverfresh." + names.at(i)).toString(), offered.at(i));
+        QCOMPARE(m_wizard->field("admin.username").toString(), QString("admin"));
+
+        // Going back loses nothing.
+        m_wizard->setField("dbserverfresh.hostname", "till");
+        m_wizard->back();
+        next();
+        QCOMPARE(m_wizard->field("dbserverfresh.hostname").toString(), QString("till"));
+        button(QWizard::CancelButton)->click();
+        QCOMPARE(m_wizard->result(), int(QDialog::Rejected));
+        QVERIFY(!hasSettings());
+    }
+
+    void anEmptyLineHoldsNext_data()
+    {
+        addColumns<QString, QStringList>("group", "lines");
+        const QString fresh = "dbserverfresh";
+        const QString restore = "dbserverrestore";
+        addRow("fresh", fresh,
+               QStringList{fresh + ".hostname", fresh + ".username", fresh + ".password", fresh + ".dbname",
+                           fresh + ".dbport", "admin.username", "admin.password"});
+        addRow("restore", restore,
+               QStringList{restore + ".hostname", restore + ".username", restore + ".password", restore + ".dbport",
+                           "restore.file", "restore.dbname"});
+    }
+
+    void anEmptyLineHoldsNext()
+    {
+        QFETCH(QString, group);
+        QFETCH(QStringList, lines);
+        enter(group);
+        QVERIFY(button(QWizard::NextButton)->isEnabled());
+        for (const QString& line : lines) {
+            const QVariant kept = m_wizard->field(line);
+            m_wizard->setField(line, "");
+            QVERIFY2(!button(QWizard::NextButton)->isEnabled(), qPrintable(line));
+            m_wizard->setField(line, kept);
+            QVERIFY2(button(QWizard::NextButton)->isEnabled(), qPrintable(line));
+        }
+    }
+
+    void aServerThatRefusesKeepsThePage_data()
+    {
+        addColumns<QString, QString>("line", "value");
+        addRow("host", "hostname", "/no/such/socket");
+        addRow("port", "dbport", "1");
+        addRow("user", "username", "nobody_of_that_name");
+        addRow("password", "username", askedRole);
+        addRow("database", "dbname", "no such database");
+    }
+
+    void aServerThatRefusesKeepsThePage()
+    {
+        QFETCH(QString, line);
+        QFETCH(QString, value);
+        enter("dbserverfresh", {{"dbserverfresh." + line, value}});
+        next();
+        QCOMPARE(m_people->texts(), QStringList{noConnection});
+        QCOMPARE(m_people->lastTitle(), QString("Error"));
+        QCOMPARE(m_wizard->currentId(), 2);
+        QVERIFY(!hasSettings());
+    }
+
+    void aFreshDatabaseIsInstalledWhileTheWizardWaits()
+    {
+        const QString name = make(awkwardName);
+        TestCluster::instance().run("CREATE DATABASE " + identifier(name));
+        enter("dbserverfresh", {{"dbserverfresh.dbname", name},
+                                {"dbserverfresh.username", askedRole},
+                                {"dbserverfresh.password", askedPassword},
+                                {"admin.username", "Zo\u00eb O'Hara"}});
+        int turns = 0;
+        QTimer painting;
+        connect(&painting, &QTimer::timeout, [&turns] { ++turns; });
+        painting.start(10);
+        next();
+        QCOMPARE(m_wizard->currentId(), 4);
+        QVERIFY(hasSettings());
+        QVERIFY(!button(QWizard::FinishButton)->isEnabled());
+        QVERIFY(!button(QWizard::BackButton)->isVisible());
+        m_wizard->reject();
+        QVERIFY(m_wizard->isVisible());
+        // Asking for the page once more starts nothing.
+        m_wizard->currentPage()->initializePage();
+        waitForTheEnd();
+        QVERIFY(turns > 5);
+        QCOMPARE(m_people->texts(), QStringList{"Please wait until the installation completed."});
+        const QStringList lines = status().trimmed().split('\n');
+        QCOMPARE(lines.first(), QString("[0%] Initializing..."));
+        QCOMPARE(lines.filter("Initializing").size(), 1);
+        QCOMPARE(lines.last(), QString("[100%] Done. Please restart the app"));
+
+        const ConnectionSettings left = ConnectionSettings::read(ConnectionSettings::defaultPath());
+        QCOMPARE(left.database, name);
+        QCOMPARE(left.user, askedRole);
+        QCOMPARE(left.password, askedPassword);
+        QVERIFY(left.showSidebar && left.showDashboard);
+        QSqlQuery query("SELECT password = md5('s\u00e9same ouvre-toi') FROM users WHERE username = 'Zo\u00eb O''Hara'",
+                        AppContext::instance()->databaseManager()->database());
+        QVERIFY(query.next() && query.value(0).toBool());
+        button(QWizard::FinishButton)->click();
+        QCOMPARE(m_wizard->result(), int(QDialog::Accepted));
+    }
+
+    void dataIsLostOnlyAfterAQuestion()
+    {
+        m_database = std::make_unique<TestDatabase>();
+        m_database->run("INSERT INTO meja (kode, nama, createdby, version) VALUES ('m9', 'Sold at already', 1, 1)");
+        const QString sold = "SELECT count(*) FROM meja WHERE kode = 'm9'";
+        enter("dbserverfresh");
+        m_people->answer(QMessageBox::No);
+        next();
+        QVERIFY(m_people->lastText().contains(m_database->name()));
+        QCOMPARE(m_wizard->currentId(), 2);
+        QVERIFY(!hasSettings());
+
+        // A further workstation uses it as it is.
+        m_people->answer(QMessageBox::Open);
+        next();
+        QVERIFY(!m_wizard->isVisible() && hasSettings());
+        QCOMPARE(m_wizard->result(), int(QDialog::Accepted));
+        QCOMPARE(m_database->value(sold).toInt(), 1);
+
+        open();
+        enter("dbserverfresh");
+        m_people->answer(QMessageBox::Yes);
+        next();
+        waitForTheEnd();
+        QCOMPARE(m_database->value(sold).toInt(), 0);
+    }
+
+    void anInstallationThatLosesTheServerClaimsNoSuccess()
+    {
+        enter("dbserverfresh");
+        connect(m_wizard->page(4)->findChild<QPlainTextEdit*>(), &QPlainTextEdit::textChanged, this, [this] {
+            if (status().endsWith("[25%] Creating/Updating tables...\n"))
+                m_database->killConnections();
+        });
+        next();
+        waitForTheEnd();
+        QVERIFY(status().contains(" error: "));
+        QVERIFY(status().trimmed().split('\n').last().startsWith("The installation is NOT complete"));
+    }
+
+    void aBackupIsRestored_data()
+    {
+        addColumns<QString, QString, bool, QString, QString, QString, bool>("name", "before", "create", "file", "told",
+                                                                            "box", "settings");
+        addRow("into a new database", awkwardName, "", true, "", "process exited with code: 0, status: 0", restored,
+               true);
+        addRow("into an existing database", "exists -w", "CREATE DATABASE %1", false, "", "code: 0, status: 0",
+               restored, true);
+        addRow("the database to create is there", "exists", "CREATE DATABASE %1", true, "", "was NOT created", restored,
+               true);
+        addRow("there is no such database", "nowhere", "", false, "", "was NOT restored completely", noConnection,
+               false);
+        addRow("no backup at all", "empty", "", true, "/no/such.bak", "begins the wizard once more", "", false);
+    }
+
+    void aBackupIsRestored()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, before);
+        QFETCH(bool, create);
+        QFETCH(QString, file);
+        QFETCH(QString, told);
+        QFETCH(QString, box);
+        QFETCH(bool, settings);
+        make(name);
+        if (!before.isEmpty())
+            TestCluster::instance().run(before.arg(identifier(name)));
+        enter("dbserverrestore", {{"restore.dbname", name},
+                                  {"restore.createdb", create},
+                                  {"dbserverrestore.username", askedRole},
+                                  {"dbserverrestore.password", askedPassword},
+                                  {"restore.file", file.isEmpty() ? m_backup : file}});
+        next();
+        QVERIFY(!button(QWizard::FinishButton)->isEnabled());
+        waitForTheEnd();
+        QCOMPARE(status().contains("creating your db...\ncreatedb started...\n"), create);
+        QVERIFY(status().contains("restoring your db...\npg_restore started...\n"));
+        QVERIFY2(status().contains(told), qPrintable(status().right(900)));
+        QCOMPARE(m_people->texts().join('|'), box);
+        QCOMPARE(hasSettings(), settings);
+        if (!settings)
+            return;
+        QCOMPARE(ConnectionSettings::read(ConnectionSettings::defaultPath()).database, name);
+        QSqlQuery query("SELECT count(*) FROM meja WHERE kode = 'm9'",
+                        AppContext::instance()->databaseManager()->database());
+        QVERIFY(query.next() && query.value(0).toInt() == 1);
+    }
+
+    void aBackupReplacesADatabaseOnlyAfterAQuestion()
+    {
+        TestCluster& cluster = TestCluster::instance();
+        const QString name = make(awkwardName);
+        cluster.run("CREATE DATABASE " + identifier(name) + " TEMPLATE " + installedTemplateName());
+        // The port is the first thing to ask about.
+        enter("dbserverrestore",
+              {{"restore.dbname", name}, {"restore.createdb", true}, {"dbserverrestore.dbport", "1"}});
+        m_people->answer(QMessageBox::Yes);
+        next();
+        QCOMPARE(m_wizard->field("dbserverrestore.dbport").toInt(), TestDatabase::port());
+        QVERIFY2(m_people->lastText().contains("holds 48 tables already"), qPrintable(m_people->lastText()));
+        QCOMPARE(m_wizard->currentId(), 3);
+        QVERIFY(!hasSettings());
+
+        m_wizard->setField("restore.createdb", false);
+        m_people->answer(QMessageBox::Yes);
+        next();
+        waitForTheEnd();
+        QCOMPARE(m_people->lastText(), restored);
+        const QString aside = make(status().section("kept under the name ", 1).section(".\n", 0, 0));
+        QVERIFY2(cluster.hasDatabase(aside), qPrintable(aside));
+        // The tables are the backup's, and the numbers go on behind its own.
+        QSqlQuery query(AppContext::instance()->databaseManager()->database());
+        QVERIFY(query.exec("INSERT INTO meja (kode, nama, version) VALUES ('m10', 'Next', 1)"));
+        QVERIFY(query.exec("SELECT string_agg(kode, ',' ORDER BY id) FROM meja") && query.next());
+        QCOMPARE(query.value(0).toString(), QString("m1,m2,m9,m10"));
+    }
+
+    void aDatabaseComesBackWhereNoNewOneCanBeMade()
+    {
+        TestCluster& cluster = TestCluster::instance();
+        const QString name = make("comes back");
+        cluster.run("CREATE DATABASE " + identifier(name) + " TEMPLATE " + installedTemplateName());
+        breakTools({"createdb"});
+        enter("dbserverrestore", {{"restore.dbname", name}});
+        m_people->answer(QMessageBox::Yes);
+        next();
+        waitForTheEnd();
+        QVERIFY(cluster.hasDatabase(name));
+        QVERIFY2(status().endsWith("Nothing was restored into them.\n"), qPrintable(status()));
+        QVERIFY(!hasSettings());
+    }
+
+    void aDatabaseThatCanNotMakeWayStays_data()
+    {
+        addColumns<QString, QString>("file", "said");
+        addRow("another till works with it", "", "was not replaced");
+        addRow("the file is no backup", "/etc/hostname", "can not be read as a backup");
+    }
+
+    void aDatabaseThatCanNotMakeWayStays()
+    {
+        QFETCH(QString, file);
+        QFETCH(QString, said);
+        m_database = std::make_unique<TestDatabase>();
+        enter("dbserverrestore", {{"restore.file", file.isEmpty() ? m_backup : file}});
+        m_people->answer(QMessageBox::Yes);
+        next();
+        QVERIFY2(m_people->lastText().contains(said), qPrintable(m_people->lastText()));
+        QCOMPARE(m_wizard->currentId(), 3);
+        // Filled behind the question's back it stays as well.
+        m_wizard->page(4)->initializePage();
+        QTRY_VERIFY(status().contains("Nothing was restored into them."));
+        QVERIFY(!hasSettings());
+        QCOMPARE(m_database->value("SELECT count(*) FROM meja").toInt(), 2);
+    }
+
+    void withoutTheClientProgramsNothingIsRestored()
+    {
+        breakTools({"createdb", "pg_restore"});
+        enter("dbserverrestore", {{"restore.createdb", true}});
+        next();
+        waitForTheEnd();
+        QCOMPARE(m_people->texts(), QStringList({"Error 0", "Error 0"}));
+        QVERIFY(status().contains("nothing was restored"));
+        QVERIFY(!hasSettings());
+    }
+
+    void whatKeepsTheServerAwayIsHelped_data()
+    {
+        addColumns<QString, QString, int>("line", "value", "press");
+        addRow("port", "dbport", "1", int(QMessageBox::Retry));
+        addRow("database", "dbname", awkwardName, int(QMessageBox::Yes));
+    }
+
+    void whatKeepsTheServerAwayIsHelped()
+    {
+        QFETCH(QString, line);
+        QFETCH(QString, value);
+        QFETCH(int, press);
+        make(awkwardName);
+        enter("dbserverfresh", {{"dbserverfresh." + line, value}});
+        m_people->answer(QMessageBox::StandardButton(press));
+        next();
+        QCOMPARE(m_people->texts(), QStringList{noConnection});
+        QCOMPARE(m_wizard->currentId(), 4);
+        waitForTheEnd();
+        QVERIFY(status().endsWith("[100%] Done. Please restart the app\n"));
+        const ConnectionSettings left = ConnectionSettings::read(ConnectionSettings::defaultPath());
+        QCOMPARE(left.port, TestDatabase::port());
+        QCOMPARE(left.database, line == "dbname" ? awkwardName : m_database->name());
+    }
+
+    void theServersOfThisMachineAreFound()
+    {
+        QTcpServer listening;
+        QVERIFY(listening.listen(QHostAddress::LocalHost));
+        QTcpServer other;
+        QVERIFY(other.listen(QHostAddress::LocalHost));
+        const QString folder = m_home.filePath("conf");
+        const auto configure = [&folder](const QString& cluster, const QString& text) {
+            QDir().mkpath(folder + cluster);
+            QFile file(folder + cluster + "/postgresql.conf");
+            return file.open(QIODevice::WriteOnly) && file.write(text.toUtf8()) > 0;
+        };
+        QVERIFY(configure("/13/main", "port = 2\n"));
+        QVERIFY(configure("/15/main",
+                          QString("#port = 3\nport = %1 # (change requires restart)\n").arg(other.serverPort())));
+        const LocalServers servers("/nowhere", folder);
+        ConnectionSettings connection;
+        connection.port = 1;
+        const QList<QPair<QString, int>> hosts{{"localhost", other.serverPort()},
+                                               {"127.0.0.1", other.serverPort()},
+                                               {"till.example", 0},
+                                               {TestDatabase::host(), TestDatabase::port()}};
+        for (const auto& host : hosts) {
+            connection.host = host.first;
+            QCOMPARE(servers.portInPlaceOf(connection), host.second);
+        }
+        connection.host = "localhost";
+        connection.port = listening.serverPort();
+        QCOMPARE(servers.portInPlaceOf(connection), 0);
+    }
 
 private:
-    void open();
+    void open()
+    {
+        m_wizard = std::make_unique<AppInstallerWizard>();
+        m_wizard->show();
+    }
+
     /** Goes to the details of this kind and fills them in. */
-    void enter(const QString& group, const QVariantMap& others = {});
+    void enter(const QString& group, const QVariantMap& others = {})
+    {
+        const bool fresh = group == "dbserverfresh";
+        m_wizard->setField(fresh ? "installtype.freshinstall" : "installtype.restoreinstall", true);
+        next();
+        m_wizard->setField(group + ".hostname", TestDatabase::host());
+        m_wizard->setField(group + ".username", TestDatabase::user());
+        m_wizard->setField(group + ".password", "not asked for");
+        m_wizard->setField(group + ".dbport", QString::number(TestDatabase::port()));
+        m_wizard->setField(fresh ? "dbserverfresh.dbname" : "restore.dbname", m_database->name());
+        if (fresh)
+            m_wizard->setField("admin.password", "s\u00e9same ouvre-toi");
+        else
+            m_wizard->setField("restore.file", m_backup);
+        for (auto other = others.begin(); other != others.end(); ++other)
+            m_wizard->setField(other.key(), other.value());
+    }
+
     QAbstractButton* button(QWizard::WizardButton which) const { return m_wizard->button(which); }
     QString status() const { return m_wizard->page(4)->findChild<QPlainTextEdit*>()->toPlainText(); }
     void next() { button(QWizard::NextButton)->click(); }
     void waitForTheEnd() { QTRY_VERIFY_WITH_TIMEOUT(button(QWizard::FinishButton)->isEnabled(), 60000); }
     bool hasSettings() const { return ConnectionSettings::exists(ConnectionSettings::defaultPath()); }
-    QString make(const QString& name);
+    QString make(const QString& name)
+    {
+        m_made.append(name);
+        return name;
+    }
+
     /** From now on these programs of PostgreSQL do not start. */
-    void breakTools(const QStringList& names);
+    void breakTools(const QStringList& names)
+    {
+        const QString folder = m_home.filePath("without " + names.join('-'));
+        QDir().mkpath(folder);
+        for (const QString& tool : names) {
+            QFile broken(QDir(folder).filePath(tool));
+            QVERIFY(broken.open(QIODevice::WriteOnly));
+            broken.write("#!/no/such/interpreter\n");
+            broken.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        }
+        qputenv("ZAVEL_PG_BIN", folder.toLocal8Bit());
+    }
 
     QTemporaryDir m_home;
     QString m_backup;
@@ -80,457 +482,6 @@ private:
     std::unique_ptr<ModalDriver> m_people;
     std::unique_ptr<AppInstallerWizard> m_wizard;
 };
-
-void TestInstallWizard::initTestCase()
-{
-    qputenv("XDG_DATA_HOME", m_home.path().toLocal8Bit());
-    m_backup = m_home.filePath("l'\u00e9t\u00e9 a.bak");
-    TestDatabase database;
-    database.run("INSERT INTO meja (kode, nama, createdby, version) VALUES ('m9', 'Sold at already', 1, 1)");
-    ConnectionSettings connection;
-    connection.host = TestDatabase::host();
-    connection.port = TestDatabase::port();
-    connection.user = TestDatabase::user();
-    connection.database = database.name();
-    ClientProcess dump;
-    dump.run(ClientPrograms::backup(connection, m_backup));
-    QVERIFY(dump.waitForFinished(30000) && dump.succeeded());
-
-    // One role alone is asked for its password.
-    TestCluster& cluster = TestCluster::instance();
-    cluster.exclusively([&cluster, &database] {
-        cluster.run("DROP ROLE IF EXISTS " + identifier(askedRole));
-        cluster.run("CREATE ROLE " + identifier(askedRole) + " SUPERUSER LOGIN PASSWORD " + literal(askedPassword));
-        const QString file = database.value("SHOW hba_file").toString();
-        const QString line = "all " + identifier(askedRole) + " scram-sha-256";
-        cluster.run(QString("COPY (SELECT %1) TO PROGRAM %2")
-                        .arg(literal("local " + line),
-                             literal(QString("cat > %1.new; cat %1 >> %1.new; mv %1.new %1").arg(file))));
-        cluster.run("SELECT pg_reload_conf()");
-    });
-}
-
-void TestInstallWizard::init()
-{
-    m_database = std::make_unique<TestDatabase>(TestDatabase::Empty);
-    m_people = std::make_unique<ModalDriver>();
-    open();
-}
-
-void TestInstallWizard::cleanup()
-{
-    m_wizard.reset();
-    m_people.reset();
-    qunsetenv("ZAVEL_PG_BIN");
-    m_database.reset();
-    for (const QString& name : qAsConst(m_made))
-        TestCluster::instance().run("DROP DATABASE IF EXISTS " + identifier(name) + " WITH (FORCE)");
-    m_made.clear();
-    QFile::remove(ConnectionSettings::defaultPath());
-}
-
-void TestInstallWizard::open()
-{
-    m_wizard = std::make_unique<AppInstallerWizard>();
-    m_wizard->show();
-}
-
-QString TestInstallWizard::make(const QString& name)
-{
-    m_made.append(name);
-    return name;
-}
-
-void TestInstallWizard::enter(const QString& group, const QVariantMap& others)
-{
-    const bool fresh = group == "dbserverfresh";
-    m_wizard->setField(fresh ? "installtype.freshinstall" : "installtype.restoreinstall", true);
-    next();
-    m_wizard->setField(group + ".hostname", TestDatabase::host());
-    m_wizard->setField(group + ".username", TestDatabase::user());
-    m_wizard->setField(group + ".password", "not asked for");
-    m_wizard->setField(group + ".dbport", QString::number(TestDatabase::port()));
-    m_wizard->setField(fresh ? "dbserverfresh.dbname" : "restore.dbname", m_database->name());
-    if (fresh)
-        m_wizard->setField("admin.password", "s\u00e9same ouvre-toi");
-    else
-        m_wizard->setField("restore.file", m_backup);
-    for (auto other = others.begin(); other != others.end(); ++other)
-        m_wizard->setField(other.key(), other.value());
-}
-
-void TestInstallWizard::theFreshInstallationIsOfferedFirst()
-{
-    QCOMPARE(m_wizard->windowTitle(), QString("ZavelPOS Installer Wizard"));
-    QCOMPARE(m_wizard->pageIds(), QList<int>({0, 2, 3, 4}));
-    QCOMPARE(m_wizard->currentPage()->title(), QString("Introduction"));
-    next();
-    QCOMPARE(m_wizard->currentId(), 2);
-    QTRY_VERIFY(qobject_cast<QLineEdit*>(QApplication::focusWidget()));
-    const QStringList offered{"localhost", "postgres", "", "ZavelPOS", "6666", "admin", ""};
-    const QStringList names{"hostname", "username", "password", "dbname", "dbport"};
-    for (int i = 0; i < names.size(); ++i)
-        QCOMPARE(m_wizard->field("dbserverfresh." + names.at(i)).toString(), offered.at(i));
-    QCOMPARE(m_wizard->field("admin.username").toString(), QString("admin"));
-
-    // Going back loses nothing.
-    m_wizard->setField("dbserverfresh.hostname", "till");
-    m_wizard->back();
-    next();
-    QCOMPARE(m_wizard->field("dbserverfresh.hostname").toString(), QString("till"));
-    button(QWizard::CancelButton)->click();
-    QCOMPARE(m_wizard->result(), int(QDialog::Rejected));
-    QVERIFY(!hasSettings());
-}
-
-void TestInstallWizard::anEmptyLineHoldsNext_data()
-{
-    QTest::addColumn<QString>("group");
-    QTest::addColumn<QStringList>("lines");
-    const QString fresh = "dbserverfresh";
-    const QString restore = "dbserverrestore";
-    QTest::newRow("fresh") << fresh << QStringList{fresh + ".hostname", fresh + ".username", fresh + ".password",
-                                                   fresh + ".dbname",   fresh + ".dbport",   "admin.username",
-                                                   "admin.password"};
-    QTest::newRow("restore") << restore
-                             << QStringList{restore + ".hostname", restore + ".username", restore + ".password",
-                                            restore + ".dbport",   "restore.file",        "restore.dbname"};
-}
-
-void TestInstallWizard::anEmptyLineHoldsNext()
-{
-    QFETCH(QString, group);
-    QFETCH(QStringList, lines);
-    enter(group);
-    QVERIFY(button(QWizard::NextButton)->isEnabled());
-    for (const QString& line : lines) {
-        const QVariant kept = m_wizard->field(line);
-        m_wizard->setField(line, "");
-        QVERIFY2(!button(QWizard::NextButton)->isEnabled(), qPrintable(line));
-        m_wizard->setField(line, kept);
-        QVERIFY2(button(QWizard::NextButton)->isEnabled(), qPrintable(line));
-    }
-}
-
-void TestInstallWizard::aServerThatRefusesKeepsThePage_data()
-{
-    QTest::addColumn<QString>("line");
-    QTest::addColumn<QString>("value");
-    QTest::newRow("host") << "hostname"
-                          << "/no/such/socket";
-    QTest::newRow("port") << "dbport"
-                          << "1";
-    QTest::newRow("user") << "username"
-                          << "nobody_of_that_name";
-    QTest::newRow("password") << "username" << askedRole;
-    QTest::newRow("database") << "dbname"
-                              << "no such database";
-}
-
-void TestInstallWizard::aServerThatRefusesKeepsThePage()
-{
-    QFETCH(QString, line);
-    QFETCH(QString, value);
-    enter("dbserverfresh", {{"dbserverfresh." + line, value}});
-    next();
-    QCOMPARE(m_people->texts(), QStringList{noConnection});
-    QCOMPARE(m_people->lastTitle(), QString("Error"));
-    QCOMPARE(m_wizard->currentId(), 2);
-    QVERIFY(!hasSettings());
-}
-
-void TestInstallWizard::aFreshDatabaseIsInstalledWhileTheWizardWaits()
-{
-    const QString name = make(awkwardName);
-    TestCluster::instance().run("CREATE DATABASE " + identifier(name));
-    enter("dbserverfresh", {{"dbserverfresh.dbname", name},
-                            {"dbserverfresh.username", askedRole},
-                            {"dbserverfresh.password", askedPassword},
-                            {"admin.username", "Zo\u00eb O'Hara"}});
-    int turns = 0;
-    QTimer painting;
-    connect(&painting, &QTimer::timeout, [&turns] { ++turns; });
-    painting.start(10);
-    next();
-    QCOMPARE(m_wizard->currentId(), 4);
-    QVERIFY(hasSettings());
-    QVERIFY(!button(QWizard::FinishButton)->isEnabled());
-    QVERIFY(!button(QWizard::BackButton)->isVisible());
-    m_wizard->reject();
-    QVERIFY(m_wizard->isVisible());
-    // Asking for the page once more starts nothing.
-    m_wizard->currentPage()->initializePage();
-    waitForTheEnd();
-    QVERIFY(turns > 5);
-    QCOMPARE(m_people->texts(), QStringList{"Please wait until the installation completed."});
-    const QStringList lines = status().trimmed().split('\n');
-    QCOMPARE(lines.first(), QString("[0%] Initializing..."));
-    QCOMPARE(lines.filter("Initializing").size(), 1);
-    QCOMPARE(lines.last(), QString("[100%] Done. Please restart the app"));
-
-    const ConnectionSettings left = ConnectionSettings::read(ConnectionSettings::defaultPath());
-    QCOMPARE(left.database, name);
-    QCOMPARE(left.user, askedRole);
-    QCOMPARE(left.password, askedPassword);
-    QVERIFY(left.showSidebar && left.showDashboard);
-    QSqlQuery query("SELECT password = md5('s\u00e9same ouvre-toi') FROM users WHERE username = 'Zo\u00eb O''Hara'",
-                    AppContext::instance()->databaseManager()->database());
-    QVERIFY(query.next() && query.value(0).toBool());
-    button(QWizard::FinishButton)->click();
-    QCOMPARE(m_wizard->result(), int(QDialog::Accepted));
-}
-
-void TestInstallWizard::dataIsLostOnlyAfterAQuestion()
-{
-    m_database = std::make_unique<TestDatabase>();
-    m_database->run("INSERT INTO meja (kode, nama, createdby, version) VALUES ('m9', 'Sold at already', 1, 1)");
-    const QString sold = "SELECT count(*) FROM meja WHERE kode = 'm9'";
-    enter("dbserverfresh");
-    m_people->answer(QMessageBox::No);
-    next();
-    QVERIFY(m_people->lastText().contains(m_database->name()));
-    QCOMPARE(m_wizard->currentId(), 2);
-    QVERIFY(!hasSettings());
-
-    // A further workstation uses it as it is.
-    m_people->answer(QMessageBox::Open);
-    next();
-    QVERIFY(!m_wizard->isVisible() && hasSettings());
-    QCOMPARE(m_wizard->result(), int(QDialog::Accepted));
-    QCOMPARE(m_database->value(sold).toInt(), 1);
-
-    open();
-    enter("dbserverfresh");
-    m_people->answer(QMessageBox::Yes);
-    next();
-    waitForTheEnd();
-    QCOMPARE(m_database->value(sold).toInt(), 0);
-}
-
-void TestInstallWizard::anInstallationThatLosesTheServerClaimsNoSuccess()
-{
-    enter("dbserverfresh");
-    connect(m_wizard->page(4)->findChild<QPlainTextEdit*>(), &QPlainTextEdit::textChanged, this, [this] {
-        if (status().endsWith("[25%] Creating/Updating tables...\n"))
-            m_database->killConnections();
-    });
-    next();
-    waitForTheEnd();
-    QVERIFY(status().contains(" error: "));
-    QVERIFY(status().trimmed().split('\n').last().startsWith("The installation is NOT complete"));
-}
-
-void TestInstallWizard::aBackupIsRestored_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<bool>("create");
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QString>("told");
-    QTest::addColumn<QString>("box");
-    QTest::addColumn<bool>("settings");
-    QTest::newRow("into a new database") << awkwardName << "" << true << ""
-                                         << "process exited with code: 0, status: 0" << restored << true;
-    QTest::newRow("into an existing database") << "exists -w"
-                                               << "CREATE DATABASE %1" << false << ""
-                                               << "code: 0, status: 0" << restored << true;
-    QTest::newRow("the database to create is there") << "exists"
-                                                     << "CREATE DATABASE %1" << true << ""
-                                                     << "was NOT created" << restored << true;
-    QTest::newRow("there is no such database") << "nowhere"
-                                               << "" << false << ""
-                                               << "was NOT restored completely" << noConnection << false;
-    QTest::newRow("no backup at all") << "empty"
-                                      << "" << true << "/no/such.bak"
-                                      << "begins the wizard once more"
-                                      << "" << false;
-}
-
-void TestInstallWizard::aBackupIsRestored()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, before);
-    QFETCH(bool, create);
-    QFETCH(QString, file);
-    QFETCH(QString, told);
-    QFETCH(QString, box);
-    QFETCH(bool, settings);
-    make(name);
-    if (!before.isEmpty())
-        TestCluster::instance().run(before.arg(identifier(name)));
-    enter("dbserverrestore", {{"restore.dbname", name},
-                              {"restore.createdb", create},
-                              {"dbserverrestore.username", askedRole},
-                              {"dbserverrestore.password", askedPassword},
-                              {"restore.file", file.isEmpty() ? m_backup : file}});
-    next();
-    QVERIFY(!button(QWizard::FinishButton)->isEnabled());
-    waitForTheEnd();
-    QCOMPARE(status().contains("creating your db...\ncreatedb started...\n"), create);
-    QVERIFY(status().contains("restoring your db...\npg_restore started...\n"));
-    QVERIFY2(status().contains(told), qPrintable(status().right(900)));
-    QCOMPARE(m_people->texts().join('|'), box);
-    QCOMPARE(hasSettings(), settings);
-    if (!settings)
-        return;
-    QCOMPARE(ConnectionSettings::read(ConnectionSettings::defaultPath()).database, name);
-    QSqlQuery query("SELECT count(*) FROM meja WHERE kode = 'm9'",
-                    AppContext::instance()->databaseManager()->database());
-    QVERIFY(query.next() && query.value(0).toInt() == 1);
-}
-
-void TestInstallWizard::aBackupReplacesADatabaseOnlyAfterAQuestion()
-{
-    TestCluster& cluster = TestCluster::instance();
-    const QString name = make(awkwardName);
-    cluster.run("CREATE DATABASE " + identifier(name) + " TEMPLATE " + installedTemplateName());
-    // The port is the first thing to ask about.
-    enter("dbserverrestore", {{"restore.dbname", name}, {"restore.createdb", true}, {"dbserverrestore.dbport", "1"}});
-    m_people->answer(QMessageBox::Yes);
-    next();
-    QCOMPARE(m_wizard->field("dbserverrestore.dbport").toInt(), TestDatabase::port());
-    QVERIFY2(m_people->lastText().contains("holds 48 tables already"), qPrintable(m_people->lastText()));
-    QCOMPARE(m_wizard->currentId(), 3);
-    QVERIFY(!hasSettings());
-
-    m_wizard->setField("restore.createdb", false);
-    m_people->answer(QMessageBox::Yes);
-    next();
-    waitForTheEnd();
-    QCOMPARE(m_people->lastText(), restored);
-    const QString aside = make(status().section("kept under the name ", 1).section(".\n", 0, 0));
-    QVERIFY2(cluster.hasDatabase(aside), qPrintable(aside));
-    // The tables are the backup's, and the numbers go on behind its own.
-    QSqlQuery query(AppContext::instance()->databaseManager()->database());
-    QVERIFY(query.exec("INSERT INTO meja (kode, nama, version) VALUES ('m10', 'Next', 1)"));
-    QVERIFY(query.exec("SELECT string_agg(kode, ',' ORDER BY id) FROM meja") && query.next());
-    QCOMPARE(query.value(0).toString(), QString("m1,m2,m9,m10"));
-}
-
-void TestInstallWizard::aDatabaseComesBackWhereNoNewOneCanBeMade()
-{
-    TestCluster& cluster = TestCluster::instance();
-    const QString name = make("comes back");
-    cluster.run("CREATE DATABASE " + identifier(name) + " TEMPLATE " + installedTemplateName());
-    breakTools({"createdb"});
-    enter("dbserverrestore", {{"restore.dbname", name}});
-    m_people->answer(QMessageBox::Yes);
-    next();
-    waitForTheEnd();
-    QVERIFY(cluster.hasDatabase(name));
-    QVERIFY2(status().endsWith("Nothing was restored into them.\n"), qPrintable(status()));
-    QVERIFY(!hasSettings());
-}
-
-void TestInstallWizard::aDatabaseThatCanNotMakeWayStays_data()
-{
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QString>("said");
-    QTest::newRow("another till works with it") << ""
-                                                << "was not replaced";
-    QTest::newRow("the file is no backup") << "/etc/hostname"
-                                           << "can not be read as a backup";
-}
-
-void TestInstallWizard::aDatabaseThatCanNotMakeWayStays()
-{
-    QFETCH(QString, file);
-    QFETCH(QString, said);
-    m_database = std::make_unique<TestDatabase>();
-    enter("dbserverrestore", {{"restore.file", file.isEmpty() ? m_backup : file}});
-    m_people->answer(QMessageBox::Yes);
-    next();
-    QVERIFY2(m_people->lastText().contains(said), qPrintable(m_people->lastText()));
-    QCOMPARE(m_wizard->currentId(), 3);
-    // Filled behind the question's back it stays as well.
-    m_wizard->page(4)->initializePage();
-    QTRY_VERIFY(status().contains("Nothing was restored into them."));
-    QVERIFY(!hasSettings());
-    QCOMPARE(m_database->value("SELECT count(*) FROM meja").toInt(), 2);
-}
-
-void TestInstallWizard::whatKeepsTheServerAwayIsHelped_data()
-{
-    QTest::addColumn<QString>("line");
-    QTest::addColumn<QString>("value");
-    QTest::addColumn<int>("press");
-    QTest::newRow("port") << "dbport"
-                          << "1" << int(QMessageBox::Retry);
-    QTest::newRow("database") << "dbname" << awkwardName << int(QMessageBox::Yes);
-}
-
-void TestInstallWizard::whatKeepsTheServerAwayIsHelped()
-{
-    QFETCH(QString, line);
-    QFETCH(QString, value);
-    QFETCH(int, press);
-    make(awkwardName);
-    enter("dbserverfresh", {{"dbserverfresh." + line, value}});
-    m_people->answer(QMessageBox::StandardButton(press));
-    next();
-    QCOMPARE(m_people->texts(), QStringList{noConnection});
-    QCOMPARE(m_wizard->currentId(), 4);
-    waitForTheEnd();
-    QVERIFY(status().endsWith("[100%] Done. Please restart the app\n"));
-    const ConnectionSettings left = ConnectionSettings::read(ConnectionSettings::defaultPath());
-    QCOMPARE(left.port, TestDatabase::port());
-    QCOMPARE(left.database, line == "dbname" ? awkwardName : m_database->name());
-}
-
-void TestInstallWizard::theServersOfThisMachineAreFound()
-{
-    QTcpServer listening;
-    QVERIFY(listening.listen(QHostAddress::LocalHost));
-    QTcpServer other;
-    QVERIFY(other.listen(QHostAddress::LocalHost));
-    const QString folder = m_home.filePath("conf");
-    const auto configure = [&folder](const QString& cluster, const QString& text) {
-        QDir().mkpath(folder + cluster);
-        QFile file(folder + cluster + "/postgresql.conf");
-        return file.open(QIODevice::WriteOnly) && file.write(text.toUtf8()) > 0;
-    };
-    QVERIFY(configure("/13/main", "port = 2\n"));
-    QVERIFY(
-        configure("/15/main", QString("#port = 3\nport = %1 # (change requires restart)\n").arg(other.serverPort())));
-    const LocalServers servers("/nowhere", folder);
-    ConnectionSettings connection;
-    connection.port = 1;
-    const QList<QPair<QString, int>> hosts{{"localhost", other.serverPort()},
-                                           {"127.0.0.1", other.serverPort()},
-                                           {"till.example", 0},
-                                           {TestDatabase::host(), TestDatabase::port()}};
-    for (const auto& host : hosts) {
-        connection.host = host.first;
-        QCOMPARE(servers.portInPlaceOf(connection), host.second);
-    }
-    connection.host = "localhost";
-    connection.port = listening.serverPort();
-    QCOMPARE(servers.portInPlaceOf(connection), 0);
-}
-
-void TestInstallWizard::breakTools(const QStringList& names)
-{
-    const QString folder = m_home.filePath("without " + names.join('-'));
-    QDir().mkpath(folder);
-    for (const QString& tool : names) {
-        QFile broken(QDir(folder).filePath(tool));
-        QVERIFY(broken.open(QIODevice::WriteOnly));
-        broken.write("#!/no/such/interpreter\n");
-        broken.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    }
-    qputenv("ZAVEL_PG_BIN", folder.toLocal8Bit());
-}
-
-void TestInstallWizard::withoutTheClientProgramsNothingIsRestored()
-{
-    breakTools({"createdb", "pg_restore"});
-    enter("dbserverrestore", {{"restore.createdb", true}});
-    next();
-    waitForTheEnd();
-    QCOMPARE(m_people->texts(), QStringList({"Error 0", "Error 0"}));
-    QVERIFY(status().contains("nothing was restored"));
-    QVERIFY(!hasSettings());
-}
 
 QTEST_MAIN(TestInstallWizard)
 #include "tst_install_wizard.moc"

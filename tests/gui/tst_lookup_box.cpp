@@ -1,4 +1,5 @@
 #include "kor/widgets/KorTextBoxExtender.h"
+#include "support/Rows.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -87,299 +88,278 @@ class tst_LookupBox : public QObject
     Q_OBJECT
 
 private slots:
-    void quickTypingSearchesOnceHalfASecondAfterTheLastKey();
-    void aTextFromTheProgramOpensNoList();
-    void aFormCanCallOffASearchThatIsDue();
-    void whoHasGoneOnIsNotInterrupted();
-    void theListShowsTheRowsBelowTheField();
-    void aLongListIsAsWideAsItsTextsHoweverOftenItOpens();
-    void theListStaysOnTheScreen();
-    void aChoiceReachesTheFormAsIfReturnHadBeenPressed_data();
-    void aChoiceReachesTheFormAsIfReturnHadBeenPressed();
-    void theArrowKeysWalkTheList();
-    void withoutAFindTheListSaysSoAndNothingIsChosen_data();
-    void withoutAFindTheListSaysSoAndNothingIsChosen();
-    void escapeLeavesTheTextAndTheFormerChoice();
-    void aLetterTypedIntoTheOpenListGoesOnInTheFieldAndSearchesAnew();
-    void aClickBesideTheListClosesIt();
-    void anApostropheReachesTheSearchAsTyped();
-    void aFormMayCloseOnTheChoice();
-    void theListOpensOverAModalForm();
-    void theListGoesWithTheForm();
-};
-
-void tst_LookupBox::quickTypingSearchesOnceHalfASecondAfterTheLastKey()
-{
-    Order order;
-    QCOMPARE(order.timer->interval(), 500);
-    QElapsedTimer sinceLastKey;
-    order.type("nas");
-    sinceLastKey.start();
-    QVERIFY(order.waitForList(true));
-    QVERIFY2(sinceLastKey.elapsed() >= 450, qPrintable(QString::number(sinceLastKey.elapsed())));
-    QCOMPARE(order.box->asked, QStringList({"nas"}));
-    QVERIFY(!order.timer->isActive());
-}
-
-void tst_LookupBox::aTextFromTheProgramOpensNoList()
-{
-    Order order;
-    order.field.setText("nasi");
-    QVERIFY(!order.timer->isActive());
-}
-
-void tst_LookupBox::aFormCanCallOffASearchThatIsDue()
-{
-    Order order;
-    order.type("n");
-    QVERIFY(order.timer->isActive());
-    order.box->preventSuggest();
-    QVERIFY(!order.timer->isActive());
-}
-
-void tst_LookupBox::whoHasGoneOnIsNotInterrupted()
-{
-    Order order;
-    order.type("n");
-    QVERIFY(order.timer->isActive());
-    order.press(Qt::Key_Tab);
-    QVERIFY(order.quantity.hasFocus());
-    QVERIFY(!order.timer->isActive());
-}
-
-void tst_LookupBox::theListShowsTheRowsBelowTheField()
-{
-    Order order;
-    order.window.move(20, 20);
-    order.type("s");
-    QVERIFY(order.waitForList());
-    QTreeWidget* list = Order::list();
-    QCOMPARE(list->topLevelItemCount(), 4);
-    QCOMPARE(list->topLevelItem(2)->text(0), QString("sate"));
-    QCOMPARE(list->topLevelItem(2)->text(1), QString("Name of sate"));
-    QCOMPARE(list->currentItem(), list->topLevelItem(0));
-    QVERIFY(!list->isHeaderHidden());
-    QCOMPARE(list->headerItem()->text(1), QString("Name"));
-    const QPoint offset = list->pos() - order.field.mapToGlobal(QPoint(0, order.field.height()));
-    QVERIFY2(offset.manhattanLength() <= windowFrame, "the list does not stand below the field");
-    QCOMPARE(list->height(), 10 * list->visualItemRect(list->topLevelItem(0)).height() + 20);
-    const int columns = list->columnWidth(0) + list->columnWidth(1);
-    QVERIFY2(columns <= list->viewport()->width(), "a column is cut off");
-    QVERIFY(!order.box->isVisible());
-}
-
-void tst_LookupBox::aLongListIsAsWideAsItsTextsHoweverOftenItOpens()
-{
-    Order order;
-    order.box->all.clear();
-    for (int i = 0; i < 40; ++i)
-        order.box->all.append("grilled fish number " + QString::number(i));
-    order.box->search("fish");
-    QTreeWidget* list = Order::list();
-    QVERIFY(QTest::qWaitForWindowExposed(list));
-    const QAbstractItemView* view = list;
-    const int width = list->width();
-    for (int column = 0; column < 2; ++column)
-        QVERIFY(list->columnWidth(column) >= view->sizeHintForColumn(column));
-    QVERIFY(list->columnWidth(0) + view->sizeHintForColumn(1) <= list->viewport()->width());
-    QVERIFY(width < list->columnWidth(0) + view->sizeHintForColumn(1) + 60);
-    order.box->search("fish");
-    QCOMPARE(list->width(), width);
-    order.box->search("nothing of that");
-    order.box->search("fish");
-    QCOMPARE(list->width(), width);
-}
-
-void tst_LookupBox::theListStaysOnTheScreen()
-{
-    Order order;
-    const QRect screen = order.window.screen()->availableGeometry();
-    order.window.move(20, screen.bottom() - order.window.height());
-    order.type("s");
-    QVERIFY(order.waitForList());
-    QVERIFY(screen.contains(Order::list()->geometry()));
-    QVERIFY(Order::list()->geometry().bottom() <= order.field.mapToGlobal(QPoint(0, 0)).y() + windowFrame);
-}
-
-void tst_LookupBox::aChoiceReachesTheFormAsIfReturnHadBeenPressed_data()
-{
-    QTest::addColumn<int>("key");
-    QTest::addColumn<bool>("goesOn");
-    QTest::newRow("Return") << int(Qt::Key_Return) << false;
-    QTest::newRow("Enter, on to the quantity") << int(Qt::Key_Enter) << true;
-    QTest::newRow("mouse") << 0 << false;
-    QTest::newRow("mouse, on to the quantity") << 0 << true;
-}
-
-void tst_LookupBox::aChoiceReachesTheFormAsIfReturnHadBeenPressed()
-{
-    QFETCH(int, key);
-    QFETCH(bool, goesOn);
-    Order order;
-    if (goesOn)
-        order.box->setNextWidget(&order.quantity);
-    QStringList heard;
-    connect(&order.field, &QLineEdit::returnPressed, this, [&] { heard << "return " + order.field.text(); });
-    connect(order.box, &KorTextBoxExtender::onItemSelected, this,
-            [&] { heard << "selected " + QString::number(order.box->selectedRow()); });
-    QCOMPARE(order.box->selectedRow(), -1);
-    order.type("s");
-    QVERIFY(order.waitForList());
-    QTreeWidget* list = Order::list();
-    if (key) {
-        order.press(Qt::Key_Down);
-        order.press(Qt::Key(key));
-    } else {
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
-                          list->visualItemRect(list->topLevelItem(1)).center());
+    void quickTypingSearchesOnceHalfASecondAfterTheLastKey()
+    {
+        Order order;
+        QCOMPARE(order.timer->interval(), 500);
+        QElapsedTimer sinceLastKey;
+        order.type("nas");
+        sinceLastKey.start();
+        QVERIFY(order.waitForList(true));
+        QVERIFY2(sinceLastKey.elapsed() >= 450, qPrintable(QString::number(sinceLastKey.elapsed())));
+        QCOMPARE(order.box->asked, QStringList({"nas"}));
+        QVERIFY(!order.timer->isActive());
     }
-    QVERIFY(!list->isVisible());
-    QCOMPARE(heard, QStringList({"return nasi'goreng", "selected 1"}));
-    QCOMPARE(QApplication::focusWidget(), goesOn ? &order.quantity : &order.field);
-    QVERIFY(!order.timer->isActive());
-}
 
-void tst_LookupBox::theArrowKeysWalkTheList()
-{
-    Order order;
-    order.type("s");
-    QVERIFY(order.waitForList());
-    QTreeWidget* list = Order::list();
-    const QList<QPair<Qt::Key, int>> walk = {{Qt::Key_Down, 1}, {Qt::Key_End, 3},      {Qt::Key_Up, 2},
-                                             {Qt::Key_Home, 0}, {Qt::Key_PageDown, 3}, {Qt::Key_PageUp, 0}};
-    for (const auto& [key, row] : walk) {
-        order.press(key);
-        QCOMPARE(list->indexOfTopLevelItem(list->currentItem()), row);
+    void aTextFromTheProgramOpensNoList()
+    {
+        Order order;
+        order.field.setText("nasi");
+        QVERIFY(!order.timer->isActive());
     }
-    QVERIFY(list->isVisible());
-    QCOMPARE(order.field.text(), QString("s"));
-}
 
-void tst_LookupBox::withoutAFindTheListSaysSoAndNothingIsChosen_data()
-{
-    QTest::addColumn<bool>("byMouse");
-    QTest::newRow("Return") << false;
-    QTest::newRow("mouse") << true;
-}
+    void aFormCanCallOffASearchThatIsDue()
+    {
+        Order order;
+        order.type("n");
+        QVERIFY(order.timer->isActive());
+        order.box->preventSuggest();
+        QVERIFY(!order.timer->isActive());
+    }
 
-void tst_LookupBox::withoutAFindTheListSaysSoAndNothingIsChosen()
-{
-    QFETCH(bool, byMouse);
-    Order order;
-    order.type("zzz");
-    QVERIFY(order.waitForList());
-    QTreeWidget* list = Order::list();
-    QCOMPARE(list->topLevelItemCount(), 1);
-    QCOMPARE(list->topLevelItem(0)->text(0), QString("No result"));
-    QVERIFY(!(list->topLevelItem(0)->flags() & Qt::ItemIsEnabled));
-    QCOMPARE(order.box->rowCount(), 1);
-    if (byMouse)
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
-                          list->visualItemRect(list->topLevelItem(0)).center());
-    else
-        order.press(Qt::Key_Return);
-    QVERIFY(order.box->found.value(order.box->selectedRow()).isEmpty());
-}
+    void whoHasGoneOnIsNotInterrupted()
+    {
+        Order order;
+        order.type("n");
+        QVERIFY(order.timer->isActive());
+        order.press(Qt::Key_Tab);
+        QVERIFY(order.quantity.hasFocus());
+        QVERIFY(!order.timer->isActive());
+    }
 
-void tst_LookupBox::escapeLeavesTheTextAndTheFormerChoice()
-{
-    Order order;
-    order.type("soto");
-    QVERIFY(order.waitForList());
-    order.press(Qt::Key_Return);
-    QCOMPARE(order.box->selectedRow(), 0);
-    QSignalSpy selected(order.box, &KorTextBoxExtender::onItemSelected);
-    order.field.selectAll();
-    order.type("sa");
-    QVERIFY(order.waitForList());
-    order.press(Qt::Key_Escape);
-    QVERIFY(!Order::list());
-    QCOMPARE(order.field.text(), QString("sa"));
-    QCOMPARE(order.window.focusWidget(), &order.field);
-    QCOMPARE(order.box->selectedRow(), 0);
-    QCOMPARE(selected.count(), 0);
-    QVERIFY(order.window.isVisible());
-}
+    void theListShowsTheRowsBelowTheField()
+    {
+        Order order;
+        order.window.move(20, 20);
+        order.type("s");
+        QVERIFY(order.waitForList());
+        QTreeWidget* list = Order::list();
+        QCOMPARE(list->topLevelItemCount(), 4);
+        QCOMPARE(list->topLevelItem(2)->text(0), QString("sate"));
+        QCOMPARE(list->topLevelItem(2)->text(1), QString("Name of sate"));
+        QCOMPARE(list->currentItem(), list->topLevelItem(0));
+        QVERIFY(!list->isHeaderHidden());
+        QCOMPARE(list->headerItem()->text(1), QString("Name"));
+        const QPoint offset = list->pos() - order.field.mapToGlobal(QPoint(0, order.field.height()));
+        QVERIFY2(offset.manhattanLength() <= windowFrame, "the list does not stand below the field");
+        QCOMPARE(list->height(), 10 * list->visualItemRect(list->topLevelItem(0)).height() + 20);
+        const int columns = list->columnWidth(0) + list->columnWidth(1);
+        QVERIFY2(columns <= list->viewport()->width(), "a column is cut off");
+        QVERIFY(!order.box->isVisible());
+    }
 
-void tst_LookupBox::aLetterTypedIntoTheOpenListGoesOnInTheFieldAndSearchesAnew()
-{
-    Order order;
-    order.type("s");
-    QVERIFY(order.waitForList(true));
-    order.type("a");
-    QVERIFY(!Order::list());
-    QCOMPARE(order.field.text(), QString("sa"));
-    QVERIFY(order.timer->isActive());
-    QVERIFY(order.waitForList(true));
-    QCOMPARE(order.box->asked, QStringList({"s", "sa"}));
-    order.press(Qt::Key_Backspace);
-    QCOMPARE(order.field.text(), QString("s"));
-}
+    void aLongListIsAsWideAsItsTextsHoweverOftenItOpens()
+    {
+        Order order;
+        order.box->all.clear();
+        for (int i = 0; i < 40; ++i)
+            order.box->all.append("grilled fish number " + QString::number(i));
+        order.box->search("fish");
+        QTreeWidget* list = Order::list();
+        QVERIFY(QTest::qWaitForWindowExposed(list));
+        const QAbstractItemView* view = list;
+        const int width = list->width();
+        for (int column = 0; column < 2; ++column)
+            QVERIFY(list->columnWidth(column) >= view->sizeHintForColumn(column));
+        QVERIFY(list->columnWidth(0) + view->sizeHintForColumn(1) <= list->viewport()->width());
+        QVERIFY(width < list->columnWidth(0) + view->sizeHintForColumn(1) + 60);
+        order.box->search("fish");
+        QCOMPARE(list->width(), width);
+        order.box->search("nothing of that");
+        order.box->search("fish");
+        QCOMPARE(list->width(), width);
+    }
 
-void tst_LookupBox::aClickBesideTheListClosesIt()
-{
-    Order order;
-    order.type("s");
-    QVERIFY(order.waitForList());
-    QTreeWidget* list = Order::list();
-    QTest::mouseClick(list, Qt::LeftButton, Qt::NoModifier, QPoint(-5, -5));
-    QVERIFY(!list->isVisible());
-    QCOMPARE(order.window.focusWidget(), &order.field);
-    QCOMPARE(order.field.text(), QString("s"));
-    QCOMPARE(order.box->selectedRow(), -1);
-}
+    void theListStaysOnTheScreen()
+    {
+        Order order;
+        const QRect screen = order.window.screen()->availableGeometry();
+        order.window.move(20, screen.bottom() - order.window.height());
+        order.type("s");
+        QVERIFY(order.waitForList());
+        QVERIFY(screen.contains(Order::list()->geometry()));
+        QVERIFY(Order::list()->geometry().bottom() <= order.field.mapToGlobal(QPoint(0, 0)).y() + windowFrame);
+    }
 
-void tst_LookupBox::anApostropheReachesTheSearchAsTyped()
-{
-    Order order;
-    order.type("i'go%");
-    QVERIFY(order.waitForList());
-    QCOMPARE(order.box->asked, QStringList({"i'go%"}));
-}
+    void aChoiceReachesTheFormAsIfReturnHadBeenPressed_data()
+    {
+        addColumns<int, bool>("key", "goesOn");
+        addRow("Return", int(Qt::Key_Return), false);
+        addRow("Enter, on to the quantity", int(Qt::Key_Enter), true);
+        addRow("mouse", 0, false);
+        addRow("mouse, on to the quantity", 0, true);
+    }
 
-void tst_LookupBox::aFormMayCloseOnTheChoice()
-{
-    Order order;
-    auto* passing = new QLineEdit(&order.window);
-    passing->show();
-    QPointer<MenuBox> box = new MenuBox(passing);
-    connect(passing, &QLineEdit::returnPressed, this, [&box] { delete box.data(); });
-    box->search("nasi");
-    QVERIFY(Order::list());
-    order.press(Qt::Key_Return);
-    QVERIFY(!box);
-    QCOMPARE(passing->text(), QString("nasi"));
-}
-
-void tst_LookupBox::theListOpensOverAModalForm()
-{
-    Order order;
-    order.window.hide();
-    QTimer::singleShot(0, &order.window, [&order] {
-        order.field.setFocus();
-        QTest::keyClick(order.window.windowHandle(), 's');
-        if (order.waitForList()) {
-            order.press(Qt::Key_End);
-            order.press(Qt::Key_Return);
+    void aChoiceReachesTheFormAsIfReturnHadBeenPressed()
+    {
+        QFETCH(int, key);
+        QFETCH(bool, goesOn);
+        Order order;
+        if (goesOn)
+            order.box->setNextWidget(&order.quantity);
+        QStringList heard;
+        connect(&order.field, &QLineEdit::returnPressed, this, [&] { heard << "return " + order.field.text(); });
+        connect(order.box, &KorTextBoxExtender::onItemSelected, this,
+                [&] { heard << "selected " + QString::number(order.box->selectedRow()); });
+        QCOMPARE(order.box->selectedRow(), -1);
+        order.type("s");
+        QVERIFY(order.waitForList());
+        QTreeWidget* list = Order::list();
+        if (key) {
+            order.press(Qt::Key_Down);
+            order.press(Qt::Key(key));
+        } else {
+            QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
+                              list->visualItemRect(list->topLevelItem(1)).center());
         }
-        order.window.accept();
-    });
-    QCOMPARE(order.window.exec(), int(QDialog::Accepted));
-    QCOMPARE(order.field.text(), QString("soto"));
-}
+        QVERIFY(!list->isVisible());
+        QCOMPARE(heard, QStringList({"return nasi'goreng", "selected 1"}));
+        QCOMPARE(QApplication::focusWidget(), goesOn ? &order.quantity : &order.field);
+        QVERIFY(!order.timer->isActive());
+    }
 
-void tst_LookupBox::theListGoesWithTheForm()
-{
-    QPointer<QTreeWidget> list;
+    void theArrowKeysWalkTheList()
     {
         Order order;
         order.type("s");
         QVERIFY(order.waitForList());
-        list = Order::list();
+        QTreeWidget* list = Order::list();
+        const QList<QPair<Qt::Key, int>> walk = {{Qt::Key_Down, 1}, {Qt::Key_End, 3},      {Qt::Key_Up, 2},
+                                                 {Qt::Key_Home, 0}, {Qt::Key_PageDown, 3}, {Qt::Key_PageUp, 0}};
+        for (const auto& [key, row] : walk) {
+            order.press(key);
+            QCOMPARE(list->indexOfTopLevelItem(list->currentItem()), row);
+        }
+        QVERIFY(list->isVisible());
+        QCOMPARE(order.field.text(), QString("s"));
     }
-    QVERIFY(!list);
-    QVERIFY(!QApplication::activePopupWidget());
-}
+
+    void withoutAFindTheListSaysSoAndNothingIsChosen_data()
+    {
+        addColumns<bool>("byMouse");
+        addRow("Return", false);
+        addRow("mouse", true);
+    }
+
+    void withoutAFindTheListSaysSoAndNothingIsChosen()
+    {
+        QFETCH(bool, byMouse);
+        Order order;
+        order.type("zzz");
+        QVERIFY(order.waitForList());
+        QTreeWidget* list = Order::list();
+        QCOMPARE(list->topLevelItemCount(), 1);
+        QCOMPARE(list->topLevelItem(0)->text(0), QString("No result"));
+        QVERIFY(!(list->topLevelItem(0)->flags() & Qt::ItemIsEnabled));
+        QCOMPARE(order.box->rowCount(), 1);
+        if (byMouse)
+            QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
+                              list->visualItemRect(list->topLevelItem(0)).center());
+        else
+            order.press(Qt::Key_Return);
+        QVERIFY(order.box->found.value(order.box->selectedRow()).isEmpty());
+    }
+
+    void escapeLeavesTheTextAndTheFormerChoice()
+    {
+        Order order;
+        order.type("soto");
+        QVERIFY(order.waitForList());
+        order.press(Qt::Key_Return);
+        QCOMPARE(order.box->selectedRow(), 0);
+        QSignalSpy selected(order.box, &KorTextBoxExtender::onItemSelected);
+        order.field.selectAll();
+        order.type("sa");
+        QVERIFY(order.waitForList());
+        order.press(Qt::Key_Escape);
+        QVERIFY(!Order::list());
+        QCOMPARE(order.field.text(), QString("sa"));
+        QCOMPARE(order.window.focusWidget(), &order.field);
+        QCOMPARE(order.box->selectedRow(), 0);
+        QCOMPARE(selected.count(), 0);
+        QVERIFY(order.window.isVisible());
+    }
+
+    void aLetterTypedIntoTheOpenListGoesOnInTheFieldAndSearchesAnew()
+    {
+        Order order;
+        order.type("s");
+        QVERIFY(order.waitForList(true));
+        order.type("a");
+        QVERIFY(!Order::list());
+        QCOMPARE(order.field.text(), QString("sa"));
+        QVERIFY(order.timer->isActive());
+        QVERIFY(order.waitForList(true));
+        QCOMPARE(order.box->asked, QStringList({"s", "sa"}));
+        order.press(Qt::Key_Backspace);
+        QCOMPARE(order.field.text(), QString("s"));
+    }
+
+    void aClickBesideTheListClosesIt()
+    {
+        Order order;
+        order.type("s");
+        QVERIFY(order.waitForList());
+        QTreeWidget* list = Order::list();
+        QTest::mouseClick(list, Qt::LeftButton, Qt::NoModifier, QPoint(-5, -5));
+        QVERIFY(!list->isVisible());
+        QCOMPARE(order.window.focusWidget(), &order.field);
+        QCOMPARE(order.field.text(), QString("s"));
+        QCOMPARE(order.box->selectedRow(), -1);
+    }
+
+    void anApostropheReachesTheSearchAsTyped()
+    {
+        Order order;
+        order.type("i'go%");
+        QVERIFY(order.waitForList());
+        QCOMPARE(order.box->asked, QStringList({"i'go%"}));
+    }
+
+    void aFormMayCloseOnTheChoice()
+    {
+        Order order;
+        auto* passing = new QLineEdit(&order.window);
+        passing->show();
+        QPointer<MenuBox> box = new MenuBox(passing);
+        connect(passing, &QLineEdit::returnPressed, this, [&box] { delete box.data(); });
+        box->search("nasi");
+        QVERIFY(Order::list());
+        order.press(Qt::Key_Return);
+        QVERIFY(!box);
+        QCOMPARE(passing->text(), QString("nasi"));
+    }
+
+    void theListOpensOverAModalForm()
+    {
+        Order order;
+        order.window.hide();
+        QTimer::singleShot(0, &order.window, [&order] {
+            order.field.setFocus();
+            QTest::keyClick(order.window.windowHandle(), 's');
+            if (order.waitForList()) {
+                order.press(Qt::Key_End);
+                order.press(Qt::Key_Return);
+            }
+            order.window.accept();
+        });
+        QCOMPARE(order.window.exec(), int(QDialog::Accepted));
+        QCOMPARE(order.field.text(), QString("soto"));
+    }
+
+    void theListGoesWithTheForm()
+    {
+        QPointer<QTreeWidget> list;
+        {
+            Order order;
+            order.type("s");
+            QVERIFY(order.waitForList());
+            list = Order::list();
+        }
+        QVERIFY(!list);
+        QVERIFY(!QApplication::activePopupWidget());
+    }
+};
 
 QTEST_MAIN(tst_LookupBox)
 #include "tst_lookup_box.moc"

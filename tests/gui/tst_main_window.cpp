@@ -14,6 +14,7 @@
 #include "shell/window/QtCategoryButton.h"
 #include "shell/window/TabFactories.h"
 #include "support/ModalDriver.h"
+#include "support/Rows.h"
 #include "support/TestDatabase.h"
 
 #include <QAction>
@@ -120,55 +121,602 @@ class TestMainWindow : public QObject
 
 private slots:
     void initTestCase() { m_database = std::make_unique<TestDatabase>(); }
-    void init();
-    void cleanup();
+    void init()
+    {
+        QVERIFY(m_database->open());
+        m_folder = std::make_unique<QTemporaryDir>();
+        loginAsAdmin();
+        AppContext::instance()->setLocale("en_US");
+        AppContext::instance()->setDateFormat("d MMM yyyy");
+        AppContext::instance()->setShowSidebar(true);
+        AppContext::instance()->setShowDashboard(false);
+        ownSettings().putIntoContext();
+        m_people = std::make_unique<ModalDriver>();
+        makeWindow();
+    }
+
+    void cleanup()
+    {
+        m_window.reset();
+        m_people.reset();
+        QDir(QCoreApplication::applicationDirPath() + "/languages").removeRecursively();
+        QFile::remove(QCoreApplication::applicationDirPath() + "/plugins/broken.so");
+    }
+
     void cleanupTestCase() { m_database.reset(); }
 
-    void theMenusStandInTheirOrder();
-    void everyActionHasItsTextAndShortcut();
-    void anEntryOpensItsPageOrSaysThatItIsMissing_data();
-    void anEntryOpensItsPageOrSaysThatItIsMissing();
-    void aShortcutReachesItsPageEvenWhereAMenuMarksTheSameLetter_data();
-    void aShortcutReachesItsPageEvenWhereAMenuMarksTheSameLetter();
-    void anOpenPageIsOnlyShownAgainAndNotReadAnew();
-    void theKeysGoToTheListOfThePageThatIsShown();
-    void theKeysGoFromPageToPageAndIntoTheMenus();
-    void aPageIsClosedByItsButtonByEscAndByTheTab();
-    void closingAllPagesLeavesNone();
-    void pagesOfADatabaseThatIsLeftOrClearedAreClosed();
-    void whoMayNotConfigureIsRefused_data();
-    void whoMayNotConfigureIsRefused();
-    void aConversionThatWasBrokenOffIsToldUntilNobodyWantsToHearOfIt();
-    void aPressedCategoryStaysOpenAndClosesTheOthers();
-    void theSidebarShowsTheMenusRowsAndDoesWhatTheyDo();
-    void theSidebarCanBeHidden();
-    void theDashboardsCommandsOpenTheirPages_data();
-    void theDashboardsCommandsOpenTheirPages();
-    void aDashboardWithoutItsFileStaysEmptyWithoutAWord();
-    void aReportOpensOnceATitleAndKnowsTheConnection();
-    void closingOneReportLeavesTheOthers();
-    void aPlugInThatDoesNotLoadIsToldAndTheOthersWork();
-    void theLanguagesOfTheFolderStandInTheMenu();
-    void choosingALanguageChangesTheWindowsIcon();
-    void reloadingWithoutASettingsFileSaysSo_data();
-    void reloadingWithoutASettingsFileSaysSo();
-    void aServerThatDoesNotAnswerLeavesTheFormerConnection();
-    void reloadingAnEmptyDatabaseAsksForTheInstallation();
-    void reloadingTakesTheNewValuesOver();
-    void theUserIsNamedInTheStatusBar();
-    void theProgramTellsAboutItself();
-    void aMessageShowsANameAsItIsWritten();
+    void theMenusStandInTheirOrder()
+    {
+        const QList<QPair<QString, QStringList>> expected{
+            {"Master &Data",
+             {"Users", "User Groups", "User Access", "Company Profile", "Item Types", "Units", "Tables", "Accounts",
+              "Suppliers", "Members", "Agents", "Employees", "Items"}},
+            {"Invento&ry", {"Beginning Balances", "Inventory Adjustments", "Item History"}},
+            {"Purchases", {"Purchase Orders", "Purchases / Receive Inventory", "Credit Notes", "Pay Bills"}},
+            {"Sales",
+             {"Dine", "Fast Foods", "Take Away Foods", "Incoming Orders ", "Customer Payments", "Member Payments",
+              "Agent Commissions >"}},
+            {"Cash Flow", {"General Journal Entries", "Transferring Funds"}},
+            {"Reports", {"Master Data", "Inventory", "Purchases", "Sales", "Cash Flow"}},
+            {"C&onfiguration",
+             {"General", "Running Numbers", "Printer >", "Show Sidebar", "Show Dashboard", "Database Management",
+              "Clear Transactions", "Language >"}},
+            {"Help", {"Manual", "About"}},
+        };
+        const QList<QAction*> bar = m_window->menuBar()->actions();
+        QCOMPARE(bar.size(), expected.size());
+        for (int at = 0; at < bar.size(); ++at) {
+            // What the program has besides stands behind them.
+            const QStringList entries = textsOf(bar.at(at)->menu());
+            QCOMPARE(bar.at(at)->text(), expected.at(at).first);
+            QCOMPARE(entries.mid(0, expected.at(at).second.size()), expected.at(at).second);
+        }
+        QCOMPARE(textsOf(menu("menuPenjualan")).mid(7), QStringList({QString(), "Printed Slips"}));
+        QCOMPARE(textsOf(menu("menuKomisi_Agen")), QStringList({"Agent Commissions", "Agent Commission Payments"}));
+        QCOMPARE(textsOf(menu("menuPrinter")), QStringList({"Cashier Printer", "Kitchen Printers"}));
+    }
+
+    void everyActionHasItsTextAndShortcut()
+    {
+        for (const Entry& entry : entries) {
+            const QAction* found = action(entry.action);
+            QVERIFY2(found, entry.action);
+            QCOMPARE(found->text(), QString(entry.text));
+            QCOMPARE(found->shortcut(), QKeySequence(entry.shortcut));
+        }
+    }
+
+    void anEntryOpensItsPageOrSaysThatItIsMissing_data()
+    {
+        addColumns<QString, QString>("name", "page");
+        for (const Entry& entry : entries) {
+            if (*entry.page)
+                addRow(entry.action, entry.action, entry.page);
+        }
+    }
+
+    void anEntryOpensItsPageOrSaysThatItIsMissing()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, page);
+        action(name)->trigger();
+        if (allTabFactories().contains(page)) {
+            QCOMPARE(openPages(), QStringList{page});
+            QCOMPARE(pages()->tabText(0), pages()->widget(0)->windowTitle());
+            QVERIFY(!pages()->tabText(0).isEmpty());
+            QCOMPARE(m_people->texts(), QStringList());
+        } else {
+            QCOMPARE(openPages(), QStringList());
+            QCOMPARE(m_people->texts(), QStringList{"can not load tab: " + page});
+            QCOMPARE(m_people->boxes().first().icon, QMessageBox::Critical);
+            QCOMPARE(m_people->lastTitle(), QString("Error"));
+        }
+    }
+
+    void aShortcutReachesItsPageEvenWhereAMenuMarksTheSameLetter_data()
+    {
+        addColumns<int, QString>("key", "name");
+        addRow("Alt+M", int(Qt::Key_M), "actionMeja");
+        addRow("Alt+D, as in Master Data", int(Qt::Key_D), "actionInventory_Adjustment");
+        addRow("Alt+O, as in Configuration", int(Qt::Key_O), "actionPesanan_Pembelian");
+    }
+
+    void aShortcutReachesItsPageEvenWhereAMenuMarksTheSameLetter()
+    {
+        QFETCH(int, key);
+        QFETCH(QString, name);
+        int triggered = 0;
+        action(name)->disconnect(m_window.get());
+        connect(action(name), &QAction::triggered, this, [&triggered] { ++triggered; });
+        for (int press = 1; press <= 3; ++press) {
+            QTest::keyClick(m_window->windowHandle(), Qt::Key(key), Qt::AltModifier);
+            QTRY_COMPARE(triggered, press);
+            QVERIFY(!QApplication::activePopupWidget());
+        }
+    }
+
+    void anOpenPageIsOnlyShownAgainAndNotReadAnew()
+    {
+        QVERIFY(m_window->openTab("TabMeja"));
+        QVERIFY(m_window->openTab("TabSatuan"));
+        const StatementCount statements;
+        action("actionMeja")->trigger();
+        QCOMPARE(openPages(), QStringList({"TabMeja", "TabSatuan"}));
+        QCOMPARE(pages()->currentIndex(), 0);
+        QCOMPARE(statements.count(), 0);
+        QVERIFY(!m_window->openTab("tabmeja"));
+        QCOMPARE(m_people->lastText(), QString("can not load tab: tabmeja"));
+    }
+
+    void theKeysGoToTheListOfThePageThatIsShown()
+    {
+        const auto hasKeys = [](const char* grid) {
+            return QApplication::focusWidget() && QApplication::focusWidget()->objectName() == QLatin1String(grid);
+        };
+        m_window->openTab("TabMeja");
+        QVERIFY(hasKeys("tblMeja"));
+        m_window->openTab("TabSatuan");
+        QVERIFY(hasKeys("tblSatuan"));
+        m_window->openTab("TabMeja");
+        QVERIFY(hasKeys("tblMeja"));
+        QTest::keyClick(pages()->currentWidget(), Qt::Key_Escape);
+        QTRY_VERIFY(hasKeys("tblSatuan"));
+    }
+
+    void theKeysGoFromPageToPageAndIntoTheMenus()
+    {
+        const auto withKeys = [] {
+            const QWidget* widget = QApplication::focusWidget();
+            return widget ? widget->objectName() : QString();
+        };
+        for (const char* page : {"TabMeja", "TabSatuan", "TabBank"})
+            m_window->openTab(page);
+        const QList<QPair<int, QString>> turns{{Qt::CTRL + Qt::Key_Tab, "tblMeja"},
+                                               {Qt::CTRL + Qt::Key_PageUp, "tblBank"},
+                                               {Qt::CTRL + Qt::SHIFT + Qt::Key_Tab, "tblSatuan"},
+                                               {Qt::CTRL + Qt::Key_PageDown, "tblBank"},
+                                               {Qt::CTRL + Qt::Key_W, "tblSatuan"}};
+        for (const auto& turn : turns) {
+            QTest::keyClick(m_window.get(), Qt::Key(turn.first & ~int(Qt::KeyboardModifierMask)),
+                            Qt::KeyboardModifiers(turn.first & int(Qt::KeyboardModifierMask)));
+            QTRY_COMPARE(withKeys(), turn.second);
+        }
+        QCOMPARE(openPages(), QStringList({"TabMeja", "TabSatuan"}));
+        QTest::keyClick(m_window.get(), Qt::Key_F10);
+        QTRY_VERIFY(QApplication::activePopupWidget());
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+        QTRY_VERIFY(!QApplication::activePopupWidget());
+    }
+
+    void aPageIsClosedByItsButtonByEscAndByTheTab()
+    {
+        const QList<std::function<void()>> ways{
+            [this] { pages()->currentWidget()->findChild<QPushButton*>("btnClose")->click(); },
+            [this] { QTest::keyClick(pages()->currentWidget(), Qt::Key_Escape); },
+            [this] { emit pages()->tabBar()->tabCloseRequested(1); },
+        };
+        m_window->openTab("TabSatuan");
+        for (const auto& close : ways) {
+            m_window->openTab("TabMeja");
+            const QPointer<QWidget> page = pages()->currentWidget();
+            close();
+            QTRY_COMPARE(openPages(), QStringList{"TabSatuan"});
+            QTRY_VERIFY(!page);
+        }
+    }
+
+    void closingAllPagesLeavesNone()
+    {
+        m_window->openTab("TabMeja");
+        m_window->openTab("TabSatuan");
+        m_window->closeAllTab();
+        QCOMPARE(pages()->count(), 0);
+    }
+
+    void pagesOfADatabaseThatIsLeftOrClearedAreClosed()
+    {
+        const TestDatabase other;
+        QVERIFY(m_database->open());
+        qputenv("XDG_DATA_HOME", m_folder->path().toLocal8Bit());
+        const QString path = ConnectionSettings::defaultPath();
+        QVERIFY(QDir().mkpath(QFileInfo(path).path()) && ownSettings().write(path));
+        m_window->setSettingsFile(path);
+        m_window->openTab("TabMeja");
+        for (const QString& name : {m_database->name(), other.name()}) {
+            QCOMPARE(openPages(), QStringList{"TabMeja"});
+            m_people->answer(QMessageBox::Yes);
+            m_people->expect<DialogBackupDB>([name](DialogBackupDB* dialog) {
+                dialog->findChild<QLineEdit*>("txtDBNameImport")->setText(name);
+                dialog->findChild<QPushButton*>("btnSetActiveDB")->click();
+                dialog->reject();
+            });
+            action("actionBackup_Database")->trigger();
+            QCOMPARE(m_people->lastText(), QString("Please restart the app first!"));
+            QCOMPARE(AppContext::instance()->dbName(), name);
+        }
+        QCOMPARE(openPages(), QStringList());
+
+        m_window->openTab("TabMeja");
+        m_people->expect<DialogClearTransactions>([](DialogClearTransactions* dialog) {
+            emit dialog->onCloseAllTab();
+            dialog->reject();
+        });
+        action("actionClear_Transactions")->trigger();
+        QCOMPARE(openPages(), QStringList());
+        QVERIFY(m_people->finished());
+        qunsetenv("XDG_DATA_HOME");
+        // With the pages that were closed, which go before the records of the other database.
+        m_window.reset();
+    }
+
+    void whoMayNotConfigureIsRefused_data()
+    {
+        addColumns<QString, QString>("name", "right");
+        addRow("General", "actionConfig", "Configuration.");
+        addRow("Company Profile", "actionPerusahaan", "Company Profile.");
+        addRow("Cashier Printer", "actionPrinter_Kasir", "Printer Config.");
+        addRow("Database Management", "actionBackup_Database", "Printer Config.");
+        addRow("Clear Transactions", "actionClear_Transactions", "Printer Config.");
+        addRow("Converter", "actionConverter", "Configuration.");
+    }
+
+    void whoMayNotConfigureIsRefused()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, right);
+        loginWithRights("Sales", {{0, 2}});
+        action(name)->trigger();
+        QCOMPARE(m_people->texts(), QStringList{"You don't have access.\r\nRequired permission: " + right});
+        QCOMPARE(m_people->surprises(), QStringList());
+    }
+
+    void aConversionThatWasBrokenOffIsToldUntilNobodyWantsToHearOfIt()
+    {
+        m_window->checkConversion();
+        QCOMPARE(m_people->texts(), QStringList());
+        m_database->run(
+            "INSERT INTO appconfig (appkey, is_json, appvalue, version) VALUES ('conversion', false, 'x', 1)");
+        m_people->answer(QMessageBox::Yes);
+        m_people->expect<DialogConverter>([](DialogConverter* dialog) { dialog->reject(); });
+        m_window->checkConversion();
+        QVERIFY(m_people->finished());
+        QVERIFY(m_people->lastText().contains("has not come to its end"));
+        m_people->answer(QMessageBox::Ignore);
+        m_window->checkConversion();
+        QCOMPARE(m_people->boxes().size(), 2);
+        m_window->checkConversion();
+        QCOMPARE(m_people->boxes().size(), 2);
+    }
+
+    void aPressedCategoryStaysOpenAndClosesTheOthers()
+    {
+        const auto open = [this] {
+            QList<int> expanded;
+            for (int i = 0; i < tree()->topLevelItemCount(); ++i) {
+                if (tree()->topLevelItem(i)->isExpanded())
+                    expanded.append(i);
+            }
+            return expanded;
+        };
+        QCOMPARE(tree()->topLevelItemCount(), 7);
+        QTest::mouseClick(category("Sales"), Qt::LeftButton);
+        QCOMPARE(open(), QList<int>{3});
+        QTest::mouseClick(category("Sales"), Qt::LeftButton);
+        QCOMPARE(open(), QList<int>{3});
+        QTest::mouseClick(category("Master Data"), Qt::LeftButton);
+        QCOMPARE(open(), QList<int>{0});
+    }
+
+    void theSidebarShowsTheMenusRowsAndDoesWhatTheyDo()
+    {
+        const auto texts = [this](int row) {
+            QStringList shown;
+            const QAbstractItemModel* model = rowsOf(row)->model();
+            for (int i = 0; i < model->rowCount(); ++i)
+                shown += model->index(i, 0).data().toString();
+            return shown;
+        };
+        QCOMPARE(texts(2), QStringList({"  Purchase Orders", "  Purchases ", "  Credit Notes", "  Pay Bills"}));
+        QCOMPARE(texts(3).mid(6),
+                 QStringList({"  Agent Commissions", "  Agent Commission Payments", "  Printed Slips"}));
+        QCOMPARE(texts(6),
+                 QStringList({"  General", "  Running Numbers", "  Cashier Printer", "  Kitchen Printers",
+                              "  Show Sidebar", "  Show Dashboard", "  Database Management", "  Clear Transactions"}));
+        // A sub-menu counts as one entry of the height, whatever it holds, and a line between entries as none.
+        QCOMPARE(rowsOf(3)->height(), (8 + 2) * 24 + rowsOf(3)->frameWidth());
+
+        QTest::mouseClick(category("Master Data"), Qt::LeftButton);
+        QListView* rows = rowsOf(0);
+        const QRect tables = rows->visualRect(rows->model()->index(6, 0));
+        QTRY_VERIFY(rows->isVisible());
+        QTest::mouseClick(rows->viewport(), Qt::LeftButton, Qt::NoModifier, tables.center());
+        QCOMPARE(openPages(), QStringList{"TabMeja"});
+    }
+
+    void theSidebarCanBeHidden()
+    {
+        QVERIFY(action("actionShow_Sidebar")->isChecked());
+        action("actionShow_Sidebar")->trigger();
+        QVERIFY(tree()->isHidden());
+        QVERIFY(!AppContext::instance()->showSidebar());
+        makeWindow();
+        QVERIFY(tree()->isHidden());
+        QVERIFY(!action("actionShow_Sidebar")->isChecked());
+    }
+
+    void theDashboardsCommandsOpenTheirPages_data()
+    {
+        addColumns<QString, QString>("command", "page");
+        addRow("kitchenprinter", "kitchenprinter", "TabKitchenPrinter");
+        addRow("itemtype", "itemtype", "TabJenisItem");
+        addRow("table", "table", "TabMeja");
+        addRow("unit", "unit", "TabSatuan");
+        addRow("item", "item", "TabItem");
+        addRow("beginingbalance", "beginingbalance", "TabStokAwal");
+        addRow("cash", "cash", "TabCashFlow");
+        addRow("salesorder", "salesorder", "TabMakanDitempat");
+        addRow("fastfood", "fastfood", "TabFastFood");
+        addRow("a right spelling", "beginningbalance", "");
+        addRow("other letters", "Table", "");
+    }
+
+    void theDashboardsCommandsOpenTheirPages()
+    {
+        QFETCH(QString, command);
+        QFETCH(QString, page);
+        m_window->on_callMainWindowCmd(command);
+        if (page.isEmpty() || allTabFactories().contains(page)) {
+            QCOMPARE(openPages(), page.isEmpty() ? QStringList() : QStringList{page});
+            QCOMPARE(m_people->texts(), QStringList());
+        } else {
+            QCOMPARE(m_people->texts(), QStringList{"can not load tab: " + page});
+        }
+    }
+
+    void aDashboardWithoutItsFileStaysEmptyWithoutAWord()
+    {
+        auto* show = action("actionShow_Dashboard");
+        show->trigger();
+        auto* view = m_window->findChild<QWebView*>("webView");
+        QVERIFY2(!view->page()->mainFrame()->requestedUrl().isLocalFile(), "the engine would tell of the missing file");
+        QCOMPARE(view->page()->mainFrame()->toPlainText(), QString());
+        QCOMPARE(m_people->texts(), QStringList());
+    }
+
+    void aReportOpensOnceATitleAndKnowsTheConnection()
+    {
+        action("actionPenjualan")->trigger();
+        action("actionPersediaan")->trigger();
+        action("actionPenjualan")->trigger();
+        QCOMPARE(openPages(), QStringList({"TabReport", "TabReport"}));
+        QCOMPARE(pages()->currentIndex(), 0);
+        QCOMPARE(pages()->tabText(0), QString("Report Penjualan"));
+        QCOMPARE(pages()->tabText(1), QString("Report Persediaan"));
+        const QWidget* report = pages()->widget(0);
+        QCOMPARE(report->property("db_name").toString(), m_database->name());
+        QCOMPARE(report->property("db_host").toString(), TestDatabase::host());
+        QCOMPARE(report->property("db_port").toString(), QString::number(TestDatabase::port()));
+        QCOMPARE(report->property("db_username").toString(), TestDatabase::user());
+        QCOMPARE(report->property("date_format").toString(), QString("d MMM yyyy"));
+        QCOMPARE(report->property("app_path").toString(), QCoreApplication::applicationDirPath());
+    }
+
+    void closingOneReportLeavesTheOthers()
+    {
+        action("actionKas")->trigger();
+        action("actionPembelian")->trigger();
+        static_cast<KorTab*>(pages()->widget(0))->close();
+        QCOMPARE(pages()->count(), 1);
+        QCOMPARE(pages()->tabText(0), QString("Report Pembelian"));
+    }
+
+    void aPlugInThatDoesNotLoadIsToldAndTheOthersWork()
+    {
+        writeFile(QCoreApplication::applicationDirPath() + "/plugins/broken.so", "no library");
+        makeWindow();
+        QCOMPARE(m_people->boxes().size(), 1);
+        QVERIFY(m_people->lastText().contains("broken.so"));
+        action("actionKas")->trigger();
+        QCOMPARE(pages()->count(), 1);
+    }
+
+    void theLanguagesOfTheFolderStandInTheMenu()
+    {
+        const QString folder = QCoreApplication::applicationDirPath() + "/languages/";
+        writeFile(folder + "TranslationExample_id.qm", "");
+        writeFile(folder + "TranslationExample_" + InterfaceLanguage::systemCode() + ".qm", "");
+        makeWindow();
+        QStringList codes;
+        QStringList checked;
+        const QList<QAction*> languages = menu("menuLanguage_2")->actions();
+        for (const QAction* language : languages) {
+            codes += language->data().toString();
+            if (language->isChecked())
+                checked += language->data().toString();
+        }
+        QVERIFY(codes.contains("id"));
+        QCOMPARE(checked, QStringList{InterfaceLanguage::systemCode()});
+        // The sidebar stood before: it has no row of a language.
+        QCOMPARE(rowsOf(6)->model()->rowCount(), 8);
+    }
+
+    void choosingALanguageChangesTheWindowsIcon()
+    {
+        const QString folder = QCoreApplication::applicationDirPath() + "/languages/";
+        writeFile(folder + "TranslationExample_id.qm", "");
+        makeWindow();
+        QAction* indonesian = menu("menuLanguage_2")->actions().first();
+        QCOMPARE(indonesian->text(), QString("Indonesian"));
+        const QLocale before;
+        indonesian->trigger();
+        QCOMPARE(QLocale().language(), QLocale::Indonesian);
+        QCOMPARE(m_window->statusBar()->currentMessage(), QString("Current Language changed to Indonesian"));
+        QVERIFY(m_window->windowIcon().cacheKey() == indonesian->icon().cacheKey());
+        QLocale::setDefault(before);
+    }
+
+    void reloadingWithoutASettingsFileSaysSo_data()
+    {
+        addColumns<bool>("folder");
+        addRow("nothing there", false);
+        addRow("a folder of that name", true);
+    }
+
+    void reloadingWithoutASettingsFileSaysSo()
+    {
+        QFETCH(bool, folder);
+        if (folder)
+            QVERIFY(QDir().mkpath(settingsFile()));
+        m_window->updateDBConfig();
+        QCOMPARE(m_people->texts(),
+                 QStringList{"Can't open settings file: " + settingsFile() +
+                             ".\r\nPlease fill the db connection fields and install the initial data"});
+        QVERIFY(AppContext::instance()->databaseManager()->isOpen());
+    }
+
+    void aServerThatDoesNotAnswerLeavesTheFormerConnection()
+    {
+        ConnectionSettings settings = ownSettings();
+        settings.database = "no_such_database";
+        settings.password = "secret";
+        QVERIFY(settings.write(settingsFile()));
+        m_window->updateDBConfig();
+        QCOMPARE(m_people->boxes().size(), 1);
+        QCOMPARE(m_people->lastTitle(), QString("Error"));
+        QVERIFY2(
+            m_people->lastText().startsWith(
+                QString("Failed open db. Host: %1, dbname: no_such_database, dbuser: %2, dbpass: secret,  port: %3. ")
+                    .arg(settings.host, settings.user)
+                    .arg(settings.port)),
+            qPrintable(m_people->lastText()));
+        QVERIFY(AppContext::instance()->databaseManager()->isOpen());
+        QCOMPARE(AppContext::instance()->dbName(), m_database->name());
+        m_window->openTab("TabMeja");
+        QCOMPARE(m_people->boxes().size(), 1);
+    }
+
+    void reloadingAnEmptyDatabaseAsksForTheInstallation()
+    {
+        const QString former = m_database->name();
+        TestDatabase empty(TestDatabase::Empty);
+        QVERIFY(m_database->open());
+        ConnectionSettings settings = ownSettings();
+        settings.database = empty.name();
+        QVERIFY(settings.write(settingsFile()));
+        m_window->updateDBConfig();
+        QCOMPARE(m_people->texts(), QStringList{"Table: Config corrupted.\r\nPlease fill the db connection fields and "
+                                                "install the initial data"});
+        QCOMPARE(AppContext::instance()->dbName(), former);
+    }
+
+    void reloadingTakesTheNewValuesOver()
+    {
+        TestDatabase other;
+        other.run("DELETE FROM appconfig");
+        other.run("INSERT INTO appconfig (appkey, is_json, appvalue, version) VALUES ('app_version', false, '1.1', 1)"
+                  ", ('localization', true, '{\"locale\":\"id_ID\",\"date_time_format\":\"dd/MM/yy\"}', 1)");
+        ConnectionSettings settings = ownSettings();
+        settings.database = other.name();
+        settings.showSidebar = true;
+        settings.showDashboard = false;
+        QVERIFY(settings.write(settingsFile()));
+        AppContext* context = AppContext::instance();
+        context->setShowDashboard(true);
+        m_window->updateDBConfig();
+        QCOMPARE(m_people->texts(), QStringList());
+        QCOMPARE(context->dateFormat(), QString("dd/MM/yy"));
+        QCOMPARE(context->locale(), QString("id_ID"));
+        QCOMPARE(context->dbName(), other.name());
+        // The dashboard's switch ends up with the sidebar, the dashboard keeps its own.
+        QVERIFY(!context->showSidebar());
+        QVERIFY(context->showDashboard());
+
+        m_people->expect<ConfigDialog>([this](ConfigDialog* dialog) {
+            m_window->updateDBConfig();
+            dialog->reject();
+        });
+        QVERIFY(!m_window->setupDatabase());
+        QCOMPARE(m_people->texts(), QStringList{"Connected!"});
+    }
+
+    void theUserIsNamedInTheStatusBar()
+    {
+        const auto labels = m_window->statusBar()->findChildren<QLabel*>();
+        QCOMPARE(labels.size(), 1);
+        QCOMPARE(labels.first()->text(), QString("Username: admin"));
+        QCOMPARE(m_window->windowTitle(), QString("Zavel POS"));
+        QVERIFY(m_window->isMaximized());
+    }
+
+    void theProgramTellsAboutItself()
+    {
+        QString version;
+        m_people->expect<DialogAbout>([&version](DialogAbout* dialog) {
+            version = dialog->findChild<QLabel*>("lblVersion")->text();
+            dialog->reject();
+        });
+        action("actionAbout")->trigger();
+        QCOMPARE(version, QString("Version 1.1"));
+    }
+
+    void aMessageShowsANameAsItIsWritten()
+    {
+        HouseStyle style;
+        QMessageBox box;
+        box.setText("Are you sure you want to delete this table: <b>Window</b> ?");
+        box.setStyle(&style);
+        box.ensurePolished();
+        QCOMPARE(box.textFormat(), Qt::PlainText);
+    }
 
 private:
     QAction* action(const QString& name) const { return m_window->findChild<QAction*>(name); }
     QMenu* menu(const QString& name) const { return m_window->findChild<QMenu*>(name); }
     QTabWidget* pages() const { return m_window->findChild<QTabWidget*>("tabWidget"); }
     QTreeWidget* tree() const { return m_window->findChild<QTreeWidget*>("treeWidget"); }
-    QtCategoryButton* category(const QString& title) const;
-    QListView* rowsOf(int category) const;
-    QStringList openPages() const;
-    void makeWindow();
-    ConnectionSettings ownSettings() const;
+    QtCategoryButton* category(const QString& title) const
+    {
+        const auto buttons = m_window->findChildren<QtCategoryButton*>();
+        for (QtCategoryButton* button : buttons) {
+            if (button->text().remove('&') == title)
+                return button;
+        }
+        return nullptr;
+    }
+
+    QListView* rowsOf(int category) const
+    {
+        QTreeWidgetItem* item = tree()->topLevelItem(category)->child(0);
+        return qobject_cast<QListView*>(tree()->itemWidget(item, 0));
+    }
+
+    QStringList openPages() const
+    {
+        QStringList names;
+        for (int i = 0; i < pages()->count(); ++i)
+            names += pages()->widget(i)->metaObject()->className();
+        return names;
+    }
+
+    void makeWindow()
+    {
+        m_window = std::make_unique<MainWindow>();
+        m_window->setSettingsFile(settingsFile());
+        m_window->show();
+        m_window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    }
+
+    ConnectionSettings ownSettings() const
+    {
+        ConnectionSettings settings;
+        settings.host = TestDatabase::host();
+        settings.database = m_database->name();
+        settings.user = TestDatabase::user();
+        settings.port = TestDatabase::port();
+        return settings;
+    }
+
     QString settingsFile() const { return m_folder->filePath("settings.ini"); }
 
     std::unique_ptr<TestDatabase> m_database;
@@ -176,612 +724,6 @@ private:
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<MainWindow> m_window;
 };
-
-void TestMainWindow::init()
-{
-    QVERIFY(m_database->open());
-    m_folder = std::make_unique<QTemporaryDir>();
-    loginAsAdmin();
-    AppContext::instance()->setLocale("en_US");
-    AppContext::instance()->setDateFormat("d MMM yyyy");
-    AppContext::instance()->setShowSidebar(true);
-    AppContext::instance()->setShowDashboard(false);
-    ownSettings().putIntoContext();
-    m_people = std::make_unique<ModalDriver>();
-    makeWindow();
-}
-
-void TestMainWindow::makeWindow()
-{
-    m_window = std::make_unique<MainWindow>();
-    m_window->setSettingsFile(settingsFile());
-    m_window->show();
-    m_window->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-}
-
-void TestMainWindow::cleanup()
-{
-    m_window.reset();
-    m_people.reset();
-    QDir(QCoreApplication::applicationDirPath() + "/languages").removeRecursively();
-    QFile::remove(QCoreApplication::applicationDirPath() + "/plugins/broken.so");
-}
-
-QtCategoryButton* TestMainWindow::category(const QString& title) const
-{
-    const auto buttons = m_window->findChildren<QtCategoryButton*>();
-    for (QtCategoryButton* button : buttons) {
-        if (button->text().remove('&') == title)
-            return button;
-    }
-    return nullptr;
-}
-
-QListView* TestMainWindow::rowsOf(int category) const
-{
-    QTreeWidgetItem* item = tree()->topLevelItem(category)->child(0);
-    return qobject_cast<QListView*>(tree()->itemWidget(item, 0));
-}
-
-QStringList TestMainWindow::openPages() const
-{
-    QStringList names;
-    for (int i = 0; i < pages()->count(); ++i)
-        names += pages()->widget(i)->metaObject()->className();
-    return names;
-}
-
-ConnectionSettings TestMainWindow::ownSettings() const
-{
-    ConnectionSettings settings;
-    settings.host = TestDatabase::host();
-    settings.database = m_database->name();
-    settings.user = TestDatabase::user();
-    settings.port = TestDatabase::port();
-    return settings;
-}
-
-void TestMainWindow::theMenusStandInTheirOrder()
-{
-    const QList<QPair<QString, QStringList>> expected{
-        {"Master &Data",
-         {"Users", "User Groups", "User Access", "Company Profile", "Item Types", "Units", "Tables", "Accounts",
-          "Suppliers", "Members", "Agents", "Employees", "Items"}},
-        {"Invento&ry", {"Beginning Balances", "Inventory Adjustments", "Item History"}},
-        {"Purchases", {"Purchase Orders", "Purchases / Receive Inventory", "Credit Notes", "Pay Bills"}},
-        {"Sales",
-         {"Dine", "Fast Foods", "Take Away Foods", "Incoming Orders ", "Customer Payments", "Member Payments",
-          "Agent Commissions >"}},
-        {"Cash Flow", {"General Journal Entries", "Transferring Funds"}},
-        {"Reports", {"Master Data", "Inventory", "Purchases", "Sales", "Cash Flow"}},
-        {"C&onfiguration",
-         {"General", "Running Numbers", "Printer >", "Show Sidebar", "Show Dashboard", "Database Management",
-          "Clear Transactions", "Language >"}},
-        {"Help", {"Manual", "About"}},
-    };
-    const QList<QAction*> bar = m_window->menuBar()->actions();
-    QCOMPARE(bar.size(), expected.size());
-    for (int at = 0; at < bar.size(); ++at) {
-        // What the program has besides stands behind them.
-        const QStringList entries = textsOf(bar.at(at)->menu());
-        QCOMPARE(bar.at(at)->text(), expected.at(at).first);
-        QCOMPARE(entries.mid(0, expected.at(at).second.size()), expected.at(at).second);
-    }
-    QCOMPARE(textsOf(menu("menuPenjualan")).mid(7), QStringList({QString(), "Printed Slips"}));
-    QCOMPARE(textsOf(menu("menuKomisi_Agen")), QStringList({"Agent Commissions", "Agent Commission Payments"}));
-    QCOMPARE(textsOf(menu("menuPrinter")), QStringList({"Cashier Printer", "Kitchen Printers"}));
-}
-
-void TestMainWindow::everyActionHasItsTextAndShortcut()
-{
-    for (const Entry& entry : entries) {
-        const QAction* found = action(entry.action);
-        QVERIFY2(found, entry.action);
-        QCOMPARE(found->text(), QString(entry.text));
-        QCOMPARE(found->shortcut(), QKeySequence(entry.shortcut));
-    }
-}
-
-void TestMainWindow::anEntryOpensItsPageOrSaysThatItIsMissing_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("page");
-    for (const Entry& entry : entries) {
-        if (*entry.page)
-            QTest::newRow(entry.action) << entry.action << entry.page;
-    }
-}
-
-void TestMainWindow::anEntryOpensItsPageOrSaysThatItIsMissing()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, page);
-    action(name)->trigger();
-    if (allTabFactories().contains(page)) {
-        QCOMPARE(openPages(), QStringList{page});
-        QCOMPARE(pages()->tabText(0), pages()->widget(0)->windowTitle());
-        QVERIFY(!pages()->tabText(0).isEmpty());
-        QCOMPARE(m_people->texts(), QStringList());
-    } else {
-        QCOMPARE(openPages(), QStringList());
-        QCOMPARE(m_people->texts(), QStringList{"can not load tab: " + page});
-        QCOMPARE(m_people->boxes().first().icon, QMessageBox::Critical);
-        QCOMPARE(m_people->lastTitle(), QString("Error"));
-    }
-}
-
-void TestMainWindow::aShortcutReachesItsPageEvenWhereAMenuMarksTheSameLetter_data()
-{
-    QTest::addColumn<int>("key");
-    QTest::addColumn<QString>("name");
-    QTest::newRow("Alt+M") << int(Qt::Key_M) << "actionMeja";
-    QTest::newRow("Alt+D, as in Master Data") << int(Qt::Key_D) << "actionInventory_Adjustment";
-    QTest::newRow("Alt+O, as in Configuration") << int(Qt::Key_O) << "actionPesanan_Pembelian";
-}
-
-void TestMainWindow::aShortcutReachesItsPageEvenWhereAMenuMarksTheSameLetter()
-{
-    QFETCH(int, key);
-    QFETCH(QString, name);
-    int triggered = 0;
-    action(name)->disconnect(m_window.get());
-    connect(action(name), &QAction::triggered, this, [&triggered] { ++triggered; });
-    for (int press = 1; press <= 3; ++press) {
-        QTest::keyClick(m_window->windowHandle(), Qt::Key(key), Qt::AltModifier);
-        QTRY_COMPARE(triggered, press);
-        QVERIFY(!QApplication::activePopupWidget());
-    }
-}
-
-void TestMainWindow::anOpenPageIsOnlyShownAgainAndNotReadAnew()
-{
-    QVERIFY(m_window->openTab("TabMeja"));
-    QVERIFY(m_window->openTab("TabSatuan"));
-    const StatementCount statements;
-    action("actionMeja")->trigger();
-    QCOMPARE(openPages(), QStringList({"TabMeja", "TabSatuan"}));
-    QCOMPARE(pages()->currentIndex(), 0);
-    QCOMPARE(statements.count(), 0);
-    QVERIFY(!m_window->openTab("tabmeja"));
-    QCOMPARE(m_people->lastText(), QString("can not load tab: tabmeja"));
-}
-
-void TestMainWindow::theKeysGoToTheListOfThePageThatIsShown()
-{
-    const auto hasKeys = [](const char* grid) {
-        return QApplication::focusWidget() && QApplication::focusWidget()->objectName() == QLatin1String(grid);
-    };
-    m_window->openTab("TabMeja");
-    QVERIFY(hasKeys("tblMeja"));
-    m_window->openTab("TabSatuan");
-    QVERIFY(hasKeys("tblSatuan"));
-    m_window->openTab("TabMeja");
-    QVERIFY(hasKeys("tblMeja"));
-    QTest::keyClick(pages()->currentWidget(), Qt::Key_Escape);
-    QTRY_VERIFY(hasKeys("tblSatuan"));
-}
-
-void TestMainWindow::theKeysGoFromPageToPageAndIntoTheMenus()
-{
-    const auto withKeys = [] {
-        const QWidget* widget = QApplication::focusWidget();
-        return widget ? widget->objectName() : QString();
-    };
-    for (const char* page : {"TabMeja", "TabSatuan", "TabBank"})
-        m_window->openTab(page);
-    const QList<QPair<int, QString>> turns{{Qt::CTRL + Qt::Key_Tab, "tblMeja"},
-                                           {Qt::CTRL + Qt::Key_PageUp, "tblBank"},
-                                           {Qt::CTRL + Qt::SHIFT + Qt::Key_Tab, "tblSatuan"},
-                                           {Qt::CTRL + Qt::Key_PageDown, "tblBank"},
-                                           {Qt::CTRL + Qt::Key_W, "tblSatuan"}};
-    for (const auto& turn : turns) {
-        QTest::keyClick(m_window.get(), Qt::Key(turn.first & ~int(Qt::KeyboardModifierMask)),
-                        Qt::KeyboardModifiers(turn.first & int(Qt::KeyboardModifierMask)));
-        QTRY_COMPARE(withKeys(), turn.second);
-    }
-    QCOMPARE(openPages(), QStringList({"TabMeja", "TabSatuan"}));
-    QTest::keyClick(m_window.get(), Qt::Key_F10);
-    QTRY_VERIFY(QApplication::activePopupWidget());
-    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
-    QTRY_VERIFY(!QApplication::activePopupWidget());
-}
-
-void TestMainWindow::aPageIsClosedByItsButtonByEscAndByTheTab()
-{
-    const QList<std::function<void()>> ways{
-        [this] { pages()->currentWidget()->findChild<QPushButton*>("btnClose")->click(); },
-        [this] { QTest::keyClick(pages()->currentWidget(), Qt::Key_Escape); },
-        [this] { emit pages()->tabBar()->tabCloseRequested(1); },
-    };
-    m_window->openTab("TabSatuan");
-    for (const auto& close : ways) {
-        m_window->openTab("TabMeja");
-        const QPointer<QWidget> page = pages()->currentWidget();
-        close();
-        QTRY_COMPARE(openPages(), QStringList{"TabSatuan"});
-        QTRY_VERIFY(!page);
-    }
-}
-
-void TestMainWindow::closingAllPagesLeavesNone()
-{
-    m_window->openTab("TabMeja");
-    m_window->openTab("TabSatuan");
-    m_window->closeAllTab();
-    QCOMPARE(pages()->count(), 0);
-}
-
-void TestMainWindow::pagesOfADatabaseThatIsLeftOrClearedAreClosed()
-{
-    const TestDatabase other;
-    QVERIFY(m_database->open());
-    qputenv("XDG_DATA_HOME", m_folder->path().toLocal8Bit());
-    const QString path = ConnectionSettings::defaultPath();
-    QVERIFY(QDir().mkpath(QFileInfo(path).path()) && ownSettings().write(path));
-    m_window->setSettingsFile(path);
-    m_window->openTab("TabMeja");
-    for (const QString& name : {m_database->name(), other.name()}) {
-        QCOMPARE(openPages(), QStringList{"TabMeja"});
-        m_people->answer(QMessageBox::Yes);
-        m_people->expect<DialogBackupDB>([name](DialogBackupDB* dialog) {
-            dialog->findChild<QLineEdit*>("txtDBNameImport")->setText(name);
-            dialog->findChild<QPushButton*>("btnSetActiveDB")->click();
-            dialog->reject();
-        });
-        action("actionBackup_Database")->trigger();
-        QCOMPARE(m_people->lastText(), QString("Please restart the app first!"));
-        QCOMPARE(AppContext::instance()->dbName(), name);
-    }
-    QCOMPARE(openPages(), QStringList());
-
-    m_window->openTab("TabMeja");
-    m_people->expect<DialogClearTransactions>([](DialogClearTransactions* dialog) {
-        emit dialog->onCloseAllTab();
-        dialog->reject();
-    });
-    action("actionClear_Transactions")->trigger();
-    QCOMPARE(openPages(), QStringList());
-    QVERIFY(m_people->finished());
-    qunsetenv("XDG_DATA_HOME");
-    // With the pages that were closed, which go before the records of the other database.
-    m_window.reset();
-}
-
-void TestMainWindow::whoMayNotConfigureIsRefused_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("right");
-    QTest::newRow("General") << "actionConfig"
-                             << "Configuration.";
-    QTest::newRow("Company Profile") << "actionPerusahaan"
-                                     << "Company Profile.";
-    QTest::newRow("Cashier Printer") << "actionPrinter_Kasir"
-                                     << "Printer Config.";
-    QTest::newRow("Database Management") << "actionBackup_Database"
-                                         << "Printer Config.";
-    QTest::newRow("Clear Transactions") << "actionClear_Transactions"
-                                        << "Printer Config.";
-    QTest::newRow("Converter") << "actionConverter"
-                               << "Configuration.";
-}
-
-void TestMainWindow::whoMayNotConfigureIsRefused()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, right);
-    loginWithRights("Sales", {{0, 2}});
-    action(name)->trigger();
-    QCOMPARE(m_people->texts(), QStringList{"You don't have access.\r\nRequired permission: " + right});
-    QCOMPARE(m_people->surprises(), QStringList());
-}
-
-void TestMainWindow::aConversionThatWasBrokenOffIsToldUntilNobodyWantsToHearOfIt()
-{
-    m_window->checkConversion();
-    QCOMPARE(m_people->texts(), QStringList());
-    m_database->run("INSERT INTO appconfig (appkey, is_json, appvalue, version) VALUES ('conversion', false, 'x', 1)");
-    m_people->answer(QMessageBox::Yes);
-    m_people->expect<DialogConverter>([](DialogConverter* dialog) { dialog->reject(); });
-    m_window->checkConversion();
-    QVERIFY(m_people->finished());
-    QVERIFY(m_people->lastText().contains("has not come to its end"));
-    m_people->answer(QMessageBox::Ignore);
-    m_window->checkConversion();
-    QCOMPARE(m_people->boxes().size(), 2);
-    m_window->checkConversion();
-    QCOMPARE(m_people->boxes().size(), 2);
-}
-
-void TestMainWindow::aPressedCategoryStaysOpenAndClosesTheOthers()
-{
-    const auto open = [this] {
-        QList<int> expanded;
-        for (int i = 0; i < tree()->topLevelItemCount(); ++i) {
-            if (tree()->topLevelItem(i)->isExpanded())
-                expanded.append(i);
-        }
-        return expanded;
-    };
-    QCOMPARE(tree()->topLevelItemCount(), 7);
-    QTest::mouseClick(category("Sales"), Qt::LeftButton);
-    QCOMPARE(open(), QList<int>{3});
-    QTest::mouseClick(category("Sales"), Qt::LeftButton);
-    QCOMPARE(open(), QList<int>{3});
-    QTest::mouseClick(category("Master Data"), Qt::LeftButton);
-    QCOMPARE(open(), QList<int>{0});
-}
-
-void TestMainWindow::theSidebarShowsTheMenusRowsAndDoesWhatTheyDo()
-{
-    const auto texts = [this](int row) {
-        QStringList shown;
-        const QAbstractItemModel* model = rowsOf(row)->model();
-        for (int i = 0; i < model->rowCount(); ++i)
-            shown += model->index(i, 0).data().toString();
-        return shown;
-    };
-    QCOMPARE(texts(2), QStringList({"  Purchase Orders", "  Purchases ", "  Credit Notes", "  Pay Bills"}));
-    QCOMPARE(texts(3).mid(6), QStringList({"  Agent Commissions", "  Agent Commission Payments", "  Printed Slips"}));
-    QCOMPARE(texts(6),
-             QStringList({"  General", "  Running Numbers", "  Cashier Printer", "  Kitchen Printers", "  Show Sidebar",
-                          "  Show Dashboard", "  Database Management", "  Clear Transactions"}));
-    // A sub-menu counts as one entry of the height, whatever it holds, and a line between entries as none.
-    QCOMPARE(rowsOf(3)->height(), (8 + 2) * 24 + rowsOf(3)->frameWidth());
-
-    QTest::mouseClick(category("Master Data"), Qt::LeftButton);
-    QListView* rows = rowsOf(0);
-    const QRect tables = rows->visualRect(rows->model()->index(6, 0));
-    QTRY_VERIFY(rows->isVisible());
-    QTest::mouseClick(rows->viewport(), Qt::LeftButton, Qt::NoModifier, tables.center());
-    QCOMPARE(openPages(), QStringList{"TabMeja"});
-}
-
-void TestMainWindow::theSidebarCanBeHidden()
-{
-    QVERIFY(action("actionShow_Sidebar")->isChecked());
-    action("actionShow_Sidebar")->trigger();
-    QVERIFY(tree()->isHidden());
-    QVERIFY(!AppContext::instance()->showSidebar());
-    makeWindow();
-    QVERIFY(tree()->isHidden());
-    QVERIFY(!action("actionShow_Sidebar")->isChecked());
-}
-
-void TestMainWindow::theDashboardsCommandsOpenTheirPages_data()
-{
-    QTest::addColumn<QString>("command");
-    QTest::addColumn<QString>("page");
-    QTest::newRow("kitchenprinter") << "kitchenprinter"
-                                    << "TabKitchenPrinter";
-    QTest::newRow("itemtype") << "itemtype"
-                              << "TabJenisItem";
-    QTest::newRow("table") << "table"
-                           << "TabMeja";
-    QTest::newRow("unit") << "unit"
-                          << "TabSatuan";
-    QTest::newRow("item") << "item"
-                          << "TabItem";
-    QTest::newRow("beginingbalance") << "beginingbalance"
-                                     << "TabStokAwal";
-    QTest::newRow("cash") << "cash"
-                          << "TabCashFlow";
-    QTest::newRow("salesorder") << "salesorder"
-                                << "TabMakanDitempat";
-    QTest::newRow("fastfood") << "fastfood"
-                              << "TabFastFood";
-    QTest::newRow("a right spelling") << "beginningbalance"
-                                      << "";
-    QTest::newRow("other letters") << "Table"
-                                   << "";
-}
-
-void TestMainWindow::theDashboardsCommandsOpenTheirPages()
-{
-    QFETCH(QString, command);
-    QFETCH(QString, page);
-    m_window->on_callMainWindowCmd(command);
-    if (page.isEmpty() || allTabFactories().contains(page)) {
-        QCOMPARE(openPages(), page.isEmpty() ? QStringList() : QStringList{page});
-        QCOMPARE(m_people->texts(), QStringList());
-    } else {
-        QCOMPARE(m_people->texts(), QStringList{"can not load tab: " + page});
-    }
-}
-
-void TestMainWindow::aDashboardWithoutItsFileStaysEmptyWithoutAWord()
-{
-    auto* show = action("actionShow_Dashboard");
-    show->trigger();
-    auto* view = m_window->findChild<QWebView*>("webView");
-    QVERIFY2(!view->page()->mainFrame()->requestedUrl().isLocalFile(), "the engine would tell of the missing file");
-    QCOMPARE(view->page()->mainFrame()->toPlainText(), QString());
-    QCOMPARE(m_people->texts(), QStringList());
-}
-
-void TestMainWindow::aReportOpensOnceATitleAndKnowsTheConnection()
-{
-    action("actionPenjualan")->trigger();
-    action("actionPersediaan")->trigger();
-    action("actionPenjualan")->trigger();
-    QCOMPARE(openPages(), QStringList({"TabReport", "TabReport"}));
-    QCOMPARE(pages()->currentIndex(), 0);
-    QCOMPARE(pages()->tabText(0), QString("Report Penjualan"));
-    QCOMPARE(pages()->tabText(1), QString("Report Persediaan"));
-    const QWidget* report = pages()->widget(0);
-    QCOMPARE(report->property("db_name").toString(), m_database->name());
-    QCOMPARE(report->property("db_host").toString(), TestDatabase::host());
-    QCOMPARE(report->property("db_port").toString(), QString::number(TestDatabase::port()));
-    QCOMPARE(report->property("db_username").toString(), TestDatabase::user());
-    QCOMPARE(report->property("date_format").toString(), QString("d MMM yyyy"));
-    QCOMPARE(report->property("app_path").toString(), QCoreApplication::applicationDirPath());
-}
-
-void TestMainWindow::closingOneReportLeavesTheOthers()
-{
-    action("actionKas")->trigger();
-    action("actionPembelian")->trigger();
-    static_cast<KorTab*>(pages()->widget(0))->close();
-    QCOMPARE(pages()->count(), 1);
-    QCOMPARE(pages()->tabText(0), QString("Report Pembelian"));
-}
-
-void TestMainWindow::aPlugInThatDoesNotLoadIsToldAndTheOthersWork()
-{
-    writeFile(QCoreApplication::applicationDirPath() + "/plugins/broken.so", "no library");
-    makeWindow();
-    QCOMPARE(m_people->boxes().size(), 1);
-    QVERIFY(m_people->lastText().contains("broken.so"));
-    action("actionKas")->trigger();
-    QCOMPARE(pages()->count(), 1);
-}
-
-void TestMainWindow::theLanguagesOfTheFolderStandInTheMenu()
-{
-    const QString folder = QCoreApplication::applicationDirPath() + "/languages/";
-    writeFile(folder + "TranslationExample_id.qm", "");
-    writeFile(folder + "TranslationExample_" + InterfaceLanguage::systemCode() + ".qm", "");
-    makeWindow();
-    QStringList codes;
-    QStringList checked;
-    const QList<QAction*> languages = menu("menuLanguage_2")->actions();
-    for (const QAction* language : languages) {
-        codes += language->data().toString();
-        if (language->isChecked())
-            checked += language->data().toString();
-    }
-    QVERIFY(codes.contains("id"));
-    QCOMPARE(checked, QStringList{InterfaceLanguage::systemCode()});
-    // The sidebar stood before: it has no row of a language.
-    QCOMPARE(rowsOf(6)->model()->rowCount(), 8);
-}
-
-void TestMainWindow::choosingALanguageChangesTheWindowsIcon()
-{
-    const QString folder = QCoreApplication::applicationDirPath() + "/languages/";
-    writeFile(folder + "TranslationExample_id.qm", "");
-    makeWindow();
-    QAction* indonesian = menu("menuLanguage_2")->actions().first();
-    QCOMPARE(indonesian->text(), QString("Indonesian"));
-    const QLocale before;
-    indonesian->trigger();
-    QCOMPARE(QLocale().language(), QLocale::Indonesian);
-    QCOMPARE(m_window->statusBar()->currentMessage(), QString("Current Language changed to Indonesian"));
-    QVERIFY(m_window->windowIcon().cacheKey() == indonesian->icon().cacheKey());
-    QLocale::setDefault(before);
-}
-
-void TestMainWindow::reloadingWithoutASettingsFileSaysSo_data()
-{
-    QTest::addColumn<bool>("folder");
-    QTest::newRow("nothing there") << false;
-    QTest::newRow("a folder of that name") << true;
-}
-
-void TestMainWindow::reloadingWithoutASettingsFileSaysSo()
-{
-    QFETCH(bool, folder);
-    if (folder)
-        QVERIFY(QDir().mkpath(settingsFile()));
-    m_window->updateDBConfig();
-    QCOMPARE(m_people->texts(), QStringList{"Can't open settings file: " + settingsFile() +
-                                            ".\r\nPlease fill the db connection fields and install the initial data"});
-    QVERIFY(AppContext::instance()->databaseManager()->isOpen());
-}
-
-void TestMainWindow::aServerThatDoesNotAnswerLeavesTheFormerConnection()
-{
-    ConnectionSettings settings = ownSettings();
-    settings.database = "no_such_database";
-    settings.password = "secret";
-    QVERIFY(settings.write(settingsFile()));
-    m_window->updateDBConfig();
-    QCOMPARE(m_people->boxes().size(), 1);
-    QCOMPARE(m_people->lastTitle(), QString("Error"));
-    QVERIFY2(m_people->lastText().startsWith(
-                 QString("Failed open db. Host: %1, dbname: no_such_database, dbuser: %2, dbpass: secret,  port: %3. ")
-                     .arg(settings.host, settings.user)
-                     .arg(settings.port)),
-             qPrintable(m_people->lastText()));
-    QVERIFY(AppContext::instance()->databaseManager()->isOpen());
-    QCOMPARE(AppContext::instance()->dbName(), m_database->name());
-    m_window->openTab("TabMeja");
-    QCOMPARE(m_people->boxes().size(), 1);
-}
-
-void TestMainWindow::reloadingAnEmptyDatabaseAsksForTheInstallation()
-{
-    const QString former = m_database->name();
-    TestDatabase empty(TestDatabase::Empty);
-    QVERIFY(m_database->open());
-    ConnectionSettings settings = ownSettings();
-    settings.database = empty.name();
-    QVERIFY(settings.write(settingsFile()));
-    m_window->updateDBConfig();
-    QCOMPARE(m_people->texts(), QStringList{"Table: Config corrupted.\r\nPlease fill the db connection fields and "
-                                            "install the initial data"});
-    QCOMPARE(AppContext::instance()->dbName(), former);
-}
-
-void TestMainWindow::reloadingTakesTheNewValuesOver()
-{
-    TestDatabase other;
-    other.run("DELETE FROM appconfig");
-    other.run("INSERT INTO appconfig (appkey, is_json, appvalue, version) VALUES ('app_version', false, '1.1', 1)"
-              ", ('localization', true, '{\"locale\":\"id_ID\",\"date_time_format\":\"dd/MM/yy\"}', 1)");
-    ConnectionSettings settings = ownSettings();
-    settings.database = other.name();
-    settings.showSidebar = true;
-    settings.showDashboard = false;
-    QVERIFY(settings.write(settingsFile()));
-    AppContext* context = AppContext::instance();
-    context->setShowDashboard(true);
-    m_window->updateDBConfig();
-    QCOMPARE(m_people->texts(), QStringList());
-    QCOMPARE(context->dateFormat(), QString("dd/MM/yy"));
-    QCOMPARE(context->locale(), QString("id_ID"));
-    QCOMPARE(context->dbName(), other.name());
-    // The dashboard's switch ends up with the sidebar, the dashboard keeps its own.
-    QVERIFY(!context->showSidebar());
-    QVERIFY(context->showDashboard());
-
-    m_people->expect<ConfigDialog>([this](ConfigDialog* dialog) {
-        m_window->updateDBConfig();
-        dialog->reject();
-    });
-    QVERIFY(!m_window->setupDatabase());
-    QCOMPARE(m_people->texts(), QStringList{"Connected!"});
-}
-
-void TestMainWindow::theUserIsNamedInTheStatusBar()
-{
-    const auto labels = m_window->statusBar()->findChildren<QLabel*>();
-    QCOMPARE(labels.size(), 1);
-    QCOMPARE(labels.first()->text(), QString("Username: admin"));
-    QCOMPARE(m_window->windowTitle(), QString("Zavel POS"));
-    QVERIFY(m_window->isMaximized());
-}
-
-void TestMainWindow::theProgramTellsAboutItself()
-{
-    QString version;
-    m_people->expect<DialogAbout>([&version](DialogAbout* dialog) {
-        version = dialog->findChild<QLabel*>("lblVersion")->text();
-        dialog->reject();
-    });
-    action("actionAbout")->trigger();
-    QCOMPARE(version, QString("Version 1.1"));
-}
-
-void TestMainWindow::aMessageShowsANameAsItIsWritten()
-{
-    HouseStyle style;
-    QMessageBox box;
-    box.setText("Are you sure you want to delete this table: <b>Window</b> ?");
-    box.setStyle(&style);
-    box.ensurePolished();
-    QCOMPARE(box.textFormat(), Qt::PlainText);
-}
 
 QTEST_MAIN(TestMainWindow)
 #include "tst_main_window.moc"

@@ -12,6 +12,7 @@
 #include "pos/masterdata/supplier/SupplierTextBox.h"
 #include "support/MasterFamilies.h"
 #include "support/ModalDriver.h"
+#include "support/Rows.h"
 #include "support/TestDatabase.h"
 
 #include <QComboBox>
@@ -62,7 +63,66 @@ private slots:
     void init() { m_people = std::make_unique<ModalDriver>(); }
     void cleanup() { m_people.reset(); }
 
-    void aFormSaysAllThatIsWrongAtOnce_data();
+    void aFormSaysAllThatIsWrongAtOnce_data()
+    {
+        addColumns<int, Input, QString>("family", "input", "told");
+
+        struct Words
+        {
+            QString service;
+            QString empty;
+            QString taken;
+            QString email;
+        };
+        const QList<Words> all{
+            {"Table",
+             "Enter the table code\r\nEnter the table name\r\n",
+             "This table code is already in use please use another code\r\n",
+             {}},
+            {"Unit",
+             "Enter the unit name\r\nEnter the unit code\r\n",
+             "This unit code is already in use please use another code\r\n",
+             {}},
+            {"Item Type",
+             "Enter the code\r\nEnter the name\r\n",
+             "This code is already in use please use another code\r\n",
+             {}},
+            {"Supplier",
+             "Enter the supplier code\r\nEnter the supplier name\r\nEnter the supplier address\r\nEnter the telp "
+             "no\r\n",
+             "This supplier code is already in use please use another code\r\n", "Enter the valid email address\r\n"},
+            {"Member", "Enter the member code\r\nEnter the member name\r\nEnter the address\r\nenter the telp no.\r\n",
+             "This member code is already used please use another code\r\n", "Enter the valid email address\r\n"},
+            {"Agent", "Enter the agent code\r\nEnter the agent name\r\nEnter the address\r\nEnter the telp no\r\n",
+             "This agent code already used, please choose another code\r\n", "Enter the correct email address\r\n"},
+            {"Bank",
+             "Enter the account code\r\nEnter the account name\r\n",
+             "The code you entered is already in use please use another code\r\n",
+             {}},
+            {"Employee",
+             "Enter the employee code\r\nEnter the employee name\r\nEnter the employee address\r\n"
+             "Enter the phone no\r\n",
+             "This employee code is already in use, please enter another code\r\n",
+             "Enter the valid email address\r\n"},
+        };
+        const auto row = [](const Words& words, const char* name, const Input& input, const QString& told) {
+            addRow(qPrintable(words.service + ", " + name), indexOf(words.service), input, told);
+        };
+        for (const Words& words : all) {
+            row(words, "nothing filled in", nothing, words.empty);
+            row(words, "code taken in other letters", with({{"txtKode", "TAKEN"}}), words.taken);
+            row(words, "all in order", with({}), {});
+            if (words.email.isEmpty())
+                continue;
+            row(words, "no e-mail", with({{"txtEmail", ""}}), {});
+            row(words, "e-mail without a host", with({{"txtEmail", "budi@"}}), words.email);
+        }
+        const Words& suppliers = all.at(3);
+        row(suppliers, "e-mail in capitals", with({{"txtEmail", "A.B+C@D-E.INFO"}}), {});
+        row(suppliers, "e-mail with a long ending", with({{"txtEmail", "a@example.museum"}}), suppliers.email);
+        row(suppliers, "e-mail and more", with({{"txtEmail", "a@example.com, b@example.com"}}), suppliers.email);
+    }
+
     void aFormSaysAllThatIsWrongAtOnce()
     {
         QFETCH(int, family);
@@ -131,17 +191,15 @@ private slots:
 
     void anAgentsShareIsAPercentage_data()
     {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<bool>("accepted");
-        QTest::addColumn<double>("share");
-        QTest::newRow("nothing at all") << "0" << true << 0.0;
-        QTest::newRow("a fraction") << "7.5" << true << 7.5;
-        QTest::newRow("everything") << "100" << true << 100.0;
-        QTest::newRow("a little more") << "100.01" << false << 0.0;
-        QTest::newRow("less than nothing") << "-0.5" << false << 0.0;
-        QTest::newRow("no number") << "1O" << false << 0.0;
-        QTest::newRow("emptied") << "" << true << 0.0;
-        QTest::newRow("untouched") << QString() << true << 0.0;
+        addColumns<QString, bool, double>("typed", "accepted", "share");
+        addRow("nothing at all", "0", true, 0.0);
+        addRow("a fraction", "7.5", true, 7.5);
+        addRow("everything", "100", true, 100.0);
+        addRow("a little more", "100.01", false, 0.0);
+        addRow("less than nothing", "-0.5", false, 0.0);
+        addRow("no number", "1O", false, 0.0);
+        addRow("emptied", "", true, 0.0);
+        addRow("untouched", QString(), true, 0.0);
     }
     void anAgentsShareIsAPercentage()
     {
@@ -270,66 +328,6 @@ private:
     std::unique_ptr<TestDatabase> m_database;
     std::unique_ptr<ModalDriver> m_people;
 };
-
-void TestMasterForms::aFormSaysAllThatIsWrongAtOnce_data()
-{
-    QTest::addColumn<int>("family");
-    QTest::addColumn<Input>("input");
-    QTest::addColumn<QString>("told");
-
-    struct Words
-    {
-        QString service;
-        QString empty;
-        QString taken;
-        QString email;
-    };
-    const QList<Words> all{
-        {"Table",
-         "Enter the table code\r\nEnter the table name\r\n",
-         "This table code is already in use please use another code\r\n",
-         {}},
-        {"Unit",
-         "Enter the unit name\r\nEnter the unit code\r\n",
-         "This unit code is already in use please use another code\r\n",
-         {}},
-        {"Item Type",
-         "Enter the code\r\nEnter the name\r\n",
-         "This code is already in use please use another code\r\n",
-         {}},
-        {"Supplier",
-         "Enter the supplier code\r\nEnter the supplier name\r\nEnter the supplier address\r\nEnter the telp no\r\n",
-         "This supplier code is already in use please use another code\r\n", "Enter the valid email address\r\n"},
-        {"Member", "Enter the member code\r\nEnter the member name\r\nEnter the address\r\nenter the telp no.\r\n",
-         "This member code is already used please use another code\r\n", "Enter the valid email address\r\n"},
-        {"Agent", "Enter the agent code\r\nEnter the agent name\r\nEnter the address\r\nEnter the telp no\r\n",
-         "This agent code already used, please choose another code\r\n", "Enter the correct email address\r\n"},
-        {"Bank",
-         "Enter the account code\r\nEnter the account name\r\n",
-         "The code you entered is already in use please use another code\r\n",
-         {}},
-        {"Employee",
-         "Enter the employee code\r\nEnter the employee name\r\nEnter the employee address\r\n"
-         "Enter the phone no\r\n",
-         "This employee code is already in use, please enter another code\r\n", "Enter the valid email address\r\n"},
-    };
-    const auto row = [](const Words& words, const char* name, const Input& input, const QString& told) {
-        QTest::newRow(qPrintable(words.service + ", " + name)) << indexOf(words.service) << input << told;
-    };
-    for (const Words& words : all) {
-        row(words, "nothing filled in", nothing, words.empty);
-        row(words, "code taken in other letters", with({{"txtKode", "TAKEN"}}), words.taken);
-        row(words, "all in order", with({}), {});
-        if (words.email.isEmpty())
-            continue;
-        row(words, "no e-mail", with({{"txtEmail", ""}}), {});
-        row(words, "e-mail without a host", with({{"txtEmail", "budi@"}}), words.email);
-    }
-    const Words& suppliers = all.at(3);
-    row(suppliers, "e-mail in capitals", with({{"txtEmail", "A.B+C@D-E.INFO"}}), {});
-    row(suppliers, "e-mail with a long ending", with({{"txtEmail", "a@example.museum"}}), suppliers.email);
-    row(suppliers, "e-mail and more", with({{"txtEmail", "a@example.com, b@example.com"}}), suppliers.email);
-}
 
 QTEST_MAIN(TestMasterForms)
 #include "tst_master_forms.moc"

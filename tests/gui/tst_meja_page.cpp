@@ -1,4 +1,5 @@
 #include "support/ModalDriver.h"
+#include "support/Rows.h"
 #include "support/TestDatabase.h"
 #include "zavel/tables/DialogMeja.h"
 #include "zavel/tables/TabMeja.h"
@@ -50,9 +51,9 @@ private slots:
 
     void aDoubleClickEditsLikeF2_data()
     {
-        QTest::addColumn<bool>("mouse");
-        QTest::newRow("F2") << false;
-        QTest::newRow("double click") << true;
+        addColumns<bool>("mouse");
+        addRow("F2", false);
+        addRow("double click", true);
     }
     void aDoubleClickEditsLikeF2()
     {

@@ -1,6 +1,7 @@
 #include "app/context/AppContext.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "support/Hands.h"
+#include "support/Rows.h"
 #include "support/SalesRows.h"
 #include "support/ShopRows.h"
 #include "support/TestCluster.h"
@@ -21,33 +22,430 @@ class TestMemberPayments : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-    void aMemberPaysAllThatIsOpen();
-    void aMemberIsPickedWhileTyping();
-    void aLostConnectionIsToldAndCanBeTriedAgain();
-    void aPartIsPaidOfOneInvoice_data();
-    void aPartIsPaidOfOneInvoice();
-    void whatIsMissingIsTold_data();
-    void whatIsMissingIsTold();
-    void aCardAtTheSaleIsNotReplacedUnasked();
-    void anEditShowsItsOwnPartAndWhatElseIsOpen();
-    void anotherMembersPaymentTakesTheStoredLinesOff();
-    void aStaleEditIsToldAndTheFormStays();
-    void aPaymentThatStandsIsNotEnteredTwice();
-    void deletingAsksAndLeavesTheInvoiceAsItIs();
-    void theFiltersNarrowTheList();
-    void nothingHappensWithoutTheRight();
+    void init()
+    {
+        m_database = std::make_unique<TestDatabase>();
+        AppContext::instance()->setLocale("id_ID");
+        insertShop(*m_database);
+        loginAsAdmin();
+        insertSeller(*m_database, 1, "ann");
+        m_database->run("INSERT INTO member (id, kode, nama, alamat, telp, discount_percentage, version) VALUES "
+                        "(2, 'M2', 'Other', '', '', 0, 1)");
+        SaleRow sale;
+        sale.member = 1;
+        sale.status = Invoice::UNPAID;
+        sale.paid = 0;
+        for (const auto& total : {500, 300}) {
+            sale.no = QString("TRD-%1").arg(total);
+            sale.total = total;
+            sale.date = QDate(2026, 3, total / 100);
+            insertSale(*m_database, sale);
+        }
+        m_people = std::make_unique<ModalDriver>();
+    }
+
+    void cleanup()
+    {
+        m_page.reset();
+        m_people.reset();
+        service<BusinessPenjualan>("Sales")->clearErrors();
+        m_database.reset();
+    }
+
+    // --- a new payment -----------------------------------------------------------------------------------------------
+
+    void aMemberPaysAllThatIsOpen()
+    {
+        show();
+        onForm("btnAdd", [](DialogPiutang* form) {
+            QCOMPARE(form->windowTitle(), QString("Member Payment Form"));
+            enter(form, "txtMember", "m1");
+            QCOMPARE(shown(form, "txtMember"), QString("M1"));
+            QCOMPARE(shown(form, "txtNamaPelanggan"), QString("Guest"));
+            QCOMPARE(cells(form, 0).mid(2), (QStringList{"Rp500,00", "Rp500,00", "Rp0,00"}));
+            QCOMPARE(cells(form, 1).first(), QString("TRD-300"));
+            click(form, "pushButton");
+            // Asked again it changes nothing.
+            click(form, "pushButton");
+            QCOMPARE(cells(form, 0).mid(2), (QStringList{"Rp500,00", "Rp0,00", "Rp500,00"}));
+            QCOMPARE(shown(form, "txtGrandTotal"), QString("800,00"));
+            enter(form, "txtARAccount", "1-100");
+            QCOMPARE(form->findChild<QLabel*>("lblARAccount")->text(), QString("Cash"));
+            form->findChild<QComboBox*>("ddlPaymentType")->setFocus();
+            QTest::keyClicks(form->findChild<QComboBox*>("ddlPaymentType"), "che");
+            enter(form, "txtCekNo", "77");
+            confirm(form, "txtRefNo");
+        });
+        QTRY_COMPARE(cells(m_page.get(), 0).mid(2), (QStringList{"M1", "Guest", "Rp800,00", "Check"}));
+        QCOMPARE(m_page->findChild<QLabel*>("lblCount")->text(), QString("1 Items"));
+        QCOMPARE(value("SELECT concat_ws(' ', no, check_no, bank_id) FROM piutang"), QString("PIU-0007 77 1"));
+        QCOMPARE(
+            value("SELECT string_agg(concat_ws(' ', status, other_payment_amount, net_due_amount), ', ' ORDER BY id) "
+                  "FROM invoice"),
+            QString("1 500 0, 1 300 0"));
+    }
+
+    void aMemberIsPickedWhileTyping()
+    {
+        DialogPiutang form;
+        form.show();
+        QVERIFY(QTest::qWaitForWindowActive(&form));
+        QTRY_VERIFY(box(&form, "txtMember")->hasFocus());
+        QTest::keyClicks(box(&form, "txtMember"), "gue");
+        QTRY_VERIFY(QApplication::activePopupWidget());
+        const StatementCount statements;
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
+        QTRY_VERIFY(box(&form, "txtARAccount")->hasFocus());
+        QCOMPARE(shown(&form, "txtMember"), QString("M1"));
+        QCOMPARE(form.findChild<QLabel*>("lblCount")->text(), QString("2 Items"));
+        QVERIFY(statements.count() <= 2);
+
+        // The walk with the Tab key goes through the page to the buttons below it.
+        QStringList walk;
+        for (int step = 0; step < 14; ++step) {
+            const QString name = form.focusWidget()->objectName();
+            if (walk.isEmpty() || walk.last() != name)
+                walk.append(name);
+            QTest::keyClick(form.focusWidget(), Qt::Key_Tab);
+        }
+        QCOMPARE(walk.mid(0, 6),
+                 (QStringList{"txtARAccount", "txtNotes", "datePay", "ddlPaymentType", "txtCekNo", "txtRefNo"}));
+        QCOMPARE(walk.mid(7, 3), (QStringList{"tblInvoice", "btnPayAll", "pushButton"}));
+        QTest::keyClick(&form, Qt::Key_F3);
+        QTRY_VERIFY(form.findChild<QTableView*>("tblInvoice")->hasFocus());
+    }
+
+    void aLostConnectionIsToldAndCanBeTriedAgain()
+    {
+        DialogPiutang form;
+        form.show();
+        QVERIFY(QTest::qWaitForWindowActive(&form));
+        QTRY_VERIFY(box(&form, "txtMember")->hasFocus());
+        const QString allow = "ALTER DATABASE " + m_database->name() + " WITH ALLOW_CONNECTIONS ";
+        TestCluster::instance().run(allow + "false");
+        m_database->killConnections();
+        enter(&form, "txtMember", "M1");
+        QTRY_COMPARE(m_people->boxes().size(), 1);
+        QVERIFY2(m_people->lastText().contains("connection"), qPrintable(m_people->lastText()));
+
+        TestCluster::instance().run(allow + "true");
+        m_people->clear();
+        click(&form, "pushButton");
+        confirm(&form, "txtRefNo");
+        QTRY_COMPARE(m_people->boxes().size(), 1);
+        // The code is looked up again: what is missing now is the entries.
+        QCOMPARE(m_people->lastText(), QString("Enter the amount paid for the invoice no: TRD-500\r\nPlease select an "
+                                               "Accounts Receivable\r\n"));
+    }
+
+    void aPartIsPaidOfOneInvoice_data()
+    {
+        addColumns<QString, QString, QStringList, bool, QString>("typed", "remaining", "told", "agrees", "paid");
+        const auto row = [](const char* name, const QString& typed, const QString& remaining, const QStringList& told,
+                            const QString& paid,
+                            bool agrees = false) { addRow(name, typed, remaining, told, agrees, paid); };
+        const QString untouched = "Rp500,00 Rp0,00";
+        const QStringList nothing{"Enter the amount paid\r\n"};
+        const QStringList more{"The amount paid is larger than the amount due. Do you want to book all of it?"};
+        row("a part", "120", "380,00", {}, "Rp380,00 Rp120,00");
+        row("all of it", "500", "0,00", {}, "Rp0,00 Rp500,00");
+        row("nothing", "0", "500,00", nothing, untouched);
+        row("no number", "x", "500,00", nothing, untouched);
+        row("less than nothing", "-50", "550,00", nothing, untouched);
+        row("too much, by mistake", "5000", "-4.500,00", more, untouched);
+        row("too much, on purpose", "600", "-100,00", more, "Rp-100,00 Rp600,00", true);
+    }
+
+    void aPartIsPaidOfOneInvoice()
+    {
+        QFETCH(QString, typed);
+        QFETCH(bool, agrees);
+        show();
+        onForm("btnAdd", [&](DialogPiutang* form) {
+            enter(form, "txtMember", "M1");
+            m_people->expect<DialogBayarPiutang>([&](DialogBayarPiutang* one) {
+                QApplication::setActiveWindow(one);
+                QVERIFY(box(one, "txtPaid")->hasFocus());
+                QCOMPARE(shown(one, "txtInvoiceNo"), QString("TRD-500"));
+                QCOMPARE(shown(one, "txtDue"), QString("500,00"));
+                QTest::keyClicks(box(one, "txtPaid"), typed);
+                QTEST(shown(one, "txtRemaining"), "remaining");
+                if (agrees)
+                    m_people->answer(QMessageBox::Yes);
+                QTest::keyClick(box(one, "txtPaid"), Qt::Key_Return);
+                if (one->isVisible())
+                    giveUp(one);
+                m_people->expect<DialogPiutang>([&](DialogPiutang* again) {
+                    QTEST(cells(again, 0).mid(3).join(' '), "paid");
+                    giveUp(again);
+                });
+            });
+            gridOf(form)->setFocus();
+            QTest::keyClick(gridOf(form), Qt::Key_F2);
+        });
+        QTEST(m_people->texts(), "told");
+        QCOMPARE(value("SELECT count(*) FROM piutang"), QString("0"));
+    }
+
+    void whatIsMissingIsTold_data()
+    {
+        addColumns<QString, bool, QString, QStringList>("member", "pays", "account", "told");
+        const auto row = [](const char* name, const QString& member, bool pays, const QString& account,
+                            const QStringList& told) { addRow(name, member, pays, account, told); };
+        row("everything", "", false, "",
+            {"Select a member", "Enter one or more sales invoice", "Please select an Accounts Receivable"});
+        row("a member whom nobody knows", "M9", false, "1-100", {"Select a member", "Enter one or more sales invoice"});
+        row("a member without open invoices", "M2", false, "1-100", {"Enter one or more sales invoice"});
+        row("an amount", "M1", false, "1-100", {"Enter the amount paid for the invoice no: TRD-500"});
+        row("an account that nobody knows", "M1", true, "9", {"Please select a valid Accounts Receivable"});
+    }
+
+    void whatIsMissingIsTold()
+    {
+        QFETCH(QString, member);
+        QFETCH(bool, pays);
+        QFETCH(QString, account);
+        QFETCH(QStringList, told);
+        show();
+        onForm("btnAdd", [&](DialogPiutang* form) {
+            enter(form, "txtMember", member);
+            enter(form, "txtARAccount", account);
+            if (pays)
+                click(form, "pushButton");
+            confirm(form, "txtRefNo");
+            QVERIFY(form->isVisible());
+            QCOMPARE(m_people->texts(), QStringList(told.join("\r\n") + "\r\n"));
+            QCOMPARE(m_people->lastTitle(), QString("Error"));
+            giveUp(form);
+        });
+        QCOMPARE(value("SELECT count(*) FROM piutang"), QString("0"));
+    }
+
+    void aCardAtTheSaleIsNotReplacedUnasked()
+    {
+        m_database->run("UPDATE invoice SET other_payment_amount = 40, status = 3 WHERE no = 'TRD-300'");
+        show();
+        onForm("btnAdd", [this](DialogPiutang* form) {
+            enter(form, "txtMember", "m1");
+            click(form, "pushButton");
+            enter(form, "txtARAccount", "1-100");
+            confirm(form, "txtRefNo");
+            // No is the answer of a hasty Return.
+            QVERIFY(form->isVisible());
+            QVERIFY2(m_people->lastText().contains("as of a card at the sale: Rp40 on TRD-300."),
+                     qPrintable(m_people->lastText()));
+            QCOMPARE(value("SELECT count(*) FROM piutang"), QString("0"));
+            m_people->answer(QMessageBox::Yes);
+            confirm(form, "txtRefNo");
+        });
+        QTRY_COMPARE(
+            value("SELECT string_agg(concat_ws(' ', other_payment_amount, net_due_amount), ', ' ORDER BY id) FROM "
+                  "invoice"),
+            QString("500 0, 260 40"));
+        // What members have paid is no surprise to their next payment.
+        m_people->clear();
+        onForm("btnAdd", [](DialogPiutang* form) {
+            enter(form, "txtMember", "m1");
+            click(form, "pushButton");
+            enter(form, "txtARAccount", "1-100");
+            confirm(form, "txtRefNo");
+        });
+        QTRY_COMPARE(value("SELECT sum(net_due_amount) FROM invoice"), QString("0"));
+        QCOMPARE(m_people->texts(), QStringList());
+    }
+
+    // --- editing -----------------------------------------------------------------------------------------------------
+
+    void anEditShowsItsOwnPartAndWhatElseIsOpen()
+    {
+        payStored(1, 300);
+        payStored(1, 200);
+        show();
+        QCOMPARE(cells(m_page.get(), 1).first(), QString("PIU-0007"));
+        choose(m_page.get(), 1);
+        onForm("btnEdit", [this](DialogPiutang* form) {
+            QCOMPARE(shown(form, "txtKode"), QString("PIU-0007"));
+            QCOMPARE(shown(form, "txtARAccount"), QString("1-100"));
+            QCOMPARE(shown(form, "txtGrandTotal"), QString("300,00"));
+            // The one that is fully paid by now is on no other list; the part of the other payment is not due again.
+            QCOMPARE(cells(form, 0).mid(3), (QStringList{"Rp300,00", "Rp0,00"}));
+            QCOMPARE(cells(form, 1).mid(3), (QStringList{"Rp0,00", "Rp300,00"}));
+            pay(form, 1, "100");
+            QCOMPARE(cells(form, 1).mid(3), (QStringList{"Rp200,00", "Rp100,00"}));
+            pay(form, 0, "50");
+            confirm(form, "txtRefNo");
+        });
+        QTRY_COMPARE(cells(m_page.get(), 1).value(4), QString("Rp150,00"));
+        QCOMPARE(
+            value("SELECT string_agg(concat_ws(' ', status, other_payment_amount, net_due_amount), ', ' ORDER BY id) "
+                  "FROM invoice"),
+            QString("3 300 200, 3 50 250"));
+    }
+
+    void anotherMembersPaymentTakesTheStoredLinesOff()
+    {
+        payStored(1, 300);
+        m_database->run("UPDATE makan_ditempat SET member_id = 2 WHERE id = 2");
+        show();
+        choose(m_page.get(), 0);
+        onForm("btnEdit", [](DialogPiutang* form) {
+            enter(form, "txtMember", "M2");
+            QCOMPARE(cells(form, 0).first(), QString("TRD-300"));
+            click(form, "pushButton");
+            confirm(form, "txtRefNo");
+        });
+        QTRY_COMPARE(value("SELECT string_agg(concat_ws(' ', member_id, invoice_id, amount_paid_amount), ', ') FROM "
+                           "piutang_detail JOIN piutang ON piutang.id = piutang_id"),
+                     QString("2 2 300"));
+        // Nobody counts the invoice that is no more on the payment.
+        QCOMPARE(value("SELECT other_payment_amount FROM invoice WHERE id = 1"), QString("300"));
+    }
+
+    void aStaleEditIsToldAndTheFormStays()
+    {
+        payStored(1, 300);
+        show();
+        choose(m_page.get(), 0);
+        onForm("btnEdit", [this](DialogPiutang* form) {
+            enter(form, "txtRefNo", "R-1");
+            pay(form, 0, "450");
+            m_database->run("UPDATE piutang SET version = version + 1, updatedby = 1");
+            confirm(form, "txtRefNo");
+            QVERIFY(form->isVisible());
+            QVERIFY2(m_people->lastText().contains("error: update credit invoice failed"),
+                     qPrintable(m_people->lastText()));
+            QCOMPARE(shown(form, "txtRefNo"), QString("R-1"));
+            QCOMPARE(shown(form, "txtGrandTotal"), QString("450,00"));
+            giveUp(form);
+        });
+        QCOMPARE(value("SELECT other_payment_amount FROM invoice WHERE id = 1"), QString("300"));
+    }
+
+    void aPaymentThatStandsIsNotEnteredTwice()
+    {
+        m_database->run(
+            "CREATE FUNCTION refuse() RETURNS trigger AS $$ BEGIN RAISE EXCEPTION 'busy'; END $$ LANGUAGE "
+            "plpgsql; CREATE TRIGGER refuse BEFORE UPDATE ON invoice FOR EACH ROW EXECUTE FUNCTION refuse()");
+        show();
+        onForm("btnAdd", [](DialogPiutang* form) {
+            enter(form, "txtMember", "M1");
+            enter(form, "txtARAccount", "1-100");
+            click(form, "pushButton");
+            confirm(form, "txtRefNo");
+            QVERIFY(!form->isVisible());
+        });
+        QTRY_COMPARE(cells(m_page.get(), 0).value(4), QString("Rp800,00"));
+        QVERIFY2(m_people->lastText().contains("busy"), qPrintable(m_people->lastText()));
+    }
+
+    // --- the page ----------------------------------------------------------------------------------------------------
+
+    void deletingAsksAndLeavesTheInvoiceAsItIs()
+    {
+        payStored(1, 300);
+        show();
+        choose(m_page.get(), 0);
+        m_people->answer(QMessageBox::No);
+        click(m_page.get(), "btnDelete");
+        QCOMPARE(m_people->texts(), QStringList("Are you sure you want to delete Payment with No: PIU-0007 ?"));
+        QCOMPARE(m_people->lastTitle(), QString("Delete"));
+        QCOMPARE(value("SELECT count(*) FROM piutang_detail"), QString("1"));
+
+        m_people->answer(QMessageBox::Yes);
+        choose(m_page.get(), 0);
+        click(m_page.get(), "btnDelete");
+        QTRY_COMPARE(m_page->findChild<QLabel*>("lblCount")->text(), QString("0 Items"));
+        QCOMPARE(value("SELECT count(*) FROM piutang_detail"), QString("0"));
+        QCOMPARE(value("SELECT concat_ws(' ', status, other_payment_amount, net_due_amount) FROM invoice WHERE id = 1"),
+                 QString("3 300 200"));
+    }
+
+    void theFiltersNarrowTheList()
+    {
+        payStored(1, 300);
+        show();
+        const auto found = [this] {
+            click(m_page.get(), "btnSearch");
+            return m_page->findChild<QLabel*>("lblCount")->text();
+        };
+        QCOMPARE(found(), QString("1 Items"));
+        enter(m_page.get(), "txtMember", "M2");
+        QCOMPARE(found(), QString("0 Items"));
+        enter(m_page.get(), "txtMember", "nobody");
+        QCOMPARE(found(), QString("0 Items"));
+        enter(m_page.get(), "txtMember", "m1");
+        QCOMPARE(found(), QString("1 Items"));
+        auto* kind = m_page->findChild<QComboBox*>("ddlPayment");
+        kind->setFocus();
+        QTest::keyClick(kind, Qt::Key_End);
+        QCOMPARE(found(), QString("0 Items"));
+        QTest::keyClick(kind, Qt::Key_Home);
+        QTest::keyClick(kind, Qt::Key_Down);
+        QCOMPARE(kind->currentText(), QString("Cash"));
+        QCOMPARE(found(), QString("1 Items"));
+        m_page->findChild<QDateEdit*>("dateFrom")->setDate(QDate::currentDate().addDays(1));
+        QCOMPARE(found(), QString("0 Items"));
+    }
+
+    void nothingHappensWithoutTheRight()
+    {
+        payStored(1, 300);
+        loginWithRights("Sales", {});
+        show();
+        for (const char* button : {"btnAdd", "btnEdit", "btnDelete"}) {
+            choose(m_page.get(), 0);
+            click(m_page.get(), button);
+        }
+        QCOMPARE(m_people->boxes().size(), 3);
+        QVERIFY(m_people->surprises().isEmpty());
+        QCOMPARE(value("SELECT count(*) FROM piutang"), QString("1"));
+    }
 
 private:
-    void show();
+    void show()
+    {
+        m_page = std::make_unique<TabPiutang>();
+        showPage(m_page.get());
+    }
+
     void onForm(const char* button, const std::function<void(DialogPiutang*)>& work)
     {
         ::onForm<DialogPiutang>(*m_people, m_page.get(), button, work);
     }
     /** Pays the amount of the selected invoice. */
-    void pay(DialogPiutang* form, int invoice, const QString& amount);
-    void payStored(int invoice, int amount);
+    void pay(DialogPiutang* form, int invoice, const QString& amount)
+    {
+        choose(form, invoice);
+        m_people->expect<DialogBayarPiutang>([amount](DialogBayarPiutang* one) {
+            QApplication::setActiveWindow(one);
+            QTest::keyClicks(box(one, "txtPaid"), amount);
+            QTest::keyClick(box(one, "txtPaid"), Qt::Key_Return);
+        });
+        click(form, "btnPayAll");
+    }
+
+    void payStored(int invoice, int amount)
+    {
+        EntityPiutang payment;
+        EntityMember member;
+        member.setId(1);
+        Invoice paid;
+        paid.setId(invoice);
+        EntityPiutangDetail line;
+        line.setInvoice(&paid);
+        line.setAmountPaid(new Money(&line, amount, "Rp"));
+        line.setAmountDue(new Money(&line, 0, "Rp"));
+        EntityBank account;
+        account.setId(1);
+        payment.setMember(&member);
+        payment.setBank(&account);
+        payment.setDate(QDate::currentDate());
+        payment.setGrandTotal(line.getAmountPaid());
+        payment.setDetails({&line});
+        auto* sales = service<BusinessPenjualan>("Sales");
+        QVERIFY2(sales->insert(&payment), qPrintable(sales->takeErrors()));
+    }
+
     QString value(const QString& statement) { return m_database->value(statement).toString(); }
 
     std::unique_ptr<TestDatabase> m_database;
@@ -55,427 +453,6 @@ private:
     std::unique_ptr<TabPiutang> m_page;
     QObject m_records;
 };
-
-void TestMemberPayments::init()
-{
-    m_database = std::make_unique<TestDatabase>();
-    AppContext::instance()->setLocale("id_ID");
-    insertShop(*m_database);
-    loginAsAdmin();
-    insertSeller(*m_database, 1, "ann");
-    m_database->run("INSERT INTO member (id, kode, nama, alamat, telp, discount_percentage, version) VALUES "
-                    "(2, 'M2', 'Other', '', '', 0, 1)");
-    SaleRow sale;
-    sale.member = 1;
-    sale.status = Invoice::UNPAID;
-    sale.paid = 0;
-    for (const auto& total : {500, 300}) {
-        sale.no = QString("TRD-%1").arg(total);
-        sale.total = total;
-        sale.date = QDate(2026, 3, total / 100);
-        insertSale(*m_database, sale);
-    }
-    m_people = std::make_unique<ModalDriver>();
-}
-
-void TestMemberPayments::cleanup()
-{
-    m_page.reset();
-    m_people.reset();
-    service<BusinessPenjualan>("Sales")->clearErrors();
-    m_database.reset();
-}
-
-void TestMemberPayments::show()
-{
-    m_page = std::make_unique<TabPiutang>();
-    showPage(m_page.get());
-}
-
-void TestMemberPayments::pay(DialogPiutang* form, int invoice, const QString& amount)
-{
-    choose(form, invoice);
-    m_people->expect<DialogBayarPiutang>([amount](DialogBayarPiutang* one) {
-        QApplication::setActiveWindow(one);
-        QTest::keyClicks(box(one, "txtPaid"), amount);
-        QTest::keyClick(box(one, "txtPaid"), Qt::Key_Return);
-    });
-    click(form, "btnPayAll");
-}
-
-void TestMemberPayments::payStored(int invoice, int amount)
-{
-    EntityPiutang payment;
-    EntityMember member;
-    member.setId(1);
-    Invoice paid;
-    paid.setId(invoice);
-    EntityPiutangDetail line;
-    line.setInvoice(&paid);
-    line.setAmountPaid(new Money(&line, amount, "Rp"));
-    line.setAmountDue(new Money(&line, 0, "Rp"));
-    EntityBank account;
-    account.setId(1);
-    payment.setMember(&member);
-    payment.setBank(&account);
-    payment.setDate(QDate::currentDate());
-    payment.setGrandTotal(line.getAmountPaid());
-    payment.setDetails({&line});
-    auto* sales = service<BusinessPenjualan>("Sales");
-    QVERIFY2(sales->insert(&payment), qPrintable(sales->takeErrors()));
-}
-
-// --- a new payment -------------------------------------------------------------------------------------------------
-
-void TestMemberPayments::aMemberPaysAllThatIsOpen()
-{
-    show();
-    onForm("btnAdd", [](DialogPiutang* form) {
-        QCOMPARE(form->windowTitle(), QString("Member Payment Form"));
-        enter(form, "txtMember", "m1");
-        QCOMPARE(shown(form, "txtMember"), QString("M1"));
-        QCOMPARE(shown(form, "txtNamaPelanggan"), QString("Guest"));
-        QCOMPARE(cells(form, 0).mid(2), (QStringList{"Rp500,00", "Rp500,00", "Rp0,00"}));
-        QCOMPARE(cells(form, 1).first(), QString("TRD-300"));
-        click(form, "pushButton");
-        // Asked again it changes nothing.
-        click(form, "pushButton");
-        QCOMPARE(cells(form, 0).mid(2), (QStringList{"Rp500,00", "Rp0,00", "Rp500,00"}));
-        QCOMPARE(shown(form, "txtGrandTotal"), QString("800,00"));
-        enter(form, "txtARAccount", "1-100");
-        QCOMPARE(form->findChild<QLabel*>("lblARAccount")->text(), QString("Cash"));
-        form->findChild<QComboBox*>("ddlPaymentType")->setFocus();
-        QTest::keyClicks(form->findChild<QComboBox*>("ddlPaymentType"), "che");
-        enter(form, "txtCekNo", "77");
-        confirm(form, "txtRefNo");
-    });
-    QTRY_COMPARE(cells(m_page.get(), 0).mid(2), (QStringList{"M1", "Guest", "Rp800,00", "Check"}));
-    QCOMPARE(m_page->findChild<QLabel*>("lblCount")->text(), QString("1 Items"));
-    QCOMPARE(value("SELECT concat_ws(' ', no, check_no, bank_id) FROM piutang"), QString("PIU-0007 77 1"));
-    QCOMPARE(value("SELECT string_agg(concat_ws(' ', status, other_payment_amount, net_due_amount), ', ' ORDER BY id) "
-                   "FROM invoice"),
-             QString("1 500 0, 1 300 0"));
-}
-
-void TestMemberPayments::aMemberIsPickedWhileTyping()
-{
-    DialogPiutang form;
-    form.show();
-    QVERIFY(QTest::qWaitForWindowActive(&form));
-    QTRY_VERIFY(box(&form, "txtMember")->hasFocus());
-    QTest::keyClicks(box(&form, "txtMember"), "gue");
-    QTRY_VERIFY(QApplication::activePopupWidget());
-    const StatementCount statements;
-    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
-    QTRY_VERIFY(box(&form, "txtARAccount")->hasFocus());
-    QCOMPARE(shown(&form, "txtMember"), QString("M1"));
-    QCOMPARE(form.findChild<QLabel*>("lblCount")->text(), QString("2 Items"));
-    QVERIFY(statements.count() <= 2);
-
-    // The walk with the Tab key goes through the page to the buttons below it.
-    QStringList walk;
-    for (int step = 0; step < 14; ++step) {
-        const QString name = form.focusWidget()->objectName();
-        if (walk.isEmpty() || walk.last() != name)
-            walk.append(name);
-        QTest::keyClick(form.focusWidget(), Qt::Key_Tab);
-    }
-    QCOMPARE(walk.mid(0, 6),
-             (QStringList{"txtARAccount", "txtNotes", "datePay", "ddlPaymentType", "txtCekNo", "txtRefNo"}));
-    QCOMPARE(walk.mid(7, 3), (QStringList{"tblInvoice", "btnPayAll", "pushButton"}));
-    QTest::keyClick(&form, Qt::Key_F3);
-    QTRY_VERIFY(form.findChild<QTableView*>("tblInvoice")->hasFocus());
-}
-
-void TestMemberPayments::aLostConnectionIsToldAndCanBeTriedAgain()
-{
-    DialogPiutang form;
-    form.show();
-    QVERIFY(QTest::qWaitForWindowActive(&form));
-    QTRY_VERIFY(box(&form, "txtMember")->hasFocus());
-    const QString allow = "ALTER DATABASE " + m_database->name() + " WITH ALLOW_CONNECTIONS ";
-    TestCluster::instance().run(allow + "false");
-    m_database->killConnections();
-    enter(&form, "txtMember", "M1");
-    QTRY_COMPARE(m_people->boxes().size(), 1);
-    QVERIFY2(m_people->lastText().contains("connection"), qPrintable(m_people->lastText()));
-
-    TestCluster::instance().run(allow + "true");
-    m_people->clear();
-    click(&form, "pushButton");
-    confirm(&form, "txtRefNo");
-    QTRY_COMPARE(m_people->boxes().size(), 1);
-    // The code is looked up again: what is missing now is the entries.
-    QCOMPARE(m_people->lastText(), QString("Enter the amount paid for the invoice no: TRD-500\r\nPlease select an "
-                                           "Accounts Receivable\r\n"));
-}
-
-void TestMemberPayments::aPartIsPaidOfOneInvoice_data()
-{
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("remaining");
-    QTest::addColumn<QStringList>("told");
-    QTest::addColumn<bool>("agrees");
-    QTest::addColumn<QString>("paid");
-    const auto row = [](const char* name, const QString& typed, const QString& remaining, const QStringList& told,
-                        const QString& paid,
-                        bool agrees = false) { QTest::newRow(name) << typed << remaining << told << agrees << paid; };
-    const QString untouched = "Rp500,00 Rp0,00";
-    const QStringList nothing{"Enter the amount paid\r\n"};
-    const QStringList more{"The amount paid is larger than the amount due. Do you want to book all of it?"};
-    row("a part", "120", "380,00", {}, "Rp380,00 Rp120,00");
-    row("all of it", "500", "0,00", {}, "Rp0,00 Rp500,00");
-    row("nothing", "0", "500,00", nothing, untouched);
-    row("no number", "x", "500,00", nothing, untouched);
-    row("less than nothing", "-50", "550,00", nothing, untouched);
-    row("too much, by mistake", "5000", "-4.500,00", more, untouched);
-    row("too much, on purpose", "600", "-100,00", more, "Rp-100,00 Rp600,00", true);
-}
-
-void TestMemberPayments::aPartIsPaidOfOneInvoice()
-{
-    QFETCH(QString, typed);
-    QFETCH(bool, agrees);
-    show();
-    onForm("btnAdd", [&](DialogPiutang* form) {
-        enter(form, "txtMember", "M1");
-        m_people->expect<DialogBayarPiutang>([&](DialogBayarPiutang* one) {
-            QApplication::setActiveWindow(one);
-            QVERIFY(box(one, "txtPaid")->hasFocus());
-            QCOMPARE(shown(one, "txtInvoiceNo"), QString("TRD-500"));
-            QCOMPARE(shown(one, "txtDue"), QString("500,00"));
-            QTest::keyClicks(box(one, "txtPaid"), typed);
-            QTEST(shown(one, "txtRemaining"), "remaining");
-            if (agrees)
-                m_people->answer(QMessageBox::Yes);
-            QTest::keyClick(box(one, "txtPaid"), Qt::Key_Return);
-            if (one->isVisible())
-                giveUp(one);
-            m_people->expect<DialogPiutang>([&](DialogPiutang* again) {
-                QTEST(cells(again, 0).mid(3).join(' '), "paid");
-                giveUp(again);
-            });
-        });
-        gridOf(form)->setFocus();
-        QTest::keyClick(gridOf(form), Qt::Key_F2);
-    });
-    QTEST(m_people->texts(), "told");
-    QCOMPARE(value("SELECT count(*) FROM piutang"), QString("0"));
-}
-
-void TestMemberPayments::whatIsMissingIsTold_data()
-{
-    QTest::addColumn<QString>("member");
-    QTest::addColumn<bool>("pays");
-    QTest::addColumn<QString>("account");
-    QTest::addColumn<QStringList>("told");
-    const auto row = [](const char* name, const QString& member, bool pays, const QString& account,
-                        const QStringList& told) { QTest::newRow(name) << member << pays << account << told; };
-    row("everything", "", false, "",
-        {"Select a member", "Enter one or more sales invoice", "Please select an Accounts Receivable"});
-    row("a member whom nobody knows", "M9", false, "1-100", {"Select a member", "Enter one or more sales invoice"});
-    row("a member without open invoices", "M2", false, "1-100", {"Enter one or more sales invoice"});
-    row("an amount", "M1", false, "1-100", {"Enter the amount paid for the invoice no: TRD-500"});
-    row("an account that nobody knows", "M1", true, "9", {"Please select a valid Accounts Receivable"});
-}
-
-void TestMemberPayments::whatIsMissingIsTold()
-{
-    QFETCH(QString, member);
-    QFETCH(bool, pays);
-    QFETCH(QString, account);
-    QFETCH(QStringList, told);
-    show();
-    onForm("btnAdd", [&](DialogPiutang* form) {
-        enter(form, "txtMember", member);
-        enter(form, "txtARAccount", account);
-        if (pays)
-            click(form, "pushButton");
-        confirm(form, "txtRefNo");
-        QVERIFY(form->isVisible());
-        QCOMPARE(m_people->texts(), QStringList(told.join("\r\n") + "\r\n"));
-        QCOMPARE(m_people->lastTitle(), QString("Error"));
-        giveUp(form);
-    });
-    QCOMPARE(value("SELECT count(*) FROM piutang"), QString("0"));
-}
-
-void TestMemberPayments::aCardAtTheSaleIsNotReplacedUnasked()
-{
-    m_database->run("UPDATE invoice SET other_payment_amount = 40, status = 3 WHERE no = 'TRD-300'");
-    show();
-    onForm("btnAdd", [this](DialogPiutang* form) {
-        enter(form, "txtMember", "m1");
-        click(form, "pushButton");
-        enter(form, "txtARAccount", "1-100");
-        confirm(form, "txtRefNo");
-        // No is the answer of a hasty Return.
-        QVERIFY(form->isVisible());
-        QVERIFY2(m_people->lastText().contains("as of a card at the sale: Rp40 on TRD-300."),
-                 qPrintable(m_people->lastText()));
-        QCOMPARE(value("SELECT count(*) FROM piutang"), QString("0"));
-        m_people->answer(QMessageBox::Yes);
-        confirm(form, "txtRefNo");
-    });
-    QTRY_COMPARE(value("SELECT string_agg(concat_ws(' ', other_payment_amount, net_due_amount), ', ' ORDER BY id) FROM "
-                       "invoice"),
-                 QString("500 0, 260 40"));
-    // What members have paid is no surprise to their next payment.
-    m_people->clear();
-    onForm("btnAdd", [](DialogPiutang* form) {
-        enter(form, "txtMember", "m1");
-        click(form, "pushButton");
-        enter(form, "txtARAccount", "1-100");
-        confirm(form, "txtRefNo");
-    });
-    QTRY_COMPARE(value("SELECT sum(net_due_amount) FROM invoice"), QString("0"));
-    QCOMPARE(m_people->texts(), QStringList());
-}
-
-// --- editing -------------------------------------------------------------------------------------------------------
-
-void TestMemberPayments::anEditShowsItsOwnPartAndWhatElseIsOpen()
-{
-    payStored(1, 300);
-    payStored(1, 200);
-    show();
-    QCOMPARE(cells(m_page.get(), 1).first(), QString("PIU-0007"));
-    choose(m_page.get(), 1);
-    onForm("btnEdit", [this](DialogPiutang* form) {
-        QCOMPARE(shown(form, "txtKode"), QString("PIU-0007"));
-        QCOMPARE(shown(form, "txtARAccount"), QString("1-100"));
-        QCOMPARE(shown(form, "txtGrandTotal"), QString("300,00"));
-        // The one that is fully paid by now is on no other list; the part of the other payment is not due again.
-        QCOMPARE(cells(form, 0).mid(3), (QStringList{"Rp300,00", "Rp0,00"}));
-        QCOMPARE(cells(form, 1).mid(3), (QStringList{"Rp0,00", "Rp300,00"}));
-        pay(form, 1, "100");
-        QCOMPARE(cells(form, 1).mid(3), (QStringList{"Rp200,00", "Rp100,00"}));
-        pay(form, 0, "50");
-        confirm(form, "txtRefNo");
-    });
-    QTRY_COMPARE(cells(m_page.get(), 1).value(4), QString("Rp150,00"));
-    QCOMPARE(value("SELECT string_agg(concat_ws(' ', status, other_payment_amount, net_due_amount), ', ' ORDER BY id) "
-                   "FROM invoice"),
-             QString("3 300 200, 3 50 250"));
-}
-
-void TestMemberPayments::anotherMembersPaymentTakesTheStoredLinesOff()
-{
-    payStored(1, 300);
-    m_database->run("UPDATE makan_ditempat SET member_id = 2 WHERE id = 2");
-    show();
-    choose(m_page.get(), 0);
-    onForm("btnEdit", [](DialogPiutang* form) {
-        enter(form, "txtMember", "M2");
-        QCOMPARE(cells(form, 0).first(), QString("TRD-300"));
-        click(form, "pushButton");
-        confirm(form, "txtRefNo");
-    });
-    QTRY_COMPARE(value("SELECT string_agg(concat_ws(' ', member_id, invoice_id, amount_paid_amount), ', ') FROM "
-                       "piutang_detail JOIN piutang ON piutang.id = piutang_id"),
-                 QString("2 2 300"));
-    // Nobody counts the invoice that is no more on the payment.
-    QCOMPARE(value("SELECT other_payment_amount FROM invoice WHERE id = 1"), QString("300"));
-}
-
-void TestMemberPayments::aStaleEditIsToldAndTheFormStays()
-{
-    payStored(1, 300);
-    show();
-    choose(m_page.get(), 0);
-    onForm("btnEdit", [this](DialogPiutang* form) {
-        enter(form, "txtRefNo", "R-1");
-        pay(form, 0, "450");
-        m_database->run("UPDATE piutang SET version = version + 1, updatedby = 1");
-        confirm(form, "txtRefNo");
-        QVERIFY(form->isVisible());
-        QVERIFY2(m_people->lastText().contains("error: update credit invoice failed"),
-                 qPrintable(m_people->lastText()));
-        QCOMPARE(shown(form, "txtRefNo"), QString("R-1"));
-        QCOMPARE(shown(form, "txtGrandTotal"), QString("450,00"));
-        giveUp(form);
-    });
-    QCOMPARE(value("SELECT other_payment_amount FROM invoice WHERE id = 1"), QString("300"));
-}
-
-void TestMemberPayments::aPaymentThatStandsIsNotEnteredTwice()
-{
-    m_database->run("CREATE FUNCTION refuse() RETURNS trigger AS $$ BEGIN RAISE EXCEPTION 'busy'; END $$ LANGUAGE "
-                    "plpgsql; CREATE TRIGGER refuse BEFORE UPDATE ON invoice FOR EACH ROW EXECUTE FUNCTION refuse()");
-    show();
-    onForm("btnAdd", [](DialogPiutang* form) {
-        enter(form, "txtMember", "M1");
-        enter(form, "txtARAccount", "1-100");
-        click(form, "pushButton");
-        confirm(form, "txtRefNo");
-        QVERIFY(!form->isVisible());
-    });
-    QTRY_COMPARE(cells(m_page.get(), 0).value(4), QString("Rp800,00"));
-    QVERIFY2(m_people->lastText().contains("busy"), qPrintable(m_people->lastText()));
-}
-
-// --- the page ------------------------------------------------------------------------------------------------------
-
-void TestMemberPayments::deletingAsksAndLeavesTheInvoiceAsItIs()
-{
-    payStored(1, 300);
-    show();
-    choose(m_page.get(), 0);
-    m_people->answer(QMessageBox::No);
-    click(m_page.get(), "btnDelete");
-    QCOMPARE(m_people->texts(), QStringList("Are you sure you want to delete Payment with No: PIU-0007 ?"));
-    QCOMPARE(m_people->lastTitle(), QString("Delete"));
-    QCOMPARE(value("SELECT count(*) FROM piutang_detail"), QString("1"));
-
-    m_people->answer(QMessageBox::Yes);
-    choose(m_page.get(), 0);
-    click(m_page.get(), "btnDelete");
-    QTRY_COMPARE(m_page->findChild<QLabel*>("lblCount")->text(), QString("0 Items"));
-    QCOMPARE(value("SELECT count(*) FROM piutang_detail"), QString("0"));
-    QCOMPARE(value("SELECT concat_ws(' ', status, other_payment_amount, net_due_amount) FROM invoice WHERE id = 1"),
-             QString("3 300 200"));
-}
-
-void TestMemberPayments::theFiltersNarrowTheList()
-{
-    payStored(1, 300);
-    show();
-    const auto found = [this] {
-        click(m_page.get(), "btnSearch");
-        return m_page->findChild<QLabel*>("lblCount")->text();
-    };
-    QCOMPARE(found(), QString("1 Items"));
-    enter(m_page.get(), "txtMember", "M2");
-    QCOMPARE(found(), QString("0 Items"));
-    enter(m_page.get(), "txtMember", "nobody");
-    QCOMPARE(found(), QString("0 Items"));
-    enter(m_page.get(), "txtMember", "m1");
-    QCOMPARE(found(), QString("1 Items"));
-    auto* kind = m_page->findChild<QComboBox*>("ddlPayment");
-    kind->setFocus();
-    QTest::keyClick(kind, Qt::Key_End);
-    QCOMPARE(found(), QString("0 Items"));
-    QTest::keyClick(kind, Qt::Key_Home);
-    QTest::keyClick(kind, Qt::Key_Down);
-    QCOMPARE(kind->currentText(), QString("Cash"));
-    QCOMPARE(found(), QString("1 Items"));
-    m_page->findChild<QDateEdit*>("dateFrom")->setDate(QDate::currentDate().addDays(1));
-    QCOMPARE(found(), QString("0 Items"));
-}
-
-void TestMemberPayments::nothingHappensWithoutTheRight()
-{
-    payStored(1, 300);
-    loginWithRights("Sales", {});
-    show();
-    for (const char* button : {"btnAdd", "btnEdit", "btnDelete"}) {
-        choose(m_page.get(), 0);
-        click(m_page.get(), button);
-    }
-    QCOMPARE(m_people->boxes().size(), 3);
-    QVERIFY(m_people->surprises().isEmpty());
-    QCOMPARE(value("SELECT count(*) FROM piutang"), QString("1"));
-}
 
 QTEST_MAIN(TestMemberPayments)
 #include "tst_member_payments.moc"

@@ -2,6 +2,7 @@
 #include "app/money/Money.h"
 #include "app/widgets/MoneyEdit.h"
 #include "kor/widgets/KorNumberEdit.h"
+#include "support/Rows.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -48,325 +49,281 @@ class tst_NumberEdits : public QObject
     Q_OBJECT
 
 private slots:
-    void aTypedNumberIsReadInTheLocaleAndShownWithItsSeparators_data();
-    void aTypedNumberIsReadInTheLocaleAndShownWithItsSeparators();
-    void aTextThatIsNoNumberStaysInTheFieldAndTheFormerValueCounts_data();
-    void aTextThatIsNoNumberStaysInTheFieldAndTheFormerValueCounts();
-    void theTypedTextComesBackWithTheFocus();
-    void aTotalThatIsReckonedOnEveryKeyLeavesTheEntryAlone();
-    void returnFinishesTheEntryWhereTheCursorStays();
-    void aNumberFromTheProgramSurvivesAWalkThroughTheField();
-    void aFieldReachedByTabIsOverwrittenByTheNextKey();
-    void theContextMenuDoesNotEndTheEntry();
-    void theFieldBeingTypedInIsMarked();
-
-    void theConfigurationTellsHowNumbersAreWritten_data();
-    void theConfigurationTellsHowNumbersAreWritten();
-    void anAmountShowsTwoDecimalsAndItsTypedTextWhenEntered();
-    void anAmountInAPaymentFollowsEveryKey();
-    void theAmountOfARecordStaysTheRecords();
-    void anAmountHandedOutOutlivesTheNextKey();
-    void escapeCommitsTheAmountAndClosesTheForm();
-};
-
-void tst_NumberEdits::aTypedNumberIsReadInTheLocaleAndShownWithItsSeparators_data()
-{
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<double>("value");
-    QTest::addColumn<QString>("shown");
-    QTest::newRow("group and decimal") << "1.234,5" << 1234.5 << "1.234,5";
-    QTest::newRow("no group") << "1234,5" << 1234.5 << "1.234,5";
-    QTest::newRow("groups") << "-12.034.567" << -12034567.0 << "-12.034.567";
-    QTest::newRow("negative") << "-2500" << -2500.0 << "-2.500";
-    QTest::newRow("ten digits") << "1234567890" << 1234567890.0 << "1.234.567.890";
-    QTest::newRow("zero") << "0" << 0.0 << "0";
-}
-
-void tst_NumberEdits::aTypedNumberIsReadInTheLocaleAndShownWithItsSeparators()
-{
-    QFETCH(QString, typed);
-    QFETCH(double, value);
-    QFETCH(QString, shown);
-    Form<KorNumberEdit> form;
-    form.enterAndType(typed);
-    QCOMPARE(form.edit.value(), value);
-    QCOMPARE(form.edit.text(), typed);
-    form.leave();
-    QCOMPARE(form.edit.text(), shown);
-    QVERIFY(form.edit.isValid());
-    QCOMPARE(form.edit.value(), value);
-}
-
-void tst_NumberEdits::aTextThatIsNoNumberStaysInTheFieldAndTheFormerValueCounts_data()
-{
-    QTest::addColumn<QString>("typed");
-    QTest::newRow("letters") << "abc";
-    QTest::newRow("nothing") << "";
-    QTest::newRow("two decimal commas") << "1,2,3";
-    QTest::newRow("a point for a comma") << "1.5";
-    QTest::newRow("misplaced groups") << "12.34.567";
-    QTest::newRow("a group of four") << "1.2345";
-    QTest::newRow("a first group of four") << "1234.567";
-    QTest::newRow("a group behind the comma") << "1,234.567";
-    QTest::newRow("nothing before the group") << ".500";
-    QTest::newRow("half, with the other's point") << "0.500";
-    QTest::newRow("infinite") << "inf";
-    QTest::newRow("not a number") << "nan";
-}
-
-void tst_NumberEdits::aTextThatIsNoNumberStaysInTheFieldAndTheFormerValueCounts()
-{
-    QFETCH(QString, typed);
-    Form<KorNumberEdit> form;
-    form.edit.setValue(75);
-    QVERIFY(form.edit.isValid());
-    form.enterAndType(typed);
-    form.leave();
-    QCOMPARE(form.edit.text(), typed);
-    QVERIFY(!form.edit.isValid());
-    QCOMPARE(form.edit.value(), 75.0);
-    form.enter();
-    QCOMPARE(form.edit.text(), typed);
-}
-
-void tst_NumberEdits::theTypedTextComesBackWithTheFocus()
-{
-    Form<KorNumberEdit> form;
-    QCOMPARE(form.edit.value(), 0.0);
-    QCOMPARE(form.edit.rawText(), QString());
-    // A form's totals ask for the value while the field writes its own text, and afterwards.
-    connect(&form.edit, &QLineEdit::textChanged, &form.edit, [&form] { (void)form.edit.value(); });
-    form.enterAndType("1234,50");
-    form.leave();
-    QCOMPARE(form.edit.text(), QString("1.234,5"));
-    QCOMPARE(form.edit.value(), 1234.5);
-    form.enter();
-    QCOMPARE(form.edit.text(), QString("1234,50"));
-    form.leave();
-    form.edit.clear();
-    form.enter();
-    QCOMPARE(form.edit.text(), QString());
-}
-
-void tst_NumberEdits::aTotalThatIsReckonedOnEveryKeyLeavesTheEntryAlone()
-{
-    Form<KorNumberEdit> form;
-    QList<double> totals;
-    connect(&form.edit, &QLineEdit::textChanged, &form.edit, [&] { totals.append(form.edit.value()); });
-    form.enterAndType("1500");
-    QCOMPARE(form.edit.text(), QString("1500"));
-    QCOMPARE(totals, QList<double>({1.0, 15.0, 150.0, 1500.0}));
-    QCOMPARE(form.edit.rawText(), QString("1500"));
-}
-
-void tst_NumberEdits::returnFinishesTheEntryWhereTheCursorStays()
-{
-    Form<KorNumberEdit> form;
-    QSignalSpy pressed(&form.edit, &QLineEdit::returnPressed);
-    form.enterAndType("1500");
-    QTest::keyClick(&form.edit, Qt::Key_Enter);
-    QCOMPARE(form.edit.text(), QString("1500"));
-    QTest::keyClick(&form.edit, Qt::Key_Return);
-    QCOMPARE(form.edit.text(), QString("1.500"));
-    QCOMPARE(pressed.count(), 2);
-    QVERIFY(form.edit.hasFocus());
-}
-
-void tst_NumberEdits::aNumberFromTheProgramSurvivesAWalkThroughTheField()
-{
-    Form<KorNumberEdit> form;
-    form.edit.setValue(1234.5);
-    QCOMPARE(form.edit.text(), QString("1.234,5"));
-    QCOMPARE(form.edit.rawText(), QString("1234.5"));
-    form.enter();
-    QCOMPARE(form.edit.text(), QString("1234.5"));
-    QCOMPARE(form.edit.value(), 1234.5);
-    form.leave();
-    QCOMPARE(form.edit.value(), 1234.5);
-    QCOMPARE(form.edit.text(), QString("1.234,5"));
-}
-
-void tst_NumberEdits::aFieldReachedByTabIsOverwrittenByTheNextKey()
-{
-    Form<KorNumberEdit> form;
-    form.edit.setValue(12);
-    QTest::keyClick(&form.other, Qt::Key_Tab);
-    QVERIFY(form.edit.hasFocus());
-    QTest::keyClicks(&form.edit, "34");
-    QCOMPARE(form.edit.value(), 34.0);
-}
-
-void tst_NumberEdits::theContextMenuDoesNotEndTheEntry()
-{
-    Form<KorNumberEdit> form;
-    form.enterAndType("1500");
-    QMenu menu;
-    menu.addAction("Paste");
-    menu.popup(form.edit.mapToGlobal(QPoint(0, 0)));
-    QVERIFY(QTest::qWaitForWindowExposed(&menu));
-    QCOMPARE(form.edit.text(), QString("1500"));
-    menu.close();
-    QTest::keyClicks(&form.edit, "0");
-    QCOMPARE(form.edit.text(), QString("15000"));
-}
-
-void tst_NumberEdits::theFieldBeingTypedInIsMarked()
-{
-    Form<KorNumberEdit> form;
-    QVERIFY(form.edit.alignment() & Qt::AlignRight);
-    form.enter();
-    QCOMPARE(form.edit.styleSheet(), QString("border: 1px solid #005782;"));
-    form.leave();
-    QCOMPARE(form.edit.styleSheet(), QString());
-}
-
-void tst_NumberEdits::theConfigurationTellsHowNumbersAreWritten_data()
-{
-    QTest::addColumn<QString>("locale");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<double>("value");
-    QTest::addColumn<QString>("asNumber");
-    QTest::addColumn<QString>("asMoney");
-    QTest::addColumn<QString>("currency");
-    QTest::newRow("Indonesian") << "id_ID"
-                                << "1.234,5" << 1234.5 << "1.234,5"
-                                << "1.234,50"
-                                << "Rp";
-    QTest::newRow("American") << "en_US"
-                              << "1,234.5" << 1234.5 << "1,234.5"
-                              << "1,234.50"
-                              << "$";
-    QTest::newRow("the other's group is a decimal point") << "en_US"
-                                                          << "1.234" << 1.234 << "1.234"
-                                                          << "1.23"
-                                                          << "$";
-    QTest::newRow("a million") << "id_ID"
-                               << "1500000" << 1500000.0 << "1.500.000"
-                               << "1.500.000,00"
-                               << "Rp";
-    QTest::newRow("negative") << "id_ID"
-                              << "-15" << -15.0 << "-15"
-                              << "-15,00"
-                              << "Rp";
-    QTest::newRow("nothing configured yet") << ""
-                                            << "1234.5" << 1234.5 << "1234.5"
-                                            << "1234.50"
-                                            << "";
-}
-
-void tst_NumberEdits::theConfigurationTellsHowNumbersAreWritten()
-{
-    QFETCH(QString, locale);
-    QFETCH(QString, typed);
-    QFETCH(double, value);
-    AppContext::instance()->setLocale(locale);
-
-    Form<AppNumberEdit> quantity;
-    quantity.enterAndType(typed);
-    QCOMPARE(quantity.edit.value(), value);
-    quantity.leave();
-    QTEST(quantity.edit.text(), "asNumber");
-
-    Form<MoneyEdit> price;
-    QTEST(price.edit.currency(), "currency");
-    price.enterAndType(typed);
-    QCOMPARE(price.edit.value(), value);
-    price.leave();
-    QTEST(price.edit.text(), "asMoney");
-    QTEST(price.edit.money()->getCurrency(), "currency");
-
-    // A number from the program reads the same after a walk through the field.
-    price.edit.setValue(value);
-    price.enter();
-    QTEST(price.edit.text(), "asNumber");
-    price.leave();
-    QTEST(price.edit.text(), "asMoney");
-}
-
-void tst_NumberEdits::anAmountShowsTwoDecimalsAndItsTypedTextWhenEntered()
-{
-    AppContext::instance()->setLocale("id_ID");
-    Form<MoneyEdit> form;
-    form.enterAndType("1234,5");
-    form.leave();
-    QCOMPARE(form.edit.text(), QString("1.234,50"));
-    form.enter();
-    QCOMPARE(form.edit.text(), QString("1234,5"));
-    QTest::keyClick(&form.edit, Qt::Key_Enter);
-    QCOMPARE(form.edit.text(), QString("1.234,50"));
-    form.edit.setCurrencyFixed(true);
-    form.leave();
-    QCOMPARE(form.edit.text(), QString("1.234,50"));
-}
-
-void tst_NumberEdits::anAmountInAPaymentFollowsEveryKey()
-{
-    AppContext::instance()->setLocale("id_ID");
-    Form<MoneyEdit> form;
-    form.edit.setValue(200);
-    QList<double> paid;
-    connect(&form.edit, &QLineEdit::textChanged, &form.edit, [&] { paid.append(form.edit.money()->getAmount()); });
-    form.enterAndType("1500");
-    QCOMPARE(form.edit.text(), QString("1500"));
-    QCOMPARE(paid.mid(paid.size() - 4), QList<double>({1.0, 15.0, 150.0, 1500.0}));
-    form.leave();
-    QCOMPARE(form.edit.text(), QString("1.500,00"));
-    QCOMPARE(form.edit.money()->rawAmount(), 1500);
-    form.enter();
-    QCOMPARE(form.edit.text(), QString("1500"));
-}
-
-void tst_NumberEdits::theAmountOfARecordStaysTheRecords()
-{
-    AppContext::instance()->setLocale("id_ID");
-    QObject record;
-    QPointer<Money> price = new Money(&record, 2500.0, "Rp");
+    void aTypedNumberIsReadInTheLocaleAndShownWithItsSeparators_data()
     {
-        Form<MoneyEdit> form;
-        form.edit.setMoney(price);
-        QCOMPARE(form.edit.text(), QString("2.500,00"));
-        form.enterAndType("3000");
-        QVERIFY(form.edit.money() != price);
-        QCOMPARE(form.edit.money()->rawAmount(), 3000);
-        form.edit.setMoney(form.edit.money());
-        QCOMPARE(form.edit.money()->rawAmount(), 3000);
-        form.edit.setMoney(nullptr);
-        QCOMPARE(form.edit.text(), QString("0,00"));
+        addColumns<QString, double, QString>("typed", "value", "shown");
+        addRow("group and decimal", "1.234,5", 1234.5, "1.234,5");
+        addRow("no group", "1234,5", 1234.5, "1.234,5");
+        addRow("groups", "-12.034.567", -12034567.0, "-12.034.567");
+        addRow("negative", "-2500", -2500.0, "-2.500");
+        addRow("ten digits", "1234567890", 1234567890.0, "1.234.567.890");
+        addRow("zero", "0", 0.0, "0");
     }
-    QVERIFY(price);
-    QCOMPARE(price->rawAmount(), 2500);
-}
 
-void tst_NumberEdits::anAmountHandedOutOutlivesTheNextKey()
-{
-    AppContext::instance()->setLocale("id_ID");
-    Form<MoneyEdit> form;
-    form.edit.setValue(1000);
-    const QPointer<Money> before = form.edit.money();
-    form.edit.setValue(2000);
-    Money* total = before->add(form.edit.money());
-    QVERIFY(form.edit.isValid());
-    QVERIFY(before);
-    QCOMPARE(total->rawAmount(), 3000);
-    // Nothing piles up in a form that stays open.
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QCOMPARE(form.edit.findChildren<Money*>().size(), 1);
-}
+    void aTypedNumberIsReadInTheLocaleAndShownWithItsSeparators()
+    {
+        QFETCH(QString, typed);
+        QFETCH(double, value);
+        QFETCH(QString, shown);
+        Form<KorNumberEdit> form;
+        form.enterAndType(typed);
+        QCOMPARE(form.edit.value(), value);
+        QCOMPARE(form.edit.text(), typed);
+        form.leave();
+        QCOMPARE(form.edit.text(), shown);
+        QVERIFY(form.edit.isValid());
+        QCOMPARE(form.edit.value(), value);
+    }
 
-void tst_NumberEdits::escapeCommitsTheAmountAndClosesTheForm()
-{
-    AppContext::instance()->setLocale("id_ID");
-    QDialog dialog;
-    auto* edit = new MoneyEdit(&dialog);
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowActive(&dialog));
-    edit->setFocus();
-    QTest::keyClicks(edit, "1500");
-    QTest::keyClick(edit, Qt::Key_Escape);
-    QVERIFY(!dialog.isVisible());
-    QCOMPARE(edit->text(), QString("1.500,00"));
-    QCOMPARE(edit->money()->rawAmount(), 1500);
-}
+    void aTextThatIsNoNumberStaysInTheFieldAndTheFormerValueCounts_data()
+    {
+        addColumns<QString>("typed");
+        addRow("letters", "abc");
+        addRow("nothing", "");
+        addRow("two decimal commas", "1,2,3");
+        addRow("a point for a comma", "1.5");
+        addRow("misplaced groups", "12.34.567");
+        addRow("a group of four", "1.2345");
+        addRow("a first group of four", "1234.567");
+        addRow("a group behind the comma", "1,234.567");
+        addRow("nothing before the group", ".500");
+        addRow("half, with the other's point", "0.500");
+        addRow("infinite", "inf");
+        addRow("not a number", "nan");
+    }
+
+    void aTextThatIsNoNumberStaysInTheFieldAndTheFormerValueCounts()
+    {
+        QFETCH(QString, typed);
+        Form<KorNumberEdit> form;
+        form.edit.setValue(75);
+        QVERIFY(form.edit.isValid());
+        form.enterAndType(typed);
+        form.leave();
+        QCOMPARE(form.edit.text(), typed);
+        QVERIFY(!form.edit.isValid());
+        QCOMPARE(form.edit.value(), 75.0);
+        form.enter();
+        QCOMPARE(form.edit.text(), typed);
+    }
+
+    void theTypedTextComesBackWithTheFocus()
+    {
+        Form<KorNumberEdit> form;
+        QCOMPARE(form.edit.value(), 0.0);
+        QCOMPARE(form.edit.rawText(), QString());
+        // A form's totals ask for the value while the field writes its own text, and afterwards.
+        connect(&form.edit, &QLineEdit::textChanged, &form.edit, [&form] { (void)form.edit.value(); });
+        form.enterAndType("1234,50");
+        form.leave();
+        QCOMPARE(form.edit.text(), QString("1.234,5"));
+        QCOMPARE(form.edit.value(), 1234.5);
+        form.enter();
+        QCOMPARE(form.edit.text(), QString("1234,50"));
+        form.leave();
+        form.edit.clear();
+        form.enter();
+        QCOMPARE(form.edit.text(), QString());
+    }
+
+    void aTotalThatIsReckonedOnEveryKeyLeavesTheEntryAlone()
+    {
+        Form<KorNumberEdit> form;
+        QList<double> totals;
+        connect(&form.edit, &QLineEdit::textChanged, &form.edit, [&] { totals.append(form.edit.value()); });
+        form.enterAndType("1500");
+        QCOMPARE(form.edit.text(), QString("1500"));
+        QCOMPARE(totals, QList<double>({1.0, 15.0, 150.0, 1500.0}));
+        QCOMPARE(form.edit.rawText(), QString("1500"));
+    }
+
+    void returnFinishesTheEntryWhereTheCursorStays()
+    {
+        Form<KorNumberEdit> form;
+        QSignalSpy pressed(&form.edit, &QLineEdit::returnPressed);
+        form.enterAndType("1500");
+        QTest::keyClick(&form.edit, Qt::Key_Enter);
+        QCOMPARE(form.edit.text(), QString("1500"));
+        QTest::keyClick(&form.edit, Qt::Key_Return);
+        QCOMPARE(form.edit.text(), QString("1.500"));
+        QCOMPARE(pressed.count(), 2);
+        QVERIFY(form.edit.hasFocus());
+    }
+
+    void aNumberFromTheProgramSurvivesAWalkThroughTheField()
+    {
+        Form<KorNumberEdit> form;
+        form.edit.setValue(1234.5);
+        QCOMPARE(form.edit.text(), QString("1.234,5"));
+        QCOMPARE(form.edit.rawText(), QString("1234.5"));
+        form.enter();
+        QCOMPARE(form.edit.text(), QString("1234.5"));
+        QCOMPARE(form.edit.value(), 1234.5);
+        form.leave();
+        QCOMPARE(form.edit.value(), 1234.5);
+        QCOMPARE(form.edit.text(), QString("1.234,5"));
+    }
+
+    void aFieldReachedByTabIsOverwrittenByTheNextKey()
+    {
+        Form<KorNumberEdit> form;
+        form.edit.setValue(12);
+        QTest::keyClick(&form.other, Qt::Key_Tab);
+        QVERIFY(form.edit.hasFocus());
+        QTest::keyClicks(&form.edit, "34");
+        QCOMPARE(form.edit.value(), 34.0);
+    }
+
+    void theContextMenuDoesNotEndTheEntry()
+    {
+        Form<KorNumberEdit> form;
+        form.enterAndType("1500");
+        QMenu menu;
+        menu.addAction("Paste");
+        menu.popup(form.edit.mapToGlobal(QPoint(0, 0)));
+        QVERIFY(QTest::qWaitForWindowExposed(&menu));
+        QCOMPARE(form.edit.text(), QString("1500"));
+        menu.close();
+        QTest::keyClicks(&form.edit, "0");
+        QCOMPARE(form.edit.text(), QString("15000"));
+    }
+
+    void theFieldBeingTypedInIsMarked()
+    {
+        Form<KorNumberEdit> form;
+        QVERIFY(form.edit.alignment() & Qt::AlignRight);
+        form.enter();
+        QCOMPARE(form.edit.styleSheet(), QString("border: 1px solid #005782;"));
+        form.leave();
+        QCOMPARE(form.edit.styleSheet(), QString());
+    }
+
+    void theConfigurationTellsHowNumbersAreWritten_data()
+    {
+        addColumns<QString, QString, double, QString, QString, QString>("locale", "typed", "value", "asNumber",
+                                                                        "asMoney", "currency");
+        addRow("Indonesian", "id_ID", "1.234,5", 1234.5, "1.234,5", "1.234,50", "Rp");
+        addRow("American", "en_US", "1,234.5", 1234.5, "1,234.5", "1,234.50", "$");
+        addRow("the other's group is a decimal point", "en_US", "1.234", 1.234, "1.234", "1.23", "$");
+        addRow("a million", "id_ID", "1500000", 1500000.0, "1.500.000", "1.500.000,00", "Rp");
+        addRow("negative", "id_ID", "-15", -15.0, "-15", "-15,00", "Rp");
+        addRow("nothing configured yet", "", "1234.5", 1234.5, "1234.5", "1234.50", "");
+    }
+
+    void theConfigurationTellsHowNumbersAreWritten()
+    {
+        QFETCH(QString, locale);
+        QFETCH(QString, typed);
+        QFETCH(double, value);
+        AppContext::instance()->setLocale(locale);
+
+        Form<AppNumberEdit> quantity;
+        quantity.enterAndType(typed);
+        QCOMPARE(quantity.edit.value(), value);
+        quantity.leave();
+        QTEST(quantity.edit.text(), "asNumber");
+
+        Form<MoneyEdit> price;
+        QTEST(price.edit.currency(), "currency");
+        price.enterAndType(typed);
+        QCOMPARE(price.edit.value(), value);
+        price.leave();
+        QTEST(price.edit.text(), "asMoney");
+        QTEST(price.edit.money()->getCurrency(), "currency");
+
+        // A number from the program reads the same after a walk through the field.
+        price.edit.setValue(value);
+        price.enter();
+        QTEST(price.edit.text(), "asNumber");
+        price.leave();
+        QTEST(price.edit.text(), "asMoney");
+    }
+
+    void anAmountShowsTwoDecimalsAndItsTypedTextWhenEntered()
+    {
+        AppContext::instance()->setLocale("id_ID");
+        Form<MoneyEdit> form;
+        form.enterAndType("1234,5");
+        form.leave();
+        QCOMPARE(form.edit.text(), QString("1.234,50"));
+        form.enter();
+        QCOMPARE(form.edit.text(), QString("1234,5"));
+        QTest::keyClick(&form.edit, Qt::Key_Enter);
+        QCOMPARE(form.edit.text(), QString("1.234,50"));
+        form.edit.setCurrencyFixed(true);
+        form.leave();
+        QCOMPARE(form.edit.text(), QString("1.234,50"));
+    }
+
+    void anAmountInAPaymentFollowsEveryKey()
+    {
+        AppContext::instance()->setLocale("id_ID");
+        Form<MoneyEdit> form;
+        form.edit.setValue(200);
+        QList<double> paid;
+        connect(&form.edit, &QLineEdit::textChanged, &form.edit, [&] { paid.append(form.edit.money()->getAmount()); });
+        form.enterAndType("1500");
+        QCOMPARE(form.edit.text(), QString("1500"));
+        QCOMPARE(paid.mid(paid.size() - 4), QList<double>({1.0, 15.0, 150.0, 1500.0}));
+        form.leave();
+        QCOMPARE(form.edit.text(), QString("1.500,00"));
+        QCOMPARE(form.edit.money()->rawAmount(), 1500);
+        form.enter();
+        QCOMPARE(form.edit.text(), QString("1500"));
+    }
+
+    void theAmountOfARecordStaysTheRecords()
+    {
+        AppContext::instance()->setLocale("id_ID");
+        QObject record;
+        QPointer<Money> price = new Money(&record, 2500.0, "Rp");
+        {
+            Form<MoneyEdit> form;
+            form.edit.setMoney(price);
+            QCOMPARE(form.edit.text(), QString("2.500,00"));
+            form.enterAndType("3000");
+            QVERIFY(form.edit.money() != price);
+            QCOMPARE(form.edit.money()->rawAmount(), 3000);
+            form.edit.setMoney(form.edit.money());
+            QCOMPARE(form.edit.money()->rawAmount(), 3000);
+            form.edit.setMoney(nullptr);
+            QCOMPARE(form.edit.text(), QString("0,00"));
+        }
+        QVERIFY(price);
+        QCOMPARE(price->rawAmount(), 2500);
+    }
+
+    void anAmountHandedOutOutlivesTheNextKey()
+    {
+        AppContext::instance()->setLocale("id_ID");
+        Form<MoneyEdit> form;
+        form.edit.setValue(1000);
+        const QPointer<Money> before = form.edit.money();
+        form.edit.setValue(2000);
+        Money* total = before->add(form.edit.money());
+        QVERIFY(form.edit.isValid());
+        QVERIFY(before);
+        QCOMPARE(total->rawAmount(), 3000);
+        // Nothing piles up in a form that stays open.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCOMPARE(form.edit.findChildren<Money*>().size(), 1);
+    }
+
+    void escapeCommitsTheAmountAndClosesTheForm()
+    {
+        AppContext::instance()->setLocale("id_ID");
+        QDialog dialog;
+        auto* edit = new MoneyEdit(&dialog);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        edit->setFocus();
+        QTest::keyClicks(edit, "1500");
+        QTest::keyClick(edit, Qt::Key_Escape);
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(edit->text(), QString("1.500,00"));
+        QCOMPARE(edit->money()->rawAmount(), 1500);
+    }
+};
 
 QTEST_MAIN(tst_NumberEdits)
 #include "tst_number_edits.moc"

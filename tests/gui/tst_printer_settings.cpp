@@ -7,6 +7,7 @@
 #include "pos/printing/configuration/TabKitchenPrinter.h"
 #include "pos/printing/slips/SlipArchive.h"
 #include "support/ModalDriver.h"
+#include "support/Rows.h"
 #include "support/TestDatabase.h"
 #include "zavel/registry/ZavelBusinessRegistry.h"
 
@@ -61,406 +62,388 @@ class TestPrinterSettings final : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init()
+    {
+        m_spool = std::make_unique<QTemporaryDir>();
+        qputenv("ZAVEL_SPOOL_DIR", QFile::encodeName(m_spool->path()));
+        listPrinters("Kasir\nDapur\nBar\n");
+        m_database = std::make_unique<TestDatabase>();
+        m_database->run("DELETE FROM appconfig");
+        m_database->run("DELETE FROM printer_type");
+        m_database->run("INSERT INTO printer_type (printer_type, cash_drawer_cmd, cut_papper_cmd, version) VALUES "
+                        "('EPSON-TM-T88III', '', '27#109', 1), ('GENERIC-ESC-POS', '', '29#V#66#0', 1)");
+        addSetting("cashier_printer", {{"printer_name", "Dapur"},
+                                       {"printer_type", "GENERIC-ESC-POS"},
+                                       {"auto_cutter", "No"},
+                                       {"notes", "Thank You"},
+                                       {"no_of_copy", "1"},
+                                       {"column_paper", "40"},
+                                       {"no_of_blank_lines", "4"},
+                                       {"format", "{items}"}});
+        addSetting("kitchen_printer_1",
+                   {{"kitchen_name", "Kitchen 1"}, {"printer_name", "Dapur"}, {"auto_print", "Yes"}});
+        loginAsAdmin();
+        ZavelBusinessRegistry::instance();
+        m_people = std::make_unique<ModalDriver>();
+    }
 
-    void theCashierFormKeepsEverySettingAsText();
-    void whatTheFormDoesNotShowStaysInTheRow();
-    void aPrinterThatHasGoneGivesWayToTheFirst();
-    void withoutAnyPrinterTheStoredOneStays();
-    void aStaleCashierFormIsToldAndStaysOpen();
-    void withoutItsRowTheCashierFormSavesNothing();
-    void aKitchenIsAddedEditedAndDeleted();
-    void aKitchenNeedsAName();
-    void twoKitchensOfOneSecondCollide();
-    void kitchensAreFoundByNameOrByPrinter();
-    void itemTypesArePickedFromTheList();
-    void aTestSlipShowsTheFormAsItStands_data();
-    void aTestSlipShowsTheFormAsItStands();
-    void aTestSlipThatFailsIsTold();
-    void aKitchenMayHaveNoPrinter();
-    void theFormSaysWhatTheCutLacks();
+    void cleanup()
+    {
+        m_people.reset();
+        m_database.reset();
+        qunsetenv("ZAVEL_SPOOL_DIR");
+    }
+
+    void theCashierFormKeepsEverySettingAsText()
+    {
+        DialogCashierAndKitchenPrinter form;
+        QCOMPARE(form.windowTitle(), QString("Cashier Printer Form"));
+        QCOMPARE(field<QComboBox>(&form, "ddlPrinter")->currentText(), QString("Dapur"));
+        QCOMPARE(field<QComboBox>(&form, "ddlPrinterType")->currentText(), QString("GENERIC-ESC-POS"));
+        QCOMPARE(field<QComboBox>(&form, "ddlAutoCut")->currentText(), QString("No"));
+        QCOMPARE(field<QComboBox>(&form, "ddlNoCopy")->count(), 5);
+        QCOMPARE(field<QLineEdit>(&form, "txtCol")->text(), QString("40"));
+        QCOMPARE(field<QPlainTextEdit>(&form, "txtNotes")->toPlainText(), QString("Thank You"));
+
+        choose(&form, "ddlPrinter", "Kasir");
+        choose(&form, "ddlPrinterType", "EPSON-TM-T88III");
+        choose(&form, "ddlAutoCut", "Yes");
+        choose(&form, "ddlNoCopy", "3");
+        field<QPlainTextEdit>(&form, "txtNotes")->setPlainText("Terima kasih");
+        type(field<QLineEdit>(&form, "txtCol"), "32");
+        type(field<QLineEdit>(&form, "txtBlankLines"), "6");
+        form.accept();
+        QCOMPARE(form.result(), int(QDialog::Accepted));
+        QCOMPARE(storedMembers("cashier_printer"), (QJsonObject{{"printer_name", "Kasir"},
+                                                                {"printer_type", "EPSON-TM-T88III"},
+                                                                {"auto_cutter", "Yes"},
+                                                                {"notes", "Terima kasih"},
+                                                                {"no_of_copy", "3"},
+                                                                {"column_paper", "32"},
+                                                                {"no_of_blank_lines", "6"},
+                                                                {"format", "{items}"}}));
+    }
+
+    void whatTheFormDoesNotShowStaysInTheRow()
+    {
+        const QJsonObject before = storedMembers("cashier_printer");
+        DialogCashierAndKitchenPrinter().accept();
+        QCOMPARE(storedMembers("cashier_printer"), before);
+    }
+
+    void aPrinterThatHasGoneGivesWayToTheFirst()
+    {
+        listPrinters("Bar\nKasir\n");
+        QCOMPARE(
+            field<QComboBox>(std::make_unique<DialogCashierAndKitchenPrinter>().get(), "ddlPrinter")->currentText(),
+            QString("Bar"));
+    }
+
+    void withoutAnyPrinterTheStoredOneStays()
+    {
+        listPrinters("");
+        QFile::remove(m_spool->filePath("printers"));
+        DialogCashierAndKitchenPrinter().accept();
+        QCOMPARE(storedMembers("cashier_printer").value("printer_name"), QJsonValue("Dapur"));
+    }
+
+    void aStaleCashierFormIsToldAndStaysOpen()
+    {
+        DialogCashierAndKitchenPrinter form;
+        form.show();
+        m_database->run("UPDATE appconfig SET version = 2 WHERE appkey = 'cashier_printer'");
+        field<QPlainTextEdit>(&form, "txtNotes")->setPlainText("mine");
+        form.accept();
+        QCOMPARE(m_people->lastTitle(), QString("Error!"));
+        QVERIFY2(m_people->lastText().startsWith("Table: appconfig has been updated"),
+                 qPrintable(m_people->lastText()));
+        QVERIFY(form.isVisible());
+        QCOMPARE(field<QPlainTextEdit>(&form, "txtNotes")->toPlainText(), QString("mine"));
+        QCOMPARE(storedMembers("cashier_printer").value("notes"), QJsonValue("Thank You"));
+    }
+
+    void withoutItsRowTheCashierFormSavesNothing()
+    {
+        m_database->run("DELETE FROM appconfig WHERE appkey = 'cashier_printer'");
+        DialogCashierAndKitchenPrinter form;
+        type(field<QLineEdit>(&form, "txtCol"), "32");
+        type(field<QLineEdit>(&form, "txtBlankLines"), "6");
+        form.accept();
+        QCOMPARE(m_people->boxes().size(), 1);
+        QCOMPARE(m_people->lastTitle(), QString("Error!"));
+        QCOMPARE(m_database->value("SELECT count(*) FROM appconfig WHERE appkey = 'cashier_printer'").toInt(), 0);
+    }
+
+    void aKitchenIsAddedEditedAndDeleted()
+    {
+        TabKitchenPrinter page;
+        page.show();
+        QVERIFY(QTest::qWaitForWindowActive(&page));
+        QVERIFY(field<QLineEdit>(&page, "txtFilter")->hasFocus());
+        const auto* grid = field<QTableView>(&page, "tblKitchenPrinter");
+        QCOMPARE(grid->columnWidth(0), 300);
+        QCOMPARE(grid->columnWidth(1), 300);
+
+        m_people->expect<DialogKitchenFoodPrinter>([](DialogKitchenFoodPrinter* form) {
+            QCOMPARE(form->windowTitle(), QString("Kitchen Printer Form"));
+            type(field<QLineEdit>(form, "txtKitchenName"), "Grill");
+            choose(form, "ddlPrinter", "Bar");
+            type(field<QLineEdit>(form, "txtKodeJenisItems"), "FOOD,GRILL");
+            confirm(form);
+        });
+        page.on_btnAdd_clicked();
+        QCOMPARE(m_people->texts(), QStringList());
+        QCOMPARE(grid->model()->rowCount(), 2);
+        const QString key =
+            m_database->value("SELECT appkey FROM appconfig WHERE appkey LIKE 'kitchen_printer_2%'").toString();
+        QVERIFY2(QDateTime::fromString(key, "'kitchen_printer_'yyyy_MM_dd_hh_mm_ss").isValid(), qPrintable(key));
+        QCOMPARE(storedMembers(key), (QJsonObject{{"kitchen_name", "Grill"},
+                                                  {"printer_name", "Bar"},
+                                                  {"printer_type", "EPSON-TM-T88III"},
+                                                  {"auto_cutter", "No"},
+                                                  {"auto_print", "Yes"},
+                                                  {"no_of_copy", "1"},
+                                                  {"column_paper", "40"},
+                                                  {"no_of_blank_lines", "4"},
+                                                  {"kode_jenis_item", "FOOD,GRILL"}}));
+        const auto rowOf = [grid](const QString& name) { return cell(grid, 0, 0) == name ? 0 : 1; };
+        QCOMPARE(cell(grid, rowOf("Kitchen 1"), 2), QString("[ALL]"));
+        QCOMPARE(cell(grid, rowOf("Grill"), 2), QString("FOOD,GRILL"));
+
+        m_people->expect<DialogKitchenFoodPrinter>([](DialogKitchenFoodPrinter* form) {
+            QCOMPARE(form->windowTitle(), QString("Kitchen Printer Form: Grill"));
+            QVERIFY(field<QCheckBox>(form, "cbAutoPrint")->isChecked());
+            QTest::mouseClick(field<QPushButton>(form, "btnClearJenisItem"), Qt::LeftButton);
+            field<QCheckBox>(form, "cbAutoPrint")->setChecked(false);
+            confirm(form);
+        });
+        const_cast<QTableView*>(grid)->selectRow(rowOf("Grill"));
+        page.on_btnEdit_clicked();
+        QCOMPARE(storedMembers(key).value("auto_print"), QJsonValue("No"));
+        QCOMPARE(cell(grid, rowOf("Grill"), 2), QString("[ALL]"));
+
+        m_people->answer(QMessageBox::Yes);
+        const_cast<QTableView*>(grid)->selectRow(rowOf("Grill"));
+        page.on_btnDelete_clicked();
+        QCOMPARE(m_people->texts(), QStringList("Are you sure you want to delete this kitchen: Grill ?"));
+        QCOMPARE(m_people->lastTitle(), QString("Delete"));
+        QCOMPARE(grid->model()->rowCount(), 1);
+        QCOMPARE(kitchens(), 1);
+        QVERIFY(m_people->finished());
+    }
+
+    void aKitchenNeedsAName()
+    {
+        DialogKitchenFoodPrinter form;
+        form.show();
+        type(field<QLineEdit>(&form, "txtKitchenName"), "  ");
+        field<QLineEdit>(&form, "txtCol")->setFocus();
+        form.accept();
+        QCOMPARE(m_people->texts(), QStringList("Enter the kitchen name\r\n"));
+        QCOMPARE(form.focusWidget(), field<QLineEdit>(&form, "txtKitchenName"));
+        QCOMPARE(kitchens(), 1);
+    }
+
+    void twoKitchensOfOneSecondCollide()
+    {
+        // The clock is the restaurant's own, so every second that may be met is taken beforehand.
+        const QDateTime now = QDateTime::currentDateTime();
+        for (int second = 0; second < 30; ++second)
+            addSetting(EntityConfigKitchenPrinter::keyFor(now.addSecs(second)), {{"kitchen_name", "Taken"}});
+        DialogKitchenFoodPrinter form;
+        form.show();
+        type(field<QLineEdit>(&form, "txtKitchenName"), "Late");
+        form.accept();
+        QCOMPARE(m_people->boxes().size(), 1);
+        QCOMPARE(m_people->lastTitle(), QString("Error!"));
+        QVERIFY2(m_people->lastText().contains("appconfig_appkey_key"), qPrintable(m_people->lastText()));
+        QVERIFY(form.isVisible());
+
+        // A second later the same form goes through.
+        m_database->run("DELETE FROM appconfig WHERE appkey LIKE 'kitchen_printer_2%'");
+        form.accept();
+        QCOMPARE(form.result(), int(QDialog::Accepted));
+        QCOMPARE(kitchens(), 2);
+    }
+
+    void kitchensAreFoundByNameOrByPrinter()
+    {
+        addSetting("kitchen_printer_2", {{"kitchen_name", "Bar"}, {"printer_name", "Kasir"}});
+        TabKitchenPrinter page;
+        const auto* grid = field<QTableView>(&page, "tblKitchenPrinter");
+        field<QLineEdit>(&page, "txtFilter")->setText("AR");
+        page.on_btnSearch_clicked();
+        QCOMPARE(grid->model()->rowCount(), 1);
+        QCOMPARE(cell(grid, 0, 0), QString("Bar"));
+        choose(&page, "ddlFilter", "Printer");
+        field<QLineEdit>(&page, "txtFilter")->setText("dap");
+        page.on_btnSearch_clicked();
+        QCOMPARE(grid->model()->rowCount(), 1);
+        QCOMPARE(cell(grid, 0, 0), QString("Kitchen 1"));
+        field<QLineEdit>(&page, "txtFilter")->setText("bar");
+        page.on_btnSearch_clicked();
+        QCOMPARE(grid->model()->rowCount(), 0);
+    }
+
+    void itemTypesArePickedFromTheList()
+    {
+        m_database->run("TRUNCATE jenis_item CASCADE");
+        m_database->run("INSERT INTO jenis_item (kode, nama, version) VALUES "
+                        "('DRINK', 'Drinks', 1), ('FOOD', 'Food', 1), ('GRILL', 'From the grill', 1)");
+        DialogKitchenFoodPrinter form;
+        auto* codes = field<QLineEdit>(&form, "txtKodeJenisItems");
+        codes->setText("GRILL, FOOD");
+        m_people->expect<DialogFilterJenisItem>([](DialogFilterJenisItem* dialog) {
+            const auto* grid = field<QTableView>(dialog, "tblJenisItem");
+            QCOMPARE(grid->model()->rowCount(), 3);
+            QCOMPARE(dialog->selectedCodes(), QString("GRILL"));
+            QTest::mouseClick(grid->viewport(), Qt::LeftButton, Qt::NoModifier,
+                              grid->visualRect(grid->model()->index(0, 1)).center());
+            dialog->accept();
+        });
+        QTest::mouseClick(field<QPushButton>(&form, "btnBrowseJenisItem"), Qt::LeftButton);
+        QCOMPARE(codes->text(), QString("DRINK,GRILL"));
+
+        m_people->expect<DialogFilterJenisItem>([](DialogFilterJenisItem* dialog) {
+            field<QTableView>(dialog, "tblJenisItem")->selectAll();
+            dialog->reject();
+        });
+        QTest::mouseClick(field<QPushButton>(&form, "btnBrowseJenisItem"), Qt::LeftButton);
+        QCOMPARE(codes->text(), QString("DRINK,GRILL"));
+        QVERIFY(m_people->finished());
+    }
+
+    void aTestSlipShowsTheFormAsItStands_data()
+    {
+        addColumns<std::function<std::unique_ptr<QDialog>()>>("open");
+        addRow("cashier", std::function([]() -> std::unique_ptr<QDialog> {
+                   return std::make_unique<DialogCashierAndKitchenPrinter>();
+               }));
+        addRow("kitchen", std::function([]() -> std::unique_ptr<QDialog> {
+                   return std::make_unique<DialogKitchenFoodPrinter>();
+               }));
+    }
+
+    void aTestSlipShowsTheFormAsItStands()
+    {
+        QFETCH(std::function<std::unique_ptr<QDialog>()>, open);
+        const std::unique_ptr<QDialog> form = open();
+        form->show();
+        QVERIFY(QTest::qWaitForWindowActive(form.get()));
+        const QString saved = m_database->value("SELECT string_agg(appvalue, '') FROM appconfig").toString();
+        choose(form.get(), "ddlPrinter", "Bar");
+        choose(form.get(), "ddlPrinterType", "EPSON-TM-T88III");
+        choose(form.get(), "ddlAutoCut", "Yes");
+        choose(form.get(), "ddlNoCopy", "3");
+        type(field<QLineEdit>(form.get(), "txtCol"), "24");
+        QTest::keyClick(form.get(), Qt::Key_F8);
+        QCOMPARE(m_people->texts(), QStringList());
+
+        QFile slip(m_spool->filePath("000001-Bar-Test.slip"));
+        QVERIFY(slip.open(QIODevice::ReadOnly));
+        const QByteArray bytes = slip.readAll();
+        QVERIFY(bytes.endsWith("\n\x1Bm"));
+        QCOMPARE(bytes.count("\x1Bm"), 1);
+        QVERIFY(bytes.contains("\x1B"
+                               "E1This line is bold.\x1B"
+                               "E0\n"));
+        const QStringList lines = QString::fromUtf8(bytes).split('\n');
+        QCOMPARE(lines.first(), QString("123456789012345678901234"));
+        for (const QString& line : lines) {
+            if (!line.contains(QChar(0x1B)))
+                QVERIFY2(line.size() <= 24, qPrintable(line));
+        }
+        for (const char* part : {"Bar", "EPSON-TM-T88III", "ABCDEFGHIJKLMNOPQRSTUVWX\nYZ", "Rp 1.234.567,89", "é"})
+            QVERIFY2(bytes.contains(part), part);
+        const KeptSlip kept = SlipArchive::instance()->slips(QDate::currentDate(), QDate::currentDate()).value(0);
+        QCOMPARE(kept.printer, QString("Bar"));
+        QCOMPARE(int(kept.kind), int(KeptSlip::Test));
+        QCOMPARE(kept.columns, 24);
+        // Nothing was saved by it.
+        QCOMPARE(m_database->value("SELECT string_agg(appvalue, '') FROM appconfig").toString(), saved);
+        QVERIFY(form->isVisible());
+    }
+
+    void aTestSlipThatFailsIsTold()
+    {
+        DialogCashierAndKitchenPrinter form;
+        form.show();
+        listPrinters("Kasir\n");
+        choose(&form, "ddlPrinter", "Bar");
+        QTest::mouseClick(field<QPushButton>(&form, "btnTestSlip"), Qt::LeftButton);
+        QCOMPARE(m_people->lastTitle(), QString("Error"));
+        QVERIFY2(m_people->lastText().contains("Error Opening Printer:Bar"), qPrintable(m_people->lastText()));
+        QVERIFY(form.isVisible());
+    }
+
+    void aKitchenMayHaveNoPrinter()
+    {
+        DialogKitchenFoodPrinter form;
+        QCOMPARE(field<QComboBox>(&form, "ddlPrinter")->currentText(), QString("Kasir"));
+        type(field<QLineEdit>(&form, "txtKitchenName"), "Grill");
+        choose(&form, "ddlPrinter", "(no printer: the kitchen's screen)");
+        QVERIFY(!field<QPushButton>(&form, "btnTestSlip")->isEnabled());
+        form.accept();
+        const QString key =
+            m_database->value("SELECT appkey FROM appconfig WHERE appkey LIKE 'kitchen_printer_2%'").toString();
+        QCOMPARE(storedMembers(key).value("printer_name"), QJsonValue(""));
+
+        // It comes back as it was left, and a printer that has gone does not become none.
+        auto* kitchens = service<BusinessPrinterConfig>("Printer Config");
+        EntityPool pool;
+        const EntityPoolScope scope(pool);
+        DialogKitchenFoodPrinter again;
+        again.setEntity(kitchens->getConfig(key));
+        QVERIFY(field<QComboBox>(&again, "ddlPrinter")->currentText().startsWith("(no printer"));
+        listPrinters("Bar\n");
+        DialogKitchenFoodPrinter other;
+        other.setEntity(kitchens->getConfig("kitchen_printer_1"));
+        QCOMPARE(field<QComboBox>(&other, "ddlPrinter")->currentText(), QString("Bar"));
+    }
+
+    void theFormSaysWhatTheCutLacks()
+    {
+        m_database->run("INSERT INTO printer_type (printer_type, cash_drawer_cmd, cut_papper_cmd, version) VALUES "
+                        "('WHOLE', '', '29#V#66#1', 1)");
+        DialogCashierAndKitchenPrinter form;
+        const auto* told = field<QLabel>(&form, "lblCut");
+        QVERIFY2(told->text().contains("lacks its end") && told->text().endsWith("Choose WHOLE instead."),
+                 qPrintable(told->text()));
+        choose(&form, "ddlPrinterType", "WHOLE");
+        QVERIFY2(told->text().startsWith("Feeds the paper"), qPrintable(told->text()));
+    }
 
 private:
-    void addRow(const QString& key, const QJsonObject& members) const;
-    [[nodiscard]] QJsonObject storedMembers(const QString& key) const;
-    [[nodiscard]] int kitchens() const;
-    void listPrinters(const QByteArray& names) const;
+    void addSetting(const QString& key, const QJsonObject& members) const
+    {
+        m_database->run(
+            QString("INSERT INTO appconfig (appkey, is_json, appvalue, version) VALUES ('%1', true, '%2', 1)")
+                .arg(key, QString::fromUtf8(QJsonDocument(members).toJson())));
+    }
+
+    [[nodiscard]] QJsonObject storedMembers(const QString& key) const
+    {
+        const QString text =
+            m_database->value("SELECT appvalue FROM appconfig WHERE appkey = '" + key + "'").toString();
+        return QJsonDocument::fromJson(text.toUtf8()).object();
+    }
+
+    [[nodiscard]] int kitchens() const
+    {
+        return m_database->value("SELECT count(*) FROM appconfig WHERE appkey LIKE 'kitchen%'").toInt();
+    }
+
+    void listPrinters(const QByteArray& names) const
+    {
+        QFile file(m_spool->filePath("printers"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(names), qint64(names.size()));
+    }
 
     std::unique_ptr<QTemporaryDir> m_spool;
     std::unique_ptr<TestDatabase> m_database;
     std::unique_ptr<ModalDriver> m_people;
 };
-
-void TestPrinterSettings::init()
-{
-    m_spool = std::make_unique<QTemporaryDir>();
-    qputenv("ZAVEL_SPOOL_DIR", QFile::encodeName(m_spool->path()));
-    listPrinters("Kasir\nDapur\nBar\n");
-    m_database = std::make_unique<TestDatabase>();
-    m_database->run("DELETE FROM appconfig");
-    m_database->run("DELETE FROM printer_type");
-    m_database->run("INSERT INTO printer_type (printer_type, cash_drawer_cmd, cut_papper_cmd, version) VALUES "
-                    "('EPSON-TM-T88III', '', '27#109', 1), ('GENERIC-ESC-POS', '', '29#V#66#0', 1)");
-    addRow("cashier_printer", {{"printer_name", "Dapur"},
-                               {"printer_type", "GENERIC-ESC-POS"},
-                               {"auto_cutter", "No"},
-                               {"notes", "Thank You"},
-                               {"no_of_copy", "1"},
-                               {"column_paper", "40"},
-                               {"no_of_blank_lines", "4"},
-                               {"format", "{items}"}});
-    addRow("kitchen_printer_1", {{"kitchen_name", "Kitchen 1"}, {"printer_name", "Dapur"}, {"auto_print", "Yes"}});
-    loginAsAdmin();
-    ZavelBusinessRegistry::instance();
-    m_people = std::make_unique<ModalDriver>();
-}
-
-void TestPrinterSettings::cleanup()
-{
-    m_people.reset();
-    m_database.reset();
-    qunsetenv("ZAVEL_SPOOL_DIR");
-}
-
-void TestPrinterSettings::addRow(const QString& key, const QJsonObject& members) const
-{
-    m_database->run(QString("INSERT INTO appconfig (appkey, is_json, appvalue, version) VALUES ('%1', true, '%2', 1)")
-                        .arg(key, QString::fromUtf8(QJsonDocument(members).toJson())));
-}
-
-QJsonObject TestPrinterSettings::storedMembers(const QString& key) const
-{
-    const QString text = m_database->value("SELECT appvalue FROM appconfig WHERE appkey = '" + key + "'").toString();
-    return QJsonDocument::fromJson(text.toUtf8()).object();
-}
-
-int TestPrinterSettings::kitchens() const
-{
-    return m_database->value("SELECT count(*) FROM appconfig WHERE appkey LIKE 'kitchen%'").toInt();
-}
-
-void TestPrinterSettings::listPrinters(const QByteArray& names) const
-{
-    QFile file(m_spool->filePath("printers"));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(names), qint64(names.size()));
-}
-
-void TestPrinterSettings::theCashierFormKeepsEverySettingAsText()
-{
-    DialogCashierAndKitchenPrinter form;
-    QCOMPARE(form.windowTitle(), QString("Cashier Printer Form"));
-    QCOMPARE(field<QComboBox>(&form, "ddlPrinter")->currentText(), QString("Dapur"));
-    QCOMPARE(field<QComboBox>(&form, "ddlPrinterType")->currentText(), QString("GENERIC-ESC-POS"));
-    QCOMPARE(field<QComboBox>(&form, "ddlAutoCut")->currentText(), QString("No"));
-    QCOMPARE(field<QComboBox>(&form, "ddlNoCopy")->count(), 5);
-    QCOMPARE(field<QLineEdit>(&form, "txtCol")->text(), QString("40"));
-    QCOMPARE(field<QPlainTextEdit>(&form, "txtNotes")->toPlainText(), QString("Thank You"));
-
-    choose(&form, "ddlPrinter", "Kasir");
-    choose(&form, "ddlPrinterType", "EPSON-TM-T88III");
-    choose(&form, "ddlAutoCut", "Yes");
-    choose(&form, "ddlNoCopy", "3");
-    field<QPlainTextEdit>(&form, "txtNotes")->setPlainText("Terima kasih");
-    type(field<QLineEdit>(&form, "txtCol"), "32");
-    type(field<QLineEdit>(&form, "txtBlankLines"), "6");
-    form.accept();
-    QCOMPARE(form.result(), int(QDialog::Accepted));
-    QCOMPARE(storedMembers("cashier_printer"), (QJsonObject{{"printer_name", "Kasir"},
-                                                            {"printer_type", "EPSON-TM-T88III"},
-                                                            {"auto_cutter", "Yes"},
-                                                            {"notes", "Terima kasih"},
-                                                            {"no_of_copy", "3"},
-                                                            {"column_paper", "32"},
-                                                            {"no_of_blank_lines", "6"},
-                                                            {"format", "{items}"}}));
-}
-
-void TestPrinterSettings::whatTheFormDoesNotShowStaysInTheRow()
-{
-    const QJsonObject before = storedMembers("cashier_printer");
-    DialogCashierAndKitchenPrinter().accept();
-    QCOMPARE(storedMembers("cashier_printer"), before);
-}
-
-void TestPrinterSettings::aPrinterThatHasGoneGivesWayToTheFirst()
-{
-    listPrinters("Bar\nKasir\n");
-    QCOMPARE(field<QComboBox>(std::make_unique<DialogCashierAndKitchenPrinter>().get(), "ddlPrinter")->currentText(),
-             QString("Bar"));
-}
-
-void TestPrinterSettings::withoutAnyPrinterTheStoredOneStays()
-{
-    listPrinters("");
-    QFile::remove(m_spool->filePath("printers"));
-    DialogCashierAndKitchenPrinter().accept();
-    QCOMPARE(storedMembers("cashier_printer").value("printer_name"), QJsonValue("Dapur"));
-}
-
-void TestPrinterSettings::aStaleCashierFormIsToldAndStaysOpen()
-{
-    DialogCashierAndKitchenPrinter form;
-    form.show();
-    m_database->run("UPDATE appconfig SET version = 2 WHERE appkey = 'cashier_printer'");
-    field<QPlainTextEdit>(&form, "txtNotes")->setPlainText("mine");
-    form.accept();
-    QCOMPARE(m_people->lastTitle(), QString("Error!"));
-    QVERIFY2(m_people->lastText().startsWith("Table: appconfig has been updated"), qPrintable(m_people->lastText()));
-    QVERIFY(form.isVisible());
-    QCOMPARE(field<QPlainTextEdit>(&form, "txtNotes")->toPlainText(), QString("mine"));
-    QCOMPARE(storedMembers("cashier_printer").value("notes"), QJsonValue("Thank You"));
-}
-
-void TestPrinterSettings::withoutItsRowTheCashierFormSavesNothing()
-{
-    m_database->run("DELETE FROM appconfig WHERE appkey = 'cashier_printer'");
-    DialogCashierAndKitchenPrinter form;
-    type(field<QLineEdit>(&form, "txtCol"), "32");
-    type(field<QLineEdit>(&form, "txtBlankLines"), "6");
-    form.accept();
-    QCOMPARE(m_people->boxes().size(), 1);
-    QCOMPARE(m_people->lastTitle(), QString("Error!"));
-    QCOMPARE(m_database->value("SELECT count(*) FROM appconfig WHERE appkey = 'cashier_printer'").toInt(), 0);
-}
-
-void TestPrinterSettings::aKitchenIsAddedEditedAndDeleted()
-{
-    TabKitchenPrinter page;
-    page.show();
-    QVERIFY(QTest::qWaitForWindowActive(&page));
-    QVERIFY(field<QLineEdit>(&page, "txtFilter")->hasFocus());
-    const auto* grid = field<QTableView>(&page, "tblKitchenPrinter");
-    QCOMPARE(grid->columnWidth(0), 300);
-    QCOMPARE(grid->columnWidth(1), 300);
-
-    m_people->expect<DialogKitchenFoodPrinter>([](DialogKitchenFoodPrinter* form) {
-        QCOMPARE(form->windowTitle(), QString("Kitchen Printer Form"));
-        type(field<QLineEdit>(form, "txtKitchenName"), "Grill");
-        choose(form, "ddlPrinter", "Bar");
-        type(field<QLineEdit>(form, "txtKodeJenisItems"), "FOOD,GRILL");
-        confirm(form);
-    });
-    page.on_btnAdd_clicked();
-    QCOMPARE(m_people->texts(), QStringList());
-    QCOMPARE(grid->model()->rowCount(), 2);
-    const QString key =
-        m_database->value("SELECT appkey FROM appconfig WHERE appkey LIKE 'kitchen_printer_2%'").toString();
-    QVERIFY2(QDateTime::fromString(key, "'kitchen_printer_'yyyy_MM_dd_hh_mm_ss").isValid(), qPrintable(key));
-    QCOMPARE(storedMembers(key), (QJsonObject{{"kitchen_name", "Grill"},
-                                              {"printer_name", "Bar"},
-                                              {"printer_type", "EPSON-TM-T88III"},
-                                              {"auto_cutter", "No"},
-                                              {"auto_print", "Yes"},
-                                              {"no_of_copy", "1"},
-                                              {"column_paper", "40"},
-                                              {"no_of_blank_lines", "4"},
-                                              {"kode_jenis_item", "FOOD,GRILL"}}));
-    const auto rowOf = [grid](const QString& name) { return cell(grid, 0, 0) == name ? 0 : 1; };
-    QCOMPARE(cell(grid, rowOf("Kitchen 1"), 2), QString("[ALL]"));
-    QCOMPARE(cell(grid, rowOf("Grill"), 2), QString("FOOD,GRILL"));
-
-    m_people->expect<DialogKitchenFoodPrinter>([](DialogKitchenFoodPrinter* form) {
-        QCOMPARE(form->windowTitle(), QString("Kitchen Printer Form: Grill"));
-        QVERIFY(field<QCheckBox>(form, "cbAutoPrint")->isChecked());
-        QTest::mouseClick(field<QPushButton>(form, "btnClearJenisItem"), Qt::LeftButton);
-        field<QCheckBox>(form, "cbAutoPrint")->setChecked(false);
-        confirm(form);
-    });
-    const_cast<QTableView*>(grid)->selectRow(rowOf("Grill"));
-    page.on_btnEdit_clicked();
-    QCOMPARE(storedMembers(key).value("auto_print"), QJsonValue("No"));
-    QCOMPARE(cell(grid, rowOf("Grill"), 2), QString("[ALL]"));
-
-    m_people->answer(QMessageBox::Yes);
-    const_cast<QTableView*>(grid)->selectRow(rowOf("Grill"));
-    page.on_btnDelete_clicked();
-    QCOMPARE(m_people->texts(), QStringList("Are you sure you want to delete this kitchen: Grill ?"));
-    QCOMPARE(m_people->lastTitle(), QString("Delete"));
-    QCOMPARE(grid->model()->rowCount(), 1);
-    QCOMPARE(kitchens(), 1);
-    QVERIFY(m_people->finished());
-}
-
-void TestPrinterSettings::aKitchenNeedsAName()
-{
-    DialogKitchenFoodPrinter form;
-    form.show();
-    type(field<QLineEdit>(&form, "txtKitchenName"), "  ");
-    field<QLineEdit>(&form, "txtCol")->setFocus();
-    form.accept();
-    QCOMPARE(m_people->texts(), QStringList("Enter the kitchen name\r\n"));
-    QCOMPARE(form.focusWidget(), field<QLineEdit>(&form, "txtKitchenName"));
-    QCOMPARE(kitchens(), 1);
-}
-
-void TestPrinterSettings::twoKitchensOfOneSecondCollide()
-{
-    // The clock is the restaurant's own, so every second that may be met is taken beforehand.
-    const QDateTime now = QDateTime::currentDateTime();
-    for (int second = 0; second < 30; ++second)
-        addRow(EntityConfigKitchenPrinter::keyFor(now.addSecs(second)), {{"kitchen_name", "Taken"}});
-    DialogKitchenFoodPrinter form;
-    form.show();
-    type(field<QLineEdit>(&form, "txtKitchenName"), "Late");
-    form.accept();
-    QCOMPARE(m_people->boxes().size(), 1);
-    QCOMPARE(m_people->lastTitle(), QString("Error!"));
-    QVERIFY2(m_people->lastText().contains("appconfig_appkey_key"), qPrintable(m_people->lastText()));
-    QVERIFY(form.isVisible());
-
-    // A second later the same form goes through.
-    m_database->run("DELETE FROM appconfig WHERE appkey LIKE 'kitchen_printer_2%'");
-    form.accept();
-    QCOMPARE(form.result(), int(QDialog::Accepted));
-    QCOMPARE(kitchens(), 2);
-}
-
-void TestPrinterSettings::kitchensAreFoundByNameOrByPrinter()
-{
-    addRow("kitchen_printer_2", {{"kitchen_name", "Bar"}, {"printer_name", "Kasir"}});
-    TabKitchenPrinter page;
-    const auto* grid = field<QTableView>(&page, "tblKitchenPrinter");
-    field<QLineEdit>(&page, "txtFilter")->setText("AR");
-    page.on_btnSearch_clicked();
-    QCOMPARE(grid->model()->rowCount(), 1);
-    QCOMPARE(cell(grid, 0, 0), QString("Bar"));
-    choose(&page, "ddlFilter", "Printer");
-    field<QLineEdit>(&page, "txtFilter")->setText("dap");
-    page.on_btnSearch_clicked();
-    QCOMPARE(grid->model()->rowCount(), 1);
-    QCOMPARE(cell(grid, 0, 0), QString("Kitchen 1"));
-    field<QLineEdit>(&page, "txtFilter")->setText("bar");
-    page.on_btnSearch_clicked();
-    QCOMPARE(grid->model()->rowCount(), 0);
-}
-
-void TestPrinterSettings::itemTypesArePickedFromTheList()
-{
-    m_database->run("TRUNCATE jenis_item CASCADE");
-    m_database->run("INSERT INTO jenis_item (kode, nama, version) VALUES "
-                    "('DRINK', 'Drinks', 1), ('FOOD', 'Food', 1), ('GRILL', 'From the grill', 1)");
-    DialogKitchenFoodPrinter form;
-    auto* codes = field<QLineEdit>(&form, "txtKodeJenisItems");
-    codes->setText("GRILL, FOOD");
-    m_people->expect<DialogFilterJenisItem>([](DialogFilterJenisItem* dialog) {
-        const auto* grid = field<QTableView>(dialog, "tblJenisItem");
-        QCOMPARE(grid->model()->rowCount(), 3);
-        QCOMPARE(dialog->selectedCodes(), QString("GRILL"));
-        QTest::mouseClick(grid->viewport(), Qt::LeftButton, Qt::NoModifier,
-                          grid->visualRect(grid->model()->index(0, 1)).center());
-        dialog->accept();
-    });
-    QTest::mouseClick(field<QPushButton>(&form, "btnBrowseJenisItem"), Qt::LeftButton);
-    QCOMPARE(codes->text(), QString("DRINK,GRILL"));
-
-    m_people->expect<DialogFilterJenisItem>([](DialogFilterJenisItem* dialog) {
-        field<QTableView>(dialog, "tblJenisItem")->selectAll();
-        dialog->reject();
-    });
-    QTest::mouseClick(field<QPushButton>(&form, "btnBrowseJenisItem"), Qt::LeftButton);
-    QCOMPARE(codes->text(), QString("DRINK,GRILL"));
-    QVERIFY(m_people->finished());
-}
-
-void TestPrinterSettings::aTestSlipShowsTheFormAsItStands_data()
-{
-    QTest::addColumn<std::function<std::unique_ptr<QDialog>()>>("open");
-    QTest::newRow("cashier") << std::function(
-        []() -> std::unique_ptr<QDialog> { return std::make_unique<DialogCashierAndKitchenPrinter>(); });
-    QTest::newRow("kitchen") << std::function(
-        []() -> std::unique_ptr<QDialog> { return std::make_unique<DialogKitchenFoodPrinter>(); });
-}
-
-void TestPrinterSettings::aTestSlipShowsTheFormAsItStands()
-{
-    QFETCH(std::function<std::unique_ptr<QDialog>()>, open);
-    const std::unique_ptr<QDialog> form = open();
-    form->show();
-    QVERIFY(QTest::qWaitForWindowActive(form.get()));
-    const QString saved = m_database->value("SELECT string_agg(appvalue, '') FROM appconfig").toString();
-    choose(form.get(), "ddlPrinter", "Bar");
-    choose(form.get(), "ddlPrinterType", "EPSON-TM-T88III");
-    choose(form.get(), "ddlAutoCut", "Yes");
-    choose(form.get(), "ddlNoCopy", "3");
-    type(field<QLineEdit>(form.get(), "txtCol"), "24");
-    QTest::keyClick(form.get(), Qt::Key_F8);
-    QCOMPARE(m_people->texts(), QStringList());
-
-    QFile slip(m_spool->filePath("000001-Bar-Test.slip"));
-    QVERIFY(slip.open(QIODevice::ReadOnly));
-    const QByteArray bytes = slip.readAll();
-    QVERIFY(bytes.endsWith("\n\x1Bm"));
-    QCOMPARE(bytes.count("\x1Bm"), 1);
-    QVERIFY(bytes.contains("\x1B"
-                           "E1This line is bold.\x1B"
-                           "E0\n"));
-    const QStringList lines = QString::fromUtf8(bytes).split('\n');
-    QCOMPARE(lines.first(), QString("123456789012345678901234"));
-    for (const QString& line : lines) {
-        if (!line.contains(QChar(0x1B)))
-            QVERIFY2(line.size() <= 24, qPrintable(line));
-    }
-    for (const char* part : {"Bar", "EPSON-TM-T88III", "ABCDEFGHIJKLMNOPQRSTUVWX\nYZ", "Rp 1.234.567,89", "é"})
-        QVERIFY2(bytes.contains(part), part);
-    const KeptSlip kept = SlipArchive::instance()->slips(QDate::currentDate(), QDate::currentDate()).value(0);
-    QCOMPARE(kept.printer, QString("Bar"));
-    QCOMPARE(int(kept.kind), int(KeptSlip::Test));
-    QCOMPARE(kept.columns, 24);
-    // Nothing was saved by it.
-    QCOMPARE(m_database->value("SELECT string_agg(appvalue, '') FROM appconfig").toString(), saved);
-    QVERIFY(form->isVisible());
-}
-
-void TestPrinterSettings::aTestSlipThatFailsIsTold()
-{
-    DialogCashierAndKitchenPrinter form;
-    form.show();
-    listPrinters("Kasir\n");
-    choose(&form, "ddlPrinter", "Bar");
-    QTest::mouseClick(field<QPushButton>(&form, "btnTestSlip"), Qt::LeftButton);
-    QCOMPARE(m_people->lastTitle(), QString("Error"));
-    QVERIFY2(m_people->lastText().contains("Error Opening Printer:Bar"), qPrintable(m_people->lastText()));
-    QVERIFY(form.isVisible());
-}
-
-void TestPrinterSettings::aKitchenMayHaveNoPrinter()
-{
-    DialogKitchenFoodPrinter form;
-    QCOMPARE(field<QComboBox>(&form, "ddlPrinter")->currentText(), QString("Kasir"));
-    type(field<QLineEdit>(&form, "txtKitchenName"), "Grill");
-    choose(&form, "ddlPrinter", "(no printer: the kitchen's screen)");
-    QVERIFY(!field<QPushButton>(&form, "btnTestSlip")->isEnabled());
-    form.accept();
-    const QString key =
-        m_database->value("SELECT appkey FROM appconfig WHERE appkey LIKE 'kitchen_printer_2%'").toString();
-    QCOMPARE(storedMembers(key).value("printer_name"), QJsonValue(""));
-
-    // It comes back as it was left, and a printer that has gone does not become none.
-    auto* kitchens = service<BusinessPrinterConfig>("Printer Config");
-    EntityPool pool;
-    const EntityPoolScope scope(pool);
-    DialogKitchenFoodPrinter again;
-    again.setEntity(kitchens->getConfig(key));
-    QVERIFY(field<QComboBox>(&again, "ddlPrinter")->currentText().startsWith("(no printer"));
-    listPrinters("Bar\n");
-    DialogKitchenFoodPrinter other;
-    other.setEntity(kitchens->getConfig("kitchen_printer_1"));
-    QCOMPARE(field<QComboBox>(&other, "ddlPrinter")->currentText(), QString("Bar"));
-}
-
-void TestPrinterSettings::theFormSaysWhatTheCutLacks()
-{
-    m_database->run("INSERT INTO printer_type (printer_type, cash_drawer_cmd, cut_papper_cmd, version) VALUES "
-                    "('WHOLE', '', '29#V#66#1', 1)");
-    DialogCashierAndKitchenPrinter form;
-    const auto* told = field<QLabel>(&form, "lblCut");
-    QVERIFY2(told->text().contains("lacks its end") && told->text().endsWith("Choose WHOLE instead."),
-             qPrintable(told->text()));
-    choose(&form, "ddlPrinterType", "WHOLE");
-    QVERIFY2(told->text().startsWith("Feeds the paper"), qPrintable(told->text()));
-}
 
 QTEST_MAIN(TestPrinterSettings)
 #include "tst_printer_settings.moc"

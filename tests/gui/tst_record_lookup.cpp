@@ -103,137 +103,126 @@ class tst_RecordLookup : public QObject
     Q_OBJECT
 
 private slots:
-    void aFoundRecordShowsItsCodeNameAndMore();
-    void theChosenRecordIsHandedToTheForm();
-    void theChosenRecordAndItsPartnersOutliveTheNextSearch();
-    void recordsNobodyChoseGoWithTheNextSearch();
-    void escapeAfterAnotherSearchDoesNotChangeTheGuestOfTheBill();
-    void choosingNoResultLeavesNoGuest();
-    void aFailedSearchShowsNoResultAndLeavesNoErrorBehind();
-    void anOldErrorOfTheServiceDoesNotSpoilASearch();
-    void aBoxWithoutAServiceFindsNothing();
-    void theKeyboardHasAllItsKeysAndTheyDoNothingYet();
-};
-
-void tst_RecordLookup::aFoundRecordShowsItsCodeNameAndMore()
-{
-    Bill bill;
-    bill.box->search("o'");
-    QCOMPARE(bill.service.asked, QStringList({"o'"}));
-    QTreeWidgetItem* row = Bill::list()->topLevelItem(0);
-    QCOMPARE(row->text(0), QString("o'neil"));
-    QCOMPARE(row->text(1), QString("Guest o'neil"));
-    QCOMPARE(row->text(2), QString("gold"));
-    QCOMPARE(bill.box->rowText(0, 3), QVariant(QString()));
-    QCOMPARE(bill.box->rowText(7, 0), QVariant(QString()));
-}
-
-void tst_RecordLookup::theChosenRecordIsHandedToTheForm()
-{
-    Bill bill;
-    QVERIFY(!bill.box->selectedItem());
-    QCOMPARE(bill.box->selectedCode(), QString());
-    QString heard;
-    connect(&bill.field, &QLineEdit::returnPressed, this, [&] { heard = bill.box->selectedItem()->getNama(); });
-    bill.choose("m", 1);
-    QCOMPARE(heard, QString("Guest m2"));
-    QCOMPARE(bill.field.text(), QString("m2"));
-    QCOMPARE(bill.box->selectedCode(), QString("m2"));
-    QCOMPARE(bill.box->selectedRow(), 1);
-}
-
-void tst_RecordLookup::theChosenRecordAndItsPartnersOutliveTheNextSearch()
-{
-    Bill bill;
-    bill.choose("m", 0);
-    QPointer<Guest> guest = bill.box->selectedItem();
-    bill.choose("o'neil", 0);
-    bill.box->search("m");
-    QVERIFY(guest);
-    QCOMPARE(guest->getKode(), QString("m1"));
-    QCOMPARE(guest->getRank()->getNama(), QString("gold"));
-}
-
-void tst_RecordLookup::recordsNobodyChoseGoWithTheNextSearch()
-{
-    const int before = recordsAlive();
+    void aFoundRecordShowsItsCodeNameAndMore()
     {
         Bill bill;
-        for (int i = 0; i < 20; ++i)
-            bill.choose("m", 1);
-        bill.box->search("nobody");
-        QCOMPARE(recordsAlive() - before, 40); // each time the guest and its rank
+        bill.box->search("o'");
+        QCOMPARE(bill.service.asked, QStringList({"o'"}));
+        QTreeWidgetItem* row = Bill::list()->topLevelItem(0);
+        QCOMPARE(row->text(0), QString("o'neil"));
+        QCOMPARE(row->text(1), QString("Guest o'neil"));
+        QCOMPARE(row->text(2), QString("gold"));
+        QCOMPARE(bill.box->rowText(0, 3), QVariant(QString()));
+        QCOMPARE(bill.box->rowText(7, 0), QVariant(QString()));
     }
-    QCOMPARE(recordsAlive(), before);
-}
 
-void tst_RecordLookup::escapeAfterAnotherSearchDoesNotChangeTheGuestOfTheBill()
-{
-    Bill bill;
-    bill.choose("m", 0);
-    bill.box->search("o'neil");
-    QTest::keyClick(Bill::list(), Qt::Key_Escape);
-    QCOMPARE(bill.box->selectedRow(), 0);
-    QCOMPARE(bill.box->selectedItem()->getKode(), QString("m1"));
-}
-
-void tst_RecordLookup::choosingNoResultLeavesNoGuest()
-{
-    Bill bill;
-    bill.choose("m", 0);
-    bill.choose("nobody", 0);
-    QVERIFY(!bill.box->selectedItem());
-    QCOMPARE(bill.box->selectedCode(), QString());
-}
-
-void tst_RecordLookup::aFailedSearchShowsNoResultAndLeavesNoErrorBehind()
-{
-    Bill bill;
-    bill.service.broken = true;
-    bill.box->search("m");
-    QVERIFY(bill.box->items().isEmpty());
-    QCOMPARE(Bill::list()->topLevelItem(0)->text(0), QString("No result"));
-    QVERIFY(!bill.service.hasError());
-}
-
-void tst_RecordLookup::anOldErrorOfTheServiceDoesNotSpoilASearch()
-{
-    Bill bill;
-    bill.service.addError("update", "changed by another workstation");
-    bill.box->search("m");
-    QCOMPARE(bill.box->items().size(), 2);
-}
-
-void tst_RecordLookup::aBoxWithoutAServiceFindsNothing()
-{
-    QLineEdit field;
-    field.show();
-    GuestTextBox box(&field, nullptr);
-    box.search("m");
-    QVERIFY(box.items().isEmpty());
-    QVERIFY(!box.selectedItem());
-}
-
-void tst_RecordLookup::theKeyboardHasAllItsKeysAndTheyDoNothingYet()
-{
-    DialogKeyboard keyboard;
-    keyboard.show();
-    auto* result = keyboard.findChild<QLineEdit*>("txtResult");
-    auto* box = keyboard.findChild<QDialogButtonBox*>();
-    QVERIFY(result && box);
-    int keys = 0;
-    for (QPushButton* key : keyboard.findChildren<QPushButton*>()) {
-        if (key->parent() == box)
-            continue;
-        ++keys;
-        const QByteArray slot = "on_" + key->objectName().toUtf8() + "_clicked()";
-        QVERIFY2(keyboard.metaObject()->indexOfSlot(slot) >= 0, slot);
-        QTest::mouseClick(key, Qt::LeftButton);
+    void theChosenRecordIsHandedToTheForm()
+    {
+        Bill bill;
+        QVERIFY(!bill.box->selectedItem());
+        QCOMPARE(bill.box->selectedCode(), QString());
+        QString heard;
+        connect(&bill.field, &QLineEdit::returnPressed, this, [&] { heard = bill.box->selectedItem()->getNama(); });
+        bill.choose("m", 1);
+        QCOMPARE(heard, QString("Guest m2"));
+        QCOMPARE(bill.field.text(), QString("m2"));
+        QCOMPARE(bill.box->selectedCode(), QString("m2"));
+        QCOMPARE(bill.box->selectedRow(), 1);
     }
-    QCOMPARE(keys, 44);
-    QCOMPARE(result->text(), QString());
-    QVERIFY(keyboard.isVisible());
-}
+
+    void theChosenRecordAndItsPartnersOutliveTheNextSearch()
+    {
+        Bill bill;
+        bill.choose("m", 0);
+        QPointer<Guest> guest = bill.box->selectedItem();
+        bill.choose("o'neil", 0);
+        bill.box->search("m");
+        QVERIFY(guest);
+        QCOMPARE(guest->getKode(), QString("m1"));
+        QCOMPARE(guest->getRank()->getNama(), QString("gold"));
+    }
+
+    void recordsNobodyChoseGoWithTheNextSearch()
+    {
+        const int before = recordsAlive();
+        {
+            Bill bill;
+            for (int i = 0; i < 20; ++i)
+                bill.choose("m", 1);
+            bill.box->search("nobody");
+            QCOMPARE(recordsAlive() - before, 40); // each time the guest and its rank
+        }
+        QCOMPARE(recordsAlive(), before);
+    }
+
+    void escapeAfterAnotherSearchDoesNotChangeTheGuestOfTheBill()
+    {
+        Bill bill;
+        bill.choose("m", 0);
+        bill.box->search("o'neil");
+        QTest::keyClick(Bill::list(), Qt::Key_Escape);
+        QCOMPARE(bill.box->selectedRow(), 0);
+        QCOMPARE(bill.box->selectedItem()->getKode(), QString("m1"));
+    }
+
+    void choosingNoResultLeavesNoGuest()
+    {
+        Bill bill;
+        bill.choose("m", 0);
+        bill.choose("nobody", 0);
+        QVERIFY(!bill.box->selectedItem());
+        QCOMPARE(bill.box->selectedCode(), QString());
+    }
+
+    void aFailedSearchShowsNoResultAndLeavesNoErrorBehind()
+    {
+        Bill bill;
+        bill.service.broken = true;
+        bill.box->search("m");
+        QVERIFY(bill.box->items().isEmpty());
+        QCOMPARE(Bill::list()->topLevelItem(0)->text(0), QString("No result"));
+        QVERIFY(!bill.service.hasError());
+    }
+
+    void anOldErrorOfTheServiceDoesNotSpoilASearch()
+    {
+        Bill bill;
+        bill.service.addError("update", "changed by another workstation");
+        bill.box->search("m");
+        QCOMPARE(bill.box->items().size(), 2);
+    }
+
+    void aBoxWithoutAServiceFindsNothing()
+    {
+        QLineEdit field;
+        field.show();
+        GuestTextBox box(&field, nullptr);
+        box.search("m");
+        QVERIFY(box.items().isEmpty());
+        QVERIFY(!box.selectedItem());
+    }
+
+    void theKeyboardHasAllItsKeysAndTheyDoNothingYet()
+    {
+        DialogKeyboard keyboard;
+        keyboard.show();
+        auto* result = keyboard.findChild<QLineEdit*>("txtResult");
+        auto* box = keyboard.findChild<QDialogButtonBox*>();
+        QVERIFY(result && box);
+        int keys = 0;
+        for (QPushButton* key : keyboard.findChildren<QPushButton*>()) {
+            if (key->parent() == box)
+                continue;
+            ++keys;
+            const QByteArray slot = "on_" + key->objectName().toUtf8() + "_clicked()";
+            QVERIFY2(keyboard.metaObject()->indexOfSlot(slot) >= 0, slot);
+            QTest::mouseClick(key, Qt::LeftButton);
+        }
+        QCOMPARE(keys, 44);
+        QCOMPARE(result->text(), QString());
+        QVERIFY(keyboard.isVisible());
+    }
+};
 
 QTEST_MAIN(tst_RecordLookup)
 #include "tst_record_lookup.moc"

@@ -1,6 +1,7 @@
 #include "app/context/AppContext.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "support/ModalDriver.h"
+#include "support/Rows.h"
 #include "support/SalesRows.h"
 #include "support/ShopRows.h"
 #include "support/TestDatabase.h"
@@ -21,30 +22,324 @@
 #include <QTableView>
 #include <QTest>
 
+using Sales = BusinessPenjualan;
+
 /** The page of all sales: what it shows, how it narrows, and what can be done with a sale from there. */
 class TestSalesPage : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-    void aRowTellsTheWholeSale();
-    void everyFilterNarrowsTheList_data();
-    void everyFilterNarrowsTheList();
-    void aMemberIsPickedFromTheSuggestions();
-    void resetEmptiesTheFilters();
-    void nothingHappensWithoutTheRight_data();
-    void nothingHappensWithoutTheRight();
-    void aTablesPaymentIsOpenedAgain();
-    void aTakeAwaysPaymentIsOpenedAgain();
-    void aCounterSaleIsOpenedAgain();
-    void aSaleWithoutItsLinkCannotBeOpened();
-    void deletingAsksForTheInvoiceByItsNumber();
-    void aBusyMonthOpensInOneStatementAndScrolls();
+    void init()
+    {
+        m_database = std::make_unique<TestDatabase>();
+        insertShop(*m_database);
+        loginAsAdmin();
+        m_database->run("TRUNCATE users CASCADE");
+        insertSeller(*m_database, 1, "ann");
+        insertSeller(*m_database, 77, "waiter");
+        m_people = std::make_unique<ModalDriver>();
+    }
+
+    void cleanup()
+    {
+        m_page.reset();
+        m_people.reset();
+        m_database.reset();
+    }
+
+    // --- the list ----------------------------------------------------------------------------------------------------
+
+    void aRowTellsTheWholeSale()
+    {
+        SaleRow sale{"TRF-1", "TRF", 900, 500, 100, 3, QDate::currentDate(), "Mary"};
+        sale.member = sale.employee = 1;
+        insertSale(*m_database, sale);
+        insertSale(*m_database, {"TRD-OLD"});
+        show();
+        QStringList headers;
+        QStringList row;
+        for (int column = 0; column < m_grid->model()->columnCount(); ++column) {
+            headers.append(m_grid->model()->headerData(column, Qt::Horizontal).toString());
+            row.append(m_grid->model()->index(0, column).data().toString());
+        }
+        QCOMPARE(headers.join('|'),
+                 QString("No|Date|Type|User|Member Code|Guest Name|Waitress|Invoice Total|Cash|Credit|"
+                         "Net Due|Status"));
+        QCOMPARE(row.join('|'), QString("TRF-1|%1|Fast Food|ann|M1|Mary|Ann|Rp900.00|Rp500.00|Rp100.00|Rp300.00|"
+                                        "Partially Paid")
+                                    .arg(QDate::currentDate().toString("d MMM yyyy")));
+        QVERIFY(!m_grid->model()->index(0, 11).data(Qt::DecorationRole).value<QIcon>().isNull());
+        // Only today's sales are asked for at first.
+        QCOMPARE(the<QLabel>("lblCount")->text(), QString("1 Items"));
+    }
+
+    void everyFilterNarrowsTheList_data()
+    {
+        addColumns<QString, QString, QString>("box", "entry", "found");
+        const auto row = [](const char* box, const char* entry, const char* found) {
+            addRow(qPrintable(QString("%1 %2").arg(box, entry)), box, entry, found);
+        };
+        row("txtInvNo", "d1", "D1");
+        row("ddlStatus", "All", "H1 F1 D2 D1");
+        row("ddlStatus", "Fully Paid", "F1 D1");
+        row("ddlStatus", "Partially Paid", "H1");
+        row("ddlStatus", "Unpaid", "D2");
+        row("ddlPayment", "Cash", "H1 F1 D2 D1");
+        row("ddlPayment", "Other", "H1");
+        row("txtTable", "T1", "D1");
+        row("txtTable", "T9", "");
+        row("txtMember", "M1", "H1 F1");
+        row("txtName", "ary", "F1");
+        row("txtEmployee", "E1", "F1 D1");
+        row("txtAgent", "A1", "D2");
+        row("dateFrom", "-1", "H1 F1 D2 D1 OLD");
+        row("dateTo", "-1", "");
+    }
+
+    void everyFilterNarrowsTheList()
+    {
+        QFETCH(QString, box);
+        QFETCH(QString, entry);
+        const QDate today = QDate::currentDate();
+        m_database->run("INSERT INTO meja (id, kode, nama, version) VALUES (2, 'T2', 'Door', 1)");
+        SaleRow sale{"D1", "TRD", 100, 100, 0, 1, today};
+        sale.employee = 1;
+        insertSale(*m_database, sale);
+        sale = {"D2", "TRD", 100, 0, 0, 2, today, "Joe", 2};
+        sale.agent = 1;
+        insertSale(*m_database, sale);
+        sale = {"F1", "TRF", 100, 100, 0, 1, today, "Mary", 0, 1, 1};
+        insertSale(*m_database, sale);
+        insertSale(*m_database, {"H1", "TRP", 100, 0, 50, 3, today, "Joe", 0, 1});
+        insertSale(*m_database, {"OLD", "TRD", 100, 100, 0, 1, today.addDays(-1), "", 2});
+        show();
+        const QByteArray name = box.toLatin1();
+        if (auto* combo = the<QComboBox>(name.constData())) {
+            combo->setCurrentText(entry);
+            QCOMPARE(combo->currentText(), entry);
+        } else if (auto* date = the<QDateEdit>(name.constData())) {
+            date->setDate(today.addDays(entry.toInt()));
+        } else {
+            the<QLineEdit>(name.constData())->setFocus();
+            QTest::keyClicks(the<QLineEdit>(name.constData()), entry);
+        }
+        click("btnSearch");
+        QTEST(numbers(), "found");
+    }
+
+    void aMemberIsPickedFromTheSuggestions()
+    {
+        insertSale(*m_database, {"F1", "TRF", 100, 100, 0, 1, QDate::currentDate(), "", 0, 1});
+        insertSale(*m_database, {"F2", "TRF", 100, 100, 0, 1, QDate::currentDate()});
+        show();
+        auto* member = the<QLineEdit>("txtMember");
+        member->setFocus();
+        QTest::keyClicks(member, "guest");
+        // The keys are pressed in the window, as by hand: they belong to the list, not to the page's buttons behind it.
+        QTRY_VERIFY(QApplication::activePopupWidget());
+        QTest::keyClick(m_page->windowHandle(), Qt::Key_Escape);
+        QTRY_VERIFY(!QApplication::activePopupWidget());
+        QVERIFY(m_page->isVisible());
+        QTest::keyClicks(member, "s");
+        QTest::keyClick(member, Qt::Key_Backspace);
+        QTRY_VERIFY(QApplication::activePopupWidget());
+        QTest::keyClick(m_page->windowHandle(), Qt::Key_Return);
+        QTRY_COMPARE(member->text(), QString("M1"));
+        click("btnSearch");
+        QCOMPARE(numbers(), QString("F1"));
+        // Who was picked counts no more once the box is empty.
+        member->clear();
+        click("btnSearch");
+        QCOMPARE(numbers(), QString("F2 F1"));
+    }
+
+    void resetEmptiesTheFilters()
+    {
+        show();
+        const QList<QLineEdit*> texts = m_page->findChildren<QLineEdit*>(QRegularExpression("^txt"));
+        for (QLineEdit* box : texts)
+            box->setText("x");
+        the<QComboBox>("ddlStatus")->setCurrentIndex(2);
+        the<QComboBox>("ddlPayment")->setCurrentIndex(1);
+        the<QDateEdit>("dateFrom")->setDate(QDate(2020, 1, 1));
+        the<QDateEdit>("dateTo")->setDate(QDate(2020, 1, 2));
+        click("btnReset");
+        for (const QLineEdit* box : texts) {
+            if (box->isEnabled())
+                QCOMPARE(box->text(), QString());
+        }
+        QCOMPARE(the<QComboBox>("ddlStatus")->currentText() + the<QComboBox>("ddlPayment")->currentText(),
+                 QString("AllAll"));
+        for (const char* date : {"dateFrom", "dateTo"})
+            QCOMPARE(the<QDateEdit>(date)->date(), QDate::currentDate());
+    }
+
+    // --- one sale ----------------------------------------------------------------------------------------------------
+
+    void nothingHappensWithoutTheRight_data()
+    {
+        using Grants = QList<QPair<int, int>>;
+        addColumns<Grants, QString, QString>("grants", "button", "missing");
+        addRow("no payments", Grants{{Sales::UBAH_PESANAN, 2}}, "btnEdit", "Save an Invoice");
+        addRow("no changes", Grants{{Sales::SAVE_INVOICE, 2}}, "btnEdit", "Edit an Order");
+        addRow("changes to own sales", Grants{{Sales::SAVE_INVOICE, 2}, {Sales::UBAH_PESANAN, 1}}, "btnEdit",
+               "Edit an Order");
+        addRow("no deleting", Grants{{Sales::SAVE_INVOICE, 2}, {Sales::UBAH_PESANAN, 2}}, "btnDelete",
+               "Delete a Sales Order");
+    }
+
+    void nothingHappensWithoutTheRight()
+    {
+        using Grants = QList<QPair<int, int>>;
+        QFETCH(Grants, grants);
+        QFETCH(QString, button);
+        QFETCH(QString, missing);
+        insertSale(*m_database, {"D1", "TRD", 100, 100, 0, 1, QDate::currentDate()});
+        loginWithRights("Sales", grants);
+        for (const KorPermission& right : service<BusinessPenjualan>("Sales")->getPermissions())
+            AppContext::instance()->accessCaptions()->insert("Sales" + QString::number(right.first), right.second);
+        show();
+        m_grid->selectRow(0);
+        click(button.toLatin1().constData());
+        QVERIFY(m_people->finished());
+        QCOMPARE(m_people->boxes().size(), 1);
+        QVERIFY2(m_people->lastText().contains(missing), qPrintable(m_people->lastText()));
+        QCOMPARE(count("invoice"), 1);
+    }
+
+    void aTablesPaymentIsOpenedAgain()
+    {
+        insertSale(*m_database, {"D1", "TRD", 900, 500, 0, 3, QDate::currentDate(), "Mary"});
+        show();
+        m_grid->selectRow(0);
+        m_people->answer(QMessageBox::No);  // the bill
+        m_people->answer(QMessageBox::Yes); // done with the table
+        m_people->expect<DialogBayarMakanDitempat>([this](DialogBayarMakanDitempat* form) {
+            const auto box = [form](const char* name) { return form->findChild<QLineEdit*>(name); };
+            QCOMPARE(box("txtKode")->text() + ' ' + box("txtMeja")->text(), QString("D1 Window"));
+            QCOMPARE(box("txtGrandTotal")->text(), QString("900.00"));
+            box("txtPaid")->setText("1000");
+            form->accept();
+            QCOMPARE(box("txtNetDue")->text(), QString("100.00"));
+            form->reject();
+        });
+        emit m_grid->doubleClicked(m_grid->currentIndex());
+        QTRY_VERIFY(m_people->finished());
+        QCOMPARE(m_people->texts(),
+                 (QStringList{"Do you want to print this invoice?", "Are you done with this table: Window ?"}));
+        QTRY_COMPARE(cell(0, TableModelDaftarPenjualan::Status), QString("Fully Paid"));
+        QCOMPARE(cell(0, TableModelDaftarPenjualan::NetDue), QString("(Rp100.00)"));
+        QCOMPARE(count("makan_ditempat WHERE status = 6"), 1);
+        QCOMPARE(count("invoice_detail WHERE total_amount = 900"), 1);
+    }
+
+    void aTakeAwaysPaymentIsOpenedAgain()
+    {
+        insertSale(*m_database, {"P1", "TRP", 900, 500, 0, 3, QDate::currentDate(), "Mary"});
+        show();
+        m_grid->selectRow(0);
+        m_people->expect<DialogBayarBawaPulang>([](DialogBayarBawaPulang* form) {
+            QCOMPARE(form->findChild<QLineEdit*>("txtKode")->text(), QString("P1"));
+            form->findChild<QLineEdit*>("txtPaid")->setText("900");
+            form->accept();
+            form->reject();
+        });
+        click("btnEdit");
+        QTRY_VERIFY(m_people->finished());
+        QCOMPARE(cell(0, TableModelDaftarPenjualan::Status), QString("Fully Paid"));
+    }
+
+    void aCounterSaleIsOpenedAgain()
+    {
+        insertSale(*m_database, {"F1", "TRF", 900, 900, 0, 1, QDate::currentDate(), "Mary"});
+        show();
+        m_grid->selectRow(0);
+        const auto pay = [](const QString& amount, const QString& then) {
+            return [amount, then](DialogFastFood* form) {
+                QCOMPARE(form->findChild<QLineEdit*>("txtKode")->text(), QString("F1"));
+                form->findChild<QLineEdit*>("txtPaid")->setText(amount);
+                then == "save" ? form->accept() : form->reject();
+            };
+        };
+        m_people->expect<DialogFastFood>(pay("500", "leave"));
+        click("btnEdit");
+        QVERIFY(m_people->finished());
+        QCOMPARE(cell(0, TableModelDaftarPenjualan::Cash), QString("Rp900.00"));
+        m_people->expect<DialogFastFood>(pay("400", "save"));
+        click("btnEdit");
+        QVERIFY(m_people->finished());
+        QCOMPARE(m_people->texts(), QStringList());
+        QCOMPARE(cell(0, TableModelDaftarPenjualan::Cash), QString("Rp400.00"));
+        QCOMPARE(cell(0, TableModelDaftarPenjualan::Status), QString("Partially Paid"));
+    }
+
+    void aSaleWithoutItsLinkCannotBeOpened()
+    {
+        const int id = insertSale(*m_database, {"D1", "TRD", 100, 100, 0, 1, QDate::currentDate()});
+        m_database->run("DELETE FROM invoice_makan_ditempat");
+        show();
+        m_grid->selectRow(0);
+        click("btnEdit");
+        QCOMPARE(m_people->lastTitle(), QString("Error"));
+        QCOMPARE(m_people->lastText(), QString("Can not find entity with id: %1").arg(id));
+        QVERIFY(m_people->finished());
+    }
+
+    void deletingAsksForTheInvoiceByItsNumber()
+    {
+        for (const char* no : {"D1", "D2"})
+            insertSale(*m_database, {no, "TRD", 100, 100, 0, 1, QDate::currentDate()});
+        show();
+        m_grid->selectAll();
+        m_people->answer(QMessageBox::No);
+        m_people->answer(QMessageBox::Yes);
+        QTest::keyClick(m_grid, Qt::Key_Delete);
+        QTRY_COMPARE(numbers(), QString("D2"));
+        QCOMPARE(m_people->texts(), (QStringList{"Are you sure, you want to delete this sales invoice: D2 ?",
+                                                 "Are you sure, you want to delete this sales invoice: D1 ?"}));
+        QCOMPARE(m_people->lastTitle(), QString("Delete"));
+
+        // Somebody else changes it while the list is on the screen.
+        m_database->run("UPDATE invoice SET version = 2, updatedby = 1");
+        m_people->answer(QMessageBox::Yes);
+        m_grid->selectRow(0);
+        click("btnDelete");
+        QVERIFY2(m_people->lastText().contains("Table: invoice has been updated"), qPrintable(m_people->lastText()));
+        QCOMPARE(m_people->lastTitle(), QString("Error"));
+        QCOMPARE(count("invoice_makan_ditempat"), 1);
+    }
+
+    void aBusyMonthOpensInOneStatementAndScrolls()
+    {
+        insertManySales(*m_database, 5000);
+        show();
+        the<QDateEdit>("dateFrom")->setDate(QDate::currentDate().addDays(-40));
+        const StatementCount statements;
+        click("btnSearch");
+        QCOMPARE(m_grid->model()->rowCount(), 5000);
+        QVERIFY(statements.count() <= 4);
+        const int perPage = m_grid->rowAt(m_grid->viewport()->height() - 1);
+        m_grid->selectRow(0);
+        for (int page = 0; m_grid->currentIndex().row() < 4999; ++page) {
+            QVERIFY(page < 5000);
+            QTest::keyClick(m_grid, Qt::Key_PageDown);
+        }
+        QVERIFY(perPage > 3);
+        QVERIFY(m_grid->viewport()->rect().contains(m_grid->visualRect(m_grid->currentIndex()).center()));
+        QCOMPARE(statements.count(), 1);
+    }
 
 private:
-    void show();
+    void show()
+    {
+        m_page = std::make_unique<TabDaftarPenjualan>();
+        m_page->resize(1000, 600);
+        m_page->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_page.get()));
+        m_grid = the<QTableView>("tblPenjualan");
+    }
+
     template <class Widget>
     Widget* the(const char* name)
     {
@@ -55,7 +350,14 @@ private:
     {
         return m_grid->model()->index(row, column).data().toString();
     }
-    [[nodiscard]] QString numbers() const;
+    [[nodiscard]] QString numbers() const
+    {
+        QStringList found;
+        for (int row = 0; row < m_grid->model()->rowCount(); ++row)
+            found.append(cell(row, TableModelDaftarPenjualan::No));
+        return found.join(' ');
+    }
+
     int count(const QString& rows) { return m_database->value("select count(*) from " + rows).toInt(); }
 
     std::unique_ptr<TestDatabase> m_database;
@@ -63,330 +365,6 @@ private:
     std::unique_ptr<TabDaftarPenjualan> m_page;
     QTableView* m_grid = nullptr;
 };
-
-using Sales = BusinessPenjualan;
-
-void TestSalesPage::init()
-{
-    m_database = std::make_unique<TestDatabase>();
-    insertShop(*m_database);
-    loginAsAdmin();
-    m_database->run("TRUNCATE users CASCADE");
-    insertSeller(*m_database, 1, "ann");
-    insertSeller(*m_database, 77, "waiter");
-    m_people = std::make_unique<ModalDriver>();
-}
-
-void TestSalesPage::cleanup()
-{
-    m_page.reset();
-    m_people.reset();
-    m_database.reset();
-}
-
-void TestSalesPage::show()
-{
-    m_page = std::make_unique<TabDaftarPenjualan>();
-    m_page->resize(1000, 600);
-    m_page->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_page.get()));
-    m_grid = the<QTableView>("tblPenjualan");
-}
-
-QString TestSalesPage::numbers() const
-{
-    QStringList found;
-    for (int row = 0; row < m_grid->model()->rowCount(); ++row)
-        found.append(cell(row, TableModelDaftarPenjualan::No));
-    return found.join(' ');
-}
-
-// --- the list ------------------------------------------------------------------------------------------------------
-
-void TestSalesPage::aRowTellsTheWholeSale()
-{
-    SaleRow sale{"TRF-1", "TRF", 900, 500, 100, 3, QDate::currentDate(), "Mary"};
-    sale.member = sale.employee = 1;
-    insertSale(*m_database, sale);
-    insertSale(*m_database, {"TRD-OLD"});
-    show();
-    QStringList headers;
-    QStringList row;
-    for (int column = 0; column < m_grid->model()->columnCount(); ++column) {
-        headers.append(m_grid->model()->headerData(column, Qt::Horizontal).toString());
-        row.append(m_grid->model()->index(0, column).data().toString());
-    }
-    QCOMPARE(headers.join('|'), QString("No|Date|Type|User|Member Code|Guest Name|Waitress|Invoice Total|Cash|Credit|"
-                                        "Net Due|Status"));
-    QCOMPARE(row.join('|'), QString("TRF-1|%1|Fast Food|ann|M1|Mary|Ann|Rp900.00|Rp500.00|Rp100.00|Rp300.00|"
-                                    "Partially Paid")
-                                .arg(QDate::currentDate().toString("d MMM yyyy")));
-    QVERIFY(!m_grid->model()->index(0, 11).data(Qt::DecorationRole).value<QIcon>().isNull());
-    // Only today's sales are asked for at first.
-    QCOMPARE(the<QLabel>("lblCount")->text(), QString("1 Items"));
-}
-
-void TestSalesPage::everyFilterNarrowsTheList_data()
-{
-    QTest::addColumn<QString>("box");
-    QTest::addColumn<QString>("entry");
-    QTest::addColumn<QString>("found");
-    const auto row = [](const char* box, const char* entry, const char* found) {
-        QTest::newRow(qPrintable(QString("%1 %2").arg(box, entry))) << box << entry << found;
-    };
-    row("txtInvNo", "d1", "D1");
-    row("ddlStatus", "All", "H1 F1 D2 D1");
-    row("ddlStatus", "Fully Paid", "F1 D1");
-    row("ddlStatus", "Partially Paid", "H1");
-    row("ddlStatus", "Unpaid", "D2");
-    row("ddlPayment", "Cash", "H1 F1 D2 D1");
-    row("ddlPayment", "Other", "H1");
-    row("txtTable", "T1", "D1");
-    row("txtTable", "T9", "");
-    row("txtMember", "M1", "H1 F1");
-    row("txtName", "ary", "F1");
-    row("txtEmployee", "E1", "F1 D1");
-    row("txtAgent", "A1", "D2");
-    row("dateFrom", "-1", "H1 F1 D2 D1 OLD");
-    row("dateTo", "-1", "");
-}
-
-void TestSalesPage::everyFilterNarrowsTheList()
-{
-    QFETCH(QString, box);
-    QFETCH(QString, entry);
-    const QDate today = QDate::currentDate();
-    m_database->run("INSERT INTO meja (id, kode, nama, version) VALUES (2, 'T2', 'Door', 1)");
-    SaleRow sale{"D1", "TRD", 100, 100, 0, 1, today};
-    sale.employee = 1;
-    insertSale(*m_database, sale);
-    sale = {"D2", "TRD", 100, 0, 0, 2, today, "Joe", 2};
-    sale.agent = 1;
-    insertSale(*m_database, sale);
-    sale = {"F1", "TRF", 100, 100, 0, 1, today, "Mary", 0, 1, 1};
-    insertSale(*m_database, sale);
-    insertSale(*m_database, {"H1", "TRP", 100, 0, 50, 3, today, "Joe", 0, 1});
-    insertSale(*m_database, {"OLD", "TRD", 100, 100, 0, 1, today.addDays(-1), "", 2});
-    show();
-    const QByteArray name = box.toLatin1();
-    if (auto* combo = the<QComboBox>(name.constData())) {
-        combo->setCurrentText(entry);
-        QCOMPARE(combo->currentText(), entry);
-    } else if (auto* date = the<QDateEdit>(name.constData())) {
-        date->setDate(today.addDays(entry.toInt()));
-    } else {
-        the<QLineEdit>(name.constData())->setFocus();
-        QTest::keyClicks(the<QLineEdit>(name.constData()), entry);
-    }
-    click("btnSearch");
-    QTEST(numbers(), "found");
-}
-
-void TestSalesPage::aMemberIsPickedFromTheSuggestions()
-{
-    insertSale(*m_database, {"F1", "TRF", 100, 100, 0, 1, QDate::currentDate(), "", 0, 1});
-    insertSale(*m_database, {"F2", "TRF", 100, 100, 0, 1, QDate::currentDate()});
-    show();
-    auto* member = the<QLineEdit>("txtMember");
-    member->setFocus();
-    QTest::keyClicks(member, "guest");
-    // The keys are pressed in the window, as by hand: they belong to the list, not to the page's buttons behind it.
-    QTRY_VERIFY(QApplication::activePopupWidget());
-    QTest::keyClick(m_page->windowHandle(), Qt::Key_Escape);
-    QTRY_VERIFY(!QApplication::activePopupWidget());
-    QVERIFY(m_page->isVisible());
-    QTest::keyClicks(member, "s");
-    QTest::keyClick(member, Qt::Key_Backspace);
-    QTRY_VERIFY(QApplication::activePopupWidget());
-    QTest::keyClick(m_page->windowHandle(), Qt::Key_Return);
-    QTRY_COMPARE(member->text(), QString("M1"));
-    click("btnSearch");
-    QCOMPARE(numbers(), QString("F1"));
-    // Who was picked counts no more once the box is empty.
-    member->clear();
-    click("btnSearch");
-    QCOMPARE(numbers(), QString("F2 F1"));
-}
-
-void TestSalesPage::resetEmptiesTheFilters()
-{
-    show();
-    const QList<QLineEdit*> texts = m_page->findChildren<QLineEdit*>(QRegularExpression("^txt"));
-    for (QLineEdit* box : texts)
-        box->setText("x");
-    the<QComboBox>("ddlStatus")->setCurrentIndex(2);
-    the<QComboBox>("ddlPayment")->setCurrentIndex(1);
-    the<QDateEdit>("dateFrom")->setDate(QDate(2020, 1, 1));
-    the<QDateEdit>("dateTo")->setDate(QDate(2020, 1, 2));
-    click("btnReset");
-    for (const QLineEdit* box : texts) {
-        if (box->isEnabled())
-            QCOMPARE(box->text(), QString());
-    }
-    QCOMPARE(the<QComboBox>("ddlStatus")->currentText() + the<QComboBox>("ddlPayment")->currentText(),
-             QString("AllAll"));
-    for (const char* date : {"dateFrom", "dateTo"})
-        QCOMPARE(the<QDateEdit>(date)->date(), QDate::currentDate());
-}
-
-// --- one sale ------------------------------------------------------------------------------------------------------
-
-void TestSalesPage::nothingHappensWithoutTheRight_data()
-{
-    using Grants = QList<QPair<int, int>>;
-    QTest::addColumn<Grants>("grants");
-    QTest::addColumn<QString>("button");
-    QTest::addColumn<QString>("missing");
-    QTest::newRow("no payments") << Grants{{Sales::UBAH_PESANAN, 2}} << "btnEdit"
-                                 << "Save an Invoice";
-    QTest::newRow("no changes") << Grants{{Sales::SAVE_INVOICE, 2}} << "btnEdit"
-                                << "Edit an Order";
-    QTest::newRow("changes to own sales") << Grants{{Sales::SAVE_INVOICE, 2}, {Sales::UBAH_PESANAN, 1}} << "btnEdit"
-                                          << "Edit an Order";
-    QTest::newRow("no deleting") << Grants{{Sales::SAVE_INVOICE, 2}, {Sales::UBAH_PESANAN, 2}} << "btnDelete"
-                                 << "Delete a Sales Order";
-}
-
-void TestSalesPage::nothingHappensWithoutTheRight()
-{
-    using Grants = QList<QPair<int, int>>;
-    QFETCH(Grants, grants);
-    QFETCH(QString, button);
-    QFETCH(QString, missing);
-    insertSale(*m_database, {"D1", "TRD", 100, 100, 0, 1, QDate::currentDate()});
-    loginWithRights("Sales", grants);
-    for (const KorPermission& right : service<BusinessPenjualan>("Sales")->getPermissions())
-        AppContext::instance()->accessCaptions()->insert("Sales" + QString::number(right.first), right.second);
-    show();
-    m_grid->selectRow(0);
-    click(button.toLatin1().constData());
-    QVERIFY(m_people->finished());
-    QCOMPARE(m_people->boxes().size(), 1);
-    QVERIFY2(m_people->lastText().contains(missing), qPrintable(m_people->lastText()));
-    QCOMPARE(count("invoice"), 1);
-}
-
-void TestSalesPage::aTablesPaymentIsOpenedAgain()
-{
-    insertSale(*m_database, {"D1", "TRD", 900, 500, 0, 3, QDate::currentDate(), "Mary"});
-    show();
-    m_grid->selectRow(0);
-    m_people->answer(QMessageBox::No);  // the bill
-    m_people->answer(QMessageBox::Yes); // done with the table
-    m_people->expect<DialogBayarMakanDitempat>([this](DialogBayarMakanDitempat* form) {
-        const auto box = [form](const char* name) { return form->findChild<QLineEdit*>(name); };
-        QCOMPARE(box("txtKode")->text() + ' ' + box("txtMeja")->text(), QString("D1 Window"));
-        QCOMPARE(box("txtGrandTotal")->text(), QString("900.00"));
-        box("txtPaid")->setText("1000");
-        form->accept();
-        QCOMPARE(box("txtNetDue")->text(), QString("100.00"));
-        form->reject();
-    });
-    emit m_grid->doubleClicked(m_grid->currentIndex());
-    QTRY_VERIFY(m_people->finished());
-    QCOMPARE(m_people->texts(),
-             (QStringList{"Do you want to print this invoice?", "Are you done with this table: Window ?"}));
-    QTRY_COMPARE(cell(0, TableModelDaftarPenjualan::Status), QString("Fully Paid"));
-    QCOMPARE(cell(0, TableModelDaftarPenjualan::NetDue), QString("(Rp100.00)"));
-    QCOMPARE(count("makan_ditempat WHERE status = 6"), 1);
-    QCOMPARE(count("invoice_detail WHERE total_amount = 900"), 1);
-}
-
-void TestSalesPage::aTakeAwaysPaymentIsOpenedAgain()
-{
-    insertSale(*m_database, {"P1", "TRP", 900, 500, 0, 3, QDate::currentDate(), "Mary"});
-    show();
-    m_grid->selectRow(0);
-    m_people->expect<DialogBayarBawaPulang>([](DialogBayarBawaPulang* form) {
-        QCOMPARE(form->findChild<QLineEdit*>("txtKode")->text(), QString("P1"));
-        form->findChild<QLineEdit*>("txtPaid")->setText("900");
-        form->accept();
-        form->reject();
-    });
-    click("btnEdit");
-    QTRY_VERIFY(m_people->finished());
-    QCOMPARE(cell(0, TableModelDaftarPenjualan::Status), QString("Fully Paid"));
-}
-
-void TestSalesPage::aCounterSaleIsOpenedAgain()
-{
-    insertSale(*m_database, {"F1", "TRF", 900, 900, 0, 1, QDate::currentDate(), "Mary"});
-    show();
-    m_grid->selectRow(0);
-    const auto pay = [](const QString& amount, const QString& then) {
-        return [amount, then](DialogFastFood* form) {
-            QCOMPARE(form->findChild<QLineEdit*>("txtKode")->text(), QString("F1"));
-            form->findChild<QLineEdit*>("txtPaid")->setText(amount);
-            then == "save" ? form->accept() : form->reject();
-        };
-    };
-    m_people->expect<DialogFastFood>(pay("500", "leave"));
-    click("btnEdit");
-    QVERIFY(m_people->finished());
-    QCOMPARE(cell(0, TableModelDaftarPenjualan::Cash), QString("Rp900.00"));
-    m_people->expect<DialogFastFood>(pay("400", "save"));
-    click("btnEdit");
-    QVERIFY(m_people->finished());
-    QCOMPARE(m_people->texts(), QStringList());
-    QCOMPARE(cell(0, TableModelDaftarPenjualan::Cash), QString("Rp400.00"));
-    QCOMPARE(cell(0, TableModelDaftarPenjualan::Status), QString("Partially Paid"));
-}
-
-void TestSalesPage::aSaleWithoutItsLinkCannotBeOpened()
-{
-    const int id = insertSale(*m_database, {"D1", "TRD", 100, 100, 0, 1, QDate::currentDate()});
-    m_database->run("DELETE FROM invoice_makan_ditempat");
-    show();
-    m_grid->selectRow(0);
-    click("btnEdit");
-    QCOMPARE(m_people->lastTitle(), QString("Error"));
-    QCOMPARE(m_people->lastText(), QString("Can not find entity with id: %1").arg(id));
-    QVERIFY(m_people->finished());
-}
-
-void TestSalesPage::deletingAsksForTheInvoiceByItsNumber()
-{
-    for (const char* no : {"D1", "D2"})
-        insertSale(*m_database, {no, "TRD", 100, 100, 0, 1, QDate::currentDate()});
-    show();
-    m_grid->selectAll();
-    m_people->answer(QMessageBox::No);
-    m_people->answer(QMessageBox::Yes);
-    QTest::keyClick(m_grid, Qt::Key_Delete);
-    QTRY_COMPARE(numbers(), QString("D2"));
-    QCOMPARE(m_people->texts(), (QStringList{"Are you sure, you want to delete this sales invoice: D2 ?",
-                                             "Are you sure, you want to delete this sales invoice: D1 ?"}));
-    QCOMPARE(m_people->lastTitle(), QString("Delete"));
-
-    // Somebody else changes it while the list is on the screen.
-    m_database->run("UPDATE invoice SET version = 2, updatedby = 1");
-    m_people->answer(QMessageBox::Yes);
-    m_grid->selectRow(0);
-    click("btnDelete");
-    QVERIFY2(m_people->lastText().contains("Table: invoice has been updated"), qPrintable(m_people->lastText()));
-    QCOMPARE(m_people->lastTitle(), QString("Error"));
-    QCOMPARE(count("invoice_makan_ditempat"), 1);
-}
-
-void TestSalesPage::aBusyMonthOpensInOneStatementAndScrolls()
-{
-    insertManySales(*m_database, 5000);
-    show();
-    the<QDateEdit>("dateFrom")->setDate(QDate::currentDate().addDays(-40));
-    const StatementCount statements;
-    click("btnSearch");
-    QCOMPARE(m_grid->model()->rowCount(), 5000);
-    QVERIFY(statements.count() <= 4);
-    const int perPage = m_grid->rowAt(m_grid->viewport()->height() - 1);
-    m_grid->selectRow(0);
-    for (int page = 0; m_grid->currentIndex().row() < 4999; ++page) {
-        QVERIFY(page < 5000);
-        QTest::keyClick(m_grid, Qt::Key_PageDown);
-    }
-    QVERIFY(perPage > 3);
-    QVERIFY(m_grid->viewport()->rect().contains(m_grid->visualRect(m_grid->currentIndex()).center()));
-    QCOMPARE(statements.count(), 1);
-}
 
 QTEST_MAIN(TestSalesPage)
 #include "tst_sales_page.moc"

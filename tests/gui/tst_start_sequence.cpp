@@ -7,6 +7,7 @@
 #include "shell/window/MainWindow.h"
 #include "shell/window/ZavelApplication.h"
 #include "support/ModalDriver.h"
+#include "support/Rows.h"
 #include "support/TestDatabase.h"
 
 #include <QDir>
@@ -123,274 +124,248 @@ class TestStartSequence : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-
-    void withoutSettingsTheWizardIsOfferedAndMayBeGivenUp();
-    void aNewMachineIsSetUpByTheWizard();
-    void aSettingsPathThatIsAFolderIsToldWhenSaving();
-    void settingsThatDoNotWorkAreToldAndTheConfigurationFollows_data();
-    void settingsThatDoNotWorkAreToldAndTheConfigurationFollows();
-    void aDatabaseWithoutAVersionAsksForTheInstallation_data();
-    void aDatabaseWithoutAVersionAsksForTheInstallation();
-    void aDatabaseThatIsNotWholeIsToldBeforeTheLogin_data();
-    void aDatabaseThatIsNotWholeIsToldBeforeTheLogin();
-    void anUpdateDuringTheLoginEndsTheOlderProgram();
-    void whoCancelsTheLoginSeesNothingFurther();
-    void settingsAreMendedOnTheWayToTheMainWindow();
-    void whoLogsInWorksUntilTheWindowIsClosed();
-    void aRestartOnlyEndsTheProgram();
-    void theLogTellsOfEveryStart();
-
-private:
-    /** Runs the program in a process of its own. */
-    Ending start(const QString& script);
-    QString dataFile(const QString& name) const
+    void init()
     {
-        return m_home->filePath(QFileInfo(QCoreApplication::applicationFilePath()).fileName() + '/' + name);
+        m_database.reset();
+        m_database = std::make_unique<TestDatabase>();
+        m_home = std::make_unique<QTemporaryDir>();
+        QVERIFY(QDir().mkpath(QFileInfo(dataFile("x")).path()));
     }
-    ConnectionSettings settings() const;
-    void install();
 
-    std::unique_ptr<TestDatabase> m_database;
-    std::unique_ptr<QTemporaryDir> m_home;
-};
+    void withoutSettingsTheWizardIsOfferedAndMayBeGivenUp()
+    {
+        const Ending ending = start("give up");
+        QCOMPARE(ending.status, 0);
+        QCOMPARE(ending.boxes, QStringList());
+        QCOMPARE(ending.surprises, QString("AppInstallerWizard"));
+        QVERIFY(!QFile::exists(dataFile("settings.ini")));
+    }
 
-void TestStartSequence::init()
-{
-    m_database.reset();
-    m_database = std::make_unique<TestDatabase>();
-    m_home = std::make_unique<QTemporaryDir>();
-    QVERIFY(QDir().mkpath(QFileInfo(dataFile("x")).path()));
-}
+    void aNewMachineIsSetUpByTheWizard()
+    {
+        m_database.reset();
+        m_database = std::make_unique<TestDatabase>(TestDatabase::Empty);
+        for (const char* script : {"set up", "work"}) {
+            const Ending ending = start(script);
+            QCOMPARE(ending.status, 0);
+            QCOMPARE(ending.boxes, QStringList());
+            QCOMPARE(ending.surprises, QString());
+        }
+        QCOMPARE(ConnectionSettings::read(dataFile("settings.ini")).database, m_database->name());
+    }
 
-Ending TestStartSequence::start(const QString& script)
-{
-    QProcess program;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("XDG_DATA_HOME", m_home->path());
-    // A test cluster of this program's own is known to its children by name only.
-    environment.insert("ZAVEL_TEST_PGHOST", TestDatabase::host());
-    environment.insert("ZAVEL_TEST_PGPORT", QString::number(TestDatabase::port()));
-    environment.insert("ZAVEL_TEST_PGUSER", TestDatabase::user());
-    program.setProcessEnvironment(environment);
-    program.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    program.start(QCoreApplication::applicationFilePath(), {"--play", script, m_database->name()});
-    if (!program.waitForFinished(30000))
-        return {-1, {"the program did not end"}, {}};
-    QStringList parts = QString::fromUtf8(program.readAllStandardOutput()).split('|');
-    const QString surprises = parts.takeLast();
-    return {program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1, parts, surprises};
-}
+    void aSettingsPathThatIsAFolderIsToldWhenSaving()
+    {
+        QVERIFY(QDir().mkpath(dataFile("settings.ini")));
+        m_database.reset();
+        m_database = std::make_unique<TestDatabase>(TestDatabase::Empty);
+        const Ending ending = start("set up");
+        QCOMPARE(ending.status, 0);
+        QCOMPARE(ending.boxes, QStringList{"Error: Can't write the settings file: " + dataFile("settings.ini")});
+    }
 
-ConnectionSettings TestStartSequence::settings() const
-{
-    ConnectionSettings settings;
-    settings.host = TestDatabase::host();
-    settings.database = m_database->name();
-    settings.user = TestDatabase::user();
-    settings.password = "not asked for";
-    settings.port = TestDatabase::port();
-    return settings;
-}
+    void settingsThatDoNotWorkAreToldAndTheConfigurationFollows_data()
+    {
+        addColumns<QString>("kind");
+        addRow("damaged file", "damaged");
+        addRow("no port", "port");
+        addRow("unknown user", "user");
+        addRow("no server there", "server");
+    }
 
-void TestStartSequence::install()
-{
-    for (const char* table : {"appconfig", "users", "user_group"})
-        m_database->run(QString("TRUNCATE %1 CASCADE").arg(table));
-    m_database->run(
-        "INSERT INTO appconfig (appkey, is_json, appvalue, version) VALUES ('app_version', false, '1.1', 1)");
-    m_database->run("INSERT INTO user_group (id, name, version) VALUES (1, 'admin', 1)");
-    m_database->run("INSERT INTO users (first_name, last_name, username, password, user_group_id, currency, version) "
-                    "VALUES ('admin', 'pos', 'admin', md5('secret'), 1, '$', 1)");
-}
+    void settingsThatDoNotWorkAreToldAndTheConfigurationFollows()
+    {
+        QFETCH(QString, kind);
+        ConnectionSettings shown = settings();
+        if (kind == "user")
+            shown.user = "nobody_of_that_name";
+        if (kind == "server")
+            shown.host = "/no/such/socket";
+        if (kind == "port")
+            shown.port = 0;
+        if (kind == "damaged") {
+            shown = {};
+            QFile file(dataFile("settings.ini"));
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            file.write("[General\ndbhost=AwI\\x1\ndbname=@Variant(\n\xff\xfe;;dbport==x\n");
+        } else {
+            QVERIFY(shown.write(dataFile("settings.ini")));
+        }
+        const Ending ending = start("give up");
+        QCOMPARE(ending.status, 0);
+        QCOMPARE(ending.boxes,
+                 QStringList{QString("Error: Failed to open the database using this configuration:\r\nHost: %1, "
+                                     "DB Name: %2, DB User: %3, DB Password: %4, Port: %5")
+                                 .arg(shown.host, shown.database, shown.user, shown.password)
+                                 .arg(shown.port)});
+        QCOMPARE(ending.surprises, QString("ConfigDialog"));
+    }
 
-void TestStartSequence::withoutSettingsTheWizardIsOfferedAndMayBeGivenUp()
-{
-    const Ending ending = start("give up");
-    QCOMPARE(ending.status, 0);
-    QCOMPARE(ending.boxes, QStringList());
-    QCOMPARE(ending.surprises, QString("AppInstallerWizard"));
-    QVERIFY(!QFile::exists(dataFile("settings.ini")));
-}
+    void aDatabaseWithoutAVersionAsksForTheInstallation_data()
+    {
+        addColumns<bool>("empty");
+        addRow("no tables at all", true);
+        addRow("no version in the table", false);
+    }
 
-void TestStartSequence::aNewMachineIsSetUpByTheWizard()
-{
-    m_database.reset();
-    m_database = std::make_unique<TestDatabase>(TestDatabase::Empty);
-    for (const char* script : {"set up", "work"}) {
-        const Ending ending = start(script);
+    void aDatabaseWithoutAVersionAsksForTheInstallation()
+    {
+        QFETCH(bool, empty);
+        m_database->run(empty ? "DROP TABLE appconfig" : "DELETE FROM appconfig WHERE appkey = 'app_version'");
+        QVERIFY(settings().write(dataFile("settings.ini")));
+        const Ending ending = start("give up");
+        QCOMPARE(ending.status, 0);
+        QCOMPARE(ending.boxes, QStringList{"Error: Table: Config corrupted.\r\nPlease install the initial data"});
+        QCOMPARE(ending.surprises, QString("ConfigDialog"));
+    }
+
+    void aDatabaseThatIsNotWholeIsToldBeforeTheLogin_data()
+    {
+        addColumns<QString, QString, QString>("damage", "box", "next");
+        addRow("a table is missing", "DROP TABLE komisi_agen_detail", "Error: ", "ConfigDialog");
+        addRow("a newer program has updated it",
+               "UPDATE appconfig SET appvalue = '99' WHERE appkey = "
+               "'app_version'",
+               "Error: The database is of version 99, and this program is of", "ConfigDialog");
+        addRow("a reference is missing", "ALTER TABLE stock_take DROP CONSTRAINT stock_take_item_id_fkey",
+               "Warning: ", "");
+    }
+
+    void aDatabaseThatIsNotWholeIsToldBeforeTheLogin()
+    {
+        QFETCH(QString, damage);
+        install();
+        m_database->run(damage);
+        QVERIFY(settings().write(dataFile("settings.ini")));
+        const Ending ending = start("work");
+        QCOMPARE(ending.status, 0);
+        QCOMPARE(ending.boxes.size(), 1);
+        QFETCH(QString, box);
+        QVERIFY(ending.boxes.first().startsWith(box));
+        QTEST(ending.surprises, "next");
+    }
+
+    void anUpdateDuringTheLoginEndsTheOlderProgram()
+    {
+        install();
+        QVERIFY(settings().write(dataFile("settings.ini")));
+        const Ending ending = start("log in after an update");
+        QCOMPARE(ending.status, 0);
+        QCOMPARE(ending.boxes.size(), 1);
+        QVERIFY(ending.boxes.first().startsWith("Error: The database is of version 99"));
+        QCOMPARE(ending.surprises, QString());
+    }
+
+    void whoCancelsTheLoginSeesNothingFurther()
+    {
+        install();
+        QVERIFY(settings().write(dataFile("settings.ini")));
+        const Ending ending = start("cancel the login");
+        QCOMPARE(ending.status, 0);
+        QCOMPARE(ending.boxes, QStringList());
+    }
+
+    void settingsAreMendedOnTheWayToTheMainWindow()
+    {
+        install();
+        ConnectionSettings wrong = settings();
+        wrong.host = "/no/such/socket";
+        wrong.password = "Qx7!Rm2z";
+        QVERIFY(wrong.write(dataFile("settings.ini")));
+        const Ending ending = start("mend the settings");
+        QCOMPARE(ending.status, 0);
+        QCOMPARE(ending.boxes.mid(1),
+                 QStringList({"Success: Successfully connected to the database.", "Error: Invalid login\r\n"}));
+        QCOMPARE(ending.surprises, QString());
+        const ConnectionSettings saved = ConnectionSettings::read(dataFile("settings.ini"));
+        QCOMPARE(saved.database, m_database->name());
+        QCOMPARE(saved.password, QString("Qx7!Rm2z"));
+    }
+
+    void whoLogsInWorksUntilTheWindowIsClosed()
+    {
+        install();
+        QVERIFY(settings().write(dataFile("settings.ini")));
+        const Ending ending = start("work");
         QCOMPARE(ending.status, 0);
         QCOMPARE(ending.boxes, QStringList());
         QCOMPARE(ending.surprises, QString());
     }
-    QCOMPARE(ConnectionSettings::read(dataFile("settings.ini")).database, m_database->name());
-}
 
-void TestStartSequence::aSettingsPathThatIsAFolderIsToldWhenSaving()
-{
-    QVERIFY(QDir().mkpath(dataFile("settings.ini")));
-    m_database.reset();
-    m_database = std::make_unique<TestDatabase>(TestDatabase::Empty);
-    const Ending ending = start("set up");
-    QCOMPARE(ending.status, 0);
-    QCOMPARE(ending.boxes, QStringList{"Error: Can't write the settings file: " + dataFile("settings.ini")});
-}
-
-void TestStartSequence::settingsThatDoNotWorkAreToldAndTheConfigurationFollows_data()
-{
-    QTest::addColumn<QString>("kind");
-    QTest::newRow("damaged file") << "damaged";
-    QTest::newRow("no port") << "port";
-    QTest::newRow("unknown user") << "user";
-    QTest::newRow("no server there") << "server";
-}
-
-void TestStartSequence::settingsThatDoNotWorkAreToldAndTheConfigurationFollows()
-{
-    QFETCH(QString, kind);
-    ConnectionSettings shown = settings();
-    if (kind == "user")
-        shown.user = "nobody_of_that_name";
-    if (kind == "server")
-        shown.host = "/no/such/socket";
-    if (kind == "port")
-        shown.port = 0;
-    if (kind == "damaged") {
-        shown = {};
-        QFile file(dataFile("settings.ini"));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("[General\ndbhost=AwI\\x1\ndbname=@Variant(\n\xff\xfe;;dbport==x\n");
-    } else {
-        QVERIFY(shown.write(dataFile("settings.ini")));
+    void aRestartOnlyEndsTheProgram()
+    {
+        install();
+        QVERIFY(settings().write(dataFile("settings.ini")));
+        // What the operating system keeps of -123456789.
+        QCOMPARE(start("restart").status, -123456789 & 0xff);
     }
-    const Ending ending = start("give up");
-    QCOMPARE(ending.status, 0);
-    QCOMPARE(ending.boxes,
-             QStringList{QString("Error: Failed to open the database using this configuration:\r\nHost: %1, "
-                                 "DB Name: %2, DB User: %3, DB Password: %4, Port: %5")
-                             .arg(shown.host, shown.database, shown.user, shown.password)
-                             .arg(shown.port)});
-    QCOMPARE(ending.surprises, QString("ConfigDialog"));
-}
 
-void TestStartSequence::aDatabaseWithoutAVersionAsksForTheInstallation_data()
-{
-    QTest::addColumn<bool>("empty");
-    QTest::newRow("no tables at all") << true;
-    QTest::newRow("no version in the table") << false;
-}
+    void theLogTellsOfEveryStart()
+    {
+        m_home = std::make_unique<QTemporaryDir>();
+        start("give up");
+        start("give up");
+        QFile log(dataFile("zavel.log"));
+        QVERIFY(log.open(QIODevice::ReadOnly));
+        const QStringList lines = QString::fromUtf8(log.readAll()).split('\n', Qt::SkipEmptyParts);
+        QCOMPARE(lines.size(), 2);
+        for (const QString& line : lines)
+            QVERIFY(QRegularExpression("^\\d\\d\\.\\d\\d\\.\\d{4} \\d\\d:\\d\\d:\\d\\d Application Started$")
+                        .match(line)
+                        .hasMatch());
+    }
 
-void TestStartSequence::aDatabaseWithoutAVersionAsksForTheInstallation()
-{
-    QFETCH(bool, empty);
-    m_database->run(empty ? "DROP TABLE appconfig" : "DELETE FROM appconfig WHERE appkey = 'app_version'");
-    QVERIFY(settings().write(dataFile("settings.ini")));
-    const Ending ending = start("give up");
-    QCOMPARE(ending.status, 0);
-    QCOMPARE(ending.boxes, QStringList{"Error: Table: Config corrupted.\r\nPlease install the initial data"});
-    QCOMPARE(ending.surprises, QString("ConfigDialog"));
-}
+private:
+    /** Runs the program in a process of its own. */
+    Ending start(const QString& script)
+    {
+        QProcess program;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("XDG_DATA_HOME", m_home->path());
+        // A test cluster of this program's own is known to its children by name only.
+        environment.insert("ZAVEL_TEST_PGHOST", TestDatabase::host());
+        environment.insert("ZAVEL_TEST_PGPORT", QString::number(TestDatabase::port()));
+        environment.insert("ZAVEL_TEST_PGUSER", TestDatabase::user());
+        program.setProcessEnvironment(environment);
+        program.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        program.start(QCoreApplication::applicationFilePath(), {"--play", script, m_database->name()});
+        if (!program.waitForFinished(30000))
+            return {-1, {"the program did not end"}, {}};
+        QStringList parts = QString::fromUtf8(program.readAllStandardOutput()).split('|');
+        const QString surprises = parts.takeLast();
+        return {program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1, parts, surprises};
+    }
 
-void TestStartSequence::aDatabaseThatIsNotWholeIsToldBeforeTheLogin_data()
-{
-    QTest::addColumn<QString>("damage");
-    QTest::addColumn<QString>("box");
-    QTest::addColumn<QString>("next");
-    QTest::newRow("a table is missing") << "DROP TABLE komisi_agen_detail"
-                                        << "Error: "
-                                        << "ConfigDialog";
-    QTest::newRow("a newer program has updated it") << "UPDATE appconfig SET appvalue = '99' WHERE appkey = "
-                                                       "'app_version'"
-                                                    << "Error: The database is of version 99, and this program is of"
-                                                    << "ConfigDialog";
-    QTest::newRow("a reference is missing") << "ALTER TABLE stock_take DROP CONSTRAINT stock_take_item_id_fkey"
-                                            << "Warning: "
-                                            << "";
-}
+    QString dataFile(const QString& name) const
+    {
+        return m_home->filePath(QFileInfo(QCoreApplication::applicationFilePath()).fileName() + '/' + name);
+    }
+    ConnectionSettings settings() const
+    {
+        ConnectionSettings settings;
+        settings.host = TestDatabase::host();
+        settings.database = m_database->name();
+        settings.user = TestDatabase::user();
+        settings.password = "not asked for";
+        settings.port = TestDatabase::port();
+        return settings;
+    }
 
-void TestStartSequence::aDatabaseThatIsNotWholeIsToldBeforeTheLogin()
-{
-    QFETCH(QString, damage);
-    install();
-    m_database->run(damage);
-    QVERIFY(settings().write(dataFile("settings.ini")));
-    const Ending ending = start("work");
-    QCOMPARE(ending.status, 0);
-    QCOMPARE(ending.boxes.size(), 1);
-    QFETCH(QString, box);
-    QVERIFY(ending.boxes.first().startsWith(box));
-    QTEST(ending.surprises, "next");
-}
+    void install()
+    {
+        for (const char* table : {"appconfig", "users", "user_group"})
+            m_database->run(QString("TRUNCATE %1 CASCADE").arg(table));
+        m_database->run(
+            "INSERT INTO appconfig (appkey, is_json, appvalue, version) VALUES ('app_version', false, '1.1', 1)");
+        m_database->run("INSERT INTO user_group (id, name, version) VALUES (1, 'admin', 1)");
+        m_database->run(
+            "INSERT INTO users (first_name, last_name, username, password, user_group_id, currency, version) "
+            "VALUES ('admin', 'pos', 'admin', md5('secret'), 1, '$', 1)");
+    }
 
-void TestStartSequence::anUpdateDuringTheLoginEndsTheOlderProgram()
-{
-    install();
-    QVERIFY(settings().write(dataFile("settings.ini")));
-    const Ending ending = start("log in after an update");
-    QCOMPARE(ending.status, 0);
-    QCOMPARE(ending.boxes.size(), 1);
-    QVERIFY(ending.boxes.first().startsWith("Error: The database is of version 99"));
-    QCOMPARE(ending.surprises, QString());
-}
-
-void TestStartSequence::whoCancelsTheLoginSeesNothingFurther()
-{
-    install();
-    QVERIFY(settings().write(dataFile("settings.ini")));
-    const Ending ending = start("cancel the login");
-    QCOMPARE(ending.status, 0);
-    QCOMPARE(ending.boxes, QStringList());
-}
-
-void TestStartSequence::settingsAreMendedOnTheWayToTheMainWindow()
-{
-    install();
-    ConnectionSettings wrong = settings();
-    wrong.host = "/no/such/socket";
-    wrong.password = "Qx7!Rm2z";
-    QVERIFY(wrong.write(dataFile("settings.ini")));
-    const Ending ending = start("mend the settings");
-    QCOMPARE(ending.status, 0);
-    QCOMPARE(ending.boxes.mid(1),
-             QStringList({"Success: Successfully connected to the database.", "Error: Invalid login\r\n"}));
-    QCOMPARE(ending.surprises, QString());
-    const ConnectionSettings saved = ConnectionSettings::read(dataFile("settings.ini"));
-    QCOMPARE(saved.database, m_database->name());
-    QCOMPARE(saved.password, QString("Qx7!Rm2z"));
-}
-
-void TestStartSequence::whoLogsInWorksUntilTheWindowIsClosed()
-{
-    install();
-    QVERIFY(settings().write(dataFile("settings.ini")));
-    const Ending ending = start("work");
-    QCOMPARE(ending.status, 0);
-    QCOMPARE(ending.boxes, QStringList());
-    QCOMPARE(ending.surprises, QString());
-}
-
-void TestStartSequence::aRestartOnlyEndsTheProgram()
-{
-    install();
-    QVERIFY(settings().write(dataFile("settings.ini")));
-    // What the operating system keeps of -123456789.
-    QCOMPARE(start("restart").status, -123456789 & 0xff);
-}
-
-void TestStartSequence::theLogTellsOfEveryStart()
-{
-    m_home = std::make_unique<QTemporaryDir>();
-    start("give up");
-    start("give up");
-    QFile log(dataFile("zavel.log"));
-    QVERIFY(log.open(QIODevice::ReadOnly));
-    const QStringList lines = QString::fromUtf8(log.readAll()).split('\n', Qt::SkipEmptyParts);
-    QCOMPARE(lines.size(), 2);
-    for (const QString& line : lines)
-        QVERIFY(QRegularExpression("^\\d\\d\\.\\d\\d\\.\\d{4} \\d\\d:\\d\\d:\\d\\d Application Started$")
-                    .match(line)
-                    .hasMatch());
-}
+    std::unique_ptr<TestDatabase> m_database;
+    std::unique_ptr<QTemporaryDir> m_home;
+};
 
 int main(int argc, char** argv)
 {

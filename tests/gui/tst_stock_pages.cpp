@@ -6,6 +6,7 @@
 #include "pos/inventory/stockcard/TabKartuStok.h"
 #include "pos/masterdata/item/EntityItem.h"
 #include "support/ModalDriver.h"
+#include "support/Rows.h"
 #include "support/SalesRows.h"
 #include "support/ShopRows.h"
 #include "support/TestDatabase.h"
@@ -52,31 +53,411 @@ class TestStockPages : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init()
+    {
+        m_database = std::make_unique<TestDatabase>();
+        insertShop(*m_database);
+        m_database->run("INSERT INTO stok_awal (item_id, harga_currency, harga_amount, jumlah, createdtime, version) "
+                        "VALUES (1, 'Rp', 10, 7, '2026-01-02', 1)");
+        loginAsAdmin();
+        m_people = std::make_unique<ModalDriver>();
+    }
 
-    void anItemsBeginningBalanceIsTyped();
-    void aBalanceIsAddedOnceAnItem();
-    void aRefusedBalanceStaysAsTyped();
-    void whatIsNoBalanceIsRefused_data();
-    void whatIsNoBalanceIsRefused();
-    void anAdjustmentIsKeyedIn();
-    void aCountOnADayOfTradeIsOfferedTheNextDay_data();
-    void aCountOnADayOfTradeIsOfferedTheNextDay();
-    void theQuantityBeforeFollowsTheDate();
-    void whatIsNoAdjustmentIsRefused_data();
-    void whatIsNoAdjustmentIsRefused();
-    void anAccountThatWentMeanwhileLeavesTheFormAsTyped();
-    void aWrongAdjustmentIsDeletedAndNeverEdited();
-    void nothingHappensWithoutTheRight();
-    void theStockCardTellsAnItemsMonth();
+    void cleanup()
+    {
+        m_page.reset();
+        m_people.reset();
+        m_database.reset();
+    }
+
+    // --- beginning balances ------------------------------------------------------------------------------------------
+
+    void anItemsBeginningBalanceIsTyped()
+    {
+        show<TabStokAwal>();
+        QCOMPARE(rows(), QStringList{"RICE|Rice|7|Kilogram|Rp10.00|Rp70.00"});
+        m_people->expect<DialogStokAwal>([](DialogStokAwal* form) {
+            QCOMPARE(text(form, "txtKode") + ' ' + text(form, "txtNama"), QString("RICE Rice"));
+            enter(form, "txtHarga", "60,000");
+            enter(form, "txtJumlah", "100,000");
+            ::press(form, QDialogButtonBox::Ok);
+        });
+        m_grid->selectRow(0);
+        QTest::keyClick(m_grid, Qt::Key_F2);
+        // More than one amount of money holds, and told in full.
+        QTRY_COMPARE(rows(), QStringList{"RICE|Rice|100000|Kilogram|$60,000.00|$6,000,000,000.00"});
+        QVERIFY2(m_people->finished(), qPrintable(m_people->texts().join('\n')));
+        QVERIFY(!m_page->findChild<QPushButton*>("btnDelete")->isVisible());
+
+        // The filter is the code of an item, in whatever letters.
+        for (const auto& entry : {std::pair("rice", 1), std::pair("ric", 0)}) {
+            enter(m_page.get(), "txtFilter", entry.first);
+            press("btnSearch");
+            QTRY_COMPARE(rows().size(), entry.second);
+        }
+        QVERIFY(!QApplication::activePopupWidget());
+    }
+
+    void aBalanceIsAddedOnceAnItem()
+    {
+        show<TabStokAwal>();
+        m_people->expect<DialogStokAwal>([](DialogStokAwal* form) {
+            QTRY_COMPARE(QApplication::activeWindow(), form);
+            QTest::keyClicks(field(form, "txtKode"), "ri");
+            QTRY_VERIFY(QApplication::activePopupWidget());
+            QTest::keyClick(form->windowHandle(), Qt::Key_Return);
+            QTRY_COMPARE(text(form, "txtNama"), QString("Rice"));
+            QCOMPARE(form->focusWidget(), field(form, "txtHarga"));
+            QCOMPARE(static_cast<MoneyEdit*>(field(form, "txtHarga"))->value(), 10.0);
+            enter(form, "txtJumlah", "30");
+            ::press(form, QDialogButtonBox::Ok);
+        });
+        press("btnAdd");
+        QTRY_COMPARE(rows(), QStringList{"RICE|Rice|30|Kilogram|$10.00|$300.00"});
+        QVERIFY2(m_people->finished(), qPrintable(m_people->texts().join('\n')));
+    }
+
+    void aRefusedBalanceStaysAsTyped()
+    {
+        show<TabStokAwal>();
+        m_people->expect<DialogStokAwal>([this](DialogStokAwal* form) {
+            enter(form, "txtKode", "RICE");
+            enter(form, "txtJumlah", "5");
+            m_database->run("ALTER TABLE stok_awal RENAME TO elsewhere");
+            ::press(form, QDialogButtonBox::Ok);
+            QCOMPARE(m_people->lastTitle(), QString("Error"));
+            m_database->run("ALTER TABLE elsewhere RENAME TO stok_awal");
+            QVERIFY(form->isVisible());
+            QCOMPARE(text(form, "txtKode") + text(form, "txtNama") + text(form, "txtJumlah"), QString("RICERice5"));
+            ::press(form, QDialogButtonBox::Ok);
+        });
+        press("btnAdd");
+        QTRY_COMPARE(rows(), QStringList{"RICE|Rice|5|Kilogram|$10.00|$50.00"});
+        QCOMPARE(m_people->boxes().size(), 1);
+    }
+
+    void whatIsNoBalanceIsRefused_data()
+    {
+        addColumns<QStringList, QStringList>("entries", "complaints");
+        const QString item = "Enter the item code";
+        const QString cost = "Enter the unit cost";
+        const QString qty = "Enter the qty of the item";
+        addRow("nothing", QStringList{"", "", ""}, QStringList{item, cost, qty});
+        addRow("an unknown item", QStringList{"RYE", "1", "1"}, QStringList{item});
+        addRow("words", QStringList{"RICE", "much", "many"}, QStringList{cost, qty});
+        addRow("too much", QStringList{"RICE", "99999999999", "1e300"},
+               QStringList{"The amount is too large, the largest is 21,474,836",
+                           "Please enter a whole number from 0 to 999,999,999"});
+        addRow("a debt and a piece", QStringList{"RICE", "-1", "1.5"},
+               QStringList{"The amount must not be negative", "Please enter a whole number"});
+    }
+
+    void whatIsNoBalanceIsRefused()
+    {
+        QFETCH(QStringList, entries);
+        QFETCH(QStringList, complaints);
+        show<TabStokAwal>();
+        m_people->expect<DialogStokAwal>([&](DialogStokAwal* form) {
+            const char* const names[] = {"txtKode", "txtHarga", "txtJumlah"};
+            for (int i = 0; i < 3; ++i)
+                enter(form, names[i], entries.at(i));
+            ::press(form, QDialogButtonBox::Ok);
+            QCOMPARE(m_people->lastText(), complaints.join("\r\n") + "\r\n");
+            form->reject();
+        });
+        press("btnAdd");
+        QTRY_VERIFY(m_people->finished());
+        QCOMPARE(stored("jumlah FROM stok_awal"), QString("7"));
+    }
+
+    // --- adjustments -------------------------------------------------------------------------------------------------
+
+    void anAdjustmentIsKeyedIn()
+    {
+        show<TabInventoryAdj>();
+        QCOMPARE(rows(), QStringList());
+        m_people->expect<DialogInventoryAdj>([](DialogInventoryAdj* form) {
+            QTRY_COMPARE(QApplication::activeWindow(), form);
+            QTest::keyClicks(field(form, "txtKode"), "RICE");
+            QTest::keyClick(field(form, "txtKode"), Qt::Key_Tab);
+            QCOMPARE(text(form, "txtNama") + ' ' + text(form, "txtQtyOnHand"), QString("Rice 7"));
+            QCOMPARE(text(form, "txtSourceAccount"), QString("1-100"));
+            QCOMPARE(form->findChild<QLabel*>("lblSource")->text(), QString("Cash"));
+            // The new quantity follows every key.
+            auto* adjustment = field(form, "txtStok");
+            adjustment->setFocus();
+            for (const auto& step : {std::pair('-', ""), std::pair('1', "6"), std::pair('2', "-5")}) {
+                QTest::keyClick(adjustment, step.first);
+                QCOMPARE(text(form, "txtNewQty"), QString(step.second));
+            }
+            auto* reason = form->findChild<QComboBox*>("ddlReason");
+            QVERIFY(!field(form, "txtOtherReason")->isEnabled());
+            reason->setFocus();
+            QTest::keyClicks(reason, "O");
+            QCOMPARE(reason->currentText(), QString("Other"));
+            enter(form, "txtOtherReason", "Eaten by the cat's friends");
+            ::press(form, QDialogButtonBox::Ok);
+        });
+        QTest::keyClick(m_grid, Qt::Key_F12);
+        QTRY_COMPARE(rows(),
+                     QStringList{"RICE|Rice|" + today.toString("d MMM yyyy") + "|7|-12|-5|Eaten by the cat's friends"});
+        QVERIFY2(m_people->finished(), qPrintable(m_people->texts().join('\n')));
+        QCOMPARE(stored("concat_ws(' ', tran_type, qty_in, qty_out, unit_price_amount, no, trans_date = current_date) "
+                        "FROM item_history"),
+                 QString("3 0 12 10 t"));
+        QCOMPARE(stored("source_acct_code FROM stock_take"), QString("1-100"));
+    }
+
+    void aCountOnADayOfTradeIsOfferedTheNextDay_data()
+    {
+        addColumns<int, int, int>("answer", "days", "tomorrow");
+        // Of seven three are sold, five are counted.
+        addRow("the next day", int(QMessageBox::Yes), 1, 5);
+        addRow("this day all the same", int(QMessageBox::No), 0, 2);
+        addRow("back to the form", int(QMessageBox::Cancel), -1, 4);
+    }
+
+    void aCountOnADayOfTradeIsOfferedTheNextDay()
+    {
+        QFETCH(int, answer);
+        QFETCH(int, days);
+        QFETCH(int, tomorrow);
+        SaleRow sale;
+        sale.date = today;
+        insertSale(*m_database, sale);
+        m_database->run("UPDATE invoice_detail SET qty = 3");
+        show<TabInventoryAdj>();
+        m_people->answer(QMessageBox::StandardButton(answer));
+        m_people->expect<DialogInventoryAdj>([answer](DialogInventoryAdj* form) {
+            enter(form, "txtKode", "rice");
+            enter(form, "txtStok", "1");
+            ::press(form, QDialogButtonBox::Ok);
+            QCOMPARE(form->isVisible(), answer == QMessageBox::Cancel);
+            form->reject();
+        });
+        press("btnAdd");
+        QTRY_VERIFY(m_people->finished());
+        QVERIFY2(m_people->lastText().contains("0 of this item were bought, 3 sold and 0 returned"),
+                 qPrintable(m_people->lastText()));
+        QCOMPARE(stored("coalesce(max(tanggal - current_date), -1) FROM stock_take").toInt(), days);
+        EntityItem rice;
+        rice.setId(1);
+        QCOMPARE(service<BusinessInventory>("Inventory")->getQuantityOnHand(&rice, today.addDays(1)), tomorrow);
+    }
+
+    void theQuantityBeforeFollowsTheDate()
+    {
+        for (const int days : {0, -10})
+            insertDineOrder(*m_database, {{2, 15}}, today.addDays(days));
+        m_database->run(
+            "INSERT INTO stock_take (item_id, tanggal, qty, qty_before, qty_adj, source_acct_code, version) "
+            "VALUES (1, current_date - 5, 20, 7, 13, '1-100', 1)");
+        show<TabInventoryAdj>();
+        m_people->expect<DialogInventoryAdj>([](DialogInventoryAdj* form) {
+            QTRY_COMPARE(QApplication::activeWindow(), form);
+            enter(form, "txtKode", "rice");
+            QCOMPARE(text(form, "txtKode") + ' ' + text(form, "txtQtyOnHand"), QString("rice 20"));
+            enter(form, "txtStok", "4");
+            auto* date = form->findChild<QDateEdit*>("dateQtyOnHand");
+            const auto before = [&](int days) {
+                date->setDate(today.addDays(days));
+                return text(form, "txtQtyOnHand") + " > " + text(form, "txtNewQty");
+            };
+            QCOMPARE(before(-6), QString("7 > 11"));
+            QCOMPARE(before(-5), QString("20 > 24"));
+            // Another code takes what belonged to the former item away.
+            field(form, "txtKode")->setFocus();
+            QTest::keyClicks(field(form, "txtKode"), "X");
+            QCOMPARE(text(form, "txtNama") + text(form, "txtQtyOnHand") + text(form, "txtNewQty"), QString());
+            form->reject();
+        });
+        press("btnAdd");
+        QTRY_VERIFY2(m_people->finished(), qPrintable(m_people->texts().join('\n')));
+    }
+
+    void whatIsNoAdjustmentIsRefused_data()
+    {
+        addColumns<QStringList, QStringList>("entries", "complaints");
+        const QString item = "Enter the item code";
+        const QString qty = "Enter the qty adjustment of the item";
+        addRow("nothing", QStringList{"", "", ""}, QStringList{item, qty, "Select GL Source Account"});
+        addRow("by nothing", QStringList{"RICE", "0", "1-100"}, QStringList{qty});
+        addRow("by words", QStringList{"RICE", "few", "1-100"}, QStringList{qty});
+        addRow("by a piece", QStringList{"RICE", "-0.5", "1-100"}, QStringList{"Please enter a whole number"});
+        addRow("to more than can be counted", QStringList{"RICE", "999999999", "1-100"},
+               QStringList{"The new qty is more than can be counted"});
+        addRow("an account that nobody has", QStringList{"RICE", "3", "9-999"},
+               QStringList{"Select a valid GL Source Account"});
+    }
+
+    void whatIsNoAdjustmentIsRefused()
+    {
+        QFETCH(QStringList, entries);
+        QFETCH(QStringList, complaints);
+        show<TabInventoryAdj>();
+        m_people->expect<DialogInventoryAdj>([&](DialogInventoryAdj* form) {
+            const char* const names[] = {"txtKode", "txtStok", "txtSourceAccount"};
+            for (int i = 0; i < 3; ++i)
+                enter(form, names[i], entries.at(i));
+            ::press(form, QDialogButtonBox::Ok);
+            QCOMPARE(m_people->lastText(), complaints.join("\r\n") + "\r\n");
+            QVERIFY(form->isVisible());
+            form->reject();
+        });
+        press("btnAdd");
+        QTRY_VERIFY(m_people->finished());
+        QCOMPARE(stored("count(*) FROM stock_take"), QString("0"));
+    }
+
+    void anAccountThatWentMeanwhileLeavesTheFormAsTyped()
+    {
+        m_database->run(
+            "INSERT INTO bank (id, kode, nama, account_type, active, version) VALUES (2, '2-200', 'Losses', "
+            "1, true, 1)");
+        show<TabInventoryAdj>();
+        m_people->expect<DialogInventoryAdj>([this](DialogInventoryAdj* form) {
+            enter(form, "txtKode", "RICE");
+            enter(form, "txtStok", "-2");
+            enter(form, "txtSourceAccount", "2-200");
+            QCOMPARE(form->findChild<QLabel*>("lblSource")->text(), QString("Losses"));
+            m_database->run("DELETE FROM bank WHERE id = 2");
+            ::press(form, QDialogButtonBox::Ok);
+            QCOMPARE(m_people->lastText(), QString("Select a valid GL Source Account\r\n"));
+            QCOMPARE(text(form, "txtKode") + text(form, "txtStok") + text(form, "txtNewQty"), QString("RICE-25"));
+            QCOMPARE(form->focusWidget(), field(form, "txtSourceAccount"));
+            enter(form, "txtSourceAccount", "1-100");
+            ::press(form, QDialogButtonBox::Ok);
+        });
+        press("btnAdd");
+        QTRY_COMPARE(rows().size(), 1);
+        QCOMPARE(stored("qty || reason || source_acct_code FROM stock_take"), QString("5Broken1-100"));
+    }
+
+    void aWrongAdjustmentIsDeletedAndNeverEdited()
+    {
+        m_database->run(
+            "INSERT INTO stock_take (id, item_id, tanggal, qty, qty_before, qty_adj, source_acct_code, version)"
+            " SELECT n, 1, date '2026-3-1' + n, n, 0, n, '1-100', 1 FROM generate_series(1, 3) n");
+        m_database->run(
+            "INSERT INTO item_history (trans_date, item_id, qty_in, qty_out, qty_remain, unit_price_currency, "
+            "unit_price_amount, tran_type, tran_id, version) SELECT tanggal, 1, qty, 0, 0, 'Rp', 10, 3, id, 1 "
+            "FROM stock_take");
+        show<TabInventoryAdj>();
+        m_grid->selectRow(1);
+        QTest::keyClick(m_grid, Qt::Key_F2);
+        emit m_grid->doubleClicked(m_grid->currentIndex());
+        m_people->answer(QMessageBox::Yes);
+        press("btnDelete");
+        QTRY_COMPARE(rows().size(), 2);
+        QCOMPARE(m_people->texts(), QStringList{"Are you sure you want to delete this item: Rice ?"});
+        QCOMPARE(m_people->lastTitle(), QString("Delete"));
+        QCOMPARE(stored("string_agg(tran_id::text, ' ' ORDER BY id) FROM item_history"), QString("1 3"));
+
+        m_database->run("DELETE FROM stock_take WHERE id = 1");
+        m_grid->selectRow(0);
+        press("btnDelete");
+        QTRY_COMPARE(m_people->lastText(), QString("Can not find entity with id: 1"));
+        QCOMPARE(m_people->lastTitle(), QString("Error"));
+        QVERIFY(m_people->finished());
+    }
+
+    void nothingHappensWithoutTheRight()
+    {
+        m_database->run(
+            "INSERT INTO stock_take (item_id, tanggal, qty, qty_before, qty_adj, source_acct_code, version) "
+            "VALUES (1, '2026-03-01', 1, 0, 1, '1-100', 1)");
+        loginWithRights("Inventory", {});
+        show<TabInventoryAdj>();
+        m_grid->selectRow(0);
+        for (const char* button : {"btnAdd", "btnDelete"})
+            press(button);
+        QCOMPARE(m_people->boxes().size(), 2);
+        show<TabStokAwal>();
+        m_grid->selectRow(0);
+        for (const char* button : {"btnAdd", "btnEdit"})
+            press(button);
+        QCOMPARE(m_people->boxes().size(), 4);
+        QVERIFY(m_people->finished());
+    }
+
+    // --- the stock card ----------------------------------------------------------------------------------------------
+
+    void theStockCardTellsAnItemsMonth()
+    {
+        const QDate first(today.year(), today.month(), 1);
+        m_database->run(
+            "INSERT INTO item_history (trans_date, item_id, qty_in, qty_out, qty_remain, unit_price_currency, "
+            "unit_price_amount, tran_type, tran_id, no, version) SELECT date '" +
+            first.toString(Qt::ISODate) +
+            "' + day, 1, coming, going, 0, 'Rp', 10, type, 1, no, 1 FROM (VALUES (-1, 50, 0, 1, 'PU-0'), "
+            "(0, 0, 5, 4, 'CN-1'), (0, 20, 0, 1, 'PU-1'), (0, 0, 30, 3, NULL), (0, 1, 0, 9, 'X')) "
+            "AS moved(day, coming, going, type, no)");
+        show<TabKartuStok>();
+        const auto total = [this](const char* name) { return m_page->findChild<QLabel*>(name)->text(); };
+        QCOMPARE(rows(), QStringList());
+        QCOMPARE(total("lblCount") + '/' + total("lblTotalIn") + '/' + total("lblSaldo"), QString("0 Items/0/0"));
+
+        auto* item = field(m_page.get(), "txtItem");
+        item->setFocus();
+        QTest::keyClicks(item, "ric");
+        QTRY_VERIFY(QApplication::activePopupWidget());
+        QTest::keyClick(m_page->windowHandle(), Qt::Key_Return);
+        const QString day = first.toString("d MMM yyyy");
+        // What moved before the period is not brought forward.
+        QTRY_COMPARE(rows(), (QStringList{"|Begining Balance|2 Jan 2026|7|0|7", "CN-1|Credit Note|" + day + "|0|5|2",
+                                          "PU-1|Purchase|" + day + "|20|0|22", "|Adjustment|" + day + "|0|30|-8",
+                                          "X|None|" + day + "|1|0|-7"}));
+        QCOMPARE(total("lblCount") + '/' + total("lblTotalIn") + '/' + total("lblSaldo"), QString("5 Items/28/-7"));
+        QCOMPARE(m_grid->columnWidth(0), 130);
+        QCOMPARE(m_grid->columnWidth(1), 200);
+
+        m_page->findChild<QDateEdit*>("dateFrom")->setDate(first.addDays(-1));
+        m_page->findChild<QDateEdit*>("dateTo")->setDate(first.addDays(-1));
+        press("btnRefresh");
+        QCOMPARE(rows().mid(1), QStringList{"PU-0|Purchase|" + first.addDays(-1).toString("d MMM yyyy") + "|50|0|57"});
+        // A code that nobody has is no item, and an item that came from elsewhere may have no balance.
+        enter(m_page.get(), "txtItem", "RYE");
+        press("btnRefresh");
+        QCOMPARE(rows(), QStringList());
+        m_database->run("DELETE FROM stok_awal");
+        enter(m_page.get(), "txtItem", "rice");
+        QCOMPARE(rows().value(0), QString("|Begining Balance||0|0|0"));
+        item->setFocus();
+        QCOMPARE(m_people->texts(), QStringList());
+
+        m_database->run("ALTER TABLE item_history RENAME TO elsewhere");
+        press("btnRefresh");
+        QCOMPARE(m_people->lastTitle(), QString("Error"));
+    }
 
 private:
     template <class Page>
-    Page* show();
+    Page* show()
+    {
+        auto page = std::make_unique<Page>();
+        Page* shown = page.get();
+        m_page = std::move(page);
+        m_page->resize(1000, 600);
+        m_page->show();
+        [&] { QVERIFY(QTest::qWaitForWindowActive(m_page.get())); }();
+        m_grid = m_page->findChild<QTableView*>();
+        return shown;
+    }
+
     void press(const char* button) { QTest::mouseClick(m_page->findChild<QPushButton*>(button), Qt::LeftButton); }
     /** The grid's cells, each row's parted by bars. */
-    [[nodiscard]] QStringList rows() const;
+    [[nodiscard]] QStringList rows() const
+    {
+        QStringList result;
+        for (int row = 0; row < m_grid->model()->rowCount(); ++row) {
+            QStringList cells;
+            for (int column = 0; column < m_grid->model()->columnCount(); ++column)
+                cells.append(m_grid->model()->index(row, column).data().toString());
+            result.append(cells.join('|'));
+        }
+        return result;
+    }
+
     QString stored(const QString& expression) { return m_database->value("SELECT " + expression).toString(); }
 
     std::unique_ptr<TestDatabase> m_database;
@@ -84,407 +465,6 @@ private:
     std::unique_ptr<AppListTab> m_page;
     QTableView* m_grid = nullptr;
 };
-
-void TestStockPages::init()
-{
-    m_database = std::make_unique<TestDatabase>();
-    insertShop(*m_database);
-    m_database->run("INSERT INTO stok_awal (item_id, harga_currency, harga_amount, jumlah, createdtime, version) "
-                    "VALUES (1, 'Rp', 10, 7, '2026-01-02', 1)");
-    loginAsAdmin();
-    m_people = std::make_unique<ModalDriver>();
-}
-
-void TestStockPages::cleanup()
-{
-    m_page.reset();
-    m_people.reset();
-    m_database.reset();
-}
-
-template <class Page>
-Page* TestStockPages::show()
-{
-    auto page = std::make_unique<Page>();
-    Page* shown = page.get();
-    m_page = std::move(page);
-    m_page->resize(1000, 600);
-    m_page->show();
-    [&] { QVERIFY(QTest::qWaitForWindowActive(m_page.get())); }();
-    m_grid = m_page->findChild<QTableView*>();
-    return shown;
-}
-
-QStringList TestStockPages::rows() const
-{
-    QStringList result;
-    for (int row = 0; row < m_grid->model()->rowCount(); ++row) {
-        QStringList cells;
-        for (int column = 0; column < m_grid->model()->columnCount(); ++column)
-            cells.append(m_grid->model()->index(row, column).data().toString());
-        result.append(cells.join('|'));
-    }
-    return result;
-}
-
-// --- beginning balances --------------------------------------------------------------------------------------------
-
-void TestStockPages::anItemsBeginningBalanceIsTyped()
-{
-    show<TabStokAwal>();
-    QCOMPARE(rows(), QStringList{"RICE|Rice|7|Kilogram|Rp10.00|Rp70.00"});
-    m_people->expect<DialogStokAwal>([](DialogStokAwal* form) {
-        QCOMPARE(text(form, "txtKode") + ' ' + text(form, "txtNama"), QString("RICE Rice"));
-        enter(form, "txtHarga", "60,000");
-        enter(form, "txtJumlah", "100,000");
-        ::press(form, QDialogButtonBox::Ok);
-    });
-    m_grid->selectRow(0);
-    QTest::keyClick(m_grid, Qt::Key_F2);
-    // More than one amount of money holds, and told in full.
-    QTRY_COMPARE(rows(), QStringList{"RICE|Rice|100000|Kilogram|$60,000.00|$6,000,000,000.00"});
-    QVERIFY2(m_people->finished(), qPrintable(m_people->texts().join('\n')));
-    QVERIFY(!m_page->findChild<QPushButton*>("btnDelete")->isVisible());
-
-    // The filter is the code of an item, in whatever letters.
-    for (const auto& entry : {std::pair("rice", 1), std::pair("ric", 0)}) {
-        enter(m_page.get(), "txtFilter", entry.first);
-        press("btnSearch");
-        QTRY_COMPARE(rows().size(), entry.second);
-    }
-    QVERIFY(!QApplication::activePopupWidget());
-}
-
-void TestStockPages::aBalanceIsAddedOnceAnItem()
-{
-    show<TabStokAwal>();
-    m_people->expect<DialogStokAwal>([](DialogStokAwal* form) {
-        QTRY_COMPARE(QApplication::activeWindow(), form);
-        QTest::keyClicks(field(form, "txtKode"), "ri");
-        QTRY_VERIFY(QApplication::activePopupWidget());
-        QTest::keyClick(form->windowHandle(), Qt::Key_Return);
-        QTRY_COMPARE(text(form, "txtNama"), QString("Rice"));
-        QCOMPARE(form->focusWidget(), field(form, "txtHarga"));
-        QCOMPARE(static_cast<MoneyEdit*>(field(form, "txtHarga"))->value(), 10.0);
-        enter(form, "txtJumlah", "30");
-        ::press(form, QDialogButtonBox::Ok);
-    });
-    press("btnAdd");
-    QTRY_COMPARE(rows(), QStringList{"RICE|Rice|30|Kilogram|$10.00|$300.00"});
-    QVERIFY2(m_people->finished(), qPrintable(m_people->texts().join('\n')));
-}
-
-void TestStockPages::aRefusedBalanceStaysAsTyped()
-{
-    show<TabStokAwal>();
-    m_people->expect<DialogStokAwal>([this](DialogStokAwal* form) {
-        enter(form, "txtKode", "RICE");
-        enter(form, "txtJumlah", "5");
-        m_database->run("ALTER TABLE stok_awal RENAME TO elsewhere");
-        ::press(form, QDialogButtonBox::Ok);
-        QCOMPARE(m_people->lastTitle(), QString("Error"));
-        m_database->run("ALTER TABLE elsewhere RENAME TO stok_awal");
-        QVERIFY(form->isVisible());
-        QCOMPARE(text(form, "txtKode") + text(form, "txtNama") + text(form, "txtJumlah"), QString("RICERice5"));
-        ::press(form, QDialogButtonBox::Ok);
-    });
-    press("btnAdd");
-    QTRY_COMPARE(rows(), QStringList{"RICE|Rice|5|Kilogram|$10.00|$50.00"});
-    QCOMPARE(m_people->boxes().size(), 1);
-}
-
-void TestStockPages::whatIsNoBalanceIsRefused_data()
-{
-    QTest::addColumn<QStringList>("entries");
-    QTest::addColumn<QStringList>("complaints");
-    const QString item = "Enter the item code";
-    const QString cost = "Enter the unit cost";
-    const QString qty = "Enter the qty of the item";
-    QTest::newRow("nothing") << QStringList{"", "", ""} << QStringList{item, cost, qty};
-    QTest::newRow("an unknown item") << QStringList{"RYE", "1", "1"} << QStringList{item};
-    QTest::newRow("words") << QStringList{"RICE", "much", "many"} << QStringList{cost, qty};
-    QTest::newRow("too much") << QStringList{"RICE", "99999999999", "1e300"}
-                              << QStringList{"The amount is too large, the largest is 21,474,836",
-                                             "Please enter a whole number from 0 to 999,999,999"};
-    QTest::newRow("a debt and a piece") << QStringList{"RICE", "-1", "1.5"}
-                                        << QStringList{"The amount must not be negative",
-                                                       "Please enter a whole number"};
-}
-
-void TestStockPages::whatIsNoBalanceIsRefused()
-{
-    QFETCH(QStringList, entries);
-    QFETCH(QStringList, complaints);
-    show<TabStokAwal>();
-    m_people->expect<DialogStokAwal>([&](DialogStokAwal* form) {
-        const char* const names[] = {"txtKode", "txtHarga", "txtJumlah"};
-        for (int i = 0; i < 3; ++i)
-            enter(form, names[i], entries.at(i));
-        ::press(form, QDialogButtonBox::Ok);
-        QCOMPARE(m_people->lastText(), complaints.join("\r\n") + "\r\n");
-        form->reject();
-    });
-    press("btnAdd");
-    QTRY_VERIFY(m_people->finished());
-    QCOMPARE(stored("jumlah FROM stok_awal"), QString("7"));
-}
-
-// --- adjustments ---------------------------------------------------------------------------------------------------
-
-void TestStockPages::anAdjustmentIsKeyedIn()
-{
-    show<TabInventoryAdj>();
-    QCOMPARE(rows(), QStringList());
-    m_people->expect<DialogInventoryAdj>([](DialogInventoryAdj* form) {
-        QTRY_COMPARE(QApplication::activeWindow(), form);
-        QTest::keyClicks(field(form, "txtKode"), "RICE");
-        QTest::keyClick(field(form, "txtKode"), Qt::Key_Tab);
-        QCOMPARE(text(form, "txtNama") + ' ' + text(form, "txtQtyOnHand"), QString("Rice 7"));
-        QCOMPARE(text(form, "txtSourceAccount"), QString("1-100"));
-        QCOMPARE(form->findChild<QLabel*>("lblSource")->text(), QString("Cash"));
-        // The new quantity follows every key.
-        auto* adjustment = field(form, "txtStok");
-        adjustment->setFocus();
-        for (const auto& step : {std::pair('-', ""), std::pair('1', "6"), std::pair('2', "-5")}) {
-            QTest::keyClick(adjustment, step.first);
-            QCOMPARE(text(form, "txtNewQty"), QString(step.second));
-        }
-        auto* reason = form->findChild<QComboBox*>("ddlReason");
-        QVERIFY(!field(form, "txtOtherReason")->isEnabled());
-        reason->setFocus();
-        QTest::keyClicks(reason, "O");
-        QCOMPARE(reason->currentText(), QString("Other"));
-        enter(form, "txtOtherReason", "Eaten by the cat's friends");
-        ::press(form, QDialogButtonBox::Ok);
-    });
-    QTest::keyClick(m_grid, Qt::Key_F12);
-    QTRY_COMPARE(rows(),
-                 QStringList{"RICE|Rice|" + today.toString("d MMM yyyy") + "|7|-12|-5|Eaten by the cat's friends"});
-    QVERIFY2(m_people->finished(), qPrintable(m_people->texts().join('\n')));
-    QCOMPARE(stored("concat_ws(' ', tran_type, qty_in, qty_out, unit_price_amount, no, trans_date = current_date) "
-                    "FROM item_history"),
-             QString("3 0 12 10 t"));
-    QCOMPARE(stored("source_acct_code FROM stock_take"), QString("1-100"));
-}
-
-void TestStockPages::aCountOnADayOfTradeIsOfferedTheNextDay_data()
-{
-    QTest::addColumn<int>("answer");
-    QTest::addColumn<int>("days");
-    QTest::addColumn<int>("tomorrow");
-    // Of seven three are sold, five are counted.
-    QTest::newRow("the next day") << int(QMessageBox::Yes) << 1 << 5;
-    QTest::newRow("this day all the same") << int(QMessageBox::No) << 0 << 2;
-    QTest::newRow("back to the form") << int(QMessageBox::Cancel) << -1 << 4;
-}
-
-void TestStockPages::aCountOnADayOfTradeIsOfferedTheNextDay()
-{
-    QFETCH(int, answer);
-    QFETCH(int, days);
-    QFETCH(int, tomorrow);
-    SaleRow sale;
-    sale.date = today;
-    insertSale(*m_database, sale);
-    m_database->run("UPDATE invoice_detail SET qty = 3");
-    show<TabInventoryAdj>();
-    m_people->answer(QMessageBox::StandardButton(answer));
-    m_people->expect<DialogInventoryAdj>([answer](DialogInventoryAdj* form) {
-        enter(form, "txtKode", "rice");
-        enter(form, "txtStok", "1");
-        ::press(form, QDialogButtonBox::Ok);
-        QCOMPARE(form->isVisible(), answer == QMessageBox::Cancel);
-        form->reject();
-    });
-    press("btnAdd");
-    QTRY_VERIFY(m_people->finished());
-    QVERIFY2(m_people->lastText().contains("0 of this item were bought, 3 sold and 0 returned"),
-             qPrintable(m_people->lastText()));
-    QCOMPARE(stored("coalesce(max(tanggal - current_date), -1) FROM stock_take").toInt(), days);
-    EntityItem rice;
-    rice.setId(1);
-    QCOMPARE(service<BusinessInventory>("Inventory")->getQuantityOnHand(&rice, today.addDays(1)), tomorrow);
-}
-
-void TestStockPages::theQuantityBeforeFollowsTheDate()
-{
-    for (const int days : {0, -10})
-        insertDineOrder(*m_database, {{2, 15}}, today.addDays(days));
-    m_database->run("INSERT INTO stock_take (item_id, tanggal, qty, qty_before, qty_adj, source_acct_code, version) "
-                    "VALUES (1, current_date - 5, 20, 7, 13, '1-100', 1)");
-    show<TabInventoryAdj>();
-    m_people->expect<DialogInventoryAdj>([](DialogInventoryAdj* form) {
-        QTRY_COMPARE(QApplication::activeWindow(), form);
-        enter(form, "txtKode", "rice");
-        QCOMPARE(text(form, "txtKode") + ' ' + text(form, "txtQtyOnHand"), QString("rice 20"));
-        enter(form, "txtStok", "4");
-        auto* date = form->findChild<QDateEdit*>("dateQtyOnHand");
-        const auto before = [&](int days) {
-            date->setDate(today.addDays(days));
-            return text(form, "txtQtyOnHand") + " > " + text(form, "txtNewQty");
-        };
-        QCOMPARE(before(-6), QString("7 > 11"));
-        QCOMPARE(before(-5), QString("20 > 24"));
-        // Another code takes what belonged to the former item away.
-        field(form, "txtKode")->setFocus();
-        QTest::keyClicks(field(form, "txtKode"), "X");
-        QCOMPARE(text(form, "txtNama") + text(form, "txtQtyOnHand") + text(form, "txtNewQty"), QString());
-        form->reject();
-    });
-    press("btnAdd");
-    QTRY_VERIFY2(m_people->finished(), qPrintable(m_people->texts().join('\n')));
-}
-
-void TestStockPages::whatIsNoAdjustmentIsRefused_data()
-{
-    QTest::addColumn<QStringList>("entries");
-    QTest::addColumn<QStringList>("complaints");
-    const QString item = "Enter the item code";
-    const QString qty = "Enter the qty adjustment of the item";
-    QTest::newRow("nothing") << QStringList{"", "", ""} << QStringList{item, qty, "Select GL Source Account"};
-    QTest::newRow("by nothing") << QStringList{"RICE", "0", "1-100"} << QStringList{qty};
-    QTest::newRow("by words") << QStringList{"RICE", "few", "1-100"} << QStringList{qty};
-    QTest::newRow("by a piece") << QStringList{"RICE", "-0.5", "1-100"} << QStringList{"Please enter a whole number"};
-    QTest::newRow("to more than can be counted")
-        << QStringList{"RICE", "999999999", "1-100"} << QStringList{"The new qty is more than can be counted"};
-    QTest::newRow("an account that nobody has")
-        << QStringList{"RICE", "3", "9-999"} << QStringList{"Select a valid GL Source Account"};
-}
-
-void TestStockPages::whatIsNoAdjustmentIsRefused()
-{
-    QFETCH(QStringList, entries);
-    QFETCH(QStringList, complaints);
-    show<TabInventoryAdj>();
-    m_people->expect<DialogInventoryAdj>([&](DialogInventoryAdj* form) {
-        const char* const names[] = {"txtKode", "txtStok", "txtSourceAccount"};
-        for (int i = 0; i < 3; ++i)
-            enter(form, names[i], entries.at(i));
-        ::press(form, QDialogButtonBox::Ok);
-        QCOMPARE(m_people->lastText(), complaints.join("\r\n") + "\r\n");
-        QVERIFY(form->isVisible());
-        form->reject();
-    });
-    press("btnAdd");
-    QTRY_VERIFY(m_people->finished());
-    QCOMPARE(stored("count(*) FROM stock_take"), QString("0"));
-}
-
-void TestStockPages::anAccountThatWentMeanwhileLeavesTheFormAsTyped()
-{
-    m_database->run("INSERT INTO bank (id, kode, nama, account_type, active, version) VALUES (2, '2-200', 'Losses', "
-                    "1, true, 1)");
-    show<TabInventoryAdj>();
-    m_people->expect<DialogInventoryAdj>([this](DialogInventoryAdj* form) {
-        enter(form, "txtKode", "RICE");
-        enter(form, "txtStok", "-2");
-        enter(form, "txtSourceAccount", "2-200");
-        QCOMPARE(form->findChild<QLabel*>("lblSource")->text(), QString("Losses"));
-        m_database->run("DELETE FROM bank WHERE id = 2");
-        ::press(form, QDialogButtonBox::Ok);
-        QCOMPARE(m_people->lastText(), QString("Select a valid GL Source Account\r\n"));
-        QCOMPARE(text(form, "txtKode") + text(form, "txtStok") + text(form, "txtNewQty"), QString("RICE-25"));
-        QCOMPARE(form->focusWidget(), field(form, "txtSourceAccount"));
-        enter(form, "txtSourceAccount", "1-100");
-        ::press(form, QDialogButtonBox::Ok);
-    });
-    press("btnAdd");
-    QTRY_COMPARE(rows().size(), 1);
-    QCOMPARE(stored("qty || reason || source_acct_code FROM stock_take"), QString("5Broken1-100"));
-}
-
-void TestStockPages::aWrongAdjustmentIsDeletedAndNeverEdited()
-{
-    m_database->run("INSERT INTO stock_take (id, item_id, tanggal, qty, qty_before, qty_adj, source_acct_code, version)"
-                    " SELECT n, 1, date '2026-3-1' + n, n, 0, n, '1-100', 1 FROM generate_series(1, 3) n");
-    m_database->run("INSERT INTO item_history (trans_date, item_id, qty_in, qty_out, qty_remain, unit_price_currency, "
-                    "unit_price_amount, tran_type, tran_id, version) SELECT tanggal, 1, qty, 0, 0, 'Rp', 10, 3, id, 1 "
-                    "FROM stock_take");
-    show<TabInventoryAdj>();
-    m_grid->selectRow(1);
-    QTest::keyClick(m_grid, Qt::Key_F2);
-    emit m_grid->doubleClicked(m_grid->currentIndex());
-    m_people->answer(QMessageBox::Yes);
-    press("btnDelete");
-    QTRY_COMPARE(rows().size(), 2);
-    QCOMPARE(m_people->texts(), QStringList{"Are you sure you want to delete this item: Rice ?"});
-    QCOMPARE(m_people->lastTitle(), QString("Delete"));
-    QCOMPARE(stored("string_agg(tran_id::text, ' ' ORDER BY id) FROM item_history"), QString("1 3"));
-
-    m_database->run("DELETE FROM stock_take WHERE id = 1");
-    m_grid->selectRow(0);
-    press("btnDelete");
-    QTRY_COMPARE(m_people->lastText(), QString("Can not find entity with id: 1"));
-    QCOMPARE(m_people->lastTitle(), QString("Error"));
-    QVERIFY(m_people->finished());
-}
-
-void TestStockPages::nothingHappensWithoutTheRight()
-{
-    m_database->run("INSERT INTO stock_take (item_id, tanggal, qty, qty_before, qty_adj, source_acct_code, version) "
-                    "VALUES (1, '2026-03-01', 1, 0, 1, '1-100', 1)");
-    loginWithRights("Inventory", {});
-    show<TabInventoryAdj>();
-    m_grid->selectRow(0);
-    for (const char* button : {"btnAdd", "btnDelete"})
-        press(button);
-    QCOMPARE(m_people->boxes().size(), 2);
-    show<TabStokAwal>();
-    m_grid->selectRow(0);
-    for (const char* button : {"btnAdd", "btnEdit"})
-        press(button);
-    QCOMPARE(m_people->boxes().size(), 4);
-    QVERIFY(m_people->finished());
-}
-
-// --- the stock card ------------------------------------------------------------------------------------------------
-
-void TestStockPages::theStockCardTellsAnItemsMonth()
-{
-    const QDate first(today.year(), today.month(), 1);
-    m_database->run("INSERT INTO item_history (trans_date, item_id, qty_in, qty_out, qty_remain, unit_price_currency, "
-                    "unit_price_amount, tran_type, tran_id, no, version) SELECT date '" +
-                    first.toString(Qt::ISODate) +
-                    "' + day, 1, coming, going, 0, 'Rp', 10, type, 1, no, 1 FROM (VALUES (-1, 50, 0, 1, 'PU-0'), "
-                    "(0, 0, 5, 4, 'CN-1'), (0, 20, 0, 1, 'PU-1'), (0, 0, 30, 3, NULL), (0, 1, 0, 9, 'X')) "
-                    "AS moved(day, coming, going, type, no)");
-    show<TabKartuStok>();
-    const auto total = [this](const char* name) { return m_page->findChild<QLabel*>(name)->text(); };
-    QCOMPARE(rows(), QStringList());
-    QCOMPARE(total("lblCount") + '/' + total("lblTotalIn") + '/' + total("lblSaldo"), QString("0 Items/0/0"));
-
-    auto* item = field(m_page.get(), "txtItem");
-    item->setFocus();
-    QTest::keyClicks(item, "ric");
-    QTRY_VERIFY(QApplication::activePopupWidget());
-    QTest::keyClick(m_page->windowHandle(), Qt::Key_Return);
-    const QString day = first.toString("d MMM yyyy");
-    // What moved before the period is not brought forward.
-    QTRY_COMPARE(rows(), (QStringList{"|Begining Balance|2 Jan 2026|7|0|7", "CN-1|Credit Note|" + day + "|0|5|2",
-                                      "PU-1|Purchase|" + day + "|20|0|22", "|Adjustment|" + day + "|0|30|-8",
-                                      "X|None|" + day + "|1|0|-7"}));
-    QCOMPARE(total("lblCount") + '/' + total("lblTotalIn") + '/' + total("lblSaldo"), QString("5 Items/28/-7"));
-    QCOMPARE(m_grid->columnWidth(0), 130);
-    QCOMPARE(m_grid->columnWidth(1), 200);
-
-    m_page->findChild<QDateEdit*>("dateFrom")->setDate(first.addDays(-1));
-    m_page->findChild<QDateEdit*>("dateTo")->setDate(first.addDays(-1));
-    press("btnRefresh");
-    QCOMPARE(rows().mid(1), QStringList{"PU-0|Purchase|" + first.addDays(-1).toString("d MMM yyyy") + "|50|0|57"});
-    // A code that nobody has is no item, and an item that came from elsewhere may have no balance.
-    enter(m_page.get(), "txtItem", "RYE");
-    press("btnRefresh");
-    QCOMPARE(rows(), QStringList());
-    m_database->run("DELETE FROM stok_awal");
-    enter(m_page.get(), "txtItem", "rice");
-    QCOMPARE(rows().value(0), QString("|Begining Balance||0|0|0"));
-    item->setFocus();
-    QCOMPARE(m_people->texts(), QStringList());
-
-    m_database->run("ALTER TABLE item_history RENAME TO elsewhere");
-    press("btnRefresh");
-    QCOMPARE(m_people->lastTitle(), QString("Error"));
-}
 
 QTEST_MAIN(TestStockPages)
 #include "tst_stock_pages.moc"

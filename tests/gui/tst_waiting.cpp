@@ -4,6 +4,7 @@
 #include "kor/persistence/KorQuery.h"
 #include "kor/persistence/KorServerWitness.h"
 #include "kor/widgets/KorWaitingSign.h"
+#include "support/Rows.h"
 #include "support/StallingProxy.h"
 #include "support/TestDatabase.h"
 
@@ -91,225 +92,209 @@ class TestWaiting : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-    void theWindowGoesOnAndNothingRunsIntoTheStatement();
-    void manyShortStatementsAreALongOne();
-    void aPersonStopsWaitingForASilentServer();
-    void aTillThatStopsInTheMiddleLetsGo();
-    void whoWaitsInVainReadsWhoHoldsIt();
-    void aLineThatFailsAtTheCommitIsToldForWhatItIs_data();
-    void aLineThatFailsAtTheCommitIsToldForWhatItIs();
-    void aWitnessTellsWorkFromSilence();
+    void init()
+    {
+        KorWaitingSign::watch();
+        m_database = std::make_unique<TestDatabase>();
+        m_database->run("CREATE TABLE held (a integer)");
+        m_database->run("INSERT INTO held VALUES (1)");
+        m_window = std::make_unique<QWidget>();
+        m_box = new QLineEdit;
+        (new QVBoxLayout(m_window.get()))->addWidget(m_box);
+        m_window->resize(800, 600);
+        m_window->show();
+        m_window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    }
+
+    void cleanup()
+    {
+        for (const QString& name : QSqlDatabase::connectionNames()) {
+            if (name == "till 3")
+                QSqlDatabase::removeDatabase(name);
+        }
+        m_window.reset();
+        m_database.reset();
+        m_proxy.reset();
+    }
+
+    void theWindowGoesOnAndNothingRunsIntoTheStatement()
+    {
+        m_box->setFocus();
+        int ticks = 0;
+        QTimer tick;
+        connect(&tick, &QTimer::timeout, this, [&ticks] { ++ticks; });
+        tick.start(10);
+        QStringList shown;
+        {
+            Onlooker onlooker([&] {
+                if (!panel())
+                    return;
+                shown.append(textsOf(panel()));
+                QTest::keyClick(m_box, Qt::Key_A);
+                QTest::keyClick(m_box, Qt::Key_Escape);
+                QTest::mouseClick(m_box, Qt::LeftButton);
+                m_window->grab();
+            });
+            KorQuery query;
+            QVERIFY2(query.exec("SELECT pg_sleep(2.5)"), qPrintable(query.failure()));
+            QVERIFY2(onlooker.longestStill() < 2000, qPrintable(QString::number(onlooker.longestStill())));
+        }
+        QVERIFY(shown.size() > 5);
+        QCOMPARE(shown.last(), QString("Waiting for the server..."));
+        QCOMPARE(ticks, 0);
+        QTRY_VERIFY(!panel());
+        QCOMPARE(m_box->text(), QString());
+        QVERIFY(m_box->hasFocus());
+        QTRY_VERIFY(ticks > 0);
+        QTest::keyClick(m_box, Qt::Key_B);
+        QCOMPARE(m_box->text(), QString("b"));
+    }
+
+    void manyShortStatementsAreALongOne()
+    {
+        int shown = 0;
+        {
+            Onlooker onlooker([&shown] { shown += panel() ? 1 : 0; });
+            for (int i = 0; i < 8; ++i)
+                QVERIFY(KorQuery().exec("SELECT pg_sleep(0.25)"));
+            QVERIFY2(onlooker.longestStill() < 2000, qPrintable(QString::number(onlooker.longestStill())));
+        }
+        QVERIFY(shown > 5);
+        QTRY_VERIFY(!panel());
+        // A pause in between, and the next one is a short one again.
+        QVERIFY(KorQuery().exec("SELECT pg_sleep(0.25)"));
+        QVERIFY(!panel());
+    }
+
+    void aPersonStopsWaitingForASilentServer()
+    {
+        // The wait is counted from the first call of a stretch, which may be one of the opening.
+        QElapsedTimer clock;
+        clock.start();
+        openThroughProxy();
+        m_proxy->stall();
+        qint64 offered = 0;
+        Onlooker onlooker([&] {
+            auto* stop = panel() ? panel()->findChild<QPushButton*>() : nullptr;
+            if (!stop || !stop->isVisible() || offered > 0)
+                return;
+            offered = clock.elapsed();
+            QCOMPARE(stop->text(), QString("Stop waiting"));
+            QTest::mouseClick(stop, Qt::LeftButton);
+        });
+        KorQuery query;
+        QVERIFY(!query.exec("UPDATE held SET a = 3"));
+        QVERIFY2(offered >= 5000 && clock.elapsed() < 10000, qPrintable(QString::number(offered)));
+        // It may have got through, and only its answer is missing.
+        QVERIFY2(query.failure().contains("not certain whether it was saved"), qPrintable(query.failure()));
+
+        m_proxy->goOn();
+        KorQuery again;
+        QVERIFY2(again.exec("UPDATE held SET a = 3"), qPrintable(again.failure()));
+    }
+
+    void aTillThatStopsInTheMiddleLetsGo()
+    {
+        holdTheRow(true);
+        QStringList shown;
+        Onlooker onlooker([&] {
+            if (panel())
+                shown.append(textsOf(panel()));
+        });
+        KorQuery query;
+        QVERIFY2(query.exec("UPDATE held SET a = a + 4"), qPrintable(query.failure()));
+        QCOMPARE(m_database->value("SELECT a FROM held").toInt(), 5);
+        QVERIFY2(shown.join('#').contains("Till 3, dewi, since "), qPrintable(shown.join('#')));
+    }
+
+    void whoWaitsInVainReadsWhoHoldsIt()
+    {
+        holdTheRow(false);
+        KorQuery query;
+        QVERIFY(!query.exec("UPDATE held SET a = 4"));
+        const KorToldFailure told = KorToldFailure::in(query.failure());
+        QVERIFY2(told.sentence.contains("Till 3, dewi, since "), qPrintable(told.text()));
+        QSqlQuery(QSqlDatabase::database("till 3")).exec("ROLLBACK");
+        QVERIFY(query.exec("UPDATE held SET a = 4"));
+    }
+
+    void aLineThatFailsAtTheCommitIsToldForWhatItIs_data()
+    {
+        addColumns<StallingProxy::Moment, StallingProxy::Deed, int>("moment", "deed", "stored");
+        addRow("cut before the server has it", StallingProxy::BeforeServer, StallingProxy::Cut, 1);
+        addRow("cut before the answer is back", StallingProxy::BeforeAnswer, StallingProxy::Cut, 5);
+        addRow("silent, until the program cuts it", StallingProxy::BeforeAnswer, StallingProxy::Stall, 5);
+    }
+
+    void aLineThatFailsAtTheCommitIsToldForWhatItIs()
+    {
+        QFETCH(StallingProxy::Moment, moment);
+        QFETCH(StallingProxy::Deed, deed);
+        QFETCH(int, stored);
+        openThroughProxy();
+        KorTransaction transaction;
+        KorQuery query;
+        QVERIFY(query.exec("UPDATE held SET a = 5"));
+        m_proxy->atText("commit", moment, deed);
+        QElapsedTimer clock;
+        clock.start();
+        QVERIFY(!transaction.commit());
+        QVERIFY(clock.elapsed() < 25000);
+        QVERIFY(transaction.isUnsure());
+        QVERIFY2(transaction.failure().contains("not certain whether it was saved"), qPrintable(transaction.failure()));
+        QTRY_COMPARE(m_database->value("SELECT a FROM held").toInt(), stored);
+    }
+
+    void aWitnessTellsWorkFromSilence()
+    {
+        openThroughProxy();
+        std::atomic<bool> done{false};
+        const auto* connection = *static_cast<PGconn* const*>(QSqlDatabase::database().driver()->handle().constData());
+        std::thread statement([&, driver = QSqlDatabase::database()] {
+            QSqlQuery(driver).exec("SELECT pg_sleep(3)");
+            done = true;
+        });
+        {
+            const KorServerWitness witness(connection);
+            const auto begin = witness.lastSeenAtWork();
+            QTRY_VERIFY_WITH_TIMEOUT(witness.lastSeenAtWork() > begin, 3000);
+            m_proxy->stall();
+            QTest::qWait(200);
+            const auto last = witness.lastSeenAtWork();
+            QTest::qWait(1500);
+            QVERIFY(witness.lastSeenAtWork() == last);
+        }
+        m_proxy->goOn();
+        statement.join();
+    }
 
 private:
-    void openThroughProxy();
+    void openThroughProxy()
+    {
+        m_proxy = std::make_unique<StallingProxy>();
+        QVERIFY(AppContext::instance()->databaseManager()->open(m_proxy->host(), m_database->name(),
+                                                                TestDatabase::user(), QString(), m_proxy->port()));
+    }
+
     /** Another workstation in the middle of its transaction; the program's own limits hold for it, or none. */
-    void holdTheRow(bool limited);
+    void holdTheRow(bool limited)
+    {
+        QSqlDatabase till = QSqlDatabase::cloneDatabase(QSqlDatabase::database(), "till 3");
+        if (!limited)
+            till.setConnectOptions();
+        QVERIFY(till.open());
+        QSqlQuery query(till);
+        QVERIFY(query.exec("SET application_name TO 'Till 3, dewi'"));
+        QVERIFY(query.exec("BEGIN"));
+        QVERIFY(query.exec("UPDATE held SET a = 2"));
+    }
 
     std::unique_ptr<TestDatabase> m_database;
     std::unique_ptr<StallingProxy> m_proxy;
     std::unique_ptr<QWidget> m_window;
     QLineEdit* m_box = nullptr;
 };
-
-void TestWaiting::init()
-{
-    KorWaitingSign::watch();
-    m_database = std::make_unique<TestDatabase>();
-    m_database->run("CREATE TABLE held (a integer)");
-    m_database->run("INSERT INTO held VALUES (1)");
-    m_window = std::make_unique<QWidget>();
-    m_box = new QLineEdit;
-    (new QVBoxLayout(m_window.get()))->addWidget(m_box);
-    m_window->resize(800, 600);
-    m_window->show();
-    m_window->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-}
-
-void TestWaiting::cleanup()
-{
-    for (const QString& name : QSqlDatabase::connectionNames()) {
-        if (name == "till 3")
-            QSqlDatabase::removeDatabase(name);
-    }
-    m_window.reset();
-    m_database.reset();
-    m_proxy.reset();
-}
-
-void TestWaiting::openThroughProxy()
-{
-    m_proxy = std::make_unique<StallingProxy>();
-    QVERIFY(AppContext::instance()->databaseManager()->open(m_proxy->host(), m_database->name(), TestDatabase::user(),
-                                                            QString(), m_proxy->port()));
-}
-
-void TestWaiting::holdTheRow(bool limited)
-{
-    QSqlDatabase till = QSqlDatabase::cloneDatabase(QSqlDatabase::database(), "till 3");
-    if (!limited)
-        till.setConnectOptions();
-    QVERIFY(till.open());
-    QSqlQuery query(till);
-    QVERIFY(query.exec("SET application_name TO 'Till 3, dewi'"));
-    QVERIFY(query.exec("BEGIN"));
-    QVERIFY(query.exec("UPDATE held SET a = 2"));
-}
-
-void TestWaiting::theWindowGoesOnAndNothingRunsIntoTheStatement()
-{
-    m_box->setFocus();
-    int ticks = 0;
-    QTimer tick;
-    connect(&tick, &QTimer::timeout, this, [&ticks] { ++ticks; });
-    tick.start(10);
-    QStringList shown;
-    {
-        Onlooker onlooker([&] {
-            if (!panel())
-                return;
-            shown.append(textsOf(panel()));
-            QTest::keyClick(m_box, Qt::Key_A);
-            QTest::keyClick(m_box, Qt::Key_Escape);
-            QTest::mouseClick(m_box, Qt::LeftButton);
-            m_window->grab();
-        });
-        KorQuery query;
-        QVERIFY2(query.exec("SELECT pg_sleep(2.5)"), qPrintable(query.failure()));
-        QVERIFY2(onlooker.longestStill() < 2000, qPrintable(QString::number(onlooker.longestStill())));
-    }
-    QVERIFY(shown.size() > 5);
-    QCOMPARE(shown.last(), QString("Waiting for the server..."));
-    QCOMPARE(ticks, 0);
-    QTRY_VERIFY(!panel());
-    QCOMPARE(m_box->text(), QString());
-    QVERIFY(m_box->hasFocus());
-    QTRY_VERIFY(ticks > 0);
-    QTest::keyClick(m_box, Qt::Key_B);
-    QCOMPARE(m_box->text(), QString("b"));
-}
-
-void TestWaiting::manyShortStatementsAreALongOne()
-{
-    int shown = 0;
-    {
-        Onlooker onlooker([&shown] { shown += panel() ? 1 : 0; });
-        for (int i = 0; i < 8; ++i)
-            QVERIFY(KorQuery().exec("SELECT pg_sleep(0.25)"));
-        QVERIFY2(onlooker.longestStill() < 2000, qPrintable(QString::number(onlooker.longestStill())));
-    }
-    QVERIFY(shown > 5);
-    QTRY_VERIFY(!panel());
-    // A pause in between, and the next one is a short one again.
-    QVERIFY(KorQuery().exec("SELECT pg_sleep(0.25)"));
-    QVERIFY(!panel());
-}
-
-void TestWaiting::aPersonStopsWaitingForASilentServer()
-{
-    // The wait is counted from the first call of a stretch, which may be one of the opening.
-    QElapsedTimer clock;
-    clock.start();
-    openThroughProxy();
-    m_proxy->stall();
-    qint64 offered = 0;
-    Onlooker onlooker([&] {
-        auto* stop = panel() ? panel()->findChild<QPushButton*>() : nullptr;
-        if (!stop || !stop->isVisible() || offered > 0)
-            return;
-        offered = clock.elapsed();
-        QCOMPARE(stop->text(), QString("Stop waiting"));
-        QTest::mouseClick(stop, Qt::LeftButton);
-    });
-    KorQuery query;
-    QVERIFY(!query.exec("UPDATE held SET a = 3"));
-    QVERIFY2(offered >= 5000 && clock.elapsed() < 10000, qPrintable(QString::number(offered)));
-    // It may have got through, and only its answer is missing.
-    QVERIFY2(query.failure().contains("not certain whether it was saved"), qPrintable(query.failure()));
-
-    m_proxy->goOn();
-    KorQuery again;
-    QVERIFY2(again.exec("UPDATE held SET a = 3"), qPrintable(again.failure()));
-}
-
-void TestWaiting::aTillThatStopsInTheMiddleLetsGo()
-{
-    holdTheRow(true);
-    QStringList shown;
-    Onlooker onlooker([&] {
-        if (panel())
-            shown.append(textsOf(panel()));
-    });
-    KorQuery query;
-    QVERIFY2(query.exec("UPDATE held SET a = a + 4"), qPrintable(query.failure()));
-    QCOMPARE(m_database->value("SELECT a FROM held").toInt(), 5);
-    QVERIFY2(shown.join('#').contains("Till 3, dewi, since "), qPrintable(shown.join('#')));
-}
-
-void TestWaiting::whoWaitsInVainReadsWhoHoldsIt()
-{
-    holdTheRow(false);
-    KorQuery query;
-    QVERIFY(!query.exec("UPDATE held SET a = 4"));
-    const KorToldFailure told = KorToldFailure::in(query.failure());
-    QVERIFY2(told.sentence.contains("Till 3, dewi, since "), qPrintable(told.text()));
-    QSqlQuery(QSqlDatabase::database("till 3")).exec("ROLLBACK");
-    QVERIFY(query.exec("UPDATE held SET a = 4"));
-}
-
-void TestWaiting::aLineThatFailsAtTheCommitIsToldForWhatItIs_data()
-{
-    QTest::addColumn<StallingProxy::Moment>("moment");
-    QTest::addColumn<StallingProxy::Deed>("deed");
-    QTest::addColumn<int>("stored");
-    QTest::newRow("cut before the server has it") << StallingProxy::BeforeServer << StallingProxy::Cut << 1;
-    QTest::newRow("cut before the answer is back") << StallingProxy::BeforeAnswer << StallingProxy::Cut << 5;
-    QTest::newRow("silent, until the program cuts it") << StallingProxy::BeforeAnswer << StallingProxy::Stall << 5;
-}
-
-void TestWaiting::aLineThatFailsAtTheCommitIsToldForWhatItIs()
-{
-    QFETCH(StallingProxy::Moment, moment);
-    QFETCH(StallingProxy::Deed, deed);
-    QFETCH(int, stored);
-    openThroughProxy();
-    KorTransaction transaction;
-    KorQuery query;
-    QVERIFY(query.exec("UPDATE held SET a = 5"));
-    m_proxy->atText("commit", moment, deed);
-    QElapsedTimer clock;
-    clock.start();
-    QVERIFY(!transaction.commit());
-    QVERIFY(clock.elapsed() < 25000);
-    QVERIFY(transaction.isUnsure());
-    QVERIFY2(transaction.failure().contains("not certain whether it was saved"), qPrintable(transaction.failure()));
-    QTRY_COMPARE(m_database->value("SELECT a FROM held").toInt(), stored);
-}
-
-void TestWaiting::aWitnessTellsWorkFromSilence()
-{
-    openThroughProxy();
-    std::atomic<bool> done{false};
-    const auto* connection = *static_cast<PGconn* const*>(QSqlDatabase::database().driver()->handle().constData());
-    std::thread statement([&, driver = QSqlDatabase::database()] {
-        QSqlQuery(driver).exec("SELECT pg_sleep(3)");
-        done = true;
-    });
-    {
-        const KorServerWitness witness(connection);
-        const auto begin = witness.lastSeenAtWork();
-        QTRY_VERIFY_WITH_TIMEOUT(witness.lastSeenAtWork() > begin, 3000);
-        m_proxy->stall();
-        QTest::qWait(200);
-        const auto last = witness.lastSeenAtWork();
-        QTest::qWait(1500);
-        QVERIFY(witness.lastSeenAtWork() == last);
-    }
-    m_proxy->goOn();
-    statement.join();
-}
 
 QTEST_MAIN(TestWaiting)
 #include "tst_waiting.moc"

@@ -6,6 +6,7 @@
 #include "hands/Workplace.h"
 #include "kor/widgets/KorTab.h"
 #include "shell/window/HouseStyle.h"
+#include "support/Rows.h"
 #include "support/TestDatabase.h"
 
 #include <QApplication>
@@ -32,19 +33,150 @@ class TestChangesBelow : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void init();
-    void cleanup();
-    void thePageAndItsFormOutliveIt_data();
-    void thePageAndItsFormOutliveIt();
-    void memoryIsEmptiedWithAllPagesOpen();
+    void initTestCase()
+    {
+        HouseStyle::apply(*qApp);
+        connect(&m_hands, &QTimer::timeout, this, &TestChangesBelow::atAForm);
+        m_hands.start(1);
+    }
+
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        qputenv("ZAVEL_SPOOL_DIR", QFile::encodeName(m_folder->path()));
+        m_other = std::make_unique<TestDatabase>();
+        openShopForHands(*m_other);
+        m_database = std::make_unique<TestDatabase>();
+        openShopForHands(*m_database);
+        m_place = std::make_unique<Workplace>(m_folder->filePath("settings.ini"));
+        QVERIFY(m_place->isReady());
+    }
+
+    void cleanup()
+    {
+        m_place.reset();
+        m_database.reset();
+        m_other.reset();
+        m_folder.reset();
+        qunsetenv("ZAVEL_SPOOL_DIR");
+    }
+
+    void thePageAndItsFormOutliveIt_data()
+    {
+        addColumns<Change>("change");
+        addRow("the memory is emptied", EmptyMemory);
+        addRow("another database is chosen", OtherDatabase);
+        addRow("another language is chosen", OtherLanguage);
+        addRow("the connection dies", LostConnection);
+        addRow("all pages are closed", PagesClose);
+        addRow("the window is closed", WindowCloses);
+    }
+
+    void thePageAndItsFormOutliveIt()
+    {
+        QFETCH(Change, change);
+        const QStringList names = Workplace::pageNames();
+        for (const QString& name : names) {
+            for (int key : {Qt::Key_F12, Qt::Key_F2}) {
+                const QPointer<KorTab> page = m_place->open(name);
+                m_change = change;
+                strikeKey(key);
+                rest();
+                QVERIFY2(!m_isFormGone, qPrintable(name + ": the form went away"));
+                m_change.reset();
+            }
+            // The page alone; it reads anew, and shows what it reads.
+            m_place->open(name);
+            happen(change);
+            m_place->window().grab();
+            strikeKey(Qt::Key_F5);
+            rest();
+            m_place->open(name);
+            m_place->window().grab();
+            rest();
+        }
+        const QStringList faults = faultsOfTrade(*m_database);
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
+    }
+
+    void memoryIsEmptiedWithAllPagesOpen()
+    {
+        const QStringList names = Workplace::pageNames();
+        for (const QString& name : names)
+            m_place->open(name);
+        AppContext::instance()->resetEntityPool();
+        auto* pages = m_place->window().findChild<QTabWidget*>("tabWidget");
+        for (int index = 0; index < pages->count(); ++index) {
+            pages->setCurrentIndex(index);
+            m_place->window().grab();
+        }
+        m_place->window().closeAllTab();
+        QCOMPARE(pages->count(), 0);
+    }
 
 private:
-    void happen(Change change);
+    void happen(Change change)
+    {
+        switch (change) {
+        case EmptyMemory:
+            AppContext::instance()->resetEntityPool();
+            break;
+        case OtherDatabase:
+            connectTo(AppContext::instance()->dbName() == m_other->name() ? *m_database : *m_other);
+            break;
+        case OtherLanguage:
+            m_place->changeLanguage();
+            break;
+        case LostConnection:
+            m_database->killConnections();
+            break;
+        case PagesClose:
+            m_place->window().closeAllTab();
+            break;
+        case WindowCloses:
+            m_place->window().close();
+            break;
+        }
+    }
+
     /** Whoever is at the form that is open lets the change happen and goes on typing, or gives the form up. */
-    void atAForm();
-    static void rest();
-    void connectTo(const TestDatabase& database);
+    void atAForm()
+    {
+        QWidget* form = openForm();
+        if (!form)
+            return;
+        if (!m_change) {
+            // What is said is read, and what is open is given up.
+            strikeSoon(Qt::Key_Escape);
+            return;
+        }
+        const QPointer<QWidget> still(form);
+        const Change change = *m_change;
+        m_change.reset();
+        happen(change);
+        strikeKey('1', "1");
+        strikeKey(Qt::Key_Tab);
+        m_isFormGone = !still || !(still->isVisible() || openForm());
+        strikeSoon(Qt::Key_Return);
+    }
+
+    static void rest()
+    {
+        do
+            QCoreApplication::processEvents();
+        while (openForm());
+    }
+
+    void connectTo(const TestDatabase& database)
+    {
+        ConnectionSettings settings;
+        settings.host = TestDatabase::host();
+        settings.port = TestDatabase::port();
+        settings.user = TestDatabase::user();
+        settings.database = database.name();
+        QVERIFY(settings.write(m_folder->filePath("settings.ini")));
+        m_place->window().updateDBConfig();
+    }
 
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<TestDatabase> m_other;
@@ -54,149 +186,6 @@ private:
     std::optional<Change> m_change;
     bool m_isFormGone = false;
 };
-
-void TestChangesBelow::initTestCase()
-{
-    HouseStyle::apply(*qApp);
-    connect(&m_hands, &QTimer::timeout, this, &TestChangesBelow::atAForm);
-    m_hands.start(1);
-}
-
-void TestChangesBelow::rest()
-{
-    do
-        QCoreApplication::processEvents();
-    while (openForm());
-}
-
-void TestChangesBelow::init()
-{
-    m_folder = std::make_unique<QTemporaryDir>();
-    qputenv("ZAVEL_SPOOL_DIR", QFile::encodeName(m_folder->path()));
-    m_other = std::make_unique<TestDatabase>();
-    openShopForHands(*m_other);
-    m_database = std::make_unique<TestDatabase>();
-    openShopForHands(*m_database);
-    m_place = std::make_unique<Workplace>(m_folder->filePath("settings.ini"));
-    QVERIFY(m_place->isReady());
-}
-
-void TestChangesBelow::cleanup()
-{
-    m_place.reset();
-    m_database.reset();
-    m_other.reset();
-    m_folder.reset();
-    qunsetenv("ZAVEL_SPOOL_DIR");
-}
-
-void TestChangesBelow::connectTo(const TestDatabase& database)
-{
-    ConnectionSettings settings;
-    settings.host = TestDatabase::host();
-    settings.port = TestDatabase::port();
-    settings.user = TestDatabase::user();
-    settings.database = database.name();
-    QVERIFY(settings.write(m_folder->filePath("settings.ini")));
-    m_place->window().updateDBConfig();
-}
-
-void TestChangesBelow::happen(Change change)
-{
-    switch (change) {
-    case EmptyMemory:
-        AppContext::instance()->resetEntityPool();
-        break;
-    case OtherDatabase:
-        connectTo(AppContext::instance()->dbName() == m_other->name() ? *m_database : *m_other);
-        break;
-    case OtherLanguage:
-        m_place->changeLanguage();
-        break;
-    case LostConnection:
-        m_database->killConnections();
-        break;
-    case PagesClose:
-        m_place->window().closeAllTab();
-        break;
-    case WindowCloses:
-        m_place->window().close();
-        break;
-    }
-}
-
-void TestChangesBelow::thePageAndItsFormOutliveIt_data()
-{
-    QTest::addColumn<Change>("change");
-    QTest::newRow("the memory is emptied") << EmptyMemory;
-    QTest::newRow("another database is chosen") << OtherDatabase;
-    QTest::newRow("another language is chosen") << OtherLanguage;
-    QTest::newRow("the connection dies") << LostConnection;
-    QTest::newRow("all pages are closed") << PagesClose;
-    QTest::newRow("the window is closed") << WindowCloses;
-}
-
-void TestChangesBelow::atAForm()
-{
-    QWidget* form = openForm();
-    if (!form)
-        return;
-    if (!m_change) {
-        // What is said is read, and what is open is given up.
-        strikeSoon(Qt::Key_Escape);
-        return;
-    }
-    const QPointer<QWidget> still(form);
-    const Change change = *m_change;
-    m_change.reset();
-    happen(change);
-    strikeKey('1', "1");
-    strikeKey(Qt::Key_Tab);
-    m_isFormGone = !still || !(still->isVisible() || openForm());
-    strikeSoon(Qt::Key_Return);
-}
-
-void TestChangesBelow::thePageAndItsFormOutliveIt()
-{
-    QFETCH(Change, change);
-    const QStringList names = Workplace::pageNames();
-    for (const QString& name : names) {
-        for (int key : {Qt::Key_F12, Qt::Key_F2}) {
-            const QPointer<KorTab> page = m_place->open(name);
-            m_change = change;
-            strikeKey(key);
-            rest();
-            QVERIFY2(!m_isFormGone, qPrintable(name + ": the form went away"));
-            m_change.reset();
-        }
-        // The page alone; it reads anew, and shows what it reads.
-        m_place->open(name);
-        happen(change);
-        m_place->window().grab();
-        strikeKey(Qt::Key_F5);
-        rest();
-        m_place->open(name);
-        m_place->window().grab();
-        rest();
-    }
-    const QStringList faults = faultsOfTrade(*m_database);
-    QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
-}
-
-void TestChangesBelow::memoryIsEmptiedWithAllPagesOpen()
-{
-    const QStringList names = Workplace::pageNames();
-    for (const QString& name : names)
-        m_place->open(name);
-    AppContext::instance()->resetEntityPool();
-    auto* pages = m_place->window().findChild<QTabWidget*>("tabWidget");
-    for (int index = 0; index < pages->count(); ++index) {
-        pages->setCurrentIndex(index);
-        m_place->window().grab();
-    }
-    m_place->window().closeAllTab();
-    QCOMPARE(pages->count(), 0);
-}
 
 QTEST_MAIN(TestChangesBelow)
 #include "tst_changes_below.moc"

@@ -3,6 +3,7 @@
 #include "hands/Workplace.h"
 #include "kor/widgets/KorTab.h"
 #include "shell/window/HouseStyle.h"
+#include "support/Rows.h"
 #include "support/TestDatabase.h"
 
 #include <QApplication>
@@ -41,17 +42,105 @@ class TestKeyBursts : public QObject
 
 private slots:
     void initTestCase() { HouseStyle::apply(*qApp); }
-    void init();
-    void cleanup();
+    void init()
+    {
+        m_database = std::make_unique<TestDatabase>();
+        openShopForForms(*m_database);
+        m_place = std::make_unique<Workplace>();
+        QVERIFY(m_place->isReady());
+        m_faults.clear();
+    }
+
+    void cleanup()
+    {
+        m_place.reset();
+        m_database.reset();
+    }
+
     void twoKeysOfAPage_data() { addPages(); }
-    void twoKeysOfAPage();
+    void twoKeysOfAPage()
+    {
+        QFETCH(QString, page);
+        const QList<Stroke> strokes = strokesOf(*m_place->open(page));
+        for (const Stroke& first : strokes) {
+            for (const Stroke& second : strokes) {
+                for (int delay : delays) {
+                    if (delay > 0 && !isWorthAPause(first, second))
+                        continue;
+                    Burst burst;
+                    burst.play(m_place->open(page), first, second, delay);
+                    QVERIFY2(burst.faults().isEmpty(), qPrintable(QString("%1, %2 after %3 ms: %4")
+                                                                      .arg(first.name, second.name)
+                                                                      .arg(delay)
+                                                                      .arg(burst.faults().join(", "))));
+                }
+            }
+        }
+    }
+
     void twoKeysOfAForm_data() { addPages(); }
-    void twoKeysOfAForm();
+    void twoKeysOfAForm()
+    {
+        QFETCH(QString, page);
+        const QList<Stroke> openers{{"F12", Qt::Key_F12}, {"F2", Qt::Key_F2}};
+        for (const Stroke& opener : openers) {
+            m_pair = 0;
+            m_pairs = 1;
+            while (m_pair < m_pairs) {
+                // An Escape of the visit before, which found its form gone already, must not meet the next one.
+                QCoreApplication::processEvents();
+                KorTab* tab = m_place->open(page);
+                m_pairs = 0;
+                // In the form's own loop, as soon as it is there; what the page says when it is closed is heard out.
+                QTimer waiting;
+                connect(&waiting, &QTimer::timeout, this, [this] {
+                    QWidget* form = openForm();
+                    if (m_pairs > 0 && form)
+                        strikeSoon(Qt::Key_Escape);
+                    else if (qobject_cast<QDialog*>(form) && form->isVisible())
+                        inForm(form);
+                });
+                waiting.start(1);
+                const QTableView* grid = gridInFront(*tab);
+                const bool hasRow = grid && grid->model() && grid->model()->rowCount() > 0;
+                const bool opens = has(strokesOf(*tab), opener) && (opener.key == Qt::Key_F12 || hasRow);
+                strike(tab, opener);
+                // A form that is late must not be missed: nothing would be struck in it.
+                if (opens)
+                    QTRY_VERIFY2(m_pairs > 0,
+                                 qPrintable(QString("%1 opens nothing, at pair %2").arg(opener.name).arg(m_pair)));
+                ++m_pair;
+            }
+        }
+        QVERIFY2(m_faults.isEmpty(), qPrintable(m_faults.join('\n')));
+    }
 
 private:
-    void addPages();
+    void addPages()
+    {
+        addColumns<QString>("page");
+        const QStringList pages = Workplace::pageNames();
+        for (const QString& page : pages)
+            addRow(qPrintable(page), page);
+    }
+
     /** Plays the next burst of the form that has just opened; its page opens it once for each. */
-    void inForm(QWidget* form);
+    void inForm(QWidget* form)
+    {
+        const QList<Stroke> strokes = strokesOf(*form);
+        m_pairs = strokes.size() * strokes.size();
+        const Stroke first = strokes.at(m_pair / strokes.size());
+        const Stroke second = strokes.at(m_pair % strokes.size());
+        const QPointer<QWidget> alive(form);
+        if (QTableView* grid = gridInFront(*form); grid && grid->model() && grid->model()->rowCount() > 0)
+            grid->selectRow(0);
+        Burst burst;
+        burst.play(form, first, second, 0);
+        if (!burst.faults().isEmpty())
+            m_faults.append(QString("%1, %2: %3").arg(first.name, second.name, burst.faults().join(", ")));
+        if (alive && alive->isVisible())
+            static_cast<QDialog*>(form)->QDialog::reject();
+    }
 
     std::unique_ptr<TestDatabase> m_database;
     std::unique_ptr<Workplace> m_place;
@@ -59,102 +148,6 @@ private:
     int m_pair = 0;
     int m_pairs = 0;
 };
-
-void TestKeyBursts::init()
-{
-    m_database = std::make_unique<TestDatabase>();
-    openShopForForms(*m_database);
-    m_place = std::make_unique<Workplace>();
-    QVERIFY(m_place->isReady());
-    m_faults.clear();
-}
-
-void TestKeyBursts::cleanup()
-{
-    m_place.reset();
-    m_database.reset();
-}
-
-void TestKeyBursts::addPages()
-{
-    QTest::addColumn<QString>("page");
-    const QStringList pages = Workplace::pageNames();
-    for (const QString& page : pages)
-        QTest::newRow(qPrintable(page)) << page;
-}
-
-void TestKeyBursts::twoKeysOfAPage()
-{
-    QFETCH(QString, page);
-    const QList<Stroke> strokes = strokesOf(*m_place->open(page));
-    for (const Stroke& first : strokes) {
-        for (const Stroke& second : strokes) {
-            for (int delay : delays) {
-                if (delay > 0 && !isWorthAPause(first, second))
-                    continue;
-                Burst burst;
-                burst.play(m_place->open(page), first, second, delay);
-                QVERIFY2(burst.faults().isEmpty(), qPrintable(QString("%1, %2 after %3 ms: %4")
-                                                                  .arg(first.name, second.name)
-                                                                  .arg(delay)
-                                                                  .arg(burst.faults().join(", "))));
-            }
-        }
-    }
-}
-
-void TestKeyBursts::inForm(QWidget* form)
-{
-    const QList<Stroke> strokes = strokesOf(*form);
-    m_pairs = strokes.size() * strokes.size();
-    const Stroke first = strokes.at(m_pair / strokes.size());
-    const Stroke second = strokes.at(m_pair % strokes.size());
-    const QPointer<QWidget> alive(form);
-    if (QTableView* grid = gridInFront(*form); grid && grid->model() && grid->model()->rowCount() > 0)
-        grid->selectRow(0);
-    Burst burst;
-    burst.play(form, first, second, 0);
-    if (!burst.faults().isEmpty())
-        m_faults.append(QString("%1, %2: %3").arg(first.name, second.name, burst.faults().join(", ")));
-    if (alive && alive->isVisible())
-        static_cast<QDialog*>(form)->QDialog::reject();
-}
-
-void TestKeyBursts::twoKeysOfAForm()
-{
-    QFETCH(QString, page);
-    const QList<Stroke> openers{{"F12", Qt::Key_F12}, {"F2", Qt::Key_F2}};
-    for (const Stroke& opener : openers) {
-        m_pair = 0;
-        m_pairs = 1;
-        while (m_pair < m_pairs) {
-            // An Escape of the visit before, which found its form gone already, must not meet the next one.
-            QCoreApplication::processEvents();
-            KorTab* tab = m_place->open(page);
-            m_pairs = 0;
-            // In the form's own loop, as soon as it is there; what the page says when it is closed is heard out.
-            QTimer waiting;
-            connect(&waiting, &QTimer::timeout, this, [this] {
-                QWidget* form = openForm();
-                if (m_pairs > 0 && form)
-                    strikeSoon(Qt::Key_Escape);
-                else if (qobject_cast<QDialog*>(form) && form->isVisible())
-                    inForm(form);
-            });
-            waiting.start(1);
-            const QTableView* grid = gridInFront(*tab);
-            const bool hasRow = grid && grid->model() && grid->model()->rowCount() > 0;
-            const bool opens = has(strokesOf(*tab), opener) && (opener.key == Qt::Key_F12 || hasRow);
-            strike(tab, opener);
-            // A form that is late must not be missed: nothing would be struck in it.
-            if (opens)
-                QTRY_VERIFY2(m_pairs > 0,
-                             qPrintable(QString("%1 opens nothing, at pair %2").arg(opener.name).arg(m_pair)));
-            ++m_pair;
-        }
-    }
-    QVERIFY2(m_faults.isEmpty(), qPrintable(m_faults.join('\n')));
-}
 
 QTEST_MAIN(TestKeyBursts)
 #include "tst_key_bursts.moc"

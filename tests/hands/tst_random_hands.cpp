@@ -2,6 +2,7 @@
 #include "hands/TradeChecks.h"
 #include "hands/Workplace.h"
 #include "shell/window/HouseStyle.h"
+#include "support/Rows.h"
 #include "support/TestDatabase.h"
 
 #include <QApplication>
@@ -15,41 +16,38 @@ class TestRandomHands : public QObject
 
 private slots:
     void initTestCase() { HouseStyle::apply(*qApp); }
-    void nothingBreaks_data();
-    void nothingBreaks();
-};
-
-void TestRandomHands::nothingBreaks_data()
-{
-    QTest::addColumn<quint32>("seed");
-    QTest::newRow("a cashier") << 1U;
-    QTest::newRow("a child") << 2U;
-    QTest::newRow("a cat") << 3U;
-}
-
-void TestRandomHands::nothingBreaks()
-{
-    QFETCH(quint32, seed);
-    const QTemporaryDir spool;
-    qputenv("ZAVEL_SPOOL_DIR", QFile::encodeName(spool.path()));
-    TestDatabase database;
-    openShopForHands(database);
-    const QStringList before = faultsOfTrade(database);
-    QVERIFY2(before.isEmpty(), qPrintable(before.join('\n')));
-    Workplace place;
-    QVERIFY(place.isReady());
-
-    RandomHands hands(place.window(), seed);
-    hands.addEvent("language", [&place] { place.changeLanguage(); });
-    hands.addEvent("lost connection", [&database] { database.killConnections(); });
-    hands.addEvent("all pages close", [&place] { place.window().closeAllTab(); });
-    for (int round = 0; round < 5; ++round) {
-        hands.play(200);
-        const QStringList faults = faultsOfTrade(database);
-        QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
+    void nothingBreaks_data()
+    {
+        addColumns<quint32>("seed");
+        addRow("a cashier", 1U);
+        addRow("a child", 2U);
+        addRow("a cat", 3U);
     }
-    place.window().closeAllTab();
-}
+
+    void nothingBreaks()
+    {
+        QFETCH(quint32, seed);
+        const QTemporaryDir spool;
+        qputenv("ZAVEL_SPOOL_DIR", QFile::encodeName(spool.path()));
+        TestDatabase database;
+        openShopForHands(database);
+        const QStringList before = faultsOfTrade(database);
+        QVERIFY2(before.isEmpty(), qPrintable(before.join('\n')));
+        Workplace place;
+        QVERIFY(place.isReady());
+
+        RandomHands hands(place.window(), seed);
+        hands.addEvent("language", [&place] { place.changeLanguage(); });
+        hands.addEvent("lost connection", [&database] { database.killConnections(); });
+        hands.addEvent("all pages close", [&place] { place.window().closeAllTab(); });
+        for (int round = 0; round < 5; ++round) {
+            hands.play(200);
+            const QStringList faults = faultsOfTrade(database);
+            QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
+        }
+        place.window().closeAllTab();
+    }
+};
 
 QTEST_MAIN(TestRandomHands)
 #include "tst_random_hands.moc"

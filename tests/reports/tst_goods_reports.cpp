@@ -13,6 +13,7 @@
 #include "pos/purchasing/purchaseorder/EntityPurchaseOrder.h"
 #include "reports/MonthOfTrade.h"
 #include "reports/ReadReport.h"
+#include "support/Rows.h"
 #include "support/TestDatabase.h"
 #include "zavel/receivable/EntityPiutangDetail.h"
 #include "zavel/service/BusinessPenjualan.h"
@@ -110,153 +111,146 @@ private slots:
     void initTestCase() { QLocale::setDefault(QLocale("en_US")); }
     void cleanup() { m_database.reset(); }
     void theStockIsWhatTheItemsShow_data() { seeds(); }
-    void theStockIsWhatTheItemsShow();
+    void theStockIsWhatTheItemsShow()
+    {
+        open();
+        auto* inventory = service<BusinessInventory>("Inventory");
+        const QList<KorEntity*> items = service<BusinessItem>("Item")->search({}, {});
+        const auto onHand = [&](const QDate& day) {
+            QMap<QString, double> quantities;
+            for (const KorEntity* entity : items) {
+                const auto* item = static_cast<const EntityItem*>(entity);
+                if (item->getItemType() == EntityItem::INV)
+                    quantities[item->getKode()] = inventory->getQuantityOnHand(item, day);
+            }
+            return quantities;
+        };
+        for (const QDate& day :
+             {QDate(2025, 1, 1), firstDay.addDays(-1), QDate(2026, 3, 10), lastDay, lastDay.addDays(90)})
+            QCOMPARE(valuesBy(read("stock-on-hand", day), "code", "qty"), onHand(day));
+        const ReadReport movements = read("stock-movements");
+        QCOMPARE(valuesBy(movements, "code", "opening"), onHand(firstDay.addDays(-1)));
+        QCOMPARE(valuesBy(movements, "code", "closing"), onHand(lastDay));
+        const QMap<QString, double> below = valuesBy(read("stock-negative"), "code", "qty");
+        QMap<QString, double> expected = onHand(lastDay);
+        for (const QString& code : expected.keys()) {
+            if (expected.value(code) >= 0)
+                expected.remove(code);
+        }
+        QCOMPARE(below, expected);
+    }
+
     void whatIsOwedIsWhatTheBillsShow_data() { seeds(); }
-    void whatIsOwedIsWhatTheBillsShow();
+    void whatIsOwedIsWhatTheBillsShow()
+    {
+        open();
+        auto* purchases = service<BusinessPurchases>("Purchases");
+        QMap<QString, double> expected;
+        for (const KorEntity* supplier : service<BusinessSupplier>("Supplier")->findAll({})) {
+            const auto* owed = static_cast<const EntitySupplier*>(supplier);
+            expected[owed->getNama()] =
+                sumOf(purchases->getPendingInvoiceBySupplier(owed), &EntityAcquisition::getNetDue);
+        }
+        QCOMPARE(valuesBy(read("payables"), "supplier", "due"), expected);
+        QCOMPARE(valuesBy(read("suppliers"), "name", "due"), expected);
+        const ReadReport ages = read("payables-by-age");
+        QCOMPARE(valuesBy(ages, "supplier", "due"), expected);
+        double parts = 0;
+        for (const char* age : {"notdue", "month", "second", "third", "older"})
+            parts += ages.table.total(ages.table.report().columnOf(age)).toDouble();
+        QCOMPARE(parts, ages.table.total(ages.table.report().columnOf("due")).toDouble());
+    }
+
     void membersOweWhatTheirPaymentsOffer_data() { seeds(); }
-    void membersOweWhatTheirPaymentsOffer();
+    void membersOweWhatTheirPaymentsOffer()
+    {
+        open();
+        QMap<QString, double> expected;
+        for (const KorEntity* entity : service<BusinessMember>("Member")->findAll({})) {
+            const auto* member = static_cast<const EntityMember*>(entity);
+            expected[member->getNama()] =
+                sumOf(service<BusinessPenjualan>("Sales")->getUnpaidInvoicesForMember(member->getId()),
+                      &EntityPiutangDetail::getAmountDue);
+            QVERIFY(expected[member->getNama()] > 0);
+        }
+        QCOMPARE(valuesBy(read("members"), "name", "due"), expected);
+    }
+
     void documentsAreThoseOfTheLists_data() { seeds(); }
-    void documentsAreThoseOfTheLists();
+    void documentsAreThoseOfTheLists()
+    {
+        open();
+        PurchasingFilter month;
+        month.from = firstDay;
+        month.to = lastDay;
+        const auto bought = service<BusinessPurchases>("Purchases")->findAll(month);
+        const double total = sumOf(bought, &EntityAcquisition::getGrandTotal);
+        const auto totalOf = [this](const QString& id, const QString& field) {
+            const ReadReport report = read(id);
+            return report.table.total(report.table.report().columnOf(field)).toDouble();
+        };
+        QCOMPARE(read("purchases").table.rowCount(), bought.size());
+        QCOMPARE(totalOf("purchases", "due"), sumOf(bought, &EntityAcquisition::getNetDue));
+        for (const char* id : {"purchases", "purchases-by-day", "purchases-by-supplier"})
+            QCOMPARE(totalOf(id, "total"), total);
+
+        const auto paid = service<BusinessPayment>("Payment")->findAll(month);
+        QCOMPARE(read("supplier-payments").table.rowCount(), paid.size());
+        QCOMPARE(totalOf("supplier-payments", "total"), sumOf(paid, &EntityPayment::getGrandTotal));
+
+        QSet<QString> returned;
+        for (const EntityCreditNote* note : service<BusinessCreditNote>("Credit Note")->findAll(month)) {
+            if (note->getStatus() != EntityCreditNote::CANCELLED)
+                returned.insert(note->getNo());
+        }
+        QCOMPARE(valuesBy(read("purchase-returns"), "no", "qty").keys().toSet(), returned);
+
+        QSet<QString> ordered;
+        for (const KorEntity* supplier : service<BusinessSupplier>("Supplier")->findAll({})) {
+            const auto* asked = static_cast<const EntitySupplier*>(supplier);
+            for (const EntityPurchaseOrder* order :
+                 service<BusinessPurchaseOrder>("Purchase Order")->getOpenBySupplier(asked))
+                ordered.insert(order->getNo());
+        }
+        QCOMPARE(valuesBy(read("purchase-orders-open"), "no", "late").keys().toSet(), ordered);
+
+        int counts = 0;
+        for (const KorEntity* take : service<BusinessInventory>("Inventory")->findAll({})) {
+            const QDate day = static_cast<const EntityStockTake*>(take)->getStockTakeDate();
+            counts += day >= firstDay && day <= lastDay ? 1 : 0;
+        }
+        QCOMPARE(read("stock-adjustments").table.rowCount(), counts);
+    }
 
 private:
-    static void seeds();
+    static void seeds()
+    {
+        addColumns<double>("seed");
+        for (const double seed : {0.1, 0.26, 0.77})
+            addRow(qPrintable(QString("seed %1").arg(seed)), seed);
+    }
+
     /** A house with the row's random quarter. */
-    void open();
-    [[nodiscard]] ReadReport read(const QString& id, const QDate& day = lastDay) const;
+    void open()
+    {
+        QFETCH(double, seed);
+        m_database = std::make_unique<TestDatabase>();
+        insertMonthOfTrade(*m_database);
+        m_database->value(QString("SELECT setseed(%1)").arg(seed));
+        for (const char* statement : quarter)
+            m_database->run(statement);
+    }
+
+    [[nodiscard]] ReadReport read(const QString& id, const QDate& day = lastDay) const
+    {
+        ReadReport read = readReport(*m_database, id, firstDay, day);
+        if (!read.error.isEmpty())
+            qWarning() << id << read.error;
+        return read;
+    }
 
     std::unique_ptr<TestDatabase> m_database;
 };
-
-void TestGoodsReports::seeds()
-{
-    QTest::addColumn<double>("seed");
-    for (const double seed : {0.1, 0.26, 0.77})
-        QTest::newRow(qPrintable(QString("seed %1").arg(seed))) << seed;
-}
-
-void TestGoodsReports::open()
-{
-    QFETCH(double, seed);
-    m_database = std::make_unique<TestDatabase>();
-    insertMonthOfTrade(*m_database);
-    m_database->value(QString("SELECT setseed(%1)").arg(seed));
-    for (const char* statement : quarter)
-        m_database->run(statement);
-}
-
-ReadReport TestGoodsReports::read(const QString& id, const QDate& day) const
-{
-    ReadReport read = readReport(*m_database, id, firstDay, day);
-    if (!read.error.isEmpty())
-        qWarning() << id << read.error;
-    return read;
-}
-
-void TestGoodsReports::theStockIsWhatTheItemsShow()
-{
-    open();
-    auto* inventory = service<BusinessInventory>("Inventory");
-    const QList<KorEntity*> items = service<BusinessItem>("Item")->search({}, {});
-    const auto onHand = [&](const QDate& day) {
-        QMap<QString, double> quantities;
-        for (const KorEntity* entity : items) {
-            const auto* item = static_cast<const EntityItem*>(entity);
-            if (item->getItemType() == EntityItem::INV)
-                quantities[item->getKode()] = inventory->getQuantityOnHand(item, day);
-        }
-        return quantities;
-    };
-    for (const QDate& day : {QDate(2025, 1, 1), firstDay.addDays(-1), QDate(2026, 3, 10), lastDay, lastDay.addDays(90)})
-        QCOMPARE(valuesBy(read("stock-on-hand", day), "code", "qty"), onHand(day));
-    const ReadReport movements = read("stock-movements");
-    QCOMPARE(valuesBy(movements, "code", "opening"), onHand(firstDay.addDays(-1)));
-    QCOMPARE(valuesBy(movements, "code", "closing"), onHand(lastDay));
-    const QMap<QString, double> below = valuesBy(read("stock-negative"), "code", "qty");
-    QMap<QString, double> expected = onHand(lastDay);
-    for (const QString& code : expected.keys()) {
-        if (expected.value(code) >= 0)
-            expected.remove(code);
-    }
-    QCOMPARE(below, expected);
-}
-
-void TestGoodsReports::whatIsOwedIsWhatTheBillsShow()
-{
-    open();
-    auto* purchases = service<BusinessPurchases>("Purchases");
-    QMap<QString, double> expected;
-    for (const KorEntity* supplier : service<BusinessSupplier>("Supplier")->findAll({})) {
-        const auto* owed = static_cast<const EntitySupplier*>(supplier);
-        expected[owed->getNama()] = sumOf(purchases->getPendingInvoiceBySupplier(owed), &EntityAcquisition::getNetDue);
-    }
-    QCOMPARE(valuesBy(read("payables"), "supplier", "due"), expected);
-    QCOMPARE(valuesBy(read("suppliers"), "name", "due"), expected);
-    const ReadReport ages = read("payables-by-age");
-    QCOMPARE(valuesBy(ages, "supplier", "due"), expected);
-    double parts = 0;
-    for (const char* age : {"notdue", "month", "second", "third", "older"})
-        parts += ages.table.total(ages.table.report().columnOf(age)).toDouble();
-    QCOMPARE(parts, ages.table.total(ages.table.report().columnOf("due")).toDouble());
-}
-
-void TestGoodsReports::membersOweWhatTheirPaymentsOffer()
-{
-    open();
-    QMap<QString, double> expected;
-    for (const KorEntity* entity : service<BusinessMember>("Member")->findAll({})) {
-        const auto* member = static_cast<const EntityMember*>(entity);
-        expected[member->getNama()] =
-            sumOf(service<BusinessPenjualan>("Sales")->getUnpaidInvoicesForMember(member->getId()),
-                  &EntityPiutangDetail::getAmountDue);
-        QVERIFY(expected[member->getNama()] > 0);
-    }
-    QCOMPARE(valuesBy(read("members"), "name", "due"), expected);
-}
-
-void TestGoodsReports::documentsAreThoseOfTheLists()
-{
-    open();
-    PurchasingFilter month;
-    month.from = firstDay;
-    month.to = lastDay;
-    const auto bought = service<BusinessPurchases>("Purchases")->findAll(month);
-    const double total = sumOf(bought, &EntityAcquisition::getGrandTotal);
-    const auto totalOf = [this](const QString& id, const QString& field) {
-        const ReadReport report = read(id);
-        return report.table.total(report.table.report().columnOf(field)).toDouble();
-    };
-    QCOMPARE(read("purchases").table.rowCount(), bought.size());
-    QCOMPARE(totalOf("purchases", "due"), sumOf(bought, &EntityAcquisition::getNetDue));
-    for (const char* id : {"purchases", "purchases-by-day", "purchases-by-supplier"})
-        QCOMPARE(totalOf(id, "total"), total);
-
-    const auto paid = service<BusinessPayment>("Payment")->findAll(month);
-    QCOMPARE(read("supplier-payments").table.rowCount(), paid.size());
-    QCOMPARE(totalOf("supplier-payments", "total"), sumOf(paid, &EntityPayment::getGrandTotal));
-
-    QSet<QString> returned;
-    for (const EntityCreditNote* note : service<BusinessCreditNote>("Credit Note")->findAll(month)) {
-        if (note->getStatus() != EntityCreditNote::CANCELLED)
-            returned.insert(note->getNo());
-    }
-    QCOMPARE(valuesBy(read("purchase-returns"), "no", "qty").keys().toSet(), returned);
-
-    QSet<QString> ordered;
-    for (const KorEntity* supplier : service<BusinessSupplier>("Supplier")->findAll({})) {
-        const auto* asked = static_cast<const EntitySupplier*>(supplier);
-        for (const EntityPurchaseOrder* order :
-             service<BusinessPurchaseOrder>("Purchase Order")->getOpenBySupplier(asked))
-            ordered.insert(order->getNo());
-    }
-    QCOMPARE(valuesBy(read("purchase-orders-open"), "no", "late").keys().toSet(), ordered);
-
-    int counts = 0;
-    for (const KorEntity* take : service<BusinessInventory>("Inventory")->findAll({})) {
-        const QDate day = static_cast<const EntityStockTake*>(take)->getStockTakeDate();
-        counts += day >= firstDay && day <= lastDay ? 1 : 0;
-    }
-    QCOMPARE(read("stock-adjustments").table.rowCount(), counts);
-}
 
 QTEST_GUILESS_MAIN(TestGoodsReports)
 #include "tst_goods_reports.moc"

@@ -2,6 +2,7 @@
 #include "reports/ReadReport.h"
 #include "reports/catalogue/ReportCatalogue.h"
 #include "support/Golden.h"
+#include "support/Rows.h"
 #include "support/TestDatabase.h"
 
 #include <QRegularExpression>
@@ -22,126 +23,117 @@ class TestReportCatalogue : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void cleanupTestCase();
+    void initTestCase()
+    {
+        QLocale::setDefault(QLocale("en_US"));
+        m_empty = std::make_unique<TestDatabase>();
+        m_busy = std::make_unique<TestDatabase>();
+        insertMonthOfTrade(*m_busy);
+    }
+
+    void cleanupTestCase()
+    {
+        m_busy.reset();
+        m_empty.reset();
+    }
+
     void every_report_is_told_completely_data() { addReports(); }
-    void every_report_is_told_completely();
+    void every_report_is_told_completely()
+    {
+        QFETCH(QString, id);
+        const Report report = reportById(id);
+        QVERIFY2(QRegularExpression("^[a-z0-9-]+$").match(id).hasMatch(), "the id stands in file names");
+        QVERIFY2(!m_ids.contains(id), "two reports have this id");
+        m_ids.insert(id);
+        QVERIFY(!report.titleText().isEmpty());
+        QVERIFY(report.aboutText().endsWith('.'));
+        QVERIFY(report.group.isEmpty() || report.columnOf(report.group) >= 0);
+        if (report.chart.kind != ReportChart::None) {
+            QVERIFY2(report.columnOf(report.chart.category) >= 0, qPrintable(report.chart.category));
+            QVERIFY(!report.chart.series.isEmpty());
+        }
+        for (const QString& series : report.chart.series)
+            QVERIFY2(report.columnOf(series) >= 0 && report.columns.at(report.columnOf(series)).isNumber(),
+                     qPrintable(series));
+        QSet<QString> titles;
+        for (const ReportColumn& column : report.columns) {
+            const QString title = reportText(column.title);
+            QVERIFY2(!title.isEmpty() && !titles.contains(title), qPrintable(column.field));
+            titles.insert(title);
+        }
+        for (const ReportParameter& parameter : report.parameters)
+            QVERIFY2(parameter.kind == ReportParameter::Period || reportText(parameter.title).endsWith(':'),
+                     qPrintable(parameter.name));
+    }
+
     void every_report_can_be_read_with_and_without_answers_data() { addReports(); }
-    void every_report_can_be_read_with_and_without_answers();
+    void every_report_can_be_read_with_and_without_answers()
+    {
+        QFETCH(QString, id);
+        const Report report = reportById(id);
+        const QVariantMap open = openAnswers(report, firstDay, lastDay);
+        readWith(report, open);
+        for (const ReportParameter& parameter : report.parameters) {
+            QVariantList answers;
+            if (parameter.kind == ReportParameter::Text)
+                answers = {"%a%"};
+            for (const auto& choice : parameter.choices)
+                answers.append(choice.first);
+            if (!parameter.choicesQuery.isEmpty()) {
+                QVERIFY2(report.query.contains(':' + parameter.name), qPrintable(parameter.name));
+                Report rows;
+                rows.query = parameter.choicesQuery;
+                rows.columns = {ReportColumn::text("value", "")};
+                const ReadReport read = readReport(*m_busy, rows, {});
+                QVERIFY2(read.error.isEmpty(), qPrintable(read.error));
+                QCOMPARE(read.fields.size(), 2);
+                answers.append(m_busy->value(parameter.choicesQuery));
+            }
+            for (const QVariant& answer : qAsConst(answers)) {
+                QVariantMap values = open;
+                values[parameter.name] = answer;
+                readWith(report, values);
+            }
+        }
+    }
+
     void a_month_of_trade_reads_as_it_always_did_data() { addReports(); }
-    void a_month_of_trade_reads_as_it_always_did();
+    void a_month_of_trade_reads_as_it_always_did()
+    {
+        QFETCH(QString, id);
+        const ReadReport read = readReport(*m_busy, id, firstDay, lastDay);
+        const QString difference = goldenDifference("reports/" + id + ".txt", read.lines());
+        QVERIFY2(difference.isEmpty(), qPrintable(difference));
+    }
 
 private:
-    static void addReports();
-    void readWith(const Report& report, const QVariantMap& answers);
+    static void addReports()
+    {
+        addColumns<QString>("id");
+        for (const ReportSubject& subject : ReportCatalogue::subjects()) {
+            for (const Report& report : subject.reports)
+                addRow(qPrintable(report.id), report.id);
+        }
+    }
+
+    void readWith(const Report& report, const QVariantMap& answers)
+    {
+        for (const TestDatabase* database : {m_empty.get(), m_busy.get()}) {
+            const ReadReport read = readReport(*database, report, answers);
+            QVERIFY2(read.error.isEmpty(), qPrintable(read.error));
+            for (const ReportColumn& column : report.columns) {
+                const QStringList needed =
+                    column.isQuotient() ? QStringList{column.numerator, column.denominator} : QStringList{column.field};
+                for (const QString& field : needed)
+                    QVERIFY2(read.fields.contains(field), qPrintable(field));
+            }
+        }
+    }
 
     std::unique_ptr<TestDatabase> m_empty;
     std::unique_ptr<TestDatabase> m_busy;
     QSet<QString> m_ids;
 };
-
-void TestReportCatalogue::initTestCase()
-{
-    QLocale::setDefault(QLocale("en_US"));
-    m_empty = std::make_unique<TestDatabase>();
-    m_busy = std::make_unique<TestDatabase>();
-    insertMonthOfTrade(*m_busy);
-}
-
-void TestReportCatalogue::cleanupTestCase()
-{
-    m_busy.reset();
-    m_empty.reset();
-}
-
-void TestReportCatalogue::addReports()
-{
-    QTest::addColumn<QString>("id");
-    for (const ReportSubject& subject : ReportCatalogue::subjects()) {
-        for (const Report& report : subject.reports)
-            QTest::newRow(qPrintable(report.id)) << report.id;
-    }
-}
-
-void TestReportCatalogue::every_report_is_told_completely()
-{
-    QFETCH(QString, id);
-    const Report report = reportById(id);
-    QVERIFY2(QRegularExpression("^[a-z0-9-]+$").match(id).hasMatch(), "the id stands in file names");
-    QVERIFY2(!m_ids.contains(id), "two reports have this id");
-    m_ids.insert(id);
-    QVERIFY(!report.titleText().isEmpty());
-    QVERIFY(report.aboutText().endsWith('.'));
-    QVERIFY(report.group.isEmpty() || report.columnOf(report.group) >= 0);
-    if (report.chart.kind != ReportChart::None) {
-        QVERIFY2(report.columnOf(report.chart.category) >= 0, qPrintable(report.chart.category));
-        QVERIFY(!report.chart.series.isEmpty());
-    }
-    for (const QString& series : report.chart.series)
-        QVERIFY2(report.columnOf(series) >= 0 && report.columns.at(report.columnOf(series)).isNumber(),
-                 qPrintable(series));
-    QSet<QString> titles;
-    for (const ReportColumn& column : report.columns) {
-        const QString title = reportText(column.title);
-        QVERIFY2(!title.isEmpty() && !titles.contains(title), qPrintable(column.field));
-        titles.insert(title);
-    }
-    for (const ReportParameter& parameter : report.parameters)
-        QVERIFY2(parameter.kind == ReportParameter::Period || reportText(parameter.title).endsWith(':'),
-                 qPrintable(parameter.name));
-}
-
-void TestReportCatalogue::readWith(const Report& report, const QVariantMap& answers)
-{
-    for (const TestDatabase* database : {m_empty.get(), m_busy.get()}) {
-        const ReadReport read = readReport(*database, report, answers);
-        QVERIFY2(read.error.isEmpty(), qPrintable(read.error));
-        for (const ReportColumn& column : report.columns) {
-            const QStringList needed =
-                column.isQuotient() ? QStringList{column.numerator, column.denominator} : QStringList{column.field};
-            for (const QString& field : needed)
-                QVERIFY2(read.fields.contains(field), qPrintable(field));
-        }
-    }
-}
-
-void TestReportCatalogue::every_report_can_be_read_with_and_without_answers()
-{
-    QFETCH(QString, id);
-    const Report report = reportById(id);
-    const QVariantMap open = openAnswers(report, firstDay, lastDay);
-    readWith(report, open);
-    for (const ReportParameter& parameter : report.parameters) {
-        QVariantList answers;
-        if (parameter.kind == ReportParameter::Text)
-            answers = {"%a%"};
-        for (const auto& choice : parameter.choices)
-            answers.append(choice.first);
-        if (!parameter.choicesQuery.isEmpty()) {
-            QVERIFY2(report.query.contains(':' + parameter.name), qPrintable(parameter.name));
-            Report rows;
-            rows.query = parameter.choicesQuery;
-            rows.columns = {ReportColumn::text("value", "")};
-            const ReadReport read = readReport(*m_busy, rows, {});
-            QVERIFY2(read.error.isEmpty(), qPrintable(read.error));
-            QCOMPARE(read.fields.size(), 2);
-            answers.append(m_busy->value(parameter.choicesQuery));
-        }
-        for (const QVariant& answer : qAsConst(answers)) {
-            QVariantMap values = open;
-            values[parameter.name] = answer;
-            readWith(report, values);
-        }
-    }
-}
-
-void TestReportCatalogue::a_month_of_trade_reads_as_it_always_did()
-{
-    QFETCH(QString, id);
-    const ReadReport read = readReport(*m_busy, id, firstDay, lastDay);
-    const QString difference = goldenDifference("reports/" + id + ".txt", read.lines());
-    QVERIFY2(difference.isEmpty(), qPrintable(difference));
-}
 
 QTEST_GUILESS_MAIN(TestReportCatalogue)
 #include "tst_report_catalogue.moc"

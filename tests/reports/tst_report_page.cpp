@@ -1,6 +1,7 @@
 #include "reports/catalogue/ReportCatalogue.h"
 #include "reports/page/ReportQuestions.h"
 #include "reports/page/TabReport.h"
+#include "support/Rows.h"
 #include "support/SalesRows.h"
 #include "support/ShopRows.h"
 #include "support/TestDatabase.h"
@@ -61,142 +62,132 @@ class TestReportPage : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void the_owner_reads_a_month_of_sales_and_takes_it_along();
-    void a_report_is_asked_with_what_stands_in_its_boxes();
-    void a_long_report_leaves_the_page_alive_and_can_be_stopped();
-    void a_report_that_cannot_be_read_says_why_data();
-    void a_report_that_cannot_be_read_says_why();
-    void a_page_is_closed_in_the_middle_of_reading();
-    void more_rows_than_anybody_reads_are_cut_off_and_told();
+    void initTestCase() { QLocale::setDefault(QLocale("en_US")); }
 
-private:
-    static QString noteOf(const TabReport& page) { return page.findChild<QLabel*>("note")->text(); }
-};
-
-void TestReportPage::initTestCase() { QLocale::setDefault(QLocale("en_US")); }
-
-void TestReportPage::the_owner_reads_a_month_of_sales_and_takes_it_along()
-{
-    TestDatabase database;
-    insertShop(database);
-    insertManySales(database, 300);
-    TabReport page(ReportCatalogue::sales(), connectionOf(database), "d MMM yyyy");
-    page.resize(1280, 760);
-    page.show();
-    page.choose("sales-by-day");
-    page.findChild<QDateEdit*>("from")->setDate(QDate::currentDate().addDays(-31));
-    press(page);
-    QTRY_VERIFY2(page.table().lineCount() > 20, qPrintable(noteOf(page)));
-    const int total = page.table().report().columnOf("total");
-    QCOMPARE(page.table().total(total).toDouble(),
-             database.value("select sum(grandtotal_amount) from invoice").toDouble());
-
-    const QTemporaryDir folder;
-    const QString csv = folder.filePath("sales.csv");
-    QVERIFY(page.saveCsv(csv));
-    QFile file(csv);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll().count("\r\n"), page.table().rowCount() + 1);
-    QVERIFY(page.savePdf(folder.filePath("sales.pdf")));
-    QVERIFY(!page.saveCsv(folder.filePath("no such folder/sales.csv")));
-    QVERIFY(!page.savePdf(folder.filePath("no such folder/sales.pdf")));
-}
-
-void TestReportPage::a_report_is_asked_with_what_stands_in_its_boxes()
-{
-    TestDatabase database;
-    TabReport page(subjectOf("select :to::date as day, :to::date - :from::date as n, "
-                             "coalesce(:text, 'none') || coalesce(:user::text, ' all') as word"),
-                   connectionOf(database), "d MMM yyyy");
-    page.show();
-    auto* users = page.findChild<QComboBox*>("user");
-    QTRY_COMPARE(users->count(), 3);
-    const auto answer = [&page] {
-        QTest::mouseClick(page.findChild<QPushButton*>("show"), Qt::LeftButton);
-        return QTest::qWaitFor([&page] { return !page.isRunning(); }) ? page.table().rowValue(0, 2).toString()
-                                                                      : QString("still running");
-    };
-    QCOMPARE(answer(), "none all");
-    page.findChild<QLineEdit*>("text")->setText(" 50%'_A\\");
-    users->setCurrentIndex(1);
-    QCOMPARE(answer(), "%50\\%'\\_a\\\\%" + users->currentData().toString());
-
-    // Whoever turns the days round means the same days.
-    page.findChild<QDateEdit*>("from")->setDate({2026, 3, 11});
-    page.findChild<QDateEdit*>("to")->setDate({2026, 3, 1});
-    answer();
-    QCOMPARE(page.table().rowValue(0, 0).toDate(), QDate(2026, 3, 11));
-    QCOMPARE(page.table().rowValue(0, 1).toInt(), 10);
-}
-
-void TestReportPage::a_long_report_leaves_the_page_alive_and_can_be_stopped()
-{
-    TestDatabase database;
-    TabReport page(subjectOf("select pg_sleep(60), current_date as day, 1 as n, '' as word"), connectionOf(database),
-                   "d MMM yyyy");
-    page.show();
-    press(page);
-    // The page counts the seconds meanwhile, and a second press starts no second run.
-    QTRY_VERIFY(noteOf(page).contains("Reading"));
-    QTRY_COMPARE(sessionsOf(database, "query like 'EXECUTE%'"), 1);
-    press(page);
-    QTest::mouseClick(page.findChild<QPushButton*>("cancel"), Qt::LeftButton);
-    QTRY_COMPARE(noteOf(page), "Cancelled.");
-    QTRY_COMPARE(sessionsOf(database), 0);
-    QVERIFY(page.findChild<QPushButton*>("show")->isEnabled());
-}
-
-void TestReportPage::a_report_that_cannot_be_read_says_why_data()
-{
-    QTest::addColumn<QString>("query");
-    QTest::addColumn<QString>("reason");
-    QTest::newRow("a wrong statement") << "select nothing from nowhere"
-                                       << "nowhere";
-    QTest::newRow("it would write") << "with gone as (delete from users returning id) select * from gone"
-                                    << "read-only transaction";
-    QTest::newRow("it breaks in the middle") << "select current_date as day, 1 / (3 - n) as n from "
-                                                "generate_series(1, 5) as n"
-                                             << "division by zero";
-}
-
-void TestReportPage::a_report_that_cannot_be_read_says_why()
-{
-    QFETCH(QString, query);
-    QFETCH(QString, reason);
-    TestDatabase database;
-    TabReport page(subjectOf(query), connectionOf(database), "d MMM yyyy");
-    page.show();
-    press(page);
-    QTRY_VERIFY2(noteOf(page).contains(reason), qPrintable(noteOf(page)));
-    QCOMPARE(page.findChild<QTableView*>("grid")->model()->rowCount(), 0);
-    QVERIFY(!page.findChild<QPushButton*>("csv")->isEnabled());
-    QVERIFY(database.value("select count(*) from users").toInt() > 0);
-}
-
-void TestReportPage::a_page_is_closed_in_the_middle_of_reading()
-{
-    TestDatabase database;
+    void the_owner_reads_a_month_of_sales_and_takes_it_along()
     {
+        TestDatabase database;
+        insertShop(database);
+        insertManySales(database, 300);
+        TabReport page(ReportCatalogue::sales(), connectionOf(database), "d MMM yyyy");
+        page.resize(1280, 760);
+        page.show();
+        page.choose("sales-by-day");
+        page.findChild<QDateEdit*>("from")->setDate(QDate::currentDate().addDays(-31));
+        press(page);
+        QTRY_VERIFY2(page.table().lineCount() > 20, qPrintable(noteOf(page)));
+        const int total = page.table().report().columnOf("total");
+        QCOMPARE(page.table().total(total).toDouble(),
+                 database.value("select sum(grandtotal_amount) from invoice").toDouble());
+
+        const QTemporaryDir folder;
+        const QString csv = folder.filePath("sales.csv");
+        QVERIFY(page.saveCsv(csv));
+        QFile file(csv);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll().count("\r\n"), page.table().rowCount() + 1);
+        QVERIFY(page.savePdf(folder.filePath("sales.pdf")));
+        QVERIFY(!page.saveCsv(folder.filePath("no such folder/sales.csv")));
+        QVERIFY(!page.savePdf(folder.filePath("no such folder/sales.pdf")));
+    }
+
+    void a_report_is_asked_with_what_stands_in_its_boxes()
+    {
+        TestDatabase database;
+        TabReport page(subjectOf("select :to::date as day, :to::date - :from::date as n, "
+                                 "coalesce(:text, 'none') || coalesce(:user::text, ' all') as word"),
+                       connectionOf(database), "d MMM yyyy");
+        page.show();
+        auto* users = page.findChild<QComboBox*>("user");
+        QTRY_COMPARE(users->count(), 3);
+        const auto answer = [&page] {
+            QTest::mouseClick(page.findChild<QPushButton*>("show"), Qt::LeftButton);
+            return QTest::qWaitFor([&page] { return !page.isRunning(); }) ? page.table().rowValue(0, 2).toString()
+                                                                          : QString("still running");
+        };
+        QCOMPARE(answer(), "none all");
+        page.findChild<QLineEdit*>("text")->setText(" 50%'_A\\");
+        users->setCurrentIndex(1);
+        QCOMPARE(answer(), "%50\\%'\\_a\\\\%" + users->currentData().toString());
+
+        // Whoever turns the days round means the same days.
+        page.findChild<QDateEdit*>("from")->setDate({2026, 3, 11});
+        page.findChild<QDateEdit*>("to")->setDate({2026, 3, 1});
+        answer();
+        QCOMPARE(page.table().rowValue(0, 0).toDate(), QDate(2026, 3, 11));
+        QCOMPARE(page.table().rowValue(0, 1).toInt(), 10);
+    }
+
+    void a_long_report_leaves_the_page_alive_and_can_be_stopped()
+    {
+        TestDatabase database;
         TabReport page(subjectOf("select pg_sleep(60), current_date as day, 1 as n, '' as word"),
                        connectionOf(database), "d MMM yyyy");
         page.show();
         press(page);
+        // The page counts the seconds meanwhile, and a second press starts no second run.
         QTRY_VERIFY(noteOf(page).contains("Reading"));
+        QTRY_COMPARE(sessionsOf(database, "query like 'EXECUTE%'"), 1);
+        press(page);
+        QTest::mouseClick(page.findChild<QPushButton*>("cancel"), Qt::LeftButton);
+        QTRY_COMPARE(noteOf(page), "Cancelled.");
+        QTRY_COMPARE(sessionsOf(database), 0);
+        QVERIFY(page.findChild<QPushButton*>("show")->isEnabled());
     }
-    QTRY_COMPARE(sessionsOf(database), 0);
-}
 
-void TestReportPage::more_rows_than_anybody_reads_are_cut_off_and_told()
-{
-    TestDatabase database;
-    TabReport page(subjectOf("select current_date as day, 1 as n, '' as word from generate_series(1, 200001)"),
-                   connectionOf(database), "d MMM yyyy");
-    page.show();
-    press(page);
-    QTRY_VERIFY_WITH_TIMEOUT(noteOf(page).contains("200,000 rows"), 30000);
-    QCOMPARE(page.table().rowCount(), 200000);
-}
+    void a_report_that_cannot_be_read_says_why_data()
+    {
+        addColumns<QString, QString>("query", "reason");
+        addRow("a wrong statement", "select nothing from nowhere", "nowhere");
+        addRow("it would write", "with gone as (delete from users returning id) select * from gone",
+               "read-only transaction");
+        addRow("it breaks in the middle",
+               "select current_date as day, 1 / (3 - n) as n from "
+               "generate_series(1, 5) as n",
+               "division by zero");
+    }
+
+    void a_report_that_cannot_be_read_says_why()
+    {
+        QFETCH(QString, query);
+        QFETCH(QString, reason);
+        TestDatabase database;
+        TabReport page(subjectOf(query), connectionOf(database), "d MMM yyyy");
+        page.show();
+        press(page);
+        QTRY_VERIFY2(noteOf(page).contains(reason), qPrintable(noteOf(page)));
+        QCOMPARE(page.findChild<QTableView*>("grid")->model()->rowCount(), 0);
+        QVERIFY(!page.findChild<QPushButton*>("csv")->isEnabled());
+        QVERIFY(database.value("select count(*) from users").toInt() > 0);
+    }
+
+    void a_page_is_closed_in_the_middle_of_reading()
+    {
+        TestDatabase database;
+        {
+            TabReport page(subjectOf("select pg_sleep(60), current_date as day, 1 as n, '' as word"),
+                           connectionOf(database), "d MMM yyyy");
+            page.show();
+            press(page);
+            QTRY_VERIFY(noteOf(page).contains("Reading"));
+        }
+        QTRY_COMPARE(sessionsOf(database), 0);
+    }
+
+    void more_rows_than_anybody_reads_are_cut_off_and_told()
+    {
+        TestDatabase database;
+        TabReport page(subjectOf("select current_date as day, 1 as n, '' as word from generate_series(1, 200001)"),
+                       connectionOf(database), "d MMM yyyy");
+        page.show();
+        press(page);
+        QTRY_VERIFY_WITH_TIMEOUT(noteOf(page).contains("200,000 rows"), 30000);
+        QCOMPARE(page.table().rowCount(), 200000);
+    }
+
+private:
+    static QString noteOf(const TabReport& page) { return page.findChild<QLabel*>("note")->text(); }
+};
 
 QTEST_MAIN(TestReportPage)
 #include "tst_report_page.moc"

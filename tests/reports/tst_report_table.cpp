@@ -1,6 +1,7 @@
 #include "reports/engine/ReportFormat.h"
 #include "reports/engine/ReportTable.h"
 #include "reports/output/ReportCsv.h"
+#include "support/Rows.h"
 
 #include <QBuffer>
 #include <QTest>
@@ -48,67 +49,59 @@ class TestReportTable : public QObject
     Q_OBJECT
 
 private slots:
-    void sorts_within_groups_and_sums_what_can_be_summed_data();
-    void sorts_within_groups_and_sums_what_can_be_summed();
-    void gives_a_spreadsheet_numbers_and_dates();
-    void an_empty_answer_has_no_sums();
+    void sorts_within_groups_and_sums_what_can_be_summed_data()
+    {
+        const QString tea = "Drinks|Tea|1 Mar 2026|4|40|75.0 %|10";
+        const QString cola = "Drinks|Cola|1 Mar 2026|0|0||";
+        const QString drinks = "Total Drinks|||4|40|75.0 %|10";
+        const QString soup = "Food|Soup, hot|2 Mar 2026|1|26|-19.6 %|26";
+        const QString rice = "Food|Rice \"large\"||10|1,500,000|50.0 %|150,000";
+        const QString food = "Total Food|||11|1,500,026|50.0 %|136,366";
+        const QString all = "Total|||15|1,500,066|50.0 %|100,004";
+        addColumns<int, Qt::SortOrder, QStringList>("column", "order", "expected");
+        addRow("as read", -1, Qt::AscendingOrder, QStringList{tea, cola, drinks, soup, rice, food, all});
+        addRow("by name", 1, Qt::AscendingOrder, QStringList{cola, tea, drinks, rice, soup, food, all});
+        addRow("largest first", 4, Qt::DescendingOrder, QStringList{tea, cola, drinks, rice, soup, food, all});
+        addRow("an empty date is the first", 2, Qt::AscendingOrder,
+               QStringList{tea, cola, drinks, rice, soup, food, all});
+        addRow("groups backwards", 0, Qt::DescendingOrder, QStringList{soup, rice, food, tea, cola, drinks, all});
+    }
+
+    void sorts_within_groups_and_sums_what_can_be_summed()
+    {
+        QFETCH(int, column);
+        QFETCH(Qt::SortOrder, order);
+        ReportTable table = dishes();
+        table.arrange(column, order);
+        QTEST(lines(table), "expected");
+        QCOMPARE(table.total(4).toDouble(), 1500065.5);
+        QVERIFY(!table.total(1).isValid());
+    }
+
+    void gives_a_spreadsheet_numbers_and_dates()
+    {
+        QLocale::setDefault(QLocale("id_ID"));
+        ReportTable table = dishes();
+        table.arrange();
+        QBuffer file;
+        file.open(QIODevice::WriteOnly);
+        QVERIFY(writeReportCsv(table, file));
+        QCOMPARE(file.data(), QByteArray("\xEF\xBB\xBFKind,Dish,Day,Sold,Sales,Margin,Each\r\n"
+                                         "Drinks,Tea,2026-03-01,4,40,75,10\r\n"
+                                         "Drinks,Cola,2026-03-01,0,0,,\r\n"
+                                         "Food,\"Soup, hot\",2026-03-02,1,25.5,-19.6078,25.5\r\n"
+                                         "Food,\"Rice \"\"large\"\"\",,10,1500000,50,150000\r\n"));
+    }
+
+    void an_empty_answer_has_no_sums()
+    {
+        ReportTable table(dishes().report());
+        table.setFields({"kind"});
+        table.arrange(0);
+        QCOMPARE(table.lineCount(), 0);
+        QVERIFY(!table.total(4).isValid());
+    }
 };
-
-void TestReportTable::sorts_within_groups_and_sums_what_can_be_summed_data()
-{
-    const QString tea = "Drinks|Tea|1 Mar 2026|4|40|75.0 %|10";
-    const QString cola = "Drinks|Cola|1 Mar 2026|0|0||";
-    const QString drinks = "Total Drinks|||4|40|75.0 %|10";
-    const QString soup = "Food|Soup, hot|2 Mar 2026|1|26|-19.6 %|26";
-    const QString rice = "Food|Rice \"large\"||10|1,500,000|50.0 %|150,000";
-    const QString food = "Total Food|||11|1,500,026|50.0 %|136,366";
-    const QString all = "Total|||15|1,500,066|50.0 %|100,004";
-    QTest::addColumn<int>("column");
-    QTest::addColumn<Qt::SortOrder>("order");
-    QTest::addColumn<QStringList>("expected");
-    QTest::newRow("as read") << -1 << Qt::AscendingOrder << QStringList{tea, cola, drinks, soup, rice, food, all};
-    QTest::newRow("by name") << 1 << Qt::AscendingOrder << QStringList{cola, tea, drinks, rice, soup, food, all};
-    QTest::newRow("largest first") << 4 << Qt::DescendingOrder << QStringList{tea, cola, drinks, rice, soup, food, all};
-    QTest::newRow("an empty date is the first")
-        << 2 << Qt::AscendingOrder << QStringList{tea, cola, drinks, rice, soup, food, all};
-    QTest::newRow("groups backwards") << 0 << Qt::DescendingOrder
-                                      << QStringList{soup, rice, food, tea, cola, drinks, all};
-}
-
-void TestReportTable::sorts_within_groups_and_sums_what_can_be_summed()
-{
-    QFETCH(int, column);
-    QFETCH(Qt::SortOrder, order);
-    ReportTable table = dishes();
-    table.arrange(column, order);
-    QTEST(lines(table), "expected");
-    QCOMPARE(table.total(4).toDouble(), 1500065.5);
-    QVERIFY(!table.total(1).isValid());
-}
-
-void TestReportTable::gives_a_spreadsheet_numbers_and_dates()
-{
-    QLocale::setDefault(QLocale("id_ID"));
-    ReportTable table = dishes();
-    table.arrange();
-    QBuffer file;
-    file.open(QIODevice::WriteOnly);
-    QVERIFY(writeReportCsv(table, file));
-    QCOMPARE(file.data(), QByteArray("\xEF\xBB\xBFKind,Dish,Day,Sold,Sales,Margin,Each\r\n"
-                                     "Drinks,Tea,2026-03-01,4,40,75,10\r\n"
-                                     "Drinks,Cola,2026-03-01,0,0,,\r\n"
-                                     "Food,\"Soup, hot\",2026-03-02,1,25.5,-19.6078,25.5\r\n"
-                                     "Food,\"Rice \"\"large\"\"\",,10,1500000,50,150000\r\n"));
-}
-
-void TestReportTable::an_empty_answer_has_no_sums()
-{
-    ReportTable table(dishes().report());
-    table.setFields({"kind"});
-    table.arrange(0);
-    QCOMPARE(table.lineCount(), 0);
-    QVERIFY(!table.total(4).isValid());
-}
 
 QTEST_GUILESS_MAIN(TestReportTable)
 #include "tst_report_table.moc"

@@ -1,4 +1,5 @@
 #include "support/MasterFamilies.h"
+#include "support/Rows.h"
 
 #include "kor/business/KorServiceDirectory.h"
 #include "pos/masterdata/account/TabBank.h"
@@ -182,9 +183,9 @@ const QList<MasterFamily>& masterFamilies()
 
 void addFamilyRows()
 {
-    QTest::addColumn<int>("family");
+    addColumns<int>("family");
     for (int i = 0; i < masterFamilies().size(); ++i)
-        QTest::newRow(qPrintable(masterFamilies().at(i).service)) << i;
+        addRow(qPrintable(masterFamilies().at(i).service), i);
 }
 
 const MasterFamily& currentFamily()

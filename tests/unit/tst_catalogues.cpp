@@ -1,3 +1,5 @@
+#include "support/Rows.h"
+
 #include <QFile>
 #include <QKeySequence>
 #include <QProcess>
@@ -93,86 +95,80 @@ class TestCatalogues final : public QObject
     Q_OBJECT
 
 private slots:
-    void everyTextOfTheSourcesIsInTheCatalogues_data();
-    void everyTextOfTheSourcesIsInTheCatalogues();
-    void everyTextIsTranslated_data();
-    void everyTextIsTranslated();
+    void everyTextOfTheSourcesIsInTheCatalogues_data()
+    {
+        addColumns<QString>("name");
+        addRow("Indonesian", "TranslationExample_id.ts");
+        addRow("English", "TranslationExample_en.ts");
+    }
+
+    void everyTextOfTheSourcesIsInTheCatalogues()
+    {
+        QFETCH(QString, name);
+        const QTemporaryDir folder;
+        const QString copy = folder.filePath(name);
+        QVERIFY(QFile::copy(catalogue(name), copy));
+        QProcess lupdate;
+        lupdate.setWorkingDirectory(sourceFolder());
+        lupdate.start(LUPDATE, QString(TEXT_SOURCES).split(' ') +
+                                   QStringList{"-locations", "none", "-no-obsolete", "-ts", copy});
+        QVERIFY2(lupdate.waitForFinished(60000), qPrintable(lupdate.errorString()));
+        QCOMPARE(lupdate.exitCode(), 0);
+
+        // Its complaints mean that it would read texts under other names than the program asks for them.
+        const QStringList complaints =
+            found(QString::fromLocal8Bit(lupdate.readAllStandardError()), "[^\n]*/src/[^\n]*|"
+                                                                          "[^\n]*/plugins/[^\n]*");
+        QCOMPARE(complaints, QStringList());
+        const auto texts = [](const QString& path) {
+            QStringList list;
+            const QVector<Message> messages = readCatalogue(path);
+            for (const Message& message : messages)
+                list += message.context + " | " + message.source;
+            list.sort();
+            return list;
+        };
+        const QStringList wanted = texts(copy);
+        const QStringList actual = texts(catalogue(name));
+        QVERIFY(wanted.size() > 1000);
+        for (const QString& text : wanted)
+            QVERIFY2(actual.contains(text), qPrintable("missing, build the target update_languages: " + text));
+        QCOMPARE(actual, wanted);
+    }
+
+    void everyTextIsTranslated_data()
+    {
+        addColumns<QString>("name");
+        addRow("the program's", "TranslationExample_id.ts");
+        addRow("the toolkit's", "qt_id.ts");
+    }
+
+    void everyTextIsTranslated()
+    {
+        QFETCH(QString, name);
+        const QVector<Message> messages = readCatalogue(catalogue(name));
+        QVERIFY(messages.size() > 300);
+        QStringList missing;
+        for (const Message& message : messages) {
+            if (!message.finished || message.translation.isEmpty())
+                missing += message.context + " | " + message.source;
+        }
+        QCOMPARE(missing, QStringList());
+    }
+
     void aTranslationKeepsPlacesKeysAndBlanks_data() { everyTextIsTranslated_data(); }
-    void aTranslationKeepsPlacesKeysAndBlanks();
+    void aTranslationKeepsPlacesKeysAndBlanks()
+    {
+        QFETCH(QString, name);
+        QStringList broken;
+        const QVector<Message> messages = readCatalogue(catalogue(name));
+        for (const Message& message : messages) {
+            if (kept(message.source) != kept(message.translation))
+                broken += message.context + " | " + message.source + " | " + message.translation;
+        }
+        QCOMPARE(broken, QStringList());
+    }
 };
-
-void TestCatalogues::everyTextOfTheSourcesIsInTheCatalogues_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::newRow("Indonesian") << "TranslationExample_id.ts";
-    QTest::newRow("English") << "TranslationExample_en.ts";
-}
-
-void TestCatalogues::everyTextOfTheSourcesIsInTheCatalogues()
-{
-    QFETCH(QString, name);
-    const QTemporaryDir folder;
-    const QString copy = folder.filePath(name);
-    QVERIFY(QFile::copy(catalogue(name), copy));
-    QProcess lupdate;
-    lupdate.setWorkingDirectory(sourceFolder());
-    lupdate.start(LUPDATE,
-                  QString(TEXT_SOURCES).split(' ') + QStringList{"-locations", "none", "-no-obsolete", "-ts", copy});
-    QVERIFY2(lupdate.waitForFinished(60000), qPrintable(lupdate.errorString()));
-    QCOMPARE(lupdate.exitCode(), 0);
-
-    // Its complaints mean that it would read texts under other names than the program asks for them.
-    const QStringList complaints =
-        found(QString::fromLocal8Bit(lupdate.readAllStandardError()), "[^\n]*/src/[^\n]*|"
-                                                                      "[^\n]*/plugins/[^\n]*");
-    QCOMPARE(complaints, QStringList());
-    const auto texts = [](const QString& path) {
-        QStringList list;
-        const QVector<Message> messages = readCatalogue(path);
-        for (const Message& message : messages)
-            list += message.context + " | " + message.source;
-        list.sort();
-        return list;
-    };
-    const QStringList wanted = texts(copy);
-    const QStringList actual = texts(catalogue(name));
-    QVERIFY(wanted.size() > 1000);
-    for (const QString& text : wanted)
-        QVERIFY2(actual.contains(text), qPrintable("missing, build the target update_languages: " + text));
-    QCOMPARE(actual, wanted);
-}
-
-void TestCatalogues::everyTextIsTranslated_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::newRow("the program's") << "TranslationExample_id.ts";
-    QTest::newRow("the toolkit's") << "qt_id.ts";
-}
-
-void TestCatalogues::everyTextIsTranslated()
-{
-    QFETCH(QString, name);
-    const QVector<Message> messages = readCatalogue(catalogue(name));
-    QVERIFY(messages.size() > 300);
-    QStringList missing;
-    for (const Message& message : messages) {
-        if (!message.finished || message.translation.isEmpty())
-            missing += message.context + " | " + message.source;
-    }
-    QCOMPARE(missing, QStringList());
-}
-
-void TestCatalogues::aTranslationKeepsPlacesKeysAndBlanks()
-{
-    QFETCH(QString, name);
-    QStringList broken;
-    const QVector<Message> messages = readCatalogue(catalogue(name));
-    for (const Message& message : messages) {
-        if (kept(message.source) != kept(message.translation))
-            broken += message.context + " | " + message.source + " | " + message.translation;
-    }
-    QCOMPARE(broken, QStringList());
-}
 
 QTEST_MAIN(TestCatalogues)
 #include "tst_catalogues.moc"

@@ -1,4 +1,5 @@
 #include "kor/system/KorSimpleEncrypt.h"
+#include "support/Rows.h"
 
 #include <QTest>
 
@@ -16,13 +17,13 @@ class TestCipher : public QObject
 private slots:
     void whatIsEncipheredComesBackInEveryMode_data()
     {
-        QTest::addColumn<QString>("plain");
-        QTest::newRow("nothing") << "";
-        QTest::newRow("one letter") << "x";
-        QTest::newRow("the offered password") << "Qx7!Rm2z";
-        QTest::newRow("an address") << "2001:db8::1";
-        QTest::newRow("letters of other alphabets") << QString::fromUtf8("Kopi ☕ Ω é 料理");
-        QTest::newRow("a text worth compressing") << QString(400, 'z');
+        addColumns<QString>("plain");
+        addRow("nothing", "");
+        addRow("one letter", "x");
+        addRow("the offered password", "Qx7!Rm2z");
+        addRow("an address", "2001:db8::1");
+        addRow("letters of other alphabets", QString::fromUtf8("Kopi ☕ Ω é 料理"));
+        addRow("a text worth compressing", QString(400, 'z'));
     }
     void whatIsEncipheredComesBackInEveryMode()
     {
@@ -90,15 +91,14 @@ private slots:
 
     void whatIsNoCipherTextReadsAsNothing_data()
     {
-        QTest::addColumn<QString>("cipher");
-        QTest::addColumn<int>("error");
-        QTest::newRow("empty") << "" << int(KorSimpleEncrypt::NoError);
-        QTest::newRow("plain text") << "localhost" << int(KorSimpleEncrypt::UnknownVersion);
-        QTest::newRow("too short") << "AwI=" << int(KorSimpleEncrypt::UnknownVersion);
-        QTest::newRow("another version") << "BAIAAAAA" << int(KorSimpleEncrypt::UnknownVersion);
-        QTest::newRow("no room for the checksum") << "AwIA" << int(KorSimpleEncrypt::IntegrityFailed);
-        QTest::newRow("no protection at all") << "AwAAAAAA" << int(KorSimpleEncrypt::IntegrityFailed);
-        QTest::newRow("unknown flags") << "A/8AAAAA" << int(KorSimpleEncrypt::IntegrityFailed);
+        addColumns<QString, int>("cipher", "error");
+        addRow("empty", "", int(KorSimpleEncrypt::NoError));
+        addRow("plain text", "localhost", int(KorSimpleEncrypt::UnknownVersion));
+        addRow("too short", "AwI=", int(KorSimpleEncrypt::UnknownVersion));
+        addRow("another version", "BAIAAAAA", int(KorSimpleEncrypt::UnknownVersion));
+        addRow("no room for the checksum", "AwIA", int(KorSimpleEncrypt::IntegrityFailed));
+        addRow("no protection at all", "AwAAAAAA", int(KorSimpleEncrypt::IntegrityFailed));
+        addRow("unknown flags", "A/8AAAAA", int(KorSimpleEncrypt::IntegrityFailed));
     }
     void whatIsNoCipherTextReadsAsNothing()
     {

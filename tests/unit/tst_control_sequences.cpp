@@ -1,6 +1,7 @@
 #include "pos/printing/printer/AppLinePrinter.h"
 #include "pos/printing/spooler/SlipSpooler.h"
 #include "support/ModalDriver.h"
+#include "support/Rows.h"
 
 #include <QDir>
 #include <QFile>
@@ -52,234 +53,208 @@ class TestControlSequences final : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-    void theNotationBecomesBytes_data();
-    void theNotationBecomesBytes();
-    void columnsArePaddedAndNeverCut_data();
-    void columnsArePaddedAndNeverCut();
-    void aSeparatorIsAsWideAsThePaper();
-    void aSlipArrivesUpToItsFirstZeroByte();
-    void copiesAreCutOneByOneInOneJob();
-    void noCopiesMakeAnEmptyJob();
-    void slipsStandInTheOrderOfPrinting();
-    void namesOfPrintersCannotLeaveTheFolder();
-    void aSlipInProgressIsNotSeen();
-    void anUnknownPrinterIsToldAndPrintsNothing();
-    void theFirstKnownPrinterIsTheDefault();
-    void aFullDiskIsToldOnceAndLeavesNoHalfSlip();
-    void aClosedPrinterTakesNothing();
-    void aFolderThatCannotBeMadeIsToldAsAnError();
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        QVERIFY(m_folder->isValid());
+        qputenv("ZAVEL_SPOOL_DIR", QFile::encodeName(m_folder->path()));
+    }
+
+    void cleanup() { qunsetenv("ZAVEL_SPOOL_DIR"); }
+
+    void theNotationBecomesBytes_data()
+    {
+        addColumns<QString, QByteArray>("notation", "bytes");
+
+        addRow("cut", "27#109", QByteArray("\x1B\x6D"));
+        addRow("drawer pulse", "27#112#0#25#250", QByteArray("\x1B\x70\x00\x19\xFA", 5));
+        addRow("letters stand for themselves", "29#V#66#0", QByteArray("\x1D\x56\x42\x00", 4));
+        addRow("a word counts by its first letter", "Cut", QByteArray("C"));
+        addRow("only eight bits fit", "300#-1", QByteArray("\x2C\xFF"));
+        addRow("a digit is a number, never a letter", "7", QByteArray("\x07"));
+        addRow("too large for a number", "99999999999", QByteArray("9"));
+        addRow("Latin letter", QString::fromUtf8("é"), QByteArray("\xE9"));
+        addRow("letter beyond Latin", QString::fromUtf8("Ж"), QByteArray("\0", 1));
+        addRow("trailing sign", "27#", QByteArray("\x1B\x00", 2));
+        addRow("doubled sign", "27##109", QByteArray("\x1B\x00\x6D", 3));
+        addRow("nothing", "", QByteArray("\0", 1));
+    }
+
+    void theNotationBecomesBytes()
+    {
+        QFETCH(QString, notation);
+        QTEST(AppLinePrinter::decodeControlSequence(notation), "bytes");
+    }
+
+    void columnsArePaddedAndNeverCut_data()
+    {
+        addColumns<QString, int, int, QString>("text", "alignment", "width", "column");
+
+        addRow("left", "Teh", 0, 6, "Teh   ");
+        addRow("right", "1,500", 1, 8, "   1,500");
+        addRow("centre", "Kopi", 2, 8, "  Kopi  ");
+        addRow("centre, odd", "Kopi", 2, 9, "  Kopi   ");
+        addRow("longer than the column", "Kuitan", 1, 3, "Kuitan");
+        addRow("no width", "Zavel", 2, 0, "Zavel");
+        addRow("nothing to show", "", 0, 3, "   ");
+        addRow("letters count, not bytes", QString::fromUtf8("Café"), 1, 6, QString::fromUtf8("  Café"));
+    }
+
+    void columnsArePaddedAndNeverCut()
+    {
+        QFETCH(QString, text);
+        QFETCH(int, alignment);
+        QFETCH(int, width);
+        QTEST(AppLinePrinter::justify(text, static_cast<QTextStream::FieldAlignment>(alignment), width), "column");
+    }
+
+    void aSeparatorIsAsWideAsThePaper()
+    {
+        QCOMPARE(AppLinePrinter::repeatChar('-', 5), QString("-----"));
+        QCOMPARE(AppLinePrinter::repeatChar('-', 0), QString());
+        QCOMPARE(AppLinePrinter::repeatChar('-', -3), QString());
+    }
+
+    void aSlipArrivesUpToItsFirstZeroByte()
+    {
+        Slip slip("Kasir", QByteArray("Total\n\0lost", 11), 1, AppLinePrinter::decodeControlSequence("29#V#66#0"));
+        QVERIFY(slip.print());
+        QCOMPARE(slips(), QStringList("000001-Kasir-Bill.slip"));
+        QCOMPARE(content("000001-Kasir-Bill.slip"), QByteArray("Total\n\x1D\x56\x42"));
+    }
+
+    void copiesAreCutOneByOneInOneJob()
+    {
+        Slip slip("Kasir", "body\n", 3, AppLinePrinter::decodeControlSequence("27#112#0#75#25"));
+        QVERIFY(slip.print());
+        QCOMPARE(slips().size(), 1);
+        QCOMPARE(content(slips().first()), QByteArray("body\n\x1B\x70"
+                                                      "body\n\x1B\x70"
+                                                      "body\n\x1B\x70"));
+    }
+
+    void noCopiesMakeAnEmptyJob()
+    {
+        Slip slip("Kasir", "body\n", 0, "x");
+        QVERIFY(slip.print());
+        QCOMPARE(slips().size(), 1);
+        QCOMPARE(content(slips().first()), QByteArray());
+    }
+
+    void slipsStandInTheOrderOfPrinting()
+    {
+        QFile earlier(m_folder->filePath("000998-Dapur-Menu.slip"));
+        QVERIFY(earlier.open(QIODevice::WriteOnly));
+        for (const char* text : {"first", "second", "third"})
+            QVERIFY(Slip("Kasir", text, 1, {}).print());
+        QCOMPARE(slips(), QStringList({"000998-Dapur-Menu.slip", "000999-Kasir-Bill.slip", "001000-Kasir-Bill.slip",
+                                       "001001-Kasir-Bill.slip"}));
+        QCOMPARE(content("000999-Kasir-Bill.slip"), QByteArray("first"));
+        QCOMPARE(content("001001-Kasir-Bill.slip"), QByteArray("third"));
+    }
+
+    void namesOfPrintersCannotLeaveTheFolder()
+    {
+        QVERIFY(Slip(QString::fromUtf8("../Küche 1"), "x", 1, {}).print());
+        QCOMPARE(slips(), QStringList("000001-.._K_che_1-Bill.slip"));
+    }
+
+    void aSlipInProgressIsNotSeen()
+    {
+        const QStringList finished("*.slip");
+        const QDir folder(m_folder->path());
+        {
+            auto slow = SlipSpooler::create();
+            auto quick = SlipSpooler::create();
+            QVERIFY(slow->openPrinter("Dapur", "Menu"));
+            QVERIFY(slow->write("half"));
+            QVERIFY(quick->openPrinter("Kasir", "Bill"));
+            QVERIFY(quick->close());
+            QCOMPARE(folder.entryList(finished), QStringList("000002-Kasir-Bill.slip"));
+            QVERIFY(slow->close());
+            QCOMPARE(folder.entryList(finished), QStringList({"000001-Dapur-Menu.slip", "000002-Kasir-Bill.slip"}));
+            QVERIFY(slow->openPrinter("Dapur", "Menu"));
+        }
+        QCOMPARE(slips().size(), 2); // the job that was never closed has left nothing behind
+    }
+
+    void anUnknownPrinterIsToldAndPrintsNothing()
+    {
+        knownPrinters("Kasir\n");
+        const ModalDriver person;
+        QVERIFY(!Slip("Dapur", "x", 1, {}).print());
+        QVERIFY(!Slip("", "x", 1, {}).print());
+        QCOMPARE(person.texts(), QStringList({"Error Opening Printer:Dapur", "Error Opening Printer:"}));
+        QCOMPARE(person.lastTitle(), QString("Error"));
+        QVERIFY(Slip("Kasir", "x", 1, {}).print());
+        QCOMPARE(slips(), QStringList({"000001-Kasir-Bill.slip", "printers"}));
+    }
+
+    void theFirstKnownPrinterIsTheDefault()
+    {
+        QVERIFY(SlipSpooler::create()->availablePrinters().isEmpty());
+        knownPrinters("Kasir\r\n\n Dapur 1 \n");
+        const QList<SlipPrinter> printers = SlipSpooler::create()->availablePrinters();
+        QCOMPARE(printers.size(), 2);
+        QCOMPARE(printers[0].name, QString("Kasir"));
+        QVERIFY(printers[0].isDefault);
+        QCOMPARE(printers[1].name, QString("Dapur 1"));
+        QVERIFY(!printers[1].isDefault);
+    }
+
+    void aFullDiskIsToldOnceAndLeavesNoHalfSlip()
+    {
+        const ModalDriver person;
+        {
+            FullDisk disk(16);
+            QVERIFY(!Slip("Kasir", "a line longer than the disk has room for\n", 2, "\x1Bm").print());
+        }
+        QCOMPARE(person.boxes().size(), 1);
+        QCOMPARE(person.lastTitle(), QString("Error"));
+        QVERIFY2(person.lastText().startsWith(m_folder->path()), qPrintable(person.lastText()));
+        QVERIFY(slips().isEmpty());
+    }
+
+    void aClosedPrinterTakesNothing()
+    {
+        Slip slip("Kasir", "x", 1, {});
+        QVERIFY(!slip.writeText("x"));
+        QVERIFY(!slip.closePrinter());
+        QVERIFY(slip.print());
+        QVERIFY(!slip.closePrinter());
+        const ModalDriver person;
+        QVERIFY(!slip.writeText("late"));
+        QCOMPARE(person.texts(), QStringList("The printer is not open."));
+        QCOMPARE(content(slips().first()), QByteArray("x"));
+    }
+
+    void aFolderThatCannotBeMadeIsToldAsAnError()
+    {
+        knownPrinters("Kasir\n");
+        qputenv("ZAVEL_SPOOL_DIR", QFile::encodeName(m_folder->filePath("printers/below")));
+        auto spooler = SlipSpooler::create();
+        QVERIFY(!spooler->openPrinter("Kasir", "Bill"));
+        QVERIFY(!spooler->errorText().isEmpty());
+        QVERIFY(!spooler->isOpen());
+    }
 
 private:
     [[nodiscard]] QStringList slips() const { return QDir(m_folder->path()).entryList(QDir::Files, QDir::Name); }
-    [[nodiscard]] QByteArray content(const QString& name) const;
-    void knownPrinters(const QByteArray& lines) const;
+    [[nodiscard]] QByteArray content(const QString& name) const
+    {
+        QFile file(m_folder->filePath(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no such slip: " + name.toUtf8());
+    }
+
+    void knownPrinters(const QByteArray& lines) const
+    {
+        QFile file(m_folder->filePath("printers"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(lines), qint64(lines.size()));
+    }
 
     std::unique_ptr<QTemporaryDir> m_folder;
 };
-
-void TestControlSequences::init()
-{
-    m_folder = std::make_unique<QTemporaryDir>();
-    QVERIFY(m_folder->isValid());
-    qputenv("ZAVEL_SPOOL_DIR", QFile::encodeName(m_folder->path()));
-}
-
-void TestControlSequences::cleanup() { qunsetenv("ZAVEL_SPOOL_DIR"); }
-
-QByteArray TestControlSequences::content(const QString& name) const
-{
-    QFile file(m_folder->filePath(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no such slip: " + name.toUtf8());
-}
-
-void TestControlSequences::knownPrinters(const QByteArray& lines) const
-{
-    QFile file(m_folder->filePath("printers"));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(lines), qint64(lines.size()));
-}
-
-void TestControlSequences::theNotationBecomesBytes_data()
-{
-    QTest::addColumn<QString>("notation");
-    QTest::addColumn<QByteArray>("bytes");
-
-    QTest::newRow("cut") << "27#109" << QByteArray("\x1B\x6D");
-    QTest::newRow("drawer pulse") << "27#112#0#25#250" << QByteArray("\x1B\x70\x00\x19\xFA", 5);
-    QTest::newRow("letters stand for themselves") << "29#V#66#0" << QByteArray("\x1D\x56\x42\x00", 4);
-    QTest::newRow("a word counts by its first letter") << "Cut" << QByteArray("C");
-    QTest::newRow("only eight bits fit") << "300#-1" << QByteArray("\x2C\xFF");
-    QTest::newRow("a digit is a number, never a letter") << "7" << QByteArray("\x07");
-    QTest::newRow("too large for a number") << "99999999999" << QByteArray("9");
-    QTest::newRow("Latin letter") << QString::fromUtf8("é") << QByteArray("\xE9");
-    QTest::newRow("letter beyond Latin") << QString::fromUtf8("Ж") << QByteArray("\0", 1);
-    QTest::newRow("trailing sign") << "27#" << QByteArray("\x1B\x00", 2);
-    QTest::newRow("doubled sign") << "27##109" << QByteArray("\x1B\x00\x6D", 3);
-    QTest::newRow("nothing") << "" << QByteArray("\0", 1);
-}
-
-void TestControlSequences::theNotationBecomesBytes()
-{
-    QFETCH(QString, notation);
-    QTEST(AppLinePrinter::decodeControlSequence(notation), "bytes");
-}
-
-void TestControlSequences::columnsArePaddedAndNeverCut_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("alignment");
-    QTest::addColumn<int>("width");
-    QTest::addColumn<QString>("column");
-
-    QTest::newRow("left") << "Teh" << 0 << 6 << "Teh   ";
-    QTest::newRow("right") << "1,500" << 1 << 8 << "   1,500";
-    QTest::newRow("centre") << "Kopi" << 2 << 8 << "  Kopi  ";
-    QTest::newRow("centre, odd") << "Kopi" << 2 << 9 << "  Kopi   ";
-    QTest::newRow("longer than the column") << "Kuitan" << 1 << 3 << "Kuitan";
-    QTest::newRow("no width") << "Zavel" << 2 << 0 << "Zavel";
-    QTest::newRow("nothing to show") << "" << 0 << 3 << "   ";
-    QTest::newRow("letters count, not bytes") << QString::fromUtf8("Café") << 1 << 6 << QString::fromUtf8("  Café");
-}
-
-void TestControlSequences::columnsArePaddedAndNeverCut()
-{
-    QFETCH(QString, text);
-    QFETCH(int, alignment);
-    QFETCH(int, width);
-    QTEST(AppLinePrinter::justify(text, static_cast<QTextStream::FieldAlignment>(alignment), width), "column");
-}
-
-void TestControlSequences::aSeparatorIsAsWideAsThePaper()
-{
-    QCOMPARE(AppLinePrinter::repeatChar('-', 5), QString("-----"));
-    QCOMPARE(AppLinePrinter::repeatChar('-', 0), QString());
-    QCOMPARE(AppLinePrinter::repeatChar('-', -3), QString());
-}
-
-void TestControlSequences::aSlipArrivesUpToItsFirstZeroByte()
-{
-    Slip slip("Kasir", QByteArray("Total\n\0lost", 11), 1, AppLinePrinter::decodeControlSequence("29#V#66#0"));
-    QVERIFY(slip.print());
-    QCOMPARE(slips(), QStringList("000001-Kasir-Bill.slip"));
-    QCOMPARE(content("000001-Kasir-Bill.slip"), QByteArray("Total\n\x1D\x56\x42"));
-}
-
-void TestControlSequences::copiesAreCutOneByOneInOneJob()
-{
-    Slip slip("Kasir", "body\n", 3, AppLinePrinter::decodeControlSequence("27#112#0#75#25"));
-    QVERIFY(slip.print());
-    QCOMPARE(slips().size(), 1);
-    QCOMPARE(content(slips().first()), QByteArray("body\n\x1B\x70"
-                                                  "body\n\x1B\x70"
-                                                  "body\n\x1B\x70"));
-}
-
-void TestControlSequences::noCopiesMakeAnEmptyJob()
-{
-    Slip slip("Kasir", "body\n", 0, "x");
-    QVERIFY(slip.print());
-    QCOMPARE(slips().size(), 1);
-    QCOMPARE(content(slips().first()), QByteArray());
-}
-
-void TestControlSequences::slipsStandInTheOrderOfPrinting()
-{
-    QFile earlier(m_folder->filePath("000998-Dapur-Menu.slip"));
-    QVERIFY(earlier.open(QIODevice::WriteOnly));
-    for (const char* text : {"first", "second", "third"})
-        QVERIFY(Slip("Kasir", text, 1, {}).print());
-    QCOMPARE(slips(), QStringList({"000998-Dapur-Menu.slip", "000999-Kasir-Bill.slip", "001000-Kasir-Bill.slip",
-                                   "001001-Kasir-Bill.slip"}));
-    QCOMPARE(content("000999-Kasir-Bill.slip"), QByteArray("first"));
-    QCOMPARE(content("001001-Kasir-Bill.slip"), QByteArray("third"));
-}
-
-void TestControlSequences::namesOfPrintersCannotLeaveTheFolder()
-{
-    QVERIFY(Slip(QString::fromUtf8("../Küche 1"), "x", 1, {}).print());
-    QCOMPARE(slips(), QStringList("000001-.._K_che_1-Bill.slip"));
-}
-
-void TestControlSequences::aSlipInProgressIsNotSeen()
-{
-    const QStringList finished("*.slip");
-    const QDir folder(m_folder->path());
-    {
-        auto slow = SlipSpooler::create();
-        auto quick = SlipSpooler::create();
-        QVERIFY(slow->openPrinter("Dapur", "Menu"));
-        QVERIFY(slow->write("half"));
-        QVERIFY(quick->openPrinter("Kasir", "Bill"));
-        QVERIFY(quick->close());
-        QCOMPARE(folder.entryList(finished), QStringList("000002-Kasir-Bill.slip"));
-        QVERIFY(slow->close());
-        QCOMPARE(folder.entryList(finished), QStringList({"000001-Dapur-Menu.slip", "000002-Kasir-Bill.slip"}));
-        QVERIFY(slow->openPrinter("Dapur", "Menu"));
-    }
-    QCOMPARE(slips().size(), 2); // the job that was never closed has left nothing behind
-}
-
-void TestControlSequences::anUnknownPrinterIsToldAndPrintsNothing()
-{
-    knownPrinters("Kasir\n");
-    const ModalDriver person;
-    QVERIFY(!Slip("Dapur", "x", 1, {}).print());
-    QVERIFY(!Slip("", "x", 1, {}).print());
-    QCOMPARE(person.texts(), QStringList({"Error Opening Printer:Dapur", "Error Opening Printer:"}));
-    QCOMPARE(person.lastTitle(), QString("Error"));
-    QVERIFY(Slip("Kasir", "x", 1, {}).print());
-    QCOMPARE(slips(), QStringList({"000001-Kasir-Bill.slip", "printers"}));
-}
-
-void TestControlSequences::theFirstKnownPrinterIsTheDefault()
-{
-    QVERIFY(SlipSpooler::create()->availablePrinters().isEmpty());
-    knownPrinters("Kasir\r\n\n Dapur 1 \n");
-    const QList<SlipPrinter> printers = SlipSpooler::create()->availablePrinters();
-    QCOMPARE(printers.size(), 2);
-    QCOMPARE(printers[0].name, QString("Kasir"));
-    QVERIFY(printers[0].isDefault);
-    QCOMPARE(printers[1].name, QString("Dapur 1"));
-    QVERIFY(!printers[1].isDefault);
-}
-
-void TestControlSequences::aFullDiskIsToldOnceAndLeavesNoHalfSlip()
-{
-    const ModalDriver person;
-    {
-        FullDisk disk(16);
-        QVERIFY(!Slip("Kasir", "a line longer than the disk has room for\n", 2, "\x1Bm").print());
-    }
-    QCOMPARE(person.boxes().size(), 1);
-    QCOMPARE(person.lastTitle(), QString("Error"));
-    QVERIFY2(person.lastText().startsWith(m_folder->path()), qPrintable(person.lastText()));
-    QVERIFY(slips().isEmpty());
-}
-
-void TestControlSequences::aClosedPrinterTakesNothing()
-{
-    Slip slip("Kasir", "x", 1, {});
-    QVERIFY(!slip.writeText("x"));
-    QVERIFY(!slip.closePrinter());
-    QVERIFY(slip.print());
-    QVERIFY(!slip.closePrinter());
-    const ModalDriver person;
-    QVERIFY(!slip.writeText("late"));
-    QCOMPARE(person.texts(), QStringList("The printer is not open."));
-    QCOMPARE(content(slips().first()), QByteArray("x"));
-}
-
-void TestControlSequences::aFolderThatCannotBeMadeIsToldAsAnError()
-{
-    knownPrinters("Kasir\n");
-    qputenv("ZAVEL_SPOOL_DIR", QFile::encodeName(m_folder->filePath("printers/below")));
-    auto spooler = SlipSpooler::create();
-    QVERIFY(!spooler->openPrinter("Kasir", "Bill"));
-    QVERIFY(!spooler->errorText().isEmpty());
-    QVERIFY(!spooler->isOpen());
-}
 
 QTEST_MAIN(TestControlSequences)
 #include "tst_control_sequences.moc"

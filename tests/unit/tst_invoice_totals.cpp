@@ -3,6 +3,7 @@
 #include "pos/invoice/Invoice.h"
 #include "pos/invoice/InvoiceStatus.h"
 #include "pos/totals/InvoiceTotals.h"
+#include "support/Rows.h"
 #include "zavel/order/EntityOrder.h"
 #include "zavel/order/OrderStatus.h"
 
@@ -44,245 +45,212 @@ class TestInvoiceTotals : public QObject
 
 private slots:
     void initTestCase() { AppContext::instance()->setLocale("id_ID"); }
-    void theFiguresFollowWhatIsTyped_data();
-    void theFiguresFollowWhatIsTyped();
-    void anAmountTellsItsPercentToThreeDecimals_data();
-    void anAmountTellsItsPercentToThreeDecimals();
-    void aPercentOfNothingIsShownButNotStored();
-    void aProposedDiscountMovesNoMoney();
-    void onlyWhatMoneyHoldsCanBeSaved_data();
-    void onlyWhatMoneyHoldsCanBeSaved();
-    void aLineBeyondWhatMoneyHoldsIsNoticed_data();
-    void aLineBeyondWhatMoneyHoldsIsNoticed();
-    void anInvoiceKeepsTheFiguresAndTurnsTheSignOfWhatIsDue();
-    void theStatusFollowsTheMoney_data();
-    void theStatusFollowsTheMoney();
+    void theFiguresFollowWhatIsTyped_data()
+    {
+        addColumns<QString, double, QStringList, double, double, QList<double>, double, double>(
+            "currency", "subtotal", "entries", "paid", "credit", "amounts", "grandTotal", "change");
+
+        const auto row = [](const char* name, const QString& currency, double subtotal, const QStringList& entries,
+                            double paid, double credit, const QList<double>& amounts, double grandTotal,
+                            double change) {
+            addRow(name, currency, subtotal, entries, paid, credit, amounts, grandTotal, change);
+        };
+        row("nothing typed", "Rp", 1000, {"", "", ""}, 0, 0, {0, 0, 0}, 1000, -1000);
+        row("ten percent off, paid with a round note", "Rp", 1000, {"10%", "", ""}, 1000, 0, {100, 0, 0}, 900, 100);
+        row("a note too small", "Rp", 1000, {"10%", "", ""}, 800, 0, {100, 0, 0}, 900, -100);
+        row("to the last coin", "Rp", 1000, {"10%", "", ""}, 900, 0, {100, 0, 0}, 900, 0);
+        row("all on credit", "Rp", 1000, {"", "", ""}, 0, 1000, {0, 0, 0}, 1000, 0);
+        row("all three of the subtotal alone", "Rp", 1000, {"10%", "11%", "5%"}, 0, 0, {100, 110, 50}, 1060, -1060);
+        row("half a coin rounds up", "Rp", 5, {"10%", "", ""}, 0, 0, {1, 0, 0}, 4, -4);
+        row("less than half rounds down", "Rp", 4, {"10%", "", ""}, 0, 0, {0, 0, 0}, 4, -4);
+        row("an amount with cents in a currency without", "Rp", 1000, {"99.6", "", ""}, 900.4, 0, {100, 0, 0}, 900, 0);
+        row("a surcharge is a negative discount", "Rp", 1000, {"-10%", "", ""}, 0, 0, {-100, 0, 0}, 1100, -1100);
+        row("half a coin of surcharge", "Rp", 5, {"-10%", "", ""}, 0, 0, {0, 0, 0}, 5, -5);
+        row("more off than it costs", "Rp", 1000, {"150%", "", ""}, 0, 0, {1500, 0, 0}, -500, 500);
+        row("cents are not stored", "$", 9.99, {"7.5%", "", ""}, 10.5, 0, {0, 0, 0}, 9, 1);
+        row("a tenth of 36 dollars", "$", 36, {"10%", "", ""}, 33, 0, {3, 0, 0}, 33, 0);
+        row("cents that binary fractions miss", "$", 10, {"", "4.35", "0.29"}, 14, 0, {0, 4, 0}, 14, 0);
+        row("no number for what was paid", "Rp", 1000, {"", "", ""}, nothing, 0, {0, 0, 0}, 1000, -1000);
+    }
+
+    void theFiguresFollowWhatIsTyped()
+    {
+        QFETCH(QString, currency);
+        QFETCH(double, subtotal);
+        QFETCH(QStringList, entries);
+        QFETCH(double, paid);
+        QFETCH(double, credit);
+        QFETCH(QList<double>, amounts);
+        QFETCH(double, grandTotal);
+        QFETCH(double, change);
+
+        InvoiceTotals totals = totalsOf(currency, subtotal);
+        for (const auto part : {InvoiceTotals::Discount, InvoiceTotals::Tax, InvoiceTotals::Service})
+            enter(totals, part, entries.at(part));
+        totals.setPaid(paid);
+        totals.setCredit(credit);
+
+        for (const auto part : {InvoiceTotals::Discount, InvoiceTotals::Tax, InvoiceTotals::Service})
+            QVERIFY2(same(totals.amount(part), amounts.at(part)), qPrintable(QString::number(totals.amount(part))));
+        QVERIFY2(same(totals.grandTotal(), grandTotal), qPrintable(QString::number(totals.grandTotal())));
+        QVERIFY2(same(totals.change(), change), qPrintable(QString::number(totals.change())));
+        // Exactly: a shortfall of a millionth of a cent would ask the guest for more.
+        QCOMPARE(totals.isShort(), change < 0);
+    }
+
+    void anAmountTellsItsPercentToThreeDecimals_data()
+    {
+        addColumns<double, double, double>("amount", "subtotal", "percent");
+        addRow("as it comes", 333.0, 1000.0, 33.3);
+        addRow("a third", 1.0, 3.0, 33.333);
+        addRow("two thirds", 2.0, 3.0, 66.667);
+        addRow("below the rounding point", 1.0, 250000.0, 0.0);
+        addRow("above it, though below the half", 99.0, 20000000.0, 0.001);
+        addRow("a surcharge", -333.0, 1000.0, -33.3);
+        addRow("something of nothing", 100.0, 0.0, std::numeric_limits<double>::infinity());
+    }
+
+    void anAmountTellsItsPercentToThreeDecimals()
+    {
+        QFETCH(double, amount);
+        QFETCH(double, subtotal);
+        QFETCH(double, percent);
+        InvoiceTotals totals = totalsOf("Rp", subtotal);
+        totals.setAmount(InvoiceTotals::Tax, amount);
+        QCOMPARE(totals.percent(InvoiceTotals::Tax), percent);
+    }
+
+    void aPercentOfNothingIsShownButNotStored()
+    {
+        InvoiceTotals totals = totalsOf("Rp", 0);
+        totals.setAmount(InvoiceTotals::Discount, 0);
+        totals.setAmount(InvoiceTotals::Tax, 100);
+        QVERIFY(std::isnan(totals.percent(InvoiceTotals::Discount)));
+        // Whoever leaves the percent's box gets no wild amount from it.
+        totals.setPercent(InvoiceTotals::Discount, totals.percent(InvoiceTotals::Discount));
+        QCOMPARE(totals.amount(InvoiceTotals::Discount), 0.0);
+        Invoice invoice;
+        totals.writeTo(&invoice);
+        QCOMPARE(invoice.getDiscountPerc(), 0.0);
+        QCOMPARE(invoice.getTaxPerc(), 0.0);
+        QCOMPARE(invoice.getTax()->getAmount(), 100.0);
+    }
+
+    void aProposedDiscountMovesNoMoney()
+    {
+        InvoiceTotals totals = totalsOf("Rp", 1000);
+        totals.proposePercent(InvoiceTotals::Discount, 15);
+        QCOMPARE(totals.grandTotal(), 1000.0);
+        totals.setPercent(InvoiceTotals::Discount, totals.percent(InvoiceTotals::Discount));
+        QCOMPARE(totals.grandTotal(), 850.0);
+        // The lines have changed: the amount stays, whatever its percent says.
+        totals.setSubtotal(2000);
+        QCOMPARE(totals.amount(InvoiceTotals::Discount), 150.0);
+        QCOMPARE(totals.grandTotal(), 1850.0);
+    }
+
+    void onlyWhatMoneyHoldsCanBeSaved_data()
+    {
+        addColumns<QString, double, double, double, double, bool>("currency", "subtotal", "tax", "paid", "credit",
+                                                                  "fits");
+        addRow("the largest amount", "Rp", 2147483647.0, 0.0, 0.0, 0.0, true);
+        addRow("one more", "Rp", 2147483648.0, 0.0, 0.0, 0.0, false);
+        addRow("with cents it holds less", "$", 2147483647.0, 0.0, 0.0, 0.0, false);
+        addRow("twenty million dollars", "$", 20000000.0, 0.0, 0.0, 0.0, true);
+        addRow("a total of amounts that fit", "Rp", 2e9, 1e9, 0.0, 0.0, false);
+        addRow("cash and credit together", "Rp", 1000.0, 0.0, 2e9, 1e9, false);
+        addRow("a change too large", "Rp", -2e9, 0.0, 1e9, 0.0, false);
+    }
+
+    void onlyWhatMoneyHoldsCanBeSaved()
+    {
+        QFETCH(QString, currency);
+        QFETCH(double, subtotal);
+        QFETCH(double, tax);
+        QFETCH(double, paid);
+        QFETCH(double, credit);
+        QFETCH(bool, fits);
+        InvoiceTotals totals = totalsOf(currency, subtotal);
+        totals.setAmount(InvoiceTotals::Tax, tax);
+        totals.setPaid(paid);
+        totals.setCredit(credit);
+        QCOMPARE(totals.fits(), fits);
+    }
+
+    void aLineBeyondWhatMoneyHoldsIsNoticed_data()
+    {
+        addColumns<double, int, bool>("price", "quantity", "fits");
+        addRow("a dinner", 25000.0, 4, true);
+        addRow("nothing ordered", 25000.0, 0, true);
+        addRow("just within", 1000000.0, 2147, true);
+        addRow("just beyond", 1000000.0, 2148, false);
+        // 65536 times 65536 is zero in 32 bits.
+        addRow("wrapped to nothing", 65536.0, 65536, false);
+    }
+
+    void aLineBeyondWhatMoneyHoldsIsNoticed()
+    {
+        QFETCH(double, price);
+        QFETCH(int, quantity);
+        EntityInvoiceDetail line;
+        line.setPriceEach(new Money(&line, price, "Rp"));
+        line.setQty(quantity);
+        QTEST(line.totalFits(), "fits");
+        line.recomputeTotal();
+        if (line.totalFits())
+            QCOMPARE(line.getTotal()->getAmount(), price * quantity);
+    }
+
+    void anInvoiceKeepsTheFiguresAndTurnsTheSignOfWhatIsDue()
+    {
+        InvoiceTotals totals = totalsOf("Rp", 1000);
+        totals.setPercent(InvoiceTotals::Discount, 10);
+        totals.setPercent(InvoiceTotals::Tax, 11);
+        totals.setPercent(InvoiceTotals::Service, 5);
+        totals.setPaid(1000);
+        totals.setCredit(200);
+        Invoice invoice;
+        totals.writeTo(&invoice);
+        QCOMPARE(invoice.getGrandTotal()->getAmount(), 1060.0);
+        QCOMPARE(totals.change(), 140.0);
+        QCOMPARE(invoice.getNetDue()->getAmount(), -140.0);
+
+        InvoiceTotals again;
+        again.readFrom(invoice);
+        QCOMPARE(again.percent(InvoiceTotals::Service), 5.0);
+        QCOMPARE(again.amount(InvoiceTotals::Service), 50.0);
+        QCOMPARE(again.grandTotal(), 1060.0);
+        QCOMPARE(again.change(), 140.0);
+    }
+
+    void theStatusFollowsTheMoney_data()
+    {
+        addColumns<double, double, double, int, int>("paid", "credit", "grandTotal", "invoiceStatus", "orderStatus");
+        addRow("nothing paid", 0.0, 0.0, 900.0, int(Invoice::UNPAID), int(EntityOrder::UNPAID));
+        addRow("a deposit", 100.0, 0.0, 900.0, int(Invoice::PARTIALLY_PAID), int(EntityOrder::PARTIALY_PAID));
+        addRow("exact", 900.0, 0.0, 900.0, int(Invoice::FULL_PAID), int(EntityOrder::PAID));
+        addRow("with change", 1000.0, 0.0, 900.0, int(Invoice::FULL_PAID), int(EntityOrder::PAID));
+        addRow("all on credit", 0.0, 900.0, 900.0, int(Invoice::FULL_PAID), int(EntityOrder::PAID));
+        addRow("cash and credit", 400.0, 500.0, 900.0, int(Invoice::FULL_PAID), int(EntityOrder::PAID));
+        addRow("one coin short", 899.0, 0.0, 900.0, int(Invoice::PARTIALLY_PAID), int(EntityOrder::PARTIALY_PAID));
+        addRow("on the house", 0.0, 0.0, 0.0, int(Invoice::UNPAID), int(EntityOrder::UNPAID));
+        addRow("beyond 32 bits together", 2e9, 2e9, 2e9, int(Invoice::FULL_PAID), int(EntityOrder::PAID));
+    }
+
+    void theStatusFollowsTheMoney()
+    {
+        QFETCH(double, paid);
+        QFETCH(double, credit);
+        QFETCH(double, grandTotal);
+        Invoice invoice;
+        invoice.setAmountPaid(new Money(&invoice, paid, "Rp"));
+        invoice.setOtherPayment(new Money(&invoice, credit, "Rp"));
+        invoice.setGrandTotal(new Money(&invoice, grandTotal, "Rp"));
+        setInvoiceStatus(&invoice);
+        QTEST(invoice.getStatus(), "invoiceStatus");
+        QTEST(orderStatusOfInvoice(invoice), "orderStatus");
+    }
 };
-
-void TestInvoiceTotals::theFiguresFollowWhatIsTyped_data()
-{
-    QTest::addColumn<QString>("currency");
-    QTest::addColumn<double>("subtotal");
-    QTest::addColumn<QStringList>("entries");
-    QTest::addColumn<double>("paid");
-    QTest::addColumn<double>("credit");
-    QTest::addColumn<QList<double>>("amounts");
-    QTest::addColumn<double>("grandTotal");
-    QTest::addColumn<double>("change");
-
-    const auto row = [](const char* name, const QString& currency, double subtotal, const QStringList& entries,
-                        double paid, double credit, const QList<double>& amounts, double grandTotal, double change) {
-        QTest::newRow(name) << currency << subtotal << entries << paid << credit << amounts << grandTotal << change;
-    };
-    row("nothing typed", "Rp", 1000, {"", "", ""}, 0, 0, {0, 0, 0}, 1000, -1000);
-    row("ten percent off, paid with a round note", "Rp", 1000, {"10%", "", ""}, 1000, 0, {100, 0, 0}, 900, 100);
-    row("a note too small", "Rp", 1000, {"10%", "", ""}, 800, 0, {100, 0, 0}, 900, -100);
-    row("to the last coin", "Rp", 1000, {"10%", "", ""}, 900, 0, {100, 0, 0}, 900, 0);
-    row("all on credit", "Rp", 1000, {"", "", ""}, 0, 1000, {0, 0, 0}, 1000, 0);
-    row("all three of the subtotal alone", "Rp", 1000, {"10%", "11%", "5%"}, 0, 0, {100, 110, 50}, 1060, -1060);
-    row("half a coin rounds up", "Rp", 5, {"10%", "", ""}, 0, 0, {1, 0, 0}, 4, -4);
-    row("less than half rounds down", "Rp", 4, {"10%", "", ""}, 0, 0, {0, 0, 0}, 4, -4);
-    row("an amount with cents in a currency without", "Rp", 1000, {"99.6", "", ""}, 900.4, 0, {100, 0, 0}, 900, 0);
-    row("a surcharge is a negative discount", "Rp", 1000, {"-10%", "", ""}, 0, 0, {-100, 0, 0}, 1100, -1100);
-    row("half a coin of surcharge", "Rp", 5, {"-10%", "", ""}, 0, 0, {0, 0, 0}, 5, -5);
-    row("more off than it costs", "Rp", 1000, {"150%", "", ""}, 0, 0, {1500, 0, 0}, -500, 500);
-    row("cents are not stored", "$", 9.99, {"7.5%", "", ""}, 10.5, 0, {0, 0, 0}, 9, 1);
-    row("a tenth of 36 dollars", "$", 36, {"10%", "", ""}, 33, 0, {3, 0, 0}, 33, 0);
-    row("cents that binary fractions miss", "$", 10, {"", "4.35", "0.29"}, 14, 0, {0, 4, 0}, 14, 0);
-    row("no number for what was paid", "Rp", 1000, {"", "", ""}, nothing, 0, {0, 0, 0}, 1000, -1000);
-}
-
-void TestInvoiceTotals::theFiguresFollowWhatIsTyped()
-{
-    QFETCH(QString, currency);
-    QFETCH(double, subtotal);
-    QFETCH(QStringList, entries);
-    QFETCH(double, paid);
-    QFETCH(double, credit);
-    QFETCH(QList<double>, amounts);
-    QFETCH(double, grandTotal);
-    QFETCH(double, change);
-
-    InvoiceTotals totals = totalsOf(currency, subtotal);
-    for (const auto part : {InvoiceTotals::Discount, InvoiceTotals::Tax, InvoiceTotals::Service})
-        enter(totals, part, entries.at(part));
-    totals.setPaid(paid);
-    totals.setCredit(credit);
-
-    for (const auto part : {InvoiceTotals::Discount, InvoiceTotals::Tax, InvoiceTotals::Service})
-        QVERIFY2(same(totals.amount(part), amounts.at(part)), qPrintable(QString::number(totals.amount(part))));
-    QVERIFY2(same(totals.grandTotal(), grandTotal), qPrintable(QString::number(totals.grandTotal())));
-    QVERIFY2(same(totals.change(), change), qPrintable(QString::number(totals.change())));
-    // Exactly: a shortfall of a millionth of a cent would ask the guest for more.
-    QCOMPARE(totals.isShort(), change < 0);
-}
-
-void TestInvoiceTotals::anAmountTellsItsPercentToThreeDecimals_data()
-{
-    QTest::addColumn<double>("amount");
-    QTest::addColumn<double>("subtotal");
-    QTest::addColumn<double>("percent");
-    QTest::newRow("as it comes") << 333.0 << 1000.0 << 33.3;
-    QTest::newRow("a third") << 1.0 << 3.0 << 33.333;
-    QTest::newRow("two thirds") << 2.0 << 3.0 << 66.667;
-    QTest::newRow("below the rounding point") << 1.0 << 250000.0 << 0.0;
-    QTest::newRow("above it, though below the half") << 99.0 << 20000000.0 << 0.001;
-    QTest::newRow("a surcharge") << -333.0 << 1000.0 << -33.3;
-    QTest::newRow("something of nothing") << 100.0 << 0.0 << std::numeric_limits<double>::infinity();
-}
-
-void TestInvoiceTotals::anAmountTellsItsPercentToThreeDecimals()
-{
-    QFETCH(double, amount);
-    QFETCH(double, subtotal);
-    QFETCH(double, percent);
-    InvoiceTotals totals = totalsOf("Rp", subtotal);
-    totals.setAmount(InvoiceTotals::Tax, amount);
-    QCOMPARE(totals.percent(InvoiceTotals::Tax), percent);
-}
-
-void TestInvoiceTotals::aPercentOfNothingIsShownButNotStored()
-{
-    InvoiceTotals totals = totalsOf("Rp", 0);
-    totals.setAmount(InvoiceTotals::Discount, 0);
-    totals.setAmount(InvoiceTotals::Tax, 100);
-    QVERIFY(std::isnan(totals.percent(InvoiceTotals::Discount)));
-    // Whoever leaves the percent's box gets no wild amount from it.
-    totals.setPercent(InvoiceTotals::Discount, totals.percent(InvoiceTotals::Discount));
-    QCOMPARE(totals.amount(InvoiceTotals::Discount), 0.0);
-    Invoice invoice;
-    totals.writeTo(&invoice);
-    QCOMPARE(invoice.getDiscountPerc(), 0.0);
-    QCOMPARE(invoice.getTaxPerc(), 0.0);
-    QCOMPARE(invoice.getTax()->getAmount(), 100.0);
-}
-
-void TestInvoiceTotals::aProposedDiscountMovesNoMoney()
-{
-    InvoiceTotals totals = totalsOf("Rp", 1000);
-    totals.proposePercent(InvoiceTotals::Discount, 15);
-    QCOMPARE(totals.grandTotal(), 1000.0);
-    totals.setPercent(InvoiceTotals::Discount, totals.percent(InvoiceTotals::Discount));
-    QCOMPARE(totals.grandTotal(), 850.0);
-    // The lines have changed: the amount stays, whatever its percent says.
-    totals.setSubtotal(2000);
-    QCOMPARE(totals.amount(InvoiceTotals::Discount), 150.0);
-    QCOMPARE(totals.grandTotal(), 1850.0);
-}
-
-void TestInvoiceTotals::onlyWhatMoneyHoldsCanBeSaved_data()
-{
-    QTest::addColumn<QString>("currency");
-    QTest::addColumn<double>("subtotal");
-    QTest::addColumn<double>("tax");
-    QTest::addColumn<double>("paid");
-    QTest::addColumn<double>("credit");
-    QTest::addColumn<bool>("fits");
-    QTest::newRow("the largest amount") << "Rp" << 2147483647.0 << 0.0 << 0.0 << 0.0 << true;
-    QTest::newRow("one more") << "Rp" << 2147483648.0 << 0.0 << 0.0 << 0.0 << false;
-    QTest::newRow("with cents it holds less") << "$" << 2147483647.0 << 0.0 << 0.0 << 0.0 << false;
-    QTest::newRow("twenty million dollars") << "$" << 20000000.0 << 0.0 << 0.0 << 0.0 << true;
-    QTest::newRow("a total of amounts that fit") << "Rp" << 2e9 << 1e9 << 0.0 << 0.0 << false;
-    QTest::newRow("cash and credit together") << "Rp" << 1000.0 << 0.0 << 2e9 << 1e9 << false;
-    QTest::newRow("a change too large") << "Rp" << -2e9 << 0.0 << 1e9 << 0.0 << false;
-}
-
-void TestInvoiceTotals::onlyWhatMoneyHoldsCanBeSaved()
-{
-    QFETCH(QString, currency);
-    QFETCH(double, subtotal);
-    QFETCH(double, tax);
-    QFETCH(double, paid);
-    QFETCH(double, credit);
-    QFETCH(bool, fits);
-    InvoiceTotals totals = totalsOf(currency, subtotal);
-    totals.setAmount(InvoiceTotals::Tax, tax);
-    totals.setPaid(paid);
-    totals.setCredit(credit);
-    QCOMPARE(totals.fits(), fits);
-}
-
-void TestInvoiceTotals::aLineBeyondWhatMoneyHoldsIsNoticed_data()
-{
-    QTest::addColumn<double>("price");
-    QTest::addColumn<int>("quantity");
-    QTest::addColumn<bool>("fits");
-    QTest::newRow("a dinner") << 25000.0 << 4 << true;
-    QTest::newRow("nothing ordered") << 25000.0 << 0 << true;
-    QTest::newRow("just within") << 1000000.0 << 2147 << true;
-    QTest::newRow("just beyond") << 1000000.0 << 2148 << false;
-    // 65536 times 65536 is zero in 32 bits.
-    QTest::newRow("wrapped to nothing") << 65536.0 << 65536 << false;
-}
-
-void TestInvoiceTotals::aLineBeyondWhatMoneyHoldsIsNoticed()
-{
-    QFETCH(double, price);
-    QFETCH(int, quantity);
-    EntityInvoiceDetail line;
-    line.setPriceEach(new Money(&line, price, "Rp"));
-    line.setQty(quantity);
-    QTEST(line.totalFits(), "fits");
-    line.recomputeTotal();
-    if (line.totalFits())
-        QCOMPARE(line.getTotal()->getAmount(), price * quantity);
-}
-
-void TestInvoiceTotals::anInvoiceKeepsTheFiguresAndTurnsTheSignOfWhatIsDue()
-{
-    InvoiceTotals totals = totalsOf("Rp", 1000);
-    totals.setPercent(InvoiceTotals::Discount, 10);
-    totals.setPercent(InvoiceTotals::Tax, 11);
-    totals.setPercent(InvoiceTotals::Service, 5);
-    totals.setPaid(1000);
-    totals.setCredit(200);
-    Invoice invoice;
-    totals.writeTo(&invoice);
-    QCOMPARE(invoice.getGrandTotal()->getAmount(), 1060.0);
-    QCOMPARE(totals.change(), 140.0);
-    QCOMPARE(invoice.getNetDue()->getAmount(), -140.0);
-
-    InvoiceTotals again;
-    again.readFrom(invoice);
-    QCOMPARE(again.percent(InvoiceTotals::Service), 5.0);
-    QCOMPARE(again.amount(InvoiceTotals::Service), 50.0);
-    QCOMPARE(again.grandTotal(), 1060.0);
-    QCOMPARE(again.change(), 140.0);
-}
-
-void TestInvoiceTotals::theStatusFollowsTheMoney_data()
-{
-    QTest::addColumn<double>("paid");
-    QTest::addColumn<double>("credit");
-    QTest::addColumn<double>("grandTotal");
-    QTest::addColumn<int>("invoiceStatus");
-    QTest::addColumn<int>("orderStatus");
-    QTest::newRow("nothing paid") << 0.0 << 0.0 << 900.0 << int(Invoice::UNPAID) << int(EntityOrder::UNPAID);
-    QTest::newRow("a deposit") << 100.0 << 0.0 << 900.0 << int(Invoice::PARTIALLY_PAID)
-                               << int(EntityOrder::PARTIALY_PAID);
-    QTest::newRow("exact") << 900.0 << 0.0 << 900.0 << int(Invoice::FULL_PAID) << int(EntityOrder::PAID);
-    QTest::newRow("with change") << 1000.0 << 0.0 << 900.0 << int(Invoice::FULL_PAID) << int(EntityOrder::PAID);
-    QTest::newRow("all on credit") << 0.0 << 900.0 << 900.0 << int(Invoice::FULL_PAID) << int(EntityOrder::PAID);
-    QTest::newRow("cash and credit") << 400.0 << 500.0 << 900.0 << int(Invoice::FULL_PAID) << int(EntityOrder::PAID);
-    QTest::newRow("one coin short") << 899.0 << 0.0 << 900.0 << int(Invoice::PARTIALLY_PAID)
-                                    << int(EntityOrder::PARTIALY_PAID);
-    QTest::newRow("on the house") << 0.0 << 0.0 << 0.0 << int(Invoice::UNPAID) << int(EntityOrder::UNPAID);
-    QTest::newRow("beyond 32 bits together") << 2e9 << 2e9 << 2e9 << int(Invoice::FULL_PAID) << int(EntityOrder::PAID);
-}
-
-void TestInvoiceTotals::theStatusFollowsTheMoney()
-{
-    QFETCH(double, paid);
-    QFETCH(double, credit);
-    QFETCH(double, grandTotal);
-    Invoice invoice;
-    invoice.setAmountPaid(new Money(&invoice, paid, "Rp"));
-    invoice.setOtherPayment(new Money(&invoice, credit, "Rp"));
-    invoice.setGrandTotal(new Money(&invoice, grandTotal, "Rp"));
-    setInvoiceStatus(&invoice);
-    QTEST(invoice.getStatus(), "invoiceStatus");
-    QTEST(orderStatusOfInvoice(invoice), "orderStatus");
-}
 
 QTEST_MAIN(TestInvoiceTotals)
 #include "tst_invoice_totals.moc"

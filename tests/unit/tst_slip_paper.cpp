@@ -1,5 +1,6 @@
 #include "pos/printing/printer/PaperCut.h"
 #include "pos/printing/slips/SlipPaper.h"
+#include "support/Rows.h"
 
 #include <QFile>
 #include <QScrollBar>
@@ -32,165 +33,147 @@ class TestSlipPaper final : public QObject
     Q_OBJECT
 
 private slots:
-    void thePaperShowsWhatThePrinterPrints_data();
-    void thePaperShowsWhatThePrinterPrints();
-    void anyBytesAreReadToTheirEnd();
-    void theWidgetScalesAndScrolls();
-    void aCutIsTold_data();
-    void aCutIsTold();
-};
+    void thePaperShowsWhatThePrinterPrints_data()
+    {
+        addColumns<QByteArray, int, QStringList>("bytes", "columns", "lines");
+        const auto row = [](const char* name, const QByteArray& bytes, int columns, const QStringList& lines) {
+            addRow(name, bytes, columns, lines);
+        };
+        using B = QByteArray;
 
-void TestSlipPaper::thePaperShowsWhatThePrinterPrints_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<int>("columns");
-    QTest::addColumn<QStringList>("lines");
-    const auto row = [](const char* name, const QByteArray& bytes, int columns, const QStringList& lines) {
-        QTest::newRow(name) << bytes << columns << lines;
-    };
-    using B = QByteArray;
+        row("lines", "one\ntwo\r\n\nthree", 20, {"one", "two", "", "three"});
+        row("letters of two bytes", B("Café é\n"), 6, {QString::fromUtf8("Café é")});
+        row("half a letter", B("x\xC3\ny\n"), 20, {QString("x") + QChar(0xFFFD), "y"});
+        row("a long line goes on", "1234567\n89\n", 5, {"12345", "67", "89"});
+        row("a full line and its line feed are one", "12345\n6\n", 5, {"12345", "6"});
+        row("no width", "1234567\n", 0, {"1234567"});
+        row("tab", "a\tb\n", 20, {"a       b"});
 
-    row("lines", "one\ntwo\r\n\nthree", 20, {"one", "two", "", "three"});
-    row("letters of two bytes", B("Café é\n"), 6, {QString::fromUtf8("Café é")});
-    row("half a letter", B("x\xC3\ny\n"), 20, {QString("x") + QChar(0xFFFD), "y"});
-    row("a long line goes on", "1234567\n89\n", 5, {"12345", "67", "89"});
-    row("a full line and its line feed are one", "12345\n6\n", 5, {"12345", "6"});
-    row("no width", "1234567\n", 0, {"1234567"});
-    row("tab", "a\tb\n", 20, {"a       b"});
+        row("bold",
+            B("a\x1B"
+              "E1b\x1B"
+              "E0c\n"),
+            20, {"a*b*c"});
+        row("double strike", B("\x1BG\x01x\x1BG\x00y\n", 8), 20, {"*x*y"});
+        row("underline", B("\x1B-1x\x1B-0y\n"), 20, {"_x_y"});
+        row("mode", B("\x1B!\x39x\x1B!\x00y\n", 9), 20, {"2x2 *x*y"});
+        row("size", B("\x1D!\x21x\x1D!\x00y\n", 9), 20, {"3x2 xy"});
+        row("large letters wrap by their width",
+            B("\x1D!\x10"
+              "abc\n"),
+            4, {"2x1 ab", "2x1 c"});
+        row("alignment",
+            B("\x1B"
+              "a1mid\n\x1B"
+              "a\x02right\n\x1B@left\n"),
+            20, {"<mid", ">right", "left"});
+        row("reset",
+            B("\x1B"
+              "E1\x1B-1x\x1B@y\n"),
+            20, {"_*x*_y"});
+        row("feed",
+            B("x\x1B"
+              "d\x02y\n"),
+            20, {"x", "", "y"});
 
-    row("bold",
-        B("a\x1B"
-          "E1b\x1B"
-          "E0c\n"),
-        20, {"a*b*c"});
-    row("double strike", B("\x1BG\x01x\x1BG\x00y\n", 8), 20, {"*x*y"});
-    row("underline", B("\x1B-1x\x1B-0y\n"), 20, {"_x_y"});
-    row("mode", B("\x1B!\x39x\x1B!\x00y\n", 9), 20, {"2x2 *x*y"});
-    row("size", B("\x1D!\x21x\x1D!\x00y\n", 9), 20, {"3x2 xy"});
-    row("large letters wrap by their width",
-        B("\x1D!\x10"
-          "abc\n"),
-        4, {"2x1 ab", "2x1 c"});
-    row("alignment",
-        B("\x1B"
-          "a1mid\n\x1B"
-          "a\x02right\n\x1B@left\n"),
-        20, {"<mid", ">right", "left"});
-    row("reset",
-        B("\x1B"
-          "E1\x1B-1x\x1B@y\n"),
-        20, {"_*x*_y"});
-    row("feed",
-        B("x\x1B"
-          "d\x02y\n"),
-        20, {"x", "", "y"});
+        row("cut m", "x\n\x1Bm", 20, {"x", "---"});
+        row("cut i, two copies", "x\n\x1Bix\n\x1Bi", 20, {"x", "---", "x", "---"});
+        row("cut V 1", B("x\n\x1DV\x01y"), 20, {"x", "---", "y"});
+        row("cut V as a digit", "x\n\x1DV1y", 20, {"x", "---", "y"});
+        row("cut with its parameter", B("x\n\x1DV\x42\x01y\n\x1DV\x42\x01"), 20, {"x", "---", "y", "---"});
+        row("cut without its parameter, two copies", "x\n\x1DVBy\n\x1DVB", 20, {"x", "---", "y", "---"});
+        row("cut by a pulse that ends early", "x\n\x1Bpy\n\x1Bp", 20, {"x", "---", "y", "---"});
+        row("cut in a line", "x\x1Bmy", 20, {"x", "---", "y"});
 
-    row("cut m", "x\n\x1Bm", 20, {"x", "---"});
-    row("cut i, two copies", "x\n\x1Bix\n\x1Bi", 20, {"x", "---", "x", "---"});
-    row("cut V 1", B("x\n\x1DV\x01y"), 20, {"x", "---", "y"});
-    row("cut V as a digit", "x\n\x1DV1y", 20, {"x", "---", "y"});
-    row("cut with its parameter", B("x\n\x1DV\x42\x01y\n\x1DV\x42\x01"), 20, {"x", "---", "y", "---"});
-    row("cut without its parameter, two copies", "x\n\x1DVBy\n\x1DVB", 20, {"x", "---", "y", "---"});
-    row("cut by a pulse that ends early", "x\n\x1Bpy\n\x1Bp", 20, {"x", "---", "y", "---"});
-    row("cut in a line", "x\x1Bmy", 20, {"x", "---", "y"});
+        row("drawer",
+            B("a\x1Bp\x00\x19\xFA"
+              "b\x1Bp0<xc\n",
+              14),
+            20, {"abc"});
+        row("commands without a trace",
+            B("\x1Bt\x02\x1BR0\x1B"
+              "3\x20\x1DL\x41\x41\x1C.\x1D"
+              "a\xFF"
+              "ok\n"),
+            20, {"ok"});
+        row("tabs set anew",
+            B("\x1B"
+              "D\x08\x10\x00ok\n",
+              8),
+            20, {"ok"});
+        row("picture", B("\x1Dv0\x00\x01\x00\x02\x00QQok\n", 13), 20, {"ok"});
+        row("bar code", B("\x1Dk\x49\x03QQQok\n"), 20, {"ok"});
+        row("unknown", B("\x01\x1B\x05\x1Bz\x7Fok\x02\n"), 20, {"ok"});
+        row("a command without its end", B("ok\n\x1B"), 20, {"ok"});
+    }
 
-    row("drawer",
-        B("a\x1Bp\x00\x19\xFA"
-          "b\x1Bp0<xc\n",
-          14),
-        20, {"abc"});
-    row("commands without a trace",
-        B("\x1Bt\x02\x1BR0\x1B"
-          "3\x20\x1DL\x41\x41\x1C.\x1D"
-          "a\xFF"
-          "ok\n"),
-        20, {"ok"});
-    row("tabs set anew",
-        B("\x1B"
-          "D\x08\x10\x00ok\n",
-          8),
-        20, {"ok"});
-    row("picture", B("\x1Dv0\x00\x01\x00\x02\x00QQok\n", 13), 20, {"ok"});
-    row("bar code", B("\x1Dk\x49\x03QQQok\n"), 20, {"ok"});
-    row("unknown", B("\x01\x1B\x05\x1Bz\x7Fok\x02\n"), 20, {"ok"});
-    row("a command without its end", B("ok\n\x1B"), 20, {"ok"});
-}
+    void thePaperShowsWhatThePrinterPrints()
+    {
+        QFETCH(QByteArray, bytes);
+        QFETCH(int, columns);
+        QStringList lines;
+        for (const SlipLine& line : SlipScript::read(bytes, columns))
+            lines.append(inWords(line));
+        QTEST(lines, "lines");
+    }
 
-void TestSlipPaper::thePaperShowsWhatThePrinterPrints()
-{
-    QFETCH(QByteArray, bytes);
-    QFETCH(int, columns);
-    QStringList lines;
-    for (const SlipLine& line : SlipScript::read(bytes, columns))
-        lines.append(inWords(line));
-    QTEST(lines, "lines");
-}
-
-void TestSlipPaper::anyBytesAreReadToTheirEnd()
-{
-    // Whatever a type's sequence holds, and wherever a slip ends.
-    for (int first : {0x1B, 0x1C, 0x1D, 0x10}) {
-        for (int letter = 0; letter < 256; ++letter) {
-            QByteArray bytes("x");
-            bytes.append(char(first)).append(char(letter));
-            for (int parameters = 0; parameters < 6; ++parameters) {
-                QVERIFY(SlipScript::read(bytes, 20).value(0).text().startsWith('x'));
-                bytes.append(char(0xFF));
+    void anyBytesAreReadToTheirEnd()
+    {
+        // Whatever a type's sequence holds, and wherever a slip ends.
+        for (int first : {0x1B, 0x1C, 0x1D, 0x10}) {
+            for (int letter = 0; letter < 256; ++letter) {
+                QByteArray bytes("x");
+                bytes.append(char(first)).append(char(letter));
+                for (int parameters = 0; parameters < 6; ++parameters) {
+                    QVERIFY(SlipScript::read(bytes, 20).value(0).text().startsWith('x'));
+                    bytes.append(char(0xFF));
+                }
             }
         }
     }
-}
 
-void TestSlipPaper::theWidgetScalesAndScrolls()
-{
-    SlipPaper paper;
-    paper.showSlip(QByteArray("1234567890123456789012345678901234567890\n").repeated(90), 40);
-    paper.resize(900, 300);
-    paper.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&paper));
-    QVERIFY(paper.verticalScrollBar()->maximum() > 0);
-    QCOMPARE(paper.horizontalScrollBar()->maximum(), 0);
-    QTest::keyClick(&paper, Qt::Key_End);
-    QCOMPARE(paper.verticalScrollBar()->value(), paper.verticalScrollBar()->maximum());
-    const int tall = paper.verticalScrollBar()->maximum();
-    paper.resize(280, 300);
-    QVERIFY(paper.verticalScrollBar()->maximum() < tall);
-    QCOMPARE(paper.horizontalScrollBar()->maximum(), 0);
+    void theWidgetScalesAndScrolls()
+    {
+        SlipPaper paper;
+        paper.showSlip(QByteArray("1234567890123456789012345678901234567890\n").repeated(90), 40);
+        paper.resize(900, 300);
+        paper.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&paper));
+        QVERIFY(paper.verticalScrollBar()->maximum() > 0);
+        QCOMPARE(paper.horizontalScrollBar()->maximum(), 0);
+        QTest::keyClick(&paper, Qt::Key_End);
+        QCOMPARE(paper.verticalScrollBar()->value(), paper.verticalScrollBar()->maximum());
+        const int tall = paper.verticalScrollBar()->maximum();
+        paper.resize(280, 300);
+        QVERIFY(paper.verticalScrollBar()->maximum() < tall);
+        QCOMPARE(paper.horizontalScrollBar()->maximum(), 0);
 
-    paper.showNothing("no slip");
-    QCOMPARE(paper.verticalScrollBar()->maximum(), 0);
-    QCOMPARE(paper.text(), QString());
-}
+        paper.showNothing("no slip");
+        QCOMPARE(paper.verticalScrollBar()->maximum(), 0);
+        QCOMPARE(paper.text(), QString());
+    }
 
-void TestSlipPaper::aCutIsTold_data()
-{
-    QTest::addColumn<QString>("notation");
-    QTest::addColumn<QString>("begins");
-    QTest::newRow("feeds, partial") << "29#V#66#1"
-                                    << "Feeds the paper to the knife, cuts it and leaves";
-    QTest::newRow("feeds, full") << "29#V#65#1"
-                                 << "Feeds the paper to the knife and cuts it through";
-    QTest::newRow("partial") << "29#V#49"
-                             << "Cuts the paper and leaves";
-    QTest::newRow("full") << "27#105"
-                          << "Cuts the paper through";
-    QTest::newRow("ends early") << "29#V#66#0"
-                                << "This type's cut lacks its end";
-    QTest::newRow("ends early too") << "27#112#0#75#25"
-                                    << "This type's cut lacks its end";
-    QTest::newRow("none") << ""
-                          << "This type cuts nothing";
-    QTest::newRow("another") << "27#100#5"
-                             << "Sends the bytes 1B 64 05";
-}
+    void aCutIsTold_data()
+    {
+        addColumns<QString, QString>("notation", "begins");
+        addRow("feeds, partial", "29#V#66#1", "Feeds the paper to the knife, cuts it and leaves");
+        addRow("feeds, full", "29#V#65#1", "Feeds the paper to the knife and cuts it through");
+        addRow("partial", "29#V#49", "Cuts the paper and leaves");
+        addRow("full", "27#105", "Cuts the paper through");
+        addRow("ends early", "29#V#66#0", "This type's cut lacks its end");
+        addRow("ends early too", "27#112#0#75#25", "This type's cut lacks its end");
+        addRow("none", "", "This type cuts nothing");
+        addRow("another", "27#100#5", "Sends the bytes 1B 64 05");
+    }
 
-void TestSlipPaper::aCutIsTold()
-{
-    QFETCH(QString, notation);
-    QFETCH(QString, begins);
-    const QString told = PaperCut(notation).description();
-    QVERIFY2(told.startsWith(begins), qPrintable(told));
-}
+    void aCutIsTold()
+    {
+        QFETCH(QString, notation);
+        QFETCH(QString, begins);
+        const QString told = PaperCut(notation).description();
+        QVERIFY2(told.startsWith(begins), qPrintable(told));
+    }
+};
 
 QTEST_MAIN(TestSlipPaper)
 #include "tst_slip_paper.moc"
