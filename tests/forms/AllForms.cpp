@@ -1,28 +1,15 @@
 #include "forms/AllForms.h"
 
 #include "app/access/DialogLogin.h"
-#include "app/access/DialogUser.h"
 #include "app/access/DialogUserAccess.h"
-#include "app/access/DialogUserGroup.h"
 #include "app/context/AppContext.h"
-#include "app/numbers/DialogKeyTable.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/widgets/DialogKeyboard.h"
 #include "pos/cash/ledger/DialogCashFlow.h"
 #include "pos/cash/transfer/DialogTransaction.h"
-#include "pos/inventory/adjustment/DialogInventoryAdj.h"
-#include "pos/inventory/balance/DialogStokAwal.h"
-#include "pos/masterdata/account/DialogBank.h"
-#include "pos/masterdata/agent/DialogAgent.h"
 #include "pos/masterdata/company/DialogDataPerusahaan.h"
-#include "pos/masterdata/employee/DialogEmployee.h"
-#include "pos/masterdata/item/DialogItem.h"
 #include "pos/masterdata/item/DialogSubItem.h"
-#include "pos/masterdata/itemtype/DialogJenisItem.h"
-#include "pos/masterdata/member/DialogMember.h"
 #include "pos/masterdata/supplier/BusinessSupplier.h"
-#include "pos/masterdata/supplier/DialogSupplier.h"
-#include "pos/masterdata/unit/DialogSatuan.h"
 #include "pos/printing/configuration/DialogCashierAndKitchenPrinter.h"
 #include "pos/printing/configuration/DialogFilterJenisItem.h"
 #include "pos/printing/configuration/DialogKitchenFoodPrinter.h"
@@ -55,7 +42,7 @@
 #include "shell/window/DialogAbout.h"
 #include "shell/window/HelpWindow.h"
 #include "shell/window/MainWindow.h"
-#include "shell/window/TabFactories.h"
+#include "shell/window/Pages.h"
 #include "support/LedgerRows.h"
 #include "support/ShopRows.h"
 #include "support/TestDatabase.h"
@@ -75,7 +62,6 @@
 #include "zavel/receivable/DialogBayarPiutang.h"
 #include "zavel/receivable/DialogPiutang.h"
 #include "zavel/service/BusinessPenjualan.h"
-#include "zavel/tables/DialogMeja.h"
 #include "zavel/takeaway/DialogBawaPulang.h"
 #include "zavel/takeaway/DialogBayarBawaPulang.h"
 #include "zavel/takeaway/DialogSelectBawaPulangInventory.h"
@@ -145,9 +131,11 @@ EntityOrder* takeAwayOrder() { return service<BusinessPenjualan>("Sales")->findO
 QList<Form> pages()
 {
     QList<Form> pages;
-    const TabFactories factories = allTabFactories();
-    for (auto factory = factories.cbegin(); factory != factories.cend(); ++factory)
-        pages.append({factory.key().toLatin1(), [make = *factory] { return Made(make()); }});
+    for (const Page& page : allPages()) {
+        pages.append({page.className.toLatin1(), [make = page.make] { return Made(make()); }});
+        if (page.makeForm)
+            pages.append({page.formName.toLatin1(), [make = page.makeForm] { return Made(make()); }});
+    }
     const QList<ReportSubject> subjects = ReportCatalogue::subjects();
     for (const ReportSubject& subject : subjects) {
         pages.append({"Report " + subject.name.toLatin1(), [subject] {
@@ -180,9 +168,7 @@ QList<Form> dialogs()
     return {
         form<ConfigDialog>(),
         form<DialogAbout>(),
-        form<DialogAgent>(),
         form<DialogBackupDB>(),
-        form<DialogBank>(),
         form<DialogBawaPulang>(),
         form<DialogBayarMakanDitempatDetailSplit>(),
         form<DialogBayarPiutang>(),
@@ -192,33 +178,21 @@ QList<Form> dialogs()
         form<DialogConverter>(),
         form<DialogCreditNote>(),
         form<DialogDataPerusahaan>(),
-        form<DialogEmployee>(),
         form<DialogFastFood>(),
-        form<DialogInventoryAdj>(),
-        form<DialogItem>(),
-        form<DialogJenisItem>(),
-        form<DialogKeyTable>(),
         form<DialogKeyboard>(),
         form<DialogKitchenFoodPrinter>(),
         form<DialogKomisiAgen>(),
         form<DialogLogin>(),
         form<DialogMakanDitempat>(),
-        form<DialogMeja>(),
-        form<DialogMember>(),
         form<DialogPayment>(),
         form<DialogPaymentInvoice>(),
         form<DialogPiutang>(),
         form<DialogPrinter>(),
         form<DialogPurchaseOrder>(),
         form<DialogPurchases>(),
-        form<DialogSatuan>(),
         form<DialogSetPercentage>(),
-        form<DialogStokAwal>(),
-        form<DialogSupplier>(),
         form<DialogTransaction>(),
-        form<DialogUser>(),
         form<DialogUserAccess>(),
-        form<DialogUserGroup>(),
         form<AppDBUpdaterWizard>(),
         wizardAt<FreshInstallPage>([](QWizard&) {}),
         wizardAt<RestoreInstallPage>([](QWizard& wizard) { wizard.setField("installtype.restoreinstall", true); }),

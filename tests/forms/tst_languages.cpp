@@ -5,7 +5,7 @@
 #include "kor/widgets/KorTab.h"
 #include "shell/window/InterfaceLanguage.h"
 #include "shell/window/MainWindow.h"
-#include "shell/window/TabFactories.h"
+#include "shell/window/Pages.h"
 #include "support/InstallerRun.h"
 #include "support/ModalDriver.h"
 #include "support/Rows.h"
@@ -203,9 +203,8 @@ private:
     {
         auto window = std::make_unique<MainWindow>();
         AppContext::instance()->setMainWindow(window.get());
-        const TabFactories factories = allTabFactories();
-        for (auto page = factories.cbegin(); page != factories.cend(); ++page)
-            window->openTab(page.key());
+        for (const Page& page : allPages())
+            window->openTab(page.className);
         for (const char* report :
              {"actionMaster_Data", "actionPersediaan", "actionPembelian", "actionPenjualan", "actionKas"})
             window->findChild<QAction*>(report)->trigger();

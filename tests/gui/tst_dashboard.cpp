@@ -6,7 +6,7 @@
 #include "shell/dashboard/TabDashboard.h"
 #include "shell/window/HouseStyle.h"
 #include "shell/window/MainWindow.h"
-#include "shell/window/TabFactories.h"
+#include "shell/window/Pages.h"
 #include "support/ModalDriver.h"
 #include "support/Rows.h"
 #include "support/ShopRows.h"
@@ -227,7 +227,7 @@ private slots:
         QTest::keyClick(view(), Qt::Key_Space);
         if (page.startsWith("Dialog"))
             QTRY_VERIFY(m_people->finished());
-        else if (allTabFactories().contains(page))
+        else if (findPage(page))
             QTRY_COMPARE(QString(pages()->currentWidget()->metaObject()->className()), page);
         else
             QTRY_COMPARE(m_people->texts(), QStringList{"can not load tab: " + page});

@@ -11,8 +11,8 @@
 #include "shell/window/HouseStyle.h"
 #include "shell/window/InterfaceLanguage.h"
 #include "shell/window/MainWindow.h"
+#include "shell/window/Pages.h"
 #include "shell/window/QtCategoryButton.h"
-#include "shell/window/TabFactories.h"
 #include "support/ModalDriver.h"
 #include "support/Rows.h"
 #include "support/TestDatabase.h"
@@ -200,7 +200,7 @@ private slots:
         QFETCH(QString, name);
         QFETCH(QString, page);
         action(name)->trigger();
-        if (allTabFactories().contains(page)) {
+        if (findPage(page)) {
             QCOMPARE(openPages(), QStringList{page});
             QCOMPARE(pages()->tabText(0), pages()->widget(0)->windowTitle());
             QVERIFY(!pages()->tabText(0).isEmpty());
@@ -465,7 +465,7 @@ private slots:
         QFETCH(QString, command);
         QFETCH(QString, page);
         m_window->on_callMainWindowCmd(command);
-        if (page.isEmpty() || allTabFactories().contains(page)) {
+        if (page.isEmpty() || findPage(page)) {
             QCOMPARE(openPages(), page.isEmpty() ? QStringList() : QStringList{page});
             QCOMPARE(m_people->texts(), QStringList());
         } else {

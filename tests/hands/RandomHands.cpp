@@ -1,9 +1,9 @@
 #include "hands/RandomHands.h"
 
 #include "hands/Keys.h"
+#include "hands/Workplace.h"
 #include "kor/widgets/KorTab.h"
 #include "shell/window/MainWindow.h"
-#include "shell/window/TabFactories.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -143,10 +143,7 @@ void RandomHands::act()
 
 void RandomHands::openSomePage()
 {
-    QStringList names = allTabFactories().keys();
-    // The dashboard is a web page, and has no forms.
-    names.removeOne("TabDashboard");
-    const QString name = oneOf(names);
+    const QString name = oneOf(Workplace::pageNames());
     write("open " + name);
     m_window.openTab(name);
 }

@@ -3,7 +3,7 @@
 #include "app/context/AppContext.h"
 #include "hands/Keys.h"
 #include "kor/widgets/KorTab.h"
-#include "shell/window/TabFactories.h"
+#include "shell/window/Pages.h"
 
 #include <QApplication>
 #include <QTabWidget>
@@ -26,8 +26,12 @@ bool Workplace::isReady() { return QTest::qWaitForWindowActive(m_window.get()); 
 
 QStringList Workplace::pageNames()
 {
-    QStringList names = allTabFactories().keys();
-    names.removeOne("TabDashboard");
+    QStringList names;
+    for (const Page& page : allPages()) {
+        // The dashboard is a web page, and has no forms.
+        if (page.className != "TabDashboard")
+            names.append(page.className);
+    }
     return names;
 }
 

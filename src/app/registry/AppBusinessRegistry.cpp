@@ -7,10 +7,12 @@
 #include "app/configuration/BusinessConfiguration.h"
 #include "app/context/AppContext.h"
 #include "app/numbers/BusinessKey.h"
+#include "app/registry/AppFamilies.h"
 #include "app/registry/AppMapperRegistry.h"
 
 AppBusinessRegistry* AppBusinessRegistry::instance()
 {
+    AppMapperRegistry::instance();
     static QPointer<AppBusinessRegistry> registry;
     if (!registry)
         registry = new AppBusinessRegistry(AppContext::instance());
@@ -18,16 +20,10 @@ AppBusinessRegistry* AppBusinessRegistry::instance()
 }
 
 AppBusinessRegistry::AppBusinessRegistry(QObject* parent)
-    : KorBusinessRegistry(AppContext::instance()->logger(), parent)
-{
-    const AppMapperRegistry* mappers = AppMapperRegistry::instance();
-    make<BusinessConfiguration>(mappers->appConfigMapper());
-    make<BusinessPermission>(mappers->permissionMapper(), mappers->businessMapper());
-    auto* access = make<BusinessUserAccess>(mappers->accessMapper());
-    make<BusinessUser>(mappers->userMapper(), access);
-    make<BusinessKey>(mappers->keyMapper());
-    make<BusinessUserGroup>(mappers->userGroupMapper());
-}
+    : KorBusinessRegistry(appFamilies(),
+                          {"Configuration", "Permission", "User Access", "User", "KeyTable", "User Group"},
+                          AppContext::instance()->logger(), parent)
+{}
 
 BusinessConfiguration* AppBusinessRegistry::configuration() const
 {

@@ -9,6 +9,7 @@
 #include "app/context/AppContext.h"
 #include "app/history/DataMapperHistory.h"
 #include "app/numbers/DataMapperKey.h"
+#include "app/registry/AppFamilies.h"
 
 AppMapperRegistry* AppMapperRegistry::instance()
 {
@@ -18,17 +19,7 @@ AppMapperRegistry* AppMapperRegistry::instance()
     return registry;
 }
 
-AppMapperRegistry::AppMapperRegistry(QObject* parent) : KorMapperRegistry(parent)
-{
-    make<DataMapperAppConfig>();
-    make<DataMapperHistory>();
-    make<DataMapperKey>();
-    auto* groups = make<DataMapperUserGroup>();
-    auto* businesses = make<DataMapperBusiness>();
-    auto* permissions = make<DataMapperPermission>(businesses);
-    make<DataMapperAccess>(groups, permissions, businesses);
-    make<DataMapperUser>(groups);
-}
+AppMapperRegistry::AppMapperRegistry(QObject* parent) : KorMapperRegistry(appFamilies(), parent) {}
 
 DataMapperAppConfig* AppMapperRegistry::appConfigMapper() const { return typed<DataMapperAppConfig>("appconfig"); }
 DataMapperHistory* AppMapperRegistry::historyMapper() const { return typed<DataMapperHistory>("history"); }

@@ -130,6 +130,7 @@ template <class Service, class Model, class Dialog>
 class AppFamilyTab : public AppListTab
 {
 public:
+    using Form = Dialog;
     using AppListTab::AppListTab;
 
 protected:

@@ -3,9 +3,11 @@
 #include <QHash>
 #include <QList>
 #include <QObject>
+#include <QStringList>
 
 class KorBusinessLogic;
 class KorLogger;
+struct KorFamily;
 
 /** The services of one layer by name. Every error that a service notes goes through here into the log. */
 class KorBusinessRegistry : public QObject
@@ -13,25 +15,21 @@ class KorBusinessRegistry : public QObject
     Q_OBJECT
 
 public:
-    KorBusinessRegistry(KorLogger* logger, QObject* parent) : QObject(parent), m_logger(logger) {}
+    /**
+     * Makes the services of the families, in their order. Those that are named stand first in all(), as they are named.
+     */
+    KorBusinessRegistry(const QList<KorFamily>& families, const QStringList& first, KorLogger* logger, QObject* parent);
     ~KorBusinessRegistry() override;
 
     void add(KorBusinessLogic* service);
     [[nodiscard]] KorBusinessLogic* get(const QString& name) const { return m_byName.value(name); }
-    /** In the order of their making, so that every installation numbers its permissions alike. */
+    /** Always in one order, so that every installation numbers its permissions alike. */
     [[nodiscard]] const QList<KorBusinessLogic*>& all() const { return m_ordered; }
 
 public slots:
     virtual void onError(const QString& err);
 
 protected:
-    template <class Service, class... Arguments>
-    Service* make(Arguments... arguments)
-    {
-        auto* service = new Service(this, arguments...);
-        add(service);
-        return service;
-    }
     template <class Service>
     [[nodiscard]] Service* typed(const QString& name) const
     {

@@ -5,6 +5,7 @@
 #include <QObject>
 
 class KorDataMapper;
+struct KorFamily;
 
 /** The mappers of one layer, by name and in the order of their making, which is the order of creating tables. */
 class KorMapperRegistry : public QObject
@@ -12,21 +13,17 @@ class KorMapperRegistry : public QObject
     Q_OBJECT
 
 public:
-    explicit KorMapperRegistry(QObject* parent) : QObject(parent) {}
+    /** Makes the mappers of the families, in their order. */
+    KorMapperRegistry(const QList<KorFamily>& families, QObject* parent);
+    ~KorMapperRegistry() override;
 
+    /** The mapper of exactly that class in any layer; null when none is made. */
+    [[nodiscard]] static KorDataMapper* find(const QMetaObject& type);
     void add(KorDataMapper* mapper);
     [[nodiscard]] KorDataMapper* get(const QString& name) const { return m_byName.value(name); }
     [[nodiscard]] const QList<KorDataMapper*>& all() const { return m_ordered; }
 
 protected:
-    /** Makes a mapper, owned by the registry, and adds it. */
-    template <class Mapper, class... Arguments>
-    Mapper* make(Arguments... arguments)
-    {
-        auto* mapper = new Mapper(this, arguments...);
-        add(mapper);
-        return mapper;
-    }
     template <class Mapper>
     [[nodiscard]] Mapper* typed(const QString& name) const
     {

@@ -20,4 +20,13 @@ void KorServiceDirectory::remove(KorBusinessLogic* service)
         directory().erase(found);
 }
 
+KorBusinessLogic* KorServiceDirectory::find(const QMetaObject& type)
+{
+    for (KorBusinessLogic* service : qAsConst(directory())) {
+        if (service->metaObject() == &type)
+            return service;
+    }
+    return nullptr;
+}
+
 KorBusinessLogic* KorServiceDirectory::get(const QString& name) { return directory().value(name); }

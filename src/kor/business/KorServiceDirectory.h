@@ -13,6 +13,8 @@ public:
     static void remove(KorBusinessLogic* service);
     /** Null for a name that no registry has filled in. */
     [[nodiscard]] static KorBusinessLogic* get(const QString& name);
+    /** The service of exactly that class; null when none is made. */
+    [[nodiscard]] static KorBusinessLogic* find(const QMetaObject& type);
 };
 
 /** The service of that name, in its own type; null when it is missing or of another type. */

@@ -21,12 +21,14 @@
 #include "pos/purchasing/creditnote/BusinessCreditNote.h"
 #include "pos/purchasing/payment/BusinessPayment.h"
 #include "pos/purchasing/purchase/BusinessPurchases.h"
-#include "pos/purchasing/purchase/DataMapperAcquisition.h"
 #include "pos/purchasing/purchaseorder/BusinessPurchaseOrder.h"
+#include "pos/registry/PosFamilies.h"
 #include "pos/registry/PosMapperRegistry.h"
 
 PosBusinessRegistry* PosBusinessRegistry::instance()
 {
+    AppBusinessRegistry::instance();
+    PosMapperRegistry::instance();
     static QPointer<PosBusinessRegistry> registry;
     if (!registry)
         registry = new PosBusinessRegistry(AppContext::instance());
@@ -34,31 +36,29 @@ PosBusinessRegistry* PosBusinessRegistry::instance()
 }
 
 PosBusinessRegistry::PosBusinessRegistry(QObject* parent)
-    : KorBusinessRegistry(AppContext::instance()->logger(), parent)
-{
-    const PosMapperRegistry* mappers = PosMapperRegistry::instance();
-    const AppBusinessRegistry* services = AppBusinessRegistry::instance();
-    make<BusinessAccountingTransaction>(mappers->accountingTransactionMapper());
-    make<BusinessBank>(mappers->bankMapper());
-    make<BusinessAgent>(mappers->agentMapper());
-    make<BusinessSupplier>(mappers->supplierMapper());
-    make<BusinessPrinterType>(mappers->printerTypeMapper());
-    make<BusinessPrinterConfig>(services->configuration());
-    make<BusinessDataPerusahaan>(mappers->dataPerusahaanMapper(), mappers->imagesMapper());
-    make<BusinessPurchases>(mappers->acquisitionMapper(), mappers->itemHistoryMapper());
-    make<BusinessCreditNote>(mappers->creditNoteMapper(), mappers->itemHistoryMapper(), purchases());
-    make<BusinessGroupedItem>(mappers->groupedItemMapper());
-    make<BusinessInventory>(mappers->stockTakeMapper(), mappers->stokAwalMapper(), mappers->itemHistoryMapper());
-    make<BusinessItem>(mappers->itemMapper(), mappers->groupedItemMapper(), mappers->stokAwalMapper());
-    make<BusinessJenisItem>(mappers->jenisItemMapper());
-    make<BusinessMember>(mappers->memberMapper());
-    make<BusinessPurchaseOrder>(mappers->purchaseOrderMapper(), mappers->acquisitionMapper());
-    make<BusinessPayment>(mappers->paymentMapper(), purchases());
-    make<BusinessSatuan>(mappers->satuanMapper());
-    make<BusinessStokAwal>(mappers->stokAwalMapper());
-    make<BusinessEmployee>(mappers->employeeMapper());
-    make<BusinessCashFlow>(mappers->cashFlowMapper());
-}
+    : KorBusinessRegistry(posFamilies(),
+                          {"Accounting Transaction",
+                           "Bank",
+                           "Agent",
+                           "Supplier",
+                           "Printer Type",
+                           "Printer Config",
+                           "Company Profile",
+                           "Purchases",
+                           "Credit Note",
+                           "Grouped Item",
+                           "Inventory",
+                           "Item",
+                           "Item Type",
+                           "Member",
+                           "Purchase Order",
+                           "Payment",
+                           "Unit",
+                           "Beginning Balance",
+                           "Employee",
+                           "Journal Transaction"},
+                          AppContext::instance()->logger(), parent)
+{}
 
 BusinessBank* PosBusinessRegistry::bank() const { return typed<BusinessBank>("Bank"); }
 

@@ -24,44 +24,18 @@
 #include "pos/purchasing/payment/DataMapperPayment.h"
 #include "pos/purchasing/purchase/DataMapperAcquisition.h"
 #include "pos/purchasing/purchaseorder/DataMapperPurchaseOrder.h"
+#include "pos/registry/PosFamilies.h"
 
 PosMapperRegistry* PosMapperRegistry::instance()
 {
+    AppMapperRegistry::instance();
     static QPointer<PosMapperRegistry> registry;
     if (!registry)
         registry = new PosMapperRegistry(AppContext::instance());
     return registry;
 }
 
-PosMapperRegistry::PosMapperRegistry(QObject* parent) : KorMapperRegistry(parent)
-{
-    const AppMapperRegistry* app = AppMapperRegistry::instance();
-    make<DataMapperSatuan>();
-    make<DataMapperImages>();
-    make<DataMapperBank>();
-    make<DataMapperEmployee>();
-    make<DataMapperJenisItem>();
-    make<DataMapperMember>();
-    make<DataMapperDataPerusahaan>();
-    make<DataMapperPrinterType>();
-    make<DataMapperSupplier>(bankMapper());
-    make<DataMapperAgent>(bankMapper());
-    make<DataMapperItem>(jenisItemMapper(), satuanMapper(), bankMapper());
-    const ItemPartners lines{itemMapper(), jenisItemMapper(), satuanMapper()};
-    make<DataMapperPurchaseOrder>(app->keyMapper(), supplierMapper(), bankMapper(), lines);
-    make<DataMapperAcquisition>(app->keyMapper(), supplierMapper(), bankMapper(), purchaseOrderMapper(), lines);
-    make<DataMapperCreditNote>(app->keyMapper(), supplierMapper(), bankMapper(), lines);
-    make<DataMapperGroupedItem>(itemMapper());
-    make<DataMapperInvoice>(
-        DataMapperInvoice::Partners{employeeMapper(), agentMapper(), memberMapper(), bankMapper(), app->keyMapper()},
-        lines);
-    make<DataMapperStockTake>(itemMapper(), jenisItemMapper(), satuanMapper(), bankMapper());
-    make<DataMapperItemHistory>(itemMapper(), jenisItemMapper(), satuanMapper());
-    make<DataMapperStokAwal>(itemMapper(), satuanMapper());
-    make<DataMapperPayment>(app->keyMapper(), supplierMapper(), bankMapper(), acquisitionMapper(), lines);
-    make<DataMapperCashFlow>(app->keyMapper());
-    make<DataMapperAccountingTransaction>(app->keyMapper(), bankMapper(), app->userMapper(), app->userGroupMapper());
-}
+PosMapperRegistry::PosMapperRegistry(QObject* parent) : KorMapperRegistry(posFamilies(), parent) {}
 
 DataMapperSatuan* PosMapperRegistry::satuanMapper() const { return typed<DataMapperSatuan>("satuan"); }
 

@@ -30,6 +30,7 @@
 #include "shell/window/Manual.h"
 #include "shell/window/MenuShortcuts.h"
 #include "shell/window/PageArea.h"
+#include "shell/window/Pages.h"
 #include "shell/window/RestartStatus.h"
 #include "shell/window/Sidebar.h"
 #include "shell/window/SlipStatus.h"
@@ -67,10 +68,7 @@ MainWindow::MainWindow(QWidget* parent)
     m_ui->statusBar->addWidget(m_statusUser);
     m_slipStatus = new SlipStatus(this);
     m_ui->statusBar->addPermanentWidget(m_slipStatus);
-    connect(m_slipStatus, &SlipStatus::listWanted, this, [this] {
-        if (m_pages->knows("TabPrintedSlips"))
-            openTab("TabPrintedSlips");
-    });
+    connect(m_slipStatus, &SlipStatus::listWanted, this, [this] { openTab("TabPrintedSlips"); });
     setContextMenuPolicy(Qt::NoContextMenu);
     m_ui->mainToolBar->setVisible(!m_ui->mainToolBar->actions().isEmpty());
     showMaximized();
@@ -83,6 +81,7 @@ MainWindow::MainWindow(QWidget* parent)
     setWindowIcon(QIcon(":/icons/Beverage-Coffee-02.png"));
     setIconSize({48, 48});
     loadPlugin();
+    addMenuEntries();
     buildSidebar();
     showStartPages();
     QTimer::singleShot(updateCheckDelay, this, [this] {
@@ -108,6 +107,29 @@ void MainWindow::loadPlugin()
         showInfo(tr("Could not load the plugin"));
     for (const QString& error : m_reports.errors())
         showInfo(error);
+}
+
+void MainWindow::addMenuEntries()
+{
+    for (const Page& page : allPages()) {
+        if (!page.entry.menu)
+            continue;
+        auto* action = new QAction(this);
+        action->setObjectName("action" + page.className.mid(3));
+        action->setShortcut(QKeySequence(page.entry.key));
+        connect(action, &QAction::triggered, this, [this, name = page.className] { openTab(name); });
+        findChild<QMenu*>(page.entry.menu)->addAction(action);
+    }
+    nameMenuEntries();
+}
+
+void MainWindow::nameMenuEntries()
+{
+    for (const Page& page : allPages()) {
+        if (page.entry.menu)
+            findChild<QAction*>("action" + page.className.mid(3))
+                ->setText(QCoreApplication::translate("Pages", page.entry.text));
+    }
 }
 
 void MainWindow::buildSidebar()
@@ -146,6 +168,7 @@ void MainWindow::changeEvent(QEvent* event)
         m_language->load(InterfaceLanguage::systemCode());
     } else if (event->type() == QEvent::LanguageChange) {
         m_ui->retranslateUi(this);
+        nameMenuEntries();
         m_sidebar->retranslate();
         nameUser();
         m_slipStatus->retranslate();
@@ -176,7 +199,7 @@ void MainWindow::slotLanguageChanged(QAction* action)
 
 bool MainWindow::openTab(const QString& className)
 {
-    if (m_pages->knows(className))
+    if (findPage(className))
         return m_pages->open(className);
     QMessageBox::critical(this, tr("Error"), tr("can not load tab: %1").arg(className));
     return false;

@@ -120,6 +120,9 @@ protected:
 
 private:
     void loadPlugin();
+    /** The menus' lines of pages that MainWindow.ui has none for. */
+    void addMenuEntries();
+    void nameMenuEntries();
     void buildSidebar();
     void showStartPages();
     void openReport(const QString& reportName);

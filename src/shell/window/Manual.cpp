@@ -1,6 +1,7 @@
 #include "shell/window/Manual.h"
 
 #include "shell/window/HelpWindow.h"
+#include "shell/window/Pages.h"
 
 #include <QApplication>
 #include <QHash>
@@ -9,48 +10,19 @@
 
 namespace
 {
+// What is neither a page nor the form of a page.
 const QHash<QString, QString>& places()
 {
     // One place a line, whatever the others are called.
     // clang-format off
     static const QHash<QString, QString> topics{
-        {"TabDashboard", "index.html"},
-        {"TabMakanDitempat", "waiter.html"},
         {"DialogMakanDitempat", "waiter.html#order"},
         {"DialogSelectMenu", "waiter.html#order"},
         {"DialogSelectInventory", "waiter.html#order"},
         {"DialogBayarMakanDitempat", "cashier.html#table"},
         {"DialogBayarMakanDitempatDetailSplit", "cashier.html#apart"},
-        {"TabFastFood", "cashier.html#counter"},
-        {"DialogFastFood", "cashier.html#counter"},
-        {"TabBawaPulang", "cashier.html#takeaway"},
-        {"DialogBawaPulang", "cashier.html#takeaway"},
         {"DialogBayarBawaPulang", "cashier.html#takeaway"},
-        {"TabDaftarPenjualan", "cashier.html#sales"},
-        {"TabPrintedSlips", "cashier.html#slips"},
-        {"TabPiutang", "cashier.html#members"},
-        {"DialogPiutang", "cashier.html#members"},
-        {"TabPesananMasuk", "kitchen.html"},
-        {"TabItem", "owner.html#begin"},
-        {"DialogItem", "owner.html#begin"},
-        {"TabMeja", "owner.html#begin"},
-        {"TabStokAwal", "owner.html#goods"},
-        {"TabInventoryAdj", "owner.html#goods"},
-        {"TabKartuStok", "owner.html#goods"},
-        {"TabPurchaseOrder", "owner.html#purchasing"},
-        {"TabPurchases", "owner.html#purchasing"},
-        {"TabCreditNote", "owner.html#purchasing"},
-        {"TabPayment", "owner.html#purchasing"},
-        {"TabCashFlow", "owner.html#cash"},
-        {"TabTransfer", "owner.html#cash"},
-        {"TabBank", "owner.html#cash"},
-        {"TabAllKomisiAgen", "owner.html#cash"},
-        {"TabKomisiAgen", "owner.html#cash"},
         {"TabReport", "owner.html#reports"},
-        {"TabUser", "owner.html#users"},
-        {"TabUserGroup", "owner.html#users"},
-        {"TabUserAccess", "owner.html#users"},
-        {"TabKitchenPrinter", "owner.html#printers"},
         {"DialogCashierAndKitchenPrinter", "owner.html#printers"},
         {"DialogKitchenFoodPrinter", "owner.html#printers"},
         {"DialogBackupDB", "owner.html#backup"},
@@ -69,9 +41,26 @@ Manual::Manual(QString folder, QTabWidget* pages) : QObject(pages), m_folder(std
 
 Manual::~Manual() = default;
 
-QString Manual::topicOf(const QString& className) { return places().value(className); }
+QString Manual::topicOf(const QString& className)
+{
+    QString found = places().value(className);
+    // The form of a page is told with it: DialogItem with TabItem.
+    const QString ofPage = className.startsWith("Dialog") ? "Tab" + className.mid(6) : className;
+    const Page* page = findPage(ofPage);
+    if (found.isEmpty() && page)
+        found = page->topic;
+    return found;
+}
 
-QStringList Manual::topics() { return places().values(); }
+QStringList Manual::topics()
+{
+    QStringList topics = places().values();
+    for (const Page& page : allPages()) {
+        if (!page.topic.isEmpty())
+            topics.append(page.topic);
+    }
+    return topics;
+}
 
 QString Manual::topic() const
 {

@@ -2,15 +2,13 @@
 
 #include "kor/widgets/KorTab.h"
 #include "shell/window/PageBoxes.h"
+#include "shell/window/Pages.h"
 
 #include <QAbstractButton>
 #include <QPointer>
 #include <QTabWidget>
 
-PageArea::PageArea(QTabWidget* tabs) : QObject(tabs), m_tabs(tabs), m_factories(allTabFactories())
-{
-    tabs->setTabsClosable(true);
-}
+PageArea::PageArea(QTabWidget* tabs) : QObject(tabs), m_tabs(tabs) { tabs->setTabsClosable(true); }
 
 bool PageArea::open(const QString& className)
 {
@@ -31,7 +29,7 @@ bool PageArea::open(const QString& className)
 
 KorTab* PageArea::make(const QString& className)
 {
-    KorTab* tab = m_factories.value(className)();
+    KorTab* tab = findPage(className)->make();
     connect(tab, &KorTab::onclose, this, [this, className] { removeClass(className); });
     return tab;
 }
@@ -72,7 +70,7 @@ void PageArea::makeAnew()
     }
     for (QWidget* page : pages()) {
         // A report is asked for again.
-        if (!knows(page->metaObject()->className()))
+        if (!findPage(page->metaObject()->className()))
             removePage(page);
     }
     makePagesAnew();
@@ -85,7 +83,7 @@ void PageArea::makePagesAnew()
     for (QWidget* page : pages())
         former.append(page);
     for (const QPointer<QWidget>& page : qAsConst(former)) {
-        if (!page || !knows(page->metaObject()->className()))
+        if (!page || !findPage(page->metaObject()->className()))
             continue;
         // A page holds no unsaved work, and its lists have to be read again anyway. A failure to read them is told in a
         // box, and while that is open the former page may go, or be made anew once more.

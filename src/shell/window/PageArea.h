@@ -1,10 +1,9 @@
 #pragma once
 
-#include "shell/window/TabFactories.h"
-
 #include <QObject>
 #include <QWidget>
 
+class KorTab;
 class QTabWidget;
 
 /** The open pages of the main window: each class at most once, reports told apart by their titles as well. */
@@ -15,7 +14,6 @@ class PageArea final : public QObject
 public:
     explicit PageArea(QTabWidget* tabs);
 
-    [[nodiscard]] bool knows(const QString& className) const { return m_factories.contains(className); }
     /** True when a new page was opened; an open page of that class is only shown. The class has to be known. */
     bool open(const QString& className);
     /** Shows a new report, or the open one of that title, and the new one goes. Takes the report over. */
@@ -51,5 +49,4 @@ private:
     void focusPage();
 
     QTabWidget* m_tabs;
-    TabFactories m_factories;
 };

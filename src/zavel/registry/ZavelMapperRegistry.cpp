@@ -1,7 +1,6 @@
 #include "zavel/registry/ZavelMapperRegistry.h"
 
 #include "app/context/AppContext.h"
-#include "app/registry/AppMapperRegistry.h"
 #include "pos/registry/PosMapperRegistry.h"
 #include "zavel/commission/DataMapperAllAgentCommision.h"
 #include "zavel/commission/DataMapperKomisiAgen.h"
@@ -10,38 +9,21 @@
 #include "zavel/fastfood/DataMapperInvoiceFastFood.h"
 #include "zavel/list/DataMapperPenjualanInfo.h"
 #include "zavel/receivable/DataMapperPiutang.h"
+#include "zavel/registry/ZavelFamilies.h"
 #include "zavel/tables/DataMapperMeja.h"
 #include "zavel/takeaway/DataMapperBawaPulang.h"
 #include "zavel/takeaway/DataMapperInvoiceBawaPulang.h"
 
 ZavelMapperRegistry* ZavelMapperRegistry::instance()
 {
+    PosMapperRegistry::instance();
     static QPointer<ZavelMapperRegistry> registry;
     if (!registry)
         registry = new ZavelMapperRegistry(AppContext::instance());
     return registry;
 }
 
-ZavelMapperRegistry::ZavelMapperRegistry(QObject* parent) : KorMapperRegistry(parent)
-{
-    const AppMapperRegistry* app = AppMapperRegistry::instance();
-    const PosMapperRegistry* pos = PosMapperRegistry::instance();
-    make<DataMapperMeja>();
-    DataMapperInvoice* invoices = pos->invoiceMapper();
-    const ItemPartners lines{pos->itemMapper(), pos->jenisItemMapper(), pos->satuanMapper()};
-    make<DataMapperMakanDitempat>(pos->memberMapper(), mejaMapper(), lines);
-    make<DataMapperInvoiceMakanDitempat>(invoices, makanDitempatMapper());
-    make<DataMapperInvoiceFastFood>(invoices);
-    make<DataMapperBawaPulang>(pos->memberMapper(), lines);
-    make<DataMapperInvoiceBawaPulang>(invoices, bawaPulangMapper());
-    make<DataMapperPenjualanInfo>(DataMapperPenjualanInfo::Partners{
-        invoices, invoiceMakanDitempatMapper(), invoiceFastFoodMapper(), invoiceBawaPulangMapper(),
-        makanDitempatMapper(), app->userMapper(), pos->memberMapper(), pos->employeeMapper()});
-    make<DataMapperPiutang>(app->keyMapper(), pos->memberMapper(), pos->bankMapper(), invoices, pos->employeeMapper(),
-                            pos->agentMapper());
-    make<DataMapperKomisiAgen>(app->keyMapper(), pos->agentMapper(), pos->bankMapper(), invoices);
-    make<DataMapperAllAgentCommision>(invoices, pos->agentMapper());
-}
+ZavelMapperRegistry::ZavelMapperRegistry(QObject* parent) : KorMapperRegistry(zavelFamilies(), parent) {}
 
 DataMapperMeja* ZavelMapperRegistry::mejaMapper() const { return typed<DataMapperMeja>("meja"); }
 
