@@ -161,7 +161,7 @@ private slots:
         m_database->run("UPDATE " + family.table + " SET version = 1 WHERE kode = 'c9'");
 
         QStringList all = names(family.mapper()->findAll(QString()));
-        if (family.order == MasterFamily::AsStored)
+        if (family.order == MasterFamily::AsStored || family.order == MasterFamily::Unknown)
             all.sort();
         QCOMPARE(all, (family.order == MasterFamily::ById ? QStringList{"Zebra's", "Ape", "Mole"}
                                                           : QStringList{"Ape", "Mole", "Zebra's"}));
@@ -172,7 +172,15 @@ private slots:
         QVERIFY(!family.mapper()->hasError());
     }
 
-    void anOlderTableGetsItsLongerCodes_data() { addFamilyRows(); }
+    void anOlderTableGetsItsLongerCodes_data()
+    {
+        addColumns<int>("family");
+        for (int i = 0; i < masterFamilies().size(); ++i) {
+            const MasterFamily& family = masterFamilies().at(i);
+            if (!family.mapper()->migrations().isEmpty())
+                addRow(qPrintable(family.service), i);
+        }
+    }
     void anOlderTableGetsItsLongerCodes()
     {
         const MasterFamily& family = currentFamily();

@@ -1,7 +1,10 @@
 #include "support/MasterFamilies.h"
 #include "support/Rows.h"
 
+#include "app/persistence/AppMasterMapper.h"
 #include "kor/business/KorServiceDirectory.h"
+#include "kor/entity/KorMetaDataMap.h"
+#include "kor/widgets/KorTextBoxExtender.h"
 #include "pos/masterdata/account/TabBank.h"
 #include "pos/masterdata/agent/TabAgent.h"
 #include "pos/masterdata/employee/TabEmployee.h"
@@ -9,10 +12,14 @@
 #include "pos/masterdata/member/TabMember.h"
 #include "pos/masterdata/supplier/TabSupplier.h"
 #include "pos/masterdata/unit/TabSatuan.h"
+#include "shell/window/Pages.h"
 #include "zavel/tables/TabMeja.h"
 
+#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QTest>
+
+#include <algorithm>
 
 namespace
 {
@@ -50,13 +57,20 @@ void MasterFamily::fill(KorDialog* form, const QString& code, const QString& nam
     typeInto(form, nameField, name);
     for (auto field = details.begin(); field != details.end(); ++field)
         typeInto(form, field.key(), field.value());
+    // What is not known by name: any text that is a number as well.
+    for (QLineEdit* box : form->findChildren<QLineEdit*>()) {
+        if (order == Unknown && box->isVisible() && box->text().isEmpty() && !box->findChild<KorTextBoxExtender*>())
+            QTest::keyClicks(box, "1");
+    }
     typeInto(form, "txtKode", code);
 }
 
-const QList<MasterFamily>& masterFamilies()
+namespace
+{
+QList<MasterFamily> familiesWithWords()
 {
     using F = MasterFamily;
-    static const QList<MasterFamily> families{
+    return {
         withScreens<TabMeja, DialogMeja>({"Table",
                                           "meja",
                                           F::ByName,
@@ -178,6 +192,65 @@ const QList<MasterFamily>& masterFamilies()
                                                   {},
                                                   {}}),
     };
+}
+
+/** What a row needs besides code and name. */
+void addDetails(MasterFamily& family)
+{
+    for (const KorColumnMap* column : family.mapper()->metaData()->columns()) {
+        const bool given = QStringList{"kode", "nama", "createdby", "version"}.contains(column->columnName());
+        if (given || !column->sqlType().contains("not null") || column->sqlType().contains("default"))
+            continue;
+        family.columns += ", " + column->columnName();
+        family.values += column->sqlType().startsWith("varchar") || column->sqlType().startsWith("text") ? ", 'x'"
+                         : column->sqlType().startsWith("date") ? ", '2026-03-01'"
+                                                                : ", 1";
+    }
+}
+
+/** The families whose pages list codes and names, as far as the program's catalogue tells of them. */
+QList<MasterFamily> familiesOfPages(const QList<MasterFamily>& known)
+{
+    QList<MasterFamily> families;
+    for (const Page& page : allPages()) {
+        const KorBusinessLogic* service = page.service ? KorServiceDirectory::find(*page.service) : nullptr;
+        auto* mapper = service ? dynamic_cast<AppMasterMapper*>(service->mapper()) : nullptr;
+        const auto same = [service](const MasterFamily& family) { return family.service == service->name(); };
+        // A dish is more than a code and a name; its form has tests of its own.
+        if (!mapper || service->name() == "Item" || std::any_of(known.begin(), known.end(), same))
+            continue;
+        MasterFamily family{service->name(),
+                            mapper->metaData()->tableName(),
+                            MasterFamily::Unknown,
+                            {},
+                            {},
+                            {},
+                            {},
+                            lost,
+                            {},
+                            "txtNama",
+                            {},
+                            {},
+                            {},
+                            {},
+                            {}};
+        for (const KorPermission& right : service->getPermissions())
+            family.rights.append(right.second);
+        family.makePage = [&page] { return std::unique_ptr<AppListTab>(static_cast<AppListTab*>(page.make())); };
+        family.makeForm = [&page] { return std::unique_ptr<KorDialog>(page.makeForm()); };
+        addDetails(family);
+        families.append(family);
+    }
+    return families;
+}
+} // namespace
+
+const QList<MasterFamily>& masterFamilies()
+{
+    static const QList<MasterFamily> families = [] {
+        const QList<MasterFamily> known = familiesWithWords();
+        return known + familiesOfPages(known);
+    }();
     return families;
 }
 

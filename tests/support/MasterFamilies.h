@@ -11,10 +11,13 @@ class AppMasterMapper;
 class KorDialog;
 class QWidget;
 
-/** One family of the master data as its users meet it; the contract tests walk over all of them. */
+/**
+ * One family of the master data as its users meet it; the contract tests walk over all of them. A family that has no
+ * words of its own here is known from its page alone, and is not held to any words.
+ */
 struct MasterFamily
 {
-    enum Order { ByName, ById, AsStored };
+    enum Order { ByName, ById, AsStored, Unknown };
 
     QString service;
     QString table;

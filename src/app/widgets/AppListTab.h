@@ -131,6 +131,7 @@ class AppFamilyTab : public AppListTab
 {
 public:
     using Form = Dialog;
+    using Business = Service;
     using AppListTab::AppListTab;
 
 protected:

@@ -39,17 +39,19 @@
 namespace
 {
 template <class Tab, class = void>
-struct FormOf
+struct ListOf
 {
     static constexpr const char* name = "";
     static constexpr KorDialog* (*make)() = nullptr;
+    static constexpr const QMetaObject* service = nullptr;
 };
 
 template <class Tab>
-struct FormOf<Tab, std::void_t<typename Tab::Form>>
+struct ListOf<Tab, std::void_t<typename Tab::Form>>
 {
     inline static const char* const name = Tab::Form::staticMetaObject.className();
     static KorDialog* make() { return new typename Tab::Form; }
+    inline static const QMetaObject* const service = &Tab::Business::staticMetaObject;
 };
 
 template <class Tab>
@@ -59,8 +61,9 @@ Page page(const char* topic = "", MenuEntry entry = {})
             topic,
             entry,
             [] { return static_cast<KorTab*>(new Tab); },
-            FormOf<Tab>::name,
-            FormOf<Tab>::make};
+            ListOf<Tab>::name,
+            ListOf<Tab>::make,
+            ListOf<Tab>::service};
 }
 } // namespace
 

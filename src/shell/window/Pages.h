@@ -25,9 +25,10 @@ struct Page
     QString topic;
     MenuEntry entry;
     KorTab* (*make)();
-    /** The entry form of a family's list; empty and null for other pages. */
+    // Of a family's list; empty and null for other pages.
     QString formName;
     KorDialog* (*makeForm)();
+    const QMetaObject* service;
 };
 
 [[nodiscard]] const QList<Page>& allPages();
