@@ -97,20 +97,23 @@ class TestCatalogues final : public QObject
 private slots:
     void everyTextOfTheSourcesIsInTheCatalogues_data()
     {
-        addColumns<QString>("name");
-        addRow("Indonesian", "TranslationExample_id.ts");
-        addRow("English", "TranslationExample_en.ts");
+        addColumns<QString, QStringList, int>("name", "options", "least");
+        addRow("Indonesian", "TranslationExample_id.ts", QStringList(), 1000);
+        // The sources say what English says, but for the forms of what is counted.
+        addRow("English", "TranslationExample_en.ts", QStringList{"-pluralonly"}, 0);
     }
 
     void everyTextOfTheSourcesIsInTheCatalogues()
     {
         QFETCH(QString, name);
+        QFETCH(QStringList, options);
+        QFETCH(int, least);
         const QTemporaryDir folder;
         const QString copy = folder.filePath(name);
         QVERIFY(QFile::copy(catalogue(name), copy));
         QProcess lupdate;
         lupdate.setWorkingDirectory(sourceFolder());
-        lupdate.start(LUPDATE, QString(TEXT_SOURCES).split(' ') +
+        lupdate.start(LUPDATE, options + QString(TEXT_SOURCES).split(' ') +
                                    QStringList{"-locations", "none", "-no-obsolete", "-ts", copy});
         QVERIFY2(lupdate.waitForFinished(60000), qPrintable(lupdate.errorString()));
         QCOMPARE(lupdate.exitCode(), 0);
@@ -130,7 +133,7 @@ private slots:
         };
         const QStringList wanted = texts(copy);
         const QStringList actual = texts(catalogue(name));
-        QVERIFY(wanted.size() > 1000);
+        QVERIFY(wanted.size() >= least);
         for (const QString& text : wanted)
             QVERIFY2(actual.contains(text), qPrintable("missing, build the target update_languages: " + text));
         QCOMPARE(actual, wanted);
