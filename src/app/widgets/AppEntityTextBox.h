@@ -26,7 +26,6 @@ public:
     /** The chosen record; null without a choice, and when the last search found nothing. */
     [[nodiscard]] Entity* selectedItem() const { return static_cast<Entity*>(selectedRecord()); }
 
-protected:
     [[nodiscard]] Service* service() const { return m_service; }
 
 private:

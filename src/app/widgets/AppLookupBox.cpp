@@ -1,6 +1,6 @@
 #include "app/widgets/AppLookupBox.h"
 
-#include "kor/business/KorBusinessLogic.h"
+#include "kor/business/KorErrorScope.h"
 
 #include <QDebug>
 #include <QMetaProperty>
@@ -54,12 +54,11 @@ void AppLookupBox::findSorted(const QString& text)
     if (!business())
         return;
     const EntityPoolScope scope(m_found);
-    business()->clearErrors();
+    const KorErrorScope errors(business());
     m_items = find(text);
-    // The list says "No result"; the text of the failure must not surface in some other form later.
-    if (business()->hasError())
+    // The list says "No result".
+    if (errors.failed())
         m_items.clear();
-    business()->clearErrors();
 
     struct Row
     {

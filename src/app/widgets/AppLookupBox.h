@@ -25,12 +25,12 @@ public:
     [[nodiscard]] const QList<KorEntity*>& items() const { return m_items; }
     /** The code of the chosen record, empty without a choice. */
     [[nodiscard]] QString selectedCode() const;
+    [[nodiscard]] virtual QString codeOf(const KorEntity& record) const;
+    [[nodiscard]] virtual QString nameOf(const KorEntity& record) const;
 
 protected:
     /** Asks the service; what it cannot find, or fails to, is an empty list. */
     virtual QList<KorEntity*> find(const QString& text) = 0;
-    [[nodiscard]] virtual QString codeOf(const KorEntity& record) const;
-    [[nodiscard]] virtual QString nameOf(const KorEntity& record) const;
     /** What a third column shows. */
     [[nodiscard]] virtual QString thirdOf(const KorEntity& record) const;
 

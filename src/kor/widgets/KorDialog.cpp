@@ -205,7 +205,7 @@ bool KorDialog::requireUnused(QWidget* field, const KorEntity* found, const QStr
     return false;
 }
 
-void KorDialog::showError(const QString& text) { KorErrorBox::critical(this, tr("Error"), text); }
+bool KorDialog::showError(const QString& text) { return KorErrorBox::tell(this, text); }
 
 void KorDialog::makeTouchable(const QDialogButtonBox* buttons)
 {

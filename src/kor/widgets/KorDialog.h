@@ -82,11 +82,11 @@ protected:
         if (!require(field, missing))
             return false;
         const KorEntity* found = find(service, field->text());
-        if (service->hasError())
-            showError(service->takeErrors());
+        showError(service->takeErrors());
         return requireUnused(field, found, taken);
     }
-    void showError(const QString& text);
+    /** False for an empty text, which shows nothing. */
+    bool showError(const QString& text);
     /** Buttons that a finger hits, in the forms of a till. */
     static void makeTouchable(const QDialogButtonBox* buttons);
     /** Focus once the window is shown, as a field that is not yet visible cannot take it. */

@@ -2,6 +2,7 @@
 
 #include "kor/system/KorFailure.h"
 
+#include <QCoreApplication>
 #include <QPushButton>
 
 namespace
@@ -23,6 +24,13 @@ void KorErrorBox::fill(QMessageBox* box, const QString& text)
         box->setTextFormat(Qt::PlainText);
     box->setText(failure.text());
     box->setDetailedText(failure.details);
+}
+
+bool KorErrorBox::tell(QWidget* parent, const QString& failure)
+{
+    if (!failure.isEmpty())
+        critical(parent, QCoreApplication::translate("KorDialog", "Error"), failure);
+    return !failure.isEmpty();
 }
 
 void KorErrorBox::critical(QWidget* parent, const QString& title, const QString& text)

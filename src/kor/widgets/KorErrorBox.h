@@ -10,6 +10,8 @@ namespace KorErrorBox
 {
 /** Gives a box these words; for boxes that their pages show themselves. */
 void fill(QMessageBox* box, const QString& text);
+/** Tells a failure under the title "Error"; false for an empty text, which shows nothing. */
+bool tell(QWidget* parent, const QString& failure);
 void critical(QWidget* parent, const QString& title, const QString& text);
 void information(QWidget* parent, const QString& title, const QString& text);
 /** A question about a failure, with these two buttons, the default among them; true for the first one. */

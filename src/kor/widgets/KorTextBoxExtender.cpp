@@ -212,7 +212,7 @@ bool KorTextBoxExtender::eventFilter(QObject* watched, QEvent* event)
 
 bool KorTextBoxExtender::wantsEnter(const QKeyEvent& key) const
 {
-    return isEnter(key) && (m_timer->isActive() || m_taker) && !m_editor->text().isEmpty();
+    return isEnter(key) && (m_timer->isActive() || (m_taker && !m_isTaken())) && !m_editor->text().isEmpty();
 }
 
 void KorTextBoxExtender::takeTyped()
@@ -221,7 +221,7 @@ void KorTextBoxExtender::takeTyped()
     if (m_taker) {
         if (!m_taker())
             autoSuggest();
-        else if (m_nextWidget)
+        else if (m_nextWidget && m_isTaken())
             m_nextWidget->setFocus(Qt::TabFocusReason);
         return;
     }

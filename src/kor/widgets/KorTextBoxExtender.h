@@ -45,10 +45,14 @@ public:
     [[nodiscard]] QWidget* nextWidget() const { return m_nextWidget; }
 
     /**
-     * How the form itself takes a typed code, if it knows better than the search: true when there is such a record.
-     * Enter then always takes the code that stands in the box, also one that was not typed just now.
+     * How the form itself takes the code that stands in the box, if it knows better than the search: false lets the
+     * list come up. Enter belongs to the box as long as the code is not taken, also when it was not typed just now.
      */
-    void setTaker(std::function<bool()> taker) { m_taker = std::move(taker); }
+    void setTaker(std::function<bool()> taker, std::function<bool()> isTaken)
+    {
+        m_taker = std::move(taker);
+        m_isTaken = std::move(isTaken);
+    }
 
     [[nodiscard]] QLineEdit* editor() const { return m_editor; }
     [[nodiscard]] KorBusinessLogic* business() const { return m_business; }
@@ -93,4 +97,5 @@ private:
     int m_currentRow = -1;
     QPointer<QWidget> m_nextWidget;
     std::function<bool()> m_taker;
+    std::function<bool()> m_isTaken;
 };

@@ -1,6 +1,7 @@
 #include "zavel/commission/DialogKomisiAgen.h"
 
 #include "app/persistence/AppDataMapper.h"
+#include "app/widgets/RecordField.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "pos/masterdata/agent/AgentTextBox.h"
 #include "zavel/commission/CommissionAmount.h"
@@ -24,15 +25,14 @@ DialogKomisiAgen::DialogKomisiAgen(QWidget* parent)
       m_sales(service<BusinessPenjualan>("Sales"))
 {
     m_ui->setupUi(this);
-    m_agentBox = new AgentTextBox(m_ui->txtAgen, service<BusinessAgent>("Agent"));
-    m_agentBox->setNextWidget(m_ui->txtExpenseAccount);
-    connect(m_agentBox, &KorTextBoxExtender::onItemSelected, this, &DialogKomisiAgen::onAgentSelected);
-    setUpSettlement({m_ui->txtAgen, m_ui->datePay, m_ui->txtExpenseAccount, m_ui->lblExpenseAccount, m_ui->tabDetail,
-                     m_ui->txtGrandTotal, m_ui->buttonBox},
+    auto* agents = new AgentTextBox(m_ui->txtAgen, service<BusinessAgent>("Agent"));
+    agents->setNextWidget(m_ui->txtExpenseAccount);
+    setUpSettlement({new RecordField<EntityAgent>(agents, m_ui->txtName, this), m_ui->datePay, m_ui->txtExpenseAccount,
+                     m_ui->lblExpenseAccount, m_ui->tabDetail, m_ui->txtGrandTotal, m_ui->buttonBox},
                     {tr("Select an agent"), tr("Add one or more sales invoices"),
                      tr("Enter the amount paid for this Invoice no: %1"), tr("Please select an Expense Account"),
                      tr("Please select a valid Expense Account")},
-                    m_ui->tabInvoices, service<BusinessAgent>("Agent"), m_sales);
+                    m_ui->tabInvoices, m_sales);
     focusLater(m_ui->txtAgen);
 }
 
@@ -46,19 +46,11 @@ void DialogKomisiAgen::openAgent(EntityAgent* agent)
     focusLater(m_ui->txtExpenseAccount);
 }
 
-void DialogKomisiAgen::onAgentSelected() { takePerson(m_agentBox->selectedItem()); }
-
-EntityContact* DialogKomisiAgen::findPerson(const QString& code)
-{
-    // Picked from the list, it has just been read.
-    EntityAgent* picked = m_agentBox->selectedItem();
-    return picked && picked->getKode() == code ? picked : service<BusinessAgent>("Agent")->findByCode(code);
-}
+void DialogKomisiAgen::onAgentSelected() { readAgain(); }
 
 void DialogKomisiAgen::showPerson(const EntityContact* person)
 {
     const auto* agent = static_cast<const EntityAgent*>(person);
-    m_ui->txtName->setText(agent ? agent->getNama() : QString());
     m_ui->txtAddress->setText(agent ? agent->getAlamat() : QString());
     m_ui->txtTelp->setText(agent ? agent->getTelp() : QString());
     m_ui->txtEmail->setText(agent ? agent->getEmail() : QString());

@@ -4,7 +4,6 @@
 
 #include <memory>
 
-class AgentTextBox;
 class BusinessPenjualan;
 class EntityAgent;
 
@@ -33,7 +32,6 @@ public slots:
     void on_txtPaid_textChanged(const QString& text);
 
 protected:
-    [[nodiscard]] EntityContact* findPerson(const QString& code) override;
     void showPerson(const EntityContact* person) override;
     [[nodiscard]] QList<KorEntity*> readOpenLines(const EntityContact& person) override;
     [[nodiscard]] int documentIdOf(const KorEntity& line) const override;
@@ -46,5 +44,4 @@ protected:
 private:
     std::unique_ptr<Ui::DialogKomisiAgen> m_ui;
     BusinessPenjualan* m_sales;
-    AgentTextBox* m_agentBox;
 };

@@ -2,7 +2,7 @@
 
 #include "app/context/AccessCheck.h"
 #include "app/persistence/AppDocumentLines.h"
-#include "app/widgets/CodeFilter.h"
+#include "app/widgets/RecordField.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "pos/masterdata/agent/AgentTextBox.h"
 #include "zavel/commission/DialogKomisiAgen.h"
@@ -33,9 +33,9 @@ TabAllKomisiAgen::TabAllKomisiAgen(QWidget* parent)
                                     {{tr("All"), 0},
                                      {tr("Fully Paid"), EntityAllKomisiAgen::FULL_PAID},
                                      {tr("Unpaid"), EntityAllKomisiAgen::UNPAID}});
-    m_agent = filters()->addText("txtAgent", tr("Agent :"));
-    const auto* agents = new AgentTextBox(m_agent, service<BusinessAgent>("Agent"));
-    connect(agents, &KorTextBoxExtender::onItemSelected, this, &TabAllKomisiAgen::on_btnSearch_clicked);
+    QLineEdit* agent = filters()->addText("txtAgent", tr("Agent :"));
+    m_agent = new RecordField<EntityAgent>(new AgentTextBox(agent, service<BusinessAgent>("Agent")));
+    connect(m_agent, &RecordFieldBase::chosen, this, &TabAllKomisiAgen::on_btnSearch_clicked);
     for (const char* unused : {"btnEdit", "btnDelete"}) {
         button(unused)->setEnabled(false);
         button(unused)->setShortcut({});
@@ -56,7 +56,7 @@ QList<KorEntity*> TabAllKomisiAgen::readRows(const QString&)
     filter.from = m_from->date();
     filter.to = m_to->date();
     filter.status = m_status->currentData().toInt();
-    filter.agentId = idOfCode(m_agent, service<BusinessAgent>("Agent"));
+    filter.agentId = m_agent->filterId(business());
     return asEntities(businessAs<BusinessPenjualan>()->searchInvoiceForAgentCommision(filter));
 }
 

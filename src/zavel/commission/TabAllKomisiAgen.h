@@ -2,10 +2,12 @@
 
 #include "app/widgets/AppDocumentTab.h"
 
+class EntityAgent;
 class EntityAllKomisiAgen;
 class QComboBox;
 class QDateEdit;
-class QLineEdit;
+template <class Entity>
+class RecordField;
 
 /** The invoices that agents brought: what each earns, and whether it was paid. Paying opens the commission form. */
 class TabAllKomisiAgen final : public AppDocumentTab
@@ -34,5 +36,5 @@ private:
     QDateEdit* m_from;
     QDateEdit* m_to;
     QComboBox* m_status;
-    QLineEdit* m_agent;
+    RecordField<EntityAgent>* m_agent;
 };

@@ -1,7 +1,7 @@
 #include "zavel/commission/TabKomisiAgen.h"
 
 #include "app/persistence/AppDocumentLines.h"
-#include "app/widgets/CodeFilter.h"
+#include "app/widgets/RecordField.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "pos/masterdata/agent/AgentTextBox.h"
 #include "zavel/commission/DialogKomisiAgen.h"
@@ -22,10 +22,10 @@ TabKomisiAgen::TabKomisiAgen(QWidget* parent)
     const QDate today = QDate::currentDate();
     m_from = filters()->addDate("dateFrom", tr("From Date :"), today.addDays(1 - today.day()));
     m_to = filters()->addDate("dateTo", tr("To Date :"), today);
-    m_agent = filters()->addText("txtAgent", tr("Agent :"));
+    QLineEdit* agent = filters()->addText("txtAgent", tr("Agent :"));
     m_number = filters()->addText("txtNo", tr("Code :"));
-    const auto* agents = new AgentTextBox(m_agent, service<BusinessAgent>("Agent"));
-    connect(agents, &KorTextBoxExtender::onItemSelected, this, &TabKomisiAgen::onAgentSelected);
+    m_agent = new RecordField<EntityAgent>(new AgentTextBox(agent, service<BusinessAgent>("Agent")));
+    connect(m_agent, &RecordFieldBase::chosen, this, &TabKomisiAgen::onAgentSelected);
     refresh();
 }
 
@@ -36,7 +36,7 @@ QList<KorEntity*> TabKomisiAgen::readRows(const QString&)
     CommissionFilter filter;
     filter.from = m_from->date();
     filter.to = m_to->date();
-    filter.agentId = idOfCode(m_agent, service<BusinessAgent>("Agent"));
+    filter.agentId = m_agent->filterId(business());
     filter.number = m_number->text();
     return asEntities(businessAs<BusinessPenjualan>()->searchKomisiAgen(filter));
 }

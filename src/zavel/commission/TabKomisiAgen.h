@@ -2,8 +2,11 @@
 
 #include "app/widgets/AppDocumentTab.h"
 
+class EntityAgent;
 class QDateEdit;
 class QLineEdit;
+template <class Entity>
+class RecordField;
 
 /** The list of commissions paid to agents. */
 class TabKomisiAgen final : public AppDocumentTab
@@ -34,6 +37,6 @@ protected:
 private:
     QDateEdit* m_from;
     QDateEdit* m_to;
-    QLineEdit* m_agent;
+    RecordField<EntityAgent>* m_agent;
     QLineEdit* m_number;
 };

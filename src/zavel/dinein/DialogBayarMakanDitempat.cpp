@@ -2,6 +2,7 @@
 
 #include "app/context/AppContext.h"
 #include "app/widgets/AppNumberEdit.h"
+#include "app/widgets/RecordField.h"
 #include "pos/invoice/EntityInvoiceDetail.h"
 #include "pos/masterdata/employee/EmployeeTextBox.h"
 #include "zavel/dinein/DialogSelectSplitInvoice.h"
@@ -26,7 +27,7 @@ DialogBayarMakanDitempat::DialogBayarMakanDitempat(QWidget* parent)
     form.parties.agent = m_ui->txtAgent;
     form.parties.employee = m_ui->txtEmployee;
     setUp(form, m_menu);
-    parties()->employeeBox()->setNextWidget(form.amounts.percents[InvoiceTotals::Discount]);
+    parties()->employeeField()->box()->setNextWidget(form.amounts.percents[InvoiceTotals::Discount]);
     m_ui->dateDue->setDisplayFormat(AppContext::instance()->dateFormat());
     m_ui->dateDue->setDate(QDate::currentDate());
     onKey(QKeySequence("Ctrl+P"), [this] { on_btnPrintBill_clicked(); });

@@ -1,5 +1,6 @@
 #include "zavel/dinein/DialogMakanDitempat.h"
 
+#include "app/widgets/RecordField.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "zavel/dinein/EntityMakanDitempat.h"
 #include "zavel/dinein/TabMakanDitempatDetail.h"
@@ -10,42 +11,23 @@
 DialogMakanDitempat::DialogMakanDitempat(QWidget* parent, EntityMeja* table)
     : OrderDialog(new TabMakanDitempatDetail, parent)
 {
-    m_tableBox = new TableTextBox(ui().txtKode, service<BusinessMeja>("Table"));
-    m_tableBox->setNextWidget(ui().txtMember);
-    connect(m_tableBox, &TableTextBox::onItemSelected, this, &DialogMakanDitempat::onTableSelected);
-    if (table)
-        showTable(table);
+    auto* tables = new TableTextBox(ui().txtKode, service<BusinessMeja>("Table"));
+    tables->setNextWidget(ui().txtMember);
+    m_table = new RecordField<EntityMeja>(tables, nullptr, this);
+    connect(m_table, &RecordFieldBase::changed, this, &DialogMakanDitempat::onTableSelected);
+    m_table->show(table);
     focusLater(table ? ui().txtNamaPelanggan : ui().txtKode);
 }
 
 void DialogMakanDitempat::onTableSelected()
 {
-    if (EntityMeja* table = m_tableBox->selectedItem())
-        showTable(table);
-}
-
-void DialogMakanDitempat::showTable(EntityMeja* table)
-{
-    m_table = table;
-    ui().txtKode->setText(table->getKode());
-    ui().txtMeja->setText(table->getNama());
-}
-
-void DialogMakanDitempat::resolveTable()
-{
-    auto* tables = service<BusinessMeja>("Table");
-    m_table = recordOfCode(ui().txtKode->text().trimmed(), m_table, tables);
-    if (m_table)
-        showTable(m_table);
-    else
-        addError(ui().txtKode, tables->hasError() ? tables->takeErrors() : tr("Please select a table"));
+    const EntityMeja* table = m_table->record();
+    ui().txtMeja->setText(table ? table->getNama() : QString());
 }
 
 bool DialogMakanDitempat::validate()
 {
-    const EntityPoolScope scope(found());
-    m_tableBox->preventSuggest();
-    resolveTable();
+    m_table->check(tr("Please select a table"), tr("Please select a table"));
     return OrderDialog::validate();
 }
 
@@ -54,7 +36,7 @@ KorEntity* DialogMakanDitempat::getEntity()
     auto* order = heldOrNew<EntityMakanDitempat>();
     order->setMeja(m_formerTable);
     order->setPindahMeja(m_formerTrail);
-    order->moveTo(m_table);
+    order->moveTo(m_table->record());
     writeTo(order);
     return order;
 }
@@ -65,7 +47,7 @@ void DialogMakanDitempat::setEntity(KorEntity* entity)
     const auto* order = held<EntityMakanDitempat>();
     m_formerTable = order->getMeja();
     m_formerTrail = order->getPindahMeja();
-    showTable(m_formerTable);
+    m_table->show(m_formerTable);
     showOrder(*order);
 }
 

@@ -4,7 +4,6 @@
 
 class EntityMakanDitempat;
 class EntityMeja;
-class TableTextBox;
 
 /** The form of an order on a table: who sits where, and what they want. Another table in it moves the order there. */
 class DialogMakanDitempat final : public OrderDialog
@@ -22,15 +21,11 @@ public:
     void showOpenOrder(const EntityMakanDitempat& order);
 
 public slots:
+    /** The code names another table, or none. */
     void onTableSelected();
 
 private:
-    void showTable(EntityMeja* table);
-    // A code may be typed without being picked from the list; this looks it up, and tells when it is none.
-    void resolveTable();
-
-    TableTextBox* m_tableBox;
-    EntityMeja* m_table = nullptr;
+    RecordField<EntityMeja>* m_table;
     // Where the order stands in the database, so that a save that failed leaves no trace of a move.
     EntityMeja* m_formerTable = nullptr;
     QString m_formerTrail;

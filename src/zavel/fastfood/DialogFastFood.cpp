@@ -2,6 +2,7 @@
 
 #include "app/widgets/AppNumberEdit.h"
 #include "app/widgets/MoneyEdit.h"
+#include "app/widgets/RecordField.h"
 #include "pos/masterdata/employee/EmployeeTextBox.h"
 #include "zavel/fastfood/EntityFastFood.h"
 #include "zavel/fastfood/EntityInvoiceFastFood.h"
@@ -30,7 +31,7 @@ DialogFastFood::DialogFastFood(QWidget* parent)
     form.parties.agent = m_ui->txtAgent;
     form.parties.employee = m_ui->txtEmployee;
     setUp(form, m_menu);
-    parties()->employeeBox()->setNextWidget(form.amounts.percents[InvoiceTotals::Discount]);
+    parties()->employeeField()->box()->setNextWidget(form.amounts.percents[InvoiceTotals::Discount]);
     showNewInvoice(QDate::currentDate());
     onItemAdded();
     // The food comes first: there is nothing to pay yet.

@@ -1,6 +1,7 @@
 #include "zavel/list/TabDaftarPenjualan.h"
 
 #include "app/context/AccessCheck.h"
+#include "app/widgets/RecordField.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/widgets/KorDialog.h"
 #include "pos/invoice/IInvoice.h"
@@ -31,27 +32,6 @@ namespace
 {
 constexpr char businessName[] = "Sales";
 constexpr int filtersPerRow = 3;
-// No record has it, so a code that nobody has finds nothing.
-constexpr int unknownRecord = 0;
-
-/** The record that a filter's box names, picked from the list or typed as its code. */
-template <class Box, class Service>
-int idOf(Box& box, Service* records)
-{
-    // Whoever searches has typed to the end: no list of suggestions follows.
-    box.preventSuggest();
-    const QString code = box.editor()->text().trimmed();
-    if (code.isEmpty())
-        return KorNoValue;
-    if (const KorEntity* picked = box.selectedCode() == code ? box.selectedItem() : nullptr)
-        return picked->getId();
-    EntityPool pool;
-    const EntityPoolScope scope(pool);
-    const KorEntity* typed = records->findByCode(code);
-    // A database that does not answer is told by the search itself.
-    records->clearErrors();
-    return typed ? typed->getId() : unknownRecord;
-}
 } // namespace
 
 TabDaftarPenjualan::TabDaftarPenjualan(QWidget* parent)
@@ -82,10 +62,11 @@ void TabDaftarPenjualan::makeFilters()
     m_employee = filters()->addText("txtEmployee", tr("Waitress :"));
     m_agent = filters()->addText("txtAgent", tr("Agent :"));
 
-    m_tables = new TableTextBox(m_table, service<BusinessMeja>("Table"));
-    m_members = new MemberTextBox(m_member, service<BusinessMember>("Member"));
-    m_employees = new EmployeeTextBox(m_employee, service<BusinessEmployee>("Employee"));
-    m_agents = new AgentTextBox(m_agent, service<BusinessAgent>("Agent"));
+    m_tables = new RecordField<EntityMeja>(new TableTextBox(m_table, service<BusinessMeja>("Table")));
+    m_members = new RecordField<EntityMember>(new MemberTextBox(m_member, service<BusinessMember>("Member")));
+    m_employees =
+        new RecordField<EntityEmployee>(new EmployeeTextBox(m_employee, service<BusinessEmployee>("Employee")));
+    m_agents = new RecordField<EntityAgent>(new AgentTextBox(m_agent, service<BusinessAgent>("Agent")));
 }
 
 void TabDaftarPenjualan::makeButtons()
@@ -127,10 +108,10 @@ SalesFilter TabDaftarPenjualan::chosen() const
     filter.payment = m_payment->currentData().toInt();
     filter.invoiceNo = m_no->text().trimmed();
     filter.guest = m_guest->text().trimmed();
-    filter.tableId = idOf(*m_tables, service<BusinessMeja>("Table"));
-    filter.memberId = idOf(*m_members, service<BusinessMember>("Member"));
-    filter.employeeId = idOf(*m_employees, service<BusinessEmployee>("Employee"));
-    filter.agentId = idOf(*m_agents, service<BusinessAgent>("Agent"));
+    filter.tableId = m_tables->filterId(business());
+    filter.memberId = m_members->filterId(business());
+    filter.employeeId = m_employees->filterId(business());
+    filter.agentId = m_agents->filterId(business());
     return filter;
 }
 

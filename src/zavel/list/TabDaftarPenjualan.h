@@ -2,14 +2,16 @@
 
 #include "app/widgets/AppDocumentTab.h"
 
-class AgentTextBox;
-class EmployeeTextBox;
+class EntityAgent;
+class EntityEmployee;
+class EntityMeja;
+class EntityMember;
 class EntityPenjualanInfo;
-class MemberTextBox;
 class QComboBox;
 class QDateEdit;
 class QLineEdit;
-class TableTextBox;
+template <class Entity>
+class RecordField;
 struct SalesFilter;
 
 /** The list of the sales of all kinds: finds them, opens their payment again, deletes them. */
@@ -60,8 +62,8 @@ private:
     QLineEdit* m_member;
     QLineEdit* m_guest;
     QLineEdit* m_employee;
-    TableTextBox* m_tables;
-    AgentTextBox* m_agents;
-    MemberTextBox* m_members;
-    EmployeeTextBox* m_employees;
+    RecordField<EntityMeja>* m_tables;
+    RecordField<EntityAgent>* m_agents;
+    RecordField<EntityMember>* m_members;
+    RecordField<EntityEmployee>* m_employees;
 };

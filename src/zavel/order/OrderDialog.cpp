@@ -1,5 +1,6 @@
 #include "zavel/order/OrderDialog.h"
 
+#include "app/widgets/RecordField.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "pos/masterdata/member/MemberTextBox.h"
 #include "zavel/order/OrderLinesTab.h"
@@ -17,9 +18,10 @@ OrderDialog::OrderDialog(OrderLinesTab* lines, QWidget* parent)
     m_ui->tabDetail->addTab(m_lines, tr("[F3] Menu"));
     connect(m_lines, &OrderLinesTab::ItemAdded, this, &OrderDialog::onItemAdded);
 
-    m_memberBox = new MemberTextBox(m_ui->txtMember, service<BusinessMember>("Member"));
-    m_memberBox->setNextWidget(m_ui->txtNamaPelanggan);
-    connect(m_memberBox, &MemberTextBox::onItemSelected, this, &OrderDialog::onMemberSelected);
+    auto* members = new MemberTextBox(m_ui->txtMember, service<BusinessMember>("Member"));
+    members->setNextWidget(m_ui->txtNamaPelanggan);
+    m_member = new RecordField<EntityMember>(members, m_ui->txtMemberName, this);
+    connect(m_member, &RecordFieldBase::chosen, this, &OrderDialog::onMemberSelected);
 
     const auto* menuKey = new QShortcut(QKeySequence(Qt::Key_F3), this);
     connect(menuKey, &QShortcut::activated, this, &OrderDialog::onTabItemSelected);
@@ -30,11 +32,8 @@ OrderDialog::~OrderDialog() = default;
 
 void OrderDialog::onMemberSelected()
 {
-    EntityMember* member = m_memberBox->selectedItem();
-    if (!member)
-        return;
-    showMember(member);
-    if (m_ui->txtNamaPelanggan->text().isEmpty())
+    const EntityMember* member = m_member->record();
+    if (member && m_ui->txtNamaPelanggan->text().isEmpty())
         m_ui->txtNamaPelanggan->setText(member->getNama());
 }
 
@@ -52,17 +51,10 @@ void OrderDialog::showNotice(const QString& text)
     m_ui->lblNotice->setVisible(!text.isEmpty());
 }
 
-void OrderDialog::showMember(EntityMember* member)
-{
-    m_member = member;
-    m_ui->txtMember->setText(member->getKode());
-    m_ui->txtMemberName->setText(member->getNama());
-}
-
 void OrderDialog::showGuest(const EntityOrder& order)
 {
     if (EntityMember* member = order.getMember())
-        showMember(member);
+        m_member->show(member);
     m_ui->txtNamaPelanggan->setText(order.getPemesan());
 }
 
@@ -73,23 +65,9 @@ void OrderDialog::showOrder(const EntityOrder& order)
     QTimer::singleShot(0, m_lines, [lines = m_lines] { lines->focusLines(); });
 }
 
-void OrderDialog::resolveMember()
-{
-    auto* members = service<BusinessMember>("Member");
-    const QString code = m_ui->txtMember->text().trimmed();
-    m_member = recordOfCode(code, m_member, members);
-    m_ui->txtMemberName->clear();
-    if (m_member)
-        showMember(m_member);
-    else if (!code.isEmpty())
-        addError(m_ui->txtMember, members->hasError() ? members->takeErrors() : tr("Please select a member"));
-}
-
 bool OrderDialog::validate()
 {
-    const EntityPoolScope scope(m_found);
-    m_memberBox->preventSuggest();
-    resolveMember();
+    m_member->check(QString(), tr("Please select a member"));
     if (m_lines->orderLines().isEmpty())
         addError(m_ui->tabDetail, tr("Add one or more menu"));
     if (!EntityOrder::totalFits(m_otherLines + m_lines->orderLines()))
@@ -101,7 +79,7 @@ bool OrderDialog::beforeAccept() { return m_lines->mayAddCurrencies() && KorDial
 
 void OrderDialog::writeTo(EntityOrder* order) const
 {
-    order->setMember(m_member);
+    order->setMember(m_member->record());
     order->setPemesan(m_ui->txtNamaPelanggan->text());
     order->setTgl(QDate::currentDate());
     order->setStatus(EntityOrder::WAITING_FOR_MENU);

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "app/context/EntityPool.h"
 #include "kor/widgets/KorDialog.h"
 #include "zavel/order/EntityOrder.h"
 
 #include <memory>
 
-class MemberTextBox;
 class OrderLinesTab;
+template <class Entity>
+class RecordField;
 
 namespace Ui
 {
@@ -37,9 +37,6 @@ protected:
     OrderDialog(OrderLinesTab* lines, QWidget* parent);
 
     [[nodiscard]] Ui::OrderDialog& ui() const { return *m_ui; }
-    /** Where records are read to that live as long as the form. */
-    [[nodiscard]] EntityPool& found() { return m_found; }
-
     void showGuest(const EntityOrder& order);
     /** Shows a saved order with its lines, the cursor on them. */
     void showOrder(const EntityOrder& order);
@@ -48,24 +45,9 @@ protected:
     /** Lines that stand elsewhere and count towards what one order may cost. */
     void setOtherLines(const EntityOrder::Lines& lines) { m_otherLines = lines; }
 
-    /** The record that a form's code stands for: the one at hand, or else what the service knows under it. */
-    template <class Entity, class Service>
-    static Entity* recordOfCode(const QString& code, Entity* atHand, Service* service)
-    {
-        if (code.isEmpty())
-            return nullptr;
-        return atHand && atHand->getKode() == code ? atHand : service->findByCode(code);
-    }
-
 private:
-    void showMember(EntityMember* member);
-    // A code may be typed without being picked from the list; this looks it up, and tells when it is none.
-    void resolveMember();
-
     std::unique_ptr<Ui::OrderDialog> m_ui;
-    EntityPool m_found;
     OrderLinesTab* m_lines;
-    MemberTextBox* m_memberBox;
-    EntityMember* m_member = nullptr;
+    RecordField<EntityMember>* m_member;
     EntityOrder::Lines m_otherLines;
 };

@@ -1,7 +1,7 @@
 #include "zavel/order/OrderItemPicker.h"
 
 #include "app/context/EntityPool.h"
-#include "app/widgets/AppLookupBox.h"
+#include "kor/business/KorErrorScope.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "pos/masterdata/item/BusinessItem.h"
 #include "pos/masterdata/itemtype/BusinessJenisItem.h"
@@ -32,11 +32,15 @@ OrderItemPicker::~OrderItemPicker() = default;
 
 QLineEdit* OrderItemPicker::codeField() const { return m_ui->txtCode; }
 
-void OrderItemPicker::watch(AppLookupBox* box)
+QLineEdit* OrderItemPicker::nameField() const { return m_ui->txtName; }
+
+void OrderItemPicker::useField(RecordField<EntityItem>* item)
 {
-    box->setNextWidget(m_ui->txtQty);
-    box->setTaker([this] { return chooseByCode(); });
-    connect(box, &AppLookupBox::onItemSelected, this, &OrderItemPicker::chooseByCode);
+    m_item = item;
+    m_item->keepIn(m_items);
+    m_item->box()->setNextWidget(m_ui->txtQty);
+    m_item->lookUpWhenLeft();
+    connect(m_item, &RecordFieldBase::changed, this, &OrderItemPicker::showPrice);
 }
 
 void OrderItemPicker::fillTypes()
@@ -45,9 +49,9 @@ void OrderItemPicker::fillTypes()
     auto* types = service<BusinessJenisItem>("Item Type");
     EntityPool read;
     const EntityPoolScope scope(read);
+    KorErrorScope errors(types);
     const QList<KorEntity*> all = types->findAll(QString());
-    if (types->hasError())
-        showError(types->takeErrors());
+    showError(errors.take());
     for (const KorEntity* type : all)
         m_ui->ddlType->addItem(static_cast<const EntityJenisItem*>(type)->getNama(), type->getId());
 }
@@ -62,33 +66,9 @@ void OrderItemPicker::on_ddlType_currentIndexChanged(int row)
         m_narrow(m_ui->ddlType->itemData(row).toInt());
 }
 
-void OrderItemPicker::on_txtCode_textEdited(const QString& text)
+void OrderItemPicker::showPrice()
 {
-    Q_UNUSED(text)
-    showItem(nullptr);
-}
-
-bool OrderItemPicker::chooseByCode()
-{
-    const QString code = m_ui->txtCode->text().trimmed();
-    if (m_item && m_item->getKode().compare(code, Qt::CaseInsensitive) == 0)
-        return true;
-    if (code.isEmpty()) {
-        showItem(nullptr);
-        return false;
-    }
-    const EntityPoolScope scope(m_items);
-    EntityItem* item = m_service->findByCode(code);
-    if (m_service->hasError())
-        showError(m_service->takeErrors());
-    showItem(item);
-    return item;
-}
-
-void OrderItemPicker::showItem(EntityItem* item)
-{
-    m_item = item;
-    m_ui->txtName->setText(item ? item->getNama() : QString());
+    const EntityItem* item = m_item->record();
     m_ui->txtUnitPrice->setMoney(item ? item->getHargaJualLokal() : nullptr);
     showAmount();
 }
@@ -111,28 +91,27 @@ double OrderItemPicker::quantity() const
 
 bool OrderItemPicker::totalFits() const
 {
-    const double minorUnits = std::abs(price() * quantity()) * m_item->getHargaJualLokal()->factor();
+    const double minorUnits = std::abs(price() * quantity()) * m_item->record()->getHargaJualLokal()->factor();
     return quantity() <= largestQuantity && minorUnits <= std::numeric_limits<int>::max();
 }
 
 bool OrderItemPicker::validate()
 {
-    if (require(m_ui->txtCode, tr("Enter the item code")) && !chooseByCode())
-        addError(m_ui->txtCode, tr("Please enter a valid item code"));
+    m_item->check(tr("Enter the item code"), tr("Please enter a valid item code"));
     if (quantity() < 1)
         addError(m_ui->txtQty, tr("Enter the qty of the item"));
-    else if (m_item && !totalFits())
+    else if (m_item->record() && !totalFits())
         addError(m_ui->txtQty, tr("This amount is too large for one line. Please enter a smaller qty"));
     return !hasError();
 }
 
 KorEntity* OrderItemPicker::getEntity()
 {
-    const Money* listed = m_item->getHargaJualLokal();
-    m_line->setItem(m_item);
+    const Money* listed = m_item->record()->getHargaJualLokal();
+    m_line->setItem(m_item->record());
     m_line->setQty(static_cast<int>(quantity()));
     m_line->setTotal(new Money(m_line, price() * quantity(), listed->getCurrency()));
-    m_line->setPriceEach(m_item->getHargaJualLokal());
+    m_line->setPriceEach(m_item->record()->getHargaJualLokal());
     m_line->setDescription(m_ui->txtNotes->text());
     return m_line;
 }
@@ -140,13 +119,10 @@ KorEntity* OrderItemPicker::getEntity()
 void OrderItemPicker::setEntity(KorEntity* line)
 {
     m_line = static_cast<EntityOrderDetail*>(line);
-    const bool isChange = m_line->getItem();
-    m_ui->txtCode->setEnabled(!isChange);
-    m_ui->txtName->setEnabled(!isChange);
-    if (!isChange)
+    if (!m_line->getItem())
         return;
-    m_ui->txtCode->setText(m_line->getItem()->getKode());
-    showItem(m_line->getItem());
+    m_item->show(m_line->getItem());
+    m_item->freeze();
     m_ui->txtQty->setValue(m_line->getQty());
     m_ui->txtNotes->setText(m_line->getDescription());
     focusLater(m_ui->txtQty);

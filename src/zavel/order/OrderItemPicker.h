@@ -1,15 +1,14 @@
 #pragma once
 
+#include "app/widgets/RecordField.h"
 #include "kor/widgets/KorDialog.h"
+#include "pos/masterdata/item/EntityItem.h"
 
 #include <functional>
 #include <memory>
 
-class AppLookupBox;
 class BusinessItem;
-class EntityItem;
 class EntityOrderDetail;
-class EntityPool;
 
 namespace Ui
 {
@@ -37,7 +36,6 @@ public:
     void setItemType(int id);
 
 public slots:
-    void on_txtCode_textEdited(const QString& text);
     void on_txtQty_textChanged(const QString& text);
     void on_ddlType_currentIndexChanged(int row);
 
@@ -51,16 +49,15 @@ protected:
     {
         auto* box = new Box(codeField(), m_service);
         m_narrow = [box](int type) { box->setItemType(type); };
-        watch(box);
+        useField(new RecordField<EntityItem>(box, nameField(), this));
     }
 
 private:
     [[nodiscard]] QLineEdit* codeField() const;
-    void watch(AppLookupBox* box);
+    [[nodiscard]] QLineEdit* nameField() const;
+    void useField(RecordField<EntityItem>* item);
     void fillTypes();
-    /** Takes the item of the code that stands in the field; false when there is none. */
-    bool chooseByCode();
-    void showItem(EntityItem* item);
+    void showPrice();
     void showAmount();
     [[nodiscard]] double price() const;
     [[nodiscard]] double quantity() const;
@@ -71,5 +68,5 @@ private:
     BusinessItem* m_service;
     std::function<void(int)> m_narrow;
     EntityOrderDetail* m_line = nullptr;
-    EntityItem* m_item = nullptr;
+    RecordField<EntityItem>* m_item = nullptr;
 };

@@ -3,6 +3,7 @@
 #include "app/context/AppContext.h"
 #include "app/widgets/AppNumberEdit.h"
 #include "app/widgets/MoneyEdit.h"
+#include "app/widgets/RecordField.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/widgets/KorTabOrder.h"
 #include "pos/invoice/EntityInvoiceDetail.h"
@@ -52,13 +53,13 @@ void PaymentDialog::setUp(const Form& form, QWidget* linesPage)
 
 void PaymentDialog::connectParties()
 {
-    const auto onChoice = [this](KorTextBoxExtender* box, auto action) {
-        if (box)
-            connect(box, &KorTextBoxExtender::onItemSelected, this, action);
+    const auto onChoice = [this](RecordFieldBase* field, auto action) {
+        if (field)
+            connect(field, &RecordFieldBase::chosen, this, action);
     };
-    onChoice(m_parties->memberBox(), &PaymentDialog::onMemberSelected);
-    onChoice(m_parties->agentBox(), &PaymentDialog::onAgentSelected);
-    onChoice(m_parties->employeeBox(), &PaymentDialog::onEmployeeSelected);
+    onChoice(m_parties->memberField(), &PaymentDialog::onMemberSelected);
+    onChoice(m_parties->agentField(), &PaymentDialog::onAgentSelected);
+    onChoice(m_parties->employeeField(), &PaymentDialog::onEmployeeSelected);
     m_parties->cashField()->box()->setNextWidget(m_form.amounts.paid);
 }
 
@@ -86,7 +87,7 @@ void PaymentDialog::showInvoice(const Invoice& invoice)
     m_cascade->readFrom(invoice);
 }
 
-void PaymentDialog::showGuest(const EntityMember* member, const QString& name)
+void PaymentDialog::showGuest(EntityMember* member, const QString& name)
 {
     m_parties->showMember(member);
     m_form.guest->setText(member ? member->getNama() : name);
@@ -102,7 +103,7 @@ void PaymentDialog::applyMemberDiscount(const EntityMember* member)
 
 void PaymentDialog::onMemberSelected()
 {
-    const EntityMember* member = m_parties->memberBox()->selectedItem();
+    const EntityMember* member = m_parties->member();
     if (!member)
         return;
     m_form.guest->setText(member->getNama());

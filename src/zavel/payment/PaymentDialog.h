@@ -92,7 +92,7 @@ protected:
     void showNewInvoice(const QDate& date);
     /** All but the guest and the lines. */
     void showInvoice(const Invoice& invoice);
-    void showGuest(const EntityMember* member, const QString& name);
+    void showGuest(EntityMember* member, const QString& name);
     void applyMemberDiscount(const EntityMember* member);
     /** All but the guest's name. The member and the account are those of the last validation. */
     void fillInvoice(Invoice* invoice);

@@ -1,6 +1,7 @@
 #include "zavel/receivable/DialogPiutang.h"
 
 #include "app/persistence/AppDocumentLines.h"
+#include "app/widgets/RecordField.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "pos/cash/settlement/PaymentType.h"
 #include "pos/masterdata/member/MemberTextBox.h"
@@ -19,33 +20,18 @@ DialogPiutang::DialogPiutang(QWidget* parent)
 {
     m_ui->setupUi(this);
     offerTypes(*m_ui, paymentTypeRows());
-    m_memberBox = new MemberTextBox(m_ui->txtMember, service<BusinessMember>("Member"));
-    m_memberBox->setNextWidget(m_ui->txtARAccount);
-    connect(m_memberBox, &KorTextBoxExtender::onItemSelected, this, &DialogPiutang::onMemberSelected);
-    setUpSettlement({m_ui->txtMember, m_ui->datePay, m_ui->txtARAccount, m_ui->lblARAccount, m_ui->tabDetail,
-                     m_ui->txtGrandTotal, m_ui->buttonBox},
+    auto* members = new MemberTextBox(m_ui->txtMember, service<BusinessMember>("Member"));
+    members->setNextWidget(m_ui->txtARAccount);
+    setUpSettlement({new RecordField<EntityMember>(members, m_ui->txtNamaPelanggan, this), m_ui->datePay,
+                     m_ui->txtARAccount, m_ui->lblARAccount, m_ui->tabDetail, m_ui->txtGrandTotal, m_ui->buttonBox},
                     {tr("Select a member"), tr("Enter one or more sales invoice"),
                      tr("Enter the amount paid for the invoice no: %1"), tr("Please select an Accounts Receivable"),
                      tr("Please select a valid Accounts Receivable")},
-                    m_ui->tabInvoices, service<BusinessMember>("Member"), m_sales);
+                    m_ui->tabInvoices, m_sales);
     focusLater(m_ui->txtMember);
 }
 
 DialogPiutang::~DialogPiutang() = default;
-
-void DialogPiutang::onMemberSelected() { takePerson(m_memberBox->selectedItem()); }
-
-EntityContact* DialogPiutang::findPerson(const QString& code)
-{
-    // Picked from the list, it has just been read.
-    EntityMember* picked = m_memberBox->selectedItem();
-    return picked && picked->getKode() == code ? picked : service<BusinessMember>("Member")->findByCode(code);
-}
-
-void DialogPiutang::showPerson(const EntityContact* person)
-{
-    m_ui->txtNamaPelanggan->setText(person ? person->getNama() : QString());
-}
 
 QList<KorEntity*> DialogPiutang::readOpenLines(const EntityContact& person)
 {

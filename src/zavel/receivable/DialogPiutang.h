@@ -5,7 +5,6 @@
 #include <memory>
 
 class BusinessPenjualan;
-class MemberTextBox;
 
 namespace Ui
 {
@@ -25,12 +24,7 @@ public:
     void setEntity(KorEntity* entity) override;
     bool beforeAccept() override;
 
-public slots:
-    void onMemberSelected();
-
 protected:
-    [[nodiscard]] EntityContact* findPerson(const QString& code) override;
-    void showPerson(const EntityContact* person) override;
     [[nodiscard]] QList<KorEntity*> readOpenLines(const EntityContact& person) override;
     [[nodiscard]] const KorEntity* lineWithoutAmount() const override;
 
@@ -40,5 +34,4 @@ private:
 
     std::unique_ptr<Ui::DialogPiutang> m_ui;
     BusinessPenjualan* m_sales;
-    MemberTextBox* m_memberBox;
 };

@@ -1,7 +1,7 @@
 #include "zavel/receivable/TabPiutang.h"
 
 #include "app/persistence/AppDocumentLines.h"
-#include "app/widgets/CodeFilter.h"
+#include "app/widgets/RecordField.h"
 #include "app/widgets/UnfinishedSave.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "pos/cash/settlement/PaymentType.h"
@@ -26,9 +26,9 @@ TabPiutang::TabPiutang(QWidget* parent) : AppDocumentTab({tr("Member Payments"),
     m_to = filters()->addDate("dateTo", tr("To Date :"), today);
     m_type = filters()->addChoice("ddlPayment", tr("Payment Type :"),
                                   AppFilterBar::Rows{{tr("All"), 0}} + paymentTypeRows());
-    m_member = filters()->addText("txtMember", tr("Member :"));
-    const auto* members = new MemberTextBox(m_member, service<BusinessMember>("Member"));
-    connect(members, &KorTextBoxExtender::onItemSelected, this, &TabPiutang::on_btnSearch_clicked);
+    QLineEdit* member = filters()->addText("txtMember", tr("Member :"));
+    m_member = new RecordField<EntityMember>(new MemberTextBox(member, service<BusinessMember>("Member")));
+    connect(m_member, &RecordFieldBase::chosen, this, &TabPiutang::on_btnSearch_clicked);
     refresh();
 }
 
@@ -38,7 +38,7 @@ QList<KorEntity*> TabPiutang::readRows(const QString&)
     filter.from = m_from->date();
     filter.to = m_to->date();
     filter.paymentType = m_type->currentData().toInt();
-    filter.memberId = idOfCode(m_member, service<BusinessMember>("Member"));
+    filter.memberId = m_member->filterId(business());
     return asEntities(businessAs<BusinessPenjualan>()->searchPiutang(filter));
 }
 

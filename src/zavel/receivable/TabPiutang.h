@@ -2,11 +2,12 @@
 
 #include "app/widgets/AppDocumentTab.h"
 
-class MemberTextBox;
+class EntityMember;
 class EntityPiutang;
 class QComboBox;
 class QDateEdit;
-class QLineEdit;
+template <class Entity>
+class RecordField;
 
 /** The list of what members paid later. */
 class TabPiutang final : public AppDocumentTab
@@ -36,5 +37,5 @@ private:
     QDateEdit* m_from;
     QDateEdit* m_to;
     QComboBox* m_type;
-    QLineEdit* m_member;
+    RecordField<EntityMember>* m_member;
 };

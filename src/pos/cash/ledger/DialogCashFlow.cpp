@@ -18,13 +18,18 @@ DialogCashFlow::DialogCashFlow(QWidget* parent) : KorDialog(parent), m_ui(std::m
     m_ui->ddlType->addItem(tr("DEBET"), CashFlowFilter::DebitRows);
     m_ui->ddlType->addItem(tr("CREDIT"), CashFlowFilter::CreditRows);
     m_account = new AccountField(m_ui->txtAccount, m_ui->lblAccountName, this);
-    connect(m_account->box(), &BankTextBox::onItemSelected, this, &DialogCashFlow::onBankSelected);
+    connect(m_account, &AccountField::chosen, this, &DialogCashFlow::onBankSelected);
     focusLater(m_ui->txtAccount);
 }
 
 DialogCashFlow::~DialogCashFlow() = default;
 
-void DialogCashFlow::onBankSelected() { m_ui->txtPaid->setFocus(); }
+void DialogCashFlow::onBankSelected()
+{
+    // Whoever has walked on to another field stays there.
+    if (m_ui->txtAccount->hasFocus())
+        m_ui->txtPaid->setFocus();
+}
 
 bool DialogCashFlow::validate()
 {
@@ -40,7 +45,7 @@ bool DialogCashFlow::validate()
 KorEntity* DialogCashFlow::getEntity()
 {
     auto* entry = heldOrNew<EntityCashFlow>();
-    if (const EntityBank* account = m_account->account())
+    if (const EntityBank* account = m_account->record())
         entry->setAccountCode(account->getKode());
     entry->setDate(m_ui->datePayment->date());
     entry->setNotes(m_ui->txtNotes->toPlainText());

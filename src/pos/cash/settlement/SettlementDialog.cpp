@@ -4,7 +4,8 @@
 #include "app/money/Money.h"
 #include "app/widgets/AppLinesTab.h"
 #include "app/widgets/MoneyEdit.h"
-#include "kor/business/KorServiceDirectory.h"
+#include "app/widgets/RecordField.h"
+#include "kor/business/KorErrorScope.h"
 #include "pos/cash/settlement/SettlementTab.h"
 #include "pos/masterdata/account/AccountField.h"
 #include "pos/masterdata/contact/EntityContact.h"
@@ -19,18 +20,20 @@
 #include <limits>
 
 void SettlementDialog::setUpSettlement(const Boxes& boxes, const Words& words, SettlementTab* page,
-                                       KorBusinessLogic* people, KorBusinessLogic* documents)
+                                       KorBusinessLogic* documents)
 {
     m_boxes = boxes;
     m_words = words;
     m_page = page;
-    m_people = people;
     m_documents = documents;
     m_account = new AccountField(boxes.account, boxes.accountName, this);
     m_boxes.date->setDisplayFormat(AppContext::instance()->dateFormat());
     m_boxes.date->setDate(QDate::currentDate());
     makeTouchable(m_boxes.buttons);
-    connect(m_boxes.person, &QLineEdit::editingFinished, this, &SettlementDialog::personTyped);
+    m_boxes.person->lookUpWhenLeft();
+    connect(m_boxes.person, &RecordFieldBase::changed, this, [this] { showPerson(person()); });
+    connect(m_boxes.person, &RecordFieldBase::chosen, this, [this] { showError(readLinesOfAnother()); });
+    connect(m_boxes.person, &RecordFieldBase::unread, this, &SettlementDialog::showError);
     connect(m_page, &SettlementTab::Paid, this, &SettlementDialog::showTotal);
     connect(new QShortcut(Qt::Key_F3, this), &QShortcut::activated, this, &SettlementDialog::onTabInvoicesSelected);
     m_page->setLines({});
@@ -51,73 +54,45 @@ void SettlementDialog::onTabInvoicesSelected()
     m_page->focusGrid();
 }
 
-void SettlementDialog::tell(const QString& failure)
-{
-    if (!failure.isEmpty())
-        showError(failure);
-}
-
 // --- the person ----------------------------------------------------------------------------------------------------
 
-void SettlementDialog::readAgain() { tell(readLines()); }
+EntityContact* SettlementDialog::person() const { return static_cast<EntityContact*>(m_boxes.person->entity()); }
+
+void SettlementDialog::readAgain() { showError(readLines()); }
 
 void SettlementDialog::takePerson(EntityContact* person)
 {
+    m_boxes.person->show(person);
+    readAgain();
+}
+
+void SettlementDialog::checkPerson()
+{
+    m_boxes.person->check(m_words.noPerson, m_words.noPerson);
+    if (!m_boxes.person->couldAsk())
+        return;
+    const QString failure = readLinesOfAnother();
+    if (!failure.isEmpty())
+        addError(m_boxes.person->box()->editor(), failure.trimmed());
+}
+
+QString SettlementDialog::readLinesOfAnother()
+{
     // A choice from the list arrives twice: when the focus leaves the box, and as the choice itself.
-    if (!person || person != m_person)
-        tell(changePerson(person));
-}
-
-void SettlementDialog::personTyped()
-{
-    if (m_boxes.person->text() != m_handledCode)
-        tell(choosePerson());
-}
-
-QString SettlementDialog::choosePerson()
-{
-    const QString code = m_boxes.person->text();
-    m_handledCode = code;
-    if (m_person && m_person->getKode().compare(code, Qt::CaseInsensitive) == 0)
-        return m_linesKnown ? QString() : readLines();
-    EntityContact* found = nullptr;
-    if (!code.isEmpty()) {
-        const EntityPoolScope scope(m_found);
-        m_people->clearErrors();
-        found = findPerson(code);
-        if (m_people->hasError())
-            return m_people->takeErrors();
-    }
-    return changePerson(found);
-}
-
-QString SettlementDialog::changePerson(EntityContact* person)
-{
-    showChosen(person);
-    return readLines();
-}
-
-void SettlementDialog::showChosen(EntityContact* person)
-{
-    m_person = person;
-    if (person) {
-        m_handledCode = person->getKode();
-        m_boxes.person->setText(m_handledCode);
-    }
-    showPerson(person);
+    return m_boxes.person->id() == m_readForId ? QString() : readLines();
 }
 
 QString SettlementDialog::readLines()
 {
     EntityPool read;
     QList<KorEntity*> lines;
-    m_documents->clearErrors();
-    if (m_person) {
+    KorErrorScope errors(m_documents);
+    if (person()) {
         const EntityPoolScope scope(read);
-        lines = readOpenLines(*m_person);
+        lines = readOpenLines(*person());
     }
-    m_linesKnown = !m_documents->hasError();
-    if (m_person && m_person->getId() == m_storedPersonId) {
+    m_readForId = errors.failed() ? KorNoValue : m_boxes.person->id();
+    if (person() && m_boxes.person->id() == m_storedPersonId) {
         // What is stored stands in the place of what is open of the same document, and shows even if nothing is.
         for (KorEntity* stored : qAsConst(m_stored)) {
             // A document may stand in two stored lines: neither takes the other's place.
@@ -132,7 +107,7 @@ QString SettlementDialog::readLines()
     }
     m_page->setLines(lines);
     m_open.swap(read);
-    return m_linesKnown ? QString() : m_documents->takeErrors();
+    return errors.take();
 }
 
 void SettlementDialog::showStored(EntityContact* person, EntityBank* account, const QList<KorEntity*>& lines,
@@ -145,12 +120,12 @@ void SettlementDialog::showStored(EntityContact* person, EntityBank* account, co
         takePerson(person);
         return;
     }
-    showChosen(person);
-    m_linesKnown = true;
+    m_boxes.person->show(person);
+    m_readForId = person->getId();
     m_page->setLines(lines);
 }
 
-EntityBank* SettlementDialog::account() const { return m_account->account(); }
+EntityBank* SettlementDialog::account() const { return m_account->record(); }
 
 QList<KorEntity*> SettlementDialog::removedLines(const QList<KorEntity*>& taken) const
 {
@@ -191,15 +166,10 @@ void SettlementDialog::checkLines()
 
 bool SettlementDialog::validate()
 {
-    // A code typed by hand counts like one that was picked from the list.
-    const QString failure = choosePerson();
-    if (!failure.isEmpty()) {
-        // A database that does not answer is told once, not once a box.
-        addError(m_boxes.person, failure.trimmed());
+    checkPerson();
+    // A database that does not answer is told once, not once a box.
+    if (!m_boxes.person->couldAsk() || m_boxes.person->id() != m_readForId)
         return false;
-    }
-    if (!m_person)
-        addError(m_boxes.person, m_words.noPerson);
     checkLines();
     if (sum() > std::numeric_limits<int>::max())
         addError(m_boxes.pages, tr("The total is larger than a payment can hold. Please check the figures."));

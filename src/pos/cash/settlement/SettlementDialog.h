@@ -13,6 +13,7 @@ class MoneyEdit;
 class QDateEdit;
 class QLabel;
 class QTabWidget;
+class RecordFieldBase;
 class SettlementTab;
 
 /**
@@ -35,7 +36,8 @@ public slots:
 protected:
     struct Boxes
     {
-        QLineEdit* person;
+        /** Names an EntityContact. */
+        RecordFieldBase* person;
         QDateEdit* date;
         QLineEdit* account;
         QLabel* accountName;
@@ -55,9 +57,8 @@ protected:
     };
 
     // What a form tells.
-    [[nodiscard]] virtual EntityContact* findPerson(const QString& code) = 0;
-    /** Null when nobody is chosen. */
-    virtual void showPerson(const EntityContact* person) = 0;
+    /** Shows what the form tells of the person besides code and name; null when the box names nobody. */
+    virtual void showPerson(const EntityContact* person) { Q_UNUSED(person) }
     /** A line for each open document of the person. */
     [[nodiscard]] virtual QList<KorEntity*> readOpenLines(const EntityContact& person) = 0;
     [[nodiscard]] virtual int documentIdOf(const KorEntity& line) const = 0;
@@ -74,9 +75,8 @@ protected:
     /** The total has changed. */
     virtual void totalChanged() {}
 
-    /** To be called once, at the end of the form's constructor; the services are those of the person and the lines. */
-    void setUpSettlement(const Boxes& boxes, const Words& words, SettlementTab* page, KorBusinessLogic* people,
-                         KorBusinessLogic* documents);
+    /** To be called once, at the end of the form's constructor; the service is that of the lines. */
+    void setUpSettlement(const Boxes& boxes, const Words& words, SettlementTab* page, KorBusinessLogic* documents);
     /** A second page, whose amounts are part of the total. */
     void addLinesPage(AppLinesTab* page, Qt::Key key);
     /** Shows the person with what is open; the person is borrowed. Null shows an empty form. */
@@ -86,7 +86,7 @@ protected:
     /** Shows a stored settlement; with the person's other open documents on offer, or with its own lines alone. */
     void showStored(EntityContact* person, EntityBank* account, const QList<KorEntity*>& lines, bool offerOthers);
 
-    [[nodiscard]] EntityContact* person() const { return m_person; }
+    [[nodiscard]] EntityContact* person() const;
     [[nodiscard]] EntityBank* account() const;
     [[nodiscard]] AccountField* accountField() const { return m_account; }
     /** What all lines come to, in minor units. */
@@ -95,29 +95,21 @@ protected:
     [[nodiscard]] QList<KorEntity*> removedLines(const QList<KorEntity*>& taken) const;
 
 private:
-    // Those that read return what failed, or nothing.
-    void personTyped();
-    [[nodiscard]] QString choosePerson();
-    [[nodiscard]] QString changePerson(EntityContact* person);
+    void checkPerson();
+    // What failed, or nothing.
     [[nodiscard]] QString readLines();
-    void showChosen(EntityContact* person);
-    void tell(const QString& failure);
+    [[nodiscard]] QString readLinesOfAnother();
     void showTotal();
 
     Boxes m_boxes{};
     Words m_words;
     SettlementTab* m_page = nullptr;
     AccountField* m_account = nullptr;
-    KorBusinessLogic* m_people = nullptr;
     KorBusinessLogic* m_documents = nullptr;
-    // Whom the typed codes stood for; they live as long as the form, as its record points at them.
-    EntityPool m_found;
     // The open documents of the person.
     EntityPool m_open;
-    EntityContact* m_person = nullptr;
-    // What was made of the person's code already, so that nothing is read or told twice.
-    QString m_handledCode;
-    bool m_linesKnown = false;
+    // Whose documents are shown; KorNoValue also when they could not be read.
+    int m_readForId = KorNoValue;
     int m_storedPersonId = KorNoValue;
     QList<KorEntity*> m_stored;
 };

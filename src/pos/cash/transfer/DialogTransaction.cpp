@@ -16,16 +16,25 @@ DialogTransaction::DialogTransaction(QWidget* parent)
     m_ui->dateTrans->setDate(QDate::currentDate());
     m_from = new AccountField(m_ui->txtFromAccount, m_ui->lblFromAccountName, this);
     m_to = new AccountField(m_ui->txtToAccount, m_ui->lblToAccountName, this);
-    connect(m_from->box(), &BankTextBox::onItemSelected, this, &DialogTransaction::onFromAccountSelected);
-    connect(m_to->box(), &BankTextBox::onItemSelected, this, &DialogTransaction::onToAccountSelected);
+    connect(m_from, &AccountField::chosen, this, &DialogTransaction::onFromAccountSelected);
+    connect(m_to, &AccountField::chosen, this, &DialogTransaction::onToAccountSelected);
     focusLater(m_ui->txtFromAccount);
 }
 
 DialogTransaction::~DialogTransaction() = default;
 
-void DialogTransaction::onFromAccountSelected() { m_ui->txtToAccount->setFocus(); }
+void DialogTransaction::onFromAccountSelected()
+{
+    // Whoever has walked on to another field stays there.
+    if (m_ui->txtFromAccount->hasFocus())
+        m_ui->txtToAccount->setFocus();
+}
 
-void DialogTransaction::onToAccountSelected() { m_ui->txtAmount->setFocus(); }
+void DialogTransaction::onToAccountSelected()
+{
+    if (m_ui->txtToAccount->hasFocus())
+        m_ui->txtAmount->setFocus();
+}
 
 bool DialogTransaction::validate()
 {
@@ -34,7 +43,7 @@ bool DialogTransaction::validate()
         m_from->check(tr("Enter the source account code"), unknown.arg(m_ui->txtFromAccount->text()));
     const bool toStands =
         m_to->check(tr("Enter the destination account code"), unknown.arg(m_ui->txtToAccount->text()));
-    if (fromStands && toStands && m_from->account()->getId() == m_to->account()->getId())
+    if (fromStands && toStands && m_from->id() == m_to->id())
         addError(m_ui->txtToAccount,
                  tr("The source account code should not be the same as the destination account code"));
     if (m_ui->txtAmount->isNothing())
@@ -47,8 +56,8 @@ bool DialogTransaction::validate()
 KorEntity* DialogTransaction::getEntity()
 {
     auto* transfer = heldOrNew<EntityAccountingTransaction>();
-    transfer->setFromAccount(m_from->account());
-    transfer->setToAccount(m_to->account());
+    transfer->setFromAccount(m_from->record());
+    transfer->setToAccount(m_to->record());
     transfer->setAmount(m_ui->txtAmount->money());
     transfer->setDate(m_ui->dateTrans->date());
     transfer->setNotes(m_ui->txtNotes->toPlainText());

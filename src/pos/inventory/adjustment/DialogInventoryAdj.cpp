@@ -16,10 +16,9 @@ DialogInventoryAdj::DialogInventoryAdj(QWidget* parent)
     : KorDialog(parent), m_ui(std::make_unique<Ui::DialogInventoryAdj>())
 {
     m_ui->setupUi(this);
-    m_item = new ItemField(m_ui->txtKode, m_ui->txtNama, m_read, this);
-    m_item->lookUpWhenLeft();
+    m_item = new ItemField(m_ui->txtKode, m_ui->txtNama, this);
     connect(m_item, &ItemField::chosen, this, &DialogInventoryAdj::onItemSelected);
-    // Another code was typed: what stood beside the former one is no longer true. After the field, which forgets first.
+    // Another code was typed: what stood beside the former one is no longer true.
     connect(m_ui->txtKode, &QLineEdit::textEdited, this, &DialogInventoryAdj::readQuantityBefore);
     m_source = new AccountField(m_ui->txtSourceAccount, m_ui->lblSource, this);
     m_source->box()->setNextWidget(m_ui->buttonBox->button(QDialogButtonBox::Ok));
@@ -55,7 +54,7 @@ bool DialogInventoryAdj::settleDay()
 {
     auto* inventory = service<BusinessInventory>("Inventory");
     const QDate day = m_ui->dateQtyOnHand->date();
-    const BusinessInventory::Movements moved = inventory->movementsOf(m_item->item(), day);
+    const BusinessInventory::Movements moved = inventory->movementsOf(m_item->record(), day);
     if (inventory->hasError()) {
         showError(inventory->takeErrors());
         return false;
@@ -85,13 +84,13 @@ KorEntity* DialogInventoryAdj::getEntity()
 {
     auto* take = heldOrNew<EntityStockTake>();
     const int adjustment = m_ui->txtStok->quantity().value_or(0);
-    take->setItem(m_item->item());
+    take->setItem(m_item->record());
     take->setStockTakeDate(m_ui->dateQtyOnHand->date());
     take->setQtyBefore(m_before);
     take->setQtyAdj(adjustment);
     take->setQty(m_before + adjustment);
     take->setReason(reason());
-    if (const EntityBank* source = m_source->account())
+    if (const EntityBank* source = m_source->record())
         take->setSourceAcctCode(source->getKode());
     return take;
 }
@@ -103,16 +102,16 @@ void DialogInventoryAdj::setEntity(KorEntity* entity) { hold(entity); }
 void DialogInventoryAdj::onItemSelected()
 {
     readQuantityBefore();
-    if (!m_item->item())
+    if (!m_item->record())
         return;
-    m_source->showCode(m_item->item()->getCostOfSalesAcctCode());
+    m_source->showCode(m_item->record()->getCostOfSalesAcctCode());
     if (m_ui->txtKode->hasFocus())
         m_ui->txtStok->setFocus(Qt::TabFocusReason);
 }
 
 void DialogInventoryAdj::readQuantityBefore()
 {
-    const EntityItem* item = m_item->item();
+    const EntityItem* item = m_item->record();
     m_before = 0;
     m_ui->txtQtyOnHand->clear();
     if (item) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "app/context/EntityPool.h"
 #include "kor/widgets/KorDialog.h"
 
 #include <memory>
@@ -45,7 +44,6 @@ private:
     [[nodiscard]] QString reason() const;
 
     std::unique_ptr<Ui::DialogInventoryAdj> m_ui;
-    EntityPool m_read;
     ItemField* m_item;
     AccountField* m_source;
     int m_before = 0;

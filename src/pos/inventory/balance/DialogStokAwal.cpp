@@ -8,8 +8,7 @@
 DialogStokAwal::DialogStokAwal(QWidget* parent) : KorDialog(parent), m_ui(std::make_unique<Ui::DialogStokAwal>())
 {
     m_ui->setupUi(this);
-    m_item = new ItemField(m_ui->txtKode, m_ui->txtNama, m_read, this);
-    m_item->lookUpWhenLeft();
+    m_item = new ItemField(m_ui->txtKode, m_ui->txtNama, this);
     connect(m_item, &ItemField::chosen, this, &DialogStokAwal::onItemSelected);
     focusLater(m_ui->txtKode);
 }
@@ -29,7 +28,7 @@ bool DialogStokAwal::validate()
 KorEntity* DialogStokAwal::getEntity()
 {
     auto* balance = heldOrNew<EntityStokAwal>();
-    balance->setItem(m_item->item());
+    balance->setItem(m_item->record());
     balance->setHarga(m_ui->txtHarga->money());
     balance->setJumlah(m_ui->txtJumlah->quantity().value_or(0));
     return balance;
@@ -48,9 +47,9 @@ void DialogStokAwal::setEntity(KorEntity* entity)
 
 void DialogStokAwal::onItemSelected()
 {
-    if (!m_item->item())
+    if (!m_item->record())
         return;
-    m_ui->txtHarga->setMoney(m_item->item()->getHargaBeli());
+    m_ui->txtHarga->setMoney(m_item->record()->getHargaBeli());
     if (m_ui->txtKode->hasFocus())
         m_ui->txtHarga->setFocus(Qt::TabFocusReason);
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "app/context/EntityPool.h"
 #include "kor/widgets/KorDialog.h"
 
 #include <memory>
@@ -31,6 +30,5 @@ private slots:
 
 private:
     std::unique_ptr<Ui::DialogStokAwal> m_ui;
-    EntityPool m_read;
     ItemField* m_item;
 };

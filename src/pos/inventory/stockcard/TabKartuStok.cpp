@@ -43,8 +43,7 @@ void TabKartuStok::makeFilters()
     name->setReadOnly(true);
     name->setFocusPolicy(Qt::NoFocus);
     filters()->add(tr("Name :"), name);
-    m_item = new ItemField(code, name, m_read, nullptr);
-    m_item->lookUpWhenLeft();
+    m_item = new ItemField(code, name, nullptr);
     connect(m_item, &ItemField::chosen, this, &TabKartuStok::onItemSelected);
 }
 
@@ -83,11 +82,8 @@ void TabKartuStok::onItemSelected()
 
 QList<KorEntity*> TabKartuStok::readRows(const QString&)
 {
-    // Whoever refreshes has typed to the end: no list of suggestions follows.
-    m_item->box()->preventSuggest();
-    if (const QString failure = m_item->lookUp(); !failure.isEmpty())
-        business()->addError("findAllKartuStok", failure.trimmed());
-    const int itemId = m_item->item() ? m_item->item()->getId() : KorNoValue;
+    // A code that nobody has is no item.
+    const int itemId = m_item->filterId(business()) > 0 ? m_item->id() : KorNoValue;
     QList<KorEntity*> rows;
     for (EntityItemHistory* row :
          businessAs<BusinessInventory>()->findAllKartuStok({m_from->date(), m_to->date(), itemId}))

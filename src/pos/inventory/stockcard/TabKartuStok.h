@@ -30,7 +30,6 @@ private:
 
     QDateEdit* m_from;
     QDateEdit* m_to;
-    EntityPool m_read;
     ItemField* m_item;
     QLabel* m_in;
     QLabel* m_balance;

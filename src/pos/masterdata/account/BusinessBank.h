@@ -19,7 +19,8 @@ public:
     [[nodiscard]] QList<KorPermission> getPermissions() const override;
 
     // The accounts that the program books on without being configured; the installer lays them down.
-    [[nodiscard]] EntityBank* cashOnHand() { return findByCode("1010"); }
+    [[nodiscard]] static QString cashOnHandCode() { return "1010"; }
+    [[nodiscard]] EntityBank* cashOnHand() { return findByCode(cashOnHandCode()); }
     [[nodiscard]] EntityBank* checkingAccount() { return findByCode("1020"); }
     [[nodiscard]] EntityBank* accountReceivable() { return findByCode("1100"); }
     [[nodiscard]] EntityBank* inventory() { return findByCode("1200"); }

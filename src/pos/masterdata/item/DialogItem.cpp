@@ -86,9 +86,8 @@ bool DialogItem::validate()
     rule(m_ui->txtHargaJualLokal->isValid(), m_ui->txtHargaJualLokal, tr("Enter sales price"));
     checkNumbers();
     const bool onlyAccounts = !hasError();
-    rule(!m_accounts->salesAccountCode().isEmpty(), m_accounts, tr("Enter the Sales Account"));
-    rule(!m_accounts->inventoryAccountCode().isEmpty(), m_accounts, tr("Enter the Inventory Account"));
-    rule(!m_accounts->costOfSalesAccountCode().isEmpty(), m_accounts, tr("Enter the Cost of Sales Account"));
+    m_accounts->check(tr("Enter the Sales Account"), tr("Enter the Inventory Account"),
+                      tr("Enter the Cost of Sales Account"));
     if (hasError())
         m_ui->tabItem->setCurrentWidget(onlyAccounts ? m_ui->pageAccounts : m_ui->pageDetail);
     return !hasError();

@@ -1,5 +1,7 @@
 #include "pos/masterdata/item/DialogSubItem.h"
 
+#include "app/widgets/RecordField.h"
+#include "kor/business/KorErrorScope.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "pos/masterdata/item/BusinessGroupedItem.h"
 #include "pos/masterdata/item/BusinessItem.h"
@@ -14,9 +16,11 @@ DialogSubItem::DialogSubItem(int parentId, QWidget* parent)
     : KorDialog(parent), m_ui(std::make_unique<Ui::DialogSubItem>()), m_parentId(parentId)
 {
     m_ui->setupUi(this);
-    m_items = new InventoryTextBox(m_ui->txtKode, service<BusinessItem>("Item"));
-    m_items->setNextWidget(m_ui->txtJumlah);
-    connect(m_items, &KorTextBoxExtender::onItemSelected, this, &DialogSubItem::onItemSelected);
+    auto* items = new InventoryTextBox(m_ui->txtKode, service<BusinessItem>("Item"));
+    items->setNextWidget(m_ui->txtJumlah);
+    m_item = new RecordField<EntityItem>(items, m_ui->txtNama, this);
+    m_item->lookUpWhenLeft();
+    connect(m_item, &RecordFieldBase::changed, this, &DialogSubItem::onItemSelected);
     m_ui->txtHargaBeli->clear();
     focusLater(m_ui->txtKode);
 }
@@ -25,8 +29,7 @@ DialogSubItem::~DialogSubItem() = default;
 
 bool DialogSubItem::validate()
 {
-    if (!item())
-        addError(m_ui->txtKode, tr("Enter the item code"));
+    m_item->check(tr("Enter the item code"), tr("Enter the item code"));
     if (!m_ui->txtJumlah->isValid() || m_ui->txtJumlah->value() < 1)
         addError(m_ui->txtJumlah, tr("Enter the qty"));
     return !hasError();
@@ -37,16 +40,15 @@ bool DialogSubItem::beforeAccept()
     const auto* component = held<EntityGroupedItem>();
     auto* components = service<BusinessGroupedItem>("Grouped Item");
     const EntityPoolScope scope(m_read);
-    const bool isCircle = components->consistsOf(item()->getId(), m_parentId);
-    const EntityGroupedItem* found = components->findByParentAndItem(m_parentId, item()->getId());
-    if (components->hasError()) {
-        showError(components->takeErrors());
+    KorErrorScope errors(components);
+    const bool isCircle = components->consistsOf(m_item->id(), m_parentId);
+    const EntityGroupedItem* found = components->findByParentAndItem(m_parentId, m_item->id());
+    if (showError(errors.take()))
         return false;
-    }
     if (isCircle) {
-        showError(item()->getId() == m_parentId
+        showError(m_item->id() == m_parentId
                       ? tr("An item cannot be its own component")
-                      : tr("%1 is made of this item, it cannot be a component of it").arg(item()->getNama()));
+                      : tr("%1 is made of this item, it cannot be a component of it").arg(m_item->record()->getNama()));
         return false;
     }
     if (found && (!component || component->getId() != found->getId())) {
@@ -64,7 +66,7 @@ KorEntity* DialogSubItem::getEntity()
         parent->setId(m_parentId);
         component->setParentItem(parent);
     }
-    component->setOriginal(item());
+    component->setOriginal(m_item->record());
     component->setJumlah(m_ui->txtJumlah->quantity().value_or(0));
     return component;
 }
@@ -76,38 +78,17 @@ void DialogSubItem::setEntity(KorEntity* entity)
     if (component->getOriginal()) {
         const EntityPoolScope scope(m_read);
         auto* items = service<BusinessItem>("Item");
-        show(items->find(component->getOriginal()->getId()));
-        if (items->hasError())
-            showError(items->takeErrors());
+        KorErrorScope errors(items);
+        m_item->show(items->find(component->getOriginal()->getId()));
+        showError(errors.take());
     }
     m_ui->txtJumlah->setValue(component->getJumlah());
 }
 
-void DialogSubItem::onItemSelected() { show(m_items->selectedItem()); }
-
-void DialogSubItem::on_txtKode_textEdited() { m_item.clear(); }
-
-EntityItem* DialogSubItem::item()
+void DialogSubItem::onItemSelected()
 {
-    if (m_item || m_ui->txtKode->text().isEmpty())
-        return m_item;
-    const EntityPoolScope scope(m_read);
-    auto* items = service<BusinessItem>("Item");
-    if (EntityItem* found = items->findByCode(m_ui->txtKode->text()))
-        show(found);
-    if (items->hasError())
-        showError(items->takeErrors());
-    return m_item;
-}
-
-void DialogSubItem::show(EntityItem* item)
-{
-    m_item = item;
-    m_ui->txtNama->setText(item ? item->getNama() : QString());
-    if (!item) {
+    if (const EntityItem* item = m_item->record())
+        m_ui->txtHargaBeli->setMoney(item->getHargaBeli());
+    else
         m_ui->txtHargaBeli->clear();
-        return;
-    }
-    m_ui->txtKode->setText(item->getKode());
-    m_ui->txtHargaBeli->setMoney(item->getHargaBeli());
 }

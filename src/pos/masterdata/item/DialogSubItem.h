@@ -6,7 +6,8 @@
 #include <memory>
 
 class EntityItem;
-class InventoryTextBox;
+template <class Entity>
+class RecordField;
 
 namespace Ui
 {
@@ -29,18 +30,12 @@ public:
     bool beforeAccept() override;
 
 private slots:
+    /** The code names another item, or none. */
     void onItemSelected();
-    /** Another code was typed: what stood beside it is no longer true. */
-    void on_txtKode_textEdited();
 
 private:
-    void show(EntityItem* item);
-    /** The item of the code, looked up where the code was typed and not chosen. */
-    [[nodiscard]] EntityItem* item();
-
     std::unique_ptr<Ui::DialogSubItem> m_ui;
     EntityPool m_read;
-    InventoryTextBox* m_items;
-    QPointer<EntityItem> m_item;
+    RecordField<EntityItem>* m_item;
     int m_parentId;
 };

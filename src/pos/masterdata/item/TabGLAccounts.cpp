@@ -1,70 +1,56 @@
 #include "pos/masterdata/item/TabGLAccounts.h"
 
-#include "app/context/EntityPool.h"
-#include "kor/business/KorServiceDirectory.h"
-#include "pos/masterdata/account/BankTextBox.h"
+#include "kor/widgets/KorDialog.h"
+#include "pos/masterdata/account/AccountField.h"
 
 #include "ui_TabGLAccounts.h"
 
-TabGLAccounts::TabGLAccounts(QWidget* parent) : QWidget(parent), m_ui(std::make_unique<Ui::TabGLAccounts>())
+namespace
+{
+QString codeOf(const AccountField* field) { return field->record() ? field->record()->getKode() : QString(); }
+} // namespace
+
+TabGLAccounts::TabGLAccounts(KorDialog* form) : QWidget(form), m_ui(std::make_unique<Ui::TabGLAccounts>())
 {
     m_ui->setupUi(this);
-    prepare(m_sales, m_ui->txtSalesAccount, m_ui->lblSales);
-    prepare(m_inventory, m_ui->txtInvAccount, m_ui->lblInventory);
-    prepare(m_costOfSales, m_ui->txtCostOfSalesAccount, m_ui->lblCostOfSales);
-    setFocusProxy(m_sales.editor);
-    m_sales.box->setNextWidget(m_inventory.editor);
-    m_inventory.box->setNextWidget(m_costOfSales.editor);
-    m_costOfSales.box->setNextWidget(m_sales.editor);
-    connect(m_sales.box, &KorTextBoxExtender::onItemSelected, this, &TabGLAccounts::onSalesSelected);
-    connect(m_inventory.box, &KorTextBoxExtender::onItemSelected, this, &TabGLAccounts::onInventorySelected);
-    connect(m_costOfSales.box, &KorTextBoxExtender::onItemSelected, this, &TabGLAccounts::onCostOfSalesSelected);
+    m_sales = new AccountField(m_ui->txtSalesAccount, m_ui->lblSales, form);
+    m_inventory = new AccountField(m_ui->txtInvAccount, m_ui->lblInventory, form);
+    m_costOfSales = new AccountField(m_ui->txtCostOfSalesAccount, m_ui->lblCostOfSales, form);
+    setFocusProxy(m_ui->txtSalesAccount);
+    m_sales->box()->setNextWidget(m_ui->txtInvAccount);
+    m_inventory->box()->setNextWidget(m_ui->txtCostOfSalesAccount);
+    m_costOfSales->box()->setNextWidget(m_ui->txtSalesAccount);
+    connect(m_sales->box(), &KorTextBoxExtender::onItemSelected, this, &TabGLAccounts::onSalesSelected);
+    connect(m_inventory->box(), &KorTextBoxExtender::onItemSelected, this, &TabGLAccounts::onInventorySelected);
+    connect(m_costOfSales->box(), &KorTextBoxExtender::onItemSelected, this, &TabGLAccounts::onCostOfSalesSelected);
 }
 
 TabGLAccounts::~TabGLAccounts() = default;
 
-void TabGLAccounts::prepare(Field& field, QLineEdit* editor, QLabel* name)
+void TabGLAccounts::check(const QString& noSales, const QString& noInventory, const QString& noCostOfSales)
 {
-    field.editor = editor;
-    field.name = name;
-    field.box = new BankTextBox(editor, service<BusinessBank>("Bank"));
-    connect(editor, &QLineEdit::textEdited, this, [&field] {
-        field.code.clear();
-        field.name->clear();
-    });
-    connect(editor, &QLineEdit::editingFinished, this, [&field] { codeOf(field); });
+    m_sales->check(noSales, noSales);
+    // A database that does not answer is told once, not once a box.
+    if (m_sales->couldAsk())
+        m_inventory->check(noInventory, noInventory);
+    if (m_sales->couldAsk() && m_inventory->couldAsk())
+        m_costOfSales->check(noCostOfSales, noCostOfSales);
 }
 
-void TabGLAccounts::show(Field& field, const EntityBank* account)
-{
-    field.code = account ? account->getKode() : QString();
-    // A list that came up now would take the next field's keys.
-    field.box->preventSuggest();
-    field.editor->setText(field.code);
-    field.name->setText(account ? account->getNama() : QString());
-}
+QString TabGLAccounts::salesAccountCode() const { return codeOf(m_sales); }
 
-QString TabGLAccounts::codeOf(Field& field)
-{
-    if (field.code.isEmpty() && !field.editor->text().isEmpty()) {
-        EntityPool pool;
-        const EntityPoolScope scope(pool);
-        auto* accounts = service<BusinessBank>("Bank");
-        if (const EntityBank* account = accounts->findByCode(field.editor->text()))
-            show(field, account);
-        accounts->clearErrors();
-    }
-    return field.code;
-}
+QString TabGLAccounts::inventoryAccountCode() const { return codeOf(m_inventory); }
 
-void TabGLAccounts::setSalesAccount(const EntityBank* account) { show(m_sales, account); }
+QString TabGLAccounts::costOfSalesAccountCode() const { return codeOf(m_costOfSales); }
 
-void TabGLAccounts::setInventoryAccount(const EntityBank* account) { show(m_inventory, account); }
+void TabGLAccounts::setSalesAccount(EntityBank* account) { m_sales->show(account); }
 
-void TabGLAccounts::setCostOfSalesAccount(const EntityBank* account) { show(m_costOfSales, account); }
+void TabGLAccounts::setInventoryAccount(EntityBank* account) { m_inventory->show(account); }
 
-void TabGLAccounts::onSalesSelected() { setSalesAccount(m_sales.box->selectedItem()); }
+void TabGLAccounts::setCostOfSalesAccount(EntityBank* account) { m_costOfSales->show(account); }
 
-void TabGLAccounts::onInventorySelected() { setInventoryAccount(m_inventory.box->selectedItem()); }
+void TabGLAccounts::onSalesSelected() { setSalesAccount(m_sales->record()); }
 
-void TabGLAccounts::onCostOfSalesSelected() { setCostOfSalesAccount(m_costOfSales.box->selectedItem()); }
+void TabGLAccounts::onInventorySelected() { setInventoryAccount(m_inventory->record()); }
+
+void TabGLAccounts::onCostOfSalesSelected() { setCostOfSalesAccount(m_costOfSales->record()); }

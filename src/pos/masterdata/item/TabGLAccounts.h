@@ -4,10 +4,9 @@
 
 #include <memory>
 
-class BankTextBox;
+class AccountField;
 class EntityBank;
-class QLabel;
-class QLineEdit;
+class KorDialog;
 
 namespace Ui
 {
@@ -20,18 +19,20 @@ class TabGLAccounts final : public QWidget
     Q_OBJECT
 
 public:
-    explicit TabGLAccounts(QWidget* parent = nullptr);
+    explicit TabGLAccounts(KorDialog* form);
     ~TabGLAccounts() override;
 
-    // Null empties the field.
-    void setSalesAccount(const EntityBank* account);
-    void setInventoryAccount(const EntityBank* account);
-    void setCostOfSalesAccount(const EntityBank* account);
+    // Null empties the field; the account is borrowed.
+    void setSalesAccount(EntityBank* account);
+    void setInventoryAccount(EntityBank* account);
+    void setCostOfSalesAccount(EntityBank* account);
 
-    // The code of an account that exists, else empty; a code that was typed and not chosen is looked up.
-    [[nodiscard]] QString salesAccountCode() { return codeOf(m_sales); }
-    [[nodiscard]] QString inventoryAccountCode() { return codeOf(m_inventory); }
-    [[nodiscard]] QString costOfSalesAccountCode() { return codeOf(m_costOfSales); }
+    /** Reports on the form what is no account or cannot be read. */
+    void check(const QString& noSales, const QString& noInventory, const QString& noCostOfSales);
+    // The code of an account that exists, else empty.
+    [[nodiscard]] QString salesAccountCode() const;
+    [[nodiscard]] QString inventoryAccountCode() const;
+    [[nodiscard]] QString costOfSalesAccountCode() const;
 
 private slots:
     void onSalesSelected();
@@ -39,20 +40,8 @@ private slots:
     void onCostOfSalesSelected();
 
 private:
-    struct Field
-    {
-        QLineEdit* editor = nullptr;
-        QLabel* name = nullptr;
-        BankTextBox* box = nullptr;
-        QString code; ///< of the account whose name is shown
-    };
-
-    void prepare(Field& field, QLineEdit* editor, QLabel* name);
-    static void show(Field& field, const EntityBank* account);
-    static QString codeOf(Field& field);
-
     std::unique_ptr<Ui::TabGLAccounts> m_ui;
-    Field m_sales;
-    Field m_inventory;
-    Field m_costOfSales;
+    AccountField* m_sales;
+    AccountField* m_inventory;
+    AccountField* m_costOfSales;
 };

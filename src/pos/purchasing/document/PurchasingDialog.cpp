@@ -3,6 +3,7 @@
 #include "app/context/AppContext.h"
 #include "app/widgets/AppLinesTab.h"
 #include "app/widgets/MoneyEdit.h"
+#include "app/widgets/RecordField.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "pos/masterdata/account/AccountField.h"
 #include "pos/masterdata/supplier/SupplierTextBox.h"
@@ -22,13 +23,10 @@ void PurchasingDialog::setUpPurchasing(const Form& form, const Words& words, con
     m_account = new AccountField(form.totals->accountBox(), form.totals->accountName(), this);
     connect(m_account, &AccountField::changed, this, &PurchasingDialog::noteWhatCashMisses);
     m_account->showCode(accountCode);
-    m_supplierBox = new SupplierTextBox(form.supplier, service<BusinessSupplier>("Supplier"));
-    connect(m_supplierBox, &KorTextBoxExtender::onItemSelected, this, &PurchasingDialog::onSupplierSelected);
-    connect(form.supplier, &QLineEdit::editingFinished, this, [this] {
-        // What fails here is told when the form is confirmed.
-        const QString failure = lookUpSupplier();
-        Q_UNUSED(failure)
-    });
+    auto* suppliers = new SupplierTextBox(form.supplier, service<BusinessSupplier>("Supplier"));
+    m_supplier = new RecordField<EntitySupplier>(suppliers, form.supplierName, this);
+    m_supplier->lookUpWhenLeft();
+    connect(m_supplier, &RecordFieldBase::changed, this, &PurchasingDialog::onSupplierSelected);
     for (QDateEdit* date : form.dates) {
         date->setCalendarPopup(true);
         date->setDisplayFormat(AppContext::instance()->dateFormat());
@@ -52,43 +50,15 @@ void PurchasingDialog::addLinesPage(AppLinesTab* page, const QString& title, Qt:
 
 void PurchasingDialog::onSupplierSelected()
 {
-    if (EntitySupplier* chosen = m_supplierBox->selectedItem())
-        showSupplier(chosen);
+    const EntitySupplier* chosen = supplier();
+    m_form.supplierAddress->setText(chosen ? chosen->getAlamat() : QString());
+    m_form.supplierPhone->setText(chosen ? chosen->getTelp() : QString());
+    supplierChanged();
 }
 
-void PurchasingDialog::showSupplier(EntitySupplier* supplier)
-{
-    const bool changed = supplier != m_supplier;
-    m_supplier = supplier;
-    if (supplier)
-        m_form.supplier->setText(supplier->getKode());
-    m_form.supplierName->setText(supplier ? supplier->getNama() : QString());
-    m_form.supplierAddress->setText(supplier ? supplier->getAlamat() : QString());
-    m_form.supplierPhone->setText(supplier ? supplier->getTelp() : QString());
-    if (changed)
-        supplierChanged();
-}
+EntitySupplier* PurchasingDialog::supplier() const { return m_supplier->record(); }
 
-QString PurchasingDialog::lookUpSupplier()
-{
-    const QString code = m_form.supplier->text().trimmed();
-    if (m_supplier && m_supplier->getKode().compare(code, Qt::CaseInsensitive) == 0)
-        return {};
-    const EntityPoolScope scope(m_found);
-    auto* suppliers = service<BusinessSupplier>("Supplier");
-    suppliers->clearErrors();
-    showSupplier(code.isEmpty() ? nullptr : suppliers->findByCode(code));
-    return suppliers->takeErrors();
-}
-
-void PurchasingDialog::checkSupplier()
-{
-    const QString failure = lookUpSupplier();
-    if (!failure.isEmpty())
-        addError(m_form.supplier, failure.trimmed());
-    else if (!m_supplier)
-        addError(m_form.supplier, m_words.noSupplier);
-}
+void PurchasingDialog::showSupplier(EntitySupplier* supplier) { m_supplier->show(supplier); }
 
 // --- the money -----------------------------------------------------------------------------------------------------
 
@@ -133,7 +103,7 @@ const InvoiceTotals& PurchasingDialog::totals()
     return m_cascade->totals();
 }
 
-EntityBank* PurchasingDialog::account() const { return m_account->account(); }
+EntityBank* PurchasingDialog::account() const { return m_account->record(); }
 
 void PurchasingDialog::showAccount(EntityBank* account) { m_account->show(account); }
 
@@ -141,7 +111,7 @@ void PurchasingDialog::showAccount(EntityBank* account) { m_account->show(accoun
 
 bool PurchasingDialog::validate()
 {
-    checkSupplier();
+    m_supplier->check(m_words.noSupplier, m_words.noSupplier);
     checkLines();
     checkMoney();
     m_account->check(m_words.noAccount, m_words.unknownAccount);

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "app/context/EntityPool.h"
 #include "kor/widgets/KorDialog.h"
 #include "pos/purchasing/document/EntityPurchasingLine.h"
 #include "pos/totals/TotalsCascade.h"
@@ -12,7 +11,8 @@ class EntitySupplier;
 class PurchasingTotalsPane;
 class QDateEdit;
 class QTabWidget;
-class SupplierTextBox;
+template <class Entity>
+class RecordField;
 
 /**
  * The form that all purchasing documents share: the supplier, pages of lines, discount and tax, the money, the account.
@@ -28,6 +28,7 @@ public:
     bool validate() override;
 
 public slots:
+    /** The supplier's box names another one, or none. */
     void onSupplierSelected();
     void onItemAdded();
     void on_txtPaid_textChanged(const QString&);
@@ -91,25 +92,20 @@ protected:
     [[nodiscard]] const InvoiceTotals& totals();
 
     // As the last validation found them; they live as long as the form.
-    [[nodiscard]] EntitySupplier* supplier() const { return m_supplier; }
+    [[nodiscard]] EntitySupplier* supplier() const;
     [[nodiscard]] EntityBank* account() const;
     [[nodiscard]] const Words& words() const { return m_words; }
     [[nodiscard]] QTabWidget* pages() const { return m_form.pages; }
     [[nodiscard]] TotalsCascade* cascade() const { return m_cascade; }
 
 private:
-    /** Takes the supplier of the code that stands in the box; what failed, or nothing. */
-    [[nodiscard]] QString lookUpSupplier();
-    void checkSupplier();
     /** Money that does not come from a cash account is no cash that has left the drawer. */
     void noteWhatCashMisses();
     void checkAmounts();
 
     Form m_form{};
     Words m_words;
-    EntityPool m_found;
     TotalsCascade* m_cascade = nullptr;
     AccountField* m_account = nullptr;
-    SupplierTextBox* m_supplierBox = nullptr;
-    EntitySupplier* m_supplier = nullptr;
+    RecordField<EntitySupplier>* m_supplier = nullptr;
 };

@@ -20,9 +20,9 @@ PurchasingLineDialog::PurchasingLineDialog(EntityPool& items, const Words& words
       m_tooMany(tr("This quantity is too large for one line"))
 {
     m_ui->setupUi(this);
-    m_item = new ItemField(m_ui->txtCode, m_ui->txtName, items, this);
+    m_item = new ItemField(m_ui->txtCode, m_ui->txtName, this);
+    m_item->keepIn(items);
     m_item->box()->setNextWidget(m_ui->txtQty);
-    m_item->lookUpWhenLeft();
     connect(m_item, &ItemField::chosen, this, &PurchasingLineDialog::proposePrice);
     m_ui->lblQty->setText(words.quantity);
     // Whoever gives no discount leaves the boxes alone.
@@ -54,7 +54,9 @@ void PurchasingLineDialog::limitQuantity(int largest, const QString& message)
 
 void PurchasingLineDialog::proposePrice()
 {
-    m_ui->txtUnitPrice->setMoney(m_item->item()->getHargaBeli());
+    if (!m_item->record())
+        return;
+    m_ui->txtUnitPrice->setMoney(m_item->record()->getHargaBeli());
     m_ui->txtQty->setFocus(Qt::TabFocusReason);
     showAmount();
 }
@@ -121,7 +123,7 @@ void PurchasingLineDialog::checkFigures()
 
 KorEntity* PurchasingLineDialog::getEntity()
 {
-    m_line->setItem(m_item->item());
+    m_line->setItem(m_item->record());
     m_line->setQuantity(static_cast<int>(quantity()));
     m_line->setLinePrice(m_ui->txtUnitPrice->money());
     m_line->setDiscount(m_ui->txtDiscount->money());

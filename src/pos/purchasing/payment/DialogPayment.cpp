@@ -2,6 +2,8 @@
 
 #include "app/money/MinorUnits.h"
 #include "app/persistence/AppDocumentLines.h"
+#include "app/widgets/RecordField.h"
+#include "kor/business/KorErrorScope.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "pos/cash/settlement/PaymentType.h"
 #include "pos/masterdata/account/AccountField.h"
@@ -21,35 +23,28 @@ DialogPayment::DialogPayment(QWidget* parent)
 {
     m_ui->setupUi(this);
     offerTypes(*m_ui, supplierPaymentTypeRows());
-    auto* suppliers = service<BusinessSupplier>("Supplier");
-    m_supplierBox = new SupplierTextBox(m_ui->txtSupplier, suppliers);
-    m_supplierBox->setNextWidget(m_ui->txtCashAccount);
-    connect(m_supplierBox, &KorTextBoxExtender::onItemSelected, this, &DialogPayment::onSupplierSelected);
-    setUpSettlement({m_ui->txtSupplier, m_ui->datePay, m_ui->txtCashAccount, m_ui->lblCashAccount, m_ui->tabDetail,
-                     m_ui->txtGrandTotal, m_ui->buttonBox},
+    auto* suppliers = new SupplierTextBox(m_ui->txtSupplier, service<BusinessSupplier>("Supplier"));
+    suppliers->setNextWidget(m_ui->txtCashAccount);
+    setUpSettlement({new RecordField<EntitySupplier>(suppliers, m_ui->txtSupplierName, this), m_ui->datePay,
+                     m_ui->txtCashAccount, m_ui->lblCashAccount, m_ui->tabDetail, m_ui->txtGrandTotal, m_ui->buttonBox},
                     {tr("Select a supplier"), {}, {}, {}, tr("Please select a valid Cash Accounts")}, m_ui->tabInvoices,
-                    suppliers, m_purchases);
+                    m_purchases);
     addLinesPage(m_ui->tabExpenses, Qt::Key_F4);
-    connect(accountField()->box(), &KorTextBoxExtender::onItemSelected, this, &DialogPayment::onCashAccountSelected);
+    connect(accountField(), &AccountField::chosen, this, &DialogPayment::onCashAccountSelected);
     focusLater(m_ui->txtSupplier);
 }
 
 DialogPayment::~DialogPayment() = default;
 
-void DialogPayment::onSupplierSelected() { takePerson(m_supplierBox->selectedItem()); }
-
-void DialogPayment::onCashAccountSelected() { m_ui->ddlPaymentType->setFocus(Qt::TabFocusReason); }
-
-EntityContact* DialogPayment::findPerson(const QString& code)
+void DialogPayment::onCashAccountSelected()
 {
-    // Picked from the list, it has just been read.
-    EntitySupplier* picked = m_supplierBox->selectedItem();
-    return picked && picked->getKode() == code ? picked : service<BusinessSupplier>("Supplier")->findByCode(code);
+    // Whoever has walked on to another field stays there.
+    if (m_ui->txtCashAccount->hasFocus())
+        m_ui->ddlPaymentType->setFocus(Qt::TabFocusReason);
 }
 
 void DialogPayment::showPerson(const EntityContact* person)
 {
-    m_ui->txtSupplierName->setText(person ? person->getNama() : QString());
     m_ui->txtSupplierAddress->setText(person ? person->getAlamat() : QString());
     m_ui->txtSupplierPhone->setText(person ? person->getTelp() : QString());
 }
@@ -112,12 +107,10 @@ QString DialogPayment::changedPurchase() const
 
 bool DialogPayment::beforeAccept()
 {
-    m_purchases->clearErrors();
+    KorErrorScope errors(m_purchases);
     const QString changed = changedPurchase();
-    if (m_purchases->hasError()) {
-        showError(m_purchases->takeErrors());
+    if (showError(errors.take()))
         return false;
-    }
     const QString question =
         tr("Purchase invoice no: %1 was paid or changed by somebody else meanwhile. Do you want to "
            "pay it all the same?");

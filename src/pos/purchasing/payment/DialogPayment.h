@@ -5,7 +5,6 @@
 #include <memory>
 
 class BusinessPurchases;
-class SupplierTextBox;
 
 namespace Ui
 {
@@ -27,12 +26,10 @@ public:
     void setEntity(KorEntity* entity) override;
 
 public slots:
-    void onSupplierSelected();
     /** Whoever has said where the money comes from says next how it is paid. */
     void onCashAccountSelected();
 
 protected:
-    [[nodiscard]] EntityContact* findPerson(const QString& code) override;
     void showPerson(const EntityContact* person) override;
     [[nodiscard]] QList<KorEntity*> readOpenLines(const EntityContact& person) override;
     /** A purchase without an amount is only on offer. */
@@ -46,5 +43,4 @@ private:
 
     std::unique_ptr<Ui::DialogPayment> m_ui;
     BusinessPurchases* m_purchases;
-    SupplierTextBox* m_supplierBox;
 };
