@@ -1,6 +1,7 @@
 #include "app/access/DialogLogin.h"
 
 #include "app/access/BusinessUser.h"
+#include "kor/business/KorErrorScope.h"
 #include "kor/business/KorServiceDirectory.h"
 
 #include "ui_DialogLogin.h"
@@ -27,9 +28,10 @@ bool DialogLogin::validate()
         return false;
     }
     auto* users = service<BusinessUser>("User");
+    KorErrorScope errors(users);
     const bool known = users->login(username, password);
-    if (users->hasError())
-        addError(m_ui->txtPassword, users->takeErrors());
+    if (errors.failed())
+        addError(m_ui->txtPassword, errors.take());
     else if (!known)
         addError(m_ui->txtPassword, tr("Invalid login"));
     m_ui->txtPassword->selectAll();

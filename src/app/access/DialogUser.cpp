@@ -4,6 +4,7 @@
 #include "app/access/BusinessUserGroup.h"
 #include "app/context/EntityPool.h"
 #include "app/context/EntityUser.h"
+#include "kor/business/KorErrorScope.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/persistence/KorDataMapper.h"
 
@@ -17,9 +18,9 @@ DialogUser::DialogUser(QWidget* parent) : KorDialog(parent), m_ui(std::make_uniq
     EntityPool pool;
     const EntityPoolScope scope(pool);
     auto* groups = service<BusinessUserGroup>("User Group");
+    KorErrorScope errors(groups);
     const QList<KorEntity*> all = groups->findAll(QString());
-    if (groups->hasError())
-        showError(groups->takeErrors());
+    showError(errors.take());
     for (const auto* group : castAll<EntityUserGroup>(all))
         m_ui->cbGroup->addItem(group->getGroupName(), group->getId());
     focusLater(m_ui->txtUsername);
@@ -37,9 +38,9 @@ bool DialogUser::validate()
         const auto* user = held<EntityUser>();
         if (!user || user->getUserName() != username) {
             auto* users = service<BusinessUser>("User");
+            KorErrorScope errors(users);
             const EntityUser* found = users->findByUsername(username);
-            if (users->hasError())
-                showError(users->takeErrors());
+            showError(errors.take());
             requireUnused(m_ui->txtUsername, found, tr("Username already exists"));
         }
     }

@@ -6,6 +6,7 @@
 #include "app/access/DialogUserAccess.h"
 #include "app/access/EntityAccess.h"
 #include "app/access/TableModelUserAccess.h"
+#include "kor/business/KorErrorScope.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/persistence/KorDataMapper.h"
 #include "kor/widgets/KorErrorBox.h"
@@ -68,18 +69,17 @@ void TabUserAccess::fillChoices()
     EntityPool pool;
     const EntityPoolScope scope(pool);
     auto* groups = service<BusinessUserGroup>("User Group");
+    auto* permissions = service<BusinessPermission>("Permission");
+    KorErrorScope errors({groups, permissions});
     for (const auto* group : castAll<EntityUserGroup>(groups->findAll(QString())))
         m_groups->addItem(group->getGroupName(), group->getId());
-    auto* permissions = service<BusinessPermission>("Permission");
     for (const auto* business : castAll<EntityBusiness>(permissions->getBusinesses())) {
         auto* item = new QListWidgetItem(business->getName(), m_businesses);
         item->setData(Qt::UserRole, business->getId());
         item->setSizeHint({0, grid()->verticalHeader()->defaultSectionSize()});
     }
     m_businesses->setCurrentRow(0);
-    const QString errors = groups->takeErrors() + permissions->takeErrors();
-    if (!errors.isEmpty())
-        KorErrorBox::critical(this, tr("Error"), errors);
+    KorErrorBox::tell(this, errors.take());
 }
 
 void TabUserAccess::choiceChanged()
@@ -104,9 +104,9 @@ QList<KorEntity*> TabUserAccess::readRows(const QString& filter)
     for (const auto* access : castAll<EntityAccess>(rights))
         m_grants.insert(access->getPermission()->getId(), access->getGrant());
     auto* permissions = service<BusinessPermission>("Permission");
+    KorErrorScope errors(permissions);
     const QList<KorEntity*> rows = permissions->getPermissionByBusiness(business->data(Qt::UserRole).toInt());
-    if (permissions->hasError())
-        KorErrorBox::critical(this, tr("Error"), permissions->takeErrors());
+    KorErrorBox::tell(this, errors.take());
     return rows;
 }
 

@@ -2,6 +2,7 @@
 
 #include "app/access/BusinessUser.h"
 #include "app/context/EntityUserGroup.h"
+#include "kor/business/KorErrorScope.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/widgets/KorErrorBox.h"
 
@@ -24,13 +25,12 @@ bool TabUserGroup::asksOnce(int key) const { return key == BusinessUserGroup::DE
 bool TabUserGroup::mayDelete(KorEntity* entity)
 {
     auto* users = service<BusinessUser>("User");
+    KorErrorScope errors(users);
     const bool inUse = !users->findByGroup(entity->getId()).isEmpty();
-    if (users->hasError())
-        KorErrorBox::critical(this, tr("Error"), users->takeErrors());
-    else if (inUse)
+    if (KorErrorBox::tell(this, errors.take()))
+        return false;
+    if (inUse)
         QMessageBox::critical(this, tr("Error"),
                               tr("Can not delete user groupd with id: %1, it is still in use").arg(entity->getId()));
-    else
-        return true;
-    return false;
+    return !inUse;
 }

@@ -12,6 +12,7 @@
 #include "app/context/EntityUser.h"
 #include "app/registry/AppBusinessRegistry.h"
 #include "app/registry/AppMapperRegistry.h"
+#include "kor/business/KorErrorScope.h"
 #include "kor/persistence/KorDataMapper.h"
 
 #include <QMetaEnum>
@@ -134,12 +135,9 @@ void AppInstaller::registerAll(const QList<KorBusinessLogic*>& services)
     EntityPool pool;
     const EntityPoolScope scope(pool);
     // What a screen left uncollected must not be taken for a failure of this run.
-    m_permissions->clearErrors();
-    m_groups->clearErrors();
-
+    KorErrorScope errors({m_permissions, m_groups});
     EntityUserGroup* admins = m_groups->findByGroupName(adminGroup);
-    if (m_groups->hasError())
-        reportFailure(m_groups->takeErrors());
+    reportAny(errors.take());
     for (KorBusinessLogic* service : services) {
         if (isFresh())
             registerFresh(service, admins);
@@ -177,10 +175,8 @@ void AppInstaller::registerMissing(KorBusinessLogic* service, EntityUserGroup* a
 {
     log("checking permissions of business: " + service->name());
     EntityBusiness* business = m_permissions->getBusinessByName(service->name());
-    if (m_permissions->hasError()) {
-        reportFailure(m_permissions->takeErrors());
+    if (reportAny(m_permissions->takeErrors()))
         return;
-    }
     EntityBusiness added;
     if (!business) {
         business = &added;
@@ -190,9 +186,7 @@ void AppInstaller::registerMissing(KorBusinessLogic* service, EntityUserGroup* a
     }
     for (const KorPermission& permission : service->getPermissions()) {
         const bool known = m_permissions->findByKey(permission.first, business->getId());
-        if (m_permissions->hasError())
-            reportFailure(m_permissions->takeErrors());
-        else if (!known && insertPermission(business, permission))
+        if (!reportAny(m_permissions->takeErrors()) && !known && insertPermission(business, permission))
             grantAll(admins, business, permission.first);
     }
 }
@@ -219,8 +213,7 @@ void AppInstaller::grantAll(EntityUserGroup* admins, EntityBusiness* business, i
     if (!admins)
         return;
     EntityPermission* permission = m_permissions->findByKey(key, business->getId());
-    if (m_permissions->hasError())
-        reportFailure(m_permissions->takeErrors());
-    else if (permission && !m_access->setGrant(admins, permission, EntityAccess::All))
+    if (!reportAny(m_permissions->takeErrors()) && permission &&
+        !m_access->setGrant(admins, permission, EntityAccess::All))
         reportFailure(m_access->takeErrors());
 }

@@ -2,6 +2,7 @@
 
 #include "app/context/AccessCheck.h"
 #include "kor/business/KorBusinessLogic.h"
+#include "kor/business/KorErrorScope.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/entity/KorEntity.h"
 #include "kor/system/KorFailure.h"
@@ -38,14 +39,14 @@ void AppListTab::refresh()
         return;
     const int currentId = m_model ? selectedEntityIds(grid(), m_model).value(0, KorNoValue) : KorNoValue;
 
-    m_business->clearErrors();
+    const KorErrorScope errors(m_business);
     EntityPool read;
     QList<KorEntity*> rows;
     {
         const EntityPoolScope scope(read);
         rows = readRows(filterText());
     }
-    if (m_business->hasError())
+    if (errors.failed())
         tellUnread();
 
     KorEntityModel* former = m_model;
@@ -180,9 +181,7 @@ void AppListTab::showServiceError(bool critical)
 void AppListTab::tellNotFound(const QString& text)
 {
     // A row that could not be read has not gone.
-    if (m_business->hasError())
-        showServiceError();
-    else
+    if (!KorErrorBox::tell(this, m_business->takeErrors()))
         QMessageBox::information(this, tr("Error"), text);
 }
 

@@ -47,6 +47,14 @@ void RecordFieldBase::show(KorEntity* record)
     take(record);
 }
 
+void RecordFieldBase::writeCode()
+{
+    if (!isNamed())
+        return;
+    m_box->editor()->setText(m_box->codeOf(*m_record));
+    m_asked = code();
+}
+
 void RecordFieldBase::showCode(const QString& code)
 {
     m_box->editor()->setText(code);
@@ -93,8 +101,8 @@ QString RecordFieldBase::lookUpAgain()
     KorEntity* found = nullptr;
     QString failure;
     if (isNamed()) {
-        EntityPool read;
-        failure = this->read(read, &found);
+        EntityPool passing;
+        failure = read(passing, &found);
         if (!failure.isEmpty() || (found && found->getId() == m_record->getId()))
             return failure;
     }
@@ -113,8 +121,7 @@ bool RecordFieldBase::choose()
     // The row that says that there is nothing can be chosen, too.
     if (!isNamed())
         return false;
-    m_box->editor()->setText(m_box->codeOf(*m_record));
-    m_asked = code();
+    writeCode();
     m_chosen = m_record;
     emit chosen();
     return true;

@@ -53,6 +53,10 @@ public:
     /** Reads records into this pool, which has to outlive whatever shows them. */
     void keepIn(EntityPool& pool) { m_pool = &pool; }
 
+public slots:
+    /** Writes the code as the record does; for forms that want it also after a code was only left. */
+    void writeCode();
+
 signals:
     /** The box names another record, or none; told also while a code is typed. */
     void changed();

@@ -169,6 +169,13 @@ bool KorInstaller::growTable(KorDataMapper* mapper)
     return grown;
 }
 
+bool KorInstaller::reportAny(const QString& failure)
+{
+    if (!failure.isEmpty())
+        reportFailure(failure);
+    return !failure.isEmpty();
+}
+
 bool KorInstaller::insertRow(KorBusinessLogic* service, KorEntity* entity)
 {
     const bool done = service->insert(entity);

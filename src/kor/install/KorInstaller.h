@@ -70,6 +70,8 @@ protected:
     [[nodiscard]] bool isFresh() const { return m_installType == FreshInstall; }
     /** A status line that is also logged and counted. */
     void reportFailure(const QString& text, const QStringList& reasons = {}, bool expected = false);
+    /** Reports what services say of a failure; false for an empty text, which reports nothing. */
+    bool reportAny(const QString& failure);
     /** Inserts through the service; false after reporting its errors. */
     bool insertRow(KorBusinessLogic* service, KorEntity* entity);
     void log(const QString& message);

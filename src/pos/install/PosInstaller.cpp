@@ -247,10 +247,8 @@ void PosInstaller::insertFurtherPrinterTypes()
     const QList<EntityPrinterType*> all = m_printerTypes->getAll();
     for (const EntityPrinterType* type : all)
         known.append(type->getPrinterType());
-    if (m_printerTypes->hasError()) {
-        reportFailure(m_printerTypes->takeErrors());
+    if (reportAny(m_printerTypes->takeErrors()))
         return;
-    }
     for (const auto& cut : cuts) {
         if (known.contains(cut.first))
             continue;

@@ -3,6 +3,7 @@
 #include "app/context/AppContext.h"
 #include "app/context/EntityPool.h"
 #include "app/context/EntityUser.h"
+#include "kor/business/KorErrorScope.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/widgets/KorErrorBox.h"
 #include "pos/printing/configuration/BusinessPrinterConfig.h"
@@ -88,11 +89,7 @@ void TabDashboard::showEvent(QShowEvent* event)
     m_shownBefore = true;
 }
 
-void TabDashboard::tellErrors()
-{
-    if (m_sales->hasError())
-        KorErrorBox::critical(this, tr("Error"), m_sales->takeErrors());
-}
+void TabDashboard::tellErrors() { KorErrorBox::tell(this, m_sales->takeErrors()); }
 
 QString TabDashboard::getUsername() const
 {
@@ -163,6 +160,8 @@ QString TabDashboard::getOpenSteps()
     EntityPool pool;
     const EntityPoolScope scope(pool);
     auto* printers = service<BusinessPrinterConfig>("Printer Config");
+    // The figures, which are read next, tell of a database that is away.
+    const KorErrorScope errors(printers);
     QJsonArray steps;
     const auto* cashier = printers->getCashierPrinterConfig();
     if (cashier && cashier->isAsInstalled())
@@ -171,8 +170,6 @@ QString TabDashboard::getOpenSteps()
     const auto isOpen = [](const EntityConfigKitchenPrinter* kitchen) { return kitchen->isAsInstalled(); };
     if (std::all_of(kitchens.cbegin(), kitchens.cend(), isOpen))
         steps.append("kitchenprinter");
-    // The figures, which are read next, tell of a database that is away.
-    printers->clearErrors();
     return QString::fromUtf8(QJsonDocument(steps).toJson(QJsonDocument::Compact));
 }
 

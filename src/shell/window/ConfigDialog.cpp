@@ -4,6 +4,7 @@
 #include "app/context/AppContext.h"
 #include "app/context/ConnectionSettings.h"
 #include "app/context/DatabaseManager.h"
+#include "kor/business/KorErrorScope.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/install/KorInstallerThread.h"
 #include "kor/widgets/KorErrorBox.h"
@@ -78,8 +79,8 @@ void ConfigDialog::loadLocalization()
     // Without a connection every read would wait for a server that is not there.
     if (!m_configuration || !isConnected())
         return;
+    const KorErrorScope errors(m_configuration);
     m_localization = m_configuration->getLocalization();
-    m_configuration->clearErrors();
     m_ui->txtDateTimeFormat->setText(m_localization->getDateTimeFormat());
     m_ui->txtLocale->setCurrentText(m_localization->getLocale());
 }
@@ -111,9 +112,9 @@ void ConfigDialog::saveLocalization()
     m_localization->setDateTimeFormat(m_ui->txtDateTimeFormat->text());
     if (m_localization->getLocale() != m_ui->txtLocale->currentText() && settleCurrencies())
         m_localization->setLocale(m_ui->txtLocale->currentText());
+    KorErrorScope errors(m_configuration);
     if (!m_configuration->update(m_localization))
-        KorErrorBox::critical(this, tr("Error"), m_configuration->takeErrors());
-    m_configuration->clearErrors();
+        KorErrorBox::tell(this, errors.take());
 }
 
 bool ConfigDialog::settleCurrencies()
@@ -121,13 +122,11 @@ bool ConfigDialog::settleCurrencies()
     auto* items = service<BusinessItem>("Item");
     auto* sales = service<BusinessPenjualan>("Sales");
     const QString sign = QLocale(m_ui->txtLocale->currentText()).currencySymbol(QLocale::CurrencySymbol);
+    KorErrorScope errors({items, sales});
     const int otherItems = items->countOfOtherCurrency(sign);
     const int otherOrders = sales->countOpenOrdersOfOtherCurrency(sign);
-    const QString failure = items->takeErrors() + sales->takeErrors();
-    if (!failure.isEmpty()) {
-        KorErrorBox::critical(this, tr("Error"), failure);
+    if (KorErrorBox::tell(this, errors.take()))
         return false;
-    }
     if (otherItems == 0 && otherOrders == 0)
         return true;
     QMessageBox box(QMessageBox::Question, tr("Question"),
@@ -145,7 +144,7 @@ bool ConfigDialog::settleCurrencies()
     box.setEscapeButton(QMessageBox::Cancel);
     const int answer = box.exec();
     if (answer == QMessageBox::Yes && !items->restate(sign)) {
-        KorErrorBox::critical(this, tr("Error"), items->takeErrors());
+        KorErrorBox::tell(this, errors.take());
         return false;
     }
     return answer == QMessageBox::Yes || answer == QMessageBox::No;

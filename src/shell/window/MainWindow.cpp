@@ -8,6 +8,7 @@
 #include "app/context/DatabaseVersion.h"
 #include "app/context/EntityPool.h"
 #include "app/context/EntityUser.h"
+#include "kor/business/KorErrorScope.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/persistence/KorServerCall.h"
 #include "kor/widgets/KorErrorBox.h"
@@ -265,16 +266,15 @@ void MainWindow::on_actionPerusahaan_triggered()
     EntityPool read;
     const EntityPoolScope scope(read);
     auto* company = service<BusinessDataPerusahaan>("Company Profile");
-    const auto showFailure = [this, company] { KorErrorBox::critical(this, tr("Error"), company->takeErrors()); };
+    KorErrorScope errors(company);
     DialogDataPerusahaan dialog(this);
     if (EntityDataPerusahaan* profile = company->getData())
         dialog.setEntity(profile);
-    if (company->hasError())
-        return showFailure();
+    if (KorErrorBox::tell(this, errors.take()))
+        return;
     dialog.setSaver([&] {
         const bool saved = company->updateData(static_cast<EntityDataPerusahaan*>(dialog.getEntity()));
-        if (!saved)
-            showFailure();
+        KorErrorBox::tell(this, errors.take());
         return saved;
     });
     dialog.exec();
@@ -406,10 +406,11 @@ void MainWindow::checkDBUpdate()
         return;
     }
     ZavelInstaller installer;
-    const bool needed = installer.isUpdateNeeded();
-    m_configuration->clearErrors();
-    if (!needed)
-        return;
+    {
+        const KorErrorScope errors(m_configuration);
+        if (!installer.isUpdateNeeded())
+            return;
+    }
     if (!m_update) {
         m_update = new DatabaseUpdate(this);
         // Pages look at the database by themselves, and what they show is older than the update.
@@ -436,7 +437,7 @@ void MainWindow::checkConversion()
     if (answer == QMessageBox::Yes)
         on_actionConverter_triggered();
     else if (answer == QMessageBox::Ignore && !mark.remove())
-        KorErrorBox::critical(this, tr("Error"), m_configuration->takeErrors());
+        KorErrorBox::tell(this, m_configuration->takeErrors());
 }
 
 void MainWindow::showInfo(const QString& text) { QMessageBox::information(this, tr("Error"), text); }

@@ -194,8 +194,7 @@ bool DialogBayarMakanDitempat::payGroup(const QString& group, const InvoiceLines
         fresh = sales()->findOrder(order()->getId());
     }
     if (!fresh) {
-        showError(sales()->hasError() ? sales()->takeErrors()
-                                      : tr("Can not find entity with id: %1").arg(order()->getId()));
+        showMissing(order()->getId());
         return false;
     }
     DialogBayarMakanDitempat form(this);

@@ -4,6 +4,7 @@
 #include "app/context/EntityPool.h"
 #include "app/persistence/AppDocumentLines.h"
 #include "kor/business/KorServiceDirectory.h"
+#include "kor/widgets/KorErrorBox.h"
 #include "zavel/dinein/DialogBayarMakanDitempat.h"
 #include "zavel/dinein/DialogMakanDitempat.h"
 #include "zavel/dinein/EntityInvoiceMakanDitempat.h"
@@ -61,11 +62,11 @@ bool TabMakanDitempat::readRows(QList<KorEntity*>* rows, QObject* pool)
 {
     const QString filter = m_ui->txtFilter->text().toLower();
     const QList<EntityMakanDitempat*> orders = sales()->getMakanDitempatList(0, filter);
-    if (sales()->hasError())
-        return failed(sales());
+    if (KorErrorBox::tell(this, sales()->takeErrors()))
+        return false;
     const QList<KorEntity*> tables = m_tables->findAll(filter);
-    if (m_tables->hasError())
-        return failed(m_tables);
+    if (KorErrorBox::tell(this, m_tables->takeErrors()))
+        return false;
     *rows = boardRows(orders, tables, pool);
     return true;
 }
@@ -187,13 +188,15 @@ bool TabMakanDitempat::cancelOrder(EntityOrder* row)
     EntityPool pool;
     const EntityPoolScope scope(pool);
     const bool hasInvoice = !readBills(row->getId()).isEmpty();
-    if (!sales()->hasError() && hasInvoice) {
+    if (KorErrorBox::tell(this, sales()->takeErrors()))
+        return false;
+    if (hasInvoice) {
         tell(tr("Table %1 is already have an invoice. Please finish the payment or click Finish button on Payment "
                 "Dialog")
                  .arg(table));
         return false;
     }
-    return (!sales()->hasError() && sales()->removeOrder(static_cast<EntityMakanDitempat*>(row))) || failed(sales());
+    return sales()->removeOrder(static_cast<EntityMakanDitempat*>(row)) || failed(sales());
 }
 
 void TabMakanDitempat::payOrder(EntityOrder* order)

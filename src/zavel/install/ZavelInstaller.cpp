@@ -3,6 +3,7 @@
 #include "app/configuration/BusinessConfiguration.h"
 #include "app/context/DatabaseVersion.h"
 #include "app/context/EntityPool.h"
+#include "kor/business/KorErrorScope.h"
 #include "kor/persistence/KorDataMapper.h"
 #include "pos/masterdata/agent/BusinessAgent.h"
 #include "pos/masterdata/agent/EntityAgent.h"
@@ -58,14 +59,13 @@ void ZavelInstaller::recordCompletion()
         return;
     EntityPool pool;
     const EntityPoolScope scope(pool);
-    m_configuration->clearErrors();
+    KorErrorScope errors(m_configuration);
     EntityAppConfig* version = m_configuration->getConfig(DatabaseVersion::key());
     if (version) {
         version->setValue(versionText());
         m_configuration->update(version);
     }
-    if (m_configuration->hasError())
-        reportFailure(m_configuration->takeErrors());
+    reportAny(errors.take());
 }
 
 void ZavelInstaller::insertKeys()

@@ -3,6 +3,7 @@
 #include "app/context/AppContext.h"
 #include "app/context/DatabaseManager.h"
 #include "app/persistence/AppDocumentLines.h"
+#include "kor/business/KorErrorScope.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/persistence/KorConnectionProbe.h"
 #include "kor/persistence/KorDatabase.h"
@@ -229,15 +230,15 @@ void TabPesananMasuk::serverAnswered(bool reachable)
 
 void TabPesananMasuk::reload(Selection selection)
 {
-    m_sales->clearErrors();
+    KorErrorScope errors(m_sales);
     EntityPool read;
     QList<EntityQueue*> queue;
     {
         const EntityPoolScope scope(read);
         queue = m_sales->getQueue(m_ui->txtFilter->text().toLower());
     }
-    if (m_sales->hasError()) {
-        notUpToDate(m_sales->takeErrors());
+    if (errors.failed()) {
+        notUpToDate(errors.take());
         return;
     }
     const ScrollKeeper scroll(m_ui->tblQueue);
@@ -359,7 +360,7 @@ void TabPesananMasuk::on_btnSendStatus_clicked()
     QString failures;
     {
         const QScopedValueRollback<bool> busy(m_busy, true);
-        m_sales->clearErrors();
+        KorErrorScope errors(m_sales);
         const QString text = m_ui->ddlNote->currentText();
         const QList<KorEntity*> lines = selectedEntities(m_ui->tblMenu, m_lines);
         for (KorEntity* line : lines) {
@@ -369,7 +370,7 @@ void TabPesananMasuk::on_btnSendStatus_clicked()
             if (!done && !isConnected())
                 break;
         }
-        failures = m_sales->takeErrors();
+        failures = errors.take();
     }
     if (!failures.isEmpty())
         tell(failures);

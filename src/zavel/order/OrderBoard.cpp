@@ -170,9 +170,7 @@ EntityOrder* OrderBoard::readOrder(int id, EntityPool& pool)
 {
     const EntityPoolScope scope(pool);
     EntityOrder* order = findOrder(id);
-    if (m_sales->hasError())
-        failed(m_sales);
-    else if (!order)
+    if (!KorErrorBox::tell(this, m_sales->takeErrors()) && !order)
         QMessageBox::information(this, tr("Error"), tr("Can not find entity with id: %1").arg(id));
     return order;
 }
@@ -185,8 +183,8 @@ bool OrderBoard::tellOfBills(int orderId, OrderDialog* form)
     const QList<EntityInvoiceLink*> links = readBills(orderId);
     for (const EntityInvoiceLink* link : links)
         bills.append(billText(*link->getInvoice()));
-    if (m_sales->hasError())
-        return failed(m_sales);
+    if (KorErrorBox::tell(this, m_sales->takeErrors()))
+        return false;
     if (!bills.isEmpty())
         form->showNotice(
             tr("This order is billed already: %1. What you change now is not on the bill. Press Pay afterwards.")

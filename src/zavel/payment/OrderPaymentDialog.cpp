@@ -4,6 +4,7 @@
 #include "app/context/EntityUser.h"
 #include "app/money/Money.h"
 #include "app/widgets/UnfinishedSave.h"
+#include "kor/business/KorErrorScope.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "pos/invoice/EntityInvoiceDetail.h"
 #include "pos/invoice/EntityInvoiceLink.h"
@@ -32,16 +33,14 @@ InvoiceLines linesOf(const QList<EntityInvoiceLink*>& bills)
 bool OrderPaymentDialog::openOrder(EntityOrder* order)
 {
     m_order = order;
-    sales()->clearErrors();
+    KorErrorScope errors(sales());
     QList<EntityInvoiceLink*> invoices;
     if (order->isSaved()) {
         const EntityPoolScope scope(m_read);
         invoices = readInvoices(order->getId());
     }
-    if (sales()->hasError()) {
-        showServiceError();
+    if (showError(errors.take()))
         return false;
-    }
     if (invoices.isEmpty()) {
         showNewSale(order, billOf(*order, this));
         return true;
@@ -154,17 +153,17 @@ bool OrderPaymentDialog::beforeAccept()
 bool OrderPaymentDialog::saveInvoice()
 {
     getEntity();
-    sales()->clearErrors();
+    KorErrorScope errors(sales());
     const bool isFirst = !isStored();
     m_sale->setKnownBills(m_knownBills);
     const bool saved = isStored() ? sales()->updateInvoice(m_sale) : sales()->insertInvoice(m_sale);
     if (!saved) {
-        const QString failure = sales()->takeErrors();
-        if ((!isFirst || !showBillOfAnother()) && !failure.isEmpty())
+        const QString failure = errors.take();
+        if (!isFirst || !showBillOfAnother())
             showError(failure);
         return false;
     }
-    if (sales()->hasError()) {
+    if (errors.failed()) {
         UnfinishedSave{UnfinishedSave::saved(m_sale->getInvoice()->getInvoiceNo()), tr("the status of its order"),
                        tr("Later, press OK in this form again."),
                        [&] { return sales()->finishInvoice(m_sale, isFirst); }}
@@ -189,13 +188,13 @@ bool OrderPaymentDialog::saveInvoice()
 bool OrderPaymentDialog::showBillOfAnother()
 {
     const EntityPoolScope scope(m_read);
+    const KorErrorScope errors(sales());
     QList<EntityInvoiceLink*> strangers = readInvoices(m_order->getId());
     strangers.erase(std::remove_if(strangers.begin(), strangers.end(),
                                    [this](const EntityInvoiceLink* bill) {
                                        return m_knownBills.contains(bill->getInvoice()->getId());
                                    }),
                     strangers.end());
-    sales()->clearErrors();
     if (strangers.isEmpty())
         return false;
     QStringList bills;
@@ -231,9 +230,10 @@ bool OrderPaymentDialog::readStored()
 
 bool OrderPaymentDialog::readSaved()
 {
+    const KorErrorScope errors(sales());
     if (readStored())
         return true;
-    if (sales()->hasError())
+    if (errors.failed())
         return UnfinishedSave{UnfinishedSave::saved(m_sale->getInvoice()->getInvoiceNo()), tr("reading it again"),
                               QString(), [this] { return readStored(); }}
             .offer(this, sales());
@@ -251,7 +251,8 @@ bool OrderPaymentDialog::readAgain()
 
 void OrderPaymentDialog::showMissing(int id)
 {
-    showError(sales()->hasError() ? sales()->takeErrors() : tr("Can not find entity with id: %1").arg(id));
+    if (!showError(sales()->takeErrors()))
+        showError(tr("Can not find entity with id: %1").arg(id));
 }
 
 void OrderPaymentDialog::saveAndPrint(QWidget* button)
@@ -276,9 +277,10 @@ bool OrderPaymentDialog::mayEnd()
     EntityPool pool;
     const EntityPoolScope scope(pool);
     QObject lines;
+    const KorErrorScope errors(sales());
     const EntityOrder* fresh = readOrder(m_order->getId());
     const QList<EntityInvoiceLink*> bills = fresh ? readInvoices(m_order->getId()) : QList<EntityInvoiceLink*>();
-    if (!fresh || sales()->hasError()) {
+    if (!fresh || errors.failed()) {
         showMissing(m_order->getId());
         return false;
     }
@@ -295,7 +297,7 @@ bool OrderPaymentDialog::finishOrder()
         return false;
     if (finish(m_order))
         return true;
-    showServiceError();
+    showError(sales()->takeErrors());
     return false;
 }
 

@@ -76,6 +76,9 @@ protected:
     /** The same behind a save: a failure to read is not taken for one to save. */
     bool readSaved();
 
+    /** Tells why the record with this id could not be read: a failure, or that it is not there. */
+    void showMissing(int id);
+
     [[nodiscard]] bool isStored() const override;
     [[nodiscard]] EntityOrder* order() const { return m_order; }
     /** Null before the first save. */
@@ -87,7 +90,6 @@ private:
     Remedy askForRemedy(const BillDifference& difference);
     /** Brings the bill in hand up to the order; nothing is saved yet. */
     void changeLines(const BillDifference& difference);
-    void showMissing(int id);
     /** Says who has billed the order meanwhile, and opens that bill on request; false where nobody has. */
     bool showBillOfAnother();
     /** Whether the order may be ended: nothing is unbilled, or the cashier wants it so. */

@@ -192,5 +192,3 @@ bool PaymentDialog::ask(const QString& question)
     return QMessageBox::question(this, tr("Question"), question, QMessageBox::Yes | QMessageBox::No) ==
            QMessageBox::Yes;
 }
-
-void PaymentDialog::showServiceError() { showError(m_sales->takeErrors()); }

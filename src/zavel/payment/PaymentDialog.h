@@ -98,8 +98,6 @@ protected:
     void fillInvoice(Invoice* invoice);
 
     bool ask(const QString& question);
-    /** Shows what the sales service has to tell. */
-    void showServiceError();
     void onKey(const QKeySequence& key, const std::function<void()>& action);
 
     [[nodiscard]] BusinessPenjualan* sales() const { return m_sales; }

@@ -2,6 +2,7 @@
 
 #include "app/persistence/AppDocumentLines.h"
 #include "app/widgets/RecordField.h"
+#include "kor/business/KorErrorScope.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "pos/cash/settlement/PaymentType.h"
 #include "pos/masterdata/member/MemberTextBox.h"
@@ -60,11 +61,10 @@ bool DialogPiutang::mayReplaceCredits()
 {
     EntityPool pool;
     const EntityPoolScope scope(pool);
+    KorErrorScope errors(m_sales);
     const QList<EntityPiutangDetail*> credits = m_sales->creditsReplacedBy(static_cast<EntityPiutang*>(getEntity()));
-    if (m_sales->hasError()) {
-        showError(m_sales->takeErrors());
+    if (showError(errors.take()))
         return false;
-    }
     QStringList lost;
     for (const EntityPiutangDetail* credit : credits)
         lost.append(tr("%1 on %2").arg(credit->getAmountPaid()->toCurrencyString(), credit->documentNo()));

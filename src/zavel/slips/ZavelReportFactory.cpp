@@ -3,6 +3,7 @@
 #include "app/access/BusinessUser.h"
 #include "app/context/AppContext.h"
 #include "app/context/EntityUser.h"
+#include "kor/business/KorErrorScope.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/widgets/KorErrorBox.h"
 #include "pos/masterdata/company/BusinessDataPerusahaan.h"
@@ -22,18 +23,6 @@
 #include "zavel/takeaway/EntityInvoiceBawaPulang.h"
 
 #include <QApplication>
-
-namespace
-{
-/** The service without what an earlier operation left behind, which must not pass for a failure to print. */
-template <class Service>
-Service* fresh(const QString& name)
-{
-    auto* found = service<Service>(name);
-    found->clearErrors();
-    return found;
-}
-} // namespace
 
 ZavelReportFactory* ZavelReportFactory::instance()
 {
@@ -67,9 +56,10 @@ void ZavelReportFactory::printBill(Sale* (BusinessPenjualan::*find)(int), int in
     if (!reload() || !readyForCashier())
         return;
     const EntityPoolScope scope(m_records);
-    auto* sales = fresh<BusinessPenjualan>("Sales");
+    auto* sales = service<BusinessPenjualan>("Sales");
+    KorErrorScope errors(sales);
     const Sale* sale = (sales->*find)(invoiceId);
-    if (showErrors({sales}))
+    if (showError(errors.take()))
         return;
     if (!sale) {
         showError(tr("Can not find entity with id: %1").arg(invoiceId));
@@ -84,9 +74,10 @@ void ZavelReportFactory::printMakanDitempat(int orderId)
     if (!reload() || !readyForCashier())
         return;
     const EntityPoolScope scope(m_records);
-    auto* sales = fresh<BusinessPenjualan>("Sales");
+    auto* sales = service<BusinessPenjualan>("Sales");
+    KorErrorScope errors(sales);
     const EntityMakanDitempat* order = sales->findOrder(orderId);
-    if (showErrors({sales}))
+    if (showError(errors.take()))
         return;
     if (!order) {
         showError(tr("Can not find entity with id: %1").arg(orderId));
@@ -159,14 +150,15 @@ bool ZavelReportFactory::reload()
 {
     m_records.clear();
     const EntityPoolScope scope(m_records);
-    auto* companies = fresh<BusinessDataPerusahaan>("Company Profile");
+    auto* companies = service<BusinessDataPerusahaan>("Company Profile");
+    auto* printers = service<BusinessPrinterConfig>("Printer Config");
+    auto* types = service<BusinessPrinterType>("Printer Type");
+    KorErrorScope errors({companies, printers, types});
     m_company = companies->getData();
-    auto* printers = fresh<BusinessPrinterConfig>("Printer Config");
     m_cashierPrinter = printers->getCashierPrinterConfig();
     m_kitchenPrinters = printers->getAllKitchenPrinterConfig();
-    auto* types = fresh<BusinessPrinterType>("Printer Type");
     m_printerType = m_cashierPrinter ? types->findByType(m_cashierPrinter->getPrinterType()) : nullptr;
-    return !showErrors({companies, printers, types});
+    return !showError(errors.take());
 }
 
 bool ZavelReportFactory::readyForCashier()
@@ -204,23 +196,14 @@ QString ZavelReportFactory::orderIsSaved() { return tr("The order is saved. Only
 
 EntityUser* ZavelReportFactory::findUser(int id)
 {
-    auto* users = fresh<BusinessUser>("User");
+    auto* users = service<BusinessUser>("User");
+    KorErrorScope errors(users);
     auto* user = qobject_cast<EntityUser*>(users->find(id));
-    showErrors({users});
+    showError(errors.take());
     return user;
 }
 
-bool ZavelReportFactory::showErrors(const QList<KorBusinessLogic*>& services)
+bool ZavelReportFactory::showError(const QString& text)
 {
-    QString text;
-    for (KorBusinessLogic* business : services)
-        text += business->takeErrors();
-    if (!text.isEmpty())
-        showError(text);
-    return !text.isEmpty();
-}
-
-void ZavelReportFactory::showError(const QString& text)
-{
-    KorErrorBox::critical(QApplication::activeWindow(), tr("Error"), text);
+    return KorErrorBox::tell(QApplication::activeWindow(), text);
 }

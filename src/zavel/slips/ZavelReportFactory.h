@@ -52,8 +52,8 @@ private:
     [[nodiscard]] static QString orderIsSaved();
     [[nodiscard]] EntityUser* findUser(int id);
     /** Shows in one box what the services could not read; true when there was something. */
-    bool showErrors(const QList<KorBusinessLogic*>& services);
-    void showError(const QString& text);
+    /** False for an empty text, which shows nothing. */
+    bool showError(const QString& text);
 
     // What the last request read; the next one frees it.
     EntityPool m_records;

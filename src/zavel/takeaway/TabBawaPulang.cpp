@@ -33,7 +33,7 @@ TabBawaPulang::~TabBawaPulang() = default;
 bool TabBawaPulang::readRows(QList<KorEntity*>* rows, QObject*)
 {
     *rows = asEntities(sales()->getBawaPulangList(m_ui->ddlStatus->currentData().toInt()));
-    return !sales()->hasError() || failed(sales());
+    return !KorErrorBox::tell(this, sales()->takeErrors());
 }
 
 OrderBoardModel* TabBawaPulang::createModel(const QList<KorEntity*>& rows)
@@ -98,12 +98,14 @@ bool TabBawaPulang::cancelOrder(EntityOrder* row)
     const bool isPaid = row->getStatus() == EntityOrder::PAID || row->getStatus() == EntityOrder::PARTIALY_PAID;
     // A bill without money, or one from before an edit: the database would refuse, in its own words.
     const bool hasOpenInvoice = !isPaid && !readBills(row->getId()).isEmpty();
-    if (!sales()->hasError() && hasOpenInvoice) {
+    if (KorErrorBox::tell(this, sales()->takeErrors()))
+        return false;
+    if (hasOpenInvoice) {
         tell(tr("Order %1 already has an invoice. Please finish the payment, or press Done in the payment form")
                  .arg(row->getId()));
         return false;
     }
-    return (!sales()->hasError() && sales()->removeOrder(static_cast<EntityBawaPulang*>(row))) || failed(sales());
+    return sales()->removeOrder(static_cast<EntityBawaPulang*>(row)) || failed(sales());
 }
 
 void TabBawaPulang::payOrder(EntityOrder* order)

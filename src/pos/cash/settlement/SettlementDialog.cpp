@@ -31,6 +31,7 @@ void SettlementDialog::setUpSettlement(const Boxes& boxes, const Words& words, S
     m_boxes.date->setDate(QDate::currentDate());
     makeTouchable(m_boxes.buttons);
     m_boxes.person->lookUpWhenLeft();
+    connect(m_boxes.person, &RecordFieldBase::chosen, m_boxes.person, &RecordFieldBase::writeCode);
     connect(m_boxes.person, &RecordFieldBase::changed, this, [this] { showPerson(person()); });
     connect(m_boxes.person, &RecordFieldBase::chosen, this, [this] { showError(readLinesOfAnother()); });
     connect(m_boxes.person, &RecordFieldBase::unread, this, &SettlementDialog::showError);

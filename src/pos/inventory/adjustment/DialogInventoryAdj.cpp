@@ -1,6 +1,7 @@
 #include "pos/inventory/adjustment/DialogInventoryAdj.h"
 
 #include "app/context/AppContext.h"
+#include "kor/business/KorErrorScope.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "pos/inventory/stock/BusinessInventory.h"
 #include "pos/inventory/stock/EntityStockTake.h"
@@ -54,11 +55,10 @@ bool DialogInventoryAdj::settleDay()
 {
     auto* inventory = service<BusinessInventory>("Inventory");
     const QDate day = m_ui->dateQtyOnHand->date();
+    KorErrorScope errors(inventory);
     const BusinessInventory::Movements moved = inventory->movementsOf(m_item->record(), day);
-    if (inventory->hasError()) {
-        showError(inventory->takeErrors());
+    if (showError(errors.take()))
         return false;
-    }
     if (moved.isEmpty())
         return true;
     const QLocale locale = m_ui->txtStok->locale();
@@ -116,10 +116,9 @@ void DialogInventoryAdj::readQuantityBefore()
     m_ui->txtQtyOnHand->clear();
     if (item) {
         auto* inventory = service<BusinessInventory>("Inventory");
+        KorErrorScope errors(inventory);
         m_before = inventory->getQuantityOnHand(item, m_ui->dateQtyOnHand->date());
-        if (inventory->hasError())
-            showError(inventory->takeErrors());
-        else
+        if (!showError(errors.take()))
             m_ui->txtQtyOnHand->setText(m_ui->txtStok->locale().toString(m_before));
     }
     showNewQuantity();

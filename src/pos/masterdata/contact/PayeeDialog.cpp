@@ -1,5 +1,6 @@
 #include "pos/masterdata/contact/PayeeDialog.h"
 
+#include "kor/business/KorErrorScope.h"
 #include "pos/masterdata/account/BusinessBank.h"
 #include "pos/masterdata/contact/EntityPayee.h"
 
@@ -11,12 +12,12 @@ void PayeeDialog::preparePayeeFields()
     limitLength(m_payeeFields.notes, 500);
 
     auto* accounts = service<BusinessBank>("Bank");
+    KorErrorScope errors(accounts);
     {
         const EntityPoolScope scope(m_pool);
         m_accounts = accounts->findAll(QString());
     }
-    if (accounts->hasError())
-        showError(accounts->takeErrors());
+    showError(errors.take());
     m_payeeFields.account->addItem(tr("none"), KorNoValue);
     for (const KorEntity* account : qAsConst(m_accounts))
         m_payeeFields.account->addItem(static_cast<const EntityBank*>(account)->getNama(), account->getId());

@@ -1,5 +1,6 @@
 #include "pos/masterdata/item/DialogItem.h"
 
+#include "kor/business/KorErrorScope.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/widgets/KorTabOrder.h"
 #include "pos/masterdata/account/BusinessBank.h"
@@ -33,25 +34,24 @@ void DialogItem::fillCombos()
 {
     const EntityPoolScope scope(m_read);
     auto* types = service<BusinessJenisItem>("Item Type");
+    auto* units = service<BusinessSatuan>("Unit");
+    KorErrorScope errors({types, units});
     for (const KorEntity* type : types->findAll(QString()))
         m_ui->ddlJenis->addItem(static_cast<const EntityJenisItem*>(type)->getNama(), type->getId());
-    auto* units = service<BusinessSatuan>("Unit");
     for (const KorEntity* unit : units->findAll(QString()))
         m_ui->ddlSatuan->addItem(static_cast<const EntitySatuan*>(unit)->getNama(), unit->getId());
-    const QString errors = types->takeErrors() + units->takeErrors();
-    if (!errors.isEmpty())
-        showError(errors);
+    showError(errors.take());
 }
 
 void DialogItem::showDefaultAccounts()
 {
     const EntityPoolScope scope(m_read);
     auto* accounts = service<BusinessBank>("Bank");
+    KorErrorScope errors(accounts);
     m_accounts->setSalesAccount(accounts->salesOfMaterials());
     m_accounts->setInventoryAccount(accounts->inventory());
     m_accounts->setCostOfSalesAccount(accounts->costOfSales());
-    if (accounts->hasError())
-        showError(accounts->takeErrors());
+    showError(errors.take());
 }
 
 void DialogItem::showAccounts()
@@ -59,11 +59,11 @@ void DialogItem::showAccounts()
     const EntityPoolScope scope(m_read);
     const auto* item = held<EntityItem>();
     auto* accounts = service<BusinessBank>("Bank");
+    KorErrorScope errors(accounts);
     m_accounts->setSalesAccount(accounts->findByCode(item->getSalesAcctCode()));
     m_accounts->setInventoryAccount(accounts->findByCode(item->getInventoryAcctCode()));
     m_accounts->setCostOfSalesAccount(accounts->findByCode(item->getCostOfSalesAcctCode()));
-    if (accounts->hasError())
-        showError(accounts->takeErrors());
+    showError(errors.take());
 }
 
 bool DialogItem::validate()

@@ -1,5 +1,6 @@
 #include "pos/masterdata/item/TabItem.h"
 
+#include "kor/business/KorErrorScope.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/widgets/KorErrorBox.h"
 #include "pos/masterdata/item/ItemStock.h"
@@ -30,12 +31,12 @@ void TabItem::fillTypes()
     auto* types = service<BusinessJenisItem>("Item Type");
     EntityPool pool;
     const EntityPoolScope scope(pool);
+    KorErrorScope errors(types);
     for (const KorEntity* entity : types->findAll(QString())) {
         const auto* type = static_cast<const EntityJenisItem*>(entity);
         m_types->addItem(type->getNama(), type->getKode());
     }
-    if (types->hasError())
-        KorErrorBox::critical(this, tr("Error"), types->takeErrors());
+    KorErrorBox::tell(this, errors.take());
 }
 
 QList<KorEntity*> TabItem::readRows(const QString& filter)
@@ -46,10 +47,10 @@ QList<KorEntity*> TabItem::readRows(const QString& filter)
 KorEntityModel* TabItem::createModel(const QList<KorEntity*>& rows)
 {
     KorBusinessLogic* inventory = KorServiceDirectory::get("Inventory");
+    KorErrorScope errors(inventory);
     auto* model = new TableModelItem(rows, this);
     model->setStock(qobject_cast<ItemStock*>(inventory)->quantitiesOnHand(QDate::currentDate()));
-    if (inventory->hasError())
-        KorErrorBox::critical(this, tr("Error"), inventory->takeErrors());
+    KorErrorBox::tell(this, errors.take());
     return model;
 }
 

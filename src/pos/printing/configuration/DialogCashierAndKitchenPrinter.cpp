@@ -1,5 +1,6 @@
 #include "pos/printing/configuration/DialogCashierAndKitchenPrinter.h"
 
+#include "kor/business/KorErrorScope.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "pos/printing/configuration/BusinessPrinterConfig.h"
 
@@ -15,10 +16,10 @@ DialogCashierAndKitchenPrinter::DialogCashierAndKitchenPrinter(QWidget* parent)
 {
     m_ui->setupUi(this);
     usePrinterFields(*m_ui);
+    KorErrorScope errors(printerConfig());
     if (auto* config = printerConfig()->getCashierPrinterConfig())
         DialogCashierAndKitchenPrinter::setEntity(config);
-    if (printerConfig()->hasError())
-        showError(printerConfig()->takeErrors());
+    showError(errors.take());
 }
 
 DialogCashierAndKitchenPrinter::~DialogCashierAndKitchenPrinter() = default;

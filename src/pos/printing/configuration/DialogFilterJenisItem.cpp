@@ -1,5 +1,6 @@
 #include "pos/printing/configuration/DialogFilterJenisItem.h"
 
+#include "kor/business/KorErrorScope.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/widgets/KorErrorBox.h"
 #include "kor/widgets/KorSortFilterProxyModel.h"
@@ -19,9 +20,9 @@ DialogFilterJenisItem::DialogFilterJenisItem(const QString& codes, QWidget* pare
     m_ui->setupUi(this);
     auto* types = service<BusinessJenisItem>("Item Type");
     const EntityPoolScope scope(m_types);
+    KorErrorScope errors(types);
     m_model = new TableModelJenisItem(types->findAll(QString()), this);
-    if (types->hasError())
-        KorErrorBox::critical(this, tr("Error"), types->takeErrors());
+    KorErrorBox::tell(this, errors.take());
     m_proxy = new KorSortFilterProxyModel(this);
     m_proxy->setSourceModel(m_model);
     m_ui->tblJenisItem->setModel(m_proxy);

@@ -2,6 +2,7 @@
 
 #include "app/context/EntityPool.h"
 #include "app/widgets/AppNumberEdit.h"
+#include "kor/business/KorErrorScope.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/widgets/KorErrorBox.h"
 #include "pos/printing/configuration/EntityConfigPrinter.h"
@@ -45,13 +46,13 @@ void PrinterConfigDialog::fillTypes()
     EntityPool read;
     const EntityPoolScope scope(read);
     auto* types = service<BusinessPrinterType>("Printer Type");
+    KorErrorScope errors(types);
     const QList<EntityPrinterType*> all = types->getAll();
     for (const EntityPrinterType* type : all) {
         m_fields.printerType->addItem(type->getPrinterType(), type->getId());
         m_cuts.insert(type->getPrinterType(), type->getCutPapperCmd());
     }
-    if (types->hasError())
-        showError(types->takeErrors());
+    showError(errors.take());
 }
 
 void PrinterConfigDialog::watchChoices()

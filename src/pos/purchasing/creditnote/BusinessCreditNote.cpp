@@ -1,5 +1,6 @@
 #include "pos/purchasing/creditnote/BusinessCreditNote.h"
 
+#include "kor/business/KorErrorScope.h"
 #include "pos/inventory/stock/EntityItemHistory.h"
 #include "pos/purchasing/creditnote/DataMapperCreditNote.h"
 #include "pos/purchasing/purchase/BusinessPurchases.h"
@@ -76,10 +77,10 @@ bool BusinessCreditNote::updatePurchaseNetDue(const EntityCreditNote& note)
 
 bool BusinessCreditNote::recalculateDue(int purchaseId)
 {
-    m_purchases->clearErrors();
+    KorErrorScope errors(m_purchases);
     if (purchaseId == KorNoValue || m_purchases->recalculateDue(purchaseId))
         return true;
-    addError("updatePurchaseNetDue", m_purchases->takeErrors().trimmed());
+    addError("updatePurchaseNetDue", errors.take().trimmed());
     return false;
 }
 

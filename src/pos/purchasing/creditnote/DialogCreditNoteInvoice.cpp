@@ -1,5 +1,6 @@
 #include "pos/purchasing/creditnote/DialogCreditNoteInvoice.h"
 
+#include "kor/business/KorErrorScope.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "pos/purchasing/creditnote/BusinessCreditNote.h"
 
@@ -21,10 +22,9 @@ void DialogCreditNoteInvoice::setEntity(KorEntity* line)
     keepDiscountShare();
     const auto& returned = *static_cast<EntityCreditNoteDetail*>(line);
     auto* notes = service<BusinessCreditNote>("Credit Note");
-    notes->clearErrors();
+    KorErrorScope errors(notes);
     const int before = notes->returnedElsewhere(returned);
-    if (notes->hasError())
-        showError(notes->takeErrors());
+    showError(errors.take());
     addShownRow(tr("Bought :"), QString::number(returned.getQty()));
     addShownRow(tr("Returned before :"), QString::number(before));
     // The same goods do not go back twice; what was never bought goes back as a free item.

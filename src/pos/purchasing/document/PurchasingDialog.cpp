@@ -26,6 +26,7 @@ void PurchasingDialog::setUpPurchasing(const Form& form, const Words& words, con
     auto* suppliers = new SupplierTextBox(form.supplier, service<BusinessSupplier>("Supplier"));
     m_supplier = new RecordField<EntitySupplier>(suppliers, form.supplierName, this);
     m_supplier->lookUpWhenLeft();
+    connect(m_supplier, &RecordFieldBase::chosen, m_supplier, &RecordFieldBase::writeCode);
     connect(m_supplier, &RecordFieldBase::changed, this, &PurchasingDialog::onSupplierSelected);
     for (QDateEdit* date : form.dates) {
         date->setCalendarPopup(true);

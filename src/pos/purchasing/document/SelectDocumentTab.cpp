@@ -2,6 +2,7 @@
 
 #include "app/widgets/AppFilterBar.h"
 #include "kor/business/KorBusinessLogic.h"
+#include "kor/business/KorErrorScope.h"
 #include "kor/entity/KorEntity.h"
 #include "kor/widgets/KorDialog.h"
 #include "kor/widgets/KorEntityModel.h"
@@ -45,15 +46,14 @@ void SelectDocumentTab::addFilters(AppFilterBar* bar)
 
 void SelectDocumentTab::refresh()
 {
-    m_documents->clearErrors();
+    KorErrorScope errors(m_documents);
     EntityPool read;
     QList<KorEntity*> rows;
     {
         const EntityPoolScope scope(read);
         rows = readRows();
     }
-    if (m_documents->hasError())
-        KorErrorBox::critical(this, KorDialog::tr("Error"), m_documents->takeErrors());
+    KorErrorBox::tell(this, errors.take());
     const KorEntityModel* former = m_model;
     m_model = createModel(rows);
     applyModel(m_grid, m_model);

@@ -1,6 +1,7 @@
 #include "pos/purchasing/document/SourceLinesTab.h"
 
 #include "kor/business/KorBusinessLogic.h"
+#include "kor/business/KorErrorScope.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/widgets/KorDialog.h"
 #include "kor/widgets/KorErrorBox.h"
@@ -45,12 +46,10 @@ void SourceLinesTab::selectSource()
         return;
     const EntityPoolScope scope(pool());
     KorBusinessLogic* documents = KorServiceDirectory::get(m_source.serviceName);
-    documents->clearErrors();
+    KorErrorScope errors(documents);
     if (const KorEntity* document = documents->find(dialog->selectedId()))
         takeSource(*document);
-    else if (documents->hasError())
-        KorErrorBox::critical(this, KorDialog::tr("Error"), documents->takeErrors());
-    else
+    else if (!KorErrorBox::tell(this, errors.take()))
         QMessageBox::information(this, KorDialog::tr("Error"), m_source.notFound.arg(dialog->selectedId()));
     focusLines();
 }

@@ -1,5 +1,6 @@
 #include "pos/purchasing/payment/BusinessPayment.h"
 
+#include "kor/business/KorErrorScope.h"
 #include "pos/purchasing/payment/DataMapperPayment.h"
 #include "pos/purchasing/purchase/BusinessPurchases.h"
 
@@ -34,10 +35,10 @@ bool BusinessPayment::updatePurchase(const EntityPayment& payment)
     bool done = true;
     const auto lines = payment.invoices().getDetails() + payment.invoices().getRemovedDetails();
     for (const EntityPaymentInvoices* line : lines) {
-        m_purchases->clearErrors();
+        KorErrorScope errors(m_purchases);
         if (m_purchases->recalculateDue(line->getAcquisition()->getId()))
             continue;
-        addError("updatePurchase", m_purchases->takeErrors().trimmed());
+        addError("updatePurchase", errors.take().trimmed());
         done = false;
     }
     return done;

@@ -2,6 +2,7 @@
 
 #include "app/persistence/AppDocumentLines.h"
 #include "app/widgets/UnfinishedSave.h"
+#include "kor/business/KorErrorScope.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/widgets/KorErrorBox.h"
 #include "pos/purchasing/purchase/BusinessPurchases.h"
@@ -67,12 +68,10 @@ void TabPurchases::offerToClose(const EntityAcquisition& purchase)
     EntityPool read;
     const EntityPoolScope scope(read);
     auto* orders = service<BusinessPurchaseOrder>("Purchase Order");
-    orders->clearErrors();
+    KorErrorScope errors(orders);
     EntityPurchaseOrder* order = orders->findHeader(orderId);
     if (!order) {
-        if (orders->hasError())
-            KorErrorBox::critical(this, tr("Error"), orders->takeErrors());
-        else
+        if (!KorErrorBox::tell(this, errors.take()))
             QMessageBox::information(this, tr("Error"), tr("Can not find PO with id: %1").arg(orderId));
         return;
     }

@@ -2,6 +2,7 @@
 
 #include "app/configuration/BusinessConfiguration.h"
 #include "app/context/EntityPool.h"
+#include "kor/business/KorErrorScope.h"
 #include "kor/persistence/KorQuery.h"
 
 #include <QDateTime>
@@ -47,8 +48,8 @@ bool ConversionMark::remove()
 
 QString ConversionMark::explanation() const
 {
+    const KorErrorScope errors(m_configuration);
     const QString value = m_configuration->getValue(rowKey);
-    m_configuration->clearErrors();
     // Somebody who has claimed is at it.
     if (value.isEmpty() || !claim())
         return {};

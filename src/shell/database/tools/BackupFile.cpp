@@ -1,6 +1,7 @@
 #include "shell/database/tools/BackupFile.h"
 
 #include "app/context/EntityPool.h"
+#include "kor/business/KorErrorScope.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/persistence/KorDatabase.h"
 #include "pos/masterdata/company/BusinessDataPerusahaan.h"
@@ -31,9 +32,9 @@ QString shopOf(const QString& database)
         return {};
     EntityPool read;
     const EntityPoolScope scope(read);
-    const EntityDataPerusahaan* company = companies->getData();
     // Without the name the file still has the database's.
-    companies->clearErrors();
+    const KorErrorScope errors(companies);
+    const EntityDataPerusahaan* company = companies->getData();
     return company ? company->getNamaPerusahaan() : QString();
 }
 
