@@ -136,6 +136,8 @@ private slots:
         addRow("nothing at all", Entries{{"txtSupplier", " "}, {"txtAPAccount", " "}}, "",
                "Select a supplier|Please select an Accounts Payable");
         addRow("a supplier that nobody knows", Entries{{"txtSupplier", "S9"}}, "", "Select a supplier");
+        addRow("a supplier deleted meanwhile", Entries{}, "DELETE FROM supplier WHERE kode = 'S1'",
+               "Select a supplier");
         addRow("an account that nobody knows", Entries{{"txtAPAccount", "77"}}, "",
                "Please select a valid Accounts Payable");
         addRow("an account deleted meanwhile", Entries{}, "DELETE FROM bank WHERE id = 2",
