@@ -100,7 +100,10 @@ private:
     bool m_couldAsk = true;
 };
 
-/** A box for the code of such an entity; the service behind the lookup box offers findByCode(code). */
+/**
+ * A box for the code of such an entity; the service behind the lookup box offers findByCode(code). Headers declare it
+ * ahead as template <typename Entity>: behind "class" lupdate would take the texts for those of a class Entity.
+ */
 template <class Entity>
 class RecordField : public RecordFieldBase
 {

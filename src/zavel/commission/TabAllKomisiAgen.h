@@ -6,7 +6,7 @@ class EntityAgent;
 class EntityAllKomisiAgen;
 class QComboBox;
 class QDateEdit;
-template <class Entity>
+template <typename Entity>
 class RecordField;
 
 /** The invoices that agents brought: what each earns, and whether it was paid. Paying opens the commission form. */

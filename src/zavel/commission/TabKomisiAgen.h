@@ -5,7 +5,7 @@
 class EntityAgent;
 class QDateEdit;
 class QLineEdit;
-template <class Entity>
+template <typename Entity>
 class RecordField;
 
 /** The list of commissions paid to agents. */

@@ -10,7 +10,7 @@ class EntityPenjualanInfo;
 class QComboBox;
 class QDateEdit;
 class QLineEdit;
-template <class Entity>
+template <typename Entity>
 class RecordField;
 struct SalesFilter;
 

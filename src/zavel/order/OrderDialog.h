@@ -6,7 +6,7 @@
 #include <memory>
 
 class OrderLinesTab;
-template <class Entity>
+template <typename Entity>
 class RecordField;
 
 namespace Ui

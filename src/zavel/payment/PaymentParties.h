@@ -10,7 +10,7 @@ class EntityMember;
 class KorDialog;
 class QLabel;
 class QLineEdit;
-template <class Entity>
+template <typename Entity>
 class RecordField;
 
 /**

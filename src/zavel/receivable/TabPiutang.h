@@ -6,7 +6,7 @@ class EntityMember;
 class EntityPiutang;
 class QComboBox;
 class QDateEdit;
-template <class Entity>
+template <typename Entity>
 class RecordField;
 
 /** The list of what members paid later. */

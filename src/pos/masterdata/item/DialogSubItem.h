@@ -6,7 +6,7 @@
 #include <memory>
 
 class EntityItem;
-template <class Entity>
+template <typename Entity>
 class RecordField;
 
 namespace Ui

@@ -11,7 +11,7 @@ class EntitySupplier;
 class PurchasingTotalsPane;
 class QDateEdit;
 class QTabWidget;
-template <class Entity>
+template <typename Entity>
 class RecordField;
 
 /**
