@@ -2190,10 +2190,6 @@ Hak akses yang dibutuhkan: %1</translation>
         <translation>Tidak ada faktur untuk dipisah</translation>
     </message>
     <message>
-        <source>Can not find entity with id: %1</source>
-        <translation>Data dengan id: %1 tidak ditemukan</translation>
-    </message>
-    <message>
         <source> Split: </source>
         <translation> Pisah: </translation>
     </message>
@@ -2899,10 +2895,6 @@ Hak akses yang dibutuhkan: %1</translation>
     <message>
         <source>Select Item Types</source>
         <translation>Pilih Jenis Barang</translation>
-    </message>
-    <message>
-        <source>Error</source>
-        <translation>Kesalahan</translation>
     </message>
 </context>
 <context>
@@ -9029,10 +9021,6 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 4 terpas
         <source>about:blank</source>
         <translation>about:blank</translation>
     </message>
-    <message>
-        <source>Error</source>
-        <translation>Kesalahan</translation>
-    </message>
 </context>
 <context>
     <name>TabEmployee</name>
@@ -9183,10 +9171,6 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 4 terpas
     <message>
         <source>All</source>
         <translation>Semua</translation>
-    </message>
-    <message>
-        <source>Error</source>
-        <translation>Kesalahan</translation>
     </message>
     <message>
         <source>Are you sure you want to delete this item: %1 ?</source>
@@ -9989,10 +9973,6 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 4 terpas
     <message>
         <source>User Access</source>
         <translation>Hak Akses Pengguna</translation>
-    </message>
-    <message>
-        <source>Error</source>
-        <translation>Kesalahan</translation>
     </message>
     <message>
         <source>Info</source>
@@ -11444,10 +11424,6 @@ Silakan pasang data awal</translation>
     <message>
         <source>There are no settings of the cashier printer in this database, so nothing can be printed at the cashier.</source>
         <translation>Tidak ada pengaturan printer kasir di basis data ini, sehingga kasir tidak dapat mencetak.</translation>
-    </message>
-    <message>
-        <source>Error</source>
-        <translation>Kesalahan</translation>
     </message>
     <message>
         <source>The order is cancelled. Only its slip is missing.</source>
