@@ -27,11 +27,11 @@ QStringList DataMapperAccess::indexStatements() const
 
 EntityAccess* DataMapperAccess::findAccess(int groupId, int permissionId)
 {
-    return static_cast<EntityAccess*>(findOne(" where group_id=:groupid and permission_id=:permid",
-                                              {{":groupid", groupId}, {":permid", permissionId}}));
+    return static_cast<EntityAccess*>(
+        findOne(KorConditions().equals("group_id", groupId).equals("permission_id", permissionId)));
 }
 
 QList<KorEntity*> DataMapperAccess::findByGroup(int groupId)
 {
-    return findMany(" where group_id=:groupid", {{":groupid", groupId}});
+    return findMany(KorConditions().equals("group_id", groupId));
 }

@@ -18,7 +18,7 @@ QList<KorMigration*> DataMapperBusiness::migrations() { return {new DataMapperBu
 
 EntityBusiness* DataMapperBusiness::findByName(const QString& name)
 {
-    return static_cast<EntityBusiness*>(findOne(" where name = :name", {{":name", name}}));
+    return static_cast<EntityBusiness*>(findOne(KorConditions().equals("name", name)));
 }
 
 QList<KorEntity*> DataMapperBusiness::findAll()

@@ -4,7 +4,6 @@
 #include "app/access/DataMapperPermissionMigration11.h"
 #include "app/access/EntityPermission.h"
 #include "kor/entity/KorMetaDataMap.h"
-#include "kor/persistence/KorPaging.h"
 
 DataMapperPermission::DataMapperPermission(QObject* parent, DataMapperBusiness* businesses) : AppDataMapper(parent)
 {
@@ -23,14 +22,11 @@ QStringList DataMapperPermission::indexStatements() const { return {index("busin
 
 EntityPermission* DataMapperPermission::findByKey(int key, int businessId)
 {
-    return static_cast<EntityPermission*>(findOne(" where permission_key = :key and business_id = :business",
-                                                  {{":key", key}, {":business", businessId}}));
+    return static_cast<EntityPermission*>(
+        findOne(KorConditions().equals("permission_key", key).equals("business_id", businessId)));
 }
 
 QList<KorEntity*> DataMapperPermission::findByBusiness(int businessId)
 {
-    KorPaging paging;
-    paging.addFilter("business_id = ", QString::number(businessId));
-    paging.addSort("permission_name", "asc");
-    return find(&paging);
+    return findMany(KorConditions().equals("business_id", businessId).ascending("permission_name"));
 }

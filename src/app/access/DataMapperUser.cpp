@@ -3,7 +3,6 @@
 #include "app/access/DataMapperUserGroup.h"
 #include "app/context/EntityUser.h"
 #include "kor/entity/KorMetaDataMap.h"
-#include "kor/persistence/KorPaging.h"
 
 #include <QCryptographicHash>
 
@@ -60,31 +59,22 @@ void DataMapperUser::bindUpdate(KorQuery& query, KorEntity* entity)
 
 EntityUser* DataMapperUser::findByUsername(const QString& username)
 {
-    return static_cast<EntityUser*>(findOne(" where username = :username", {{":username", username}}));
+    return static_cast<EntityUser*>(findOne(KorConditions().equals("username", username)));
 }
 
 QList<KorEntity*> DataMapperUser::findByGroup(int groupId)
 {
-    return findMany(" where user_group_id = :group", {{":group", groupId}});
+    return findMany(KorConditions().equals("user_group_id", groupId));
 }
 
 QList<KorEntity*> DataMapperUser::findAll(const QString& filter)
 {
-    const QString value = '%' + filter.toLower() + '%';
-    KorPaging paging;
-    paging.addFilter("lower(first_name) like ", value);
-    paging.addFilter(" OR lower(last_name) like ", value);
-    paging.addFilter(" OR lower(username) like ", value);
-    paging.addSort("users.id", "asc");
-    return find(&paging);
+    return findMany(KorConditions()
+                        .contains({"lower(first_name)", "lower(last_name)", "lower(username)"}, filter)
+                        .ascending("users.id"));
 }
 
 QList<KorEntity*> DataMapperUser::search(const QString& filter)
 {
-    const QString value = '%' + filter + '%';
-    KorPaging paging;
-    paging.addFilter("first_name like ", value);
-    paging.addFilter(" OR last_name like ", value);
-    paging.addFilter(" OR username like ", value);
-    return find(&paging);
+    return findMany(KorConditions().matches({"first_name", "last_name", "username"}, '%' + filter + '%'));
 }

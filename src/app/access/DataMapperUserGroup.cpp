@@ -2,7 +2,6 @@
 
 #include "app/context/EntityUserGroup.h"
 #include "kor/entity/KorMetaDataMap.h"
-#include "kor/persistence/KorPaging.h"
 
 DataMapperUserGroup::DataMapperUserGroup(QObject* parent) : AppDataMapper(parent)
 {
@@ -15,13 +14,10 @@ KorEntity* DataMapperUserGroup::createEntity() { return new EntityUserGroup(enti
 
 EntityUserGroup* DataMapperUserGroup::findByGroupName(const QString& name)
 {
-    return static_cast<EntityUserGroup*>(findOne(" where lower(name) = :name", {{":name", name.toLower()}}));
+    return static_cast<EntityUserGroup*>(findOne(KorConditions().equals("lower(name)", name.toLower())));
 }
 
 QList<KorEntity*> DataMapperUserGroup::findAll(const QString& filter)
 {
-    KorPaging paging;
-    paging.addFilter("lower(name) like ", '%' + filter.toLower() + '%');
-    paging.addSort("name", "asc");
-    return find(&paging);
+    return findMany(KorConditions().contains("lower(name)", filter).ascending("name"));
 }

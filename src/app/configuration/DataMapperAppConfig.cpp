@@ -2,7 +2,6 @@
 
 #include "app/configuration/EntityConfigLocalizationFormat.h"
 #include "kor/entity/KorMetaDataMap.h"
-#include "kor/persistence/KorPaging.h"
 
 DataMapperAppConfig::DataMapperAppConfig(QObject* parent) : AppDataMapper(parent)
 {
@@ -40,17 +39,12 @@ EntityAppConfig* DataMapperAppConfig::getConfig(const QString& key)
 {
     if (key.isEmpty())
         return nullptr;
-    KorPaging paging;
-    paging.addFilter("appkey = ", key);
-    return static_cast<EntityAppConfig*>(find(&paging).value(0));
+    return static_cast<EntityAppConfig*>(findOne(KorConditions().equals("appkey", key)));
 }
 
 QList<KorEntity*> DataMapperAppConfig::getConfigsLike(const QString& prefix)
 {
-    KorPaging paging;
-    paging.addFilter("appkey like ", prefix + '%');
-    paging.addSort("appconfig.id", "asc");
-    return find(&paging);
+    return findMany(KorConditions().matches({"appkey"}, prefix + '%').ascending("appconfig.id"));
 }
 
 bool DataMapperAppConfig::insert(KorEntity* entity)

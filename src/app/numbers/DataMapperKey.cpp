@@ -2,7 +2,6 @@
 
 #include "app/numbers/EntityKey.h"
 #include "kor/entity/KorMetaDataMap.h"
-#include "kor/persistence/KorPaging.h"
 
 DataMapperKey::DataMapperKey(QObject* parent) : AppDataMapper(parent)
 {
@@ -18,7 +17,7 @@ DataMapperKey::DataMapperKey(QObject* parent) : AppDataMapper(parent)
 
 EntityKey* DataMapperKey::getKey(const QString& keyName)
 {
-    auto* key = static_cast<EntityKey*>(findOne(" where key_name = :keyname", {{":keyname", keyName}}));
+    auto* key = static_cast<EntityKey*>(findOne(KorConditions().equals("key_name", keyName)));
     if (!key)
         return nullptr;
 
@@ -36,12 +35,7 @@ EntityKey* DataMapperKey::getKey(const QString& keyName)
 
 QList<KorEntity*> DataMapperKey::findAll(const QString& filter)
 {
-    const QString value = '%' + filter.toLower() + '%';
-    KorPaging paging;
-    paging.addFilter("lower(key_name) like ", value);
-    paging.addFilter(" OR lower(key_name) like ", value);
-    paging.addSort("key_name", "asc");
-    return find(&paging);
+    return findMany(KorConditions().contains("lower(key_name)", filter).ascending("key_name"));
 }
 
 KorEntity* DataMapperKey::createEntity() { return new EntityKey(entityParent()); }

@@ -1,21 +1,17 @@
 #include "app/persistence/AppMasterMapper.h"
 
-#include "kor/persistence/KorPaging.h"
-
 KorEntity* AppMasterMapper::findByCode(const QString& code)
 {
-    return findOne(" where lower(" + codeColumn() + ") = :code", {{":code", code.toLower()}});
+    return findOne(KorConditions().equals("lower(" + codeColumn() + ')', code.toLower()));
 }
 
 QList<KorEntity*> AppMasterMapper::findAll(const QString& filter)
 {
-    const QString value = '%' + filter.toLower() + '%';
-    KorPaging paging;
-    paging.addFilter("lower(" + codeColumn() + ") like ", value);
-    paging.addFilter(" OR lower(" + nameColumn() + ") like ", value);
+    KorConditions conditions;
+    conditions.contains({"lower(" + codeColumn() + ')', "lower(" + nameColumn() + ')'}, filter);
     if (!sortColumn().isEmpty())
-        paging.addSort(sortColumn(), "asc");
-    return find(&paging);
+        conditions.ascending(sortColumn());
+    return findMany(conditions);
 }
 
 QString AppMasterMapper::widenCodeStatement() const

@@ -5,7 +5,6 @@
 #include "kor/persistence/KorBatch.h"
 #include "kor/persistence/KorJoinMapper.h"
 #include "kor/persistence/KorMigration.h"
-#include "kor/persistence/KorPaging.h"
 
 #include <QDebug>
 #include <QSqlDriver>
@@ -53,53 +52,39 @@ void KorDataMapper::addJoin(const QString& propertyName, KorDataMapper* mapper, 
 
 // --- reading -------------------------------------------------------------------------------------------------------
 
-KorEntity* KorDataMapper::findById(int id) { return findOne(" where " + tableName() + ".id = :id", {{":id", id}}); }
+KorEntity* KorDataMapper::findById(int id) { return findOne(KorConditions().equals(tableName() + ".id", id)); }
 
 KorEntity* KorDataMapper::findByColumn(const QString& column, const QString& value)
 {
     qDebug() << "val:" << value;
-    return findOne(" where " + tableName() + '.' + column + " = :value", {{":value", value}});
+    return findOne(KorConditions().equals(tableName() + '.' + column, value));
 }
 
 KorEntity* KorDataMapper::findByColumn(const QString& column, int value)
 {
     qDebug() << "val:" << value;
-    return findOne(" where " + tableName() + '.' + column + " = :value", {{":value", value}});
+    return findOne(KorConditions().equals(tableName() + '.' + column, value));
 }
 
 QList<KorEntity*> KorDataMapper::find(KorPaging* paging)
 {
     KorQuery query(this);
-    if (!execPaging(query, paging)) {
-        m_errorText = query.failure();
-        qDebug().noquote() << "error sql " << m_errorText;
-        return {};
-    }
-    return readAll(query);
+    return noted(execPaging(query, paging), query) ? readAll(query) : QList<KorEntity*>();
 }
 
 bool KorDataMapper::execPaging(KorQuery& query, KorPaging* paging)
 {
-    QString text = selectStatement();
-    if (!paging)
-        return query.exec(text);
+    return paging ? run(query, selectStatement(), *paging) : query.exec(selectStatement());
+}
 
-    const auto& filters = paging->filters();
-    if (!filters.isEmpty())
-        text += " where ";
-    for (int i = 0; i < filters.size(); ++i) {
-        text += filters[i].first;
-        if (!filters[i].second.isEmpty())
-            text += " :prm" + QString::number(i);
-    }
-    if (!paging->sorts().isEmpty())
-        text += " order by ";
-    for (const auto& sort : paging->sorts())
-        text += sort.first + ' ' + sort.second;
-
-    if (filters.isEmpty())
-        return query.exec(text);
-    query.prepare(text);
+bool KorDataMapper::run(KorQuery& query, const QString& statement, const KorPaging& paging, const Bindings& values)
+{
+    const auto& filters = paging.filters();
+    if (filters.isEmpty() && values.isEmpty())
+        return query.exec(statement + paging.clauses());
+    query.prepare(statement + paging.clauses());
+    for (const auto& value : values)
+        query.bindValue(value.first, value.second);
     for (int i = 0; i < filters.size(); ++i) {
         if (!filters[i].second.isEmpty())
             query.bindValue(":prm" + QString::number(i), filters[i].second);
@@ -107,17 +92,8 @@ bool KorDataMapper::execPaging(KorQuery& query, KorPaging* paging)
     return query.exec();
 }
 
-bool KorDataMapper::execute(KorQuery& query, const QString& statement, Bindings values)
+bool KorDataMapper::noted(bool done, const KorQuery& query)
 {
-    bool done = false;
-    if (values.size() == 0) {
-        done = query.exec(statement);
-    } else {
-        query.prepare(statement);
-        for (const auto& value : values)
-            query.bindValue(value.first, value.second);
-        done = query.exec();
-    }
     if (!done) {
         m_errorText = query.failure();
         qDebug().noquote() << "error sql " << m_errorText;
@@ -125,16 +101,32 @@ bool KorDataMapper::execute(KorQuery& query, const QString& statement, Bindings 
     return done;
 }
 
-KorEntity* KorDataMapper::findOne(const QString& tail, Bindings values)
+bool KorDataMapper::execute(KorQuery& query, const QString& statement, const Bindings& values)
 {
-    KorQuery query(this);
-    return execute(query, selectStatement() + tail, values) && query.next() ? fromRow(query) : nullptr;
+    return execute(query, statement, KorConditions(), values);
 }
 
-QList<KorEntity*> KorDataMapper::findMany(const QString& tail, Bindings values)
+bool KorDataMapper::execute(KorQuery& query, const QString& statement, const KorConditions& conditions,
+                            const Bindings& values)
 {
+    KorPaging paging;
+    conditions.fill(paging);
+    return noted(run(query, statement, paging, values), query);
+}
+
+KorEntity* KorDataMapper::findOne(const KorConditions& conditions)
+{
+    KorPaging paging;
+    conditions.fill(paging);
     KorQuery query(this);
-    return execute(query, selectStatement() + tail, values) ? readAll(query) : QList<KorEntity*>();
+    return noted(execPaging(query, &paging), query) && query.next() ? fromRow(query) : nullptr;
+}
+
+QList<KorEntity*> KorDataMapper::findMany(const KorConditions& conditions)
+{
+    KorPaging paging;
+    conditions.fill(paging);
+    return find(&paging);
 }
 
 QList<KorEntity*> KorDataMapper::readAll(KorQuery& query)

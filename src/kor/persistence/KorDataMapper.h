@@ -1,13 +1,12 @@
 #pragma once
 
+#include "kor/persistence/KorConditions.h"
 #include "kor/persistence/KorQuery.h"
 
-#include <QDate>
 #include <QHash>
 #include <QObject>
 #include <QVariant>
 
-#include <initializer_list>
 #include <memory>
 #include <type_traits>
 
@@ -17,7 +16,6 @@ class KorEntity;
 class KorJoinMapper;
 class KorMetaDataMap;
 class KorMigration;
-class KorPaging;
 
 /**
  * Turns the metadata of one table into SQL and runs it. There is one mapper a table for the whole run. No operation
@@ -113,7 +111,7 @@ public:
     [[nodiscard]] static QString aliasOf(const QString& alias, const QString& column);
 
 protected:
-    using Bindings = std::initializer_list<QPair<QString, QVariant>>;
+    using Bindings = QList<QPair<QString, QVariant>>;
 
     // Said in the constructor of what an installed database gets by its update to this version.
     void tableSince(double version) { m_tableVersion = version; }
@@ -123,14 +121,19 @@ protected:
     /** The mapper's base and own columns under this alias, as a SELECT lists them. */
     [[nodiscard]] static QString columnList(const KorDataMapper& mapper, const QString& alias);
     /** Runs own SQL with named values; failing, it keeps and logs the database's text. */
-    bool execute(KorQuery& query, const QString& statement, Bindings values = {});
-    /** The first record, or null, of the mapper's SELECT with this tail (where, order by). */
-    KorEntity* findOne(const QString& tail, Bindings values);
-    QList<KorEntity*> findMany(const QString& tail, Bindings values);
+    bool execute(KorQuery& query, const QString& statement, const Bindings& values = {});
+    /** The same for the rows of the conditions, which follow the statement. */
+    bool execute(KorQuery& query, const QString& statement, const KorConditions& conditions,
+                 const Bindings& values = {});
+    /** The first record of the mapper's SELECT, or null. */
+    KorEntity* findOne(const KorConditions& conditions);
+    QList<KorEntity*> findMany(const KorConditions& conditions);
     QList<KorEntity*> readAll(KorQuery& query);
     void setError(const QString& text);
 
 private:
+    static bool run(KorQuery& query, const QString& statement, const KorPaging& paging, const Bindings& values = {});
+    bool noted(bool done, const KorQuery& query);
     bool addColumn(const KorColumnMap& column);
     bool failWrite(const KorQuery& query);
     bool failUpdate(KorEntity* entity, const QString& statement);

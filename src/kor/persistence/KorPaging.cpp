@@ -1,5 +1,19 @@
 #include "kor/persistence/KorPaging.h"
 
+QString KorPaging::clauses() const
+{
+    QString text = m_filters.isEmpty() ? "" : " where ";
+    for (int i = 0; i < m_filters.size(); ++i) {
+        text += m_filters[i].first;
+        if (!m_filters[i].second.isEmpty())
+            text += " :prm" + QString::number(i);
+    }
+    text += m_sorts.isEmpty() ? "" : " order by ";
+    for (const auto& sort : m_sorts)
+        text += sort.first + ' ' + sort.second;
+    return text;
+}
+
 QString KorPaging::filterValue(const QString& condition) const
 {
     for (const auto& filter : m_filters) {

@@ -24,6 +24,8 @@ public:
     void setFilters(const Pairs& filters) { m_filters = filters; }
     [[nodiscard]] const Pairs& sorts() const { return m_sorts; }
     void setSorts(const Pairs& sorts) { m_sorts = sorts; }
+    /** The conditions and the order as they follow a SELECT; the value of pair i is to be bound to :prm<i>. */
+    [[nodiscard]] QString clauses() const;
     /** The value of the first pair with this condition, else empty: finders use the pairs as named arguments. */
     [[nodiscard]] QString filterValue(const QString& condition) const;
 

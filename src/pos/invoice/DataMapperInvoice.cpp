@@ -68,7 +68,7 @@ QStringList DataMapperInvoice::indexStatements() const
 
 QList<Invoice*> DataMapperInvoice::findByIds(const QList<int>& ids)
 {
-    return castAll<Invoice>(findMany(" where invoice.id = ANY(:ids) order by invoice.id", {{":ids", idList(ids)}}));
+    return castAll<Invoice>(findMany(KorConditions().oneOf("invoice.id", ids).ascending("invoice.id")));
 }
 
 int DataMapperInvoice::quantityUsed(int itemId, const QDate& until) { return quantityUsed(itemId, QDate(), until); }

@@ -24,14 +24,13 @@ QStringList DataMapperInvoiceDetail::indexStatements() const { return lineIndexe
 
 QList<EntityInvoiceDetail*> DataMapperInvoiceDetail::findByInvoice(int invoiceId)
 {
-    return castAll<EntityInvoiceDetail>(
-        findMany(" where invoice_detail.invoice_id=:id order by invoice_detail.id", {{":id", invoiceId}}));
+    return findByInvoices({invoiceId});
 }
 
 QList<EntityInvoiceDetail*> DataMapperInvoiceDetail::findByInvoices(const QList<int>& invoiceIds)
 {
-    return castAll<EntityInvoiceDetail>(findMany(
-        " where invoice_detail.invoice_id = ANY(:ids) order by invoice_detail.id", {{":ids", idList(invoiceIds)}}));
+    return castAll<EntityInvoiceDetail>(
+        findMany(KorConditions().oneOf("invoice_detail.invoice_id", invoiceIds).ascending("invoice_detail.id")));
 }
 
 bool DataMapperInvoiceDetail::removeByInvoiceId(int invoiceId)

@@ -186,23 +186,22 @@ bool DataMapperInvoiceLink::update(KorEntity* link)
 
 KorEntity* DataMapperInvoiceLink::findById(int id)
 {
-    return findLinks(" where " + tableName() + ".id = :id", {{":id", id}}).value(0);
+    return findLinks(KorConditions().equals(tableName() + ".id", id)).value(0);
 }
 
 KorEntity* DataMapperInvoiceLink::findByInvoiceId(int invoiceId)
 {
-    return findLinks(" where invoice_id = :id", {{":id", invoiceId}}).value(0);
+    return findLinks(KorConditions().equals("invoice_id", invoiceId)).value(0);
 }
 
-QList<KorEntity*> DataMapperInvoiceLink::findLinks(const QString& tail, Bindings values)
+KorConditions DataMapperInvoiceLink::linksOf(const QString& orderColumn, int orderId) const
 {
-    return loaded(findMany(tail, values));
+    return KorConditions().equals(orderColumn, orderId).ascending(tableName() + ".id");
 }
 
-QList<KorEntity*> DataMapperInvoiceLink::findLinks(KorPaging* paging) { return loaded(find(paging)); }
-
-QList<KorEntity*> DataMapperInvoiceLink::loaded(const QList<KorEntity*>& links)
+QList<KorEntity*> DataMapperInvoiceLink::findLinks(const KorConditions& conditions)
 {
+    const QList<KorEntity*> links = findMany(conditions);
     return links.isEmpty() || load(links) ? links : QList<KorEntity*>();
 }
 

@@ -56,9 +56,10 @@ protected:
     /** Reads what stands behind a link beside the invoice and the lines; for all links of a list at once. */
     virtual bool loadOrders(const QList<KorEntity*>& links);
 
-    /** The links of this tail, each with its full invoice, its lines and its order: a fixed number of statements. */
-    QList<KorEntity*> findLinks(const QString& tail, Bindings values);
-    QList<KorEntity*> findLinks(KorPaging* paging);
+    /** Each with its full invoice, its lines and its order: a fixed number of statements. */
+    QList<KorEntity*> findLinks(const KorConditions& conditions);
+    /** The links of one order, the oldest first. */
+    [[nodiscard]] KorConditions linksOf(const QString& orderColumn, int orderId) const;
     [[nodiscard]] DataMapperInvoice* invoices() const { return m_invoices; }
 
 private:
@@ -68,8 +69,6 @@ private:
     void insertLinesWith(KorBatch& batch, IInvoice* sale);
     bool insertInvoice(KorEntity* link, QString* reason);
     bool insertLines(IInvoice* sale, QString* reason);
-    /** The same links with what stands behind them; none when it cannot be read. */
-    QList<KorEntity*> loaded(const QList<KorEntity*>& links);
     bool load(const QList<KorEntity*>& links);
     bool fail(const QString& message, const QString& reasons);
     static IInvoice* saleOf(KorEntity* link);

@@ -1,7 +1,6 @@
 #include "zavel/commission/DataMapperAllAgentCommision.h"
 
 #include "kor/entity/KorMetaDataMap.h"
-#include "kor/persistence/KorPaging.h"
 #include "pos/invoice/DataMapperInvoice.h"
 #include "pos/masterdata/agent/DataMapperAgent.h"
 #include "zavel/commission/CommissionAmount.h"
@@ -35,25 +34,17 @@ QString DataMapperAllAgentCommision::selectStatement() const
 
 QList<EntityAllKomisiAgen*> DataMapperAllAgentCommision::search(const AgentSalesFilter& filter)
 {
-    KorPaging paging;
-    paging.addFilter("invoice.invoice_date >= ", dateToSql(filter.from));
-    paging.addFilter(" and invoice.invoice_date <= ", dateToSql(filter.to));
-    if (filter.agentId != KorNoValue) {
-        const QString id = QString::number(filter.agentId);
-        paging.addFilter(" and (invoice_makan_ditempat.agent_id = ", id);
-        paging.addFilter(" or invoice_fast_food.agent_id = ", id);
-        paging.addFilter(") and 1=", "1");
-    } else {
-        paging.addFilter(" and (invoice_makan_ditempat.agent_id is not null or invoice_fast_food.agent_id is not null) "
-                         "and 1 =",
-                         "1");
-    }
+    KorConditions conditions;
+    conditions.between("invoice.invoice_date", filter.from, filter.to)
+        .only({"invoice_makan_ditempat.agent_id", "invoice_fast_food.agent_id"}, filter.agentId);
+    if (filter.agentId == KorNoValue)
+        conditions.holds("(invoice_makan_ditempat.agent_id is not null or invoice_fast_food.agent_id is not null)");
     if (filter.status == EntityAllKomisiAgen::UNPAID)
-        paging.addFilter(" and komisi_agen_detail.invoice_id is null  and 1=", "1");
+        conditions.holds("komisi_agen_detail.invoice_id is null");
     else if (filter.status == EntityAllKomisiAgen::FULL_PAID)
-        paging.addFilter(" and komisi_agen_detail.invoice_id is not null  and 1=", "1");
-    paging.addSort("invoice.invoice_date desc, invoice.id", "desc");
-    return castAll<EntityAllKomisiAgen>(find(&paging));
+        conditions.holds("komisi_agen_detail.invoice_id is not null");
+    conditions.descending("invoice.invoice_date").descending("invoice.id");
+    return castAll<EntityAllKomisiAgen>(findMany(conditions));
 }
 
 KorEntity* DataMapperAllAgentCommision::fillFromRow(KorQuery& query, KorEntity* entity)

@@ -1,13 +1,10 @@
 #include "zavel/commission/DataMapperKomisiAgen.h"
 
 #include "kor/entity/KorMetaDataMap.h"
-#include "kor/persistence/KorPaging.h"
 #include "pos/masterdata/account/DataMapperBank.h"
 #include "pos/masterdata/agent/DataMapperAgent.h"
 #include "zavel/commission/DataMapperKomisiAgenDetail.h"
 #include "zavel/service/SalesFilters.h"
-
-#include <QDebug>
 
 DataMapperKomisiAgen::DataMapperKomisiAgen(QObject* parent, DataMapperKey* keys, DataMapperAgent* agents,
                                            DataMapperBank* accounts, DataMapperInvoice* invoices)
@@ -43,15 +40,12 @@ KorEntity* DataMapperKomisiAgen::findById(int id)
 
 QList<EntityKomisiAgen*> DataMapperKomisiAgen::search(const CommissionFilter& filter)
 {
-    KorPaging paging;
-    paging.addFilter("payment_date >= ", dateToSql(filter.from));
-    paging.addFilter(" and payment_date <= ", dateToSql(filter.to));
-    if (filter.agentId != KorNoValue)
-        paging.addFilter(" and agent_id = ", QString::number(filter.agentId));
-    if (!filter.number.isEmpty())
-        paging.addFilter(" and lower(no) like ", '%' + filter.number.toLower() + '%');
-    paging.addSort("payment_date desc, komisi_agen.id", "desc");
-    return castAll<EntityKomisiAgen>(find(&paging));
+    return castAll<EntityKomisiAgen>(findMany(KorConditions()
+                                                  .between("payment_date", filter.from, filter.to)
+                                                  .only("agent_id", filter.agentId)
+                                                  .contains("lower(no)", filter.number)
+                                                  .descending("payment_date")
+                                                  .descending("komisi_agen.id")));
 }
 
 KorEntity* DataMapperKomisiAgen::createEntity() { return new EntityKomisiAgen(entityParent()); }

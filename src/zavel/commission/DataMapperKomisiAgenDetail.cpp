@@ -28,13 +28,13 @@ QStringList DataMapperKomisiAgenDetail::indexStatements() const
 QList<EntityKomisiAgenDetail*> DataMapperKomisiAgenDetail::findByPayment(int paymentId)
 {
     return castAll<EntityKomisiAgenDetail>(
-        findMany(" where komisi_agen_id = :id order by komisi_agen_detail.id", {{":id", paymentId}}));
+        findMany(KorConditions().equals("komisi_agen_id", paymentId).ascending("komisi_agen_detail.id")));
 }
 
 EntityKomisiAgenDetail* DataMapperKomisiAgenDetail::findByInvoice(int invoiceId)
 {
     return static_cast<EntityKomisiAgenDetail*>(
-        findOne(" where invoice_id = :id order by komisi_agen_detail.id", {{":id", invoiceId}}));
+        findOne(KorConditions().equals("invoice_id", invoiceId).ascending("komisi_agen_detail.id")));
 }
 
 bool DataMapperKomisiAgenDetail::removeByPayment(int paymentId)

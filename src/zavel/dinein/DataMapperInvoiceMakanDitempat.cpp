@@ -58,14 +58,12 @@ DataMapperInvoiceMakanDitempat::billedOrder(const KorEntity& link) const
 
 QList<EntityInvoiceMakanDitempat*> DataMapperInvoiceMakanDitempat::findByOrder(int orderId)
 {
-    return castAll<EntityInvoiceMakanDitempat>(
-        findLinks(" where makan_ditempat_id = :id order by invoice_makan_ditempat.id", {{":id", orderId}}));
+    return castAll<EntityInvoiceMakanDitempat>(findLinks(linksOf("makan_ditempat_id", orderId)));
 }
 
 QList<EntityInvoiceMakanDitempat*> DataMapperInvoiceMakanDitempat::findMoneyOfOrder(int orderId)
 {
-    return castAll<EntityInvoiceMakanDitempat>(
-        findMany(" where makan_ditempat_id = :id order by invoice_makan_ditempat.id", {{":id", orderId}}));
+    return castAll<EntityInvoiceMakanDitempat>(findMany(linksOf("makan_ditempat_id", orderId)));
 }
 
 bool DataMapperInvoiceMakanDitempat::loadOrders(const QList<KorEntity*>& links)

@@ -26,24 +26,20 @@ KorEntity* DataMapperMakanDitempat::createEntity() { return new EntityMakanDitem
 
 QStringList DataMapperMakanDitempat::indexStatements() const
 {
-    // In the words of the board's condition, or the planner would not see that the index answers it.
-    return {index("open_meja", "(meja_id) WHERE status is null or (status is not null and status <> 6)"),
+    return {index("open_meja", "(meja_id) WHERE " + openOrders()),
             index("member_id", "(member_id) WHERE member_id IS NOT NULL")};
 }
 
 QList<EntityMakanDitempat*> DataMapperMakanDitempat::getMakanDitempatList(int status, const QString& text)
 {
-    QString tail = QString(" where status is null or (status is not null and status <> %1) ").arg(EntityOrder::DONE);
-    if (status != 0)
-        tail += QString(" or (status is not null and status = %1)").arg(status);
-    if (!text.isEmpty()) {
-        // The wording is the board's own and "and" binds tighter than the "or" before it; only quotes are doubled.
-        QString quoted = text;
-        quoted.replace('\'', "''");
-        tail += " and (lower(meja.kode) = '" + quoted + "' OR lower(meja.nama) = '" + quoted + "')";
-    }
+    KorConditions conditions;
+    // The wording is the board's own: without brackets the text narrows the last of the alternatives alone.
+    conditions.holds(openOrders() + (status == 0 ? QString() : QString(" or status = %1").arg(status)));
+    if (!text.isEmpty())
+        conditions.equals({"lower(meja.kode)", "lower(meja.nama)"}, text);
+    conditions.ascending("makan_ditempat.id");
     QList<EntityMakanDitempat*> orders;
-    for (EntityOrder* order : findOrders(tail + " order by makan_ditempat.id", {}))
+    for (EntityOrder* order : findOrders(conditions))
         orders.append(static_cast<EntityMakanDitempat*>(order));
     return orders;
 }

@@ -1,7 +1,6 @@
 #include "zavel/fastfood/DataMapperInvoiceFastFood.h"
 
 #include "kor/entity/KorMetaDataMap.h"
-#include "kor/persistence/KorPaging.h"
 #include "pos/masterdata/agent/DataMapperAgent.h"
 #include "pos/masterdata/employee/DataMapperEmployee.h"
 #include "pos/masterdata/member/DataMapperMember.h"
@@ -47,21 +46,14 @@ void DataMapperInvoiceFastFood::prepareInvoice(KorEntity* link, Invoice* invoice
 
 QList<EntityInvoiceFastFood*> DataMapperInvoiceFastFood::getFastFoodList(const FastFoodFilter& filter)
 {
-    const QString from = filter.from.toString(Qt::ISODate);
-    const QString to = filter.to.toString(Qt::ISODate);
-    const QString status = QString::number(filter.status);
-    qDebug() << "from date" << from;
-    qDebug() << "to date" << to;
-    qDebug() << "status id" << status;
-    KorPaging paging;
-    paging.addFilter("invoice.invoice_date >= ", from);
-    paging.addFilter(" and invoice.invoice_date <= ", to);
-    if (filter.status != 0)
-        paging.addFilter(" and status = ", status);
-    if (!filter.employeeCode.isEmpty())
-        paging.addFilter(" and lower(employee.kode) = ", filter.employeeCode.toLower());
-    paging.addSort("invoice.invoice_date", "DESC");
+    qDebug() << "from date" << filter.from.toString(Qt::ISODate);
+    qDebug() << "to date" << filter.to.toString(Qt::ISODate);
+    qDebug() << "status id" << filter.status;
     // Within a day as well: the sale that was just made stands on top.
-    paging.addSort(", invoice.id", "DESC");
-    return castAll<EntityInvoiceFastFood>(findLinks(&paging));
+    return castAll<EntityInvoiceFastFood>(findLinks(KorConditions()
+                                                        .between("invoice.invoice_date", filter.from, filter.to)
+                                                        .only("status", filter.status, 0)
+                                                        .only("lower(employee.kode)", filter.employeeCode.toLower())
+                                                        .descending("invoice.invoice_date")
+                                                        .descending("invoice.id")));
 }

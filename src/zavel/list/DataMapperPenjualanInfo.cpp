@@ -3,7 +3,6 @@
 #include "app/access/DataMapperUser.h"
 #include "kor/entity/KorColumnMap.h"
 #include "kor/entity/KorMetaDataMap.h"
-#include "kor/persistence/KorPaging.h"
 #include "pos/invoice/DataMapperInvoice.h"
 #include "pos/masterdata/employee/DataMapperEmployee.h"
 #include "pos/masterdata/member/DataMapperMember.h"
@@ -11,19 +10,6 @@
 #include "zavel/service/SalesFilters.h"
 
 #include <QScopedValueRollback>
-
-namespace
-{
-/** One condition over several columns, each compared with the value; the closing part is always true. */
-void addAnyOf(KorPaging& paging, const QString& opening, const QStringList& conditions, const QString& value)
-{
-    for (int i = 0; i < conditions.size(); ++i)
-        paging.addFilter((i == 0 ? opening + '(' : QString(" or ")) + conditions.at(i) + ' ', value);
-    paging.addFilter(") and 1=", "1");
-}
-
-QString containing(const QString& text) { return '%' + text.toLower() + '%'; }
-} // namespace
 
 DataMapperPenjualanInfo::DataMapperPenjualanInfo(QObject* parent, Partners partners)
     : AppDataMapper(parent), m_partners(partners)
@@ -96,50 +82,38 @@ QString DataMapperPenjualanInfo::typeNameOf(KorQuery& query) const
 
 QList<EntityPenjualanInfo*> DataMapperPenjualanInfo::search(const SalesFilter& filter)
 {
-    KorPaging paging;
-    paging.addFilter("invoice_date >= ", filter.from.toString(Qt::ISODate));
-    paging.addFilter(" and invoice_date <= ", filter.to.toString(Qt::ISODate));
+    KorConditions conditions;
+    conditions.between("invoice_date", filter.from, filter.to)
+        .contains("lower(invoice.no)", filter.invoiceNo)
+        .contains("lower(invoice.pemesan)", filter.guest)
+        .only("makan_ditempat.meja_id", filter.tableId)
+        .only({"makan_ditempat.member_id", "invoice_bawa_pulang.member_id", "invoice_fast_food.member_id"},
+              filter.memberId)
+        .only({"invoice_makan_ditempat.employee_id", "invoice_fast_food.employee_id"}, filter.employeeId)
+        .only({"invoice_makan_ditempat.agent_id", "invoice_fast_food.agent_id"}, filter.agentId);
     if (filter.status == SalesFilter::OpenInvoices)
-        paging.addFilter(" and invoice.status <> ", QString::number(Invoice::FULL_PAID));
-    else if (filter.status != 0)
-        paging.addFilter(" and invoice.status = ", QString::number(filter.status));
-    if (!filter.invoiceNo.isEmpty())
-        paging.addFilter(" and lower(invoice.no) like ", containing(filter.invoiceNo));
-    if (filter.tableId != KorNoValue)
-        paging.addFilter(" and makan_ditempat.meja_id = ", QString::number(filter.tableId));
-    if (filter.memberId != KorNoValue)
-        addAnyOf(paging, " and ",
-                 {"makan_ditempat.member_id =", "invoice_bawa_pulang.member_id =", "invoice_fast_food.member_id ="},
-                 QString::number(filter.memberId));
-    if (filter.employeeId != KorNoValue)
-        addAnyOf(paging, " and ", {"invoice_makan_ditempat.employee_id =", "invoice_fast_food.employee_id ="},
-                 QString::number(filter.employeeId));
-    if (filter.agentId != KorNoValue)
-        addAnyOf(paging, " and ", {"invoice_makan_ditempat.agent_id =", "invoice_fast_food.agent_id ="},
-                 QString::number(filter.agentId));
+        conditions.differs("invoice.status", Invoice::FULL_PAID);
+    else
+        conditions.only("invoice.status", filter.status, 0);
     // A sale for cash is not told apart: every sale may have been paid in part with it.
     if (filter.payment == SalesFilter::OtherPayment)
-        addAnyOf(paging, " and ", {"invoice.other_payment_amount <>"}, "0");
-    if (!filter.guest.isEmpty())
-        addAnyOf(paging, " and ", {"lower(invoice.pemesan) like"}, containing(filter.guest));
-    return latestFirst(paging);
+        conditions.differs("invoice.other_payment_amount", 0);
+    return latestFirst(conditions);
 }
 
 QList<EntityPenjualanInfo*> DataMapperPenjualanInfo::findPendingOfAgent(int agentId)
 {
-    KorPaging paging;
-    paging.addFilter("(invoice_makan_ditempat.agent_id = ", QString::number(agentId));
-    paging.addFilter(" or invoice_fast_food.agent_id = ", QString::number(agentId));
-    paging.addFilter(") and invoice.id not in (select invoice_id from komisi_agen_detail) and 1=", "1");
-    return latestFirst(paging);
+    KorConditions conditions;
+    conditions.equals({"invoice_makan_ditempat.agent_id", "invoice_fast_food.agent_id"}, agentId)
+        .holds("invoice.id not in (select invoice_id from komisi_agen_detail)");
+    return latestFirst(conditions);
 }
 
-QList<EntityPenjualanInfo*> DataMapperPenjualanInfo::latestFirst(KorPaging& paging)
+QList<EntityPenjualanInfo*> DataMapperPenjualanInfo::latestFirst(KorConditions& conditions)
 {
-    paging.addSort("invoice_date", "desc");
     // Within a day as well, so that a list read again has its rows where they were.
-    paging.addSort(", invoice.id", "desc");
+    conditions.descending("invoice_date").descending("invoice.id");
     Known known;
     const QScopedValueRollback<Known*> whileReading(m_known, &known);
-    return castAll<EntityPenjualanInfo>(find(&paging));
+    return castAll<EntityPenjualanInfo>(findMany(conditions));
 }

@@ -53,7 +53,7 @@ public:
 private:
     using Known = QHash<const KorDataMapper*, QHash<int, KorEntity*>>;
 
-    [[nodiscard]] QList<EntityPenjualanInfo*> latestFirst(KorPaging& paging);
+    [[nodiscard]] QList<EntityPenjualanInfo*> latestFirst(KorConditions& conditions);
     [[nodiscard]] QList<EntitySalesSummaryInfo*> salesBy(const QString& period, const QString& name, const QDate& from,
                                                          const QDate& to, int userId);
     [[nodiscard]] QString typeNameOf(KorQuery& query) const;

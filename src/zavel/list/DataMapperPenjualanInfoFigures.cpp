@@ -39,11 +39,11 @@ QList<EntitySalesSummaryInfo*> DataMapperPenjualanInfo::salesBy(const QString& p
     const QString statement = QString("Select %1 as %2, ").arg(period, name) + salesSums +
                               (ofOneUser ? " and createdby = :user" : "") +
                               QString(" group by %1 order by %2").arg(period, name);
+    Bindings values{{":startdate", dateToSql(from)}, {":enddate", dateToSql(to)}};
+    if (ofOneUser)
+        values.append({":user", userId});
     KorQuery query;
-    const bool read = ofOneUser
-                          ? execute(query, statement,
-                                    {{":startdate", dateToSql(from)}, {":enddate", dateToSql(to)}, {":user", userId}})
-                          : execute(query, statement, {{":startdate", dateToSql(from)}, {":enddate", dateToSql(to)}});
+    const bool read = execute(query, statement, values);
     QList<EntitySalesSummaryInfo*> result;
     while (read && query.next()) {
         auto* sum = new EntitySalesSummaryInfo(entityParent());
@@ -74,11 +74,11 @@ QList<EntitySoldItem*> DataMapperPenjualanInfo::getSoldItems(const QDate& from, 
     // Items that sold alike stand in the order of their codes, the same at every look.
     const QString statement = soldItems + QString(ofOneType ? " and jenis_item.kode = :itemType " : "") +
                               " group by item.id,jenis_item.kode order by  " + column + ' ' + order + ", item.kode";
+    Bindings values{{":startdate", dateToSql(from)}, {":enddate", dateToSql(to)}};
+    if (ofOneType)
+        values.append({":itemType", itemType});
     KorQuery query;
-    const bool read =
-        ofOneType ? execute(query, statement,
-                            {{":startdate", dateToSql(from)}, {":enddate", dateToSql(to)}, {":itemType", itemType}})
-                  : execute(query, statement, {{":startdate", dateToSql(from)}, {":enddate", dateToSql(to)}});
+    const bool read = execute(query, statement, values);
     QList<EntitySoldItem*> result;
     while (read && query.next()) {
         auto* item = new EntitySoldItem(entityParent());

@@ -30,14 +30,13 @@ QStringList DataMapperOrderDetail::indexStatements() const
 
 QList<EntityOrderDetail*> DataMapperOrderDetail::findByOrders(const QList<int>& orderIds)
 {
-    return castAll<EntityOrderDetail>(findMany(
-        " where " + m_orderColumn + " = ANY(:ids) order by " + tableName() + ".id", {{":ids", idList(orderIds)}}));
+    return castAll<EntityOrderDetail>(
+        findMany(KorConditions().oneOf(m_orderColumn, orderIds).ascending(tableName() + ".id")));
 }
 
 QList<EntityOrderDetail*> DataMapperOrderDetail::findByOrder(int orderId)
 {
-    return castAll<EntityOrderDetail>(
-        findMany(" where " + m_orderColumn + "=:id order by " + tableName() + ".id", {{":id", orderId}}));
+    return castAll<EntityOrderDetail>(findByDocument(orderId));
 }
 
 int DataMapperOrderDetail::countOrdersOfOtherCurrency(const QString& orderTable, const QString& sign)
@@ -56,17 +55,22 @@ int DataMapperOrderDetail::countOrdersOfOtherCurrency(const QString& orderTable,
 
 KorEntity* DataMapperOrder::findById(int id)
 {
-    return findOrders(" where " + tableName() + ".id = :id", {{":id", id}}).value(0);
+    return findOrders(KorConditions().equals(tableName() + ".id", id)).value(0);
 }
 
 QList<EntityOrder*> DataMapperOrder::findByIds(const QList<int>& ids)
 {
-    return findOrders(" where " + tableName() + ".id = ANY(:ids)", {{":ids", idList(ids)}});
+    return findOrders(KorConditions().oneOf(tableName() + ".id", ids));
 }
 
-QList<EntityOrder*> DataMapperOrder::findOrders(const QString& tail, Bindings values)
+QString DataMapperOrder::openOrders()
 {
-    const QList<EntityOrder*> orders = castAll<EntityOrder>(findMany(tail, values));
+    return QString("status is null or (status is not null and status <> %1)").arg(EntityOrder::DONE);
+}
+
+QList<EntityOrder*> DataMapperOrder::findOrders(const KorConditions& conditions)
+{
+    const QList<EntityOrder*> orders = castAll<EntityOrder>(findMany(conditions));
     if (orders.isEmpty())
         return orders;
     QList<int> ids;

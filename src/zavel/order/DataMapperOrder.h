@@ -51,8 +51,10 @@ public:
 
 protected:
     void setDetailMapper(DataMapperOrderDetail* lines) { m_lines = lines; }
-    /** The orders of this tail with their lines: two statements, whatever their number. */
-    QList<EntityOrder*> findOrders(const QString& tail, Bindings values);
+    /** In the words of the partial indexes, or the planner would not see that they answer it. */
+    [[nodiscard]] static QString openOrders();
+    /** With their lines: two statements, whatever their number. */
+    QList<EntityOrder*> findOrders(const KorConditions& conditions);
     [[nodiscard]] virtual QString statusFailure() const = 0;
 
     [[nodiscard]] QList<KorEntity*> linesOf(KorEntity* order) const override;

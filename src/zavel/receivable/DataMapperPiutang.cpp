@@ -1,7 +1,6 @@
 #include "zavel/receivable/DataMapperPiutang.h"
 
 #include "kor/entity/KorMetaDataMap.h"
-#include "kor/persistence/KorPaging.h"
 #include "pos/masterdata/account/DataMapperBank.h"
 #include "pos/masterdata/member/DataMapperMember.h"
 #include "zavel/receivable/DataMapperPiutangDetail.h"
@@ -46,15 +45,12 @@ QList<EntityPiutang*> DataMapperPiutang::search(const ReceivableFilter& filter)
 {
     qDebug() << "from date" << filter.from << "to date" << filter.to << "payment id" << filter.paymentType << "memberId"
              << filter.memberId;
-    KorPaging paging;
-    paging.addFilter("payment_date >= ", dateToSql(filter.from));
-    paging.addFilter(" and payment_date <= ", dateToSql(filter.to));
-    if (filter.paymentType != 0)
-        paging.addFilter(" and payment_type = ", QString::number(filter.paymentType));
-    if (filter.memberId != KorNoValue)
-        paging.addFilter(" and member.id = ", QString::number(filter.memberId));
-    paging.addSort("payment_date desc, piutang.id", "desc");
-    return castAll<EntityPiutang>(find(&paging));
+    return castAll<EntityPiutang>(findMany(KorConditions()
+                                               .between("payment_date", filter.from, filter.to)
+                                               .only("payment_type", filter.paymentType, 0)
+                                               .only("member.id", filter.memberId)
+                                               .descending("payment_date")
+                                               .descending("piutang.id")));
 }
 
 KorEntity* DataMapperPiutang::createEntity() { return new EntityPiutang(entityParent()); }

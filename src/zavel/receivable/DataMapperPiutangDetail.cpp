@@ -36,13 +36,13 @@ QStringList DataMapperPiutangDetail::indexStatements() const
 QList<EntityPiutangDetail*> DataMapperPiutangDetail::findByPayment(int paymentId)
 {
     return castAll<EntityPiutangDetail>(
-        findMany(" where piutang_id = :id order by piutang_detail.id", {{":id", paymentId}}));
+        findMany(KorConditions().equals("piutang_id", paymentId).ascending("piutang_detail.id")));
 }
 
 QList<EntityPiutangDetail*> DataMapperPiutangDetail::findByInvoices(const QList<int>& invoiceIds)
 {
     return castAll<EntityPiutangDetail>(
-        findMany(" where invoice_id = ANY(:ids) order by piutang_detail.id", {{":ids", idList(invoiceIds)}}));
+        findMany(KorConditions().oneOf("invoice_id", invoiceIds).ascending("piutang_detail.id")));
 }
 
 bool DataMapperPiutangDetail::removeByPayment(int paymentId)

@@ -20,21 +20,19 @@ KorEntity* DataMapperBawaPulang::createEntity() { return new EntityBawaPulang(en
 
 QStringList DataMapperBawaPulang::indexStatements() const
 {
-    // In the words of the list's condition, or the planner would not see that the index answers it.
-    return {index("open", "(id) WHERE status is null or (status is not null and status <> 6)"),
-            index("member_id", "(member_id) WHERE member_id IS NOT NULL")};
+    return {index("open", "(id) WHERE " + openOrders()), index("member_id", "(member_id) WHERE member_id IS NOT NULL")};
 }
 
 QList<EntityBawaPulang*> DataMapperBawaPulang::getBawaPulangList(int status)
 {
-    // The open ones in the words of the index, with the number in it.
-    const QString order = " order by bawa_pulang.id";
-    const QString open = " where status is null or (status is not null and status <> %1) ";
-    const QList<EntityOrder*> found =
-        status == 0 ? findOrders(open.arg(EntityOrder::DONE) + order, {})
-                    : findOrders(" where (status is not null and status = :status)" + order, {{":status", status}});
+    KorConditions conditions;
+    if (status == 0)
+        conditions.holds(openOrders());
+    else
+        conditions.equals("status", status);
+    conditions.ascending("bawa_pulang.id");
     QList<EntityBawaPulang*> orders;
-    for (EntityOrder* one : found)
+    for (EntityOrder* one : findOrders(conditions))
         orders.append(static_cast<EntityBawaPulang*>(one));
     return orders;
 }

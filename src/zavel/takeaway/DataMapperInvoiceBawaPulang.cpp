@@ -46,8 +46,7 @@ std::optional<DataMapperInvoiceLink::BilledOrder> DataMapperInvoiceBawaPulang::b
 
 QList<EntityInvoiceBawaPulang*> DataMapperInvoiceBawaPulang::findByOrder(int orderId)
 {
-    return castAll<EntityInvoiceBawaPulang>(
-        findLinks(" where bawa_pulang_id = :id order by invoice_bawa_pulang.id", {{":id", orderId}}));
+    return castAll<EntityInvoiceBawaPulang>(findLinks(linksOf("bawa_pulang_id", orderId)));
 }
 
 bool DataMapperInvoiceBawaPulang::loadOrders(const QList<KorEntity*>& links)

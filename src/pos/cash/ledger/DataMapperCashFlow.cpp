@@ -118,22 +118,19 @@ QString DataMapperCashFlow::getCashFlowQuery() const
 
 QList<EntityCashFlow*> DataMapperCashFlow::search(const CashFlowFilter& filter)
 {
-    QString statement = getCashFlowQuery() + " where trans_date >= :fromDate and trans_date <= :toDate";
+    KorConditions conditions;
+    conditions.between("trans_date", filter.fromDate, filter.toDate);
     if (filter.type == CashFlowFilter::CreditRows)
-        statement += " and (credit_amount >0 and credit_currency <> '')";
+        conditions.holds("(credit_amount >0 and credit_currency <> '')");
     else if (filter.type == CashFlowFilter::DebitRows)
-        statement += "  and (debet_amount >0 and debet_currency <> '')";
-    const QString code = filter.code.trimmed().toLower();
-    if (!code.isEmpty())
-        statement += "  and lower(account_code) =:code";
+        conditions.holds("(debet_amount >0 and debet_currency <> '')");
+    conditions.only("lower(account_code)", filter.code.trimmed().toLower());
     // Within a day as well, so that a list read again has its rows where they were.
-    statement += " order by trans_date desc, no desc, id desc, account_code";
+    conditions.descending("trans_date").descending("no").descending("id").ascending("account_code");
 
     KorQuery query;
     const bool done =
-        code.isEmpty()
-            ? execute(query, statement, {{":fromDate", filter.fromDate}, {":toDate", filter.toDate}})
-            : execute(query, statement, {{":fromDate", filter.fromDate}, {":toDate", filter.toDate}, {":code", code}});
+        execute(query, getCashFlowQuery(), conditions, {{":fromDate", filter.fromDate}, {":toDate", filter.toDate}});
     QList<EntityCashFlow*> rows;
     while (done && query.next()) {
         auto* row = new EntityCashFlow(entityParent());
@@ -153,5 +150,5 @@ QList<EntityCashFlow*> DataMapperCashFlow::search(const CashFlowFilter& filter)
 
 EntityCashFlow* DataMapperCashFlow::getByTransNo(const QString& no)
 {
-    return static_cast<EntityCashFlow*>(findOne(" where lower(trans_no) = :no", {{":no", no.trimmed().toLower()}}));
+    return static_cast<EntityCashFlow*>(findOne(KorConditions().equals("lower(trans_no)", no.trimmed().toLower())));
 }

@@ -3,7 +3,6 @@
 #include "app/access/DataMapperUser.h"
 #include "app/access/DataMapperUserGroup.h"
 #include "kor/entity/KorMetaDataMap.h"
-#include "kor/persistence/KorPaging.h"
 #include "pos/cash/transfer/AccountingTransactionFilter.h"
 #include "pos/masterdata/account/DataMapperBank.h"
 
@@ -37,10 +36,8 @@ QStringList DataMapperAccountingTransaction::indexStatements() const
 
 QList<EntityAccountingTransaction*> DataMapperAccountingTransaction::search(const AccountingTransactionFilter& filter)
 {
-    KorPaging paging;
-    paging.addFilter("trans_date >= ", dateToSql(filter.fromDate));
-    paging.addFilter(" and trans_date <= ", dateToSql(filter.toDate));
-    paging.addSort("trans_date", "desc");
-    paging.addSort(", accounting_trans.id", "desc");
-    return castAll<EntityAccountingTransaction>(find(&paging));
+    return castAll<EntityAccountingTransaction>(findMany(KorConditions()
+                                                             .between("trans_date", filter.fromDate, filter.toDate)
+                                                             .descending("trans_date")
+                                                             .descending("accounting_trans.id")));
 }

@@ -3,7 +3,6 @@
 #include "app/context/EntityPool.h"
 #include "kor/entity/KorMetaDataMap.h"
 #include "kor/persistence/KorBatch.h"
-#include "kor/persistence/KorPaging.h"
 #include "pos/inventory/stock/EntityItemHistory.h"
 #include "pos/masterdata/item/DataMapperItem.h"
 #include "pos/masterdata/itemtype/DataMapperJenisItem.h"
@@ -37,25 +36,17 @@ QStringList DataMapperItemHistory::indexStatements() const
 
 EntityItemHistory* DataMapperItemHistory::findByTrans(int transType, int transId)
 {
-    return static_cast<EntityItemHistory*>(findOne(" where tran_type = :transType and tran_id = :transId",
-                                                   {{":transType", transType}, {":transId", transId}}));
+    return static_cast<EntityItemHistory*>(
+        findOne(KorConditions().equals("tran_type", transType).equals("tran_id", transId)));
 }
 
 QList<EntityItemHistory*> DataMapperItemHistory::findAll(const ItemHistoryFilter& filter)
 {
-    KorPaging paging;
-    const auto limit = [&paging](const QString& condition, const QString& value) {
-        paging.addFilter((paging.filters().isEmpty() ? "" : " and ") + condition, value);
-    };
-    if (filter.startDate.isValid())
-        limit("trans_date >= ", dateToSql(filter.startDate));
-    if (filter.endDate.isValid())
-        limit("trans_date <= ", dateToSql(filter.endDate));
-    if (filter.itemId != KorNoValue)
-        limit("item_id = ", QString::number(filter.itemId));
-    paging.addSort("trans_date", "asc");
-    paging.addSort(", item_history.id", "asc");
-    return castAll<EntityItemHistory>(find(&paging));
+    return castAll<EntityItemHistory>(findMany(KorConditions()
+                                                   .between("trans_date", filter.startDate, filter.endDate)
+                                                   .only("item_id", filter.itemId)
+                                                   .ascending("trans_date")
+                                                   .ascending("item_history.id")));
 }
 
 void DataMapperItemHistory::fill(EntityItemHistory& row, const ItemMovement& movement)

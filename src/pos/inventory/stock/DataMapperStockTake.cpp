@@ -1,7 +1,6 @@
 #include "pos/inventory/stock/DataMapperStockTake.h"
 
 #include "kor/entity/KorMetaDataMap.h"
-#include "kor/persistence/KorPaging.h"
 #include "pos/inventory/stock/DataMapperStockTakeMigration11.h"
 #include "pos/inventory/stock/EntityStockTake.h"
 #include "pos/masterdata/account/DataMapperBank.h"
@@ -39,23 +38,18 @@ QStringList DataMapperStockTake::indexStatements() const
 
 QList<KorEntity*> DataMapperStockTake::findAll(const QString& code)
 {
-    const QString order = " order by item.id, tanggal, stock_take.id";
-    if (code.isEmpty())
-        return findMany(order, {});
-    return findMany(" where lower(item.kode) = :kode" + order, {{":kode", code.toLower()}});
+    return findMany(KorConditions()
+                        .only("lower(item.kode)", code.toLower())
+                        .ascending("item.id")
+                        .ascending("tanggal")
+                        .ascending("stock_take.id"));
 }
 
 EntityStockTake* DataMapperStockTake::getLastStockTake(const KorEntity* item, const QDate& date)
 {
-    KorPaging paging;
-    paging.addFilter("item_id = ", QString::number(item->getId()));
-    paging.addFilter(" and tanggal <= ", dateToSql(date));
-    paging.addSort("tanggal", "desc");
-    paging.addSort(", stock_take.id", "desc");
-    KorQuery query(this);
-    if (!execPaging(query, &paging)) {
-        setError(query.failure());
-        return nullptr;
-    }
-    return query.next() ? static_cast<EntityStockTake*>(fromRow(query)) : nullptr;
+    return static_cast<EntityStockTake*>(findOne(KorConditions()
+                                                     .equals("item_id", item->getId())
+                                                     .between("tanggal", {}, date)
+                                                     .descending("tanggal")
+                                                     .descending("stock_take.id")));
 }

@@ -19,5 +19,5 @@ KorEntity* DataMapperDataPerusahaan::createEntity() { return new EntityDataPerus
 
 EntityDataPerusahaan* DataMapperDataPerusahaan::findFirst()
 {
-    return static_cast<EntityDataPerusahaan*>(findOne(" order by data_perusahaan.id", {}));
+    return static_cast<EntityDataPerusahaan*>(findOne(KorConditions().ascending("data_perusahaan.id")));
 }

@@ -2,7 +2,6 @@
 
 #include "app/context/AppContext.h"
 #include "kor/entity/KorMetaDataMap.h"
-#include "kor/persistence/KorPaging.h"
 #include "pos/masterdata/company/EntityImage.h"
 
 DataMapperImages::DataMapperImages(QObject* parent) : AppDataMapper(parent)
@@ -19,9 +18,7 @@ EntityImage* DataMapperImages::findByName(const QString& name)
 {
     if (name.isEmpty())
         return nullptr;
-    KorPaging paging;
-    paging.addFilter("image_name = ", name);
-    return static_cast<EntityImage*>(find(&paging).value(0));
+    return static_cast<EntityImage*>(findOne(KorConditions().equals("image_name", name)));
 }
 
 bool DataMapperImages::save(EntityImage* image)

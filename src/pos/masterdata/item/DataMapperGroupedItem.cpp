@@ -38,19 +38,19 @@ QStringList DataMapperGroupedItem::indexStatements() const
 
 EntityGroupedItem* DataMapperGroupedItem::findByParentAndItem(int parentId, int itemId)
 {
-    return static_cast<EntityGroupedItem*>(findOne(" where parent_id = :parent and original_item_id = :itemid",
-                                                   {{":parent", parentId}, {":itemid", itemId}}));
+    return static_cast<EntityGroupedItem*>(
+        findOne(KorConditions().equals("parent_id", parentId).equals("original_item_id", itemId)));
 }
 
 QList<EntityGroupedItem*> DataMapperGroupedItem::findParents(int itemId)
 {
-    return castAll<EntityGroupedItem>(findMany(" where original_item_id = :itemId", {{":itemId", itemId}}));
+    return castAll<EntityGroupedItem>(findMany(KorConditions().equals("original_item_id", itemId)));
 }
 
 QList<KorEntity*> DataMapperGroupedItem::search(const KorPaging& criteria)
 {
-    const QString filter = '%' + criteria.filterValue("filter").toLower() + '%';
-    return findMany(" where parent_id = :parent and (lower(item.kode) like :kode OR lower(item.nama) like :nama) "
-                    "order by grouped_item.id",
-                    {{":parent", criteria.filterValue("parent")}, {":kode", filter}, {":nama", filter}});
+    return findMany(KorConditions()
+                        .equals("parent_id", criteria.filterValue("parent"))
+                        .contains({"lower(item.kode)", "lower(item.nama)"}, criteria.filterValue("filter"))
+                        .ascending("grouped_item.id"));
 }

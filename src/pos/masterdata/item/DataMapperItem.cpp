@@ -11,9 +11,14 @@
 
 namespace
 {
-QString contains(const QString& text) { return '%' + text.toLower() + '%'; }
-
-constexpr char order[] = " order by item.id";
+/** The items whose code or name holds its text of the criteria. */
+KorConditions withTextOf(const KorPaging& criteria)
+{
+    const auto holding = [&criteria](const QString& key) {
+        return QPair<QString, QString>("lower(item." + key + ") like", '%' + criteria.filterValue(key).toLower() + '%');
+    };
+    return KorConditions().anyOf({holding("kode"), holding("nama")});
+}
 } // namespace
 
 DataMapperItem::DataMapperItem(QObject* parent, DataMapperJenisItem* types, DataMapperSatuan* units,
@@ -60,17 +65,10 @@ QStringList DataMapperItem::indexStatements() const
 
 QList<KorEntity*> DataMapperItem::search(const KorPaging& criteria)
 {
-    const QString type = criteria.filterValue("jenis");
-    const QString code = contains(criteria.filterValue("kode"));
-    const QString name = contains(criteria.filterValue("nama"));
-    QString tail = " where (lower(item.kode) like :kode OR lower(item.nama) like :nama)";
-    if (!type.isEmpty())
-        tail += " and jenis_item.kode = :itemtype";
-    tail += order;
-    qDebug().noquote() << "search item:" << selectStatement() + tail;
-    if (type.isEmpty())
-        return findMany(tail, {{":kode", code}, {":nama", name}});
-    return findMany(tail, {{":kode", code}, {":nama", name}, {":itemtype", type}});
+    KorPaging paging;
+    withTextOf(criteria).only("jenis_item.kode", criteria.filterValue("jenis")).ascending("item.id").fill(paging);
+    qDebug().noquote() << "search item:" << selectStatement() + paging.clauses();
+    return find(&paging);
 }
 
 QList<KorEntity*> DataMapperItem::searchByType(const KorPaging& criteria) { return searchClass(criteria); }
@@ -79,15 +77,11 @@ QList<KorEntity*> DataMapperItem::searchServices(const KorPaging& criteria) { re
 
 QList<KorEntity*> DataMapperItem::searchClass(const KorPaging& criteria)
 {
-    const QString itemClass = criteria.filterValue("type");
     const QString type = criteria.filterValue("jenis");
-    const QString code = contains(criteria.filterValue("kode"));
-    const QString name = contains(criteria.filterValue("nama"));
-    const QString tail = " where item_type = :type and (lower(item.kode) like :kode OR lower(item.nama) like :nama)";
-    if (type.isEmpty() || type == "-1")
-        return findMany(tail + order, {{":type", itemClass}, {":kode", code}, {":nama", name}});
-    return findMany(tail + " and jenis = :jenis" + order,
-                    {{":type", itemClass}, {":kode", code}, {":nama", name}, {":jenis", type}});
+    return findMany(withTextOf(criteria)
+                        .equals("item_type", criteria.filterValue("type"))
+                        .only("jenis", type == "-1" ? QString() : type)
+                        .ascending("item.id"));
 }
 
 int DataMapperItem::countOfOtherCurrency(const QString& sign)

@@ -28,15 +28,12 @@ bool DataMapperStokAwal::createTable(int mode)
 
 EntityStokAwal* DataMapperStokAwal::findByItemId(int id)
 {
-    return static_cast<EntityStokAwal*>(findOne(" where item.id = :id", {{":id", id}}));
+    return static_cast<EntityStokAwal*>(findOne(KorConditions().equals("item.id", id)));
 }
 
 QList<KorEntity*> DataMapperStokAwal::findAll(const QString& code)
 {
-    const QString order = " order by item.id";
-    if (code.isEmpty())
-        return findMany(order, {});
-    return findMany(" where lower(item.kode) = :kode" + order, {{":kode", code.toLower()}});
+    return findMany(KorConditions().only("lower(item.kode)", code.toLower()).ascending("item.id"));
 }
 
 bool DataMapperStokAwal::clearTransactions()

@@ -20,7 +20,7 @@ void ItemLineMapper::itemColumn(const ItemPartners& partners)
 
 QList<KorEntity*> ItemLineMapper::findByDocument(int documentId)
 {
-    return findMany(" where " + m_documentColumn + "=:id order by " + tableName() + ".id", {{":id", documentId}});
+    return findMany(KorConditions().equals(m_documentColumn, documentId).ascending(tableName() + ".id"));
 }
 
 QStringList ItemLineMapper::lineIndexes(const QString& documentColumn, const QString& quantityColumn) const

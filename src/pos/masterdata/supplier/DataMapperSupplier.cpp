@@ -21,7 +21,6 @@ QStringList DataMapperSupplier::indexStatements() const { return {index("bank_id
 
 QList<KorEntity*> DataMapperSupplier::findByFilter(const QString& text)
 {
-    const QString value = '%' + text.toLower() + '%';
-    return findMany(" where lower(supplier.kode) like :kode OR lower(supplier.nama) like :nama order by supplier.nama",
-                    {{":kode", value}, {":nama", value}});
+    return findMany(
+        KorConditions().contains({"lower(supplier.kode)", "lower(supplier.nama)"}, text).ascending("supplier.nama"));
 }

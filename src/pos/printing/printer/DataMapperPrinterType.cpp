@@ -20,5 +20,5 @@ EntityPrinterType* DataMapperPrinterType::findByType(const QString& name)
 
 QList<EntityPrinterType*> DataMapperPrinterType::getAll()
 {
-    return castAll<EntityPrinterType>(findMany(" order by printer_type.printer_type asc", {}));
+    return castAll<EntityPrinterType>(findMany(KorConditions().ascending("printer_type.printer_type")));
 }

@@ -39,10 +39,8 @@ QStringList DataMapperCreditNote::indexStatements() const
 
 QList<EntityCreditNote*> DataMapperCreditNote::findByAcquisition(int purchaseId)
 {
-    KorPaging paging;
-    paging.addFilter("acquisition_id = ", QString::number(purchaseId));
-    paging.addSort(tableName() + ".id", "asc");
-    return castAll<EntityCreditNote>(find(&paging));
+    return castAll<EntityCreditNote>(
+        findMany(KorConditions().equals("acquisition_id", purchaseId).ascending("credit_note.id")));
 }
 
 int DataMapperCreditNote::purchaseOf(int noteId)

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "app/numbers/NumberedMapper.h"
-#include "kor/persistence/KorPaging.h"
 #include "pos/masterdata/item/ItemLineMapper.h"
 #include "pos/purchasing/document/PurchasingFilter.h"
 
@@ -20,15 +19,13 @@ public:
     /** Without lines. */
     [[nodiscard]] Document* findByNo(const QString& no)
     {
-        return static_cast<Document*>(this->findOne(
-            " where " + this->tableName() + ".no = :no order by " + this->tableName() + ".id", {{":no", no}}));
+        return static_cast<Document*>(
+            this->findOne(KorConditions().equals(this->tableName() + ".no", no).ascending(this->tableName() + ".id")));
     }
     /** Without lines, the latest first. */
     [[nodiscard]] QList<Document*> findAll(const PurchasingFilter& filter)
     {
-        KorPaging paging;
-        narrow(paging, filter, filterColumns());
-        return castAll<Document>(this->find(&paging));
+        return castAll<Document>(this->findMany(conditionsOf(filter, filterColumns())));
     }
 
 protected:

@@ -1,9 +1,6 @@
 #pragma once
 
-#include <QDate>
-#include <QString>
-
-class KorPaging;
+#include "kor/persistence/KorConditions.h"
 
 /** What a list of purchasing documents is narrowed to. Both dates count; 0 stands for every kind, "" for any text. */
 struct PurchasingFilter
@@ -30,5 +27,5 @@ struct PurchasingColumns
     QString otherNo;
 };
 
-/** Adds the filter's conditions, and the latest documents first. The table's supplier is joined as "supplier". */
-void narrow(KorPaging& paging, const PurchasingFilter& filter, const PurchasingColumns& columns);
+/** The latest documents first. The table's supplier is joined as "supplier". */
+[[nodiscard]] KorConditions conditionsOf(const PurchasingFilter& filter, const PurchasingColumns& columns);

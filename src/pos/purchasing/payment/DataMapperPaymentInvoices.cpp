@@ -28,5 +28,5 @@ QStringList DataMapperPaymentInvoices::indexStatements() const
 
 QList<KorEntity*> DataMapperPaymentInvoices::findByPayment(int paymentId)
 {
-    return findMany(" where payment_id=:id order by payment_invoice.id", {{":id", paymentId}});
+    return findMany(KorConditions().equals("payment_id", paymentId).ascending("payment_invoice.id"));
 }

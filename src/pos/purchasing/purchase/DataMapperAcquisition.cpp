@@ -49,11 +49,11 @@ QStringList DataMapperAcquisition::indexStatements() const
 
 QList<EntityAcquisition*> DataMapperAcquisition::getPendingInvoiceBySupplier(const EntitySupplier* supplier)
 {
-    KorPaging paging;
-    paging.addFilter("acquisition.supplier_id = ", QString::number(supplier->getId()));
-    paging.addFilter(" and acquisition.status <> ", QString::number(EntityAcquisition::FULL_PAID));
-    paging.addSort("acquisition.due_date asc, acquisition.id", "asc");
-    return castAll<EntityAcquisition>(find(&paging));
+    return castAll<EntityAcquisition>(findMany(KorConditions()
+                                                   .equals("acquisition.supplier_id", supplier->getId())
+                                                   .differs("acquisition.status", EntityAcquisition::FULL_PAID)
+                                                   .ascending("acquisition.due_date")
+                                                   .ascending("acquisition.id")));
 }
 
 int DataMapperAcquisition::getQuantityAcquired(const KorEntity* item, const QDate& date)

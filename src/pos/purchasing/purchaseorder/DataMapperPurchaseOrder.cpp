@@ -39,12 +39,12 @@ QStringList DataMapperPurchaseOrder::indexStatements() const
 
 QList<EntityPurchaseOrder*> DataMapperPurchaseOrder::getOpenBySupplier(const EntitySupplier* supplier)
 {
-    KorPaging paging;
-    paging.addFilter(tableName() + ".supplier_id = ", QString::number(supplier->getId()));
+    KorConditions conditions;
+    conditions.equals("purchase_order.supplier_id", supplier->getId());
     for (int done : {EntityPurchaseOrder::RECEIVED, EntityPurchaseOrder::CANCELED, EntityPurchaseOrder::CLOSED})
-        paging.addFilter(" and " + tableName() + ".status_id <> ", QString::number(done));
-    paging.addSort(tableName() + ".purchase_date asc, " + tableName() + ".id", "asc");
-    return castAll<EntityPurchaseOrder>(find(&paging));
+        conditions.differs("purchase_order.status_id", done);
+    conditions.ascending("purchase_order.purchase_date").ascending("purchase_order.id");
+    return castAll<EntityPurchaseOrder>(findMany(conditions));
 }
 
 PurchasingColumns DataMapperPurchaseOrder::filterColumns() const
