@@ -303,7 +303,8 @@ private slots:
         for (int i = 0; i < lineCount; ++i)
             lines.append(m_make->line(m_make->item(QString("I%1").arg(i), QString("Item %1").arg(i), 1000), 1));
         // The first order of the day prepares the statements.
-        QVERIFY(m_sales->updateOrder(m_make->openOrder(m_make->table("t0"), lines.mid(0, 1))));
+        EntityMakanDitempat* first = m_make->order(m_make->table("t0"), lines.mid(0, 1));
+        QVERIFY(m_sales->insertNewOrder(first) && m_sales->updateOrder(first));
         EntityMakanDitempat* order = m_make->order(m_make->table("t1"), lines.mid(1));
         {
             // Begin with the lock of the table, who sits there, the order, its lines, commit.
