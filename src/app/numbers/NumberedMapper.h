@@ -10,7 +10,10 @@ template <class Base>
 class NumberedMapper : public Base
 {
 public:
-    NumberedMapper(QObject* parent, DataMapperKey* keys) : Base(parent), m_keys(keys) {}
+    /** What the base is made of besides follows the keys. */
+    template <class... Parts>
+    NumberedMapper(QObject* parent, DataMapperKey* keys, Parts... parts) : Base(parent, parts...), m_keys(keys)
+    {}
 
     /** The name of the running number. */
     [[nodiscard]] virtual QString keyName() const = 0;
@@ -24,13 +27,8 @@ public:
         return number;
     }
 
-    /** For documents that come from elsewhere: from now on they keep the numbers that they bring, and draw none. */
-    void keepGivenNumbers() { m_keepsNumbers = true; }
-    [[nodiscard]] bool keepsNumbers() const { return m_keepsNumbers; }
-
 private:
     DataMapperKey* m_keys;
-    bool m_keepsNumbers = false;
 };
 
 /** A numbered document with lines: the number is drawn in the document's transaction and goes back with it. */
@@ -40,19 +38,25 @@ class NumberedDocumentMapper : public NumberedMapper<Base>
 public:
     using NumberedMapper<Base>::NumberedMapper;
 
+    /** For documents that come from elsewhere: from now on they keep the numbers that they bring, and draw none. */
+    void keepGivenNumbers() { m_keepsNumbers = true; }
+
 protected:
     [[nodiscard]] QStringList locksOfInsert(const KorEntity&) const override
     {
-        return this->keepsNumbers() ? QStringList() : QStringList{numberLock(this->keyName())};
+        return m_keepsNumbers ? QStringList() : QStringList{numberLock(this->keyName())};
     }
     bool beforeInsert(KorEntity* document) override
     {
-        if (this->keepsNumbers())
+        if (m_keepsNumbers)
             return true;
         const QString number = this->nextNo();
         static_cast<Document*>(document)->setNo(number);
         return !number.isNull();
     }
+
+private:
+    bool m_keepsNumbers = false;
 };
 
 /** A numbered record without lines, with its number in TransNo. */

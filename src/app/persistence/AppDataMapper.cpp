@@ -162,6 +162,12 @@ bool AppDataMapper::ensureForeignKey(const QString& constraintName, const QStrin
     return execute(query, statement);
 }
 
+bool AppDataMapper::fail(const QString& words, const QString& reason)
+{
+    setError(words + reason);
+    return false;
+}
+
 QString AppDataMapper::index(const QString& suffix, const QString& clause) const
 {
     return "CREATE INDEX IF NOT EXISTS " + tableName() + '_' + suffix + "_idx ON " + tableName() + ' ' + clause;

@@ -43,6 +43,8 @@ protected:
     /** Adds the named foreign key unless the table has it; for keys that no join gives, from createTable(). */
     bool ensureForeignKey(const QString& constraintName, const QString& column, const QString& referencedTable,
                           const QString& referencedColumn, const QString& onDelete = QString());
+    /** Sets the words with the reason behind them as the error; false, as a save returns it. */
+    bool fail(const QString& words, const QString& reason = QString());
     /** "CREATE INDEX IF NOT EXISTS TABLE_SUFFIX_idx ON TABLE CLAUSE", for indexStatements(). */
     [[nodiscard]] QString index(const QString& suffix, const QString& clause) const;
 

@@ -35,12 +35,15 @@ template <class Line>
     return entities;
 }
 
-/** Mapper of a record that has AppDocumentLines. */
+/** Mapper of a record that keeps its lines as AppDocumentLines does. */
 template <class Document>
 class AppLinedDocumentMapper : public AppDocumentMapper
 {
 public:
     using AppDocumentMapper::AppDocumentMapper;
+
+    /** Without lines: a save of it leaves the lines alone. */
+    [[nodiscard]] Document* findHeader(int id) { return static_cast<Document*>(AppDataMapper::findById(id)); }
 
 protected:
     [[nodiscard]] QList<KorEntity*> linesOf(KorEntity* document) const override
@@ -50,5 +53,11 @@ protected:
     [[nodiscard]] QList<KorEntity*> removedLinesOf(KorEntity* document) const override
     {
         return asEntities(static_cast<Document*>(document)->getRemovedDetails());
+    }
+    void readLines(KorEntity* document) override
+    {
+        using Line =
+            std::remove_pointer_t<typename std::decay_t<decltype(std::declval<Document>().getDetails())>::value_type>;
+        static_cast<Document*>(document)->setDetails(castAll<Line>(lineMapper()->findByDocument(document->getId())));
     }
 };

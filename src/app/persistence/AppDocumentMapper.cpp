@@ -1,8 +1,7 @@
 #include "app/persistence/AppDocumentMapper.h"
 
-#include "app/persistence/IdKeeper.h"
+#include "app/persistence/AppDocumentSave.h"
 #include "kor/persistence/KorBatch.h"
-#include "kor/persistence/KorDatabase.h"
 
 bool AppDocumentMapper::createTable(int mode)
 {
@@ -17,31 +16,26 @@ bool AppDocumentMapper::createTable(int mode)
     return true;
 }
 
-void AppDocumentMapper::noteTransaction(bool open)
+KorEntity* AppDocumentMapper::findById(int id)
 {
-    if (!open)
-        setError(tr("error: transaction failed"));
-}
-
-bool AppDocumentMapper::fail(const QString& message, const QString& collected)
-{
-    setError(message + collected);
-    return false;
-}
-
-bool AppDocumentMapper::commit(KorTransaction& transaction, QString* reason)
-{
-    if (transaction.commit())
-        return true;
-    *reason = transaction.failure();
-    return false;
+    KorEntity* document = AppDataMapper::findById(id);
+    if (!document)
+        return nullptr;
+    readLines(document);
+    for (KorDataMapper* lines : lineMappers()) {
+        if (lines->hasError()) {
+            setError(lines->takeError());
+            return nullptr;
+        }
+    }
+    return document;
 }
 
 void AppDocumentMapper::insertLinesWith(KorBatch& batch, const QList<KorEntity*>& lines, int documentId)
 {
     QList<KorEntity*> ofOneKind;
     for (int i = 0; i < lines.size(); ++i) {
-        attachLine(lines[i], documentId);
+        mapperOf(lines[i])->attach(lines[i], documentId);
         ofOneKind.append(lines[i]);
         if (i + 1 == lines.size() || mapperOf(lines[i + 1]) != mapperOf(lines[i])) {
             mapperOf(lines[i])->insertWith(batch, ofOneKind);
@@ -62,48 +56,45 @@ bool AppDocumentMapper::send(KorBatch& batch, QString* reason)
 bool AppDocumentMapper::insert(KorEntity* document)
 {
     const QList<KorEntity*> lines = linesOf(document);
-    const IdKeeper ids(QList<KorEntity*>{document} + lines);
-    KorTransaction transaction(locksOfInsert(*document));
-    noteTransaction(transaction.isOpen());
-    if (transaction.isRefused())
-        return fail(messages().insertHeader, " \r\n " + transaction.failure());
+    AppDocumentSave save(QList<KorEntity*>{document} + lines, locksOfInsert(*document));
+    if (!save.transaction().isOpen())
+        setError(notOpened());
+    if (save.transaction().isRefused())
+        return fail(messages().insertHeader, " \r\n " + save.transaction().failure());
 
+    QString reason;
     if (!beforeInsert(document) || !AppDataMapper::insert(document)) {
-        const QString reason = takeError();
-        transaction.rollback();
-        ids.restore();
+        reason = takeError();
+        save.end(false, &reason);
         return fail(messages().insertHeader, reason.isEmpty() ? QString() : " \r\n " + reason);
     }
 
-    QString collected;
     KorBatch batch;
     insertLinesWith(batch, lines, document->getId());
-    if (send(batch, &collected) && commit(transaction, &collected))
+    if (save.end(send(batch, &reason), &reason))
         return true;
-    transaction.rollback();
-    ids.restore();
-    fail(messages().insertLines, collected);
+    fail(messages().insertLines, reason);
     return resultOfFailedLines();
 }
 
 bool AppDocumentMapper::update(KorEntity* document)
 {
     const QList<KorEntity*> lines = linesOf(document);
-    const IdKeeper ids(lines);
-    KorTransaction transaction;
-    noteTransaction(transaction.isOpen());
+    AppDocumentSave save(lines);
+    if (!save.transaction().isOpen())
+        setError(notOpened());
 
+    QString reason;
     if (!AppDataMapper::update(document)) {
-        const QString reason = takeError();
-        transaction.rollback();
+        reason = takeError();
+        save.end(false, &reason);
         return fail(messages().updateHeader, reason.isEmpty() ? QString() : " \r\n " + reason);
     }
 
-    QString collected;
     KorBatch batch;
     QList<KorEntity*> newLines;
     for (KorEntity* line : lines) {
-        attachLine(line, document->getId());
+        mapperOf(line)->attach(line, document->getId());
         if (line->isSaved())
             mapperOf(line)->updateWith(batch, line);
         else
@@ -115,35 +106,31 @@ bool AppDocumentMapper::update(KorEntity* document)
         if (line->isSaved())
             mapperOf(line)->removeWith(batch, line);
     }
-    if (send(batch, &collected) && commit(transaction, &collected))
+    if (save.end(send(batch, &reason), &reason))
         return true;
-    transaction.rollback();
-    ids.restore();
-    fail(messages().updateLines, collected);
+    fail(messages().updateLines, reason);
     return resultOfFailedLines();
 }
 
 bool AppDocumentMapper::removeWithLines(KorEntity* document, const QList<KorEntity*>& lines)
 {
     // The document first, as a save of it does: the other way round the two would wait for each other.
-    KorTransaction transaction({removalLockOf(document->getId())});
-    noteTransaction(transaction.isOpen());
-    if (transaction.isRefused())
-        return fail(messages().removeHeader, " \r\n " + transaction.failure());
+    AppDocumentSave save({}, {removalLockOf(document->getId())});
+    if (!save.transaction().isOpen())
+        setError(notOpened());
+    if (save.transaction().isRefused())
+        return fail(messages().removeHeader, " \r\n " + save.transaction().failure());
 
-    QString collected;
+    QString reason;
     KorBatch batch;
     for (KorEntity* line : lines)
         mapperOf(line)->removeWith(batch, line);
-    if (!send(batch, &collected)) {
-        transaction.rollback();
-        return fail(messages().removeLines, collected);
+    if (!send(batch, &reason)) {
+        save.end(false, &reason);
+        return fail(messages().removeLines, reason);
     }
-    if (!AppDataMapper::remove(document)) {
-        const QString reason = takeError();
-        transaction.rollback();
-        return fail(messages().removeHeader, " \r\n " + reason);
-    }
-    QString reason;
-    return commit(transaction, &reason) || fail(messages().removeHeader, " \r\n " + reason);
+    const bool removed = AppDataMapper::remove(document);
+    if (!removed)
+        reason = takeError();
+    return save.end(removed, &reason) || fail(messages().removeHeader, " \r\n " + reason);
 }

@@ -20,23 +20,11 @@ DataMapperInvoiceDetail::DataMapperInvoiceDetail(QObject* parent, KorDataMapper*
 
 KorEntity* DataMapperInvoiceDetail::createEntity() { return new EntityInvoiceDetail(entityParent()); }
 
-QStringList DataMapperInvoiceDetail::indexStatements() const { return lineIndexes("invoice_id", "qty"); }
-
-QList<EntityInvoiceDetail*> DataMapperInvoiceDetail::findByInvoice(int invoiceId)
-{
-    return findByInvoices({invoiceId});
-}
-
-QList<EntityInvoiceDetail*> DataMapperInvoiceDetail::findByInvoices(const QList<int>& invoiceIds)
-{
-    return castAll<EntityInvoiceDetail>(
-        findMany(KorConditions().oneOf("invoice_detail.invoice_id", invoiceIds).ascending("invoice_detail.id")));
-}
+QStringList DataMapperInvoiceDetail::indexStatements() const { return lineIndexes("qty"); }
 
 bool DataMapperInvoiceDetail::removeByInvoiceId(int invoiceId)
 {
-    KorQuery query;
-    if (execute(query, "delete from " + tableName() + " where invoice_id = :id", {{":id", invoiceId}}))
+    if (removeByDocument(invoiceId))
         return true;
     setError("delete failed");
     qDebug() << "removeByInvoiceId failed";

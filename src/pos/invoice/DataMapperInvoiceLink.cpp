@@ -1,9 +1,7 @@
 #include "pos/invoice/DataMapperInvoiceLink.h"
 
-#include "app/numbers/DocumentNumber.h"
-#include "app/persistence/IdKeeper.h"
+#include "app/persistence/AppDocumentSave.h"
 #include "kor/persistence/KorBatch.h"
-#include "kor/persistence/KorDatabase.h"
 #include "pos/invoice/EntityInvoiceDetail.h"
 #include "pos/invoice/IInvoice.h"
 #include "pos/invoice/Invoice.h"
@@ -11,7 +9,7 @@
 #include <algorithm>
 
 DataMapperInvoiceLink::DataMapperInvoiceLink(QObject* parent, DataMapperInvoice* invoices)
-    : DataMapperInvoice(parent, invoices), m_invoices(invoices)
+    : NumberedMapper(parent, invoices->partners().keys, invoices), m_invoices(invoices)
 {}
 
 IInvoice* DataMapperInvoiceLink::saleOf(KorEntity* link) { return dynamic_cast<IInvoice*>(link); }
@@ -21,15 +19,6 @@ bool DataMapperInvoiceLink::createTable(int mode)
     // The invoice's table and its lines are the invoice mapper's own business.
     // NOLINTNEXTLINE(bugprone-parent-virtual-call)
     return KorDataMapper::createTable(mode);
-}
-
-QString DataMapperInvoiceLink::nextNo()
-{
-    QString error;
-    QString number = drawNumber(partners().keys, keyName(), &error);
-    if (number.isNull())
-        setError(error);
-    return number;
 }
 
 void DataMapperInvoiceLink::prepareInvoice(KorEntity*, Invoice*) {}
@@ -59,12 +48,6 @@ QString DataMapperInvoiceLink::objection(const std::optional<BilledOrder>& order
 
 bool DataMapperInvoiceLink::loadOrders(const QList<KorEntity*>&) { return true; }
 
-bool DataMapperInvoiceLink::fail(const QString& message, const QString& reasons)
-{
-    setError(message + reasons);
-    return false;
-}
-
 // --- writing -------------------------------------------------------------------------------------------------------
 
 void DataMapperInvoiceLink::insertLinesWith(KorBatch& batch, IInvoice* sale)
@@ -79,8 +62,12 @@ void DataMapperInvoiceLink::insertLinesWith(KorBatch& batch, IInvoice* sale)
     detailMapper()->insertWith(batch, lines);
 }
 
-bool DataMapperInvoiceLink::insertLines(IInvoice* sale, QString* reason)
+bool DataMapperInvoiceLink::replaceLines(IInvoice* sale, QString* reason)
 {
+    if (!detailMapper()->removeByInvoiceId(sale->getInvoice()->getId())) {
+        *reason = " \r\n " + detailMapper()->takeError();
+        return false;
+    }
     KorBatch batch;
     insertLinesWith(batch, sale);
     if (!batch.send())
@@ -108,38 +95,33 @@ bool DataMapperInvoiceLink::insertInvoice(KorEntity* link, QString* reason)
 bool DataMapperInvoiceLink::insert(KorEntity* link)
 {
     IInvoice* sale = saleOf(link);
-    Invoice* invoice = sale->getInvoice();
-    QList<KorEntity*> written{link, invoice};
-    for (EntityInvoiceDetail* line : sale->getDetails())
-        written.append(line);
-    const IdKeeper ids(written);
-
     const std::optional<BilledOrder> order = billedOrder(*link);
-    KorTransaction transaction(locksOfInsert(order));
-    if (!transaction.isOpen())
-        setError(tr("error: transaction failed"));
-    if (transaction.isRefused())
-        return fail(messages().insertHeader, " \r\n " + transaction.failure());
-    const QString refusal = objection(order, transaction.found());
+    AppDocumentSave save(QList<KorEntity*>{link, sale->getInvoice()} + asEntities(sale->getDetails()),
+                         locksOfInsert(order));
+    if (!save.transaction().isOpen())
+        setError(AppDocumentMapper::notOpened());
+    if (save.transaction().isRefused())
+        return fail(messages().insertHeader, " \r\n " + save.transaction().failure());
+    const QString refusal = objection(order, save.transaction().found());
     if (!refusal.isEmpty())
-        return fail(refusal, {});
+        return fail(refusal);
 
     QString message = messages().insertHeader;
     QString reason;
-    if (insertInvoice(link, &reason)) {
+    bool done = insertInvoice(link, &reason);
+    if (done) {
         KorBatch batch;
         AppDataMapper::insertWith(batch, {link});
         insertLinesWith(batch, sale);
-        const bool done = batch.send();
-        if (done && transaction.commit())
-            return true;
-        reason = done ? transaction.failure() : " \r\n " + batch.failures().first();
+        done = batch.send();
+        if (!done)
+            reason = " \r\n " + batch.failures().first();
         if (batch.failed() != this)
             message = messages().insertLines;
     }
-    transaction.rollback();
-    ids.restore();
-    invoice->setInvoiceNo("");
+    if (save.end(done, &reason))
+        return true;
+    sale->getInvoice()->setInvoiceNo("");
     return fail(message, reason);
 }
 
@@ -147,39 +129,28 @@ bool DataMapperInvoiceLink::update(KorEntity* link)
 {
     IInvoice* sale = saleOf(link);
     Invoice* invoice = sale->getInvoice();
-    QList<KorEntity*> lines;
-    for (EntityInvoiceDetail* line : sale->getDetails())
-        lines.append(line);
-    const IdKeeper ids(lines);
-
-    KorTransaction transaction;
-    if (!transaction.isOpen())
-        setError(tr("error: transaction failed"));
+    AppDocumentSave save(asEntities(sale->getDetails()));
+    if (!save.transaction().isOpen())
+        setError(AppDocumentMapper::notOpened());
     prepareInvoice(link, invoice);
-    QString reason;
-    if (!m_invoices->update(invoice))
-        reason = " \r\n " + m_invoices->takeError();
-    else if (!AppDataMapper::update(link))
-        reason = " \r\n " + takeError();
     QString message = messages().updateHeader;
-    if (reason.isEmpty()) {
+    QString reason;
+    bool done = false;
+    if (!m_invoices->update(invoice)) {
+        reason = " \r\n " + m_invoices->takeError();
+    } else if (!AppDataMapper::update(link)) {
+        reason = " \r\n " + takeError();
+    } else {
         // Lines are replaced, not matched: the stored ones go, whatever the form shows now comes.
         message = messages().updateLines;
-        if (!detailMapper()->removeByInvoiceId(invoice->getId()))
-            reason = " \r\n " + detailMapper()->takeError();
-        else if (insertLines(sale, &reason)) {
-            if (transaction.commit()) {
-                // A form that cannot read the sale again saves it again from memory.
-                invoice->setVersion(invoice->getVersion() + 1);
-                link->setVersion(link->getVersion() + 1);
-                return true;
-            }
-            reason = transaction.failure();
-        }
+        done = replaceLines(sale, &reason);
     }
-    transaction.rollback();
-    ids.restore();
-    return fail(message, reason);
+    if (!save.end(done, &reason))
+        return fail(message, reason);
+    // A form that cannot read the sale again saves it again from memory.
+    invoice->setVersion(invoice->getVersion() + 1);
+    link->setVersion(link->getVersion() + 1);
+    return true;
 }
 
 // --- reading -------------------------------------------------------------------------------------------------------
@@ -211,7 +182,7 @@ bool DataMapperInvoiceLink::load(const QList<KorEntity*>& links)
     for (KorEntity* link : links)
         invoiceIds.append(saleOf(link)->getInvoice()->getId());
     const QList<Invoice*> invoices = m_invoices->findByIds(invoiceIds);
-    const QList<EntityInvoiceDetail*> lines = detailMapper()->findByInvoices(invoiceIds);
+    const auto lines = castAll<EntityInvoiceDetail>(detailMapper()->findByDocuments(invoiceIds));
     if (m_invoices->hasError() || detailMapper()->hasError()) {
         setError(m_invoices->takeError() + detailMapper()->takeError());
         return false;

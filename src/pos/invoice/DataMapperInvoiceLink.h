@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/numbers/NumberedMapper.h"
 #include "pos/invoice/DataMapperInvoice.h"
 
 #include <optional>
@@ -8,9 +9,10 @@ class IInvoice;
 
 /**
  * Mapper of the record that ties an invoice to its way of selling. Saving writes the invoice, the link and the lines
- * in one transaction; an update replaces the lines. Removing takes the link row alone.
+ * in one transaction; an update replaces the lines. Removing takes the link row alone. The key of the running number is
+ * also the type that the invoice gets.
  */
-class DataMapperInvoiceLink : public DataMapperInvoice
+class DataMapperInvoiceLink : public NumberedMapper<DataMapperInvoice>
 {
     Q_OBJECT
 
@@ -22,22 +24,11 @@ public:
     bool createTable(int mode) override;
     [[nodiscard]] QList<KorDataMapper*> lineMappers() const override { return {}; }
 
-    /** The key of the running number, which is also the type that the invoice gets. */
-    [[nodiscard]] virtual QString keyName() const = 0;
-    /** Null when no number could be drawn; the reason stands in the error text. */
-    [[nodiscard]] QString nextNo();
-
     [[nodiscard]] KorEntity* findById(int id) override;
     [[nodiscard]] KorEntity* findByInvoiceId(int invoiceId);
 
 protected:
-    struct Messages
-    {
-        QString insertHeader;
-        QString insertLines;
-        QString updateHeader;
-        QString updateLines;
-    };
+    using Messages = AppDocumentMapper::Messages;
     [[nodiscard]] virtual Messages messages() const = 0;
     /** The order that a new sale is the bill of. */
     struct BilledOrder
@@ -68,9 +59,8 @@ private:
     [[nodiscard]] QStringList locksOfInsert(const std::optional<BilledOrder>& order) const;
     void insertLinesWith(KorBatch& batch, IInvoice* sale);
     bool insertInvoice(KorEntity* link, QString* reason);
-    bool insertLines(IInvoice* sale, QString* reason);
+    bool replaceLines(IInvoice* sale, QString* reason);
     bool load(const QList<KorEntity*>& links);
-    bool fail(const QString& message, const QString& reasons);
     static IInvoice* saleOf(KorEntity* link);
 
     DataMapperInvoice* m_invoices;

@@ -1,4 +1,3 @@
-#include "kor/business/KorServiceTransaction.h"
 #include "zavel/commission/DataMapperAllAgentCommision.h"
 #include "zavel/commission/DataMapperKomisiAgen.h"
 #include "zavel/commission/DataMapperKomisiAgenDetail.h"
@@ -22,15 +21,7 @@ bool BusinessPenjualan::updateCommision(EntityKomisiAgen* payment)
     return written(m_mappers.commissions->update(payment), m_mappers.commissions, "updateCommision");
 }
 
-bool BusinessPenjualan::remove(EntityKomisiAgen* payment)
-{
-    DataMapperKomisiAgenDetail* lines = m_mappers.commissions->lines();
-    const auto removeAll = [this, payment, lines] {
-        return written(lines->removeByPayment(payment->getId()), lines, "remove") &&
-               written(m_mappers.commissions->remove(payment), m_mappers.commissions, "remove");
-    };
-    return inOneTransaction(*this, "remove", removeAll, {}, {m_mappers.commissions->removalLockOf(payment->getId())});
-}
+bool BusinessPenjualan::remove(EntityKomisiAgen* payment) { return removeSettlement(m_mappers.commissions, payment); }
 
 QList<EntityKomisiAgen*> BusinessPenjualan::searchKomisiAgen(const CommissionFilter& filter)
 {

@@ -4,8 +4,8 @@
 #include "pos/invoice/DataMapperInvoice.h"
 #include "pos/masterdata/agent/DataMapperAgent.h"
 #include "zavel/commission/CommissionAmount.h"
+#include "zavel/commission/CommissionFilters.h"
 #include "zavel/commission/EntityAllKomisiAgen.h"
-#include "zavel/service/SalesFilters.h"
 
 DataMapperAllAgentCommision::DataMapperAllAgentCommision(QObject* parent, DataMapperInvoice* invoices,
                                                          DataMapperAgent* agents)

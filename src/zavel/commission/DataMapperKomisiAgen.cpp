@@ -3,8 +3,8 @@
 #include "kor/entity/KorMetaDataMap.h"
 #include "pos/masterdata/account/DataMapperBank.h"
 #include "pos/masterdata/agent/DataMapperAgent.h"
+#include "zavel/commission/CommissionFilters.h"
 #include "zavel/commission/DataMapperKomisiAgenDetail.h"
-#include "zavel/service/SalesFilters.h"
 
 DataMapperKomisiAgen::DataMapperKomisiAgen(QObject* parent, DataMapperKey* keys, DataMapperAgent* agents,
                                            DataMapperBank* accounts, DataMapperInvoice* invoices)
@@ -21,21 +21,12 @@ DataMapperKomisiAgen::DataMapperKomisiAgen(QObject* parent, DataMapperKey* keys,
     reference("bank_id", "integer null", "Bank", accounts, "left");
     column("noref", "varchar(20)  null", "NoRef");
     column("note", "text null", "Note");
-    m_lines = new DataMapperKomisiAgenDetail(this, invoices);
+    setLineMapper(new DataMapperKomisiAgenDetail(this, invoices));
 }
 
-KorDataMapper* DataMapperKomisiAgen::lineMapper() const { return m_lines; }
-
-KorEntity* DataMapperKomisiAgen::findById(int id)
+DataMapperKomisiAgenDetail* DataMapperKomisiAgen::lines() const
 {
-    auto* payment = static_cast<EntityKomisiAgen*>(NumberedDocumentMapper::findById(id));
-    if (!payment)
-        return nullptr;
-    payment->setDetails(m_lines->findByPayment(id));
-    if (!m_lines->hasError())
-        return payment;
-    setError(m_lines->takeError());
-    return nullptr;
+    return static_cast<DataMapperKomisiAgenDetail*>(lineMapper());
 }
 
 QList<EntityKomisiAgen*> DataMapperKomisiAgen::search(const CommissionFilter& filter)
@@ -57,16 +48,8 @@ QStringList DataMapperKomisiAgen::indexStatements() const
 
 const AppDocumentMapper::Messages& DataMapperKomisiAgen::messages() const
 {
-    static const Messages texts{tr("error: insert agent commision failed"),
-                                tr("error: insert agent commision  detail failed.\r\n"),
-                                tr("error: update komisi agen failed"),
-                                tr("error: update agent commision detail failed\r\n"),
-                                {},
-                                {}};
+    static const Messages texts{
+        tr("error: insert agent commision failed"), tr("error: insert agent commision  detail failed.\r\n"),
+        tr("error: update komisi agen failed"), tr("error: update agent commision detail failed\r\n")};
     return texts;
-}
-
-void DataMapperKomisiAgen::attachLine(KorEntity* line, int documentId)
-{
-    static_cast<EntityKomisiAgenDetail*>(line)->setKomisiAgenID(documentId);
 }

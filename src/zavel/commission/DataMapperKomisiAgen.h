@@ -20,18 +20,11 @@ public:
 
     [[nodiscard]] QString keyName() const override { return "KAG"; }
     KorEntity* createEntity() override;
-    /** With its lines. */
-    KorEntity* findById(int id) override;
     /** Without lines, the latest first. */
     [[nodiscard]] QList<EntityKomisiAgen*> search(const CommissionFilter& filter);
     [[nodiscard]] QStringList indexStatements() const override;
-    [[nodiscard]] KorDataMapper* lineMapper() const override;
-    [[nodiscard]] DataMapperKomisiAgenDetail* lines() const { return m_lines; }
+    [[nodiscard]] DataMapperKomisiAgenDetail* lines() const;
 
 protected:
     [[nodiscard]] const Messages& messages() const override;
-    void attachLine(KorEntity* line, int documentId) override;
-
-private:
-    DataMapperKomisiAgenDetail* m_lines;
 };

@@ -6,12 +6,11 @@
 #include "zavel/commission/EntityKomisiAgenDetail.h"
 
 DataMapperKomisiAgenDetail::DataMapperKomisiAgenDetail(DataMapperKomisiAgen* payments, DataMapperInvoice* invoices)
-    : AppDataMapper(payments)
+    : AppLineMapper(payments)
 {
     setName("komisi agen detail");
     metaData()->setTableName("komisi_agen_detail");
-    column("komisi_agen_id", "integer not null", "KomisiAgenID");
-    addJoin("KomisiAgenID", payments, "inner", "komisi_agen_id", "id");
+    documentColumn("komisi_agen_id", "KomisiAgenID", payments);
     column("invoice_id", "integer not null", "Invoice.Id");
     addJoin("Invoice", invoices, "inner", "komisi_agen_detail.invoice_id", "id");
     column("commision_perc", "numeric not NULL", "CommisionPerc");
@@ -25,20 +24,8 @@ QStringList DataMapperKomisiAgenDetail::indexStatements() const
     return {index("invoice_id", "(invoice_id)"), index("komisi_agen_id", "(komisi_agen_id)")};
 }
 
-QList<EntityKomisiAgenDetail*> DataMapperKomisiAgenDetail::findByPayment(int paymentId)
-{
-    return castAll<EntityKomisiAgenDetail>(
-        findMany(KorConditions().equals("komisi_agen_id", paymentId).ascending("komisi_agen_detail.id")));
-}
-
 EntityKomisiAgenDetail* DataMapperKomisiAgenDetail::findByInvoice(int invoiceId)
 {
     return static_cast<EntityKomisiAgenDetail*>(
         findOne(KorConditions().equals("invoice_id", invoiceId).ascending("komisi_agen_detail.id")));
-}
-
-bool DataMapperKomisiAgenDetail::removeByPayment(int paymentId)
-{
-    KorQuery query;
-    return execute(query, "delete from komisi_agen_detail where komisi_agen_id = :id", {{":id", paymentId}});
 }

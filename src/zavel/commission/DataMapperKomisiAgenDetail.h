@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/persistence/AppDataMapper.h"
+#include "app/persistence/AppLineMapper.h"
 
 class DataMapperInvoice;
 class DataMapperKomisiAgen;
@@ -10,7 +10,7 @@ class EntityKomisiAgenDetail;
  * The commissions paid for invoices, in the table "komisi_agen_detail". The invoice has no foreign key: a sale may be
  * deleted, and its commission lines then stay in the table but are read no more.
  */
-class DataMapperKomisiAgenDetail final : public AppDataMapper
+class DataMapperKomisiAgenDetail final : public AppLineMapper
 {
     Q_OBJECT
 
@@ -20,9 +20,6 @@ public:
     KorEntity* createEntity() override;
     [[nodiscard]] QStringList indexStatements() const override;
 
-    [[nodiscard]] QList<EntityKomisiAgenDetail*> findByPayment(int paymentId);
     /** The line that paid the invoice's commission; null when there is none. */
     [[nodiscard]] EntityKomisiAgenDetail* findByInvoice(int invoiceId);
-    /** Removes all lines of the payment, also those that no read gives any more because their sale was deleted. */
-    bool removeByPayment(int paymentId);
 };

@@ -5,6 +5,7 @@
 #include "app/widgets/RecordField.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "pos/masterdata/agent/AgentTextBox.h"
+#include "zavel/commission/CommissionFilters.h"
 #include "zavel/commission/DialogKomisiAgen.h"
 #include "zavel/commission/EntityAllKomisiAgen.h"
 #include "zavel/commission/EntityKomisiAgen.h"

@@ -19,7 +19,7 @@ DataMapperMakanDitempat::DataMapperMakanDitempat(QObject* parent, DataMapperMemb
     column("pemesan", "varchar(100)", "Pemesan");
     column("tgl", "date not null", "Tgl");
     column("pindah_meja", "varchar(255)", "PindahMeja");
-    setDetailMapper(new DataMapperMakanDitempatDetail(this, this, partners));
+    setLineMapper(new DataMapperMakanDitempatDetail(this, this, partners));
 }
 
 KorEntity* DataMapperMakanDitempat::createEntity() { return new EntityMakanDitempat(entityParent()); }

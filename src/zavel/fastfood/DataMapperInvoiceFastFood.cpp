@@ -5,7 +5,7 @@
 #include "pos/masterdata/employee/DataMapperEmployee.h"
 #include "pos/masterdata/member/DataMapperMember.h"
 #include "zavel/fastfood/EntityInvoiceFastFood.h"
-#include "zavel/service/SalesFilters.h"
+#include "zavel/fastfood/FastFoodFilter.h"
 
 #include <QDebug>
 

@@ -5,6 +5,7 @@
 #include "pos/masterdata/employee/EmployeeTextBox.h"
 #include "zavel/fastfood/DialogFastFood.h"
 #include "zavel/fastfood/EntityInvoiceFastFood.h"
+#include "zavel/fastfood/FastFoodFilter.h"
 #include "zavel/fastfood/TableModelFastFood.h"
 #include "zavel/order/SlipRequests.h"
 #include "zavel/service/BusinessPenjualan.h"

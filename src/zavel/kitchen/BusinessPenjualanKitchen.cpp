@@ -22,7 +22,7 @@ EntityQueue* queued(OrderKind kind, EntityOrder* order)
     return row;
 }
 
-bool writeKitchenStatus(DataMapperOrderDetail* lines, int id, const QString& text, QString* failure)
+bool writeKitchenStatus(KorDataMapper* lines, int id, const QString& text, QString* failure)
 {
     EntityPool pool;
     const EntityPoolScope scope(pool);
@@ -57,7 +57,7 @@ QList<EntityQueue*> BusinessPenjualan::getQueue(const QString& text)
 bool BusinessPenjualan::setKitchenStatus(EntityMakanDitempatDetail* line, const QString& text)
 {
     QString failure;
-    const bool done = writeKitchenStatus(m_mappers.dineOrders->detailMapper(), line->getId(), text, &failure);
+    const bool done = writeKitchenStatus(m_mappers.dineOrders->lineMapper(), line->getId(), text, &failure);
     if (!done)
         addError("setKitchenStatus", failure);
     return done;
@@ -66,7 +66,7 @@ bool BusinessPenjualan::setKitchenStatus(EntityMakanDitempatDetail* line, const 
 bool BusinessPenjualan::setKitchenStatus(EntityBawaPulangDetail* line, const QString& text)
 {
     QString failure;
-    const bool done = writeKitchenStatus(m_mappers.takeAwayOrders->detailMapper(), line->getId(), text, &failure);
+    const bool done = writeKitchenStatus(m_mappers.takeAwayOrders->lineMapper(), line->getId(), text, &failure);
     if (!done)
         addError("setKitchenStatus", failure);
     return done;

@@ -133,9 +133,28 @@ bool BusinessPenjualan::deleteSales(Invoice* invoice)
                 removeEach(QList<KorEntity*>{link}, links);
         }
         DataMapperInvoiceDetail* lines = m_mappers.invoices->detailMapper();
-        removeEach(read(lines->findByInvoice(invoice->getId()), lines, operation), lines);
+        removeEach(read(lines->findByDocument(invoice->getId()), lines, operation), lines);
         return written(m_mappers.invoices->remove(invoice), m_mappers.invoices, operation);
     };
     // The invoice first, as a save of it does: the other way round the two would wait for each other.
     return inOneTransaction(*this, operation, removeAll, {}, {m_mappers.invoices->removalLockOf(invoice->getId())});
+}
+
+// --- figures by day, by month and by item ----------------------------------------------------------------------------
+
+QList<EntitySalesSummaryInfo*> BusinessPenjualan::getDailySales(const QDate& from, const QDate& to, int userId)
+{
+    return read(m_mappers.salesList->getDailySales(from, to, userId), m_mappers.salesList, "getDailySales");
+}
+
+QList<EntitySalesSummaryInfo*> BusinessPenjualan::getMonthlySales(const QDate& from, const QDate& to, int userId)
+{
+    return read(m_mappers.salesList->getMonthlySales(from, to, userId), m_mappers.salesList, "getMonthlySales");
+}
+
+QList<EntitySoldItem*> BusinessPenjualan::getSoldItems(const QDate& from, const QDate& to, const QString& direction,
+                                                       const QString& sortColumn, const QString& itemType)
+{
+    return read(m_mappers.salesList->getSoldItems(from, to, direction, sortColumn, itemType), m_mappers.salesList,
+                "getSoldItems");
 }

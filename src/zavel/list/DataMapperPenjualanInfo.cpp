@@ -7,7 +7,7 @@
 #include "pos/masterdata/employee/DataMapperEmployee.h"
 #include "pos/masterdata/member/DataMapperMember.h"
 #include "zavel/list/EntityPenjualanInfo.h"
-#include "zavel/service/SalesFilters.h"
+#include "zavel/list/SalesFilter.h"
 
 #include <QScopedValueRollback>
 

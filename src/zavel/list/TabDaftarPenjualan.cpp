@@ -14,6 +14,7 @@
 #include "zavel/fastfood/DialogFastFood.h"
 #include "zavel/fastfood/EntityInvoiceFastFood.h"
 #include "zavel/list/EntityPenjualanInfo.h"
+#include "zavel/list/SalesFilter.h"
 #include "zavel/list/TableModelDaftarPenjualan.h"
 #include "zavel/service/BusinessPenjualan.h"
 #include "zavel/tables/TableTextBox.h"

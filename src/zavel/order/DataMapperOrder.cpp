@@ -2,7 +2,6 @@
 
 #include "app/context/AppContext.h"
 #include "app/context/EntityPool.h"
-#include "app/persistence/AppDocumentLines.h"
 #include "kor/entity/KorMetaDataMap.h"
 
 // --- lines ---------------------------------------------------------------------------------------------------------
@@ -10,7 +9,7 @@
 DataMapperOrderDetail::DataMapperOrderDetail(QObject* parent, const QString& tableName, const QString& orderColumn,
                                              const QString& orderProperty, KorDataMapper* orders,
                                              const ItemPartners& partners)
-    : ItemLineMapper(parent), m_orderColumn(orderColumn)
+    : ItemLineMapper(parent)
 {
     metaData()->setTableName(tableName);
     documentColumn(orderColumn, orderProperty, orders);
@@ -25,18 +24,7 @@ DataMapperOrderDetail::DataMapperOrderDetail(QObject* parent, const QString& tab
 
 QStringList DataMapperOrderDetail::indexStatements() const
 {
-    return {index("order", '(' + m_orderColumn + ')'), index("item_id", "(item_id)")};
-}
-
-QList<EntityOrderDetail*> DataMapperOrderDetail::findByOrders(const QList<int>& orderIds)
-{
-    return castAll<EntityOrderDetail>(
-        findMany(KorConditions().oneOf(m_orderColumn, orderIds).ascending(tableName() + ".id")));
-}
-
-QList<EntityOrderDetail*> DataMapperOrderDetail::findByOrder(int orderId)
-{
-    return castAll<EntityOrderDetail>(findByDocument(orderId));
+    return {index("order", '(' + documentColumn() + ')'), index("item_id", "(item_id)")};
 }
 
 int DataMapperOrderDetail::countOrdersOfOtherCurrency(const QString& orderTable, const QString& sign)
@@ -45,18 +33,13 @@ int DataMapperOrderDetail::countOrdersOfOtherCurrency(const QString& orderTable,
     const bool read =
         execute(query,
                 "select count(distinct o.id) from " + orderTable + " o join " + tableName() + " line on line." +
-                    m_orderColumn + " = o.id where o.status <> :done and line.price_each_currency <> :sign",
+                    documentColumn() + " = o.id where o.status <> :done and line.price_each_currency <> :sign",
                 {{":done", int(EntityOrder::DONE)}, {":sign", sign}}) &&
         query.next();
     return read ? query.value(0).toInt() : -1;
 }
 
 // --- orders --------------------------------------------------------------------------------------------------------
-
-KorEntity* DataMapperOrder::findById(int id)
-{
-    return findOrders(KorConditions().equals(tableName() + ".id", id)).value(0);
-}
 
 QList<EntityOrder*> DataMapperOrder::findByIds(const QList<int>& ids)
 {
@@ -77,9 +60,9 @@ QList<EntityOrder*> DataMapperOrder::findOrders(const KorConditions& conditions)
     for (const EntityOrder* order : orders)
         ids.append(order->getId());
     QHash<int, EntityOrder::Lines> linesOf;
-    const EntityOrder::Lines lines = m_lines->findByOrders(ids);
-    if (m_lines->hasError()) {
-        setError(m_lines->takeError());
+    const auto lines = castAll<EntityOrderDetail>(lineMapper()->findByDocuments(ids));
+    if (lineMapper()->hasError()) {
+        setError(lineMapper()->takeError());
         return {};
     }
     for (EntityOrderDetail* line : lines)
@@ -91,9 +74,9 @@ QList<EntityOrder*> DataMapperOrder::findOrders(const KorConditions& conditions)
 
 int DataMapperOrder::countOpenOfOtherCurrency(const QString& sign)
 {
-    const int count = m_lines->countOrdersOfOtherCurrency(tableName(), sign);
-    if (m_lines->hasError())
-        setError(m_lines->takeError());
+    const int count = static_cast<DataMapperOrderDetail*>(lineMapper())->countOrdersOfOtherCurrency(tableName(), sign);
+    if (lineMapper()->hasError())
+        setError(lineMapper()->takeError());
     return count;
 }
 
@@ -138,19 +121,4 @@ bool DataMapperOrder::markDone(int orderId)
     }
     fresh->setStatus(EntityOrder::DONE);
     return updateStatus(fresh);
-}
-
-QList<KorEntity*> DataMapperOrder::linesOf(KorEntity* order) const
-{
-    return asEntities(static_cast<EntityOrder*>(order)->getDetails());
-}
-
-QList<KorEntity*> DataMapperOrder::removedLinesOf(KorEntity* order) const
-{
-    return asEntities(static_cast<EntityOrder*>(order)->getRemovedDetails());
-}
-
-void DataMapperOrder::attachLine(KorEntity* line, int orderId)
-{
-    static_cast<EntityOrderDetail*>(line)->setOrderId(orderId);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/persistence/AppDocumentMapper.h"
+#include "app/persistence/AppDocumentLines.h"
 #include "pos/masterdata/item/ItemLineMapper.h"
 #include "zavel/order/EntityOrder.h"
 
@@ -13,29 +13,22 @@ class DataMapperOrderDetail : public ItemLineMapper
 
 public:
     [[nodiscard]] QStringList indexStatements() const override;
-    /** The lines of several orders in one statement, in the order in which they were entered. */
-    [[nodiscard]] QList<EntityOrderDetail*> findByOrders(const QList<int>& orderIds);
-    [[nodiscard]] QList<EntityOrderDetail*> findByOrder(int orderId);
     /** Open orders of the table that have a line priced in another currency than this sign; -1 with an error. */
     [[nodiscard]] int countOrdersOfOtherCurrency(const QString& orderTable, const QString& sign);
 
 protected:
     DataMapperOrderDetail(QObject* parent, const QString& tableName, const QString& orderColumn,
                           const QString& orderProperty, KorDataMapper* orders, const ItemPartners& partners);
-
-private:
-    QString m_orderColumn;
 };
 
 /** Mapper of one kind of order: an order is always read with its lines, and written with them in one transaction. */
-class DataMapperOrder : public AppDocumentMapper
+class DataMapperOrder : public AppLinedDocumentMapper<EntityOrder>
 {
     Q_OBJECT
 
 public:
-    using AppDocumentMapper::AppDocumentMapper;
+    using AppLinedDocumentMapper::AppLinedDocumentMapper;
 
-    [[nodiscard]] KorEntity* findById(int id) override;
     bool remove(KorEntity* order) override;
     /** Open orders with a line priced in another currency than this sign; -1 with an error. */
     [[nodiscard]] int countOpenOfOtherCurrency(const QString& sign);
@@ -46,21 +39,10 @@ public:
     /** Orders by their ids, with lines; two statements. */
     [[nodiscard]] QList<EntityOrder*> findByIds(const QList<int>& ids);
 
-    [[nodiscard]] KorDataMapper* lineMapper() const override { return m_lines; }
-    [[nodiscard]] DataMapperOrderDetail* detailMapper() const { return m_lines; }
-
 protected:
-    void setDetailMapper(DataMapperOrderDetail* lines) { m_lines = lines; }
     /** In the words of the partial indexes, or the planner would not see that they answer it. */
     [[nodiscard]] static QString openOrders();
     /** With their lines: two statements, whatever their number. */
     QList<EntityOrder*> findOrders(const KorConditions& conditions);
     [[nodiscard]] virtual QString statusFailure() const = 0;
-
-    [[nodiscard]] QList<KorEntity*> linesOf(KorEntity* order) const override;
-    [[nodiscard]] QList<KorEntity*> removedLinesOf(KorEntity* order) const override;
-    void attachLine(KorEntity* line, int orderId) override;
-
-private:
-    DataMapperOrderDetail* m_lines = nullptr;
 };

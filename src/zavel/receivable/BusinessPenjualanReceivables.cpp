@@ -1,9 +1,9 @@
 #include "app/context/EntityPool.h"
 #include "app/persistence/AppDataMapper.h"
-#include "kor/business/KorServiceTransaction.h"
 #include "pos/invoice/DataMapperInvoice.h"
 #include "pos/invoice/InvoiceStatus.h"
 #include "zavel/list/EntityPenjualanInfo.h"
+#include "zavel/list/SalesFilter.h"
 #include "zavel/receivable/AmountLeft.h"
 #include "zavel/receivable/DataMapperPiutang.h"
 #include "zavel/receivable/DataMapperPiutangDetail.h"
@@ -87,15 +87,7 @@ bool BusinessPenjualan::updateInvoicesOfPiutang(const EntityPiutang* payment)
     return done;
 }
 
-bool BusinessPenjualan::remove(EntityPiutang* payment)
-{
-    DataMapperPiutangDetail* lines = m_mappers.receivables->lines();
-    const auto removeAll = [this, payment, lines] {
-        return written(lines->removeByPayment(payment->getId()), lines, "remove") &&
-               written(m_mappers.receivables->remove(payment), m_mappers.receivables, "remove");
-    };
-    return inOneTransaction(*this, "remove", removeAll, {}, {m_mappers.receivables->removalLockOf(payment->getId())});
-}
+bool BusinessPenjualan::remove(EntityPiutang* payment) { return removeSettlement(m_mappers.receivables, payment); }
 
 QList<EntityPiutang*> BusinessPenjualan::searchPiutang(const ReceivableFilter& filter)
 {

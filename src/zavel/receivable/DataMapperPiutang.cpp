@@ -4,7 +4,7 @@
 #include "pos/masterdata/account/DataMapperBank.h"
 #include "pos/masterdata/member/DataMapperMember.h"
 #include "zavel/receivable/DataMapperPiutangDetail.h"
-#include "zavel/service/SalesFilters.h"
+#include "zavel/receivable/ReceivableFilter.h"
 
 #include <QDebug>
 
@@ -24,21 +24,12 @@ DataMapperPiutang::DataMapperPiutang(QObject* parent, DataMapperKey* keys, DataM
     moneyColumns("grandtotal", "GrandTotal");
     reference("bank_id", "integer null", "Bank", accounts, "left");
     column("noref", "varchar(20)  null", "NoRef");
-    m_lines = new DataMapperPiutangDetail(this, invoices, employees, agents, members);
+    setLineMapper(new DataMapperPiutangDetail(this, invoices, employees, agents, members));
 }
 
-KorDataMapper* DataMapperPiutang::lineMapper() const { return m_lines; }
-
-KorEntity* DataMapperPiutang::findById(int id)
+DataMapperPiutangDetail* DataMapperPiutang::lines() const
 {
-    auto* payment = static_cast<EntityPiutang*>(NumberedDocumentMapper::findById(id));
-    if (!payment)
-        return nullptr;
-    payment->setDetails(m_lines->findByPayment(id));
-    if (!m_lines->hasError())
-        return payment;
-    setError(m_lines->takeError());
-    return nullptr;
+    return static_cast<DataMapperPiutangDetail*>(lineMapper());
 }
 
 QList<EntityPiutang*> DataMapperPiutang::search(const ReceivableFilter& filter)
@@ -62,16 +53,8 @@ QStringList DataMapperPiutang::indexStatements() const
 
 const AppDocumentMapper::Messages& DataMapperPiutang::messages() const
 {
-    static const Messages texts{tr("error: insert credit invoice failed"),
-                                tr("error: insert credit detail invoice failed.\r\n"),
-                                tr("error: update credit invoice failed"),
-                                tr("error: update credit invoice failed\r\n"),
-                                {},
-                                {}};
+    static const Messages texts{
+        tr("error: insert credit invoice failed"), tr("error: insert credit detail invoice failed.\r\n"),
+        tr("error: update credit invoice failed"), tr("error: update credit invoice failed\r\n")};
     return texts;
-}
-
-void DataMapperPiutang::attachLine(KorEntity* line, int documentId)
-{
-    static_cast<EntityPiutangDetail*>(line)->setPiutangId(documentId);
 }

@@ -22,18 +22,11 @@ public:
 
     [[nodiscard]] QString keyName() const override { return "PIU"; }
     KorEntity* createEntity() override;
-    /** With its lines. */
-    KorEntity* findById(int id) override;
     /** Without lines, the latest first. */
     [[nodiscard]] QList<EntityPiutang*> search(const ReceivableFilter& filter);
     [[nodiscard]] QStringList indexStatements() const override;
-    [[nodiscard]] KorDataMapper* lineMapper() const override;
-    [[nodiscard]] DataMapperPiutangDetail* lines() const { return m_lines; }
+    [[nodiscard]] DataMapperPiutangDetail* lines() const;
 
 protected:
     [[nodiscard]] const Messages& messages() const override;
-    void attachLine(KorEntity* line, int documentId) override;
-
-private:
-    DataMapperPiutangDetail* m_lines;
 };

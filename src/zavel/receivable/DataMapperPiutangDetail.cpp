@@ -11,12 +11,11 @@
 DataMapperPiutangDetail::DataMapperPiutangDetail(DataMapperPiutang* payments, DataMapperInvoice* invoices,
                                                  DataMapperEmployee* employees, DataMapperAgent* agents,
                                                  DataMapperMember* members)
-    : AppDataMapper(payments)
+    : AppLineMapper(payments)
 {
     setName("piutang detail");
     metaData()->setTableName("piutang_detail");
-    column("piutang_id", "integer not null", "PiutangId");
-    addJoin("PiutangId", payments, "inner", "piutang_id", "id");
+    documentColumn("piutang_id", "PiutangId", payments);
     column("invoice_id", "integer not null", "Invoice.Id");
     addJoin("Invoice", invoices, "inner", "piutang_detail.invoice_id", "id");
     addJoin("Employee", employees, "left", "invoice.employee_id", "id");
@@ -33,20 +32,8 @@ QStringList DataMapperPiutangDetail::indexStatements() const
     return {index("invoice_id", "(invoice_id)"), index("piutang_id", "(piutang_id)")};
 }
 
-QList<EntityPiutangDetail*> DataMapperPiutangDetail::findByPayment(int paymentId)
-{
-    return castAll<EntityPiutangDetail>(
-        findMany(KorConditions().equals("piutang_id", paymentId).ascending("piutang_detail.id")));
-}
-
 QList<EntityPiutangDetail*> DataMapperPiutangDetail::findByInvoices(const QList<int>& invoiceIds)
 {
     return castAll<EntityPiutangDetail>(
         findMany(KorConditions().oneOf("invoice_id", invoiceIds).ascending("piutang_detail.id")));
-}
-
-bool DataMapperPiutangDetail::removeByPayment(int paymentId)
-{
-    KorQuery query;
-    return execute(query, "delete from piutang_detail where piutang_id = :id", {{":id", paymentId}});
 }

@@ -8,6 +8,7 @@
 #include "pos/masterdata/member/MemberTextBox.h"
 #include "zavel/receivable/DialogPiutang.h"
 #include "zavel/receivable/EntityPiutang.h"
+#include "zavel/receivable/ReceivableFilter.h"
 #include "zavel/receivable/TableModelPiutang.h"
 #include "zavel/service/BusinessPenjualan.h"
 

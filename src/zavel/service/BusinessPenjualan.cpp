@@ -1,6 +1,7 @@
 #include "zavel/service/BusinessPenjualan.h"
 
-#include "kor/persistence/KorDataMapper.h"
+#include "app/persistence/AppDocumentMapper.h"
+#include "kor/business/KorServiceTransaction.h"
 
 // The service itself. What it does for one way of selling, or for one kind of payment, lies in that one's folder.
 
@@ -31,4 +32,14 @@ bool BusinessPenjualan::clearTransactions()
             return false;
     }
     return true;
+}
+
+bool BusinessPenjualan::removeSettlement(AppDocumentMapper* settlements, KorEntity* payment)
+{
+    AppLineMapper* lines = settlements->lineMapper();
+    const auto removeAll = [&] {
+        return written(lines->removeByDocument(payment->getId()), lines, "remove") &&
+               written(settlements->remove(payment), settlements, "remove");
+    };
+    return inOneTransaction(*this, "remove", removeAll, {}, {settlements->removalLockOf(payment->getId())});
 }

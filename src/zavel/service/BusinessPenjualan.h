@@ -1,8 +1,10 @@
 #pragma once
 
 #include "kor/business/KorBusinessLogic.h"
-#include "zavel/service/SalesFilters.h"
 
+#include <QDate>
+
+class AppDocumentMapper;
 class DataMapperAllAgentCommision;
 class DataMapperBawaPulang;
 class DataMapperInvoice;
@@ -31,6 +33,11 @@ class EntitySalesSummaryInfo;
 class EntitySoldItem;
 class IInvoice;
 class Invoice;
+struct AgentSalesFilter;
+struct CommissionFilter;
+struct FastFoodFilter;
+struct ReceivableFilter;
+struct SalesFilter;
 
 /**
  * The one service of sales. It keeps a failure under the operation's name; a read that finds nothing returns null
@@ -190,6 +197,8 @@ private:
     [[nodiscard]] DataMapperInvoiceLink* mapperOf(IInvoice* sale) const;
     bool setOrderStatus(IInvoice* sale, bool isFirst);
     bool followInvoices(EntityMakanDitempat* order);
+    /** The payment with all its lines, also those whose invoice is gone. */
+    bool removeSettlement(AppDocumentMapper* settlements, KorEntity* payment);
     bool setDineStatus(EntityMakanDitempat* order, int status);
     /** The invoices that the payment pays of, as they stand, and what members have paid of each; false if it failed. */
     bool readPaidInvoices(const EntityPiutang* payment, QList<Invoice*>* invoices, QHash<int, double>* paid);

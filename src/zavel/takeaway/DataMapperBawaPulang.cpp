@@ -13,7 +13,7 @@ DataMapperBawaPulang::DataMapperBawaPulang(QObject* parent, DataMapperMember* me
     reference("member_id", "integer null", "Member", members, "left");
     column("pemesan", "varchar(100)", "Pemesan");
     column("tgl", "date not null", "Tgl");
-    setDetailMapper(new DataMapperBawaPulangDetail(this, this, partners));
+    setLineMapper(new DataMapperBawaPulangDetail(this, this, partners));
 }
 
 KorEntity* DataMapperBawaPulang::createEntity() { return new EntityBawaPulang(entityParent()); }

@@ -2,6 +2,7 @@
 
 #include "app/widgets/MoneyEdit.h"
 #include "pos/cash/settlement/EntityPartPayment.h"
+#include "pos/cash/settlement/EntitySettlement.h"
 #include "pos/cash/settlement/SettlementDialog.h"
 
 #include <QComboBox>
@@ -29,8 +30,8 @@ protected:
         for (const auto& type : types)
             ui.ddlPaymentType->addItem(type.first, type.second);
     }
-    template <class Ui, class Payment>
-    static void showPayment(const Ui& ui, const Payment& payment)
+    template <class Ui>
+    static void showPayment(const Ui& ui, const EntityPartSettlement& payment)
     {
         ui.txtKode->setText(payment.getNo());
         ui.ddlPaymentType->setCurrentIndex(ui.ddlPaymentType->findData(payment.getPaymentType()));
@@ -39,8 +40,8 @@ protected:
         ui.datePay->setDate(payment.getDate());
         ui.txtNotes->setPlainText(payment.getNote());
     }
-    template <class Ui, class Payment>
-    void takePayment(const Ui& ui, Payment* payment) const
+    template <class Ui>
+    void takePayment(const Ui& ui, EntityPartSettlement* payment) const
     {
         payment->setPaymentType(ui.ddlPaymentType->currentData().toInt());
         payment->setDate(ui.datePay->date());

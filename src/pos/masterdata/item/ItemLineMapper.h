@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/persistence/AppDataMapper.h"
+#include "app/persistence/AppLineMapper.h"
 
 class DataMapperItem;
 class DataMapperJenisItem;
@@ -14,24 +14,16 @@ struct ItemPartners
     DataMapperSatuan* units;
 };
 
-/** Base of the mappers of lines with an item: the document's id, the item, and the indexes that both need. */
-class ItemLineMapper : public AppDataMapper
+/** Base of the mappers of lines with an item: the item, and the indexes that it and the document need. */
+class ItemLineMapper : public AppLineMapper
 {
     Q_OBJECT
 
 public:
-    using AppDataMapper::AppDataMapper;
-
-    /** In the order of entry. */
-    [[nodiscard]] QList<KorEntity*> findByDocument(int documentId);
+    using AppLineMapper::AppLineMapper;
 
 protected:
-    /** The document's id, held as a number; the join labels the document and gives the foreign key. */
-    void documentColumn(const QString& name, const QString& property, KorDataMapper* document);
     void itemColumn(const ItemPartners& partners);
     /** One index for a document's lines, and one that answers how much of an item they hold from itself alone. */
-    [[nodiscard]] QStringList lineIndexes(const QString& documentColumn, const QString& quantityColumn) const;
-
-private:
-    QString m_documentColumn;
+    [[nodiscard]] QStringList lineIndexes(const QString& quantityColumn) const;
 };

@@ -75,16 +75,8 @@ PurchasingColumns DataMapperCreditNote::filterColumns() const
 
 const AppDocumentMapper::Messages& DataMapperCreditNote::messages() const
 {
-    static const Messages texts{tr("error: insert credit note failed"),
-                                tr("error: insert credit note detail failed.\r\n"),
-                                tr("error: update credit note failed"),
-                                tr("error: update credit note detail failed\r\n"),
-                                {},
-                                {}};
+    static const Messages texts{
+        tr("error: insert credit note failed"), tr("error: insert credit note detail failed.\r\n"),
+        tr("error: update credit note failed"), tr("error: update credit note detail failed\r\n")};
     return texts;
-}
-
-void DataMapperCreditNote::attachLine(KorEntity* line, int documentId)
-{
-    static_cast<EntityCreditNoteDetail*>(line)->setCreditNoteId(documentId);
 }

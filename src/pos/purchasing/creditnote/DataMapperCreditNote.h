@@ -7,7 +7,7 @@ class DataMapperBank;
 class DataMapperSupplier;
 
 /** Credit notes with their lines, in the tables "credit_note" and "credit_note_detail". */
-class DataMapperCreditNote final : public PurchasingDocumentMapper<EntityCreditNote, EntityCreditNoteDetail>
+class DataMapperCreditNote final : public PurchasingDocumentMapper<EntityCreditNote>
 {
     Q_OBJECT
 
@@ -28,6 +28,5 @@ public:
 
 protected:
     [[nodiscard]] const Messages& messages() const override;
-    void attachLine(KorEntity* line, int documentId) override;
     [[nodiscard]] PurchasingColumns filterColumns() const override;
 };

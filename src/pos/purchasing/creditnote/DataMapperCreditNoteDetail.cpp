@@ -21,7 +21,4 @@ DataMapperCreditNoteDetail::DataMapperCreditNoteDetail(DataMapperCreditNote* not
 
 KorEntity* DataMapperCreditNoteDetail::createEntity() { return new EntityCreditNoteDetail(entityParent()); }
 
-QStringList DataMapperCreditNoteDetail::indexStatements() const
-{
-    return lineIndexes("credit_note_id", "qty_returned");
-}
+QStringList DataMapperCreditNoteDetail::indexStatements() const { return lineIndexes("qty_returned"); }

@@ -9,8 +9,6 @@ PurchasingService::PurchasingService(const QString& name, AppDocumentMapper* doc
 
 AppDocumentMapper* PurchasingService::documents() const { return static_cast<AppDocumentMapper*>(mapper()); }
 
-KorDataMapper* PurchasingService::mapperOf(const KorEntity&) const { return documents()->lineMapper(); }
-
 bool PurchasingService::insert(KorEntity* document) { return save(*document, Insert); }
 
 bool PurchasingService::update(KorEntity* document) { return save(*document, Update); }
@@ -30,7 +28,8 @@ bool PurchasingService::remove(KorEntity* document)
     const auto removeAll = [this, document] {
         const QList<KorEntity*> lines = linesOf(*document);
         for (KorEntity* line : lines) {
-            if (!written(mapperOf(*line)->remove(line), mapperOf(*line), "remove"))
+            AppLineMapper* mapper = documents()->mapperOf(line);
+            if (!written(mapper->remove(line), mapper, "remove"))
                 return false;
         }
         return written(mapper()->remove(document), mapper(), "remove");

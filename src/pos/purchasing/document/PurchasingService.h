@@ -33,7 +33,6 @@ protected:
     /** What follows from the saved document; a failure is kept in the service. */
     virtual bool afterSave(const KorEntity&, Save) { return true; }
     [[nodiscard]] virtual QList<KorEntity*> linesOf(const KorEntity& document) const = 0;
-    [[nodiscard]] virtual KorDataMapper* mapperOf(const KorEntity& line) const;
     /** The family's words for a transaction that does not begin; empty for the usual ones. */
     [[nodiscard]] virtual QString notBegunText() const { return {}; }
 

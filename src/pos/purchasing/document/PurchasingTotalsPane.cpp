@@ -17,10 +17,10 @@ TotalsCascade::Boxes PurchasingTotalsPane::boxes() const
     return {m_ui->txtSubTotal,
             {m_ui->txtDiscPerc, m_hasTax ? m_ui->txtTaxPerc : nullptr, nullptr},
             {m_ui->txtDiscount, m_hasTax ? m_ui->txtTax : nullptr, nullptr},
-            m_hasMoney ? m_ui->txtPaid : nullptr,
-            m_hasMoney && m_hasCredit ? m_ui->txtCredit : nullptr,
+            m_ui->txtPaid,
+            m_hasCredit ? m_ui->txtCredit : nullptr,
             {m_ui->txtGrandTotal},
-            m_hasMoney ? m_ui->txtNetDue : nullptr,
+            m_ui->txtNetDue,
             m_ui->lblNetDue};
 }
 
@@ -36,8 +36,6 @@ void PurchasingTotalsPane::setNote(const QString& text)
 
 void PurchasingTotalsPane::setPaidCaption(const QString& text) { m_ui->lblPaid->setText(text); }
 
-void PurchasingTotalsPane::setAccountCaption(const QString& text) { m_ui->lblAccount->setText(text); }
-
 void PurchasingTotalsPane::hideTax()
 {
     m_hasTax = false;
@@ -50,12 +48,4 @@ void PurchasingTotalsPane::hideCredit()
     m_hasCredit = false;
     m_ui->lblCredit->hide();
     m_ui->txtCredit->hide();
-}
-
-void PurchasingTotalsPane::hideMoney()
-{
-    m_hasMoney = false;
-    hideCredit();
-    for (QWidget* widget : QList<QWidget*>{m_ui->lblPaid, m_ui->txtPaid, m_ui->lblNetDue, m_ui->txtNetDue})
-        widget->hide();
 }

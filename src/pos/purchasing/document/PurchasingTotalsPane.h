@@ -30,15 +30,11 @@ public:
 
     // What a form calls a row, and which rows it does without.
     void setPaidCaption(const QString& text);
-    void setAccountCaption(const QString& text);
     void hideTax();
     void hideCredit();
-    /** What was paid, other credits and what is due. */
-    void hideMoney();
 
 private:
     std::unique_ptr<Ui::PurchasingTotalsPane> m_ui;
     bool m_hasTax = true;
     bool m_hasCredit = true;
-    bool m_hasMoney = true;
 };

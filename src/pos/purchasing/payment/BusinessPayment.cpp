@@ -53,5 +53,3 @@ QList<KorEntity*> BusinessPayment::linesOf(const KorEntity& payment) const
     return asEntities(asPayment(payment).expenses().getDetails()) +
            asEntities(asPayment(payment).invoices().getDetails());
 }
-
-KorDataMapper* BusinessPayment::mapperOf(const KorEntity& line) const { return m_payments->mapperOf(&line); }

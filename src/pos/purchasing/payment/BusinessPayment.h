@@ -34,7 +34,6 @@ public:
 protected:
     bool afterSave(const KorEntity& payment, Save kind) override;
     [[nodiscard]] QList<KorEntity*> linesOf(const KorEntity& payment) const override;
-    [[nodiscard]] KorDataMapper* mapperOf(const KorEntity& line) const override;
 
 private:
     DataMapperPayment* m_payments;

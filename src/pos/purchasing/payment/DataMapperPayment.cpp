@@ -9,7 +9,7 @@
 
 DataMapperPayment::DataMapperPayment(QObject* parent, DataMapperKey* keys, DataMapperSupplier* suppliers,
                                      DataMapperBank* accounts, DataMapperAcquisition* purchases, ItemPartners partners)
-    : PurchasingHeaderMapper(parent, keys)
+    : PurchasingDocumentMapper(parent, keys)
 {
     setName("payment");
     metaData()->setTableName("payment");
@@ -22,31 +22,13 @@ DataMapperPayment::DataMapperPayment(QObject* parent, DataMapperKey* keys, DataM
     moneyColumns("grandtotal", "GrandTotal");
     reference("bank_id", "integer null", "Bank", accounts, "left");
     column("noref", "varchar(20)  null", "NoRef");
-    m_invoices = new DataMapperPaymentInvoices(this, purchases, accounts);
+    setLineMapper(new DataMapperPaymentInvoices(this, purchases, accounts));
     m_expenses = new DataMapperPaymentExpenses(this, partners);
 }
 
 KorEntity* DataMapperPayment::createEntity() { return new EntityPayment(entityParent()); }
 
-KorDataMapper* DataMapperPayment::lineMapper() const { return m_invoices; }
-
-QList<KorDataMapper*> DataMapperPayment::lineMappers() const { return {m_invoices, m_expenses}; }
-
-KorEntity* DataMapperPayment::findById(int id)
-{
-    EntityPayment* payment = findHeader(id);
-    if (!payment)
-        return nullptr;
-    payment->invoices().setDetails(castAll<EntityPaymentInvoices>(m_invoices->findByPayment(id)));
-    payment->expenses().setDetails(castAll<EntityPaymentExpenses>(m_expenses->findByDocument(id)));
-    for (KorDataMapper* lines : lineMappers()) {
-        if (lines->hasError()) {
-            setError(lines->takeError());
-            return nullptr;
-        }
-    }
-    return payment;
-}
+QList<KorDataMapper*> DataMapperPayment::lineMappers() const { return {lineMapper(), m_expenses}; }
 
 PurchasingColumns DataMapperPayment::filterColumns() const
 {
@@ -61,12 +43,9 @@ QStringList DataMapperPayment::indexStatements() const
 
 const AppDocumentMapper::Messages& DataMapperPayment::messages() const
 {
-    static const Messages texts{tr("error: insert Purchase failed"),
-                                tr("error: insert payment detail:invoice failed.\r\n"),
-                                tr("error: update payment invoice failed"),
-                                tr("error: update payment invoice failed\r\n"),
-                                {},
-                                {}};
+    static const Messages texts{
+        tr("error: insert Purchase failed"), tr("error: insert payment detail:invoice failed.\r\n"),
+        tr("error: update payment invoice failed"), tr("error: update payment invoice failed\r\n")};
     return texts;
 }
 
@@ -82,17 +61,17 @@ QList<KorEntity*> DataMapperPayment::removedLinesOf(KorEntity* document) const
     return asEntities(payment->invoices().getRemovedDetails()) + asEntities(payment->expenses().getRemovedDetails());
 }
 
-void DataMapperPayment::attachLine(KorEntity* line, int documentId)
+void DataMapperPayment::readLines(KorEntity* document)
 {
-    if (auto* expense = qobject_cast<EntityPaymentExpenses*>(line))
-        expense->setPaymentId(documentId);
-    else
-        static_cast<EntityPaymentInvoices*>(line)->setPaymentId(documentId);
+    auto* payment = static_cast<EntityPayment*>(document);
+    const int id = payment->getId();
+    payment->invoices().setDetails(castAll<EntityPaymentInvoices>(lineMapper()->findByDocument(id)));
+    payment->expenses().setDetails(castAll<EntityPaymentExpenses>(m_expenses->findByDocument(id)));
 }
 
-KorDataMapper* DataMapperPayment::mapperOf(const KorEntity* line) const
+AppLineMapper* DataMapperPayment::mapperOf(const KorEntity* line) const
 {
     if (qobject_cast<const EntityPaymentExpenses*>(line))
         return m_expenses;
-    return m_invoices;
+    return lineMapper();
 }

@@ -18,4 +18,4 @@ DataMapperPaymentExpenses::DataMapperPaymentExpenses(DataMapperPayment* payments
 
 KorEntity* DataMapperPaymentExpenses::createEntity() { return new EntityPaymentExpenses(entityParent()); }
 
-QStringList DataMapperPaymentExpenses::indexStatements() const { return lineIndexes("payment_id", "qty"); }
+QStringList DataMapperPaymentExpenses::indexStatements() const { return lineIndexes("qty"); }

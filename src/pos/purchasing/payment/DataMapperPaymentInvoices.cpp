@@ -7,12 +7,11 @@
 
 DataMapperPaymentInvoices::DataMapperPaymentInvoices(DataMapperPayment* payments, DataMapperAcquisition* purchases,
                                                      DataMapperBank* accounts)
-    : AppDataMapper(payments)
+    : AppLineMapper(payments)
 {
     setName("payment invoice");
     metaData()->setTableName("payment_invoice");
-    column("payment_id", "integer not null", "PaymentId");
-    addJoin("PaymentId", payments, "inner", "payment_id", "id");
+    documentColumn("payment_id", "PaymentId", payments);
     reference("acquisition_id", "integer not null", "Acquisition", purchases, "inner");
     addJoin("Bank", accounts, "left", "acquisition.bank_id", "id");
     moneyColumns("amount_paid", "AmountPaid");
@@ -24,9 +23,4 @@ KorEntity* DataMapperPaymentInvoices::createEntity() { return new EntityPaymentI
 QStringList DataMapperPaymentInvoices::indexStatements() const
 {
     return {index("payment_id", "(payment_id)"), index("acquisition_id", "(acquisition_id)")};
-}
-
-QList<KorEntity*> DataMapperPaymentInvoices::findByPayment(int paymentId)
-{
-    return findMany(KorConditions().equals("payment_id", paymentId).ascending("payment_invoice.id"));
 }

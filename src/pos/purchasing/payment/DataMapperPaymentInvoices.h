@@ -1,13 +1,13 @@
 #pragma once
 
-#include "app/persistence/AppDataMapper.h"
+#include "app/persistence/AppLineMapper.h"
 
 class DataMapperAcquisition;
 class DataMapperBank;
 class DataMapperPayment;
 
 /** What payments paid of purchases, in the table "payment_invoice". */
-class DataMapperPaymentInvoices final : public AppDataMapper
+class DataMapperPaymentInvoices final : public AppLineMapper
 {
     Q_OBJECT
 
@@ -16,7 +16,4 @@ public:
 
     KorEntity* createEntity() override;
     [[nodiscard]] QStringList indexStatements() const override;
-
-    /** In the order of entry. */
-    [[nodiscard]] QList<KorEntity*> findByPayment(int paymentId);
 };

@@ -17,5 +17,4 @@ protected:
     std::unique_ptr<KorDialog> createDialog() override;
     [[nodiscard]] QString deleteQuestion(const KorEntity* entity) const override;
     [[nodiscard]] QString notFoundText(int id) const override;
-    [[nodiscard]] QString deleteNotFoundText(int id) const override { return notFoundText(id); }
 };

@@ -109,16 +109,8 @@ QList<KorMigration*> DataMapperAcquisition::migrations() { return {new DataMappe
 
 const AppDocumentMapper::Messages& DataMapperAcquisition::messages() const
 {
-    static const Messages texts{tr("error: insert Purchase failed"),
-                                tr("error: insert Purchase detail failed.\r\n"),
+    static const Messages texts{tr("error: insert Purchase failed"), tr("error: insert Purchase detail failed.\r\n"),
                                 tr("error: update acquisition failed"),
-                                tr("error: update acquisition detail failed\r\n"),
-                                {},
-                                {}};
+                                tr("error: update acquisition detail failed\r\n")};
     return texts;
-}
-
-void DataMapperAcquisition::attachLine(KorEntity* line, int documentId)
-{
-    static_cast<EntityAcquisitionDetail*>(line)->setAcquisitionId(documentId);
 }

@@ -12,8 +12,7 @@ class DataMapperSupplier;
  * Purchases with their lines, in the tables "acquisition" and "acquisition_detail". A save that was taken back because
  * of a line returns true and leaves its error: whoever saves here must ask hasError() as well.
  */
-class DataMapperAcquisition final : public PurchasingDocumentMapper<EntityAcquisition, EntityAcquisitionDetail>,
-                                    public PurchasesOfOrders
+class DataMapperAcquisition final : public PurchasingDocumentMapper<EntityAcquisition>, public PurchasesOfOrders
 {
     Q_OBJECT
 
@@ -41,7 +40,6 @@ public:
 
 protected:
     [[nodiscard]] const Messages& messages() const override;
-    void attachLine(KorEntity* line, int documentId) override;
     [[nodiscard]] bool resultOfFailedLines() const override { return true; }
     [[nodiscard]] PurchasingColumns filterColumns() const override;
 };

@@ -26,7 +26,7 @@ KorEntity* DataMapperAcquisitionDetail::createEntity() { return new EntityAcquis
 
 QStringList DataMapperAcquisitionDetail::indexStatements() const
 {
-    return lineIndexes("acquisition_id", "qty") << index("po_detail_id", "(po_detail_id)");
+    return lineIndexes("qty") << index("po_detail_id", "(po_detail_id)");
 }
 
 QList<KorMigration*> DataMapperAcquisitionDetail::migrations()

@@ -54,16 +54,7 @@ PurchasingColumns DataMapperPurchaseOrder::filterColumns() const
 
 const AppDocumentMapper::Messages& DataMapperPurchaseOrder::messages() const
 {
-    static const Messages texts{tr("error: insert PO failed"),
-                                tr("error: insert PO detail failed"),
-                                tr("error: update PO failed"),
-                                tr("error: update PO detail failed"),
-                                {},
-                                {}};
+    static const Messages texts{tr("error: insert PO failed"), tr("error: insert PO detail failed"),
+                                tr("error: update PO failed"), tr("error: update PO detail failed")};
     return texts;
-}
-
-void DataMapperPurchaseOrder::attachLine(KorEntity* line, int documentId)
-{
-    static_cast<EntityPurchaseOrderDetail*>(line)->setPurchaseOrderId(documentId);
 }

@@ -7,7 +7,7 @@ class DataMapperBank;
 class DataMapperSupplier;
 
 /** Purchase orders with their lines, in the tables "purchase_order" and "purchase_order_detail". */
-class DataMapperPurchaseOrder final : public PurchasingDocumentMapper<EntityPurchaseOrder, EntityPurchaseOrderDetail>
+class DataMapperPurchaseOrder final : public PurchasingDocumentMapper<EntityPurchaseOrder>
 {
     Q_OBJECT
 
@@ -24,6 +24,5 @@ public:
 
 protected:
     [[nodiscard]] const Messages& messages() const override;
-    void attachLine(KorEntity* line, int documentId) override;
     [[nodiscard]] PurchasingColumns filterColumns() const override;
 };

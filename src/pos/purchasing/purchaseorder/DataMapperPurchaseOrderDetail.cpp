@@ -20,7 +20,4 @@ DataMapperPurchaseOrderDetail::DataMapperPurchaseOrderDetail(DataMapperPurchaseO
 
 KorEntity* DataMapperPurchaseOrderDetail::createEntity() { return new EntityPurchaseOrderDetail(entityParent()); }
 
-QStringList DataMapperPurchaseOrderDetail::indexStatements() const
-{
-    return lineIndexes("purchase_order_id", "jumlah");
-}
+QStringList DataMapperPurchaseOrderDetail::indexStatements() const { return lineIndexes("jumlah"); }
