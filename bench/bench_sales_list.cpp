@@ -5,6 +5,7 @@
 #include "support/SalesRows.h"
 #include "support/ShopRows.h"
 #include "zavel/list/DataMapperPenjualanInfo.h"
+#include "zavel/list/SalesFilter.h"
 #include "zavel/list/TabDaftarPenjualan.h"
 #include "zavel/registry/ZavelMapperRegistry.h"
 #include "zavel/service/BusinessPenjualan.h"

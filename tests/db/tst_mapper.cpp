@@ -12,6 +12,8 @@
 #include <QTest>
 #include <QThread>
 
+Q_DECLARE_METATYPE(KorConditions)
+
 /** What every mapper does, shown on the restaurant's tables. */
 class TestMapper : public QObject
 {
@@ -42,6 +44,46 @@ private slots:
         QCOMPARE(found->getUpdatedBy(), KorNoValue);
         QCOMPARE(found->getVersion(), 1);
         QVERIFY(qAbs(found->getCreatedTime().secsTo(QDateTime::currentDateTime())) < 5);
+    }
+
+    void conditionsChooseRows_data()
+    {
+        const QStringList texts{"lower(kode)", "lower(nama)"};
+        QTest::addColumn<KorConditions>("conditions");
+        QTest::addColumn<QString>("codes");
+        QTest::newRow("none") << KorConditions().ascending("kode") << "A1 B2 C3";
+        QTest::newRow("an order of two") << KorConditions().descending("nama = ''").ascending("kode") << "C3 A1 B2";
+        QTest::newRow("a quote") << KorConditions().equals("nama", "it's 100%") << "B2";
+        QTest::newRow("an empty value") << KorConditions().equals("nama", "") << "C3";
+        QTest::newRow("no value") << KorConditions().equals("nama", QVariant()) << "";
+        QTest::newRow("one of several, and another")
+            << KorConditions().contains(texts, "I").differs("kode", "A1") << "B2";
+        QTest::newRow("another, and one of several")
+            << KorConditions().holds("nama <> ''").contains(texts, "c").ascending("kode") << "";
+        QTest::newRow("ids") << KorConditions().oneOf("length(nama)", {0, 6}).ascending("kode") << "A1 C3";
+        QTest::newRow("no ids") << KorConditions().oneOf("length(nama)", {}) << "";
+        QTest::newRow("up to a day") << KorConditions().between("date '2026-03-01'", {}, {2026, 2, 28}) << "";
+        QTest::newRow("left open") << KorConditions()
+                                          .between("date '2026-03-01'", {}, {})
+                                          .contains("nama", "")
+                                          .only("id", KorNoValue)
+                                          .only("nama", "")
+                                          .ascending("kode")
+                                   << "A1 B2 C3";
+    }
+    void conditionsChooseRows()
+    {
+        QFETCH(KorConditions, conditions);
+        QFETCH(QString, codes);
+        m_database->run("INSERT INTO meja (kode, nama, version) VALUES ('A1', 'Window', 1), ('B2', 'it''s 100%', 1), "
+                        "('C3', '', 1)");
+        KorPaging paging;
+        conditions.fill(paging);
+        QStringList found;
+        for (const KorEntity* table : m_mapper->find(&paging))
+            found.append(static_cast<const EntityMeja*>(table)->getKode());
+        QVERIFY2(!m_mapper->hasError(), qPrintable(m_mapper->takeError()));
+        QCOMPARE(found.join(' '), codes);
     }
 
     void manyTablesAtOnceAreStoredAsOneByOne_data()

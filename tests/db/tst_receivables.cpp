@@ -4,6 +4,7 @@
 #include "support/ShopRows.h"
 #include "support/TestDatabase.h"
 #include "zavel/receivable/EntityPiutang.h"
+#include "zavel/receivable/ReceivableFilter.h"
 #include "zavel/service/BusinessPenjualan.h"
 
 #include <QRandomGenerator>

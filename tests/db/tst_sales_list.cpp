@@ -7,6 +7,7 @@
 #include "zavel/list/EntityPenjualanInfo.h"
 #include "zavel/list/EntitySalesSummaryInfo.h"
 #include "zavel/list/EntitySoldItem.h"
+#include "zavel/list/SalesFilter.h"
 #include "zavel/service/BusinessPenjualan.h"
 
 #include <QRandomGenerator>

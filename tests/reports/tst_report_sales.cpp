@@ -9,10 +9,12 @@
 #include "support/SalesRows.h"
 #include "support/ShopRows.h"
 #include "support/TestDatabase.h"
+#include "zavel/commission/CommissionFilters.h"
 #include "zavel/commission/EntityAllKomisiAgen.h"
 #include "zavel/list/EntityPenjualanInfo.h"
 #include "zavel/list/EntitySalesSummaryInfo.h"
 #include "zavel/list/EntitySoldItem.h"
+#include "zavel/list/SalesFilter.h"
 #include "zavel/receivable/EntityPiutangDetail.h"
 #include "zavel/service/BusinessPenjualan.h"
 
