@@ -27,6 +27,19 @@ AppListTab::AppListTab(const Page& page, QWidget* parent)
     connect(focusFilter, &QShortcut::activated, m_ui->txtFilter, [this] { m_ui->txtFilter->setFocus(); });
 }
 
+AppListTab::AppListTab(const Page& page, int filtersPerRow, QWidget* parent) : AppListTab(page, parent)
+{
+    m_filters = new AppFilterBar(filtersPerRow, this);
+    m_ui->lblFilter->hide();
+    m_ui->txtFilter->hide();
+    m_ui->txtFilter->setEnabled(false);
+    // A page may give the name to a filter of its own.
+    m_ui->txtFilter->setObjectName(QString());
+    m_ui->filterLayout->insertWidget(0, m_filters, 1);
+    m_ui->filterLayout->setAlignment(m_ui->btnSearch, Qt::AlignTop);
+    setTabOrder(m_filters, m_ui->btnSearch);
+}
+
 AppListTab::~AppListTab()
 {
     if (m_model)
@@ -183,18 +196,6 @@ void AppListTab::tellNotFound(const QString& text)
     // A row that could not be read has not gone.
     if (!KorErrorBox::tell(this, m_business->takeErrors()))
         QMessageBox::information(this, tr("Error"), text);
-}
-
-void AppListTab::replaceTextFilter(QWidget* filters)
-{
-    m_ui->lblFilter->hide();
-    m_ui->txtFilter->hide();
-    m_ui->txtFilter->setEnabled(false);
-    // A page may give the name to a filter of its own.
-    m_ui->txtFilter->setObjectName(QString());
-    m_ui->filterLayout->insertWidget(0, filters, 1);
-    m_ui->filterLayout->setAlignment(m_ui->btnSearch, Qt::AlignTop);
-    setTabOrder(filters, m_ui->btnSearch);
 }
 
 void AppListTab::addFoot(QWidget* foot)

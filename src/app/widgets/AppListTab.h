@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/context/EntityPool.h"
+#include "app/widgets/AppFilterBar.h"
 #include "app/widgets/AppTab.h"
 
 #include <memory>
@@ -35,6 +36,8 @@ public:
     };
 
     AppListTab(const Page& page, QWidget* parent);
+    /** For a list of documents: several filters in the place of one text. The page makes and reads them itself. */
+    AppListTab(const Page& page, int filtersPerRow, QWidget* parent);
     ~AppListTab() override;
 
 public slots:
@@ -86,8 +89,6 @@ protected:
     bool runDialog(KorDialog& dialog, bool isNew);
     void showServiceError(bool critical = true);
     void tellNotFound(const QString& text);
-    /** Puts a page's own filters where the text box and its label stand. */
-    void replaceTextFilter(QWidget* filters);
     /** Totals and the like, between the list and the buttons. */
     void addFoot(QWidget* foot);
     /** A further button in the row below the list, after those that every list has; the caller connects it. */
@@ -101,6 +102,8 @@ protected:
     {
         return static_cast<Service*>(m_business);
     }
+    /** Null on a page with one text. */
+    [[nodiscard]] AppFilterBar* filters() const { return m_filters; }
     [[nodiscard]] QTableView* grid() const;
     [[nodiscard]] KorEntityModel* model() const { return m_model; }
     /** Where a page puts further filters, between the filter box and the search button. */
@@ -116,6 +119,7 @@ private:
     std::unique_ptr<Ui::ListPage> m_ui;
     QString m_serviceName;
     KorBusinessLogic* m_business;
+    AppFilterBar* m_filters = nullptr;
     KorEntityModel* m_model = nullptr;
     bool m_justSaved = false;
     // The records of the rows shown; the next refresh frees them with all that was read with them.

@@ -25,7 +25,7 @@ EntityKomisiAgen* payment(KorEntity* entity) { return static_cast<EntityKomisiAg
 } // namespace
 
 TabAllKomisiAgen::TabAllKomisiAgen(QWidget* parent)
-    : AppDocumentTab({tr("Agent Commissions"), "tblAllKomisiAgen", businessName}, 4, parent)
+    : AppListTab({tr("Agent Commissions"), "tblAllKomisiAgen", businessName}, 4, parent)
 {
     const QDate today = QDate::currentDate();
     m_from = filters()->addDate("dateFrom", tr("From Date :"), today.addDays(1 - today.day()));

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/widgets/AppDocumentTab.h"
+#include "app/widgets/AppListTab.h"
 
 class EntityAgent;
 class EntityAllKomisiAgen;
@@ -10,7 +10,7 @@ template <typename Entity>
 class RecordField;
 
 /** The invoices that agents brought: what each earns, and whether it was paid. Paying opens the commission form. */
-class TabAllKomisiAgen final : public AppDocumentTab
+class TabAllKomisiAgen final : public AppListTab
 {
     Q_OBJECT
 

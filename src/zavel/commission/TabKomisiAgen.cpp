@@ -18,7 +18,7 @@ EntityKomisiAgen* commission(KorEntity* entity) { return static_cast<EntityKomis
 } // namespace
 
 TabKomisiAgen::TabKomisiAgen(QWidget* parent)
-    : AppDocumentTab({tr("Agent Commission Payments"), "tblKomisiAgen", "Sales"}, 4, parent)
+    : AppListTab({tr("Agent Commission Payments"), "tblKomisiAgen", "Sales"}, 4, parent)
 {
     const QDate today = QDate::currentDate();
     m_from = filters()->addDate("dateFrom", tr("From Date :"), today.addDays(1 - today.day()));

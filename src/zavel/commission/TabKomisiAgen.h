@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/widgets/AppDocumentTab.h"
+#include "app/widgets/AppListTab.h"
 
 class EntityAgent;
 class QDateEdit;
@@ -9,7 +9,7 @@ template <typename Entity>
 class RecordField;
 
 /** The list of commissions paid to agents. */
-class TabKomisiAgen final : public AppDocumentTab
+class TabKomisiAgen final : public AppListTab
 {
     Q_OBJECT
 

@@ -29,7 +29,7 @@ constexpr double changeScale = 1.8;
 } // namespace
 
 TabFastFood::TabFastFood(QWidget* parent)
-    : AppDocumentTab({tr("Fast Food"), "tblMeja", businessName}, filtersPerRow, parent), m_changeRow(new QWidget(this)),
+    : AppListTab({tr("Fast Food"), "tblMeja", businessName}, filtersPerRow, parent), m_changeRow(new QWidget(this)),
       m_sale(new QLabel(m_changeRow)), m_change(new QLabel(m_changeRow))
 {
     makeFilters();
@@ -119,7 +119,7 @@ bool TabFastFood::asksOnce(int key) const { return key == BusinessPenjualan::SAV
 void TabFastFood::on_btnAdd_clicked()
 {
     m_changeRow->hide();
-    AppDocumentTab::on_btnAdd_clicked();
+    AppListTab::on_btnAdd_clicked();
 }
 
 void TabFastFood::showChange(const EntityInvoiceFastFood& sale)
@@ -142,7 +142,7 @@ bool TabFastFood::editEntity(KorEntity* sale)
 {
     // To take money is one right, to touch what somebody has sold already is another one. A sale of somebody else's
     // is passed over, and the walk goes on.
-    return !hasAccess(businessName, BusinessPenjualan::UBAH_PESANAN, sale) || AppDocumentTab::editEntity(sale);
+    return !hasAccess(businessName, BusinessPenjualan::UBAH_PESANAN, sale) || AppListTab::editEntity(sale);
 }
 
 bool TabFastFood::insertEntity(KorEntity* sale)

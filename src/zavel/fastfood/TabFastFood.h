@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/widgets/AppDocumentTab.h"
+#include "app/widgets/AppListTab.h"
 
 class EmployeeTextBox;
 class EntityInvoiceFastFood;
@@ -9,7 +9,7 @@ class QDateEdit;
 class QLabel;
 
 /** The page of the counter: takes a sale and its money in one form, and lists what was sold. */
-class TabFastFood final : public AppDocumentTab
+class TabFastFood final : public AppListTab
 {
     Q_OBJECT
 

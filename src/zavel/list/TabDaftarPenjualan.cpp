@@ -36,7 +36,7 @@ constexpr int filtersPerRow = 3;
 } // namespace
 
 TabDaftarPenjualan::TabDaftarPenjualan(QWidget* parent)
-    : AppDocumentTab({tr("Customer Payments"), "tblPenjualan", businessName}, filtersPerRow, parent)
+    : AppListTab({tr("Customer Payments"), "tblPenjualan", businessName}, filtersPerRow, parent)
 {
     makeFilters();
     makeButtons();

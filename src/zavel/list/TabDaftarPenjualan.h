@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/widgets/AppDocumentTab.h"
+#include "app/widgets/AppListTab.h"
 
 class EntityAgent;
 class EntityEmployee;
@@ -15,7 +15,7 @@ class RecordField;
 struct SalesFilter;
 
 /** The list of the sales of all kinds: finds them, opens their payment again, deletes them. */
-class TabDaftarPenjualan final : public AppDocumentTab
+class TabDaftarPenjualan final : public AppListTab
 {
     Q_OBJECT
 

@@ -20,7 +20,7 @@ namespace
 EntityPiutang* payment(KorEntity* entity) { return static_cast<EntityPiutang*>(entity); }
 } // namespace
 
-TabPiutang::TabPiutang(QWidget* parent) : AppDocumentTab({tr("Member Payments"), "tblPiutang", "Sales"}, 3, parent)
+TabPiutang::TabPiutang(QWidget* parent) : AppListTab({tr("Member Payments"), "tblPiutang", "Sales"}, 3, parent)
 {
     const QDate today = QDate::currentDate();
     m_from = filters()->addDate("dateFrom", tr("From Date :"), today.addDays(1 - today.day()));

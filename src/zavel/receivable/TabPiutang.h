@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/widgets/AppDocumentTab.h"
+#include "app/widgets/AppListTab.h"
 
 class EntityMember;
 class EntityPiutang;
@@ -10,7 +10,7 @@ template <typename Entity>
 class RecordField;
 
 /** The list of what members paid later. */
-class TabPiutang final : public AppDocumentTab
+class TabPiutang final : public AppListTab
 {
     Q_OBJECT
 

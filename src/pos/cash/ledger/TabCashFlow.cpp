@@ -18,7 +18,7 @@
 #include <QTableView>
 
 TabCashFlow::TabCashFlow(QWidget* parent)
-    : AppDocumentTab({tr("General Journal Entries"), "tblCashFlow", "Journal Transaction"}, 3, parent),
+    : AppListTab({tr("General Journal Entries"), "tblCashFlow", "Journal Transaction"}, 3, parent),
       m_totals(new LedgerTotals(this))
 {
     makeFilters();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/widgets/AppDocumentTab.h"
+#include "app/widgets/AppListTab.h"
 
 #include <QHash>
 
@@ -12,7 +12,7 @@ class QLabel;
 class QLineEdit;
 
 /** The ledger: every movement of money of a period, of one account or all, and the entries made by hand. */
-class TabCashFlow final : public AppDocumentTab
+class TabCashFlow final : public AppListTab
 {
     Q_OBJECT
 

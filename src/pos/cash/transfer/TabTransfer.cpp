@@ -12,7 +12,7 @@
 #include <QTableView>
 
 TabTransfer::TabTransfer(QWidget* parent)
-    : AppDocumentTab({tr("Transferring Funds"), "tblTransfer", "Accounting Transaction"}, 2, parent)
+    : AppListTab({tr("Transferring Funds"), "tblTransfer", "Accounting Transaction"}, 2, parent)
 {
     const QDate today = QDate::currentDate();
     m_from = filters()->addDate("dateFrom", tr("From Date :"), today.addDays(1 - today.day()));

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "app/widgets/AppDocumentTab.h"
+#include "app/widgets/AppListTab.h"
 
 class QDateEdit;
 
 /** The list of transfers between accounts. */
-class TabTransfer final : public AppDocumentTab
+class TabTransfer final : public AppListTab
 {
     Q_OBJECT
 

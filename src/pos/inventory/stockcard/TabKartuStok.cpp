@@ -15,8 +15,7 @@
 #include <QPushButton>
 #include <QTableView>
 
-TabKartuStok::TabKartuStok(QWidget* parent)
-    : AppDocumentTab({tr("Item History"), "tblKartuStok", "Inventory"}, 2, parent)
+TabKartuStok::TabKartuStok(QWidget* parent) : AppListTab({tr("Item History"), "tblKartuStok", "Inventory"}, 2, parent)
 {
     makeFilters();
     makeTotals();

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "app/widgets/AppDocumentTab.h"
+#include "app/widgets/AppListTab.h"
 
 class ItemField;
 class QDateEdit;
 
 /** The stock card: what came in and went out of one item in a period. It is for reading only. */
-class TabKartuStok final : public AppDocumentTab
+class TabKartuStok final : public AppListTab
 {
     Q_OBJECT
 

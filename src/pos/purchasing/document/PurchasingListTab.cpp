@@ -22,7 +22,7 @@ QDate firstOfMonth()
 } // namespace
 
 PurchasingListTab::PurchasingListTab(const Page& page, const Filters& words, QWidget* parent)
-    : AppDocumentTab(page, filtersPerRow, parent)
+    : AppListTab(page, filtersPerRow, parent)
 {
     m_from = filters()->addDate("dateFrom", tr("From Date :"), firstOfMonth());
     m_to = filters()->addDate("dateTo", tr("To Date :"));
@@ -50,12 +50,12 @@ PurchasingFilter PurchasingListTab::chosen() const
 
 bool PurchasingListTab::insertEntity(KorEntity* document)
 {
-    return stands(AppDocumentTab::insertEntity(document), *document);
+    return stands(AppListTab::insertEntity(document), *document);
 }
 
 bool PurchasingListTab::updateEntity(KorEntity* document)
 {
-    return stands(AppDocumentTab::updateEntity(document), *document);
+    return stands(AppListTab::updateEntity(document), *document);
 }
 
 /** A document that is saved is not entered again because something that follows from it has failed. */

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/widgets/AppDocumentTab.h"
+#include "app/widgets/AppListTab.h"
 #include "pos/purchasing/document/PurchasingFilter.h"
 
 class QComboBox;
@@ -9,7 +9,7 @@ class QLineEdit;
 class SupplierTextBox;
 
 /** The list page of one kind of purchasing documents: the filters that all of them have. */
-class PurchasingListTab : public AppDocumentTab
+class PurchasingListTab : public AppListTab
 {
     Q_OBJECT
 
