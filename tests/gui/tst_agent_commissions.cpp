@@ -380,7 +380,7 @@ private:
 
     std::unique_ptr<TestDatabase> m_database;
     std::unique_ptr<ModalDriver> m_people;
-    std::unique_ptr<AppDocumentTab> m_page;
+    std::unique_ptr<AppListTab> m_page;
 };
 
 QTEST_MAIN(TestAgentCommissions)
