@@ -11,7 +11,8 @@ TabCreditNote::TabCreditNote(QWidget* parent)
                          DialogCreditNote::statusRows(),
                          {{tr("Purchase No."), PurchasingFilter::DocumentNo},
                           {tr("Supplier Code"), PurchasingFilter::SupplierCode},
-                          {tr("Invoice No."), PurchasingFilter::OtherNo}}},
+                          {tr("Invoice No."), PurchasingFilter::OtherNo}},
+                         tr("Are you sure you want to delete Credit Note with No: %1 ?")},
                         parent)
 {
     refresh();
@@ -28,12 +29,6 @@ KorEntityModel* TabCreditNote::createModel(const QList<KorEntity*>& rows)
 }
 
 std::unique_ptr<KorDialog> TabCreditNote::createDialog() { return std::make_unique<DialogCreditNote>(this); }
-
-QString TabCreditNote::deleteQuestion(const KorEntity* note) const
-{
-    return tr("Are you sure you want to delete Credit Note with No: %1 ?")
-        .arg(static_cast<const EntityCreditNote*>(note)->getNo());
-}
 
 QString TabCreditNote::notFoundText(int id) const { return tr("Can not find Credit Note with id: %1").arg(id); }
 

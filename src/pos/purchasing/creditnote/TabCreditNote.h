@@ -14,7 +14,6 @@ protected:
     QList<KorEntity*> readRows(const QString& filter) override;
     KorEntityModel* createModel(const QList<KorEntity*>& rows) override;
     std::unique_ptr<KorDialog> createDialog() override;
-    [[nodiscard]] QString deleteQuestion(const KorEntity* note) const override;
     [[nodiscard]] QString notFoundText(int id) const override;
     [[nodiscard]] QString countText(int rows) const override;
     void modelApplied() override;

@@ -21,8 +21,8 @@ QDate firstOfMonth()
 }
 } // namespace
 
-PurchasingListTab::PurchasingListTab(const Page& page, const Filters& words, QWidget* parent)
-    : AppListTab(page, filtersPerRow, parent)
+PurchasingListTab::PurchasingListTab(const Page& page, const Words& words, QWidget* parent)
+    : AppListTab(page, filtersPerRow, parent), m_deleteQuestion(words.deleteQuestion)
 {
     m_from = filters()->addDate("dateFrom", tr("From Date :"), firstOfMonth());
     m_to = filters()->addDate("dateTo", tr("To Date :"));
@@ -46,6 +46,11 @@ PurchasingFilter PurchasingListTab::chosen() const
     filter.field = static_cast<PurchasingFilter::Field>(m_field->currentData().toInt());
     filter.text = m_text->text().trimmed();
     return filter;
+}
+
+QString PurchasingListTab::deleteQuestion(const KorEntity* document) const
+{
+    return m_deleteQuestion.arg(document->property("No").toString());
 }
 
 bool PurchasingListTab::insertEntity(KorEntity* document)

@@ -16,7 +16,8 @@ TabPayment::TabPayment(QWidget* parent)
                          supplierPaymentTypeRows(),
                          {{tr("Purchase Invoice No."), PurchasingFilter::DocumentNo},
                           {tr("Supplier Code"), PurchasingFilter::SupplierCode},
-                          {tr("Check No"), PurchasingFilter::OtherNo}}},
+                          {tr("Check No"), PurchasingFilter::OtherNo}},
+                         tr("Are you sure you want to delete purchase invoice with No: %1 ?")},
                         parent)
 {
     refresh();
@@ -32,11 +33,5 @@ KorEntityModel* TabPayment::createModel(const QList<KorEntity*>& rows) { return 
 void TabPayment::modelApplied() { setColumnWidths(grid(), {170, 130, 360}); }
 
 std::unique_ptr<KorDialog> TabPayment::createDialog() { return std::make_unique<DialogPayment>(this); }
-
-QString TabPayment::deleteQuestion(const KorEntity* entity) const
-{
-    return tr("Are you sure you want to delete purchase invoice with No: %1 ?")
-        .arg(static_cast<const EntityPayment*>(entity)->getNo());
-}
 
 QString TabPayment::notFoundText(int id) const { return tr("Can not find purchase invoice with id: %1").arg(id); }

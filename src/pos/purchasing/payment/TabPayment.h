@@ -15,6 +15,5 @@ protected:
     KorEntityModel* createModel(const QList<KorEntity*>& rows) override;
     void modelApplied() override;
     std::unique_ptr<KorDialog> createDialog() override;
-    [[nodiscard]] QString deleteQuestion(const KorEntity* entity) const override;
     [[nodiscard]] QString notFoundText(int id) const override;
 };

@@ -26,7 +26,8 @@ TabPurchases::TabPurchases(QWidget* parent)
                           {paidStatusText(EntityAcquisition::UNPAID), EntityAcquisition::UNPAID}},
                          {{tr("Purchase No."), PurchasingFilter::DocumentNo},
                           {tr("Supplier Code"), PurchasingFilter::SupplierCode},
-                          {tr("Invoice No"), PurchasingFilter::OtherNo}}},
+                          {tr("Invoice No"), PurchasingFilter::OtherNo}},
+                         tr("Are you sure you want to delete Purchase with No: %1 ?")},
                         parent)
 {
     refresh();
@@ -42,12 +43,6 @@ KorEntityModel* TabPurchases::createModel(const QList<KorEntity*>& rows) { retur
 void TabPurchases::modelApplied() { setColumnWidths(grid(), {124, 164, 196, 124, 144, 162}); }
 
 std::unique_ptr<KorDialog> TabPurchases::createDialog() { return std::make_unique<DialogPurchases>(this); }
-
-QString TabPurchases::deleteQuestion(const KorEntity* entity) const
-{
-    return tr("Are you sure you want to delete Purchase with No: %1 ?")
-        .arg(static_cast<const EntityAcquisition*>(entity)->getNo());
-}
 
 QString TabPurchases::countText(int rows) const { return tr("%1 items").arg(rows); }
 

@@ -17,7 +17,6 @@ protected:
     KorEntityModel* createModel(const QList<KorEntity*>& rows) override;
     void modelApplied() override;
     std::unique_ptr<KorDialog> createDialog() override;
-    [[nodiscard]] QString deleteQuestion(const KorEntity* entity) const override;
     [[nodiscard]] QString countText(int rows) const override;
     void entitySaved(KorEntity* entity) override;
 

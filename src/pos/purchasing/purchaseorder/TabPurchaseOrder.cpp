@@ -16,7 +16,8 @@ TabPurchaseOrder::TabPurchaseOrder(QWidget* parent)
             {tr("Changed"), EntityPurchaseOrder::CHANGE_ORDER},
             {tr("Cancelled"), EntityPurchaseOrder::CANCELED},
             {tr("Closed"), EntityPurchaseOrder::CLOSED}},
-           {{tr("PO No."), PurchasingFilter::DocumentNo}, {tr("Supplier Code"), PurchasingFilter::SupplierCode}}},
+           {{tr("PO No."), PurchasingFilter::DocumentNo}, {tr("Supplier Code"), PurchasingFilter::SupplierCode}},
+           tr("Are you sure you want to delete Purchase Order with No: %1 ?")},
           parent)
 {
     refresh();
@@ -33,11 +34,5 @@ KorEntityModel* TabPurchaseOrder::createModel(const QList<KorEntity*>& rows)
 }
 
 std::unique_ptr<KorDialog> TabPurchaseOrder::createDialog() { return std::make_unique<DialogPurchaseOrder>(this); }
-
-QString TabPurchaseOrder::deleteQuestion(const KorEntity* entity) const
-{
-    return tr("Are you sure you want to delete Purchase Order with No: %1 ?")
-        .arg(static_cast<const EntityPurchaseOrder*>(entity)->getNo());
-}
 
 QString TabPurchaseOrder::notFoundText(int id) const { return tr("Can not find PO with id: %1").arg(id); }

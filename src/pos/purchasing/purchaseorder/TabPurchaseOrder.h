@@ -14,6 +14,5 @@ protected:
     QList<KorEntity*> readRows(const QString& filter) override;
     KorEntityModel* createModel(const QList<KorEntity*>& rows) override;
     std::unique_ptr<KorDialog> createDialog() override;
-    [[nodiscard]] QString deleteQuestion(const KorEntity* entity) const override;
     [[nodiscard]] QString notFoundText(int id) const override;
 };
