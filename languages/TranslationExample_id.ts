@@ -1295,10 +1295,6 @@ Hak akses yang dibutuhkan: %1</translation>
 <context>
     <name>DataMapperInvoiceLink</name>
     <message>
-        <source>error: transaction failed</source>
-        <translation>kesalahan: transaksi gagal</translation>
-    </message>
-    <message>
         <source>This order was billed meanwhile. Nothing was saved.</source>
         <translation>Pesanan ini sementara itu sudah ditagih. Tidak ada yang disimpan.</translation>
     </message>
