@@ -3,7 +3,7 @@
 function(add_layer name)
   cmake_parse_arguments(ARG "" "" "USES" ${ARGN})
   set(folder ${CMAKE_CURRENT_SOURCE_DIR}/${name})
-  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${folder}/*.h ${folder}/*.cpp)
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${folder}/*.h ${folder}/*.cpp ${folder}/*.ui)
   list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
   add_library(${name} SHARED ${sources})
   # A form of another folder is included by its whole path, like a class.

@@ -33,6 +33,22 @@ protected:
             moneyType(), header, [this, read](const Entity& entity) { return moneyText(read(entity)); }, RightAligned);
     }
 
+    /** A column of days; the reader gives the record's date. */
+    template <class Entity, class Read>
+    void addDate(const QString& header, Read read)
+    {
+        addField<Entity>(QMetaType::QDateTime, header,
+                         [this, read](const Entity& entity) { return dateText(read(entity)); });
+    }
+    /** A right-aligned column of percents, sorted by their numbers as money is. */
+    template <class Entity, class Read>
+    void addPercent(const QString& header, Read read)
+    {
+        addField<Entity>(
+            moneyType(), header,
+            [this, read](const Entity& entity) { return m_locale.toString(read(entity), 'g', 10); }, RightAligned);
+    }
+
 private:
     QLocale m_locale;
     QString m_dateFormat;

@@ -1,6 +1,5 @@
 #include "zavel/commission/CommissionAmount.h"
 
-#include "app/context/AppContext.h"
 #include "zavel/commission/EntityKomisiAgenDetail.h"
 
 std::unique_ptr<Money> commissionOf(const Invoice& invoice, double percent)
@@ -14,5 +13,3 @@ void setCommission(EntityKomisiAgenDetail* line, double percent)
     line->setCommisionPerc(percent);
     line->setCommision(commissionOf(*line->getInvoice(), percent).get());
 }
-
-QString percentText(double percent) { return QLocale(AppContext::instance()->locale()).toString(percent, 'g', 10); }

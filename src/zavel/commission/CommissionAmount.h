@@ -11,5 +11,3 @@ class Invoice;
 [[nodiscard]] std::unique_ptr<Money> commissionOf(const Invoice& invoice, double percent);
 /** Gives the line this percent, and the commission that follows from it. */
 void setCommission(EntityKomisiAgenDetail* line, double percent);
-/** A percent as the configured locale writes it, with no more digits than it has. */
-[[nodiscard]] QString percentText(double percent);

@@ -1,7 +1,6 @@
 #include "zavel/commission/TableModelAllKomisiAgen.h"
 
 #include "pos/invoice/InvoiceStatusText.h"
-#include "zavel/commission/CommissionAmount.h"
 #include "zavel/commission/EntityAllKomisiAgen.h"
 
 TableModelAllKomisiAgen::TableModelAllKomisiAgen(const QList<KorEntity*>& sales, QObject* parent)
@@ -10,14 +9,11 @@ TableModelAllKomisiAgen::TableModelAllKomisiAgen(const QList<KorEntity*>& sales,
     using Sale = EntityAllKomisiAgen;
     addField<Sale>(QMetaType::QString, tr("Invoice No."),
                    [](const Sale& sale) { return sale.getInvoice()->getInvoiceNo(); });
-    addField<Sale>(QMetaType::QDateTime, tr("Date"),
-                   [this](const Sale& sale) { return dateText(sale.getInvoice()->getInvoiceDate()); });
+    addDate<Sale>(tr("Date"), [](const Sale& sale) { return sale.getInvoice()->getInvoiceDate(); });
     addField<Sale>(QMetaType::QString, tr("Agent Name"), [](const Sale& sale) { return sale.getAgent()->getNama(); });
     addMoney<Sale>(tr("Invoice Total"), [](const Sale& sale) { return sale.getInvoice()->getGrandTotal(); });
-    // Today's percent, also where the commission was paid at another one. Sorted by its number, like money.
-    addField<Sale>(
-        moneyType(), tr("% Commision"),
-        [](const Sale& sale) { return percentText(sale.getAgent()->getCommisionPerc()); }, RightAligned);
+    // Today's percent, also where the commission was paid at another one.
+    addPercent<Sale>(tr("% Commision"), [](const Sale& sale) { return sale.getAgent()->getCommisionPerc(); });
     addMoney<Sale>(tr("Total Commision"), [](const Sale& sale) { return sale.getCommision(); });
     // Its numbers are those of an invoice.
     addField<Sale>(QMetaType::QString, tr("Status"),

@@ -7,8 +7,7 @@ TableModelKomisiAgen::TableModelKomisiAgen(const QList<KorEntity*>& payments, QO
 {
     using Payment = EntityKomisiAgen;
     addText(tr("Code"), &Payment::getNo);
-    addField<Payment>(QMetaType::QDateTime, tr("Date"),
-                      [this](const Payment& one) { return dateText(one.getPaymentDate()); });
+    addDate<Payment>(tr("Date"), [](const Payment& one) { return one.getPaymentDate(); });
     addField<Payment>(QMetaType::QString, tr("Agent Name"),
                       [](const Payment& one) { return one.getAgent()->getNama(); });
     addMoney<Payment>(tr("Total Commision"), [](const Payment& one) { return one.getGrandTotal(); });

@@ -1,6 +1,5 @@
 #include "zavel/commission/TableModelKomisiAgenDetail.h"
 
-#include "zavel/commission/CommissionAmount.h"
 #include "zavel/commission/EntityKomisiAgenDetail.h"
 
 TableModelKomisiAgenDetail::TableModelKomisiAgenDetail(const QList<KorEntity*>& lines, QObject* parent)
@@ -9,13 +8,9 @@ TableModelKomisiAgenDetail::TableModelKomisiAgenDetail(const QList<KorEntity*>& 
     using Line = EntityKomisiAgenDetail;
     addField<Line>(QMetaType::QString, tr("Invoice No."),
                    [](const Line& line) { return line.getInvoice()->getInvoiceNo(); });
-    addField<Line>(QMetaType::QDateTime, tr("Date"),
-                   [this](const Line& line) { return dateText(line.getInvoice()->getInvoiceDate()); });
+    addDate<Line>(tr("Date"), [](const Line& line) { return line.getInvoice()->getInvoiceDate(); });
     addField<Line>(QMetaType::QString, tr("Guest"), [](const Line& line) { return line.getInvoice()->getPemesan(); });
     addMoney<Line>(tr("Invoice Total"), [](const Line& line) { return line.getInvoice()->getGrandTotal(); });
-    // Sorted by its number, like money.
-    addField<Line>(
-        moneyType(), tr("% Commision"), [](const Line& line) { return percentText(line.getCommisionPerc()); },
-        RightAligned);
+    addPercent<Line>(tr("% Commision"), [](const Line& line) { return line.getCommisionPerc(); });
     addMoney<Line>(tr("Total Commision"), [](const Line& line) { return line.getCommision(); });
 }

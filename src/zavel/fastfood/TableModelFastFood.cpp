@@ -27,8 +27,7 @@ TableModelFastFood::TableModelFastFood(const QList<KorEntity*>& sales, QObject* 
          [](const Sale& sale) { return sale.getEmployee() ? sale.getEmployee()->getNama() : QString(); });
     addMoney<Sale>(tr("Total"), [](const Sale& sale) { return sale.getInvoice()->getGrandTotal(); });
     addMoney<Sale>(tr("Amount Paid"), [](const Sale& sale) { return sale.getInvoice()->getAmountPaid(); });
-    addField<Sale>(QMetaType::QDateTime, tr("Date"),
-                   [this](const Sale& sale) { return dateText(sale.getInvoice()->getInvoiceDate()); });
+    addDate<Sale>(tr("Date"), [](const Sale& sale) { return sale.getInvoice()->getInvoiceDate(); });
     text(tr("Status"), [](const Sale& sale) { return invoiceStatusText(sale.getInvoice()->getStatus()); });
     text(tr("Menu"), menuOf);
 }

@@ -9,8 +9,7 @@ TableModelDaftarPenjualan::TableModelDaftarPenjualan(const QList<KorEntity*>& sa
     using Sale = EntityPenjualanInfo;
     const auto text = [this](const QString& header, auto read) { addField<Sale>(QMetaType::QString, header, read); };
     text(tr("No"), [](const Sale& sale) { return sale.getInvoice()->getInvoiceNo(); });
-    addField<Sale>(QMetaType::QDateTime, tr("Date"),
-                   [this](const Sale& sale) { return dateText(sale.getInvoice()->getInvoiceDate()); });
+    addDate<Sale>(tr("Date"), [](const Sale& sale) { return sale.getInvoice()->getInvoiceDate(); });
     text(tr("Type"), [](const Sale& sale) { return sale.typeName(); });
     text(tr("User"), [](const Sale& sale) { return sale.getUser() ? sale.getUser()->getUserName() : QString(); });
     text(tr("Member Code"),

@@ -8,7 +8,7 @@ TableModelPiutang::TableModelPiutang(const QList<KorEntity*>& payments, QObject*
 {
     using Payment = EntityPiutang;
     addText(tr("No."), &Payment::getNo);
-    addField<Payment>(QMetaType::QDateTime, tr("Date"), [this](const Payment& one) { return dateText(one.getDate()); });
+    addDate<Payment>(tr("Date"), [](const Payment& one) { return one.getDate(); });
     addField<Payment>(QMetaType::QString, tr("Member Code"),
                       [](const Payment& one) { return one.getMember()->getKode(); });
     addField<Payment>(QMetaType::QString, tr("Member Name"),

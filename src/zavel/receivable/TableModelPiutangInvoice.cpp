@@ -8,8 +8,7 @@ TableModelPiutangInvoice::TableModelPiutangInvoice(const QList<KorEntity*>& line
     using Line = EntityPiutangDetail;
     addField<Line>(QMetaType::QString, tr("Invoice No."),
                    [](const Line& line) { return line.getInvoice()->getInvoiceNo(); });
-    addField<Line>(QMetaType::QDateTime, tr("Date"),
-                   [this](const Line& line) { return dateText(line.getInvoice()->getInvoiceDate()); });
+    addDate<Line>(tr("Date"), [](const Line& line) { return line.getInvoice()->getInvoiceDate(); });
     addMoney<Line>(tr("Invoice Total"), [](const Line& line) { return line.getInvoice()->getGrandTotal(); });
     addMoney<Line>(tr("Net Due"), [](const Line& line) { return line.getAmountDue(); });
     addMoney<Line>(tr("Amount Paid"), [](const Line& line) { return line.getAmountPaid(); });

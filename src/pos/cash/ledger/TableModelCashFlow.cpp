@@ -14,7 +14,7 @@ const Money* used(const Money* side, const Money* other)
 TableModelCashFlow::TableModelCashFlow(const QList<KorEntity*>& rows, QObject* parent) : CutTextModel(rows, parent)
 {
     using Row = EntityCashFlow;
-    addField<Row>(QMetaType::QDateTime, tr("Date"), [this](const Row& row) { return dateText(row.getDate()); });
+    addDate<Row>(tr("Date"), [](const Row& row) { return row.getDate(); });
     addText(tr("Account Code"), &Row::getAccountCode);
     addText(tr("Account Name"), &Row::getAccountName);
     addMoney<Row>(tr("Debit"), [](const Row& row) { return used(row.getDebet(), row.getCredit()); });

@@ -16,8 +16,7 @@ TableModelAccountingTransaction::TableModelAccountingTransaction(const QList<Kor
     const auto text = [this](const QString& header, auto read) {
         addField<Transfer>(QMetaType::QString, header, read);
     };
-    addField<Transfer>(QMetaType::QDateTime, tr("Date"),
-                       [this](const Transfer& transfer) { return dateText(transfer.getDate()); });
+    addDate<Transfer>(tr("Date"), [](const Transfer& transfer) { return transfer.getDate(); });
     addText(tr("Trans No."), &Transfer::getTransNo);
     text(tr("Source Acc. Code"), [](const Transfer& transfer) { return codeOf(transfer.getFromAccount()); });
     text(tr("Source Acc. Name"), [](const Transfer& transfer) { return nameOf(transfer.getFromAccount()); });

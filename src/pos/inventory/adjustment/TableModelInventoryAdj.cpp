@@ -12,8 +12,7 @@ TableModelInventoryAdj::TableModelInventoryAdj(const QList<KorEntity*>& takes, Q
     };
     addField<Take>(QMetaType::QString, tr("Code"), [](const Take& take) { return take.getItem()->getKode(); });
     addField<Take>(QMetaType::QString, tr("Name"), [](const Take& take) { return take.getItem()->getNama(); });
-    addField<Take>(QMetaType::QDateTime, tr("Date"),
-                   [this](const Take& take) { return dateText(take.getStockTakeDate()); });
+    addDate<Take>(tr("Date"), [](const Take& take) { return take.getStockTakeDate(); });
     quantity(tr("Old Qty"), &Take::getQtyBefore);
     quantity(tr("Adjust Qty by"), &Take::getQtyAdj);
     quantity(tr("New Qty"), &Take::getQty);

@@ -11,7 +11,7 @@ TableModelKartuStok::TableModelKartuStok(const QList<KorEntity*>& rows, QObject*
     };
     addText(tr("Trans No."), &Row::getNo);
     addField<Row>(QMetaType::QString, tr("Type"), [](const Row& row) { return typeText(row.getTransType()); });
-    addField<Row>(QMetaType::QDateTime, tr("Date"), [this](const Row& row) { return dateText(row.getDate()); });
+    addDate<Row>(tr("Date"), [](const Row& row) { return row.getDate(); });
     quantity(tr("In"), &Row::getQtyIn);
     quantity(tr("Out"), &Row::getQtyOut);
     quantity(tr("Saldo"), &Row::getQtyRemain);

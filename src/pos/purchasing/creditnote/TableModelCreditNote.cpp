@@ -15,7 +15,7 @@ TableModelCreditNote::TableModelCreditNote(const QList<KorEntity*>& notes, QObje
     : AppEntityModel(notes, parent)
 {
     using Note = EntityCreditNote;
-    addField<Note>(QMetaType::QDateTime, tr("Date"), [this](const Note& note) { return dateText(note.getDate()); });
+    addDate<Note>(tr("Date"), [](const Note& note) { return note.getDate(); });
     addText(tr("Credit Note No."), &Note::getNo);
     addField<Note>(QMetaType::QString, tr("Supplier"), [](const Note& note) { return note.getSupplier()->getNama(); });
     addField<Note>(QMetaType::QString, tr("Status"), [](const Note& note) {

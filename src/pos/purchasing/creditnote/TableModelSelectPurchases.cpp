@@ -8,9 +8,8 @@ TableModelSelectPurchases::TableModelSelectPurchases(const QList<KorEntity*>& pu
 {
     addText(tr("Purchase No."), &EntityAcquisition::getNo);
     addText(tr("Invoice No."), &EntityAcquisition::getInvoiceNo);
-    addField<EntityAcquisition>(QMetaType::QDateTime, tr("Date"), [this](const EntityAcquisition& purchase) {
-        return dateText(purchase.getPurchaseDate());
-    });
+    addDate<EntityAcquisition>(tr("Date"),
+                               [](const EntityAcquisition& purchase) { return purchase.getPurchaseDate(); });
     addField<EntityAcquisition>(QMetaType::QString, tr("Status"),
                                 [](const EntityAcquisition& purchase) { return paidStatusText(purchase.getStatus()); });
     addMoney<EntityAcquisition>(tr("Invoice Total"),

@@ -7,7 +7,7 @@ TableModelPayment::TableModelPayment(const QList<KorEntity*>& payments, QObject*
 {
     using Payment = EntityPayment;
     addText(tr("Payment No."), &Payment::getNo);
-    addField<Payment>(QMetaType::QDateTime, tr("Date"), [this](const Payment& one) { return dateText(one.getDate()); });
+    addDate<Payment>(tr("Date"), [](const Payment& one) { return one.getDate(); });
     addField<Payment>(QMetaType::QString, tr("Supplier"),
                       [](const Payment& one) { return one.getSupplier()->getNama(); });
     addMoney<Payment>(tr("Total Payment"), [](const Payment& one) { return one.getGrandTotal(); });

@@ -7,8 +7,7 @@ TableModelPaymentInvoice::TableModelPaymentInvoice(const QList<KorEntity*>& line
 {
     using Line = EntityPaymentInvoices;
     addField<Line>(QMetaType::QString, tr("Purchase Invoice No."), [](const Line& line) { return line.documentNo(); });
-    addField<Line>(QMetaType::QDateTime, tr("Due Date"),
-                   [this](const Line& line) { return dateText(line.getAcquisition()->getDueDate()); });
+    addDate<Line>(tr("Due Date"), [](const Line& line) { return line.getAcquisition()->getDueDate(); });
     addMoney<Line>(tr("Total"), [](const Line& line) { return line.getAcquisition()->getGrandTotal(); });
     addMoney<Line>(tr("Amount Due"), [](const Line& line) { return line.getAmountDue(); });
     addMoney<Line>(tr("Amount Paid"), [](const Line& line) { return line.getAmountPaid(); });

@@ -11,8 +11,7 @@ TableModelPurchases::TableModelPurchases(const QList<KorEntity*>& purchases, QOb
     : AppEntityModel(purchases, parent)
 {
     const auto date = [this](const QString& header, QDate (Purchase::*day)() const) {
-        addField<Purchase>(QMetaType::QDateTime, header,
-                           [this, day](const Purchase& purchase) { return dateText((purchase.*day)()); });
+        addDate<Purchase>(header, [day](const Purchase& purchase) { return (purchase.*day)(); });
     };
     date(tr("Date"), &Purchase::getPurchaseDate);
     addText(tr("Invoice No."), &Purchase::getInvoiceNo);

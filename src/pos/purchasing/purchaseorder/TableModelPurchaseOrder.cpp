@@ -7,8 +7,7 @@ TableModelPurchaseOrder::TableModelPurchaseOrder(const QList<KorEntity*>& orders
 {
     using Order = EntityPurchaseOrder;
     const auto date = [this](const QString& header, QDateTime (Order::*day)() const) {
-        addField<Order>(QMetaType::QDateTime, header,
-                        [this, day](const Order& order) { return dateText((order.*day)().date()); });
+        addDate<Order>(header, [day](const Order& order) { return (order.*day)().date(); });
     };
     addText(tr("PO No."), &Order::getNo);
     date(tr("Date"), &Order::getDate);
