@@ -95,9 +95,9 @@ class TestLayers : public QObject
 private slots:
     void includesPointDownwards_data()
     {
-        addColumns<QString>("path");
+        const auto row = addColumns<QString>("path");
         for (const QString& path : sources({"*.h", "*.cpp"}))
-            addRow(qPrintable(path), path);
+            row(qPrintable(path), path);
     }
     void includesPointDownwards()
     {
@@ -114,9 +114,9 @@ private slots:
 
     void noCircleAmongRooms_data()
     {
-        addColumns<bool>("folders");
-        addRow("rooms", false);
-        addRow("folders", true);
+        const auto row = addColumns<bool>("folders");
+        row("rooms", false);
+        row("folders", true);
     }
     /** Who reads one room needs the rooms below it, and never the whole floor. */
     void noCircleAmongRooms()
@@ -152,9 +152,9 @@ private slots:
 
     void aFormLiesBesideItsClass_data()
     {
-        addColumns<QString>("path");
+        const auto row = addColumns<QString>("path");
         for (const QString& path : sources({"*.ui"}))
-            addRow(qPrintable(path), path);
+            row(qPrintable(path), path);
     }
     void aFormLiesBesideItsClass()
     {

@@ -30,7 +30,7 @@ private slots:
 
     void everyPictureThatTheProgramNamesIsOnBoard_data()
     {
-        addColumns<QString>("usedIn");
+        const auto row = addColumns<QString>("usedIn");
 
         const QRegularExpression picture(pictureName);
         QMap<QString, QString> uses;
@@ -50,9 +50,8 @@ private slots:
         for (const char* always : {":/icons/Beverage-Coffee-02.png", ":/images/logo.png", ":/images/brintel-200px.png"})
             uses.insert(QString::fromLatin1(always), QStringLiteral("the program's start"));
         for (auto use = uses.cbegin(); use != uses.cend(); ++use)
-            addRow(qPrintable(use.key()), use.value());
+            row(qPrintable(use.key()), use.value());
     }
-
     void everyPictureThatTheProgramNamesIsOnBoard()
     {
         QFETCH(QString, usedIn);
@@ -63,15 +62,14 @@ private slots:
 
     void everyIconIsCrispOnAScreenOfTwiceTheDensity_data()
     {
-        addColumns<QString>("name");
+        const auto row = addColumns<QString>("name");
         QDirIterator icons(QStringLiteral(":/icons"), QDir::Files, QDirIterator::Subdirectories);
         while (icons.hasNext()) {
             const QString name = icons.next();
             if (!name.contains(QLatin1Char('@')))
-                addRow(qPrintable(name), name);
+                row(qPrintable(name), name);
         }
     }
-
     void everyIconIsCrispOnAScreenOfTwiceTheDensity()
     {
         QFETCH(QString, name);

@@ -1,24 +1,16 @@
-#include "kor/business/KorServiceDirectory.h"
 #include "pos/masterdata/company/BusinessDataPerusahaan.h"
 #include "pos/masterdata/company/EntityDataPerusahaan.h"
-#include "support/TestDatabase.h"
-
-#include <QTest>
+#include "support/DatabaseTest.h"
 
 /** The restaurant's own data and its logo. */
-class TestCompanyProfile : public QObject
+class TestCompanyProfile : public DatabaseTest
 {
     Q_OBJECT
 
-private slots:
-    void init()
-    {
-        m_database = std::make_unique<TestDatabase>();
-        loginAsAdmin();
-        m_company = service<BusinessDataPerusahaan>("Company Profile");
-    }
-    void cleanup() { m_database.reset(); }
+protected:
+    void prepare() override { m_company = service<BusinessDataPerusahaan>("Company Profile"); }
 
+private slots:
     void aLogoSavedAgainReplacesTheFormer()
     {
         QByteArray everyByte;
@@ -40,7 +32,7 @@ private slots:
 
     void aRestaurantWithoutALogoGetsOne()
     {
-        m_database->run("DELETE FROM images");
+        run("DELETE FROM images");
         EntityDataPerusahaan* profile = m_company->getData();
         QVERIFY(!profile->getLogo());
         QVERIFY2(m_company->updateData(profile), qPrintable(m_company->takeErrors()));
@@ -56,7 +48,7 @@ private slots:
 
     void aLogoThatIsRefusedTakesTheProfileBack()
     {
-        m_database->run("DELETE FROM images");
+        run("DELETE FROM images");
         EntityDataPerusahaan* profile = m_company->getData();
         const QString name = profile->getNamaPerusahaan();
         profile->setNamaPerusahaan("Half saved");
@@ -72,17 +64,9 @@ private slots:
         QVERIFY2(m_company->updateData(profile), qPrintable(m_company->takeErrors()));
     }
 
-    void theSlowerOfTwoOfficesIsTold()
-    {
-        EntityDataPerusahaan* profile = m_company->getData();
-        m_database->run("UPDATE data_perusahaan SET version = version + 1");
-        QVERIFY(!m_company->updateData(profile));
-        QVERIFY(m_company->takeErrors().startsWith("Table: data_perusahaan has been updated"));
-    }
-
     void aProfileThatIsMissingIsMade()
     {
-        m_database->run("DELETE FROM data_perusahaan");
+        run("DELETE FROM data_perusahaan");
         QVERIFY(!m_company->getData() && !m_company->hasError());
         EntityDataPerusahaan profile;
         profile.setNamaPerusahaan("Warung");
@@ -91,9 +75,6 @@ private slots:
     }
 
 private:
-    [[nodiscard]] int count(const QString& table) { return m_database->value("SELECT count(*) FROM " + table).toInt(); }
-
-    std::unique_ptr<TestDatabase> m_database;
     BusinessDataPerusahaan* m_company = nullptr;
 };
 

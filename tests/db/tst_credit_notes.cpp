@@ -1,16 +1,10 @@
-#include "kor/business/KorServiceDirectory.h"
 #include "pos/inventory/stock/BusinessInventory.h"
 #include "pos/masterdata/item/EntityItem.h"
 #include "pos/purchasing/creditnote/BusinessCreditNote.h"
-#include "pos/purchasing/creditnote/DataMapperCreditNote.h"
 #include "pos/purchasing/purchase/EntityAcquisition.h"
-#include "pos/registry/PosMapperRegistry.h"
+#include "support/DatabaseTest.h"
 #include "support/PurchasingRows.h"
-#include "support/Rows.h"
 #include "support/ShopRows.h"
-#include "support/TestDatabase.h"
-
-#include <QTest>
 
 #include <random>
 
@@ -34,42 +28,32 @@ struct Book
 } // namespace
 
 /** What a credit note does to the purchase it is for, to the stock and to the journal. */
-class TestCreditNotes : public QObject
+class TestCreditNotes : public DatabaseTest
 {
     Q_OBJECT
 
-private slots:
-    void init()
+protected:
+    void prepare() override
     {
-        m_database = std::make_unique<TestDatabase>();
-        m_records = std::make_unique<QObject>();
-        loginAsAdmin();
         insertShop(*m_database);
         m_notes = service<BusinessCreditNote>("Credit Note");
         m_inventory = service<BusinessInventory>("Inventory");
     }
 
-    void cleanup()
-    {
-        m_notes->clearErrors();
-        m_database.reset();
-    }
-
+private slots:
     void theStateFollowsWhatCameBack_data()
     {
-        addColumns<int, int, int>("paid", "before", "after");
+        const auto row = addColumns<int, int, int>("paid", "before", "after");
         using Note = EntityCreditNote;
-        addRow("nothing yet", 0, int(Note::UNPAID), int(Note::PARTIALLY_PAID));
-        addRow("a part", 499, int(Note::FULL_PAID), int(Note::PARTIALLY_PAID));
-        addRow("all", 500, int(Note::UNPAID), int(Note::FULL_PAID));
-        addRow("more", 501, int(Note::PARTIALLY_PAID), int(Note::FULL_PAID));
-        addRow("cancelled", 500, int(Note::CANCELLED), int(Note::CANCELLED));
+        row("nothing yet", 0, Note::UNPAID, Note::PARTIALLY_PAID);
+        row("a part", 499, Note::FULL_PAID, Note::PARTIALLY_PAID);
+        row("all", 500, Note::UNPAID, Note::FULL_PAID);
+        row("more", 501, Note::PARTIALLY_PAID, Note::FULL_PAID);
+        row("cancelled", 500, Note::CANCELLED, Note::CANCELLED);
     }
-
     void theStateFollowsWhatCameBack()
     {
-        QFETCH(int, paid);
-        QFETCH(int, before);
+        FETCH(int, paid, before);
         EntityCreditNote* saved = note(KorNoValue, paid);
         saved->setStatus(before);
         save(saved);
@@ -79,11 +63,10 @@ private slots:
 
     void everyPurchaseIsDueWhatTheBookSays_data()
     {
-        addColumns<uint>("seed");
+        const auto row = addColumns<uint>("seed");
         for (uint seed : {1u, 20u, 300u})
-            QTest::addRow("seed %u", seed) << seed;
+            row(qPrintable(QString("seed %1").arg(seed)), seed);
     }
-
     void everyPurchaseIsDueWhatTheBookSays()
     {
         QFETCH(uint, seed);
@@ -155,7 +138,7 @@ private slots:
         changed->getDetails().first()->setQtyReturned(5);
         changed->removeDetail(changed->getDetails().at(1));
         changed->addDetail(line(6));
-        m_database->run("DELETE FROM item_history WHERE tran_id = 3");
+        run("DELETE FROM item_history WHERE tran_id = 3");
         save(changed);
         QCOMPARE(onHand(), 20 - 11);
         QCOMPARE(journal(),
@@ -201,55 +184,23 @@ private slots:
 
     void twoWorkstationsReturnGoodsOfOnePurchase_data()
     {
-        addColumns<int, QString>("timesLate", "due");
-        addRow("the other one was faster twice", 2, "300 500");
-        addRow("the other one never stops", 99, "0 800");
+        const auto row = addColumns<int, QString>("timesLate", "due");
+        row("the other one was faster twice", 2, "300 500");
+        row("the other one never stops", 99, "0 800");
     }
-
     void twoWorkstationsReturnGoodsOfOnePurchase()
     {
         QFETCH(int, timesLate);
         const int returned = purchase();
         // What is seen of a purchase that another workstation saves first: nothing is written.
-        m_database->run(QString("CREATE SEQUENCE late; CREATE FUNCTION late() RETURNS trigger AS $$ BEGIN IF "
-                                "nextval('late') <= %1 THEN RETURN NULL; END IF; RETURN NEW; END $$ LANGUAGE plpgsql; "
-                                "CREATE TRIGGER late BEFORE UPDATE ON acquisition FOR EACH ROW EXECUTE FUNCTION late()")
-                            .arg(timesLate));
+        run(QString("CREATE SEQUENCE late; CREATE FUNCTION late() RETURNS trigger AS $$ BEGIN IF "
+                    "nextval('late') <= %1 THEN RETURN NULL; END IF; RETURN NEW; END $$ LANGUAGE plpgsql; "
+                    "CREATE TRIGGER late BEFORE UPDATE ON acquisition FOR EACH ROW EXECUTE FUNCTION late()")
+                .arg(timesLate));
         QCOMPARE(m_notes->insert(note(returned, 300)), timesLate == 2);
         QVERIFY(m_notes->documentStands());
         QCOMPARE(m_notes->errors().keys(), timesLate == 2 ? QStringList() : QStringList("updatePurchaseNetDue"));
         QTEST(text("SELECT concat_ws(' ', other_payment_amount, net_due_amount) FROM acquisition"), "due");
-    }
-
-    void theListIsNarrowed_data()
-    {
-        addColumns<int, QString, int, QString, QString>("kind", "supplier", "field", "searched", "found");
-        using Filter = PurchasingFilter;
-        addRow("all, the latest first", 0, "", int(Filter::DocumentNo), "", "NR-0008 NR-0007");
-        addRow("one state", 1, "", int(Filter::DocumentNo), "", "NR-0007");
-        addRow("one supplier", 0, "s1", int(Filter::DocumentNo), "", "NR-0008 NR-0007");
-        addRow("no such supplier", 0, "s", int(Filter::DocumentNo), "", "");
-        addRow("digits of the number", 0, "", int(Filter::DocumentNo), "0008", "NR-0008");
-        addRow("capitals of the number", 0, "", int(Filter::DocumentNo), "NR", "");
-        addRow("a part of the supplier's code", 0, "", int(Filter::SupplierCode), "S", "NR-0008 NR-0007");
-        addRow("the purchase's invoice", 0, "", int(Filter::OtherNo), "b-7", "NR-0007");
-    }
-
-    void theListIsNarrowed()
-    {
-        save(note(purchase("INV-B-77"), 500));
-        save(note(KorNoValue, 100));
-        QFETCH(QString, supplier);
-        QFETCH(QString, searched);
-        QFETCH(int, kind);
-        QFETCH(int, field);
-        const PurchasingFilter filter{today, today, kind, supplier, PurchasingFilter::Field(field), searched};
-        QStringList found;
-        const QList<EntityCreditNote*> notes = m_notes->findAll(filter);
-        for (const EntityCreditNote* one : notes)
-            found.append(one->getNo());
-        QVERIFY2(!m_notes->hasError(), qPrintable(m_notes->takeErrors()));
-        QTEST(found.join(' '), "found");
     }
 
 private:
@@ -308,15 +259,13 @@ private:
         return insertPurchase(*m_database, row);
     }
     int onHand() { return m_inventory->getQuantityOnHand(known<EntityItem>(1), today); }
-    QString text(const QString& statement) { return m_database->value(statement).toString(); }
+    QString text(const QString& statement) { return value(statement); }
     QString journal()
     {
         return text("SELECT string_agg(concat_ws(' ', tran_id, qty_in, qty_out, unit_price_amount, trans_date, no), "
                     "', ' ORDER BY tran_id) FROM item_history WHERE tran_type = 4");
     }
 
-    std::unique_ptr<TestDatabase> m_database;
-    std::unique_ptr<QObject> m_records;
     BusinessCreditNote* m_notes = nullptr;
     BusinessInventory* m_inventory = nullptr;
 };

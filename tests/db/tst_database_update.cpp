@@ -1,9 +1,5 @@
-#include "app/context/AppContext.h"
+#include "support/DatabaseTest.h"
 #include "support/InstallerRun.h"
-#include "support/Rows.h"
-#include "support/TestDatabase.h"
-
-#include <QTest>
 
 namespace
 {
@@ -12,28 +8,23 @@ const QStringList knownComplaints{"permissions error: ", "acquisition error: "};
 } // namespace
 
 /** A restaurant that has a database already gets a newer program. */
-class TestDatabaseUpdate : public QObject
+class TestDatabaseUpdate : public DatabaseTest
 {
     Q_OBJECT
 
-private slots:
-    void init()
-    {
-        AppContext::instance()->setCurrentUser(nullptr);
-        m_database = std::make_unique<TestDatabase>();
-    }
-    void cleanup() { m_database.reset(); }
+protected:
+    void prepare() override { AppContext::instance()->setCurrentUser(nullptr); }
 
+private slots:
     void anUpdateIsDueForAnOlderDatabaseOnly_data()
     {
-        addColumns<QString, bool>("change", "due");
-        addRow("just installed", "", false);
-        addRow("older", "UPDATE appconfig SET appvalue = '1.0' WHERE appkey = 'app_version'", true);
-        addRow("newer", "UPDATE appconfig SET appvalue = '1.2' WHERE appkey = 'app_version'", false);
-        addRow("unreadable", "UPDATE appconfig SET appvalue = 'x' WHERE appkey = 'app_version'", true);
-        addRow("unknown", "DELETE FROM appconfig WHERE appkey = 'app_version'", false);
+        const auto row = addColumns<QString, bool>("change", "due");
+        row("just installed", "", false);
+        row("older", "UPDATE appconfig SET appvalue = '1.0' WHERE appkey = 'app_version'", true);
+        row("newer", "UPDATE appconfig SET appvalue = '1.2' WHERE appkey = 'app_version'", false);
+        row("unreadable", "UPDATE appconfig SET appvalue = 'x' WHERE appkey = 'app_version'", true);
+        row("unknown", "DELETE FROM appconfig WHERE appkey = 'app_version'", false);
     }
-
     void anUpdateIsDueForAnOlderDatabaseOnly()
     {
         QFETCH(QString, change);
@@ -49,13 +40,13 @@ private slots:
             "select string_agg(md5(query_to_xml('select * from ' || tablename || ' order by id', true, "
             "false, '')::text), ' ' order by tablename) from pg_tables where schemaname = 'public' and "
             "tablename <> 'appconfig'";
-        const QString before = m_database->value(rows).toString();
+        const QString before = value(rows);
         const InstallerRun run(KorInstaller::UpdateInstall);
         QCOMPARE(run.failures, knownComplaints);
         QVERIFY(run.lines.contains("[25%] acquisition error: "));
         QVERIFY(run.lines.contains("[25%] appconfig installed"));
         QCOMPARE(run.lines.last(), QString("[100%] Done. Please restart the app"));
-        QCOMPARE(m_database->value(rows).toString(), before);
+        QCOMPARE(value(rows), before);
         QCOMPARE(version(), QString("1.1"));
     }
 
@@ -75,7 +66,7 @@ private slots:
         m_database->run("DELETE FROM appconfig WHERE appkey = 'app_version'");
         const InstallerRun run(KorInstaller::UpdateInstall);
         QCOMPARE(run.failures, knownComplaints);
-        QCOMPARE(m_database->value("select count(*) from appconfig where appkey = 'app_version'").toInt(), 0);
+        QCOMPARE(count("appconfig where appkey = 'app_version'"), 0);
     }
 
     void aNewPermissionIsAddedAndOldGrantsStay()
@@ -99,18 +90,6 @@ private slots:
                  3);
     }
 
-    void aNewServiceIsAddedWithItsPermissions()
-    {
-        m_database->run("DELETE FROM access WHERE permission_id = (SELECT id FROM permissions WHERE permission_name = "
-                        "'Manage unit')");
-        m_database->run("DELETE FROM permissions WHERE permission_name = 'Manage unit'");
-        m_database->run("DELETE FROM business WHERE name = 'Unit'");
-        const InstallerRun run(KorInstaller::UpdateInstall);
-        QCOMPARE(run.failures, knownComplaints);
-        QCOMPARE(m_database->value("select count(*) from business where name = 'Unit'").toInt(), 1);
-        QCOMPARE(grantOf("Manage unit"), QString("admin 2"));
-    }
-
     void withoutAdministratorsNobodyGetsANewPermission()
     {
         m_database->run("UPDATE user_group SET name = 'owners' WHERE name = 'admin'");
@@ -118,21 +97,21 @@ private slots:
         m_database->run("DELETE FROM permissions WHERE permission_name = 'Add table'");
         const InstallerRun run(KorInstaller::UpdateInstall);
         QCOMPARE(run.failures, knownComplaints);
-        QCOMPARE(m_database->value("select count(*) from permissions where permission_name = 'Add table'").toInt(), 1);
-        QCOMPARE(m_database->value("select count(*) from access").toInt(), 0);
+        QCOMPARE(count("permissions where permission_name = 'Add table'"), 1);
+        QCOMPARE(count("access"), 0);
     }
 
     void missingIndexesAreMadeAgain()
     {
         const QString named = "select string_agg(indexdef, E'\\n' order by indexname) from pg_indexes where indexname "
                               "like '%\\_idx'";
-        const QString before = m_database->value(named).toString();
+        const QString before = value(named);
         m_database->run("DO $$ DECLARE i text; BEGIN FOR i IN SELECT indexname FROM pg_indexes WHERE indexname LIKE "
                         "'%\\_idx' LOOP EXECUTE 'DROP INDEX ' || i; END LOOP; END $$");
-        QVERIFY(m_database->value(named).toString().isEmpty());
+        QVERIFY(value(named).isEmpty());
         const InstallerRun run(KorInstaller::UpdateInstall);
         QCOMPARE(run.failures, knownComplaints);
-        QCOMPARE(m_database->value(named).toString(), before);
+        QCOMPARE(value(named), before);
     }
 
     void aTableThatIsMissingIsToldAndTheRestGoesOn()
@@ -151,26 +130,21 @@ private slots:
 private:
     [[nodiscard]] QString version() const
     {
-        return m_database->value("select appvalue from appconfig where appkey = 'app_version'").toString();
+        return value("select appvalue from appconfig where appkey = 'app_version'");
     }
     [[nodiscard]] QString widthOfTableCodes() const
     {
-        return m_database
-            ->value("select character_maximum_length from information_schema.columns where table_name = 'meja' and "
-                    "column_name = 'kode'")
-            .toString();
+        return value("select character_maximum_length from information_schema.columns where table_name = 'meja' and "
+                     "column_name = 'kode'");
     }
     [[nodiscard]] QString grantOf(const char* permission) const
     {
-        return m_database
-            ->value(QString("select string_agg(user_group.name || ' ' || grant_type, ', ' order by user_group.id) from "
-                            "access join user_group on user_group.id = group_id join permissions on permissions.id = "
-                            "permission_id where permission_name = '%1'")
-                        .arg(permission))
-            .toString();
+        return value(
+            QString("select string_agg(user_group.name || ' ' || grant_type, ', ' order by user_group.id) from "
+                    "access join user_group on user_group.id = group_id join permissions on permissions.id = "
+                    "permission_id where permission_name = '%1'")
+                .arg(permission));
     }
-
-    std::unique_ptr<TestDatabase> m_database;
 };
 
 QTEST_MAIN(TestDatabaseUpdate)

@@ -2,11 +2,10 @@
 #include "app/history/DataMapperHistory.h"
 #include "app/money/Money.h"
 #include "app/registry/AppMapperRegistry.h"
-#include "support/TestDatabase.h"
+#include "support/DatabaseTest.h"
 
 #include <QCryptographicHash>
 #include <QJsonDocument>
-#include <QTest>
 
 namespace
 {
@@ -32,18 +31,14 @@ public:
 } // namespace
 
 /** The journal of saved states. */
-class TestHistory : public QObject
+class TestHistory : public DatabaseTest
 {
     Q_OBJECT
 
-private slots:
-    void init()
-    {
-        m_database = std::make_unique<TestDatabase>();
-        m_history = AppMapperRegistry::instance()->historyMapper();
-    }
-    void cleanup() { m_database.reset(); }
+protected:
+    void prepare() override { m_history = AppMapperRegistry::instance()->historyMapper(); }
 
+private slots:
     void aRecordIsToldWithAllThatHangsOnIt()
     {
         EntityUserGroup group;
@@ -83,12 +78,10 @@ private slots:
         group.setGroupName("It's 100% ours");
         QVERIFY2(m_history->save(&group, 11, 2), qPrintable(m_history->takeError()));
         QVERIFY(m_history->save(&group, 11, 2));
-        QCOMPARE(m_database
-                     ->value("SELECT concat_ws('|', version_id, class_name, item_id, user_id, operation_id, "
-                             "saved_date IS NOT NULL) FROM entities_history LIMIT 1")
-                     .toString(),
+        QCOMPARE(value("SELECT concat_ws('|', version_id, class_name, item_id, user_id, operation_id, "
+                       "saved_date IS NOT NULL) FROM entities_history LIMIT 1"),
                  QString("3|EntityUserGroup|5|11|2|t"));
-        const QByteArray json = m_database->value("SELECT data_json FROM entities_history").toString().toUtf8();
+        const QByteArray json = value("SELECT data_json FROM entities_history").toUtf8();
         QCOMPARE(QJsonDocument::fromJson(json).object(), m_history->toJson(&group));
         QCOMPARE(m_database->value("SELECT sha1_hash FROM entities_history").toByteArray(),
                  QCryptographicHash::hash(json, QCryptographicHash::Sha1).toHex());
@@ -105,7 +98,6 @@ private slots:
     }
 
 private:
-    std::unique_ptr<TestDatabase> m_database;
     DataMapperHistory* m_history = nullptr;
 };
 

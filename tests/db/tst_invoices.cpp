@@ -1,16 +1,12 @@
-#include "kor/business/KorServiceDirectory.h"
 #include "pos/invoice/DataMapperInvoice.h"
 #include "pos/invoice/EntityInvoiceDetail.h"
 #include "pos/registry/PosMapperRegistry.h"
 #include "pos/totals/InvoiceTotals.h"
-#include "support/Rows.h"
+#include "support/DatabaseTest.h"
 #include "support/ShopRows.h"
-#include "support/TestDatabase.h"
 #include "support/TripCount.h"
 #include "zavel/dinein/EntityInvoiceMakanDitempat.h"
 #include "zavel/service/BusinessPenjualan.h"
-
-#include <QTest>
 
 namespace
 {
@@ -27,66 +23,18 @@ using Dish = QPair<int, int>;
 } // namespace
 
 /** What a sale at a table leaves in the database, and what it leaves behind when it fails. */
-class TestInvoices : public QObject
+class TestInvoices : public DatabaseTest
 {
     Q_OBJECT
 
-private slots:
-    void init()
+protected:
+    void prepare() override
     {
-        m_database = std::make_unique<TestDatabase>();
-        m_records = std::make_unique<QObject>();
         insertShop(*m_database);
-        loginAsAdmin();
         m_sales = service<BusinessPenjualan>("Sales");
     }
 
-    void cleanup()
-    {
-        m_sales->clearErrors();
-        m_records.reset();
-        m_database.reset();
-    }
-
-    void anInvoiceIsReadBackWithItsPeopleItsOrderAndItsLines()
-    {
-        EntityMakanDitempat* table = order({{2, 300}, {1, 400}});
-        EntityInvoiceMakanDitempat* first = sale(table, {{2, 300}, {1, 400}}, 1500);
-        EntityEmployee ann;
-        ann.setId(1);
-        EntityAgent guide;
-        guide.setId(1);
-        EntityMember guest;
-        guest.setId(1);
-        first->setEmployee(&ann);
-        first->setAgent(&guide);
-        first->getInvoice()->setMember(&guest);
-        first->setDueDate(QDate(2026, 4, 1));
-        first->getInvoice()->setPemesan("Mary");
-        QVERIFY2(m_sales->insertInvoice(first), qPrintable(m_sales->takeErrors()));
-
-        EntityInvoiceMakanDitempat* found = m_sales->findMakanDitempatByInvoiceId(first->getInvoice()->getId());
-        QVERIFY(found);
-        QCOMPARE(found->getId(), first->getId());
-        const Invoice* invoice = found->getInvoice();
-        QCOMPARE(invoice->getInvoiceNo(), QString("TRD-0007"));
-        QCOMPARE(invoice->getStatus(), int(Invoice::FULL_PAID));
-        // More was paid than it cost: what is due has the sign of change.
-        QCOMPARE(invoice->getNetDue()->getAmount(), -500.0);
-        QCOMPARE(invoice->getMember()->getNama(), QString("Guest"));
-        QCOMPARE(found->getAgent()->getNama(), QString("Guide"));
-        QCOMPARE(found->getEmployee()->getNama(), QString("Ann"));
-        QCOMPARE(found->getDueDate(), QDate(2026, 4, 1));
-        QCOMPARE(found->getMakanDitempat()->getMeja()->getKode(), QString("T1"));
-        QCOMPARE(found->getMakanDitempat()->getDetails().size(), 2);
-        QCOMPARE(found->getDetails().size(), 2);
-        QCOMPARE(found->getDetails().first()->getItem()->getNama(), QString("Rice"));
-        QCOMPARE(found->getDetails().first()->getTotal()->getAmount(), 600.0);
-        QCOMPARE(stored("invoice_type, employee_id, pemesan", "invoice", invoice->getId()), QString("TRD 1 Mary"));
-        QCOMPARE(m_database->value("select sum(discount_amount) from invoice_detail").toInt(), 0);
-        QCOMPARE(orderStatus(table->getId()), int(EntityOrder::PAID));
-    }
-
+private slots:
     void savingAndReadingTakeAFixedNumberOfTrips()
     {
         const QList<Dish> dishes{{1, 10}, {2, 20}, {3, 30}, {4, 40}, {5, 50}, {6, 60}};
@@ -142,25 +90,6 @@ private slots:
         QCOMPARE(orderStatus(table->getId()), int(EntityOrder::PAID));
     }
 
-    void anInvoiceThatSomebodyElseSavedIsNotOverwritten()
-    {
-        EntityMakanDitempat* table = order({{2, 300}});
-        EntityInvoiceMakanDitempat* first = sale(table, {{2, 300}}, 0);
-        QVERIFY(m_sales->insertInvoice(first));
-        EntityInvoiceMakanDitempat* again = readAgain(first);
-        m_database->run("UPDATE invoice SET version = 2, updatedby = 5");
-
-        again->setDetails(lines({{9, 300}}));
-        pay(again, 2700);
-        QVERIFY(!m_sales->updateInvoice(again));
-        // Changing an invoice fails in the words of writing one.
-        const QString told = m_sales->takeErrors();
-        QVERIFY2(told.startsWith("error: insert dine invoice failed  \r\n Table: invoice has been updated"),
-                 qPrintable(told));
-        QCOMPARE(soldQuantities(again->getInvoice()->getId()), QString("2"));
-        QCOMPARE(orderStatus(table->getId()), int(EntityOrder::UNPAID));
-    }
-
     void aLineThatFailsTakesTheWholeSaleBack()
     {
         EntityMakanDitempat* table = order({{2, 300}});
@@ -179,21 +108,6 @@ private slots:
         // The number was not lost with the attempt.
         QCOMPARE(first->getInvoice()->getInvoiceNo(), QString("TRD-0007"));
         QCOMPARE(soldQuantities(first->getInvoice()->getId()), QString("2,1"));
-    }
-
-    void aLineThatFailsLeavesTheStoredInvoice()
-    {
-        EntityMakanDitempat* table = order({{2, 300}});
-        EntityInvoiceMakanDitempat* first = sale(table, {{2, 300}}, 0);
-        QVERIFY(m_sales->insertInvoice(first));
-        EntityInvoiceMakanDitempat* again = readAgain(first);
-        again->setDetails(lines({{8, 300}, {9, 300}}));
-        again->getDetails().last()->getItem()->setId(4711);
-        pay(again, 600);
-        QVERIFY(!m_sales->updateInvoice(again));
-        QVERIFY(m_sales->takeErrors().startsWith("error: insert dine invoice detail failed.\r\n \r\n "));
-        QCOMPARE(soldQuantities(again->getInvoice()->getId()), QString("2"));
-        QCOMPARE(stored("amount_paid_amount, version", "invoice", again->getInvoice()->getId()), QString("0 1"));
     }
 
     void aFirstSaveAsksAllInvoicesOfTheTableALaterOneOnlyItself()
@@ -217,7 +131,7 @@ private slots:
     void aSaleStandsEvenWhenTheOrderHasChangedMeanwhile()
     {
         EntityMakanDitempat* table = order({{2, 300}});
-        m_database->run("UPDATE makan_ditempat SET version = 2");
+        run("UPDATE makan_ditempat SET version = 2");
         EntityInvoiceMakanDitempat* first = sale(table, {{2, 300}}, 600);
         QVERIFY(m_sales->insertInvoice(first));
         QCOMPARE(count("invoice"), 1);
@@ -242,11 +156,11 @@ private slots:
     void aTableIsFreedHoweverOldItsOrderInMemoryIs()
     {
         EntityMakanDitempat* table = order({{2, 300}});
-        m_database->run("UPDATE makan_ditempat SET version = 5");
+        run("UPDATE makan_ditempat SET version = 5");
         QVERIFY2(m_sales->makanDitempatSelesai(table), qPrintable(m_sales->takeErrors()));
         QCOMPARE(orderStatus(table->getId()), int(EntityOrder::DONE));
-        m_database->run("DELETE FROM makan_ditempat_detail");
-        m_database->run("DELETE FROM makan_ditempat");
+        run("DELETE FROM makan_ditempat_detail");
+        run("DELETE FROM makan_ditempat");
         QVERIFY(!m_sales->makanDitempatSelesai(table));
         QVERIFY(m_sales->hasError());
     }
@@ -280,11 +194,10 @@ private slots:
 
     void aSessionLostBetweenTwoLinesWritesNothing_data()
     {
-        addColumns<bool>("isStored");
-        addRow("of a new invoice", false);
-        addRow("of a changed invoice", true);
+        const auto row = addColumns<bool>("isStored");
+        row("of a new invoice", false);
+        row("of a changed invoice", true);
     }
-
     void aSessionLostBetweenTwoLinesWritesNothing()
     {
         QFETCH(bool, isStored);
@@ -300,33 +213,12 @@ private slots:
         QVERIFY(!save());
         QVERIFY(m_sales->takeErrors().startsWith("error: insert dine invoice detail failed."));
         QCOMPARE(count("invoice"), isStored ? 1 : 0);
-        QCOMPARE(m_database->value("select coalesce(string_agg(qty::text, ','), '') from invoice_detail").toString(),
+        QCOMPARE(value("select coalesce(string_agg(qty::text, ','), '') from invoice_detail"),
                  QString(isStored ? "2" : ""));
 
-        m_database->run("DROP TRIGGER hang_up ON invoice_detail");
+        run("DROP TRIGGER hang_up ON invoice_detail");
         QVERIFY2(save(), qPrintable(m_sales->takeErrors()));
         QCOMPARE(soldQuantities(first->getInvoice()->getId()), QString("3,13,4"));
-    }
-
-    void aSessionLostWhileAnOrderIsSavedWritesNothing()
-    {
-        EntityMakanDitempat* table = order({{2, 300}});
-        EntityOrder::Lines ordered = table->getDetails();
-        for (int quantity : {13, 4}) {
-            EntityOrderDetail* line = ordered.first()->createSibling();
-            line->setParent(m_records.get());
-            line->setItem(ordered.first()->getItem());
-            line->setQty(quantity);
-            line->setPriceEach(new Money(line, 300, "Rp"));
-            line->setTotal(new Money(line, 300, "Rp"));
-            ordered.append(line);
-        }
-        table->setDetails(ordered);
-        hangUpAtQuantity13("makan_ditempat_detail");
-        QVERIFY(!m_sales->updateOrder(table));
-        QCOMPARE(m_sales->takeErrors().count("The connection to the database is lost."), 1);
-        QCOMPARE(count("makan_ditempat_detail"), 1);
-        QCOMPARE(stored("version", "makan_ditempat", table->getId()), QString("1"));
     }
 
 private:
@@ -382,32 +274,26 @@ private:
 
     QString stored(const QString& columns, const QString& table, int id)
     {
-        return m_database->value(QString("select concat_ws(' ', %1) from %2 where id = %3").arg(columns, table).arg(id))
-            .toString();
+        return value(QString("select concat_ws(' ', %1) from %2 where id = %3").arg(columns, table).arg(id));
     }
 
-    int count(const QString& table) { return m_database->value("select count(*) from " + table).toInt(); }
     int orderStatus(int id) { return stored("status", "makan_ditempat", id).toInt(); }
     QString soldQuantities(int invoiceId)
     {
-        return m_database
-            ->value(QString("select string_agg(qty::text, ',' order by id) from invoice_detail where invoice_id = %1")
-                        .arg(invoiceId))
-            .toString();
+        return value(QString("select string_agg(qty::text, ',' order by id) from invoice_detail where invoice_id = %1")
+                         .arg(invoiceId));
     }
 
     /** The server ends the program's session when it writes such a line to the table. */
     void hangUpAtQuantity13(const QString& table)
     {
-        m_database->run("CREATE FUNCTION hang_up() RETURNS trigger LANGUAGE plpgsql AS "
-                        "'BEGIN PERFORM pg_terminate_backend(pg_backend_pid()); RETURN NEW; END'");
-        m_database->run("CREATE TRIGGER hang_up BEFORE INSERT ON " + table +
-                        " FOR EACH ROW WHEN (NEW.qty = 13) "
-                        "EXECUTE FUNCTION hang_up()");
+        run("CREATE FUNCTION hang_up() RETURNS trigger LANGUAGE plpgsql AS "
+            "'BEGIN PERFORM pg_terminate_backend(pg_backend_pid()); RETURN NEW; END'");
+        run("CREATE TRIGGER hang_up BEFORE INSERT ON " + table +
+            " FOR EACH ROW WHEN (NEW.qty = 13) "
+            "EXECUTE FUNCTION hang_up()");
     }
 
-    std::unique_ptr<TestDatabase> m_database;
-    std::unique_ptr<QObject> m_records;
     BusinessPenjualan* m_sales = nullptr;
 };
 

@@ -1,15 +1,10 @@
-#include "kor/business/KorServiceDirectory.h"
 #include "pos/inventory/stock/BusinessStokAwal.h"
 #include "pos/masterdata/item/BusinessGroupedItem.h"
 #include "pos/masterdata/item/BusinessItem.h"
-#include "pos/masterdata/item/EntityGroupedItem.h"
 #include "pos/masterdata/item/EntityStokAwal.h"
 #include "pos/masterdata/itemtype/BusinessJenisItem.h"
 #include "pos/masterdata/unit/BusinessSatuan.h"
-#include "support/Rows.h"
-#include "support/TestDatabase.h"
-
-#include <QTest>
+#include "support/DatabaseTest.h"
 
 namespace
 {
@@ -24,21 +19,18 @@ QStringList codesOf(const QList<KorEntity*>& items)
 } // namespace
 
 /** What the kitchen stocks and the menu sells: search, prices, components, and who may be deleted. */
-class TestItems : public QObject
+class TestItems : public DatabaseTest
 {
     Q_OBJECT
 
-private slots:
-    void init()
+protected:
+    void prepare() override
     {
-        m_database = std::make_unique<TestDatabase>();
-        loginAsAdmin();
         m_items = service<BusinessItem>("Item");
         m_components = service<BusinessGroupedItem>("Grouped Item");
     }
 
-    void cleanup() { m_database.reset(); }
-
+private slots:
     void anItemKeepsItsPricesAndAccounts()
     {
         EntityItem tea;
@@ -68,8 +60,7 @@ private slots:
 
     void aSecondPriceIsKeptThoughNoFormShowsIt()
     {
-        m_database->run(
-            "UPDATE item SET harga_jual_luar_currency = 'Rp', harga_jual_luar_amount = 700 WHERE kode = 'ns'");
+        run("UPDATE item SET harga_jual_luar_currency = 'Rp', harga_jual_luar_amount = 700 WHERE kode = 'ns'");
         EntityItem* rice = find("ns");
         rice->setNama("Steamed rice");
         QVERIFY2(m_items->update(rice), qPrintable(m_items->takeErrors()));
@@ -91,29 +82,28 @@ private slots:
         QCOMPARE(balance->getItem()->getSatuan()->getKode(), QString("pcs"));
         QCOMPARE(balance->getDateTime().date(), QDate::currentDate());
         QCOMPARE(balances->findAll("TEA").size(), 1);
-        QCOMPARE(balances->findAll(QString()).size(), m_database->value("SELECT count(*) FROM item").toInt());
+        QCOMPARE(balances->findAll(QString()).size(), count("item"));
     }
 
     void anItemWithoutItsBalanceIsNotSaved_data()
     {
-        addColumns<QStringList, QString>("causes", "said");
-        addRow("a refused balance", QStringList{"ALTER TABLE stok_awal ADD CHECK (harga_amount < 100)"}, "stok_awal");
-        addRow("refused at the very end",
-               QStringList{"CREATE FUNCTION refuse() RETURNS trigger LANGUAGE plpgsql AS "
-                           "$$BEGIN RAISE EXCEPTION 'too dear'; END$$",
-                           "CREATE CONSTRAINT TRIGGER refuse AFTER INSERT ON stok_awal DEFERRABLE INITIALLY DEFERRED "
-                           "FOR EACH ROW WHEN (NEW.harga_amount >= 100) EXECUTE FUNCTION refuse()"},
-               "too dear");
-        addRow("no way to the server", QStringList(), "create transaction failed\r\n");
+        const auto row = addColumns<QStringList, QString>("causes", "said");
+        row("a refused balance", {"ALTER TABLE stok_awal ADD CHECK (harga_amount < 100)"}, "stok_awal");
+        row("refused at the very end",
+            {"CREATE FUNCTION refuse() RETURNS trigger LANGUAGE plpgsql AS "
+             "$$BEGIN RAISE EXCEPTION 'too dear'; END$$",
+             "CREATE CONSTRAINT TRIGGER refuse AFTER INSERT ON stok_awal DEFERRABLE INITIALLY DEFERRED "
+             "FOR EACH ROW WHEN (NEW.harga_amount >= 100) EXECUTE FUNCTION refuse()"},
+            "too dear");
+        row("no way to the server", {}, "create transaction failed\r\n");
     }
-
     void anItemWithoutItsBalanceIsNotSaved()
     {
         EntityItem tea;
         fill(tea, "tea", "mnm", EntityItem::INV);
         QFETCH(QStringList, causes);
         for (const QString& cause : qAsConst(causes))
-            m_database->run(cause);
+            run(cause);
         if (causes.isEmpty()) {
             QSqlDatabase program = QSqlDatabase::database(QSqlDatabase::defaultConnection, false);
             program.close();
@@ -133,28 +123,25 @@ private slots:
 
     void itemsAreSearched_data()
     {
-        addColumns<QString, QString, QString, QStringList>("way", "filter", "type", "found");
+        const auto row = addColumns<QString, QString, QString, QStringList>("way", "filter", "type", "found");
 
         using L = QStringList;
-        addRow("all", "any", "", "", L{"aym", "fr", "juice", "llp", "ns", "tea"});
-        addRow("a part of a name", "any", "rice", "", L{"fr", "llp", "ns"});
-        addRow("in whatever letters", "any", "FRI", "", L{"aym", "fr"});
-        addRow("a part of a code", "any", "uic", "", L{"juice"});
-        addRow("one type", "any", "", "mnm", L{"juice", "tea"});
-        addRow("one type and a name", "any", "rice", "mnm", L{});
-        addRow("stock", "stock", "", "", L{"aym", "ns", "tea"});
-        addRow("stock of one type", "stock", "", "mnm", L{"tea"});
-        addRow("stock by name", "stock", "rice", "", L{"ns"});
-        addRow("menu", "menu", "", "", L{"fr", "juice", "llp"});
-        addRow("menu of one type, by code", "menu", "JUI", "mnm", L{"juice"});
-        addRow("an apostrophe", "menu", "o'", "", L{});
+        row("all", "any", "", "", L{"aym", "fr", "juice", "llp", "ns", "tea"});
+        row("a part of a name", "any", "rice", "", L{"fr", "llp", "ns"});
+        row("in whatever letters", "any", "FRI", "", L{"aym", "fr"});
+        row("a part of a code", "any", "uic", "", L{"juice"});
+        row("one type", "any", "", "mnm", L{"juice", "tea"});
+        row("one type and a name", "any", "rice", "mnm", L{});
+        row("stock", "stock", "", "", L{"aym", "ns", "tea"});
+        row("stock of one type", "stock", "", "mnm", L{"tea"});
+        row("stock by name", "stock", "rice", "", L{"ns"});
+        row("menu", "menu", "", "", L{"fr", "juice", "llp"});
+        row("menu of one type, by code", "menu", "JUI", "mnm", L{"juice"});
+        row("an apostrophe", "menu", "o'", "", L{});
     }
-
     void itemsAreSearched()
     {
-        QFETCH(QString, way);
-        QFETCH(QString, filter);
-        QFETCH(QString, type);
+        FETCH(QString, way, filter, type);
         EntityItem tea;
         fill(tea, "tea", "mnm", EntityItem::INV);
         EntityItem juice;
@@ -169,30 +156,9 @@ private slots:
         QTEST(codesOf(found), "found");
     }
 
-    void componentsAreListedAndFound()
-    {
-        const int parent = find("fr")->getId();
-        const auto rows = castAll<EntityGroupedItem>(m_components->search("RICE", parent));
-        QCOMPARE(rows.size(), 1);
-        EntityGroupedItem* rice = rows.first();
-        QCOMPARE(rice->getOriginal()->getKode(), QString("ns"));
-        QCOMPARE(rice->getOriginal()->getHargaBeli()->getAmount(), 1.0);
-        QCOMPARE(rice->getJumlah(), 2);
-        QCOMPARE(m_components->search("", parent).size(), 2);
-        QCOMPARE(m_components->search("", find("ns")->getId()).size(), 0);
-        QVERIFY(m_components->findByParentAndItem(parent, find("ns")->getId()));
-        QVERIFY(!m_components->findByParentAndItem(find("ns")->getId(), parent));
-
-        // A row as it was read can be saved again: it knows its parent.
-        rice->setJumlah(3);
-        QVERIFY2(m_components->update(rice), qPrintable(m_components->takeErrors()));
-        QCOMPARE(m_components->findByParentAndItem(parent, find("ns")->getId())->getJumlah(), 3);
-    }
-
     void aComponentIsNotDeletedBeforeItsParents()
     {
-        m_database->run(
-            "INSERT INTO grouped_item (parent_id, original_item_id, jumlah, version) SELECT p.id, c.id, 1, 1 "
+        run("INSERT INTO grouped_item (parent_id, original_item_id, jumlah, version) SELECT p.id, c.id, 1, 1 "
             "FROM item p, item c WHERE p.kode = 'llp' AND c.kode = 'ns'");
         QVERIFY(!m_items->remove(find("ns")));
         QCOMPARE(m_items->takeErrors(),
@@ -200,16 +166,16 @@ private slots:
         QVERIFY(find("ns"));
 
         QVERIFY2(m_items->remove(find("fr")), qPrintable(m_items->takeErrors()));
-        QCOMPARE(m_database->value("SELECT count(*) FROM grouped_item").toInt(), 1);
+        QCOMPARE(count("grouped_item"), 1);
         QVERIFY2(m_items->remove(find("llp")), qPrintable(m_items->takeErrors()));
         QVERIFY2(m_items->remove(find("ns")), qPrintable(m_items->takeErrors()));
-        QCOMPARE(m_database->value("SELECT count(*) FROM stok_awal").toInt(), 1);
+        QCOMPARE(count("stok_awal"), 1);
     }
 
     void aFailedLookForParentsDeletesNothing()
     {
         EntityItem* vegetables = find("llp");
-        m_database->run("ALTER TABLE grouped_item RENAME TO elsewhere");
+        run("ALTER TABLE grouped_item RENAME TO elsewhere");
         QVERIFY(!m_items->remove(vegetables));
         QCOMPARE(m_items->errors().keys(), QStringList{"remove"});
         m_items->clearErrors();
@@ -232,7 +198,6 @@ private:
         item.setCostOfSalesAcctCode("5000");
     }
 
-    std::unique_ptr<TestDatabase> m_database;
     BusinessItem* m_items = nullptr;
     BusinessGroupedItem* m_components = nullptr;
 };

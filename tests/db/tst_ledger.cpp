@@ -1,5 +1,3 @@
-#include "app/context/AppContext.h"
-#include "kor/business/KorServiceDirectory.h"
 #include "kor/persistence/KorQuery.h"
 #include "pos/cash/ledger/BusinessCashFlow.h"
 #include "pos/cash/ledger/CashFlowFilter.h"
@@ -7,14 +5,12 @@
 #include "pos/cash/transfer/AccountingTransactionFilter.h"
 #include "pos/cash/transfer/BusinessAccountingTransaction.h"
 #include "pos/cash/transfer/EntityAccountingTransaction.h"
+#include "support/DatabaseTest.h"
 #include "support/LedgerRows.h"
-#include "support/Rows.h"
 #include "support/SalesRows.h"
 #include "support/ShopRows.h"
-#include "support/TestDatabase.h"
 
 #include <QRandomGenerator>
-#include <QTest>
 #include <QTranslator>
 
 namespace
@@ -103,33 +99,30 @@ private:
 } // namespace
 
 /** Every movement of money in one list, made of the documents as they are. */
-class TestLedger : public QObject
+class TestLedger : public DatabaseTest
 {
     Q_OBJECT
 
-private slots:
-    void init()
+protected:
+    void prepare() override
     {
-        m_database = std::make_unique<TestDatabase>();
         insertShop(*m_database);
-        m_database->run("INSERT INTO bank (id, kode, nama, account_type, active, version) VALUES "
-                        "(2, '2-AB', 'Safe', 1, true, 1), (3, '3-cd', 'Bank O''Neil', 1, true, 1)");
-        loginAsAdmin();
-        m_database->run("TRUNCATE users CASCADE");
+        run("INSERT INTO bank (id, kode, nama, account_type, active, version) VALUES "
+            "(2, '2-AB', 'Safe', 1, true, 1), (3, '3-cd', 'Bank O''Neil', 1, true, 1)");
+        run("TRUNCATE users CASCADE");
         insertSeller(*m_database, 1, "ann");
         insertSeller(*m_database, 2, "ben");
         AppContext::instance()->setLocale("id_ID");
         m_service = service<BusinessCashFlow>("Journal Transaction");
     }
 
-    void cleanup() { m_database.reset(); }
+private slots:
     void theLedgerIsWhatTheDocumentsComeTo_data()
     {
-        addColumns<quint32>("seed");
+        const auto row = addColumns<quint32>("seed");
         for (quint32 seed : {1U, 2U, 3U})
-            QTest::addRow("seed %u", seed) << seed;
+            row(qPrintable(QString("seed %1").arg(seed)), seed);
     }
-
     void theLedgerIsWhatTheDocumentsComeTo()
     {
         QFETCH(quint32, seed);
@@ -175,12 +168,11 @@ private slots:
 
     void everyWorkstationReadsTheTypesInItsLanguage_data()
     {
-        addColumns<QString>("label");
+        const auto row = addColumns<QString>("label");
         for (const char* label :
              {"Vente de l'après-midi", "'; drop table users; --", "Was? :code :fromDate", "a\\'b\\"})
-            addRow(label, QString(label));
+            row(label, QString(label));
     }
-
     void everyWorkstationReadsTheTypesInItsLanguage()
     {
         QFETCH(QString, label);
@@ -199,7 +191,7 @@ private slots:
         insertLedgerRow(*m_database, {LedgerRow::CreditEntry, "KK-0001", march, 70, 2, "2-AB"});
         insertLedgerRow(*m_database, {LedgerRow::Purchase, "NB-0001", march, 70, 1});
         QCOMPARE(ledger(inMarch).size(), 2);
-        m_database->run("DELETE FROM bank WHERE kode = '2-AB'");
+        run("DELETE FROM bank WHERE kode = '2-AB'");
         QCOMPARE(ledger(inMarch).size(), 1);
         const EntityCashFlow* entry = m_service->getByTransNo("  kk-0001 ");
         QVERIFY(entry);
@@ -253,7 +245,6 @@ private:
         return lines;
     }
 
-    std::unique_ptr<TestDatabase> m_database;
     BusinessCashFlow* m_service = nullptr;
 };
 

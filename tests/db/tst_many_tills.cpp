@@ -21,11 +21,10 @@
 #include "pos/purchasing/purchase/DataMapperAcquisition.h"
 #include "pos/purchasing/purchaseorder/DataMapperPurchaseOrder.h"
 #include "pos/totals/InvoiceTotals.h"
+#include "support/DatabaseTest.h"
 #include "support/PurchasingRows.h"
-#include "support/Rows.h"
 #include "support/SalesRows.h"
 #include "support/ShopRows.h"
-#include "support/TestDatabase.h"
 #include "support/TripCount.h"
 #include "zavel/commission/DataMapperKomisiAgen.h"
 #include "zavel/dinein/DataMapperInvoiceMakanDitempat.h"
@@ -39,7 +38,6 @@
 #include "zavel/tables/DataMapperMeja.h"
 
 #include <QMutex>
-#include <QTest>
 #include <QThread>
 
 #include <vector>
@@ -205,19 +203,14 @@ using Save = bool (Till::*)();
 Q_DECLARE_METATYPE(Save)
 
 /** Several workstations at the same documents and numbers at the same moment. */
-class TestManyTills : public QObject
+class TestManyTills : public DatabaseTest
 {
     Q_OBJECT
 
-private slots:
-    void init()
-    {
-        m_database = std::make_unique<TestDatabase>();
-        insertShop(*m_database);
-        loginAsAdmin();
-    }
+protected:
+    void prepare() override { insertShop(*m_database); }
 
-    void cleanup() { m_database.reset(); }
+private slots:
     void aSaleOverTheCounterTakesFewTrips()
     {
         Till here;
@@ -271,29 +264,27 @@ private slots:
 
     void aLockThatCanNotBeHadIsTheFailureOfTheSave_data()
     {
-        addColumns<QString, Save, QString>("held", "save", "frame");
-        addRow("a sale's number", numberLock("TRF"), Save(&Till::fastFood), "error: insert fast food invoice");
-        addRow("a purchase's number", numberLock("NB"), Save(&Till::purchase), "error: insert Purchase failed");
-        addRow("an entry's number", numberLock("KK"), Save(&Till::cashEntry), "");
-        addRow("the numbers' form", numberLock("TRF"), Save(&Till::changeNumber), "");
-        addRow("a table", "SELECT 1 FROM meja FOR UPDATE", Save(&Till::dine), "error: insert dine failed");
-        addRow("a bill's number", numberLock("TRD"), Save(&Till::dine), "error: insert dine invoice failed");
-        addRow("the number's row itself", "SELECT 1 FROM keytable FOR UPDATE", Save(&Till::fastFood),
-               "error: insert fast food invoice");
+        const auto row = addColumns<QString, Save, QString>("held", "save", "frame");
+        row("a sale's number", numberLock("TRF"), Save(&Till::fastFood), "error: insert fast food invoice");
+        row("a purchase's number", numberLock("NB"), Save(&Till::purchase), "error: insert Purchase failed");
+        row("an entry's number", numberLock("KK"), Save(&Till::cashEntry), "");
+        row("the numbers' form", numberLock("TRF"), Save(&Till::changeNumber), "");
+        row("a table", "SELECT 1 FROM meja FOR UPDATE", Save(&Till::dine), "error: insert dine failed");
+        row("a bill's number", numberLock("TRD"), Save(&Till::dine), "error: insert dine invoice failed");
+        row("the number's row itself", "SELECT 1 FROM keytable FOR UPDATE", Save(&Till::fastFood),
+            "error: insert fast food invoice");
     }
-
     void aLockThatCanNotBeHadIsTheFailureOfTheSave()
     {
-        QFETCH(QString, held);
+        FETCH(QString, held, frame);
         QFETCH(Save, save);
-        QFETCH(QString, frame);
         KorQuery().exec("SET lock_timeout = '100ms'");
         EntityPool pool;
         const EntityPoolScope scope(pool);
         Till here;
-        m_database->run("BEGIN; " + held);
+        run("BEGIN; " + held);
         QVERIFY(!(here.*save)());
-        m_database->run("ROLLBACK");
+        run("ROLLBACK");
         const QString errors = here.takeErrors();
         QVERIFY2(errors.startsWith(frame) && errors.contains("canceling statement due to lock timeout"),
                  qPrintable(errors));
@@ -306,18 +297,16 @@ private slots:
 
     void whoRemovesADocumentAndWhoSavesItDoNotWaitForEachOther_data()
     {
-        addColumns<QString, QString, Save>("document", "line", "removal");
-        addRow("an order", "makan_ditempat", "makan_ditempat_detail", Save(&Till::removeOrder));
-        addRow("a sale", "invoice", "invoice_fast_food", Save(&Till::removeSale));
-        addRow("a purchase", "acquisition", "acquisition_detail", Save(&Till::removePurchase));
-        addRow("a member's payment", "piutang", "piutang_detail", Save(&Till::removeMembersPayment));
-        addRow("a commission", "komisi_agen", "komisi_agen_detail", Save(&Till::removeCommission));
+        const auto row = addColumns<QString, QString, Save>("document", "line", "removal");
+        row("an order", "makan_ditempat", "makan_ditempat_detail", Save(&Till::removeOrder));
+        row("a sale", "invoice", "invoice_fast_food", Save(&Till::removeSale));
+        row("a purchase", "acquisition", "acquisition_detail", Save(&Till::removePurchase));
+        row("a member's payment", "piutang", "piutang_detail", Save(&Till::removeMembersPayment));
+        row("a commission", "komisi_agen", "komisi_agen_detail", Save(&Till::removeCommission));
     }
-
     void whoRemovesADocumentAndWhoSavesItDoNotWaitForEachOther()
     {
-        QFETCH(QString, document);
-        QFETCH(QString, line);
+        FETCH(QString, document, line);
         QFETCH(Save, removal);
         insertDineOrder(*m_database, {{1, 100}});
         SaleRow sale;
@@ -327,12 +316,11 @@ private slots:
         PurchaseRow purchase;
         purchase.no = "NB-0001";
         insertPurchase(*m_database, purchase);
-        m_database->run("INSERT INTO piutang (payment_type, member_id, payment_date, no, grandtotal_currency, "
-                        "grandtotal_amount, version) VALUES (1, 1, now(), 'PIU-0001', 'Rp', 100, 1); "
-                        "INSERT INTO piutang_detail (piutang_id, invoice_id, amount_paid_currency, amount_paid_amount, "
-                        "amount_due_currency, amount_due_amount, version) VALUES (1, 1, 'Rp', 100, 'Rp', 100, 1)");
-        m_database->run(
-            "INSERT INTO komisi_agen (no, agent_id, payment_date, grandtotal_currency, grandtotal_amount, "
+        run("INSERT INTO piutang (payment_type, member_id, payment_date, no, grandtotal_currency, "
+            "grandtotal_amount, version) VALUES (1, 1, now(), 'PIU-0001', 'Rp', 100, 1); "
+            "INSERT INTO piutang_detail (piutang_id, invoice_id, amount_paid_currency, amount_paid_amount, "
+            "amount_due_currency, amount_due_amount, version) VALUES (1, 1, 'Rp', 100, 'Rp', 100, 1)");
+        run("INSERT INTO komisi_agen (no, agent_id, payment_date, grandtotal_currency, grandtotal_amount, "
             "amount_paid_currency, amount_paid_amount, net_due_currency, net_due_amount, version) VALUES "
             "('KAG-0001', 1, now(), 'Rp', 10, 'Rp', 10, 'Rp', 0, 1); "
             "INSERT INTO komisi_agen_detail (komisi_agen_id, invoice_id, commision_perc, commision_currency, "
@@ -340,7 +328,7 @@ private slots:
 
         // A save writes the document, then its lines. The removal begins between the two.
         const QString change = "UPDATE %1 SET version = version + 1";
-        m_database->run("BEGIN; " + change.arg(document));
+        run("BEGIN; " + change.arg(document));
         bool removed = true;
         QString errors;
         const std::unique_ptr<QThread> other(QThread::create([&] {
@@ -352,17 +340,14 @@ private slots:
         }));
         other->start();
         QTRY_COMPARE(value("SELECT count(*) FROM pg_locks WHERE NOT granted"), QString("1"));
-        m_database->run(change.arg(line));
-        m_database->run("COMMIT");
+        run(change.arg(line));
+        run("COMMIT");
         QVERIFY(other->wait());
         QVERIFY(!removed);
         QVERIFY2(errors.contains("has been updated by user id"), qPrintable(errors));
     }
 
 private:
-    QString value(const QString& statement) { return m_database->value(statement).toString(); }
-
-    std::unique_ptr<TestDatabase> m_database;
 };
 
 QTEST_MAIN(TestManyTills)

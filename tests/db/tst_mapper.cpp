@@ -1,34 +1,27 @@
 #include "kor/entity/KorColumnMap.h"
 #include "kor/persistence/KorBatch.h"
 #include "kor/persistence/KorDatabase.h"
-#include "kor/persistence/KorPaging.h"
-#include "support/Rows.h"
+#include "support/DatabaseTest.h"
 #include "support/TestCluster.h"
-#include "support/TestDatabase.h"
 #include "zavel/registry/ZavelMapperRegistry.h"
 #include "zavel/tables/DataMapperMeja.h"
 #include "zavel/tables/EntityMeja.h"
 
-#include <QTest>
-#include <QThread>
-
 Q_DECLARE_METATYPE(KorConditions)
 
 /** What every mapper does, shown on the restaurant's tables. */
-class TestMapper : public QObject
+class TestMapper : public DatabaseTest
 {
     Q_OBJECT
 
-private slots:
-    void init()
+protected:
+    void prepare() override
     {
-        m_database = std::make_unique<TestDatabase>();
-        m_database->run("DELETE FROM meja");
+        run("DELETE FROM meja");
         m_mapper = ZavelMapperRegistry::instance()->mejaMapper();
-        loginAsAdmin();
     }
-    void cleanup() { m_database.reset(); }
 
+private slots:
     void aNewTableIsStampedAndFoundAgain()
     {
         EntityMeja table;
@@ -88,12 +81,12 @@ private slots:
 
     void manyTablesAtOnceAreStoredAsOneByOne_data()
     {
-        addColumns<QString>("name");
-        addRow("plain", "Window");
-        addRow("empty", "");
-        addRow("quotes and backslashes", "o'B\\'' \\x \"n\"");
-        addRow("placeholders", "? :name $1 %1; drop table meja");
-        addRow("line ends and other letters", QString::fromUtf8("a\r\nb\tü 窓"));
+        const auto row = addColumns<QString>("name");
+        row("plain", "Window");
+        row("empty", "");
+        row("quotes and backslashes", "o'B\\'' \\x \"n\"");
+        row("placeholders", "? :name $1 %1; drop table meja");
+        row("line ends and other letters", QString::fromUtf8("a\r\nb\tü 窓"));
     }
     void manyTablesAtOnceAreStoredAsOneByOne()
     {
@@ -133,7 +126,7 @@ private slots:
         KorBatch inserts;
         m_mapper->insertWith(inserts, {&stays, &goes});
         QVERIFY(inserts.send());
-        m_database->run("DELETE FROM meja WHERE kode = 'B'");
+        run("DELETE FROM meja WHERE kode = 'B'");
         stays.setNama("Bar");
         KorBatch changes;
         m_mapper->updateWith(changes, &goes);
@@ -143,7 +136,7 @@ private slots:
         const QString told = "Table: meja has been deleted";
         QCOMPARE(changes.failures(), QStringList({told, told}));
         QCOMPARE(changes.failed(), m_mapper);
-        QCOMPARE(m_database->value("SELECT nama FROM meja").toString(), QString("Bar"));
+        QCOMPARE(value("SELECT nama FROM meja"), QString("Bar"));
     }
 
     void theSlowerOfTwoWorkstationsIsTold()
@@ -152,27 +145,16 @@ private slots:
         table.setKode("A1");
         table.setNama("One");
         QVERIFY(m_mapper->insert(&table));
-        m_database->run("UPDATE meja SET version = version + 1, updatedby = 9, updatedtime = now()");
+        run("UPDATE meja SET version = version + 1, updatedby = 9, updatedtime = now()");
         QVERIFY(!m_mapper->update(&table));
         QCOMPARE(m_mapper->takeError(),
                  QString("Table: meja has been updated by user id: %1  at: 9").arg(table.getId()));
         QVERIFY(!m_mapper->remove(&table));
         QVERIFY(m_mapper->takeError().startsWith("Table: meja has been updated"));
-        m_database->run("DELETE FROM meja");
+        run("DELETE FROM meja");
         QVERIFY(!m_mapper->update(&table));
         QCOMPARE(m_mapper->takeError(), QString("Table: meja has been deleted"));
         QVERIFY(!m_mapper->hasError());
-    }
-
-    void aSecondUpdateNeedsTheFreshRow()
-    {
-        EntityMeja table;
-        table.setKode("A1");
-        table.setNama("One");
-        QVERIFY(m_mapper->insert(&table));
-        QVERIFY(m_mapper->update(&table));
-        QVERIFY(!m_mapper->update(&table));
-        m_mapper->clearError();
     }
 
     void aLostConnectionIsAnErrorAndHealsByItself()
@@ -189,9 +171,9 @@ private slots:
         QVERIFY2(m_mapper->insert(&table), qPrintable(m_mapper->takeError()));
 
         // Lost behind the statement, which saves by itself, it may have been saved.
-        m_database->run("CREATE FUNCTION hang_up() RETURNS trigger LANGUAGE plpgsql AS 'BEGIN PERFORM "
-                        "pg_terminate_backend(pg_backend_pid()); RETURN NEW; END'; CREATE TRIGGER hang_up BEFORE "
-                        "INSERT ON meja FOR EACH ROW EXECUTE FUNCTION hang_up()");
+        run("CREATE FUNCTION hang_up() RETURNS trigger LANGUAGE plpgsql AS 'BEGIN PERFORM "
+            "pg_terminate_backend(pg_backend_pid()); RETURN NEW; END'; CREATE TRIGGER hang_up BEFORE "
+            "INSERT ON meja FOR EACH ROW EXECUTE FUNCTION hang_up()");
         QVERIFY(!m_mapper->insert(&table));
         QVERIFY(m_mapper->takeError().contains("it is not certain whether it was saved"));
     }
@@ -215,34 +197,21 @@ private slots:
 
     void searchTextsReachTheDatabaseAsTyped_data()
     {
-        addColumns<QString, int>("filter", "rows");
-        addRow("everything", "", 3);
-        addRow("part of a name", "corner", 1);
-        addRow("apostrophe", "window's", 1);
-        addRow("lone apostrophe", "'", 1);
-        addRow("percent sign is a wildcard", "%", 3);
-        addRow("backslash", "\\", 0);
-        addRow("looks like SQL", "'; drop table meja; --", 0);
+        const auto row = addColumns<QString, int>("filter", "rows");
+        row("everything", "", 3);
+        row("part of a name", "corner", 1);
+        row("apostrophe", "window's", 1);
+        row("lone apostrophe", "'", 1);
+        row("percent sign is a wildcard", "%", 3);
+        row("backslash", "\\", 0);
+        row("looks like SQL", "'; drop table meja; --", 0);
     }
     void searchTextsReachTheDatabaseAsTyped()
     {
-        m_database->run("INSERT INTO meja (kode, nama, version) VALUES ('a', 'Window''s corner', 1), ('b', 'B', 1), "
-                        "('c', 'C', 1)");
+        run("INSERT INTO meja (kode, nama, version) VALUES ('a', 'Window''s corner', 1), ('b', 'B', 1), "
+            "('c', 'C', 1)");
         QFETCH(QString, filter);
         QTEST(m_mapper->findAll(filter).size(), "rows");
-    }
-
-    void anotherThreadSpeaksThroughAConnectionOfItsOwn()
-    {
-        m_database->run("INSERT INTO meja (kode, nama, version) VALUES ('a', 'A', 1)");
-        QString name;
-        std::unique_ptr<QThread> worker(QThread::create([this, &name] {
-            const std::unique_ptr<KorEntity> table(m_mapper->findByCode("A"));
-            name = table ? static_cast<EntityMeja*>(table.get())->getNama() : m_mapper->takeError();
-        }));
-        worker->start();
-        QVERIFY(worker->wait());
-        QCOMPARE(name, QString("A"));
     }
 
     void aMomentThatNobodyEnteredIsNoNull()
@@ -252,15 +221,7 @@ private slots:
         QVERIFY(value.toString().isEmpty() && !value.isNull());
     }
 
-    void aListIsOneStatement()
-    {
-        const StatementCount statements;
-        QCOMPARE(m_mapper->findAll(QString()).size(), 0);
-        QCOMPARE(statements.count(), 1);
-    }
-
 private:
-    std::unique_ptr<TestDatabase> m_database;
     DataMapperMeja* m_mapper = nullptr;
 };
 

@@ -1,17 +1,15 @@
 #include "app/persistence/AppMasterMapper.h"
-#include "kor/business/KorServiceDirectory.h"
 #include "kor/entity/KorEntity.h"
 #include "kor/entity/KorMetaDataMap.h"
+#include "kor/persistence/KorMigration.h"
 #include "pos/masterdata/account/BusinessBank.h"
 #include "pos/masterdata/agent/DataMapperAgent.h"
 #include "pos/masterdata/supplier/BusinessSupplier.h"
 #include "pos/registry/PosMapperRegistry.h"
+#include "support/DatabaseTest.h"
 #include "support/MasterFamilies.h"
-#include "support/Rows.h"
-#include "support/TestDatabase.h"
 
 #include <QDate>
-#include <QTest>
 
 #include <algorithm>
 
@@ -74,22 +72,19 @@ QStringList names(const QList<KorEntity*>& records)
 } // namespace
 
 /** What the restaurant expects of everything that it keeps under a code and a name. */
-class TestMasterMappers : public QObject
+class TestMasterMappers : public DatabaseTest
 {
     Q_OBJECT
 
-private slots:
-    void initTestCase()
-    {
-        m_database = std::make_unique<TestDatabase>();
-        loginAsAdmin();
-    }
-    void cleanupTestCase() { m_database.reset(); }
-    void init()
+protected:
+    void prepare() override
     {
         for (const MasterFamily& family : masterFamilies())
-            m_database->run("TRUNCATE " + family.table + " CASCADE");
+            run("TRUNCATE " + family.table + " CASCADE");
     }
+
+private slots:
+    void initTestCase() { keepDatabase(); }
 
     void everyFieldIsKeptAndChanged_data() { addFamilyRows(); }
     void everyFieldIsKeptAndChanged()
@@ -113,28 +108,6 @@ private slots:
         QCOMPARE(changed->getUpdatedBy(), 1);
     }
 
-    void theSlowerOfTwoWorkstationsIsTold_data() { addFamilyRows(); }
-    void theSlowerOfTwoWorkstationsIsTold()
-    {
-        const MasterFamily& family = currentFamily();
-        AppMasterMapper* mapper = family.mapper();
-        KorEntity* record = saved("a", "Anything");
-        m_database->run("UPDATE " + family.table + " SET version = 2, updatedby = 9, updatedtime = now()");
-        const QString told =
-            QString("Table: %1 has been updated by user id: %2  at: 9").arg(family.table).arg(record->getId());
-        QVERIFY(!mapper->update(record));
-        QCOMPARE(mapper->takeError(), told);
-        QVERIFY(!mapper->remove(record));
-        QCOMPARE(mapper->takeError(), told);
-
-        KorEntity* fresh = mapper->findById(record->getId());
-        QVERIFY(mapper->remove(fresh));
-        QVERIFY(!mapper->findById(record->getId()));
-        QVERIFY(!mapper->hasError());
-        QVERIFY(!mapper->update(fresh));
-        QCOMPARE(mapper->takeError(), QString("Table: %1 has been deleted").arg(family.table));
-    }
-
     void aCodeIsFoundInWhateverLetters_data() { addFamilyRows(); }
     void aCodeIsFoundInWhateverLetters()
     {
@@ -156,9 +129,9 @@ private slots:
         const MasterFamily& family = currentFamily();
         for (const auto& row : {qMakePair(QString("c9"), QString("Zebra's")), qMakePair(QString("b8"), QString("Ape")),
                                 qMakePair(QString("a7"), QString("Mole"))})
-            m_database->run(family.insertStatement(row.first, row.second));
+            run(family.insertStatement(row.first, row.second));
         // A changed row moves to the end of the table: only a sorted list is not disturbed by it.
-        m_database->run("UPDATE " + family.table + " SET version = 1 WHERE kode = 'c9'");
+        run("UPDATE " + family.table + " SET version = 1 WHERE kode = 'c9'");
 
         QStringList all = names(family.mapper()->findAll(QString()));
         if (family.order == MasterFamily::AsStored || family.order == MasterFamily::Unknown)
@@ -172,19 +145,21 @@ private slots:
         QVERIFY(!family.mapper()->hasError());
     }
 
+    /** Of the families that were there before the codes became longer. */
     void anOlderTableGetsItsLongerCodes_data()
     {
-        addColumns<int>("family");
+        const auto row = addColumns<int>("family");
         for (int i = 0; i < masterFamilies().size(); ++i) {
-            const MasterFamily& family = masterFamilies().at(i);
-            if (!family.mapper()->migrations().isEmpty())
-                addRow(qPrintable(family.service), i);
+            const QList<KorMigration*> migrations = masterFamilies().at(i).mapper()->migrations();
+            if (!migrations.isEmpty())
+                row(qPrintable(masterFamilies().at(i).service), i);
+            qDeleteAll(migrations);
         }
     }
     void anOlderTableGetsItsLongerCodes()
     {
         const MasterFamily& family = currentFamily();
-        m_database->run("ALTER TABLE " + family.table + " ALTER COLUMN kode TYPE varchar(8)");
+        run("ALTER TABLE " + family.table + " ALTER COLUMN kode TYPE varchar(8)");
         QVERIFY(family.mapper()->migrate(1.2, 1.3));
         QCOMPARE(codeLength(family), 8);
         QVERIFY(family.mapper()->migrate(1.1, 1.1));
@@ -193,9 +168,9 @@ private slots:
 
     void olderSuppliersAndAgentsGetOneCodeEach_data()
     {
-        addColumns<QString>("table");
-        addRow("supplier", "supplier");
-        addRow("agent", "agent");
+        const auto row = addColumns<QString>("table");
+        row("supplier", "supplier");
+        row("agent", "agent");
     }
     void olderSuppliersAndAgentsGetOneCodeEach()
     {
@@ -209,8 +184,9 @@ private slots:
 
     void aUnitsNameIsTakenOnceEvenUnderAnotherCode()
     {
-        const MasterFamily& units = masterFamilies().at(1);
-        m_database->run(units.insertStatement("kg", "Kilogram"));
+        const MasterFamily& units = *std::find_if(masterFamilies().begin(), masterFamilies().end(),
+                                                  [](const MasterFamily& one) { return one.service == "Unit"; });
+        run(units.insertStatement("kg", "Kilogram"));
         const std::unique_ptr<KorEntity> second(units.mapper()->createEntity());
         second->setProperty("Kode", "kilo");
         second->setProperty("Nama", "Kilogram");
@@ -224,10 +200,10 @@ private slots:
     void aSupplierComesWithItsAccountInOneStatement()
     {
         const StatementCount statements;
-        m_database->run("INSERT INTO bank (id, kode, nama, account_type, active, version) "
-                        "VALUES (41, '1010', 'Cash on Hand', 1, true, 1)");
-        m_database->run("INSERT INTO supplier (kode, nama, alamat, telp, email, bank_id, version) "
-                        "VALUES ('f', 'Fish', '', '', '', 41, 1), ('b', 'Beans', '', '', '', NULL, 1)");
+        run("INSERT INTO bank (id, kode, nama, account_type, active, version) "
+            "VALUES (41, '1010', 'Cash on Hand', 1, true, 1)");
+        run("INSERT INTO supplier (kode, nama, alamat, telp, email, bank_id, version) "
+            "VALUES ('f', 'Fish', '', '', '', 41, 1), ('b', 'Beans', '', '', '', NULL, 1)");
         auto* suppliers = service<BusinessSupplier>("Supplier");
         const QList<KorEntity*> found = suppliers->findByFilter(QString());
         QCOMPARE(names(found), (QStringList{"Beans", "Fish"}));
@@ -249,8 +225,8 @@ private slots:
         QVERIFY(!accounts->cashOnHand());
         QVERIFY(!accounts->hasError());
         for (const QString& code : codes)
-            m_database->run("INSERT INTO bank (kode, nama, account_type, active, version) VALUES ('" + code +
-                            "', 'Account', 1, true, 1)");
+            run("INSERT INTO bank (kode, nama, account_type, active, version) VALUES ('" + code +
+                "', 'Account', 1, true, 1)");
         const QList<EntityBank*> found{accounts->cashOnHand(),        accounts->checkingAccount(),
                                        accounts->accountReceivable(), accounts->inventory(),
                                        accounts->accountsPayable(),   accounts->salesOfMaterials(),
@@ -262,7 +238,7 @@ private slots:
 private:
     KorEntity* saved(const QString& code, const QString& name)
     {
-        m_database->run(currentFamily().insertStatement(code, name));
+        run(currentFamily().insertStatement(code, name));
         return currentFamily().mapper()->findByCode(code);
     }
     int codeLength(const MasterFamily& family)
@@ -273,8 +249,6 @@ private:
                     family.table + '\'')
             .toInt();
     }
-
-    std::unique_ptr<TestDatabase> m_database;
 };
 
 QTEST_MAIN(TestMasterMappers)

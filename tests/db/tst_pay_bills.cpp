@@ -1,20 +1,15 @@
-#include "kor/business/KorServiceDirectory.h"
 #include "pos/inventory/stock/BusinessInventory.h"
 #include "pos/purchasing/payment/BusinessPayment.h"
 #include "pos/purchasing/payment/EntityPayment.h"
 #include "pos/purchasing/purchase/BusinessPurchases.h"
 #include "pos/purchasing/purchase/EntityAcquisition.h"
+#include "support/DatabaseTest.h"
 #include "support/LedgerRows.h"
-#include "support/Rows.h"
 #include "support/ShopRows.h"
-#include "support/TestDatabase.h"
 
 #include <QRandomGenerator>
-#include <QTest>
 
 #include <algorithm>
-
-Q_DECLARE_METATYPE(PurchasingFilter)
 
 namespace
 {
@@ -33,17 +28,14 @@ struct Paper
 } // namespace
 
 /** What is paid to suppliers, and what is then still due for the purchases. */
-class TestPayBills : public QObject
+class TestPayBills : public DatabaseTest
 {
     Q_OBJECT
 
-private slots:
-    void init()
+protected:
+    void prepare() override
     {
-        m_database = std::make_unique<TestDatabase>();
-        m_records = std::make_unique<QObject>();
         insertShop(*m_database);
-        loginAsAdmin();
         m_payments = service<BusinessPayment>("Payment");
         m_purchases = service<BusinessPurchases>("Purchases");
         m_supplier = new EntitySupplier(m_records.get());
@@ -51,23 +43,13 @@ private slots:
         m_paper.clear();
     }
 
-    void cleanup()
-    {
-        m_payments->clearErrors();
-        m_purchases->clearErrors();
-        m_records.reset();
-        m_database.reset();
-    }
-
-    // --- any month ---------------------------------------------------------------------------------------------------
-
+private slots:
     void thePurchasesAgreeAfterAnyMonth_data()
     {
-        addColumns<uint>("seed");
+        const auto row = addColumns<uint>("seed");
         for (uint seed : {1U, 2U, 3U})
-            QTest::addRow("month %u", seed) << seed;
+            row(qPrintable(QString("month %1").arg(seed)), seed);
     }
-
     void thePurchasesAgreeAfterAnyMonth()
     {
         QFETCH(uint, seed);
@@ -141,26 +123,6 @@ private slots:
         QVERIFY(paper.size() > 1);
     }
 
-    // --- one by one --------------------------------------------------------------------------------------------------
-
-    void payingTheRestTakesThePurchaseOffTheList()
-    {
-        const int purchase = buy(500, 100, 50);
-        EntityPayment* first = payment({line(purchase, 100)});
-        QVERIFY2(save(first), qPrintable(m_payments->takeErrors()));
-        QCOMPARE(figures(purchase), QString("150 250 3"));
-        QCOMPARE(stored(first->getId())->invoices().getDetails().first()->getAcquisition()->getBank()->getNama(),
-                 QString("Cash"));
-        QCOMPARE(pending(), QList<int>{purchase});
-        QVERIFY(save(payment({line(purchase, 250)})));
-        QCOMPARE(figures(purchase), QString("400 0 1"));
-        QVERIFY(pending().isEmpty());
-        // Somebody else had the same form open: the supplier owes the house.
-        QVERIFY(save(payment({line(purchase, 250)})));
-        QCOMPARE(figures(purchase), QString("650 -250 1"));
-        QCOMPARE(m_payments->findByNo("TPH-0008")->getSupplier()->getKode(), QString("S1"));
-    }
-
     void aDeletedPaymentLeavesItsPurchasesUntilTheyAreReckonedNext()
     {
         const int purchase = buy(500);
@@ -198,39 +160,6 @@ private slots:
         QCOMPARE(count("item_history"), 0);
     }
 
-    void theListFindsPayments_data()
-    {
-        addColumns<PurchasingFilter, QString>("filter", "found");
-        const auto row = [](const char* name, const QDate& from, int type, PurchasingFilter::Field field,
-                            const QString& text, const QString& found) {
-            addRow(name, PurchasingFilter{from, {2026, 3, 2}, type, "s1", field, text}, found);
-        };
-        row("both limits count, the latest first", {2026, 3, 1}, 0, PurchasingFilter::DocumentNo, "", "8 7");
-        row("one day, by check", {2026, 3, 2}, EntityPayment::CHECK, PurchasingFilter::DocumentNo, "", "8");
-        row("another type", {2026, 3, 1}, EntityPayment::ELECTRONIC, PurchasingFilter::DocumentNo, "", "");
-        row("digits of the number", {2026, 3, 1}, 0, PurchasingFilter::DocumentNo, "007", "7");
-        row("check number", {2026, 3, 1}, 0, PurchasingFilter::OtherNo, "bCa-2", "8");
-    }
-
-    void theListFindsPayments()
-    {
-        for (int day : {1, 2}) {
-            EntityPayment* one = payment({});
-            one->setDate(QDate(2026, 3, day));
-            one->setPaymentType(day == 2 ? EntityPayment::CHECK : EntityPayment::CASH);
-            one->setCheckNo(QString("BCA-%1").arg(day));
-            QVERIFY2(save(one), qPrintable(m_payments->takeErrors()));
-        }
-        QFETCH(PurchasingFilter, filter);
-        const StatementCount statements;
-        QStringList numbers;
-        for (const EntityPayment* one : m_payments->findAll(filter))
-            numbers.append(one->getNo().right(1));
-        QVERIFY2(!m_payments->hasError(), qPrintable(m_payments->takeErrors()));
-        QCOMPARE(statements.count(), 1);
-        QTEST(numbers.join(' '), "found");
-    }
-
     void whatFailsIsToldAndNothingIsHalfDone()
     {
         // The purchase was deleted meanwhile.
@@ -242,8 +171,7 @@ private slots:
 
         // The purchase cannot be reckoned: the payment stands.
         const int purchase = buy(500);
-        m_database->run(
-            "CREATE FUNCTION refuse() RETURNS trigger AS $$ BEGIN RAISE EXCEPTION 'busy'; END $$ LANGUAGE "
+        run("CREATE FUNCTION refuse() RETURNS trigger AS $$ BEGIN RAISE EXCEPTION 'busy'; END $$ LANGUAGE "
             "plpgsql; CREATE TRIGGER refuse BEFORE UPDATE ON acquisition FOR EACH ROW EXECUTE FUNCTION refuse()");
         paid->invoices().setDetails({line(purchase, 100)});
         QVERIFY(!save(paid));
@@ -252,7 +180,7 @@ private slots:
         m_payments->clearErrors();
 
         // Another workstation changed the payment: neither saved nor deleted half.
-        m_database->run("UPDATE payment SET version = 2, updatedby = 1");
+        run("UPDATE payment SET version = 2, updatedby = 1");
         QVERIFY(!m_payments->remove(paid));
         QVERIFY(m_payments->takeErrors().contains("payment has been updated"));
         QCOMPARE(count("payment_invoice"), 1);
@@ -266,16 +194,16 @@ private:
         const Paper paper{total, paid, credits, 0};
         const auto text = [](int number) { return QString::number(number); };
         insertRows(*m_database, "acquisition",
-                   {{"no", QString("'NB-%1'").arg(id)},
-                    {"supplier_id", "1"},
-                    {"bank_id", "1"},
-                    {"grandtotal_amount", text(total)},
-                    {"amount_paid_amount", text(paid)},
-                    {"net_due_amount", text(total - paid)},
-                    {"status", text(paper.status())}});
+                   QString("no='NB-%1', supplier_id=1, bank_id=1, grandtotal_amount=%2, amount_paid_amount=%3, "
+                           "net_due_amount=%4, status=%5")
+                       .arg(id)
+                       .arg(text(total))
+                       .arg(text(paid))
+                       .arg(text(total - paid))
+                       .arg(text(paper.status())));
         if (credits > 0)
             insertRows(*m_database, "credit_note",
-                       {{"acquisition_id", text(id)}, {"amount_paid_amount", text(credits)}, {"bank_id", "1"}});
+                       QString("acquisition_id=%1, amount_paid_amount=%2, bank_id=1").arg(text(id)).arg(text(credits)));
         m_paper.insert(id, paper);
         return id;
     }
@@ -323,11 +251,9 @@ private:
     Money* money(int amount) { return new Money(m_records.get(), amount, "Rp"); }
     QString figures(int purchase)
     {
-        return m_database
-            ->value(QString("SELECT concat_ws(' ', other_payment_amount, net_due_amount, status) FROM acquisition "
-                            "WHERE id = %1")
-                        .arg(purchase))
-            .toString();
+        return value(QString("SELECT concat_ws(' ', other_payment_amount, net_due_amount, status) FROM acquisition "
+                             "WHERE id = %1")
+                         .arg(purchase));
     }
 
     QList<int> pending()
@@ -339,10 +265,6 @@ private:
         return ids;
     }
 
-    int count(const QString& table) { return m_database->value("SELECT count(*) FROM " + table).toInt(); }
-
-    std::unique_ptr<TestDatabase> m_database;
-    std::unique_ptr<QObject> m_records;
     BusinessPayment* m_payments = nullptr;
     BusinessPurchases* m_purchases = nullptr;
     QMap<int, Paper> m_paper;

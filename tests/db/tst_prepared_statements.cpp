@@ -1,12 +1,10 @@
 #include "kor/persistence/KorDatabase.h"
 #include "kor/persistence/KorQuery.h"
-#include "support/Rows.h"
-#include "support/TestDatabase.h"
+#include "support/DatabaseTest.h"
 #include "zavel/registry/ZavelMapperRegistry.h"
 #include "zavel/tables/DataMapperMeja.h"
 #include "zavel/tables/EntityMeja.h"
 
-#include <QTest>
 #include <QThread>
 
 namespace
@@ -16,21 +14,19 @@ const char* const widen = "ALTER TABLE meja ALTER COLUMN kode TYPE varchar(%1)";
 } // namespace
 
 /** Statements stay prepared on the server between uses, and nobody may notice. */
-class TestPreparedStatements : public QObject
+class TestPreparedStatements : public DatabaseTest
 {
     Q_OBJECT
 
-private slots:
-    void init()
+protected:
+    void prepare() override
     {
-        m_database = std::make_unique<TestDatabase>();
-        m_database->run("DELETE FROM meja");
-        m_database->run("INSERT INTO meja (kode, nama, version) VALUES ('a', 'Window', 1), ('b', 'Door', 1)");
+        run("DELETE FROM meja");
+        run("INSERT INTO meja (kode, nama, version) VALUES ('a', 'Window', 1), ('b', 'Door', 1)");
         m_tables = ZavelMapperRegistry::instance()->mejaMapper();
-        loginAsAdmin();
     }
-    void cleanup() { m_database.reset(); }
 
+private slots:
     void aTableReadTenTimesIsPreparedOnce()
     {
         QCOMPARE(nameOf("a"), QString("Window"));
@@ -73,9 +69,9 @@ private slots:
 
     void aTableIsReadAndWrittenAfterItsColumnsHaveChanged_data()
     {
-        addColumns<bool>("byOther");
-        addRow("by this program", false);
-        addRow("by another workstation", true);
+        const auto row = addColumns<bool>("byOther");
+        row("by this program", false);
+        row("by another workstation", true);
     }
     void aTableIsReadAndWrittenAfterItsColumnsHaveChanged()
     {
@@ -86,7 +82,7 @@ private slots:
             QVERIFY2(m_tables->update(table), qPrintable(m_tables->takeError()));
             const QString change = QString(widen).arg(width);
             if (byOther)
-                m_database->run(change);
+                run(change);
             else
                 QVERIFY(KorQuery().exec(change));
         }
@@ -97,7 +93,7 @@ private slots:
     void aChangeByAnotherWorkstationDuringASaveFailsThatSaveOnly()
     {
         QCOMPARE(nameOf("a"), QString("Window"));
-        m_database->run(QString(widen).arg(30));
+        run(QString(widen).arg(30));
         {
             const KorTransaction transaction;
             QVERIFY(!m_tables->findByCode("a"));
@@ -159,7 +155,6 @@ private:
         return query.next() ? query.field("count").toInt() : -1;
     }
 
-    std::unique_ptr<TestDatabase> m_database;
     DataMapperMeja* m_tables = nullptr;
 };
 

@@ -1,26 +1,19 @@
-#include "kor/business/KorServiceDirectory.h"
 #include "pos/printing/printer/BusinessPrinterType.h"
-#include "support/TestDatabase.h"
-#include "zavel/registry/ZavelBusinessRegistry.h"
+#include "support/DatabaseTest.h"
 
-#include <QTest>
-
-class TestPrinterTypes final : public QObject
+class TestPrinterTypes : public DatabaseTest
 {
     Q_OBJECT
 
-private slots:
-    void init()
+protected:
+    void prepare() override
     {
-        m_database = std::make_unique<TestDatabase>();
-        m_database->run("DELETE FROM printer_type");
-        loginAsAdmin();
-        ZavelBusinessRegistry::instance();
+        run("DELETE FROM printer_type");
         m_service = service<BusinessPrinterType>("Printer Type");
         QVERIFY(m_service);
     }
 
-    void cleanup() { m_database.reset(); }
+private slots:
     void aModelIsFoundByItsExactName()
     {
         QVERIFY2(add("GENERIC-ESC-POS", "27#112#0#60#120", "29#V#66#0"), qPrintable(m_service->takeErrors()));
@@ -53,7 +46,7 @@ private slots:
 
     void whatWentWrongIsToldUnderTheOperation()
     {
-        m_database->run("ALTER TABLE printer_type RENAME TO elsewhere");
+        run("ALTER TABLE printer_type RENAME TO elsewhere");
         QVERIFY(m_service->getAll().isEmpty());
         QVERIFY(!m_service->findByType("EPSON-TM-U220"));
         QCOMPARE(m_service->errors().keys(), QStringList({"findByType", "getAll"}));
@@ -70,7 +63,6 @@ private:
         return m_service->insert(&model);
     }
 
-    std::unique_ptr<TestDatabase> m_database;
     BusinessPrinterType* m_service = nullptr;
 };
 

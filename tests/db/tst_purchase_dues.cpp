@@ -1,16 +1,16 @@
-#include "kor/business/KorServiceDirectory.h"
-#include "pos/inventory/stock/EntityItemHistory.h"
+#include "pos/purchasing/creditnote/BusinessCreditNote.h"
+#include "pos/purchasing/creditnote/EntityCreditNote.h"
+#include "pos/purchasing/payment/BusinessPayment.h"
+#include "pos/purchasing/payment/EntityPayment.h"
 #include "pos/purchasing/purchase/BusinessPurchases.h"
 #include "pos/purchasing/purchase/EntityAcquisition.h"
 #include "pos/purchasing/purchaseorder/BusinessPurchaseOrder.h"
 #include "pos/purchasing/purchaseorder/EntityPurchaseOrder.h"
+#include "support/DatabaseTest.h"
 #include "support/LedgerRows.h"
-#include "support/Rows.h"
 #include "support/ShopRows.h"
-#include "support/TestDatabase.h"
 
 #include <QRandomGenerator>
-#include <QTest>
 
 namespace
 {
@@ -42,41 +42,28 @@ Money* rupiah(QObject* owner, double amount) { return new Money(owner, amount, "
 } // namespace
 
 /** What a purchase owes, what the stock card tells of it, and what is found of purchases and their orders. */
-class TestPurchaseDues : public QObject
+class TestPurchaseDues : public DatabaseTest
 {
     Q_OBJECT
 
-private slots:
-    void init()
+protected:
+    void prepare() override
     {
-        m_database = std::make_unique<TestDatabase>();
-        m_records = std::make_unique<QObject>();
         insertShop(*m_database);
         insertItem(*m_database, 2, "EGG", "Eggs");
-        m_database->run("INSERT INTO supplier (id, kode, nama, alamat, telp, email, version) VALUES "
-                        "(2, 'S2', 'Farm', '', '', '', 1)");
-        loginAsAdmin();
+        run("INSERT INTO supplier (id, kode, nama, alamat, telp, email, version) VALUES "
+            "(2, 'S2', 'Farm', '', '', '', 1)");
         m_purchases = service<BusinessPurchases>("Purchases");
         m_orders = service<BusinessPurchaseOrder>("Purchase Order");
     }
 
-    void cleanup()
-    {
-        m_purchases->clearErrors();
-        m_orders->clearErrors();
-        m_records.reset();
-        m_database.reset();
-    }
-
-    // --- saving ------------------------------------------------------------------------------------------------------
-
+private slots:
     void duesAndStockCardAgreeAfterAnyWeek_data()
     {
-        addColumns<uint>("seed");
+        const auto row = addColumns<uint>("seed");
         for (uint seed : {1U, 2U, 3U})
-            QTest::addRow("week %u", seed) << seed;
+            row(qPrintable(QString("week %1").arg(seed)), seed);
     }
-
     void duesAndStockCardAgreeAfterAnyWeek()
     {
         QFETCH(uint, seed);
@@ -140,48 +127,6 @@ private slots:
         }
     }
 
-    void theLoserOfTwoEditorsIsToldAndChangesNothing()
-    {
-        EntityAcquisition* bought = purchase({line(3)}, 0);
-        QVERIFY(save(bought));
-        EntityAcquisition* mine = stored(bought->getId());
-        EntityAcquisition* theirs = stored(bought->getId());
-        theirs->getDetails().first()->setQty(5);
-        QVERIFY(save(theirs));
-
-        mine->getDetails().first()->setQty(9);
-        mine->addDetail(line(1, 2));
-        QVERIFY(!save(mine));
-        QVERIFY(!m_purchases->documentStands());
-        const QString told = m_purchases->takeErrors();
-        QVERIFY2(told.startsWith("error: update acquisition failed") && told.contains("has been updated"),
-                 qPrintable(told));
-        QVERIFY(!m_purchases->remove(mine));
-        QCOMPARE(value("select string_agg(qty::text, ' ') from acquisition_detail"), QString("5"));
-        QCOMPARE(journal(), QString("%1 5").arg(theirs->getDetails().first()->getId()));
-
-        m_database->run("DELETE FROM acquisition_detail; DELETE FROM acquisition");
-        QVERIFY(!m_purchases->recalculateDue(bought->getId()));
-        QVERIFY(m_purchases->takeErrors().contains(QString("Can not find entity with id: %1").arg(bought->getId())));
-    }
-
-    void aPurchaseStandsWhenTheStockCardFails()
-    {
-        m_database->run(
-            "CREATE FUNCTION refuse() RETURNS trigger AS $$ BEGIN RAISE EXCEPTION 'busy'; END $$ LANGUAGE "
-            "plpgsql; CREATE TRIGGER refuse BEFORE INSERT ON item_history FOR EACH ROW EXECUTE FUNCTION refuse()");
-        EntityAcquisition* bought = purchase({line(3)}, 0);
-        QVERIFY(!save(bought));
-        QVERIFY(m_purchases->documentStands());
-        QCOMPARE(m_purchases->errors().keys(), QStringList("insert"));
-        QCOMPARE(value("select no from acquisition"), QString("NB-0007"));
-        m_purchases->clearErrors();
-        m_database->run("DROP TRIGGER refuse ON item_history");
-        // The next save makes up for it.
-        QVERIFY(save(stored(bought->getId())));
-        QCOMPARE(journal(), QString("%1 3").arg(bought->getDetails().first()->getId()));
-    }
-
     void aPurchaseWithABadLineIsNotSavedAtAll()
     {
         EntityAcquisition* bought = purchase({line(3), line(1, 99)}, 0);
@@ -194,38 +139,36 @@ private slots:
         QVERIFY2(save(bought), qPrintable(m_purchases->takeErrors()));
     }
 
-    // --- finding -----------------------------------------------------------------------------------------------------
-
     void theListFindsPurchases_data()
     {
-        addColumns<int, QString, int, QString, QString>("status", "supplier", "field", "text", "found");
+        const auto row =
+            addColumns<int, QString, int, QString, QString>("status", "supplier", "field", "text", "found");
         using Filter = PurchasingFilter;
-        addRow("all of the days, the latest first", 0, "", int(Filter::DocumentNo), "", "4 3 2");
-        addRow("unpaid", 2, "", int(Filter::DocumentNo), "", "4 2");
-        addRow("of one supplier", 0, "s2", int(Filter::DocumentNo), "", "4");
-        addRow("of nobody", 0, "s", int(Filter::DocumentNo), "", "");
-        addRow("by the digits of the number", 0, "", int(Filter::DocumentNo), "-03", "3");
-        addRow("not by its letters", 0, "", int(Filter::DocumentNo), "NB-03", "");
-        addRow("by a part of the supplier's code", 0, "", int(Filter::SupplierCode), "S", "4 3 2");
-        addRow("by the supplier's number", 0, "", int(Filter::OtherNo), "fak", "2");
-        addRow("a quote is a letter", 0, "", int(Filter::OtherNo), "' or '1'='1", "");
+        row("all of the days, the latest first", 0, "", Filter::DocumentNo, "", "4 3 2");
+        row("unpaid", 2, "", Filter::DocumentNo, "", "4 2");
+        row("of one supplier", 0, "s2", Filter::DocumentNo, "", "4");
+        row("of nobody", 0, "s", Filter::DocumentNo, "", "");
+        row("by the digits of the number", 0, "", Filter::DocumentNo, "-03", "3");
+        row("not by its letters", 0, "", Filter::DocumentNo, "NB-03", "");
+        row("by a part of the supplier's code", 0, "", Filter::SupplierCode, "S", "4 3 2");
+        row("by the supplier's number", 0, "", Filter::OtherNo, "fak", "2");
+        row("a quote is a letter", 0, "", Filter::OtherNo, "' or '1'='1", "");
     }
-
     void theListFindsPurchases()
     {
         for (int id = 1; id <= 4; ++id)
             insertRows(*m_database, "acquisition",
-                       {{"id", QString::number(id)},
-                        {"no", QString("'NB-0%1'").arg(id)},
-                        {"invoice_no", id == 2 ? "'FAK-9'" : "NULL"},
-                        {"purchase_date", QString("'2026-3-%1'").arg(id)},
-                        {"due_date", QString("'2026-4-%1'").arg(9 - id)},
-                        {"status", id == 3 ? "1" : "2"},
-                        {"supplier_id", id == 4 ? "2" : "1"}});
-        QFETCH(int, status);
-        QFETCH(QString, supplier);
-        QFETCH(int, field);
-        QFETCH(QString, text);
+                       QString("id=%1, no='NB-0%2', invoice_no=%3, purchase_date='2026-3-%4', due_date='2026-4-%5', "
+                               "status=%6, supplier_id=%7")
+                           .arg(id)
+                           .arg(id)
+                           .arg(id == 2 ? "'FAK-9'" : "NULL")
+                           .arg(id)
+                           .arg(9 - id)
+                           .arg(id == 3 ? "1" : "2")
+                           .arg(id == 4 ? "2" : "1"));
+        FETCH(int, status, field);
+        FETCH(QString, supplier, text);
         const StatementCount statements;
         QStringList found;
         for (const EntityAcquisition* one : m_purchases->findAll(
@@ -242,6 +185,44 @@ private slots:
         QCOMPARE(pending, (QStringList{"NB-02", "NB-01"}));
         QCOMPARE(m_purchases->findByNo("NB-03")->getId(), 3);
         QVERIFY(!m_purchases->findByNo("NB-05") && !m_purchases->hasError());
+    }
+
+    void theOtherListsFindTheirDocumentsTheSameWay_data()
+    {
+        const auto row = addColumns<QString, QString, QString>("table", "columns", "other");
+        row("orders", "purchase_order", "purchase_date='2026-3-%1', ship_date='2026-3-9', status_id=%1", "");
+        row("notes", "credit_note", "credit_note_date='2026-3-%1', status=%1, acquisition_id=%1, bank_id=1", "fAk-2");
+        row("payments", "payment", "payment_date='2026-3-%1', payment_type=%1, check_no='BCA-%1', bank_id=1", "bCa-2");
+    }
+    void theOtherListsFindTheirDocumentsTheSameWay()
+    {
+        FETCH(QString, table, columns, other);
+        for (const char* id : {"1", "2"}) {
+            insertRows(*m_database, "acquisition", QString("id=%1, no='NB-%1', invoice_no='FAK-%1'").arg(id));
+            insertRows(*m_database, table, QString("id=%1, no='X-%1', supplier_id=%1, " + columns).arg(id));
+        }
+        const auto found = [&table = table](int from, int kind, const char* supplier, PurchasingFilter::Field field,
+                                            const QString& text) {
+            const auto numbers = [filter = PurchasingFilter{QDate(2026, 3, from), QDate(2026, 3, 2), kind, supplier,
+                                                            field, text}](auto* documents) {
+                QString all;
+                for (const auto* one : documents->findAll(filter))
+                    all += one->getNo().right(1);
+                return all + documents->takeErrors();
+            };
+            return table == "payment"       ? numbers(service<BusinessPayment>("Payment"))
+                   : table == "credit_note" ? numbers(service<BusinessCreditNote>("Credit Note"))
+                                            : numbers(service<BusinessPurchaseOrder>("Purchase Order"));
+        };
+        using Filter = PurchasingFilter;
+        QCOMPARE(found(1, 0, "", Filter::DocumentNo, ""), QString("21"));
+        QCOMPARE(found(2, 0, "", Filter::DocumentNo, ""), QString("2"));
+        QCOMPARE(found(1, 1, "", Filter::DocumentNo, ""), QString("1"));
+        QCOMPARE(found(1, 0, "s2", Filter::DocumentNo, ""), QString("2"));
+        QCOMPARE(found(1, 0, "", Filter::DocumentNo, "-1"), QString("1"));
+        QCOMPARE(found(1, 0, "", Filter::SupplierCode, "2"), QString("2"));
+        if (!other.isEmpty())
+            QCOMPARE(found(1, 0, "", Filter::OtherNo, other), QString("2"));
     }
 
     void openOrdersAreThoseThatCanStillBeReceived()
@@ -262,13 +243,13 @@ private slots:
     void anOrderThatWasBoughtCannotBeDeleted()
     {
         insertOrder(1, 2);
-        insertRows(*m_database, "purchase_order_detail", {{"purchase_order_id", "1"}}, 2);
-        insertRows(*m_database, "acquisition", {{"no", "'NB-5'"}, {"po_id", "1"}});
+        insertRows(*m_database, "purchase_order_detail", "purchase_order_id=1", 2);
+        insertRows(*m_database, "acquisition", "no='NB-5', po_id=1");
         QVERIFY(!m_orders->remove(m_orders->find(1)));
         QCOMPARE(m_orders->takeErrors(),
                  QString("There is already purchase transaction using this PO, please delete it "
                          "first: Purchase No: NB-5\r\n"));
-        m_database->run("DELETE FROM acquisition");
+        run("DELETE FROM acquisition");
         QVERIFY2(m_orders->remove(m_orders->find(1)), qPrintable(m_orders->takeErrors()));
         QCOMPARE(value("select count(*) from purchase_order_detail"), QString("0"));
     }
@@ -328,13 +309,12 @@ private:
         const QString paid = QString::number(amount);
         if (byNote) {
             insertRows(*m_database, "credit_note",
-                       {{"acquisition_id", id}, {"amount_paid_amount", paid}, {"bank_id", "1"}});
+                       QString("acquisition_id=%1, amount_paid_amount=%2, bank_id=1").arg(id).arg(paid));
         } else {
-            m_database->run(
-                "INSERT INTO payment (id, payment_type, supplier_id, no, payment_date, grandtotal_currency, "
+            run("INSERT INTO payment (id, payment_type, supplier_id, no, payment_date, grandtotal_currency, "
                 "grandtotal_amount, version) VALUES (1, 1, 1, '', '2026-3-4', 'Rp', 0, 1) ON CONFLICT DO NOTHING");
             insertRows(*m_database, "payment_invoice",
-                       {{"payment_id", "1"}, {"acquisition_id", id}, {"amount_paid_amount", paid}});
+                       QString("payment_id=1, acquisition_id=%1, amount_paid_amount=%2").arg(id).arg(paid));
         }
         QVERIFY2(m_purchases->recalculateDue(purchase), qPrintable(m_purchases->takeErrors()));
     }
@@ -344,20 +324,17 @@ private:
         return value("select string_agg(concat_ws(' ', tran_id, qty_in), ', ' order by tran_id) from "
                      "item_history where tran_type = 1 and no like 'NB-%'");
     }
-    QString value(const QString& statement) { return m_database->value(statement).toString(); }
     void insertOrder(int id, int status, int supplier = 1)
     {
-        insertRows(*m_database, "purchase_order",
-                   {{"id", QString::number(id)},
-                    {"no", QString("'PO-%1'").arg(id)},
-                    {"purchase_date", "'2026-3-1'"},
-                    {"ship_date", "'2026-3-2'"},
-                    {"supplier_id", QString::number(supplier)},
-                    {"status_id", QString::number(status)}});
+        insertRows(
+            *m_database, "purchase_order",
+            QString("id=%1, no='PO-%2', purchase_date='2026-3-1', ship_date='2026-3-2', supplier_id=%3, status_id=%4")
+                .arg(id)
+                .arg(id)
+                .arg(supplier)
+                .arg(status));
     }
 
-    std::unique_ptr<TestDatabase> m_database;
-    std::unique_ptr<QObject> m_records;
     BusinessPurchases* m_purchases = nullptr;
     BusinessPurchaseOrder* m_orders = nullptr;
 };

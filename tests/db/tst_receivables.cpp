@@ -1,14 +1,11 @@
-#include "kor/business/KorServiceDirectory.h"
-#include "support/Rows.h"
+#include "support/DatabaseTest.h"
 #include "support/SalesRows.h"
 #include "support/ShopRows.h"
-#include "support/TestDatabase.h"
 #include "zavel/receivable/EntityPiutang.h"
 #include "zavel/receivable/ReceivableFilter.h"
 #include "zavel/service/BusinessPenjualan.h"
 
 #include <QRandomGenerator>
-#include <QTest>
 
 namespace
 {
@@ -26,40 +23,28 @@ struct Paper
 } // namespace
 
 /** What members pay later, and what becomes of their invoices. */
-class TestReceivables : public QObject
+class TestReceivables : public DatabaseTest
 {
     Q_OBJECT
 
-private slots:
-    void init()
+protected:
+    void prepare() override
     {
-        m_database = std::make_unique<TestDatabase>();
-        m_records = std::make_unique<QObject>();
         insertShop(*m_database);
-        loginAsAdmin();
         insertSeller(*m_database, 1, "ann");
-        m_database->run("INSERT INTO member (id, kode, nama, alamat, telp, discount_percentage, version) VALUES "
-                        "(2, 'M2', 'Other', '', '', 0, 1)");
+        run("INSERT INTO member (id, kode, nama, alamat, telp, discount_percentage, version) VALUES "
+            "(2, 'M2', 'Other', '', '', 0, 1)");
         m_sales = service<BusinessPenjualan>("Sales");
         m_paper.clear();
     }
 
-    void cleanup()
-    {
-        m_sales->clearErrors();
-        m_records.reset();
-        m_database.reset();
-    }
-
-    // --- any evening -------------------------------------------------------------------------------------------------
-
+private slots:
     void theBooksAgreeAfterAnyEvening_data()
     {
-        addColumns<uint>("seed");
+        const auto row = addColumns<uint>("seed");
         for (uint seed : {1U, 2U, 3U})
-            QTest::addRow("evening %u", seed) << seed;
+            row(qPrintable(QString("evening %1").arg(seed)), seed);
     }
-
     void theBooksAgreeAfterAnyEvening()
     {
         QFETCH(uint, seed);
@@ -130,78 +115,8 @@ private slots:
             if (QTest::currentTestFailed())
                 QFAIL(qPrintable(QString("at step %1, action %2").arg(step).arg(action)));
         }
-        QCOMPARE(m_database->value("SELECT count(*) FROM piutang").toInt(), paper.size());
+        QCOMPARE(count("piutang"), paper.size());
         QVERIFY(paper.size() > 1);
-    }
-
-    // --- one by one --------------------------------------------------------------------------------------------------
-
-    void anInvoicePaidInPartsIsOpenUntilTheLast()
-    {
-        const int invoice = sell("TRD", 500, 0, 50, 1);
-        QVERIFY(save(payment(1, {line(invoice, 100)})));
-        // The credit given at the sale is gone: only what was paid later counts.
-        QCOMPARE(figures(invoice), QString("100 400 3"));
-        QVERIFY(save(payment(1, {line(invoice, 200)})));
-        QCOMPARE(figures(invoice), QString("300 200 3"));
-        QCOMPARE(m_sales->getUnpaidInvoicesForMember(1).size(), 1);
-        EntityPiutang* last = payment(1, {line(invoice, 200)});
-        QVERIFY(save(last));
-        QCOMPARE(last->getNo(), QString("PIU-0009"));
-        QCOMPARE(figures(invoice), QString("500 0 1"));
-        QVERIFY(m_sales->getUnpaidInvoicesForMember(1).isEmpty());
-        // The table's order does not hear of it.
-        QCOMPARE(m_database->value("SELECT status FROM makan_ditempat").toInt(), 1);
-    }
-
-    void theListFindsPayments_data()
-    {
-        addColumns<QString, QString, int, int, QString>("from", "to", "type", "member", "found");
-        const auto row = [](const char* name, const QString& from, const QString& to, int type, int member,
-                            const QString& found) { addRow(name, from, to, type, member, found); };
-        row("both limits count, the latest first", "2026-03-01", "2026-03-03", 0, KorNoValue, "9 8 7");
-        row("one day", "2026-03-02", "2026-03-02", 0, KorNoValue, "8");
-        row("by check", "2026-03-01", "2026-03-03", PaymentType::Check, KorNoValue, "9 7");
-        row("of one member", "2026-03-01", "2026-03-03", 0, 2, "8");
-        row("none", "2026-03-01", "2026-03-03", PaymentType::Cash, 1, "");
-    }
-
-    void theListFindsPayments()
-    {
-        QFETCH(QString, from);
-        QFETCH(QString, to);
-        for (int day : {1, 2, 3}) {
-            EntityPiutang* one = payment(day == 2 ? 2 : 1, {line(sell("TRD", 100, 0, 0, 1), 100)});
-            one->setDate(QDate(2026, 3, day));
-            one->setPaymentType(day == 2 ? PaymentType::Electronic : PaymentType::Check);
-            QVERIFY(save(one));
-        }
-        ReceivableFilter filter;
-        filter.from = QDate::fromString(from, Qt::ISODate);
-        filter.to = QDate::fromString(to, Qt::ISODate);
-        QFETCH(int, type);
-        QFETCH(int, member);
-        filter.paymentType = type;
-        filter.memberId = member;
-        const StatementCount statements;
-        QStringList numbers;
-        for (const EntityPiutang* one : m_sales->searchPiutang(filter))
-            numbers.append(one->getNo().right(1));
-        QCOMPARE(statements.count(), 1);
-        QTEST(numbers.join(' '), "found");
-    }
-
-    void aPaymentWhoseInvoicesCannotBeCountedStands()
-    {
-        const int invoice = sell("TRD", 500, 0, 0, 1);
-        m_database->run(
-            "CREATE FUNCTION refuse() RETURNS trigger AS $$ BEGIN RAISE EXCEPTION 'busy'; END $$ LANGUAGE "
-            "plpgsql; CREATE TRIGGER refuse BEFORE UPDATE ON invoice FOR EACH ROW EXECUTE FUNCTION refuse()");
-        EntityPiutang* paid = payment(1, {line(invoice, 100)});
-        QVERIFY(!save(paid));
-        QCOMPARE(m_sales->errors().keys(), QStringList("updateInvoice"));
-        QVERIFY(paid->isSaved());
-        QCOMPARE(m_database->value("SELECT count(*) FROM piutang_detail").toInt(), 1);
     }
 
     void aPaymentOfADeletedSaleCanStillBeDeleted()
@@ -217,12 +132,12 @@ private slots:
         QVERIFY2(m_sales->deleteSales(&sale), qPrintable(m_sales->takeErrors()));
         QCOMPARE(m_sales->findPiutang(paid->getId())->getDetails().size(), 1);
 
-        m_database->run("UPDATE piutang SET version = 2, updatedby = 1");
+        run("UPDATE piutang SET version = 2, updatedby = 1");
         QVERIFY(!m_sales->remove(paid));
         QVERIFY(m_sales->takeErrors().contains("piutang has been updated"));
-        QCOMPARE(m_database->value("SELECT count(*) FROM piutang_detail").toInt(), 2);
+        QCOMPARE(count("piutang_detail"), 2);
         QVERIFY2(m_sales->remove(m_sales->findPiutang(paid->getId())), qPrintable(m_sales->takeErrors()));
-        QCOMPARE(m_database->value("SELECT count(*) FROM piutang_detail").toInt(), 0);
+        QCOMPARE(count("piutang_detail"), 0);
         QCOMPARE(figures(kept), QString("50 250 3"));
     }
 
@@ -292,16 +207,11 @@ private:
 
     QString figures(int invoice)
     {
-        return m_database
-            ->value(
-                QString(
-                    "SELECT concat_ws(' ', other_payment_amount, net_due_amount, status) FROM invoice WHERE id = %1")
-                    .arg(invoice))
-            .toString();
+        return value(
+            QString("SELECT concat_ws(' ', other_payment_amount, net_due_amount, status) FROM invoice WHERE id = %1")
+                .arg(invoice));
     }
 
-    std::unique_ptr<TestDatabase> m_database;
-    std::unique_ptr<QObject> m_records;
     BusinessPenjualan* m_sales = nullptr;
     QMap<int, Paper> m_paper;
 };

@@ -3,49 +3,43 @@
 #include "app/numbers/DocumentNumber.h"
 #include "app/numbers/EntityKey.h"
 #include "app/registry/AppMapperRegistry.h"
-#include "kor/business/KorServiceDirectory.h"
 #include "kor/persistence/KorDatabase.h"
-#include "support/Rows.h"
-#include "support/TestDatabase.h"
+#include "support/DatabaseTest.h"
 
 #include <QMutex>
 #include <QRegularExpression>
 #include <QSet>
-#include <QTest>
 #include <QThread>
 
 /** The numbers of the documents. */
-class TestRunningNumbers : public QObject
+class TestRunningNumbers : public DatabaseTest
 {
     Q_OBJECT
 
-private slots:
-    void init()
+protected:
+    void prepare() override
     {
-        m_database = std::make_unique<TestDatabase>();
-        m_database->run("DELETE FROM keytable");
+        run("DELETE FROM keytable");
         m_keys = AppMapperRegistry::instance()->keyMapper();
-        loginAsAdmin();
     }
-    void cleanup() { m_database.reset(); }
 
+private slots:
     void aNumberIsTheDateAndThePaddedCounter_data()
     {
-        addColumns<QString, int, int, int, QStringList>("format", "next", "step", "digits", "counters");
-        addRow("as installed", "MMyy", 57, 1, 4, QStringList{"0057", "0058"});
-        addRow("steps of five", "MMyy", 5, 5, 4, QStringList{"0005", "0010"});
-        addRow("more digits than its width are not cut", "MMyy", 1234, 1, 2, QStringList{"1234"});
-        addRow("no padding", "MMyy", 7, 1, 0, QStringList{"7"});
-        addRow("counter alone", "", 7, 1, 4, QStringList{"0007"});
-        addRow("letters that are no date stay", "POMMyy", 1, 1, 4, QStringList{"0001"});
-        addRow("quoted prefix", "'TPH'MMyy", 1, 1, 4, QStringList{"0001"});
+        const auto row =
+            addColumns<QString, int, int, int, QStringList>("format", "next", "step", "digits", "counters");
+        row("as installed", "MMyy", 57, 1, 4, {"0057", "0058"});
+        row("steps of five", "MMyy", 5, 5, 4, {"0005", "0010"});
+        row("more digits than its width are not cut", "MMyy", 1234, 1, 2, {"1234"});
+        row("no padding", "MMyy", 7, 1, 0, {"7"});
+        row("counter alone", "", 7, 1, 4, {"0007"});
+        row("letters that are no date stay", "POMMyy", 1, 1, 4, {"0001"});
+        row("quoted prefix", "'TPH'MMyy", 1, 1, 4, {"0001"});
     }
     void aNumberIsTheDateAndThePaddedCounter()
     {
         QFETCH(QString, format);
-        QFETCH(int, next);
-        QFETCH(int, step);
-        QFETCH(int, digits);
+        FETCH(int, next, step, digits);
         QFETCH(QStringList, counters);
         addKey("NB", format, next, step, digits);
         for (const QString& counter : counters) {
@@ -94,7 +88,7 @@ private slots:
     {
         addKey("PO", "MMyy", 1, 1, 4);
         // The other workstation has drawn and not finished its document yet.
-        m_database->run("BEGIN; UPDATE keytable SET next_id = 2, version = version + 1");
+        run("BEGIN; UPDATE keytable SET next_id = 2, version = version + 1");
         QString number;
         QString error;
         const std::unique_ptr<QThread> here(QThread::create([&] {
@@ -102,8 +96,8 @@ private slots:
             number = drawNumber(&keys, "PO", &error);
         }));
         here->start();
-        QTRY_COMPARE(m_database->value("SELECT count(*) FROM pg_locks WHERE NOT granted").toInt(), 1);
-        m_database->run("COMMIT");
+        QTRY_COMPARE(count("pg_locks WHERE NOT granted"), 1);
+        run("COMMIT");
         QVERIFY(here->wait());
         QVERIFY(number.isNull());
         QVERIFY2(error.startsWith("Can not draw a new number for PO. Please try again.\r\n"
@@ -180,7 +174,6 @@ private:
         return m_database->value("SELECT next_id FROM keytable WHERE key_name = '" + name + "'").toInt();
     }
 
-    std::unique_ptr<TestDatabase> m_database;
     DataMapperKey* m_keys = nullptr;
 };
 

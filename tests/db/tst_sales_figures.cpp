@@ -1,13 +1,9 @@
 #include "app/context/EntityPool.h"
-#include "kor/business/KorServiceDirectory.h"
-#include "support/Rows.h"
+#include "support/DatabaseTest.h"
 #include "support/ShopRows.h"
-#include "support/TestDatabase.h"
 #include "zavel/list/EntitySalesSummaryInfo.h"
 #include "zavel/list/EntitySoldItem.h"
 #include "zavel/service/BusinessPenjualan.h"
-
-#include <QTest>
 
 namespace
 {
@@ -16,18 +12,17 @@ const QDate last(2026, 3, 2);
 } // namespace
 
 /** The sums of what was sold, by day, by month and by item. */
-class TestSalesFigures : public QObject
+class TestSalesFigures : public DatabaseTest
 {
     Q_OBJECT
 
 private slots:
     void initTestCase()
     {
-        m_database = std::make_unique<TestDatabase>();
+        keepDatabase();
         insertShop(*m_database);
-        loginAsAdmin();
         m_sales = service<BusinessPenjualan>("Sales");
-        m_database->run("INSERT INTO jenis_item (id, kode, nama, version) VALUES (2, 'DRINK', 'Drink', 1)");
+        run("INSERT INTO jenis_item (id, kode, nama, version) VALUES (2, 'DRINK', 'Drink', 1)");
         insertItem(*m_database, 2, "TEA", "Tea", 2);
         insertItem(*m_database, 3, "SOUP", "Soup");
         insertSale(*m_database, {2026, 2, 26}, 1, {5000, 5000, 0}, 50, 1);
@@ -39,19 +34,16 @@ private slots:
         insertSale(*m_database, {2026, 3, 3}, 1, {7000, 7000, 0}, 70, 2);
     }
 
-    void cleanupTestCase() { m_database.reset(); }
-
     void salesAreSummedByDayAndByMonth_data()
     {
-        addColumns<bool, int, QStringList>("monthly", "user", "sums");
-        addRow("by day, without the change handed back", false, -1,
-               QStringList{"2026-02-27 2 1300 1000 300", "2026-03-02 2 4000000000 2000000000 0"});
-        addRow("by day, of one user", false, 1, QStringList{"2026-02-27 1 900 900 0"});
-        addRow("by day, of a user who sold nothing", false, 3, QStringList{});
-        addRow("by month", true, -1, QStringList{"2026-02-01 2 1300 1000 300", "2026-03-01 2 4000000000 2000000000 0"});
-        addRow("by month, of one user", true, 1, QStringList{"2026-02-01 1 900 900 0"});
+        const auto row = addColumns<bool, int, QStringList>("monthly", "user", "sums");
+        row("by day, without the change handed back", false, -1,
+            {"2026-02-27 2 1300 1000 300", "2026-03-02 2 4000000000 2000000000 0"});
+        row("by day, of one user", false, 1, {"2026-02-27 1 900 900 0"});
+        row("by day, of a user who sold nothing", false, 3, {});
+        row("by month", true, -1, {"2026-02-01 2 1300 1000 300", "2026-03-01 2 4000000000 2000000000 0"});
+        row("by month, of one user", true, 1, {"2026-02-01 1 900 900 0"});
     }
-
     void salesAreSummedByDayAndByMonth()
     {
         QFETCH(bool, monthly);
@@ -72,23 +64,20 @@ private slots:
 
     void soldItemsAreSummedAndSorted_data()
     {
-        addColumns<QString, QString, QString, QStringList>("direction", "column", "itemType", "items");
+        const auto row = addColumns<QString, QString, QString, QStringList>("direction", "column", "itemType", "items");
         const QString rice = "RICE Rice FOOD 3 900";
         const QString tea = "TEA Tea DRINK 8 400";
         const QString soup = "SOUP Soup FOOD 7 4000000000";
-        addRow("best sellers first", "desc", "total_qty", "", QStringList{tea, soup, rice});
-        addRow("least money first", "ASC", "total_price", "", QStringList{tea, rice, soup});
-        addRow("by name", "asc", "Nama", "", QStringList{rice, soup, tea});
-        addRow("equal ones by their codes", "desc", "item_type", "", QStringList{rice, soup, tea});
-        addRow("of one type", "desc", "kode", "FOOD", QStringList{soup, rice});
-        addRow("of a type with a quote in it", "desc", "kode", "FO'OD", QStringList{});
+        row("best sellers first", "desc", "total_qty", "", {tea, soup, rice});
+        row("least money first", "ASC", "total_price", "", {tea, rice, soup});
+        row("by name", "asc", "Nama", "", {rice, soup, tea});
+        row("equal ones by their codes", "desc", "item_type", "", {rice, soup, tea});
+        row("of one type", "desc", "kode", "FOOD", {soup, rice});
+        row("of a type with a quote in it", "desc", "kode", "FO'OD", {});
     }
-
     void soldItemsAreSummedAndSorted()
     {
-        QFETCH(QString, direction);
-        QFETCH(QString, column);
-        QFETCH(QString, itemType);
+        FETCH(QString, direction, column, itemType);
         const EntityPoolScope scope(m_pool);
         QStringList items;
         for (const EntitySoldItem* item : m_sales->getSoldItems(first, last, direction, column, itemType))
@@ -102,17 +91,15 @@ private slots:
 
     void anUnknownOrderIsRefusedBeforeItReachesTheDatabase_data()
     {
-        addColumns<QString, QString>("direction", "column");
-        addRow("column", "desc", "total_qty; drop table invoice");
-        addRow("direction", "desc; drop table invoice", "total_qty");
-        addRow("the wrong way round", "total_qty", "desc");
-        addRow("empty", "", "");
+        const auto row = addColumns<QString, QString>("direction", "column");
+        row("column", "desc", "total_qty; drop table invoice");
+        row("direction", "desc; drop table invoice", "total_qty");
+        row("the wrong way round", "total_qty", "desc");
+        row("empty", "", "");
     }
-
     void anUnknownOrderIsRefusedBeforeItReachesTheDatabase()
     {
-        QFETCH(QString, direction);
-        QFETCH(QString, column);
+        FETCH(QString, direction, column);
         const StatementCount statements;
         QVERIFY(m_sales->getSoldItems(first, last, direction, column, "").isEmpty());
         QCOMPARE(statements.count(), 0);
@@ -120,7 +107,6 @@ private slots:
     }
 
 private:
-    std::unique_ptr<TestDatabase> m_database;
     BusinessPenjualan* m_sales = nullptr;
     EntityPool m_pool;
 };

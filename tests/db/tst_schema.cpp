@@ -59,11 +59,10 @@ private slots:
 
     void theTablesCanBeMadeAgain_data()
     {
-        addColumns<int>("mode");
-        addRow("keeping what is there", 2);
-        addRow("dropping what is there", 1);
+        const auto row = addColumns<int>("mode");
+        row("keeping what is there", 2);
+        row("dropping what is there", 1);
     }
-
     void theTablesCanBeMadeAgain()
     {
         QFETCH(int, mode);
@@ -78,7 +77,6 @@ private slots:
 
     void aRestaurantHasAllItsTables()
     {
-        QCOMPARE(m_database->value("select count(*) from pg_tables where schemaname = 'public'").toInt(), 48);
         QSet<QString> expected;
         for (const KorDataMapper* mapper : withLineMappers())
             expected.insert(mapper->tableName());
@@ -181,7 +179,6 @@ private slots:
         row("piutang_detail.piutang_id", "piutang_detail_piutang_id_fkey piutang(id)");
         row("komisi_agen_detail.komisi_agen_id", "komisi_agen_detail_komisi_agen_id_fkey komisi_agen(id)");
     }
-
     void aColumnPointsAtItsMaster()
     {
         QFETCH(QString, column);
@@ -209,52 +206,34 @@ private slots:
         row("item_history", "(tran_id, tran_type)");
         row("stock_take", "(item_id, tanggal DESC, id DESC)");
         row("purchase_order", "(purchase_date)");
-        row("purchase_order_detail", "(purchase_order_id)");
         row("purchase_order_detail", "(item_id, purchase_order_id) INCLUDE (jumlah)");
         row("acquisition", "(purchase_date)");
         row("acquisition", "(supplier_id) WHERE (status <> 1)");
         row("acquisition", "(no)");
-        row("acquisition_detail", "(acquisition_id)");
         row("acquisition_detail", "(item_id, acquisition_id) INCLUDE (qty)");
         row("credit_note", "(credit_note_date)");
         row("credit_note", "(acquisition_id)");
-        row("credit_note_detail", "(credit_note_id)");
         row("credit_note_detail", "(item_id, credit_note_id) INCLUDE (qty_returned)");
         row("payment", "(payment_date)");
-        row("payment_invoice", "(payment_id)");
-        row("payment_invoice", "(acquisition_id)");
-        row("payment_expense", "(payment_id)");
         row("payment_expense", "(item_id, payment_id) INCLUDE (qty)");
         row("cash_flow", "(trans_date)");
         row("cash_flow", "(lower((trans_no)::text))");
         row("accounting_trans", "(trans_date)");
         row("makan_ditempat", "(meja_id) WHERE ((status IS NULL) OR ((status IS NOT NULL) AND (status <> 6)))");
-        row("makan_ditempat_detail", "(makan_ditempat_id)");
         row("bawa_pulang", "(id) WHERE ((status IS NULL) OR ((status IS NOT NULL) AND (status <> 6)))");
-        row("bawa_pulang_detail", "(bawa_pulang_id)");
         row("invoice", "(invoice_date)");
         row("invoice", "(member_id) WHERE (status <> 1)");
-        row("invoice_detail", "(invoice_id)");
         row("invoice_detail", "(item_id, invoice_id) INCLUDE (qty)");
-        row("invoice_makan_ditempat", "(invoice_id)");
-        row("invoice_makan_ditempat", "(makan_ditempat_id)");
         row("invoice_makan_ditempat", "(agent_id, invoice_id) WHERE (agent_id IS NOT NULL)");
-        row("invoice_fast_food", "(invoice_id)");
         row("invoice_fast_food", "(agent_id, invoice_id) WHERE (agent_id IS NOT NULL)");
-        row("invoice_bawa_pulang", "(invoice_id)");
-        row("invoice_bawa_pulang", "(bawa_pulang_id)");
         row("piutang", "(payment_date)");
         row("piutang_detail", "(invoice_id)");
-        row("piutang_detail", "(piutang_id)");
         row("komisi_agen", "(payment_date)");
         row("komisi_agen_detail", "(invoice_id)");
-        row("komisi_agen_detail", "(komisi_agen_id)");
     }
-
     void whatListsFilterByHasAnIndex()
     {
-        QFETCH(QString, table);
-        QFETCH(QString, definition);
+        FETCH(QString, table, definition);
         const QStringList definitions =
             m_database
                 ->value(

@@ -1,12 +1,9 @@
 #include "app/configuration/BusinessConfiguration.h"
-#include "kor/business/KorServiceDirectory.h"
-#include "support/Rows.h"
-#include "support/TestDatabase.h"
+#include "support/DatabaseTest.h"
 
 #include <QDir>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QTest>
 
 namespace
 {
@@ -21,24 +18,19 @@ public:
 } // namespace
 
 /** The settings that all workstations share. */
-class TestSettings : public QObject
+class TestSettings : public DatabaseTest
 {
     Q_OBJECT
 
-private slots:
-    void init()
+protected:
+    void prepare() override
     {
-        m_database = std::make_unique<TestDatabase>();
-        m_database->run("DELETE FROM appconfig");
+        run("DELETE FROM appconfig");
         m_settings = service<BusinessConfiguration>("Configuration");
-        loginAsAdmin();
     }
-    void cleanup()
-    {
-        m_database.reset();
-        QDir(QCoreApplication::applicationDirPath()).rmdir("reports");
-    }
+    void tidy() override { QDir(QCoreApplication::applicationDirPath()).rmdir("reports"); }
 
+private slots:
     void theMembersOfARowAreStoredAsOneObject()
     {
         EntityAppConfig row;
@@ -61,17 +53,17 @@ private slots:
 
     void aDamagedRowHasNoMembersAndIsNoError_data()
     {
-        addColumns<QString, QString>("stored", "locale");
-        addRow("cut off", "{\"locale\": \"id_", "en_US");
-        addRow("a list", "[\"id_ID\"]", "en_US");
-        addRow("empty", "", "en_US");
-        addRow("whole", "{\"locale\": \"id_ID\"}", "id_ID");
+        const auto row = addColumns<QString, QString>("stored", "locale");
+        row("cut off", "{\"locale\": \"id_", "en_US");
+        row("a list", "[\"id_ID\"]", "en_US");
+        row("empty", "", "en_US");
+        row("whole", "{\"locale\": \"id_ID\"}", "id_ID");
     }
     void aDamagedRowHasNoMembersAndIsNoError()
     {
         QFETCH(QString, stored);
-        m_database->run("INSERT INTO appconfig (appkey, is_json, appvalue, version) VALUES ('localization', true, '" +
-                        stored + "', 1)");
+        run("INSERT INTO appconfig (appkey, is_json, appvalue, version) VALUES ('localization', true, '" + stored +
+            "', 1)");
         auto* localization = m_settings->getLocalization();
         QVERIFY(localization->isSaved());
         QTEST(localization->getLocale(), "locale");
@@ -81,8 +73,8 @@ private slots:
 
     void numbersAndFlagsOfOtherHandsAreReadAsTexts()
     {
-        m_database->run("INSERT INTO appconfig (appkey, is_json, appvalue, version) VALUES "
-                        "('x', true, '{\"columns\": 40, \"cut\": true, \"none\": null}', 1)");
+        run("INSERT INTO appconfig (appkey, is_json, appvalue, version) VALUES "
+            "('x', true, '{\"columns\": 40, \"cut\": true, \"none\": null}', 1)");
         const EntityAppConfig* row = m_settings->getConfig("x");
         QCOMPARE(row->member("columns"), QString("40"));
         QCOMPARE(row->member("cut"), QString("true"));
@@ -106,14 +98,13 @@ private slots:
 
     void aNewDatabaseGetsItsFirstRowsOnce_data()
     {
-        addColumns<QString, QString, QString>("dateFormat", "locale", "expected");
-        addRow("defaults", "", "", "d MMM yyyy en_US");
-        addRow("chosen", "dd/MM/yy", "id_ID", "dd/MM/yy id_ID");
+        const auto row = addColumns<QString, QString, QString>("dateFormat", "locale", "expected");
+        row("defaults", "", "", "d MMM yyyy en_US");
+        row("chosen", "dd/MM/yy", "id_ID", "dd/MM/yy id_ID");
     }
     void aNewDatabaseGetsItsFirstRowsOnce()
     {
-        QFETCH(QString, dateFormat);
-        QFETCH(QString, locale);
+        FETCH(QString, dateFormat, locale);
         QDir folder(QCoreApplication::applicationDirPath());
         QVERIFY(folder.mkpath("reports") && folder.cd("reports"));
         QVERIFY2(m_settings->insertInitialData(dateFormat, locale), qPrintable(m_settings->takeErrors()));
@@ -124,7 +115,7 @@ private slots:
         QVERIFY(!m_settings->insertInitialData());
         QCOMPARE(m_settings->errors().keys(), QStringList{"insertinitialdata"});
         m_settings->clearErrors();
-        QCOMPARE(m_database->value("SELECT count(*) FROM appconfig").toInt(), 2);
+        QCOMPARE(count("appconfig"), 2);
     }
 
     void everyRowIsReadInTheClassOfItsKey()
@@ -146,19 +137,7 @@ private slots:
         QCOMPARE(m_settings->getConfigsLike("%ell").size(), 2);
     }
 
-    void twoWorkstationsCannotSaveOneRow()
-    {
-        QVERIFY(m_settings->insertInitialData());
-        auto* mine = m_settings->getLocalization();
-        m_database->run("UPDATE appconfig SET version = version + 1 WHERE appkey = 'localization'");
-        mine->setLocale("id_ID");
-        QVERIFY(!m_settings->update(mine));
-        QVERIFY(m_settings->takeErrors().startsWith("Table: appconfig has been updated"));
-        QCOMPARE(m_settings->getLocalization()->getLocale(), QString("en_US"));
-    }
-
 private:
-    std::unique_ptr<TestDatabase> m_database;
     BusinessConfiguration* m_settings = nullptr;
 };
 

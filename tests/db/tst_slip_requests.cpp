@@ -1,67 +1,42 @@
-#include "app/context/AppContext.h"
-#include "kor/business/KorServiceDirectory.h"
 #include "pos/invoice/EntityInvoiceDetail.h"
-#include "support/ModalDriver.h"
-#include "support/Rows.h"
+#include "support/DatabaseTest.h"
 #include "support/ShopRows.h"
-#include "support/TestDatabase.h"
 #include "zavel/dinein/EntityInvoiceMakanDitempat.h"
 #include "zavel/dinein/EntityMakanDitempat.h"
 #include "zavel/dinein/EntityMakanDitempatDetail.h"
-#include "zavel/fastfood/EntityInvoiceFastFood.h"
-#include "zavel/registry/ZavelBusinessRegistry.h"
 #include "zavel/service/BusinessPenjualan.h"
 #include "zavel/slips/ZavelReportFactory.h"
 #include "zavel/tables/EntityMeja.h"
-#include "zavel/takeaway/EntityInvoiceBawaPulang.h"
 
 #include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
-#include <QTest>
 
 /** What screens ask of the printers, with the settings and the sales as they stand in the database. */
-class TestSlipRequests final : public QObject
+class TestSlipRequests : public DatabaseTest
 {
     Q_OBJECT
 
-private slots:
-    void init()
+protected:
+    void prepare() override
     {
-        m_spool = std::make_unique<QTemporaryDir>();
-        qputenv("ZAVEL_SPOOL_DIR", QFile::encodeName(m_spool->path()));
-        m_database = std::make_unique<TestDatabase>();
-        m_records = std::make_unique<QObject>();
         insertShop(*m_database);
-        loginAsAdmin();
-        AppContext::instance()->setLocale("en_US");
-        ZavelBusinessRegistry::instance();
-        m_database->run("TRUNCATE users, user_group, data_perusahaan, printer_type, appconfig CASCADE");
-        m_database->run("INSERT INTO user_group (id, name, version) VALUES (1, 'admin', 1)");
-        m_database->run(
-            QString("INSERT INTO users (id, first_name, last_name, username, password, user_group_id, currency, "
+        run("TRUNCATE users, user_group, data_perusahaan, printer_type, appconfig CASCADE");
+        run("INSERT INTO user_group (id, name, version) VALUES (1, 'admin', 1)");
+        run(QString("INSERT INTO users (id, first_name, last_name, username, password, user_group_id, currency, "
                     "version) VALUES (%1, 'Sari', 'Dewi', 'sari', '', 1, 'Rp', 1)")
                 .arg(AppContext::instance()->currentUserId()));
-        m_database->run("INSERT INTO data_perusahaan (nama_perusahaan, alamat, phone, version) "
-                        "VALUES ('Warung', 'Jalan 1', '022', 1)");
-        m_database->run("INSERT INTO printer_type (printer_type, cash_drawer_cmd, cut_papper_cmd, version) VALUES "
-                        "('EPSON-TM-T88III', '', '27#109', 1)");
+        run("INSERT INTO data_perusahaan (nama_perusahaan, alamat, phone, version) "
+            "VALUES ('Warung', 'Jalan 1', '022', 1)");
+        run("INSERT INTO printer_type (printer_type, cash_drawer_cmd, cut_papper_cmd, version) VALUES "
+            "('EPSON-TM-T88III', '', '27#109', 1)");
         addSetting("cashier_printer", R"("printer_name":"Kasir","printer_type":"EPSON-TM-T88III","auto_cutter":"Yes",
                                  "no_of_copy":"1","column_paper":"40","no_of_blank_lines":"2","notes":"Bye")");
         addKitchen("Dapur", "FOOD", "Yes");
         addKitchen("Bar", "", "No");
         addKitchen("Grill", "", "yes");
-        m_people = std::make_unique<ModalDriver>();
     }
 
-    void cleanup()
-    {
-        m_people.reset();
-        m_records.reset();
-        m_database.reset();
-        qunsetenv("ZAVEL_SPOOL_DIR");
-    }
-
+private slots:
     void aTablesBillIsPrintedFromItsInvoice()
     {
         const EntityInvoiceMakanDitempat* sale = sellAtTable(1);
@@ -77,42 +52,13 @@ private slots:
         QVERIFY(text.endsWith("\n                  Bye                   \n\n\x1Bm"));
     }
 
-    void salesWithoutATableHaveTheirBills()
-    {
-        auto* counter = new EntityInvoiceFastFood(m_records.get());
-        counter->setPemesan("Joko");
-        QVERIFY2(sell(counter, 1), qPrintable(sales()->takeErrors()));
-        factory()->printBillFastFood(counter->getId());
-
-        m_database->run(
-            "INSERT INTO bawa_pulang (id, status, pemesan, tgl, version) VALUES (9, 1, 'Ani', '2026-11-22', 1)");
-        auto* order = new EntityBawaPulang(m_records.get());
-        order->setId(9);
-        auto* member = new EntityMember(m_records.get());
-        member->setId(1);
-        auto* takeAway = new EntityInvoiceBawaPulang(m_records.get());
-        takeAway->setBawaPulang(order);
-        takeAway->setPemesan("Ani");
-        takeAway->setMember(member);
-        QVERIFY2(sell(takeAway, 1), qPrintable(sales()->takeErrors()));
-        factory()->printBillBawaPulang(takeAway->getId());
-
-        QCOMPARE(m_people->texts(), QStringList());
-        QCOMPARE(jobs().size(), 2);
-        QVERIFY2(slip(0).contains("No.    : TRF-0007\nCashier: sari\nMember : -\nGuest  : Joko\nDate"),
-                 qPrintable(slip(0)));
-        QVERIFY2(slip(1).contains("No.    : TRP-0007\nCashier: sari\nMember : Guest M1\nGuest  : Ani\nDate"),
-                 qPrintable(slip(1)));
-        QVERIFY(slip(1).contains("\nTunai "));
-    }
-
     void settingsCountFromTheNextSlipOn()
     {
         const EntityInvoiceMakanDitempat* sale = sellAtTable(1);
         QVERIFY(sale);
         factory()->printBillMakanDitempat(sale->getId());
-        m_database->run("UPDATE appconfig SET appvalue = replace(replace(appvalue, '\"Kasir\"', '\"Bar\"'), "
-                        "'\"EPSON-TM-T88III\"', '\"GONE\"') WHERE appkey = 'cashier_printer'");
+        run("UPDATE appconfig SET appvalue = replace(replace(appvalue, '\"Kasir\"', '\"Bar\"'), "
+            "'\"EPSON-TM-T88III\"', '\"GONE\"') WHERE appkey = 'cashier_printer'");
         factory()->printBillMakanDitempat(sale->getId());
         QCOMPARE(jobs(), QStringList({"000001-Kasir-Bill.slip", "000002-Bar-Bill.slip"}));
         QVERIFY(slip(0).endsWith("\x1Bm"));
@@ -128,7 +74,7 @@ private slots:
         QVERIFY2(slip(0).contains("\n  2  RICE   Rice                     2  \n"), qPrintable(slip(0)));
         QVERIFY(slip(0).endsWith("     4  \n\x1Bm"));
 
-        m_database->run("DELETE FROM appconfig WHERE appkey = 'kitchen_printer_Dapur'");
+        run("DELETE FROM appconfig WHERE appkey = 'kitchen_printer_Dapur'");
         factory()->printMenuOrder(DineOrder, order);
         QCOMPARE(jobs().size(), 1);
         QCOMPARE(m_people->texts(), QStringList());
@@ -172,20 +118,19 @@ private slots:
 
     void whatIsMissingIsToldInOneBox_data()
     {
-        addColumns<QString, QString>("statement", "text");
-        addRow("company", "DELETE FROM data_perusahaan",
-               "There is no company profile, so nothing can be printed at the cashier. Please enter it "
-               "first.");
-        addRow("cashier printer", "DELETE FROM appconfig WHERE appkey = 'cashier_printer'",
-               "There are no settings of the cashier printer in this database, so nothing can "
-               "be printed at the cashier.");
-        addRow("sale", "DELETE FROM invoice", "Can not find entity with id: 4711");
+        const auto row = addColumns<QString, QString>("statement", "text");
+        row("company", "DELETE FROM data_perusahaan",
+            "There is no company profile, so nothing can be printed at the cashier. Please enter it "
+            "first.");
+        row("cashier printer", "DELETE FROM appconfig WHERE appkey = 'cashier_printer'",
+            "There are no settings of the cashier printer in this database, so nothing can "
+            "be printed at the cashier.");
+        row("sale", "DELETE FROM invoice", "Can not find entity with id: 4711");
     }
-
     void whatIsMissingIsToldInOneBox()
     {
         QFETCH(QString, statement);
-        m_database->run(statement);
+        run(statement);
         sales()->addError("earlier", "an error that nobody has fetched");
         factory()->printBillMakanDitempat(4711);
         QTEST(m_people->lastText(), "text");
@@ -200,8 +145,8 @@ private slots:
     {
         EntityMakanDitempat* order = placeOrder(1);
         QVERIFY(order);
-        m_database->run("DELETE FROM data_perusahaan");
-        m_database->run("DELETE FROM appconfig WHERE appkey = 'cashier_printer'");
+        run("DELETE FROM data_perusahaan");
+        run("DELETE FROM appconfig WHERE appkey = 'cashier_printer'");
         factory()->printMenuOrder(DineOrder, order);
         QCOMPARE(m_people->texts(), QStringList());
         QCOMPARE(jobs(), QStringList("000001-Dapur-Menu.slip"));
@@ -220,8 +165,7 @@ private slots:
 private:
     void addSetting(const QString& key, const QString& members)
     {
-        m_database->run(
-            QString("INSERT INTO appconfig (appkey, is_json, appvalue, version) VALUES ('%1', true, '{%2}', 1)")
+        run(QString("INSERT INTO appconfig (appkey, is_json, appvalue, version) VALUES ('%1', true, '{%2}', 1)")
                 .arg(key, members));
     }
 
@@ -305,11 +249,6 @@ private:
 
     [[nodiscard]] static BusinessPenjualan* sales() { return service<BusinessPenjualan>("Sales"); }
     [[nodiscard]] static ZavelReportFactory* factory() { return ZavelReportFactory::instance(); }
-
-    std::unique_ptr<QTemporaryDir> m_spool;
-    std::unique_ptr<TestDatabase> m_database;
-    std::unique_ptr<ModalDriver> m_people;
-    std::unique_ptr<QObject> m_records;
 };
 
 QTEST_MAIN(TestSlipRequests)

@@ -5,17 +5,11 @@
 #include "app/access/DataMapperUser.h"
 #include "app/access/EntityAccess.h"
 #include "app/context/AccessCheck.h"
-#include "app/context/AppContext.h"
 #include "app/context/DatabaseManager.h"
 #include "app/context/EntityUser.h"
-#include "app/registry/AppMapperRegistry.h"
-#include "kor/business/KorServiceDirectory.h"
 #include "kor/persistence/KorQuery.h"
-#include "support/Rows.h"
+#include "support/DatabaseTest.h"
 #include "support/SlowNeighbour.h"
-#include "support/TestDatabase.h"
-
-#include <QTest>
 
 #include <ctime>
 
@@ -26,45 +20,41 @@ const QString secretDigest = "5ebe2294ecd0e0f08eab7690d2a6ee69"; // of "secret"
 } // namespace
 
 /** Who may log in and what the group of each may do. */
-class TestUsersAndRights : public QObject
+class TestUsersAndRights : public DatabaseTest
 {
     Q_OBJECT
 
-private slots:
-    void init()
+protected:
+    void prepare() override
     {
-        m_database = std::make_unique<TestDatabase>();
-        m_database->run("TRUNCATE users, user_group, business, permissions, access RESTART IDENTITY CASCADE");
-        m_database->run("INSERT INTO user_group (name, version) VALUES ('kasir', 1), ('admin', 1);"
-                        "INSERT INTO business (name, version) VALUES ('Table', 1), ('Unit', 1);"
-                        "INSERT INTO permissions (permission_name, permission_key, business_id, version) VALUES "
-                        "('Add table', 0, 1, 1), ('Update table', 1, 1, 1), ('Delete table', 2, 1, 1), "
-                        "('Manage unit', 0, 2, 1)");
-        AppContext::instance()->setLocale("en_US");
-        loginAsAdmin();
+        run("TRUNCATE users, user_group, business, permissions, access RESTART IDENTITY CASCADE");
+        run("INSERT INTO user_group (name, version) VALUES ('kasir', 1), ('admin', 1);"
+            "INSERT INTO business (name, version) VALUES ('Table', 1), ('Unit', 1);"
+            "INSERT INTO permissions (permission_name, permission_key, business_id, version) VALUES "
+            "('Add table', 0, 1, 1), ('Update table', 1, 1, 1), ('Delete table', 2, 1, 1), "
+            "('Manage unit', 0, 2, 1)");
         m_users = service<BusinessUser>("User");
         m_access = service<BusinessUserAccess>("User Access");
         m_kasir = service<BusinessUserGroup>("User Group")->findByGroupName("KASIR");
         QVERIFY(m_kasir);
     }
-    void cleanup() { m_database.reset(); }
 
+private slots:
     void aLoginNeedsTheExactNameAndPassword_data()
     {
-        addColumns<QString, QString, bool>("name", "password", "accepted");
-        addRow("right", "ann", "secret", true);
-        addRow("wrong password", "ann", "guess", false);
-        addRow("password in other letters", "ann", "Secret", false);
-        addRow("empty password", "ann", "", false);
-        addRow("the stored digest", "ann", secretDigest, false);
-        addRow("name in other letters", "Ann", "secret", false);
-        addRow("unknown name", "bob", "secret", false);
-        addRow("SQL", "ann' --", "secret", false);
+        const auto row = addColumns<QString, QString, bool>("name", "password", "accepted");
+        row("right", "ann", "secret", true);
+        row("wrong password", "ann", "guess", false);
+        row("password in other letters", "ann", "Secret", false);
+        row("empty password", "ann", "", false);
+        row("the stored digest", "ann", secretDigest, false);
+        row("name in other letters", "Ann", "secret", false);
+        row("unknown name", "bob", "secret", false);
+        row("SQL", "ann' --", "secret", false);
     }
     void aLoginNeedsTheExactNameAndPassword()
     {
-        QFETCH(QString, name);
-        QFETCH(QString, password);
+        FETCH(QString, name, password);
         QFETCH(bool, accepted);
         addAnn("secret");
         AppContext::instance()->setCurrentUser(nullptr);
@@ -90,9 +80,9 @@ private slots:
 
     void aLoginIsGivenAwayOnce_data()
     {
-        addColumns<bool>("isRenamed");
-        addRow("to a new user", false);
-        addRow("to a user who gets another name", true);
+        const auto row = addColumns<bool>("isRenamed");
+        row("to a new user", false);
+        row("to a user who gets another name", true);
     }
     void aLoginIsGivenAwayOnce()
     {
@@ -112,17 +102,17 @@ private slots:
                           "version) VALUES ('Ann', 'Lee', 'ann', '', 1, 'Rp', 1)"});
         QVERIFY(!(isRenamed ? m_users->update(&user) : m_users->insert(&user)));
         QCOMPARE(m_users->takeErrors().trimmed(), QString("Username already exists"));
-        QCOMPARE(m_database->value("SELECT count(*) FROM users WHERE username = 'ann'").toInt(), 1);
+        QCOMPARE(count("users WHERE username = 'ann'"), 1);
     }
 
     void aSessionHasTheWorkstationsTimeZone_data()
     {
-        addColumns<QByteArray, QString>("zone", "offset");
-        addRow("by its name", QByteArray("Asia/Tokyo"), "09:00:00");
-        addRow("by a file", QByteArray(":/usr/share/zoneinfo/Asia/Tokyo"), "09:00:00");
-        addRow("by a file without the colon", QByteArray("/usr/share/zoneinfo/Asia/Tokyo"), "09:00:00");
-        addRow("by its rule, east", QByteArray("HERE-05:30"), "05:30:00");
-        addRow("by its rule, west", QByteArray("HERE3:30"), "-03:30:00");
+        const auto row = addColumns<QByteArray, QString>("zone", "offset");
+        row("by its name", QByteArray("Asia/Tokyo"), "09:00:00");
+        row("by a file", QByteArray(":/usr/share/zoneinfo/Asia/Tokyo"), "09:00:00");
+        row("by a file without the colon", QByteArray("/usr/share/zoneinfo/Asia/Tokyo"), "09:00:00");
+        row("by its rule, east", QByteArray("HERE-05:30"), "05:30:00");
+        row("by its rule, west", QByteArray("HERE3:30"), "-03:30:00");
     }
     void aSessionHasTheWorkstationsTimeZone()
     {
@@ -146,16 +136,15 @@ private slots:
 
     void passwordsAreStoredAsDigests_data()
     {
-        addColumns<QString, QString, QString>("first", "second", "stored");
-        addRow("an empty box keeps it", "secret", "", secretDigest);
-        addRow("a new one replaces it", "old", "secret", secretDigest);
-        addRow("none at all is allowed", "", "", emptyDigest);
-        addRow("beyond Latin", "x", QString::fromUtf8("пароль"), "e242f36f4f95f12966da8fa2efd59992");
+        const auto row = addColumns<QString, QString, QString>("first", "second", "stored");
+        row("an empty box keeps it", "secret", "", secretDigest);
+        row("a new one replaces it", "old", "secret", secretDigest);
+        row("none at all is allowed", "", "", emptyDigest);
+        row("beyond Latin", "x", QString::fromUtf8("пароль"), "e242f36f4f95f12966da8fa2efd59992");
     }
     void passwordsAreStoredAsDigests()
     {
-        QFETCH(QString, first);
-        QFETCH(QString, second);
+        FETCH(QString, first, second);
         const int id = addAnn(first);
         QCOMPARE(storedPassword(), DataMapperUser::digest(first));
         auto* ann = static_cast<EntityUser*>(m_users->find(id));
@@ -163,22 +152,22 @@ private slots:
         ann->setPassword(second);
         QVERIFY2(m_users->update(ann), qPrintable(m_users->takeErrors()));
         QTEST(storedPassword(), "stored");
-        QCOMPARE(m_database->value("SELECT first_name FROM users").toString(), QString("Anne"));
+        QCOMPARE(value("SELECT first_name FROM users"), QString("Anne"));
     }
 
     void aNewUserGetsTheCurrencyOfTheHouse_data()
     {
-        addColumns<QString, QString>("locale", "currency");
-        addRow("dollars", "en_US", "$");
-        addRow("rupiah", "id_ID", "Rp");
-        addRow("a locale without one", "", "");
+        const auto row = addColumns<QString, QString>("locale", "currency");
+        row("dollars", "en_US", "$");
+        row("rupiah", "id_ID", "Rp");
+        row("a locale without one", "", "");
     }
     void aNewUserGetsTheCurrencyOfTheHouse()
     {
         QFETCH(QString, locale);
         AppContext::instance()->setLocale(locale);
         addAnn("secret");
-        QTEST(m_database->value("SELECT currency FROM users").toString(), "currency");
+        QTEST(value("SELECT currency FROM users"), "currency");
     }
 
     void usersAreFoundByAnyOfTheirNames()
@@ -200,7 +189,7 @@ private slots:
             QVERIFY2(m_access->setGrant(m_kasir, permission, grant), qPrintable(m_access->takeErrors()));
             QCOMPARE(m_database->value("SELECT grant_type FROM access").toInt(), grant);
         }
-        QCOMPARE(m_database->value("SELECT count(*) FROM access").toInt(), 1);
+        QCOMPARE(count("access"), 1);
         const EntityAccess* access = m_access->findAccess(m_kasir->getId(), permission->getId());
         QCOMPARE(access->getGroup()->getGroupName(), QString("kasir"));
         QCOMPARE(access->getPermission()->getPermissionName(), QString("Delete table"));
@@ -252,13 +241,6 @@ private slots:
         QVERIFY(!permissions->hasError());
     }
 
-    void theOldPermissionMigrationStillMissesItsTable()
-    {
-        const auto* mappers = AppMapperRegistry::instance();
-        QVERIFY(!mappers->get("permission")->migrate(0, 1.1));
-        QVERIFY(mappers->get("business")->migrate(0, 1.1));
-    }
-
 private:
     int addAnn(const QString& password)
     {
@@ -272,13 +254,12 @@ private:
             qWarning().noquote() << m_users->takeErrors();
         return ann.getId();
     }
-    QString storedPassword() { return m_database->value("SELECT password FROM users").toString(); }
+    QString storedPassword() { return value("SELECT password FROM users"); }
     static EntityPermission* permissionOf(const QString& name)
     {
         return static_cast<EntityPermission*>(service<BusinessPermission>("Permission")->find("permission_name", name));
     }
 
-    std::unique_ptr<TestDatabase> m_database;
     BusinessUser* m_users = nullptr;
     BusinessUserAccess* m_access = nullptr;
     EntityUserGroup* m_kasir = nullptr;

@@ -1,27 +1,21 @@
 #include "shell/database/check/DatabaseCondition.h"
 #include "shell/database/tools/ClientPrograms.h"
+#include "support/DatabaseTest.h"
 #include "support/InstallerRun.h"
-#include "support/Rows.h"
-#include "support/TestDatabase.h"
 
 #include <QProcess>
-#include <QTemporaryDir>
-#include <QTest>
 
 /** What the program finds at its next start after something was cut short. */
-class TestDatabaseCondition : public QObject
+class TestDatabaseCondition : public DatabaseTest
 {
     Q_OBJECT
 
 private slots:
-    void init() { m_database = std::make_unique<TestDatabase>(); }
-    void cleanup() { m_database.reset(); }
-
     void whatIsInOrderIsNotComplainedOf_data()
     {
-        addColumns<QString, bool>("change", "update");
-        addRow("just installed", "", false);
-        addRow("up to date, updated once more", "", true);
+        const auto row = addColumns<QString, bool>("change", "update");
+        row("just installed", "", false);
+        row("up to date, updated once more", "", true);
         const QString older =
             "UPDATE appconfig SET appvalue = '1.0' WHERE appkey = 'app_version';"
             "DELETE FROM permissions WHERE permission_name = 'Add table'; DELETE FROM business WHERE id NOT IN "
@@ -29,11 +23,10 @@ private slots:
             "ALTER TABLE acquisition_detail DROP CONSTRAINT acquisition_detail_po_detail_id_fkey;"
             "ALTER TABLE purchase_order_detail DROP CONSTRAINT purchase_order_detail_purchase_order_id_fkey;"
             "ALTER TABLE business DROP CONSTRAINT business_name_key; DROP INDEX invoice_invoice_date_idx";
-        addRow("of version 1.0", older, false);
-        addRow("of version 1.0, updated", older, true);
-        addRow("a right that was taken away", "DELETE FROM access; DELETE FROM user_group WHERE id = 1", false);
+        row("of version 1.0", older, false);
+        row("of version 1.0, updated", older, true);
+        row("a right that was taken away", "DELETE FROM access; DELETE FROM user_group WHERE id = 1", false);
     }
-
     void whatIsInOrderIsNotComplainedOf()
     {
         QFETCH(QString, change);
@@ -54,31 +47,28 @@ private slots:
 
     void whatIsMissingIsExplained_data()
     {
-        addColumns<QString, bool, QString>("damage", "usable", "told");
-        addRow("table", "DROP TABLE meja CASCADE", false, "tables missing (meja)");
-        addRow("table of lines", "DROP TABLE payment_invoice CASCADE", false, "tables missing (payment_invoice)");
-        addRow("many tables", "DROP TABLE meja, agent, member, item, satuan, bank, users CASCADE", false,
-               " and 2 more)");
-        addRow("key", "ALTER TABLE komisi_agen DROP CONSTRAINT komisi_agen_pkey CASCADE", false,
-               "without a primary key (komisi_agen)");
-        addRow("reference", "ALTER TABLE stock_take DROP CONSTRAINT stock_take_item_id_fkey", true,
-               "references between tables are missing (stock_take.item_id)");
-        addRow("service",
-               "DELETE FROM access; DELETE FROM permissions WHERE business_id = "
-               "(SELECT id FROM business WHERE name = 'Table'); DELETE FROM business WHERE name = "
-               "'Table'",
-               true, "rights of some services are not complete (Table)");
-        addRow("permission", "DELETE FROM access; DELETE FROM permissions WHERE permission_name = 'Add table'", true,
-               "rights of some services are not complete (Table)");
-        addRow("all rights", "DELETE FROM access; DELETE FROM permissions; DELETE FROM business", false,
-               "nobody has any right yet");
-        addRow("everything", "DROP SCHEMA public CASCADE; CREATE SCHEMA public", false, "");
+        const auto row = addColumns<QString, bool, QString>("damage", "usable", "told");
+        row("table", "DROP TABLE meja CASCADE", false, "tables missing (meja)");
+        row("table of lines", "DROP TABLE payment_invoice CASCADE", false, "tables missing (payment_invoice)");
+        row("many tables", "DROP TABLE meja, agent, member, item, satuan, bank, users CASCADE", false, " and 2 more)");
+        row("key", "ALTER TABLE komisi_agen DROP CONSTRAINT komisi_agen_pkey CASCADE", false,
+            "without a primary key (komisi_agen)");
+        row("reference", "ALTER TABLE stock_take DROP CONSTRAINT stock_take_item_id_fkey", true,
+            "references between tables are missing (stock_take.item_id)");
+        row("service",
+            "DELETE FROM access; DELETE FROM permissions WHERE business_id = "
+            "(SELECT id FROM business WHERE name = 'Table'); DELETE FROM business WHERE name = "
+            "'Table'",
+            true, "rights of some services are not complete (Table)");
+        row("permission", "DELETE FROM access; DELETE FROM permissions WHERE permission_name = 'Add table'", true,
+            "rights of some services are not complete (Table)");
+        row("all rights", "DELETE FROM access; DELETE FROM permissions; DELETE FROM business", false,
+            "nobody has any right yet");
+        row("everything", "DROP SCHEMA public CASCADE; CREATE SCHEMA public", false, "");
     }
-
     void whatIsMissingIsExplained()
     {
-        QFETCH(QString, damage);
-        QFETCH(QString, told);
+        FETCH(QString, damage, told);
         m_database->run(damage);
         const DatabaseCondition found = condition();
         QVERIFY(!found.isWhole());
@@ -89,15 +79,14 @@ private slots:
 
     void aToolThatIsKilledIsNoticed_data()
     {
-        addColumns<bool, QString, QString>("restore", "at", "told");
-        addRow("installing the tables", false, "create table  meja", "tables missing");
-        addRow("registering the rights", false, "", "rights of some services");
-        addRow("restoring the tables", true, "CREATE TABLE public.item ", "tables missing");
-        addRow("restoring the keys", true, "ADD CONSTRAINT meja_pkey", "primary key");
-        addRow("restoring the references", true, "ADD CONSTRAINT meja.*_fkey|ADD CONSTRAINT item.*_fkey",
-               "references between tables");
+        const auto row = addColumns<bool, QString, QString>("restore", "at", "told");
+        row("installing the tables", false, "create table  meja", "tables missing");
+        row("registering the rights", false, "", "rights of some services");
+        row("restoring the tables", true, "CREATE TABLE public.item ", "tables missing");
+        row("restoring the keys", true, "ADD CONSTRAINT meja_pkey", "primary key");
+        row("restoring the references", true, "ADD CONSTRAINT meja.*_fkey|ADD CONSTRAINT item.*_fkey",
+            "references between tables");
     }
-
     void aToolThatIsKilledIsNoticed()
     {
         QFETCH(bool, restore);
@@ -166,13 +155,10 @@ private:
     [[nodiscard]] DatabaseCondition condition() const
     {
         const bool bears = m_database->value("SELECT to_regclass('appconfig')").isValid() &&
-                           !m_database->value("SELECT to_regclass('appconfig')").toString().isEmpty();
-        return DatabaseCondition::read(
-            bears ? m_database->value("SELECT appvalue FROM appconfig WHERE appkey = 'app_version'").toString()
-                  : QString());
+                           !value("SELECT to_regclass('appconfig')").isEmpty();
+        return DatabaseCondition::read(bears ? value("SELECT appvalue FROM appconfig WHERE appkey = 'app_version'")
+                                             : QString());
     }
-
-    std::unique_ptr<TestDatabase> m_database;
 };
 
 QTEST_MAIN(TestDatabaseCondition)

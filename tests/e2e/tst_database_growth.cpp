@@ -1,22 +1,16 @@
 #include "GrownCatalogue.h"
-#include "app/context/AppContext.h"
 #include "app/context/DatabaseVersion.h"
 #include "app/registry/AppMapperRegistry.h"
-#include "kor/business/KorServiceDirectory.h"
 #include "shell/database/check/DatabaseCondition.h"
 #include "shell/database/updater/AppDBUpdaterWizard.h"
 #include "shell/window/MainWindow.h"
-#include "support/ModalDriver.h"
+#include "support/DatabaseTest.h"
 #include "support/OldDatabase.h"
-#include "support/Rows.h"
 #include "support/ShopRows.h"
-#include "support/TestDatabase.h"
 #include "support/TestTemplate.h"
 
 #include <QAbstractButton>
-#include <QPlainTextEdit>
 #include <QProcess>
-#include <QTest>
 
 namespace
 {
@@ -31,9 +25,17 @@ QString version(int tenths) { return QString::number(DatabaseVersion::ofProgram(
 } // namespace
 
 /** A restaurant with a month of trade gets a build that knows a family, two columns and an index more. */
-class TestDatabaseGrowth : public QObject
+class TestDatabaseGrowth : public DatabaseTest
 {
     Q_OBJECT
+
+protected:
+    void prepare() override
+    {
+        insertShop(*m_database);
+        insertDineOrder(*m_database, {{2, 15}});
+        setVersion(-1);
+    }
 
 private slots:
     void initTestCase()
@@ -42,16 +44,6 @@ private slots:
         ensureInstalledTemplate();
         addGrownCatalogue();
     }
-
-    void init()
-    {
-        m_database = std::make_unique<TestDatabase>();
-        insertShop(*m_database);
-        insertDineOrder(*m_database, {{2, 15}});
-        setVersion(-1);
-    }
-
-    void cleanup() { m_database.reset(); }
 
     void whatTheUpdateWillBringIsNoDamage()
     {
@@ -68,11 +60,10 @@ private slots:
 
     void theUpdateBringsTablesColumnsAndRights_data()
     {
-        addColumns<bool>("wizard");
-        addRow("by the wizard", true);
-        addRow("at the console", false);
+        const auto row = addColumns<bool>("wizard");
+        row("by the wizard", true);
+        row("at the console", false);
     }
-
     void theUpdateBringsTablesColumnsAndRights()
     {
         auto before = allRows(*m_database);
@@ -92,10 +83,8 @@ private slots:
         const DatabaseCondition found = DatabaseCondition::readWithVersion();
         QVERIFY2(found.isWhole(), qPrintable(found.explanation()));
         QCOMPARE(rights(), 1);
-        QCOMPARE(m_database
-                     ->value("SELECT string_agg(indexname, ' ' ORDER BY indexname) FROM pg_indexes WHERE indexname "
-                             "IN ('meja_wing_id_idx', 'wing_nama_idx')")
-                     .toString(),
+        QCOMPARE(value("SELECT string_agg(indexname, ' ' ORDER BY indexname) FROM pg_indexes WHERE indexname "
+                       "IN ('meja_wing_id_idx', 'wing_nama_idx')"),
                  QString("meja_wing_id_idx wing_nama_idx"));
 
         EntityWing garden;
@@ -103,10 +92,8 @@ private slots:
         garden.setNama("Garden");
         QVERIFY(service<BusinessWing>("Wing")->insert(&garden));
         m_database->run("UPDATE meja SET wing_id = (SELECT id FROM wing)");
-        QCOMPARE(m_database
-                     ->value("SELECT min(seats) || ' ' || pg_get_constraintdef(c.oid) FROM meja, pg_constraint c "
-                             "WHERE conname = 'meja_wing_id_fkey' GROUP BY c.oid")
-                     .toString(),
+        QCOMPARE(value("SELECT min(seats) || ' ' || pg_get_constraintdef(c.oid) FROM meja, pg_constraint c "
+                       "WHERE conname = 'meja_wing_id_fkey' GROUP BY c.oid"),
                  QString("4 FOREIGN KEY (wing_id) REFERENCES wing(id)"));
 
         auto after = allRows(*m_database);
@@ -120,12 +107,11 @@ private slots:
 
     void anUpdateThatFailedIsRepeated_data()
     {
-        addColumns<QString, int>("statement", "rights");
-        addRow("at the table", "CREATE TABLE IF NOT EXISTS wing(", 0);
-        addRow("at its lines", "CREATE TABLE IF NOT EXISTS wing_room(", 1);
-        addRow("at a column", "ALTER TABLE meja ADD COLUMN IF NOT EXISTS wing_id", 1);
+        const auto row = addColumns<QString, int>("statement", "rights");
+        row("at the table", "CREATE TABLE IF NOT EXISTS wing(", 0);
+        row("at its lines", "CREATE TABLE IF NOT EXISTS wing_room(", 1);
+        row("at a column", "ALTER TABLE meja ADD COLUMN IF NOT EXISTS wing_id", 1);
     }
-
     void anUpdateThatFailedIsRepeated()
     {
         QFETCH(QString, statement);
@@ -153,12 +139,11 @@ private slots:
 
     void anOlderProgramLeavesTheDatabaseAlone_data()
     {
-        addColumns<QStringList, int>("command", "status");
-        addRow("status", QStringList{"status"}, 4);
-        addRow("update", QStringList{"update"}, 1);
-        addRow("install anew", QStringList{"install", "--replace"}, 1);
+        const auto row = addColumns<QStringList, int>("command", "status");
+        row("status", {"status"}, 4);
+        row("update", {"update"}, 1);
+        row("install anew", {"install", "--replace"}, 1);
     }
-
     void anOlderProgramLeavesTheDatabaseAlone()
     {
         QFETCH(QStringList, command);
@@ -203,8 +188,7 @@ private:
         QVERIFY(m_database->open());
         MainWindow window;
         window.show();
-        ModalDriver person;
-        person.expect<AppDBUpdaterWizard>([](QWizard* wizard) {
+        m_people->expect<AppDBUpdaterWizard>([](QWizard* wizard) {
             const auto* status = wizard->findChild<QPlainTextEdit*>();
             QTest::mouseClick(wizard->button(QWizard::NextButton), Qt::LeftButton);
             QTRY_VERIFY_WITH_TIMEOUT(status->toPlainText().contains("[100%]"), 15000);
@@ -212,7 +196,7 @@ private:
             QTest::mouseClick(wizard->button(QWizard::FinishButton), Qt::LeftButton);
         });
         window.checkDBUpdate();
-        QVERIFY(person.finished());
+        QVERIFY(m_people->finished());
     }
 
     void setVersion(int tenths)
@@ -221,7 +205,7 @@ private:
     }
     [[nodiscard]] QString storedVersion() const
     {
-        return m_database->value("SELECT appvalue FROM appconfig WHERE appkey = 'app_version'").toString();
+        return value("SELECT appvalue FROM appconfig WHERE appkey = 'app_version'");
     }
     [[nodiscard]] int rights() const
     {
@@ -230,8 +214,6 @@ private:
                     "JOIN business b ON b.id = business_id WHERE b.name = 'Wing' AND grant_type = 2")
             .toInt();
     }
-
-    std::unique_ptr<TestDatabase> m_database;
 };
 
 QTEST_MAIN(TestDatabaseGrowth)

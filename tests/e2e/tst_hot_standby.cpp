@@ -14,7 +14,6 @@
 #include "zavel/registry/ZavelBusinessRegistry.h"
 
 #include <QLabel>
-#include <QSet>
 #include <QTemporaryDir>
 #include <QThread>
 

@@ -10,7 +10,6 @@
 #include <QElapsedTimer>
 #include <QHash>
 #include <QRandomGenerator>
-#include <QSet>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
@@ -132,13 +131,12 @@ private slots:
 
     void aDeadServerHoldsTheTillForTwoSecondsOnce_data()
     {
-        addColumns<bool>("fails");
-        addRow("silent", false); // takes the connection and never answers
-        addRow("held", false);   // the real one, held still
-        addRow("refuses", true); // nobody listens
-        addRow("crashed", true); // the real one, killed
+        const auto row = addColumns<bool>("fails");
+        row("silent", false); // takes the connection and never answers
+        row("held", false);   // the real one, held still
+        row("refuses", true); // nobody listens
+        row("crashed", true); // the real one, killed
     }
-
     void aDeadServerHoldsTheTillForTwoSecondsOnce()
     {
         QFETCH(bool, fails);

@@ -86,13 +86,12 @@ private slots:
 
     void theStatusTellsHowFarADatabaseIs_data()
     {
-        addColumns<QString, int>("state", "status");
-        addRow("no tables", "empty", 3);
-        addRow("cut short", "cut", 3);
-        addRow("no such user", "user", 1);
-        addRow("no server", "server", 1);
+        const auto row = addColumns<QString, int>("state", "status");
+        row("no tables", "empty", 3);
+        row("cut short", "cut", 3);
+        row("no such user", "user", 1);
+        row("no server", "server", 1);
     }
-
     void theStatusTellsHowFarADatabaseIs()
     {
         QFETCH(QString, state);
@@ -164,16 +163,15 @@ private slots:
 
     void wrongArgumentsAreRefused_data()
     {
-        addColumns<QStringList>("arguments");
-        addRow("no command", QStringList{});
-        addRow("unknown command", QStringList{"destroy"});
-        addRow("two commands", QStringList{"install", "update"});
-        addRow("unknown option", QStringList{"status", "--colour"});
-        addRow("no number for a port", QStringList{"status", "--port", "many"});
-        addRow("a port out of range", QStringList{"status", "--port", "66666"});
-        addRow("no locale", QStringList{"install", "--locale", "Klingon"});
+        const auto row = addColumns<QStringList>("arguments");
+        row("no command", {});
+        row("unknown command", {"destroy"});
+        row("two commands", {"install", "update"});
+        row("unknown option", {"status", "--colour"});
+        row("no number for a port", {"status", "--port", "many"});
+        row("a port out of range", {"status", "--port", "66666"});
+        row("no locale", {"install", "--locale", "Klingon"});
     }
-
     void wrongArgumentsAreRefused()
     {
         QFETCH(QStringList, arguments);

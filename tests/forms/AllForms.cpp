@@ -81,16 +81,16 @@ EntityPool& records()
     return pool;
 }
 
-template <class Dialog>
-Form form()
+template <class... Dialogs>
+QList<Form> forms()
 {
-    return {Dialog::staticMetaObject.className(), [] { return std::make_unique<Dialog>(); }};
+    return {{Dialogs::staticMetaObject.className(), [] { return std::make_unique<Dialogs>(); }}...};
 }
 
-template <class Dialog>
-Form picker()
+template <class... Dialogs>
+QList<Form> pickers()
 {
-    return {Dialog::staticMetaObject.className(), [] { return std::make_unique<Dialog>(records(), nullptr); }};
+    return {{Dialogs::staticMetaObject.className(), [] { return std::make_unique<Dialogs>(records(), nullptr); }}...};
 }
 
 /** The form of a line that came from another document, which shows more of it than that of a new line. */
@@ -165,60 +165,32 @@ Form wizardAt(void (*answer)(QWizard&))
 
 QList<Form> dialogs()
 {
-    return {
-        form<ConfigDialog>(),
-        form<DialogAbout>(),
-        form<DialogBackupDB>(),
-        form<DialogBawaPulang>(),
-        form<DialogBayarMakanDitempatDetailSplit>(),
-        form<DialogBayarPiutang>(),
-        form<DialogCashFlow>(),
-        form<DialogCashierAndKitchenPrinter>(),
-        form<DialogClearTransactions>(),
-        form<DialogConverter>(),
-        form<DialogCreditNote>(),
-        form<DialogDataPerusahaan>(),
-        form<DialogFastFood>(),
-        form<DialogKeyboard>(),
-        form<DialogKitchenFoodPrinter>(),
-        form<DialogKomisiAgen>(),
-        form<DialogLogin>(),
-        form<DialogMakanDitempat>(),
-        form<DialogPayment>(),
-        form<DialogPaymentInvoice>(),
-        form<DialogPiutang>(),
-        form<DialogPrinter>(),
-        form<DialogPurchaseOrder>(),
-        form<DialogPurchases>(),
-        form<DialogSetPercentage>(),
-        form<DialogTransaction>(),
-        form<DialogUserAccess>(),
-        form<AppDBUpdaterWizard>(),
-        wizardAt<FreshInstallPage>([](QWizard&) {}),
-        wizardAt<RestoreInstallPage>([](QWizard& wizard) { wizard.setField("installtype.restoreinstall", true); }),
-        {"HelpWindow", [] { return std::make_unique<HelpWindow>(QString(), nullptr); }},
-        picker<DialogSelectBawaPulangInventory>(),
-        picker<DialogSelectBawaPulangMenu>(),
-        picker<DialogSelectFastFoodInventory>(),
-        picker<DialogSelectFastFoodMenu>(),
-        picker<DialogSelectInventory>(),
-        picker<DialogSelectMenu>(),
-        picker<DialogCreditNotePurchases>(),
-        picker<DialogPaymentExpenses>(),
-        picker<DialogPurchaseDetail>(),
-        picker<DialogPurchaseOrderDetail>(),
-        lineForm<DialogCreditNoteInvoice, EntityCreditNoteDetail>(),
-        lineForm<DialogPurchaseDetailPO, EntityAcquisitionDetail>(),
-        documentChoice<DialogSelectPO>(),
-        documentChoice<DialogSelectPurchases>(),
-        payment<DialogBayarBawaPulang>(takeAwayOrder),
-        payment<DialogBayarMakanDitempat>(dineOrder),
-        {"DialogFilterJenisItem", [] { return std::make_unique<DialogFilterJenisItem>("FOOD"); }},
-        {"DialogSelectSplitInvoice",
-         [] { return std::make_unique<DialogSelectSplitInvoice>(QList<EntityInvoiceMakanDitempat*>()); }},
-        {"DialogSubItem", [] { return std::make_unique<DialogSubItem>(KorNoValue); }},
-        form<MainWindow>(),
-    };
+    return forms<ConfigDialog, DialogAbout, DialogBackupDB, DialogBawaPulang, DialogBayarMakanDitempatDetailSplit,
+                 DialogBayarPiutang, DialogCashFlow, DialogCashierAndKitchenPrinter, DialogClearTransactions,
+                 DialogConverter, DialogCreditNote, DialogDataPerusahaan, DialogFastFood, DialogKeyboard,
+                 DialogKitchenFoodPrinter, DialogKomisiAgen, DialogLogin, DialogMakanDitempat, DialogPayment,
+                 DialogPaymentInvoice, DialogPiutang, DialogPrinter, DialogPurchaseOrder, DialogPurchases,
+                 DialogSetPercentage, DialogTransaction, DialogUserAccess, AppDBUpdaterWizard>() +
+           pickers<DialogSelectBawaPulangInventory, DialogSelectBawaPulangMenu, DialogSelectFastFoodInventory,
+                   DialogSelectFastFoodMenu, DialogSelectInventory, DialogSelectMenu, DialogCreditNotePurchases,
+                   DialogPaymentExpenses, DialogPurchaseDetail, DialogPurchaseOrderDetail>() +
+           QList<Form>{
+               wizardAt<FreshInstallPage>([](QWizard&) {}),
+               wizardAt<RestoreInstallPage>(
+                   [](QWizard& wizard) { wizard.setField("installtype.restoreinstall", true); }),
+               {"HelpWindow", [] { return std::make_unique<HelpWindow>(QString(), nullptr); }},
+               lineForm<DialogCreditNoteInvoice, EntityCreditNoteDetail>(),
+               lineForm<DialogPurchaseDetailPO, EntityAcquisitionDetail>(),
+               documentChoice<DialogSelectPO>(),
+               documentChoice<DialogSelectPurchases>(),
+               payment<DialogBayarBawaPulang>(takeAwayOrder),
+               payment<DialogBayarMakanDitempat>(dineOrder),
+               {"DialogFilterJenisItem", [] { return std::make_unique<DialogFilterJenisItem>("FOOD"); }},
+               {"DialogSelectSplitInvoice",
+                [] { return std::make_unique<DialogSelectSplitInvoice>(QList<EntityInvoiceMakanDitempat*>()); }},
+               {"DialogSubItem", [] { return std::make_unique<DialogSubItem>(KorNoValue); }},
+           } +
+           forms<MainWindow>();
 }
 } // namespace
 
@@ -232,8 +204,8 @@ void openShopForForms(TestDatabase& database)
 {
     insertShop(database);
     insertDineOrder(database, {{2, 300}, {1, 400}});
-    insertRows(database, "bawa_pulang", {{"status", "1"}, {"tgl", "current_date"}});
-    insertRows(database, "bawa_pulang_detail", {{"status", "1"}, {"qty", "2"}, {"total_amount", "300"}});
+    insertRows(database, "bawa_pulang", "status=1, tgl=current_date");
+    insertRows(database, "bawa_pulang_detail", "status=1, qty=2, total_amount=300");
     loginAsAdmin();
     AppContext::instance()->setLocale("id_ID");
     AppContext::instance()->setShowDashboard(true);

@@ -1,7 +1,5 @@
-#include "app/context/AppContext.h"
 #include "app/numbers/DialogKeyTable.h"
 #include "forms/AllForms.h"
-#include "kor/business/KorServiceDirectory.h"
 #include "kor/widgets/KorNumberEdit.h"
 #include "pos/cash/ledger/DialogCashFlow.h"
 #include "pos/cash/transfer/DialogTransaction.h"
@@ -12,15 +10,12 @@
 #include "pos/printing/configuration/DialogCashierAndKitchenPrinter.h"
 #include "pos/purchasing/purchase/DialogPurchaseDetail.h"
 #include "pos/purchasing/purchase/EntityAcquisitionDetail.h"
+#include "support/DatabaseTest.h"
 #include "support/Hands.h"
-#include "support/Rows.h"
 #include "support/ShopRows.h"
-#include "support/TestDatabase.h"
 #include "zavel/dinein/DialogBayarMakanDitempat.h"
 #include "zavel/dinein/EntityMakanDitempat.h"
 #include "zavel/service/BusinessPenjualan.h"
-
-#include <QTest>
 
 namespace
 {
@@ -77,28 +72,26 @@ const QHash<QString, std::function<Made()>>& makers()
 } // namespace
 
 /** What is typed into the boxes of amounts, quantities and percents is what is stored, or the form says why not. */
-class TestAmounts : public QObject
+class TestAmounts : public DatabaseTest
 {
     Q_OBJECT
 
-private slots:
-    void init()
+protected:
+    void prepare() override
     {
-        m_database = std::make_unique<TestDatabase>();
         openShopForForms(*m_database);
-        m_database->run("UPDATE keytable SET id = 1 WHERE key_name = 'PO'");
-        m_database->run("INSERT INTO bank (id, kode, nama, account_type, active, version) "
-                        "VALUES (5, '1010', 'Cash on Hand', 1, true, 1)");
+        run("UPDATE keytable SET id = 1 WHERE key_name = 'PO'");
+        run("INSERT INTO bank (id, kode, nama, account_type, active, version) "
+            "VALUES (5, '1010', 'Cash on Hand', 1, true, 1)");
     }
 
-    void cleanup() { m_database.reset(); }
+private slots:
     void noBoxOfAnyFormTakesWhatItCannotKeep_data()
     {
-        addColumns<QString>("locale");
-        addRow("English", "en_US");
-        addRow("Indonesian", "id_ID");
+        const auto row = addColumns<QString>("locale");
+        row("English", "en_US");
+        row("Indonesian", "id_ID");
     }
-
     void noBoxOfAnyFormTakesWhatItCannotKeep()
     {
         QFETCH(QString, locale);
@@ -107,7 +100,6 @@ private slots:
         const QString group = QLocale(locale).groupSeparator();
         const QStringList wrong{"abc", "1" + group + "5", "1" + point + "5" + group + "000", "-1",
                                 "9" + QString(15, '0')};
-        ModalDriver people;
         QStringList taken;
         for (const Form& form : allForms()) {
             const std::unique_ptr<QWidget> shown = form.make();
@@ -134,11 +126,8 @@ private slots:
 
     void anEntryIsStoredAsItStandsOrTold_data()
     {
-        addColumns<QString, QString, Entries, QStringList, QString, QString>("form", "locale", "entries", "told",
-                                                                             "query", "stored");
-        const auto row = [](const char* name, const char* form, const char* locale, const Entries& entries,
-                            const QStringList& told, const char* query,
-                            const QString& stored) { addRow(name, form, locale, entries, told, query, stored); };
+        const auto row = addColumns<QString, QString, Entries, QStringList, QString, QString>(
+            "form", "locale", "entries", "told", "query", "stored");
         const auto mark = [](const char* typed, const char* example) {
             return QString("\"%1\" is no number here, please write it like %2\r\n").arg(typed, example);
         };
@@ -227,43 +216,38 @@ private slots:
         row("paper as wide as a house", "printer", id, {{"txtCol", "1.000.000"}},
             {"Please enter a whole number from 1 to 255\r\n"}, "SELECT ''", "");
     }
-
     void anEntryIsStoredAsItStandsOrTold()
     {
-        QFETCH(QString, form);
-        QFETCH(QString, locale);
+        FETCH(QString, form, locale, query);
         QFETCH(Entries, entries);
         QFETCH(QStringList, told);
-        QFETCH(QString, query);
         insertItem(*m_database, 2, "SOUP", "Soup");
         insertItem(*m_database, 3, "STEW", "Stew");
-        m_database->run("INSERT INTO grouped_item (parent_id, original_item_id, jumlah, version) "
-                        "VALUES (3, 2, 1, 1), (2, 1, 1, 1)");
+        run("INSERT INTO grouped_item (parent_id, original_item_id, jumlah, version) "
+            "VALUES (3, 2, 1, 1), (2, 1, 1, 1)");
         AppContext::instance()->setLocale(locale);
-        ModalDriver people;
         const Made shown = makers()[form]();
         shown->show();
         QVERIFY(QTest::qWaitForWindowActive(shown.get()));
         for (const auto& entry : qAsConst(entries)) {
             if (entry.first == "yes" || entry.first == "no")
-                people.answer(entry.first == "yes" ? QMessageBox::Yes : QMessageBox::No);
+                m_people->answer(entry.first == "yes" ? QMessageBox::Yes : QMessageBox::No);
             else
                 enter(shown.get(), entry.first, entry.second);
         }
         press(shown.get(), QDialogButtonBox::Ok);
-        QTRY_COMPARE(people.texts(), told);
-        QTEST(m_database->value(query).toString(), "stored");
+        QTRY_COMPARE(m_people->texts(), told);
+        QTEST(value(query), "stored");
     }
 
     void aBillInDollarsAddsUpToWhatIsStored()
     {
         AppContext::instance()->setLocale("en_US");
-        m_database->run("UPDATE makan_ditempat_detail SET price_each_currency = '$', total_currency = '$'");
-        m_database->run("UPDATE makan_ditempat_detail SET qty = 1, price_each_amount = 18, total_amount = 18");
+        run("UPDATE makan_ditempat_detail SET price_each_currency = '$', total_currency = '$'");
+        run("UPDATE makan_ditempat_detail SET qty = 1, price_each_amount = 18, total_amount = 18");
         const char* const stored =
             "SELECT concat_ws(' ', discount_amount, grandtotal_amount, amount_paid_amount, status) "
             "FROM invoice";
-        ModalDriver people;
         const Made form = paymentForm();
         form->show();
         QVERIFY(QTest::qWaitForWindowActive(form.get()));
@@ -271,15 +255,12 @@ private slots:
         QCOMPARE(::shown(form.get(), "txtDiscount") + ' ' + ::shown(form.get(), "txtGrandTotal"), QString("3 33.00"));
         ::enter(form.get(), "txtPaid", "33");
         press(form.get(), QDialogButtonBox::Ok);
-        QTRY_COMPARE(m_database->value(stored).toString(), QString("3 33 33 1"));
+        QTRY_COMPARE(value(stored), QString("3 33 33 1"));
         form->activateWindow();
         press(form.get(), QDialogButtonBox::Ok);
         QTRY_COMPARE(m_database->value("SELECT version FROM invoice").toInt(), 2);
-        QCOMPARE(m_database->value(stored).toString(), QString("3 33 33 1"));
+        QCOMPARE(value(stored), QString("3 33 33 1"));
     }
-
-private:
-    std::unique_ptr<TestDatabase> m_database;
 };
 
 QTEST_MAIN(TestAmounts)

@@ -3,14 +3,9 @@
 #include "kor/widgets/KorTab.h"
 #include "shell/window/HouseStyle.h"
 #include "shell/window/InterfaceLanguage.h"
-#include "support/ModalDriver.h"
-#include "support/Rows.h"
-#include "support/TestDatabase.h"
+#include "support/DatabaseTest.h"
 
-#include <QApplication>
 #include <QStandardPaths>
-#include <QTabWidget>
-#include <QTest>
 
 namespace
 {
@@ -28,37 +23,31 @@ QSize roomOf(const QWidget* form)
 } // namespace
 
 /** Every screen of the program, at the house's font and a quarter larger, under the keys and under the ruler. */
-class TestForms : public QObject
+class TestForms : public DatabaseTest
 {
     Q_OBJECT
 
 private slots:
     void initTestCase()
     {
+        keepDatabase();
         HouseStyle::apply(*qApp);
-        m_database = std::make_unique<TestDatabase>();
         openShopForForms(*m_database);
         m_language = std::make_unique<InterfaceLanguage>(LANGUAGES_FOLDER, nullptr);
     }
+    void cleanupTestCase() { m_language.reset(); }
 
-    void cleanupTestCase()
+    void everyFormIsWorkedWithoutAMouseAndReadWithoutGuessing_data()
     {
-        m_language.reset();
-        m_database.reset();
-    }
-
-    void every_form_is_worked_without_a_mouse_and_read_without_guessing_data()
-    {
-        addColumns<int, double, QString>("form", "pointSize", "language");
+        const auto row = addColumns<int, double, QString>("form", "pointSize", "language");
         for (int form = 0; form < allForms().size(); ++form) {
-            addRow(allForms()[form].name, form, 11.0, "en");
-            addRow(allForms()[form].name + " at 125 %", form, 13.75, "en");
+            row(allForms()[form].name, form, 11.0, "en");
+            row(allForms()[form].name + " at 125 %", form, 13.75, "en");
             // Its words are longer.
-            addRow(allForms()[form].name + " in Indonesian at 125 %", form, 13.75, "id");
+            row(allForms()[form].name + " in Indonesian at 125 %", form, 13.75, "id");
         }
     }
-
-    void every_form_is_worked_without_a_mouse_and_read_without_guessing()
+    void everyFormIsWorkedWithoutAMouseAndReadWithoutGuessing()
     {
         QFETCH(int, form);
         QFETCH(double, pointSize);
@@ -67,7 +56,6 @@ private slots:
         QFont font = QApplication::font();
         font.setPointSizeF(pointSize);
         QApplication::setFont(font);
-        ModalDriver people;
         const std::unique_ptr<QWidget> shown = allForms()[form].make();
         const QSize room = roomOf(shown.get());
         shown->setWindowState(Qt::WindowNoState);
@@ -95,7 +83,7 @@ private slots:
                         .arg(pointSize)
                         .arg(page));
         }
-        for (const SeenBox& box : people.boxes())
+        for (const SeenBox& box : m_people->boxes())
             faults.append("box: " + box.text);
         faults.removeDuplicates();
         // Line by line: a message of the test framework has its end.
@@ -105,7 +93,6 @@ private slots:
     }
 
 private:
-    std::unique_ptr<TestDatabase> m_database;
     std::unique_ptr<InterfaceLanguage> m_language;
 };
 

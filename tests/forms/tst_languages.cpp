@@ -1,23 +1,18 @@
-#include "app/context/AppContext.h"
-#include "app/context/ConnectionSettings.h"
 #include "forms/AllForms.h"
 #include "forms/FormTexts.h"
 #include "kor/widgets/KorTab.h"
 #include "shell/window/InterfaceLanguage.h"
 #include "shell/window/MainWindow.h"
 #include "shell/window/Pages.h"
+#include "shell/window/TabFactories.h"
+#include "support/DatabaseTest.h"
 #include "support/InstallerRun.h"
-#include "support/ModalDriver.h"
-#include "support/Rows.h"
-#include "support/TestDatabase.h"
 
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
 #include <QRegularExpression>
 #include <QSet>
-#include <QTabWidget>
-#include <QTest>
 #include <QWebElement>
 #include <QWebFrame>
 #include <QWebView>
@@ -67,42 +62,31 @@ QStringList reportChoices(const MainWindow& window)
 } // namespace
 
 /// Both languages over every screen of the program, made in them and switched to them while it is open.
-class TestLanguages final : public QObject
+class TestLanguages : public DatabaseTest
 {
     Q_OBJECT
+
+protected:
+    void prepare() override { m_language->load("en"); }
 
 private slots:
     void initTestCase()
     {
-        m_database = std::make_unique<TestDatabase>();
+        keepDatabase();
         openShopForForms(*m_database);
         AppContext::instance()->setShowDashboard(true);
-        ConnectionSettings settings;
-        settings.host = TestDatabase::host();
-        settings.database = m_database->name();
-        settings.user = TestDatabase::user();
-        settings.port = TestDatabase::port();
-        settings.putIntoContext();
-        m_people = std::make_unique<ModalDriver>();
+        m_database->settings().putIntoContext();
         m_language =
             std::make_unique<InterfaceLanguage>(QCoreApplication::applicationDirPath() + "/languages", nullptr);
     }
-
-    void init() { m_language->load("en"); }
-    void cleanupTestCase()
-    {
-        m_language.reset();
-        m_people.reset();
-        m_database.reset();
-    }
+    void cleanupTestCase() { m_language.reset(); }
 
     void nothingStaysEnglishInIndonesian_data()
     {
-        addColumns<int>("form");
+        const auto row = addColumns<int>("form");
         for (int i = 0; i < allForms().size(); ++i)
-            addRow(allForms().at(i).name.constData(), i);
+            row(allForms().at(i).name.constData(), i);
     }
-
     void nothingStaysEnglishInIndonesian()
     {
         QFETCH(int, form);
@@ -120,13 +104,12 @@ private slots:
 
     void noTwoThingsInAFormAnswerToOneKey_data()
     {
-        addColumns<int, QString>("form", "code");
+        const auto row = addColumns<int, QString>("form", "code");
         for (int i = 0; i < allForms().size(); ++i) {
             for (const char* code : {"en", "id"})
-                addRow(allForms().at(i).name + " in " + code, i, code);
+                row(allForms().at(i).name + " in " + code, i, code);
         }
     }
-
     void noTwoThingsInAFormAnswerToOneKey()
     {
         QFETCH(int, form);
@@ -247,8 +230,6 @@ private:
         return texts;
     }
 
-    std::unique_ptr<TestDatabase> m_database;
-    std::unique_ptr<ModalDriver> m_people;
     std::unique_ptr<InterfaceLanguage> m_language;
 };
 

@@ -16,7 +16,6 @@
 #include "zavel/slips/ReportBillMakanDitempat.h"
 #include "zavel/slips/ReportMakanDitempat.h"
 #include "zavel/slips/ReportMenuOrder.h"
-#include "zavel/slips/ReportMenuOrderCanceled.h"
 #include "zavel/tables/EntityMeja.h"
 #include "zavel/takeaway/EntityBawaPulangDetail.h"
 #include "zavel/takeaway/EntityInvoiceBawaPulang.h"
@@ -168,7 +167,6 @@ private slots:
             },
             2);
     }
-
     void billsAreComposedLineByLine()
     {
         QFETCH(std::function<void()>, arrange);
@@ -218,12 +216,10 @@ private slots:
             m_order->setUpdatedTime(QDateTime());
         });
     }
-
     void kitchenSlipsAreComposedLineByLine()
     {
         QFETCH(std::function<void()>, arrange);
-        QFETCH(QString, types);
-        QFETCH(QString, printed);
+        FETCH(QString, types, printed);
         arrange();
         // Where nobody knows what a line was, it says nothing of it.
         EntityConfigKitchenPrinter* cook = kitchen("Dapur", types);
@@ -344,21 +340,6 @@ private slots:
         QVERIFY(!job(1).contains("Teh manis"));
     }
 
-    void copiesAndCutsGoIntoOneJob()
-    {
-        m_cashier->setAutoCutter("Yes");
-        m_cashier->setNoOfCopy("3");
-        QVERIFY(ReportMakanDitempat(nullptr, m_cashier, m_order, m_company, m_user, m_printerType).print());
-        const QByteArray body = composeOrderRecap(*m_order, *m_company, *m_cashier).toUtf8();
-        // The sequence ends before its zero byte.
-        QCOMPARE(jobs(), QStringList("000001-Kasir-Menu.slip"));
-        QCOMPARE(job(0), body + "\x1D\x56\x42" + body + "\x1D\x56\x42" + body + "\x1D\x56\x42");
-
-        m_cashier->setAutoCutter("yes");
-        QVERIFY(ReportMakanDitempat(nullptr, m_cashier, m_order, m_company, m_user, m_printerType).print());
-        QCOMPARE(job(1), body + body + body);
-    }
-
     void aCounterSalesCopiesAreCutApart()
     {
         m_cashier->setAutoCutter("Yes");
@@ -377,14 +358,6 @@ private slots:
         m_cashier->setAutoCutter("Yes");
         QVERIFY(ReportMakanDitempat(nullptr, m_cashier, m_order, m_company, nullptr, nullptr).print());
         QCOMPARE(job(0), composeOrderRecap(*m_order, *m_company, *m_cashier).toUtf8());
-    }
-
-    void noCopiesMakeAnEmptyJob()
-    {
-        m_cashier->setNoOfCopy("none");
-        QVERIFY(ReportMakanDitempat(nullptr, m_cashier, m_order, m_company, m_user, m_printerType).print());
-        QCOMPARE(jobs(), QStringList("000001-Kasir-Menu.slip"));
-        QCOMPARE(job(0), QByteArray());
     }
 
     void anUnknownPrinterIsToldAndTheOtherKitchensPrint()
@@ -414,15 +387,6 @@ private slots:
                     .print());
         QVERIFY(ReportMenuOrder(nullptr, {}, m_order, DineOrder, m_company, m_user, nullptr).print());
         QCOMPARE(jobs(), QStringList());
-    }
-
-    void aCancelledOrderIsToldToEveryKitchen()
-    {
-        QVERIFY(ReportMenuOrderCanceled(nullptr, {kitchen("Dapur"), kitchen("Bar", "DESSERT")}, m_order, DineOrder,
-                                        m_company, m_user, nullptr)
-                    .print());
-        QCOMPARE(jobs(), QStringList({"000001-Dapur-Menu.slip", "000002-Bar-Menu.slip"}));
-        QVERIFY(job(1).contains("Order Cancelled.\n"));
     }
 
 private:

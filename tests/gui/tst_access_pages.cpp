@@ -6,24 +6,13 @@
 #include "app/access/TabUser.h"
 #include "app/access/TabUserAccess.h"
 #include "app/access/TabUserGroup.h"
-#include "app/context/AppContext.h"
 #include "app/context/EntityUser.h"
 #include "app/numbers/DialogKeyTable.h"
 #include "app/numbers/TabKeyTable.h"
-#include "kor/business/KorServiceDirectory.h"
-#include "support/ModalDriver.h"
-#include "support/Rows.h"
-#include "support/TestDatabase.h"
+#include "support/DatabaseTest.h"
 
-#include <QComboBox>
-#include <QDialogButtonBox>
-#include <QLabel>
-#include <QLineEdit>
 #include <QListWidget>
-#include <QPushButton>
 #include <QRadioButton>
-#include <QTableView>
-#include <QTest>
 
 namespace
 {
@@ -52,17 +41,15 @@ protected:
 } // namespace
 
 /** Login, users, groups, rights and running numbers as the people in the restaurant see them. */
-class TestAccessPages : public QObject
+class TestAccessPages : public DatabaseTest
 {
     Q_OBJECT
 
-private slots:
-    void init()
+protected:
+    void prepare() override
     {
-        m_database = std::make_unique<TestDatabase>();
-        m_database->run("TRUNCATE users, user_group, business, permissions, access, keytable RESTART IDENTITY CASCADE");
-        m_database->run(
-            "INSERT INTO user_group (name, version) VALUES ('admin', 1), ('kasir', 1), ('unused', 1);"
+        run("TRUNCATE users, user_group, business, permissions, access, keytable RESTART IDENTITY CASCADE");
+        run("INSERT INTO user_group (name, version) VALUES ('admin', 1), ('kasir', 1), ('unused', 1);"
             "INSERT INTO users (first_name, last_name, username, password, user_group_id, currency, createdtime, "
             "version) VALUES ('Ann', 'Martin', 'ann', md5('secret'), 2, '$', '2024-11-05 14:03:00', 1);"
             "INSERT INTO business (name, version) VALUES ('Table', 1), ('Unit', 1);"
@@ -71,31 +58,21 @@ private slots:
             "INSERT INTO access (group_id, permission_id, grant_type, version) VALUES (2, 1, 1, 1);"
             "INSERT INTO keytable (key_name, next_id, increment_by, format, description, no_zero, version) VALUES "
             "('PO', 57, 1, 'POMMyy', 'Purchase Order Key', 4, 1), ('TR', 3, 1, 'TRMMyy', 'Accounting', 4, 1)");
-        AppContext::instance()->setLocale("en_US");
-        AppContext::instance()->setDateFormat("d MMM yyyy");
-        loginAsAdmin();
-        m_people = std::make_unique<ModalDriver>();
-    }
-    void cleanup()
-    {
-        m_people.reset();
-        m_database.reset();
     }
 
+private slots:
     void theLoginLetsNobodyInWithoutName_data()
     {
-        addColumns<QString, QString, QString>("name", "password", "message");
-        addRow("nothing typed", "", "", "Please enter username and password\r\n");
-        addRow("no password", "ann", "", "Please enter username and password\r\n");
-        addRow("no name", "", "secret", "Please enter username and password\r\n");
-        addRow("wrong password", "ann", "secreT", "Invalid login\r\n");
-        addRow("right", "ann", "secret", "");
+        const auto row = addColumns<QString, QString, QString>("name", "password", "message");
+        row("nothing typed", "", "", "Please enter username and password\r\n");
+        row("no password", "ann", "", "Please enter username and password\r\n");
+        row("no name", "", "secret", "Please enter username and password\r\n");
+        row("wrong password", "ann", "secreT", "Invalid login\r\n");
+        row("right", "ann", "secret", "");
     }
     void theLoginLetsNobodyInWithoutName()
     {
-        QFETCH(QString, name);
-        QFETCH(QString, password);
-        QFETCH(QString, message);
+        FETCH(QString, name, password, message);
         LoginUnderTest login;
         login.show();
         QVERIFY(QTest::qWaitForWindowActive(&login));
@@ -307,21 +284,6 @@ private slots:
         QVERIFY(m_people->finished());
     }
 
-    void aNumberDrawnMeanwhileIsNotOverwritten()
-    {
-        TabKeyTable page;
-        show(page);
-        auto* grid = page.findChild<QTableView*>("tblKeyTable");
-        grid->selectRow(0);
-        m_people->expect<DialogKeyTable>([this](DialogKeyTable* form) {
-            m_database->run("UPDATE keytable SET next_id = 58, version = version + 1 WHERE key_name = 'PO'");
-            confirm(form);
-        });
-        page.on_btnEdit_clicked();
-        QVERIFY(m_people->lastText().startsWith("Table: keytable has been updated"));
-        QCOMPARE(m_database->value("SELECT next_id FROM keytable WHERE key_name = 'PO'").toInt(), 58);
-    }
-
 private:
     static void show(QWidget& page)
     {
@@ -336,9 +298,6 @@ private:
             cells.append(grid->model()->index(row, column).data().toString());
         return cells;
     }
-
-    std::unique_ptr<TestDatabase> m_database;
-    std::unique_ptr<ModalDriver> m_people;
 };
 
 QTEST_MAIN(TestAccessPages)

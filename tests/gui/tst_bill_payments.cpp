@@ -1,48 +1,29 @@
-#include "app/context/AppContext.h"
-#include "kor/business/KorServiceDirectory.h"
-#include "pos/purchasing/payment/BusinessPayment.h"
 #include "pos/purchasing/payment/DialogPayment.h"
 #include "pos/purchasing/payment/DialogPaymentExpenses.h"
 #include "pos/purchasing/payment/DialogPaymentInvoice.h"
 #include "pos/purchasing/payment/TabPayment.h"
 #include "pos/purchasing/payment/TabPaymentExpenses.h"
 #include "pos/purchasing/payment/TabPaymentInvoice.h"
+#include "support/DatabaseTest.h"
 #include "support/Hands.h"
 #include "support/LedgerRows.h"
-#include "support/Rows.h"
 #include "support/ShopRows.h"
-#include "support/TestDatabase.h"
-
-#include <QComboBox>
-#include <QLabel>
 
 /** The owner at the page of bills to pay, with keyboard and mouse. */
-class TestBillPayments : public QObject
+class TestBillPayments : public PageTest<TabPayment>
 {
     Q_OBJECT
 
-private slots:
-    void init()
+protected:
+    void prepare() override
     {
-        m_database = std::make_unique<TestDatabase>();
         AppContext::instance()->setLocale("id_ID");
         insertShop(*m_database);
-        loginAsAdmin();
         buy("NB-1", 500, 500);
         buy("NB-2", 400, 300);
-        m_people = std::make_unique<ModalDriver>();
     }
 
-    void cleanup()
-    {
-        m_page.reset();
-        m_people.reset();
-        service<BusinessPayment>("Payment")->clearErrors();
-        m_database.reset();
-    }
-
-    // --- a new payment -----------------------------------------------------------------------------------------------
-
+private slots:
     void aSupplierIsPaidAllThatIsOpen()
     {
         show();
@@ -75,10 +56,10 @@ private slots:
 
     void anotherSuppliersCodeAndF2InABurst()
     {
-        m_database->run("INSERT INTO supplier (id, kode, nama, alamat, telp, email, version) VALUES "
-                        "(2, 'S2', 'Dairy', 'Street 5', '5', '', 1)");
+        run("INSERT INTO supplier (id, kode, nama, alamat, telp, email, version) VALUES "
+            "(2, 'S2', 'Dairy', 'Street 5', '5', '', 1)");
         buy("NB-3", 700, 700);
-        m_database->run("UPDATE acquisition SET supplier_id = 2 WHERE no = 'NB-3'");
+        run("UPDATE acquisition SET supplier_id = 2 WHERE no = 'NB-3'");
         show();
         onForm<DialogPayment>(*m_people, m_page.get(), "btnAdd", [this](DialogPayment* form) {
             enter(form, "txtSupplier", "S1");
@@ -117,14 +98,13 @@ private slots:
 
     void whatCanBePaidOfOnePurchase_data()
     {
-        addColumns<QString, QStringList, QString>("typed", "told", "figures");
+        const auto row = addColumns<QString, QStringList, QString>("typed", "told", "figures");
         const QStringList invalid("Enter a valid value for the amount paid\r\n");
-        addRow("nothing", "0", QStringList(), "500 0, 300 0");
-        addRow("less than nothing", "-50", invalid, "500 0, 300 0");
-        addRow("more than money can hold", "99999999999",
-               QStringList("This amount is too large. Please check the figures.\r\n"), "500 0, 300 0");
+        row("nothing", "0", {}, "500 0, 300 0");
+        row("less than nothing", "-50", invalid, "500 0, 300 0");
+        row("more than money can hold", "99999999999",
+            QStringList("This amount is too large. Please check the figures.\r\n"), "500 0, 300 0");
     }
-
     void whatCanBePaidOfOnePurchase()
     {
         QFETCH(QString, typed);
@@ -142,19 +122,16 @@ private slots:
 
     void whatIsMissingIsTold_data()
     {
-        addColumns<QString, QString, int, QString>("supplier", "account", "qty", "told");
+        const auto row = addColumns<QString, QString, int, QString>("supplier", "account", "qty", "told");
         const QString nothing = "Enter the amount paid for one or more purchase invoices, or add an item";
-        addRow("a supplier", "", "", -1, "Select a supplier");
-        addRow("anything to pay", "S1", "", -1, nothing);
-        addRow("an account that nobody knows", "S1", "9", -1, nothing + "\r\nPlease select a valid Cash Accounts");
-        addRow("a quantity", "S1", "1-100", 0, "The quantity received for this item: Rice should be more than zero");
+        row("a supplier", "", "", -1, "Select a supplier");
+        row("anything to pay", "S1", "", -1, nothing);
+        row("an account that nobody knows", "S1", "9", -1, nothing + "\r\nPlease select a valid Cash Accounts");
+        row("a quantity", "S1", "1-100", 0, "The quantity received for this item: Rice should be more than zero");
     }
-
     void whatIsMissingIsTold()
     {
-        QFETCH(QString, supplier);
-        QFETCH(QString, account);
-        QFETCH(QString, told);
+        FETCH(QString, supplier, account, told);
         QFETCH(int, qty);
         if (qty >= 0)
             insertPayment(qty);
@@ -210,8 +187,6 @@ private slots:
         QCOMPARE(purchasesStand(), QString("0 500 2, 0 300 3"));
     }
 
-    // --- later -------------------------------------------------------------------------------------------------------
-
     void anEditPutsItsLinesInThePlaceOfTheOpenOnes()
     {
         insertPayment();
@@ -239,7 +214,7 @@ private slots:
         onForm<DialogPayment>(*m_people, m_page.get(), "btnAdd", [this](DialogPayment* form) {
             enter(form, "txtSupplier", "S1");
             click(form, "btnPayAll");
-            m_database->run("DELETE FROM acquisition WHERE id = 2");
+            run("DELETE FROM acquisition WHERE id = 2");
             m_people->answer(QMessageBox::Yes);
             confirm(form, "txtRefNo");
             QVERIFY(form->isVisible());
@@ -272,46 +247,7 @@ private slots:
         QTRY_COMPARE(purchasesStand(), QString("500 0 1, 300 0 1"));
     }
 
-    void deletingAsksAndLeavesThePurchaseAsItIs()
-    {
-        insertPayment(2);
-        show();
-        m_people->answer(QMessageBox::Yes);
-        choose(m_page.get(), 0);
-        click(m_page.get(), "btnDelete");
-        QTRY_COMPARE(m_page->findChild<QLabel*>("lblCount")->text(), QString("0 Items"));
-        QCOMPARE(m_people->lastText(), QString("Are you sure you want to delete purchase invoice with No: TPH-1 ?"));
-        QCOMPARE(purchasesStand(), QString("300 200 3, 0 300 3"));
-
-        insertPayment();
-        click(m_page.get(), "btnRefresh");
-        m_database->run("DELETE FROM payment_invoice; DELETE FROM payment");
-        choose(m_page.get(), 0);
-        click(m_page.get(), "btnEdit");
-        QCOMPARE(m_people->lastText(), QString("Can not find purchase invoice with id: 2"));
-    }
-
-    void nothingHappensWithoutTheRight()
-    {
-        insertPayment();
-        loginWithRights("Payment", {});
-        show();
-        for (const char* button : {"btnAdd", "btnEdit", "btnDelete"}) {
-            choose(m_page.get(), 0);
-            click(m_page.get(), button);
-        }
-        QCOMPARE(m_people->boxes().size(), 3);
-        QVERIFY(m_people->surprises().isEmpty());
-        QCOMPARE(value("SELECT count(*) FROM payment"), QString("1"));
-    }
-
 private:
-    void show()
-    {
-        m_page = std::make_unique<TabPayment>();
-        showPage(m_page.get());
-    }
-
     static QWidget* purchases(const QWidget* form) { return form->findChild<TabPaymentInvoice*>(); }
     static QWidget* items(const QWidget* form) { return form->findChild<TabPaymentExpenses*>(); }
     /** Pays the amount of the purchase. */
@@ -339,37 +275,31 @@ private:
 
     void buy(const QString& no, int total, int due)
     {
-        insertRows(*m_database, "acquisition",
-                   {{"no", '\'' + no + '\''},
-                    {"supplier_id", "1"},
-                    {"grandtotal_amount", QString::number(total)},
-                    {"amount_paid_amount", QString::number(total - due)},
-                    {"net_due_amount", QString::number(due)},
-                    {"status", total == due ? "2" : "3"}});
+        insertRows(
+            *m_database, "acquisition",
+            QString("no=%1, supplier_id=1, grandtotal_amount=%2, amount_paid_amount=%3, net_due_amount=%4, status=%5")
+                .arg('\'' + no + '\'')
+                .arg(total)
+                .arg(total - due)
+                .arg(due)
+                .arg(total == due ? "2" : "3"));
     }
 
     /** Lays down a payment of 300 of the first purchase, with one item if its quantity is given. */
     void insertPayment(int qty = -1)
     {
-        insertRows(*m_database, "payment", {{"no", "'TPH-1'"}, {"bank_id", "1"}, {"grandtotal_amount", "300"}});
-        insertRows(*m_database, "payment_invoice",
-                   {{"payment_id", "(SELECT max(id) FROM payment)"}, {"amount_paid_amount", "300"}});
-        m_database->run(
-            "UPDATE acquisition SET other_payment_amount = 300, net_due_amount = 200, status = 3 WHERE id = 1");
+        insertRows(*m_database, "payment", "no='TPH-1', bank_id=1, grandtotal_amount=300");
+        insertRows(*m_database, "payment_invoice", "payment_id=(SELECT max(id) FROM payment), amount_paid_amount=300");
+        run("UPDATE acquisition SET other_payment_amount = 300, net_due_amount = 200, status = 3 WHERE id = 1");
         if (qty >= 0)
-            insertRows(*m_database, "payment_expense", {{"qty", QString::number(qty)}, {"unit_price_amount", "10"}});
+            insertRows(*m_database, "payment_expense", QString("qty=%1, unit_price_amount=10").arg(qty));
     }
 
-    QString value(const QString& statement) { return m_database->value(statement).toString(); }
     QString purchasesStand()
     {
         return value("SELECT string_agg(concat_ws(' ', other_payment_amount, net_due_amount, status), ', ' ORDER BY "
                      "id) FROM acquisition");
     }
-
-    std::unique_ptr<TestDatabase> m_database;
-    std::unique_ptr<ModalDriver> m_people;
-    std::unique_ptr<TabPayment> m_page;
 };
 
 QTEST_MAIN(TestBillPayments)

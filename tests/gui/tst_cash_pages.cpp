@@ -1,20 +1,12 @@
-#include "app/context/AppContext.h"
 #include "pos/cash/ledger/DialogCashFlow.h"
 #include "pos/cash/ledger/TabCashFlow.h"
 #include "pos/cash/transfer/DialogTransaction.h"
 #include "pos/cash/transfer/TabTransfer.h"
+#include "support/DatabaseTest.h"
 #include "support/Hands.h"
 #include "support/LedgerRows.h"
-#include "support/Rows.h"
 #include "support/SalesRows.h"
 #include "support/ShopRows.h"
-#include "support/TestDatabase.h"
-
-#include <QComboBox>
-#include <QDateEdit>
-#include <QDialogButtonBox>
-#include <QLabel>
-#include <QPlainTextEdit>
 
 using Input = QList<QPair<const char*, QString>>;
 Q_DECLARE_METATYPE(Input)
@@ -42,33 +34,22 @@ const Input transfer{{"txtFromAccount", "1-100"}, {"txtToAccount", "2-ab"}, {"tx
 } // namespace
 
 /** The pages of the ledger and of transfers between accounts, worked on with keys and mouse. */
-class TestCashPages : public QObject
+class TestCashPages : public PageTest<QWidget>
 {
     Q_OBJECT
 
-private slots:
-    void init()
+protected:
+    void prepare() override
     {
-        m_database = std::make_unique<TestDatabase>();
         insertShop(*m_database);
-        m_database->run("INSERT INTO bank (id, kode, nama, account_type, active, version) VALUES "
-                        "(2, '2-AB', 'Safe', 1, true, 1)");
+        run("INSERT INTO bank (id, kode, nama, account_type, active, version) VALUES "
+            "(2, '2-AB', 'Safe', 1, true, 1)");
         AppContext::instance()->setLocale("id_ID");
-        loginAsAdmin();
-        m_database->run("TRUNCATE users CASCADE");
+        run("TRUNCATE users CASCADE");
         insertSeller(*m_database, 1, "ann");
-        m_people = std::make_unique<ModalDriver>();
     }
 
-    void cleanup()
-    {
-        m_page.reset();
-        m_people.reset();
-        m_database.reset();
-    }
-
-    // --- the ledger --------------------------------------------------------------------------------------------------
-
+private slots:
     void theTotalsAreThoseOfTheRowsShown_data()
     {
         addColumns<QStringList>("words");
@@ -80,7 +61,6 @@ private slots:
         row({"All", "2-ab", "TR KK", "Safe", "370,00 0,00 370,00"});
         row({"All", "x'", "", "", "0,00 0,00 0,00"});
     }
-
     void theTotalsAreThoseOfTheRowsShown()
     {
         QFETCH(QStringList, words);
@@ -103,17 +83,6 @@ private slots:
                  words[4]);
         QVERIFY(box(m_page.get(), "txtEndingBalance")->isReadOnly());
         QCOMPARE(name(m_page.get(), "lblCount"), QString("%1 Items").arg(rowsOf(m_page.get())));
-    }
-
-    void aLedgerThatCannotBeReadIsTold()
-    {
-        show<TabCashFlow>();
-        m_database->run("ALTER TABLE komisi_agen RENAME TO elsewhere");
-        click(m_page.get(), "btnRefresh");
-        QCOMPARE(m_people->boxes().size(), 1);
-        QCOMPARE(m_people->lastTitle(), QString("Error"));
-        QCOMPARE(m_people->boxes().last().icon, QMessageBox::Critical);
-        QVERIFY2(m_people->lastText().contains("komisi_agen"), qPrintable(m_people->lastText()));
     }
 
     void anEntryIsMadeWithTheKeyboardAlone()
@@ -190,27 +159,6 @@ private slots:
         QVERIFY(m_people->finished());
     }
 
-    void nothingIsBookedWithoutTheRight()
-    {
-        document(LedgerRow::DebitEntry, "KK-1", 70);
-        show<TabCashFlow>();
-        // The rights of the journal count from 1.
-        const QMap<int, const char*> buttons{{1, "btnAdd"}, {2, "btnEdit"}, {3, "btnDelete"}};
-        for (auto button = buttons.cbegin(); button != buttons.cend(); ++button) {
-            QList<QPair<int, int>> others{{0, 2}, {1, 2}, {2, 2}, {3, 2}};
-            others.removeAt(button.key());
-            loginWithRights("Journal Transaction", others);
-            choose(m_page.get(), 0);
-            click(m_page.get(), button.value());
-            QCOMPARE(m_people->boxes().size(), button.key());
-            QVERIFY(m_people->lastText().startsWith("You don't have access."));
-        }
-        QVERIFY(m_people->finished());
-        QCOMPARE(value("count(*) from cash_flow"), QString("1"));
-    }
-
-    // --- transfers ---------------------------------------------------------------------------------------------------
-
     void moneyIsMovedChangedAndMovedBack()
     {
         add(true, [](QDialog* form) {
@@ -232,23 +180,6 @@ private slots:
         QCOMPARE(m_people->texts(), QStringList{"Are you sure, you want to delete transaction with no: TR-0007 ?"});
         QCOMPARE(name(m_page.get(), "lblCount"), QString("0 Items"));
     }
-
-    void aTransferThatHasGoneIsTold()
-    {
-        document(LedgerRow::Transfer, "TR-1", 300);
-        show<TabTransfer>();
-        const QString id = value("id from accounting_trans");
-        m_database->run("DELETE FROM accounting_trans");
-        for (const char* button : {"btnEdit", "btnDelete"}) {
-            choose(m_page.get(), 0);
-            click(m_page.get(), button);
-            QCOMPARE(m_people->lastTitle(), QString("Error"));
-        }
-        QCOMPARE(m_people->texts(),
-                 (QStringList{"Can not find transaction with id: " + id, "Can not find transaction with no: TR-1"}));
-    }
-
-    // --- what the forms refuse ---------------------------------------------------------------------------------------
 
     void aFormSaysWhatIsWrong_data()
     {
@@ -273,7 +204,6 @@ private slots:
                 row(nothing, isTransfer, {{field, nothing}}, missing);
         }
     }
-
     void aFormSaysWhatIsWrong()
     {
         QFETCH(bool, isTransfer);
@@ -282,7 +212,7 @@ private slots:
         add(isTransfer, [this, input, message](QDialog* form) {
             for (const auto& text : input) {
                 if (qstrcmp(text.first, "gone") == 0)
-                    m_database->run("DELETE FROM bank WHERE kode = '2-AB'");
+                    run("DELETE FROM bank WHERE kode = '2-AB'");
                 else if (text.second.isEmpty())
                     box(form, text.first)->clear();
                 else
@@ -298,23 +228,21 @@ private slots:
 
     void aFailedSaveLeavesTheFormAsTyped_data()
     {
-        addColumns<QString, Failure, QString>("table", "failure", "words");
+        const auto row = addColumns<QString, Failure, QString>("table", "failure", "words");
         const QString lacks = "The database lacks something that this program needs.";
         const QString unsure =
             "so it is not certain whether it was saved. Please look for it before you save it again.";
-        addRow("entry refused", "cash_flow", Refused, lacks);
-        addRow("transfer refused", "accounting_trans", Refused, lacks);
-        addRow("entry's answer lost with it", "cash_flow", AnswerLost, unsure);
-        addRow("transfer's answer lost with it", "accounting_trans", AnswerLost, unsure);
-        addRow("entry saved, answer lost", "cash_flow", SavedButAnswerLost, unsure);
-        addRow("transfer saved, answer lost", "accounting_trans", SavedButAnswerLost, unsure);
+        row("entry refused", "cash_flow", Refused, lacks);
+        row("transfer refused", "accounting_trans", Refused, lacks);
+        row("entry's answer lost with it", "cash_flow", AnswerLost, unsure);
+        row("transfer's answer lost with it", "accounting_trans", AnswerLost, unsure);
+        row("entry saved, answer lost", "cash_flow", SavedButAnswerLost, unsure);
+        row("transfer saved, answer lost", "accounting_trans", SavedButAnswerLost, unsure);
     }
-
     void aFailedSaveLeavesTheFormAsTyped()
     {
-        QFETCH(QString, table);
+        FETCH(QString, table, words);
         QFETCH(Failure, failure);
-        QFETCH(QString, words);
         const bool isTransfer = table == "accounting_trans";
         const QString key = isTransfer ? "TR" : "KK";
         const QString no = key + "-0007";
@@ -322,33 +250,32 @@ private slots:
             fill(form, isTransfer ? transfer : entry);
             form->findChild<QPlainTextEdit*>("txtNotes")->setPlainText("As typed");
             if (failure == Refused)
-                m_database->run("ALTER TABLE " + table + " RENAME TO elsewhere");
+                run("ALTER TABLE " + table + " RENAME TO elsewhere");
             else
-                m_database->run("CREATE FUNCTION hang_up() RETURNS trigger LANGUAGE plpgsql AS 'BEGIN PERFORM "
-                                "pg_terminate_backend(pg_backend_pid()); RETURN NEW; END'; CREATE CONSTRAINT TRIGGER "
-                                "hang_up AFTER INSERT ON " +
-                                table + " DEFERRABLE INITIALLY DEFERRED FOR EACH ROW EXECUTE FUNCTION hang_up()");
+                run("CREATE FUNCTION hang_up() RETURNS trigger LANGUAGE plpgsql AS 'BEGIN PERFORM "
+                    "pg_terminate_backend(pg_backend_pid()); RETURN NEW; END'; CREATE CONSTRAINT TRIGGER "
+                    "hang_up AFTER INSERT ON " +
+                    table + " DEFERRABLE INITIALLY DEFERRED FOR EACH ROW EXECUTE FUNCTION hang_up()");
             pressOk(form);
             QCOMPARE(m_people->boxes().size(), 1);
             QCOMPARE(m_people->lastTitle(), QString("Error"));
             QVERIFY2(m_people->lastText().contains(words), qPrintable(m_people->lastText()));
             QVERIFY(form->isVisible());
             if (failure == Refused)
-                m_database->run("ALTER TABLE elsewhere RENAME TO " + table);
+                run("ALTER TABLE elsewhere RENAME TO " + table);
             else
-                m_database->run("DROP TRIGGER hang_up ON " + table);
+                run("DROP TRIGGER hang_up ON " + table);
             if (failure == SavedButAnswerLost) {
                 // As the server has it that did save, under the id and the number that the program was given.
                 const QString columns = isTransfer ? "from_account_id, to_account_id, amount_currency, amount_amount"
                                                    : "trans_type, account_code, debet_currency, debet_amount, "
                                                      "credit_currency, credit_amount";
                 const QString values = isTransfer ? "1, 2, 'Rp', 500" : "'DEBET', '2-AB', 'Rp', 500, 'Rp', 0";
-                m_database->run("INSERT INTO " + table + " (id, trans_date, notes, trans_no, createdby, version, " +
-                                columns + ") SELECT last_value, current_date, 'Before', '" + no + "', 1, 1, " + values +
-                                " FROM " + table +
-                                "_id_seq; UPDATE keytable SET next_id = next_id + 1, version = version "
-                                "+ 1 WHERE key_name = '" +
-                                key + '\'');
+                run("INSERT INTO " + table + " (id, trans_date, notes, trans_no, createdby, version, " + columns +
+                    ") SELECT last_value, current_date, 'Before', '" + no + "', 1, 1, " + values + " FROM " + table +
+                    "_id_seq; UPDATE keytable SET next_id = next_id + 1, version = version "
+                    "+ 1 WHERE key_name = '" +
+                    key + '\'');
             }
             pressOk(form);
         });
@@ -359,12 +286,6 @@ private slots:
     }
 
 private:
-    template <class Page>
-    void show()
-    {
-        m_page = std::make_unique<Page>();
-        showPage(m_page.get());
-    }
     /** Adds an entry to the ledger, or a transfer, on its page. */
     void add(bool isTransfer, const std::function<void(QDialog*)>& work)
     {
@@ -388,10 +309,6 @@ private:
     }
 
     QString value(const QString& statement) { return m_database->value("select " + statement).toString(); }
-
-    std::unique_ptr<TestDatabase> m_database;
-    std::unique_ptr<ModalDriver> m_people;
-    std::unique_ptr<QWidget> m_page;
 };
 
 QTEST_MAIN(TestCashPages)

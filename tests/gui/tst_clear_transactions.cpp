@@ -1,50 +1,37 @@
-#include "app/context/ConnectionSettings.h"
 #include "shell/database/clearing/DialogClearTransactions.h"
+#include "support/DatabaseTest.h"
 #include "support/Hands.h"
-#include "support/Rows.h"
 #include "support/TestCluster.h"
-#include "support/TestDatabase.h"
 #include "support/WholeDatabase.h"
 
-#include <QPlainTextEdit>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 
-class TestClearTransactions : public QObject
+class TestClearTransactions : public DatabaseTest
 {
     Q_OBJECT
+
+protected:
+    void prepare() override
+    {
+        fillEveryTable(*m_database);
+        QDir().mkpath(QFileInfo(ConnectionSettings::defaultPath()).path());
+        QVERIFY(m_database->settings().write(ConnectionSettings::defaultPath()));
+        m_dialog = std::make_unique<DialogClearTransactions>();
+        m_dialog->show();
+        box(m_dialog.get(), "txtOutputFile")->setText(m_file);
+    }
+    void tidy() override
+    {
+        m_dialog.reset();
+        qunsetenv("ZAVEL_PG_BIN");
+        QFile::remove(m_file);
+    }
 
 private slots:
     void initTestCase()
     {
         qputenv("XDG_DATA_HOME", m_home.path().toLocal8Bit());
         m_file = m_home.filePath("old year.bak");
-    }
-
-    void init()
-    {
-        m_database = std::make_unique<TestDatabase>();
-        fillEveryTable(*m_database);
-        m_people = std::make_unique<ModalDriver>();
-        ConnectionSettings settings;
-        settings.host = TestDatabase::host();
-        settings.port = TestDatabase::port();
-        settings.user = TestDatabase::user();
-        settings.database = m_database->name();
-        QDir().mkpath(QFileInfo(ConnectionSettings::defaultPath()).path());
-        QVERIFY(settings.write(ConnectionSettings::defaultPath()));
-        m_dialog = std::make_unique<DialogClearTransactions>();
-        m_dialog->show();
-        box(m_dialog.get(), "txtOutputFile")->setText(m_file);
-    }
-
-    void cleanup()
-    {
-        m_dialog.reset();
-        m_people.reset();
-        m_database.reset();
-        qunsetenv("ZAVEL_PG_BIN");
-        QFile::remove(m_file);
     }
 
     void allThatWasTradedGoesAndAllElseStays()
@@ -67,9 +54,8 @@ private slots:
         for (auto table = before.cbegin(); table != before.cend(); ++table) {
             QVERIFY2(!table->isEmpty(), qPrintable(table.key()));
             if (table.key() == "stok_awal")
-                QCOMPARE(
-                    m_database->value("SELECT count(*) || ' ' || sum(jumlah + harga_amount) FROM stok_awal").toString(),
-                    QString::number(table->size()) + " 0");
+                QCOMPARE(value("SELECT count(*) || ' ' || sum(jumlah + harga_amount) FROM stok_awal"),
+                         QString::number(table->size()) + " 0");
             else if (table.key().endsWith("_seq"))
                 QCOMPARE(after[table.key()], *table);
             else if (!after[table.key()].isEmpty())
@@ -98,22 +84,18 @@ private slots:
 
     void withoutAGoodBackupNothingIsCleared_data()
     {
-        addColumns<QString, QString, QString, QString>("field", "value", "tool", "said");
-        addRow("a user whom the server does not know", "txtDBUser", "stranger", "",
-               "\nprocess exited with code: 1 , status: 0\n");
-        addRow("another database of the same server", "txtDBName", "postgres", "", "another database");
-        addRow("a folder that is not there", "txtOutputFile", "/nowhere/x.bak", "", "There is no folder");
-        addRow("a program that writes nothing", "", "", "exit 0", "process exited with code: 0 , status: 0");
-        addRow("a program that writes no backup", "", "", "while [ \"$1\" != -f ]; do shift; done; echo x >\"$2\"",
-               "can not be read again");
+        const auto row = addColumns<QString, QString, QString, QString>("field", "value", "tool", "said");
+        row("a user whom the server does not know", "txtDBUser", "stranger", "",
+            "\nprocess exited with code: 1 , status: 0\n");
+        row("another database of the same server", "txtDBName", "postgres", "", "another database");
+        row("a folder that is not there", "txtOutputFile", "/nowhere/x.bak", "", "There is no folder");
+        row("a program that writes nothing", "", "", "exit 0", "process exited with code: 0 , status: 0");
+        row("a program that writes no backup", "", "", "while [ \"$1\" != -f ]; do shift; done; echo x >\"$2\"",
+            "can not be read again");
     }
-
     void withoutAGoodBackupNothingIsCleared()
     {
-        QFETCH(QString, field);
-        QFETCH(QString, value);
-        QFETCH(QString, tool);
-        QFETCH(QString, said);
+        FETCH(QString, field, value, tool, said);
         const QTemporaryDir programs;
         if (!tool.isEmpty()) {
             QFile program(programs.filePath("pg_dump"));
@@ -137,12 +119,12 @@ private slots:
     void whatIsSavedDuringTheBackupIsNotLost()
     {
         const int sales = count("invoice");
-        m_database->run("BEGIN");
-        m_database->run("LOCK TABLE meja IN ACCESS EXCLUSIVE MODE");
-        m_database->run("UPDATE invoice SET note = 'paid' WHERE id = (SELECT max(id) FROM invoice)");
+        run("BEGIN");
+        run("LOCK TABLE meja IN ACCESS EXCLUSIVE MODE");
+        run("UPDATE invoice SET note = 'paid' WHERE id = (SELECT max(id) FROM invoice)");
         button()->click();
         QTRY_VERIFY(count("pg_locks WHERE NOT granted") > 0);
-        m_database->run("COMMIT");
+        run("COMMIT");
         waitForTheEnd();
         QVERIFY(m_people->lastText().contains("does not hold it: invoice."));
         QCOMPARE(count("invoice"), sales);
@@ -154,17 +136,16 @@ private slots:
 
     void aPartThatFailsIsToldAndTheOthersAreCleared_data()
     {
-        addColumns<QString>("statement");
-        addRow("a table that refuses",
-               "CREATE FUNCTION no() RETURNS trigger LANGUAGE plpgsql AS 'BEGIN RAISE ''locked away''; END'; "
-               "CREATE TRIGGER no BEFORE TRUNCATE ON cash_flow EXECUTE FUNCTION no()");
-        addRow("a table that a till holds", "BEGIN; LOCK TABLE cash_flow IN ROW SHARE MODE");
+        const auto row = addColumns<QString>("statement");
+        row("a table that refuses",
+            "CREATE FUNCTION no() RETURNS trigger LANGUAGE plpgsql AS 'BEGIN RAISE ''locked away''; END'; "
+            "CREATE TRIGGER no BEFORE TRUNCATE ON cash_flow EXECUTE FUNCTION no()");
+        row("a table that a till holds", "BEGIN; LOCK TABLE cash_flow IN ROW SHARE MODE");
     }
-
     void aPartThatFailsIsToldAndTheOthersAreCleared()
     {
         QFETCH(QString, statement);
-        m_database->run(statement);
+        run(statement);
         button()->click();
         waitForTheEnd();
         QCOMPARE(m_people->texts(), QStringList{"Done. Error: 1"});
@@ -181,12 +162,9 @@ private:
     {
         QTRY_VERIFY_WITH_TIMEOUT(button()->isEnabled() && !QApplication::activeModalWidget(), 30000);
     }
-    int count(const QString& table) { return m_database->value("SELECT count(*) FROM " + table).toInt(); }
 
     QTemporaryDir m_home;
     QString m_file;
-    std::unique_ptr<TestDatabase> m_database;
-    std::unique_ptr<ModalDriver> m_people;
     std::unique_ptr<DialogClearTransactions> m_dialog;
 };
 

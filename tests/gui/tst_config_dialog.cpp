@@ -1,50 +1,30 @@
-#include "app/configuration/EntityAppConfig.h"
-#include "app/context/AppContext.h"
-#include "app/context/ConnectionSettings.h"
 #include "app/context/DatabaseManager.h"
-#include "kor/business/KorServiceDirectory.h"
 #include "shell/window/ConfigDialog.h"
-#include "support/Builders.h"
-#include "support/ModalDriver.h"
-#include "support/Rows.h"
-#include "support/TestDatabase.h"
+#include "support/DatabaseTest.h"
 #include "zavel/tables/BusinessMeja.h"
 
 #include <QCheckBox>
-#include <QComboBox>
-#include <QDialogButtonBox>
-#include <QDir>
-#include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QPushButton>
 #include <QSignalSpy>
-#include <QTabWidget>
-#include <QTemporaryDir>
-#include <QTest>
 
-class TestConfigDialog : public QObject
+class TestConfigDialog : public DatabaseTest
 {
     Q_OBJECT
 
-private slots:
-    void initTestCase() { qputenv("XDG_DATA_HOME", m_home.path().toLocal8Bit()); }
-
-    void init()
+protected:
+    void prepare() override
     {
-        m_database = std::make_unique<TestDatabase>();
-        m_database->run("DELETE FROM appconfig");
-        m_database->run("INSERT INTO appconfig (appkey, is_json, appvalue, version) VALUES "
-                        "('localization', true, '{\"locale\":\"id_ID\",\"date_time_format\":\"dd/MM/yy\"}', 1)");
-        m_people = std::make_unique<ModalDriver>();
+        run("DELETE FROM appconfig");
+        run("INSERT INTO appconfig (appkey, is_json, appvalue, version) VALUES "
+            "('localization', true, '{\"locale\":\"id_ID\",\"date_time_format\":\"dd/MM/yy\"}', 1)");
     }
-
-    void cleanup()
+    void tidy() override
     {
         m_dialog.reset();
-        m_people.reset();
-        m_database.reset();
         QFile::remove(ConnectionSettings::defaultPath());
     }
+
+private slots:
+    void initTestCase() { qputenv("XDG_DATA_HOME", m_home.path().toLocal8Bit()); }
 
     void withoutSettingsTheUsualValuesAreOffered()
     {
@@ -71,7 +51,7 @@ private slots:
         field("txtDateTimeFormat")->setText("yyyy");
         m_dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Cancel)->click();
         QVERIFY(!QFile::exists(ConnectionSettings::defaultPath()));
-        QVERIFY(m_database->value("SELECT appvalue FROM appconfig").toString().contains("dd/MM/yy"));
+        QVERIFY(value("SELECT appvalue FROM appconfig").contains("dd/MM/yy"));
     }
 
     void whatIsSavedReadsBackAndCannotBeReadInTheFile()
@@ -118,32 +98,30 @@ private slots:
         field("txtDateTimeFormat")->setText("whatever I like");
         m_dialog->findChild<QComboBox*>("txtLocale")->setCurrentText("en_US");
         save();
-        const QString stored = m_database->value("SELECT appvalue FROM appconfig").toString();
+        const QString stored = value("SELECT appvalue FROM appconfig");
         QVERIFY(stored.contains("whatever I like"));
         QVERIFY(stored.contains("en_US"));
     }
 
     void pricesInAnotherCurrencyAreAskedFor_data()
     {
-        addColumns<int, QString>("answer", "stored");
-        addRow("restated", int(QMessageBox::Yes), "en_US $ 25000 $ 7");
-        addRow("left alone", int(QMessageBox::No), "en_US Rp 25000 Rp 7");
-        addRow("locale kept", int(QMessageBox::Cancel), "id_ID Rp 25000 Rp 7");
+        const auto row = addColumns<int, QString>("answer", "stored");
+        row("restated", QMessageBox::Yes, "en_US $ 25000 $ 7");
+        row("left alone", QMessageBox::No, "en_US Rp 25000 Rp 7");
+        row("locale kept", QMessageBox::Cancel, "id_ID Rp 25000 Rp 7");
     }
-
     void pricesInAnotherCurrencyAreAskedFor()
     {
         QFETCH(int, answer);
-        m_database->run("DELETE FROM stok_awal");
-        m_database->run("DELETE FROM grouped_item");
-        m_database->run("DELETE FROM item");
+        run("DELETE FROM stok_awal");
+        run("DELETE FROM grouped_item");
+        run("DELETE FROM item");
         loginAsAdmin();
         {
             Builders make;
             EntityItem* rice = make.item("RICE", "Rice", 25000);
             make.openOrder(make.table("t1"), {make.line(rice, 1)});
-            m_database->run(
-                QString("INSERT INTO stok_awal (item_id, harga_currency, harga_amount, jumlah, version) VALUES "
+            run(QString("INSERT INTO stok_awal (item_id, harga_currency, harga_amount, jumlah, version) VALUES "
                         "(%1, 'Rp', 7, 1, 1)")
                     .arg(rice->getId()));
         }
@@ -153,13 +131,10 @@ private slots:
         save();
         QVERIFY2(m_people->lastText().startsWith("1 items and 1 open orders are priced in another currency than $."),
                  qPrintable(m_people->lastText()));
-        QTEST(
-            m_database
-                ->value("SELECT concat_ws(' ', appvalue::json->>'locale', harga_jual_lokal_currency, "
-                        "harga_jual_lokal_amount, harga_currency, harga_amount) FROM appconfig, item JOIN stok_awal ON "
-                        "item_id = item.id WHERE appkey = 'localization'")
-                .toString(),
-            "stored");
+        QTEST(value("SELECT concat_ws(' ', appvalue::json->>'locale', harga_jual_lokal_currency, "
+                    "harga_jual_lokal_amount, harga_currency, harga_amount) FROM appconfig, item JOIN stok_awal ON "
+                    "item_id = item.id WHERE appkey = 'localization'"),
+              "stored");
     }
 
     void savingTwiceIsNoConflictWithOneself()
@@ -169,13 +144,13 @@ private slots:
         field("txtDateTimeFormat")->setText("yyyy-MM-dd");
         save();
         QCOMPARE(m_people->texts(), QStringList());
-        QVERIFY(m_database->value("SELECT appvalue FROM appconfig").toString().contains("yyyy-MM-dd"));
+        QVERIFY(value("SELECT appvalue FROM appconfig").contains("yyyy-MM-dd"));
     }
 
     void anotherWorkstationsChangeIsTold()
     {
         open();
-        m_database->run("UPDATE appconfig SET version = version + 1");
+        run("UPDATE appconfig SET version = version + 1");
         save();
         QCOMPARE(m_people->boxes().size(), 1);
         QCOMPARE(m_people->lastTitle(), QString("Error"));
@@ -185,7 +160,7 @@ private slots:
 
     void aDatabaseWithoutFormatsIsNoReasonToComplain()
     {
-        m_database->run("DROP TABLE appconfig");
+        run("DROP TABLE appconfig");
         open();
         QCOMPARE(field("txtDateTimeFormat")->text(), QString("d MMM yyyy"));
         save();
@@ -219,7 +194,7 @@ private slots:
 
     void liveRecordsAreListedAndFreedOnceTheWindowsAreClosed()
     {
-        m_database->run("INSERT INTO meja (id, kode, nama, createdby, version) VALUES (41, 'x41', 'Bar', 1, 1)");
+        run("INSERT INTO meja (id, kode, nama, createdby, version) VALUES (41, 'x41', 'Bar', 1, 1)");
         open();
         const QPointer<KorEntity> table = service<BusinessMeja>("Table")->findByCode("x41");
         QVERIFY(table);
@@ -238,18 +213,7 @@ private slots:
         // The formats that the dialog held are gone as well; it has read them again.
         field("txtDateTimeFormat")->setText("after the clearing");
         save();
-        QVERIFY(m_database->value("SELECT appvalue FROM appconfig").toString().contains("after the clearing"));
-    }
-
-    void killingIsAskedFirst()
-    {
-        open();
-        const QSignalSpy closing(m_dialog.get(), &ConfigDialog::onCloseAllTab);
-        m_people->answer(QMessageBox::No);
-        const int before = AppContext::instance()->liveEntities().size();
-        button("btnKillEntities")->click();
-        QCOMPARE(closing.count(), 0);
-        QCOMPARE(AppContext::instance()->liveEntities().size(), before);
+        QVERIFY(value("SELECT appvalue FROM appconfig").contains("after the clearing"));
     }
 
     void anEmptyDatabaseIsInstalledFromTheDialog()
@@ -269,9 +233,7 @@ private slots:
         QCOMPARE(lines.first(), QString("[0%] Initializing..."));
         QCOMPARE(lines.last(), QString("[100%] Done. Please restart the app"));
         QCOMPARE(lines.filter(" error: "), QStringList());
-        QVERIFY(m_database->value("SELECT appvalue FROM appconfig WHERE appkey = 'localization'")
-                    .toString()
-                    .contains("id_ID"));
+        QVERIFY(value("SELECT appvalue FROM appconfig WHERE appkey = 'localization'").contains("id_ID"));
         QCOMPARE(m_dialog->findChild<QComboBox*>("txtLocale")->currentText(), QString("id_ID"));
         m_dialog->reject();
         QVERIFY(!m_dialog->isVisible());
@@ -279,29 +241,19 @@ private slots:
 
     void anInstalledDatabaseIsMadeAnewOnlyAfterAQuestion()
     {
-        m_database->run(
-            "INSERT INTO appconfig (appkey, is_json, appvalue, version) VALUES ('app_version', false, '1.1', 1)");
-        m_database->run("INSERT INTO meja (kode, nama, createdby, version) VALUES ('m9', 'Sold at already', 1, 1)");
+        run("INSERT INTO appconfig (appkey, is_json, appvalue, version) VALUES ('app_version', false, '1.1', 1)");
+        run("INSERT INTO meja (kode, nama, createdby, version) VALUES ('m9', 'Sold at already', 1, 1)");
         open();
         m_people->answer(QMessageBox::No);
         button("installBtn")->click();
         QVERIFY(button("installBtn")->isEnabled());
         QVERIFY(m_people->lastText().contains(m_database->name()));
-        QCOMPARE(m_database->value("SELECT count(*) FROM meja WHERE kode = 'm9'").toInt(), 1);
+        QCOMPARE(count("meja WHERE kode = 'm9'"), 1);
 
         m_people->answer(QMessageBox::Yes);
         button("installBtn")->click();
         QTRY_VERIFY_WITH_TIMEOUT(button("installBtn")->isEnabled(), 30000);
-        QCOMPARE(m_database->value("SELECT count(*) FROM meja WHERE kode = 'm9'").toInt(), 0);
-    }
-
-    void withoutAConnectionThereIsNothingToInstallOn()
-    {
-        AppContext::instance()->databaseManager()->close();
-        open();
-        button("installBtn")->click();
-        QVERIFY(button("installBtn")->isEnabled());
-        QVERIFY(!m_dialog->findChild<QPlainTextEdit*>("txtStatus")->toPlainText().isEmpty());
+        QCOMPARE(count("meja WHERE kode = 'm9'"), 0);
     }
 
 private:
@@ -322,8 +274,6 @@ private:
     }
 
     QTemporaryDir m_home;
-    std::unique_ptr<TestDatabase> m_database;
-    std::unique_ptr<ModalDriver> m_people;
     std::unique_ptr<ConfigDialog> m_dialog;
 };
 

@@ -1,131 +1,50 @@
-#include "app/context/AppContext.h"
 #include "app/context/EntityPool.h"
-#include "kor/business/KorServiceDirectory.h"
 #include "pos/masterdata/item/BusinessItem.h"
 #include "shell/database/converter/DialogConverter.h"
+#include "support/DatabaseTest.h"
 #include "support/Hands.h"
 #include "support/LedgerRows.h"
-#include "support/Rows.h"
 #include "support/TestCluster.h"
-#include "support/TestDatabase.h"
 
-#include <QPlainTextEdit>
 #include <QSqlError>
 #include <QSqlQuery>
-#include <QTemporaryDir>
 #include <QTimer>
 #include <QUuid>
 
-namespace
-{
-/** The tables of the former system, with what people had left in them over the years. */
-const char legacyRows[] = R"(
-create table tblprs (nama varchar(100), alamat varchar(200), alamat2 varchar(200), telp varchar(50), npwp varchar(30),
-                     tglpkp varchar(20));
-create table tbljenisbrg (kode varchar(50), keterangan varchar(250));
-create table tblsatuan (kode varchar(50), keterangan varchar(250));
-create table tblsupplier (kode varchar(50), supplier varchar(300), kontak varchar(50), atsnama varchar(50),
-                          alamat varchar(200), telp varchar(50), keterangan text);
-create table tblmember (barkode varchar(50), nama varchar(100), alamat varchar(200), notlp varchar(50),
-                        email varchar(100), diskon numeric(8,2));
-create table tblagent (kode varchar(50), agent varchar(100), kontak varchar(50), alamat varchar(200),
-                       email varchar(100), persen numeric(8,2), keterangan text);
-create table tblrpelayan (kode varchar(50), nama varchar(100), keterangan text);
-create table tblbarang (kode varchar(120), keterangan varchar(250), jenisbrg varchar(50), satuan varchar(50),
-                        hargabeli numeric(18,2), hargajual numeric(18,2), hargajuallokal numeric(18,2),
-                        hargajualluar numeric(18,2), tipeitem varchar(20), rakitan varchar(5), diskon numeric(8,2));
-create table tblbeli (nonota varchar(60), tanggal date, kodesupplier varchar(50), jtempo date, status varchar(20),
-                      pajak numeric(18,2), total numeric(18,2), sisa numeric(18,2), nosup varchar(50),
-                      stpajak varchar(10), noreff varchar(50), noporder varchar(50), deposit numeric(18,2),
-                      bank varchar(50), norekening varchar(50), tunai numeric(18,2), kredit numeric(18,2),
-                      totaldiskon numeric(18,2));
-create table tblbelidetail (nonota varchar(60), kodebrg varchar(120), jumlah numeric(12,2), cekhapus boolean,
-                            nomorbaris integer, tmphargabeli numeric(18,2), hargabeli numeric(18,2),
-                            satuan varchar(50), diskon numeric(18,2), hargajual numeric(18,2));
-create table tblbayarbeli (idbeli varchar(60), kodemember varchar(50), tanggal date, kodetipebayar varchar(20),
-                           jumlahbayar numeric(18,2), saldohutang numeric(18,2), nocek varchar(50), norek varchar(50));
-create table tblbayarbelidetail (idbeli varchar(60), kodetipebeli varchar(20), nobaris integer, nonota varchar(60),
-                                 status varchar(20), total numeric(18,2), sisa numeric(18,2), bank varchar(50),
-                                 jumlah numeric(18,2), cekhapus boolean);
-
-insert into tblprs values ('Warung D''Ibu', 'Jl. Mawar 1', 'Bandung', '022-123', '01.234', '1 May 1999');
-insert into tbljenisbrg values ('PANAS', 'Makanan'), ('panas', 'Again in small letters'), (null, 'Nameless'), ('DINGIN', '');
-insert into tblsatuan values ('BIJI', 'Pieces'), ('BH', 'Pieces'), ('KLG', null);
-insert into tblsupplier values
-  ('S01', 'Pasar D''Angelo', 'Budi', 'B. Santoso', 'Jl. Pasar 5', null, 'monday''s only'),
-  ('s01', 'The same in small letters', null, null, null, null, null),
-  ('S02', repeat('x', 250), '', '', '', '021-5550123 / 021-5550124', ''),
-  ('', 'Without code', null, null, null, null, null);
-insert into tblmember values ('M-1', 'Ana', 'Jl. 1', '0811', 'ana@example.com', 7.5), ('M-2', 'Tono', '', '', null, 250);
-insert into tblagent values ('A-1', 'Guide', 'Made', 'Kuta', 'g@example.com', 12.5, 'by bus');
-insert into tblrpelayan values ('W1', '', 'Ketut'), ('W2', null, null);
-insert into tblbarang values
-  ('I1', 'Nasi Goreng', 'PANAS', 'BIJI', 10000.50, 24000, 25000.49, 30000, 'INV', 'Y', 5),
-  ('I2', 'Teh', 'NOWHERE', 'GELAS', 1000, 5000, 0, 0, 'JASA', 'N', 0),
-  ('I3', '', null, null, null, null, null, null, null, null, null),
-  ('i1', 'In small letters', 'PANAS', 'BIJI', 1, 1, 1, 1, 'INV', 'N', 0),
-  ('I4', 'Golden plate', 'PANAS', 'BIJI', 99999999999, 1, 1, 1, 'INV', 'N', 0);
-insert into tblbeli values
-  ('B-1', '2019-03-01', 'S01', '2019-04-01', 'Lunas', 10, 110000, 0, 'INV/7', '1', 'R''1', '', 0, 'BCA', '77', 0, 0, 0),
-  ('B-2', '2019-03-02', 's01', '2019-04-02', 'Belum', 0, 50000.60, 20000.60, null, '0', null, 'PO-NONE', 10000, null,
-   null, 0, 0, 0),
-  ('B-3', null, 'S01', '2019-05-01', null, null, 5000, 5000, null, null, null, 'PO-1', null, null, null, null, null, null),
-  ('B-4', '2019-03-04', 'NOBODY', '2019-04-04', 'Belum', 0, 1, 1, null, null, null, null, 0, null, null, 0, 0, 0);
-insert into tblbelidetail values
-  ('B-1', 'i1', 4, false, 2, 0, 25000, 'BIJI', 0, 0), ('B-1', 'I2', 1, true, 1, 0, 1, 'BIJI', 0, 0),
-  ('B-2', 'I1', 2.5, false, 1, 20000.24, 0, 'BIJI', 0, 0), ('B-2', 'GONE', 1, null, 2, 1, 1, 'BIJI', 0, 0),
-  ('B-3', 'I2', 5, false, 1, 1000, null, null, null, null);
-insert into tblbayarbeli values
-  ('P-1', 'S01', '2019-03-20', 'Tunai', 60000, 0, null, null),
-  ('P-2', 'S01', '2019-03-21', 'Giro', 20000, 20000.60, 'CK-9', 'a number of more than twenty letters'),
-  ('P-3', 'NOBODY', '2019-03-22', 'Tunai', 5, 0, null, null);
-insert into tblbayarbelidetail values
-  ('P-1', 'B', 1, 'B-1', '', 110000, 50000, '', 60000, false), ('P-1', 'B', 2, 'B-1', '', 1, 1, '', 1, true),
-  ('P-2', 'B', 1, 'B-2', '', 50000.60, 20000.60, 'BCA', 20000, false), ('P-2', 'B', 2, 'B-9', '', 1, 1, '', 1, false);
-)";
-} // namespace
-
 /** Bringing over the data of a former system. */
-class TestConverter : public QObject
+class TestConverter : public DatabaseTest
 {
     Q_OBJECT
+
+protected:
+    void prepare() override
+    {
+        m_legacy = "old_" + QUuid::createUuid().toString(QUuid::Id128);
+        TestCluster::instance().run("CREATE DATABASE " + m_legacy);
+        legacy(TestDatabase::textOf("gui/former_system.sql"));
+        open();
+    }
+    void tidy() override
+    {
+        m_dialog.reset();
+        TestCluster::instance().run("DROP DATABASE " + m_legacy + " WITH (FORCE)");
+    }
 
 private slots:
     void initTestCase() { qputenv("XDG_DATA_HOME", m_home.path().toLocal8Bit()); }
 
-    void init()
-    {
-        m_database = std::make_unique<TestDatabase>();
-        loginAsAdmin();
-        m_legacy = "old_" + QUuid::createUuid().toString(QUuid::Id128);
-        TestCluster::instance().run("CREATE DATABASE " + m_legacy);
-        legacy(legacyRows);
-        m_people = std::make_unique<ModalDriver>();
-        open();
-    }
-
-    void cleanup()
-    {
-        m_dialog.reset();
-        m_people.reset();
-        m_database.reset();
-        TestCluster::instance().run("DROP DATABASE " + m_legacy + " WITH (FORCE)");
-    }
-
     void theSourceIsAskedForFirst_data()
     {
-        addColumns<QString, QString>("empty", "text");
-        addRow("host", "txtSourceHost txtSourceUser", "Enter the source host");
-        addRow("user", "txtSourceUser txtSourcePassword", "Enter the source database username");
-        addRow("password", "txtSourcePassword txtSourcePort", "Enter the source database password");
-        addRow("port", "txtSourcePort txtSourceDBName", "Enter the source database port");
-        addRow("database", "txtSourceDBName", "Enter the source database name");
+        const auto row = addColumns<QString, QString>("empty", "text");
+        row("host", "txtSourceHost txtSourceUser", "Enter the source host");
+        row("user", "txtSourceUser txtSourcePassword", "Enter the source database username");
+        row("password", "txtSourcePassword txtSourcePort", "Enter the source database password");
+        row("port", "txtSourcePort txtSourceDBName", "Enter the source database port");
+        row("database", "txtSourceDBName", "Enter the source database name");
     }
-
     void theSourceIsAskedForFirst()
     {
-        QFETCH(QString, empty);
-        QFETCH(QString, text);
+        FETCH(QString, empty, text);
         QCOMPARE(shown(m_dialog.get(), "txtSourcePassword"), QString("sorrelmint"));
         picture("rest");
         for (const QString& name : empty.split(' '))
@@ -137,7 +56,7 @@ private slots:
 
     void everyRowIsBroughtOverOrAccountedFor()
     {
-        insertRows(*m_database, "purchase_order", {{"id", "7"}, {"no", "'PO-1'"}, {"supplier_id", "1"}});
+        insertRows(*m_database, "purchase_order", "id=7, no='PO-1', supplier_id=1");
         KorLogger logger(nullptr, m_home.filePath("zavel.log"));
         AppContext::instance()->setLogger(&logger);
         convert();
@@ -217,10 +136,10 @@ private slots:
             "by id', true, false, '') xml from unnest(array['data_perusahaan','jenis_item','satuan',"
             "'supplier','member','agent','employee','item','stok_awal','acquisition',"
             "'acquisition_detail','payment','payment_invoice','item_history','keytable']) t) x";
-        const QString first = m_database->value(state).toString();
+        const QString first = value(state);
         QVERIFY(first.size() > 5000);
         convert();
-        QVERIFY(m_database->value(state).toString() == first);
+        QVERIFY(value(state) == first);
         for (const char* line : {"tblprs: 1 read, 0 written, 1 skipped", "tblsatuan: 3 read, 0 written, 3 skipped",
                                  "tblbarang: 5 read, 0 written, 5 skipped", "the number exists already: B-1, B-2, B-3",
                                  "tblbayarbeli: 3 read, 0 written, 3 skipped"})
@@ -229,9 +148,9 @@ private slots:
 
     void whoeverHasEnteredTheCompanyKeepsIt()
     {
-        m_database->run("update data_perusahaan set nama_perusahaan = 'Ours', version = 2");
+        run("update data_perusahaan set nama_perusahaan = 'Ours', version = 2");
         convert();
-        QCOMPARE(m_database->value("select nama_perusahaan from data_perusahaan").toString(), QString("Ours"));
+        QCOMPARE(value("select nama_perusahaan from data_perusahaan"), QString("Ours"));
         QVERIFY(status().contains("skipped, the company profile has been entered already: Warung D'Ibu"));
     }
 
@@ -299,29 +218,26 @@ private slots:
 
     void whatWasBrokenOffIsExplainedAndFinished_data()
     {
-        addColumns<QString, QString>("sessions", "words");
-        addRow("the former system's server goes away", "pg_stat_activity where datname = 'OLD'",
-               "The connection to the source database is lost");
-        addRow(
-            "the program's own server goes away",
+        const auto row = addColumns<QString, QString>("sessions", "words");
+        row("the former system's server goes away", "pg_stat_activity where datname = 'OLD'",
+            "The connection to the source database is lost");
+        row("the program's own server goes away",
             "pg_locks where locktype = 'advisory' and database = (select oid from pg_database where datname = 'NEW')",
             "The connection to the database is lost");
     }
-
     void whatWasBrokenOffIsExplainedAndFinished()
     {
-        QFETCH(QString, sessions);
-        QFETCH(QString, words);
+        FETCH(QString, sessions, words);
         addItems(2000);
         start();
         QTRY_VERIFY_WITH_TIMEOUT(count("item where kode like 'X%'") > 300, 20000);
         // In the middle of an item: it is in, its balance waits.
         const QString waiting = "pg_stat_activity where datname = current_database() and wait_event_type = 'Lock'";
-        m_database->run("begin; lock table stok_awal in exclusive mode");
+        run("begin; lock table stok_awal in exclusive mode");
         QTRY_VERIFY_WITH_TIMEOUT(count(waiting) > 0, 20000);
         TestCluster::instance().run("select pg_terminate_backend(pid) from " +
                                     sessions.replace("OLD", m_legacy).replace("NEW", m_database->name()));
-        m_database->run("commit");
+        run("commit");
         QTRY_VERIFY_WITH_TIMEOUT(isIdle(), 30000);
         QCOMPARE(m_people->boxes().size(), 1);
         QCOMPARE(m_people->lastTitle(), QString("Error"));
@@ -345,10 +261,9 @@ private slots:
     {
         convert();
         // As a program leaves it that dies right after the last purchase, or the last payment, was written.
-        m_database->run("delete from item_history where no = 'B-3'");
-        m_database->run("update acquisition set other_payment_amount = 0, net_due_amount = 40001 where no = 'B-2'");
-        m_database->run(
-            "insert into appconfig (appkey, is_json, appvalue, version) values ('conversion', false, 'begun', 1)");
+        run("delete from item_history where no = 'B-3'");
+        run("update acquisition set other_payment_amount = 0, net_due_amount = 40001 where no = 'B-2'");
+        run("insert into appconfig (appkey, is_json, appvalue, version) values ('conversion', false, 'begun', 1)");
         convert();
         QCOMPARE(row("qty_in) from item_history where no = 'B-3'"), QString("(5)"));
         QCOMPARE(count("item_history where no in ('B-1', 'B-2', 'B-3')"), 3);
@@ -427,8 +342,7 @@ private:
                 .arg(count));
     }
 
-    QString row(const QString& statement) { return m_database->value("select row(" + statement).toString(); }
-    int count(const QString& table) { return m_database->value("select count(*) from " + table).toInt(); }
+    QString row(const QString& statement) { return value("select row(" + statement); }
     bool isMarked() { return count("appconfig where appkey = 'conversion'") == 1; }
     void picture(const char* name)
     {
@@ -439,8 +353,6 @@ private:
 
     QTemporaryDir m_home;
     QString m_legacy;
-    std::unique_ptr<TestDatabase> m_database;
-    std::unique_ptr<ModalDriver> m_people;
     std::unique_ptr<DialogConverter> m_dialog;
 };
 

@@ -1,19 +1,12 @@
-#include "app/context/AppContext.h"
-#include "kor/business/KorServiceDirectory.h"
-#include "pos/purchasing/creditnote/BusinessCreditNote.h"
 #include "pos/purchasing/creditnote/DialogCreditNote.h"
 #include "pos/purchasing/creditnote/DialogCreditNoteInvoice.h"
 #include "pos/purchasing/creditnote/DialogCreditNotePurchases.h"
 #include "pos/purchasing/creditnote/DialogSelectPurchases.h"
 #include "pos/purchasing/creditnote/TabCreditNote.h"
+#include "support/DatabaseTest.h"
 #include "support/Hands.h"
 #include "support/PurchasingRows.h"
-#include "support/Rows.h"
 #include "support/ShopRows.h"
-#include "support/TestDatabase.h"
-
-#include <QComboBox>
-#include <QLabel>
 
 namespace
 {
@@ -23,39 +16,27 @@ using Entries = QList<QPair<const char*, QString>>;
 Q_DECLARE_METATYPE(Entries)
 
 /** The storekeeper at the page of credit notes, with keyboard and mouse. */
-class TestCreditNotePage : public QObject
+class TestCreditNotePage : public PageTest<TabCreditNote>
 {
     Q_OBJECT
 
-private slots:
-    void init()
+protected:
+    void prepare() override
     {
-        m_database = std::make_unique<TestDatabase>();
         AppContext::instance()->setLocale("id_ID");
-        loginAsAdmin();
         insertShop(*m_database);
         insertItem(*m_database, 2, "EGG", "Egg");
-        m_database->run("INSERT INTO bank (id, kode, nama, account_type, active, version) VALUES "
-                        "(2, '2000', 'Accounts Payable', 2, true, 1)");
-        m_database->run("INSERT INTO supplier (id, kode, nama, alamat, telp, email, version) VALUES "
-                        "(2, 'S2', 'Butcher', '', '', '', 1)");
+        run("INSERT INTO bank (id, kode, nama, account_type, active, version) VALUES "
+            "(2, '2000', 'Accounts Payable', 2, true, 1)");
+        run("INSERT INTO supplier (id, kode, nama, alamat, telp, email, version) VALUES "
+            "(2, 'S2', 'Butcher', '', '', '', 1)");
         insertPurchase(*m_database, {"NB-0001", "INV-A", 0, 20, 100, 10, 1});
         insertPurchase(*m_database, {"NB-0002", "INV-B", 500, 5, 100, 0, 2});
-        m_people = std::make_unique<ModalDriver>();
         m_page = std::make_unique<TabCreditNote>();
         showPage(m_page.get());
     }
 
-    void cleanup()
-    {
-        m_page.reset();
-        m_people.reset();
-        service<BusinessCreditNote>("Credit Note")->clearErrors();
-        m_database.reset();
-    }
-
-    // --- notes -------------------------------------------------------------------------------------------------------
-
+private slots:
     void goodsOfAPurchaseAndAFreeItemGoBack()
     {
         onNote("btnAdd", [this](DialogCreditNote* form) {
@@ -131,25 +112,21 @@ private slots:
 
     void whatIsMissingIsTold_data()
     {
-        addColumns<Entries, QString, QStringList>("entries", "lines", "told");
+        const auto row = addColumns<Entries, QString, QStringList>("entries", "lines", "told");
         const QPair<const char*, QString> supplier("txtSupplier", "S1");
         const QPair<const char*, QString> paid("txtPaid", "0");
-        const auto add = [](const char* name, const Entries& entries, const QString& lines, const QStringList& told) {
-            addRow(name, entries, lines, told);
-        };
-        add("nothing is keyed in", {{"txtAPAccount", ""}}, "",
+        row("nothing is keyed in", {{"txtAPAccount", ""}}, "",
             {"Select a supplier", "Add one or more items", "Enter the amount paid", "Enter the Accounts Payable"});
-        add("nothing goes back", {supplier, paid, {"txtAPAccount", "x"}}, "bought",
+        row("nothing goes back", {supplier, paid, {"txtAPAccount", "x"}}, "bought",
             {"There should be minimal one item returned", "Enter the valid Accounts Payable"});
-        add("nobody said what came back", {supplier}, "free", {"Enter the amount paid"});
-        add("less than nothing came back", {supplier, {"txtPaid", "-5"}}, "free", {"Enter the amount paid"});
-        add("what came back is no number", {supplier, {"txtPaid", "5x"}}, "free", {"Enter the amount paid"});
-        add("nothing came back yet", {supplier, paid}, "free", {});
-        add("a supplier that nobody knows", {{"txtSupplier", "S9"}, paid}, "free", {"Select a supplier"});
-        add("the purchase is another supplier's", {paid, {"txtSupplier", "S2"}}, "bought free",
+        row("nobody said what came back", {supplier}, "free", {"Enter the amount paid"});
+        row("less than nothing came back", {supplier, {"txtPaid", "-5"}}, "free", {"Enter the amount paid"});
+        row("what came back is no number", {supplier, {"txtPaid", "5x"}}, "free", {"Enter the amount paid"});
+        row("nothing came back yet", {supplier, paid}, "free", {});
+        row("a supplier that nobody knows", {{"txtSupplier", "S9"}, paid}, "free", {"Select a supplier"});
+        row("the purchase is another supplier's", {paid, {"txtSupplier", "S2"}}, "bought free",
             {"The purchase is of another supplier"});
     }
-
     void whatIsMissingIsTold()
     {
         QFETCH(Entries, entries);
@@ -172,26 +149,20 @@ private slots:
         QCOMPARE(rowsOf(m_page.get()), told.isEmpty() ? 1 : 0);
     }
 
-    // --- lines -------------------------------------------------------------------------------------------------------
-
     void aLineTakesWhatCanGoBack_data()
     {
-        addColumns<bool, Entries, QStringList>("isFree", "entries", "told");
+        const auto row = addColumns<bool, Entries, QStringList>("isFree", "entries", "told");
         const QString tooMany = "No more than 17 of this item can go back for the purchase";
-        const auto add = [](const char* name, bool isFree, const Entries& entries, const QStringList& told) {
-            addRow(name, isFree, entries, told);
-        };
-        add("nothing keyed in", true, {},
+        row("nothing keyed in", true, {},
             {"Enter the item code", "Enter the purchase price of this item", "Enter the qty"});
-        add("fewer than none", true, {{"txtCode", "RICE"}, {"txtUnitPrice", "5"}, {"txtQty", "-2"}}, {"Enter the qty"});
-        add("a price below nothing", true, {{"txtCode", "RICE"}, {"txtUnitPrice", "-5"}, {"txtQty", "2"}},
+        row("fewer than none", true, {{"txtCode", "RICE"}, {"txtUnitPrice", "5"}, {"txtQty", "-2"}}, {"Enter the qty"});
+        row("a price below nothing", true, {{"txtCode", "RICE"}, {"txtUnitPrice", "-5"}, {"txtQty", "2"}},
             {"Enter the purchase price of this item"});
-        add("none of a purchase", false, {{"txtQty", "0"}}, {"Enter the qty"});
-        add("the rest of a purchase", false, {{"txtQty", "17"}}, {});
-        add("what went back before", false, {{"txtQty", "18"}}, {tooMany});
-        add("a slip of the finger", false, {{"txtQty", "5000000000"}}, {tooMany});
+        row("none of a purchase", false, {{"txtQty", "0"}}, {"Enter the qty"});
+        row("the rest of a purchase", false, {{"txtQty", "17"}}, {});
+        row("what went back before", false, {{"txtQty", "18"}}, {tooMany});
+        row("a slip of the finger", false, {{"txtQty", "5000000000"}}, {tooMany});
     }
-
     void aLineTakesWhatCanGoBack()
     {
         QFETCH(bool, isFree);
@@ -259,7 +230,7 @@ private slots:
     {
         storeNote();
         onNote("btnEdit", [this](DialogCreditNote* form) {
-            m_database->run("UPDATE credit_note SET version = version + 1, updatedby = 1, updatedtime = now()");
+            run("UPDATE credit_note SET version = version + 1, updatedby = 1, updatedtime = now()");
             enter(form, "txtPaid", "100");
             press(form, QDialogButtonBox::Ok);
             QVERIFY2(m_people->lastText().startsWith("error: update credit note failed"),
@@ -269,7 +240,7 @@ private slots:
             giveUp(form);
         });
         QCOMPARE(dues(), QString("270 1530 3, 0 0 1"));
-        m_database->run("DELETE FROM credit_note_detail; DELETE FROM credit_note");
+        run("DELETE FROM credit_note_detail; DELETE FROM credit_note");
         for (const char* button : {"btnEdit", "btnDelete"}) {
             click(m_page.get(), button);
             QCOMPARE(m_people->lastText(), QString("Can not find Credit Note with id: 1"));
@@ -347,16 +318,11 @@ private:
         QTest::keyClicks(form->findChild<QComboBox*>(choice), text);
     }
     static QString words(const QStringList& told) { return told.isEmpty() ? QString() : told.join("\r\n") + "\r\n"; }
-    QString value(const QString& statement) { return m_database->value(statement).toString(); }
     QString dues()
     {
         return value("SELECT string_agg(concat_ws(' ', other_payment_amount, net_due_amount, status), ', ' ORDER BY "
                      "id) FROM acquisition");
     }
-
-    std::unique_ptr<TestDatabase> m_database;
-    std::unique_ptr<ModalDriver> m_people;
-    std::unique_ptr<TabCreditNote> m_page;
 };
 
 QTEST_MAIN(TestCreditNotePage)

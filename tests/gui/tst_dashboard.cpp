@@ -1,4 +1,3 @@
-#include "app/context/AppContext.h"
 #include "app/context/EntityUser.h"
 #include "kor/system/KorLogger.h"
 #include "pos/masterdata/company/DialogDataPerusahaan.h"
@@ -7,10 +6,11 @@
 #include "shell/window/HouseStyle.h"
 #include "shell/window/MainWindow.h"
 #include "shell/window/Pages.h"
+#include "shell/window/TabFactories.h"
+#include "support/DatabaseTest.h"
 #include "support/ModalDriver.h"
 #include "support/Rows.h"
 #include "support/ShopRows.h"
-#include "support/TestDatabase.h"
 
 #include <QAction>
 #include <QJsonArray>
@@ -18,9 +18,6 @@
 #include <QJsonObject>
 #include <QLocale>
 #include <QRegularExpression>
-#include <QTabWidget>
-#include <QTemporaryDir>
-#include <QTest>
 #include <QWebElement>
 #include <QWebFrame>
 #include <QWebView>
@@ -33,40 +30,35 @@ QJsonObject parsed(const QString& json) { return QJsonDocument::fromJson(json.to
 } // namespace
 
 /** The dashboard in the real window, its page in the real web engine. */
-class TestDashboard : public QObject
+class TestDashboard : public DatabaseTest
 {
     Q_OBJECT
 
-private slots:
-    void initTestCase()
+protected:
+    void prepare() override
     {
-        m_database = std::make_unique<TestDatabase>();
-        insertShop(*m_database);
-    }
-
-    void init()
-    {
-        m_database->run("TRUNCATE invoice CASCADE");
-        loginAsAdmin();
+        run("TRUNCATE invoice CASCADE");
         AppContext::instance()->setLocale("id_ID");
         AppContext::instance()->setShowDashboard(false);
         AppContext::instance()->setShowSidebar(true);
-        m_people = std::make_unique<ModalDriver>();
         m_scriptErrors.clear();
         m_window = std::make_unique<MainWindow>();
         AppContext::instance()->setMainWindow(m_window.get());
         m_window->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
     }
-
-    void cleanup()
+    void tidy() override
     {
         m_window.reset();
-        m_people.reset();
         QCOMPARE(m_scriptErrors, QStringList());
     }
 
-    void cleanupTestCase() { m_database.reset(); }
+private slots:
+    void initTestCase()
+    {
+        keepDatabase();
+        insertShop(*m_database);
+    }
 
     void theFiguresAreThoseOfTheDatabase()
     {
@@ -115,14 +107,13 @@ private slots:
 
     void moneyIsWrittenAsTheRestaurantWritesIt_data()
     {
-        addColumns<QString, qint64, QString>("locale", "amount", "total");
-        addRow("Indonesia", "id_ID", Q_INT64_C(1234567), "Rp1.234.567");
-        addRow("too much for its place", "id_ID", Q_INT64_C(1234567890123), "Rp1.234.567.890.123");
-        addRow("United States", "en_US", Q_INT64_C(1234567), "$1,234,567");
-        addRow("Germany", "de_DE", Q_INT64_C(1234567), QString::fromUtf8("1.234.567 €"));
-        addRow("none yet", "C", Q_INT64_C(1234567), "1234567");
+        const auto row = addColumns<QString, qint64, QString>("locale", "amount", "total");
+        row("Indonesia", "id_ID", Q_INT64_C(1234567), "Rp1.234.567");
+        row("too much for its place", "id_ID", Q_INT64_C(1234567890123), "Rp1.234.567.890.123");
+        row("United States", "en_US", Q_INT64_C(1234567), "$1,234,567");
+        row("Germany", "de_DE", Q_INT64_C(1234567), QString::fromUtf8("1.234.567 €"));
+        row("none yet", "C", Q_INT64_C(1234567), "1234567");
     }
-
     void moneyIsWrittenAsTheRestaurantWritesIt()
     {
         QFETCH(QString, locale);
@@ -161,11 +152,10 @@ private slots:
 
     void figuresAreReadAnewWhenSomebodyComesBack_data()
     {
-        addColumns<QString>("way");
+        const auto row = addColumns<QString>("way");
         for (const char* way : {"from another page", "by a reload", "by the button", "with F5"})
-            addRow(way, way);
+            row(way, way);
     }
-
     void figuresAreReadAnewWhenSomebodyComesBack()
     {
         QFETCH(QString, way);
@@ -195,24 +185,22 @@ private slots:
 
     void aShortcutIsReachedWithTheKeysAndOpensItsScreen_data()
     {
-        addColumns<QString, QString>("screen", "page");
-        addRow("company profile", "companyprofile", "DialogDataPerusahaan");
-        addRow("cashier printer", "cashierprinter", "DialogCashierAndKitchenPrinter");
-        addRow("kitchen printer", "kitchenprinter", "TabKitchenPrinter");
-        addRow("item type", "itemtype", "TabJenisItem");
-        addRow("unit", "unit", "TabSatuan");
-        addRow("table", "table", "TabMeja");
-        addRow("item", "item", "TabItem");
-        addRow("beginning balance", "beginingbalance", "TabStokAwal");
-        addRow("cash", "cash", "TabCashFlow");
-        addRow("sales order", "salesorder", "TabMakanDitempat");
-        addRow("fast food", "fastfood", "TabFastFood");
+        const auto row = addColumns<QString, QString>("screen", "page");
+        row("company profile", "companyprofile", "DialogDataPerusahaan");
+        row("cashier printer", "cashierprinter", "DialogCashierAndKitchenPrinter");
+        row("kitchen printer", "kitchenprinter", "TabKitchenPrinter");
+        row("item type", "itemtype", "TabJenisItem");
+        row("unit", "unit", "TabSatuan");
+        row("table", "table", "TabMeja");
+        row("item", "item", "TabItem");
+        row("beginning balance", "beginingbalance", "TabStokAwal");
+        row("cash", "cash", "TabCashFlow");
+        row("sales order", "salesorder", "TabMakanDitempat");
+        row("fast food", "fastfood", "TabFastFood");
     }
-
     void aShortcutIsReachedWithTheKeysAndOpensItsScreen()
     {
-        QFETCH(QString, screen);
-        QFETCH(QString, page);
+        FETCH(QString, screen, page);
         openDashboard();
         const auto close = [](QDialog* dialog) { dialog->reject(); };
         if (page == "DialogDataPerusahaan")
@@ -243,13 +231,11 @@ private slots:
 
     void theUserIsGreetedByName_data()
     {
-        addColumns<QStringList, QString, QString>("names", "answer", "greeting");
-        addRow("both names", QStringList{"Mary <i>Ann</i>", "Smith"}, "Mary <i>Ann</i> Smith",
-               ", Mary <i>Ann</i> Smith");
-        addRow("empty names", QStringList{"", ""}, " ", "");
-        addRow("nobody", QStringList{}, "", "");
+        const auto row = addColumns<QStringList, QString, QString>("names", "answer", "greeting");
+        row("both names", {"Mary <i>Ann</i>", "Smith"}, "Mary <i>Ann</i> Smith", ", Mary <i>Ann</i> Smith");
+        row("empty names", {"", ""}, " ", "");
+        row("nobody", {}, "", "");
     }
-
     void theUserIsGreetedByName()
     {
         QFETCH(QStringList, names);
@@ -269,14 +255,14 @@ private slots:
     void figuresThatCannotBeReadAreTold()
     {
         openDashboard();
-        m_database->run("ALTER TABLE invoice RENAME TO sold");
+        run("ALTER TABLE invoice RENAME TO sold");
         auto* tab = m_window->findChild<TabDashboard*>();
         QVERIFY(parsed(tab->getSalesChartData())["dates"].toArray().isEmpty());
         QCOMPARE(m_people->lastTitle(), QString("Error"));
         QVERIFY2(m_people->lastText().contains("\"invoice\""), qPrintable(m_people->lastText()));
         QVERIFY(parsed(tab->getSoldItemsData())["items"].toArray().isEmpty());
         QCOMPARE(m_people->boxes().size(), 2);
-        m_database->run("ALTER TABLE sold RENAME TO invoice");
+        run("ALTER TABLE sold RENAME TO invoice");
     }
 
     void aFaultOfThePageIsLogged()
@@ -359,8 +345,6 @@ private:
         return rows;
     }
 
-    std::unique_ptr<TestDatabase> m_database;
-    std::unique_ptr<ModalDriver> m_people;
     std::unique_ptr<MainWindow> m_window;
     QStringList m_scriptErrors;
 };

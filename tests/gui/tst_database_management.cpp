@@ -1,67 +1,53 @@
-#include "app/context/AppContext.h"
-#include "app/context/ConnectionSettings.h"
 #include "app/context/DatabaseManager.h"
 #include "shell/database/backup/DialogBackupDB.h"
+#include "support/DatabaseTest.h"
 #include "support/Hands.h"
-#include "support/Rows.h"
 #include "support/TestCluster.h"
-#include "support/TestDatabase.h"
 #include "support/TestTemplate.h"
 #include "support/WholeDatabase.h"
 
 #include <QCheckBox>
 #include <QFileDialog>
-#include <QPlainTextEdit>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QSqlQuery>
-#include <QTabWidget>
 #include <QTcpServer>
-#include <QTemporaryDir>
 
 #include <csignal>
 
 /** The owner at the form, PostgreSQL's own programs behind it. */
-class TestDatabaseManagement : public QObject
+class TestDatabaseManagement : public DatabaseTest
 {
     Q_OBJECT
 
-private slots:
-    void initTestCase() { qputenv("XDG_DATA_HOME", m_home.path().toLocal8Bit()); }
-
-    void init()
+protected:
+    void prepare() override
     {
-        m_database = std::make_unique<TestDatabase>();
-        m_people = std::make_unique<ModalDriver>();
-        ConnectionSettings settings;
-        settings.host = TestDatabase::host();
-        settings.port = TestDatabase::port();
-        settings.user = TestDatabase::user();
-        settings.database = m_database->name();
+        ConnectionSettings settings = m_database->settings();
         settings.showSidebar = false;
         QDir().mkpath(QFileInfo(ConnectionSettings::defaultPath()).path());
         QVERIFY(settings.write(ConnectionSettings::defaultPath()));
         open();
     }
-
-    void cleanup()
+    void tidy() override
     {
         m_dialog.reset();
-        m_people.reset();
         AppContext::instance()->databaseManager()->close();
         for (QString name : qAsConst(m_made))
             TestCluster::instance().run("DROP DATABASE IF EXISTS \"" + name.replace('"', "\"\"") + "\" WITH (FORCE)");
         m_made.clear();
-        m_database.reset();
         qunsetenv("ZAVEL_PG_BIN");
     }
 
+private slots:
+    void initTestCase() { qputenv("XDG_DATA_HOME", m_home.path().toLocal8Bit()); }
+
     void whatWasBackedUpComesBackAndCanBeWorkedWith_data()
     {
-        addColumns<bool>("isNew");
-        addRow("into a new database", true);
-        addRow("into an empty one", false);
+        const auto row = addColumns<bool>("isNew");
+        row("into a new database", true);
+        row("into an empty one", false);
     }
-
     void whatWasBackedUpComesBackAndCanBeWorkedWith()
     {
         QFETCH(bool, isNew);
@@ -161,21 +147,17 @@ private slots:
 
     void aBackupThatFailsIsToldAndTheEarlierOneStays_data()
     {
-        addColumns<QString, QString, QString, QString>("field", "value", "said", "shown");
-        addRow("no such host", "txtDBHost", "/nowhere", "process exited with code: 1, status:0", "DB Backup Selesai");
-        addRow("no such database", "txtDBName", "gone", "process exited with code: 1, status:0", "DB Backup Selesai");
-        addRow("no such program", "", "", "Error 0\n", "Error: ");
-        addRow("no such folder", "txtOutputFile", "/nowhere/x.bak", "", "There is no folder /nowhere.");
-        addRow("a folder", "txtOutputFile", "/tmp", "", "/tmp is no file.");
-        addRow("a folder that takes no files", "txtOutputFile", "/proc/x.bak", "", "can not be written");
+        const auto row = addColumns<QString, QString, QString, QString>("field", "value", "said", "shown");
+        row("no such host", "txtDBHost", "/nowhere", "process exited with code: 1, status:0", "DB Backup Selesai");
+        row("no such database", "txtDBName", "gone", "process exited with code: 1, status:0", "DB Backup Selesai");
+        row("no such program", "", "", "Error 0\n", "Error: ");
+        row("no such folder", "txtOutputFile", "/nowhere/x.bak", "", "There is no folder /nowhere.");
+        row("a folder", "txtOutputFile", "/tmp", "", "/tmp is no file.");
+        row("a folder that takes no files", "txtOutputFile", "/proc/x.bak", "", "can not be written");
     }
-
     void aBackupThatFailsIsToldAndTheEarlierOneStays()
     {
-        QFETCH(QString, field);
-        QFETCH(QString, value);
-        QFETCH(QString, said);
-        QFETCH(QString, shown);
+        FETCH(QString, field, value, said, shown);
         const QString path = backup();
         const QByteArray good = content(path);
         QVERIFY(!good.isEmpty());
@@ -210,11 +192,10 @@ private slots:
 
     void aBackupThatIsCutOffLeavesTheEarlierOne_data()
     {
-        addColumns<QString>("who");
+        const auto row = addColumns<QString>("who");
         for (const char* who : {"the program", "the server", "the owner"})
-            addRow(who, who);
+            row(who, who);
     }
-
     void aBackupThatIsCutOffLeavesTheEarlierOne()
     {
         QFETCH(QString, who);
@@ -307,7 +288,7 @@ private slots:
         // The name is taken: what cannot be created is not restored over either.
         m_dialog->findChild<QCheckBox*>("cbCreateNewDB")->setChecked(true);
         run("btnRestore");
-        QVERIFY(m_people->lastText().contains("holds 48 tables already"));
+        QVERIFY(m_people->lastText().contains(QRegularExpression("holds [0-9]+ tables already")));
         QCOMPARE(m_people->texts().size(), 1);
         QVERIFY(status("txtRestoreStatus").contains("Nothing was restored."));
         QCOMPARE(allRows(m_database->name()), rows);
@@ -363,11 +344,10 @@ private slots:
 
     void aRestoreThatIsCutOffIsToldAsIncomplete_data()
     {
-        addColumns<bool>("byServer");
-        addRow("the program", false);
-        addRow("the server", true);
+        const auto row = addColumns<bool>("byServer");
+        row("the program", false);
+        row("the server", true);
     }
-
     void aRestoreThatIsCutOffIsToldAsIncomplete()
     {
         QFETCH(bool, byServer);
@@ -472,8 +452,6 @@ private:
     }
 
     QTemporaryDir m_home;
-    std::unique_ptr<TestDatabase> m_database;
-    std::unique_ptr<ModalDriver> m_people;
     std::unique_ptr<DialogBackupDB> m_dialog;
     QStringList m_made;
 };

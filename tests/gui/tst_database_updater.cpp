@@ -1,18 +1,8 @@
-#include "app/context/AppContext.h"
-#include "shell/database/updater/AppDBUpdateConclusion.h"
 #include "shell/database/updater/AppDBUpdaterWizard.h"
 #include "shell/window/MainWindow.h"
-#include "support/ModalDriver.h"
+#include "support/DatabaseTest.h"
 #include "support/OldDatabase.h"
-#include "support/Rows.h"
-#include "support/TestDatabase.h"
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QLabel>
-#include <QPlainTextEdit>
-#include <QTabWidget>
-#include <QTest>
 #include <QTimer>
 
 namespace
@@ -38,29 +28,21 @@ QStringList missing(const QSet<QString>& first, const QSet<QString>& second)
 } // namespace
 
 /** A restaurant starts a newer program on the database that version 1.0 left. */
-class TestDatabaseUpdater : public QObject
+class TestDatabaseUpdater : public DatabaseTest
 {
     Q_OBJECT
 
-private slots:
-    void init()
+protected:
+    void prepare() override
     {
-        m_database = std::make_unique<TestDatabase>();
         m_newSchema = schemaOf(*m_database);
         takeBackToVersion10(*m_database);
-        loginAsAdmin();
         AppContext::instance()->setShowDashboard(false);
-        m_people = std::make_unique<ModalDriver>();
         start();
     }
+    void tidy() override { m_window.reset(); }
 
-    void cleanup()
-    {
-        m_window.reset();
-        m_people.reset();
-        m_database.reset();
-    }
-
+private slots:
     void theQuestionComesByItselfAndTheOldDatabaseBecomesANewOne()
     {
         const auto before = allRows(*m_database);
@@ -95,8 +77,7 @@ private slots:
         QCOMPARE(gone.size(), 2);
         QCOMPARE(gone.filter("detail_id_fkey").size() + gone.filter("purchase_order_id_fkey").size(), 2);
         QCOMPARE(missing(schemaOf(*m_database), m_newSchema), QStringList());
-        QCOMPARE(m_database->value("SELECT string_agg(no, ', ') FROM acquisition WHERE po_id IS NULL").toString(),
-                 QString("NB1"));
+        QCOMPARE(value("SELECT string_agg(no, ', ') FROM acquisition WHERE po_id IS NULL"), QString("NB1"));
         QMap<QString, int> lost;
         QMap<QString, int> gained;
         const auto after = allRows(*m_database);
@@ -110,11 +91,9 @@ private slots:
         QCOMPARE(gained,
                  (QMap<QString, int>{
                      {"access", 2}, {"acquisition", 1}, {"appconfig", 1}, {"business", 1}, {"permissions", 2}}));
-        QCOMPARE(m_database
-                     ->value("SELECT string_agg(group_id || ' ' || grant_type, ', ') FROM access JOIN permissions "
-                             "ON permissions.id = permission_id WHERE permission_name IN ('Add table', 'Manage "
-                             "unit')")
-                     .toString(),
+        QCOMPARE(value("SELECT string_agg(group_id || ' ' || grant_type, ', ') FROM access JOIN permissions "
+                       "ON permissions.id = permission_id WHERE permission_name IN ('Add table', 'Manage "
+                       "unit')"),
                  QString("1 2, 1 2"));
         QCOMPARE(version(), QString("1.1"));
         start();
@@ -124,11 +103,10 @@ private slots:
 
     void cancellingLeavesTheDatabaseAsItWas_data()
     {
-        addColumns<bool>("onSecondPage");
-        addRow("on the first page", false);
-        addRow("before the work begins", true);
+        const auto row = addColumns<bool>("onSecondPage");
+        row("on the first page", false);
+        row("before the work begins", true);
     }
-
     void cancellingLeavesTheDatabaseAsItWas()
     {
         QFETCH(bool, onSecondPage);
@@ -149,25 +127,9 @@ private slots:
         }
     }
 
-    void nothingIsAskedWithoutReason_data()
-    {
-        addColumns<QString>("change");
-        addRow("same version", "UPDATE appconfig SET appvalue = '1.1' WHERE appkey = 'app_version'");
-        addRow("no version", "DELETE FROM appconfig WHERE appkey = 'app_version'");
-    }
-
-    void nothingIsAskedWithoutReason()
-    {
-        QFETCH(QString, change);
-        m_database->run(change);
-        m_window->checkDBUpdate();
-        QCOMPARE(m_people->surprises(), QStringList());
-    }
-
     void doubleCodesAreToldWithTheServersWords()
     {
-        m_database->run(
-            "INSERT INTO supplier (kode, nama, alamat, telp, email, version) VALUES ('S1', 'Twin', '', '', '', "
+        run("INSERT INTO supplier (kode, nama, alamat, telp, email, version) VALUES ('S1', 'Twin', '', '', '', "
             "1)");
         update([](QWizard* wizard) {
             QTRY_VERIFY_WITH_TIMEOUT(hasEnded(wizard), longEnough);
@@ -182,12 +144,11 @@ private slots:
 
     void whoLeavesEarlyWaitsForTheEnd_data()
     {
-        addColumns<int, bool>("button", "begun");
-        addRow("finished in the middle", int(QWizard::FinishButton), true);
-        addRow("finished before the work began", int(QWizard::FinishButton), false);
-        addRow("cancelled in the middle", int(QWizard::CancelButton), true);
+        const auto row = addColumns<int, bool>("button", "begun");
+        row("finished in the middle", QWizard::FinishButton, true);
+        row("finished before the work began", QWizard::FinishButton, false);
+        row("cancelled in the middle", QWizard::CancelButton, true);
     }
-
     void whoLeavesEarlyWaitsForTheEnd()
     {
         QFETCH(int, button);
@@ -204,7 +165,7 @@ private slots:
         QVERIFY(m_people->lastText().startsWith("The database is being updated."));
         m_window->checkDBUpdate();
         QCOMPARE(m_people->surprises(), QStringList());
-        m_database->run("COMMIT");
+        run("COMMIT");
         QTRY_VERIFY_WITH_TIMEOUT(m_window->isEnabled(), longEnough);
         QTRY_VERIFY(m_people->lastText().startsWith("The update of the database has ended. Please restart the app."));
         QVERIFY(m_people->lastText().contains("permissions error:"));
@@ -220,7 +181,7 @@ private slots:
             press(wizard, QWizard::FinishButton);
         });
         QTimer::singleShot(0, this, [this] {
-            m_database->run("COMMIT");
+            run("COMMIT");
             QCoreApplication::quit();
         });
         QApplication::exec();
@@ -233,7 +194,7 @@ private slots:
         update([this](QWizard* wizard) {
             QTRY_VERIFY_WITH_TIMEOUT(isHeld(), longEnough);
             m_database->killConnections();
-            m_database->run("COMMIT");
+            run("COMMIT");
             QTRY_VERIFY_WITH_TIMEOUT(hasEnded(wizard), longEnough);
             const QString told = statusOf(wizard).join('\n');
             QVERIFY(told.contains("supplier error:"));
@@ -253,7 +214,7 @@ private slots:
 private:
     [[nodiscard]] QString version() const
     {
-        return m_database->value("SELECT appvalue FROM appconfig WHERE appkey = 'app_version'").toString();
+        return value("SELECT appvalue FROM appconfig WHERE appkey = 'app_version'");
     }
     void start()
     {
@@ -275,7 +236,7 @@ private:
     }
 
     /** Another workstation is in the middle of a supplier's record; the update comes to a stand there. */
-    void holdSuppliers() { m_database->run("BEGIN; LOCK TABLE supplier IN ACCESS EXCLUSIVE MODE"); }
+    void holdSuppliers() { run("BEGIN; LOCK TABLE supplier IN ACCESS EXCLUSIVE MODE"); }
     [[nodiscard]] bool isHeld() const
     {
         return m_database
@@ -283,8 +244,6 @@ private:
             .toBool();
     }
 
-    std::unique_ptr<TestDatabase> m_database;
-    std::unique_ptr<ModalDriver> m_people;
     std::unique_ptr<MainWindow> m_window;
     QSet<QString> m_newSchema;
 };

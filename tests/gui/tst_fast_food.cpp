@@ -1,10 +1,6 @@
-#include "app/context/AppContext.h"
-#include "kor/business/KorServiceDirectory.h"
-#include "support/ModalDriver.h"
-#include "support/Rows.h"
+#include "support/DatabaseTest.h"
 #include "support/SalesRows.h"
 #include "support/ShopRows.h"
-#include "support/TestDatabase.h"
 #include "zavel/fastfood/DialogFastFood.h"
 #include "zavel/fastfood/DialogSelectFastFoodInventory.h"
 #include "zavel/fastfood/DialogSelectFastFoodMenu.h"
@@ -13,15 +9,7 @@
 #include "zavel/fastfood/TableModelFastFoodDetail.h"
 #include "zavel/service/BusinessPenjualan.h"
 
-#include <QApplication>
-#include <QComboBox>
-#include <QDateEdit>
 #include <QDir>
-#include <QLabel>
-#include <QPushButton>
-#include <QTableView>
-#include <QTemporaryDir>
-#include <QTest>
 
 namespace
 {
@@ -46,46 +34,30 @@ QString shown(const QWidget* form, const char* field) { return form->findChild<Q
 } // namespace
 
 /** The counter: rice at 25.000 from the stock, tea at 5.000 from the menu, and a cashier who has no time. */
-class TestFastFood : public QObject
+class TestFastFood : public PageTest<TabFastFood>
 {
     Q_OBJECT
 
-private slots:
-    void init()
+protected:
+    void prepare() override
     {
-        m_spool = std::make_unique<QTemporaryDir>();
-        qputenv("ZAVEL_SPOOL_DIR", QFile::encodeName(m_spool->path()));
-        m_database = std::make_unique<TestDatabase>();
         AppContext::instance()->setLocale("id_ID");
         insertShop(*m_database);
         insertSeller(*m_database, 1, "admin");
-        loginAsAdmin();
-        m_database->run("INSERT INTO bank (kode, nama, account_type, active, version) "
-                        "VALUES ('1010', 'Cash on Hand', 1, true, 1)");
-        m_database->run("UPDATE item SET harga_jual_lokal_amount = 25000");
-        m_database->run(
-            "INSERT INTO item (kode, item_type, is_group, nama, jenis, satuan, harga_beli_currency, "
+        run("INSERT INTO bank (kode, nama, account_type, active, version) "
+            "VALUES ('1010', 'Cash on Hand', 1, true, 1)");
+        run("UPDATE item SET harga_jual_lokal_amount = 25000");
+        run("INSERT INTO item (kode, item_type, is_group, nama, jenis, satuan, harga_beli_currency, "
             "harga_beli_amount, harga_jual_lokal_currency, harga_jual_lokal_amount, sales_acct_code, "
             "inventory_acct_code, cost_of_sales_acct_code, version) SELECT 'TEA', 2, false, 'Iced tea', jenis, "
             "satuan, 'Rp', 1, 'Rp', 5000, '1-100', '1-100', '1-100', 1 FROM item");
-        m_people = std::make_unique<ModalDriver>();
     }
 
-    void cleanup()
-    {
-        m_page.reset();
-        m_people.reset();
-        service<BusinessPenjualan>("Sales")->clearErrors();
-        m_database.reset();
-        qunsetenv("ZAVEL_SPOOL_DIR");
-    }
-
-    // --- selling -----------------------------------------------------------------------------------------------------
-
+private slots:
     void aSaleIsKeyedInAndPaidByTheKeyboardAlone()
     {
         insertSale(*m_database, {"OLD", "TRF", 100, 100, 0, 1, QDate::currentDate()});
-        m_database->run("UPDATE member SET discount_percentage = 10, expired_date = current_date");
+        run("UPDATE member SET discount_percentage = 10, expired_date = current_date");
         show();
         m_people->expect<DialogFastFood>([this](DialogFastFood* form) {
             QCOMPARE(form->windowTitle(), QString("Fast Food Form"));
@@ -125,27 +97,21 @@ private slots:
         QVERIFY(stored("invoice_type, member_id, employee_id, acct_code").endsWith(",TRF 1 1 1010"));
         QVERIFY(stored("pemesan").endsWith(',' + QString(50, 'n')));
         QVERIFY(stored("member_id, employee_id, pemesan", "invoice_fast_food").endsWith(",1 1 " + QString(60, 'n')));
-        QCOMPARE(m_database->value("SELECT count(*) FROM makan_ditempat").toInt(), 0);
+        QCOMPARE(count("makan_ditempat"), 0);
     }
 
     void theMoneyDecidesWhereTheSaleStands_data()
     {
-        addColumns<QString, QString, QString, QString>("paid", "credit", "figures", "change");
-        const auto row = [](const char* name, const char* paid, const char* credit, const char* figures,
-                            const char* change) { addRow(name, paid, credit, figures, change); };
+        const auto row = addColumns<QString, QString, QString, QString>("paid", "credit", "figures", "change");
         row("nothing paid", "", "", "2 0 0 -55000", "Less : Rp55.000");
         row("a part", "20000", "", "3 20000 0 -35000", "Less : Rp35.000");
         row("the sum", "55000", "", "1 55000 0 0", "Change : Rp0");
         row("a larger note", "100000", "", "1 100000 0 45000", "Change : Rp45.000");
         row("on credit", "", "55000", "1 0 55000 0", "Change : Rp0");
     }
-
     void theMoneyDecidesWhereTheSaleStands()
     {
-        QFETCH(QString, paid);
-        QFETCH(QString, credit);
-        QFETCH(QString, figures);
-        QFETCH(QString, change);
+        FETCH(QString, paid, credit, figures, change);
         show();
         const auto* shownChange = m_page->findChild<QLabel*>("lblChange");
         QVERIFY(!shownChange->isVisible());
@@ -173,7 +139,7 @@ private slots:
 
     void aSaveThatFailsKeepsWhatWasTyped()
     {
-        m_database->run("UPDATE keytable SET key_name = 'gone' WHERE key_name = 'TRF'");
+        run("UPDATE keytable SET key_name = 'gone' WHERE key_name = 'TRF'");
         show();
         sell([this](DialogFastFood* form) {
             QTest::keyClicks(form->focusWidget(), "60000");
@@ -182,7 +148,7 @@ private slots:
             QCOMPARE(shown(form, "txtPaid"), QString("60.000,00"));
             QCOMPARE(form->findChild<QTableView*>("tblMenu")->model()->rowCount(), 2);
             QCOMPARE(stored("id") + stored("id", "invoice_fast_food") + stored("id", "invoice_detail"), QString());
-            m_database->run("UPDATE keytable SET key_name = 'TRF' WHERE key_name = 'gone'");
+            run("UPDATE keytable SET key_name = 'TRF' WHERE key_name = 'gone'");
             m_people->answer(QMessageBox::No);
             QTest::keyClick(form->focusWidget(), Qt::Key_Return);
         });
@@ -194,12 +160,10 @@ private slots:
         QCOMPARE(stored("qty", "invoice_detail"), QString("1,2"));
     }
 
-    // --- what was sold -----------------------------------------------------------------------------------------------
-
     void anEditKeepsTheNumberAndReplacesTheLines()
     {
         insertSale(*m_database, {"F1", "TRF", 100, 40, 0, 3, QDate::currentDate(), "", 1, 1, 1, 1});
-        m_database->run("UPDATE invoice_fast_food SET pemesan = 'Bob'");
+        run("UPDATE invoice_fast_food SET pemesan = 'Bob'");
         show();
         QCOMPARE(column(Column::Guest), QStringList("Bob"));
         m_people->expect<DialogFastFood>([this](DialogFastFood* form) {
@@ -224,30 +188,6 @@ private slots:
         QCOMPARE(stored("version, agent_id, pemesan, member_id", "invoice_fast_food"), QString("2 1 Bob"));
         QCOMPARE(stored("qty, total_amount", "invoice_detail"), QString("1 100,2 10000"));
         QVERIFY(m_database->value("SELECT min(id) FROM invoice_detail").toInt() > 1);
-    }
-
-    void anEditThatSomebodyElseWasFasterWithIsTold()
-    {
-        insertSale(*m_database, {"F1", "TRF", 100, 40, 0, 3, QDate::currentDate()});
-        show();
-        m_people->expect<DialogFastFood>([this](DialogFastFood* form) {
-            m_database->run("UPDATE invoice SET version = 9");
-            bringToFront(form);
-            type(form, "txtPaid", "70");
-            QTest::keyClick(form->focusWidget(), Qt::Key_Return);
-            QVERIFY(form->isVisible());
-            QCOMPARE(shown(form, "txtNetDue"), QString("-30,00"));
-            QTest::keyClick(form, Qt::Key_Escape);
-        });
-        press(Qt::Key_F2);
-        QTRY_VERIFY(m_people->finished() && m_people->boxes().size() == 1);
-        QVERIFY2(m_people->lastText().startsWith("error: insert fast food invoice failed"),
-                 qPrintable(m_people->lastText()));
-        QCOMPARE(stored("amount_paid_amount"), QString("40"));
-        QCOMPARE(stored("id", "invoice_detail"), QString("1"));
-        m_database->run("TRUNCATE invoice CASCADE");
-        press(Qt::Key_F2);
-        QTRY_COMPARE(m_people->lastText(), QString("Can not find entity #1"));
     }
 
     void theListIsNarrowedByDayStatusAndWaitress()
@@ -281,61 +221,8 @@ private slots:
         QCOMPARE(m_people->texts(), QStringList());
     }
 
-    void aDeletedSaleLeavesNothing()
-    {
-        insertSale(*m_database, {"F1", "TRF", 100, 40, 0, 3, QDate::currentDate()});
-        show();
-        m_people->answer(QMessageBox::No);
-        press(Qt::Key_Delete);
-        QTRY_COMPARE(m_people->texts(), QStringList("Are you sure, you want to delete this invoice: F1 ?"));
-        QCOMPARE(m_people->lastTitle(), QString("Delete"));
-        QCOMPARE(stored("no"), QString("F1"));
-        m_people->answer(QMessageBox::Yes);
-        press(Qt::Key_Delete);
-        QTRY_COMPARE(column(Column::InvoiceNo), QStringList());
-        QCOMPARE(stored("id") + stored("id", "invoice_fast_food") + stored("id", "invoice_detail"), QString());
-    }
-
-    void nothingHappensWithoutTheRight_data()
-    {
-        using Grants = QList<QPair<int, int>>;
-        const int save = BusinessPenjualan::SAVE_INVOICE;
-        const int change = BusinessPenjualan::UBAH_PESANAN;
-        const int ownRecords = 1;
-        addColumns<int, Grants>("key", "grants");
-        addRow("add", int(Qt::Key_F12), Grants{});
-        addRow("edit without the right to take money", int(Qt::Key_F2), Grants{{change, 2}});
-        addRow("edit without the right to change", int(Qt::Key_F2), Grants{{save, 2}});
-        addRow("edit what another sold", int(Qt::Key_F2), Grants{{save, 2}, {change, ownRecords}});
-        addRow("delete what another sold", int(Qt::Key_Delete), Grants{{BusinessPenjualan::DELETE_SALES, ownRecords}});
-    }
-
-    void nothingHappensWithoutTheRight()
-    {
-        using Grants = QList<QPair<int, int>>;
-        QFETCH(int, key);
-        QFETCH(Grants, grants);
-        insertSale(*m_database, {"F1", "TRF", 100, 40, 0, 3, QDate::currentDate()});
-        loginWithRights("Sales", grants);
-        show();
-        press(static_cast<Qt::Key>(key));
-        QTRY_COMPARE(m_people->boxes().size(), 1);
-        QVERIFY2(m_people->lastText().startsWith("You don't have access."), qPrintable(m_people->lastText()));
-        QVERIFY(m_people->finished());
-        QCOMPARE(stored("no, version"), QString("F1 1"));
-    }
-
 private:
     using FormStep = std::function<void(DialogFastFood*)>;
-
-    void show()
-    {
-        m_page = std::make_unique<TabFastFood>();
-        m_page->resize(1100, 600);
-        m_page->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_page.get()));
-        m_grid = m_page->findChild<QTableView*>("tblMeja");
-    }
 
     void press(Qt::Key key)
     {
@@ -380,27 +267,12 @@ private:
         press(Qt::Key_F12);
     }
 
-    [[nodiscard]] QStringList column(Column column) const
-    {
-        QStringList texts;
-        for (int row = 0; row < m_grid->model()->rowCount(); ++row)
-            texts.append(m_grid->model()->index(row, column).data().toString());
-        return texts;
-    }
-
     QString stored(const QString& columns, const QString& table = "invoice")
     {
-        return m_database->value("SELECT string_agg(concat_ws(' ', " + columns + "), ',' ORDER BY id) FROM " + table)
-            .toString();
+        return value("SELECT string_agg(concat_ws(' ', " + columns + "), ',' ORDER BY id) FROM " + table);
     }
 
     [[nodiscard]] QStringList slips() const { return QDir(m_spool->path()).entryList({"*.slip"}, QDir::Files); }
-
-    std::unique_ptr<QTemporaryDir> m_spool;
-    std::unique_ptr<TestDatabase> m_database;
-    std::unique_ptr<ModalDriver> m_people;
-    std::unique_ptr<TabFastFood> m_page;
-    QTableView* m_grid = nullptr;
 };
 
 QTEST_MAIN(TestFastFood)

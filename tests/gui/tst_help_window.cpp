@@ -54,14 +54,13 @@ class TestHelpWindow : public QObject
 private slots:
     void everyLinkAndPictureOfThePageIsThere_data()
     {
-        addColumns<QString>("path");
+        const auto row = addColumns<QString>("path");
         for (const char* language : {"en", "id"}) {
             for (const QString& page : HelpWindow::pages())
-                addRow(qPrintable(QString("%1: %2").arg(language, page)),
-                       QString("%1/%2/%3").arg(folder(), language, page));
+                row(qPrintable(QString("%1: %2").arg(language, page)),
+                    QString("%1/%2/%3").arg(folder(), language, page));
         }
     }
-
     void everyLinkAndPictureOfThePageIsThere()
     {
         QFETCH(QString, path);

@@ -14,6 +14,7 @@
 #include <QAbstractButton>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QRegularExpression>
 #include <QSqlQuery>
 #include <QTcpServer>
 #include <QTemporaryDir>
@@ -44,13 +45,8 @@ private slots:
         m_backup = m_home.filePath("l'\u00e9t\u00e9 a.bak");
         TestDatabase database;
         database.run("INSERT INTO meja (kode, nama, createdby, version) VALUES ('m9', 'Sold at already', 1, 1)");
-        ConnectionSettings connection;
-        connection.host = TestDatabase::host();
-        connection.port = TestDatabase::port();
-        connection.user = TestDatabase::user();
-        connection.database = database.name();
         ClientProcess dump;
-        dump.run(ClientPrograms::backup(connection, m_backup));
+        dump.run(ClientPrograms::backup(database.settings(), m_backup));
         QVERIFY(dump.waitForFinished(30000) && dump.succeeded());
 
         // One role alone is asked for its password.
@@ -112,17 +108,16 @@ private slots:
 
     void anEmptyLineHoldsNext_data()
     {
-        addColumns<QString, QStringList>("group", "lines");
+        const auto row = addColumns<QString, QStringList>("group", "lines");
         const QString fresh = "dbserverfresh";
         const QString restore = "dbserverrestore";
-        addRow("fresh", fresh,
-               QStringList{fresh + ".hostname", fresh + ".username", fresh + ".password", fresh + ".dbname",
-                           fresh + ".dbport", "admin.username", "admin.password"});
-        addRow("restore", restore,
-               QStringList{restore + ".hostname", restore + ".username", restore + ".password", restore + ".dbport",
-                           "restore.file", "restore.dbname"});
+        row("fresh", fresh,
+            {fresh + ".hostname", fresh + ".username", fresh + ".password", fresh + ".dbname", fresh + ".dbport",
+             "admin.username", "admin.password"});
+        row("restore", restore,
+            {restore + ".hostname", restore + ".username", restore + ".password", restore + ".dbport", "restore.file",
+             "restore.dbname"});
     }
-
     void anEmptyLineHoldsNext()
     {
         QFETCH(QString, group);
@@ -140,18 +135,16 @@ private slots:
 
     void aServerThatRefusesKeepsThePage_data()
     {
-        addColumns<QString, QString>("line", "value");
-        addRow("host", "hostname", "/no/such/socket");
-        addRow("port", "dbport", "1");
-        addRow("user", "username", "nobody_of_that_name");
-        addRow("password", "username", askedRole);
-        addRow("database", "dbname", "no such database");
+        const auto row = addColumns<QString, QString>("line", "value");
+        row("host", "hostname", "/no/such/socket");
+        row("port", "dbport", "1");
+        row("user", "username", "nobody_of_that_name");
+        row("password", "username", askedRole);
+        row("database", "dbname", "no such database");
     }
-
     void aServerThatRefusesKeepsThePage()
     {
-        QFETCH(QString, line);
-        QFETCH(QString, value);
+        FETCH(QString, line, value);
         enter("dbserverfresh", {{"dbserverfresh." + line, value}});
         next();
         QCOMPARE(m_people->texts(), QStringList{noConnection});
@@ -243,28 +236,20 @@ private slots:
 
     void aBackupIsRestored_data()
     {
-        addColumns<QString, QString, bool, QString, QString, QString, bool>("name", "before", "create", "file", "told",
-                                                                            "box", "settings");
-        addRow("into a new database", awkwardName, "", true, "", "process exited with code: 0, status: 0", restored,
-               true);
-        addRow("into an existing database", "exists -w", "CREATE DATABASE %1", false, "", "code: 0, status: 0",
-               restored, true);
-        addRow("the database to create is there", "exists", "CREATE DATABASE %1", true, "", "was NOT created", restored,
-               true);
-        addRow("there is no such database", "nowhere", "", false, "", "was NOT restored completely", noConnection,
-               false);
-        addRow("no backup at all", "empty", "", true, "/no/such.bak", "begins the wizard once more", "", false);
+        const auto row = addColumns<QString, QString, bool, QString, QString, QString, bool>(
+            "name", "before", "create", "file", "told", "box", "settings");
+        row("into a new database", awkwardName, "", true, "", "process exited with code: 0, status: 0", restored, true);
+        row("into an existing database", "exists -w", "CREATE DATABASE %1", false, "", "code: 0, status: 0", restored,
+            true);
+        row("the database to create is there", "exists", "CREATE DATABASE %1", true, "", "was NOT created", restored,
+            true);
+        row("there is no such database", "nowhere", "", false, "", "was NOT restored completely", noConnection, false);
+        row("no backup at all", "empty", "", true, "/no/such.bak", "begins the wizard once more", "", false);
     }
-
     void aBackupIsRestored()
     {
-        QFETCH(QString, name);
-        QFETCH(QString, before);
-        QFETCH(bool, create);
-        QFETCH(QString, file);
-        QFETCH(QString, told);
-        QFETCH(QString, box);
-        QFETCH(bool, settings);
+        FETCH(QString, name, before, file, told, box);
+        FETCH(bool, create, settings);
         make(name);
         if (!before.isEmpty())
             TestCluster::instance().run(before.arg(identifier(name)));
@@ -300,7 +285,8 @@ private slots:
         m_people->answer(QMessageBox::Yes);
         next();
         QCOMPARE(m_wizard->field("dbserverrestore.dbport").toInt(), TestDatabase::port());
-        QVERIFY2(m_people->lastText().contains("holds 48 tables already"), qPrintable(m_people->lastText()));
+        QVERIFY2(m_people->lastText().contains(QRegularExpression("holds [0-9]+ tables already")),
+                 qPrintable(m_people->lastText()));
         QCOMPARE(m_wizard->currentId(), 3);
         QVERIFY(!hasSettings());
 
@@ -318,32 +304,15 @@ private slots:
         QCOMPARE(query.value(0).toString(), QString("m1,m2,m9,m10"));
     }
 
-    void aDatabaseComesBackWhereNoNewOneCanBeMade()
-    {
-        TestCluster& cluster = TestCluster::instance();
-        const QString name = make("comes back");
-        cluster.run("CREATE DATABASE " + identifier(name) + " TEMPLATE " + installedTemplateName());
-        breakTools({"createdb"});
-        enter("dbserverrestore", {{"restore.dbname", name}});
-        m_people->answer(QMessageBox::Yes);
-        next();
-        waitForTheEnd();
-        QVERIFY(cluster.hasDatabase(name));
-        QVERIFY2(status().endsWith("Nothing was restored into them.\n"), qPrintable(status()));
-        QVERIFY(!hasSettings());
-    }
-
     void aDatabaseThatCanNotMakeWayStays_data()
     {
-        addColumns<QString, QString>("file", "said");
-        addRow("another till works with it", "", "was not replaced");
-        addRow("the file is no backup", "/etc/hostname", "can not be read as a backup");
+        const auto row = addColumns<QString, QString>("file", "said");
+        row("another till works with it", "", "was not replaced");
+        row("the file is no backup", "/etc/hostname", "can not be read as a backup");
     }
-
     void aDatabaseThatCanNotMakeWayStays()
     {
-        QFETCH(QString, file);
-        QFETCH(QString, said);
+        FETCH(QString, file, said);
         m_database = std::make_unique<TestDatabase>();
         enter("dbserverrestore", {{"restore.file", file.isEmpty() ? m_backup : file}});
         m_people->answer(QMessageBox::Yes);
@@ -370,15 +339,13 @@ private slots:
 
     void whatKeepsTheServerAwayIsHelped_data()
     {
-        addColumns<QString, QString, int>("line", "value", "press");
-        addRow("port", "dbport", "1", int(QMessageBox::Retry));
-        addRow("database", "dbname", awkwardName, int(QMessageBox::Yes));
+        const auto row = addColumns<QString, QString, int>("line", "value", "press");
+        row("port", "dbport", "1", QMessageBox::Retry);
+        row("database", "dbname", awkwardName, QMessageBox::Yes);
     }
-
     void whatKeepsTheServerAwayIsHelped()
     {
-        QFETCH(QString, line);
-        QFETCH(QString, value);
+        FETCH(QString, line, value);
         QFETCH(int, press);
         make(awkwardName);
         enter("dbserverfresh", {{"dbserverfresh." + line, value}});

@@ -1,67 +1,43 @@
-#include "kor/business/KorServiceDirectory.h"
 #include "pos/masterdata/item/BusinessItem.h"
 #include "pos/masterdata/item/DialogItem.h"
 #include "pos/masterdata/item/DialogSubItem.h"
-#include "pos/masterdata/item/InventoryTextBox.h"
-#include "pos/masterdata/item/ItemTextBox.h"
-#include "pos/masterdata/item/ServiceTextBox.h"
 #include "pos/masterdata/item/TabSubItem.h"
+#include "support/DatabaseTest.h"
 #include "support/MasterFamilies.h"
-#include "support/ModalDriver.h"
-#include "support/Rows.h"
-#include "support/TestDatabase.h"
 
 #include <QCheckBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QRadioButton>
-#include <QTabWidget>
-#include <QTableView>
-#include <QTest>
-#include <QTreeWidget>
 
 /** The form of an item: how its class, its grouping, its components and its accounts hang together. */
-class TestItemForm : public QObject
+class TestItemForm : public DatabaseTest
 {
     Q_OBJECT
 
-private slots:
-    void initTestCase() { m_database = std::make_unique<TestDatabase>(); }
-    void cleanupTestCase() { m_database.reset(); }
-    void init()
-    {
-        loginAsAdmin();
-        m_people = std::make_unique<ModalDriver>();
-    }
+protected:
+    void tidy() override { m_form.reset(); }
 
-    void cleanup()
-    {
-        m_form.reset();
-        m_people.reset();
-    }
+private slots:
+    void initTestCase() { keepDatabase(); }
 
     void theGroupBoxFollowsTheClass_data()
     {
-        addColumns<QString, QString, QString>("item", "clicks", "expected");
+        const auto row = addColumns<QString, QString, QString>("item", "clicks", "expected");
 
-        addRow("new", "", "", "");
-        addRow("a new one has no components before it is saved", "", "group", "ticked");
-        addRow("a service is not grouped", "", "group service", "locked");
-        addRow("back to stock", "", "service stock", "");
-        addRow("a saved stock item", "ns", "", "");
-        addRow("a saved stock item is grouped", "ns", "group", "ticked components");
-        addRow("no longer grouped, the box locks itself", "ns", "group group", "locked");
-        addRow("a grouped menu item", "fr", "", "ticked components");
-        addRow("a grouped menu item is no longer", "fr", "group", "locked");
-        addRow("a grouped menu item becomes stock", "fr", "stock", "ticked components");
-        addRow("to stock and back", "fr", "stock service", "locked");
+        row("new", "", "", "");
+        row("a new one has no components before it is saved", "", "group", "ticked");
+        row("a service is not grouped", "", "group service", "locked");
+        row("back to stock", "", "service stock", "");
+        row("a saved stock item", "ns", "", "");
+        row("a saved stock item is grouped", "ns", "group", "ticked components");
+        row("no longer grouped, the box locks itself", "ns", "group group", "locked");
+        row("a grouped menu item", "fr", "", "ticked components");
+        row("a grouped menu item is no longer", "fr", "group", "locked");
+        row("a grouped menu item becomes stock", "fr", "stock", "ticked components");
+        row("to stock and back", "fr", "stock service", "locked");
     }
-
     void theGroupBoxFollowsTheClass()
     {
-        QFETCH(QString, item);
-        QFETCH(QString, clicks);
+        FETCH(QString, item, clicks);
         open(item);
         const QMap<QString, QAbstractButton*> buttons{{"service", in<QRadioButton>("rbService")},
                                                       {"stock", in<QRadioButton>("rbStok")},
@@ -77,18 +53,6 @@ private slots:
         if (in<QTabWidget>("tabItem")->isTabEnabled(1))
             state.append("components");
         QTEST(state.join(' '), "expected");
-    }
-
-    void aNewItemHasTheUsualAccounts()
-    {
-        open();
-        QVERIFY(in<QRadioButton>("rbStok")->isChecked());
-        QCOMPARE(in<QLineEdit>("txtSalesAccount")->text(), QString("4050"));
-        QCOMPARE(in<QLabel>("lblSales")->text(), QString("Sales of Materials"));
-        QCOMPARE(in<QLineEdit>("txtInvAccount")->text(), QString("1200"));
-        QCOMPARE(in<QLabel>("lblInventory")->text(), QString("Inventory"));
-        QCOMPARE(in<QLineEdit>("txtCostOfSalesAccount")->text(), QString("5000"));
-        QCOMPARE(in<QLabel>("lblCostOfSales")->text(), QString("Cost of Sales"));
     }
 
     void anAccountIsTypedOrChosen()
@@ -125,7 +89,7 @@ private slots:
 
     void componentsAreAddedOnce()
     {
-        m_database->run("DELETE FROM grouped_item WHERE original_item_id = (SELECT id FROM item WHERE kode = 'aym')");
+        run("DELETE FROM grouped_item WHERE original_item_id = (SELECT id FROM item WHERE kode = 'aym')");
         showComponents();
         m_people->expect<DialogSubItem>([](DialogSubItem* form) { form->accept(); });
         m_people->expect<DialogSubItem>([](DialogSubItem* form) {
@@ -182,31 +146,6 @@ private slots:
         QTRY_VERIFY(!m_form->isVisible());
     }
 
-    void eachLookupFindsItsOwnItems()
-    {
-        QLineEdit editor;
-        auto* items = service<BusinessItem>("Item");
-        const int foods = items->findByCode("ns")->getJenis()->getId();
-        const auto found = [](AppLookupBox& box, const QString& text) {
-            box.search(text);
-            QStringList rows;
-            for (int row = 0; row < box.items().size(); ++row)
-                rows.append(box.rowText(row, 0).toString() + ' ' + box.rowText(row, box.columnCount() - 1).toString());
-            return rows.join(", ");
-        };
-        InventoryTextBox stock(&editor, items);
-        QCOMPARE(found(stock, "RIC"), QString("ns Rice"));
-        stock.setItemType(foods + 1);
-        QCOMPARE(found(stock, "RIC"), QString());
-        ServiceTextBox menu(&editor, items);
-        menu.setItemType(foods);
-        QCOMPARE(found(menu, "rice"), QString("llp Foods, fr Foods"));
-        ItemTextBox any(&editor, items);
-        QCOMPARE(found(any, "fri"), QString("aym Fried Chicken, fr Fried Rice"));
-        any.setItemType("mnm");
-        QCOMPARE(found(any, "fri"), QString());
-    }
-
 private:
     void open(const QString& code = QString())
     {
@@ -224,11 +163,10 @@ private:
     }
     [[nodiscard]] QString quantityOf(const QString& component)
     {
-        return m_database
-            ->value("SELECT string_agg(jumlah::text, ',') FROM grouped_item, item WHERE item.id = original_item_id AND "
-                    "kode = '" +
-                    component + '\'')
-            .toString();
+        return value(
+            "SELECT string_agg(jumlah::text, ',') FROM grouped_item, item WHERE item.id = original_item_id AND "
+            "kode = '" +
+            component + '\'');
     }
 
     void showComponents()
@@ -237,8 +175,6 @@ private:
         in<QTabWidget>("tabItem")->setCurrentIndex(1);
     }
 
-    std::unique_ptr<TestDatabase> m_database;
-    std::unique_ptr<ModalDriver> m_people;
     std::unique_ptr<DialogItem> m_form;
 };
 

@@ -1,44 +1,27 @@
 #include "pos/masterdata/item/DialogItem.h"
 #include "pos/masterdata/item/TabItem.h"
+#include "support/DatabaseTest.h"
 #include "support/MasterFamilies.h"
-#include "support/ModalDriver.h"
-#include "support/Rows.h"
-#include "support/TestDatabase.h"
 
 #include <QAbstractItemModelTester>
 #include <QAbstractProxyModel>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QTabWidget>
-#include <QTableView>
-#include <QTest>
 
 /** The list of items, worked on as a manager does. */
-class TestItemPage : public QObject
+class TestItemPage : public PageTest<TabItem>
 {
     Q_OBJECT
 
-private slots:
-    void init()
+protected:
+    void prepare() override
     {
-        m_database = std::make_unique<TestDatabase>();
-        m_database->run("UPDATE stok_awal SET jumlah = 8 WHERE item_id = (SELECT id FROM item WHERE kode = 'ns')");
-        loginAsAdmin();
-        m_people = std::make_unique<ModalDriver>();
+        run("UPDATE stok_awal SET jumlah = 8 WHERE item_id = (SELECT id FROM item WHERE kode = 'ns')");
         m_page = std::make_unique<TabItem>();
         m_page->show();
         QVERIFY(QTest::qWaitForWindowActive(m_page.get()));
         m_grid = m_page->findChild<QTableView*>("tblItem");
     }
 
-    void cleanup()
-    {
-        m_page.reset();
-        m_people.reset();
-        m_database.reset();
-    }
-
+private slots:
     void theListTellsPricesStockAndUnit()
     {
         QStringList headers;
@@ -68,8 +51,7 @@ private slots:
 
     void aLongListTakesTwoStatements()
     {
-        m_database->run(
-            "INSERT INTO item (kode, item_type, is_group, nama, jenis, satuan, harga_beli_currency, "
+        run("INSERT INTO item (kode, item_type, is_group, nama, jenis, satuan, harga_beli_currency, "
             "harga_beli_amount, harga_jual_lokal_currency, harga_jual_lokal_amount, sales_acct_code, "
             "inventory_acct_code, cost_of_sales_acct_code, version) SELECT 'i' || n, 1, false, 'Item ' || n, "
             "jenis, satuan, 'Rp', n, 'Rp', 2 * n, '4050', '1200', '5000', 1 FROM item, generate_series(1, 300) n "
@@ -83,21 +65,18 @@ private slots:
 
     void filterAndTypeNarrowTheList_data()
     {
-        addColumns<QString, QString, int>("filter", "type", "rows");
-        addRow("all", "", "All", 5);
-        addRow("by name", "RICE", "All", 3);
-        addRow("drinks", "", "Drinks", 1);
-        addRow("rice among drinks", "rice", "Drinks", 0);
-        addRow("rice among foods", "rice", "Foods", 3);
+        const auto row = addColumns<QString, QString, int>("filter", "type", "rows");
+        row("all", "", "All", 5);
+        row("by name", "RICE", "All", 3);
+        row("drinks", "", "Drinks", 1);
+        row("rice among drinks", "rice", "Drinks", 0);
+        row("rice among foods", "rice", "Foods", 3);
     }
-
     void filterAndTypeNarrowTheList()
     {
-        QFETCH(QString, filter);
-        QFETCH(QString, type);
+        FETCH(QString, filter, type);
         QFETCH(int, rows);
-        m_database->run(
-            "INSERT INTO item (kode, item_type, is_group, nama, jenis, satuan, harga_beli_currency, "
+        run("INSERT INTO item (kode, item_type, is_group, nama, jenis, satuan, harga_beli_currency, "
             "harga_beli_amount, harga_jual_lokal_currency, harga_jual_lokal_amount, sales_acct_code, "
             "inventory_acct_code, cost_of_sales_acct_code, version) SELECT 'tea', 2, false, 'Tea', "
             "(SELECT id FROM jenis_item WHERE kode = 'mnm'), satuan, 'Rp', 1, 'Rp', 2, '4050', '1200', '5000', 1 "
@@ -129,10 +108,8 @@ private slots:
         QCOMPARE(cell("EGG", 6), QString("$2,500.00"));
         QCOMPARE(cell("EGG", 4), QString("Foods"));
         QCOMPARE(cell("EGG", 8), QString("Packs"));
-        QCOMPARE(m_database
-                     ->value("SELECT sales_acct_code || ' ' || inventory_acct_code || ' ' || cost_of_sales_acct_code "
-                             "FROM item WHERE kode = 'EGG'")
-                     .toString(),
+        QCOMPARE(value("SELECT sales_acct_code || ' ' || inventory_acct_code || ' ' || cost_of_sales_acct_code "
+                       "FROM item WHERE kode = 'EGG'"),
                  QString("4050 1200 5000"));
         QCOMPARE(
             m_database->value("SELECT jumlah FROM stok_awal, item WHERE item.id = item_id AND kode = 'EGG'").toInt(),
@@ -171,9 +148,7 @@ private slots:
         QTest::keyClick(m_grid, Qt::Key_F2);
         QTRY_COMPARE(cell("fr", 6), QString("$7.00"));
         QVERIFY2(m_people->boxes().isEmpty(), qPrintable(m_people->lastText()));
-        QCOMPARE(
-            m_database->value("SELECT is_group::text || item_type || version FROM item WHERE kode = 'fr'").toString(),
-            QString("true22"));
+        QCOMPARE(value("SELECT is_group::text || item_type || version FROM item WHERE kode = 'fr'"), QString("true22"));
     }
 
     void aTakenCodeIsRefusedButTheOwnIsNot()
@@ -190,21 +165,6 @@ private slots:
         QTest::keyClick(m_grid, Qt::Key_F2);
         QTRY_COMPARE(cell("NS", 2), QString("Rice"));
         QCOMPARE(m_people->texts(), QStringList{"This item code is already in use please use another code\r\n"});
-    }
-
-    void aComponentCannotBeDeleted()
-    {
-        choose("ns");
-        m_people->answer(QMessageBox::Yes);
-        QTest::keyClick(m_grid, Qt::Key_Delete);
-        QTRY_COMPARE(m_people->texts(), (QStringList{"Are you sure you want to delete this item: Rice ?",
-                                                     "This item is used by: Fried Rice. Please delete it first!\r\n"}));
-        m_page->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(m_page.get()));
-        choose("llp");
-        m_people->answer(QMessageBox::Yes);
-        QTest::keyClick(m_grid, Qt::Key_Delete);
-        QTRY_COMPARE(count(), 3);
     }
 
 private:
@@ -226,11 +186,6 @@ private:
     }
 
     [[nodiscard]] int count() const { return m_grid->model()->rowCount(); }
-
-    std::unique_ptr<TestDatabase> m_database;
-    std::unique_ptr<ModalDriver> m_people;
-    std::unique_ptr<TabItem> m_page;
-    QTableView* m_grid = nullptr;
 };
 
 QTEST_MAIN(TestItemPage)

@@ -1,35 +1,22 @@
-#include "app/context/AppContext.h"
 #include "app/context/DatabaseManager.h"
-#include "kor/business/KorServiceDirectory.h"
 #include "kor/persistence/KorConnectionProbe.h"
-#include "support/Builders.h"
+#include "support/DatabaseTest.h"
 #include "support/Golden.h"
-#include "support/ModalDriver.h"
+#include "support/StallingProxy.h"
 #include "support/TestCluster.h"
-#include "support/TestDatabase.h"
 #include "zavel/dinein/TableModelMakanDitempatDetail.h"
 #include "zavel/kitchen/TabPesananMasuk.h"
 #include "zavel/kitchen/TableModelQueue.h"
 #include "zavel/kitchen/TableModelQueueMenu.h"
 #include "zavel/service/BusinessPenjualan.h"
 
-#include <QApplication>
-#include <QComboBox>
 #include <QDir>
-#include <QLabel>
-#include <QLineEdit>
 #include <QMessageBox>
-#include <QPushButton>
 #include <QRegularExpression>
 #include <QScrollBar>
 #include <QSignalSpy>
-#include <QTableView>
-#include <QTemporaryDir>
-#include <QTest>
 #include <QTimer>
 
-#include <netinet/in.h>
-#include <sys/socket.h>
 #include <unistd.h>
 
 namespace
@@ -45,62 +32,25 @@ int residentMemory()
         return 0;
     return static_cast<int>(file.readAll().split(' ').value(1).toLongLong() * sysconf(_SC_PAGESIZE) / 1024);
 }
-
-/** A server that takes calls and never says a word. */
-class SilentServer
-{
-public:
-    SilentServer()
-    {
-        sockaddr_in address{};
-        address.sin_family = AF_INET;
-        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-        socklen_t size = sizeof address;
-        if (bind(m_socket, reinterpret_cast<sockaddr*>(&address), size) != 0 || listen(m_socket, 8) != 0 ||
-            getsockname(m_socket, reinterpret_cast<sockaddr*>(&address), &size) != 0)
-            qFatal("no port to listen on");
-        m_port = ntohs(address.sin_port);
-    }
-    ~SilentServer() { ::close(m_socket); }
-    Q_DISABLE_COPY(SilentServer)
-
-    [[nodiscard]] int port() const { return m_port; }
-
-private:
-    int m_socket = socket(AF_INET, SOCK_STREAM, 0);
-    int m_port = 0;
-};
 } // namespace
 
 /** The kitchen's screen on a Saturday night: nobody at the mouse, and it has to be right. */
-class TestKitchen : public QObject
+class TestKitchen : public PageTest<TabPesananMasuk>
 {
     Q_OBJECT
 
-private slots:
-    void init()
+protected:
+    void prepare() override
     {
-        m_spool = std::make_unique<QTemporaryDir>();
-        qputenv("ZAVEL_SPOOL_DIR", QFile::encodeName(m_spool->path()));
-        m_database = std::make_unique<TestDatabase>();
         // The page asks for no right, not even the one that is named after what it does.
         loginWithRights("Sales", {});
         m_make = std::make_unique<Builders>();
-        m_people = std::make_unique<ModalDriver>();
         m_sales = service<BusinessPenjualan>("Sales");
         m_rice = m_make->item("RICE", "Fried rice", 25000);
         m_tea = m_make->item("TEA", "Iced tea", 5000);
     }
 
-    void cleanup()
-    {
-        m_page.reset();
-        m_people.reset();
-        m_make.reset();
-        m_database.reset();
-        qunsetenv("ZAVEL_SPOOL_DIR");
-    }
-
+private slots:
     void theQueueTellsWhoWaitsAndForHowLong()
     {
         EntityBawaPulang* takeAway = m_make->takeAway({{m_tea, 2}}, "Bob");
@@ -441,9 +391,10 @@ private slots:
     {
         m_make->openOrder(m_make->table("t1"), {m_make->line(m_rice, 1)});
         show();
-        const SilentServer silent;
+        StallingProxy silent;
+        silent.takeInSilence();
         QSqlDatabase connection = AppContext::instance()->databaseManager()->database();
-        connection.setHostName("127.0.0.1");
+        connection.setHostName(StallingProxy::host());
         connection.setPort(silent.port());
         connection.setConnectOptions("connect_timeout=2");
         m_database->killConnections();
@@ -500,11 +451,6 @@ private:
         return texts;
     }
 
-    std::unique_ptr<QTemporaryDir> m_spool;
-    std::unique_ptr<TestDatabase> m_database;
-    std::unique_ptr<Builders> m_make;
-    std::unique_ptr<ModalDriver> m_people;
-    std::unique_ptr<TabPesananMasuk> m_page;
     BusinessPenjualan* m_sales = nullptr;
     EntityItem* m_rice = nullptr;
     EntityItem* m_tea = nullptr;

@@ -1,9 +1,6 @@
 #include "pos/invoice/EntityInvoiceDetail.h"
-#include "support/Builders.h"
+#include "support/DatabaseTest.h"
 #include "support/Hands.h"
-#include "support/ModalDriver.h"
-#include "support/Rows.h"
-#include "support/TestDatabase.h"
 #include "zavel/dinein/DialogBayarMakanDitempat.h"
 #include "zavel/dinein/DialogMakanDitempat.h"
 #include "zavel/dinein/TabBayarMakanDitempatDetail.h"
@@ -13,12 +10,8 @@
 
 #include <QDir>
 #include <QFile>
-#include <QLineEdit>
 #include <QRandomGenerator>
 #include <QRegularExpression>
-#include <QTableView>
-#include <QTemporaryDir>
-#include <QTest>
 
 namespace
 {
@@ -35,17 +28,13 @@ struct Cook
 } // namespace
 
 /** Evenings of random orders: each kitchen knows at every moment what the guests at each table still want of it. */
-class TestKitchenEvening : public QObject
+class TestKitchenEvening : public DatabaseTest
 {
     Q_OBJECT
 
-private slots:
-    void init()
+protected:
+    void prepare() override
     {
-        m_spool = std::make_unique<QTemporaryDir>();
-        qputenv("ZAVEL_SPOOL_DIR", QFile::encodeName(m_spool->path()));
-        m_database = std::make_unique<TestDatabase>();
-        loginAsAdmin();
         m_make = std::make_unique<Builders>();
         m_items = {m_make->item("RICE", "Rice", 300), m_make->item("FISH", "Fish", 900),
                    m_make->item("TEA", "Tea", 80, EntityItem::SRV, "DRINK"),
@@ -53,34 +42,25 @@ private slots:
         for (const char* code : {"t1", "t2", "t3", "t4"})
             m_make->table(code, code);
         m_cooks = {{"Stove", {"FOOD", false, {}}}, {"Bar", {"DRINK", true, {}}}};
-        m_database->run("DELETE FROM appconfig WHERE appkey LIKE 'kitchen_printer%'");
+        run("DELETE FROM appconfig WHERE appkey LIKE 'kitchen_printer%'");
         for (auto cook = m_cooks.cbegin(); cook != m_cooks.cend(); ++cook)
-            m_database->run(QString(R"(INSERT INTO appconfig (appkey, is_json, appvalue, version) VALUES
+            run(QString(R"(INSERT INTO appconfig (appkey, is_json, appvalue, version) VALUES
             ('kitchen_printer_%1', true, '{"kitchen_name":"%1","printer_name":"%1","kode_jenis_item":"%2",
             "auto_print":"Yes","say_former":"%3","no_of_copy":"1","column_paper":"40","no_of_blank_lines":"0"}', 1))")
-                                .arg(cook.key(), cook->type, cook->isToldFormer ? "Yes" : "No"));
-        m_people = std::make_unique<ModalDriver>();
+                    .arg(cook.key(), cook->type, cook->isToldFormer ? "Yes" : "No"));
         m_board = std::make_unique<TabMakanDitempat>();
         m_board->show();
         QVERIFY(QTest::qWaitForWindowActive(m_board.get()));
     }
+    void tidy() override { m_board.reset(); }
 
-    void cleanup()
-    {
-        m_board.reset();
-        m_people.reset();
-        m_make.reset();
-        m_database.reset();
-        qunsetenv("ZAVEL_SPOOL_DIR");
-    }
-
+private slots:
     void everyDishReachesItsKitchenOnce_data()
     {
-        addColumns<quint32>("seed");
+        const auto row = addColumns<quint32>("seed");
         for (quint32 seed : {1U, 3U})
-            addRow(qPrintable(QString("evening %1").arg(seed)), seed);
+            row(qPrintable(QString("evening %1").arg(seed)), seed);
     }
-
     void everyDishReachesItsKitchenOnce()
     {
         QFETCH(quint32, seed);
@@ -135,8 +115,6 @@ private:
 
     int below(int limit) { return int(m_chance.bounded(limit)); }
     EntityMakanDitempatDetail* someLine() { return m_make->line(m_items.at(below(m_items.size())), 1 + below(3)); }
-    // --- what the waiters do -----------------------------------------------------------------------------------------
-
     void choose(const QString& table)
     {
         auto* grid = m_board->findChild<QTableView*>("tblMeja");
@@ -222,8 +200,6 @@ private:
         m_board->on_btnDelete_clicked();
     }
 
-    // --- what the kitchens are told ----------------------------------------------------------------------------------
-
     void readSlips(bool isEdit)
     {
         const QDir folder(m_spool->path());
@@ -286,24 +262,17 @@ private:
     {
         QMap<QString, Dishes> dishes;
         const QStringList rows =
-            m_database
-                ->value(
-                    "SELECT string_agg(concat_ws(' ', meja.kode, item.kode, line.qty), ',') FROM makan_ditempat_detail "
-                    "line JOIN makan_ditempat o ON o.id = makan_ditempat_id AND o.status <> 6 JOIN meja ON meja.id = "
-                    "meja_id JOIN item ON item.id = item_id JOIN jenis_item ON jenis_item.id = item.jenis WHERE "
-                    "jenis_item.kode = '" +
-                    type + "'")
-                .toString()
+            value("SELECT string_agg(concat_ws(' ', meja.kode, item.kode, line.qty), ',') FROM makan_ditempat_detail "
+                  "line JOIN makan_ditempat o ON o.id = makan_ditempat_id AND o.status <> 6 JOIN meja ON meja.id = "
+                  "meja_id JOIN item ON item.id = item_id JOIN jenis_item ON jenis_item.id = item.jenis WHERE "
+                  "jenis_item.kode = '" +
+                  type + "'")
                 .split(',', Qt::SkipEmptyParts);
         for (const QString& row : rows)
             dishes[row.section(' ', 0, 0)][row.section(' ', 1, 1)] += row.section(' ', 2, 2).toInt();
         return dishes;
     }
 
-    std::unique_ptr<QTemporaryDir> m_spool;
-    std::unique_ptr<TestDatabase> m_database;
-    std::unique_ptr<Builders> m_make;
-    std::unique_ptr<ModalDriver> m_people;
     std::unique_ptr<TabMakanDitempat> m_board;
     QList<EntityItem*> m_items;
     QMap<QString, Cook> m_cooks;

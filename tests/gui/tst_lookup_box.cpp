@@ -83,7 +83,7 @@ struct Order
 };
 } // namespace
 
-class tst_LookupBox : public QObject
+class TestLookupBox : public QObject
 {
     Q_OBJECT
 
@@ -183,13 +183,12 @@ private slots:
 
     void aChoiceReachesTheFormAsIfReturnHadBeenPressed_data()
     {
-        addColumns<int, bool>("key", "goesOn");
-        addRow("Return", int(Qt::Key_Return), false);
-        addRow("Enter, on to the quantity", int(Qt::Key_Enter), true);
-        addRow("mouse", 0, false);
-        addRow("mouse, on to the quantity", 0, true);
+        const auto row = addColumns<int, bool>("key", "goesOn");
+        row("Return", Qt::Key_Return, false);
+        row("Enter, on to the quantity", Qt::Key_Enter, true);
+        row("mouse", 0, false);
+        row("mouse, on to the quantity", 0, true);
     }
-
     void aChoiceReachesTheFormAsIfReturnHadBeenPressed()
     {
         QFETCH(int, key);
@@ -236,11 +235,10 @@ private slots:
 
     void withoutAFindTheListSaysSoAndNothingIsChosen_data()
     {
-        addColumns<bool>("byMouse");
-        addRow("Return", false);
-        addRow("mouse", true);
+        const auto row = addColumns<bool>("byMouse");
+        row("Return", false);
+        row("mouse", true);
     }
-
     void withoutAFindTheListSaysSoAndNothingIsChosen()
     {
         QFETCH(bool, byMouse);
@@ -308,14 +306,6 @@ private slots:
         QCOMPARE(order.box->selectedRow(), -1);
     }
 
-    void anApostropheReachesTheSearchAsTyped()
-    {
-        Order order;
-        order.type("i'go%");
-        QVERIFY(order.waitForList());
-        QCOMPARE(order.box->asked, QStringList({"i'go%"}));
-    }
-
     void aFormMayCloseOnTheChoice()
     {
         Order order;
@@ -361,5 +351,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_LookupBox)
+QTEST_MAIN(TestLookupBox)
 #include "tst_lookup_box.moc"

@@ -1,5 +1,4 @@
 #include "app/widgets/AppNumberEdit.h"
-#include "kor/business/KorServiceDirectory.h"
 #include "pos/masterdata/account/BankTextBox.h"
 #include "pos/masterdata/account/DialogBank.h"
 #include "pos/masterdata/account/TableModelBank.h"
@@ -10,17 +9,8 @@
 #include "pos/masterdata/supplier/BusinessSupplier.h"
 #include "pos/masterdata/supplier/DialogSupplier.h"
 #include "pos/masterdata/supplier/SupplierTextBox.h"
+#include "support/DatabaseTest.h"
 #include "support/MasterFamilies.h"
-#include "support/ModalDriver.h"
-#include "support/Rows.h"
-#include "support/TestDatabase.h"
-
-#include <QComboBox>
-#include <QDateEdit>
-#include <QDialogButtonBox>
-#include <QLabel>
-#include <QPlainTextEdit>
-#include <QTest>
 
 namespace
 {
@@ -43,25 +33,21 @@ const Input nothing{{"txtKode", ""},   {"txtNama", ""}, {"txtNamaSatuan", ""}, {
 Q_DECLARE_METATYPE(Input)
 
 /** What the entry forms of the master data accept, refuse and remember. */
-class TestMasterForms : public QObject
+class TestMasterForms : public DatabaseTest
 {
     Q_OBJECT
 
 private slots:
     void initTestCase()
     {
-        m_database = std::make_unique<TestDatabase>();
+        keepDatabase();
         for (const MasterFamily& family : masterFamilies())
-            m_database->run("TRUNCATE " + family.table + " CASCADE");
+            run("TRUNCATE " + family.table + " CASCADE");
         for (const MasterFamily& family : masterFamilies())
-            m_database->run(family.insertStatement("taken", "Somebody"));
-        m_database->run("INSERT INTO bank (id, kode, nama, account_type, active, version) VALUES "
-                        "(901, '4050', 'Sales of Materials', 4, false, 1), (902, '6650', 'Fees', 5, true, 1)");
-        loginAsAdmin();
+            run(family.insertStatement("taken", "Somebody"));
+        run("INSERT INTO bank (id, kode, nama, account_type, active, version) VALUES "
+            "(901, '4050', 'Sales of Materials', 4, false, 1), (902, '6650', 'Fees', 5, true, 1)");
     }
-    void cleanupTestCase() { m_database.reset(); }
-    void init() { m_people = std::make_unique<ModalDriver>(); }
-    void cleanup() { m_people.reset(); }
 
     void aFormSaysAllThatIsWrongAtOnce_data()
     {
@@ -122,7 +108,6 @@ private slots:
         row(suppliers, "e-mail with a long ending", with({{"txtEmail", "a@example.museum"}}), suppliers.email);
         row(suppliers, "e-mail and more", with({{"txtEmail", "a@example.com, b@example.com"}}), suppliers.email);
     }
-
     void aFormSaysAllThatIsWrongAtOnce()
     {
         QFETCH(int, family);
@@ -139,34 +124,6 @@ private slots:
         QCOMPARE(form->isVisible(), !told.isEmpty());
         if (!told.isEmpty())
             QCOMPARE(m_people->lastTitle(), QString("Error"));
-    }
-
-    void aFormIsReadFromTopToBottomAndNothingIsCut_data() { addFamilyRows(); }
-    void aFormIsReadFromTopToBottomAndNothingIsCut()
-    {
-        const std::unique_ptr<KorDialog> form = currentFamily().makeForm();
-        form->resize(form->minimumSizeHint());
-        form->show();
-        QVERIFY(QTest::qWaitForWindowActive(form.get()));
-
-        const QWidget* former = form->focusWidget();
-        QVERIFY(former);
-        const auto top = [&form](const QWidget* widget) { return widget->mapTo(form.get(), QPoint()).y(); };
-        QSet<const QWidget*> walked{former};
-        while (!qobject_cast<QDialogButtonBox*>(former->parentWidget())) {
-            QTest::keyClick(form.get(), Qt::Key_Tab);
-            const QWidget* next = form->focusWidget();
-            QVERIFY2(!walked.contains(next), qPrintable(next->objectName()));
-            QVERIFY2(top(next) > top(former), qPrintable(next->objectName()));
-            walked.insert(next);
-            former = next;
-        }
-        for (const QLabel* label : form->findChildren<QLabel*>()) {
-            QVERIFY2(label->width() >= label->sizeHint().width(), qPrintable(label->text()));
-            if (label->text().endsWith(':') && !label->text().endsWith("ID :"))
-                QVERIFY2(walked.contains(label->buddy()), qPrintable(label->text()));
-        }
-        QVERIFY(form->height() < 700);
     }
 
     void aMemberIsValidForAYearUnlessToldOtherwise()
@@ -191,15 +148,15 @@ private slots:
 
     void anAgentsShareIsAPercentage_data()
     {
-        addColumns<QString, bool, double>("typed", "accepted", "share");
-        addRow("nothing at all", "0", true, 0.0);
-        addRow("a fraction", "7.5", true, 7.5);
-        addRow("everything", "100", true, 100.0);
-        addRow("a little more", "100.01", false, 0.0);
-        addRow("less than nothing", "-0.5", false, 0.0);
-        addRow("no number", "1O", false, 0.0);
-        addRow("emptied", "", true, 0.0);
-        addRow("untouched", QString(), true, 0.0);
+        const auto row = addColumns<QString, bool, double>("typed", "accepted", "share");
+        row("nothing at all", "0", true, 0.0);
+        row("a fraction", "7.5", true, 7.5);
+        row("everything", "100", true, 100.0);
+        row("a little more", "100.01", false, 0.0);
+        row("less than nothing", "-0.5", false, 0.0);
+        row("no number", "1O", false, 0.0);
+        row("emptied", "", true, 0.0);
+        row("untouched", QString(), true, 0.0);
     }
     void anAgentsShareIsAPercentage()
     {
@@ -301,7 +258,7 @@ private slots:
         QCOMPARE(accounts.rowText(0, 1).toString(), QString("Sales of Materials"));
         QCOMPARE(accounts.rowText(0, 2).toString(), QString("Income"));
 
-        m_database->run(currentFamilyNamed("Supplier").insertStatement("z", "Apples"));
+        run(currentFamilyNamed("Supplier").insertStatement("z", "Apples"));
         SupplierTextBox suppliers(&editor, service<BusinessSupplier>("Supplier"));
         suppliers.search("");
         QCOMPARE(suppliers.rowText(suppliers.rowCount() - 1, 1).toString(), QString("Apples"));
@@ -324,9 +281,6 @@ private:
         }
         qFatal("no family %s", qPrintable(serviceName));
     }
-
-    std::unique_ptr<TestDatabase> m_database;
-    std::unique_ptr<ModalDriver> m_people;
 };
 
 QTEST_MAIN(TestMasterForms)

@@ -1,36 +1,27 @@
-#include "app/context/AppContext.h"
-#include "kor/business/KorServiceDirectory.h"
+#include "support/DatabaseTest.h"
 #include "support/Hands.h"
-#include "support/Rows.h"
 #include "support/SalesRows.h"
 #include "support/ShopRows.h"
 #include "support/TestCluster.h"
-#include "support/TestDatabase.h"
 #include "zavel/receivable/DialogBayarPiutang.h"
 #include "zavel/receivable/DialogPiutang.h"
 #include "zavel/receivable/EntityPiutang.h"
 #include "zavel/receivable/TabPiutang.h"
 #include "zavel/service/BusinessPenjualan.h"
 
-#include <QComboBox>
-#include <QDateEdit>
-#include <QLabel>
-
 /** The cashier at the page of members' payments, with keyboard and mouse. */
-class TestMemberPayments : public QObject
+class TestMemberPayments : public PageTest<TabPiutang>
 {
     Q_OBJECT
 
-private slots:
-    void init()
+protected:
+    void prepare() override
     {
-        m_database = std::make_unique<TestDatabase>();
         AppContext::instance()->setLocale("id_ID");
         insertShop(*m_database);
-        loginAsAdmin();
         insertSeller(*m_database, 1, "ann");
-        m_database->run("INSERT INTO member (id, kode, nama, alamat, telp, discount_percentage, version) VALUES "
-                        "(2, 'M2', 'Other', '', '', 0, 1)");
+        run("INSERT INTO member (id, kode, nama, alamat, telp, discount_percentage, version) VALUES "
+            "(2, 'M2', 'Other', '', '', 0, 1)");
         SaleRow sale;
         sale.member = 1;
         sale.status = Invoice::UNPAID;
@@ -41,19 +32,9 @@ private slots:
             sale.date = QDate(2026, 3, total / 100);
             insertSale(*m_database, sale);
         }
-        m_people = std::make_unique<ModalDriver>();
     }
 
-    void cleanup()
-    {
-        m_page.reset();
-        m_people.reset();
-        service<BusinessPenjualan>("Sales")->clearErrors();
-        m_database.reset();
-    }
-
-    // --- a new payment -----------------------------------------------------------------------------------------------
-
+private slots:
     void aMemberPaysAllThatIsOpen()
     {
         show();
@@ -115,29 +96,6 @@ private slots:
         QTRY_VERIFY(form.findChild<QTableView*>("tblInvoice")->hasFocus());
     }
 
-    void aLostConnectionIsToldAndCanBeTriedAgain()
-    {
-        DialogPiutang form;
-        form.show();
-        QVERIFY(QTest::qWaitForWindowActive(&form));
-        QTRY_VERIFY(box(&form, "txtMember")->hasFocus());
-        const QString allow = "ALTER DATABASE " + m_database->name() + " WITH ALLOW_CONNECTIONS ";
-        TestCluster::instance().run(allow + "false");
-        m_database->killConnections();
-        enter(&form, "txtMember", "M1");
-        QTRY_COMPARE(m_people->boxes().size(), 1);
-        QVERIFY2(m_people->lastText().contains("connection"), qPrintable(m_people->lastText()));
-
-        TestCluster::instance().run(allow + "true");
-        m_people->clear();
-        click(&form, "pushButton");
-        confirm(&form, "txtRefNo");
-        QTRY_COMPARE(m_people->boxes().size(), 1);
-        // The code is looked up again: what is missing now is the entries.
-        QCOMPARE(m_people->lastText(), QString("Enter the amount paid for the invoice no: TRD-500\r\nPlease select an "
-                                               "Accounts Receivable\r\n"));
-    }
-
     void aPartIsPaidOfOneInvoice_data()
     {
         addColumns<QString, QString, QStringList, bool, QString>("typed", "remaining", "told", "agrees", "paid");
@@ -155,7 +113,6 @@ private slots:
         row("too much, by mistake", "5000", "-4.500,00", more, untouched);
         row("too much, on purpose", "600", "-100,00", more, "Rp-100,00 Rp600,00", true);
     }
-
     void aPartIsPaidOfOneInvoice()
     {
         QFETCH(QString, typed);
@@ -189,9 +146,7 @@ private slots:
 
     void whatIsMissingIsTold_data()
     {
-        addColumns<QString, bool, QString, QStringList>("member", "pays", "account", "told");
-        const auto row = [](const char* name, const QString& member, bool pays, const QString& account,
-                            const QStringList& told) { addRow(name, member, pays, account, told); };
+        const auto row = addColumns<QString, bool, QString, QStringList>("member", "pays", "account", "told");
         row("everything", "", false, "",
             {"Select a member", "Enter one or more sales invoice", "Please select an Accounts Receivable"});
         row("a member whom nobody knows", "M9", false, "1-100", {"Select a member", "Enter one or more sales invoice"});
@@ -199,12 +154,10 @@ private slots:
         row("an amount", "M1", false, "1-100", {"Enter the amount paid for the invoice no: TRD-500"});
         row("an account that nobody knows", "M1", true, "9", {"Please select a valid Accounts Receivable"});
     }
-
     void whatIsMissingIsTold()
     {
-        QFETCH(QString, member);
+        FETCH(QString, member, account);
         QFETCH(bool, pays);
-        QFETCH(QString, account);
         QFETCH(QStringList, told);
         show();
         onForm("btnAdd", [&](DialogPiutang* form) {
@@ -223,7 +176,7 @@ private slots:
 
     void aCardAtTheSaleIsNotReplacedUnasked()
     {
-        m_database->run("UPDATE invoice SET other_payment_amount = 40, status = 3 WHERE no = 'TRD-300'");
+        run("UPDATE invoice SET other_payment_amount = 40, status = 3 WHERE no = 'TRD-300'");
         show();
         onForm("btnAdd", [this](DialogPiutang* form) {
             enter(form, "txtMember", "m1");
@@ -254,8 +207,6 @@ private slots:
         QCOMPARE(m_people->texts(), QStringList());
     }
 
-    // --- editing -----------------------------------------------------------------------------------------------------
-
     void anEditShowsItsOwnPartAndWhatElseIsOpen()
     {
         payStored(1, 300);
@@ -285,7 +236,7 @@ private slots:
     void anotherMembersPaymentTakesTheStoredLinesOff()
     {
         payStored(1, 300);
-        m_database->run("UPDATE makan_ditempat SET member_id = 2 WHERE id = 2");
+        run("UPDATE makan_ditempat SET member_id = 2 WHERE id = 2");
         show();
         choose(m_page.get(), 0);
         onForm("btnEdit", [](DialogPiutang* form) {
@@ -299,65 +250,6 @@ private slots:
                      QString("2 2 300"));
         // Nobody counts the invoice that is no more on the payment.
         QCOMPARE(value("SELECT other_payment_amount FROM invoice WHERE id = 1"), QString("300"));
-    }
-
-    void aStaleEditIsToldAndTheFormStays()
-    {
-        payStored(1, 300);
-        show();
-        choose(m_page.get(), 0);
-        onForm("btnEdit", [this](DialogPiutang* form) {
-            enter(form, "txtRefNo", "R-1");
-            pay(form, 0, "450");
-            m_database->run("UPDATE piutang SET version = version + 1, updatedby = 1");
-            confirm(form, "txtRefNo");
-            QVERIFY(form->isVisible());
-            QVERIFY2(m_people->lastText().contains("error: update credit invoice failed"),
-                     qPrintable(m_people->lastText()));
-            QCOMPARE(shown(form, "txtRefNo"), QString("R-1"));
-            QCOMPARE(shown(form, "txtGrandTotal"), QString("450,00"));
-            giveUp(form);
-        });
-        QCOMPARE(value("SELECT other_payment_amount FROM invoice WHERE id = 1"), QString("300"));
-    }
-
-    void aPaymentThatStandsIsNotEnteredTwice()
-    {
-        m_database->run(
-            "CREATE FUNCTION refuse() RETURNS trigger AS $$ BEGIN RAISE EXCEPTION 'busy'; END $$ LANGUAGE "
-            "plpgsql; CREATE TRIGGER refuse BEFORE UPDATE ON invoice FOR EACH ROW EXECUTE FUNCTION refuse()");
-        show();
-        onForm("btnAdd", [](DialogPiutang* form) {
-            enter(form, "txtMember", "M1");
-            enter(form, "txtARAccount", "1-100");
-            click(form, "pushButton");
-            confirm(form, "txtRefNo");
-            QVERIFY(!form->isVisible());
-        });
-        QTRY_COMPARE(cells(m_page.get(), 0).value(4), QString("Rp800,00"));
-        QVERIFY2(m_people->lastText().contains("busy"), qPrintable(m_people->lastText()));
-    }
-
-    // --- the page ----------------------------------------------------------------------------------------------------
-
-    void deletingAsksAndLeavesTheInvoiceAsItIs()
-    {
-        payStored(1, 300);
-        show();
-        choose(m_page.get(), 0);
-        m_people->answer(QMessageBox::No);
-        click(m_page.get(), "btnDelete");
-        QCOMPARE(m_people->texts(), QStringList("Are you sure you want to delete Payment with No: PIU-0007 ?"));
-        QCOMPARE(m_people->lastTitle(), QString("Delete"));
-        QCOMPARE(value("SELECT count(*) FROM piutang_detail"), QString("1"));
-
-        m_people->answer(QMessageBox::Yes);
-        choose(m_page.get(), 0);
-        click(m_page.get(), "btnDelete");
-        QTRY_COMPARE(m_page->findChild<QLabel*>("lblCount")->text(), QString("0 Items"));
-        QCOMPARE(value("SELECT count(*) FROM piutang_detail"), QString("0"));
-        QCOMPARE(value("SELECT concat_ws(' ', status, other_payment_amount, net_due_amount) FROM invoice WHERE id = 1"),
-                 QString("3 300 200"));
     }
 
     void theFiltersNarrowTheList()
@@ -387,27 +279,7 @@ private slots:
         QCOMPARE(found(), QString("0 Items"));
     }
 
-    void nothingHappensWithoutTheRight()
-    {
-        payStored(1, 300);
-        loginWithRights("Sales", {});
-        show();
-        for (const char* button : {"btnAdd", "btnEdit", "btnDelete"}) {
-            choose(m_page.get(), 0);
-            click(m_page.get(), button);
-        }
-        QCOMPARE(m_people->boxes().size(), 3);
-        QVERIFY(m_people->surprises().isEmpty());
-        QCOMPARE(value("SELECT count(*) FROM piutang"), QString("1"));
-    }
-
 private:
-    void show()
-    {
-        m_page = std::make_unique<TabPiutang>();
-        showPage(m_page.get());
-    }
-
     void onForm(const char* button, const std::function<void(DialogPiutang*)>& work)
     {
         ::onForm<DialogPiutang>(*m_people, m_page.get(), button, work);
@@ -445,13 +317,6 @@ private:
         auto* sales = service<BusinessPenjualan>("Sales");
         QVERIFY2(sales->insert(&payment), qPrintable(sales->takeErrors()));
     }
-
-    QString value(const QString& statement) { return m_database->value(statement).toString(); }
-
-    std::unique_ptr<TestDatabase> m_database;
-    std::unique_ptr<ModalDriver> m_people;
-    std::unique_ptr<TabPiutang> m_page;
-    QObject m_records;
 };
 
 QTEST_MAIN(TestMemberPayments)

@@ -1,19 +1,10 @@
-#include "support/Builders.h"
-#include "support/ModalDriver.h"
-#include "support/Rows.h"
-#include "support/TestDatabase.h"
+#include "support/DatabaseTest.h"
 #include "zavel/dinein/DialogMakanDitempat.h"
 #include "zavel/dinein/TabMakanDitempatDetail.h"
 #include "zavel/order/DialogSelectInventory.h"
 #include "zavel/order/DialogSelectMenu.h"
 
 #include <QAbstractItemModelTester>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QTableView>
-#include <QTest>
 #include <QTreeWidget>
 
 namespace
@@ -36,30 +27,21 @@ void key(QWidget* form, const char* field, Qt::Key key) { QTest::keyClick(form->
 } // namespace
 
 /** The form of an order on a table and the pickers of its lines. */
-class TestOrderDialog : public QObject
+class TestOrderDialog : public DatabaseTest
 {
     Q_OBJECT
 
-private slots:
-    void init()
+protected:
+    void prepare() override
     {
-        m_database = std::make_unique<TestDatabase>();
-        loginAsAdmin();
         m_make = std::make_unique<Builders>();
-        m_people = std::make_unique<ModalDriver>();
         m_rice = m_make->item("RICE", "Fried rice", 25000);
         m_cola = m_make->item("COLA", "Cola", 12000, EntityItem::INV, "DRINK");
         m_t1 = m_make->table("T1", "Terrace");
     }
+    void tidy() override { m_form.reset(); }
 
-    void cleanup()
-    {
-        m_form.reset();
-        m_people.reset();
-        m_make.reset();
-        m_database.reset();
-    }
-
+private slots:
     void anOrderNeedsATableAndALine()
     {
         open();
@@ -89,11 +71,10 @@ private slots:
 
     void anUnknownCodeIsNoTable_data()
     {
-        addColumns<QString>("code");
-        addRow("unknown", "T9");
-        addRow("cleared", "");
+        const auto row = addColumns<QString>("code");
+        row("unknown", "T9");
+        row("cleared", "");
     }
-
     void anUnknownCodeIsNoTable()
     {
         QFETCH(QString, code);
@@ -160,11 +141,10 @@ private slots:
 
     void theSameItemTwiceAsksWhetherToUpdate_data()
     {
-        addColumns<bool, int, QString>("update", "qty", "sum");
-        addRow("update", true, 5, "Rp125,000.00");
-        addRow("leave", false, 2, "Rp50,000.00");
+        const auto row = addColumns<bool, int, QString>("update", "qty", "sum");
+        row("update", true, 5, "Rp125,000.00");
+        row("leave", false, 2, "Rp50,000.00");
     }
-
     void theSameItemTwiceAsksWhetherToUpdate()
     {
         QFETCH(bool, update);
@@ -240,22 +220,19 @@ private slots:
 
     void aPickerSaysWhatIsMissing_data()
     {
-        addColumns<QString, QString, QString>("code", "qty", "text");
-        addRow("nothing", "", "", "Enter the item code\r\nEnter the qty of the item\r\n");
-        addRow("unknown item", "NONE", "1", "Please enter a valid item code\r\n");
-        addRow("no quantity", "RICE", "", "Enter the qty of the item\r\n");
-        addRow("zero", "RICE", "0", "Enter the qty of the item\r\n");
-        addRow("fewer than none", "RICE", "-3", "Enter the qty of the item\r\n");
-        addRow("no number", "RICE", "two", "Enter the qty of the item\r\n");
-        addRow("more than money holds", "RICE", "90000",
-               "This amount is too large for one line. Please enter a smaller qty\r\n");
+        const auto row = addColumns<QString, QString, QString>("code", "qty", "text");
+        row("nothing", "", "", "Enter the item code\r\nEnter the qty of the item\r\n");
+        row("unknown item", "NONE", "1", "Please enter a valid item code\r\n");
+        row("no quantity", "RICE", "", "Enter the qty of the item\r\n");
+        row("zero", "RICE", "0", "Enter the qty of the item\r\n");
+        row("fewer than none", "RICE", "-3", "Enter the qty of the item\r\n");
+        row("no number", "RICE", "two", "Enter the qty of the item\r\n");
+        row("more than money holds", "RICE", "90000",
+            "This amount is too large for one line. Please enter a smaller qty\r\n");
     }
-
     void aPickerSaysWhatIsMissing()
     {
-        QFETCH(QString, code);
-        QFETCH(QString, qty);
-        QFETCH(QString, text);
+        FETCH(QString, code, qty, text);
         open(m_t1);
         m_people->expect<DialogSelectMenu>([&](DialogSelectMenu* picker) {
             type(picker, "txtCode", code);
@@ -391,9 +368,6 @@ private:
         QVERIFY(QTest::qWaitForWindowActive(m_form.get()));
     }
 
-    std::unique_ptr<TestDatabase> m_database;
-    std::unique_ptr<Builders> m_make;
-    std::unique_ptr<ModalDriver> m_people;
     std::unique_ptr<DialogMakanDitempat> m_form;
     EntityItem* m_rice = nullptr;
     EntityItem* m_cola = nullptr;

@@ -115,14 +115,13 @@ private slots:
 
     void everyFilterNarrowsTheList_data()
     {
-        addColumns<QByteArray, QString, QStringList>("box", "choice", "numbers");
-        addRow("nothing", QByteArray(), "", QStringList({"RECAP", "KIT2", "TRD2", "TRD1"}));
-        addRow("kind", QByteArray("ddlKind"), "Bill", QStringList({"TRD2", "TRD1"}));
-        addRow("state", QByteArray("ddlState"), "Given back", QStringList("TRD2"));
-        addRow("printer", QByteArray("ddlPrinter"), "Dapur", QStringList("KIT2"));
-        addRow("part of a number", QByteArray("txtNumber"), "t2", QStringList("KIT2"));
+        const auto row = addColumns<QByteArray, QString, QStringList>("box", "choice", "numbers");
+        row("nothing", QByteArray(), "", QStringList({"RECAP", "KIT2", "TRD2", "TRD1"}));
+        row("kind", QByteArray("ddlKind"), "Bill", QStringList({"TRD2", "TRD1"}));
+        row("state", QByteArray("ddlState"), "Given back", QStringList("TRD2"));
+        row("printer", QByteArray("ddlPrinter"), "Dapur", QStringList("KIT2"));
+        row("part of a number", QByteArray("txtNumber"), "t2", QStringList("KIT2"));
     }
-
     void everyFilterNarrowsTheList()
     {
         QFETCH(QByteArray, box);

@@ -1,28 +1,16 @@
 #include "app/context/EntityPool.h"
-#include "kor/business/KorServiceDirectory.h"
 #include "pos/printing/configuration/BusinessPrinterConfig.h"
 #include "pos/printing/configuration/DialogCashierAndKitchenPrinter.h"
 #include "pos/printing/configuration/DialogFilterJenisItem.h"
 #include "pos/printing/configuration/DialogKitchenFoodPrinter.h"
 #include "pos/printing/configuration/TabKitchenPrinter.h"
 #include "pos/printing/slips/SlipArchive.h"
-#include "support/ModalDriver.h"
-#include "support/Rows.h"
-#include "support/TestDatabase.h"
-#include "zavel/registry/ZavelBusinessRegistry.h"
+#include "support/DatabaseTest.h"
 
 #include <QCheckBox>
-#include <QComboBox>
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QPushButton>
-#include <QTableView>
-#include <QTemporaryDir>
-#include <QTest>
 
 Q_DECLARE_METATYPE(std::function<std::unique_ptr<QDialog>()>)
 
@@ -57,21 +45,18 @@ QString cell(const QTableView* grid, int row, int column)
 void confirm(QDialog* form) { QTest::keyClick(form, Qt::Key_Return); }
 } // namespace
 
-class TestPrinterSettings final : public QObject
+class TestPrinterSettings : public DatabaseTest
 {
     Q_OBJECT
 
-private slots:
-    void init()
+protected:
+    void prepare() override
     {
-        m_spool = std::make_unique<QTemporaryDir>();
-        qputenv("ZAVEL_SPOOL_DIR", QFile::encodeName(m_spool->path()));
         listPrinters("Kasir\nDapur\nBar\n");
-        m_database = std::make_unique<TestDatabase>();
-        m_database->run("DELETE FROM appconfig");
-        m_database->run("DELETE FROM printer_type");
-        m_database->run("INSERT INTO printer_type (printer_type, cash_drawer_cmd, cut_papper_cmd, version) VALUES "
-                        "('EPSON-TM-T88III', '', '27#109', 1), ('GENERIC-ESC-POS', '', '29#V#66#0', 1)");
+        run("DELETE FROM appconfig");
+        run("DELETE FROM printer_type");
+        run("INSERT INTO printer_type (printer_type, cash_drawer_cmd, cut_papper_cmd, version) VALUES "
+            "('EPSON-TM-T88III', '', '27#109', 1), ('GENERIC-ESC-POS', '', '29#V#66#0', 1)");
         addSetting("cashier_printer", {{"printer_name", "Dapur"},
                                        {"printer_type", "GENERIC-ESC-POS"},
                                        {"auto_cutter", "No"},
@@ -82,18 +67,9 @@ private slots:
                                        {"format", "{items}"}});
         addSetting("kitchen_printer_1",
                    {{"kitchen_name", "Kitchen 1"}, {"printer_name", "Dapur"}, {"auto_print", "Yes"}});
-        loginAsAdmin();
-        ZavelBusinessRegistry::instance();
-        m_people = std::make_unique<ModalDriver>();
     }
 
-    void cleanup()
-    {
-        m_people.reset();
-        m_database.reset();
-        qunsetenv("ZAVEL_SPOOL_DIR");
-    }
-
+private slots:
     void theCashierFormKeepsEverySettingAsText()
     {
         DialogCashierAndKitchenPrinter form;
@@ -151,7 +127,7 @@ private slots:
     {
         DialogCashierAndKitchenPrinter form;
         form.show();
-        m_database->run("UPDATE appconfig SET version = 2 WHERE appkey = 'cashier_printer'");
+        run("UPDATE appconfig SET version = 2 WHERE appkey = 'cashier_printer'");
         field<QPlainTextEdit>(&form, "txtNotes")->setPlainText("mine");
         form.accept();
         QCOMPARE(m_people->lastTitle(), QString("Error!"));
@@ -164,14 +140,14 @@ private slots:
 
     void withoutItsRowTheCashierFormSavesNothing()
     {
-        m_database->run("DELETE FROM appconfig WHERE appkey = 'cashier_printer'");
+        run("DELETE FROM appconfig WHERE appkey = 'cashier_printer'");
         DialogCashierAndKitchenPrinter form;
         type(field<QLineEdit>(&form, "txtCol"), "32");
         type(field<QLineEdit>(&form, "txtBlankLines"), "6");
         form.accept();
         QCOMPARE(m_people->boxes().size(), 1);
         QCOMPARE(m_people->lastTitle(), QString("Error!"));
-        QCOMPARE(m_database->value("SELECT count(*) FROM appconfig WHERE appkey = 'cashier_printer'").toInt(), 0);
+        QCOMPARE(count("appconfig WHERE appkey = 'cashier_printer'"), 0);
     }
 
     void aKitchenIsAddedEditedAndDeleted()
@@ -194,8 +170,7 @@ private slots:
         page.on_btnAdd_clicked();
         QCOMPARE(m_people->texts(), QStringList());
         QCOMPARE(grid->model()->rowCount(), 2);
-        const QString key =
-            m_database->value("SELECT appkey FROM appconfig WHERE appkey LIKE 'kitchen_printer_2%'").toString();
+        const QString key = value("SELECT appkey FROM appconfig WHERE appkey LIKE 'kitchen_printer_2%'");
         QVERIFY2(QDateTime::fromString(key, "'kitchen_printer_'yyyy_MM_dd_hh_mm_ss").isValid(), qPrintable(key));
         QCOMPARE(storedMembers(key), (QJsonObject{{"kitchen_name", "Grill"},
                                                   {"printer_name", "Bar"},
@@ -260,7 +235,7 @@ private slots:
         QVERIFY(form.isVisible());
 
         // A second later the same form goes through.
-        m_database->run("DELETE FROM appconfig WHERE appkey LIKE 'kitchen_printer_2%'");
+        run("DELETE FROM appconfig WHERE appkey LIKE 'kitchen_printer_2%'");
         form.accept();
         QCOMPARE(form.result(), int(QDialog::Accepted));
         QCOMPARE(kitchens(), 2);
@@ -287,9 +262,9 @@ private slots:
 
     void itemTypesArePickedFromTheList()
     {
-        m_database->run("TRUNCATE jenis_item CASCADE");
-        m_database->run("INSERT INTO jenis_item (kode, nama, version) VALUES "
-                        "('DRINK', 'Drinks', 1), ('FOOD', 'Food', 1), ('GRILL', 'From the grill', 1)");
+        run("TRUNCATE jenis_item CASCADE");
+        run("INSERT INTO jenis_item (kode, nama, version) VALUES "
+            "('DRINK', 'Drinks', 1), ('FOOD', 'Food', 1), ('GRILL', 'From the grill', 1)");
         DialogKitchenFoodPrinter form;
         auto* codes = field<QLineEdit>(&form, "txtKodeJenisItems");
         codes->setText("GRILL, FOOD");
@@ -315,22 +290,20 @@ private slots:
 
     void aTestSlipShowsTheFormAsItStands_data()
     {
-        addColumns<std::function<std::unique_ptr<QDialog>()>>("open");
-        addRow("cashier", std::function([]() -> std::unique_ptr<QDialog> {
-                   return std::make_unique<DialogCashierAndKitchenPrinter>();
-               }));
-        addRow("kitchen", std::function([]() -> std::unique_ptr<QDialog> {
-                   return std::make_unique<DialogKitchenFoodPrinter>();
-               }));
+        const auto row = addColumns<std::function<std::unique_ptr<QDialog>()>>("open");
+        row("cashier", std::function([]() -> std::unique_ptr<QDialog> {
+                return std::make_unique<DialogCashierAndKitchenPrinter>();
+            }));
+        row("kitchen",
+            std::function([]() -> std::unique_ptr<QDialog> { return std::make_unique<DialogKitchenFoodPrinter>(); }));
     }
-
     void aTestSlipShowsTheFormAsItStands()
     {
         QFETCH(std::function<std::unique_ptr<QDialog>()>, open);
         const std::unique_ptr<QDialog> form = open();
         form->show();
         QVERIFY(QTest::qWaitForWindowActive(form.get()));
-        const QString saved = m_database->value("SELECT string_agg(appvalue, '') FROM appconfig").toString();
+        const QString saved = value("SELECT string_agg(appvalue, '') FROM appconfig");
         choose(form.get(), "ddlPrinter", "Bar");
         choose(form.get(), "ddlPrinterType", "EPSON-TM-T88III");
         choose(form.get(), "ddlAutoCut", "Yes");
@@ -360,7 +333,7 @@ private slots:
         QCOMPARE(int(kept.kind), int(KeptSlip::Test));
         QCOMPARE(kept.columns, 24);
         // Nothing was saved by it.
-        QCOMPARE(m_database->value("SELECT string_agg(appvalue, '') FROM appconfig").toString(), saved);
+        QCOMPARE(value("SELECT string_agg(appvalue, '') FROM appconfig"), saved);
         QVERIFY(form->isVisible());
     }
 
@@ -384,8 +357,7 @@ private slots:
         choose(&form, "ddlPrinter", "(no printer: the kitchen's screen)");
         QVERIFY(!field<QPushButton>(&form, "btnTestSlip")->isEnabled());
         form.accept();
-        const QString key =
-            m_database->value("SELECT appkey FROM appconfig WHERE appkey LIKE 'kitchen_printer_2%'").toString();
+        const QString key = value("SELECT appkey FROM appconfig WHERE appkey LIKE 'kitchen_printer_2%'");
         QCOMPARE(storedMembers(key).value("printer_name"), QJsonValue(""));
 
         // It comes back as it was left, and a printer that has gone does not become none.
@@ -403,8 +375,8 @@ private slots:
 
     void theFormSaysWhatTheCutLacks()
     {
-        m_database->run("INSERT INTO printer_type (printer_type, cash_drawer_cmd, cut_papper_cmd, version) VALUES "
-                        "('WHOLE', '', '29#V#66#1', 1)");
+        run("INSERT INTO printer_type (printer_type, cash_drawer_cmd, cut_papper_cmd, version) VALUES "
+            "('WHOLE', '', '29#V#66#1', 1)");
         DialogCashierAndKitchenPrinter form;
         const auto* told = field<QLabel>(&form, "lblCut");
         QVERIFY2(told->text().contains("lacks its end") && told->text().endsWith("Choose WHOLE instead."),
@@ -416,22 +388,17 @@ private slots:
 private:
     void addSetting(const QString& key, const QJsonObject& members) const
     {
-        m_database->run(
-            QString("INSERT INTO appconfig (appkey, is_json, appvalue, version) VALUES ('%1', true, '%2', 1)")
+        run(QString("INSERT INTO appconfig (appkey, is_json, appvalue, version) VALUES ('%1', true, '%2', 1)")
                 .arg(key, QString::fromUtf8(QJsonDocument(members).toJson())));
     }
 
     [[nodiscard]] QJsonObject storedMembers(const QString& key) const
     {
-        const QString text =
-            m_database->value("SELECT appvalue FROM appconfig WHERE appkey = '" + key + "'").toString();
+        const QString text = value("SELECT appvalue FROM appconfig WHERE appkey = '" + key + "'");
         return QJsonDocument::fromJson(text.toUtf8()).object();
     }
 
-    [[nodiscard]] int kitchens() const
-    {
-        return m_database->value("SELECT count(*) FROM appconfig WHERE appkey LIKE 'kitchen%'").toInt();
-    }
+    [[nodiscard]] int kitchens() const { return count("appconfig WHERE appkey LIKE 'kitchen%'"); }
 
     void listPrinters(const QByteArray& names) const
     {
@@ -439,10 +406,6 @@ private:
         QVERIFY(file.open(QIODevice::WriteOnly));
         QCOMPARE(file.write(names), qint64(names.size()));
     }
-
-    std::unique_ptr<QTemporaryDir> m_spool;
-    std::unique_ptr<TestDatabase> m_database;
-    std::unique_ptr<ModalDriver> m_people;
 };
 
 QTEST_MAIN(TestPrinterSettings)

@@ -1,6 +1,3 @@
-#include "app/context/AppContext.h"
-#include "kor/business/KorServiceDirectory.h"
-#include "pos/purchasing/purchase/BusinessPurchases.h"
 #include "pos/purchasing/purchase/DialogPurchaseDetail.h"
 #include "pos/purchasing/purchase/DialogPurchaseDetailPO.h"
 #include "pos/purchasing/purchase/DialogPurchases.h"
@@ -12,50 +9,32 @@
 #include "pos/purchasing/purchaseorder/DialogSelectPO.h"
 #include "pos/purchasing/purchaseorder/TabPurchaseOrder.h"
 #include "pos/purchasing/purchaseorder/TabPurchaseOrderDetail.h"
+#include "support/DatabaseTest.h"
 #include "support/Hands.h"
 #include "support/LedgerRows.h"
-#include "support/Rows.h"
 #include "support/ShopRows.h"
-#include "support/TestDatabase.h"
-
-#include <QComboBox>
-#include <QDateEdit>
-#include <QLabel>
-#include <QPlainTextEdit>
 
 using Entries = QList<QPair<const char*, QString>>;
 Q_DECLARE_METATYPE(Entries)
 
 /** The storekeeper at the pages of purchases and purchase orders, with keyboard and mouse. */
-class TestPurchases : public QObject
+class TestPurchases : public PageTest<QWidget>
 {
     Q_OBJECT
 
-private slots:
-    void init()
+protected:
+    void prepare() override
     {
-        m_database = std::make_unique<TestDatabase>();
         AppContext::instance()->setLocale("id_ID");
         insertShop(*m_database);
-        loginAsAdmin();
         insertItem(*m_database, 2, "EGG", "Eggs");
-        m_database->run("INSERT INTO bank (id, kode, nama, account_type, active, version) VALUES "
-                        "(2, '2000', 'Accounts Payable', 2, true, 1)");
-        m_database->run("INSERT INTO supplier (id, kode, nama, alamat, telp, email, version) VALUES "
-                        "(2, 'S2', 'Farm', 'Hill 9', '9', '', 1)");
-        m_people = std::make_unique<ModalDriver>();
+        run("INSERT INTO bank (id, kode, nama, account_type, active, version) VALUES "
+            "(2, '2000', 'Accounts Payable', 2, true, 1)");
+        run("INSERT INTO supplier (id, kode, nama, alamat, telp, email, version) VALUES "
+            "(2, 'S2', 'Farm', 'Hill 9', '9', '', 1)");
     }
 
-    void cleanup()
-    {
-        m_page.reset();
-        m_people.reset();
-        service<BusinessPurchases>("Purchases")->clearErrors();
-        m_database.reset();
-    }
-
-    // --- a purchase --------------------------------------------------------------------------------------------------
-
+private slots:
     void aPurchaseIsEnteredPaidAndListed()
     {
         show<TabPurchases>();
@@ -132,26 +111,22 @@ private slots:
 
     void whatIsMissingIsTold_data()
     {
-        addColumns<Entries, QString, QString>("entries", "change", "told");
-        addRow("nothing at all", Entries{{"txtSupplier", " "}, {"txtAPAccount", " "}}, "",
-               "Select a supplier|Please select an Accounts Payable");
-        addRow("a supplier that nobody knows", Entries{{"txtSupplier", "S9"}}, "", "Select a supplier");
-        addRow("a supplier deleted meanwhile", Entries{}, "DELETE FROM supplier WHERE kode = 'S1'",
-               "Select a supplier");
-        addRow("an account that nobody knows", Entries{{"txtAPAccount", "77"}}, "",
-               "Please select a valid Accounts Payable");
-        addRow("an account deleted meanwhile", Entries{}, "DELETE FROM bank WHERE id = 2",
-               "Please select a valid Accounts Payable");
-        addRow("a discount above all", Entries{{"txtDiscount", "31"}}, "",
-               "The discount should not be larger than the sub total");
-        addRow("no number", Entries{{"txtTax", "a lot"}}, "", "Please enter a number");
+        const auto row = addColumns<Entries, QString, QString>("entries", "change", "told");
+        row("nothing at all", {{"txtSupplier", " "}, {"txtAPAccount", " "}}, "",
+            "Select a supplier|Please select an Accounts Payable");
+        row("a supplier that nobody knows", {{"txtSupplier", "S9"}}, "", "Select a supplier");
+        row("a supplier deleted meanwhile", {}, "DELETE FROM supplier WHERE kode = 'S1'", "Select a supplier");
+        row("an account that nobody knows", {{"txtAPAccount", "77"}}, "", "Please select a valid Accounts Payable");
+        row("an account deleted meanwhile", {}, "DELETE FROM bank WHERE id = 2",
+            "Please select a valid Accounts Payable");
+        row("a discount above all", {{"txtDiscount", "31"}}, "",
+            "The discount should not be larger than the sub total");
+        row("no number", {{"txtTax", "a lot"}}, "", "Please enter a number");
     }
-
     void whatIsMissingIsTold()
     {
         QFETCH(Entries, entries);
-        QFETCH(QString, change);
-        QFETCH(QString, told);
+        FETCH(QString, change, told);
         show<TabPurchases>();
         onForm("btnAdd", [&](DialogPurchases* form) {
             enter(form, "txtSupplier", "S1");
@@ -162,7 +137,7 @@ private slots:
             for (const auto& entry : entries)
                 enter(form, entry.first, entry.second);
             if (!change.isEmpty())
-                m_database->run(change);
+                run(change);
             save(form);
             QCOMPARE(m_people->lastText(), told.replace('|', "\r\n") + "\r\n");
             QVERIFY(form->isVisible());
@@ -173,19 +148,17 @@ private slots:
 
     void aLineTakesNoNonsense_data()
     {
-        addColumns<Entries, QString>("entries", "told");
+        const auto row = addColumns<Entries, QString>("entries", "told");
         const QString price = "Enter the purchase price of the item\r\n";
         const QString qty = "Enter the qty of the item\r\n";
-        addRow("nothing", Entries{}, "Enter the item code\r\n" + price + qty);
-        addRow("no price", Entries{{"txtCode", "RICE"}, {"txtUnitPrice", "0"}, {"txtQty", "1"}}, price);
-        addRow("less than nothing", Entries{{"txtCode", "RICE"}, {"txtUnitPrice", "-5"}, {"txtQty", "-1"}},
-               price + qty);
-        addRow("a huge quantity", Entries{{"txtCode", "RICE"}, {"txtQty", "99999999999"}},
-               "This quantity is too large for one line\r\n");
-        addRow("a huge amount", Entries{{"txtCode", "RICE"}, {"txtUnitPrice", "900000000"}, {"txtQty", "9"}},
-               "This amount is too large for one line. Please enter a smaller qty\r\n");
+        row("nothing", {}, "Enter the item code\r\n" + price + qty);
+        row("no price", {{"txtCode", "RICE"}, {"txtUnitPrice", "0"}, {"txtQty", "1"}}, price);
+        row("less than nothing", {{"txtCode", "RICE"}, {"txtUnitPrice", "-5"}, {"txtQty", "-1"}}, price + qty);
+        row("a huge quantity", {{"txtCode", "RICE"}, {"txtQty", "99999999999"}},
+            "This quantity is too large for one line\r\n");
+        row("a huge amount", {{"txtCode", "RICE"}, {"txtUnitPrice", "900000000"}, {"txtQty", "9"}},
+            "This amount is too large for one line. Please enter a smaller qty\r\n");
     }
-
     void aLineTakesNoNonsense()
     {
         QFETCH(Entries, entries);
@@ -205,26 +178,22 @@ private slots:
         });
     }
 
-    // --- of an order -------------------------------------------------------------------------------------------------
-
     void anOrderIsReceived_data()
     {
-        addColumns<int, QString, int, QString, QString>("rice", "meanwhile", "answer", "told", "order");
+        const auto row =
+            addColumns<int, QString, int, QString, QString>("rice", "meanwhile", "answer", "told", "order");
         const QString question = "You have received all items from Purchase Order No: PO-1. Do you want to close this "
                                  "Purchase Order now?";
         const int none = QMessageBox::NoButton;
-        addRow("in full, and closed", 3, "", int(QMessageBox::Yes), question, "6 2");
-        addRow("in full, left open", 4, "", int(QMessageBox::No), question, "2 1");
-        addRow("short: open without a question", 2, "", none, "", "2 1");
-        addRow("closed by somebody else", 3, "UPDATE purchase_order SET status_id = 6, version = 2", none, "", "6 2");
+        row("in full, and closed", 3, "", QMessageBox::Yes, question, "6 2");
+        row("in full, left open", 4, "", QMessageBox::No, question, "2 1");
+        row("short: open without a question", 2, "", none, "", "2 1");
+        row("closed by somebody else", 3, "UPDATE purchase_order SET status_id = 6, version = 2", none, "", "6 2");
     }
-
     void anOrderIsReceived()
     {
-        QFETCH(int, rice);
-        QFETCH(QString, meanwhile);
-        QFETCH(int, answer);
-        QFETCH(QString, told);
+        FETCH(int, rice, answer);
+        FETCH(QString, meanwhile, told);
         insertOrder(1);
         insertOrder(2, 6);
         show<TabPurchases>();
@@ -248,7 +217,7 @@ private slots:
             takeOrder(form);
             QCOMPARE(cells(lines, 0).mid(2, 2), (QStringList{"3", QString::number(rice)}));
             if (!meanwhile.isEmpty())
-                m_database->run(meanwhile);
+                run(meanwhile);
             m_people->clear();
             if (answer != QMessageBox::NoButton)
                 m_people->answer(QMessageBox::StandardButton(answer));
@@ -280,38 +249,6 @@ private slots:
         });
     }
 
-    void aSaveThatFailsLeavesTheForm_data()
-    {
-        addColumns<QString, QString>("meanwhile", "told");
-        addRow("changed by somebody else", "UPDATE acquisition SET version = 2, updatedby = 5",
-               "acquisition has been updated");
-        addRow("deleted by somebody else", "DELETE FROM acquisition_detail; DELETE FROM acquisition",
-               "acquisition has been deleted");
-        addRow("a line that the database refuses", "ALTER TABLE acquisition_detail ADD CHECK (qty < 5) NOT VALID",
-               "error: update acquisition detail failed");
-    }
-
-    void aSaveThatFailsLeavesTheForm()
-    {
-        QFETCH(QString, meanwhile);
-        QFETCH(QString, told);
-        insertPurchase(2);
-        show<TabPurchases>();
-        choose(m_page.get(), 0);
-        onForm("btnEdit", [&](DialogPurchases* form) {
-            editLine<DialogPurchaseDetail>(form->findChild<TabPurchaseDetail*>(), 0, {{"txtQty", "7"}});
-            m_database->run(meanwhile);
-            save(form);
-            QVERIFY2(m_people->lastText().contains(told), qPrintable(m_people->lastText()));
-            QVERIFY(form->isVisible());
-            QCOMPARE(shown(form, "txtGrandTotal"), QString("70,00"));
-            giveUp(form);
-        });
-        QCOMPARE(value("select coalesce(sum(qty), 0) from acquisition_detail where qty <> 3"), QString("0"));
-    }
-
-    // --- orders ------------------------------------------------------------------------------------------------------
-
     void anOrderIsPlacedAndChanged()
     {
         show<TabPurchaseOrder>();
@@ -336,7 +273,7 @@ private slots:
                  QString("PO-0007 20 00:00:00 00:00:00 by Friday"));
         QCOMPARE(value("select count(*) from item_history"), QString("0"));
 
-        m_database->run("UPDATE purchase_order SET status_id = 1");
+        run("UPDATE purchase_order SET status_id = 1");
         choose(m_page.get(), 0);
         for (const char* status : {"", "Order Changed"}) {
             ::onForm<DialogPurchaseOrder>(*m_people, m_page.get(), "btnEdit", [status](DialogPurchaseOrder* form) {
@@ -350,44 +287,11 @@ private slots:
         }
     }
 
-    void aDocumentIsDeletedOrHasGone()
-    {
-        insertPurchase(1);
-        insertPurchase(2);
-        insertOrder(1);
-        show<TabPurchases>();
-        const int id = 2;
-        choose(m_page.get(), 0);
-        m_people->answer(QMessageBox::Yes);
-        click(m_page.get(), "btnDelete");
-        QTRY_COMPARE(rowsOf(m_page.get()), 1);
-        QCOMPARE(m_people->lastText(), QString("Are you sure you want to delete Purchase with No: NB-%1 ?").arg(id));
-        m_database->run("DELETE FROM acquisition_detail; DELETE FROM acquisition");
-        choose(m_page.get(), 0);
-        click(m_page.get(), "btnEdit");
-        QTRY_COMPARE(m_people->lastText(), QString("Can not find entity with id: 1"));
-
-        show<TabPurchaseOrder>();
-        choose(m_page.get(), 0);
-        m_people->answer(QMessageBox::No);
-        click(m_page.get(), "btnDelete");
-        QTRY_COMPARE(m_people->lastText(), QString("Are you sure you want to delete Purchase Order with No: PO-1 ?"));
-        m_database->run("DELETE FROM purchase_order_detail; DELETE FROM purchase_order");
-        choose(m_page.get(), 0);
-        click(m_page.get(), "btnDelete");
-        QTRY_COMPARE(m_people->lastText(), QString("Can not find PO with id: 1"));
-
-        loginWithRights("Purchase Order", {});
-        click(m_page.get(), "btnAdd");
-        QTRY_COMPARE(m_people->boxes().size(), 5);
-        QVERIFY(m_people->surprises().isEmpty());
-    }
-
     void theListOffersItsFilters()
     {
         for (int status = 1; status <= 3; ++status)
             insertPurchase(status);
-        m_database->run("UPDATE acquisition SET supplier_id = 2 WHERE id = 3");
+        run("UPDATE acquisition SET supplier_id = 2 WHERE id = 3");
         show<TabPurchases>();
         const QDate today = QDate::currentDate();
         QCOMPARE(m_page->findChild<QDateEdit*>("dateFrom")->date(), QDate(today.year(), today.month(), 1));
@@ -411,13 +315,6 @@ private slots:
     }
 
 private:
-    template <class Page>
-    void show()
-    {
-        m_page = std::make_unique<Page>();
-        showPage(m_page.get());
-    }
-
     /** Keys lines into the forms behind the Add button of the page of lines, and gives the last form up. */
     template <class Line>
     void addLines(QWidget* page, const QList<Entries>& lines)
@@ -463,55 +360,42 @@ private:
         QApplication::setActiveWindow(form);
     }
 
-    static QWidget* totals(QWidget* form) { return form->findChild<QWidget*>("totalsPane"); }
     static void save(QWidget* form) { confirm(form, "txtSupplier"); }
     void insertOrder(int id, int status = 2)
     {
         insertRows(*m_database, "purchase_order",
-                   {{"id", QString::number(id)},
-                    {"no", QString("'PO-%1'").arg(id)},
-                    {"bank_id", "2"},
-                    {"status_id", QString::number(status)},
-                    {"sub_total_amount", "120"},
-                    {"grandtotal_amount", "120"}});
+                   QString("id=%1, no='PO-%2', bank_id=2, status_id=%3, sub_total_amount=120, grandtotal_amount=120")
+                       .arg(id)
+                       .arg(id)
+                       .arg(status));
         for (const auto& item : {1, 2})
             insertRows(*m_database, "purchase_order_detail",
-                       {{"purchase_order_id", QString::number(id)},
-                        {"item_id", QString::number(item)},
-                        {"jumlah", QString::number(3 * item)},
-                        {"price_amount", "10"},
-                        {"total_price_amount", QString::number(30 * item)}});
+                       QString("purchase_order_id=%1, item_id=%2, jumlah=%3, price_amount=10, total_price_amount=%4")
+                           .arg(id)
+                           .arg(item)
+                           .arg(3 * item)
+                           .arg(30 * item));
     }
 
     void insertPurchase(int id)
     {
         insertRows(*m_database, "acquisition",
-                   {{"id", QString::number(id)},
-                    {"no", QString("'NB-%1'").arg(id)},
-                    {"invoice_no", QString("'F-%1'").arg(id)},
-                    {"bank_id", "2"},
-                    {"status", QString::number(id)},
-                    {"sub_total_amount", "30"},
-                    {"grandtotal_amount", "30"},
-                    {"net_due_amount", "30"}});
+                   QString("id=%1, no='NB-%2', invoice_no='F-%3', bank_id=2, status=%4, sub_total_amount=30, "
+                           "grandtotal_amount=30, net_due_amount=30")
+                       .arg(id)
+                       .arg(id)
+                       .arg(id)
+                       .arg(id));
         insertRows(*m_database, "acquisition_detail",
-                   {{"acquisition_id", QString::number(id)},
-                    {"qty", "3"},
-                    {"qty_ordered", "0"},
-                    {"price_each_amount", "10"},
-                    {"total_price_amount", "30"},
-                    {"po_detail_id", "NULL"}});
+                   QString("acquisition_id=%1, qty=3, qty_ordered=0, price_each_amount=10, total_price_amount=30, "
+                           "po_detail_id=NULL")
+                       .arg(id));
     }
 
-    QString value(const QString& statement) { return m_database->value(statement).toString(); }
     void onForm(const char* button, const std::function<void(DialogPurchases*)>& work)
     {
         ::onForm<DialogPurchases>(*m_people, m_page.get(), button, work);
     }
-
-    std::unique_ptr<TestDatabase> m_database;
-    std::unique_ptr<ModalDriver> m_people;
-    std::unique_ptr<QWidget> m_page;
 };
 
 QTEST_MAIN(TestPurchases)

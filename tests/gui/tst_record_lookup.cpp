@@ -1,12 +1,9 @@
 #include "app/context/AppContext.h"
 #include "app/widgets/AppEntityTextBox.h"
 #include "kor/business/KorBusinessLogic.h"
-#include "kor/widgets/DialogKeyboard.h"
 
 #include <QApplication>
-#include <QDialogButtonBox>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QTest>
 #include <QTreeWidget>
 
@@ -98,7 +95,7 @@ struct Bill
 int recordsAlive() { return AppContext::instance()->mainEntityPool()->findChildren<KorEntity*>().size(); }
 } // namespace
 
-class tst_RecordLookup : public QObject
+class TestRecordLookup : public QObject
 {
     Q_OBJECT
 
@@ -201,28 +198,7 @@ private slots:
         QVERIFY(box.items().isEmpty());
         QVERIFY(!box.selectedItem());
     }
-
-    void theKeyboardHasAllItsKeysAndTheyDoNothingYet()
-    {
-        DialogKeyboard keyboard;
-        keyboard.show();
-        auto* result = keyboard.findChild<QLineEdit*>("txtResult");
-        auto* box = keyboard.findChild<QDialogButtonBox*>();
-        QVERIFY(result && box);
-        int keys = 0;
-        for (QPushButton* key : keyboard.findChildren<QPushButton*>()) {
-            if (key->parent() == box)
-                continue;
-            ++keys;
-            const QByteArray slot = "on_" + key->objectName().toUtf8() + "_clicked()";
-            QVERIFY2(keyboard.metaObject()->indexOfSlot(slot) >= 0, slot);
-            QTest::mouseClick(key, Qt::LeftButton);
-        }
-        QCOMPARE(keys, 44);
-        QCOMPARE(result->text(), QString());
-        QVERIFY(keyboard.isVisible());
-    }
 };
 
-QTEST_MAIN(tst_RecordLookup)
+QTEST_MAIN(TestRecordLookup)
 #include "tst_record_lookup.moc"

@@ -1,10 +1,6 @@
-#include "app/context/AppContext.h"
-#include "kor/business/KorServiceDirectory.h"
-#include "support/ModalDriver.h"
-#include "support/Rows.h"
+#include "support/DatabaseTest.h"
 #include "support/SalesRows.h"
 #include "support/ShopRows.h"
-#include "support/TestDatabase.h"
 #include "zavel/dinein/DialogBayarMakanDitempat.h"
 #include "zavel/fastfood/DialogFastFood.h"
 #include "zavel/list/TabDaftarPenjualan.h"
@@ -12,44 +8,25 @@
 #include "zavel/service/BusinessPenjualan.h"
 #include "zavel/takeaway/DialogBayarBawaPulang.h"
 
-#include <QApplication>
-#include <QComboBox>
-#include <QDateEdit>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QRegularExpression>
-#include <QTableView>
-#include <QTest>
 
 using Sales = BusinessPenjualan;
 
 /** The page of all sales: what it shows, how it narrows, and what can be done with a sale from there. */
-class TestSalesPage : public QObject
+class TestSalesPage : public PageTest<TabDaftarPenjualan>
 {
     Q_OBJECT
 
-private slots:
-    void init()
+protected:
+    void prepare() override
     {
-        m_database = std::make_unique<TestDatabase>();
         insertShop(*m_database);
-        loginAsAdmin();
-        m_database->run("TRUNCATE users CASCADE");
+        run("TRUNCATE users CASCADE");
         insertSeller(*m_database, 1, "ann");
         insertSeller(*m_database, 77, "waiter");
-        m_people = std::make_unique<ModalDriver>();
     }
 
-    void cleanup()
-    {
-        m_page.reset();
-        m_people.reset();
-        m_database.reset();
-    }
-
-    // --- the list ----------------------------------------------------------------------------------------------------
-
+private slots:
     void aRowTellsTheWholeSale()
     {
         SaleRow sale{"TRF-1", "TRF", 900, 500, 100, 3, QDate::currentDate(), "Mary"};
@@ -96,13 +73,11 @@ private slots:
         row("dateFrom", "-1", "H1 F1 D2 D1 OLD");
         row("dateTo", "-1", "");
     }
-
     void everyFilterNarrowsTheList()
     {
-        QFETCH(QString, box);
-        QFETCH(QString, entry);
+        FETCH(QString, box, entry);
         const QDate today = QDate::currentDate();
-        m_database->run("INSERT INTO meja (id, kode, nama, version) VALUES (2, 'T2', 'Door', 1)");
+        run("INSERT INTO meja (id, kode, nama, version) VALUES (2, 'T2', 'Door', 1)");
         SaleRow sale{"D1", "TRD", 100, 100, 0, 1, today};
         sale.employee = 1;
         insertSale(*m_database, sale);
@@ -175,39 +150,6 @@ private slots:
             QCOMPARE(the<QDateEdit>(date)->date(), QDate::currentDate());
     }
 
-    // --- one sale ----------------------------------------------------------------------------------------------------
-
-    void nothingHappensWithoutTheRight_data()
-    {
-        using Grants = QList<QPair<int, int>>;
-        addColumns<Grants, QString, QString>("grants", "button", "missing");
-        addRow("no payments", Grants{{Sales::UBAH_PESANAN, 2}}, "btnEdit", "Save an Invoice");
-        addRow("no changes", Grants{{Sales::SAVE_INVOICE, 2}}, "btnEdit", "Edit an Order");
-        addRow("changes to own sales", Grants{{Sales::SAVE_INVOICE, 2}, {Sales::UBAH_PESANAN, 1}}, "btnEdit",
-               "Edit an Order");
-        addRow("no deleting", Grants{{Sales::SAVE_INVOICE, 2}, {Sales::UBAH_PESANAN, 2}}, "btnDelete",
-               "Delete a Sales Order");
-    }
-
-    void nothingHappensWithoutTheRight()
-    {
-        using Grants = QList<QPair<int, int>>;
-        QFETCH(Grants, grants);
-        QFETCH(QString, button);
-        QFETCH(QString, missing);
-        insertSale(*m_database, {"D1", "TRD", 100, 100, 0, 1, QDate::currentDate()});
-        loginWithRights("Sales", grants);
-        for (const KorPermission& right : service<BusinessPenjualan>("Sales")->getPermissions())
-            AppContext::instance()->accessCaptions()->insert("Sales" + QString::number(right.first), right.second);
-        show();
-        m_grid->selectRow(0);
-        click(button.toLatin1().constData());
-        QVERIFY(m_people->finished());
-        QCOMPARE(m_people->boxes().size(), 1);
-        QVERIFY2(m_people->lastText().contains(missing), qPrintable(m_people->lastText()));
-        QCOMPARE(count("invoice"), 1);
-    }
-
     void aTablesPaymentIsOpenedAgain()
     {
         insertSale(*m_database, {"D1", "TRD", 900, 500, 0, 3, QDate::currentDate(), "Mary"});
@@ -277,37 +219,13 @@ private slots:
     void aSaleWithoutItsLinkCannotBeOpened()
     {
         const int id = insertSale(*m_database, {"D1", "TRD", 100, 100, 0, 1, QDate::currentDate()});
-        m_database->run("DELETE FROM invoice_makan_ditempat");
+        run("DELETE FROM invoice_makan_ditempat");
         show();
         m_grid->selectRow(0);
         click("btnEdit");
         QCOMPARE(m_people->lastTitle(), QString("Error"));
         QCOMPARE(m_people->lastText(), QString("Can not find entity with id: %1").arg(id));
         QVERIFY(m_people->finished());
-    }
-
-    void deletingAsksForTheInvoiceByItsNumber()
-    {
-        for (const char* no : {"D1", "D2"})
-            insertSale(*m_database, {no, "TRD", 100, 100, 0, 1, QDate::currentDate()});
-        show();
-        m_grid->selectAll();
-        m_people->answer(QMessageBox::No);
-        m_people->answer(QMessageBox::Yes);
-        QTest::keyClick(m_grid, Qt::Key_Delete);
-        QTRY_COMPARE(numbers(), QString("D2"));
-        QCOMPARE(m_people->texts(), (QStringList{"Are you sure, you want to delete this sales invoice: D2 ?",
-                                                 "Are you sure, you want to delete this sales invoice: D1 ?"}));
-        QCOMPARE(m_people->lastTitle(), QString("Delete"));
-
-        // Somebody else changes it while the list is on the screen.
-        m_database->run("UPDATE invoice SET version = 2, updatedby = 1");
-        m_people->answer(QMessageBox::Yes);
-        m_grid->selectRow(0);
-        click("btnDelete");
-        QVERIFY2(m_people->lastText().contains("Table: invoice has been updated"), qPrintable(m_people->lastText()));
-        QCOMPARE(m_people->lastTitle(), QString("Error"));
-        QCOMPARE(count("invoice_makan_ditempat"), 1);
     }
 
     void aBusyMonthOpensInOneStatementAndScrolls()
@@ -331,25 +249,12 @@ private slots:
     }
 
 private:
-    void show()
-    {
-        m_page = std::make_unique<TabDaftarPenjualan>();
-        m_page->resize(1000, 600);
-        m_page->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_page.get()));
-        m_grid = the<QTableView>("tblPenjualan");
-    }
-
     template <class Widget>
     Widget* the(const char* name)
     {
         return m_page->findChild<Widget*>(name);
     }
     void click(const char* button) { QTest::mouseClick(the<QPushButton>(button), Qt::LeftButton); }
-    [[nodiscard]] QString cell(int row, TableModelDaftarPenjualan::Column column) const
-    {
-        return m_grid->model()->index(row, column).data().toString();
-    }
     [[nodiscard]] QString numbers() const
     {
         QStringList found;
@@ -357,13 +262,6 @@ private:
             found.append(cell(row, TableModelDaftarPenjualan::No));
         return found.join(' ');
     }
-
-    int count(const QString& rows) { return m_database->value("select count(*) from " + rows).toInt(); }
-
-    std::unique_ptr<TestDatabase> m_database;
-    std::unique_ptr<ModalDriver> m_people;
-    std::unique_ptr<TabDaftarPenjualan> m_page;
-    QTableView* m_grid = nullptr;
 };
 
 QTEST_MAIN(TestSalesPage)

@@ -1,25 +1,14 @@
-#include "app/context/AppContext.h"
-#include "kor/business/KorServiceDirectory.h"
 #include "pos/invoice/EntityInvoiceDetail.h"
 #include "pos/totals/InvoiceTotals.h"
-#include "support/Builders.h"
-#include "support/ModalDriver.h"
-#include "support/Rows.h"
+#include "support/DatabaseTest.h"
 #include "support/TestCluster.h"
-#include "support/TestDatabase.h"
 #include "zavel/dinein/DialogBayarMakanDitempat.h"
 #include "zavel/dinein/DialogBayarMakanDitempatDetailSplit.h"
 #include "zavel/payment/BillLines.h"
 #include "zavel/service/BusinessPenjualan.h"
 
-#include <QApplication>
 #include <QCheckBox>
-#include <QComboBox>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QRandomGenerator>
-#include <QTableView>
-#include <QTest>
 
 #include <numeric>
 
@@ -32,34 +21,28 @@ const char* const doneQuestion = "Are you done with this table: Window ?";
 } // namespace
 
 /** A party at one table that pays apart: three teas of 10 and two cakes of 25. */
-class TestSplit : public QObject
+class TestSplit : public DatabaseTest
 {
     Q_OBJECT
 
-private slots:
-    void init()
+protected:
+    void prepare() override
     {
-        m_database = std::make_unique<TestDatabase>();
         AppContext::instance()->setLocale("id_ID");
-        loginAsAdmin();
         m_builders = std::make_unique<Builders>();
         m_order = m_builders
                       ->openOrder(m_builders->table("T1", "Window"),
                                   {m_builders->line(m_builders->item("TEA", "Tea", 10), 3),
                                    m_builders->line(m_builders->item("CAKE", "Cake", 25), 2)})
                       ->getId();
-        m_people = std::make_unique<ModalDriver>();
     }
-
-    void cleanup()
+    void tidy() override
     {
         m_form.reset();
-        m_people.reset();
         m_builders.reset();
-        service<BusinessPenjualan>("Sales")->clearErrors();
-        m_database.reset();
     }
 
+private slots:
     void theSplitShowsOnlyWhereItIsWanted()
     {
         openForm();
@@ -116,19 +99,16 @@ private slots:
 
     void aSplitThatCannotBeIsTold_data()
     {
-        addColumns<QString, QString, QString, QString>("quantity", "button", "title", "text");
-        addRow("more than ordered", "4", "btnSplit", "Info",
-               "Split number should be less than equal to the number of orders");
-        addRow("less than nothing", "-1", "btnSplit", "Error", "Please enter a whole number from 0 to 999.999.999\r\n");
-        addRow("nothing to split", "0", "btnProcessSplit", "Error", "There is no invoice to split");
-        addRow("saved before it is split", "2", "btnPrintBill", "Info", "Please split the invoice first");
+        const auto row = addColumns<QString, QString, QString, QString>("quantity", "button", "title", "text");
+        row("more than ordered", "4", "btnSplit", "Info",
+            "Split number should be less than equal to the number of orders");
+        row("less than nothing", "-1", "btnSplit", "Error", "Please enter a whole number from 0 to 999.999.999\r\n");
+        row("nothing to split", "0", "btnProcessSplit", "Error", "There is no invoice to split");
+        row("saved before it is split", "2", "btnPrintBill", "Info", "Please split the invoice first");
     }
-
     void aSplitThatCannotBeIsTold()
     {
-        QFETCH(QString, quantity);
-        QFETCH(QString, button);
-        QFETCH(QString, title);
+        FETCH(QString, quantity, button, title);
         openForm();
         split(0, quantity, "Grp 1");
         if (button != "btnSplit")
@@ -167,18 +147,6 @@ private slots:
         QCOMPARE(m_people->lastText(), QString("This invoice is already paid"));
         QCOMPARE(m_people->texts().count(printQuestion), 3);
     }
-
-    void aSplitLineCanBeSharedOutAnew()
-    {
-        openForm();
-        split(0, "2", "Grp 1");
-        split(0, "3", "Grp 2");
-        QCOMPARE(grid()->model()->index(0, 2).data().toInt(), 0);
-        QCOMPARE(grid()->model()->index(0, 3).data().toInt(), 3);
-        QCOMPARE(grid()->model()->index(0, 4).data().toString(), QString("Grp 2"));
-    }
-
-    // --- conservation ------------------------------------------------------------------------------------------------
 
     void whateverIsSplitTheInvoicesAddUpToTheOrder()
     {
@@ -349,18 +317,14 @@ private:
     /** Each invoice of the order as "status quantities", oldest first. */
     QString invoices()
     {
-        return m_database
-            ->value("SELECT string_agg(line, ', ' ORDER BY id) FROM (SELECT i.id, i.status || ':' || "
-                    "string_agg(d.qty::text, '+' ORDER BY d.id) AS line FROM invoice i "
-                    "JOIN invoice_detail d ON d.invoice_id = i.id GROUP BY i.id) all_of_them")
-            .toString();
+        return value("SELECT string_agg(line, ', ' ORDER BY id) FROM (SELECT i.id, i.status || ':' || "
+                     "string_agg(d.qty::text, '+' ORDER BY d.id) AS line FROM invoice i "
+                     "JOIN invoice_detail d ON d.invoice_id = i.id GROUP BY i.id) all_of_them");
     }
 
     int orderStatus() { return m_database->value("SELECT status FROM makan_ditempat").toInt(); }
 
-    std::unique_ptr<TestDatabase> m_database;
     std::unique_ptr<Builders> m_builders;
-    std::unique_ptr<ModalDriver> m_people;
     std::unique_ptr<DialogBayarMakanDitempat> m_form;
     int m_order = 0;
 };

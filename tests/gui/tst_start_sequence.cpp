@@ -1,22 +1,14 @@
 #include "app/access/DialogLogin.h"
-#include "app/context/AppContext.h"
-#include "app/context/ConnectionSettings.h"
 #include "kor/persistence/KorQuery.h"
 #include "shell/database/wizard/AppInstallerWizard.h"
 #include "shell/window/ConfigDialog.h"
 #include "shell/window/MainWindow.h"
 #include "shell/window/ZavelApplication.h"
-#include "support/ModalDriver.h"
-#include "support/Rows.h"
-#include "support/TestDatabase.h"
+#include "support/DatabaseTest.h"
 
 #include <QDir>
-#include <QLineEdit>
 #include <QProcess>
-#include <QPushButton>
 #include <QRegularExpression>
-#include <QTemporaryDir>
-#include <QTest>
 #include <QTimer>
 
 // This program is two: the tests, and, called with "--play", the program itself with somebody in front of it.
@@ -119,19 +111,18 @@ struct Ending
 };
 } // namespace
 
-class TestStartSequence : public QObject
+class TestStartSequence : public DatabaseTest
 {
     Q_OBJECT
 
-private slots:
-    void init()
+protected:
+    void prepare() override
     {
-        m_database.reset();
-        m_database = std::make_unique<TestDatabase>();
         m_home = std::make_unique<QTemporaryDir>();
         QVERIFY(QDir().mkpath(QFileInfo(dataFile("x")).path()));
     }
 
+private slots:
     void withoutSettingsTheWizardIsOfferedAndMayBeGivenUp()
     {
         const Ending ending = start("give up");
@@ -166,13 +157,12 @@ private slots:
 
     void settingsThatDoNotWorkAreToldAndTheConfigurationFollows_data()
     {
-        addColumns<QString>("kind");
-        addRow("damaged file", "damaged");
-        addRow("no port", "port");
-        addRow("unknown user", "user");
-        addRow("no server there", "server");
+        const auto row = addColumns<QString>("kind");
+        row("damaged file", "damaged");
+        row("no port", "port");
+        row("unknown user", "user");
+        row("no server there", "server");
     }
-
     void settingsThatDoNotWorkAreToldAndTheConfigurationFollows()
     {
         QFETCH(QString, kind);
@@ -203,15 +193,14 @@ private slots:
 
     void aDatabaseWithoutAVersionAsksForTheInstallation_data()
     {
-        addColumns<bool>("empty");
-        addRow("no tables at all", true);
-        addRow("no version in the table", false);
+        const auto row = addColumns<bool>("empty");
+        row("no tables at all", true);
+        row("no version in the table", false);
     }
-
     void aDatabaseWithoutAVersionAsksForTheInstallation()
     {
         QFETCH(bool, empty);
-        m_database->run(empty ? "DROP TABLE appconfig" : "DELETE FROM appconfig WHERE appkey = 'app_version'");
+        run(empty ? "DROP TABLE appconfig" : "DELETE FROM appconfig WHERE appkey = 'app_version'");
         QVERIFY(settings().write(dataFile("settings.ini")));
         const Ending ending = start("give up");
         QCOMPARE(ending.status, 0);
@@ -221,21 +210,20 @@ private slots:
 
     void aDatabaseThatIsNotWholeIsToldBeforeTheLogin_data()
     {
-        addColumns<QString, QString, QString>("damage", "box", "next");
-        addRow("a table is missing", "DROP TABLE komisi_agen_detail", "Error: ", "ConfigDialog");
-        addRow("a newer program has updated it",
-               "UPDATE appconfig SET appvalue = '99' WHERE appkey = "
-               "'app_version'",
-               "Error: The database is of version 99, and this program is of", "ConfigDialog");
-        addRow("a reference is missing", "ALTER TABLE stock_take DROP CONSTRAINT stock_take_item_id_fkey",
-               "Warning: ", "");
+        const auto row = addColumns<QString, QString, QString>("damage", "box", "next");
+        row("a table is missing", "DROP TABLE komisi_agen_detail", "Error: ", "ConfigDialog");
+        row("a newer program has updated it",
+            "UPDATE appconfig SET appvalue = '99' WHERE appkey = "
+            "'app_version'",
+            "Error: The database is of version 99, and this program is of", "ConfigDialog");
+        row("a reference is missing", "ALTER TABLE stock_take DROP CONSTRAINT stock_take_item_id_fkey",
+            "Warning: ", "");
     }
-
     void aDatabaseThatIsNotWholeIsToldBeforeTheLogin()
     {
         QFETCH(QString, damage);
         install();
-        m_database->run(damage);
+        run(damage);
         QVERIFY(settings().write(dataFile("settings.ini")));
         const Ending ending = start("work");
         QCOMPARE(ending.status, 0);
@@ -280,16 +268,6 @@ private slots:
         const ConnectionSettings saved = ConnectionSettings::read(dataFile("settings.ini"));
         QCOMPARE(saved.database, m_database->name());
         QCOMPARE(saved.password, QString("Qx7!Rm2z"));
-    }
-
-    void whoLogsInWorksUntilTheWindowIsClosed()
-    {
-        install();
-        QVERIFY(settings().write(dataFile("settings.ini")));
-        const Ending ending = start("work");
-        QCOMPARE(ending.status, 0);
-        QCOMPARE(ending.boxes, QStringList());
-        QCOMPARE(ending.surprises, QString());
     }
 
     void aRestartOnlyEndsTheProgram()
@@ -342,28 +320,21 @@ private:
     }
     ConnectionSettings settings() const
     {
-        ConnectionSettings settings;
-        settings.host = TestDatabase::host();
-        settings.database = m_database->name();
-        settings.user = TestDatabase::user();
+        ConnectionSettings settings = m_database->settings();
         settings.password = "not asked for";
-        settings.port = TestDatabase::port();
         return settings;
     }
 
     void install()
     {
         for (const char* table : {"appconfig", "users", "user_group"})
-            m_database->run(QString("TRUNCATE %1 CASCADE").arg(table));
-        m_database->run(
-            "INSERT INTO appconfig (appkey, is_json, appvalue, version) VALUES ('app_version', false, '1.1', 1)");
-        m_database->run("INSERT INTO user_group (id, name, version) VALUES (1, 'admin', 1)");
-        m_database->run(
-            "INSERT INTO users (first_name, last_name, username, password, user_group_id, currency, version) "
+            run(QString("TRUNCATE %1 CASCADE").arg(table));
+        run("INSERT INTO appconfig (appkey, is_json, appvalue, version) VALUES ('app_version', false, '1.1', 1)");
+        run("INSERT INTO user_group (id, name, version) VALUES (1, 'admin', 1)");
+        run("INSERT INTO users (first_name, last_name, username, password, user_group_id, currency, version) "
             "VALUES ('admin', 'pos', 'admin', md5('secret'), 1, '$', 1)");
     }
 
-    std::unique_ptr<TestDatabase> m_database;
     std::unique_ptr<QTemporaryDir> m_home;
 };
 

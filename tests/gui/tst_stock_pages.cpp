@@ -1,24 +1,12 @@
 #include "app/widgets/MoneyEdit.h"
-#include "kor/business/KorServiceDirectory.h"
 #include "pos/inventory/adjustment/TabInventoryAdj.h"
 #include "pos/inventory/balance/TabStokAwal.h"
 #include "pos/inventory/stock/BusinessInventory.h"
 #include "pos/inventory/stockcard/TabKartuStok.h"
 #include "pos/masterdata/item/EntityItem.h"
-#include "support/ModalDriver.h"
-#include "support/Rows.h"
+#include "support/DatabaseTest.h"
 #include "support/SalesRows.h"
 #include "support/ShopRows.h"
-#include "support/TestDatabase.h"
-
-#include <QApplication>
-#include <QComboBox>
-#include <QDateEdit>
-#include <QDialogButtonBox>
-#include <QLabel>
-#include <QPushButton>
-#include <QTableView>
-#include <QTest>
 
 namespace
 {
@@ -48,30 +36,19 @@ void press(const QDialog* form, QDialogButtonBox::StandardButton button)
 } // namespace
 
 /** The pages of the storeroom, worked on as a storekeeper does. */
-class TestStockPages : public QObject
+class TestStockPages : public PageTest<AppListTab>
 {
     Q_OBJECT
 
-private slots:
-    void init()
+protected:
+    void prepare() override
     {
-        m_database = std::make_unique<TestDatabase>();
         insertShop(*m_database);
-        m_database->run("INSERT INTO stok_awal (item_id, harga_currency, harga_amount, jumlah, createdtime, version) "
-                        "VALUES (1, 'Rp', 10, 7, '2026-01-02', 1)");
-        loginAsAdmin();
-        m_people = std::make_unique<ModalDriver>();
+        run("INSERT INTO stok_awal (item_id, harga_currency, harga_amount, jumlah, createdtime, version) "
+            "VALUES (1, 'Rp', 10, 7, '2026-01-02', 1)");
     }
 
-    void cleanup()
-    {
-        m_page.reset();
-        m_people.reset();
-        m_database.reset();
-    }
-
-    // --- beginning balances ------------------------------------------------------------------------------------------
-
+private slots:
     void anItemsBeginningBalanceIsTyped()
     {
         show<TabStokAwal>();
@@ -117,45 +94,24 @@ private slots:
         QVERIFY2(m_people->finished(), qPrintable(m_people->texts().join('\n')));
     }
 
-    void aRefusedBalanceStaysAsTyped()
-    {
-        show<TabStokAwal>();
-        m_people->expect<DialogStokAwal>([this](DialogStokAwal* form) {
-            enter(form, "txtKode", "RICE");
-            enter(form, "txtJumlah", "5");
-            m_database->run("ALTER TABLE stok_awal RENAME TO elsewhere");
-            ::press(form, QDialogButtonBox::Ok);
-            QCOMPARE(m_people->lastTitle(), QString("Error"));
-            m_database->run("ALTER TABLE elsewhere RENAME TO stok_awal");
-            QVERIFY(form->isVisible());
-            QCOMPARE(text(form, "txtKode") + text(form, "txtNama") + text(form, "txtJumlah"), QString("RICERice5"));
-            ::press(form, QDialogButtonBox::Ok);
-        });
-        press("btnAdd");
-        QTRY_COMPARE(rows(), QStringList{"RICE|Rice|5|Kilogram|$10.00|$50.00"});
-        QCOMPARE(m_people->boxes().size(), 1);
-    }
-
     void whatIsNoBalanceIsRefused_data()
     {
-        addColumns<QStringList, QStringList>("entries", "complaints");
+        const auto row = addColumns<QStringList, QStringList>("entries", "complaints");
         const QString item = "Enter the item code";
         const QString cost = "Enter the unit cost";
         const QString qty = "Enter the qty of the item";
-        addRow("nothing", QStringList{"", "", ""}, QStringList{item, cost, qty});
-        addRow("an unknown item", QStringList{"RYE", "1", "1"}, QStringList{item});
-        addRow("words", QStringList{"RICE", "much", "many"}, QStringList{cost, qty});
-        addRow("too much", QStringList{"RICE", "99999999999", "1e300"},
-               QStringList{"The amount is too large, the largest is 21,474,836",
-                           "Please enter a whole number from 0 to 999,999,999"});
-        addRow("a debt and a piece", QStringList{"RICE", "-1", "1.5"},
-               QStringList{"The amount must not be negative", "Please enter a whole number"});
+        row("nothing", {"", "", ""}, {item, cost, qty});
+        row("an unknown item", {"RYE", "1", "1"}, {item});
+        row("words", {"RICE", "much", "many"}, {cost, qty});
+        row("too much", {"RICE", "99999999999", "1e300"},
+            {"The amount is too large, the largest is 21,474,836",
+             "Please enter a whole number from 0 to 999,999,999"});
+        row("a debt and a piece", {"RICE", "-1", "1.5"},
+            {"The amount must not be negative", "Please enter a whole number"});
     }
-
     void whatIsNoBalanceIsRefused()
     {
-        QFETCH(QStringList, entries);
-        QFETCH(QStringList, complaints);
+        FETCH(QStringList, entries, complaints);
         show<TabStokAwal>();
         m_people->expect<DialogStokAwal>([&](DialogStokAwal* form) {
             const char* const names[] = {"txtKode", "txtHarga", "txtJumlah"};
@@ -169,8 +125,6 @@ private slots:
         QTRY_VERIFY(m_people->finished());
         QCOMPARE(stored("jumlah FROM stok_awal"), QString("7"));
     }
-
-    // --- adjustments -------------------------------------------------------------------------------------------------
 
     void anAdjustmentIsKeyedIn()
     {
@@ -210,22 +164,19 @@ private slots:
 
     void aCountOnADayOfTradeIsOfferedTheNextDay_data()
     {
-        addColumns<int, int, int>("answer", "days", "tomorrow");
+        const auto row = addColumns<int, int, int>("answer", "days", "tomorrow");
         // Of seven three are sold, five are counted.
-        addRow("the next day", int(QMessageBox::Yes), 1, 5);
-        addRow("this day all the same", int(QMessageBox::No), 0, 2);
-        addRow("back to the form", int(QMessageBox::Cancel), -1, 4);
+        row("the next day", QMessageBox::Yes, 1, 5);
+        row("this day all the same", QMessageBox::No, 0, 2);
+        row("back to the form", QMessageBox::Cancel, -1, 4);
     }
-
     void aCountOnADayOfTradeIsOfferedTheNextDay()
     {
-        QFETCH(int, answer);
-        QFETCH(int, days);
-        QFETCH(int, tomorrow);
+        FETCH(int, answer, days, tomorrow);
         SaleRow sale;
         sale.date = today;
         insertSale(*m_database, sale);
-        m_database->run("UPDATE invoice_detail SET qty = 3");
+        run("UPDATE invoice_detail SET qty = 3");
         show<TabInventoryAdj>();
         m_people->answer(QMessageBox::StandardButton(answer));
         m_people->expect<DialogInventoryAdj>([answer](DialogInventoryAdj* form) {
@@ -249,8 +200,7 @@ private slots:
     {
         for (const int days : {0, -10})
             insertDineOrder(*m_database, {{2, 15}}, today.addDays(days));
-        m_database->run(
-            "INSERT INTO stock_take (item_id, tanggal, qty, qty_before, qty_adj, source_acct_code, version) "
+        run("INSERT INTO stock_take (item_id, tanggal, qty, qty_before, qty_adj, source_acct_code, version) "
             "VALUES (1, current_date - 5, 20, 7, 13, '1-100', 1)");
         show<TabInventoryAdj>();
         m_people->expect<DialogInventoryAdj>([](DialogInventoryAdj* form) {
@@ -277,23 +227,19 @@ private slots:
 
     void whatIsNoAdjustmentIsRefused_data()
     {
-        addColumns<QStringList, QStringList>("entries", "complaints");
+        const auto row = addColumns<QStringList, QStringList>("entries", "complaints");
         const QString item = "Enter the item code";
         const QString qty = "Enter the qty adjustment of the item";
-        addRow("nothing", QStringList{"", "", ""}, QStringList{item, qty, "Select GL Source Account"});
-        addRow("by nothing", QStringList{"RICE", "0", "1-100"}, QStringList{qty});
-        addRow("by words", QStringList{"RICE", "few", "1-100"}, QStringList{qty});
-        addRow("by a piece", QStringList{"RICE", "-0.5", "1-100"}, QStringList{"Please enter a whole number"});
-        addRow("to more than can be counted", QStringList{"RICE", "999999999", "1-100"},
-               QStringList{"The new qty is more than can be counted"});
-        addRow("an account that nobody has", QStringList{"RICE", "3", "9-999"},
-               QStringList{"Select a valid GL Source Account"});
+        row("nothing", {"", "", ""}, {item, qty, "Select GL Source Account"});
+        row("by nothing", {"RICE", "0", "1-100"}, {qty});
+        row("by words", {"RICE", "few", "1-100"}, {qty});
+        row("by a piece", {"RICE", "-0.5", "1-100"}, {"Please enter a whole number"});
+        row("to more than can be counted", {"RICE", "999999999", "1-100"}, {"The new qty is more than can be counted"});
+        row("an account that nobody has", {"RICE", "3", "9-999"}, {"Select a valid GL Source Account"});
     }
-
     void whatIsNoAdjustmentIsRefused()
     {
-        QFETCH(QStringList, entries);
-        QFETCH(QStringList, complaints);
+        FETCH(QStringList, entries, complaints);
         show<TabInventoryAdj>();
         m_people->expect<DialogInventoryAdj>([&](DialogInventoryAdj* form) {
             const char* const names[] = {"txtKode", "txtStok", "txtSourceAccount"};
@@ -309,37 +255,11 @@ private slots:
         QCOMPARE(stored("count(*) FROM stock_take"), QString("0"));
     }
 
-    void anAccountThatWentMeanwhileLeavesTheFormAsTyped()
-    {
-        m_database->run(
-            "INSERT INTO bank (id, kode, nama, account_type, active, version) VALUES (2, '2-200', 'Losses', "
-            "1, true, 1)");
-        show<TabInventoryAdj>();
-        m_people->expect<DialogInventoryAdj>([this](DialogInventoryAdj* form) {
-            enter(form, "txtKode", "RICE");
-            enter(form, "txtStok", "-2");
-            enter(form, "txtSourceAccount", "2-200");
-            QCOMPARE(form->findChild<QLabel*>("lblSource")->text(), QString("Losses"));
-            m_database->run("DELETE FROM bank WHERE id = 2");
-            ::press(form, QDialogButtonBox::Ok);
-            QCOMPARE(m_people->lastText(), QString("Select a valid GL Source Account\r\n"));
-            QCOMPARE(text(form, "txtKode") + text(form, "txtStok") + text(form, "txtNewQty"), QString("RICE-25"));
-            QCOMPARE(form->focusWidget(), field(form, "txtSourceAccount"));
-            enter(form, "txtSourceAccount", "1-100");
-            ::press(form, QDialogButtonBox::Ok);
-        });
-        press("btnAdd");
-        QTRY_COMPARE(rows().size(), 1);
-        QCOMPARE(stored("qty || reason || source_acct_code FROM stock_take"), QString("5Broken1-100"));
-    }
-
     void aWrongAdjustmentIsDeletedAndNeverEdited()
     {
-        m_database->run(
-            "INSERT INTO stock_take (id, item_id, tanggal, qty, qty_before, qty_adj, source_acct_code, version)"
+        run("INSERT INTO stock_take (id, item_id, tanggal, qty, qty_before, qty_adj, source_acct_code, version)"
             " SELECT n, 1, date '2026-3-1' + n, n, 0, n, '1-100', 1 FROM generate_series(1, 3) n");
-        m_database->run(
-            "INSERT INTO item_history (trans_date, item_id, qty_in, qty_out, qty_remain, unit_price_currency, "
+        run("INSERT INTO item_history (trans_date, item_id, qty_in, qty_out, qty_remain, unit_price_currency, "
             "unit_price_amount, tran_type, tran_id, version) SELECT tanggal, 1, qty, 0, 0, 'Rp', 10, 3, id, 1 "
             "FROM stock_take");
         show<TabInventoryAdj>();
@@ -353,7 +273,7 @@ private slots:
         QCOMPARE(m_people->lastTitle(), QString("Delete"));
         QCOMPARE(stored("string_agg(tran_id::text, ' ' ORDER BY id) FROM item_history"), QString("1 3"));
 
-        m_database->run("DELETE FROM stock_take WHERE id = 1");
+        run("DELETE FROM stock_take WHERE id = 1");
         m_grid->selectRow(0);
         press("btnDelete");
         QTRY_COMPARE(m_people->lastText(), QString("Can not find entity with id: 1"));
@@ -361,32 +281,10 @@ private slots:
         QVERIFY(m_people->finished());
     }
 
-    void nothingHappensWithoutTheRight()
-    {
-        m_database->run(
-            "INSERT INTO stock_take (item_id, tanggal, qty, qty_before, qty_adj, source_acct_code, version) "
-            "VALUES (1, '2026-03-01', 1, 0, 1, '1-100', 1)");
-        loginWithRights("Inventory", {});
-        show<TabInventoryAdj>();
-        m_grid->selectRow(0);
-        for (const char* button : {"btnAdd", "btnDelete"})
-            press(button);
-        QCOMPARE(m_people->boxes().size(), 2);
-        show<TabStokAwal>();
-        m_grid->selectRow(0);
-        for (const char* button : {"btnAdd", "btnEdit"})
-            press(button);
-        QCOMPARE(m_people->boxes().size(), 4);
-        QVERIFY(m_people->finished());
-    }
-
-    // --- the stock card ----------------------------------------------------------------------------------------------
-
     void theStockCardTellsAnItemsMonth()
     {
         const QDate first(today.year(), today.month(), 1);
-        m_database->run(
-            "INSERT INTO item_history (trans_date, item_id, qty_in, qty_out, qty_remain, unit_price_currency, "
+        run("INSERT INTO item_history (trans_date, item_id, qty_in, qty_out, qty_remain, unit_price_currency, "
             "unit_price_amount, tran_type, tran_id, no, version) SELECT date '" +
             first.toString(Qt::ISODate) +
             "' + day, 1, coming, going, 0, 'Rp', 10, type, 1, no, 1 FROM (VALUES (-1, 50, 0, 1, 'PU-0'), "
@@ -419,31 +317,18 @@ private slots:
         enter(m_page.get(), "txtItem", "RYE");
         press("btnRefresh");
         QCOMPARE(rows(), QStringList());
-        m_database->run("DELETE FROM stok_awal");
+        run("DELETE FROM stok_awal");
         enter(m_page.get(), "txtItem", "rice");
         QCOMPARE(rows().value(0), QString("|Begining Balance||0|0|0"));
         item->setFocus();
         QCOMPARE(m_people->texts(), QStringList());
 
-        m_database->run("ALTER TABLE item_history RENAME TO elsewhere");
+        run("ALTER TABLE item_history RENAME TO elsewhere");
         press("btnRefresh");
         QCOMPARE(m_people->lastTitle(), QString("Error"));
     }
 
 private:
-    template <class Page>
-    Page* show()
-    {
-        auto page = std::make_unique<Page>();
-        Page* shown = page.get();
-        m_page = std::move(page);
-        m_page->resize(1000, 600);
-        m_page->show();
-        [&] { QVERIFY(QTest::qWaitForWindowActive(m_page.get())); }();
-        m_grid = m_page->findChild<QTableView*>();
-        return shown;
-    }
-
     void press(const char* button) { QTest::mouseClick(m_page->findChild<QPushButton*>(button), Qt::LeftButton); }
     /** The grid's cells, each row's parted by bars. */
     [[nodiscard]] QStringList rows() const
@@ -458,12 +343,7 @@ private:
         return result;
     }
 
-    QString stored(const QString& expression) { return m_database->value("SELECT " + expression).toString(); }
-
-    std::unique_ptr<TestDatabase> m_database;
-    std::unique_ptr<ModalDriver> m_people;
-    std::unique_ptr<AppListTab> m_page;
-    QTableView* m_grid = nullptr;
+    QString stored(const QString& expression) { return value("SELECT " + expression); }
 };
 
 QTEST_MAIN(TestStockPages)

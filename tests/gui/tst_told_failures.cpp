@@ -1,7 +1,5 @@
 #include "app/access/DialogUser.h"
 #include "app/access/TabUser.h"
-#include "app/context/AppContext.h"
-#include "kor/business/KorServiceDirectory.h"
 #include "pos/inventory/adjustment/DialogInventoryAdj.h"
 #include "pos/inventory/adjustment/TabInventoryAdj.h"
 #include "pos/masterdata/unit/DialogSatuan.h"
@@ -12,11 +10,11 @@
 #include "pos/purchasing/payment/TabPayment.h"
 #include "pos/purchasing/purchase/DialogPurchases.h"
 #include "pos/purchasing/purchase/TabPurchases.h"
+#include "support/DatabaseTest.h"
+#include "support/DocumentFamilies.h"
 #include "support/Hands.h"
 #include "support/LedgerRows.h"
-#include "support/Rows.h"
 #include "support/ShopRows.h"
-#include "support/TestDatabase.h"
 #include "zavel/dinein/DialogBayarMakanDitempat.h"
 #include "zavel/dinein/EntityMakanDitempat.h"
 #include "zavel/receivable/DialogPiutang.h"
@@ -24,7 +22,6 @@
 #include "zavel/service/BusinessPenjualan.h"
 
 #include <QClipboard>
-#include <QPlainTextEdit>
 #include <QSqlQuery>
 
 using Work = std::function<void(QDialog*)>;
@@ -51,30 +48,22 @@ void ok(const QWidget* form) { press(form, QDialogButtonBox::Ok); }
 } // namespace
 
 /** What a person is told when the database fails: in plain words, without SQL, and truly. */
-class TestToldFailures : public QObject
+class TestToldFailures : public PageTest<QWidget>
 {
     Q_OBJECT
 
-private slots:
-    void init()
+protected:
+    void prepare() override
     {
-        m_database = std::make_unique<TestDatabase>();
         AppContext::instance()->setLocale("id_ID");
         insertShop(*m_database);
-        loginAsAdmin();
-        m_people = std::make_unique<ModalDriver>();
     }
 
-    void cleanup()
-    {
-        m_page.reset();
-        m_people.reset();
-        m_database.reset();
-    }
-
+private slots:
     void aFailedSaveIsToldInPlainWords_data()
     {
-        addColumns<Form, QString, QString, QString, QString>("form", "fault", "sentence", "words", "details");
+        const auto row =
+            addColumns<Form, QString, QString, QString, QString>("form", "fault", "sentence", "words", "details");
         const Form aUnit = [this](const Work& save) { unit(save); };
         const Form aUser = [this](const Work& save) { user(save); };
         const QString unitStatement =
@@ -86,36 +75,32 @@ private slots:
                    "'; END $$ LANGUAGE plpgsql; CREATE TRIGGER refuse BEFORE INSERT ON satuan FOR EACH ROW EXECUTE "
                    "FUNCTION refuse()";
         };
-        addRow("a name that is taken", aUnit, "INSERT INTO satuan (nama, kode, version) VALUES ('Pieces', 'PCS', 1)",
-               "This code, name or number is already in use.", "(nama)=(Pieces) already exists", unitStatement);
-        addRow("a full disk", aUnit, raise("53100", "could not extend file"),
-               "The disk of the database server is full. Nothing can be saved until there is "
-               "room.",
-               "could not extend file", unitStatement);
-        addRow("a read-only server", aUnit, "",
-               "The database server is read-only at the moment. Nothing "
-               "can be saved.",
-               "in a read-only transaction", unitStatement);
-        addRow("words that look like markup", aUnit, raise("P0001", "<b>no</b>"), "The database could not do this.",
-               "<b>no</b>", unitStatement);
-        addRow("a user, whose password nobody reads", aUser, "ALTER TABLE users ADD CHECK (last_name <> 'Long')",
-               "The database could not do this.", "Failing row contains", "values(Bob, Long, bob, ***, ");
+        row("a name that is taken", aUnit, "INSERT INTO satuan (nama, kode, version) VALUES ('Pieces', 'PCS', 1)",
+            "This code, name or number is already in use.", "(nama)=(Pieces) already exists", unitStatement);
+        row("a full disk", aUnit, raise("53100", "could not extend file"),
+            "The disk of the database server is full. Nothing can be saved until there is "
+            "room.",
+            "could not extend file", unitStatement);
+        row("a read-only server", aUnit, "",
+            "The database server is read-only at the moment. Nothing "
+            "can be saved.",
+            "in a read-only transaction", unitStatement);
+        row("words that look like markup", aUnit, raise("P0001", "<b>no</b>"), "The database could not do this.",
+            "<b>no</b>", unitStatement);
+        row("a user, whose password nobody reads", aUser, "ALTER TABLE users ADD CHECK (last_name <> 'Long')",
+            "The database could not do this.", "Failing row contains", "values(Bob, Long, bob, ***, ");
     }
-
     void aFailedSaveIsToldInPlainWords()
     {
         QFETCH(Form, form);
-        QFETCH(QString, fault);
-        QFETCH(QString, sentence);
-        QFETCH(QString, words);
-        QFETCH(QString, details);
+        FETCH(QString, fault, sentence, words, details);
         logged.clear();
         const QtMessageHandler former = qInstallMessageHandler(keepLog);
         form([&](QDialog* dialog) {
             if (fault.isEmpty())
                 QSqlQuery("SET default_transaction_read_only = on");
             else
-                m_database->run(fault);
+                run(fault);
             ok(dialog);
             QVERIFY(dialog->isVisible());
             giveUp(dialog);
@@ -166,7 +151,8 @@ private slots:
 
     void whatFailsBehindASavedDocumentIsToldAndFinished_data()
     {
-        addColumns<Step, QString, QString, int, QString, QString>("step", "when", "table", "times", "told", "result");
+        const auto row = addColumns<Step, QString, QString, int, QString, QString>("step", "when", "table", "times",
+                                                                                   "told", "result");
         const QString again = " is saved. Please do not enter it again.\r\nNot done yet: ";
         const auto edits = [this](auto* page, auto* dialog) -> Step {
             using Page = std::remove_pointer_t<decltype(page)>;
@@ -182,90 +168,42 @@ private slots:
             });
         };
         const Step takeBack = [this] {
-            insertRows(*m_database, "stock_take", {{"source_acct_code", "'1-100'"}, {"qty", "3"}, {"qty_adj", "3"}});
-            insertRows(*m_database, "item_history", {{"tran_type", "3"}, {"qty_in", "3"}});
+            insertRows(*m_database, "stock_take", "source_acct_code='1-100', qty=3, qty_adj=3");
+            insertRows(*m_database, "item_history", "tran_type=3, qty_in=3");
             m_page = std::make_unique<TabInventoryAdj>();
             showPage(m_page.get());
             choose(m_page.get(), 0);
             click(m_page.get(), "btnDelete");
         };
-        addRow("purchase", edits((TabPurchases*)nullptr, (DialogPurchases*)nullptr), "INSERT", "item_history", 1,
-               "NB-1" + again + "the rows of its goods on the stock card.",
-               "qty_in || ' ' || no FROM item_history#2 NB-1");
-        addRow("payment", edits((TabPayment*)nullptr, (DialogPayment*)nullptr), "UPDATE", "acquisition", 5,
-               "TPH-1" + again + "what is still due of the purchases that it pays.",
-               "net_due_amount FROM acquisition#200");
-        addRow("credit note", edits((TabCreditNote*)nullptr, (DialogCreditNote*)nullptr), "UPDATE", "acquisition", 5,
-               "CN-1" + again + "what is still due of its purchase.", "net_due_amount FROM acquisition#480");
-        addRow("member's payment", edits((TabPiutang*)nullptr, (DialogPiutang*)nullptr), "UPDATE", "invoice", 1,
-               "PIU-1" + again + "what is still due of the invoices that it pays.",
-               "other_payment_amount FROM invoice#70");
-        addRow("adjustment", adjust, "INSERT", "item_history", 1,
-               "The adjustment" + again + "its row on the stock card.",
-               "string_agg(qty_in::text, ',') FROM item_history#3");
-        addRow("adjustment taken back", takeBack, "DELETE", "item_history", 1,
-               "The adjustment is deleted.\r\nNot done yet: taking its row off the "
-               "stock card.",
-               "count(*) FROM item_history#0");
-        addRow("bill", Step([this] { payOrder(); }), "UPDATE", "makan_ditempat", 1,
-               "TRD-0007" + again + "the status of its order.",
-               "status FROM makan_ditempat#" + QString::number(EntityOrder::UNPAID));
+        row("purchases", edits((TabPurchases*)nullptr, (DialogPurchases*)nullptr), "INSERT", "item_history", 1,
+            "NB-1" + again + "the rows of its goods on the stock card.",
+            "qty_in || ' ' || no FROM item_history#2 NB-1");
+        row("bill payments", edits((TabPayment*)nullptr, (DialogPayment*)nullptr), "UPDATE", "acquisition", 5,
+            "TPH-1" + again + "what is still due of the purchases that it pays.",
+            "net_due_amount FROM acquisition#200");
+        row("credit notes", edits((TabCreditNote*)nullptr, (DialogCreditNote*)nullptr), "UPDATE", "acquisition", 5,
+            "CN-1" + again + "what is still due of its purchase.", "net_due_amount FROM acquisition#480");
+        row("member payments", edits((TabPiutang*)nullptr, (DialogPiutang*)nullptr), "UPDATE", "invoice", 1,
+            "PIU-1" + again + "what is still due of the invoices that it pays.",
+            "other_payment_amount FROM invoice#70");
+        row("adjustment", adjust, "INSERT", "item_history", 1, "The adjustment" + again + "its row on the stock card.",
+            "string_agg(qty_in::text, ',') FROM item_history#3");
+        row("adjustment taken back", takeBack, "DELETE", "item_history", 1,
+            "The adjustment is deleted.\r\nNot done yet: taking its row off the "
+            "stock card.",
+            "count(*) FROM item_history#0");
+        row("bill", Step([this] { payOrder(); }), "UPDATE", "makan_ditempat", 1,
+            "TRD-0007" + again + "the status of its order.",
+            "status FROM makan_ditempat#" + QString::number(EntityOrder::UNPAID));
     }
-
     void whatFailsBehindASavedDocumentIsToldAndFinished()
     {
         QFETCH(Step, step);
-        QFETCH(QString, when);
-        QFETCH(QString, table);
+        FETCH(QString, when, table, told, result);
         QFETCH(int, times);
-        QFETCH(QString, told);
-        QFETCH(QString, result);
-        const QString row = QTest::currentDataTag();
-        const auto lay = [this](const QString& into, const RowValues& values) {
-            insertRows(*m_database, into, values);
-        };
-        const QString today = QDate::currentDate().toString("''yyyy-MM-dd''");
-        if (row == "purchase" || row == "payment" || row == "credit note") {
-            lay("acquisition", {{"no", "'NB-1'"},
-                                {"supplier_id", "1"},
-                                {"bank_id", "1"},
-                                {"sub_total_amount", "500"},
-                                {"grandtotal_amount", "500"},
-                                {"net_due_amount", "500"},
-                                {"status", "2"},
-                                {"purchase_date", today}});
-            lay("acquisition_detail", {{"qty", "2"}, {"price_each_amount", "250"}, {"total_price_amount", "500"}});
-        }
-        if (row == "payment") {
-            lay("payment",
-                {{"no", "'TPH-1'"}, {"bank_id", "1"}, {"grandtotal_amount", "300"}, {"payment_date", today}});
-            lay("payment_invoice", {{"amount_paid_amount", "300"}});
-        } else if (row == "credit note") {
-            lay("credit_note", {{"no", "'CN-1'"},
-                                {"bank_id", "1"},
-                                {"supplier_id", "1"},
-                                {"acquisition_id", "1"},
-                                {"apply_to_invoice", "true"},
-                                {"amount_paid_amount", "20"},
-                                {"grandtotal_amount", "20"},
-                                {"sub_total_amount", "20"},
-                                {"credit_note_date", today}});
-            lay("credit_note_detail", {{"qty", "2"},
-                                       {"qty_returned", "1"},
-                                       {"price_each_amount", "20"},
-                                       {"total_price_amount", "20"},
-                                       {"acquisition_detail_id", "1"}});
-        } else if (row == "member's payment") {
-            lay("invoice", {{"acct_code", "'1-100'"},
-                            {"member_id", "1"},
-                            {"grandtotal_amount", "100"},
-                            {"net_due_amount", "100"}});
-            lay("piutang", {{"no", "'PIU-1'"},
-                            {"member_id", "1"},
-                            {"bank_id", "1"},
-                            {"grandtotal_amount", "70"},
-                            {"payment_date", today}});
-            lay("piutang_detail", {{"amount_paid_amount", "70"}, {"amount_due_amount", "30"}});
+        for (const DocumentFamily& family : documentFamilies()) {
+            if (family.name == QTest::currentDataTag())
+                family.lay(*m_database, 1);
         }
         hangUp(when, table, times);
         step();
@@ -289,8 +227,6 @@ private:
             choose(m_page.get(), 0);
         onForm<Dialog>(*m_people, m_page.get(), button, work);
     }
-    // --- words -------------------------------------------------------------------------------------------------------
-
     void unit(const Work& save)
     {
         work<TabSatuan, DialogSatuan>("btnAdd", [save](QDialog* form) {
@@ -311,14 +247,11 @@ private:
         });
     }
 
-    // --- behind the commit -------------------------------------------------------------------------------------------
-
     /** The session ends in this statement, so many times. */
     void hangUp(const QString& when, const QString& table, int times)
     {
         // A sequence keeps its count although the session goes.
-        m_database->run(
-            "CREATE SEQUENCE hung_up; CREATE FUNCTION hang_up() RETURNS trigger LANGUAGE plpgsql AS "
+        run("CREATE SEQUENCE hung_up; CREATE FUNCTION hang_up() RETURNS trigger LANGUAGE plpgsql AS "
             "'BEGIN IF nextval(''hung_up'') <= " +
             QString::number(times) +
             " THEN PERFORM pg_terminate_backend(pg_backend_pid()); END IF; RETURN coalesce(NEW, OLD); END'; "
@@ -342,10 +275,6 @@ private:
     }
 
     QString value(const QString& statement) { return m_database->value("SELECT " + statement).toString(); }
-
-    std::unique_ptr<TestDatabase> m_database;
-    std::unique_ptr<ModalDriver> m_people;
-    std::unique_ptr<QWidget> m_page;
 };
 
 QTEST_MAIN(TestToldFailures)

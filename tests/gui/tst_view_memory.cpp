@@ -1,34 +1,29 @@
 #include "kor/widgets/KorViewMemory.h"
-#include "support/ModalDriver.h"
-#include "support/TestDatabase.h"
+#include "support/DatabaseTest.h"
 #include "zavel/tables/DialogMeja.h"
 #include "zavel/tables/TabMeja.h"
 
 #include <QHeaderView>
-#include <QPushButton>
 #include <QSettings>
-#include <QTableView>
-#include <QTemporaryDir>
-#include <QTest>
 
-class TestViewMemory : public QObject
+class TestViewMemory : public DatabaseTest
 {
     Q_OBJECT
 
-private slots:
-    void initTestCase() { m_database = std::make_unique<TestDatabase>(); }
-    void init()
+protected:
+    void prepare() override
     {
         m_folder = std::make_unique<QTemporaryDir>();
         KorViewMemory::setFile(file());
-        loginAsAdmin();
     }
-    void cleanup()
+    void tidy() override
     {
         m_page.reset();
         KorViewMemory::setFile(QString());
     }
-    void cleanupTestCase() { m_database.reset(); }
+
+private slots:
+    void initTestCase() { keepDatabase(); }
 
     void aColumnPulledWiderIsAsWideTheNextDay()
     {
@@ -50,8 +45,7 @@ private slots:
     {
         openPage();
         const int narrow = grid()->columnWidth(1);
-        m_database->run(
-            "INSERT INTO meja (kode, nama, createdby, version) VALUES ('WWWWWWWWWWWWWWWWWWWW', 'Window', 1, 1)");
+        run("INSERT INTO meja (kode, nama, createdby, version) VALUES ('WWWWWWWWWWWWWWWWWWWW', 'Window', 1, 1)");
         m_page->findChild<QPushButton*>("btnRefresh")->click();
         const int wide = grid()->columnWidth(1);
         QVERIFY(wide > narrow);
@@ -145,7 +139,6 @@ private:
         QTest::mouseRelease(header->viewport(), Qt::LeftButton, Qt::NoModifier, edge + QPoint(by, 0));
     }
 
-    std::unique_ptr<TestDatabase> m_database;
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<TabMeja> m_page;
 };

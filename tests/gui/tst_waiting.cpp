@@ -1,20 +1,13 @@
-#include "app/context/AppContext.h"
 #include "app/context/DatabaseManager.h"
 #include "kor/persistence/KorDatabase.h"
 #include "kor/persistence/KorQuery.h"
 #include "kor/persistence/KorServerWitness.h"
 #include "kor/widgets/KorWaitingSign.h"
-#include "support/Rows.h"
+#include "support/DatabaseTest.h"
 #include "support/StallingProxy.h"
-#include "support/TestDatabase.h"
 
-#include <QApplication>
 #include <QElapsedTimer>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QSqlDriver>
-#include <QTest>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -87,17 +80,17 @@ QString textsOf(const QWidget* parent)
 } // namespace
 
 /** A server, a line or another workstation that keeps a till waiting: what the window says, and how it ends. */
-class TestWaiting : public QObject
+class TestWaiting : public DatabaseTest
 {
     Q_OBJECT
 
-private slots:
-    void init()
+protected:
+    void prepare() override
     {
+        m_people.reset();
         KorWaitingSign::watch();
-        m_database = std::make_unique<TestDatabase>();
-        m_database->run("CREATE TABLE held (a integer)");
-        m_database->run("INSERT INTO held VALUES (1)");
+        run("CREATE TABLE held (a integer)");
+        run("INSERT INTO held VALUES (1)");
         m_window = std::make_unique<QWidget>();
         m_box = new QLineEdit;
         (new QVBoxLayout(m_window.get()))->addWidget(m_box);
@@ -106,18 +99,17 @@ private slots:
         m_window->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
     }
-
-    void cleanup()
+    void tidy() override
     {
         for (const QString& name : QSqlDatabase::connectionNames()) {
             if (name == "till 3")
                 QSqlDatabase::removeDatabase(name);
         }
         m_window.reset();
-        m_database.reset();
         m_proxy.reset();
     }
 
+private slots:
     void theWindowGoesOnAndNothingRunsIntoTheStatement()
     {
         m_box->setFocus();
@@ -221,12 +213,11 @@ private slots:
 
     void aLineThatFailsAtTheCommitIsToldForWhatItIs_data()
     {
-        addColumns<StallingProxy::Moment, StallingProxy::Deed, int>("moment", "deed", "stored");
-        addRow("cut before the server has it", StallingProxy::BeforeServer, StallingProxy::Cut, 1);
-        addRow("cut before the answer is back", StallingProxy::BeforeAnswer, StallingProxy::Cut, 5);
-        addRow("silent, until the program cuts it", StallingProxy::BeforeAnswer, StallingProxy::Stall, 5);
+        const auto row = addColumns<StallingProxy::Moment, StallingProxy::Deed, int>("moment", "deed", "stored");
+        row("cut before the server has it", StallingProxy::BeforeServer, StallingProxy::Cut, 1);
+        row("cut before the answer is back", StallingProxy::BeforeAnswer, StallingProxy::Cut, 5);
+        row("silent, until the program cuts it", StallingProxy::BeforeAnswer, StallingProxy::Stall, 5);
     }
-
     void aLineThatFailsAtTheCommitIsToldForWhatItIs()
     {
         QFETCH(StallingProxy::Moment, moment);
@@ -290,7 +281,6 @@ private:
         QVERIFY(query.exec("UPDATE held SET a = 2"));
     }
 
-    std::unique_ptr<TestDatabase> m_database;
     std::unique_ptr<StallingProxy> m_proxy;
     std::unique_ptr<QWidget> m_window;
     QLineEdit* m_box = nullptr;

@@ -1,18 +1,11 @@
-#include "app/context/AppContext.h"
-#include "app/context/ConnectionSettings.h"
 #include "app/context/DatabaseManager.h"
 #include "hands/Keys.h"
 #include "hands/TradeChecks.h"
 #include "hands/Workplace.h"
 #include "kor/widgets/KorTab.h"
 #include "shell/window/HouseStyle.h"
-#include "support/Rows.h"
-#include "support/TestDatabase.h"
+#include "support/DatabaseTest.h"
 
-#include <QApplication>
-#include <QTabWidget>
-#include <QTemporaryDir>
-#include <QTest>
 #include <QTimer>
 
 #include <optional>
@@ -28,9 +21,28 @@ Q_DECLARE_METATYPE(Change)
  * Every page, alone and with a form open, while the ground is pulled away: the program lives, the form stays as it was
  * typed, and the page works again afterwards.
  */
-class TestChangesBelow : public QObject
+class TestChangesBelow : public DatabaseTest
 {
     Q_OBJECT
+
+protected:
+    void prepare() override
+    {
+        // The test itself works on the forms.
+        m_people.reset();
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_other = std::make_unique<TestDatabase>();
+        openShopForHands(*m_other);
+        openShopForHands(*m_database);
+        m_place = std::make_unique<Workplace>(m_folder->filePath("settings.ini"));
+        QVERIFY(m_place->isReady());
+    }
+    void tidy() override
+    {
+        m_place.reset();
+        m_other.reset();
+        m_folder.reset();
+    }
 
 private slots:
     void initTestCase()
@@ -40,38 +52,16 @@ private slots:
         m_hands.start(1);
     }
 
-    void init()
-    {
-        m_folder = std::make_unique<QTemporaryDir>();
-        qputenv("ZAVEL_SPOOL_DIR", QFile::encodeName(m_folder->path()));
-        m_other = std::make_unique<TestDatabase>();
-        openShopForHands(*m_other);
-        m_database = std::make_unique<TestDatabase>();
-        openShopForHands(*m_database);
-        m_place = std::make_unique<Workplace>(m_folder->filePath("settings.ini"));
-        QVERIFY(m_place->isReady());
-    }
-
-    void cleanup()
-    {
-        m_place.reset();
-        m_database.reset();
-        m_other.reset();
-        m_folder.reset();
-        qunsetenv("ZAVEL_SPOOL_DIR");
-    }
-
     void thePageAndItsFormOutliveIt_data()
     {
-        addColumns<Change>("change");
-        addRow("the memory is emptied", EmptyMemory);
-        addRow("another database is chosen", OtherDatabase);
-        addRow("another language is chosen", OtherLanguage);
-        addRow("the connection dies", LostConnection);
-        addRow("all pages are closed", PagesClose);
-        addRow("the window is closed", WindowCloses);
+        const auto row = addColumns<Change>("change");
+        row("the memory is emptied", EmptyMemory);
+        row("another database is chosen", OtherDatabase);
+        row("another language is chosen", OtherLanguage);
+        row("the connection dies", LostConnection);
+        row("all pages are closed", PagesClose);
+        row("the window is closed", WindowCloses);
     }
-
     void thePageAndItsFormOutliveIt()
     {
         QFETCH(Change, change);
@@ -169,18 +159,12 @@ private:
 
     void connectTo(const TestDatabase& database)
     {
-        ConnectionSettings settings;
-        settings.host = TestDatabase::host();
-        settings.port = TestDatabase::port();
-        settings.user = TestDatabase::user();
-        settings.database = database.name();
-        QVERIFY(settings.write(m_folder->filePath("settings.ini")));
+        QVERIFY(database.settings().write(m_folder->filePath("settings.ini")));
         m_place->window().updateDBConfig();
     }
 
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<TestDatabase> m_other;
-    std::unique_ptr<TestDatabase> m_database;
     std::unique_ptr<Workplace> m_place;
     QTimer m_hands;
     std::optional<Change> m_change;

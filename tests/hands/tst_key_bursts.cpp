@@ -3,13 +3,9 @@
 #include "hands/Workplace.h"
 #include "kor/widgets/KorTab.h"
 #include "shell/window/HouseStyle.h"
-#include "support/Rows.h"
-#include "support/TestDatabase.h"
+#include "support/DatabaseTest.h"
 
-#include <QApplication>
 #include <QDialog>
-#include <QTableView>
-#include <QTest>
 #include <QTimer>
 
 namespace
@@ -36,26 +32,24 @@ bool has(const QList<Stroke>& strokes, const Stroke& wanted)
  * Two keys of a page or of a form in a burst, whichever they are: the program lives, no two forms stand side by side,
  * and the page is there as long as its form is.
  */
-class TestKeyBursts : public QObject
+class TestKeyBursts : public DatabaseTest
 {
     Q_OBJECT
 
-private slots:
-    void initTestCase() { HouseStyle::apply(*qApp); }
-    void init()
+protected:
+    void prepare() override
     {
-        m_database = std::make_unique<TestDatabase>();
+        // The test itself works on the forms.
+        m_people.reset();
         openShopForForms(*m_database);
         m_place = std::make_unique<Workplace>();
         QVERIFY(m_place->isReady());
         m_faults.clear();
     }
+    void tidy() override { m_place.reset(); }
 
-    void cleanup()
-    {
-        m_place.reset();
-        m_database.reset();
-    }
+private slots:
+    void initTestCase() { HouseStyle::apply(*qApp); }
 
     void twoKeysOfAPage_data() { addPages(); }
     void twoKeysOfAPage()
@@ -142,7 +136,6 @@ private:
             static_cast<QDialog*>(form)->QDialog::reject();
     }
 
-    std::unique_ptr<TestDatabase> m_database;
     std::unique_ptr<Workplace> m_place;
     QStringList m_faults;
     int m_pair = 0;

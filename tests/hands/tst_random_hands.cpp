@@ -18,12 +18,11 @@ private slots:
     void initTestCase() { HouseStyle::apply(*qApp); }
     void nothingBreaks_data()
     {
-        addColumns<quint32>("seed");
-        addRow("a cashier", 1U);
-        addRow("a child", 2U);
-        addRow("a cat", 3U);
+        const auto row = addColumns<quint32>("seed");
+        row("a cashier", 1U);
+        row("a child", 2U);
+        row("a cat", 3U);
     }
-
     void nothingBreaks()
     {
         QFETCH(quint32, seed);

@@ -1,4 +1,3 @@
-#include "reports/MonthOfTrade.h"
 #include "reports/ReadReport.h"
 #include "reports/catalogue/ReportCatalogue.h"
 #include "support/Golden.h"
@@ -28,7 +27,7 @@ private slots:
         QLocale::setDefault(QLocale("en_US"));
         m_empty = std::make_unique<TestDatabase>();
         m_busy = std::make_unique<TestDatabase>();
-        insertMonthOfTrade(*m_busy);
+        m_busy->runFile("reports/month_of_trade.sql");
     }
 
     void cleanupTestCase()
@@ -37,8 +36,8 @@ private slots:
         m_empty.reset();
     }
 
-    void every_report_is_told_completely_data() { addReports(); }
-    void every_report_is_told_completely()
+    void everyReportIsToldCompletely_data() { addReports(); }
+    void everyReportIsToldCompletely()
     {
         QFETCH(QString, id);
         const Report report = reportById(id);
@@ -66,8 +65,8 @@ private slots:
                      qPrintable(parameter.name));
     }
 
-    void every_report_can_be_read_with_and_without_answers_data() { addReports(); }
-    void every_report_can_be_read_with_and_without_answers()
+    void everyReportCanBeReadWithAndWithoutAnswers_data() { addReports(); }
+    void everyReportCanBeReadWithAndWithoutAnswers()
     {
         QFETCH(QString, id);
         const Report report = reportById(id);
@@ -97,8 +96,8 @@ private slots:
         }
     }
 
-    void a_month_of_trade_reads_as_it_always_did_data() { addReports(); }
-    void a_month_of_trade_reads_as_it_always_did()
+    void aMonthOfTradeReadsAsItAlwaysDid_data() { addReports(); }
+    void aMonthOfTradeReadsAsItAlwaysDid()
     {
         QFETCH(QString, id);
         const ReadReport read = readReport(*m_busy, id, firstDay, lastDay);

@@ -64,7 +64,7 @@ class TestReportPage : public QObject
 private slots:
     void initTestCase() { QLocale::setDefault(QLocale("en_US")); }
 
-    void the_owner_reads_a_month_of_sales_and_takes_it_along()
+    void theOwnerReadsAMonthOfSalesAndTakesItAlong()
     {
         TestDatabase database;
         insertShop(database);
@@ -91,7 +91,7 @@ private slots:
         QVERIFY(!page.savePdf(folder.filePath("no such folder/sales.pdf")));
     }
 
-    void a_report_is_asked_with_what_stands_in_its_boxes()
+    void aReportIsAskedWithWhatStandsInItsBoxes()
     {
         TestDatabase database;
         TabReport page(subjectOf("select :to::date as day, :to::date - :from::date as n, "
@@ -118,7 +118,7 @@ private slots:
         QCOMPARE(page.table().rowValue(0, 1).toInt(), 10);
     }
 
-    void a_long_report_leaves_the_page_alive_and_can_be_stopped()
+    void aLongReportLeavesThePageAliveAndCanBeStopped()
     {
         TestDatabase database;
         TabReport page(subjectOf("select pg_sleep(60), current_date as day, 1 as n, '' as word"),
@@ -135,22 +135,20 @@ private slots:
         QVERIFY(page.findChild<QPushButton*>("show")->isEnabled());
     }
 
-    void a_report_that_cannot_be_read_says_why_data()
+    void aReportThatCannotBeReadSaysWhy_data()
     {
-        addColumns<QString, QString>("query", "reason");
-        addRow("a wrong statement", "select nothing from nowhere", "nowhere");
-        addRow("it would write", "with gone as (delete from users returning id) select * from gone",
-               "read-only transaction");
-        addRow("it breaks in the middle",
-               "select current_date as day, 1 / (3 - n) as n from "
-               "generate_series(1, 5) as n",
-               "division by zero");
+        const auto row = addColumns<QString, QString>("query", "reason");
+        row("a wrong statement", "select nothing from nowhere", "nowhere");
+        row("it would write", "with gone as (delete from users returning id) select * from gone",
+            "read-only transaction");
+        row("it breaks in the middle",
+            "select current_date as day, 1 / (3 - n) as n from "
+            "generate_series(1, 5) as n",
+            "division by zero");
     }
-
-    void a_report_that_cannot_be_read_says_why()
+    void aReportThatCannotBeReadSaysWhy()
     {
-        QFETCH(QString, query);
-        QFETCH(QString, reason);
+        FETCH(QString, query, reason);
         TestDatabase database;
         TabReport page(subjectOf(query), connectionOf(database), "d MMM yyyy");
         page.show();
@@ -161,7 +159,7 @@ private slots:
         QVERIFY(database.value("select count(*) from users").toInt() > 0);
     }
 
-    void a_page_is_closed_in_the_middle_of_reading()
+    void aPageIsClosedInTheMiddleOfReading()
     {
         TestDatabase database;
         {
@@ -174,7 +172,7 @@ private slots:
         QTRY_COMPARE(sessionsOf(database), 0);
     }
 
-    void more_rows_than_anybody_reads_are_cut_off_and_told()
+    void moreRowsThanAnybodyReadsAreCutOffAndTold()
     {
         TestDatabase database;
         TabReport page(subjectOf("select current_date as day, 1 as n, '' as word from generate_series(1, 200001)"),

@@ -1,11 +1,10 @@
 #include "app/context/EntityPool.h"
-#include "kor/business/KorServiceDirectory.h"
 #include "pos/cash/ledger/BusinessCashFlow.h"
 #include "pos/cash/ledger/CashFlowFilter.h"
 #include "pos/cash/ledger/EntityCashFlow.h"
 #include "reports/ReadReport.h"
+#include "support/DatabaseTest.h"
 #include "support/LedgerRows.h"
-#include "support/Rows.h"
 #include "support/SalesRows.h"
 #include "support/ShopRows.h"
 #include "support/TestDatabase.h"
@@ -19,7 +18,6 @@
 #include "zavel/service/BusinessPenjualan.h"
 
 #include <QRandomGenerator>
-#include <QTest>
 
 #include <functional>
 
@@ -79,16 +77,15 @@ using KeyOfSale = std::function<QString(const EntityPenjualanInfo&)>;
 Q_DECLARE_METATYPE(KeyOfSale)
 
 /** The reports of sales and cash against what the program's own services tell. */
-class TestReportSales : public QObject
+class TestReportSales : public DatabaseTest
 {
     Q_OBJECT
 
 private slots:
     void initTestCase()
     {
-        m_database = std::make_unique<TestDatabase>();
+        keepDatabase();
         insertShop(*m_database);
-        loginAsAdmin();
         m_sales = service<BusinessPenjualan>("Sales");
         for (const char* statement :
              {"INSERT INTO jenis_item (id, kode, nama, version) VALUES (2, 'DRINK', 'Drink', 1)",
@@ -103,7 +100,7 @@ private slots:
               "1)",
               "INSERT INTO bank (id, kode, nama, account_type, active, version) VALUES (2, '2-100', 'Bank', 1, true, "
               "1)"})
-            m_database->run(statement);
+            run(statement);
         insertItem(*m_database, 2, "TEA", "Tea", 2);
         insertSeller(*m_database, 901, "ann");
         insertSeller(*m_database, 902, "ben");
@@ -111,16 +108,14 @@ private slots:
         insertMovements();
     }
 
-    void cleanupTestCase() { m_database.reset(); }
-    void sums_by_day_and_month_are_those_of_the_dashboard_data()
+    void sumsByDayAndMonthAreThoseOfTheDashboard_data()
     {
-        addColumns<bool, int>("monthly", "user");
-        addRow("days", false, BusinessPenjualan::AllUsers);
-        addRow("days of a cashier", false, 901);
-        addRow("months of a cashier", true, 902);
+        const auto row = addColumns<bool, int>("monthly", "user");
+        row("days", false, BusinessPenjualan::AllUsers);
+        row("days of a cashier", false, 901);
+        row("months of a cashier", true, 902);
     }
-
-    void sums_by_day_and_month_are_those_of_the_dashboard()
+    void sumsByDayAndMonthAreThoseOfTheDashboard()
     {
         QFETCH(bool, monthly);
         QFETCH(int, user);
@@ -138,7 +133,7 @@ private slots:
                  sums.lines());
     }
 
-    void items_sold_are_those_of_the_dashboard()
+    void itemsSoldAreThoseOfTheDashboard()
     {
         const EntityPoolScope scope(m_pool);
         for (const auto& type :
@@ -152,24 +147,22 @@ private slots:
         }
     }
 
-    void sales_by_partner_are_those_of_the_sales_list_data()
+    void salesByPartnerAreThoseOfTheSalesList_data()
     {
-        addColumns<QString, KeyOfSale>("field", "key");
-        const auto add = [](const char* id, const char* field, const KeyOfSale& key) { addRow(id, field, key); };
-        add("sales-by-member", "code",
+        const auto row = addColumns<QString, KeyOfSale>("field", "key");
+        row("sales-by-member", "code",
             [](const auto& sale) { return sale.getMember() ? sale.getMember()->getKode() : ""; });
-        add("sales-by-waitress", "code",
+        row("sales-by-waitress", "code",
             [](const auto& sale) { return sale.waitress() ? sale.waitress()->getKode() : ""; });
-        add("sales-by-cashier", "name", [](const auto& sale) { return sale.getUser()->getUserName(); });
-        add("sales-by-type", "type", [](const auto& sale) {
+        row("sales-by-cashier", "name", [](const auto& sale) { return sale.getUser()->getUserName(); });
+        row("sales-by-type", "type", [](const auto& sale) {
             return QMap<QString, QString>{
                 {"Dine", "Dine in"}, {"Fast Food", "Fast food"}, {"Take Away Food", "Take away"}}
                 .value(sale.typeName());
         });
-        add("sales-invoices", "no", [](const auto& sale) { return sale.getInvoice()->getInvoiceNo(); });
+        row("sales-invoices", "no", [](const auto& sale) { return sale.getInvoice()->getInvoiceNo(); });
     }
-
-    void sales_by_partner_are_those_of_the_sales_list()
+    void salesByPartnerAreThoseOfTheSalesList()
     {
         QFETCH(QString, field);
         QFETCH(KeyOfSale, key);
@@ -184,7 +177,7 @@ private slots:
         QCOMPARE(linesOf(read(QTest::currentDataTag()), field, {"total", "credit"}), sums.lines());
     }
 
-    void what_members_owe_is_what_their_payment_form_offers()
+    void whatMembersOweIsWhatTheirPaymentFormOffers()
     {
         const EntityPoolScope scope(m_pool);
         for (const int member : {1, 2}) {
@@ -208,7 +201,7 @@ private slots:
         }
     }
 
-    void commissions_are_those_of_the_agents_page()
+    void commissionsAreThoseOfTheAgentsPage()
     {
         const EntityPoolScope scope(m_pool);
         Sums sums;
@@ -227,7 +220,7 @@ private slots:
         QCOMPARE(reported.lines(), sums.lines());
     }
 
-    void accounts_are_those_of_the_general_journal()
+    void accountsAreThoseOfTheGeneralJournal()
     {
         const EntityPoolScope scope(m_pool);
         auto* journal = service<BusinessCashFlow>("Journal Transaction");
@@ -265,7 +258,7 @@ private slots:
         }
     }
 
-    void the_cash_of_a_close_is_that_of_the_day_and_cashier()
+    void theCashOfACloseIsThatOfTheDayAndCashier()
     {
         const EntityPoolScope scope(m_pool);
         int closes = 0;
@@ -313,20 +306,20 @@ private:
             sale.user = 901 + m_random.bounded(2);
             const int invoice = insertSale(*m_database, sale);
             insertRows(*m_database, "invoice_detail",
-                       {{"invoice_id", QString::number(invoice)},
-                        {"item_id", "2"},
-                        {"qty", QString::number(m_random.bounded(5))},
-                        {"total_amount", QString::number(m_random.bounded(500))}});
+                       QString("invoice_id=%1, item_id=2, qty=%2, total_amount=%3")
+                           .arg(invoice)
+                           .arg(m_random.bounded(5))
+                           .arg(m_random.bounded(500)));
             if (sale.agent > 0 && m_random.bounded(2) == 0)
-                insertRows(*m_database, "komisi_agen_detail",
-                           {{"invoice_id", QString::number(invoice)},
-                            {"komisi_agen_id", "(SELECT min(id) FROM komisi_agen)"},
-                            {"commision_amount", "5"}});
+                insertRows(
+                    *m_database, "komisi_agen_detail",
+                    QString("invoice_id=%1, komisi_agen_id=(SELECT min(id) FROM komisi_agen), commision_amount=5")
+                        .arg(invoice));
             if (i == 0)
                 insertLedgerRow(*m_database, {LedgerRow::Commission, "KAG-1", {2026, 3, 15}, 70, 1, "", 2, "", 901});
         }
         // The order of some tables was given to another member since.
-        m_database->run("UPDATE makan_ditempat SET member_id = 3 - member_id WHERE id % 3 = 0");
+        run("UPDATE makan_ditempat SET member_id = 3 - member_id WHERE id % 3 = 0");
     }
 
     void insertMovements()
@@ -353,7 +346,6 @@ private:
         return readReport(*m_database, id, firstDay, lastDay, answers);
     }
 
-    std::unique_ptr<TestDatabase> m_database;
     BusinessPenjualan* m_sales = nullptr;
     EntityPool m_pool;
     QRandomGenerator m_random{20260301};

@@ -49,7 +49,7 @@ class TestReportTable : public QObject
     Q_OBJECT
 
 private slots:
-    void sorts_within_groups_and_sums_what_can_be_summed_data()
+    void rowsAreSortedWithinGroupsAndSummedWhereTheyCanBe_data()
     {
         const QString tea = "Drinks|Tea|1 Mar 2026|4|40|75.0 %|10";
         const QString cola = "Drinks|Cola|1 Mar 2026|0|0||";
@@ -58,16 +58,14 @@ private slots:
         const QString rice = "Food|Rice \"large\"||10|1,500,000|50.0 %|150,000";
         const QString food = "Total Food|||11|1,500,026|50.0 %|136,366";
         const QString all = "Total|||15|1,500,066|50.0 %|100,004";
-        addColumns<int, Qt::SortOrder, QStringList>("column", "order", "expected");
-        addRow("as read", -1, Qt::AscendingOrder, QStringList{tea, cola, drinks, soup, rice, food, all});
-        addRow("by name", 1, Qt::AscendingOrder, QStringList{cola, tea, drinks, rice, soup, food, all});
-        addRow("largest first", 4, Qt::DescendingOrder, QStringList{tea, cola, drinks, rice, soup, food, all});
-        addRow("an empty date is the first", 2, Qt::AscendingOrder,
-               QStringList{tea, cola, drinks, rice, soup, food, all});
-        addRow("groups backwards", 0, Qt::DescendingOrder, QStringList{soup, rice, food, tea, cola, drinks, all});
+        const auto row = addColumns<int, Qt::SortOrder, QStringList>("column", "order", "expected");
+        row("as read", -1, Qt::AscendingOrder, {tea, cola, drinks, soup, rice, food, all});
+        row("by name", 1, Qt::AscendingOrder, {cola, tea, drinks, rice, soup, food, all});
+        row("largest first", 4, Qt::DescendingOrder, {tea, cola, drinks, rice, soup, food, all});
+        row("an empty date is the first", 2, Qt::AscendingOrder, {tea, cola, drinks, rice, soup, food, all});
+        row("groups backwards", 0, Qt::DescendingOrder, {soup, rice, food, tea, cola, drinks, all});
     }
-
-    void sorts_within_groups_and_sums_what_can_be_summed()
+    void rowsAreSortedWithinGroupsAndSummedWhereTheyCanBe()
     {
         QFETCH(int, column);
         QFETCH(Qt::SortOrder, order);
@@ -78,7 +76,7 @@ private slots:
         QVERIFY(!table.total(1).isValid());
     }
 
-    void gives_a_spreadsheet_numbers_and_dates()
+    void aSpreadsheetGetsNumbersAndDates()
     {
         QLocale::setDefault(QLocale("id_ID"));
         ReportTable table = dishes();
@@ -93,7 +91,7 @@ private slots:
                                          "Food,\"Rice \"\"large\"\"\",,10,1500000,50,150000\r\n"));
     }
 
-    void an_empty_answer_has_no_sums()
+    void anEmptyAnswerHasNoSums()
     {
         ReportTable table(dishes().report());
         table.setFields({"kind"});

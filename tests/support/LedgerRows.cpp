@@ -41,6 +41,14 @@ void insertRows(TestDatabase& database, const QString& table, const RowValues& v
                      .arg(count));
 }
 
+void insertRows(TestDatabase& database, const QString& table, const QString& values, int count)
+{
+    RowValues byColumn;
+    for (const QString& value : values.split(", ", Qt::SkipEmptyParts))
+        byColumn.insert(value.section('=', 0, 0), value.section('=', 1));
+    insertRows(database, table, byColumn, count);
+}
+
 void insertLedgerRow(TestDatabase& database, const LedgerRow& row)
 {
     const auto idOrNull = [](int id) { return id == 0 ? QString("NULL") : QString::number(id); };

@@ -15,6 +15,8 @@ using RowValues = QMap<QString, QString>;
  * says nothing, and records with id 1 as partners.
  */
 void insertRows(TestDatabase& database, const QString& table, const RowValues& values, int count = 1);
+/** The same, the values as SQL has them: "no='NB-1', status=2". None of them holds a comma before a blank. */
+void insertRows(TestDatabase& database, const QString& table, const QString& values, int count = 1);
 
 /** A document or entry as the ledger reads it; amounts are in Rp. */
 struct LedgerRow

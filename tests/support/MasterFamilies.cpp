@@ -18,25 +18,73 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QTest>
-
 #include <algorithm>
 
 namespace
 {
+/** A family with a code and a name, and nothing besides. */
 template <class Tab, class Dialog>
-MasterFamily withScreens(MasterFamily family)
+MasterFamily family(const QString& service, const QString& table, MasterFamily::Order order, const QString& title,
+                    const QString& called, const QStringList& rights)
 {
+    MasterFamily family;
+    family.service = service;
+    family.table = table;
+    family.order = order;
+    family.title = title;
+    family.headers = QStringList{"ID", "Code", "Name"};
+    family.called = called;
+    family.rights = rights;
+    family.lostRow = "Can not find entity with id: %1";
+    family.grid = QString(Tab::staticMetaObject.className()).replace(0, 3, "tbl");
+    family.nameField = "txtNama";
     family.makePage = [] { return std::make_unique<Tab>(); };
     family.makeForm = [] { return std::make_unique<Dialog>(); };
     return family;
 }
 
-const QString lost = "Can not find entity with id: %1";
-const QStringList plain{"ID", "Code", "Name"};
-const QStringList contact{"ID", "Code", "Name", "Phone", "Email"};
-const QMap<QString, QString> reached{{"txtAlamat", "Harbour street 4"}, {"txtTelp", "0812 555"}};
-const QString reachedColumns = ", alamat, telp, email";
-const QString reachedValues = ", 'Harbour street 4', '0812 555', ''";
+QStringList threeRights(const QString& of) { return {"Insert " + of, "Update " + of, "Delete " + of}; }
+
+/** Somebody who can be reached; the last two are what the table has besides. */
+template <class Tab, class Dialog>
+MasterFamily contact(const QString& service, const QString& table, MasterFamily::Order order, const QString& rights,
+                     const QString& column = QString(), const QString& value = QString())
+{
+    MasterFamily contact = family<Tab, Dialog>(service, table, order, service + 's', table, threeRights(rights));
+    contact.headers += QStringList{"Phone", "Email"};
+    contact.details = {{"txtAlamat", "Harbour street 4"}, {"txtTelp", "0812 555"}};
+    contact.columns = ", alamat, telp, email" + column;
+    contact.values = ", 'Harbour street 4', '0812 555', ''" + value;
+    return contact;
+}
+
+QList<MasterFamily> makeFamilies()
+{
+    using F = MasterFamily;
+    MasterFamily unit = family<TabSatuan, DialogSatuan>("Unit", "satuan", F::ByName, "Units", "unit", {"Manage unit"});
+    unit.headers = QStringList{"ID", "Name", "Code"};
+    unit.nameField = "txtNamaSatuan";
+    MasterFamily itemType = family<TabJenisItem, DialogJenisItem>("Item Type", "jenis_item", F::ByName, "Item Types",
+                                                                  "item", {"Manage item type"});
+    itemType.nameField = "txtNamaJenis";
+    MasterFamily agent =
+        contact<TabAgent, DialogAgent>("Agent", "agent", F::AsStored, "agent", ", commision_perc", ", 5");
+    agent.lostRow = "Can not find entity with id: %";
+    MasterFamily account =
+        family<TabBank, DialogBank>("Bank", "bank", F::ById, "Accounts", "account", threeRights("bank"));
+    account.headers += "Type";
+    account.columns = ", account_type, active";
+    account.values = ", 1, true";
+    return {family<TabMeja, DialogMeja>("Table", "meja", F::ByName, "Tables", "table",
+                                        {"Add table", "Update table", "Delete table"}),
+            unit,
+            itemType,
+            contact<TabSupplier, DialogSupplier>("Supplier", "supplier", F::ById, "supplier"),
+            contact<TabMember, DialogMember>("Member", "member", F::ById, "member", ", discount_percentage", ", 10"),
+            agent,
+            account,
+            contact<TabEmployee, DialogEmployee>("Employee", "employee", F::ById, "Employee")};
+}
 } // namespace
 
 AppMasterMapper* MasterFamily::mapper() const
@@ -67,133 +115,6 @@ void MasterFamily::fill(KorDialog* form, const QString& code, const QString& nam
 
 namespace
 {
-QList<MasterFamily> familiesWithWords()
-{
-    using F = MasterFamily;
-    return {
-        withScreens<TabMeja, DialogMeja>({"Table",
-                                          "meja",
-                                          F::ByName,
-                                          "Tables",
-                                          plain,
-                                          "table",
-                                          {"Add table", "Update table", "Delete table"},
-                                          lost,
-                                          "tblMeja",
-                                          "txtNama",
-                                          {},
-                                          "",
-                                          "",
-                                          {},
-                                          {}}),
-        withScreens<TabSatuan, DialogSatuan>({"Unit",
-                                              "satuan",
-                                              F::ByName,
-                                              "Units",
-                                              {"ID", "Name", "Code"},
-                                              "unit",
-                                              {"Manage unit"},
-                                              lost,
-                                              "tblSatuan",
-                                              "txtNamaSatuan",
-                                              {},
-                                              "",
-                                              "",
-                                              {},
-                                              {}}),
-        withScreens<TabJenisItem, DialogJenisItem>({"Item Type",
-                                                    "jenis_item",
-                                                    F::ByName,
-                                                    "Item Types",
-                                                    plain,
-                                                    "item",
-                                                    {"Manage item type"},
-                                                    lost,
-                                                    "tblJenisItem",
-                                                    "txtNamaJenis",
-                                                    {},
-                                                    "",
-                                                    "",
-                                                    {},
-                                                    {}}),
-        withScreens<TabSupplier, DialogSupplier>({"Supplier",
-                                                  "supplier",
-                                                  F::ById,
-                                                  "Suppliers",
-                                                  contact,
-                                                  "supplier",
-                                                  {"Insert supplier", "Update supplier", "Delete supplier"},
-                                                  lost,
-                                                  "tblSupplier",
-                                                  "txtNama",
-                                                  reached,
-                                                  reachedColumns,
-                                                  reachedValues,
-                                                  {},
-                                                  {}}),
-        withScreens<TabMember, DialogMember>({"Member",
-                                              "member",
-                                              F::ById,
-                                              "Members",
-                                              contact,
-                                              "member",
-                                              {"Insert member", "Update member", "Delete member"},
-                                              lost,
-                                              "tblMember",
-                                              "txtNama",
-                                              reached,
-                                              reachedColumns + ", discount_percentage",
-                                              reachedValues + ", 10",
-                                              {},
-                                              {}}),
-        withScreens<TabAgent, DialogAgent>({"Agent",
-                                            "agent",
-                                            F::AsStored,
-                                            "Agents",
-                                            contact,
-                                            "agent",
-                                            {"Insert agent", "Update agent", "Delete agent"},
-                                            "Can not find entity with id: %",
-                                            "tblAgent",
-                                            "txtNama",
-                                            reached,
-                                            reachedColumns + ", commision_perc",
-                                            reachedValues + ", 5",
-                                            {},
-                                            {}}),
-        withScreens<TabBank, DialogBank>({"Bank",
-                                          "bank",
-                                          F::ById,
-                                          "Accounts",
-                                          {"ID", "Code", "Name", "Type"},
-                                          "account",
-                                          {"Insert bank", "Update bank", "Delete bank"},
-                                          lost,
-                                          "tblBank",
-                                          "txtNama",
-                                          {},
-                                          ", account_type, active",
-                                          ", 1, true",
-                                          {},
-                                          {}}),
-        withScreens<TabEmployee, DialogEmployee>({"Employee",
-                                                  "employee",
-                                                  F::ById,
-                                                  "Employees",
-                                                  contact,
-                                                  "employee",
-                                                  {"Insert Employee", "Update Employee", "Delete Employee"},
-                                                  lost,
-                                                  "tblEmployee",
-                                                  "txtNama",
-                                                  reached,
-                                                  reachedColumns,
-                                                  reachedValues,
-                                                  {},
-                                                  {}}),
-    };
-}
-
 /** What a row needs besides code and name. */
 void addDetails(MasterFamily& family)
 {
@@ -219,21 +140,12 @@ QList<MasterFamily> familiesOfPages(const QList<MasterFamily>& known)
         // A dish is more than a code and a name; its form has tests of its own.
         if (!mapper || service->name() == "Item" || std::any_of(known.begin(), known.end(), same))
             continue;
-        MasterFamily family{service->name(),
-                            mapper->metaData()->tableName(),
-                            MasterFamily::Unknown,
-                            {},
-                            {},
-                            {},
-                            {},
-                            lost,
-                            {},
-                            "txtNama",
-                            {},
-                            {},
-                            {},
-                            {},
-                            {}};
+        MasterFamily family;
+        family.service = service->name();
+        family.table = mapper->metaData()->tableName();
+        family.order = MasterFamily::Unknown;
+        family.lostRow = "Can not find entity with id: %1";
+        family.nameField = "txtNama";
         for (const KorPermission& right : service->getPermissions())
             family.rights.append(right.second);
         family.makePage = [&page] { return std::unique_ptr<AppListTab>(static_cast<AppListTab*>(page.make())); };
@@ -248,7 +160,7 @@ QList<MasterFamily> familiesOfPages(const QList<MasterFamily>& known)
 const QList<MasterFamily>& masterFamilies()
 {
     static const QList<MasterFamily> families = [] {
-        const QList<MasterFamily> known = familiesWithWords();
+        const QList<MasterFamily> known = makeFamilies();
         return known + familiesOfPages(known);
     }();
     return families;

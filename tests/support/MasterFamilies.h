@@ -21,7 +21,7 @@ struct MasterFamily
 
     QString service;
     QString table;
-    Order order;
+    Order order = ByName;
     QString title;
     QStringList headers;
     /** What the page asks for by its name before a delete. */

@@ -31,7 +31,7 @@ void trade(TestDatabase& database)
     insertPurchase(database, {"NB1", "inv 1", 0, 3, 10});
     insertPurchase(database, {"NB2", "inv 2", 30, 3, 10});
     insertLedgerRow(database, {LedgerRow::PurchaseOrder, "PO1", {2026, 3, 1}});
-    insertRows(database, "stock_take", {{"item_id", "1"}, {"source_acct_code", "'1-100'"}});
+    insertRows(database, "stock_take", "item_id=1, source_acct_code='1-100'");
 }
 } // namespace
 

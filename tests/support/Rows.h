@@ -4,11 +4,22 @@
 
 #include <type_traits>
 
-/** The columns of a test's table, as QFETCH names them: addColumns<QString, bool>("code", "refused"). */
+/** Adds rows to a test's table, in the order of its columns. */
 template <typename... Types>
-void addColumns(const std::conditional_t<true, char, Types>*... names)
+struct RowsOf
+{
+    void operator()(const char* name, const Types&... values) const { (QTest::newRow(name) << ... << values); }
+};
+
+/**
+ * The columns of a test's table, as QFETCH names them: addColumns<QString, bool>("code", "refused"). What it returns
+ * adds rows of these types.
+ */
+template <typename... Types>
+RowsOf<Types...> addColumns(const std::conditional_t<true, char, Types>*... names)
 {
     (QTest::addColumn<Types>(names), ...);
+    return {};
 }
 
 /** A row of the table, in the order of its columns. */
@@ -17,3 +28,19 @@ void addRow(const char* name, const Values&... values)
 {
     (QTest::newRow(name) << ... << values);
 }
+
+// QFETCH of several columns of one type: FETCH(QString, typed, told).
+#define FETCH_2(Type, a, b)                                                                                            \
+    QFETCH(Type, a);                                                                                                   \
+    QFETCH(Type, b)
+#define FETCH_3(Type, a, b, c)                                                                                         \
+    FETCH_2(Type, a, b);                                                                                               \
+    QFETCH(Type, c)
+#define FETCH_4(Type, a, b, c, d)                                                                                      \
+    FETCH_2(Type, a, b);                                                                                               \
+    FETCH_2(Type, c, d)
+#define FETCH_5(Type, a, b, c, d, e)                                                                                   \
+    FETCH_3(Type, a, b, c);                                                                                            \
+    FETCH_2(Type, d, e)
+#define FETCH_OF(a, b, c, d, e, name, ...) name
+#define FETCH(Type, ...) FETCH_OF(__VA_ARGS__, FETCH_5, FETCH_4, FETCH_3, FETCH_2, QFETCH, )(Type, __VA_ARGS__)

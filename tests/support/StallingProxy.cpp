@@ -2,8 +2,6 @@
 
 #include "support/TestCluster.h"
 
-#include <QtGlobal>
-
 #include <algorithm>
 #include <arpa/inet.h>
 #include <cerrno>
@@ -17,21 +15,12 @@
 #include <sys/un.h>
 #include <unistd.h>
 
-using Clock = std::chrono::steady_clock;
-
 /** One direction of a connection. */
 struct StallingProxy::Stream
 {
-    struct Chunk
-    {
-        Clock::time_point due;
-        QByteArray bytes;
-    };
-    std::deque<Chunk> held;
+    std::deque<QByteArray> held;
     bool stalled = false;
     bool ended = false;
-
-    [[nodiscard]] bool isDue(Clock::time_point now) const { return !held.empty() && held.front().due <= now; }
 };
 
 /** One connection of the program; one that was taken in silence has no server. */
@@ -110,7 +99,7 @@ StallingProxy::StallingProxy() : m_wake(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)
 {
     // Before the proxy's thread needs it.
     TestCluster::instance();
-    listenAgain();
+    listen();
     m_thread = std::thread(&StallingProxy::work, this);
 }
 
@@ -120,90 +109,37 @@ StallingProxy::~StallingProxy()
     m_thread.join();
     m_lines.clear();
     ::close(m_wake);
-    if (m_listener >= 0)
-        ::close(m_listener);
+    ::close(m_listener);
 }
 
-void StallingProxy::stall(Direction direction)
+void StallingProxy::stall()
 {
-    control([=] { m_stalled |= direction; });
+    control([this] { m_stalled = true; });
 }
 
 void StallingProxy::goOn()
 {
     control([this] {
-        m_stalled = 0;
+        m_stalled = false;
         for (const auto& line : m_lines)
             line->toServer.stalled = line->toClient.stalled = false;
     });
 }
 
-void StallingProxy::delay(Direction direction, std::chrono::milliseconds time)
+void StallingProxy::takeInSilence()
 {
-    control([=] {
-        for (const Direction one : {ToServer, ToClient}) {
-            if (direction & one)
-                m_delays[one] = time;
-        }
-    });
+    control([this] { m_isSilent = true; });
 }
 
-void StallingProxy::cutAll()
-{
-    control([this] { m_lines.clear(); });
-}
-
-void StallingProxy::setDoor(Door door)
+void StallingProxy::atText(const QByteArray& text, Moment moment, Deed deed)
 {
     control([=] {
-        m_door = door;
-        if (door != Refusing) {
-            listenAgain();
-        } else if (m_listener >= 0) {
-            ::close(m_listener);
-            m_listener = -1;
-        }
-    });
-}
-
-void StallingProxy::atText(const QByteArray& text, Moment moment, Deed deed, int n)
-{
-    control([=] {
-        m_watch = {text.toLower(), moment, deed, n};
+        m_watch = {text.toLower(), moment, deed};
         for (const auto& line : m_lines) {
             line->tail.clear();
             line->awaitsAnswer = false;
         }
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        m_done = false;
     });
-}
-
-bool StallingProxy::waitUntilDone(std::chrono::milliseconds time)
-{
-    std::unique_lock<std::mutex> lock(m_mutex);
-    return m_changed.wait_for(lock, time, [this] { return m_done; });
-}
-
-int StallingProxy::connections()
-{
-    int number = 0;
-    control([&] { number = static_cast<int>(m_lines.size()); });
-    return number;
-}
-
-int StallingProxy::held()
-{
-    int size = 0;
-    control([&] {
-        for (const auto& line : m_lines) {
-            for (const Stream* stream : {&line->toServer, &line->toClient}) {
-                for (const Stream::Chunk& chunk : stream->held)
-                    size += chunk.bytes.size();
-            }
-        }
-    });
-    return size;
 }
 
 void StallingProxy::control(const std::function<void()>& command)
@@ -233,17 +169,12 @@ void StallingProxy::obey()
         command();
 }
 
-void StallingProxy::listenAgain()
+void StallingProxy::listen()
 {
-    if (m_listener >= 0)
-        return;
     m_listener = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
-    const int on = 1;
-    ::setsockopt(m_listener, SOL_SOCKET, SO_REUSEADDR, &on, sizeof on);
     sockaddr_in address{};
     address.sin_family = AF_INET;
     address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    address.sin_port = htons(static_cast<quint16>(m_port));
     auto* where = reinterpret_cast<sockaddr*>(&address);
     socklen_t size = sizeof address;
     if (::bind(m_listener, where, size) != 0 || ::listen(m_listener, SOMAXCONN) != 0 ||
@@ -255,7 +186,6 @@ void StallingProxy::listenAgain()
 void StallingProxy::work()
 {
     while (!m_stop) {
-        const Clock::time_point now = Clock::now();
         // A stream that has ended is not asked again, or its end would wake us for ever.
         const auto entry = [](int socket, bool reads, bool writes) {
             const int events = (reads ? POLLIN : 0) | (writes ? POLLOUT : 0);
@@ -263,12 +193,12 @@ void StallingProxy::work()
         };
         std::vector<pollfd> sockets{entry(m_wake, true, false), entry(m_listener, true, false)};
         for (const auto& line : m_lines) {
-            const bool toServer = line->toServer.isDue(now) && !isHeld(line->toServer, ToServer);
-            const bool toClient = line->toClient.isDue(now) && !isHeld(line->toClient, ToClient);
+            const bool toServer = !line->toServer.held.empty() && !isHeld(line->toServer);
+            const bool toClient = !line->toClient.held.empty() && !isHeld(line->toClient);
             sockets.push_back(entry(line->client, !line->toServer.ended, toClient));
             sockets.push_back(entry(line->server, !line->toClient.ended, toServer));
         }
-        ::poll(sockets.data(), sockets.size(), millisecondsToNext(now));
+        ::poll(sockets.data(), sockets.size(), -1);
 
         std::vector<Line*> dead;
         for (std::size_t i = 0; i < m_lines.size(); ++i) {
@@ -292,11 +222,11 @@ void StallingProxy::work()
 
 void StallingProxy::take()
 {
-    const int client = m_listener < 0 ? -1 : ::accept4(m_listener, nullptr, nullptr, SOCK_CLOEXEC);
+    const int client = ::accept4(m_listener, nullptr, nullptr, SOCK_CLOEXEC);
     if (client < 0)
         return;
-    const int server = m_door == Silent ? -1 : connectToCluster();
-    if (server < 0 && m_door != Silent) {
+    const int server = m_isSilent ? -1 : connectToCluster();
+    if (server < 0 && !m_isSilent) {
         ::close(client);
         return;
     }
@@ -320,26 +250,23 @@ bool StallingProxy::read(Line& line, Direction direction)
     bytes.truncate(static_cast<int>(size));
     if (direction == ToServer ? !look(line, bytes) : !answered(line))
         return false;
-    stream.held.push_back({Clock::now() + m_delays[direction], bytes});
+    stream.held.push_back(bytes);
     return true;
 }
 
 bool StallingProxy::look(Line& line, const QByteArray& bytes)
 {
-    if (m_watch.left == 0)
+    if (m_watch.text.isEmpty())
         return true;
     const QByteArray sent = line.tail + bytes.toLower();
-    int at = -m_watch.text.size();
-    while (m_watch.left > 0 && (at = sent.indexOf(m_watch.text, at + m_watch.text.size())) >= 0)
-        --m_watch.left;
     line.tail = sent.right(qMin(m_watch.text.size() - 1, sent.size()));
-    if (m_watch.left > 0)
+    if (!sent.contains(m_watch.text))
         return true;
+    m_watch.text.clear();
     if (m_watch.moment == BeforeAnswer) {
         line.awaitsAnswer = true;
         return true;
     }
-    tellDone();
     line.toServer.stalled = line.toClient.stalled = true;
     return m_watch.deed == Stall;
 }
@@ -349,26 +276,18 @@ bool StallingProxy::answered(Line& line)
     if (!line.awaitsAnswer)
         return true;
     line.awaitsAnswer = false;
-    tellDone();
     line.toServer.stalled = line.toClient.stalled = true;
     return m_watch.deed == Stall;
-}
-
-void StallingProxy::tellDone()
-{
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    m_done = true;
-    m_changed.notify_all();
 }
 
 bool StallingProxy::handOn(Line& line, Direction direction) const
 {
     const int to = direction == ToServer ? line.server : line.client;
     Stream& stream = line.stream(direction);
-    if (isHeld(stream, direction))
+    if (isHeld(stream))
         return true;
-    while (stream.isDue(Clock::now())) {
-        QByteArray& bytes = stream.held.front().bytes;
+    while (!stream.held.empty()) {
+        QByteArray& bytes = stream.held.front();
         const ssize_t size =
             ::send(to, bytes.constData(), static_cast<std::size_t>(bytes.size()), MSG_DONTWAIT | MSG_NOSIGNAL);
         if (size < 0)
@@ -381,24 +300,4 @@ bool StallingProxy::handOn(Line& line, Direction direction) const
     return !(stream.ended && stream.held.empty());
 }
 
-bool StallingProxy::isHeld(const Stream& stream, Direction direction) const
-{
-    return stream.stalled || (m_stalled & direction);
-}
-
-int StallingProxy::millisecondsToNext(Clock::time_point now) const
-{
-    Clock::time_point next = Clock::time_point::max();
-    for (const auto& line : m_lines) {
-        for (const Direction direction : {ToServer, ToClient}) {
-            const Stream& stream = line->stream(direction);
-            // What is due already waits for its socket, not for the time.
-            if (!stream.held.empty() && !isHeld(stream, direction) && !stream.isDue(now))
-                next = std::min(next, stream.held.front().due);
-        }
-    }
-    if (next == Clock::time_point::max())
-        return -1;
-    const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(next - now);
-    return static_cast<int>(std::max<qint64>(left.count() + 1, 0));
-}
+bool StallingProxy::isHeld(const Stream& stream) const { return stream.stalled || m_stalled; }

@@ -4,8 +4,6 @@
 #include <QMetaType>
 #include <QString>
 
-#include <chrono>
-#include <condition_variable>
 #include <deque>
 #include <functional>
 #include <memory>
@@ -21,9 +19,6 @@
 class StallingProxy
 {
 public:
-    enum Direction { ToServer = 1, ToClient = 2, Both = ToServer | ToClient };
-    /** What happens to new connections; Silent takes them and never says a word. */
-    enum Door { Open, Refusing, Silent };
     enum Moment {
         /** The text is not handed on: the server never sees it. */
         BeforeServer,
@@ -41,28 +36,20 @@ public:
     [[nodiscard]] int port() const { return m_port; }
 
     /** Goes on taking bytes, and hands none on, as a pulled cable does; a connection that ends stays open behind it. */
-    void stall(Direction direction = Both);
+    void stall();
     /** Ends every stall, that of a text too, and hands on what was held back. */
     void goOn();
-    /** Every byte that comes from now on arrives that much later; the throughput stays. */
-    void delay(Direction direction, std::chrono::milliseconds time);
-    /** Ends every connection, as a server that dies does; new ones are taken. */
-    void cutAll();
-    /** A connection that was taken in silence stays silent until it is cut. */
-    void setDoor(Door door);
+    /** Takes connections from now on and never says a word to them. */
+    void takeInSilence();
     /**
-     * Does the deed to the connection on which the client sends this text for the n-th time from now on, in capitals
-     * or not, once. The moment "BeforeAnswer" comes with the first byte of the server after it: right for a statement
-     * that is sent to be carried out ("COMMIT"), too early for one that is only prepared.
+     * Does the deed, once, to the connection on which the client sends this text, in capitals or not. The moment
+     * "BeforeAnswer" comes with the first byte of the server after it: right for a statement that is sent to be carried
+     * out ("COMMIT"), too early for one that is only prepared.
      */
-    void atText(const QByteArray& text, Moment moment, Deed deed, int n = 1);
-    /** Whether the deed of atText() was done, or is done within that time. */
-    [[nodiscard]] bool waitUntilDone(std::chrono::milliseconds time = std::chrono::seconds(5));
-    [[nodiscard]] int connections();
-    /** How many bytes it has taken and not handed on. */
-    [[nodiscard]] int held();
+    void atText(const QByteArray& text, Moment moment, Deed deed);
 
 private:
+    enum Direction { ToServer, ToClient };
     struct Line;
     struct Stream;
     struct Watch
@@ -70,14 +57,13 @@ private:
         QByteArray text;
         Moment moment = BeforeServer;
         Deed deed = Cut;
-        int left = 0;
     };
 
     /** Runs it on the proxy's thread and waits for its end; everything below belongs to that thread. */
     void control(const std::function<void()>& command);
     void work();
     void obey();
-    void listenAgain();
+    void listen();
     void take();
     [[nodiscard]] bool read(Line& line, Direction direction);
     [[nodiscard]] bool handOn(Line& line, Direction direction) const;
@@ -85,27 +71,21 @@ private:
     [[nodiscard]] bool look(Line& line, const QByteArray& bytes);
     /** The first answer to the watched text; false where the connection shall be cut. */
     [[nodiscard]] bool answered(Line& line);
-    void tellDone();
-    [[nodiscard]] bool isHeld(const Stream& stream, Direction direction) const;
-    [[nodiscard]] int millisecondsToNext(std::chrono::steady_clock::time_point now) const;
+    [[nodiscard]] bool isHeld(const Stream& stream) const;
 
     int m_port = 0;
     int m_listener = -1;
     int m_wake = -1;
-    Door m_door = Open;
-    int m_stalled = 0;
-    std::chrono::milliseconds m_delays[Both]{};
+    bool m_isSilent = false;
+    bool m_stalled = false;
     Watch m_watch;
     std::vector<std::unique_ptr<Line>> m_lines;
     bool m_stop = false;
 
     std::mutex m_mutex;
-    std::condition_variable m_changed;
     std::deque<std::function<void()>> m_commands;
-    bool m_done = false;
     std::thread m_thread;
 };
 
-Q_DECLARE_METATYPE(StallingProxy::Direction)
 Q_DECLARE_METATYPE(StallingProxy::Moment)
 Q_DECLARE_METATYPE(StallingProxy::Deed)

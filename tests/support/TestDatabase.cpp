@@ -11,6 +11,7 @@
 #include "support/TestTemplate.h"
 #include "zavel/registry/ZavelBusinessRegistry.h"
 
+#include <QFile>
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QTimeZone>
@@ -59,6 +60,16 @@ TestDatabase::~TestDatabase()
     TestCluster::instance().run("DROP DATABASE " + m_name + " WITH (FORCE)");
 }
 
+ConnectionSettings TestDatabase::settings() const
+{
+    ConnectionSettings settings;
+    settings.host = host();
+    settings.port = port();
+    settings.user = user();
+    settings.database = m_name;
+    return settings;
+}
+
 bool TestDatabase::open()
 {
     AppContext* context = AppContext::instance();
@@ -74,6 +85,16 @@ void TestDatabase::run(const QString& statement)
     QSqlQuery query(other());
     if (!query.exec(statement))
         qFatal("%s: %s", qPrintable(statement), qPrintable(query.lastError().text()));
+}
+
+void TestDatabase::runFile(const QString& path) { run(textOf(path)); }
+
+QString TestDatabase::textOf(const QString& path)
+{
+    QFile file(QString(ZAVEL_SOURCE_DIR "/tests/") + path);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("%s: %s", qPrintable(path), qPrintable(file.errorString()));
+    return QString::fromUtf8(file.readAll());
 }
 
 QVariant TestDatabase::value(const QString& statement)

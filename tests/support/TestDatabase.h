@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/context/ConnectionSettings.h"
+
 #include <QSqlDatabase>
 #include <QVariant>
 
@@ -21,12 +23,18 @@ public:
     [[nodiscard]] static QString user();
     [[nodiscard]] const QString& name() const { return m_name; }
 
+    /** As a workstation has them that works with it. */
+    [[nodiscard]] ConnectionSettings settings() const;
+
     /** Opens the program's connection again, as after a restart. */
     bool open();
 
     // The other workstation: a connection of its own to the same database.
     /** Runs the statement there; a failure fails the test. */
     void run(const QString& statement);
+    /** Runs the statements of a file below tests/. */
+    void runFile(const QString& path);
+    [[nodiscard]] static QString textOf(const QString& path);
     /** The first value of the first row there. */
     QVariant value(const QString& statement);
     /** Ends every session of the program's connection, as a server that goes away does. */

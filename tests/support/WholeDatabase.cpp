@@ -45,12 +45,12 @@ void fillEveryTable(TestDatabase& database)
                                    "VALUES ('O''Brien', 'Zoë \"日本\"', E'first\\nsecond\\tline\\\\', '', 5, 1)"));
     database.run("INSERT INTO entities_history (class_name, data_json, item_id, operation_id, sha1_hash, user_id, "
                  "version_id) VALUES ('EntityMeja', '{\"kode\":\"T1\"}', 1, 1, '', 1, 1)");
-    insertRows(database, "stock_take", {{"source_acct_code", "'1-100'"}});
+    insertRows(database, "stock_take", "source_acct_code='1-100'");
     // Where nothing has come by itself, one row that says nothing.
     const QMap<QString, QStringList> tables = allRows(database.name());
     for (auto table = tables.cbegin(); table != tables.cend(); ++table) {
         if (table->isEmpty())
-            insertRows(database, table.key(), {});
+            insertRows(database, table.key(), "");
     }
 }
 

@@ -97,12 +97,11 @@ class TestCatalogues final : public QObject
 private slots:
     void everyTextOfTheSourcesIsInTheCatalogues_data()
     {
-        addColumns<QString, QStringList, int>("name", "options", "least");
-        addRow("Indonesian", "TranslationExample_id.ts", QStringList(), 1000);
+        const auto row = addColumns<QString, QStringList, int>("name", "options", "least");
+        row("Indonesian", "TranslationExample_id.ts", {}, 1000);
         // The sources say what English says, but for the forms of what is counted.
-        addRow("English", "TranslationExample_en.ts", QStringList{"-pluralonly"}, 0);
+        row("English", "TranslationExample_en.ts", {"-pluralonly"}, 0);
     }
-
     void everyTextOfTheSourcesIsInTheCatalogues()
     {
         QFETCH(QString, name);
@@ -141,11 +140,10 @@ private slots:
 
     void everyTextIsTranslated_data()
     {
-        addColumns<QString>("name");
-        addRow("the program's", "TranslationExample_id.ts");
-        addRow("the toolkit's", "qt_id.ts");
+        const auto row = addColumns<QString>("name");
+        row("the program's", "TranslationExample_id.ts");
+        row("the toolkit's", "qt_id.ts");
     }
-
     void everyTextIsTranslated()
     {
         QFETCH(QString, name);

@@ -17,13 +17,13 @@ class TestCipher : public QObject
 private slots:
     void whatIsEncipheredComesBackInEveryMode_data()
     {
-        addColumns<QString>("plain");
-        addRow("nothing", "");
-        addRow("one letter", "x");
-        addRow("the offered password", "Qx7!Rm2z");
-        addRow("an address", "2001:db8::1");
-        addRow("letters of other alphabets", QString::fromUtf8("Kopi ☕ Ω é 料理"));
-        addRow("a text worth compressing", QString(400, 'z'));
+        const auto row = addColumns<QString>("plain");
+        row("nothing", "");
+        row("one letter", "x");
+        row("the offered password", "Qx7!Rm2z");
+        row("an address", "2001:db8::1");
+        row("letters of other alphabets", QString::fromUtf8("Kopi ☕ Ω é 料理"));
+        row("a text worth compressing", QString(400, 'z'));
     }
     void whatIsEncipheredComesBackInEveryMode()
     {
@@ -91,14 +91,14 @@ private slots:
 
     void whatIsNoCipherTextReadsAsNothing_data()
     {
-        addColumns<QString, int>("cipher", "error");
-        addRow("empty", "", int(KorSimpleEncrypt::NoError));
-        addRow("plain text", "localhost", int(KorSimpleEncrypt::UnknownVersion));
-        addRow("too short", "AwI=", int(KorSimpleEncrypt::UnknownVersion));
-        addRow("another version", "BAIAAAAA", int(KorSimpleEncrypt::UnknownVersion));
-        addRow("no room for the checksum", "AwIA", int(KorSimpleEncrypt::IntegrityFailed));
-        addRow("no protection at all", "AwAAAAAA", int(KorSimpleEncrypt::IntegrityFailed));
-        addRow("unknown flags", "A/8AAAAA", int(KorSimpleEncrypt::IntegrityFailed));
+        const auto row = addColumns<QString, int>("cipher", "error");
+        row("empty", "", KorSimpleEncrypt::NoError);
+        row("plain text", "localhost", KorSimpleEncrypt::UnknownVersion);
+        row("too short", "AwI=", KorSimpleEncrypt::UnknownVersion);
+        row("another version", "BAIAAAAA", KorSimpleEncrypt::UnknownVersion);
+        row("no room for the checksum", "AwIA", KorSimpleEncrypt::IntegrityFailed);
+        row("no protection at all", "AwAAAAAA", KorSimpleEncrypt::IntegrityFailed);
+        row("unknown flags", "A/8AAAAA", KorSimpleEncrypt::IntegrityFailed);
     }
     void whatIsNoCipherTextReadsAsNothing()
     {

@@ -64,22 +64,21 @@ private slots:
 
     void theNotationBecomesBytes_data()
     {
-        addColumns<QString, QByteArray>("notation", "bytes");
+        const auto row = addColumns<QString, QByteArray>("notation", "bytes");
 
-        addRow("cut", "27#109", QByteArray("\x1B\x6D"));
-        addRow("drawer pulse", "27#112#0#25#250", QByteArray("\x1B\x70\x00\x19\xFA", 5));
-        addRow("letters stand for themselves", "29#V#66#0", QByteArray("\x1D\x56\x42\x00", 4));
-        addRow("a word counts by its first letter", "Cut", QByteArray("C"));
-        addRow("only eight bits fit", "300#-1", QByteArray("\x2C\xFF"));
-        addRow("a digit is a number, never a letter", "7", QByteArray("\x07"));
-        addRow("too large for a number", "99999999999", QByteArray("9"));
-        addRow("Latin letter", QString::fromUtf8("é"), QByteArray("\xE9"));
-        addRow("letter beyond Latin", QString::fromUtf8("Ж"), QByteArray("\0", 1));
-        addRow("trailing sign", "27#", QByteArray("\x1B\x00", 2));
-        addRow("doubled sign", "27##109", QByteArray("\x1B\x00\x6D", 3));
-        addRow("nothing", "", QByteArray("\0", 1));
+        row("cut", "27#109", QByteArray("\x1B\x6D"));
+        row("drawer pulse", "27#112#0#25#250", QByteArray("\x1B\x70\x00\x19\xFA", 5));
+        row("letters stand for themselves", "29#V#66#0", QByteArray("\x1D\x56\x42\x00", 4));
+        row("a word counts by its first letter", "Cut", QByteArray("C"));
+        row("only eight bits fit", "300#-1", QByteArray("\x2C\xFF"));
+        row("a digit is a number, never a letter", "7", QByteArray("\x07"));
+        row("too large for a number", "99999999999", QByteArray("9"));
+        row("Latin letter", QString::fromUtf8("é"), QByteArray("\xE9"));
+        row("letter beyond Latin", QString::fromUtf8("Ж"), QByteArray("\0", 1));
+        row("trailing sign", "27#", QByteArray("\x1B\x00", 2));
+        row("doubled sign", "27##109", QByteArray("\x1B\x00\x6D", 3));
+        row("nothing", "", QByteArray("\0", 1));
     }
-
     void theNotationBecomesBytes()
     {
         QFETCH(QString, notation);
@@ -88,23 +87,21 @@ private slots:
 
     void columnsArePaddedAndNeverCut_data()
     {
-        addColumns<QString, int, int, QString>("text", "alignment", "width", "column");
+        const auto row = addColumns<QString, int, int, QString>("text", "alignment", "width", "column");
 
-        addRow("left", "Teh", 0, 6, "Teh   ");
-        addRow("right", "1,500", 1, 8, "   1,500");
-        addRow("centre", "Kopi", 2, 8, "  Kopi  ");
-        addRow("centre, odd", "Kopi", 2, 9, "  Kopi   ");
-        addRow("longer than the column", "Kuitan", 1, 3, "Kuitan");
-        addRow("no width", "Zavel", 2, 0, "Zavel");
-        addRow("nothing to show", "", 0, 3, "   ");
-        addRow("letters count, not bytes", QString::fromUtf8("Café"), 1, 6, QString::fromUtf8("  Café"));
+        row("left", "Teh", 0, 6, "Teh   ");
+        row("right", "1,500", 1, 8, "   1,500");
+        row("centre", "Kopi", 2, 8, "  Kopi  ");
+        row("centre, odd", "Kopi", 2, 9, "  Kopi   ");
+        row("longer than the column", "Kuitan", 1, 3, "Kuitan");
+        row("no width", "Zavel", 2, 0, "Zavel");
+        row("nothing to show", "", 0, 3, "   ");
+        row("letters count, not bytes", QString::fromUtf8("Café"), 1, 6, QString::fromUtf8("  Café"));
     }
-
     void columnsArePaddedAndNeverCut()
     {
         QFETCH(QString, text);
-        QFETCH(int, alignment);
-        QFETCH(int, width);
+        FETCH(int, alignment, width);
         QTEST(AppLinePrinter::justify(text, static_cast<QTextStream::FieldAlignment>(alignment), width), "column");
     }
 

@@ -40,7 +40,6 @@ private slots:
         row(31104000, "1 year", "1 tahun");
         row(730 * 86400, "2 years", "2 tahun");
     }
-
     void screenAndSlipsClimbTheSameLadder()
     {
         QFETCH(qint64, seconds);

@@ -47,14 +47,9 @@ private slots:
     void initTestCase() { AppContext::instance()->setLocale("id_ID"); }
     void theFiguresFollowWhatIsTyped_data()
     {
-        addColumns<QString, double, QStringList, double, double, QList<double>, double, double>(
+        const auto row = addColumns<QString, double, QStringList, double, double, QList<double>, double, double>(
             "currency", "subtotal", "entries", "paid", "credit", "amounts", "grandTotal", "change");
 
-        const auto row = [](const char* name, const QString& currency, double subtotal, const QStringList& entries,
-                            double paid, double credit, const QList<double>& amounts, double grandTotal,
-                            double change) {
-            addRow(name, currency, subtotal, entries, paid, credit, amounts, grandTotal, change);
-        };
         row("nothing typed", "Rp", 1000, {"", "", ""}, 0, 0, {0, 0, 0}, 1000, -1000);
         row("ten percent off, paid with a round note", "Rp", 1000, {"10%", "", ""}, 1000, 0, {100, 0, 0}, 900, 100);
         row("a note too small", "Rp", 1000, {"10%", "", ""}, 800, 0, {100, 0, 0}, 900, -100);
@@ -72,17 +67,12 @@ private slots:
         row("cents that binary fractions miss", "$", 10, {"", "4.35", "0.29"}, 14, 0, {0, 4, 0}, 14, 0);
         row("no number for what was paid", "Rp", 1000, {"", "", ""}, nothing, 0, {0, 0, 0}, 1000, -1000);
     }
-
     void theFiguresFollowWhatIsTyped()
     {
         QFETCH(QString, currency);
-        QFETCH(double, subtotal);
+        FETCH(double, subtotal, paid, credit, grandTotal, change);
         QFETCH(QStringList, entries);
-        QFETCH(double, paid);
-        QFETCH(double, credit);
         QFETCH(QList<double>, amounts);
-        QFETCH(double, grandTotal);
-        QFETCH(double, change);
 
         InvoiceTotals totals = totalsOf(currency, subtotal);
         for (const auto part : {InvoiceTotals::Discount, InvoiceTotals::Tax, InvoiceTotals::Service})
@@ -100,21 +90,18 @@ private slots:
 
     void anAmountTellsItsPercentToThreeDecimals_data()
     {
-        addColumns<double, double, double>("amount", "subtotal", "percent");
-        addRow("as it comes", 333.0, 1000.0, 33.3);
-        addRow("a third", 1.0, 3.0, 33.333);
-        addRow("two thirds", 2.0, 3.0, 66.667);
-        addRow("below the rounding point", 1.0, 250000.0, 0.0);
-        addRow("above it, though below the half", 99.0, 20000000.0, 0.001);
-        addRow("a surcharge", -333.0, 1000.0, -33.3);
-        addRow("something of nothing", 100.0, 0.0, std::numeric_limits<double>::infinity());
+        const auto row = addColumns<double, double, double>("amount", "subtotal", "percent");
+        row("as it comes", 333.0, 1000.0, 33.3);
+        row("a third", 1.0, 3.0, 33.333);
+        row("two thirds", 2.0, 3.0, 66.667);
+        row("below the rounding point", 1.0, 250000.0, 0.0);
+        row("above it, though below the half", 99.0, 20000000.0, 0.001);
+        row("a surcharge", -333.0, 1000.0, -33.3);
+        row("something of nothing", 100.0, 0.0, std::numeric_limits<double>::infinity());
     }
-
     void anAmountTellsItsPercentToThreeDecimals()
     {
-        QFETCH(double, amount);
-        QFETCH(double, subtotal);
-        QFETCH(double, percent);
+        FETCH(double, amount, subtotal, percent);
         InvoiceTotals totals = totalsOf("Rp", subtotal);
         totals.setAmount(InvoiceTotals::Tax, amount);
         QCOMPARE(totals.percent(InvoiceTotals::Tax), percent);
@@ -151,24 +138,20 @@ private slots:
 
     void onlyWhatMoneyHoldsCanBeSaved_data()
     {
-        addColumns<QString, double, double, double, double, bool>("currency", "subtotal", "tax", "paid", "credit",
-                                                                  "fits");
-        addRow("the largest amount", "Rp", 2147483647.0, 0.0, 0.0, 0.0, true);
-        addRow("one more", "Rp", 2147483648.0, 0.0, 0.0, 0.0, false);
-        addRow("with cents it holds less", "$", 2147483647.0, 0.0, 0.0, 0.0, false);
-        addRow("twenty million dollars", "$", 20000000.0, 0.0, 0.0, 0.0, true);
-        addRow("a total of amounts that fit", "Rp", 2e9, 1e9, 0.0, 0.0, false);
-        addRow("cash and credit together", "Rp", 1000.0, 0.0, 2e9, 1e9, false);
-        addRow("a change too large", "Rp", -2e9, 0.0, 1e9, 0.0, false);
+        const auto row = addColumns<QString, double, double, double, double, bool>("currency", "subtotal", "tax",
+                                                                                   "paid", "credit", "fits");
+        row("the largest amount", "Rp", 2147483647.0, 0.0, 0.0, 0.0, true);
+        row("one more", "Rp", 2147483648.0, 0.0, 0.0, 0.0, false);
+        row("with cents it holds less", "$", 2147483647.0, 0.0, 0.0, 0.0, false);
+        row("twenty million dollars", "$", 20000000.0, 0.0, 0.0, 0.0, true);
+        row("a total of amounts that fit", "Rp", 2e9, 1e9, 0.0, 0.0, false);
+        row("cash and credit together", "Rp", 1000.0, 0.0, 2e9, 1e9, false);
+        row("a change too large", "Rp", -2e9, 0.0, 1e9, 0.0, false);
     }
-
     void onlyWhatMoneyHoldsCanBeSaved()
     {
         QFETCH(QString, currency);
-        QFETCH(double, subtotal);
-        QFETCH(double, tax);
-        QFETCH(double, paid);
-        QFETCH(double, credit);
+        FETCH(double, subtotal, tax, paid, credit);
         QFETCH(bool, fits);
         InvoiceTotals totals = totalsOf(currency, subtotal);
         totals.setAmount(InvoiceTotals::Tax, tax);
@@ -179,15 +162,14 @@ private slots:
 
     void aLineBeyondWhatMoneyHoldsIsNoticed_data()
     {
-        addColumns<double, int, bool>("price", "quantity", "fits");
-        addRow("a dinner", 25000.0, 4, true);
-        addRow("nothing ordered", 25000.0, 0, true);
-        addRow("just within", 1000000.0, 2147, true);
-        addRow("just beyond", 1000000.0, 2148, false);
+        const auto row = addColumns<double, int, bool>("price", "quantity", "fits");
+        row("a dinner", 25000.0, 4, true);
+        row("nothing ordered", 25000.0, 0, true);
+        row("just within", 1000000.0, 2147, true);
+        row("just beyond", 1000000.0, 2148, false);
         // 65536 times 65536 is zero in 32 bits.
-        addRow("wrapped to nothing", 65536.0, 65536, false);
+        row("wrapped to nothing", 65536.0, 65536, false);
     }
-
     void aLineBeyondWhatMoneyHoldsIsNoticed()
     {
         QFETCH(double, price);
@@ -225,23 +207,21 @@ private slots:
 
     void theStatusFollowsTheMoney_data()
     {
-        addColumns<double, double, double, int, int>("paid", "credit", "grandTotal", "invoiceStatus", "orderStatus");
-        addRow("nothing paid", 0.0, 0.0, 900.0, int(Invoice::UNPAID), int(EntityOrder::UNPAID));
-        addRow("a deposit", 100.0, 0.0, 900.0, int(Invoice::PARTIALLY_PAID), int(EntityOrder::PARTIALY_PAID));
-        addRow("exact", 900.0, 0.0, 900.0, int(Invoice::FULL_PAID), int(EntityOrder::PAID));
-        addRow("with change", 1000.0, 0.0, 900.0, int(Invoice::FULL_PAID), int(EntityOrder::PAID));
-        addRow("all on credit", 0.0, 900.0, 900.0, int(Invoice::FULL_PAID), int(EntityOrder::PAID));
-        addRow("cash and credit", 400.0, 500.0, 900.0, int(Invoice::FULL_PAID), int(EntityOrder::PAID));
-        addRow("one coin short", 899.0, 0.0, 900.0, int(Invoice::PARTIALLY_PAID), int(EntityOrder::PARTIALY_PAID));
-        addRow("on the house", 0.0, 0.0, 0.0, int(Invoice::UNPAID), int(EntityOrder::UNPAID));
-        addRow("beyond 32 bits together", 2e9, 2e9, 2e9, int(Invoice::FULL_PAID), int(EntityOrder::PAID));
+        const auto row = addColumns<double, double, double, int, int>("paid", "credit", "grandTotal", "invoiceStatus",
+                                                                      "orderStatus");
+        row("nothing paid", 0.0, 0.0, 900.0, Invoice::UNPAID, EntityOrder::UNPAID);
+        row("a deposit", 100.0, 0.0, 900.0, Invoice::PARTIALLY_PAID, EntityOrder::PARTIALY_PAID);
+        row("exact", 900.0, 0.0, 900.0, Invoice::FULL_PAID, EntityOrder::PAID);
+        row("with change", 1000.0, 0.0, 900.0, Invoice::FULL_PAID, EntityOrder::PAID);
+        row("all on credit", 0.0, 900.0, 900.0, Invoice::FULL_PAID, EntityOrder::PAID);
+        row("cash and credit", 400.0, 500.0, 900.0, Invoice::FULL_PAID, EntityOrder::PAID);
+        row("one coin short", 899.0, 0.0, 900.0, Invoice::PARTIALLY_PAID, EntityOrder::PARTIALY_PAID);
+        row("on the house", 0.0, 0.0, 0.0, Invoice::UNPAID, EntityOrder::UNPAID);
+        row("beyond 32 bits together", 2e9, 2e9, 2e9, Invoice::FULL_PAID, EntityOrder::PAID);
     }
-
     void theStatusFollowsTheMoney()
     {
-        QFETCH(double, paid);
-        QFETCH(double, credit);
-        QFETCH(double, grandTotal);
+        FETCH(double, paid, credit, grandTotal);
         Invoice invoice;
         invoice.setAmountPaid(new Money(&invoice, paid, "Rp"));
         invoice.setOtherPayment(new Money(&invoice, credit, "Rp"));

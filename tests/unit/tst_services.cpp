@@ -57,7 +57,6 @@ private slots:
         row("Printer Type", {"0 Add Printer Type", "1 Update Printer Type", "2 Delete Printer Type"});
         row("Printer Config", {"0 Manage Printer Configurations"});
     }
-
     void rightsKeepTheirNumbers()
     {
         const KorBusinessLogic* service = KorServiceDirectory::get(QTest::currentDataTag());
@@ -77,21 +76,22 @@ private slots:
 
     void permissionsAreNumberedAlikeEverywhere()
     {
-        // An installation numbers the permissions in this order, and other installations are compared with it.
+        // An installation numbers the permissions in this order, and other installations are compared with it. What
+        // comes later stands behind.
         const auto names = [](const KorBusinessRegistry* registry) {
             QStringList list;
             for (const KorBusinessLogic* service : registry->all())
                 list.append(service->name());
             return list.join(", ");
         };
-        QCOMPARE(names(AppBusinessRegistry::instance()),
-                 QString("Configuration, Permission, User Access, User, KeyTable, User Group"));
-        QCOMPARE(
-            names(PosBusinessRegistry::instance()),
-            QString("Accounting Transaction, Bank, Agent, Supplier, Printer Type, Printer Config, Company Profile, "
-                    "Purchases, Credit Note, Grouped Item, Inventory, Item, Item Type, Member, Purchase Order, "
-                    "Payment, Unit, Beginning Balance, Employee, Journal Transaction"));
-        QCOMPARE(names(ZavelBusinessRegistry::instance()), QString("Table, Sales"));
+        QVERIFY(names(AppBusinessRegistry::instance())
+                    .startsWith("Configuration, Permission, User Access, User, KeyTable, User Group"));
+        QVERIFY(names(PosBusinessRegistry::instance())
+                    .startsWith(
+                        "Accounting Transaction, Bank, Agent, Supplier, Printer Type, Printer Config, Company Profile, "
+                        "Purchases, Credit Note, Grouped Item, Inventory, Item, Item Type, Member, Purchase Order, "
+                        "Payment, Unit, Beginning Balance, Employee, Journal Transaction"));
+        QVERIFY(names(ZavelBusinessRegistry::instance()).startsWith("Table, Sales"));
     }
 };
 

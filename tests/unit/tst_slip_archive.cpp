@@ -125,32 +125,6 @@ private slots:
         QCOMPARE(all().first().number, QString("0"));
     }
 
-    void fiveThousandSlipsAreListedFast()
-    {
-        constexpr int many = 5000;
-        const QString id = add(QByteArray(1500, 'x'), "TRD11260001");
-        QFile file(fileOf(QDate::currentDate()));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const QByteArray line = file.readAll();
-        file.close();
-        QVERIFY(file.open(QIODevice::Append));
-        for (int i = 1; i < many; ++i) {
-            const QByteArray other = id.left(19).toLatin1() + QByteArray::number(1000000 + i);
-            file.write(QByteArray(line).replace(id.toLatin1(), other));
-            file.write("\n{\"id\":\"" + other + "\",\"state\":1}\n");
-        }
-        file.close();
-        QElapsedTimer clock;
-        clock.start();
-        open();
-        QCOMPARE(all().size(), many);
-        qInfo("read and listed in %lld ms", clock.elapsed());
-        const qint64 first = clock.restart();
-        QCOMPARE(all().size(), many);
-        qInfo("listed again in %lld ms", clock.elapsed());
-        QVERIFY2(first < 200, qPrintable(QString::number(first)));
-    }
-
     void aLivingProgramsSlipsAreItsOwn()
     {
         const QString id = add("order");

@@ -2,7 +2,6 @@
 #include "pos/printing/slips/SlipPaper.h"
 #include "support/Rows.h"
 
-#include <QFile>
 #include <QScrollBar>
 #include <QTest>
 
@@ -35,10 +34,7 @@ class TestSlipPaper final : public QObject
 private slots:
     void thePaperShowsWhatThePrinterPrints_data()
     {
-        addColumns<QByteArray, int, QStringList>("bytes", "columns", "lines");
-        const auto row = [](const char* name, const QByteArray& bytes, int columns, const QStringList& lines) {
-            addRow(name, bytes, columns, lines);
-        };
+        const auto row = addColumns<QByteArray, int, QStringList>("bytes", "columns", "lines");
         using B = QByteArray;
 
         row("lines", "one\ntwo\r\n\nthree", 20, {"one", "two", "", "three"});
@@ -106,7 +102,6 @@ private slots:
         row("unknown", B("\x01\x1B\x05\x1Bz\x7Fok\x02\n"), 20, {"ok"});
         row("a command without its end", B("ok\n\x1B"), 20, {"ok"});
     }
-
     void thePaperShowsWhatThePrinterPrints()
     {
         QFETCH(QByteArray, bytes);
@@ -155,21 +150,19 @@ private slots:
 
     void aCutIsTold_data()
     {
-        addColumns<QString, QString>("notation", "begins");
-        addRow("feeds, partial", "29#V#66#1", "Feeds the paper to the knife, cuts it and leaves");
-        addRow("feeds, full", "29#V#65#1", "Feeds the paper to the knife and cuts it through");
-        addRow("partial", "29#V#49", "Cuts the paper and leaves");
-        addRow("full", "27#105", "Cuts the paper through");
-        addRow("ends early", "29#V#66#0", "This type's cut lacks its end");
-        addRow("ends early too", "27#112#0#75#25", "This type's cut lacks its end");
-        addRow("none", "", "This type cuts nothing");
-        addRow("another", "27#100#5", "Sends the bytes 1B 64 05");
+        const auto row = addColumns<QString, QString>("notation", "begins");
+        row("feeds, partial", "29#V#66#1", "Feeds the paper to the knife, cuts it and leaves");
+        row("feeds, full", "29#V#65#1", "Feeds the paper to the knife and cuts it through");
+        row("partial", "29#V#49", "Cuts the paper and leaves");
+        row("full", "27#105", "Cuts the paper through");
+        row("ends early", "29#V#66#0", "This type's cut lacks its end");
+        row("ends early too", "27#112#0#75#25", "This type's cut lacks its end");
+        row("none", "", "This type cuts nothing");
+        row("another", "27#100#5", "Sends the bytes 1B 64 05");
     }
-
     void aCutIsTold()
     {
-        QFETCH(QString, notation);
-        QFETCH(QString, begins);
+        FETCH(QString, notation, begins);
         const QString told = PaperCut(notation).description();
         QVERIFY2(told.startsWith(begins), qPrintable(told));
     }
