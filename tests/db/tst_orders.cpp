@@ -144,6 +144,27 @@ private slots:
         QVERIFY2(m_sales->insertNewOrder(order), qPrintable(m_sales->takeErrors()));
     }
 
+    void aPaidOrderIsNotRemoved_data()
+    {
+        const auto row = addColumns<int, bool>("status", "removed");
+        row("waiting", EntityOrder::WAITING_FOR_MENU, true);
+        row("unpaid", EntityOrder::UNPAID, true);
+        row("paid", EntityOrder::PAID, false);
+        row("partly paid", EntityOrder::PARTIALY_PAID, false);
+    }
+    void aPaidOrderIsNotRemoved()
+    {
+        QFETCH(int, status);
+        QFETCH(bool, removed);
+        EntityMakanDitempat* order =
+            m_make->openOrder(m_make->table("t1"), {m_make->line(m_make->item("RICE", "Rice", 10000), 1)});
+        order->setStatus(status);
+        QVERIFY(m_sales->updateStatusMakanDitempat(order));
+        QCOMPARE(m_sales->removeOrder(m_sales->findOrder(order->getId())), removed);
+        QCOMPARE(m_sales->takeErrors(), removed ? QString() : QString("Order sudah dibayar tidak bisa dihapus\r\n"));
+        QCOMPARE(count("makan_ditempat_detail"), removed ? 0 : 1);
+    }
+
     void aSearchOnlyFindsTheWholeCodeOrName_data()
     {
         const auto row = addColumns<QString, int, QStringList>("text", "status", "guests");

@@ -497,6 +497,7 @@ private slots:
         enter("txtServicePerc", "10");
         enter("txtAgent", "a1");
         enter("txtEmployee", "E1");
+        m_form->findChild<QDateEdit*>("dateDue")->setDate(QDate(2026, 4, 1));
         enter("txtPaid", "400");
         m_people->answer(QMessageBox::No);
         save();
@@ -505,6 +506,7 @@ private slots:
 
         openForm();
         QCOMPARE(shown("txtKode"), QString("TRD-0007"));
+        QCOMPARE(m_form->findChild<QDateEdit*>("dateDue")->date(), QDate(2026, 4, 1));
         QCOMPARE(shown("txtMember"), QString("M1"));
         QCOMPARE(shown("txtAgent"), QString("A1"));
         QCOMPARE(shown("txtEmployee"), QString("E1"));

@@ -37,6 +37,8 @@ struct DocumentFamily
     QString lostAtDelete;
     /** A box of the form where a person types; empty where the page opens forms of other families. */
     const char* field = "";
+    /** What a save is told with that somebody else was faster than, before the table's name. */
+    QString refused = QString();
 };
 
 [[nodiscard]] const QList<DocumentFamily>& documentFamilies();
