@@ -6,6 +6,7 @@
 #include "pos/purchasing/purchase/EntityAcquisition.h"
 #include "pos/purchasing/purchaseorder/BusinessPurchaseOrder.h"
 #include "pos/purchasing/purchaseorder/EntityPurchaseOrder.h"
+#include "pos/purchasing/purchaseorder/EntityPurchaseOrderDetail.h"
 #include "support/DatabaseTest.h"
 #include "support/LedgerRows.h"
 #include "support/ShopRows.h"
@@ -238,6 +239,32 @@ private slots:
         QCOMPARE(open, (QStringList{"PO-1", "PO-2", "PO-4"}));
         QCOMPARE(m_orders->findAll({QDate(2026, 3, 1), QDate(2026, 3, 1), 2, "s2", {}, {}}).size(), 1);
         QCOMPARE(m_orders->findByNo("PO-7")->getSupplier()->getNama(), QString("Farm"));
+    }
+
+    void anOrderWithABadLineGivesItsNumberBack()
+    {
+        insertOrder(7, 2);
+        auto* order = static_cast<EntityPurchaseOrder*>(m_orders->find(7));
+        order->setId(KorNoValue);
+        auto* line = new EntityPurchaseOrderDetail(order);
+        line->setItem(new EntityItem(line));
+        line->getItem()->setId(99);
+        line->setJumlah(3);
+        line->setPrice(rupiah(line, 10));
+        line->setDiscount(rupiah(line, 0));
+        line->setTotalPrice(rupiah(line, 30));
+        order->setDetails({line});
+        QVERIFY(!m_orders->insert(order));
+        QVERIFY(m_orders->takeErrors().startsWith("error: insert PO detail failed"));
+        QVERIFY(!order->isSaved());
+        QCOMPARE(value("select count(*) || ' ' || (select next_id from keytable where key_name = 'PO') from "
+                       "purchase_order"),
+                 QString("1 7"));
+        run("DELETE FROM keytable");
+        QVERIFY(!m_orders->insert(order));
+        const QString told = m_orders->takeErrors();
+        QVERIFY2(told.startsWith("error: insert PO failed") && told.contains("Can not draw a new number for PO"),
+                 qPrintable(told));
     }
 
     void anOrderThatWasBoughtCannotBeDeleted()

@@ -88,6 +88,25 @@ private slots:
         QTRY_COMPARE(column(Column::Menu), (QStringList{"Fried rice, Iced tea", "Iced tea"}));
     }
 
+    void anOrderThatCannotBeSavedStaysInTheForm()
+    {
+        show();
+        m_people->expect<DialogBawaPulang>([this](DialogBawaPulang* form) {
+            keyIn<DialogBawaPulang>(*m_people, form, {{"TEA", "1"}}, [this](DialogBawaPulang* same) {
+                run("DELETE FROM item WHERE kode = 'TEA'");
+                QTest::keyClick(same->focusWidget(), Qt::Key_Return);
+                QVERIFY(same->isVisible());
+                same->reject();
+            });
+        });
+        press(Qt::Key_F12);
+        QTRY_VERIFY(m_people->finished() && m_people->boxes().size() == 1);
+        QCOMPARE(m_people->lastTitle(), QString("Error"));
+        QVERIFY(m_people->lastText().contains("error: insert take away food detail failed.\r\n"));
+        QCOMPARE(count("bawa_pulang"), 0);
+        QCOMPARE(takeSlips(m_spool->path()), QString());
+    }
+
     void anOrderIsCancelledUntilThereIsAnInvoice_data()
     {
         const auto row = addColumns<int, bool, QString>("paid", "sure", "refusal");
