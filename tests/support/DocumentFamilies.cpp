@@ -33,10 +33,22 @@ std::function<std::unique_ptr<QWidget>()> page()
     return [] { return std::make_unique<Page>(); };
 }
 
-/** The rights of a service that numbers adding, changing and deleting one after the other. */
-QList<KeyRight> threeFrom(int first)
+QList<KeyRight> three(int add, int change, int remove)
 {
-    return {{Qt::Key_F12, first}, {Qt::Key_F2, first + 1}, {Qt::Key_Delete, first + 2}};
+    return {{Qt::Key_F12, add}, {Qt::Key_F2, change}, {Qt::Key_Delete, remove}};
+}
+
+/** The rights of a service that numbers them one after the other. */
+QList<KeyRight> threeFrom(int first) { return three(first, first + 1, first + 2); }
+
+QList<KeyRight> ofSales(bool mayAdd)
+{
+    QList<KeyRight> rights{{Qt::Key_F2, Sales::SAVE_INVOICE, false}, {Qt::Key_F2, Sales::UBAH_PESANAN}};
+    // The list of all sales asks once for all rows, whoever made them.
+    rights.append({Qt::Key_Delete, Sales::DELETE_SALES, mayAdd});
+    if (mayAdd)
+        rights.append({Qt::Key_F12, Sales::SAVE_INVOICE});
+    return rights;
 }
 
 QList<KeyRight> ofOrders()
@@ -135,6 +147,15 @@ void layAdjustment(TestDatabase& database, int)
 {
     insertRows(database, "stock_take", "source_acct_code='1-100', qty=3, qty_adj=3");
 }
+
+void layDineOrder(TestDatabase& database, int) { insertDineOrder(database, {{2, 300}}); }
+
+void layBalance(TestDatabase& database, int n)
+{
+    if (n == 2)
+        insertItem(database, 2, "EGG", "Egg");
+    insertRows(database, "stok_awal", QString("item_id=%1, jumlah=7").arg(n));
+}
 } // namespace
 
 const QList<DocumentFamily>& documentFamilies()
@@ -153,32 +174,14 @@ const QList<DocumentFamily>& documentFamilies()
         {"bill payments", "Payment", "payment", threeFrom(0), page<TabPayment>(), layPayment,
          "Are you sure you want to delete purchase invoice with No: TPH-", "Can not find purchase invoice with id: ",
          "Can not find purchase invoice with id: ", "txtRefNo", "error: update payment invoice failed"},
-        {"member payments",
-         "Sales",
-         "piutang",
-         {{Qt::Key_F12, Sales::BAYAR_PIUTANG},
-          {Qt::Key_F2, Sales::UPDATE_PIUTANG},
-          {Qt::Key_Delete, Sales::DELETE_PIUTANG}},
-         page<TabPiutang>(),
-         layMembersPayment,
-         "Are you sure you want to delete Payment with No: PIU-",
-         "Can not find Payment with id: ",
-         gone,
-         "txtRefNo",
-         "error: update credit invoice failed"},
-        {"commission payments",
-         "Sales",
-         "komisi_agen",
-         {{Qt::Key_F12, Sales::BAYAR_KOMISI_AGEN},
-          {Qt::Key_F2, Sales::UPDATE_BAYAR_KOMISI_AGEN},
-          {Qt::Key_Delete, Sales::HAPUS_BAYAR_KOMISI}},
-         page<TabKomisiAgen>(),
-         layCommission,
-         "Are you sure you want to delete Payment with No: KAG-",
-         "Can not find Payment with id: ",
-         gone,
-         "txtNoRef",
-         "error: update komisi agen failed"},
+        {"member payments", "Sales", "piutang",
+         three(Sales::BAYAR_PIUTANG, Sales::UPDATE_PIUTANG, Sales::DELETE_PIUTANG), page<TabPiutang>(),
+         layMembersPayment, "Are you sure you want to delete Payment with No: PIU-",
+         "Can not find Payment with id: ", gone, "txtRefNo", "error: update credit invoice failed"},
+        {"commission payments", "Sales", "komisi_agen",
+         three(Sales::BAYAR_KOMISI_AGEN, Sales::UPDATE_BAYAR_KOMISI_AGEN, Sales::HAPUS_BAYAR_KOMISI),
+         page<TabKomisiAgen>(), layCommission, "Are you sure you want to delete Payment with No: KAG-",
+         "Can not find Payment with id: ", gone, "txtNoRef", "error: update komisi agen failed"},
         {"journal entries", "Journal Transaction", "cash_flow", threeFrom(BusinessCashFlow::INSERT_CASH_FLOW),
          page<TabCashFlow>(), layEntry, "Are you sure, you want to delete this entity with no: KK-",
          "Please open it from Purchases menu or Sales menu", "Can not find entity with no: KK-", "txtNotes"},
@@ -194,38 +197,15 @@ const QList<DocumentFamily>& documentFamilies()
          "Are you sure you want to delete this item: Rice ?",
          "",
          gone},
-        {"counter sales",
-         "Sales",
-         "invoice",
-         {{Qt::Key_F12, Sales::SAVE_INVOICE},
-          {Qt::Key_F2, Sales::SAVE_INVOICE, false},
-          {Qt::Key_F2, Sales::UBAH_PESANAN},
-          {Qt::Key_Delete, Sales::DELETE_SALES}},
-         page<TabFastFood>(),
-         layCounterSale,
-         "Are you sure, you want to delete this invoice: F",
-         "Can not find entity #",
-         gone,
-         "txtNamaPelanggan",
+        {"counter sales", "Sales", "invoice", ofSales(true), page<TabFastFood>(), layCounterSale,
+         "Are you sure, you want to delete this invoice: F", "Can not find entity #", gone, "txtNamaPelanggan",
          "error: insert fast food invoice failed"},
-        {"all sales",
-         "Sales",
-         "invoice",
-         {{Qt::Key_F2, Sales::SAVE_INVOICE, false},
-          {Qt::Key_F2, Sales::UBAH_PESANAN},
-          {Qt::Key_Delete, Sales::DELETE_SALES, false}},
-         page<TabDaftarPenjualan>(),
-         layCounterSale,
-         "Are you sure, you want to delete this sales invoice: F",
-         gone,
-         ""},
+        {"all sales", "Sales", "invoice", ofSales(false), page<TabDaftarPenjualan>(), layCounterSale,
+         "Are you sure, you want to delete this sales invoice: F", gone, ""},
         {"orders to take away", "Sales", "bawa_pulang", ofOrders(), page<TabBawaPulang>(), layTakeAway,
          "Are you sure you want to delete this order? order id: ", gone, "", "txtNamaPelanggan",
          "error: update take away food detail failed"},
-        {"orders at tables", "Sales", "makan_ditempat", ofOrders(), page<TabMakanDitempat>(),
-         [](TestDatabase& database, int) {
-             insertDineOrder(database, {{2, 300}});
-         },
+        {"orders at tables", "Sales", "makan_ditempat", ofOrders(), page<TabMakanDitempat>(), layDineOrder,
          "Are you sure you want to delete order of table: Window ?", gone, "", "txtNamaPelanggan",
          "error: update dine failed"},
         {"beginning balances",
@@ -233,11 +213,7 @@ const QList<DocumentFamily>& documentFamilies()
          "stok_awal",
          {{Qt::Key_F12, 0}, {Qt::Key_F2, 0}},
          page<TabStokAwal>(),
-         [](TestDatabase& database, int n) {
-             if (n == 2)
-                 insertItem(database, 2, "EGG", "Egg");
-             insertRows(database, "stok_awal", QString("item_id=%1, jumlah=7").arg(n));
-         },
+         layBalance,
          "",
          gone,
          "",
