@@ -4,7 +4,6 @@
 #include "shell/window/InterfaceLanguage.h"
 #include "shell/window/MainWindow.h"
 #include "shell/window/Pages.h"
-#include "shell/window/TabFactories.h"
 #include "support/DatabaseTest.h"
 #include "support/InstallerRun.h"
 

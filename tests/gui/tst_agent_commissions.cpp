@@ -9,7 +9,7 @@
 #include "zavel/service/BusinessPenjualan.h"
 
 /** What agents earn, from the list of what they brought to the payment, with keyboard and mouse. */
-class TestAgentCommissions : public PageTest<AppDocumentTab>
+class TestAgentCommissions : public PageTest<AppListTab>
 {
     Q_OBJECT
 

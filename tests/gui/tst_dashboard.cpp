@@ -6,7 +6,6 @@
 #include "shell/window/HouseStyle.h"
 #include "shell/window/MainWindow.h"
 #include "shell/window/Pages.h"
-#include "shell/window/TabFactories.h"
 #include "support/DatabaseTest.h"
 #include "support/ModalDriver.h"
 #include "support/Rows.h"

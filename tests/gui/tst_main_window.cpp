@@ -11,7 +11,6 @@
 #include "shell/window/MainWindow.h"
 #include "shell/window/Pages.h"
 #include "shell/window/QtCategoryButton.h"
-#include "shell/window/TabFactories.h"
 #include "support/DatabaseTest.h"
 #include "support/ModalDriver.h"
 #include "support/Rows.h"
