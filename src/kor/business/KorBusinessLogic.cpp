@@ -40,7 +40,7 @@ bool KorBusinessLogic::written(bool done, KorDataMapper* mapper, const QString& 
 bool KorBusinessLogic::clearTables(const QList<KorDataMapper*>& tables)
 {
     bool cleared = true;
-    // With CASCADE, since the database refuses to empty a referenced table even when its referrers are empty.
+    // With CASCADE: PostgreSQL refuses to truncate a table that a foreign key references, even if both are empty.
     for (KorDataMapper* table : tables)
         cleared = written(table->truncate(true), table, "clearTransactions") && cleared;
     return cleared;

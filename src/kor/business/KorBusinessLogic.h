@@ -8,12 +8,12 @@
 class KorDataMapper;
 class KorEntity;
 
-/** One operation of a service that needs a right: its key, as the screens name it, and its caption. */
+/** One operation of a service that needs a right: its permission key, and its caption. */
 using KorPermission = QPair<int, QString>;
 
 /**
- * A service of one area. Screens call it for every read and write; it calls its mapper and keeps what went wrong
- * under the operation's name until a screen takes it. It never touches a widget and does not test rights itself.
+ * Base of all services; each covers one area. Pages and forms call it for every read and write. It calls its mapper and
+ * keeps error messages under the operation's name until a page takes them. It uses no widgets and checks no rights.
  */
 class KorBusinessLogic : public QObject
 {
@@ -23,7 +23,7 @@ public:
     KorBusinessLogic(const QString& name, KorDataMapper* mapper, QObject* parent = nullptr);
 
     [[nodiscard]] virtual QList<KorPermission> getPermissions() const = 0;
-    /** Empties the service's transaction tables; services without any have nothing to do. */
+    /** Empties the service's transaction tables; the default does nothing. */
     virtual bool clearTransactions() { return true; }
 
     [[nodiscard]] KorDataMapper* mapper() const { return m_mapper; }
@@ -34,11 +34,11 @@ public:
     [[nodiscard]] bool hasError() const { return !m_errors.isEmpty(); }
     void addError(const QString& operation, const QString& message);
     void clearErrors();
-    /** All messages, each with its line end, in the order of the operations' names; the service forgets them. */
+    /** All messages, each ending with a line break, sorted by operation name; the service drops them. */
     QString takeErrors();
     [[nodiscard]] QMap<QString, QStringList> errors() const { return m_errors; }
 
-    // The generic operations forward to the mapper and keep its failure under "insert", "find", "update", "delete".
+    // The generic operations call the mapper and keep its error under "insert", "find", "update" or "delete".
     virtual bool insert(KorEntity* entity);
     virtual KorEntity* find(int id);
     virtual KorEntity* find(const QString& column, const QString& value);
@@ -49,11 +49,11 @@ signals:
     void error(const QString& err);
 
 protected:
-    /** Empties the tables in this order, lines before their documents; a failure stands under "clearTransactions". */
+    /** Empties the tables in this order (lines before their documents). Errors are kept under "clearTransactions". */
     bool clearTables(const QList<KorDataMapper*>& tables);
-    /** Passes a mapper's write on; a failure is kept under the operation's name. */
+    /** Returns the result of a mapper's write; on failure keeps the error under the operation's name. */
     bool written(bool done, KorDataMapper* mapper, const QString& operation);
-    /** Passes a mapper's read on; an error that the mapper holds is kept under the operation's name. */
+    /** Returns the result of a mapper's read; an error in the mapper is kept under the operation's name. */
     template <class Result>
     Result read(Result result, KorDataMapper* mapper, const QString& operation)
     {

@@ -9,21 +9,19 @@ class KorBusinessLogic;
 class KorLogger;
 struct KorFamily;
 
-/** The services of one layer by name. Every error that a service notes goes through here into the log. */
+/** The services of one layer by name. It writes every error that a service records to the log. */
 class KorBusinessRegistry : public QObject
 {
     Q_OBJECT
 
 public:
-    /**
-     * Makes the services of the families, in their order. Those that are named stand first in all(), as they are named.
-     */
+    /** Creates the services of the families in their order. In all(), the services named in "first" come first. */
     KorBusinessRegistry(const QList<KorFamily>& families, const QStringList& first, KorLogger* logger, QObject* parent);
     ~KorBusinessRegistry() override;
 
     void add(KorBusinessLogic* service);
     [[nodiscard]] KorBusinessLogic* get(const QString& name) const { return m_byName.value(name); }
-    /** Always in one order, so that every installation numbers its permissions alike. */
+    /** Always in the same order, so that every installation numbers its permissions the same way. */
     [[nodiscard]] const QList<KorBusinessLogic*>& all() const { return m_ordered; }
 
 public slots:

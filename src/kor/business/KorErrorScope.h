@@ -6,8 +6,8 @@
 class KorBusinessLogic;
 
 /**
- * What one step of a screen makes its services say. The step begins without what an earlier one left behind, and what
- * nobody has taken when the scope ends is forgotten, so that no failure surfaces in some other form later:
+ * Limits the errors of a step to that step: the constructor drops what an earlier step left in the services, the
+ * destructor what nobody took. So no error shows up later in another form:
  *
  *     KorErrorScope errors(tables);
  *     const auto rows = tables->findAll(text);
@@ -23,7 +23,7 @@ public:
     Q_DISABLE_COPY(KorErrorScope)
 
     [[nodiscard]] bool failed() const;
-    /** The failures, each with its line end, or nothing; the services forget them. */
+    /** The errors, each ending with a line break; empty if there are none. The services drop them. */
     [[nodiscard]] QString take();
 
 private:

@@ -7,7 +7,7 @@
 #include <functional>
 #include <type_traits>
 
-/** What a mapper or a service asks for in its constructor, found by its type among those that are made already. */
+/** A constructor argument of a mapper or service, found by its type among those created already. */
 template <class Part>
 struct KorPart
 {
@@ -24,8 +24,7 @@ struct KorPart
     }
 };
 
-/** Several parts that a constructor takes in one struct: template <> struct KorPart<Struct> : KorParts<Struct, ...> {}.
- */
+/** Several arguments in one struct: template <> struct KorPart<Struct> : KorParts<Struct, ...> {}. */
 template <class Struct, class... Parts>
 struct KorParts
 {
@@ -33,8 +32,8 @@ struct KorParts
 };
 
 /**
- * A row of a floor's list of families: how its mapper and its service are made. Either may be missing. The registries
- * own what is made.
+ * An entry in a layer's list of families: how to create its mapper and its service. Either may be missing. The
+ * registries own the objects.
  */
 struct KorFamily
 {
@@ -42,11 +41,11 @@ struct KorFamily
     std::function<KorBusinessLogic*(QObject* owner)> makeService;
 };
 
-/** A row with the mapper of a table; service() adds the service that works with it. */
+/** An entry with the mapper of a table; service() adds the service that uses it. */
 template <class Mapper>
 struct KorTable : KorFamily
 {
-    /** The constructor takes the owner, the mapper and the further parts. */
+    /** The service's constructor takes the parent, the mapper and the further parts. */
     template <class Service, class... Parts>
     [[nodiscard]] KorFamily service() const
     {
@@ -55,14 +54,14 @@ struct KorTable : KorFamily
     }
 };
 
-/** The constructor of the mapper takes the owner and the parts, mostly the mappers of the tables that it joins. */
+/** The mapper's constructor takes the parent and the parts, mostly mappers of joined tables. */
 template <class Mapper, class... Parts>
 [[nodiscard]] KorTable<Mapper> table()
 {
     return {{[](QObject* owner) { return new Mapper(owner, KorPart<Parts>::find()...); }, {}}};
 }
 
-/** A row without a table of its own. */
+/** An entry without a table. */
 template <class Service, class... Parts>
 [[nodiscard]] KorFamily serviceAlone()
 {

@@ -7,17 +7,17 @@
 class KorDataMapper;
 struct KorFamily;
 
-/** The mappers of one layer, by name and in the order of their making, which is the order of creating tables. */
+/** The mappers of one layer, by name and in order of creation, which is also the order of creating tables. */
 class KorMapperRegistry : public QObject
 {
     Q_OBJECT
 
 public:
-    /** Makes the mappers of the families, in their order. */
+    /** Creates the mappers of the families in their order. */
     KorMapperRegistry(const QList<KorFamily>& families, QObject* parent);
     ~KorMapperRegistry() override;
 
-    /** The mapper of exactly that class in any layer; null when none is made. */
+    /** The mapper of exactly this class in any layer; null if there is none. */
     [[nodiscard]] static KorDataMapper* find(const QMetaObject& type);
     void add(KorDataMapper* mapper);
     [[nodiscard]] KorDataMapper* get(const QString& name) const { return m_byName.value(name); }

@@ -15,7 +15,7 @@ bool inOneTransaction(KorBusinessLogic& service, const QString& operation, const
         service.addError(operation, transaction.failure());
         return false;
     }
-    // Left unfinished, it is rolled back.
+    // The transaction's destructor rolls back.
     if (!writes())
         return false;
     const bool committed = transaction.commit();

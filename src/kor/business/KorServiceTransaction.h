@@ -8,9 +8,9 @@
 class KorBusinessLogic;
 
 /**
- * Does a service's writes as one, all or none. The writes keep their own failures; a transaction that cannot begin or
- * end is kept in the service under the operation's name as well, in the family's words where it has its own. The locks
- * are those of KorTransaction.
+ * Runs the writes of a service in one transaction: all or none. Failed writes keep their own errors. A failed begin or
+ * commit is also kept in the service under the operation's name, with the given words if not empty. For the locks see
+ * KorTransaction.
  */
 [[nodiscard]] bool inOneTransaction(KorBusinessLogic& service, const QString& operation,
                                     const std::function<bool()>& writes, const QString& notBegun = QString(),

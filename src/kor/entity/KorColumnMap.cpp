@@ -50,11 +50,11 @@ QVariant columnValue(const KorColumnMap& column, const QObject* record)
 
     QVariant value = object->property(path.constData() + start);
     if (value.type() == QVariant::DateTime) {
-        // A moment that nobody entered is an empty text, which the database refuses; a null text would become NULL.
+        // An invalid date-time becomes an empty text, which the database refuses; a null text would become NULL.
         const QDateTime moment = value.toDateTime();
         return moment.isValid() ? moment.toString(QStringLiteral("yyyy-MM-dd hh:mm:ss")) : QString("");
     }
-    // The mark is compared for every type, texts and amounts too: stored data rests on it.
+    // KorNoValue is compared for every type, also texts and amounts: stored data depends on it.
     if (value.toInt() == KorNoValue)
         return nullInteger();
     return value;

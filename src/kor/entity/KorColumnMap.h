@@ -2,7 +2,7 @@
 
 #include <QObject>
 
-/** One column of a table: its name, the property path that fills it, and its type text for CREATE TABLE. */
+/** One column of a table: its name, the property path of its value, and its SQL type for CREATE TABLE. */
 class KorColumnMap : public QObject
 {
     Q_OBJECT
@@ -18,7 +18,7 @@ public:
     [[nodiscard]] const QString& sqlType() const { return m_sqlType; }
     void setSqlType(const QString& sqlType) { m_sqlType = sqlType; }
 
-    /** The path as the meta-object system wants it, kept so that no row converts it again. */
+    /** The path in UTF-8, as QObject::property() needs it; converted once instead of for every row. */
     [[nodiscard]] const QByteArray& propertyPathUtf8() const { return m_propertyPathUtf8; }
 
 private:
@@ -29,7 +29,7 @@ private:
 };
 
 /**
- * The value that the column gets from the record: the property at the end of the path, NULL where a partner on the
- * way is missing, a date-time as "yyyy-MM-dd hh:mm:ss", and NULL for anything that converts to KorNoValue.
+ * The value of the column for this record: the property at the end of the path. NULL if a nested record on the path is
+ * missing or the value equals KorNoValue. A date-time is formatted as "yyyy-MM-dd hh:mm:ss".
  */
 [[nodiscard]] QVariant columnValue(const KorColumnMap& column, const QObject* record);

@@ -5,7 +5,7 @@
 #include <QDateTime>
 #include <QObject>
 
-/** Base of all persisted records: the identity, the stamps and the version that every table carries. */
+/** Base of all persisted records: the id, version and created/updated fields that every table has. */
 class KorEntity : public QObject
 {
     Q_OBJECT
@@ -19,12 +19,12 @@ class KorEntity : public QObject
 public:
     explicit KorEntity(QObject* parent = nullptr) : QObject(parent) {}
 
-    /** True once the record has a row, that is from its first insert on. */
+    /** True if the record has a row: after its first insert. */
     [[nodiscard]] bool isSaved() const { return m_Id != KorNoValue; }
 
     /**
-     * The id that an insert had drawn when the connection went before the server confirmed it: a row with this id is
-     * this record, saved after all. KorNoValue where nothing is uncertain.
+     * The id of an insert whose commit was not confirmed because the connection was lost. If a row with this id exists,
+     * the record was saved after all. KorNoValue if nothing is uncertain.
      */
     [[nodiscard]] int uncertainId() const { return m_uncertainId; }
     void setUncertainId(int id) { m_uncertainId = id; }

@@ -2,7 +2,7 @@
 
 #include <QObject>
 
-/** Base of values kept inside a record (money), told apart from records by their type. */
+/** Base of value objects inside a record (money). The type distinguishes them from records. */
 class KorEntityValue : public QObject
 {
     Q_OBJECT

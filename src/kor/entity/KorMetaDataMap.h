@@ -5,7 +5,7 @@
 #include <QList>
 #include <QObject>
 
-/** What a mapper knows of its table: the name, its own columns in order, and the six that every table has. */
+/** Describes a mapper's table: its name, its own columns in order, and the six columns that every table has. */
 class KorMetaDataMap : public QObject
 {
     Q_OBJECT
@@ -18,7 +18,7 @@ public:
     [[nodiscard]] const QList<KorColumnMap*>& columns() const { return m_columns; }
     [[nodiscard]] const QList<KorColumnMap*>& baseColumns() const { return m_baseColumns; }
 
-    /** The order of the calls is the order of the columns in every statement. */
+    /** The order of the calls is the column order in every statement. */
     void addColumn(const QString& columnName, const QString& sqlType, const QString& propertyPath);
 
 private:

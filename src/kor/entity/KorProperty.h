@@ -2,12 +2,12 @@
 
 #include <QtGlobal>
 
-/** Marks "no value" in an integer field and in the id of a record not yet saved; stored as NULL. */
+/** Means "no value" in an integer field, and "not saved yet" in an id; stored as NULL. */
 inline constexpr int KorNoValue = -9999;
 
 /**
- * One field of a record: member, getter, setter and Qt property of one name.
- * The name is the contract: mappers, the JSON form and forms address fields by it.
+ * One field of a record: member, getter, setter and Qt property with the same name. Mappers, JSON and forms use this
+ * name, so renaming a field breaks them.
  */
 #define KOR_PROPERTY(type, Name, initial)                                                                              \
     Q_PROPERTY(type Name READ get##Name WRITE set##Name)                                                               \
@@ -19,9 +19,8 @@ private:                                                                        
     type m_##Name = initial;
 
 /**
- * A field that points at another record. The pointer is borrowed: records read by a mapper belong to the context's
- * pool, and null means that there is no partner. The partner's header must be included, since the meta-type system
- * needs the complete type.
+ * A field that points to another record. The pointer is borrowed: the entity pool owns records that a mapper reads.
+ * Null means no record. Include the other record's header, since the meta-type system needs the complete type.
  */
 #define KOR_REFERENCE(type, Name)                                                                                      \
     Q_PROPERTY(type* Name READ get##Name WRITE set##Name)                                                              \

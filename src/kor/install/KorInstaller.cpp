@@ -11,17 +11,17 @@
 
 namespace
 {
-// Any number that nothing else locks; locks of this kind count within one database.
+// Any number that no other advisory lock uses. Advisory locks count per database.
 constexpr int installerLock = 1095781;
 
-/** The yes or no that a statement on the lock answers. */
+/** The boolean result of a statement about the lock. */
 bool answer(const char* statement)
 {
     KorQuery query;
     return query.exec(QString(statement).arg(installerLock)) && query.next() && query.value(0).toBool();
 }
 
-/** Without a server each of the hundreds of statements to come would wait for it anew. */
+/** Checked first because without a server each of hundreds of statements would wait for its own timeout. */
 bool isConnected() { return KorDatabase::current().isOpen(); }
 } // namespace
 
@@ -66,7 +66,7 @@ bool KorInstaller::begin()
         if (answer("SELECT pg_try_advisory_lock(%1)")) {
             reason = objection();
             if (reason.isEmpty()) {
-                // The server would remark on each table that is dropped without being there.
+                // Silences the server's notice for each dropped table that does not exist.
                 KorQuery().exec("SET client_min_messages TO warning");
                 (void)KorMigration::takeFailures();
                 m_installedVersion = installedVersion();
@@ -87,11 +87,13 @@ bool KorInstaller::begin()
 
 void KorInstaller::end()
 {
-    // The lock is the session's: when it is gone, the session was lost and what was sent in between with it.
+    // The advisory lock belongs to the session. If it is gone, the connection was lost, and statements were lost with
+    // it.
     if (!answer("SELECT pg_advisory_unlock(%1)"))
         reportFailure(tr("The connection to the database was lost on the way, and steps failed. Please run it again."));
     else if (m_incomplete)
-        // Under the new version the start of the program would take what is missing for damage.
+        // With the new version number stored, the program would treat the missing tables or columns as damage at its
+        // start.
         reportFailure(tr("Tables or columns of the new version could not be made. The database keeps the version that "
                          "it had; please run the update again."));
     else
@@ -153,7 +155,7 @@ bool KorInstaller::updateTable(KorDataMapper* mapper)
     if (!growTable(mapper))
         return false;
     bool done = mapper->migrate(m_fromVersion, m_appVersion);
-    // Tables that an earlier program made have fewer indexes; those of lines are in no registry.
+    // Tables of earlier versions have fewer indexes. Line tables are in no registry, so they follow below.
     done = mapper->createIndexes() && done;
     for (KorDataMapper* lines : mapper->lineMappers()) {
         if (!growTable(lines) || !lines->createIndexes())

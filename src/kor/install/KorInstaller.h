@@ -12,9 +12,9 @@ class KorDataMapper;
 class KorEntity;
 
 /**
- * Lays down a database, or brings an installed one up to the program's version: tables, first rows, permissions.
- * A failed step is told as a status line and in the log, and the run goes on. It works on the calling thread
- * (process() called directly) as well as on a thread that it was moved to; make it on the application's thread.
+ * Installs a database, or updates an installed one to the program's version: tables, first rows, permissions. A failed
+ * step is reported as a status line and in the log, and the run continues. Call process() directly or from a worker
+ * thread; create the object on the application's thread.
  */
 class KorInstaller : public QObject
 {
@@ -28,20 +28,20 @@ public:
     virtual void addMappers() {}
     virtual void insertInitialData() {}
     virtual void registerPermissions() {}
-    /** The last step of a run that nothing broke off: the database is what this program wants. */
+    /** Called last, only if the run was not cut short: records that the database is up to date. */
     virtual void recordCompletion() {}
-    /** The version of the tables that are there; 0 where the database does not tell. */
+    /** The version of the existing tables; 0 if the database does not say. */
     [[nodiscard]] virtual double installedVersion() const { return 0; }
-    /** Why this database must not be touched; empty where nothing speaks against it. */
+    /** Why this database must not be changed; empty if it may be. */
     [[nodiscard]] virtual QString objection() const { return {}; }
 
     bool addMapper(KorDataMapper* mapper);
-    /** Always true: what failed is told by the status lines and by failures(). */
+    /** Always returns true; see the status lines and failures() for errors. */
     bool install();
 
-    /** Whether anything failed that does not fail on a database in good order as well. */
+    /** True if a step failed that should not fail on a correct database. */
     [[nodiscard]] bool failed() const { return m_failed; }
-    /** The status lines of the steps that failed, in order, those included that were expected to. */
+    /** Status lines of the failed steps in order, including failures that are expected. */
     [[nodiscard]] const QStringList& failures() const { return m_failures; }
 
     [[nodiscard]] int getType() const { return m_installType; }
@@ -61,16 +61,16 @@ public slots:
 signals:
     void onProgress(int perc, const QString& status);
     void finished();
-    /** The installation could not begin. */
+    /** The installation could not start. */
     void error(const QString& err);
-    /** Beside the status line of a failed step: what the server said to it, nothing where it was expected to fail. */
+    /** Follows the status line of a failed step; reasons are the server's messages, empty for an expected failure. */
     void stepFailed(const QString& status, const QStringList& reasons, bool expected);
 
 protected:
     [[nodiscard]] bool isFresh() const { return m_installType == FreshInstall; }
-    /** A status line that is also logged and counted. */
+    /** Emits, logs and counts a status line. */
     void reportFailure(const QString& text, const QStringList& reasons = {}, bool expected = false);
-    /** Reports what services say of a failure; false for an empty text, which reports nothing. */
+    /** Reports a service's error text; false, and no report, for an empty text. */
     bool reportAny(const QString& failure);
     /** Inserts through the service; false after reporting its errors. */
     bool insertRow(KorBusinessLogic* service, KorEntity* entity);

@@ -3,8 +3,7 @@
 class KorInstaller;
 
 /**
- * Runs an installer without a parent on a thread of its own, so that the window that waits for it stays paintable.
- * Installer and thread free themselves afterwards; connect the installer's signals before. A program that ends
- * meanwhile waits for it.
+ * Runs an installer without a parent on a thread of its own, so that the waiting window can repaint. Installer and
+ * thread delete themselves; connect to the signals first. Closing the program waits for the thread.
  */
 void startInstaller(KorInstaller* installer);

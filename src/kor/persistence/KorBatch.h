@@ -10,25 +10,25 @@ class KorDataMapper;
 class KorQuery;
 
 /**
- * Writes that go to the server in one trip, in the order in which mappers put them in. More than one statement belongs
- * into a transaction: when the database refuses one the rest is not run, and a write that found no row stops nothing.
+ * Collects writes of mappers and sends them to the server in one round trip, in order. Use a transaction for more than
+ * one statement: after a database error the rest is not run, but a write that found no row stops nothing.
  *
- * The values stand in the text instead of being bound. A text of its own for each number of lines would fill the
- * statements kept prepared with ones that are hardly used twice.
+ * The values are in the SQL text instead of bound. Otherwise each number of lines would need its own prepared
+ * statement, and the statement cache would fill with statements that are rarely used again.
  */
 class KorBatch
 {
 public:
-    /** Reads the result of its statement; the words of a write that did not happen, or nothing. */
+    /** Reads the result of its statement; returns the error text, or an empty text. */
     using Reader = std::function<QString(KorQuery&)>;
 
     void add(const KorDataMapper* mapper, const QString& statement, const Reader& reader);
 
-    /** False when one of the writes did not happen. An empty batch costs nothing. */
+    /** False if any write failed. An empty batch sends nothing. */
     bool send();
-    /** The words of each write that did not happen. */
+    /** The error text of each failed write. */
     [[nodiscard]] const QStringList& failures() const { return m_failures; }
-    /** Whose write was the first that did not happen; null where all were done. */
+    /** The mapper of the first failed write; null if all succeeded. */
     [[nodiscard]] const KorDataMapper* failed() const { return m_failed; }
 
 private:

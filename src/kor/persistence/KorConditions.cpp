@@ -5,7 +5,7 @@
 KorConditions& KorConditions::compare(const QStringList& expressions, const QString& comparison, const QVariant& value)
 {
     const QString text = value.toString();
-    // A pair without a value is SQL as it stands.
+    // In KorPaging a pair without a value is literal SQL.
     const QString literal = !text.isEmpty() ? "" : value.isNull() ? " null" : " ''";
     KorPaging::Pairs conditions;
     for (const QString& expression : expressions)

@@ -7,8 +7,8 @@
 #include <QVariant>
 
 /**
- * The rows that a list or finder wants, and their order. Each call narrows the rows further. An expression is a piece
- * of SQL (a column, "lower(no)"), of several one has to match; a value is bound and never stands in the statement.
+ * The WHERE and ORDER BY of a list or finder. All conditions are joined with AND. An expression is SQL (a column,
+ * "lower(no)"); with several, one must match. Values are bound and never part of the SQL text.
  */
 class KorConditions
 {
@@ -17,19 +17,21 @@ public:
     KorConditions& equals(const QStringList& expressions, const QVariant& value);
     KorConditions& differs(const QString& expression, const QVariant& value);
     KorConditions& oneOf(const QString& expression, const QList<int>& ids);
-    /** Both dates count; one that is not given sets no limit. */
+    /** Both dates inclusive; an invalid date sets no limit. */
     KorConditions& between(const QString& expression, const QDate& from, const QDate& to);
-    /** The text stands somewhere in it, searched in lower case; an empty one stands in everything. */
+    /** The expression contains the text, ignoring case; an empty text matches every row. */
     KorConditions& contains(const QString& expression, const QString& text);
     KorConditions& contains(const QStringList& expressions, const QString& text);
-    /** A pattern of LIKE, as it is. */
+    /** A LIKE pattern, used unchanged. */
     KorConditions& matches(const QStringList& expressions, const QString& pattern);
-    /** One of them holds, each a condition that ends with its comparison, and its value. */
+    /**
+     * One of the conditions is true. Each pair is a condition that ends with its comparison operator, and its value.
+     */
     KorConditions& anyOf(const KorPaging::Pairs& conditions);
-    /** A condition without bound values, as it is written: an "or" in it needs brackets around it. */
+    /** SQL without bound values, used unchanged: put an "or" in brackets. */
     KorConditions& holds(const QString& condition);
 
-    // What a filter may leave open: the value that stands for all rows, and an empty text, add no condition.
+    // Optional filters: a value equal to "all", or an empty text, adds no condition.
     KorConditions& only(const QString& expression, int value, int all = KorNoValue);
     KorConditions& only(const QStringList& expressions, int value, int all = KorNoValue);
     KorConditions& only(const QString& expression, const QString& text);
@@ -37,7 +39,7 @@ public:
     KorConditions& ascending(const QString& expression);
     KorConditions& descending(const QString& expression);
 
-    /** As a mapper's find() takes them; what the paging asked for before is forgotten. */
+    /** Fills a paging for a mapper's find(); replaces its former conditions. */
     void fill(KorPaging& paging) const;
 
 private:

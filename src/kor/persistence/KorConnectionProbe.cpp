@@ -41,7 +41,7 @@ void KorConnectionProbe::ask()
 
 void KorConnectionProbe::finish()
 {
-    // Whoever hears the answer reads from the database, which is not to happen in the middle of a statement.
+    // The receiver reads from the database, which must not happen while a statement is running.
     if (KorServerCall::isUnderWay()) {
         QTimer::singleShot(0, this, [this] { finish(); });
         return;

@@ -5,8 +5,8 @@
 class QThread;
 
 /**
- * Asks on a thread of its own whether the server would let the program in, so that a server that does not answer holds
- * up no screen. It opens a connection like the program's and closes it again.
+ * Checks on a worker thread whether the server accepts connections, so that a server that does not answer blocks no
+ * window. It opens a connection with the program's settings and closes it again.
  */
 class KorConnectionProbe final : public QObject
 {
@@ -14,10 +14,10 @@ class KorConnectionProbe final : public QObject
 
 public:
     using QObject::QObject;
-    /** Waits for a question that is on its way: at most as long as the connection's own time limit. */
+    /** Waits for a running check, at most for the connection timeout. */
     ~KorConnectionProbe() override;
 
-    /** Asks, unless a question is on its way already. */
+    /** Starts a check unless one is running. */
     void ask();
 
 signals:
@@ -27,6 +27,6 @@ private:
     void finish();
 
     QThread* m_thread = nullptr;
-    // Written by the thread, read after its end.
+    // Written by the worker thread, read after it has ended.
     bool m_reachable = false;
 };

@@ -17,7 +17,7 @@ namespace
 {
 QVariant userOrNull(int user) { return user == KorNoValue ? QVariant(QVariant::Int) : QVariant(user); }
 
-/** The first values bound to the query, as the driver writes them into a statement. */
+/** The first bound values as SQL literals, formatted by the driver. */
 QStringList literals(const KorQuery& values, int count)
 {
     QStringList texts;
@@ -146,7 +146,7 @@ KorEntity* KorDataMapper::fromRow(KorQuery& query, const QString& alias)
     if (id == KorNoValue || id == 0)
         return nullptr;
 
-    // A stamp that nobody wrote (rows laid down by the installer) reads as "no value", like any empty integer.
+    // A NULL user (rows inserted by the installer) reads as KorNoValue, like any NULL integer.
     const auto user = [&query](int index) {
         const QVariant value = query.value(index);
         return value.isNull() ? KorNoValue : value.toInt();
@@ -163,7 +163,7 @@ KorEntity* KorDataMapper::fromRow(KorQuery& query, const QString& alias)
 
 KorEntity* KorDataMapper::fillFromRow(KorQuery& query, KorEntity* entity)
 {
-    // By its full name: a subclass that overrides this form alone must still get the plain fields.
+    // Passes the table name: a subclass that overrides only this overload must still get the plain fields.
     return fillFromRow(query, entity, tableName());
 }
 
@@ -326,7 +326,7 @@ void KorDataMapper::explainFailedWrite(KorEntity* entity)
     if (!query.next()) {
         m_errorText = QString("Table: %1 has been deleted").arg(tableName());
     } else if (query.field("version").toInt() > entity->getVersion()) {
-        // Three markers take the first three of four values, so the record's id stands behind "user id:".
+        // The text has three markers, so the record's id appears after "user id:" and the user's after "at:".
         m_errorText = QString("Table: %1 has been updated by user id: %2  at: %3")
                           .arg(tableName())
                           .arg(entity->getId())

@@ -18,8 +18,8 @@ class KorMetaDataMap;
 class KorMigration;
 
 /**
- * Turns the metadata of one table into SQL and runs it. There is one mapper a table for the whole run. No operation
- * throws: each returns false or null and leaves the explanation in the error text, which takeError() hands over once.
+ * Builds and runs the SQL of one table from its metadata. There is one mapper per table for the whole run. No operation
+ * throws: each returns false or null and sets an error text, which takeError() returns once.
  */
 class KorDataMapper : public QObject
 {
@@ -28,42 +28,42 @@ class KorDataMapper : public QObject
 public:
     explicit KorDataMapper(QObject* parent = nullptr);
 
-    /** Null with an empty error text means that there is no such row. */
+    /** Null with an empty error text means that the row does not exist. */
     virtual KorEntity* findById(int id);
     virtual KorEntity* findByColumn(const QString& column, const QString& value);
     virtual KorEntity* findByColumn(const QString& column, int value);
-    /** Every row that the paging asks for; a null paging gives the whole table. */
+    /** All rows that match the paging; a null paging reads the whole table. */
     virtual QList<KorEntity*> find(KorPaging* paging);
     virtual bool execPaging(KorQuery& query, KorPaging* paging);
     virtual bool insert(KorEntity* entity);
-    /** Fails when the row's version is no longer the record's; the record keeps its old version after success. */
+    /** Fails if the row's version differs from the record's. After success the record still has its old version. */
     virtual bool update(KorEntity* entity);
     virtual bool remove(KorEntity* entity);
-    // The same for many records: they go with the batch, and what fails is told by it. The values come from
-    // bindInsert() and bindUpdate(), but their texts show them all: not for a mapper with secrets.
-    /** One statement for all of them, which gives the ids in their order. */
+    // The same for many records: the statements are added to the batch, which reports errors. Values come from
+    // bindInsert() and bindUpdate() and appear in the SQL text, so do not use these in a mapper with secrets.
+    /** One INSERT for all records; sets their ids in the same order. */
     virtual void insertWith(KorBatch& batch, const QList<KorEntity*>& entities);
     virtual void updateWith(KorBatch& batch, KorEntity* entity);
     virtual void removeWith(KorBatch& batch, KorEntity* entity);
-    /** The record of the row on which the query stands, null where the row's id is absent (empty side of a join). */
+    /** The record of the query's current row; null if the row has no id (the empty side of an outer join). */
     virtual KorEntity* fromRow(KorQuery& query);
     virtual KorEntity* fromRow(KorQuery& query, const QString& alias);
-    /** The form with all nested values, used under the table's own name. */
+    /** Fills all fields including nested records; used with the table's own name. */
     virtual KorEntity* fillFromRow(KorQuery& query, KorEntity* entity);
-    /** Plain fields only, used under an alias. */
+    /** Fills plain fields only; used with an alias. */
     virtual KorEntity* fillFromRow(KorQuery& query, KorEntity* entity, const QString& alias);
     virtual void bindInsert(KorQuery& query, KorEntity* entity);
     virtual void bindUpdate(KorQuery& query, KorEntity* entity);
-    /** Mode 1 drops the table first, mode 2 creates it only where it is missing. */
+    /** Mode 1 drops the table first; mode 2 creates it only if it does not exist. */
     virtual bool createTable(int mode);
     virtual KorEntity* createEntity() = 0;
     [[nodiscard]] virtual QString selectStatement() const;
     virtual void explainFailedWrite(KorEntity* entity);
-    /** New objects each time; the caller deletes them. */
+    /** New objects on each call; the caller deletes them. */
     [[nodiscard]] virtual QList<KorMigration*> migrations();
-    /** The statements that create the table's indexes; each can run again on a table that has them. */
+    /** CREATE INDEX statements, safe to run again on a table that has the indexes. */
     [[nodiscard]] virtual QStringList indexStatements() const { return {}; }
-    /** The mappers of the tables of lines that this mapper creates with its own; they are in no registry. */
+    /** The mappers of the line tables that this mapper creates with its own table; they are in no registry. */
     [[nodiscard]] virtual QList<KorDataMapper*> lineMappers() const { return {}; }
 
     [[nodiscard]] const QString& tableName() const;
@@ -81,24 +81,24 @@ public:
     bool truncate(bool cascade);
     bool migrate(double fromVersion, double toVersion);
     /**
-     * Makes what came with versions above the first one and up to the second: the whole table, or columns. It can be
-     * run again where it was cut short, and leaves what is there as it is.
+     * Creates what was added after the first version up to the second: the whole table, or columns. Safe to run again
+     * after an interruption; leaves existing tables and columns alone.
      */
     bool grow(double installedVersion, double toVersion);
-    /** The version that the table came with, 0 for one of the first. */
+    /** The version that added the table; 0 for a table of the first version. */
     [[nodiscard]] double tableVersion() const { return m_tableVersion; }
-    /** The version that the column came with, that of its table unless columnsSince() says a later one. */
+    /** The version that added the column: the table's, unless columnsSince() names a later one. */
     [[nodiscard]] double columnVersion(const QString& column) const;
-    /** False also where that could not be found out. */
+    /** False also if the check failed. */
     [[nodiscard]] bool hasTable() const;
     bool createIndexes();
     bool addForeignKey(const QString& table, const QString& constraintName, const QString& column,
                        const QString& referencedTable, const QString& referencedColumn);
 
-    // Statements for KorTransaction, which hold a row until it ends.
-    /** Against others that write the row; records that only refer to it come and go. */
+    // Row lock statements for KorTransaction, held until the transaction ends.
+    /** Blocks other writers of the row; rows that reference it can still be added and removed. */
     [[nodiscard]] QString lockOf(int id) const;
-    /** Also against records that come to refer to it: for whoever removes the row and what hangs on it. */
+    /** Also blocks new rows that reference it: for removing the row together with dependent rows. */
     [[nodiscard]] QString removalLockOf(int id) const;
 
     [[nodiscard]] static QString foreignKeyStatement(const QString& table, const QString& constraintName,
@@ -106,26 +106,26 @@ public:
                                                      const QString& referencedColumn);
     [[nodiscard]] static QString lastQueryWithValues(const QSqlQuery& query);
     [[nodiscard]] static QString dateToSql(const QDate& date) { return date.toString("yyyy/M/d"); }
-    /** A list of ids as an array text, for "= ANY(:ids)". */
+    /** Ids as an array literal, for "= ANY(:ids)". */
     [[nodiscard]] static QString idList(const QList<int>& ids);
     [[nodiscard]] static QString aliasOf(const QString& alias, const QString& column);
 
 protected:
     using Bindings = QList<QPair<QString, QVariant>>;
 
-    // Said in the constructor of what an installed database gets by its update to this version.
+    // Called in the constructor: the version whose update adds the table or the columns.
     void tableSince(double version) { m_tableVersion = version; }
-    /** Declared columns. One that is "not null" needs a default for the rows that are there. */
+    /** These columns must be declared. A "not null" column needs a default for existing rows. */
     void columnsSince(double version, const QStringList& columns);
     bool createTableBase(int mode);
-    /** The mapper's base and own columns under this alias, as a SELECT lists them. */
+    /** The mapper's base and own columns under this alias, as the column list of a SELECT. */
     [[nodiscard]] static QString columnList(const KorDataMapper& mapper, const QString& alias);
-    /** Runs own SQL with named values; failing, it keeps and logs the database's text. */
+    /** Runs custom SQL with named values; on failure keeps and logs the database's message. */
     bool execute(KorQuery& query, const QString& statement, const Bindings& values = {});
-    /** The same for the rows of the conditions, which follow the statement. */
+    /** The same, with the conditions appended to the statement. */
     bool execute(KorQuery& query, const QString& statement, const KorConditions& conditions,
                  const Bindings& values = {});
-    /** The first record of the mapper's SELECT, or null. */
+    /** The first matching record, or null. */
     KorEntity* findOne(const KorConditions& conditions);
     QList<KorEntity*> findMany(const KorConditions& conditions);
     QList<KorEntity*> readAll(KorQuery& query);
@@ -148,7 +148,7 @@ private:
     QHash<QString, double> m_columnVersions;
 };
 
-/** The list of one record type out of a list of records that a mapper returned. */
+/** Casts the records that a mapper returned to their type. */
 template <class Entity>
 [[nodiscard]] QList<Entity*> castAll(const QList<KorEntity*>& entities)
 {

@@ -16,20 +16,20 @@
 
 namespace
 {
-// A connection that breaks inside a transaction, or at its beginning, stays broken until it ends: opened anew, what is
-// left of the work would be written without the part that the server has thrown away.
+// While this is above 0, a lost connection is not reopened. On a new connection the rest of the work would be saved
+// without the part that the server rolled back.
 thread_local int openTransactions = 0;
 
 QString defaultName() { return QString::fromLatin1(QSqlDatabase::defaultConnection); }
 
-/** Keeps the statements of a page, or of a tick, from waiting one after the other for a server that does not answer. */
+/** After a slow failed connect, skips reconnects for a while, so that statements do not each wait for the timeout. */
 class Patience
 {
 public:
     [[nodiscard]] bool isOver() const { return m_since.isValid() && m_since.elapsed() < rest; }
     void tried(bool opened, qint64 milliseconds)
     {
-        // One that refuses at once costs nothing to be asked again.
+        // A connection that is refused at once costs no time, so it may be tried again immediately.
         if (opened || milliseconds < slow)
             m_since.invalidate();
         else
@@ -44,7 +44,7 @@ private:
 
 thread_local Patience patience;
 
-/** The connection, opened anew when it was lost and no transaction went with it. */
+/** The connection, reopened if it was lost outside a transaction. */
 QSqlDatabase opened(const QString& name)
 {
     QSqlDatabase database = QSqlDatabase::database(name, false);
@@ -65,7 +65,7 @@ bool atServer(const QSqlDatabase& database, const std::function<bool()>& call)
     return done;
 }
 
-/** The clone that a worker thread speaks through; it goes with the thread. */
+/** A worker thread's clone of the connection; removed when the thread ends. */
 class WorkerConnection
 {
 public:
@@ -115,8 +115,8 @@ bool KorDatabase::isInTransaction() { return openTransactions > 0; }
 KorTransaction::KorTransaction(const QStringList& locks) : m_database(KorDatabase::current()), m_open(begin(locks))
 {
     if (!m_open) {
-        // A session that was lost since the last statement shows only now; nothing is written yet, so a new one will
-        // do.
+        // A connection lost since the last statement is only noticed here. Nothing is written yet, so a new one can be
+        // used.
         m_database = KorDatabase::current();
         m_open = begin(locks);
     }
@@ -132,7 +132,7 @@ bool KorTransaction::begin(const QStringList& locks)
         return false;
     for (int i = 0; i < locks.size(); ++i) {
         if (!query.nextResult()) {
-            // A session that is lost while it waits has begun nothing.
+            // If the connection was lost while waiting, the transaction has not begun.
             if (m_database.isOpen())
                 m_refusal = query.failure();
             return m_database.isOpen();

@@ -6,53 +6,53 @@
 #include <QStringList>
 #include <QVariant>
 
-/** The way to the program's connection from any thread. */
+/** Access to the program's connection from any thread. */
 class KorDatabase
 {
 public:
     /**
-     * The default connection on the thread of the application; on any other thread a clone of it, opened there on
-     * first use and removed when the thread ends, since a driver serves only the thread that owns it.
+     * The default connection on the application's thread. On any other thread a clone, opened on first use and removed
+     * when the thread ends, because a connection may be used only by the thread that created it.
      */
     [[nodiscard]] static QSqlDatabase current();
 
-    /** Opens it as QSqlDatabase does, with the window told that the program waits; see KorServerCall. */
+    /** Opens it like QSqlDatabase::open(), but shows that the program waits; see KorServerCall. */
     static bool open(QSqlDatabase& database);
 
-    /** True on the application's own thread, where the default connection and the entity pool live. */
+    /** True on the application's thread, which owns the default connection and the entity pool. */
     [[nodiscard]] static bool isApplicationThread();
 
-    /** True while a KorTransaction of this thread is under way. */
+    /** True while this thread has an open KorTransaction. */
     [[nodiscard]] static bool isInTransaction();
 };
 
 /**
- * One transaction on the current connection, rolled back when it goes out of scope unfinished. Transactions do not
- * nest: a second one inside is accepted by the server with a warning, and its commit ends the one and only.
- * While it is open a lost connection is not opened anew: every statement to its end fails.
+ * One transaction on the current connection, rolled back by the destructor if it was not committed. Do not nest: the
+ * server only warns about an inner one, and its commit ends the outer transaction. While it is open a lost connection
+ * is not reopened: all further statements fail.
  */
 class KorTransaction
 {
 public:
     /**
-     * The statements take the locks that the work needs, in the order that docs/database.md tells. They go in the same
-     * trip as the beginning, and every one of them before the first row is written. The last one may ask something.
+     * The statements take the needed locks, in the order given in docs/database.md. They are sent with BEGIN in one
+     * round trip, before any row is written. The last one may be a query, see found().
      */
     explicit KorTransaction(const QStringList& locks = {});
     ~KorTransaction();
     Q_DISABLE_COPY(KorTransaction)
 
     [[nodiscard]] bool isOpen() const { return m_open; }
-    /** True when it is open, but a lock could not be had: nothing can be done in it any more. */
+    /** True if the transaction is open but a lock was refused: nothing can be done in it any more. */
     [[nodiscard]] bool isRefused() const { return !m_refusal.isEmpty(); }
-    /** What the last statement of the locks found: the first column of its rows. */
+    /** The first column of all rows that the last lock statement returned. */
     [[nodiscard]] const QVariantList& found() const { return m_found; }
     [[nodiscard]] bool isConnected() const { return m_database.isOpen(); }
     bool commit();
     bool rollback();
-    /** True when the connection went while it ended: nobody knows whether it stands. */
+    /** True if the connection was lost during the commit: it is unknown whether it was committed. */
     [[nodiscard]] bool isUnsure() const { return m_unsure; }
-    /** Why it could not begin or end, or have its locks. */
+    /** Why the transaction could not begin, commit, or take its locks. */
     [[nodiscard]] QString failure() const;
 
 private:

@@ -5,8 +5,8 @@
 class KorDataMapper;
 
 /**
- * One join of a mapper's SELECT, and the foreign key that follows from it. A local column with a dot stands on an
- * earlier join or is qualified on purpose; it is copied as it is and gives no foreign key.
+ * One join of a mapper's SELECT, and the foreign key derived from it. A local column with a dot belongs to an earlier
+ * join or is qualified on purpose; it is used unchanged and gives no foreign key.
  */
 class KorJoinMapper : public QObject
 {
@@ -29,9 +29,9 @@ public:
     [[nodiscard]] const QString& alias() const { return m_alias; }
     void setAlias(const QString& alias) { m_alias = alias; }
 
-    /** The name under which the statement speaks of the joined table: the alias, or else the table itself. */
+    /** The joined table's name in the statement: the alias, or else the table name. */
     [[nodiscard]] QString targetName() const;
-    /** The clause, with its leading blank, as it stands behind "from" and the own table's name. */
+    /** The join clause with a leading blank; it follows "from" and the table's own name. */
     [[nodiscard]] QString clause(const QString& ownTable) const;
 
 private:

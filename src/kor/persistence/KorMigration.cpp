@@ -7,7 +7,7 @@
 
 namespace
 {
-// A migration is gone once its mapper has run it, and the mapper tells only whether all went well.
+// Kept here because a mapper deletes its migrations after running them and only reports success or failure.
 thread_local QList<KorMigration::Failure> failures;
 } // namespace
 

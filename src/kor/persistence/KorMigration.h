@@ -5,7 +5,7 @@
 
 class QSqlQuery;
 
-/** One change that brings a table from an older schema to a newer one. Applied at most in one direction. */
+/** One change from an older table schema to a newer one. */
 class KorMigration : public QObject
 {
     Q_OBJECT
@@ -13,7 +13,7 @@ class KorMigration : public QObject
 public:
     explicit KorMigration(QObject* parent = nullptr) : QObject(parent) {}
 
-    /** Applies the change; false leaves the reason in errorText(). */
+    /** Applies the change; on false the reason is in errorText(). */
     virtual bool up() = 0;
     virtual void down() = 0;
     [[nodiscard]] virtual QString description() const = 0;
@@ -21,19 +21,19 @@ public:
 
     [[nodiscard]] const QString& errorText() const { return m_errorText; }
 
-    /** A statement that failed, and whether the migration is made so that this is in order. */
+    /** A statement that failed, and whether the migration expects this failure. */
     struct Failure
     {
         QString text;
         bool expected;
     };
-    /** What statements of migrations failed on this thread since the last call. */
+    /** The failed migration statements of this thread since the last call. */
     [[nodiscard]] static QList<Failure> takeFailures();
 
 protected:
     /**
-     * Runs each text, going on after a failure; true when all succeeded. A failure with the SQLSTATE expectedState is
-     * told like any other, but nothing is wrong with a database that answers so.
+     * Runs all statements, also after a failure; true if all succeeded. A failure with the SQLSTATE expectedState is
+     * reported like any other, but marked as expected.
      */
     bool run(const QStringList& statements, const QString& expectedState = QString());
     bool addForeignKey(const QString& table, const QString& constraintName, const QString& column,
@@ -45,7 +45,7 @@ private:
     QString m_errorText;
 };
 
-/** A migration that is a list of statements, each of which can be run again on a database that has the change. */
+/** A migration that is a list of statements, each safe to run again on an updated database. */
 class KorStatementMigration : public KorMigration
 {
     Q_OBJECT
@@ -66,7 +66,7 @@ private:
     QString m_description;
 };
 
-/** The same for version 1.1, the first one that changed tables. */
+/** The same for version 1.1, the first version that changed tables. */
 class KorStatementMigration11 : public KorStatementMigration
 {
     Q_OBJECT

@@ -5,8 +5,8 @@
 #include <QPair>
 
 /**
- * What a list or search asks of a mapper: conditions and sort keys, in order. A condition text holds its own joining
- * word, and a pair with an empty value is a literal piece of SQL. There are no pages: a list gives every match.
+ * The conditions and sort keys of a list or search, in order. A condition text includes its joining word ("and", "or");
+ * a pair with an empty value is literal SQL. There are no pages: a list returns every match.
  */
 class KorPaging : public QObject
 {
@@ -24,9 +24,9 @@ public:
     void setFilters(const Pairs& filters) { m_filters = filters; }
     [[nodiscard]] const Pairs& sorts() const { return m_sorts; }
     void setSorts(const Pairs& sorts) { m_sorts = sorts; }
-    /** The conditions and the order as they follow a SELECT; the value of pair i is to be bound to :prm<i>. */
+    /** The SQL after the SELECT: conditions and order. Bind the value of pair i to :prm<i>. */
     [[nodiscard]] QString clauses() const;
-    /** The value of the first pair with this condition, else empty: finders use the pairs as named arguments. */
+    /** The value of the first pair with this condition, or empty; finders use pairs as named arguments. */
     [[nodiscard]] QString filterValue(const QString& condition) const;
 
     [[nodiscard]] int pageNumber() const { return m_pageNumber; }

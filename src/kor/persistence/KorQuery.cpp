@@ -14,7 +14,7 @@ namespace
 {
 std::atomic<quint64> sentStatements{0};
 
-// SQLSTATEs with which the server turns away a prepared statement before it has done anything.
+// SQLSTATEs with which the server rejects a prepared statement before running it.
 constexpr char planOutdated[] = "0A000";
 constexpr char statementUnknown[] = "26000";
 
@@ -29,7 +29,7 @@ bool changesSchema(const QString& statement) { return beginsWith(statement, {"cr
 
 bool writes(const QString& statement) { return beginsWith(statement, {"insert", "update", "delete"}); }
 
-/** What stands in the place of a secret. */
+/** Replaces a secret in texts. */
 QString hidden() { return QStringLiteral("***"); }
 } // namespace
 
@@ -54,7 +54,7 @@ bool KorQuery::prepare(const QString& statement)
     m_reused = m_statement != nullptr;
     if (m_reused) {
         QSqlQuery::operator=(m_statement->query);
-        // A placeholder that nobody binds is NULL, not what it was the last time.
+        // Clears the values of the former run: a placeholder that is not bound must be NULL.
         const QStringList placeholders = boundValues().keys();
         for (const QString& placeholder : placeholders)
             bindValue(placeholder, QVariant());
@@ -65,7 +65,7 @@ bool KorQuery::prepare(const QString& statement)
             m_prepareError = lastError();
         return false;
     }
-    // Made with its query: one that stands alone for a moment would ask for the default connection, on any thread.
+    // Constructed with its query: a default-constructed QSqlQuery would open the default connection, on any thread.
     m_statement = std::make_unique<KorStatement>(KorStatement{statement, *this, {}, 0, 0});
     KorStatementCache::ofThread().sign(*m_statement);
     return true;
@@ -102,7 +102,7 @@ bool KorQuery::prepareAgain()
     KorStatementCache::ofThread().abandon(std::move(m_statement));
     if (prepare(text)) {
         m_secrets = secrets;
-        // Question marks have names as well once they are bound, but the text does not hold them.
+        // Positional values also get names once they are bound, but the text does not contain them.
         if (!values.isEmpty() && text.contains(values.firstKey())) {
             for (auto value = values.begin(); value != values.end(); ++value)
                 bindValue(value.key(), value.value());
@@ -114,7 +114,7 @@ bool KorQuery::prepareAgain()
         if (atServer([this] { return QSqlQuery::exec(); }))
             return true;
     }
-    // Inside a transaction the second try only says that the transaction has failed.
+    // Keeps the first error: inside a transaction the second attempt only reports that the transaction has failed.
     m_secrets = secrets;
     m_prepareError = first;
     return false;
@@ -136,7 +136,7 @@ bool KorQuery::exec(const QString& statement)
 {
     if (!send(statement))
         return false;
-    // The driver reports the first result only; a later statement of the text may have failed all the same.
+    // The driver reports only the first result's error; check the results of the later statements.
     if (!isSelect()) {
         while (nextResult()) {
         }
@@ -153,7 +153,7 @@ QString KorQuery::failureOf(const QString& statement) const
     QString words = error.text();
     for (const QString& secret : m_secrets)
         words.replace(secret, hidden());
-    // A quoted piece of a statement may begin or end in the middle of a secret.
+    // The server's quotation of a statement may begin or end in the middle of a secret.
     if (!m_secrets.isEmpty())
         words.remove(QRegularExpression("^LINE \\d+: .*$", QRegularExpression::MultilineOption));
     return KorFailure::of(connection(), error.nativeErrorCode(), words, statement, KorServerCall::lastHolders()).told();
@@ -163,7 +163,7 @@ KorFailure::Connection KorQuery::connection() const
 {
     if (driver() && driver()->isOpen())
         return KorFailure::Kept;
-    // Outside a transaction a statement saves by itself, and only its answer may have been lost.
+    // Outside a transaction a statement commits by itself, and only the answer may have been lost.
     const bool mayBeDone = !m_prepareError.isValid() && !KorDatabase::isInTransaction() && writes(lastQuery());
     return mayBeDone ? KorFailure::LostWhileSaving : KorFailure::Lost;
 }
@@ -208,7 +208,7 @@ QString KorQuery::textWithValues(const QSqlQuery& query, const QStringList& secr
         }
         return text;
     }
-    // From the last name to the first, so that ":prm10" is filled before ":prm1".
+    // Backwards, so that ":prm10" is replaced before ":prm1".
     for (auto it = values.constEnd(); it != values.constBegin();) {
         --it;
         text.replace(it.key(), shown(it.value()));

@@ -15,61 +15,61 @@ class KorDataMapper;
 struct KorStatement;
 
 /**
- * The one door through which statements reach the database: it runs on the current thread's connection, counts,
- * remembers a failed prepare, uses a statement that the server knows already instead of preparing it again, and
- * resolves column names to positions once a statement instead of once a row.
+ * All statements go through this class. It runs on the current thread's connection, counts statements, keeps the error
+ * of a failed prepare, reuses prepared statements, and looks up column positions once per statement instead of once per
+ * row.
  */
 class KorQuery : public QSqlQuery
 {
 public:
-    /** The selector is the mapper that composes the SELECT: it alone reads its joins from the rows. */
+    /** The selector is the mapper that built the SELECT: only this mapper reads its joins from the rows. */
     explicit KorQuery(const KorDataMapper* selector = nullptr);
     ~KorQuery();
     Q_DISABLE_COPY(KorQuery)
 
     bool prepare(const QString& statement);
     bool exec();
-    /** Runs the text at once; with several statements in it, all their results count. */
+    /** Runs the text at once; if it has several statements, all must succeed. */
     bool exec(const QString& statement);
-    /** The same, and stands on the first result, false where that one failed; nextResult() goes on. */
+    /** The same, but stays on the first result; false if that one failed. Go on with nextResult(). */
     bool send(const QString& statements);
 
-    /** Binds a value that no text may show: neither statementWithValues() nor failure() does. */
+    /** Binds a value that statementWithValues() and failure() must not show. */
     void bindSecret(int position, const QString& value);
 
-    /** What went wrong, in the database's words; a failed prepare says more than the exec behind it. */
+    /** The database's error message; after a failed prepare that one, since it says more than the exec error. */
     [[nodiscard]] QString failure() const;
-    /** The same, with this statement on a line of its own. */
+    /** The same, followed by this statement on its own line. */
     [[nodiscard]] QString failureOf(const QString& statement) const;
-    /** The same, with the statement that was run and its values. */
+    /** The same, followed by the statement with its values. */
     [[nodiscard]] QString failureWithStatement() const { return failureOf(statementWithValues()); }
     [[nodiscard]] QString statementWithValues() const { return textWithValues(*this, m_secrets); }
     [[nodiscard]] const KorDataMapper* selector() const { return m_selector; }
 
-    /** The value under this column name or alias, invalid when the result has no such column. */
+    /** The value of this column name or alias; invalid if the result has no such column. */
     [[nodiscard]] QVariant field(const QString& name);
     [[nodiscard]] const KorRowPlan& plan(const KorDataMapper& mapper, const QString& alias);
 
-    /** The text of the last statement with the bound values in the places of their placeholders; for messages. */
+    /** The last statement with values in place of placeholders; for messages. */
     [[nodiscard]] static QString textWithValues(const QSqlQuery& query, const QStringList& secrets = {});
-    /** How many statements the program has sent so far. */
+    /** How many statements the program has sent. */
     [[nodiscard]] static quint64 statementCount();
 
 private:
     [[nodiscard]] KorResultLayout& layout();
     void letGo();
     bool prepareAgain();
-    /** Makes a call that waits for the server. */
+    /** Runs a call that waits for the server. */
     bool atServer(const std::function<bool()>& call);
     [[nodiscard]] KorFailure::Connection connection() const;
 
     const KorDataMapper* m_selector;
-    // Says more than what was tried behind it; no error where the statement could be prepared.
+    // Preferred over later errors, since it says more; invalid if prepare succeeded.
     QSqlError m_prepareError;
     QStringList m_secrets;
-    // The prepared statement in use; it shares its query with this one.
+    // The prepared statement in use; it shares its QSqlQuery with this object.
     std::unique_ptr<KorStatement> m_statement;
     bool m_reused = false;
-    // For texts that are run at once.
+    // The layout for statements that are not prepared.
     KorResultLayout m_layout;
 };

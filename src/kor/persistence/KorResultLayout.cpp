@@ -12,7 +12,7 @@ int KorResultLayout::fieldIndex(const QSqlQuery& query, const QString& name)
     if (m_fields.isEmpty()) {
         const QSqlRecord fields = query.record();
         for (int i = 0; i < fields.count(); ++i) {
-            // The first of two columns of one name is the one that a look-up by name finds.
+            // If two columns have the same name, a look-up by name finds the first.
             const QString field = fields.fieldName(i).toLower();
             if (!m_fields.contains(field))
                 m_fields.insert(field, i);

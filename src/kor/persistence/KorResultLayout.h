@@ -9,7 +9,7 @@
 class KorDataMapper;
 class QSqlQuery;
 
-/** Where in a result row a mapper finds its base columns and, in their order, its own; -1 where a column is absent. */
+/** The positions of a mapper's base columns and own columns in a result row; -1 for an absent column. */
 struct KorRowPlan
 {
     int id = -1;
@@ -21,11 +21,11 @@ struct KorRowPlan
     QVector<int> columns;
 };
 
-/** The columns of a statement's results: resolved by name once, not once a row. */
+/** The columns of a statement's result, looked up by name once instead of once per row. */
 class KorResultLayout
 {
 public:
-    /** The position of the column of this name, whatever its letters' case; -1 when the result has none. */
+    /** The position of this column name, ignoring case; -1 if there is none. */
     [[nodiscard]] int fieldIndex(const QSqlQuery& query, const QString& name);
     [[nodiscard]] const KorRowPlan& plan(const QSqlQuery& query, const KorDataMapper& mapper, const QString& alias);
     void clear();
@@ -39,6 +39,6 @@ private:
     };
 
     QHash<QString, int> m_fields;
-    // A deque leaves its elements where they are: callers hold a plan while further ones are made.
+    // A deque, because callers keep references to plans while more are added.
     std::deque<KnownPlan> m_plans;
 };

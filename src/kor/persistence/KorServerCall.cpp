@@ -27,13 +27,13 @@ using Clock = KorServerWitness::Clock;
 
 constexpr int unsaidMilliseconds = 1000;
 constexpr int stepMilliseconds = 40;
-/** Longer than a line's hiccup; a server that works says so every half second. */
+/** Longer than a short network interruption; while the server works the witness sees it every half second. */
 constexpr auto silenceThatCuts = 15s;
 
 KorServerWatcher* watcher = nullptr;
 QString holdersOfLast;
 
-/** The thread beside the application's on which the driver waits. */
+/** A thread that runs the driver's blocking calls for the application's thread. */
 class Caller
 {
 public:
@@ -94,8 +94,8 @@ PGconn* connectionOf(const QSqlDriver* driver)
 }
 
 /**
- * The socket of a connection under a number of its own: the driver may close its own while it is cut, and that number
- * may then belong to another file.
+ * A duplicate of the connection's socket descriptor. The driver may close its own while we shut it down, and the number
+ * could then belong to another file.
  */
 class Line
 {
@@ -120,7 +120,7 @@ private:
     int m_socket;
 };
 
-/** How long the windows have waited since they could last be painted: calls in a row are one to whoever looks on. */
+/** Adds up the time that windows could not repaint: calls in a row look like one wait to the user. */
 class Stretch : public QObject
 {
 public:
@@ -154,7 +154,7 @@ private:
     bool m_turned = false;
 };
 
-/** One call that the application's thread waits for. */
+/** One call for which the application's thread waits. */
 class Waiting
 {
 public:
@@ -182,7 +182,7 @@ public:
     }
 
 private:
-    /** False where the person wants to wait no longer. */
+    /** False if the user wants to stop waiting. */
     bool show()
     {
         m_shown = watcher != nullptr;

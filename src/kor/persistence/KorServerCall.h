@@ -6,18 +6,18 @@
 
 class QSqlDriver;
 
-/** How a call to the server stands that keeps the program waiting. */
+/** The state of a server call that the program is waiting for. */
 struct KorServerWait
 {
-    /** The waiting since the windows could last be painted freely. */
+    /** How long the windows could not repaint freely. */
     qint64 milliseconds;
-    /** Who holds what the statement waits for, "Till 3, dewi, since 14:02"; empty where nobody does. */
+    /** Who holds the lock that the statement waits for, "Till 3, dewi, since 14:02"; empty if nobody does. */
     QString holders;
-    /** False while a connection is being made: its own limits end that. */
+    /** False while connecting: the connect timeout ends that. */
     bool mayStop;
 };
 
-/** Shows a person that the program waits. The application's thread is its only one. */
+/** Shows the user that the program waits. Used only on the application's thread. */
 class KorServerWatcher
 {
 public:
@@ -26,31 +26,30 @@ public:
     Q_DISABLE_COPY(KorServerWatcher)
 
     /**
-     * Called again and again while the server keeps the program waiting; it may paint, but must run neither timers nor
-     * anything that speaks to the database. False stops the waiting.
+     * Called repeatedly while waiting. It may repaint, but must not run timers or use the database. Returning false
+     * stops the waiting.
      */
     [[nodiscard]] virtual bool goOn(const KorServerWait& wait) = 0;
-    /** The answer is there, or the connection is cut; the next call may follow at once. */
+    /** The call has returned or the connection was cut; another call may follow at once. */
     virtual void ended() = 0;
 };
 
 /**
- * The calls of the driver that wait for the server. On the application's thread they run on a thread beside it, and the
- * application's waits: for a second without a word, calls that follow each other counted together, then with the
- * watcher. A call that another connection no longer sees at work for fifteen seconds, or that the person stops, loses
- * its connection; its failure is then told like that of any lost connection. On any other thread a call runs where it
- * stands.
+ * Runs the driver's blocking calls. On the application's thread a call runs on a helper thread while the application's
+ * thread waits: the first second silently (calls in a row are added up), then with the watcher. The connection is cut
+ * if no second connection has seen the call at work for fifteen seconds, or if the user stops it; the call then fails
+ * like with any lost connection. On any other thread the call runs directly.
  */
 class KorServerCall
 {
 public:
-    /** False where another call is under way, and this one was not made. */
+    /** False if another call is running; this one was then not made. */
     static bool run(const QSqlDriver* driver, const std::function<void()>& call);
 
-    /** Borrowed; null takes it away. */
+    /** Borrowed; null removes it. */
     static void setWatcher(KorServerWatcher* watcher);
-    /** True while the application's thread waits: what comes now must not speak to the database. */
+    /** True while the application's thread waits: code that runs meanwhile must not use the database. */
     [[nodiscard]] static bool isUnderWay();
-    /** Who held what the last call waited for; empty where it did not wait. */
+    /** Who held the lock that the last call waited for; empty if it did not wait. */
     [[nodiscard]] static QString lastHolders();
 };

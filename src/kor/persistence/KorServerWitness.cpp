@@ -14,12 +14,12 @@ using namespace std::chrono_literals;
 
 constexpr auto answerTime = 5s;
 constexpr auto betweenQuestions = 500ms;
-/** How soon the thread notices that nobody waits for it any more. */
+/** How often the thread checks whether it should end. */
 constexpr auto slice = 50ms;
 
 using Result = std::unique_ptr<PGresult, void (*)(PGresult*)>;
 
-/** The connection's own address and user, as libpq reads it. */
+/** The address and user of the connection, in libpq's format. */
 QByteArray addressOf(const PGconn* connection)
 {
     QMap<QByteArray, QByteArray> values;
@@ -29,7 +29,7 @@ QByteArray addressOf(const PGconn* connection)
             values.insert(option->keyword, option->val);
     }
     PQconninfoFree(options);
-    // The one server of several that the program is connected to, by its number: a name may take long to look up.
+    // Of several servers, the one that the program is connected to; by IP address, since name resolution may be slow.
     values["host"] = PQhost(connection);
     values["port"] = PQport(connection);
     const QByteArray number = PQhostaddr(connection);
@@ -47,7 +47,7 @@ QByteArray addressOf(const PGconn* connection)
     return address;
 }
 
-/** A row a holder; one row with nulls where there is none, and no row where the session does not work. */
+/** A query with a row per holder; one row of NULLs without holders, no row if the session is not running. */
 QByteArray questionAbout(int session)
 {
     return "select holder.application_name, extract(epoch from holder.xact_start)::bigint from pg_stat_activity mine "
@@ -92,7 +92,7 @@ void KorServerWitness::watch()
     while (!m_ended) {
         if (!connection)
             connection = connect();
-        // One that was left in the middle of an answer is of no more use.
+        // A connection whose query was not finished cannot be used again.
         if (connection && !ask(connection.get()))
             connection.reset();
         pause();
@@ -112,7 +112,7 @@ KorServerWitness::Connection KorServerWitness::connect()
     PostgresPollingStatusType step = PGRES_POLLING_WRITING;
     while (step != PGRES_POLLING_OK) {
         const bool failed = step == PGRES_POLLING_FAILED || PQstatus(connection.get()) == CONNECTION_BAD;
-        // A server that has no place for the witness answers all the same.
+        // A FATAL error (too many connections) also shows that the server is alive.
         if (failed && QByteArray(PQerrorMessage(connection.get())).contains("FATAL"))
             m_lastSeen = Clock::now();
         if (failed || !waitFor(connection.get(), step == PGRES_POLLING_READING ? POLLIN : POLLOUT, limit))

@@ -12,21 +12,21 @@
 struct pg_conn;
 
 /**
- * A second connection that asks the server, once a second and on a thread of its own, whether it still works on what
- * the first one has asked, and who holds what that waits for.
+ * A second connection that checks, every half second on its own thread, whether the server still works on the first
+ * connection's statement, and who holds the locks that it waits for.
  */
 class KorServerWitness
 {
 public:
     using Clock = std::chrono::steady_clock;
 
-    /** The witness of this connection, which may be in the middle of a call. */
+    /** Watches this connection, which may be in the middle of a call. */
     explicit KorServerWitness(const pg_conn* connection);
     ~KorServerWitness();
     KorServerWitness(const KorServerWitness&) = delete;
     KorServerWitness& operator=(const KorServerWitness&) = delete;
 
-    /** When the server last said that the statement runs; the witness' own beginning at first. */
+    /** When the server last confirmed that the statement runs; initially the time of construction. */
     [[nodiscard]] Clock::time_point lastSeenAtWork() const { return m_lastSeen; }
     [[nodiscard]] QString holders() const;
 
@@ -35,9 +35,9 @@ private:
 
     void watch();
     [[nodiscard]] Connection connect();
-    /** False where no answer came. */
+    /** False if no answer came. */
     [[nodiscard]] bool ask(pg_conn* connection);
-    /** False where the program wants no more answers, or this one takes too long. */
+    /** False if the program stopped waiting or the time limit has passed. */
     [[nodiscard]] bool waitFor(const pg_conn* connection, short events, Clock::time_point limit) const;
     void pause() const;
 

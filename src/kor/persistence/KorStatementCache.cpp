@@ -27,7 +27,7 @@ std::unique_ptr<KorStatement> KorStatementCache::take(const QString& text, const
     }
     if (m_schema != schemaChanges) {
         m_schema = schemaChanges;
-        // The server is told to forget each of them.
+        // Freeing a statement sends DEALLOCATE to the server.
         KorServerCall::run(driver, [this] { m_idle.clear(); });
     }
     return std::unique_ptr<KorStatement>(m_idle.take(text));
@@ -49,7 +49,7 @@ void KorStatementCache::giveBack(std::unique_ptr<KorStatement> statement)
             const QString text = statement->text;
             m_idle.insert(text, statement.release());
         };
-        // What has to go for it is forgotten by the server as well.
+        // Inserting may evict another statement, whose DEALLOCATE goes to the server.
         if (m_idle.totalCost() < m_idle.maxCost())
             keep();
         else

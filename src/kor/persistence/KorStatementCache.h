@@ -10,11 +10,11 @@
 #include <memory>
 #include <vector>
 
-/** A statement that the server has parsed, and what is known of its results. */
+/** A prepared statement, and the layout of its results. */
 struct KorStatement
 {
     QString text;
-    // A query made without one looks for the default connection, which a worker has no right to.
+    // A QSqlQuery without a result would look up the default connection, which a worker thread may not use.
     QSqlQuery query{static_cast<QSqlResult*>(nullptr)};
     KorResultLayout layout;
     quint64 schema = 0;
@@ -22,32 +22,32 @@ struct KorStatement
 };
 
 /**
- * The prepared statements of one thread's connection that nobody is using just now, so that the next one with the same
- * text costs one trip to the server instead of three. A statement belongs to the session that prepared it, and it is
- * not used again after the program has changed the schema.
+ * The idle prepared statements of one thread's connection, so that a statement with the same text needs one round trip
+ * instead of three. A statement belongs to the session that prepared it and is not used after the program has changed
+ * the schema.
  */
 class KorStatementCache
 {
 public:
     [[nodiscard]] static KorStatementCache& ofThread();
-    /** From now on no statement prepared before, on whatever connection, is used again. */
+    /** Invalidates the prepared statements of all connections. */
     static void schemaChanged();
 
-    /** Null when there is none with this text. */
+    /** Null if there is none with this text. */
     [[nodiscard]] std::unique_ptr<KorStatement> take(const QString& text, const QSqlDriver* driver);
-    /** Keeps a statement just prepared apart from those of other sessions and schemas. */
+    /** Marks a new statement with the current session and schema. */
     void sign(KorStatement& statement) const;
     void giveBack(std::unique_ptr<KorStatement> statement);
-    /** For a statement that the server does not know any more. */
+    /** For a statement that the server no longer knows. */
     void abandon(std::unique_ptr<KorStatement> statement);
-    /** The connection is opened anew: the server has forgotten all statements. */
+    /** Call before a reconnect: the new session has no prepared statements. */
     void connectionLost();
 
 private:
-    // Rarely used texts (a search with the text in it) make room for others.
+    // Limited, because rare texts (searches with the text in the SQL) would pile up.
     QCache<QString, KorStatement> m_idle{256};
-    // Freeing one of these would send a DEALLOCATE that fails, and with it the transaction around it. They stay
-    // until their driver is gone, when freeing them sends nothing.
+    // Freeing these would send a DEALLOCATE that fails and breaks the open transaction. They are kept until their
+    // driver is gone; freeing them then sends nothing.
     std::vector<std::unique_ptr<KorStatement>> m_abandoned;
     QPointer<const QSqlDriver> m_driver;
     quint64 m_schema = 0;

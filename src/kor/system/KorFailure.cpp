@@ -17,7 +17,7 @@ struct Remembered
     KorFailure failure;
 };
 
-/** The failures of late, the newest first: as many as a form that saves many lines can meet before it shows them. */
+/** The latest failures, newest first; enough for a form that saves many lines and then shows all failures. */
 class Memory
 {
 public:
@@ -81,7 +81,7 @@ QString sentenceOf(const QString& state, const QString& statement)
     return KorFailure::tr("The database could not do this.");
 }
 
-/** PostgreSQL quotes the line of the statement that it stumbled over, and marks the place below it. */
+/** Removes the line of the statement that PostgreSQL quotes, and the position mark below it. */
 QString withoutQuotation(const QString& words, QStringList* quoted)
 {
     static const QRegularExpression quotation("^LINE \\d+: .*\n?[ \t]*\\^?[ \t]*(?:\n|$)",

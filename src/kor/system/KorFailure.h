@@ -4,8 +4,8 @@
 #include <QString>
 
 /**
- * One failure of the database in its parts. Mappers and services hand on one text that holds all of it, for their
- * callers and for the log; a box for the person at the till shows the parts one by one, see KorToldFailure.
+ * One database failure in its parts. Mappers and services pass on a single text with all of it, for callers and the
+ * log; an error box shows the parts separately, see KorToldFailure.
  */
 struct KorFailure
 {
@@ -16,42 +16,43 @@ public:
 
     /** What happened, in plain words. */
     QString sentence;
-    /** What to do about it, as far as nothing is saved; it may be empty. */
+    /** What to do if the data is not saved; may be empty. */
     QString advice;
-    /** The driver's words. */
+    /** The driver's message. */
     QString words;
-    /** The statement with its values; empty where the text does not hold it. */
+    /** The statement with its values; empty if unknown. */
     QString statement;
 
     /**
-     * The SQLSTATE tells the plain words where the connection was kept; the statement's first word tells more. The
-     * holders are whoever held what it waited for, where it waited in vain.
+     * If the connection was not lost, the SQLSTATE selects the plain words, and partly the statement's first word. The
+     * holders are those who held the lock when waiting for it timed out.
      */
     [[nodiscard]] static KorFailure of(Connection connection, const QString& state, const QString& words,
                                        const QString& statement, const QString& holders = {});
     /**
-     * The whole as one text: the plain words only where the connection was lost, the driver's words, and the statement
-     * behind the separator. The parts are remembered, so that a box can tell them apart in whatever holds the text.
+     * All of it as one text: plain words only for a lost connection or a lock timeout with known holders, then the
+     * driver's message, then the separator and the statement. The parts are remembered so that KorToldFailure can find
+     * them in a text.
      */
     [[nodiscard]] QString told(const QString& separator = QStringLiteral("\r\n")) const;
-    /** What follows from an earlier failure in the same transaction, and only hides why. */
+    /** True for an error that only follows from an earlier one in the same transaction. */
     [[nodiscard]] bool isConsequence() const { return sentence.isEmpty(); }
 };
 
-/** A text as a box shows it: the plain words first, the rest of the text behind them, statements apart. */
+/** An error text split for an error box: plain words first, then the rest, with statements separate. */
 struct KorToldFailure
 {
-    /** Empty where the text holds no failure of the database. */
+    /** Empty if the text contains no database failure. */
     QString sentence;
     QString advice;
     /** The text without its statements. */
     QString words;
-    /** The statements, and what the driver quotes of them. */
+    /** The statements, and the driver's quotations of them. */
     QString details;
 
-    /** Tells the parts of the failures that the text holds apart. They are known from told(), never guessed. */
+    /** Splits the text by the failures remembered by told(); nothing is guessed. */
     [[nodiscard]] static KorToldFailure in(const QString& text);
     [[nodiscard]] bool isKnown() const { return !sentence.isEmpty(); }
-    /** Sentence, advice and words, one below the other; any text without a failure is left as it is. */
+    /** Sentence, advice and words below each other; a text without a failure is returned unchanged. */
     [[nodiscard]] QString text() const;
 };

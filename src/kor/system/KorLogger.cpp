@@ -11,7 +11,7 @@ KorLogger::KorLogger(QObject* parent, const QString& filePath, QPlainTextEdit* t
     if (filePath.isEmpty())
         return;
     m_logFile = std::make_unique<QFile>(filePath);
-    // It tells of customers and statements: nobody else at this machine needs to read it, an older one neither.
+    // The log contains customer data and statements, so only the owner may read it, also a file that exists already.
     if (m_logFile->open(QIODevice::Append | QIODevice::Text))
         m_logFile->setPermissions(QFile::ReadOwner | QFile::WriteOwner);
 }

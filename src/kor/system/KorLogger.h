@@ -9,16 +9,15 @@
 class QPlainTextEdit;
 
 /**
- * Writes one line a message to a file and, where there is one, to a text view. Each line is on disk at once. Only the
- * file's owner may read it.
- * Lines from other threads are stamped there and written by the logger's own.
+ * Writes one line per message to a file and, if given, to a text view. Each line is flushed at once. Only the file's
+ * owner may read it. Lines from other threads get their time stamp there and are written on the logger's thread.
  */
 class KorLogger : public QObject
 {
     Q_OBJECT
 
 public:
-    /** An empty path gives a logger without a file. */
+    /** An empty path means no file. */
     KorLogger(QObject* parent, const QString& filePath, QPlainTextEdit* textView = nullptr);
 
     void log(const QString& message);

@@ -53,7 +53,7 @@ QString KorSimpleEncrypt::decipher(const QString& cipher)
 {
     const QByteArray text = cipher.toLatin1();
     const QByteArray bytes = QByteArray::fromBase64(text);
-    // Decoding skips stray characters and unused bits; what does not encode back to itself was tampered with.
+    // The decoder ignores stray characters and unused bits. A text that does not encode back to itself was changed.
     if (bytes.toBase64() != text) {
         fail(UnknownVersion, "Invalid version or not a cyphertext.");
         return {};
@@ -90,7 +90,7 @@ QByteArray KorSimpleEncrypt::encipherBytes(QByteArray bytes)
         flags |= Hash;
     }
 
-    // The random byte changes every byte behind it, so that equal settings do not look equal in the file.
+    // The random byte affects every byte after it, so that equal settings look different in the file.
     bytes.prepend(static_cast<char>(qrand() & 0xff));
     char last = 0;
     for (int i = 0; i < bytes.size(); ++i) {
@@ -112,7 +112,7 @@ QByteArray KorSimpleEncrypt::decipherBytes(QByteArray bytes)
     if (bytes.size() < 3 || bytes.at(0) != cipherVersion)
         return fail(UnknownVersion, "Invalid version or not a cyphertext.");
 
-    // The flags stand outside the checksum; a value that this protection never writes is damage, not a choice.
+    // The checksum does not cover the flags. A protection that is never written means damage.
     const char flags = bytes.at(1);
     const char protection = m_protectionMode == ProtectionChecksum ? Checksum
                             : m_protectionMode == ProtectionHash   ? Hash
@@ -139,7 +139,7 @@ QByteArray KorSimpleEncrypt::decipherBytes(QByteArray bytes)
         return fail(IntegrityFailed, nullptr);
 
     if (flags & Compressed) {
-        // Nothing compresses to a length of 0 and no data behind it.
+        // Empty data compresses to 4 zero bytes; for anything else an empty result is an error.
         const bool hadData = !bytes.isEmpty() && bytes != QByteArray(4, 0);
         bytes = qUncompress(bytes);
         if (hadData && bytes.isEmpty())

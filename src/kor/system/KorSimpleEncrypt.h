@@ -4,10 +4,7 @@
 #include <QObject>
 #include <QVector>
 
-/**
- * Keeps the connection settings unreadable on disk. It hides them from a glance, not from someone who has the
- * program: the key is built in.
- */
+/** Obscures the connection settings on disk. It only stops casual reading: the key is built into the program. */
 class KorSimpleEncrypt : public QObject
 {
     Q_OBJECT
@@ -17,16 +14,16 @@ public:
     enum ProtectionMode { ProtectionNone, ProtectionChecksum, ProtectionHash };
     enum Error { NoError, NoKeySet, UnknownVersion, IntegrityFailed };
 
-    /** A state with the program's own key. */
+    /** Uses the program's own key. */
     explicit KorSimpleEncrypt(QObject* parent = nullptr);
     KorSimpleEncrypt(quint64 key, QObject* parent);
 
     [[nodiscard]] static QString encrypt(const QString& plain);
-    /** Empty where the text is damaged, from another key, or no cipher text at all. */
+    /** Empty if the text is damaged, made with another key, or not encrypted. */
     [[nodiscard]] static QString decrypt(const QString& cipher);
 
     void setKey(quint64 key);
-    /** Leaves the state without a key: every operation then fails with NoKeySet. */
+    /** Removes the key: every operation then fails with NoKeySet. */
     void clearKey() { m_keyBytes.clear(); }
     void setCompressionMode(CompressionMode mode) { m_compressionMode = mode; }
     void setProtectionMode(ProtectionMode mode) { m_protectionMode = mode; }

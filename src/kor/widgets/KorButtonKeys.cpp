@@ -11,11 +11,11 @@
 
 namespace
 {
-// Milliseconds, and pixels: what no hand does on purpose.
+// Milliseconds and pixels: two presses closer than this are one gesture.
 constexpr int blink = 100;
 constexpr int fingertip = 12;
 
-/** The widget that a shortcut belongs to; null for one that belongs to none. */
+/** The widget that a shortcut belongs to; null if there is none. */
 QWidget* ownerOf(QObject* receiver)
 {
     if (const auto* action = qobject_cast<QAction*>(receiver); action && !action->parentWidget())
@@ -31,13 +31,13 @@ bool isModifier(int key)
            key == Qt::Key_Meta;
 }
 
-/** Searching or typing twice is nothing to guard against; what is written, printed or paid is. */
+/** Guard buttons that save, print or take a payment; searching or typing twice does no harm. */
 bool actsOnce(const QPushButton& button)
 {
     return button.property("actsOnce").toBool() || qobject_cast<QDialogButtonBox*>(button.parentWidget());
 }
 
-/** Tells the form what leaving the box would tell it. */
+/** Emits what the focused box emits when it loses the focus. */
 void endEntry(const QAbstractButton* button)
 {
     QWidget* focus = QApplication::focusWidget();
@@ -67,7 +67,7 @@ bool KorButtonKeys::isBlocked(const QWidget* widget)
     const QWidget* modal = QApplication::activeModalWidget();
     if (!widget || !modal || modal == widget->window())
         return false;
-    // What the open form shows beside itself is no more below it than the form.
+    // A window that the modal form opened itself is not blocked.
     for (const QWidget* above = widget; above; above = above->parentWidget()) {
         if (above == modal)
             return false;
@@ -79,7 +79,7 @@ bool KorButtonKeys::eventFilter(QObject* watched, QEvent* event)
 {
     switch (event->type()) {
     case QEvent::Polish:
-        // Behind what a button does, since that was connected when it was made.
+        // Connected after the button's own slots, which were connected when it was created.
         if (auto* button = qobject_cast<QPushButton*>(watched); button && actsOnce(*button)) {
             connect(button, &QPushButton::released, this, [this, button] {
                 m_begun = m_now;
@@ -89,7 +89,7 @@ bool KorButtonKeys::eventFilter(QObject* watched, QEvent* event)
         }
         return false;
     case QEvent::WindowBlocked:
-        // A form that has opened is something else to do, however it is closed again.
+        // An opened form counts as a new input, so that a later press is not taken for a repeated one.
         ++m_now.number;
         return false;
     case QEvent::ShortcutOverride:
@@ -101,7 +101,7 @@ bool KorButtonKeys::eventFilter(QObject* watched, QEvent* event)
             return true;
         auto* button = qobject_cast<QAbstractButton*>(watched);
         const bool mine = button && !static_cast<QShortcutEvent*>(event)->isAmbiguous();
-        // The key that has just come, by the way of its override.
+        // m_now holds this key already, set by its ShortcutOverride event.
         if (mine && (isSameGesture(m_now) || isSecondPress(button)))
             return true;
         ++m_now.number;
@@ -121,8 +121,8 @@ bool KorButtonKeys::eventFilter(QObject* watched, QEvent* event)
 
 bool KorButtonKeys::isSameGesture(const Input& input) const
 {
-    // By the clock of the window system it was one movement of the hand, whatever the first half has opened meanwhile:
-    // the second must not answer a question that nobody has read.
+    // Two inputs that are this close are one gesture, even if the first has opened a form: the second must not answer a
+    // question that nobody has read.
     const bool sameAim = input.key ? input.key == m_begun.key
                                    : !m_begun.key && (input.place - m_begun.place).manhattanLength() < fingertip;
     return sameAim && input.time && m_begun.time && input.time >= m_begun.time && input.time - m_begun.time < blink;
@@ -132,13 +132,13 @@ bool KorButtonKeys::takeKey(const QKeyEvent& key)
 {
     if (isSameGesture({key.key(), {}, key.timestamp()}))
         return true;
-    // A scanner is as fast as that, and means each Return of its own.
+    // Other keys end the gesture: a scanner types this fast, and each of its Returns counts.
     if (!isModifier(key.key()))
         m_begun = {};
     m_now.key = key.key();
     m_now.time = key.timestamp();
-    // Enter on a form goes no road of shortcuts: a second one would press the same button again, or that of the form
-    // below.
+    // Enter in a form sends no shortcut event. A second Enter would press the same button again, or a button of the
+    // form below.
     if (m_press.key == key.key() && m_press.number == m_now.number) {
         if (key.isAutoRepeat() || (m_button && m_button->isVisible() && withinABlink(key.timestamp())) ||
             (key.timestamp() && key.timestamp() - m_press.time < blink)) {
@@ -152,7 +152,7 @@ bool KorButtonKeys::takeKey(const QKeyEvent& key)
 
 bool KorButtonKeys::takeTap(QObject* watched, const QMouseEvent& tap)
 {
-    // Each tap comes to its window first, and then to the widget there.
+    // The event filter gets each tap twice: first for the QWindow, then for the widget.
     if (!watched->isWidgetType())
         return false;
     if (isSameGesture({0, tap.globalPos(), tap.timestamp()}))
@@ -173,7 +173,7 @@ void KorButtonKeys::pressByKey(QAbstractButton* button)
         return;
     const QPointer<QAbstractButton> alive(button);
     endEntry(button);
-    // What the end of the entry brought about may have taken the button away.
+    // Ending the entry may have deleted, disabled or hidden the button.
     if (alive && button->isEnabled() && button->isVisible())
         button->click();
 }
@@ -185,19 +185,19 @@ bool KorButtonKeys::isSecondPress(const QAbstractButton* button) const
 
 bool KorButtonKeys::withinABlink(ulong time) const
 {
-    // A press that had to wait for the first one's end was meant as the same, too.
+    // Also a press that had to wait in the queue until the first one's work was done.
     return (m_done.isValid() && !m_done.hasExpired(blink)) || (time && m_press.time && time - m_press.time < blink);
 }
 
 void KorButtonKeys::ends(QAbstractButton* button)
 {
-    // Those of forms that the button opened have ended, or are gone.
+    // Remove entries of forms that this button opened; they have ended or are deleted.
     while (!m_open.isEmpty() && m_open.last().button != button)
         m_open.removeLast();
     if (m_open.isEmpty())
         return;
     m_press = m_open.takeLast().input;
-    // Whoever did something else meanwhile, in a form that the button opened, presses it for the first time again.
+    // If the user did something else in a form that the button opened, the next press is a first one.
     m_button = m_press.number == m_now.number ? button : nullptr;
     m_done.start();
 }

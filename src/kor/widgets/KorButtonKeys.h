@@ -12,17 +12,17 @@ class QMouseEvent;
 class QWidget;
 
 /**
- * Makes the keys of buttons safe for fast hands, in every page and form at once. Left to itself a button answers its
- * key 100 ms later, and no form that has opened meanwhile stops it: the second of two quick keys would act below the
- * form that the first one opened. Here a key
+ * Makes the shortcut keys of buttons safe for fast typing, in all pages and forms. A Qt button reacts 100 ms after its
+ * shortcut, even if a form has opened meanwhile: the second of two quick keys would act below the form that the first
+ * one opened. With this filter a key
  *
  * - presses its button at once;
  * - does nothing below a form or a question that is open;
- * - ends the entry that is under way, as leaving its box by Tab does, before its button is pressed;
- * - does one thing when it is pressed twice within a blink, and so does a finger, on the buttons that end a form and
- *   on those whose form sets the property "actsOnce".
+ * - ends the current entry first, as if the box lost the focus;
+ * - acts once when pressed twice quickly (a tap too), on buttons of a button box and on buttons whose form sets the
+ * property "actsOnce".
  *
- * One object watches over the whole program; pages and forms see to it that it is there.
+ * One event filter serves the whole program; pages and forms install it.
  */
 class KorButtonKeys final : public QObject
 {
@@ -30,7 +30,7 @@ class KorButtonKeys final : public QObject
 
 public:
     static void watch();
-    /** Whether the widget lies below a form or a question that is open. */
+    /** True if a modal form or question blocks the widget. */
     [[nodiscard]] static bool isBlocked(const QWidget* widget);
 
 protected:
@@ -39,12 +39,12 @@ protected:
 private:
     using QObject::QObject;
 
-    // What the hands did last; a key has no place, a tap no key.
+    // The latest input. A key has no place, a tap has no key.
     struct Input
     {
         int key = 0;
         QPoint place;
-        // As the window system tells it; 0 where it tells none.
+        // The window system's time stamp; 0 if it gives none.
         ulong time = 0;
         int number = 0;
     };
@@ -59,15 +59,15 @@ private:
     void pressByKey(QAbstractButton* button);
     [[nodiscard]] bool isSecondPress(const QAbstractButton* button) const;
     [[nodiscard]] bool withinABlink(ulong time) const;
-    /** Whether it is the second half of what pressed the last such button, by the window system's own clock. */
+    /** True if this is the second half of the gesture that pressed the last guarded button, by the time stamps. */
     [[nodiscard]] bool isSameGesture(const Input& input) const;
     void ends(QAbstractButton* button);
 
     Input m_now;
     Input m_begun;
-    // What is at work, the innermost last.
+    // Presses whose slots are still running, the innermost last.
     QList<Press> m_open;
-    // The button that was pressed last, by which input, and since when it has done what it does.
+    // The button that was pressed last, the input that pressed it, and the time since its slots ended.
     QPointer<QAbstractButton> m_button;
     Input m_press;
     QElapsedTimer m_done;

@@ -20,7 +20,7 @@
 
 namespace
 {
-/** What the form calls the box, without the marks around it. */
+/** The box's name in the form: the label without its shortcut mark and colon. */
 QString nameOf(const QWidget* box)
 {
     QString name = box->accessibleName();
@@ -37,7 +37,7 @@ KorDialog::KorDialog(QWidget* parent) : QDialog(parent)
 {
     KorButtonKeys::watch();
     KorTextGuard::watch();
-    // No field exists yet, so the filter reaches none and Return keeps pressing the default button.
+    // The form has no fields yet, so the filter reaches none, and Return still presses the default button.
     const QList<QWidget*> fields = findChildren<QWidget*>();
     for (QWidget* field : fields)
         field->installEventFilter(this);
@@ -49,8 +49,7 @@ KorDialog::KorDialog(QWidget* parent) : QDialog(parent)
 
 KorDialog::~KorDialog()
 {
-    // A form that goes while it is shown loses the focus on its way, and a box that is left tells the form so: by now
-    // the part that would hear it is gone.
+    // Deleting a visible form makes its boxes lose the focus and emit signals, but the receivers are partly destroyed.
     const QList<QObject*> parts = findChildren<QObject*>();
     for (const QObject* part : parts)
         part->disconnect(this);
@@ -135,7 +134,7 @@ bool KorDialog::checkNumbers()
     for (KorNumberEdit* box : boxes) {
         const QString fault = box->fault();
         isFit = isFit && fault.isEmpty() && !m_errors.contains(box);
-        // The form's own words stand alone, but that a comma was meant for a point they do not tell.
+        // The form's own message replaces the box's, unless the box was misspelt (a comma for a point).
         const bool isTold = m_errors.contains(box) && !box->isMisspelt();
         if (!fault.isEmpty() && !isTold && !m_errors.value(box).contains(fault))
             addError(box, fault);

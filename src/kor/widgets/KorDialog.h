@@ -13,11 +13,11 @@ class KorNumberEdit;
 class QDialogButtonBox;
 
 /**
- * Base of every entry form. A form reports what is wrong field by field, and all of it is shown in one box; a
- * confirmed form closes only when it is valid and, where a saver is set, when it has been saved.
+ * Base of every entry form. validate() reports errors field by field, and all of them are shown in one box. OK closes
+ * the form only if it is valid and the saver, if set, has saved the record.
  *
- * The form finds the number boxes that can be typed in by itself: what a box cannot store is an error beside those that
- * validate() tells, and what would be stored otherwise than typed is asked about, once for all boxes of a save.
+ * The form checks its editable number boxes itself. A number that cannot be stored is an error like those of
+ * validate(); a number that would be stored differently from what was typed is confirmed once for all boxes.
  */
 class KorDialog : public QDialog
 {
@@ -27,20 +27,20 @@ public:
     explicit KorDialog(QWidget* parent = nullptr);
     ~KorDialog() override;
 
-    /** Reports errors through addError; true when the form is fit to be taken. */
+    /** Reports errors with addError(); true if the form can be saved. */
     virtual bool validate() = 0;
-    /** The record as the form shows it, made on the first call where none was handed in; it dies with the dialog. */
+    /** The record as the form shows it, created on first use if none was set; deleted with the dialog. */
     virtual KorEntity* getEntity() = 0;
-    /** Takes the record for the dialog's own and shows it. */
+    /** Takes ownership of the record and shows it. */
     virtual void setEntity(KorEntity* entity) = 0;
-    /** Runs after a successful validation; false keeps the dialog open, as the user left it. */
+    /** Called after a successful validation; false keeps the dialog open with its entries. */
     virtual bool beforeAccept();
-    /** Both return true only for an accepted dialog that still holds errors; callers look at hasError() instead. */
+    /** Both return true only for an accepted dialog with errors left; callers use hasError() instead. */
     virtual bool execWith(KorEntity* entity);
     virtual bool execWithKey(const QString& key);
     virtual int setKey(const QString& key);
 
-    /** What saves the record when the form is confirmed; it shows its own failure and returns false for it. */
+    /** Saves the record when the form is confirmed; it shows its own error and returns false on failure. */
     void setSaver(std::function<bool()> saver) { m_saver = std::move(saver); }
     void addError(QWidget* widget, const QString& message);
     [[nodiscard]] bool hasError() const { return !m_errorFields.isEmpty(); }
@@ -53,7 +53,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
-    /** The owned record of the dialog: replaced by setEntity, deleted with the dialog. */
+    /** The dialog's record: replaced by setEntity(), deleted with the dialog. */
     template <class Entity>
     [[nodiscard]] Entity* held() const
     {
@@ -68,14 +68,14 @@ protected:
     }
     void hold(KorEntity* entity) { m_entity = entity; }
 
-    // The rules that recur in the forms. Each reports on its field and returns whether the field passed.
+    // Common checks. Each reports an error on its field and returns whether the field passed.
     bool require(QLineEdit* field, const QString& message);
     bool requireText(QWidget* field, const QString& text, const QString& message);
-    /** The found record counts as a clash unless it is the one being edited. */
+    /** Fails if a record was found, unless it is the one being edited. */
     bool requireUnused(QWidget* field, const KorEntity* found, const QString& message);
-    /** Adds the faults of the number boxes that have no error yet; false when a box has one. done() calls it anyway. */
+    /** Adds the errors of number boxes that have none yet; false if any box has one. done() calls it anyway. */
     bool checkNumbers();
-    /** Required and not taken by another record; a look-up that fails is told in a box of its own. */
+    /** Not empty and not used by another record; an error while looking it up is shown in its own box. */
     template <class Service, class Find>
     bool requireCode(QLineEdit* field, Service* service, Find find, const QString& missing, const QString& taken)
     {
@@ -85,11 +85,11 @@ protected:
         showError(service->takeErrors());
         return requireUnused(field, found, taken);
     }
-    /** False for an empty text, which shows nothing. */
+    /** Shows an error box; false, and no box, for an empty text. */
     bool showError(const QString& text);
-    /** Buttons that a finger hits, in the forms of a till. */
+    /** Makes the buttons large enough for touch, for till forms. */
     static void makeTouchable(const QDialogButtonBox* buttons);
-    /** Focus once the window is shown, as a field that is not yet visible cannot take it. */
+    /** Sets the focus once the window is visible; an invisible field cannot take it. */
     void focusLater(QWidget* field);
 
 private:

@@ -4,13 +4,13 @@
 
 class QAbstractItemView;
 
-/** A line in the middle of a grid that says so when there is nothing to show. */
+/** A text in the middle of an empty grid that says that there is nothing to show. */
 class KorEmptyHint final : public QLabel
 {
     Q_OBJECT
 
 public:
-    /** Gives the view its hint on the first call, and follows the model that the view has now. */
+    /** Creates the view's hint on the first call, then follows the view's current model. */
     static void attach(QAbstractItemView* view);
 
 protected:

@@ -8,8 +8,8 @@
 class KorEntity;
 
 /**
- * A grid's rows: a list of records, which belong to the model from then on. A column is one declaration: its type
- * (which tells how to sort), its header, how to read the cell's text from a record, and its alignment.
+ * The rows of a grid: a list of records, owned by the model. A column is declared with its type (for sorting), its
+ * header, how to read the cell's text from a record, and its alignment.
  */
 class KorEntityModel : public QAbstractTableModel
 {
@@ -23,7 +23,7 @@ public:
     explicit KorEntityModel(const QList<KorEntity*>& entities, QObject* parent = nullptr);
 
     void setEntities(const QList<KorEntity*>& entities);
-    /** A column that the model answers itself; unanswered, it shows "Row1, Column1" as a visible sign. */
+    /** A column without a reader, for models that override data(); without that it shows "Row1, Column1". */
     void addColumn(int typeId, const QString& header);
     void addColumn(int typeId, const QString& header, Reader reader, int alignment = 0);
 
@@ -37,9 +37,9 @@ public:
     void append(KorEntity* entity);
     void setRows(const QList<KorEntity*>& entities);
     [[nodiscard]] KorEntity* find(int id) const;
-    /** Takes the row of the record with this record's id out; the record itself stays. */
+    /** Removes the row with this record's id; the record itself is not deleted. */
     void remove(KorEntity* entity);
-    /** Puts the record at that row; the former one is not deleted. */
+    /** Replaces the record of that row; the former one is not deleted. */
     void replace(int row, KorEntity* entity);
 
     [[nodiscard]] QList<KorEntity*> entities() const { return m_entities; }
@@ -51,13 +51,13 @@ public:
 protected:
     /** The record's id as a number. */
     void addId(const QString& header);
-    /** A text column read by the record's own getter. */
+    /** A text column that reads the record's getter. */
     template <class Entity, class Value>
     void addText(const QString& header, Value (Entity::*getter)() const)
     {
         addField<Entity>(QMetaType::QString, header, [getter](const Entity& entity) { return (entity.*getter)(); });
     }
-    /** A column of a family: the reader gets the record in its own type. */
+    /** A column whose reader gets the record in its own type. */
     template <class Entity, class Read>
     void addField(int typeId, const QString& header, Read read, int alignment = 0)
     {
@@ -73,7 +73,7 @@ private:
         int alignment = 0;
     };
 
-    /** Rows go before the records that they show, whoever frees these. */
+    /** Removes the rows before their records are deleted, if somebody else owns the records. */
     void watchOwner();
 
     QList<KorEntity*> m_entities;

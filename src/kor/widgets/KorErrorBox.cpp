@@ -19,7 +19,7 @@ void show(QMessageBox::Icon icon, QWidget* parent, const QString& title, const Q
 void KorErrorBox::fill(QMessageBox* box, const QString& text)
 {
     const KorToldFailure failure = KorToldFailure::in(text);
-    // The server's words may look like markup.
+    // Plain text, because the server's message may look like HTML.
     if (failure.isKnown())
         box->setTextFormat(Qt::PlainText);
     box->setText(failure.text());

@@ -3,18 +3,18 @@
 #include <QMessageBox>
 
 /**
- * The boxes for what a service or a mapper says of a failure. A failure of the database begins with a plain sentence,
- * goes on with the driver's words, and keeps the statement behind "Show Details..."; any other text stands as it is.
+ * Message boxes for error texts of services and mappers. A database error shows a plain sentence, then the driver's
+ * message, with the statement behind "Show Details..."; any other text is shown unchanged.
  */
 namespace KorErrorBox
 {
-/** Gives a box these words; for boxes that their pages show themselves. */
+/** Fills a message box that the caller shows itself. */
 void fill(QMessageBox* box, const QString& text);
-/** Tells a failure under the title "Error"; false for an empty text, which shows nothing. */
+/** Shows an error with the title "Error"; false, and no box, for an empty text. */
 bool tell(QWidget* parent, const QString& failure);
 void critical(QWidget* parent, const QString& title, const QString& text);
 void information(QWidget* parent, const QString& title, const QString& text);
-/** A question about a failure, with these two buttons, the default among them; true for the first one. */
+/** Asks about an error with two buttons, one of them the default; true for the first button. */
 [[nodiscard]] bool ask(QWidget* parent, const QString& title, const QString& text, const QString& details,
                        const QString& yes, const QString& no, QMessageBox::StandardButton byDefault);
 } // namespace KorErrorBox

@@ -35,13 +35,13 @@ void KorNumberEdit::validate()
 std::optional<double> KorNumberEdit::parse(const QString& text, const QLocale& language)
 {
     const QString group = QRegularExpression::escape(language.groupSeparator());
-    // What follows the groups has no group mark: the decimal point with its digits.
+    // The groups are followed only by the decimal point and its digits, not by a group separator.
     const QRegularExpression grouped(QString("^\\s*[-+]?[1-9]\\d{0,2}(%1\\d{3})+(?!\\d)(?!.*%1)").arg(group));
     if (text.contains(language.groupSeparator()) && !grouped.match(text).hasMatch())
         return std::nullopt;
     bool isNumber = false;
     const double number = language.toDouble(QString(text).remove(language.groupSeparator()), &isNumber);
-    // "nan" and "inf" are numbers to the locale, but nobody can pay them.
+    // The locale reads "nan" and "inf" as numbers, but they are no amounts.
     return isNumber && std::isfinite(number) ? std::optional(number) : std::nullopt;
 }
 
@@ -53,7 +53,7 @@ bool KorNumberEdit::isMisspelt()
 
 QString KorNumberEdit::fault()
 {
-    // The form itself shows a percent of nothing, which is no number; that is no entry.
+    // A percent of zero is not a number; if the form itself shows it, it is not an entry.
     if (isValid() || (!std::isfinite(m_value) && text() == displayText()))
         return {};
     return isMisspelt()
@@ -63,8 +63,8 @@ QString KorNumberEdit::fault()
 
 bool KorNumberEdit::holdsUntouchedNumber()
 {
-    // The plain writing of a number has a decimal point, which some locales take for a group separator; a number that
-    // a program stored must not grow tenfold because somebody walked through the field.
+    // The text of a stored number has a decimal point, which some locales read as a group separator. Moving the focus
+    // through the field must not multiply the number by ten.
     if (isModified() || text().isEmpty() || text() != editableText() || text() == displayText())
         return false;
     m_valid = true;
@@ -104,7 +104,7 @@ void KorNumberEdit::finishEntry()
 
 void KorNumberEdit::rememberEntry()
 {
-    // Whoever listens to textChanged asks for the value while the edit writes its own text: that is no entry.
+    // Receivers of textChanged call value() while the edit writes its own text, which is not an entry.
     if (m_ownText.isNull() || text() != m_ownText)
         m_rawText = text();
 }
@@ -119,7 +119,7 @@ void KorNumberEdit::write(const QString& ownText)
 void KorNumberEdit::focusInEvent(QFocusEvent* event)
 {
     QLineEdit::focusInEvent(event);
-    // The context menu of the field itself lends the focus only.
+    // The focus comes back after the field's context menu closes.
     if (event->reason() == Qt::PopupFocusReason)
         return;
     rememberEntry();
@@ -128,7 +128,7 @@ void KorNumberEdit::focusInEvent(QFocusEvent* event)
     setText(m_rawText);
     if (replaceAll)
         selectAll();
-    // The border's style sheet takes the house's room around the text away; without it the field would shrink.
+    // The style sheet for the border removes the style's text margins, so that the field would shrink.
     QStyleOptionFrame option;
     initStyleOption(&option);
     const QRect textBefore = style()->subElementRect(QStyle::SE_LineEditContents, &option, this);

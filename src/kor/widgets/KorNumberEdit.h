@@ -6,12 +6,12 @@
 #include <optional>
 
 /**
- * A line edit for a number. Without the focus it shows the number as the locale writes it, group separators and all;
- * with the focus it shows what the user typed last. Programs may ask for the value at any time, also while the user
- * types: the text under the cursor is never rewritten before the entry is finished.
+ * A line edit for a number. Without focus it shows the number in the locale's format with group separators; with focus
+ * it shows what the user typed last. value() may be called at any time, also during typing: the text is not rewritten
+ * before the entry is finished.
  *
- * What the field shows is what is stored. A form asks every field for its fault and its doubt before it takes them, see
- * KorDialog; the kinds of numbers are the classes derived from this one.
+ * The field stores what it shows. A form asks each field for fault() and doubt() before saving, see KorDialog. The
+ * derived classes are the kinds of numbers.
  */
 class KorNumberEdit : public QLineEdit
 {
@@ -20,32 +20,32 @@ class KorNumberEdit : public QLineEdit
 public:
     explicit KorNumberEdit(QWidget* parent = nullptr);
 
-    /** The number as the field shows it when it is not being typed in. */
+    /** The text shown without focus. */
     [[nodiscard]] virtual QString displayText() const;
-    /** Reads the field. A text that is no number leaves the value and the text as they were. */
+    /** Reads the field. Text that is not a number leaves value and text unchanged. */
     virtual void validate();
     [[nodiscard]] virtual bool isValid();
     [[nodiscard]] virtual QLocale locale() const;
     virtual void setValue(double value);
     virtual void setValue(int value);
 
-    /** The number of the last text that was one. */
+    /** The last valid number. */
     [[nodiscard]] double value();
     /**
-     * The number that the text means in the language, or nothing. A group mark counts only where groups of three digits
-     * stand behind it: whoever writes "1,5" for one and a half must not be taken for fifteen.
+     * The number that the text means in this locale, or nothing. Group separators count only before groups of three
+     * digits: "1,5" for one and a half must not be read as fifteen.
      */
     [[nodiscard]] static std::optional<double> parse(const QString& text, const QLocale& language);
-    /** Digits and marks that are no number in this language, though they may be one in another. */
+    /** True for digits and separators that are not a number in this locale, but may be in another. */
     [[nodiscard]] bool isMisspelt();
 
-    /** Why the entry cannot be stored, in the user's words; empty when it can. */
+    /** Why the entry cannot be stored, in the user's language; empty if it can. */
     [[nodiscard]] virtual QString fault();
-    /** What would be stored otherwise than it was typed, or is unusual; empty when there is nothing to ask. */
+    /** A question if the number would be stored differently from what was typed, or is unusual; otherwise empty. */
     [[nodiscard]] virtual QString doubt() { return {}; }
-    /** The user agreed to the doubt: the field takes the number as it will be stored. */
+    /** The user has confirmed the doubt: the field takes the number as it will be stored. */
     virtual void settle() {}
-    /** What returns to the field when it gets the focus. */
+    /** The text that the field shows when it gets the focus. */
     [[nodiscard]] QString rawText() const { return m_rawText; }
 
 protected:
@@ -53,13 +53,13 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
-    /** The number as it stands in the field to be changed. */
+    /** The number as a text for editing. */
     [[nodiscard]] virtual QString editableText() const;
-    /** Whether this key finishes the entry. */
+    /** Whether this key ends the entry. */
     [[nodiscard]] virtual bool finishesEntry(int key) const;
-    /** The number as last stored, without a look at the field. */
+    /** The last stored number, without reading the field. */
     [[nodiscard]] double storedValue() const { return m_value; }
-    /** Whether the field held a number when it was last read. */
+    /** Whether the text was a number when last read. */
     [[nodiscard]] bool holdsNumber() const { return m_valid; }
 
     static constexpr int significantDigits = 10;
@@ -73,6 +73,6 @@ private:
     double m_value = 0.0;
     QString m_rawText;
     bool m_valid = false;
-    QString m_ownText; ///< what the edit itself wrote into the field last; it is not the user's entry
+    QString m_ownText; ///< the text that the edit itself wrote last; it is not the user's entry
     bool m_finishing = false;
 };

@@ -2,7 +2,7 @@
 
 #include <QSortFilterProxyModel>
 
-/** Sorts a grid by the declared types of its columns; what it compares are the texts that the grid shows. */
+/** Sorts a grid by the declared types of its columns; it compares the displayed texts. */
 class KorSortFilterProxyModel : public QSortFilterProxyModel
 {
     Q_OBJECT
@@ -13,6 +13,6 @@ public:
 protected:
     [[nodiscard]] bool lessThan(const QModelIndex& left, const QModelIndex& right) const override;
 
-    /** The declared type of the column; -1 where the source has no rows or declares no types. */
+    /** The declared type of the column; -1 if the source has no rows or declares no types. */
     [[nodiscard]] int columnType(const QModelIndex& index) const;
 };

@@ -30,8 +30,8 @@ constexpr int nextLook = 50;
 constexpr int mainLoop = 1;
 
 /**
- * Widths that show headers and the first rows' texts in full, within reason. A list is often empty at first sight, or
- * short: later fits widen what has become longer, and narrow nothing that the eye has got used to.
+ * Fits the columns to headers and first rows, up to a limit. Lists are often empty or short at first: later fits widen
+ * columns whose texts have grown, but never narrow one.
  */
 void fitColumns(QTableView* view, const QVector<int>& formerWidths)
 {
@@ -42,7 +42,7 @@ void fitColumns(QTableView* view, const QVector<int>& formerWidths)
     for (int column = 0; column <= last; ++column) {
         int width =
             std::max(std::min(view->columnWidth(column) + cellPadding, widestFirstSight), formerWidths.value(column));
-        // The last column takes what the others leave it, and only where that is too little has a width of its own.
+        // The last column takes the rest; only if the rest is too narrow it gets its own width.
         if (column == last && room >= narrowestRest)
             width = view->horizontalHeader()->minimumSectionSize();
         view->setColumnWidth(column, width);
@@ -50,7 +50,7 @@ void fitColumns(QTableView* view, const QVector<int>& formerWidths)
     }
 }
 
-/** What the words take. The header's own hint keeps room for an arrow as well, in every column. */
+/** The width of the heading's text. The header's size hint is larger: it adds room for a sort arrow. */
 int headingWidth(const QHeaderView* header, int column)
 {
     constexpr int anyWidth = 1000;
@@ -62,12 +62,12 @@ int headingWidth(const QHeaderView* header, int column)
     return header->fontMetrics().horizontalAdvance(words) + anyWidth - room;
 }
 
-/** The last column takes what the others leave it, unless that is too little for its heading. */
+/** The last column takes the rest, unless that is too narrow for its heading. */
 void stretchLastColumn(QHeaderView* header, int room)
 {
     const int last = header->count() - 1;
     for (int section = 0; section <= last; ++section) {
-        // A page that lets another column take the rest.
+        // The page stretches another column.
         if (header->sectionResizeMode(section) == QHeaderView::Stretch)
             return;
     }
@@ -82,7 +82,7 @@ void stretchLastColumn(QHeaderView* header, int room)
 
 QVector<int> columnWidths(const QTableView* view)
 {
-    // The last column is as wide as the others leave it.
+    // Not the last column: it takes the rest.
     QVector<int> widths;
     for (int column = 0; column < view->horizontalHeader()->count() - 1; ++column)
         widths.append(view->columnWidth(column));
@@ -102,7 +102,7 @@ QList<int> selectedSourceRows(const QTableView* view)
         rows.append(proxy ? proxy->mapToSource(index).row() : index.row());
     return rows;
 }
-/** A grid without a selection: an arrow begins at the row that has the focus frame rather than beside it. */
+/** A grid without a selection: an arrow key selects the current row instead of the one next to it. */
 bool startsAtCurrentRow(const QTableView* view, const QKeyEvent& key)
 {
     const bool isArrow = key.key() == Qt::Key_Down || key.key() == Qt::Key_Up;
@@ -121,14 +121,14 @@ bool KorTab::isBusy(const QWidget* page)
 {
     const QWidgetList windows = QApplication::topLevelWidgets();
     return std::any_of(windows.cbegin(), windows.cend(), [page](const QWidget* window) {
-        // A form is modal until its own loop has ended, a little longer than it is seen.
+        // A form stays modal until its event loop has ended, slightly longer than it is visible.
         if (!window->isModal())
             return false;
         const QWidget* opener = window->parentWidget();
-        // A box that belongs to the window, or to nobody, may be the page's word as well.
+        // A message box whose parent is the window, or that has no parent, may belong to the page.
         if (qobject_cast<const QMessageBox*>(window) && (!opener || opener == page->window()))
             return true;
-        // Forms open forms.
+        // A form may have been opened by another form.
         while (opener && opener != page)
             opener = opener->parentWidget();
         return opener != nullptr;
@@ -147,7 +147,7 @@ void KorTab::doOnceFree(const QPointer<const QWidget>& page, QObject* context, i
                         const std::function<void()>& work)
 {
     QTimer::singleShot(nextLook, context, [page, context, level, work] {
-        // What the page was doing ends behind its last form, and only then has left the loop that this came from.
+        // The page's own slot continues after its last form closes, and ends only when the event loop level is lower.
         const int now = QThread::currentThread()->loopLevel();
         if (page && (isBusy(page) || (now >= level && now > mainLoop)))
             doOnceFree(page, context, std::min(level, now), work);
@@ -165,13 +165,13 @@ void KorTab::close()
 void KorTab::doubleClickedSlot(const QModelIndex& index)
 {
     Q_UNUSED(index)
-    // Through the shortcut's own road, so that it does exactly what the key does.
+    // As a key event, so that it does exactly what the key does.
     QCoreApplication::postEvent(this, new QKeyEvent(QEvent::KeyPress, Qt::Key_F2, Qt::NoModifier));
 }
 
 void KorTab::keyPressEvent(QKeyEvent* event)
 {
-    // What was posted comes late: by now a form may be open, or the page be gone.
+    // The event was posted: by now a form may be open, or the page may be hidden.
     if (KorButtonKeys::isBlocked(this) || (window()->isVisible() && !isVisible()))
         return;
     const QList<QAbstractButton*> buttons = findChildren<QAbstractButton*>();
@@ -211,7 +211,7 @@ void KorTab::applyModel(QTableView* view, KorEntityModel* model)
     KorSortFilterProxyModel* proxy = createProxyModel();
     proxy->setSourceModel(model);
     if (firstTime) {
-        // Rows stand in the order of the list until somebody asks for another.
+        // Keep the list's own order until the user sorts.
         view->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
     }
     view->setModel(proxy);
@@ -251,7 +251,7 @@ void KorTab::restoreColumns(QTableView* view)
 
 void KorTab::setColumnWidths(QTableView* view, const QList<int>& widths)
 {
-    // Without widths of its own a page leaves the columns as wide as their rows need.
+    // Without widths the columns keep the width that their rows need.
     if (widths.isEmpty())
         return;
     for (int column = 0; column < widths.size(); ++column)

@@ -11,7 +11,7 @@ class KorEntityModel;
 class KorSortFilterProxyModel;
 class QTableView;
 
-/** Base of every working screen: a page of the main window's tab widget. */
+/** Base of every page: a widget in the main window's tab widget. */
 class KorTab : public QWidget
 {
     Q_OBJECT
@@ -19,13 +19,13 @@ class KorTab : public QWidget
 public:
     explicit KorTab(QWidget* parent = nullptr);
 
-    /** Asks the main window to take the page away, and closes it. */
+    /** Emits onclose(), on which the main window removes the page, and closes it. */
     void close();
-    /** A form or a question of the page is open: neither the page nor its rows may go from under it. */
+    /** True if the page has an open form or question: the page and its rows must not be deleted. */
     [[nodiscard]] static bool isBusy(const QWidget* page);
     /**
-     * Puts off what may not be done while the page is busy, until it is free or gone; false when nothing is in the
-     * way. The work goes with the context.
+     * Calls work later, when the page is no longer busy or is deleted; false, without calling it, if the page is not
+     * busy. Work is dropped if the context is deleted.
      */
     static bool putOff(const QWidget* page, QObject* context, const std::function<void()>& work);
 
@@ -33,37 +33,37 @@ signals:
     void onclose(QWidget* tab);
 
 public slots:
-    /** A double click on a row is the key F2, and so the button that has this shortcut. */
+    /** A double click presses the button that has the shortcut F2. */
     void doubleClickedSlot(const QModelIndex& index);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
-    /** The same for what the page does itself. */
+    /** The same for this page. */
     bool putOff(const std::function<void()>& work) { return putOff(this, this, work); }
 
-    /** A new sort proxy with the tab as parent. */
+    /** A new sort proxy, owned by the tab. */
     virtual KorSortFilterProxyModel* createProxyModel();
 
-    /** Shows the model in the grid, sortable and selectable by whole rows; widths and sort order stay as they were. */
+    /** Shows the model in the grid, sortable, with selection of whole rows; keeps column widths and sort order. */
     void applyModel(QTableView* view, KorEntityModel* model);
 
-    /** The widths that a person gave the columns; a page that sets widths of its own calls it afterwards. */
+    /** Restores the user's column widths; pages that set their own widths call it afterwards. */
     void restoreColumns(QTableView* view);
 
-    /** Widths on first sight, where what the rows need is not the best; the last column takes the rest of the grid. */
+    /** Default widths if fitting to rows is not good enough; the last column takes the rest of the grid. */
     static void setColumnWidths(QTableView* view, const QList<int>& widths);
-    /** A heading is read in full also where the font is larger than the one that the width was chosen for. */
+    /** Widened if needed to show the full heading, also in a larger font. */
     static void setColumnWidth(QTableView* view, int column, int width);
 
-    // The selected rows from top to bottom as the grid shows them.
+    // The selected rows from top to bottom.
     [[nodiscard]] static QList<int> selectedIds(const QTableView* view, const KorEntityModel* model);
     [[nodiscard]] static QList<int> selectedEntityIds(const QTableView* view, const KorEntityModel* model);
     [[nodiscard]] static QList<KorEntity*> selectedEntities(const QTableView* view, const KorEntityModel* model);
-    /** Makes the row of the record with this id the current one; false when the grid has none. */
+    /** Makes the record with this id the current row; false if there is none. */
     static bool selectEntity(QTableView* view, const KorEntityModel* model, int id);
 
-    /** What a double click posts presses the button with this shortcut; a real F2 has gone there already. */
+    /** Handles the F2 that a double click posts; a real F2 is handled as a shortcut before. */
     void keyPressEvent(QKeyEvent* event) override;
 
 private:

@@ -3,7 +3,7 @@
 class QWidget;
 
 /**
- * Makes the Tab key go from a widget on to the fields of a group, a page or a row of boxes, that was made later; the
- * group's fields keep their order among themselves.
+ * Inserts the fields of a group that was created later (a page, a row of boxes) into the tab order after a widget. The
+ * group's fields keep their order.
  */
 void putIntoTabOrder(QWidget* before, const QWidget* group);

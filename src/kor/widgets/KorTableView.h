@@ -3,7 +3,7 @@
 #include <QPointer>
 #include <QTableView>
 
-/** A grid inside a form: Tab hands the focus on to the next widget instead of walking the cells. */
+/** A grid inside a form: Tab moves to the next widget instead of the next cell. */
 class KorTableView : public QTableView
 {
     Q_OBJECT

@@ -27,7 +27,7 @@ KorTextBoxExtender::KorTextBoxExtender(QLineEdit* editor, KorBusinessLogic* busi
     : QWidget(editor), m_business(business), m_editor(editor), m_popup(std::make_unique<QTreeWidget>()),
       m_timer(new QTimer(this))
 {
-    // It is a child of the field, but must not lie over its text.
+    // A child of the field that must not cover its text.
     hide();
 
     m_popup->setWindowFlags(Qt::Popup);
@@ -49,7 +49,7 @@ KorTextBoxExtender::KorTextBoxExtender(QLineEdit* editor, KorBusinessLogic* busi
     m_timer->setSingleShot(true);
     m_timer->setInterval(searchDelay);
     connect(m_timer, &QTimer::timeout, this, [this] {
-        // No list over a form that has opened meanwhile, nor when it has led on to another field.
+        // Show no list over a form that has opened meanwhile, or after the focus has moved.
         if (!KorButtonKeys::isBlocked(m_editor) && m_editor->window()->focusWidget() == m_editor)
             autoSuggest();
     });
@@ -102,7 +102,7 @@ void KorTextBoxExtender::searchComplete()
 {
     m_popup->setPalette(m_editor->palette());
     m_popup->setUpdatesEnabled(false);
-    // A stretched column would count with the width that it was given last time.
+    // A stretched column would report its last width instead of the width it needs.
     m_popup->header()->setStretchLastSection(false);
     fillPopup();
     m_popup->adjustSize();
@@ -146,7 +146,7 @@ void KorTextBoxExtender::placePopup()
 
     QPoint corner = m_editor->mapToGlobal(QPoint(0, m_editor->height()));
     const QRect screen = m_editor->screen()->availableGeometry();
-    // Above the field where the screen ends too early below it.
+    // Above the field if there is no room below.
     const int above = corner.y() - m_editor->height() - m_popup->height();
     if (corner.y() + m_popup->height() > screen.bottom() && above >= screen.top())
         corner.setY(above);
@@ -167,7 +167,7 @@ void KorTextBoxExtender::choose(int row)
     m_currentRow = row;
     rowChosen(m_currentRow);
     m_editor->setText(selectedText(m_currentRow));
-    // What the form does on Return may close it, and this box with it.
+    // The slot for returnPressed may close the form and delete this object.
     const QPointer<KorTextBoxExtender> alive(this);
     QMetaObject::invokeMethod(m_editor, "returnPressed");
     if (!alive)
@@ -179,7 +179,7 @@ void KorTextBoxExtender::choose(int row)
 
 bool KorTextBoxExtender::eventFilter(QObject* watched, QEvent* event)
 {
-    // While the list is open these keys are its own: they must not press the search or close button of the page.
+    // While the list is open, these keys belong to it and must not press the page's search or close button.
     if (event->type() == QEvent::ShortcutOverride && m_popup->isVisible() &&
         endsTheChoice(*static_cast<QKeyEvent*>(event))) {
         event->accept();
@@ -195,7 +195,7 @@ bool KorTextBoxExtender::eventFilter(QObject* watched, QEvent* event)
         return true;
     }
     if (watched == m_editor && event->type() == QEvent::FocusOut) {
-        // Whoever has gone on would find the list in the way, and the next field's keys would land in this one.
+        // After the focus has moved on, the list would be in the way and take the keys of the next field.
         const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
         if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::MouseFocusReason)
             m_timer->stop();
@@ -254,7 +254,7 @@ bool KorTextBoxExtender::popupKey(QKeyEvent* event)
         return true;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        // It hides the list and gives the focus back before the form hears of the choice.
+        // Hides the list and returns the focus before the form is notified of the choice.
         doneCompletion();
         return true;
     default:

@@ -16,8 +16,8 @@ class QTimer;
 class QTreeWidget;
 
 /**
- * Makes a form's line edit find records while the user types: half a second after the last key it searches, and shows
- * the rows in a list below the field. A subclass tells how to search and what stands in the rows.
+ * Lets a line edit find records while the user types: half a second after the last key it searches and lists the rows
+ * below the field. A subclass does the search and fills the rows.
  */
 class KorTextBoxExtender : public QWidget
 {
@@ -29,7 +29,7 @@ public:
 
     virtual void search(const QString& text);
     [[nodiscard]] virtual QVariant rowText(int row, int column) const;
-    /** What goes into the line edit when this row is chosen; without a subclass's word, the first column's text. */
+    /** The text for the line edit when this row is chosen; by default the first column's text. */
     [[nodiscard]] virtual QString selectedText(int row) const;
 
     void setColumnCount(int count);
@@ -38,15 +38,15 @@ public:
     [[nodiscard]] int rowCount() const { return m_rowCount; }
     void setHeaderLabels(const QStringList& labels);
     void setResult(QAbstractItemModel* result);
-    /** -1 as long as nothing is chosen. */
+    /** -1 if nothing is chosen. */
     [[nodiscard]] int selectedRow() const { return m_currentRow; }
     /** The widget that gets the focus after a choice. */
     void setNextWidget(QWidget* widget) { m_nextWidget = widget; }
     [[nodiscard]] QWidget* nextWidget() const { return m_nextWidget; }
 
     /**
-     * How the form itself takes the code that stands in the box, if it knows better than the search: false lets the
-     * list come up. Enter belongs to the box as long as the code is not taken, also when it was not typed just now.
+     * Lets the form take the code in the box itself. If taker returns false, the list opens. Until isTaken returns
+     * true, Enter belongs to the box, even if the code was not typed just now.
      */
     void setTaker(std::function<bool()> taker, std::function<bool()> isTaken)
     {
@@ -62,27 +62,27 @@ signals:
     void onItemSelected();
 
 public slots:
-    /** Takes the current row of the list as the user's choice. */
+    /** Chooses the current row of the list. */
     void doneCompletion();
-    /** Drops a search that is due. A form that sets the text on its own calls it, so that no list follows. */
+    /** Cancels a pending search. Forms call it when they set the text, so that no list opens. */
     void preventSuggest();
     void autoSuggest();
-    /** Shows what the search has found. */
+    /** Shows the search result. */
     void searchComplete();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
-    /** A row has been chosen, -1 for none; called before the text goes into the line edit. */
+    /** Called when a row is chosen (-1 for none), before the line edit's text is set. */
     virtual void rowChosen(int row);
-    /** Searches without showing the list; the row whose code is just this text, or -1. */
+    /** Searches without showing the list; the row whose code equals the text, or -1. */
     [[nodiscard]] virtual int findExact(const QString& text);
 
 private:
     void fillPopup();
     void placePopup();
     bool popupKey(QKeyEvent* event);
-    /** Whether Enter is the box's own: it has a text that nothing was made of yet. */
+    /** Whether Enter belongs to the box: it has a text that was not taken yet. */
     [[nodiscard]] bool wantsEnter(const QKeyEvent& key) const;
     void takeTyped();
     void choose(int row);

@@ -12,7 +12,7 @@
 
 namespace
 {
-/** Takes any text, without its NULs; a line asks it before it tells anyone of a change. */
+/** Accepts any text but removes NULs; a line edit asks its validator before it signals a change. */
 class WithoutNul final : public QValidator
 {
 public:
@@ -50,7 +50,7 @@ void KorTextGuard::watch()
 
 bool KorTextGuard::eventFilter(QObject* watched, QEvent* event)
 {
-    // Once a widget, before it is seen for the first time. A box with a validator of its own takes no such text anyway.
+    // Once per widget, before it is shown. A box with its own validator does not accept NUL anyway.
     if (event->type() == QEvent::Polish) {
         if (auto* line = qobject_cast<QLineEdit*>(watched)) {
             if (!line->validator())

@@ -3,8 +3,8 @@
 #include <QObject>
 
 /**
- * Drops the character NUL wherever a text is typed or pasted: in every line, editable list and note of the program at
- * once. The database can not store it, and a statement would end at it. One object watches over the whole program.
+ * Removes the character NUL from typed and pasted text in all line edits, editable lists and notes. The database cannot
+ * store it, and a statement would end at it. One event filter serves the whole program.
  */
 class KorTextGuard final : public QObject
 {

@@ -9,7 +9,7 @@
 
 namespace
 {
-/** A child of the application, which writes it out when it ends. */
+/** A child of the application; it is written to disk when it is deleted. */
 QPointer<QSettings>& memoryFile()
 {
     static QPointer<QSettings> file;
@@ -31,7 +31,7 @@ void KorViewMemory::restoreSize(QWidget* form)
     const QSize size = memoryFile() ? memoryFile()->value(sizeKey(form)).toSize() : QSize();
     if (!size.isValid())
         return;
-    // The screen may have been a larger one then.
+    // The screen may be smaller now.
     form->resize(size.boundedTo(form->screen()->availableSize()));
 }
 
@@ -63,7 +63,7 @@ QString KorViewMemory::key(int column) const
 
 void KorViewMemory::restore() const
 {
-    // The last column takes what the others leave.
+    // Not the last column: it takes the rest.
     for (int column = 0; column < m_view->model()->columnCount() - 1; ++column) {
         const int width = memoryFile()->value(key(column)).toInt();
         if (width > 0)

@@ -5,8 +5,8 @@
 class QTableView;
 
 /**
- * What a person at this workstation has pulled into shape, kept in a file of its own: the sizes of forms and the
- * widths of grid columns. While no file is named, nothing is remembered.
+ * The sizes of forms and the column widths that the user has set on this workstation, stored in their own file. Without
+ * a file name nothing is remembered.
  */
 class KorViewMemory final : public QObject
 {
@@ -15,11 +15,11 @@ class KorViewMemory final : public QObject
 public:
     static void setFile(const QString& path);
 
-    /** Gives the form the size that it was left in; nothing where it never was. */
+    /** Restores the form's last size; does nothing if none is stored. */
     static void restoreSize(QWidget* form);
     static void rememberSize(const QWidget* form);
 
-    /** Gives the columns the widths that a person gave them, and notes from now on what is pulled by hand. */
+    /** Restores the columns' stored widths, and stores later changes by hand. */
     static void restoreColumns(QTableView* view, const QString& page);
 
 private:

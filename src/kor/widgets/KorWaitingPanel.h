@@ -5,18 +5,18 @@
 class QLabel;
 class QPushButton;
 
-/** The veil over a window whose program waits for the server, with what it waits for and the button that ends it. */
+/** Covers a window while the program waits for the server; shows what it waits for and the button that stops it. */
 class KorWaitingPanel final : public QWidget
 {
     Q_OBJECT
 
 public:
-    /** Covers the window; without one it is a window of its own in the middle of the screen. */
+    /** Covers the window; without one it is a separate window in the middle of the screen. */
     explicit KorWaitingPanel(QWidget* window);
 
     void tell(const QString& holders);
     void offerStop(bool offered);
-    /** Whether the button is there and this place of the screen lies on it. */
+    /** True if the stop button is shown and this screen position is on it. */
     [[nodiscard]] bool isStopAt(const QPoint& place) const;
     [[nodiscard]] bool offersStop() const;
 

@@ -11,7 +11,7 @@ namespace
 {
 constexpr qint64 stopAfterMilliseconds = 5000;
 
-/** The window that a person works in: what lies below a form is covered by being blocked. */
+/** The active window; windows below a modal form are blocked anyway. */
 QWidget* windowInUse()
 {
     if (QWidget* form = QApplication::activeModalWidget())
@@ -55,7 +55,7 @@ bool isOfHands(const QEvent& event)
     }
 }
 
-/** A box that gets or loses the cursor looks up what was typed into it. */
+/** Focus changes look up what was typed into a box, so they must wait. */
 bool isOfCursor(const QEvent& event)
 {
     switch (event.type()) {
@@ -100,7 +100,7 @@ void KorWaitingSign::begin()
 bool KorWaitingSign::goOn(const KorServerWait& wait)
 {
     m_end.stop();
-    // A form may have been closed between two calls.
+    // Its window may have been closed between two calls.
     if (m_panel && !m_panel->isVisible())
         delete m_panel;
     if (!m_panel)
@@ -115,8 +115,8 @@ bool KorWaitingSign::goOn(const KorServerWait& wait)
 
 void KorWaitingSign::paint()
 {
-    // What hands have done is taken off the queue and thrown away. Timers and sockets wait: what they start may speak
-    // to the database.
+    // Removes key and mouse events from the queue and drops them. Timers and sockets wait, since their slots may use
+    // the database.
     qApp->installEventFilter(this);
     QCoreApplication::processEvents(QEventLoop::ExcludeSocketNotifiers | QEventLoop::X11ExcludeTimers);
     qApp->removeEventFilter(this);
@@ -126,7 +126,7 @@ void KorWaitingSign::ended()
 {
     paint();
     m_stopped = false;
-    // It stays over the calls that follow at once, and goes as soon as timers run again.
+    // It stays visible for calls that follow at once, and ends when timers run again.
     m_end.start(0);
 }
 
@@ -158,7 +158,7 @@ bool KorWaitingSign::eventFilter(QObject* watched, QEvent* event)
     if (!isOfHands(*event))
         return QObject::eventFilter(watched, event);
     m_stopped = m_stopped || isStop(event);
-    // Accepted, so that no other event is made of it.
+    // Accepted, so that Qt does not turn it into another event.
     event->setAccepted(event->type() != QEvent::Close);
     return true;
 }

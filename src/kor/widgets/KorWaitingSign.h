@@ -12,16 +12,16 @@ class KorWaitingPanel;
 class QWidget;
 
 /**
- * "Waiting for the server..." over the window in use, for as long as a statement of the program waits. The windows keep
- * painting. Nothing that is typed or pressed meanwhile counts, but "Stop waiting", which appears after five seconds; no
- * timer fires, and no box gets or loses the cursor, so that nothing runs into the middle of a save.
+ * Shows "Waiting for the server..." over the active window while a statement waits. Windows still repaint. Keys and
+ * clicks are dropped, except on "Stop waiting", which appears after five seconds. No timer fires and no box gets or
+ * loses the focus, so that nothing runs in the middle of a save.
  */
 class KorWaitingSign final : public QObject, public KorServerWatcher
 {
     Q_OBJECT
 
 public:
-    /** Shows it from now on, for the whole program. */
+    /** Installs it for the whole program. */
     static void watch();
     ~KorWaitingSign() override;
 
@@ -37,10 +37,10 @@ private:
     void begin();
     void end();
     void paint();
-    /** Whether this press, tap or key means "Stop waiting". */
+    /** True if this key, click or tap means "Stop waiting". */
     [[nodiscard]] bool isStop(QEvent* event) const;
 
-    // A child of the window that it covers, or a window of its own before there is one.
+    // A child of the window that it covers, or a separate window if there is none.
     QPointer<KorWaitingPanel> m_panel;
     bool m_stopped = false;
     bool m_busy = false;
