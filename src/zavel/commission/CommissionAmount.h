@@ -7,7 +7,7 @@
 class EntityKomisiAgenDetail;
 class Invoice;
 
-/** An agent's share of the invoice's total, as much of it as is stored. */
+/** The agent's share of the invoice's total, rounded as it is stored. */
 [[nodiscard]] std::unique_ptr<Money> commissionOf(const Invoice& invoice, double percent);
-/** Gives the line this percent, and the commission that follows from it. */
+/** Sets the line's percent and the commission calculated from it. */
 void setCommission(EntityKomisiAgenDetail* line, double percent);

@@ -4,9 +4,9 @@
 
 #include <QDate>
 
-// Both dates count; 0, KorNoValue and an empty text leave all.
+// Both dates are inclusive; 0, KorNoValue and an empty text match everything.
 
-/** What the list of commissions paid is narrowed to. */
+/** The filter of the list of commission payments. */
 struct CommissionFilter
 {
     QDate from;
@@ -15,7 +15,7 @@ struct CommissionFilter
     QString number;
 };
 
-/** What the list of all that agents earned is narrowed to. */
+/** The filter of the list of invoices with the commissions that agents earn. */
 struct AgentSalesFilter
 {
     QDate from;

@@ -7,7 +7,7 @@ class DataMapperInvoice;
 class EntityAllKomisiAgen;
 struct AgentSalesFilter;
 
-/** Reads all invoices with the agents that they name and whether the commission is paid. It has no table. */
+/** Reads the invoices that have an agent, and whether the commission is paid. It has no table of its own. */
 class DataMapperAllAgentCommision final : public AppDataMapper
 {
     Q_OBJECT
@@ -18,7 +18,7 @@ public:
     KorEntity* createEntity() override;
     bool createTable(int) override { return true; }
     [[nodiscard]] QString selectStatement() const override;
-    /** The invoices that agents brought, or the one agent; the latest first. */
+    /** The invoices of all agents or of one agent, the latest first. */
     [[nodiscard]] QList<EntityAllKomisiAgen*> search(const AgentSalesFilter& filter);
     using AppDataMapper::fillFromRow;
     KorEntity* fillFromRow(KorQuery& query, KorEntity* entity) override;

@@ -8,7 +8,7 @@ class EntityKomisiAgenDetail;
 
 /**
  * The commissions paid for invoices, in the table "komisi_agen_detail". The invoice has no foreign key: a sale may be
- * deleted, and its commission lines then stay in the table but are read no more.
+ * deleted, and its commission lines then stay in the table but are no longer read.
  */
 class DataMapperKomisiAgenDetail final : public AppLineMapper
 {

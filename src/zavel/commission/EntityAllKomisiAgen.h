@@ -3,7 +3,7 @@
 #include "pos/invoice/Invoice.h"
 #include "pos/masterdata/agent/EntityAgent.h"
 
-/** An invoice that an agent brought, with the commission at the agent's present percent. It is read, never stored. */
+/** An invoice with an agent, and the commission at the agent's current percent. Only read, never stored. */
 class EntityAllKomisiAgen : public KorEntity
 {
     Q_OBJECT

@@ -42,7 +42,7 @@ TabAllKomisiAgen::TabAllKomisiAgen(QWidget* parent)
         button(unused)->setShortcut({});
         button(unused)->hide();
     }
-    // Nothing is added here: it opens what belongs to the row, and so has the key of a double click.
+    // The "Add" button pays here: it opens a form for the selected row. Its key is F2, which a double click sends too.
     QPushButton* pay = button("btnAdd");
     pay->setText(tr("Pay"));
     pay->setIcon(QIcon(":/icons/pay.png"));

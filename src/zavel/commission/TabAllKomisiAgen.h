@@ -9,7 +9,7 @@ class QDateEdit;
 template <typename Entity>
 class RecordField;
 
-/** The invoices that agents brought: what each earns, and whether it was paid. Paying opens the commission form. */
+/** The invoices with an agent: the commission of each, and whether it was paid. "Pay" opens the commission form. */
 class TabAllKomisiAgen final : public AppListTab
 {
     Q_OBJECT
@@ -18,7 +18,7 @@ public:
     explicit TabAllKomisiAgen(QWidget* parent = nullptr);
 
 public slots:
-    /** Pays the selected invoice's agent, or opens the payment that did. */
+    /** Pays the agent of the selected invoice, or opens the payment that already paid it. */
     void on_btnAdd_clicked() override;
 
 protected:

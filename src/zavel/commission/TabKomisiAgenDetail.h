@@ -11,7 +11,7 @@ public:
     explicit TabKomisiAgenDetail(QWidget* parent = nullptr);
 
 public slots:
-    /** Takes the selected invoices off the payment; they stay unpaid. */
+    /** Removes the selected invoices from the payment; they stay unpaid. */
     void on_pushButton_clicked();
     void on_btnSetPerc_clicked();
 

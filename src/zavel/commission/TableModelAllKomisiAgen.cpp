@@ -12,10 +12,10 @@ TableModelAllKomisiAgen::TableModelAllKomisiAgen(const QList<KorEntity*>& sales,
     addDate<Sale>(tr("Date"), [](const Sale& sale) { return sale.getInvoice()->getInvoiceDate(); });
     addField<Sale>(QMetaType::QString, tr("Agent Name"), [](const Sale& sale) { return sale.getAgent()->getNama(); });
     addMoney<Sale>(tr("Invoice Total"), [](const Sale& sale) { return sale.getInvoice()->getGrandTotal(); });
-    // Today's percent, also where the commission was paid at another one.
+    // The agent's current percent, even if the commission was paid at another one.
     addPercent<Sale>(tr("% Commision"), [](const Sale& sale) { return sale.getAgent()->getCommisionPerc(); });
     addMoney<Sale>(tr("Total Commision"), [](const Sale& sale) { return sale.getCommision(); });
-    // Its numbers are those of an invoice.
+    // The status uses the same values as an invoice's status.
     addField<Sale>(QMetaType::QString, tr("Status"),
                    [](const Sale& sale) { return invoiceStatusText(sale.getStatus()); });
 }

@@ -5,7 +5,7 @@
 #include <QHash>
 #include <QIcon>
 
-/** The invoices that agents brought, with what they earn by them. */
+/** The invoices with an agent, with the commission of each. */
 class TableModelAllKomisiAgen final : public AppEntityModel
 {
     Q_OBJECT

@@ -36,7 +36,7 @@ QString DataMapperInvoiceMakanDitempat::keyName() const { return Invoice::Dine; 
 
 DataMapperInvoiceLink::Messages DataMapperInvoiceMakanDitempat::messages() const
 {
-    // An update speaks with the words of an insert.
+    // An update reports its failures with the texts of an insert.
     const QString header = tr("error: insert dine invoice failed ");
     const QString lines = tr("error: insert dine invoice detail failed.\r\n");
     return {header, lines, header, lines};

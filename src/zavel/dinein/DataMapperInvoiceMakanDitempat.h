@@ -19,7 +19,7 @@ public:
 
     /** All invoices of the order with their lines, in a fixed number of statements. */
     [[nodiscard]] QList<EntityInvoiceMakanDitempat*> findByOrder(int orderId);
-    /** The same without lines and without the order: what a sum of money needs, in one statement. */
+    /** The same without lines and without the order, in one statement: enough to add up amounts. */
     [[nodiscard]] QList<EntityInvoiceMakanDitempat*> findMoneyOfOrder(int orderId);
 
 protected:

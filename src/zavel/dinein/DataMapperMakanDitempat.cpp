@@ -33,7 +33,7 @@ QStringList DataMapperMakanDitempat::indexStatements() const
 QList<EntityMakanDitempat*> DataMapperMakanDitempat::getMakanDitempatList(int status, const QString& text)
 {
     KorConditions conditions;
-    // The wording is the board's own: without brackets the text narrows the last of the alternatives alone.
+    // There are no parentheses around the "or" on purpose: the text filters only the last alternative.
     conditions.holds(openOrders() + (status == 0 ? QString() : QString(" or status = %1").arg(status)));
     if (!text.isEmpty())
         conditions.equals({"lower(meja.kode)", "lower(meja.nama)"}, text);
@@ -55,7 +55,7 @@ bool DataMapperMakanDitempat::insertAtFreeTable(EntityMakanDitempat* order)
 
 QStringList DataMapperMakanDitempat::locksOfInsert(const KorEntity& order) const
 {
-    // Of two waiters at the same moment the second waits here, and then sees the order of the first.
+    // Locks the table's row: a second waiter waits here and then finds the first one's order.
     const auto& placed = static_cast<const EntityMakanDitempat&>(order);
     return m_asksForTable ? QStringList{m_tables->lockOf(placed.getMeja()->getId())} : QStringList();
 }
@@ -65,7 +65,7 @@ bool DataMapperMakanDitempat::beforeInsert(KorEntity* order)
     if (!m_asksForTable)
         return true;
     const auto* placed = static_cast<const EntityMakanDitempat*>(order);
-    // The code goes out as it is written and meets lowered ones, so a code with a capital finds no order.
+    // The code is compared with lower(kode) but not lowered itself, so a code with capital letters finds no order.
     const QList<EntityMakanDitempat*> open = getMakanDitempatList(0, placed->getMeja()->getKode());
     m_foundTaken = std::any_of(open.cbegin(), open.cend(), [placed](const EntityMakanDitempat* other) {
         return other->getMeja()->getId() == placed->getMeja()->getId() && other->getId() != placed->getId();

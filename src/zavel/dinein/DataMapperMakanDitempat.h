@@ -18,13 +18,13 @@ public:
     [[nodiscard]] QStringList indexStatements() const override;
 
     /**
-     * The open orders, and with a status other than 0 those in it as well. A text narrows to the table of exactly
-     * this code or name; it is compared as it comes with the lowered ones, so the caller lowers it, or does not.
+     * The open orders; with a status other than 0 also the orders in that status. A text matches the table with exactly
+     * this code or name. It is compared with their lower-case form, so the caller has to pass it in lower case.
      */
     [[nodiscard]] QList<EntityMakanDitempat*> getMakanDitempatList(int status, const QString& text);
-    /** Inserts the order unless somebody sits at its table: asked and written under one lock of the table. */
+    /** Inserts the order unless its table has an open one. Check and insert run under a lock of the table's row. */
     bool insertAtFreeTable(EntityMakanDitempat* order);
-    /** Why the last of these was refused. */
+    /** Whether the last insertAtFreeTable() was refused because the table has an open order. */
     [[nodiscard]] bool foundTableTaken() const { return m_foundTaken; }
 
 protected:

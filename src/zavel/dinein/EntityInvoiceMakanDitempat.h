@@ -3,7 +3,7 @@
 #include "pos/invoice/EntityInvoiceLink.h"
 #include "zavel/dinein/EntityMakanDitempat.h"
 
-/** Ties an invoice to the order on a table; an order that is paid apart has several. */
+/** Links an invoice to an order on a table; an order whose bill is split has several. */
 class EntityInvoiceMakanDitempat final : public EntityInvoiceLink
 {
     Q_OBJECT

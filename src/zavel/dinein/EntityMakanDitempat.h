@@ -3,19 +3,19 @@
 #include "zavel/order/EntityOrder.h"
 #include "zavel/tables/EntityMeja.h"
 
-/** An order that stands on a table. */
+/** An order on a table. */
 class EntityMakanDitempat final : public EntityOrder
 {
     Q_OBJECT
     KOR_REFERENCE(EntityMeja, Meja)
-    /** The codes of the tables that the order came from, joined by ">". */
+    /** The codes of the tables that the order was on before, joined by ">". */
     KOR_PROPERTY(QString, PindahMeja, QString())
 
 public:
     using EntityOrder::EntityOrder;
 
-    /** Puts the order on another table and notes the one that it leaves. */
+    /** Moves the order to another table and records the table that it leaves. */
     void moveTo(EntityMeja* table);
-    /** The code of its table, and in front of it those that the order has left: "A>B". */
+    /** The codes of the former tables and of the current one: "A>B". */
     [[nodiscard]] QString tableTrail() const;
 };

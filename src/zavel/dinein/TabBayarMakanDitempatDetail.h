@@ -7,7 +7,7 @@
 class QCheckBox;
 class QPushButton;
 
-/** The lines in the payment form of a table, where a party that pays apart takes quantities off them. */
+/** The lines in the payment form of a table, from which quantities can be split off to separate invoices. */
 class TabBayarMakanDitempatDetail final : public InvoiceLinesTab
 {
     Q_OBJECT
@@ -15,9 +15,9 @@ class TabBayarMakanDitempatDetail final : public InvoiceLinesTab
 public:
     explicit TabBayarMakanDitempatDetail(QWidget* parent = nullptr);
 
-    /** Whether a quantity was taken off a line and has no invoice of its own yet. */
+    /** Whether a quantity was split off a line and has no invoice of its own yet. */
     [[nodiscard]] bool hasPendingSplit() const;
-    /** Shows what is split off, and the buttons that split. */
+    /** Shows the columns of the split-off quantities and the buttons for splitting. */
     void showSplit();
 
 signals:
@@ -35,7 +35,7 @@ protected:
 
 private:
     QPushButton* addButton(const QString& name, const QString& text, const QString& hint);
-    /** False when the user left the form, which ends the walk over the selected lines. */
+    /** False when the user cancelled the form; the remaining selected lines are then skipped. */
     bool splitLine(EntityInvoiceDetail* line);
 
     QCheckBox* m_showSplit;

@@ -23,7 +23,7 @@ namespace
 {
 const EntityMeja* tableOf(const EntityOrder& row) { return static_cast<const EntityMakanDitempat&>(row).getMeja(); }
 
-/** Every table with its orders, and where it has none with a placeholder, which goes to the pool of the rows. */
+/** One row per open order, and one placeholder row, owned by the pool, for each table without an order. */
 QList<KorEntity*> boardRows(const QList<EntityMakanDitempat*>& orders, const QList<KorEntity*>& tables, QObject* pool)
 {
     QHash<int, QList<KorEntity*>> ordersOf;
@@ -76,7 +76,7 @@ OrderBoardModel* TabMakanDitempat::createModel(const QList<KorEntity*>& rows)
     return new TableModelMakanDitempat(rows, this);
 }
 
-// A free table's row has no id of its own, so the table is what the cursor stays on.
+// A free table's row has no id of its own, so the selection is kept by table.
 int TabMakanDitempat::placeOf(const EntityOrder& row) const { return tableOf(row)->getId(); }
 
 QString TabMakanDitempat::tableCodeOf(const EntityOrder& order) const { return tableOf(order)->getKode(); }
@@ -96,7 +96,7 @@ void TabMakanDitempat::on_btnAdd_clicked()
 {
     if (!hasAccess(businessName, BusinessPenjualan::TAMBAH_PESANAN))
         return;
-    // The rows stay as long as the forms that show their tables.
+    // Keeps the rows alive while the forms use their tables.
     EntityPool read;
     const EntityPoolScope scope(read);
     const QList<EntityOrder*> rows = selectedOrders();
@@ -140,7 +140,7 @@ void TabMakanDitempat::addToOrder(const EntityMakanDitempat& row)
     dialog.showOpenOrder(row);
     EntityMakanDitempat* stored = nullptr;
     dialog.setSaver([&] {
-        // Read at the last moment: another waiter may have added to it while this one was typing.
+        // Read just before saving: another waiter may have changed the order meanwhile.
         stored = static_cast<EntityMakanDitempat*>(readOrder(row.getId(), pool));
         if (!stored)
             return false;

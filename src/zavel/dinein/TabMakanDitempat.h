@@ -10,7 +10,7 @@ namespace Ui
 class TabMakanDitempat;
 }
 
-/** The board: every table with the order that stands on it, and all that is done with an order until the guests go. */
+/** The board: every table with its open order, and all actions on an order until the guests leave. */
 class TabMakanDitempat final : public OrderBoard
 {
     Q_OBJECT
@@ -25,7 +25,7 @@ public slots:
     void on_btnPrint_clicked();
 
 protected:
-    /** Three statements, whatever stands on the tables. */
+    /** Three statements, independent of the number of orders. */
     bool readRows(QList<KorEntity*>* rows, QObject* pool) override;
     OrderBoardModel* createModel(const QList<KorEntity*>& rows) override;
     [[nodiscard]] int placeOf(const EntityOrder& row) const override;

@@ -14,7 +14,7 @@ class TabSelectSplitInvoice final : public AppTab
 public:
     explicit TabSelectSplitInvoice(const QList<EntityInvoiceMakanDitempat*>& invoices, QWidget* parent = nullptr);
 
-    /** Null while no row is chosen. */
+    /** Null if no row is selected. */
     [[nodiscard]] EntityInvoiceMakanDitempat* selectedInvoice() const;
 
 signals:

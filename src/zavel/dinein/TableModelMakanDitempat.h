@@ -12,6 +12,6 @@ public:
 
     TableModelMakanDitempat(const QList<KorEntity*>& orders, QObject* parent);
 
-    /** The word for an order's status; empty for a number that is none. */
+    /** The text for an order's status; empty for an unknown number. */
     [[nodiscard]] static QString statusText(int status);
 };

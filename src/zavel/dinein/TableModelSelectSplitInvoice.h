@@ -2,7 +2,7 @@
 
 #include "app/widgets/AppEntityModel.h"
 
-/** The invoices of one order, to choose among. */
+/** The invoices of one order, to choose one from. */
 class TableModelSelectSplitInvoice final : public AppEntityModel
 {
     Q_OBJECT

@@ -49,7 +49,7 @@ QList<EntityInvoiceFastFood*> DataMapperInvoiceFastFood::getFastFoodList(const F
     qDebug() << "from date" << filter.from.toString(Qt::ISODate);
     qDebug() << "to date" << filter.to.toString(Qt::ISODate);
     qDebug() << "status id" << filter.status;
-    // Within a day as well: the sale that was just made stands on top.
+    // Also sorted by id, so that within a day the latest sale comes first.
     return castAll<EntityInvoiceFastFood>(findLinks(KorConditions()
                                                         .between("invoice.invoice_date", filter.from, filter.to)
                                                         .only("status", filter.status, 0)

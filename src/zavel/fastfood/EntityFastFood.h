@@ -5,7 +5,7 @@
 
 class EntityInvoiceDetail;
 
-/** A sale over the counter while it is being keyed in. It has no table: stored are the invoice and its lines. */
+/** A sale over the counter while it is being entered. It has no table; its invoice and the lines are stored. */
 class EntityFastFood final : public KorEntity
 {
     Q_OBJECT
@@ -18,11 +18,11 @@ public:
     using Lines = EntityOrder::Lines;
     using KorEntity::KorEntity;
 
-    /** The lines of a stored invoice as lines that can be changed; they belong to the sale. */
+    /** The lines of a stored invoice as editable lines, owned by the sale. */
     [[nodiscard]] Lines takeLines(const QList<EntityInvoiceDetail*>& stored);
-    /** What was keyed in, as the invoice has it: at the total that the guest was told. */
+    /** Converts the entered lines into invoice lines, with the totals that the guest was shown. */
     void setLines(const Lines& lines);
-    /** They live until the next lines are set. */
+    /** Valid until the next setLines(). */
     [[nodiscard]] const QList<EntityInvoiceDetail*>& invoiceLines() const { return m_invoiceLines; }
 
 private:

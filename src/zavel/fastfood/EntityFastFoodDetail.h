@@ -2,7 +2,7 @@
 
 #include "zavel/order/EntityOrderDetail.h"
 
-/** One line of a sale over the counter while it is being keyed in; stored is the line of its invoice. */
+/** One line of a sale over the counter while it is being entered; only the invoice's line is stored. */
 class EntityFastFoodDetail final : public EntityOrderDetail
 {
     Q_OBJECT

@@ -2,7 +2,7 @@
 
 #include "pos/invoice/EntityInvoiceLink.h"
 
-/** Ties an invoice to its sale over the counter, which leaves no other trace. */
+/** Marks an invoice as a sale over the counter; such a sale has no order record. */
 class EntityInvoiceFastFood final : public EntityInvoiceLink
 {
     Q_OBJECT

@@ -3,7 +3,7 @@
 #include <QDate>
 #include <QString>
 
-/** What the counter's list is narrowed to. Both dates count; 0 stands for every status, an empty code for anybody. */
+/** The filter of the counter's list. Both dates are inclusive; status 0 and an empty code match everything. */
 struct FastFoodFilter
 {
     QDate from;

@@ -57,7 +57,7 @@ void TabFastFood::nameButtons()
 {
     const auto rename = [this](const char* name, const QString& text) {
         QPushButton* named = button(name);
-        // A new text takes the key away.
+        // setText() clears the shortcut.
         const QKeySequence key = named->shortcut();
         named->setText(text);
         named->setShortcut(key);
@@ -102,7 +102,7 @@ KorEntityModel* TabFastFood::createModel(const QList<KorEntity*>& rows) { return
 
 void TabFastFood::modelApplied()
 {
-    // The names give way to the money and the date, which are never cut.
+    // The names get less width than the amounts and the date, which must not be cut off.
     setColumnWidths(grid(), {135, 140, 125, 150, 150, 115, 150});
 }
 
@@ -140,8 +140,8 @@ QString TabFastFood::notFoundText(int id) const { return tr("Can not find entity
 
 bool TabFastFood::editEntity(KorEntity* sale)
 {
-    // To take money is one right, to touch what somebody has sold already is another one. A sale of somebody else's
-    // is passed over, and the walk goes on.
+    // Changing a sale needs another right than taking a payment. A sale that the user may not change is skipped, and
+    // the remaining selected ones are opened.
     return !hasAccess(businessName, BusinessPenjualan::UBAH_PESANAN, sale) || AppListTab::editEntity(sale);
 }
 

@@ -8,7 +8,7 @@ class QComboBox;
 class QDateEdit;
 class QLabel;
 
-/** The page of the counter: takes a sale and its money in one form, and lists what was sold. */
+/** The page of the counter: enters a sale and its payment in one form, and lists the sales. */
 class TabFastFood final : public AppListTab
 {
     Q_OBJECT
@@ -41,7 +41,7 @@ private:
     void makeFilters();
     void nameButtons();
     void makeChangeRow();
-    /** The form has gone with the sale; its change stays in sight until the next one begins. */
+    /** Shows the change of the saved sale after its form has closed, until the next sale begins. */
     void showChange(const EntityInvoiceFastFood& sale);
 
     QDateEdit* m_from = nullptr;

@@ -37,7 +37,7 @@ QVariant TableModelFastFood::data(const QModelIndex& index, int role) const
     const auto* sale = index.isValid() ? static_cast<const EntityInvoiceFastFood*>(entityAt(index.row())) : nullptr;
     if (sale && role == Qt::DecorationRole && index.column() == Status)
         return m_marks.value(sale->getInvoice()->getStatus());
-    // A long sale does not fit into its cell.
+    // A long list of items does not fit into the cell.
     if (role == Qt::ToolTipRole && index.column() == Menu)
         return data(index);
     return AppEntityModel::data(index, role);

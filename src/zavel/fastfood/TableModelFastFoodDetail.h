@@ -11,6 +11,6 @@ public:
     using OrderLinesModel::OrderLinesModel;
 
 protected:
-    /** No kitchen reports about them. */
+    /** Kitchens do not report on these lines. */
     [[nodiscard]] QString statusText(const EntityOrderDetail&) const override { return tr("None"); }
 };

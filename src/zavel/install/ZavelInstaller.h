@@ -6,8 +6,8 @@ class BusinessAgent;
 class BusinessMeja;
 
 /**
- * The installer of the whole program. A caller sets type and logger, connects onProgress() and error(), and calls
- * process(), or moves it to a thread whose start does.
+ * The installer of the whole program. The caller sets type and logger, connects onProgress() and error(), and calls
+ * process(), or moves the installer to a thread whose started() signal is connected to process().
  */
 class ZavelInstaller final : public PosInstaller
 {
@@ -19,7 +19,7 @@ public:
     void addMappers() override;
     void insertInitialData() override;
     void registerPermissions() override;
-    /** Raises the version last of all, so that an update which was broken off is offered again. */
+    /** Raises the stored version as the last step, so that an interrupted update is offered again. */
     void recordCompletion() override;
 
 private:

@@ -17,7 +17,7 @@ EntityQueue* queued(OrderKind kind, EntityOrder* order)
     row->setId(order->getId());
     row->setType(kind);
     row->setOrder(order);
-    // Nothing has changed a fresh order yet: it waits since it was taken.
+    // A new order has no update time yet: it has been waiting since it was created.
     row->setDateTime(order->getUpdatedTime().isValid() ? order->getUpdatedTime() : order->getCreatedTime());
     return row;
 }
@@ -42,7 +42,7 @@ bool writeKitchenStatus(KorDataMapper* lines, int id, const QString& text, QStri
 QList<EntityQueue*> BusinessPenjualan::getQueue(const QString& text)
 {
     const QList<EntityMakanDitempat*> dine = getMakanDitempatList(0, text);
-    // After a lost connection the second half would wait for the server once more.
+    // After a lost connection the second query would wait for the server again.
     if (hasError())
         return {};
     const QList<EntityBawaPulang*> takeAway = getBawaPulangList(0);

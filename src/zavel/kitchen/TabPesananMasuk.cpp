@@ -43,7 +43,7 @@ bool isConnected()
     return manager && manager->isOpen();
 }
 
-/** Keeps where the grid is scrolled to over a change of its rows. */
+/** Keeps the grid's scroll position while its rows are replaced. */
 class ScrollKeeper
 {
 public:
@@ -69,7 +69,7 @@ KorSortFilterProxyModel* proxyOf(const QTableView* view)
     return static_cast<KorSortFilterProxyModel*>(view->model());
 }
 
-/** Shows the next model in the place of the former one. The rows belong to a pool, so they are not cleared. */
+/** Replaces the view's model and deletes the former one. The rows belong to a pool, so they are not deleted here. */
 template <class Model>
 void replaceModel(QTableView* view, Model** shown, Model* next)
 {
@@ -94,7 +94,7 @@ void selectRows(QTableView* view, const KorEntityModel* model, const Wanted& isW
     view->selectionModel()->select(rows, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 
-/** Rows of two lines of text, for a finger and for the longer names. */
+/** Makes the rows two text lines high: large enough for a finger and for long names. Returns the font's metrics. */
 QFontMetrics scaleRows(QTableView* grid, int points)
 {
     QFont font = grid->font();
@@ -114,7 +114,7 @@ TabPesananMasuk::TabPesananMasuk(QWidget* parent)
     m_ui->setupUi(this);
     m_ui->lblNotUpToDate->hide();
     m_ui->ddlNote->addItems({tr("Out of Stock"), tr("Processed"), tr("Not Enough Stock")});
-    // Rows for a wet thumb, which the box's own delegate would not make.
+    // The combo box's default delegate ignores the size hint; the rows have to be large enough for a wet thumb.
     m_ui->ddlNote->setItemDelegate(new QStyledItemDelegate(m_ui->ddlNote));
     for (int row = 0; row < m_ui->ddlNote->count(); ++row)
         m_ui->ddlNote->setItemData(row, QSize(0, choiceHeight), Qt::SizeHintRole);
@@ -143,10 +143,10 @@ void TabPesananMasuk::setUpGrids()
 {
     applyModel(m_ui->tblQueue, m_queue);
     applyModel(m_ui->tblMenu, m_lines);
-    // A wet thumb on a header must not put the orders into another sequence.
+    // Touching a header by accident must not sort the orders.
     m_ui->tblQueue->setSortingEnabled(false);
     m_ui->tblQueue->horizontalHeader()->setSectionsClickable(false);
-    // Where a trail of tables is too long, its end is the table where the guests sit now.
+    // When the trail of tables is too long, show its end: the table where the guests are now.
     m_ui->tblQueue->setTextElideMode(Qt::ElideLeft);
     m_ui->tblQueue->setWordWrap(false);
     m_ui->tblQueue->horizontalHeader()->setStretchLastSection(false);
@@ -177,11 +177,11 @@ void TabPesananMasuk::scaleGrids()
 
     const QFontMetrics menu = scaleRows(m_ui->tblMenu, pointSize);
     QList<int> widths;
-    // Longer texts go on in the row's second line.
+    // Longer texts wrap into the row's second line.
     for (const char* text :
          {"GADO-GD", "Nasi goreng seaf", "Qty", "Bottle", "Not Enough", "gula sedikit", "23-11-2026"})
         widths.append(menu.horizontalAdvance(text) + cellPadding);
-    // What is left over goes to the dishes and to what the guests wish.
+    // The remaining width goes to the names of the dishes and the guests' wishes.
     const int room = width() - queueWidth - std::accumulate(widths.cbegin(), widths.cend(), widths.last() + 60);
     widths[TableModelQueueMenu::Name] += std::max(0, room / 2);
     widths[TableModelQueueMenu::Description] += std::max(0, room / 2);
@@ -211,7 +211,7 @@ void TabPesananMasuk::refresh(Selection selection)
     if (isConnected()) {
         reload(selection);
     } else {
-        // Opening it here would hold up the screen for as long as the server is silent.
+        // Opening the connection here would block the GUI until the server answers.
         m_probe->ask();
         m_ui->tblQueue->viewport()->update();
     }
@@ -269,14 +269,14 @@ void TabPesananMasuk::notUpToDate(const QString& reason)
         m_readAt.isValid() ? tr("These are the orders of %1.").arg(m_readAt.toString("HH:mm")) + ' ' : QString();
     m_ui->lblNotUpToDate->setText(since + tr("New ones cannot be read at present. This page tries again by itself."));
     m_ui->lblNotUpToDate->show();
-    // Where somebody works on another page or in another form, the line on this page has to do.
+    // If the user is on another page or in a form, only the label on this page is shown.
     if (isVisible() && !QApplication::activeModalWidget())
         m_lossBox = tell(reason);
 }
 
 QMessageBox* TabPesananMasuk::tell(const QString& failure)
 {
-    // The ticks go on behind it, since nobody may be there to close it.
+    // Not modal by exec(): the timer's refreshes continue, because nobody may be there to close the box.
     auto* box = new QMessageBox(QMessageBox::Critical, tr("Error"), QString(), QMessageBox::Ok, this);
     KorErrorBox::fill(box, failure);
     box->setAttribute(Qt::WA_DeleteOnClose);
@@ -284,7 +284,7 @@ QMessageBox* TabPesananMasuk::tell(const QString& failure)
     return box;
 }
 
-// --- the order in hand ---------------------------------------------------------------------------------------------
+// --- the selected order --------------------------------------------------------------------------------------------
 
 TabPesananMasuk::Key TabPesananMasuk::keyOf(const EntityQueue& row) { return {row.getType(), row.getId()}; }
 
@@ -319,8 +319,8 @@ void TabPesananMasuk::selectChosen()
 {
     if (m_chosen.isEmpty())
         return;
-    // By what they are, not by their place: when an order leaves, those below it move up. Only where the order in hand
-    // has left itself, the one that took its place is next.
+    // Selected by id, not by row: when an order leaves the queue, those below move up. Only if the selected order has
+    // left itself, the order that is now in its row is selected.
     selectRows(m_ui->tblQueue, m_queue,
                [this](const KorEntity& row) { return m_chosen.contains(keyOf(static_cast<const EntityQueue&>(row))); });
     const QList<EntityQueue*> found = chosenOrders();
@@ -385,7 +385,7 @@ void TabPesananMasuk::printChosen(bool additionsOnly)
 {
     if (m_busy)
         return;
-    // A printer that fails says so in a box: the ticks that come meanwhile must not free what is being printed.
+    // A printer failure opens a box, and its event loop lets the timer fire: a refresh must not free these records.
     const QScopedValueRollback<bool> busy(m_busy, true);
     const QList<EntityQueue*> orders = chosenOrders();
     for (const EntityQueue* row : orders) {

@@ -21,8 +21,8 @@ class TabPesananMasuk;
 }
 
 /**
- * The kitchen's screen: the open orders with their waiting time, the lines of the one in hand, what the kitchen says
- * about them, and slips again. It keeps itself up to date, with nobody at the mouse and over a lost connection too.
+ * The kitchen's screen: the open orders with their waiting time, the lines of the selected one with the kitchen's
+ * status texts, and printing slips again. It refreshes by a timer, and again once a lost connection is back.
  */
 class TabPesananMasuk final : public AppTab
 {
@@ -33,13 +33,13 @@ public:
     ~TabPesananMasuk() override;
 
 public slots:
-    /** What the timer does: reads the queue again and leaves selection and scrolling as they are. */
+    /** Called by the timer: reads the queue again and keeps the selection and the scroll position. */
     void autoRefresh();
     void on_tblQueue_clicked(const QModelIndex& index);
     void on_btnSendStatus_clicked();
     void on_btnPrint_clicked();
     void on_btnPrintAddition_clicked();
-    /** The same anew, with nothing selected; the next tick selects what was in hand. */
+    /** Reads the queue again with nothing selected; the timer's next refresh restores the selection. */
     void on_btnRefresh_clicked();
     void on_btnClose_clicked();
 
@@ -52,11 +52,11 @@ private:
     enum Selection { Select, Deselect };
 
     void setUpGrids();
-    /** Fonts, rows and columns by the page's width: it is read from afar. */
+    /** Scales fonts, rows and columns with the page's width, because the screen is read from a distance. */
     void scaleGrids();
 
-    // Reading. None of it runs an event loop, so that a tick cannot come in between.
-    /** Does nothing while busy; without a connection it asks for the server first, on another thread. */
+    // Reading. No function here runs an event loop, so that the timer cannot fire in between.
+    /** Does nothing while busy. Without a connection it first probes the server on another thread. */
     void refresh(Selection selection);
     void reload(Selection selection);
     void notUpToDate(const QString& reason);
@@ -64,7 +64,7 @@ private:
     QMessageBox* tell(const QString& failure);
     void serverAnswered(bool reachable);
 
-    // The order in hand.
+    // The selected order.
     void orderChosen();
     void selectChosen();
     /** Null shows no lines. */
@@ -78,7 +78,7 @@ private:
     KorConnectionProbe* m_probe;
     TableModelQueue* m_queue;
     TableModelQueueMenu* m_lines;
-    // What the rows shown were read into; the next reading frees it.
+    // Owns the rows shown; replaced at the next refresh.
     EntityPool m_rows;
     bool m_busy = false;
     QList<Key> m_chosen;
@@ -86,7 +86,7 @@ private:
     Key m_inHand;
     QTime m_readAt;
     bool m_isUpToDate = true;
-    // It closes itself when the loss is over.
+    // The box about the lost connection; closed when the connection is back.
     QPointer<QMessageBox> m_lossBox;
     int m_pointSize = 0;
 };

@@ -2,8 +2,7 @@
 
 #include "app/widgets/AppEntityModel.h"
 
-/** The kitchen's queue: which order, and how long it has been waiting. The age is told anew at each look at the cell.
- */
+/** The kitchen's queue: the orders and how long each has been waiting. The age is calculated at each data() call. */
 class TableModelQueue final : public AppEntityModel
 {
     Q_OBJECT

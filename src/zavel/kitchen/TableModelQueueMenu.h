@@ -2,7 +2,7 @@
 
 #include "app/widgets/AppEntityModel.h"
 
-/** The lines of the order that the kitchen has in hand, with what it has reported about them. */
+/** The lines of the order selected in the kitchen, with the kitchen's status texts. */
 class TableModelQueueMenu final : public AppEntityModel
 {
     Q_OBJECT
@@ -10,7 +10,7 @@ class TableModelQueueMenu final : public AppEntityModel
 public:
     enum Column { Code, Name, Qty, Unit, Status, Description, Created, Updated };
 
-    /** The type is an OrderKind: what the lines are lines of. */
+    /** The type is an OrderKind: the kind of the order that the lines belong to. */
     TableModelQueueMenu(int type, const QList<KorEntity*>& lines, QObject* parent);
 
     [[nodiscard]] int type() const { return m_type; }

@@ -15,7 +15,7 @@
 #include "zavel/takeaway/DataMapperInvoiceBawaPulang.h"
 #include "zavel/takeaway/EntityInvoiceBawaPulang.h"
 
-// All sales, whatever the way of selling.
+// The sales of all kinds: dine-in, counter and take-away.
 
 DataMapperInvoiceLink* BusinessPenjualan::mapperOf(IInvoice* sale) const
 {
@@ -42,7 +42,7 @@ bool BusinessPenjualan::insertInvoice(IInvoice* sale)
     setInvoiceStatus(sale->getInvoice());
     if (!written(mapper->insert(dynamic_cast<KorEntity*>(sale)), mapper, "insertInvoice"))
         return false;
-    // What follows stands outside the invoice's transaction: the sale is kept even if the order's status is not.
+    // Outside the invoice's transaction: the sale stays saved even if setting the order's status fails.
     (void)setOrderStatus(sale, true);
     return true;
 }
@@ -70,7 +70,7 @@ bool BusinessPenjualan::setOrderStatus(IInvoice* sale, bool isFirst)
         return true;
     if (isFirst)
         return followInvoices(dine->getMakanDitempat());
-    // From this invoice alone, unlike the first save: other invoices of a split order are not asked here.
+    // Unlike at the first save, only this invoice decides; other invoices of a split order are not read.
     return setDineStatus(dine->getMakanDitempat(), orderStatusOfInvoice(*sale->getInvoice()));
 }
 
@@ -114,17 +114,18 @@ bool BusinessPenjualan::deleteSales(Invoice* invoice)
     const auto removeAll = [&] {
         DataMapperInvoiceLink* links = mappers.value(invoice->getInvoiceType());
         if (!links) {
-            // The transaction ends here too, rolled back: left open, it would swallow the next saves.
+            // Returning false rolls the transaction back; left open, it would include the next saves.
             addError(operation, tr("mapper not found"));
             return false;
         }
-        // A row that does not go is noted, and the walk goes on: the invoice at the end tells whether all can stand.
+        // A row that cannot be deleted is recorded as an error and the loop continues: deleting the invoice at the end
+        // decides the result.
         const auto removeEach = [&](const auto& rows, KorDataMapper* mapper) {
             for (KorEntity* row : rows)
                 written(mapper->remove(row), mapper, operation);
         };
         if (KorEntity* link = read(links->findByInvoiceId(invoice->getId()), links, operation)) {
-            // Of a split order all links go: its other invoices stay behind without one.
+            // For a split order all links are deleted; its other invoices remain without a link.
             if (const auto* dine = qobject_cast<EntityInvoiceMakanDitempat*>(link))
                 removeEach(
                     read(m_mappers.dineInvoices->findMoneyOfOrder(dine->getMakanDitempat()->getId()), links, operation),
@@ -136,7 +137,7 @@ bool BusinessPenjualan::deleteSales(Invoice* invoice)
         removeEach(read(lines->findByDocument(invoice->getId()), lines, operation), lines);
         return written(m_mappers.invoices->remove(invoice), m_mappers.invoices, operation);
     };
-    // The invoice first, as a save of it does: the other way round the two would wait for each other.
+    // Locks the invoice first, as a save does; another lock order could deadlock.
     return inOneTransaction(*this, operation, removeAll, {}, {m_mappers.invoices->removalLockOf(invoice->getId())});
 }
 

@@ -95,7 +95,7 @@ QList<EntityPenjualanInfo*> DataMapperPenjualanInfo::search(const SalesFilter& f
         conditions.differs("invoice.status", Invoice::FULL_PAID);
     else
         conditions.only("invoice.status", filter.status, 0);
-    // A sale for cash is not told apart: every sale may have been paid in part with it.
+    // Cash payments are not filtered: every sale may have been paid partly in cash.
     if (filter.payment == SalesFilter::OtherPayment)
         conditions.differs("invoice.other_payment_amount", 0);
     return latestFirst(conditions);
@@ -111,7 +111,7 @@ QList<EntityPenjualanInfo*> DataMapperPenjualanInfo::findPendingOfAgent(int agen
 
 QList<EntityPenjualanInfo*> DataMapperPenjualanInfo::latestFirst(KorConditions& conditions)
 {
-    // Within a day as well, so that a list read again has its rows where they were.
+    // Also sorted by id, so that rows of one day keep their order when the list is read again.
     conditions.descending("invoice_date").descending("invoice.id");
     Known known;
     const QScopedValueRollback<Known*> whileReading(m_known, &known);

@@ -13,7 +13,7 @@ class EntitySalesSummaryInfo;
 class EntitySoldItem;
 struct SalesFilter;
 
-/** Reads the sales of all three kinds: the invoices with their links, orders, users and waitresses. It has no table. */
+/** Reads the sales of all three kinds: invoices with links, orders, users and waitresses. Has no table of its own. */
 class DataMapperPenjualanInfo final : public AppDataMapper
 {
     Q_OBJECT
@@ -40,13 +40,13 @@ public:
 
     // The latest sales first.
     [[nodiscard]] QList<EntityPenjualanInfo*> search(const SalesFilter& filter);
-    /** The sales that the agent brought and was not paid for yet. */
+    /** The agent's sales whose commission is not paid yet. */
     [[nodiscard]] QList<EntityPenjualanInfo*> findPendingOfAgent(int agentId);
 
-    // Sums, oldest first; both limits count, and the user -1 stands for all.
+    // Sums, oldest first; both dates are inclusive, and user -1 means all users.
     [[nodiscard]] QList<EntitySalesSummaryInfo*> getDailySales(const QDate& from, const QDate& to, int userId);
     [[nodiscard]] QList<EntitySalesSummaryInfo*> getMonthlySales(const QDate& from, const QDate& to, int userId);
-    /** Sorted by one of its columns: kode, nama, item_type, total_qty or total_price; any other word is refused. */
+    /** Sorted by one of the columns kode, nama, item_type, total_qty or total_price; any other name is refused. */
     [[nodiscard]] QList<EntitySoldItem*> getSoldItems(const QDate& from, const QDate& to, const QString& direction,
                                                       const QString& sortColumn, const QString& itemType);
 
@@ -57,10 +57,10 @@ private:
     [[nodiscard]] QList<EntitySalesSummaryInfo*> salesBy(const QString& period, const QString& name, const QDate& from,
                                                          const QDate& to, int userId);
     [[nodiscard]] QString typeNameOf(KorQuery& query) const;
-    /** One record for all rows of a search that name it: few people make many sales. */
+    /** One shared object for all rows of a search that refer to the same record, because many sales share a few people. */
     KorEntity* partner(KorQuery& query, KorDataMapper* mapper, const QString& alias);
 
     Partners m_partners;
-    /** Set while a search reads its rows. */
+    /** The shared records; set only while a search reads its rows. */
     Known* m_known = nullptr;
 };

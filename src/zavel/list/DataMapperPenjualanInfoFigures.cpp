@@ -61,7 +61,7 @@ QList<EntitySoldItem*> DataMapperPenjualanInfo::getSoldItems(const QDate& from, 
                                                              const QString& direction, const QString& sortColumn,
                                                              const QString& itemType)
 {
-    // Neither can be bound, so nothing but these words reaches the statement.
+    // Column and direction cannot be bound as values, so only these words may enter the statement.
     static const QStringList columns{"kode", "nama", "item_type", "total_qty", "total_price"};
     static const QStringList directions{"asc", "desc"};
     const QString column = sortColumn.toLower();
@@ -71,7 +71,7 @@ QList<EntitySoldItem*> DataMapperPenjualanInfo::getSoldItems(const QDate& from, 
         return {};
     }
     const bool ofOneType = !itemType.isEmpty();
-    // Items that sold alike stand in the order of their codes, the same at every look.
+    // Items with equal values are sorted by code, so that the order is always the same.
     const QString statement = soldItems + QString(ofOneType ? " and jenis_item.kode = :itemType " : "") +
                               " group by item.id,jenis_item.kode order by  " + column + ' ' + order + ", item.kode";
     Bindings values{{":startdate", dateToSql(from)}, {":enddate", dateToSql(to)}};

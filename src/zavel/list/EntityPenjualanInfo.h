@@ -4,7 +4,7 @@
 #include "pos/invoice/Invoice.h"
 #include "pos/masterdata/member/EntityMember.h"
 
-/** One sale in the list of all sales, whatever the way of selling. It is read, never stored. */
+/** One sale of any kind in the list of all sales. Only read, never stored. */
 class EntityPenjualanInfo : public KorEntity
 {
     Q_OBJECT
@@ -21,12 +21,12 @@ public:
 
     [[nodiscard]] Invoice* getInvoice() const { return m_invoice; }
     void setInvoice(Invoice* invoice) { m_invoice = invoice; }
-    /** The way of selling, in the user's words. */
+    /** The kind of sale, as shown to the user. */
     [[nodiscard]] const QString& typeName() const { return m_typeName; }
     void setTypeName(const QString& name) { m_typeName = name; }
     [[nodiscard]] EntityEmployee* waitress() const { return m_waitress; }
     void setWaitress(EntityEmployee* waitress) { m_waitress = waitress; }
-    /** The agent who brought the guests, KorNoValue where none did. */
+    /** The agent who brought the guests; KorNoValue if there is none. */
     [[nodiscard]] int agentId() const { return m_agentId; }
     void setAgentId(int id) { m_agentId = id; }
 

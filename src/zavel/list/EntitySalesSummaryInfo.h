@@ -4,15 +4,15 @@
 
 #include <QDate>
 
-/** What was sold on one day or in one month. It is read, never stored. Amounts are as stored: whole currency units. */
+/** The sales of one day or month. Only read, never stored. Amounts are as in the database: whole currency units. */
 class EntitySalesSummaryInfo : public KorEntity
 {
     Q_OBJECT
-    /** The day, or the first of the month. */
+    /** The day, or the first day of the month. */
     KOR_PROPERTY(QDate, Date, QDate())
     KOR_PROPERTY(qint64, SalesCount, 0)
     KOR_PROPERTY(qint64, Total, 0)
-    /** What stayed in the drawer: the change handed back is no taking. */
+    /** Cash received minus the change given back. */
     KOR_PROPERTY(qint64, Cash, 0)
     KOR_PROPERTY(qint64, Credit, 0)
 

@@ -2,7 +2,7 @@
 
 #include "kor/entity/KorEntity.h"
 
-/** What was sold of one item. It is read, never stored. The amount is as stored: whole currency units. */
+/** The sales of one item. Only read, never stored. The amount is as in the database: whole currency units. */
 class EntitySoldItem : public KorEntity
 {
     Q_OBJECT

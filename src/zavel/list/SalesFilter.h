@@ -4,10 +4,10 @@
 
 #include <QDate>
 
-/** What the list of sales is narrowed to. Both dates count; 0, KorNoValue and empty texts leave all. */
+/** The filter of the list of sales. Both dates are inclusive; 0, KorNoValue and empty texts match everything. */
 struct SalesFilter
 {
-    /** All invoices that are not fully paid, beside the statuses of an invoice. */
+    /** A filter value besides the invoice statuses: all invoices that are not fully paid. */
     static constexpr int OpenInvoices = 4;
     enum Payment { AnyPayment = 0, CashPayment = 1, OtherPayment = 2 };
 

@@ -72,7 +72,7 @@ void TabDaftarPenjualan::makeFilters()
 
 void TabDaftarPenjualan::makeButtons()
 {
-    // A sale is made where it is paid, never here.
+    // A sale is created in its payment form, never here.
     button("btnAdd")->setEnabled(false);
     button("btnAdd")->hide();
     auto* reset = new QPushButton(QIcon(":/icons/reset.png"), tr("Reset"), this);
@@ -131,7 +131,7 @@ KorEntityModel* TabDaftarPenjualan::createModel(const QList<KorEntity*>& rows)
 
 void TabDaftarPenjualan::modelApplied()
 {
-    // Twelve columns: the words give way to the money, which is never cut.
+    // Twelve columns: texts get less width than amounts, which must not be cut off.
     using Model = TableModelDaftarPenjualan;
     for (const auto& width :
          {std::pair(Model::Type, 134), std::pair(Model::User, 96), std::pair(Model::MemberCode, 152),
@@ -151,7 +151,7 @@ KorEntity* TabDaftarPenjualan::readEntity(int id) { return model()->find(id); }
 
 bool TabDaftarPenjualan::editEntity(KorEntity* sale)
 {
-    // To take money is one right, to touch what somebody has sold already is another one.
+    // Changing a sale needs another right than taking a payment.
     if (!hasAccess(businessName, BusinessPenjualan::UBAH_PESANAN, sale))
         return true;
     const Invoice& invoice = *static_cast<EntityPenjualanInfo*>(sale)->getInvoice();

@@ -14,7 +14,7 @@ template <typename Entity>
 class RecordField;
 struct SalesFilter;
 
-/** The list of the sales of all kinds: finds them, opens their payment again, deletes them. */
+/** The list of the sales of all kinds: searches them, opens their payment form again, deletes them. */
 class TabDaftarPenjualan final : public AppListTab
 {
     Q_OBJECT
@@ -23,7 +23,7 @@ public:
     explicit TabDaftarPenjualan(QWidget* parent = nullptr);
 
 public slots:
-    /** Empties the filters and sets both dates to today; the list waits for the search. */
+    /** Clears the filters and sets both dates to today; the list changes only at the next search. */
     void on_btnReset_clicked();
 
 protected:
@@ -34,21 +34,21 @@ protected:
     [[nodiscard]] int editKey() const override;
     [[nodiscard]] int deleteKey() const override;
     [[nodiscard]] bool asksOnce(int) const override { return true; }
-    /** The sale as the list shows it: one that somebody else has changed since is not deleted unseen. */
+    /** The sale as the list shows it: deleting fails if somebody else has changed the sale since. */
     KorEntity* readEntity(int id) override;
     bool editEntity(KorEntity* sale) override;
     bool updateEntity(KorEntity* sale) override;
     bool removeEntity(KorEntity* sale) override;
-    // The payment's form says what kind of sale it saves; nothing is added here.
+    // Returns null: sales are created in the payment forms, not here.
     std::unique_ptr<KorDialog> createDialog() override;
 
 private:
     void makeFilters();
     void makeButtons();
     [[nodiscard]] SalesFilter chosen() const;
-    /** False when the cashier gave the form up. */
+    /** False when the cashier cancelled the form. */
     bool editFastFood(int invoiceId);
-    /** Opens the payment form of an order on its invoice. */
+    /** Opens the payment form of the order with this invoice. */
     template <class Form>
     void editOrder(KorEntity* sale, int invoiceId);
 

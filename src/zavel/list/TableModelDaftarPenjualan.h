@@ -4,7 +4,7 @@
 
 #include <QIcon>
 
-/** The sales of all kinds as a list shows them. */
+/** The rows of the list of all sales. */
 class TableModelDaftarPenjualan final : public AppEntityModel
 {
     Q_OBJECT

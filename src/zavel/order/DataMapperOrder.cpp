@@ -87,7 +87,7 @@ bool DataMapperOrder::updateStatus(EntityOrder* order)
     KorQuery query;
     const int user = AppContext::instance()->currentUserId();
     const EntityMember* member = order->getMember();
-    // The guest as the bill has him: whoever pays later is looked for by the order's member as well.
+    // Also writes the member of the bill: later payments of members are searched by the order's member too.
     const bool sent = execute(
         query,
         "update " + tableName() +
@@ -110,7 +110,7 @@ bool DataMapperOrder::updateStatus(EntityOrder* order)
 
 bool DataMapperOrder::markDone(int orderId)
 {
-    // Read again: the row's version has moved on with every save since the order was opened.
+    // Read again: every save since the order was opened has raised the row's version.
     EntityPool pool;
     const EntityPoolScope scope(pool);
     auto* fresh = static_cast<EntityOrder*>(findById(orderId));

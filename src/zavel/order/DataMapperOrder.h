@@ -13,7 +13,7 @@ class DataMapperOrderDetail : public ItemLineMapper
 
 public:
     [[nodiscard]] QStringList indexStatements() const override;
-    /** Open orders of the table that have a line priced in another currency than this sign; -1 with an error. */
+    /** Number of open orders in the order table with a line in another currency than this sign; -1 on an error. */
     [[nodiscard]] int countOrdersOfOtherCurrency(const QString& orderTable, const QString& sign);
 
 protected:
@@ -30,19 +30,19 @@ public:
     using AppLinedDocumentMapper::AppLinedDocumentMapper;
 
     bool remove(KorEntity* order) override;
-    /** Open orders with a line priced in another currency than this sign; -1 with an error. */
+    /** Number of open orders with a line in another currency than this sign; -1 on an error. */
     [[nodiscard]] int countOpenOfOtherCurrency(const QString& sign);
     /** Writes the status alone. */
     bool updateStatus(EntityOrder* order);
-    /** Writes that the guests are served and gone, whatever was saved since the order was opened. */
+    /** Sets the order to done, even if it was saved by others since it was opened. */
     bool markDone(int orderId);
     /** Orders by their ids, with lines; two statements. */
     [[nodiscard]] QList<EntityOrder*> findByIds(const QList<int>& ids);
 
 protected:
-    /** In the words of the partial indexes, or the planner would not see that they answer it. */
+    /** Same wording as in the partial indexes; otherwise the planner would not use them. */
     [[nodiscard]] static QString openOrders();
-    /** With their lines: two statements, whatever their number. */
+    /** With their lines: two statements, independent of the number of orders. */
     QList<EntityOrder*> findOrders(const KorConditions& conditions);
     [[nodiscard]] virtual QString statusFailure() const = 0;
 };

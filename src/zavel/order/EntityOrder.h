@@ -4,8 +4,8 @@
 #include "zavel/order/EntityOrderDetail.h"
 
 /**
- * An order with its lines, on a table or to take away. The lists of lines are borrowed: lines that were read belong
- * to the pool, new ones to the form that made them.
+ * An order with its lines, on a table or to take away. The lists of lines do not own them: lines read from the
+ * database belong to the pool, new ones to the form that created them.
  */
 class EntityOrder : public KorEntity
 {
@@ -17,7 +17,7 @@ class EntityOrder : public KorEntity
     KOR_PROPERTY(QDate, Tgl, QDate())
 
 public:
-    /** SERVED is shown where it stands and never written; EMPTY is the board's sign of a free table. */
+    /** SERVED is displayed but never written by the program; EMPTY marks a free table on the board. */
     enum MAKAN_DITEMPAT_STATUS {
         WAITING_FOR_MENU = 1,
         SERVED = 2,
@@ -39,25 +39,25 @@ public:
     void setRemovedDetails(const Lines& details) { m_removedDetails = details; }
     [[nodiscard]] const Lines& getNewDetails() const { return m_newDetails; }
     [[nodiscard]] const Lines& getUpdatedDetails() const { return m_updatedDetails; }
-    /** New and updated lines together, in the order of the visit. */
+    /** New and updated lines together, in the order of the lines. */
     [[nodiscard]] const Lines& getChangedDetails() const { return m_changedDetails; }
-    /** What was removed or lessened, one line for each item with the quantity that is not wanted any more. */
+    /** One line for each item whose quantity was reduced or removed, with the quantity that was taken back. */
     [[nodiscard]] const Lines& getTakenBackDetails() const { return m_takenBackDetails; }
 
-    /** What the lines cost, in the smallest unit of their currency; wider than what one amount can hold. */
+    /** The total of the lines in minor units; it can be larger than one Money can hold. */
     [[nodiscard]] static qint64 totalOf(const Lines& lines);
     [[nodiscard]] static bool totalFits(const Lines& lines);
 
-    /** Remembers the lines as they are now. */
+    /** Copies the lines as they are now, for compareWithSnapshot(). */
     void takeSnapshot();
-    /** Marks and lists what is new, changed or taken back since the snapshot, item by item. */
+    /** Marks and lists the lines that are new, changed or taken back since the snapshot, compared by item. */
     void compareWithSnapshot();
     /**
-     * Puts lines that were keyed in for a standing order to its own. An item that it has already grows in quantity, and
-     * the total of that line stays as it was. The lists then hold what the kitchen has not seen yet.
+     * Adds newly entered lines to an existing order. For an item that the order already has, only the quantity of the
+     * line grows; its total stays unchanged. The lists of changes then hold what the kitchen has not seen yet.
      */
     void mergeLines(const Lines& entered);
-    /** The same lists from the lines' stored marks, for printing again. */
+    /** Fills the lists of changes from the lines' stored marks, for printing again. */
     void collectMarkedLines();
 
 private:
@@ -71,7 +71,7 @@ private:
     Lines m_newDetails;
     Lines m_updatedDetails;
     Lines m_changedDetails;
-    // Owned, unlike the other lists.
+    // These two lists own their lines, unlike the other lists.
     Lines m_snapshot;
     Lines m_takenBackDetails;
 };

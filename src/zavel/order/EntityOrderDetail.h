@@ -15,17 +15,17 @@ class EntityOrderDetail : public KorEntity
     KOR_PROPERTY(int, Status, NEW)
     MONEY_PROPERTY(Total)
     MONEY_PROPERTY(PriceEach)
-    /** What the guest wants done differently. */
+    /** The guest's wishes for this dish. */
     KOR_PROPERTY(QString, Description, QString())
     /** What the kitchen reports, in free text. */
     KOR_PROPERTY(QString, KitchenStatus, QString())
 
 public:
-    /** OUT_OF_STOCK and IN_PROGRESS are declared for the kitchen and never written. */
+    /** OUT_OF_STOCK and IN_PROGRESS are never written. */
     enum MENU_ITEM_STATUS { NEW = 1, OUT_OF_STOCK = 2, IN_PROGRESS = 3, UPDATED = 4 };
     Q_ENUM(MENU_ITEM_STATUS)
 
-    /** What a changed line was when the kitchen heard of it last, and how many it is now in all. */
+    /** A changed line's quantity and wishes as the kitchen last saw them, and its new total quantity. */
     struct Former
     {
         int qty;
@@ -35,7 +35,7 @@ public:
 
     using KorEntity::KorEntity;
 
-    /** In memory alone, between a change and its slip; nothing for a new line. */
+    /** Kept only in memory, between a change and its slip; empty for a new line. */
     [[nodiscard]] const std::optional<Former>& former() const { return m_former; }
     void setFormer(const Former& former) { m_former = former; }
 
@@ -43,7 +43,7 @@ public:
     virtual void setOrderId(int id) = 0;
     /** An unsaved line of the same kind. The caller owns it. */
     [[nodiscard]] virtual EntityOrderDetail* createSibling() const = 0;
-    /** A copy with its own money, for comparing after an edit. The caller owns it. */
+    /** A copy with its own Money objects, for comparing after an edit. The caller owns it. */
     [[nodiscard]] EntityOrderDetail* snapshot() const;
     [[nodiscard]] int itemId() const { return m_Item ? m_Item->getId() : KorNoValue; }
 

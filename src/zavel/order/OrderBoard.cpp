@@ -62,7 +62,7 @@ void OrderBoard::showRows(const QList<KorEntity*>& rows)
     applyModel(m_grid, m_model);
     if (!former)
         setColumnWidths(m_grid, m_widths);
-    // No clear(): the pool of the rows frees them together.
+    // No clear(): the pool deletes the rows.
     delete former;
 
     const auto* shown = static_cast<const QSortFilterProxyModel*>(m_grid->model());
@@ -91,7 +91,7 @@ void OrderBoard::on_btnSearch_clicked() { refresh(); }
 
 void OrderBoard::on_btnClose_clicked() { close(); }
 
-// --- what is done with an order ------------------------------------------------------------------------------------
+// --- actions on an order -------------------------------------------------------------------------------------------
 
 void OrderBoard::on_btnEdit_clicked()
 {
@@ -139,7 +139,7 @@ void OrderBoard::cancelSelectedOrders()
     const EntityPoolScope scope(read);
     const QList<EntityOrder*> rows = selectedOrders();
     for (EntityOrder* row : rows) {
-        // To the kitchens it is off only when it is: the database may have refused.
+        // Only tell the kitchens after the database has deleted the order: it may refuse.
         if (carriesOrder(*row, Cancel) && cancelOrder(row))
             SlipRequests::instance()->printMenuOrderCanceled(m_kind, row, SlipRequests::KitchensThatHadIt);
     }

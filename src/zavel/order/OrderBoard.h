@@ -16,8 +16,8 @@ class QLabel;
 class QTableView;
 
 /**
- * What the pages of open orders share: the grid, the walks over its selected rows, an edit that tells the kitchen what
- * is other than before. A concrete page tells what it reads, and how its orders are edited, cancelled and paid.
+ * Base of the pages of open orders: the grid, the loops over its selected rows, and an edit that prints the changes
+ * for the kitchens. A derived page defines what is read, and how orders are edited, cancelled and paid.
  */
 class OrderBoard : public AppTab
 {
@@ -35,50 +35,50 @@ protected:
     static constexpr char businessName[] = "Sales";
 
     OrderBoard(OrderKind kind, QWidget* parent);
-    /** The page's grid with its count, the columns as wide as told on first sight. */
+    /** Sets the page's grid and the label for its row count. The widths (pixels) apply when it is first filled. */
     void setGrid(QTableView* grid, QLabel* count, const QList<int>& widths);
 
-    // What a page tells.
-    /** Reads the rows in a fixed number of statements; what is made beside goes to the pool. False after a failure. */
+    // Defined by each page.
+    /** Reads the rows in a fixed number of statements; additional objects belong to the pool. False after a failure. */
     virtual bool readRows(QList<KorEntity*>* rows, QObject* pool) = 0;
     virtual OrderBoardModel* createModel(const QList<KorEntity*>& rows) = 0;
-    /** What the cursor stays on when the rows are read anew. */
+    /** The id by which the current row is found again after a refresh. */
     [[nodiscard]] virtual int placeOf(const EntityOrder& row) const { return row.getId(); }
-    /** The code of the table that the order stands on; empty where it stands on none. */
+    /** The code of the order's table; empty if it has none. */
     [[nodiscard]] virtual QString tableCodeOf(const EntityOrder&) const { return {}; }
-    /** Whether the row carries an order at all; if not, that is told. */
+    /** Whether the row has an order; if not, shows a message and returns false. */
     virtual bool carriesOrder(const EntityOrder&, Action) { return true; }
     [[nodiscard]] virtual QString nothingSelectedText() const = 0;
-    /** The order with this id as it stands now; a failure is left in the service. */
+    /** Reads the order with this id; an error stays in the service. */
     virtual EntityOrder* findOrder(int id) = 0;
-    /** The order's bills; a failure is left in the service. */
+    /** Reads the order's bills; an error stays in the service. */
     virtual QList<EntityInvoiceLink*> readBills(int orderId) = 0;
     virtual std::unique_ptr<OrderDialog> createEditForm() = 0;
     virtual bool updateOrder(EntityOrder* order) = 0;
     /**
-     * Asks, and cancels the order as the user saw it: one that has changed since is not cancelled unseen. True when it
-     * is gone.
+     * Asks the user and cancels the order; this fails if the order has changed since the user saw it. True if it was
+     * cancelled.
      */
     virtual bool cancelOrder(EntityOrder* row) = 0;
     virtual void payOrder(EntityOrder* order) = 0;
 
-    /** Reads the rows anew. A read that fails leaves the former ones. */
+    /** Reads the rows again. If that fails, the former rows stay. */
     void refresh();
     /** The selected rows from top to bottom; they live until the next refresh. */
     [[nodiscard]] QList<EntityOrder*> selectedOrders() const;
     void cancelSelectedOrders();
     void sendToKitchen(EntityOrder* order);
-    /** The order as it stands now, read into the pool; null, with a box, when it is not there. */
+    /** Reads the current order into the pool; shows a message and returns null if that fails or it does not exist. */
     [[nodiscard]] EntityOrder* readOrder(int id, EntityPool& pool);
-    /** What the order's form says of its bills, if it has any; false, with a box, when they could not be read. */
+    /** Shows a notice in the form if the order has bills; shows a message and returns false if reading them failed. */
     bool tellOfBills(int orderId, OrderDialog* form);
     void tell(const QString& text);
-    /** Shows what the service has to tell; always false. */
+    /** Shows the service's errors; always returns false. */
     bool failed(KorBusinessLogic* service);
     [[nodiscard]] BusinessPenjualan* sales() const { return m_sales; }
 
 private:
-    /** False when the user cancelled, which ends the walk over the selected rows. */
+    /** False when the user cancelled the form; the remaining selected rows are then skipped. */
     bool editOrder(int id);
     void showRows(const QList<KorEntity*>& rows);
 
@@ -88,6 +88,6 @@ private:
     QLabel* m_count = nullptr;
     QList<int> m_widths;
     OrderBoardModel* m_model = nullptr;
-    // What the rows shown were read into; the next refresh frees it.
+    // Owns the rows shown; replaced at the next refresh.
     EntityPool m_rows;
 };

@@ -68,10 +68,10 @@ QVariant OrderBoardModel::data(const QModelIndex& index, int role) const
     switch (role) {
     case Qt::DecorationRole:
         return index.column() == m_statusColumn ? QVariant(statusMark(order->getStatus())) : QVariant();
-    // Free tables step back, so that the eye lands on the guests.
+    // Free tables are shown in a paler colour, so that occupied ones stand out.
     case Qt::ForegroundRole:
         return order->getStatus() == EntityOrder::EMPTY ? QVariant(QColor(quietInk)) : QVariant();
-    // A long order does not fit into its cell.
+    // A long list of dishes does not fit into the cell.
     case Qt::ToolTipRole:
         return index.column() == m_menuColumn ? data(index) : QVariant();
     default:
@@ -88,7 +88,7 @@ QIcon OrderBoardModel::statusMark(int status) const
     if (mark.isNull()) {
         const QPixmap picture(":/icons/status_" + name + ".png");
         mark.addPixmap(picture);
-        // A selected row is dark: the coloured marks stay as they are there, the hollow one turns white.
+        // A selected row is dark: the coloured marks stay as they are, the hollow one is drawn white.
         mark.addPixmap(status == EntityOrder::EMPTY ? whitened(picture) : picture, QIcon::Selected);
     }
     return mark;

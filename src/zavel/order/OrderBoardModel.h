@@ -5,7 +5,7 @@
 #include <QHash>
 #include <QIcon>
 
-/** What the lists of open orders share: the status with its coloured mark, and what was ordered. */
+/** Base of the models of open orders: the status with its coloured mark, and the names of the dishes. */
 class OrderBoardModel : public AppEntityModel
 {
     Q_OBJECT
@@ -16,9 +16,9 @@ public:
     [[nodiscard]] QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
 
 protected:
-    /** The column "Status"; the function gives the word for a status. */
+    /** Adds the column "Status"; the function returns the text for a status. */
     void addStatus(QString (*word)(int));
-    /** The column "Menu", the names of what was ordered. */
+    /** Adds the column "Menu" with the names of the ordered items. */
     void addMenu();
 
 private:

@@ -14,7 +14,7 @@ namespace Ui
 class OrderDialog;
 }
 
-/** What the forms of all orders share: who wants it, the lines of the menu, and what they cost together. */
+/** Base of the forms of orders: the guest, the menu lines and their total. */
 class OrderDialog : public KorDialog
 {
     Q_OBJECT
@@ -24,7 +24,7 @@ public:
 
     bool validate() override;
     bool beforeAccept() override;
-    /** What the waiter should know of this order all the time; nothing takes the notice away. */
+    /** Shows a notice that stays visible until the form closes. */
     void showNotice(const QString& text);
 
 public slots:
@@ -33,16 +33,16 @@ public slots:
     void onTabItemSelected();
 
 protected:
-    /** The page of lines becomes the form's. */
+    /** The form takes ownership of the page of lines. */
     OrderDialog(OrderLinesTab* lines, QWidget* parent);
 
     [[nodiscard]] Ui::OrderDialog& ui() const { return *m_ui; }
     void showGuest(const EntityOrder& order);
-    /** Shows a saved order with its lines, the cursor on them. */
+    /** Shows a saved order with its lines and gives the lines the focus. */
     void showOrder(const EntityOrder& order);
-    /** Writes what this part of the form holds; the order waits for its menu from now on. */
+    /** Writes this part of the form into the order and sets its status to "waiting for menu". */
     void writeTo(EntityOrder* order) const;
-    /** Lines that stand elsewhere and count towards what one order may cost. */
+    /** Lines of the order outside this form; they count towards the maximum total of an order. */
     void setOtherLines(const EntityOrder::Lines& lines) { m_otherLines = lines; }
 
 private:

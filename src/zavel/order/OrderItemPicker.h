@@ -16,9 +16,9 @@ class OrderItemPicker;
 }
 
 /**
- * The form that picks one item with its quantity for a line of an order. The line is borrowed: a line without an item
- * is filled anew, one with an item is changed, and only getEntity() writes to it. A concrete picker says which class
- * of items it finds.
+ * The form that picks one item and its quantity for a line of an order. It does not own the line: a line without an
+ * item is filled, one with an item is changed, and only getEntity() writes to it. A derived picker decides which kind
+ * of items is offered.
  */
 class OrderItemPicker : public KorDialog
 {
@@ -31,7 +31,7 @@ public:
     KorEntity* getEntity() override;
     void setEntity(KorEntity* line) override;
 
-    /** The item type that the search is narrowed to, -1 for all; the next picker of a round starts with it. */
+    /** Id of the item type that filters the search, -1 for all; the next picker starts with the same one. */
     [[nodiscard]] int itemType() const;
     void setItemType(int id);
 
@@ -43,7 +43,7 @@ protected:
     /** The chosen item is read into the pool, which has to outlive the line. */
     OrderItemPicker(EntityPool& items, QWidget* parent);
 
-    /** Box is a lookup box of items with setItemType(id). */
+    /** Box is a lookup box of items that has setItemType(id). */
     template <class Box>
     void findItemsWith()
     {

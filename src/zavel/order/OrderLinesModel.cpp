@@ -13,7 +13,7 @@ OrderLinesModel::OrderLinesModel(const QList<KorEntity*>& lines, QObject* parent
         const EntitySatuan* unit = line.getItem()->getSatuan();
         return unit ? unit->getNama() : QString();
     });
-    // What the item costs today, which may differ from the price that the line was taken at.
+    // The item's current price, which may differ from the price at the time of the order.
     addMoney<Line>(tr("Unit Price"), [](const Line& line) { return line.getItem()->getHargaJualLokal(); });
     addMoney<Line>(tr("Amount"), [](const Line& line) { return line.getTotal(); });
     addField<Line>(QMetaType::QString, tr("Status"), [this](const Line& line) { return statusText(line); });

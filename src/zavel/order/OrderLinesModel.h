@@ -4,7 +4,7 @@
 
 class EntityOrderDetail;
 
-/** The lines of an order being taken: what was ordered, at today's prices, and what the kitchen says about it. */
+/** The lines in an order's form: the items at their current prices, and the kitchen's status texts. */
 class OrderLinesModel : public AppEntityModel
 {
     Q_OBJECT
@@ -15,6 +15,6 @@ public:
     OrderLinesModel(const QList<KorEntity*>& lines, QObject* parent);
 
 protected:
-    /** What the column "Status" says. */
+    /** The text of the column "Status". */
     [[nodiscard]] virtual QString statusText(const EntityOrderDetail& line) const;
 };

@@ -13,7 +13,7 @@ namespace Ui
 class OrderLinesTab;
 }
 
-/** The page of lines of an order while it is being taken: menus and stock items, with buttons for a finger. */
+/** The page of lines in an order's form: menus and stock items, with buttons large enough for touch. */
 class OrderLinesTab : public AppLinesTab
 {
     Q_OBJECT
@@ -29,9 +29,9 @@ public:
     void setOrderLines(const OrderLines& lines) { setLines(asEntities(lines)); }
     void focusFirstControl();
 
-    /** Asks where the lines are priced in several currencies, which the total adds as if they were one. */
+    /** Asks the user if the lines have several currencies, because the total adds them as if they were one. */
     bool mayAddCurrencies();
-    /** The total as a person reads it. */
+    /** The total as shown to the user. */
     [[nodiscard]] QString totalText() const;
 
     void on_btnAdd_clicked() final;
@@ -57,7 +57,7 @@ private:
     int m_itemType = -1;
 };
 
-/** A page of lines made of a family's classes. */
+/** An OrderLinesTab for one kind of order, with its classes of line, model and pickers. */
 template <class Line, class Model, class MenuPicker, class InventoryPicker>
 class OrderLinesOf : public OrderLinesTab
 {

@@ -7,33 +7,33 @@
 class EntityOrder;
 
 /**
- * Where screens ask for a bill or a slip. Who composes slips knows the records of every way of selling, and so lies
- * above their screens; these know no more of it than what can be asked. What cannot be printed is told in a box; the
- * sale stands either way.
+ * The interface through which screens request bills and slips. The implementation depends on the records of every
+ * kind of sale and therefore belongs to a layer above their screens; these only know this interface. A failure to print
+ * is shown in a box; the sale stays saved.
  */
 class SlipRequests : public QObject
 {
     Q_OBJECT
 
 public:
-    /** Who answers; made with the registry of services. */
+    /** The implementation, created together with the registry of services. */
     static SlipRequests* instance();
 
-    // By the sale's own row: the one that ties the invoice to its way of selling.
+    // The id is that of the link row between the invoice and its kind of sale, not of the invoice.
     virtual void printBillMakanDitempat(int invoiceId) = 0;
     virtual void printBillFastFood(int invoiceId) = 0;
     virtual void printBillBawaPulang(int invoiceId) = 0;
 
-    /** The recap of an order on the cashier printer. */
+    /** Prints the summary of an order on the cashier printer. */
     virtual void printMakanDitempat(int orderId) = 0;
-    /** A slip to each kitchen that prints by itself, with the lines that the order holds in memory. */
+    /** Prints a slip for each kitchen with automatic printing, with the order's lines as they are in memory. */
     virtual void printMenuOrder(OrderKind kind, EntityOrder* order) = 0;
-    /** The same to all kitchens. */
+    /** The same for all kitchens. */
     virtual void reprintMenuOrder(OrderKind kind, EntityOrder* order) = 0;
     /**
-     * What an edit has changed, from the order's own lists: first what is taken back, then what is new or changed, and
-     * where the table is another one a word to the kitchens that hear nothing else of it. To kitchens that print by
-     * themselves, and only of what they cook. The former table is empty where the order has not moved.
+     * Prints the changes of an edit, from the order's lists of changes: first what was taken back, then what is new or
+     * changed. After a move to another table, kitchens that get none of these slips get one about the move. Only for
+     * kitchens with automatic printing, and only items that they cook. The former table is empty without a move.
      */
     virtual void printMenuOrderChange(OrderKind kind, EntityOrder* order, const QString& formerTable) = 0;
     enum CancelTo { AllKitchens, KitchensThatHadIt };

@@ -16,7 +16,7 @@ EntityInvoiceDetail* newLine(EntityItem* item, Money* price, int quantity, QObje
     line->setItem(item);
     line->setQty(quantity);
     line->setPriceEach(price);
-    // Recomputed from price and quantity: an order line's own total may be behind its quantity.
+    // Calculated from price and quantity: an order line's own total may not match its quantity (see mergeLines()).
     line->recomputeTotal();
     return line;
 }
@@ -79,7 +79,7 @@ void takeOffLines(const InvoiceLines& takenOff, InvoiceLines* lines)
     InvoiceLines emptied;
     for (const EntityInvoiceDetail* part : takenOff) {
         int left = part->getQty();
-        // The price may have changed meanwhile; what is sold at the same one goes first.
+        // The price may have changed since; lines with the same price are reduced first.
         for (const Same same : {Same(sellsTheSame), Same(isSameDish)}) {
             for (EntityInvoiceDetail* line : qAsConst(*lines)) {
                 const int taken = same(*line, *part) ? std::min(left, line->getQty()) : 0;
@@ -92,17 +92,17 @@ void takeOffLines(const InvoiceLines& takenOff, InvoiceLines* lines)
             }
         }
     }
-    // Others with nothing left on them were split up, and stay.
+    // Lines that had quantity 0 before were split off completely, and stay.
     for (EntityInvoiceDetail* line : qAsConst(emptied))
         lines->removeOne(line);
 }
 
 BillDifference differenceOf(const EntityOrder& order, const InvoiceLines& billed, QObject* owner)
 {
-    // An order always has lines; without them nobody knows what it was for.
+    // An order without lines cannot be compared.
     if (order.getDetails().isEmpty())
         return {};
-    // Quantities by dish and price in the order in which they were ordered, less what was billed of each.
+    // Quantities by dish and price, in the order's sequence, minus the quantities billed.
     InvoiceLines rest;
     const auto count = [&rest, owner](const EntityInvoiceDetail& line, int sign) {
         if (!line.getItem() || !line.getPriceEach())
@@ -121,7 +121,7 @@ BillDifference differenceOf(const EntityOrder& order, const InvoiceLines& billed
     for (const EntityInvoiceDetail* line : billed)
         count(*line, -1);
 
-    // A dish whose price has changed since is neither missing nor taken back.
+    // A dish whose price has changed since counts neither as unbilled nor as taken back.
     for (EntityInvoiceDetail* more : qAsConst(rest)) {
         for (EntityInvoiceDetail* less : qAsConst(rest)) {
             if (!isSameDish(*more, *less) || more->getQty() <= 0 || less->getQty() >= 0)

@@ -9,35 +9,35 @@ class EntityInvoiceDetail;
 class EntityOrder;
 class QObject;
 
-// What is done with the lines of bills: taken over from the order, shared among the guests, compared with the order.
+// Operations on the lines of bills: copy them from the order, split them among guests, compare them with the order.
 
 using InvoiceLines = QList<EntityInvoiceDetail*>;
 
-/** The order's lines as those of a bill; they are the owner's. */
+/** The order's lines as new bill lines, children of the owner. */
 [[nodiscard]] InvoiceLines billOf(const EntityOrder& order, QObject* owner);
 
-/** The quantities split off, as new lines of the owner, under the name of their group. */
+/** The quantities split off, as new lines by name of their group, children of the owner. */
 [[nodiscard]] QMap<QString, InvoiceLines> splitGroups(const InvoiceLines& lines, QObject* owner);
 
-/** Adds the quantities to the lines of the same dish and price; what has no such line becomes one of the owner. */
+/** Adds the quantities to lines of the same dish and price; others become new lines, children of the owner. */
 void addLines(const InvoiceLines& added, InvoiceLines* lines, QObject* owner);
 
-/** Takes the quantities of these dishes off the lines, as far as they are there; a line with nothing left goes. */
+/** Subtracts the quantities of these dishes from the lines, at most to 0; lines that reach 0 leave the list. */
 void takeOffLines(const InvoiceLines& takenOff, InvoiceLines* lines);
 
-/** What an order and all its bills together tell differently, dish by dish. Prices are not compared. */
+/** The differences in quantity, dish by dish, between an order and all its bills. Prices are not compared. */
 class BillDifference
 {
     Q_DECLARE_TR_FUNCTIONS(BillDifference)
 
 public:
-    /** Ordered, and on no bill; at the order's price. */
+    /** Ordered, but on no bill; at the order's price. */
     InvoiceLines unbilled;
-    /** On a bill, and no longer ordered; at the bill's price. */
+    /** On a bill, but no longer ordered; at the bill's price. */
     InvoiceLines takenBack;
 
     [[nodiscard]] bool isEmpty() const { return unbilled.isEmpty() && takenBack.isEmpty(); }
-    /** For the cashier: dishes, quantities and amounts, and the sum where there are several. */
+    /** Text for the cashier: dishes, quantities and amounts, and the sum if there are several. */
     [[nodiscard]] QString text() const;
 
 private:
@@ -45,5 +45,5 @@ private:
     [[nodiscard]] static QString dishesOf(const InvoiceLines& lines);
 };
 
-/** The difference's lines are the owner's. */
+/** Compares the order with the lines of all its bills. The result's lines are children of the owner. */
 [[nodiscard]] BillDifference differenceOf(const EntityOrder& order, const InvoiceLines& billed, QObject* owner);

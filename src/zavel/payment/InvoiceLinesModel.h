@@ -8,6 +8,6 @@ class InvoiceLinesModel : public AppEntityModel
     Q_OBJECT
 
 public:
-    /** While a party pays apart two more columns tell what is split off. */
+    /** With showSplit two more columns show what is split off to separate invoices. */
     InvoiceLinesModel(const QList<KorEntity*>& lines, bool showSplit, QObject* parent);
 };

@@ -33,7 +33,7 @@ void InvoiceLinesTab::setDetails(const QList<EntityInvoiceDetail*>& details)
 void InvoiceLinesTab::refresh()
 {
     const int row = m_grid->currentIndex().row();
-    // The former model goes without clear(): the lines are not its own.
+    // No clear(): the model does not own the lines.
     delete m_model;
     m_model = createModel(asEntities(m_details));
     applyModel(m_grid, m_model);

@@ -8,7 +8,7 @@ class QHBoxLayout;
 class QLabel;
 class QTableView;
 
-/** The page of a payment form that shows what is paid for. The lines belong to whoever sets them. */
+/** The page of a payment form with the invoice's lines. The caller that sets the lines owns them. */
 class InvoiceLinesTab : public AppTab
 {
     Q_OBJECT
@@ -21,7 +21,7 @@ public:
     void focusGrid();
 
 signals:
-    /** The lines are others than before. */
+    /** Emitted when the lines have changed. */
     void ItemAdded();
 
 protected:

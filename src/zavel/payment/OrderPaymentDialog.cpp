@@ -93,7 +93,7 @@ void OrderPaymentDialog::changeLines(const BillDifference& difference)
     addLines(difference.unbilled, &lines, this);
     setLines(lines);
     for (const InvoiceTotals::Part part : {InvoiceTotals::Discount, InvoiceTotals::Tax, InvoiceTotals::Service}) {
-        // A percentage is one of the dishes that came on top too; an amount that was agreed on stays what it is.
+        // A percentage applies to the added dishes too; an amount that was entered as such stays unchanged.
         const double ofPercent = before.subtotal() * (before.percent(part) / 100);
         if (InvoiceTotals::kept(ofPercent, before.currency()) == before.amount(part))
             cascade()->percentEntered(part);
@@ -136,7 +136,7 @@ KorEntity* OrderPaymentDialog::getEntity()
     m_order->setMember(parties()->member());
     fillSale(m_sale, m_order);
     m_sale->setDetails(invoiceLines());
-    // An order's guest may have a longer name than an invoice has room for.
+    // The order's column for the guest's name is wider than the invoice's.
     m_sale->getInvoice()->setPemesan(m_order->getPemesan().left(50));
     fillInvoice(m_sale->getInvoice());
     return m_sale;
@@ -146,7 +146,7 @@ bool OrderPaymentDialog::beforeAccept()
 {
     if (saveInvoice())
         offerToFinish();
-    // The form stays on the saved invoice; closing it is the cashier's choice.
+    // False keeps the form open on the saved invoice; the cashier closes it.
     return false;
 }
 
@@ -170,7 +170,7 @@ bool OrderPaymentDialog::saveInvoice()
             .offer(this, sales());
     }
     m_knownBills.append(m_sale->getInvoice()->getId());
-    // What the database has now, before anything is asked: a question may stay open for a long time.
+    // Read again before asking anything, because a question may stay open for a long time.
     if (!readSaved()) {
         showInvoice(*m_sale->getInvoice());
         return false;
@@ -179,7 +179,7 @@ bool OrderPaymentDialog::saveInvoice()
         m_print = true;
     if (m_print)
         printBill(m_sale->getId());
-    // The box in hand shows the stored figure; what is typed next replaces it.
+    // The focused box shows the stored figure; typing replaces it.
     if (auto* box = qobject_cast<QLineEdit*>(focusWidget()))
         box->selectAll();
     return true;
@@ -257,7 +257,7 @@ void OrderPaymentDialog::showMissing(int id)
 
 void OrderPaymentDialog::saveAndPrint(QWidget* button)
 {
-    // By its key the button is pressed while a box is still being typed in.
+    // A shortcut presses the button while another box has the focus; moving the focus commits that box's value.
     button->setFocus();
     m_print = true;
     accept();
@@ -273,7 +273,7 @@ void OrderPaymentDialog::offerToFinish()
 
 bool OrderPaymentDialog::mayEnd()
 {
-    // As it stands now: a waiter may have added to the order while this form was open.
+    // Read again: a waiter may have changed the order while this form was open.
     EntityPool pool;
     const EntityPoolScope scope(pool);
     QObject lines;

@@ -8,8 +8,8 @@ class EntityInvoiceLink;
 class EntityOrder;
 
 /**
- * The payment form of an order, on a table or to take away: turns the order into an invoice, prints the bill and ends
- * the order. A save leaves the form open on the saved invoice; a failed one leaves it as it was typed.
+ * The payment form of an order, on a table or to take away: turns the order into an invoice, prints the bill and
+ * finishes the order. The form stays open after saving; after a failed save it keeps the user's input.
  */
 class OrderPaymentDialog : public PaymentDialog
 {
@@ -17,8 +17,9 @@ class OrderPaymentDialog : public PaymentDialog
 
 public:
     /**
-     * Opens the order's invoice or a new one. False means that the action is to be dropped: the cashier cancelled, or
-     * the invoices could not be read. The order is borrowed; what the form puts into it dies with the form.
+     * Opens the order's invoice or a new one. Returns false if the cashier cancelled or the invoices could not be read;
+     * the form must then not be shown. The form does not own the order, but objects that it sets in the order are
+     * deleted with the form.
      */
     [[nodiscard]] bool openOrder(EntityOrder* order);
 
@@ -30,7 +31,7 @@ public slots:
     void on_btnFinish_clicked();
 
 protected:
-    /** What the form asks and says. */
+    /** The texts of the form's questions and messages. */
     struct Texts
     {
         QString print;
@@ -40,43 +41,43 @@ protected:
 
     OrderPaymentDialog(NetDueSign netDue, QWidget* parent) : PaymentDialog(netDue, parent) {}
 
-    // What a concrete form tells.
+    // Defined by each form.
     [[nodiscard]] virtual Texts texts() const = 0;
     virtual void setLines(const InvoiceLines& lines) = 0;
-    /** The order as it stands now; a failure is left in the service. */
+    /** Reads the order; an error stays in the service. */
     virtual EntityOrder* readOrder(int id) = 0;
     virtual QList<EntityInvoiceLink*> readInvoices(int orderId) = 0;
-    /** The one to open of an order's invoices; null when the cashier wants none. */
+    /** Chooses which of the order's invoices to open; null if the cashier cancels. */
     virtual EntityInvoiceLink* choose(const QList<EntityInvoiceLink*>& invoices) { return invoices.first(); }
     virtual EntityInvoiceLink* createSale() = 0;
     virtual EntityInvoiceLink* readSale(int id) = 0;
     [[nodiscard]] virtual EntityOrder* orderOf(const EntityInvoiceLink& sale) const = 0;
-    /** What the link keeps beside the invoice; both are the form's. */
+    /** Fills the fields that the link stores besides the invoice; both objects belong to the form. */
     virtual void fillSale(EntityInvoiceLink* sale, EntityOrder* order) = 0;
-    /** Shows what the link keeps beside the invoice. */
+    /** Shows the fields that the link stores besides the invoice. */
     virtual void showSale(const EntityInvoiceLink&) {}
     virtual void showOrder(const EntityOrder& order) = 0;
     virtual bool finish(EntityOrder* order) = 0;
     virtual void printBill(int saleId) = 0;
 
-    /** Bills of the order that were made beside this form, and with its knowledge. */
+    /** Invoice ids of the order's bills that this form knows; other bills were created elsewhere meanwhile. */
     [[nodiscard]] const QList<int>& knownBills() const { return m_knownBills; }
     void addKnownBills(const QList<int>& invoiceIds) { m_knownBills += invoiceIds; }
-    /** A new invoice for these lines, which the form takes. */
+    /** Shows a new invoice with these lines. */
     void showNewSale(EntityOrder* order, const InvoiceLines& lines);
-    /** Saves, reads everything again and offers to print; false, with a box, when one of the first two failed. */
+    /** Saves, reads again and offers to print; false, after a message, if saving or reading failed. */
     bool saveInvoice();
     void offerToFinish();
-    /** What a print button does: the bill comes without a question. */
+    /** Saves and prints the bill without asking. */
     void saveAndPrint(QWidget* button);
-    /** Replaces the order and the invoice by what stands in the database now; false, with a box, when it fails. */
+    /** Reads order and invoice from the database again; false, after a message, if that fails. */
     bool readAgain();
-    /** The same without a word about a failure, which the service keeps. */
+    /** The same without a message; an error stays in the service. */
     bool readStored();
-    /** The same behind a save: a failure to read is not taken for one to save. */
+    /** The same after a save: the message says that the invoice is saved and only reading failed. */
     bool readSaved();
 
-    /** Tells why the record with this id could not be read: a failure, or that it is not there. */
+    /** Shows why the record with this id could not be read: an error, or it does not exist. */
     void showMissing(int id);
 
     [[nodiscard]] bool isStored() const override;
@@ -86,17 +87,17 @@ protected:
 
 private:
     enum Remedy { ChangeBill, MakeSecondBill, LeaveBill };
-    /** Tells what was ordered or taken back since the order was billed, and asks what to do about it. */
+    /** Shows what was ordered or taken back since the order was billed, and asks what to do about it. */
     Remedy askForRemedy(const BillDifference& difference);
-    /** Brings the bill in hand up to the order; nothing is saved yet. */
+    /** Updates the lines of the bill shown to match the order, without saving. */
     void changeLines(const BillDifference& difference);
-    /** Says who has billed the order meanwhile, and opens that bill on request; false where nobody has. */
+    /** Shows who has billed the order meanwhile, and opens that bill on request; false if nobody has. */
     bool showBillOfAnother();
-    /** Whether the order may be ended: nothing is unbilled, or the cashier wants it so. */
+    /** Whether the order may be finished: its bills match it, or the cashier confirms. */
     bool mayEnd();
     bool finishOrder();
 
-    // All that the form read. Nothing of it goes before the form does: lines in hand show items that were read earlier.
+    // Owns everything that the form has read, until it is deleted: its lines may refer to items read earlier.
     EntityPool m_read;
     EntityOrder* m_order = nullptr;
     EntityInvoiceLink* m_sale = nullptr;

@@ -45,7 +45,7 @@ void PaymentDialog::setUp(const Form& form, QWidget* linesPage)
     onKey(Qt::Key_F9, [paid = form.amounts.paid] { paid->setFocus(Qt::ShortcutFocusReason); });
     onKey(Qt::Key_F10, [credit = form.amounts.credit] { credit->setFocus(Qt::ShortcutFocusReason); });
     QTimer::singleShot(0, form.amounts.paid, [paid = form.amounts.paid] {
-        // Selected even when the window becomes active later: the first figure replaces what stands in the box.
+        // ShortcutFocusReason selects the text even if the window becomes active later: typing replaces the figure.
         paid->setFocus(Qt::ShortcutFocusReason);
         paid->selectAll();
     });

@@ -14,8 +14,8 @@ class QPlainTextEdit;
 class QTabWidget;
 
 /**
- * The payment form that all ways of selling share: who pays, discount, tax and service, the money, the account that
- * takes it. A concrete form lays the boxes out, knows the lines that are paid for and what a save does.
+ * Base of the payment forms of all kinds of sale: the guest, discount, tax and service, the amounts, and the account
+ * that receives the money. A derived form has the layout, the invoice's lines and the saving.
  */
 class PaymentDialog : public KorDialog
 {
@@ -38,7 +38,7 @@ public slots:
     void on_txtTax_editingFinished();
     void on_txtServicePerc_editingFinished();
     void on_txtService_editingFinished();
-    // Nothing follows from an amount while it is being typed.
+    // Amounts are not recalculated while the user types.
     void on_txtDiscPerc_textChanged(const QString&) {}
     void on_txtTaxPerc_textChanged(const QString&) {}
     void on_txtServicePerc_textChanged(const QString&) {}
@@ -48,7 +48,7 @@ public slots:
     void on_txtDiscount_selectionChanged() {}
 
 protected:
-    /** The boxes of a form, which owns them. */
+    /** The boxes of a form; the form owns them. */
     struct Form
     {
         TotalsCascade::Boxes amounts;
@@ -60,7 +60,7 @@ protected:
         QTabWidget* pages;
         QDialogButtonBox* buttons;
     };
-    /** The boxes that every form has, by the names that they have in common. */
+    /** Collects the boxes by the object names that all forms use. */
     template <class Ui>
     static Form formOf(const Ui& ui)
     {
@@ -74,27 +74,27 @@ protected:
                 ui.buttonBox};
     }
 
-    /** What the stored net due means: what is owed, or the change that the form shows, which has the other sign. */
+    /** The sign of the stored net due: the amount owed, or its negative, the change, as the form shows it. */
     enum NetDueSign { StoresWhatIsOwed, StoresWhatIsShown };
 
     PaymentDialog(NetDueSign netDue, QWidget* parent);
 
-    /** Called once, when the form's boxes and the page of the lines are made. */
+    /** Must be called once, after the form's boxes and the page of lines are created. */
     void setUp(const Form& form, QWidget* linesPage);
 
-    // What a concrete form tells.
+    // Defined by each form.
     [[nodiscard]] virtual QList<EntityInvoiceDetail*> invoiceLines() const = 0;
     virtual void focusLines() = 0;
     /** A stored invoice keeps the discount that it was saved with. */
     [[nodiscard]] virtual bool isStored() const = 0;
 
-    /** Zero everywhere, today, and the default account. */
+    /** Shows an empty invoice: all amounts 0, this date and the default account. */
     void showNewInvoice(const QDate& date);
-    /** All but the guest and the lines. */
+    /** Shows everything except the guest and the lines. */
     void showInvoice(const Invoice& invoice);
     void showGuest(EntityMember* member, const QString& name);
     void applyMemberDiscount(const EntityMember* member);
-    /** All but the guest's name. The member and the account are those of the last validation. */
+    /** Fills everything except the guest's name. Member and account are those found by the last validate(). */
     void fillInvoice(Invoice* invoice);
 
     bool ask(const QString& question);

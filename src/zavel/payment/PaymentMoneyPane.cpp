@@ -5,7 +5,7 @@
 PaymentMoneyPane::PaymentMoneyPane(QWidget* parent) : QWidget(parent), m_ui(std::make_unique<Ui::PaymentMoneyPane>())
 {
     m_ui->setupUi(this);
-    // The form's tab order leads into the column as a whole.
+    // The form's tab order refers to this pane; the proxy passes the focus to its first box.
     setFocusProxy(m_ui->txtDiscPerc);
 }
 

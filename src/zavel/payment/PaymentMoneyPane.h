@@ -11,7 +11,7 @@ namespace Ui
 class PaymentMoneyPane;
 }
 
-/** The column of a payment form that holds the money, from the subtotal to the change. */
+/** The column of a payment form with the amounts, from the subtotal to the change. */
 class PaymentMoneyPane final : public QWidget
 {
     Q_OBJECT
@@ -21,7 +21,7 @@ public:
     ~PaymentMoneyPane() override;
 
     [[nodiscard]] TotalsCascade::Boxes boxes() const;
-    /** What the form calls the grand total. */
+    /** Sets the caption of the grand total. */
     void setTotalCaption(const QString& text);
 
 private:

@@ -27,10 +27,10 @@ void PaymentParties::lookUp()
 {
     m_account->check(tr("Please select a Cash Accounts"), tr("Please select a valid Cash Accounts"));
     bool couldAsk = m_account->couldAsk();
-    // A code typed by hand counts like one that was picked from the list; a wrong one must not vanish silently.
+    // A typed code counts like one picked from the list; an unknown one must cause an error.
     const QList<RecordFieldBase*> people{m_member, m_agent, m_employee};
     for (RecordFieldBase* field : people) {
-        // A database that does not answer is told once, not once a box.
+        // A database error is reported once, not once per box.
         if (!field || !couldAsk)
             continue;
         field->check({}, tr("There is no record with the code: %1").arg(field->box()->editor()->text()));

@@ -14,16 +14,16 @@ template <typename Entity>
 class RecordField;
 
 /**
- * Who takes part in a payment and where the money goes: makes the boxes of a payment form find members, agents,
- * waitresses and accounts, and knows whom the codes in them stand for. The ways of selling share it; the boxes are
- * borrowed.
+ * The people of a payment and the account that receives the money: connects the boxes of a payment form with the
+ * lookups of members, agents, waitresses and accounts, and finds the records of the codes in them. Used by all payment
+ * forms; does not own the boxes.
  */
 class PaymentParties : public QObject
 {
     Q_OBJECT
 
 public:
-    /** A way of selling without agents and waitresses has no boxes for them. */
+    /** Null for boxes that the form does not have, such as agent and waitress. */
     struct Boxes
     {
         QLineEdit* member;
@@ -36,20 +36,20 @@ public:
     PaymentParties(const Boxes& boxes, KorDialog* form);
 
     [[nodiscard]] RecordField<EntityMember>* memberField() const { return m_member; }
-    // Null where the form has no such box.
+    // Null if the form has no such box.
     [[nodiscard]] RecordField<EntityAgent>* agentField() const { return m_agent; }
     [[nodiscard]] RecordField<EntityEmployee>* employeeField() const { return m_employee; }
     [[nodiscard]] AccountField* cashField() const { return m_account; }
 
-    /** Reads whom the codes stand for; what is wrong with them becomes an error of the form. */
+    /** Reads the records of the codes in the boxes; an unknown code becomes an error of the form. */
     void lookUp();
-    // As far as they were looked up; null for an empty box. They live as long as the form.
+    // The records found by lookUp(); null for an empty box. Valid as long as the form.
     [[nodiscard]] EntityMember* member() const;
     [[nodiscard]] EntityAgent* agent() const;
     [[nodiscard]] EntityEmployee* employee() const;
     [[nodiscard]] EntityBank* cashAccount() const;
 
-    // They are borrowed.
+    // The records are not owned.
     void showMember(EntityMember* member);
     void showAgent(EntityAgent* agent);
     void showEmployee(EntityEmployee* employee);

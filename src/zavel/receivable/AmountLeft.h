@@ -4,5 +4,5 @@
 
 class Invoice;
 
-/** What is left to pay of the invoice, in its own currency. */
+/** The amount of the invoice that is still unpaid, in the invoice's currency. */
 [[nodiscard]] std::unique_ptr<Money> amountLeft(const Invoice& invoice);

@@ -11,7 +11,7 @@
 
 #include <QHash>
 
-// What members pay later.
+// Members' later payments of open invoices.
 
 EntityPiutang* BusinessPenjualan::findPiutang(int id)
 {
@@ -77,7 +77,7 @@ bool BusinessPenjualan::updateInvoicesOfPiutang(const EntityPiutang* payment)
     bool done = readPaidInvoices(payment, &invoices, &paid);
 
     for (Invoice* invoice : qAsConst(invoices)) {
-        // In place of any other credit, also of one that was given at the sale.
+        // Replaces any other credit on the invoice, even one given at the sale.
         invoice->setOtherPayment(
             minorUnits(paid.value(invoice->getId()), payment->getGrandTotal()->getCurrency()).get());
         invoice->setNetDue(amountLeft(*invoice).get());

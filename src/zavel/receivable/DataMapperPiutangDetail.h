@@ -10,8 +10,8 @@ class DataMapperPiutang;
 class EntityPiutangDetail;
 
 /**
- * What members' payments paid of invoices, in the table "piutang_detail". The invoice has no foreign key: a sale may
- * be deleted, and its payment lines then stay in the table but are read no more.
+ * The lines of members' payments, one per invoice, in the table "piutang_detail". The invoice has no foreign key: a
+ * sale may be deleted, and its payment lines then stay in the table but are no longer read.
  */
 class DataMapperPiutangDetail final : public AppLineMapper
 {
@@ -24,6 +24,6 @@ public:
     KorEntity* createEntity() override;
     [[nodiscard]] QStringList indexStatements() const override;
 
-    /** What all payments paid of these invoices. */
+    /** The lines of all payments for these invoices. */
     [[nodiscard]] QList<EntityPiutangDetail*> findByInvoices(const QList<int>& invoiceIds);
 };

@@ -5,7 +5,7 @@
 #include "pos/masterdata/member/EntityMember.h"
 #include "zavel/receivable/EntityPiutangDetail.h"
 
-/** A member's later payment for invoices that were left open. */
+/** A member's later payment of open invoices. */
 class EntityPiutang : public EntityPartSettlement, public AppDocumentLines<EntityPiutangDetail>
 {
     Q_OBJECT

@@ -3,7 +3,7 @@
 #include "pos/cash/settlement/EntityPartPayment.h"
 #include "pos/invoice/Invoice.h"
 
-/** What a member's payment pays of one invoice, and what is then left of it. */
+/** The amount that a member's payment pays of one invoice, and the amount left after it. */
 class EntityPiutangDetail : public EntityPartPayment
 {
     Q_OBJECT

@@ -4,7 +4,7 @@
 
 #include <QDate>
 
-/** What the list of members' payments is narrowed to. Both dates count; 0 and KorNoValue leave all. */
+/** The filter of the list of members' payments. Both dates are inclusive; 0 and KorNoValue match everything. */
 struct ReceivableFilter
 {
     QDate from;

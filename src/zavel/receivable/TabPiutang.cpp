@@ -75,7 +75,7 @@ bool TabPiutang::updateEntity(KorEntity* entity)
 
 bool TabPiutang::removeEntity(KorEntity* entity) { return businessAs<BusinessPenjualan>()->remove(payment(entity)); }
 
-/** A payment that is saved is not entered again because its invoices could not be counted. */
+/** If the payment is saved but updating its invoices failed, offers to repeat the update and counts as a success. */
 bool TabPiutang::stands(bool done, const QString& operation, const EntityPiutang& payment)
 {
     if (done || business()->errors().contains(operation))

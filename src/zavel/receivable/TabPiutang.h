@@ -9,7 +9,7 @@ class QDateEdit;
 template <typename Entity>
 class RecordField;
 
-/** The list of what members paid later. */
+/** The list of members' later payments. */
 class TabPiutang final : public AppListTab
 {
     Q_OBJECT

@@ -11,7 +11,7 @@ public:
     explicit TabPiutangInvoice(QWidget* parent = nullptr);
 
 public slots:
-    // The names are the reverse of what the buttons do.
+    // The buttons' object names are swapped.
     /** Pays all invoices. */
     void on_pushButton_clicked() { payAll(); }
     /** Pays the selected invoice. */

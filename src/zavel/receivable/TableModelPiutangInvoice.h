@@ -2,7 +2,7 @@
 
 #include "app/widgets/AppEntityModel.h"
 
-/** The open invoices of a member, with what a payment pays of each. */
+/** The open invoices of a member, with the amount that a payment pays of each. */
 class TableModelPiutangInvoice final : public AppEntityModel
 {
     Q_OBJECT

@@ -19,6 +19,6 @@ ZavelBusinessRegistry* ZavelBusinessRegistry::instance()
 ZavelBusinessRegistry::ZavelBusinessRegistry(QObject* parent)
     : KorBusinessRegistry(zavelFamilies(), {"Table", "Sales"}, AppContext::instance()->logger(), parent)
 {
-    // Who answers what the screens of sales ask for.
+    // Creates the implementation of SlipRequests for the screens of sales.
     ZavelReportFactory::instance();
 }

@@ -3,7 +3,7 @@
 #include "app/persistence/AppDocumentMapper.h"
 #include "kor/business/KorServiceTransaction.h"
 
-// The service itself. What it does for one way of selling, or for one kind of payment, lies in that one's folder.
+// The general part. Operations for one kind of sale or payment are defined in the folder of that kind.
 
 BusinessPenjualan::BusinessPenjualan(QObject* parent, KorDataMapper* mapper, const Mappers& mappers)
     : KorBusinessLogic("Sales", mapper, parent), m_mappers(mappers)

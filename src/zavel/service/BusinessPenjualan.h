@@ -40,11 +40,11 @@ struct ReceivableFilter;
 struct SalesFilter;
 
 /**
- * The one service of sales. It keeps a failure under the operation's name; a read that finds nothing returns null
- * without one. Rights are tested by the screens.
+ * The service of all sales. Errors are stored under the operation's name; a read that finds nothing returns null
+ * without an error. The screens check the access rights.
  *
- * All screens of sales know the service, and the service knows the records of them all. Therefore only its declaration
- * lies here, below its users: each operation is defined in the folder of the way of selling that it is about.
+ * All screens of sales depend on the service, and the service depends on all their records. Therefore only the
+ * declaration is in this folder; each operation is defined in the folder of its kind of sale.
  */
 class BusinessPenjualan final : public KorBusinessLogic
 {
@@ -67,7 +67,7 @@ public:
     };
     Q_ENUM(PERMISSIONS)
 
-    /** The mappers are borrowed. */
+    /** The mappers that the service uses; not owned. */
     struct Mappers
     {
         DataMapperInvoiceMakanDitempat* dineInvoices = nullptr;
@@ -80,60 +80,60 @@ public:
         DataMapperInvoice* invoices = nullptr;
         DataMapperKomisiAgen* commissions = nullptr;
         DataMapperAllAgentCommision* agentSales = nullptr;
-        /** What clearing empties, in this order: what refers to others goes first. */
+        /** The mappers whose tables clearTransactions() empties, in this order: referring tables first. */
         QList<KorDataMapper*> transactions;
     };
 
-    /** The generic operations go to the first mapper. */
+    /** The generic operations of the base class use the single mapper. */
     BusinessPenjualan(QObject* parent, KorDataMapper* mapper, const Mappers& mappers);
 
     [[nodiscard]] QList<KorPermission> getPermissions() const override;
     bool clearTransactions() override;
 
     // Orders on tables.
-    /** Refused on a table that carries an open order, as far as its code is written in lower case. */
+    /** Refused if the table has an open order; this is only detected if the table's code has no capital letters. */
     bool insertNewOrder(EntityMakanDitempat* order);
     bool updateOrder(EntityMakanDitempat* order);
-    /** Refused once money was taken for the order. */
+    /** Refused once the order is paid, even in part. */
     bool removeOrder(EntityMakanDitempat* order);
     [[nodiscard]] EntityMakanDitempat* findOrder(int id);
-    /** Open orders; see DataMapperMakanDitempat for how the status and the text narrow them. */
+    /** Open orders; see DataMapperMakanDitempat for the effect of status and text. */
     [[nodiscard]] QList<EntityMakanDitempat*> getMakanDitempatList(int status, const QString& text);
     bool updateStatusMakanDitempat(EntityMakanDitempat* order);
-    /** The guests have gone: the table is free again. */
+    /** Sets the order to done: the guests have left and the table is free again. */
     bool makanDitempatSelesai(EntityMakanDitempat* order);
 
     // Orders to take away.
-    /** A take-away order is always a new one: it sits on no table. */
+    /** Never refused because of an existing order, as it has no table. */
     bool insertNewOrder(EntityBawaPulang* order);
     bool updateOrder(EntityBawaPulang* order);
-    /** Refused once money was taken for the order. */
+    /** Refused once the order is paid, even in part. */
     bool removeOrder(EntityBawaPulang* order);
     [[nodiscard]] EntityBawaPulang* findOrderBawaPulang(int id);
-    /** Orders in the status; 0 gives all that are not done. */
+    /** Orders in the status; 0 for all that are not done. */
     [[nodiscard]] QList<EntityBawaPulang*> getBawaPulangList(int status);
-    /** The guest has taken the food: the order is done. */
+    /** Sets the order to done: the guest has taken the food. */
     bool bawaPulangSelesai(EntityBawaPulang* order);
-    /** The order's status follows its invoice's. */
+    /** Sets the order's status from its invoice's status. */
     bool updateStatusBawaPulang(EntityInvoiceBawaPulang* sale);
 
-    /** Open orders of both kinds with a line priced in another currency than this sign. */
+    /** Number of open orders of both kinds with a line in another currency than this sign. */
     [[nodiscard]] int countOpenOrdersOfOtherCurrency(const QString& sign);
 
     // The kitchen.
-    /** The open orders, those on tables first, each part in its list's order; the text narrows the tables alone. */
+    /** The open orders, those on tables first, each kind in its list's order; the text filters only tables. */
     [[nodiscard]] QList<EntityQueue*> getQueue(const QString& text);
-    /** Writes what the kitchen reports about the line, and nothing else of the order. */
+    /** Writes only the kitchen's status text of the line. */
     bool setKitchenStatus(EntityMakanDitempatDetail* line, const QString& text);
     bool setKitchenStatus(EntityBawaPulangDetail* line, const QString& text);
 
-    // Invoices of all ways of selling. True when the invoice stands; what failed behind it, the order's status, is an
-    // error all the same.
-    /** Saves the first state of an invoice, draws its number, then sets the order's status from all its invoices. */
+    // Invoices of all kinds of sale. True if the invoice is saved; if setting the order's status then fails, the result
+    // is still true and the service has an error.
+    /** Saves a new invoice with the next number, then sets the order's status from all its invoices. */
     bool insertInvoice(IInvoice* sale);
-    /** Saves a changed invoice; the order's status then follows from this one invoice alone. */
+    /** Saves a changed invoice, then sets the order's status from this invoice alone. */
     bool updateInvoice(IInvoice* sale);
-    /** The second half of both, for an order that was read before somebody else changed it too: sets its status. */
+    /** Repeats the second step of both: sets the status of the order, even if others have changed it meanwhile. */
     bool finishInvoice(IInvoice* sale, bool isFirst);
     [[nodiscard]] EntityInvoiceMakanDitempat* findInvoiceMakanDitempat(int id);
     [[nodiscard]] EntityInvoiceFastFood* findInvoiceFastFood(int id);
@@ -147,45 +147,45 @@ public:
 
     // All sales.
     /**
-     * Deletes the invoice with its lines and links. Of a table's order all links go, so that its other invoices lose
-     * theirs; the order itself, payments and commissions stay as they are.
+     * Deletes the invoice with its lines and links. For an order on a table all links are deleted, also those of its
+     * other invoices; the order itself, payments and commissions stay unchanged.
      */
     bool deleteSales(Invoice* invoice);
     [[nodiscard]] QList<EntityPenjualanInfo*> searchPenjualan(const SalesFilter& filter);
-    // Figures by day or month, oldest first; both limits count. AllUsers asks for the sales of all users.
+    // Figures by day or month, oldest first; both dates are inclusive. AllUsers means the sales of all users.
     static constexpr int AllUsers = -1;
     [[nodiscard]] QList<EntitySalesSummaryInfo*> getDailySales(const QDate& from, const QDate& to, int userId);
     [[nodiscard]] QList<EntitySalesSummaryInfo*> getMonthlySales(const QDate& from, const QDate& to, int userId);
-    /** What was sold of each item, sorted by one of the columns; an empty item type asks for all. */
+    /** The sales of each item, sorted by one of the columns; an empty item type means all. */
     [[nodiscard]] QList<EntitySoldItem*> getSoldItems(const QDate& from, const QDate& to, const QString& direction,
                                                       const QString& sortColumn, const QString& itemType);
 
-    // What members pay later.
+    // Members' later payments.
     using KorBusinessLogic::insert;
     using KorBusinessLogic::remove;
     [[nodiscard]] EntityPiutang* findPiutang(int id);
-    /** Saves the payment, then counts the invoices that it pays anew; true when both stand. */
+    /** Saves the payment, then updates the invoices that it pays; true if both succeeded. */
     bool insert(EntityPiutang* payment);
     bool updatePiutang(EntityPiutang* payment);
-    /** The second half of both: books what all payments paid of the payment's invoices as their other payment. */
+    /** The second step of both: sets the other payment of each invoice to the sum of all members' payments for it. */
     bool updateInvoicesOfPiutang(const EntityPiutang* payment);
     /**
-     * Credit that stands on the payment's invoices without a member's payment behind it, given at the sale or left by a
-     * payment that was deleted: counting anew puts the payments in its place. One line an invoice, the amount in
-     * AmountPaid; the pool's.
+     * Credit on the payment's invoices that does not come from a member's payment: it was given at the sale, or is left
+     * from a deleted payment. updateInvoicesOfPiutang() overwrites it. One line per invoice, the amount in AmountPaid;
+     * the lines belong to the pool.
      */
     [[nodiscard]] QList<EntityPiutangDetail*> creditsReplacedBy(const EntityPiutang* payment);
-    /** The invoices keep the money until a later payment counts them anew. */
+    /** The invoices keep the amount until a later payment updates them. */
     bool remove(EntityPiutang* payment);
     [[nodiscard]] QList<EntityPiutang*> searchPiutang(const ReceivableFilter& filter);
-    /** A line for each open invoice of the member, with what is due and nothing paid yet. */
+    /** A line for each open invoice of the member, with the amount due and 0 paid. */
     [[nodiscard]] QList<EntityPiutangDetail*> getUnpaidInvoicesForMember(int memberId);
 
-    // What agents earn.
+    // Commissions of agents.
     [[nodiscard]] EntityKomisiAgen* findKomisiAgen(int id);
     bool insertCommision(EntityKomisiAgen* payment);
     bool updateCommision(EntityKomisiAgen* payment);
-    /** The invoices are pending again. */
+    /** The commissions of the invoices are unpaid again. */
     bool remove(EntityKomisiAgen* payment);
     [[nodiscard]] QList<EntityKomisiAgen*> searchKomisiAgen(const CommissionFilter& filter);
     /** The payment that paid the invoice's commission; null without an error when none did. */
@@ -197,10 +197,10 @@ private:
     [[nodiscard]] DataMapperInvoiceLink* mapperOf(IInvoice* sale) const;
     bool setOrderStatus(IInvoice* sale, bool isFirst);
     bool followInvoices(EntityMakanDitempat* order);
-    /** The payment with all its lines, also those whose invoice is gone. */
+    /** Deletes the payment with all its lines, also those whose invoice is deleted. */
     bool removeSettlement(AppDocumentMapper* settlements, KorEntity* payment);
     bool setDineStatus(EntityMakanDitempat* order, int status);
-    /** The invoices that the payment pays of, as they stand, and what members have paid of each; false if it failed. */
+    /** Reads the payment's invoices and the sum of members' payments for each, in minor units; false on an error. */
     bool readPaidInvoices(const EntityPiutang* payment, QList<Invoice*>* invoices, QHash<int, double>* paid);
 
     Mappers m_mappers;

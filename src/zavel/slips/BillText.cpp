@@ -36,7 +36,7 @@ public:
         labels.phone = tr("Telp : ");
         return labels;
     }
-    /** In Indonesian whatever the program's language: these go home with the guest. */
+    /** Always in Indonesian, because the guest takes this bill home. */
     static BillLabels takeAway()
     {
         return {"Telp : ", "Sub total", "Pajak", "Diskon", "Service", "Grand Total", "Tunai", "Kredit"};
@@ -59,7 +59,7 @@ QString billLine(const EntityInvoiceDetail& line)
            "  " + SlipText::right(amount(line.getPriceEach()), 6) + "  " + SlipText::right(amount(line.getTotal()), 8);
 }
 
-/** What was paid less what was due: the guest's change, or, below zero, what is missing. */
+/** The amount paid minus the amount due: the guest's change, or the missing amount if negative. */
 QString balanceLine(const Invoice& invoice)
 {
     QObject scratch; // owns the values of the calculation

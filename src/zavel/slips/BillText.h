@@ -11,7 +11,7 @@ class EntityMember;
 class Invoice;
 class SlipText;
 
-/** What stands on a customer's bill. All records are borrowed. */
+/** The data of a customer's bill. Owns no records. */
 struct BillData
 {
     const EntityDataPerusahaan* company = nullptr;
@@ -21,18 +21,18 @@ struct BillData
     QString cashier;
     const EntityMember* member = nullptr;
     QString guest;
-    /** Sales without a table have no such line. */
+    /** Null for sales without a table; the bill then has no such line. */
     const EntityMeja* table = nullptr;
 };
 
-/** The three bills, which differ in their labels only. */
+/** The three bills differ only in their labels. */
 [[nodiscard]] QString composeDineBill(const BillData& bill);
 [[nodiscard]] QString composeFastFoodBill(const BillData& bill);
 [[nodiscard]] QString composeTakeAwayBill(const BillData& bill);
 
-/** What the slips of the restaurant have in common. */
+// Parts that all slips of the restaurant share.
 void addCompany(SlipText& slip, const EntityDataPerusahaan& company, const QString& phoneLabel);
-/** "-" for a guest who is no member. */
+/** "-" for a guest who is not a member. */
 [[nodiscard]] QString memberText(const EntityMember* member);
 /** The date and time format of all slips. */
 [[nodiscard]] inline QString slipTimeFormat() { return QStringLiteral("dd-MM-yyyy hh:mm:ss"); }

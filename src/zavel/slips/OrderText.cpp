@@ -41,7 +41,7 @@ QString tableText(const EntityOrder& order)
     return dine ? dine->tableTrail() : QString();
 }
 
-/** What all slips of a kitchen begin with. */
+/** Adds the lines that all slips of a kitchen begin with. */
 void addFrame(SlipText& text, const KitchenSlipData& slip, const QString& takeAwayLabel)
 {
     const EntityOrder& order = *slip.order;
@@ -49,7 +49,7 @@ void addFrame(SlipText& text, const KitchenSlipData& slip, const QString& takeAw
     text.line("Member : " + memberText(order.getMember()));
     text.line("Guest  : " + order.getPemesan());
     text.line(dateLine(order.getCreatedTime().isNull() ? slip.now : order.getCreatedTime()));
-    // An order that was never changed is as old as it is new.
+    // An order that was never changed shows its creation time as its update time.
     const QDateTime updated = order.getUpdatedTime().isNull() ? order.getCreatedTime() : order.getUpdatedTime();
     const QString ages = "Created: " + age(order.getCreatedTime()) + " Updated : " + age(updated);
     text.line(ages.left(qMax(text.columns(), 0)));
@@ -96,7 +96,7 @@ std::optional<QString> composeMenuOrder(const KitchenSlipData& slip)
     int number = 0;
     int total = 0;
     for (const EntityOrderDetail* line : slip.order->getDetails()) {
-        // Lines keep their place in the whole order, so that kitchen and waiter speak of the same number.
+        // Lines keep their number within the whole order, so that kitchen and waiter use the same number.
         ++number;
         if (!slip.kitchen->cooks(typeCode(*line)))
             continue;

@@ -15,7 +15,7 @@ ReportBill::ReportBill(QObject* parent, const EntityConfigCashierPrinter* cashie
     m_bill.printer = cashierPrinter;
     m_bill.invoice = sale->getInvoice();
     m_bill.lines = sale->getDetails();
-    // A user who was deleted since leaves the bill without a name.
+    // If the user was deleted, the bill has no cashier's name.
     m_bill.cashier = user ? user->getUserName() : QString();
 }
 

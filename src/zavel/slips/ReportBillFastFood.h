@@ -4,7 +4,7 @@
 
 class EntityInvoiceFastFood;
 
-/** The bill of a sale over the counter. Its text also goes to the log: such a sale leaves no order behind. */
+/** The bill of a sale over the counter. Its text is also logged, because such a sale has no order record. */
 class ReportBillFastFood final : public ReportBill
 {
     Q_OBJECT

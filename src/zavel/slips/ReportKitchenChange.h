@@ -2,7 +2,7 @@
 
 #include "zavel/slips/ReportKitchenSlip.h"
 
-/** Tells the kitchens what became of an order that they know: something was taken back, or the table is another one. */
+/** Informs the kitchens about a change of an order: something was taken back, or the order moved to another table. */
 class ReportKitchenChange final : public ReportKitchenSlip
 {
     Q_OBJECT

@@ -8,7 +8,7 @@ ReportKitchenSlip::ReportKitchenSlip(QObject* parent, const QList<EntityConfigKi
                                      const EntityUser* user, const EntityPrinterType* printerType)
     : SlipReport(parent, printerType), m_kitchens(kitchens), m_order(order), m_kind(kind)
 {
-    // The kitchen knows its own house and asks nobody's name: its slips show neither.
+    // Kitchen slips show neither the company nor the user.
     Q_UNUSED(company)
     Q_UNUSED(user)
 }
@@ -18,7 +18,7 @@ bool ReportKitchenSlip::print()
     nameOrder();
     QList<SlipQueue::Job> jobs;
     for (const EntityConfigKitchenPrinter* kitchen : qAsConst(m_kitchens)) {
-        // Without a printer the kitchen reads its orders from the screen.
+        // A kitchen without a printer reads its orders from the screen.
         if (kitchen->getPrinterName().isEmpty())
             continue;
         const std::optional<QString> text = compose({kitchen, m_order, m_kind, QDateTime::currentDateTime()});

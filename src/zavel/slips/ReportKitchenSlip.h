@@ -7,13 +7,13 @@
 
 class EntityUser;
 
-/** Base of the slips that an order sends to kitchens, each on its own printer. */
+/** Base of the slips of an order for the kitchens, each on the kitchen's own printer. */
 class ReportKitchenSlip : public SlipReport
 {
     Q_OBJECT
 
 public:
-    /** All kitchens at once: one whose printer fails does not keep the next one from its slip. */
+    /** Prints for all kitchens; a failing printer does not stop the slips of the other kitchens. */
     bool print() override;
 
 protected:
@@ -21,11 +21,11 @@ protected:
                       OrderKind kind, const EntityDataPerusahaan* company, const EntityUser* user,
                       const EntityPrinterType* printerType);
 
-    /** Nothing where the kitchen gets no slip. */
+    /** std::nullopt if the kitchen gets no slip. */
     [[nodiscard]] virtual std::optional<QString> compose(const KitchenSlipData& slip) const = 0;
 
 private:
-    /** What the slips are about, for the list of kept slips. */
+    /** Sets the name of the order that the list of kept slips shows. */
     void nameOrder();
 
     QList<EntityConfigKitchenPrinter*> m_kitchens;

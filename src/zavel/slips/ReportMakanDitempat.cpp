@@ -10,7 +10,7 @@ ReportMakanDitempat::ReportMakanDitempat(QObject* parent, const EntityConfigCash
                                          const EntityUser* user, const EntityPrinterType* printerType)
     : SlipReport(parent, printerType), m_cashierPrinter(cashierPrinter), m_order(order), m_company(company)
 {
-    Q_UNUSED(user) // the recap names nobody
+    Q_UNUSED(user) // the summary shows no user
 }
 
 bool ReportMakanDitempat::print()

@@ -7,7 +7,7 @@ class EntityDataPerusahaan;
 class EntityMakanDitempat;
 class EntityUser;
 
-/** The recap of a table's order on the cashier printer. */
+/** The summary of a table's order on the cashier printer. */
 class ReportMakanDitempat final : public SlipReport
 {
     Q_OBJECT

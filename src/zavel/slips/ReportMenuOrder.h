@@ -2,7 +2,7 @@
 
 #include "zavel/slips/ReportKitchenSlip.h"
 
-/** What the kitchens have to cook. A kitchen that has nothing to do with the order gets no slip. */
+/** What the kitchens have to cook. A kitchen that cooks nothing of the order gets no slip. */
 class ReportMenuOrder final : public ReportKitchenSlip
 {
     Q_OBJECT

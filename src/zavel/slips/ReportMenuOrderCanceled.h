@@ -2,7 +2,7 @@
 
 #include "zavel/slips/ReportKitchenSlip.h"
 
-/** Tells all kitchens that an order is off. */
+/** Informs the kitchens that an order is cancelled. */
 class ReportMenuOrderCanceled final : public ReportKitchenSlip
 {
     Q_OBJECT

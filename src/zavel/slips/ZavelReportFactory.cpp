@@ -49,7 +49,7 @@ void ZavelReportFactory::printBillBawaPulang(int invoiceId)
     printBill<ReportBillBawaPulang>(&BusinessPenjualan::findInvoiceBawaPulang, invoiceId);
 }
 
-// Not "class": lupdate would take the texts for those of a class Sale.
+// "typename" instead of "class": lupdate would take "class Sale" as the context of the texts.
 template <typename Report, typename Sale>
 void ZavelReportFactory::printBill(Sale* (BusinessPenjualan::*find)(int), int invoiceId)
 {
@@ -115,7 +115,7 @@ void ZavelReportFactory::printMenuOrderChange(OrderKind kind, EntityOrder* order
         return;
     Kitchens unaware;
     for (EntityConfigKitchenPrinter* kitchen : kitchens) {
-        // The others read the way of the tables on the slip that they have just got.
+        // The other kitchens see the move on the slip that they have just got.
         if (!cooksAny(*kitchen, order->getTakenBackDetails() + order->getChangedDetails()))
             unaware.append(kitchen);
     }
@@ -179,7 +179,7 @@ void ZavelReportFactory::printChange(const Kitchens& kitchens, OrderKind kind, c
     report.print();
 }
 
-// Not "class" here either.
+// "typename" for the same reason.
 template <typename Report>
 void ZavelReportFactory::printForKitchens(const Kitchens& kitchens, OrderKind kind, const EntityOrder* order,
                                           const QString& standing)

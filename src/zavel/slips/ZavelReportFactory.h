@@ -15,8 +15,8 @@ class EntityUser;
 class KorBusinessLogic;
 
 /**
- * Composes the bills and slips that screens ask for. Each request reads company, printers and printer type anew, so
- * that a change at one till counts at all of them at once.
+ * Composes the bills and slips that screens request. Each request reads company, printers and printer type again, so
+ * that a change made at one till takes effect at all tills at once.
  */
 class ZavelReportFactory final : public SlipRequests
 {
@@ -37,25 +37,24 @@ public:
 private:
     explicit ZavelReportFactory(QObject* parent);
 
-    /** False, after telling why, where the settings cannot be read. */
+    /** Reads the settings; false, after a message, if that fails. */
     bool reload();
-    /** False, after telling why, where what every slip of the cashier needs is missing. */
+    /** False, after a message, if company profile or cashier printer are missing. */
     bool readyForCashier();
     template <class Report, class Sale>
     void printBill(Sale* (BusinessPenjualan::*find)(int), int invoiceId);
     using Kitchens = QList<EntityConfigKitchenPrinter*>;
     [[nodiscard]] Kitchens kitchensThatPrintByThemselves() const;
-    /** The sentence says what stands although a slip fails. */
+    /** The standing text tells the user what is saved although a slip failed. */
     template <class Report>
     void printForKitchens(const Kitchens& kitchens, OrderKind kind, const EntityOrder* order, const QString& standing);
     void printChange(const Kitchens& kitchens, OrderKind kind, const EntityOrder* order, const KitchenSlipComposer&);
     [[nodiscard]] static QString orderIsSaved();
     [[nodiscard]] EntityUser* findUser(int id);
-    /** Shows in one box what the services could not read; true when there was something. */
-    /** False for an empty text, which shows nothing. */
+    /** Shows the text in a box and returns true; for an empty text shows nothing and returns false. */
     bool showError(const QString& text);
 
-    // What the last request read; the next one frees it.
+    // Owns the records of the last request; cleared by the next one.
     EntityPool m_records;
     EntityDataPerusahaan* m_company = nullptr;
     EntityConfigCashierPrinter* m_cashierPrinter = nullptr;

@@ -39,7 +39,7 @@ QList<EntityBawaPulang*> DataMapperBawaPulang::getBawaPulangList(int status)
 
 const AppDocumentMapper::Messages& DataMapperBawaPulang::messages() const
 {
-    // The words for an order and for its lines are the same.
+    // Orders and their lines have the same texts.
     static const Messages texts{
         tr("error: insert take away food detail failed"), tr("error: insert take away food detail failed.\r\n"),
         tr("error: update take away food detail failed"), tr("error: update take away food detail failed\r\n"),

@@ -14,7 +14,7 @@ public:
     KorEntity* createEntity() override;
     [[nodiscard]] QStringList indexStatements() const override;
 
-    /** The orders in the status, or with 0 all that are not done, in the order in which they were taken. */
+    /** The orders in the status, or with 0 all that are not done, oldest first. */
     [[nodiscard]] QList<EntityBawaPulang*> getBawaPulangList(int status);
 
 protected:

@@ -30,7 +30,7 @@ QString DataMapperInvoiceBawaPulang::keyName() const { return Invoice::TakeAway;
 
 DataMapperInvoiceLink::Messages DataMapperInvoiceBawaPulang::messages() const
 {
-    // An insert speaks of fast food.
+    // The texts for an insert say "fast food".
     return {tr("error: insert invoice fast food failed"), tr("error: insert invoice fast food detail failed.\r\n"),
             tr("error: insert take away invoice detail failed"),
             tr("error: insert take away invoice detail failed.\r\n")};

@@ -8,7 +8,7 @@ class EntityBawaPulang final : public EntityOrder
     Q_OBJECT
 
 public:
-    /** The statuses are those of every order. */
+    /** Same statuses as for all orders. */
     using BAWA_PULANG_STATUS = MAKAN_DITEMPAT_STATUS;
 
     using EntityOrder::EntityOrder;

@@ -3,7 +3,7 @@
 #include "pos/invoice/EntityInvoiceLink.h"
 #include "zavel/takeaway/EntityBawaPulang.h"
 
-/** Ties an invoice to the order that was taken away; an order has one. */
+/** Links an invoice to a take-away order; each order has one. */
 class EntityInvoiceBawaPulang final : public EntityInvoiceLink
 {
     Q_OBJECT

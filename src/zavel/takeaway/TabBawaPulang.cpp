@@ -96,7 +96,7 @@ bool TabBawaPulang::cancelOrder(EntityOrder* row)
     EntityPool pool;
     const EntityPoolScope scope(pool);
     const bool isPaid = row->getStatus() == EntityOrder::PAID || row->getStatus() == EntityOrder::PARTIALY_PAID;
-    // A bill without money, or one from before an edit: the database would refuse, in its own words.
+    // An unpaid bill, or one from before an edit: the database would refuse with a less clear message.
     const bool hasOpenInvoice = !isPaid && !readBills(row->getId()).isEmpty();
     if (KorErrorBox::tell(this, sales()->takeErrors()))
         return false;

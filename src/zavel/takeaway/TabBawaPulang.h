@@ -7,7 +7,7 @@ namespace Ui
 class TabBawaPulang;
 }
 
-/** The orders to take away, and all that is done with one until the guest has the food. */
+/** The orders to take away, and all actions on an order until the guest has the food. */
 class TabBawaPulang final : public OrderBoard
 {
     Q_OBJECT

@@ -25,7 +25,7 @@ QString TableModelBawaPulang::statusText(int status)
     case EntityOrder::PARTIALY_PAID:
         return tr("Partially Paid");
     case EntityOrder::DONE:
-        // The one word that every language shows as it is.
+        // Not translated: shown like this in every language.
         return "Selesai";
     case EntityOrder::UNPAID:
         return tr("Unpaid");

@@ -2,7 +2,7 @@
 
 #include "zavel/order/OrderBoardModel.h"
 
-/** The orders to take away: for whom, how far they are, and what was ordered. */
+/** The orders to take away: the guest, the status and the ordered items. */
 class TableModelBawaPulang final : public OrderBoardModel
 {
     Q_OBJECT
@@ -12,6 +12,6 @@ public:
 
     TableModelBawaPulang(const QList<KorEntity*>& orders, QObject* parent);
 
-    /** The word for an order's status; empty for a number that is none. */
+    /** The text for an order's status; empty for an unknown number. */
     [[nodiscard]] static QString statusText(int status);
 };
