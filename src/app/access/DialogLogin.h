@@ -19,8 +19,6 @@ public:
     ~DialogLogin() override;
 
     bool validate() override;
-    KorEntity* getEntity() override { return nullptr; }
-    void setEntity(KorEntity*) override {}
     /** Escape and the window's own close button leave as well. */
     void reject() override;
 

@@ -15,6 +15,10 @@
 DialogUser::DialogUser(QWidget* parent) : KorDialog(parent), m_ui(std::make_unique<Ui::DialogUser>())
 {
     m_ui->setupUi(this);
+    edits<EntityUser>({{m_ui->lblUserID, "Id"},
+                       {m_ui->txtUsername, "UserName"},
+                       {m_ui->txtFirstName, "FirstName"},
+                       {m_ui->txtLastName, "LastName"}});
     EntityPool pool;
     const EntityPoolScope scope(pool);
     auto* groups = service<BusinessUserGroup>("User Group");
@@ -55,10 +59,9 @@ bool DialogUser::validate()
 KorEntity* DialogUser::getEntity()
 {
     static const QRegularExpression unwanted("[^a-zA-Z\\d\\s]");
-    auto* user = heldOrNew<EntityUser>();
+    KorDialog::getEntity();
+    auto* user = held<EntityUser>();
     user->setUserName(m_ui->txtUsername->text().remove(unwanted));
-    user->setFirstName(m_ui->txtFirstName->text());
-    user->setLastName(m_ui->txtLastName->text());
     user->setPassword(m_ui->txtPassword->text());
     user->setGroup(static_cast<EntityUserGroup*>(
         service<BusinessUserGroup>("User Group")->find(m_ui->cbGroup->currentData().toInt())));
@@ -67,12 +70,8 @@ KorEntity* DialogUser::getEntity()
 
 void DialogUser::setEntity(KorEntity* entity)
 {
-    hold(entity);
+    KorDialog::setEntity(entity);
     const auto* user = held<EntityUser>();
-    m_ui->lblUserID->setText(QString::number(user->getId()));
-    m_ui->txtUsername->setText(user->getUserName());
-    m_ui->txtFirstName->setText(user->getFirstName());
-    m_ui->txtLastName->setText(user->getLastName());
     // An empty box keeps the password.
     m_ui->txtPassword->clear();
     if (user->getGroup())

@@ -9,6 +9,7 @@
 DialogUserGroup::DialogUserGroup(QWidget* parent) : KorDialog(parent), m_ui(std::make_unique<Ui::DialogUserGroup>())
 {
     m_ui->setupUi(this);
+    edits<EntityUserGroup>({{m_ui->lblGroupID, "Id"}, {m_ui->txtGroupName, "GroupName"}});
     focusLater(m_ui->txtGroupName);
 }
 
@@ -21,19 +22,4 @@ bool DialogUserGroup::validate()
         [](BusinessUserGroup* groups, const QString& name) { return groups->findByGroupName(name); },
         tr("Enter Group Name"), tr("This group name already exists"));
     return !hasError();
-}
-
-KorEntity* DialogUserGroup::getEntity()
-{
-    auto* group = heldOrNew<EntityUserGroup>();
-    group->setGroupName(m_ui->txtGroupName->text());
-    return group;
-}
-
-void DialogUserGroup::setEntity(KorEntity* entity)
-{
-    hold(entity);
-    const auto* group = held<EntityUserGroup>();
-    m_ui->lblGroupID->setText(QString::number(group->getId()));
-    m_ui->txtGroupName->setText(group->getGroupName());
 }

@@ -14,6 +14,12 @@ constexpr int mostDigits = 20;
 DialogKeyTable::DialogKeyTable(QWidget* parent) : KorDialog(parent), m_ui(std::make_unique<Ui::DialogKeyTable>())
 {
     m_ui->setupUi(this);
+    edits<EntityKey>({{m_ui->lblName, "KeyName"},
+                      {m_ui->txtNextId, "NextId"},
+                      {m_ui->txtIncrementBy, "IncrementBy"},
+                      {m_ui->txtNoZero, "NoZero"},
+                      {m_ui->txtFormat, "Format"},
+                      {m_ui->txtDescription, "Description"}});
     focusLater(m_ui->txtNextId);
 }
 
@@ -48,27 +54,4 @@ bool DialogKeyTable::validate()
     require(m_ui->txtFormat, tr("Enter Format"));
     require(m_ui->txtDescription, tr("Enter Description"));
     return !hasError();
-}
-
-KorEntity* DialogKeyTable::getEntity()
-{
-    auto* key = heldOrNew<EntityKey>();
-    key->setNextId(m_ui->txtNextId->text().toInt());
-    key->setIncrementBy(m_ui->txtIncrementBy->text().toInt());
-    key->setNoZero(m_ui->txtNoZero->text().toInt());
-    key->setFormat(m_ui->txtFormat->text());
-    key->setDescription(m_ui->txtDescription->text());
-    return key;
-}
-
-void DialogKeyTable::setEntity(KorEntity* entity)
-{
-    hold(entity);
-    const auto* key = held<EntityKey>();
-    m_ui->lblName->setText(key->getKeyName());
-    m_ui->txtNextId->setText(QString::number(key->getNextId()));
-    m_ui->txtIncrementBy->setText(QString::number(key->getIncrementBy()));
-    m_ui->txtNoZero->setText(QString::number(key->getNoZero()));
-    m_ui->txtFormat->setText(key->getFormat());
-    m_ui->txtDescription->setText(key->getDescription());
 }

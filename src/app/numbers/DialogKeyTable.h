@@ -19,8 +19,6 @@ public:
     ~DialogKeyTable() override;
 
     bool validate() override;
-    KorEntity* getEntity() override;
-    void setEntity(KorEntity* entity) override;
 
 private:
     std::unique_ptr<Ui::DialogKeyTable> m_ui;

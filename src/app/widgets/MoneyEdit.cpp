@@ -1,7 +1,5 @@
 #include "app/widgets/MoneyEdit.h"
 
-#include "app/money/Money.h"
-
 #include <QDebug>
 
 #include <cmath>

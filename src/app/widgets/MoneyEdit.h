@@ -1,8 +1,7 @@
 #pragma once
 
+#include "app/money/Money.h"
 #include "app/widgets/AppNumberEdit.h"
-
-class Money;
 
 /**
  * A line edit for an amount of money in the currency of the configured locale, shown with two decimals. Amounts are not
@@ -11,6 +10,7 @@ class Money;
 class MoneyEdit : public AppNumberEdit
 {
     Q_OBJECT
+    Q_PROPERTY(Money* money READ money WRITE setMoney USER true)
 
 public:
     explicit MoneyEdit(QWidget* parent = nullptr);

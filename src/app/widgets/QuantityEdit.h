@@ -8,6 +8,7 @@
 class QuantityEdit : public AppNumberEdit
 {
     Q_OBJECT
+    Q_PROPERTY(int quantity READ quantityOrNone WRITE setValue USER true)
 
 public:
     /** More than any storeroom holds, and little enough that two of them can be added. */
@@ -22,6 +23,8 @@ public:
 
     /** The whole number in the field; nothing for a fraction, for no number, and outside of the limits. */
     [[nodiscard]] std::optional<int> quantity();
+    /** The same as a form takes it for its record: zero for nothing. */
+    [[nodiscard]] int quantityOrNone() { return quantity().value_or(0); }
 
     [[nodiscard]] QString fault() override;
     [[nodiscard]] QString doubt() override;

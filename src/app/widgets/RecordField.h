@@ -23,6 +23,7 @@ class KorDialog;
 class RecordFieldBase : public QObject
 {
     Q_OBJECT
+    Q_PROPERTY(KorEntity* entity READ entity WRITE show NOTIFY changed USER true)
 
 public:
     [[nodiscard]] AppLookupBox* box() const { return m_box; }

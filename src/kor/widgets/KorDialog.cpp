@@ -56,6 +56,22 @@ KorDialog::~KorDialog()
     delete m_entity;
 }
 
+KorEntity* KorDialog::getEntity()
+{
+    if (!m_entity && m_make)
+        m_entity = m_make();
+    for (const KorBoundBox& box : qAsConst(m_boxes))
+        box.take(m_entity);
+    return m_entity;
+}
+
+void KorDialog::setEntity(KorEntity* entity)
+{
+    hold(entity);
+    for (const KorBoundBox& box : qAsConst(m_boxes))
+        box.show(*entity);
+}
+
 bool KorDialog::beforeAccept() { return !m_saver || m_saver(); }
 
 bool KorDialog::execWith(KorEntity* entity)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "kor/entity/KorEntity.h"
+#include "kor/widgets/KorBoundBox.h"
 
 #include <QDialog>
 #include <QLineEdit>
@@ -18,6 +19,9 @@ class QDialogButtonBox;
  *
  * The form checks its editable number boxes itself. A number that cannot be stored is an error like those of
  * validate(); a number that would be stored differently from what was typed is confirmed once for all boxes.
+ *
+ * A form says once, with edits(), which box holds which field of its record; getEntity() and setEntity() follow from
+ * it. A form that has more to do overrides them and calls these first.
  */
 class KorDialog : public QDialog
 {
@@ -29,10 +33,13 @@ public:
 
     /** Reports errors with addError(); true if the form can be saved. */
     virtual bool validate() = 0;
-    /** The record as the form shows it, created on first use if none was set; deleted with the dialog. */
-    virtual KorEntity* getEntity() = 0;
+    /**
+     * The record as the form shows it, created on first use if none was set; deleted with the dialog. Null in a form
+     * that edits none.
+     */
+    virtual KorEntity* getEntity();
     /** Takes ownership of the record and shows it. */
-    virtual void setEntity(KorEntity* entity) = 0;
+    virtual void setEntity(KorEntity* entity);
     /** Called after a successful validation; false keeps the dialog open with its entries. */
     virtual bool beforeAccept();
     /** Both return true only for an accepted dialog with errors left; callers use hasError() instead. */
@@ -52,6 +59,24 @@ public:
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void showEvent(QShowEvent* event) override;
+
+    /** A box, which is a widget or a RecordField-like object, and the field that it edits; see KorBoundBox. */
+    struct Bound
+    {
+        QObject* box;
+        const char* field;
+    };
+    /**
+     * The form edits records of this class with these boxes, which are shown and read in this order. Call it in the
+     * constructor; a base class and its form may each name boxes of the same kind of record.
+     */
+    template <class Entity>
+    void edits(const QList<Bound>& boxes)
+    {
+        m_make = []() -> KorEntity* { return new Entity; };
+        for (const Bound& bound : boxes)
+            m_boxes.append(KorBoundBox(bound.box, Entity::staticMetaObject, bound.field));
+    }
 
     /** The dialog's record: replaced by setEntity(), deleted with the dialog. */
     template <class Entity>
@@ -98,6 +123,8 @@ private:
     bool settleDoubts();
 
     QPointer<KorEntity> m_entity;
+    KorEntity* (*m_make)() = nullptr;
+    QList<KorBoundBox> m_boxes;
     std::function<bool()> m_saver;
     QList<QWidget*> m_errorFields;
     QMap<QWidget*, QStringList> m_errors;

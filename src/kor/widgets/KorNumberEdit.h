@@ -16,6 +16,7 @@
 class KorNumberEdit : public QLineEdit
 {
     Q_OBJECT
+    Q_PROPERTY(double value READ value WRITE setValue USER true)
 
 public:
     explicit KorNumberEdit(QWidget* parent = nullptr);

@@ -8,6 +8,7 @@
 DialogMeja::DialogMeja(QWidget* parent) : KorDialog(parent), m_ui(std::make_unique<Ui::DialogMeja>())
 {
     m_ui->setupUi(this);
+    edits<EntityMeja>({{m_ui->lblMejaID, "Id"}, {m_ui->txtKode, "Kode"}, {m_ui->txtNama, "Nama"}});
     focusLater(m_ui->txtKode);
 }
 
@@ -21,21 +22,4 @@ bool DialogMeja::validate()
         tr("This table code is already in use please use another code"));
     require(m_ui->txtNama, tr("Enter the table name"));
     return !hasError();
-}
-
-KorEntity* DialogMeja::getEntity()
-{
-    auto* table = heldOrNew<EntityMeja>();
-    table->setKode(m_ui->txtKode->text());
-    table->setNama(m_ui->txtNama->text());
-    return table;
-}
-
-void DialogMeja::setEntity(KorEntity* entity)
-{
-    hold(entity);
-    const auto* table = held<EntityMeja>();
-    m_ui->lblMejaID->setText(QString::number(table->getId()));
-    m_ui->txtKode->setText(table->getKode());
-    m_ui->txtNama->setText(table->getNama());
 }

@@ -19,8 +19,6 @@ public:
     ~DialogMeja() override;
 
     bool validate() override;
-    KorEntity* getEntity() override;
-    void setEntity(KorEntity* entity) override;
 
 private:
     std::unique_ptr<Ui::DialogMeja> m_ui;

@@ -14,6 +14,8 @@ DialogBank::DialogBank(QWidget* parent) : KorDialog(parent), m_ui(std::make_uniq
     m_ui->ddlType->addItem(tr("Accounts Payable"), AccountsPayableAccount);
     m_ui->ddlType->addItem(tr("Account Receivable"), AccountsReceivableAccount);
     m_ui->ddlType->addItem(tr("Commisions and Fees Expense"), ExpenseAccount);
+    edits<EntityBank>(
+        {{m_ui->lblBankID, "Id"}, {m_ui->txtKode, "Kode"}, {m_ui->txtNama, "Nama"}, {m_ui->ddlType, "AccountType"}});
     focusLater(m_ui->txtKode);
 }
 
@@ -29,24 +31,10 @@ bool DialogBank::validate()
     return !hasError();
 }
 
-KorEntity* DialogBank::getEntity()
-{
-    auto* account = heldOrNew<EntityBank>();
-    account->setKode(m_ui->txtKode->text());
-    account->setNama(m_ui->txtNama->text());
-    account->setAccountType(m_ui->ddlType->currentData().toInt());
-    return account;
-}
-
 void DialogBank::setEntity(KorEntity* entity)
 {
-    hold(entity);
-    const auto* account = held<EntityBank>();
-    m_ui->lblBankID->setText(QString::number(account->getId()));
-    m_ui->txtKode->setText(account->getKode());
-    m_ui->txtNama->setText(account->getNama());
+    KorDialog::setEntity(entity);
     // A type that the form does not offer leaves the first entry, and saving makes it the account's type.
-    const int entry = m_ui->ddlType->findData(account->getAccountType());
-    if (entry >= 0)
-        m_ui->ddlType->setCurrentIndex(entry);
+    if (m_ui->ddlType->currentIndex() < 0)
+        m_ui->ddlType->setCurrentIndex(0);
 }

@@ -19,7 +19,6 @@ public:
     ~DialogBank() override;
 
     bool validate() override;
-    KorEntity* getEntity() override;
     void setEntity(KorEntity* entity) override;
 
 private:

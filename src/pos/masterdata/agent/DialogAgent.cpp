@@ -7,7 +7,8 @@
 DialogAgent::DialogAgent(QWidget* parent) : PayeeDialog(parent), m_ui(std::make_unique<Ui::DialogAgent>())
 {
     m_ui->setupUi(this);
-    usePayeeFields(*m_ui, m_ui->lblAgentID);
+    usePayeeFields<EntityAgent>(*m_ui, m_ui->lblAgentID);
+    edits<EntityAgent>({{m_ui->txtPerc, "CommisionPerc"}});
     m_ui->txtPerc->setValue(0.0);
 }
 
@@ -27,20 +28,4 @@ bool DialogAgent::validate()
     if (!m_ui->txtPerc->isValid() || commission < 0 || commission > 100)
         addError(m_ui->txtPerc, tr("Enter the number between 0-100"));
     return !hasError();
-}
-
-KorEntity* DialogAgent::getEntity()
-{
-    auto* agent = heldOrNew<EntityAgent>();
-    readPayee(*agent);
-    agent->setCommisionPerc(m_ui->txtPerc->value());
-    return agent;
-}
-
-void DialogAgent::setEntity(KorEntity* entity)
-{
-    hold(entity);
-    const auto* agent = held<EntityAgent>();
-    showPayee(*agent);
-    m_ui->txtPerc->setValue(agent->getCommisionPerc());
 }

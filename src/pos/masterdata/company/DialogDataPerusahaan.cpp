@@ -14,6 +14,12 @@ DialogDataPerusahaan::DialogDataPerusahaan(QWidget* parent)
     : KorDialog(parent), m_ui(std::make_unique<Ui::DialogDataPerusahaan>())
 {
     m_ui->setupUi(this);
+    edits<EntityDataPerusahaan>({{m_ui->txtNama, "NamaPerusahaan"},
+                                 {m_ui->txtAlamat, "Alamat"},
+                                 {m_ui->txtPhone, "Telp"},
+                                 {m_ui->txtFax, "Fax"},
+                                 {m_ui->txtNPWP, "NPWP"},
+                                 {m_ui->txtTglPKP, "TanggalPKP"}});
     on_btnClear_clicked();
     focusLater(m_ui->txtNama);
 }
@@ -30,14 +36,8 @@ bool DialogDataPerusahaan::validate()
 
 KorEntity* DialogDataPerusahaan::getEntity()
 {
-    auto* profile = heldOrNew<EntityDataPerusahaan>();
-    profile->setNamaPerusahaan(m_ui->txtNama->text());
-    profile->setAlamat(m_ui->txtAlamat->toPlainText());
-    profile->setTelp(m_ui->txtPhone->text());
-    profile->setFax(m_ui->txtFax->text());
-    profile->setNPWP(m_ui->txtNPWP->text());
-    profile->setTanggalPKP(m_ui->txtTglPKP->text());
-
+    KorDialog::getEntity();
+    auto* profile = held<EntityDataPerusahaan>();
     const QByteArray bytes = logoBytes();
     if (bytes.isEmpty())
         return profile;
@@ -64,14 +64,8 @@ QByteArray DialogDataPerusahaan::logoBytes() const
 
 void DialogDataPerusahaan::setEntity(KorEntity* entity)
 {
-    hold(entity);
+    KorDialog::setEntity(entity);
     const auto* profile = held<EntityDataPerusahaan>();
-    m_ui->txtNama->setText(profile->getNamaPerusahaan());
-    m_ui->txtAlamat->setPlainText(profile->getAlamat());
-    m_ui->txtPhone->setText(profile->getTelp());
-    m_ui->txtFax->setText(profile->getFax());
-    m_ui->txtNPWP->setText(profile->getNPWP());
-    m_ui->txtTglPKP->setText(profile->getTanggalPKP());
     m_imagePath.clear();
     QImage logo;
     if (profile->getLogo())

@@ -1,9 +1,7 @@
 #include "pos/masterdata/contact/ContactDialog.h"
 
 #include "pos/masterdata/contact/EmailAddress.h"
-#include "pos/masterdata/contact/EntityContact.h"
 
-#include <QLabel>
 #include <QPlainTextEdit>
 
 void limitLength(QPlainTextEdit* field, int maximum)
@@ -32,23 +30,4 @@ void ContactDialog::validateDetails(const Messages& messages)
     require(m_fields.phone, messages.noPhone);
     if (!m_fields.email->text().isEmpty() && !isEmailAddress(m_fields.email->text()))
         addError(m_fields.email, messages.wrongEmail);
-}
-
-void ContactDialog::showContact(const EntityContact& contact)
-{
-    m_fields.id->setText(QString::number(contact.getId()));
-    m_fields.code->setText(contact.getKode());
-    m_fields.name->setText(contact.getNama());
-    m_fields.address->setPlainText(contact.getAlamat());
-    m_fields.phone->setText(contact.getTelp());
-    m_fields.email->setText(contact.getEmail());
-}
-
-void ContactDialog::readContact(EntityContact& contact) const
-{
-    contact.setKode(m_fields.code->text());
-    contact.setNama(m_fields.name->text());
-    contact.setAlamat(m_fields.address->toPlainText());
-    contact.setTelp(m_fields.phone->text());
-    contact.setEmail(m_fields.email->text());
 }

@@ -3,7 +3,6 @@
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/widgets/KorDialog.h"
 
-class EntityContact;
 class QLabel;
 class QPlainTextEdit;
 
@@ -31,10 +30,16 @@ protected:
     };
 
     /** Takes the fields of a form that has been set up; all of the contacts' forms give them the same names. */
-    template <class Form>
+    template <class Contact, class Form>
     void useContactFields(const Form& form, QLabel* id)
     {
-        m_fields = {id, form.txtKode, form.txtNama, form.txtAlamat, form.txtTelp, form.txtEmail};
+        m_fields = {form.txtKode, form.txtNama, form.txtAlamat, form.txtTelp, form.txtEmail};
+        edits<Contact>({{id, "Id"},
+                        {form.txtKode, "Kode"},
+                        {form.txtNama, "Nama"},
+                        {form.txtAlamat, "Alamat"},
+                        {form.txtTelp, "Telp"},
+                        {form.txtEmail, "Email"}});
         prepareContactFields();
     }
     template <class Service>
@@ -46,13 +51,10 @@ protected:
             messages.codeTaken);
         validateDetails(messages);
     }
-    void showContact(const EntityContact& contact);
-    void readContact(EntityContact& contact) const;
 
 private:
     struct Fields
     {
-        QLabel* id;
         QLineEdit* code;
         QLineEdit* name;
         QPlainTextEdit* address;

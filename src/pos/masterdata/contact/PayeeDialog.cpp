@@ -5,12 +5,9 @@
 #include "pos/masterdata/contact/EntityPayee.h"
 
 #include <QComboBox>
-#include <QPlainTextEdit>
 
-void PayeeDialog::preparePayeeFields()
+void PayeeDialog::offerAccounts()
 {
-    limitLength(m_payeeFields.notes, 500);
-
     auto* accounts = service<BusinessBank>("Bank");
     KorErrorScope errors(accounts);
     {
@@ -18,29 +15,25 @@ void PayeeDialog::preparePayeeFields()
         m_accounts = accounts->findAll(QString());
     }
     showError(errors.take());
-    m_payeeFields.account->addItem(tr("none"), KorNoValue);
+    m_account->addItem(tr("none"), KorNoValue);
     for (const KorEntity* account : qAsConst(m_accounts))
-        m_payeeFields.account->addItem(static_cast<const EntityBank*>(account)->getNama(), account->getId());
+        m_account->addItem(static_cast<const EntityBank*>(account)->getNama(), account->getId());
 }
 
-void PayeeDialog::showPayee(const EntityPayee& payee)
+KorEntity* PayeeDialog::getEntity()
 {
-    showContact(payee);
-    const int accountId = payee.getBank() ? payee.getBank()->getId() : KorNoValue;
-    const int entry = m_payeeFields.account->findData(accountId);
-    if (entry >= 0)
-        m_payeeFields.account->setCurrentIndex(entry);
-    m_payeeFields.accountNo->setText(payee.getNoRek());
-    m_payeeFields.accountName->setText(payee.getNoRekAtasNama());
-    m_payeeFields.notes->setPlainText(payee.getNotes());
-}
-
-void PayeeDialog::readPayee(EntityPayee& payee) const
-{
-    readContact(payee);
+    ContactDialog::getEntity();
+    auto* payee = held<EntityPayee>();
     // The entry "none" stands before the accounts.
-    payee.setBank(static_cast<EntityBank*>(m_accounts.value(m_payeeFields.account->currentIndex() - 1)));
-    payee.setNoRek(m_payeeFields.accountNo->text());
-    payee.setNoRekAtasNama(m_payeeFields.accountName->text());
-    payee.setNotes(m_payeeFields.notes->toPlainText());
+    payee->setBank(static_cast<EntityBank*>(m_accounts.value(m_account->currentIndex() - 1)));
+    return payee;
+}
+
+void PayeeDialog::setEntity(KorEntity* entity)
+{
+    ContactDialog::setEntity(entity);
+    const EntityBank* account = held<EntityPayee>()->getBank();
+    const int entry = m_account->findData(account ? account->getId() : KorNoValue);
+    if (entry >= 0)
+        m_account->setCurrentIndex(entry);
 }

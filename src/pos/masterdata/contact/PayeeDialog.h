@@ -3,7 +3,6 @@
 #include "app/context/EntityPool.h"
 #include "pos/masterdata/contact/ContactDialog.h"
 
-class EntityPayee;
 class QComboBox;
 
 /** Base of the entry forms of contacts that get paid: which account of the ledger, and which at a bank. */
@@ -14,29 +13,24 @@ class PayeeDialog : public ContactDialog
 public:
     using ContactDialog::ContactDialog;
 
+    KorEntity* getEntity() override;
+    void setEntity(KorEntity* entity) override;
+
 protected:
-    template <class Form>
+    template <class Payee, class Form>
     void usePayeeFields(const Form& form, QLabel* id)
     {
-        useContactFields(form, id);
-        m_payeeFields = {form.ddlBank, form.txtNoRek, form.txtNoRekNama, form.txtNotes};
-        preparePayeeFields();
+        useContactFields<Payee>(form, id);
+        edits<Payee>({{form.txtNoRek, "NoRek"}, {form.txtNoRekNama, "NoRekAtasNama"}, {form.txtNotes, "Notes"}});
+        limitLength(form.txtNotes, 500);
+        m_account = form.ddlBank;
+        offerAccounts();
     }
-    void showPayee(const EntityPayee& payee);
-    void readPayee(EntityPayee& payee) const;
 
 private:
-    struct Fields
-    {
-        QComboBox* account;
-        QLineEdit* accountNo;
-        QLineEdit* accountName;
-        QPlainTextEdit* notes;
-    };
+    void offerAccounts();
 
-    void preparePayeeFields();
-
-    Fields m_payeeFields{};
+    QComboBox* m_account = nullptr;
     // The accounts that the form offers live as long as the form, and with it the payee that points at one.
     EntityPool m_pool;
     QList<KorEntity*> m_accounts;

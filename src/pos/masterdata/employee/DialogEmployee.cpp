@@ -7,7 +7,7 @@
 DialogEmployee::DialogEmployee(QWidget* parent) : ContactDialog(parent), m_ui(std::make_unique<Ui::DialogEmployee>())
 {
     m_ui->setupUi(this);
-    useContactFields(*m_ui, m_ui->lblEmployeeID);
+    useContactFields<EntityEmployee>(*m_ui, m_ui->lblEmployeeID);
 }
 
 DialogEmployee::~DialogEmployee() = default;
@@ -20,17 +20,4 @@ bool DialogEmployee::validate()
                                        tr("Enter the employee name"), tr("Enter the employee address"),
                                        tr("Enter the phone no"), tr("Enter the valid email address")});
     return !hasError();
-}
-
-KorEntity* DialogEmployee::getEntity()
-{
-    auto* employee = heldOrNew<EntityEmployee>();
-    readContact(*employee);
-    return employee;
-}
-
-void DialogEmployee::setEntity(KorEntity* entity)
-{
-    hold(entity);
-    showContact(*held<EntityEmployee>());
 }

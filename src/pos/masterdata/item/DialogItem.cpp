@@ -23,6 +23,12 @@ DialogItem::DialogItem(QWidget* parent)
     putIntoTabOrder(m_ui->cbGabungan, m_components);
     putIntoTabOrder(m_ui->cbGabungan, m_accounts);
     setComponentsEnabled(false);
+    edits<EntityItem>({{m_ui->lblItemID, "Id"},
+                       {m_ui->txtKode, "Kode"},
+                       {m_ui->txtNama, "Nama"},
+                       {m_ui->txtHargaBeli, "HargaBeli"},
+                       {m_ui->txtHargaJualLokal, "HargaJualLokal"},
+                       {m_ui->txtNotes, "Notes"}});
     fillCombos();
     showDefaultAccounts();
     focusLater(m_ui->txtKode);
@@ -96,15 +102,11 @@ bool DialogItem::validate()
 KorEntity* DialogItem::getEntity()
 {
     const EntityPoolScope scope(m_read);
-    auto* item = heldOrNew<EntityItem>();
+    KorDialog::getEntity();
+    auto* item = held<EntityItem>();
     item->setItemType(m_ui->rbService->isChecked() ? EntityItem::SRV : EntityItem::INV);
-    item->setKode(m_ui->txtKode->text());
-    item->setNama(m_ui->txtNama->text());
     item->setJenis(service<BusinessJenisItem>("Item Type")->find(m_ui->ddlJenis->currentData().toInt()));
     item->setSatuan(service<BusinessSatuan>("Unit")->find(m_ui->ddlSatuan->currentData().toInt()));
-    item->setHargaBeli(m_ui->txtHargaBeli->money());
-    item->setHargaJualLokal(m_ui->txtHargaJualLokal->money());
-    item->setNotes(m_ui->txtNotes->toPlainText());
     item->setIsGroup(m_ui->cbGabungan->isChecked());
     item->setSalesAcctCode(m_accounts->salesAccountCode());
     item->setInventoryAcctCode(m_accounts->inventoryAccountCode());
@@ -114,18 +116,12 @@ KorEntity* DialogItem::getEntity()
 
 void DialogItem::setEntity(KorEntity* entity)
 {
-    hold(entity);
+    KorDialog::setEntity(entity);
     const auto* item = held<EntityItem>();
-    m_ui->lblItemID->setText(QString::number(item->getId()));
-    m_ui->txtKode->setText(item->getKode());
-    m_ui->txtNama->setText(item->getNama());
     m_ui->ddlJenis->setCurrentIndex(
         m_ui->ddlJenis->findData(item->getJenis() ? item->getJenis()->getId() : KorNoValue));
     m_ui->ddlSatuan->setCurrentIndex(
         m_ui->ddlSatuan->findData(item->getSatuan() ? item->getSatuan()->getId() : KorNoValue));
-    m_ui->txtHargaBeli->setMoney(item->getHargaBeli());
-    m_ui->txtHargaJualLokal->setMoney(item->getHargaJualLokal());
-    m_ui->txtNotes->setPlainText(item->getNotes());
     // In this order: choosing the class clears the box, which would take the grouping from a grouped menu item.
     (item->getItemType() == EntityItem::SRV ? m_ui->rbService : m_ui->rbStok)->setChecked(true);
     m_ui->cbGabungan->setChecked(item->getIsGroup());

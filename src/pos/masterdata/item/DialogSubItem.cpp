@@ -22,6 +22,7 @@ DialogSubItem::DialogSubItem(int parentId, QWidget* parent)
     m_item->lookUpWhenLeft();
     connect(m_item, &RecordFieldBase::changed, this, &DialogSubItem::onItemSelected);
     m_ui->txtHargaBeli->clear();
+    edits<EntityGroupedItem>({{m_ui->txtJumlah, "Jumlah"}});
     focusLater(m_ui->txtKode);
 }
 
@@ -60,20 +61,20 @@ bool DialogSubItem::beforeAccept()
 
 KorEntity* DialogSubItem::getEntity()
 {
-    auto* component = heldOrNew<EntityGroupedItem>();
+    KorDialog::getEntity();
+    auto* component = held<EntityGroupedItem>();
     if (!component->getParent()) {
         auto* parent = new EntityItem(component);
         parent->setId(m_parentId);
         component->setParentItem(parent);
     }
     component->setOriginal(m_item->record());
-    component->setJumlah(m_ui->txtJumlah->quantity().value_or(0));
     return component;
 }
 
 void DialogSubItem::setEntity(KorEntity* entity)
 {
-    hold(entity);
+    KorDialog::setEntity(entity);
     const auto* component = held<EntityGroupedItem>();
     if (component->getOriginal()) {
         const EntityPoolScope scope(m_read);
@@ -82,7 +83,6 @@ void DialogSubItem::setEntity(KorEntity* entity)
         m_item->show(items->find(component->getOriginal()->getId()));
         showError(errors.take());
     }
-    m_ui->txtJumlah->setValue(component->getJumlah());
 }
 
 void DialogSubItem::onItemSelected()

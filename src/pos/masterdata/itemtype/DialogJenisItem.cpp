@@ -8,6 +8,7 @@
 DialogJenisItem::DialogJenisItem(QWidget* parent) : KorDialog(parent), m_ui(std::make_unique<Ui::DialogJenisItem>())
 {
     m_ui->setupUi(this);
+    edits<EntityJenisItem>({{m_ui->lblJenisItemID, "Id"}, {m_ui->txtKode, "Kode"}, {m_ui->txtNamaJenis, "Nama"}});
     focusLater(m_ui->txtKode);
 }
 
@@ -21,21 +22,4 @@ bool DialogJenisItem::validate()
         tr("This code is already in use please use another code"));
     require(m_ui->txtNamaJenis, tr("Enter the name"));
     return !hasError();
-}
-
-KorEntity* DialogJenisItem::getEntity()
-{
-    auto* type = heldOrNew<EntityJenisItem>();
-    type->setKode(m_ui->txtKode->text());
-    type->setNama(m_ui->txtNamaJenis->text());
-    return type;
-}
-
-void DialogJenisItem::setEntity(KorEntity* entity)
-{
-    hold(entity);
-    const auto* type = held<EntityJenisItem>();
-    m_ui->lblJenisItemID->setText(QString::number(type->getId()));
-    m_ui->txtKode->setText(type->getKode());
-    m_ui->txtNamaJenis->setText(type->getNama());
 }

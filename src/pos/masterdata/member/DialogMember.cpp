@@ -8,7 +8,8 @@
 DialogMember::DialogMember(QWidget* parent) : ContactDialog(parent), m_ui(std::make_unique<Ui::DialogMember>())
 {
     m_ui->setupUi(this);
-    useContactFields(*m_ui, m_ui->lblMemberID);
+    useContactFields<EntityMember>(*m_ui, m_ui->lblMemberID);
+    edits<EntityMember>({{m_ui->dateExpired, "ExpiredDate"}, {m_ui->txtDiscPerc, "DiscountPercentage"}});
     m_ui->dateExpired->setDisplayFormat(AppContext::instance()->dateFormat());
     m_ui->dateExpired->setDateTime(QDateTime::currentDateTime().addYears(1));
     m_ui->txtDiscPerc->setValue(0.0);
@@ -24,22 +25,4 @@ bool DialogMember::validate()
                                                tr("Enter the member name"), tr("Enter the address"),
                                                tr("enter the telp no."), tr("Enter the valid email address")});
     return !hasError();
-}
-
-KorEntity* DialogMember::getEntity()
-{
-    auto* member = heldOrNew<EntityMember>();
-    readContact(*member);
-    member->setExpiredDate(m_ui->dateExpired->date());
-    member->setDiscountPercentage(m_ui->txtDiscPerc->value());
-    return member;
-}
-
-void DialogMember::setEntity(KorEntity* entity)
-{
-    hold(entity);
-    const auto* member = held<EntityMember>();
-    showContact(*member);
-    m_ui->dateExpired->setDate(member->getExpiredDate());
-    m_ui->txtDiscPerc->setValue(member->getDiscountPercentage());
 }

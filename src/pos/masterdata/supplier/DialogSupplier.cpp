@@ -7,7 +7,7 @@
 DialogSupplier::DialogSupplier(QWidget* parent) : PayeeDialog(parent), m_ui(std::make_unique<Ui::DialogSupplier>())
 {
     m_ui->setupUi(this);
-    usePayeeFields(*m_ui, m_ui->lblSupplierID);
+    usePayeeFields<EntitySupplier>(*m_ui, m_ui->lblSupplierID);
 }
 
 DialogSupplier::~DialogSupplier() = default;
@@ -19,17 +19,4 @@ bool DialogSupplier::validate()
                                                    tr("Enter the supplier name"), tr("Enter the supplier address"),
                                                    tr("Enter the telp no"), tr("Enter the valid email address")});
     return !hasError();
-}
-
-KorEntity* DialogSupplier::getEntity()
-{
-    auto* supplier = heldOrNew<EntitySupplier>();
-    readPayee(*supplier);
-    return supplier;
-}
-
-void DialogSupplier::setEntity(KorEntity* entity)
-{
-    hold(entity);
-    showPayee(*held<EntitySupplier>());
 }

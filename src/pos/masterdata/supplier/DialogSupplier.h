@@ -19,8 +19,6 @@ public:
     ~DialogSupplier() override;
 
     bool validate() override;
-    KorEntity* getEntity() override;
-    void setEntity(KorEntity* entity) override;
 
 private:
     std::unique_ptr<Ui::DialogSupplier> m_ui;

@@ -8,6 +8,7 @@
 DialogSatuan::DialogSatuan(QWidget* parent) : KorDialog(parent), m_ui(std::make_unique<Ui::DialogSatuan>())
 {
     m_ui->setupUi(this);
+    edits<EntitySatuan>({{m_ui->lblSatuanID, "Id"}, {m_ui->txtKode, "Kode"}, {m_ui->txtNamaSatuan, "Nama"}});
     focusLater(m_ui->txtNamaSatuan);
 }
 
@@ -21,21 +22,4 @@ bool DialogSatuan::validate()
         [](BusinessSatuan* units, const QString& code) { return units->findByCode(code); }, tr("Enter the unit code"),
         tr("This unit code is already in use please use another code"));
     return !hasError();
-}
-
-KorEntity* DialogSatuan::getEntity()
-{
-    auto* unit = heldOrNew<EntitySatuan>();
-    unit->setKode(m_ui->txtKode->text());
-    unit->setNama(m_ui->txtNamaSatuan->text());
-    return unit;
-}
-
-void DialogSatuan::setEntity(KorEntity* entity)
-{
-    hold(entity);
-    const auto* unit = held<EntitySatuan>();
-    m_ui->lblSatuanID->setText(QString::number(unit->getId()));
-    m_ui->txtKode->setText(unit->getKode());
-    m_ui->txtNamaSatuan->setText(unit->getNama());
 }

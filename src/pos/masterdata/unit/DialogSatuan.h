@@ -19,8 +19,6 @@ public:
     ~DialogSatuan() override;
 
     bool validate() override;
-    KorEntity* getEntity() override;
-    void setEntity(KorEntity* entity) override;
 
 private:
     std::unique_ptr<Ui::DialogSatuan> m_ui;
