@@ -1,8 +1,8 @@
 #include "zavel/commission/DialogKomisiAgen.h"
 
 #include "app/persistence/AppDataMapper.h"
-#include "app/widgets/RecordField.h"
 #include "kor/business/KorServiceDirectory.h"
+#include "pos/masterdata/account/AccountField.h"
 #include "pos/masterdata/agent/AgentTextBox.h"
 #include "zavel/commission/CommissionAmount.h"
 #include "zavel/commission/EntityKomisiAgen.h"
@@ -33,6 +33,12 @@ DialogKomisiAgen::DialogKomisiAgen(QWidget* parent)
                      tr("Enter the amount paid for this Invoice no: %1"), tr("Please select an Expense Account"),
                      tr("Please select a valid Expense Account")},
                     m_ui->tabInvoices, m_sales);
+    edits<EntityKomisiAgen>({{m_ui->txtKode, "No"},
+                             {m_ui->datePay, "PaymentDate"},
+                             {m_ui->txtNoRef, "NoRef"},
+                             {m_ui->txtNotes, "Note"},
+                             {m_ui->txtPaid, "AmountPaid"},
+                             {accountField(), "Bank"}});
     focusLater(m_ui->txtAgen);
 }
 
@@ -114,26 +120,16 @@ void DialogKomisiAgen::checkAmounts()
 
 void DialogKomisiAgen::setEntity(KorEntity* entity)
 {
-    hold(entity);
+    SettlementDialog::setEntity(entity);
     const auto* payment = held<EntityKomisiAgen>();
-    m_ui->txtKode->setText(payment->getNo());
-    m_ui->datePay->setDate(payment->getPaymentDate());
-    m_ui->txtNoRef->setText(payment->getNoRef());
-    m_ui->txtNotes->setPlainText(payment->getNote());
-    m_ui->txtPaid->setMoney(payment->getAmountPaid());
-    showStored(payment->getAgent(), payment->getBank(), asEntities(payment->getDetails()), false);
+    showStored(payment->getAgent(), asEntities(payment->getDetails()), false);
 }
 
 KorEntity* DialogKomisiAgen::getEntity()
 {
-    auto* payment = heldOrNew<EntityKomisiAgen>();
+    SettlementDialog::getEntity();
+    auto* payment = held<EntityKomisiAgen>();
     payment->setAgent(static_cast<EntityAgent*>(person()));
-    payment->setPaymentDate(m_ui->datePay->date());
-    payment->setBank(account());
-    payment->setNoRef(m_ui->txtNoRef->text());
-    payment->setNote(m_ui->txtNotes->toPlainText());
-    payment->setGrandTotal(m_ui->txtGrandTotal->money());
-    payment->setAmountPaid(m_ui->txtPaid->money());
     payment->setNetDue(m_ui->txtNetDue->money());
     payment->setDetails(castAll<EntityKomisiAgenDetail>(m_ui->tabInvoices->lines()));
     payment->setRemovedDetails(castAll<EntityKomisiAgenDetail>(removedLines(m_ui->tabInvoices->lines())));

@@ -29,6 +29,7 @@ DialogPiutang::DialogPiutang(QWidget* parent)
                      tr("Enter the amount paid for the invoice no: %1"), tr("Please select an Accounts Receivable"),
                      tr("Please select a valid Accounts Receivable")},
                     m_ui->tabInvoices, m_sales);
+    editsPayment<EntityPiutang>(*m_ui);
     focusLater(m_ui->txtMember);
 }
 
@@ -46,13 +47,12 @@ const KorEntity* DialogPiutang::lineWithoutAmount() const
 
 void DialogPiutang::setEntity(KorEntity* entity)
 {
-    hold(entity);
+    PartPaymentsDialog::setEntity(entity);
     const auto* payment = held<EntityPiutang>();
-    showPayment(*m_ui, *payment);
     // As things stand now: other payments may have paid of the same invoices since.
     for (EntityPiutangDetail* line : payment->getDetails())
         line->setAmountDue(amountLeft(*line->getInvoice()).get());
-    showStored(payment->getMember(), payment->getBank(), asEntities(payment->getDetails()), true);
+    showStored(payment->getMember(), asEntities(payment->getDetails()), true);
 }
 
 bool DialogPiutang::beforeAccept() { return mayReplaceCredits() && PartPaymentsDialog::beforeAccept(); }
@@ -80,9 +80,9 @@ bool DialogPiutang::mayReplaceCredits()
 
 KorEntity* DialogPiutang::getEntity()
 {
-    auto* payment = heldOrNew<EntityPiutang>();
+    PartPaymentsDialog::getEntity();
+    auto* payment = held<EntityPiutang>();
     payment->setMember(static_cast<EntityMember*>(person()));
-    takePayment(*m_ui, payment);
     const QList<KorEntity*> paid = m_ui->tabInvoices->paidLines();
     payment->setDetails(castAll<EntityPiutangDetail>(paid));
     payment->setRemovedDetails(castAll<EntityPiutangDetail>(removedLines(paid)));

@@ -19,6 +19,7 @@ DialogCashFlow::DialogCashFlow(QWidget* parent) : KorDialog(parent), m_ui(std::m
     m_ui->ddlType->addItem(tr("CREDIT"), CashFlowFilter::CreditRows);
     m_account = new AccountField(m_ui->txtAccount, m_ui->lblAccountName, this);
     connect(m_account, &AccountField::chosen, this, &DialogCashFlow::onBankSelected);
+    edits<EntityCashFlow>({{m_ui->txtNoTrans, "TransNo"}, {m_ui->datePayment, "Date"}, {m_ui->txtNotes, "Notes"}});
     focusLater(m_ui->txtAccount);
 }
 
@@ -44,11 +45,10 @@ bool DialogCashFlow::validate()
 
 KorEntity* DialogCashFlow::getEntity()
 {
-    auto* entry = heldOrNew<EntityCashFlow>();
+    KorDialog::getEntity();
+    auto* entry = held<EntityCashFlow>();
     if (const EntityBank* account = m_account->record())
         entry->setAccountCode(account->getKode());
-    entry->setDate(m_ui->datePayment->date());
-    entry->setNotes(m_ui->txtNotes->toPlainText());
     const bool isDebit = m_ui->ddlType->currentData().toInt() == CashFlowFilter::DebitRows;
     entry->setTransType(isDebit ? tr("DEBET") : tr("CREDIT"));
     Money* amount = m_ui->txtPaid->money();
@@ -60,14 +60,11 @@ KorEntity* DialogCashFlow::getEntity()
 
 void DialogCashFlow::setEntity(KorEntity* entity)
 {
-    hold(entity);
+    KorDialog::setEntity(entity);
     const auto* entry = held<EntityCashFlow>();
     const bool isDebit = entry->getDebet() && entry->getDebet()->rawAmount() != 0;
-    m_ui->txtNoTrans->setText(entry->getTransNo());
-    m_ui->datePayment->setDate(entry->getDate());
     m_ui->ddlType->setCurrentIndex(
         m_ui->ddlType->findData(isDebit ? CashFlowFilter::DebitRows : CashFlowFilter::CreditRows));
     m_ui->txtPaid->setMoney(isDebit ? entry->getDebet() : entry->getCredit());
-    m_ui->txtNotes->setPlainText(entry->getNotes());
     m_account->showCode(entry->getAccountCode());
 }

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "app/widgets/MoneyEdit.h"
 #include "pos/cash/settlement/EntityPartPayment.h"
 #include "pos/cash/settlement/EntitySettlement.h"
 #include "pos/cash/settlement/SettlementDialog.h"
+#include "pos/masterdata/account/AccountField.h"
 
 #include <QComboBox>
 #include <QDateEdit>
@@ -23,33 +23,23 @@ protected:
     [[nodiscard]] QString documentNoOf(const KorEntity& line) const final { return part(line).documentNo(); }
     [[nodiscard]] const Money* amountOf(const KorEntity& line) const final { return part(line).getAmountPaid(); }
 
-    // What the forms call alike, and what their records do.
+    // What the forms call alike, and their records.
     template <class Ui>
     static void offerTypes(const Ui& ui, const PaymentTypes& types)
     {
         for (const auto& type : types)
             ui.ddlPaymentType->addItem(type.first, type.second);
     }
-    template <class Ui>
-    static void showPayment(const Ui& ui, const EntityPartSettlement& payment)
+    template <class Payment, class Ui>
+    void editsPayment(const Ui& ui)
     {
-        ui.txtKode->setText(payment.getNo());
-        ui.ddlPaymentType->setCurrentIndex(ui.ddlPaymentType->findData(payment.getPaymentType()));
-        ui.txtCekNo->setText(payment.getCheckNo());
-        ui.txtRefNo->setText(payment.getNoRef());
-        ui.datePay->setDate(payment.getDate());
-        ui.txtNotes->setPlainText(payment.getNote());
-    }
-    template <class Ui>
-    void takePayment(const Ui& ui, EntityPartSettlement* payment) const
-    {
-        payment->setPaymentType(ui.ddlPaymentType->currentData().toInt());
-        payment->setDate(ui.datePay->date());
-        payment->setCheckNo(ui.txtCekNo->text());
-        payment->setNoRef(ui.txtRefNo->text());
-        payment->setNote(ui.txtNotes->toPlainText());
-        payment->setBank(account());
-        payment->setGrandTotal(ui.txtGrandTotal->money());
+        edits<Payment>({{ui.txtKode, "No"},
+                        {ui.ddlPaymentType, "PaymentType"},
+                        {ui.txtCekNo, "CheckNo"},
+                        {ui.txtRefNo, "NoRef"},
+                        {ui.datePay, "Date"},
+                        {ui.txtNotes, "Note"},
+                        {accountField(), "Bank"}});
     }
 
 private:

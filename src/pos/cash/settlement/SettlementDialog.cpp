@@ -6,6 +6,7 @@
 #include "app/widgets/MoneyEdit.h"
 #include "app/widgets/RecordField.h"
 #include "kor/business/KorErrorScope.h"
+#include "pos/cash/settlement/EntitySettlement.h"
 #include "pos/cash/settlement/SettlementTab.h"
 #include "pos/masterdata/account/AccountField.h"
 #include "pos/masterdata/contact/EntityContact.h"
@@ -111,12 +112,10 @@ QString SettlementDialog::readLines()
     return errors.take();
 }
 
-void SettlementDialog::showStored(EntityContact* person, EntityBank* account, const QList<KorEntity*>& lines,
-                                  bool offerOthers)
+void SettlementDialog::showStored(EntityContact* person, const QList<KorEntity*>& lines, bool offerOthers)
 {
     m_stored = lines;
     m_storedPersonId = person->getId();
-    m_account->show(account);
     if (offerOthers) {
         takePerson(person);
         return;
@@ -126,7 +125,13 @@ void SettlementDialog::showStored(EntityContact* person, EntityBank* account, co
     m_page->setLines(lines);
 }
 
-EntityBank* SettlementDialog::account() const { return m_account->record(); }
+KorEntity* SettlementDialog::getEntity()
+{
+    KorDialog::getEntity();
+    auto* settlement = held<EntitySettlement>();
+    settlement->setGrandTotal(m_boxes.total->money());
+    return settlement;
+}
 
 QList<KorEntity*> SettlementDialog::removedLines(const QList<KorEntity*>& taken) const
 {

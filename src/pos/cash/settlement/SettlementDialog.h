@@ -5,7 +5,6 @@
 
 class AccountField;
 class AppLinesTab;
-class EntityBank;
 class EntityContact;
 class KorBusinessLogic;
 class Money;
@@ -29,6 +28,7 @@ public:
     explicit SettlementDialog(QWidget* parent = nullptr) : KorDialog(parent) {}
 
     bool validate() final;
+    KorEntity* getEntity() override;
 
 public slots:
     void onTabInvoicesSelected();
@@ -83,11 +83,10 @@ protected:
     void takePerson(EntityContact* person);
     /** Shows what is open by now; amounts that were entered and not saved are gone. */
     void readAgain();
-    /** Shows a stored settlement; with the person's other open documents on offer, or with its own lines alone. */
-    void showStored(EntityContact* person, EntityBank* account, const QList<KorEntity*>& lines, bool offerOthers);
+    /** Shows what a stored settlement settles; with the person's other open documents on offer, or alone. */
+    void showStored(EntityContact* person, const QList<KorEntity*>& lines, bool offerOthers);
 
     [[nodiscard]] EntityContact* person() const;
-    [[nodiscard]] EntityBank* account() const;
     [[nodiscard]] AccountField* accountField() const { return m_account; }
     /** What all lines come to, in minor units. */
     [[nodiscard]] qint64 sum() const;

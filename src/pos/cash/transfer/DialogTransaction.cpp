@@ -18,6 +18,12 @@ DialogTransaction::DialogTransaction(QWidget* parent)
     m_to = new AccountField(m_ui->txtToAccount, m_ui->lblToAccountName, this);
     connect(m_from, &AccountField::chosen, this, &DialogTransaction::onFromAccountSelected);
     connect(m_to, &AccountField::chosen, this, &DialogTransaction::onToAccountSelected);
+    edits<EntityAccountingTransaction>({{m_ui->txtNoTrans, "TransNo"},
+                                        {m_ui->dateTrans, "Date"},
+                                        {m_ui->txtAmount, "Amount"},
+                                        {m_ui->txtNotes, "Notes"},
+                                        {m_from, "FromAccount"},
+                                        {m_to, "ToAccount"}});
     focusLater(m_ui->txtFromAccount);
 }
 
@@ -51,27 +57,4 @@ bool DialogTransaction::validate()
     if (!m_ui->dateTrans->date().isValid())
         addError(m_ui->dateTrans, tr("Enter date"));
     return !hasError();
-}
-
-KorEntity* DialogTransaction::getEntity()
-{
-    auto* transfer = heldOrNew<EntityAccountingTransaction>();
-    transfer->setFromAccount(m_from->record());
-    transfer->setToAccount(m_to->record());
-    transfer->setAmount(m_ui->txtAmount->money());
-    transfer->setDate(m_ui->dateTrans->date());
-    transfer->setNotes(m_ui->txtNotes->toPlainText());
-    return transfer;
-}
-
-void DialogTransaction::setEntity(KorEntity* entity)
-{
-    hold(entity);
-    const auto* transfer = held<EntityAccountingTransaction>();
-    m_ui->txtNoTrans->setText(transfer->getTransNo());
-    m_ui->dateTrans->setDate(transfer->getDate());
-    m_ui->txtAmount->setMoney(transfer->getAmount());
-    m_ui->txtNotes->setPlainText(transfer->getNotes());
-    m_from->show(transfer->getFromAccount());
-    m_to->show(transfer->getToAccount());
 }

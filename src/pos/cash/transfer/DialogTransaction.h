@@ -21,8 +21,6 @@ public:
     ~DialogTransaction() override;
 
     bool validate() override;
-    KorEntity* getEntity() override;
-    void setEntity(KorEntity* entity) override;
 
 public slots:
     void onFromAccountSelected();

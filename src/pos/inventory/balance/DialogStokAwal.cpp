@@ -10,6 +10,7 @@ DialogStokAwal::DialogStokAwal(QWidget* parent) : KorDialog(parent), m_ui(std::m
     m_ui->setupUi(this);
     m_item = new ItemField(m_ui->txtKode, m_ui->txtNama, this);
     connect(m_item, &ItemField::chosen, this, &DialogStokAwal::onItemSelected);
+    edits<EntityStokAwal>({{m_item, "Item"}, {m_ui->txtHarga, "Harga"}, {m_ui->txtJumlah, "Jumlah"}});
     focusLater(m_ui->txtKode);
 }
 
@@ -25,23 +26,10 @@ bool DialogStokAwal::validate()
     return !hasError();
 }
 
-KorEntity* DialogStokAwal::getEntity()
-{
-    auto* balance = heldOrNew<EntityStokAwal>();
-    balance->setItem(m_item->record());
-    balance->setHarga(m_ui->txtHarga->money());
-    balance->setJumlah(m_ui->txtJumlah->quantity().value_or(0));
-    return balance;
-}
-
 void DialogStokAwal::setEntity(KorEntity* entity)
 {
-    hold(entity);
-    const auto* balance = held<EntityStokAwal>();
-    m_item->show(balance->getItem());
+    KorDialog::setEntity(entity);
     m_item->freeze();
-    m_ui->txtHarga->setMoney(balance->getHarga());
-    m_ui->txtJumlah->setValue(balance->getJumlah());
     focusLater(m_ui->txtJumlah);
 }
 

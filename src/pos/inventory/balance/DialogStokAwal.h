@@ -21,7 +21,6 @@ public:
     ~DialogStokAwal() override;
 
     bool validate() override;
-    KorEntity* getEntity() override;
     void setEntity(KorEntity* entity) override;
 
 private slots:

@@ -30,6 +30,7 @@ DialogCreditNote::DialogCreditNote(QWidget* parent)
                     {tr("Select a supplier"), tr("Add one or more items"), tr("Enter the Accounts Payable"),
                      tr("Enter the valid Accounts Payable")},
                     payableAccount());
+    editsDocument<EntityCreditNote>({{m_ui->txtNo, "No"}, {m_ui->dateCreditNote, "Date"}, {m_ui->txtNotes, "Note"}});
     addLinesPage(m_ofPurchase, tr("[F3] From Invoice"), Qt::Key_F3);
     addLinesPage(m_free, tr("[F4] Item"), Qt::Key_F4);
     connect(m_ofPurchase, &AppLinesTab::ItemAdded, this, &DialogCreditNote::showPurchase);
@@ -101,13 +102,8 @@ void DialogCreditNote::checkMoney()
 
 void DialogCreditNote::setEntity(KorEntity* entity)
 {
-    hold(entity);
+    PurchasingDialog::setEntity(entity);
     const auto* note = held<EntityCreditNote>();
-    showSupplier(note->getSupplier());
-    m_ui->txtNo->setText(note->getNo());
-    m_ui->dateCreditNote->setDate(note->getDate());
-    m_ui->txtNotes->setPlainText(note->getNote());
-    showAccount(note->getBank());
     QList<KorEntity*> free;
     QList<KorEntity*> returned;
     for (EntityCreditNoteDetail* line : note->getDetails())
@@ -124,11 +120,8 @@ void DialogCreditNote::setEntity(KorEntity* entity)
 
 KorEntity* DialogCreditNote::getEntity()
 {
-    auto* note = heldOrNew<EntityCreditNote>();
-    note->setSupplier(supplier());
-    note->setDate(m_ui->dateCreditNote->date());
-    note->setNote(m_ui->txtNotes->toPlainText());
-    note->setBank(account());
+    PurchasingDialog::getEntity();
+    auto* note = held<EntityCreditNote>();
     note->setIsApplyToInvoice(m_ofPurchase->sourceId() != KorNoValue);
     note->setAcquisitionId(m_ofPurchase->sourceId());
     note->setDetails(castAll<EntityCreditNoteDetail>(m_ofPurchase->lines() + m_free->lines()));

@@ -59,7 +59,7 @@ void PurchasingDialog::onSupplierSelected()
 
 EntitySupplier* PurchasingDialog::supplier() const { return m_supplier->record(); }
 
-void PurchasingDialog::showSupplier(EntitySupplier* supplier) { m_supplier->show(supplier); }
+QObject* PurchasingDialog::supplierField() const { return m_supplier; }
 
 // --- the money -----------------------------------------------------------------------------------------------------
 
@@ -82,7 +82,8 @@ void PurchasingDialog::on_txtPaid_textChanged(const QString&)
 
 void PurchasingDialog::noteWhatCashMisses()
 {
-    const bool isMissed = account() && account()->getAccountType() != CashAccount && totals().paid() > 0;
+    const EntityBank* account = m_account->record();
+    const bool isMissed = account && account->getAccountType() != CashAccount && totals().paid() > 0;
     m_form.totals->setNote(isMissed ? tr("The account is not of the type Cash: the day's close does not count the "
                                          "amount paid.")
                                     : QString());
@@ -104,9 +105,7 @@ const InvoiceTotals& PurchasingDialog::totals()
     return m_cascade->totals();
 }
 
-EntityBank* PurchasingDialog::account() const { return m_account->record(); }
-
-void PurchasingDialog::showAccount(EntityBank* account) { m_account->show(account); }
+QObject* PurchasingDialog::accountField() const { return m_account; }
 
 // --- saving --------------------------------------------------------------------------------------------------------
 

@@ -6,7 +6,6 @@
 
 class AccountField;
 class AppLinesTab;
-class EntityBank;
 class EntitySupplier;
 class PurchasingTotalsPane;
 class QDateEdit;
@@ -72,6 +71,14 @@ protected:
 
     /** Called once, at the end of the constructor; a new document starts with the account that is handed in. */
     void setUpPurchasing(const Form& form, const Words& words, const QString& accountCode);
+    /** To be called behind it: the form edits such documents, by these boxes and those of supplier and account. */
+    template <class Document>
+    void editsDocument(const QList<Bound>& boxes)
+    {
+        edits<Document>({{supplierField(), "Supplier"}});
+        edits<Document>(boxes);
+        edits<Document>({{accountField(), "Bank"}});
+    }
     /** Puts a page of lines into the form, which F3, F4 and so on lead to. */
     void addLinesPage(AppLinesTab* page, const QString& title, Qt::Key key);
 
@@ -85,20 +92,19 @@ protected:
     /** Another supplier was chosen, or none. */
     virtual void supplierChanged() {}
 
-    void showSupplier(EntitySupplier* supplier);
-    void showAccount(EntityBank* account);
     void showTotals(const InvoiceTotals& stored);
     /** What the boxes say now. */
     [[nodiscard]] const InvoiceTotals& totals();
 
-    // As the last validation found them; they live as long as the form.
+    /** As the last validation found it; lives as long as the form. */
     [[nodiscard]] EntitySupplier* supplier() const;
-    [[nodiscard]] EntityBank* account() const;
     [[nodiscard]] const Words& words() const { return m_words; }
     [[nodiscard]] QTabWidget* pages() const { return m_form.pages; }
     [[nodiscard]] TotalsCascade* cascade() const { return m_cascade; }
 
 private:
+    [[nodiscard]] QObject* supplierField() const;
+    [[nodiscard]] QObject* accountField() const;
     /** Money that does not come from a cash account is no cash that has left the drawer. */
     void noteWhatCashMisses();
     void checkAmounts();

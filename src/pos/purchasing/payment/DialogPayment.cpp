@@ -30,6 +30,7 @@ DialogPayment::DialogPayment(QWidget* parent)
                     {tr("Select a supplier"), {}, {}, {}, tr("Please select a valid Cash Accounts")}, m_ui->tabInvoices,
                     m_purchases);
     addLinesPage(m_ui->tabExpenses, Qt::Key_F4);
+    editsPayment<EntityPayment>(*m_ui);
     connect(accountField(), &AccountField::chosen, this, &DialogPayment::onCashAccountSelected);
     focusLater(m_ui->txtSupplier);
 }
@@ -126,9 +127,8 @@ bool DialogPayment::beforeAccept()
 
 void DialogPayment::setEntity(KorEntity* entity)
 {
-    hold(entity);
+    PartPaymentsDialog::setEntity(entity);
     auto* payment = held<EntityPayment>();
-    showPayment(*m_ui, *payment);
     // As things stand now: other payments may have paid of the same purchases since.
     for (EntityPaymentInvoices* line : payment->invoices().getDetails())
         line->setAmountDue(line->getAcquisition()->getNetDue());
@@ -141,14 +141,14 @@ void DialogPayment::setEntity(KorEntity* entity)
     m_ui->tabExpenses->setLines(asEntities(payment->expenses().getDetails()));
     if (payment->invoices().getDetails().isEmpty())
         m_ui->tabDetail->setCurrentWidget(m_ui->tabExpenses);
-    showStored(payment->getSupplier(), payment->getBank(), asEntities(payment->invoices().getDetails()), true);
+    showStored(payment->getSupplier(), asEntities(payment->invoices().getDetails()), true);
 }
 
 KorEntity* DialogPayment::getEntity()
 {
-    auto* payment = heldOrNew<EntityPayment>();
+    PartPaymentsDialog::getEntity();
+    auto* payment = held<EntityPayment>();
     payment->setSupplier(static_cast<EntitySupplier*>(person()));
-    takePayment(*m_ui, payment);
     const QList<KorEntity*> paid = m_ui->tabInvoices->paidLines();
     payment->invoices().setDetails(castAll<EntityPaymentInvoices>(paid));
     payment->invoices().setRemovedDetails(castAll<EntityPaymentInvoices>(removedLines(paid)));

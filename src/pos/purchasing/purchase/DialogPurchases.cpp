@@ -18,6 +18,11 @@ DialogPurchases::DialogPurchases(QWidget* parent)
                     {tr("Select a supplier"), tr("Please add one or more items"),
                      tr("Please select an Accounts Payable"), tr("Please select a valid Accounts Payable")},
                     payableAccount());
+    editsDocument<EntityAcquisition>({{m_ui->txtPurchaseNo, "No"},
+                                      {m_ui->datePurchase, "PurchaseDate"},
+                                      {m_ui->dateDue, "DueDate"},
+                                      {m_ui->txtInvoiceNo, "InvoiceNo"},
+                                      {m_ui->txtNotes, "Note"}});
     addLinesPage(m_free, tr("[F3] Purchases"), Qt::Key_F3);
     addLinesPage(m_ordered, tr("[F4] from Purchase Order"), Qt::Key_F4);
 }
@@ -45,15 +50,8 @@ void DialogPurchases::supplierChanged() { m_ordered->setSupplier(supplier()); }
 
 void DialogPurchases::setEntity(KorEntity* entity)
 {
-    hold(entity);
+    PurchasingDialog::setEntity(entity);
     const auto* purchase = held<EntityAcquisition>();
-    showSupplier(purchase->getSupplier());
-    m_ui->txtPurchaseNo->setText(purchase->getNo());
-    m_ui->datePurchase->setDate(purchase->getPurchaseDate());
-    m_ui->dateDue->setDate(purchase->getDueDate());
-    m_ui->txtInvoiceNo->setText(purchase->getInvoiceNo());
-    m_ui->txtNotes->setPlainText(purchase->getNote());
-    showAccount(purchase->getBank());
     QList<KorEntity*> free;
     QList<KorEntity*> ordered;
     for (EntityAcquisitionDetail* line : purchase->getDetails())
@@ -71,13 +69,8 @@ void DialogPurchases::setEntity(KorEntity* entity)
 
 KorEntity* DialogPurchases::getEntity()
 {
-    auto* purchase = heldOrNew<EntityAcquisition>();
-    purchase->setSupplier(supplier());
-    purchase->setPurchaseDate(m_ui->datePurchase->date());
-    purchase->setDueDate(m_ui->dateDue->date());
-    purchase->setInvoiceNo(m_ui->txtInvoiceNo->text());
-    purchase->setNote(m_ui->txtNotes->toPlainText());
-    purchase->setBank(account());
+    PurchasingDialog::getEntity();
+    auto* purchase = held<EntityAcquisition>();
     purchase->setIsApplyToPurchaseOrder(m_ordered->sourceId() != KorNoValue);
     purchase->setPurchaseOrderId(m_ordered->sourceId());
     purchase->setDetails(castAll<EntityAcquisitionDetail>(m_free->lines() + m_ordered->lines()));

@@ -8,12 +8,6 @@
 
 #include <QShortcut>
 
-namespace
-{
-/** At midnight: a list up to a day holds all orders of that day. */
-QDateTime dayOf(const QDateEdit* box) { return QDateTime(box->date(), QTime(0, 0)); }
-} // namespace
-
 DialogPurchaseOrder::DialogPurchaseOrder(QWidget* parent)
     : PurchasingDialog(parent), m_ui(std::make_unique<Ui::DialogPurchaseOrder>()), m_items(new TabPurchaseOrderDetail)
 {
@@ -32,6 +26,13 @@ DialogPurchaseOrder::DialogPurchaseOrder(QWidget* parent)
                     {tr("Select a supplier"), tr("Insert one or more item"), tr("Please select an Accounts Payable"),
                      tr("Please select a valid Accounts Payable")},
                     payableAccount());
+    // The dates are taken as of midnight: a list up to a day holds all orders of that day.
+    editsDocument<Order>({{m_ui->txtPONo, "No"},
+                          {m_ui->datePO, "Date"},
+                          {m_ui->dateShip, "ShipDate"},
+                          {m_ui->ddlStatus, "Status"},
+                          {m_ui->txtNoRek, "NoRek"},
+                          {m_ui->txtNotes, "Note"}});
     addLinesPage(m_items, tr("[F3] Items"), Qt::Key_F3);
     connect(new QShortcut(Qt::Key_F4, this), &QShortcut::activated, m_ui->txtNotes,
             [this] { m_ui->txtNotes->setFocus(); });
@@ -46,17 +47,8 @@ PurchasingDialog::PurchasingLines DialogPurchaseOrder::allLines() const
 
 void DialogPurchaseOrder::setEntity(KorEntity* entity)
 {
-    hold(entity);
+    PurchasingDialog::setEntity(entity);
     const auto* order = held<EntityPurchaseOrder>();
-    showSupplier(order->getSupplier());
-    m_ui->txtPONo->setText(order->getNo());
-    m_ui->datePO->setDate(order->getDate().date());
-    m_ui->dateShip->setDate(order->getShipDate().date());
-    // A status that cannot be chosen stays until another one is.
-    m_ui->ddlStatus->setCurrentIndex(m_ui->ddlStatus->findData(order->getStatus()));
-    m_ui->txtNoRek->setText(order->getNoRek());
-    m_ui->txtNotes->setPlainText(order->getNote());
-    showAccount(order->getBank());
     m_items->setLines(asEntities(order->getDetails()));
     InvoiceTotals stored = storedTotals(*order, order->getSubTotal());
     readTax(stored, *order);
@@ -66,15 +58,8 @@ void DialogPurchaseOrder::setEntity(KorEntity* entity)
 
 KorEntity* DialogPurchaseOrder::getEntity()
 {
-    auto* order = heldOrNew<EntityPurchaseOrder>();
-    order->setSupplier(supplier());
-    order->setDate(dayOf(m_ui->datePO));
-    order->setShipDate(dayOf(m_ui->dateShip));
-    if (m_ui->ddlStatus->currentIndex() >= 0)
-        order->setStatus(m_ui->ddlStatus->currentData().toInt());
-    order->setNoRek(m_ui->txtNoRek->text());
-    order->setNote(m_ui->txtNotes->toPlainText());
-    order->setBank(account());
+    PurchasingDialog::getEntity();
+    auto* order = held<EntityPurchaseOrder>();
     order->setDetails(castAll<EntityPurchaseOrderDetail>(m_items->lines()));
     order->setRemovedDetails(castAll<EntityPurchaseOrderDetail>(m_items->removedLines()));
     const InvoiceTotals& money = totals();
