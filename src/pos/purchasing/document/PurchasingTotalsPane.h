@@ -6,6 +6,9 @@
 
 #include <memory>
 
+class QLabel;
+class QLineEdit;
+
 namespace Ui
 {
 class PurchasingTotalsPane;
