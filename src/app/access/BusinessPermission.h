@@ -7,7 +7,7 @@ class DataMapperPermission;
 class EntityBusiness;
 class EntityPermission;
 
-/** The service of the table of rights: which services there are and what in them needs a right. */
+/** The service of the table of permissions: the services, and their operations that need a right. */
 class BusinessPermission final : public KorBusinessLogic
 {
     Q_OBJECT

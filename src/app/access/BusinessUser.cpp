@@ -26,7 +26,7 @@ bool BusinessUser::login(const QString& username, const QString& password)
         return false;
 
     AppContext::instance()->setCurrentUser(user);
-    // Without its rights the user would meet a refusal at every button and no word of why.
+    // Without loaded rights every button would refuse the user and not say why.
     if (!m_access->loadAccess(user)) {
         addError("username", m_access->takeErrors());
         return false;
@@ -37,7 +37,7 @@ bool BusinessUser::login(const QString& username, const QString& password)
 bool BusinessUser::insert(KorEntity* user)
 {
     const QString symbol = QLocale(AppContext::instance()->locale()).currencySymbol(QLocale::CurrencySymbol);
-    // A locale without a country has none at all, which the table would not take.
+    // A locale without a country has no currency symbol (null), but the column is NOT NULL.
     static_cast<EntityUser*>(user)->setCurrency(symbol.isNull() ? QString("") : symbol);
     return saveAlone(*static_cast<EntityUser*>(user), "insert", [=] { return KorBusinessLogic::insert(user); });
 }
@@ -50,7 +50,8 @@ bool BusinessUser::update(KorEntity* user)
 bool BusinessUser::saveAlone(const EntityUser& user, const QString& operation, const std::function<bool()>& save)
 {
     return inOneTransaction(*this, operation, [&] {
-        // Two forms have found the login free at the same moment: the second waits here, and finds it taken.
+        // Two forms may have found the same login free at the same time: the second one waits here and then finds it
+        // used.
         EntityPool pool;
         const EntityPoolScope scope(pool);
         if (!written(m_users->lockTable(), m_users, operation))
@@ -59,7 +60,7 @@ bool BusinessUser::saveAlone(const EntityUser& user, const QString& operation, c
         const auto* stored = user.isSaved() ? static_cast<EntityUser*>(find(user.getId())) : nullptr;
         if (hasError())
             return false;
-        // A login that was given away twice in former times can still be worked on.
+        // Old databases can contain the same login twice. Such users can still be edited.
         const bool isNew = !stored || stored->getUserName() != user.getUserName();
         if (isNew && other && other->getId() != user.getId()) {
             addError(operation, tr("Username already exists"));

@@ -8,7 +8,7 @@ class BusinessUserAccess;
 class DataMapperUser;
 class EntityUser;
 
-/** The service of the users, and the login. */
+/** The service of the users and of the login. */
 class BusinessUser final : public KorBusinessLogic
 {
     Q_OBJECT
@@ -21,9 +21,11 @@ public:
 
     [[nodiscard]] QList<KorPermission> getPermissions() const override;
 
-    /** Makes the user the current one and loads the rights; false for a wrong name or password. */
+    /**
+     * Makes the user the current one and loads the rights. False for a wrong name or password, without an error text.
+     */
     [[nodiscard]] bool login(const QString& username, const QString& password);
-    /** Gives the user the currency of the configured locale. */
+    /** Also sets the user's currency to that of the configured locale. */
     bool insert(KorEntity* user) override;
     bool update(KorEntity* user) override;
     [[nodiscard]] EntityUser* findByUsername(const QString& username);
@@ -32,7 +34,10 @@ public:
     [[nodiscard]] QList<KorEntity*> search(const QString& filter);
 
 private:
-    /** Saves while no other workstation can give the login away; false, with the reason, where it is taken. */
+    /**
+     * Saves with the user table locked, so that no other workstation can use the login. False with an error if it is
+     * used.
+     */
     bool saveAlone(const EntityUser& user, const QString& operation, const std::function<bool()>& save);
 
     DataMapperUser* m_users;

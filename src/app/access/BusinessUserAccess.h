@@ -8,7 +8,7 @@ class EntityPermission;
 class EntityUser;
 class EntityUserGroup;
 
-/** The service of the rights that the groups have. */
+/** The service of the rights of the user groups. */
 class BusinessUserAccess final : public KorBusinessLogic
 {
     Q_OBJECT
@@ -21,11 +21,11 @@ public:
 
     [[nodiscard]] QList<KorPermission> getPermissions() const override;
 
-    /** Changes the group's right or gives it one; see EntityAccess::GrantType. */
+    /** Changes the group's right or adds one; see EntityAccess::GrantType. */
     bool setGrant(EntityUserGroup* group, EntityPermission* permission, int grant);
     [[nodiscard]] EntityAccess* findAccess(int groupId, int permissionId);
     [[nodiscard]] QList<KorEntity*> findByGroup(int groupId);
-    /** Puts the rights of the user's group into the context; they hold until the next login. */
+    /** Loads the rights of the user's group into the context. They are not read again until the next login. */
     bool loadAccess(const EntityUser* user);
 
 private:

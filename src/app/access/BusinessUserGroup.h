@@ -5,7 +5,7 @@
 class DataMapperUserGroup;
 class EntityUserGroup;
 
-/** The service of the groups of users. */
+/** The service of the user groups. */
 class BusinessUserGroup final : public KorBusinessLogic
 {
     Q_OBJECT

@@ -7,7 +7,9 @@ class DataMapperPermission;
 class DataMapperUserGroup;
 class EntityAccess;
 
-/** What the groups may do, in the table "access"; a record is read with its permission and the permission's service. */
+/**
+ * The rights of the groups, in the table "access". A record is read with its permission and the permission's service.
+ */
 class DataMapperAccess final : public AppDataMapper
 {
     Q_OBJECT

@@ -2,6 +2,7 @@
 
 #include "kor/persistence/KorMigration.h"
 
+/** Version 1.1 made the names of the services unique. */
 class DataMapperBusinessMigration11 final : public KorStatementMigration11
 {
     Q_OBJECT

@@ -3,8 +3,8 @@
 #include "kor/persistence/KorMigration.h"
 
 /**
- * The first statement names a table that never was; the second one renames a right under a name that another one has
- * in most databases. Both failures are in order: installed ones rely on neither.
+ * Both statements are expected to fail on most databases: the first one names a table that never existed, the second
+ * one a permission name that is already used. No installation depends on either.
  */
 class DataMapperPermissionMigration11 final : public KorMigration
 {

@@ -5,7 +5,9 @@
 class DataMapperUserGroup;
 class EntityUser;
 
-/** The users, in the table "users". A password is stored as its digest, and an empty one leaves it as it was. */
+/**
+ * The users, in the table "users". Passwords are stored as digests. An update with an empty password keeps the old one.
+ */
 class DataMapperUser final : public AppDataMapper
 {
     Q_OBJECT
@@ -13,18 +15,18 @@ class DataMapperUser final : public AppDataMapper
 public:
     DataMapperUser(QObject* parent, DataMapperUserGroup* groups);
 
-    /** Exactly this name: the login tells "Admin" from "admin". */
+    /** Case-sensitive: "Admin" and "admin" are different logins. */
     [[nodiscard]] EntityUser* findByUsername(const QString& username);
     [[nodiscard]] QList<KorEntity*> findByGroup(int groupId);
-    /** For the list, whatever the letters' case. */
+    /** For the list; ignores case. */
     [[nodiscard]] QList<KorEntity*> findAll(const QString& filter);
-    /** For look-ups, in the letters as typed. */
+    /** For look-ups; case-sensitive. */
     [[nodiscard]] QList<KorEntity*> search(const QString& filter);
 
-    /** Holds all other writers off until the transaction ends; they may read. */
+    /** Blocks all other writers until the transaction ends; reading is possible. */
     [[nodiscard]] bool lockTable();
 
-    /** The form in which passwords are stored and compared. */
+    /** The stored form of a password; compare with it. */
     [[nodiscard]] static QString digest(const QString& password);
 
     void bindInsert(KorQuery& query, KorEntity* entity) override;

@@ -4,7 +4,7 @@
 
 class EntityUserGroup;
 
-/** The groups of users, in the table "user_group". */
+/** The user groups, in the table "user_group". */
 class DataMapperUserGroup final : public AppDataMapper
 {
     Q_OBJECT
@@ -12,7 +12,7 @@ class DataMapperUserGroup final : public AppDataMapper
 public:
     explicit DataMapperUserGroup(QObject* parent);
 
-    /** Whatever the letters' case. */
+    /** Ignores case. */
     [[nodiscard]] EntityUserGroup* findByGroupName(const QString& name);
     [[nodiscard]] QList<KorEntity*> findAll(const QString& filter);
 

@@ -9,7 +9,7 @@ namespace Ui
 class DialogLogin;
 }
 
-/** Asks who is there before anything else happens. Whoever does not log in leaves the program. */
+/** Asks for user name and password when the program starts. Cancelling ends the program. */
 class DialogLogin : public KorDialog
 {
     Q_OBJECT
@@ -19,7 +19,7 @@ public:
     ~DialogLogin() override;
 
     bool validate() override;
-    /** Escape and the window's own close button leave as well. */
+    /** Escape and the window's close button also end the program. */
     void reject() override;
 
 public slots:

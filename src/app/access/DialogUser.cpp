@@ -50,7 +50,7 @@ bool DialogUser::validate()
     }
     require(m_ui->txtFirstName, tr("Enter First Name"));
     require(m_ui->txtLastName, tr("Enter Last Name"));
-    // Empty when the groups could not be read.
+    // No group is selected if the groups could not be read.
     if (m_ui->cbGroup->currentIndex() < 0)
         addError(m_ui->cbGroup, tr("Select the user group"));
     return !hasError();
@@ -72,7 +72,7 @@ void DialogUser::setEntity(KorEntity* entity)
 {
     KorDialog::setEntity(entity);
     const auto* user = held<EntityUser>();
-    // An empty box keeps the password.
+    // If the field stays empty, the password is not changed.
     m_ui->txtPassword->clear();
     if (user->getGroup())
         m_ui->cbGroup->setCurrentIndex(m_ui->cbGroup->findData(user->getGroup()->getId()));

@@ -32,7 +32,7 @@ void DialogUserAccess::setEntity(KorEntity* entity)
     m_ui->lblGroup->setText(access->getGroup()->getGroupName());
     m_ui->lblBusiness->setText(access->getPermission()->getBusiness()->getName());
     m_ui->lblPermission->setText(access->getPermission()->getPermissionName());
-    // A right that was never given is none.
+    // A right that was never granted means none.
     QRadioButton* chosen = access->getGrant() == EntityAccess::All     ? m_ui->rbAll
                            : access->getGrant() == EntityAccess::Owner ? m_ui->rbOwner
                                                                        : m_ui->rbNone;

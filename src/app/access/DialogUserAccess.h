@@ -9,7 +9,7 @@ namespace Ui
 class DialogUserAccess;
 }
 
-/** The entry form of what a group may do with one permission. */
+/** The entry form of a group's right to one operation. */
 class DialogUserAccess final : public KorDialog
 {
     Q_OBJECT

@@ -9,7 +9,7 @@ namespace Ui
 class DialogUserGroup;
 }
 
-/** The entry form of a group of users. */
+/** The entry form of a user group. */
 class DialogUserGroup final : public KorDialog
 {
     Q_OBJECT

@@ -3,7 +3,7 @@
 #include "app/access/EntityPermission.h"
 #include "app/context/EntityUserGroup.h"
 
-/** What a group may do with one permission. */
+/** The right of a group to one operation. */
 class EntityAccess : public KorEntity
 {
     Q_OBJECT
@@ -12,7 +12,7 @@ class EntityAccess : public KorEntity
     KOR_PROPERTY(int, Grant, None)
 
 public:
-    /** Owner: on records that the user created, and wherever no record is in question. Undecided: not chosen yet. */
+    /** Owner: only on records that the user created, and for operations without a record. Undecided: not chosen yet. */
     enum GrantType { None, Owner, All, Undecided };
 
     using KorEntity::KorEntity;

@@ -2,7 +2,7 @@
 
 #include "kor/entity/KorEntity.h"
 
-/** A service whose operations need rights, by its name. */
+/** The name of a service whose operations need rights. */
 class EntityBusiness : public KorEntity
 {
     Q_OBJECT

@@ -36,7 +36,7 @@ TabUserAccess::TabUserAccess(QWidget* parent)
 
 void TabUserAccess::arrange()
 {
-    // The group and the service take the place of the filter.
+    // This page shows the choice of group and service instead of the filter.
     while (QLayoutItem* item = filterLayout()->takeAt(0)) {
         if (item->widget())
             item->widget()->hide();
@@ -84,7 +84,7 @@ void TabUserAccess::fillChoices()
 
 void TabUserAccess::choiceChanged()
 {
-    // Whoever walks through the services with the arrow keys stays in their list.
+    // Keep the focus, so that the user can move through the list of services with the arrow keys.
     QWidget* chooser = focusWidget();
     refresh();
     if (chooser)

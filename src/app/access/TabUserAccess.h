@@ -5,7 +5,7 @@
 class QComboBox;
 class QListWidget;
 
-/** What each group of users may do, service by service. */
+/** Shows and edits the rights of a user group, one service at a time. */
 class TabUserAccess final : public AppListTab
 {
     Q_OBJECT

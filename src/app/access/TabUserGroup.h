@@ -5,7 +5,7 @@
 #include "app/access/UserGroupTableModel.h"
 #include "app/widgets/AppListTab.h"
 
-/** The list of the groups of users. */
+/** The list of the user groups. */
 class TabUserGroup final : public AppFamilyTab<BusinessUserGroup, UserGroupTableModel, DialogUserGroup>
 {
     Q_OBJECT

@@ -4,7 +4,7 @@
 
 #include <QHash>
 
-/** The permissions of one service with what a group may do with them: permission ids to grants. */
+/** The permissions of one service and a group's right to each of them. The grants are given by permission id. */
 class TableModelUserAccess final : public KorEntityModel
 {
     Q_OBJECT

@@ -17,11 +17,11 @@ public:
 
     [[nodiscard]] QList<KorPermission> getPermissions() const override;
 
-    /** The row's value, empty where there is no such row. */
+    /** The value of the row; empty if the row does not exist. */
     [[nodiscard]] QString getValue(const QString& key);
     [[nodiscard]] EntityAppConfig* getValue(const QString& key, EntityAppConfig* defaultEntity);
     [[nodiscard]] EntityAppConfig* getConfig(const QString& key);
-    /** The row in the class that addType has named for its key; null for a missing row or one of another class. */
+    /** The row as an object of the class that addType() registered; null if the row is missing or has another class. */
     template <class Config>
     [[nodiscard]] Config* getConfig(const QString& key)
     {
@@ -29,23 +29,24 @@ public:
     }
     [[nodiscard]] QList<EntityAppConfig*> getConfigsLike(const QString& prefix);
 
-    /** See DataMapperAppConfig::addType. Services of other layers name the classes of their rows when they are made. */
+    /** See DataMapperAppConfig::addType(). Services of other layers register their classes in their constructors. */
     template <class Config>
     void addType(const QString& keyPrefix)
     {
         m_configs->addType<Config>(keyPrefix);
     }
 
-    /** The stored row, or one with the defaults that is not saved yet. */
+    /** The stored row, or a new unsaved one with the defaults. */
     [[nodiscard]] EntityConfigLocalizationFormat* getLocalization();
     [[nodiscard]] static QString defaultDateFormat() { return EntityConfigLocalizationFormat::defaultDateFormat(); }
     [[nodiscard]] static QString defaultLocale() { return EntityConfigLocalizationFormat::defaultLocale(); }
 
-    /** What a shop can be set to, and the one of them that this machine goes by; the default where it is another. */
+    /** The locales that can be configured. */
     [[nodiscard]] static QStringList locales() { return {"en_US", "id_ID"}; }
+    /** The locale of this machine if it can be configured, or else the default. */
     [[nodiscard]] static QString localeOfMachine();
 
-    /** The first rows of a new database, with these formats, or the defaults where they are empty. */
+    /** Inserts the first rows of a new database. Empty arguments mean the defaults. */
     bool insertInitialData(const QString& dateFormat = QString(), const QString& locale = QString());
 
 private:

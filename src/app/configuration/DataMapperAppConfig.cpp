@@ -19,7 +19,7 @@ bool DataMapperAppConfig::createTable(int mode)
     if (!AppDataMapper::createTable(mode))
         return false;
     KorQuery query;
-    // Two kitchens added in one second must not share a key. A table that stood already has the constraint.
+    // Two kitchens added in the same second must not get the same key. An existing table already has the constraint.
     return mode != 1 || execute(query, "ALTER TABLE appconfig ADD UNIQUE (appkey);");
 }
 
@@ -71,7 +71,7 @@ KorEntity* DataMapperAppConfig::fromRow(KorQuery& query, const QString& alias)
 
 KorEntity* DataMapperAppConfig::createEntity()
 {
-    // From the last to the first in key order, so that of two beginnings that fit the longer one is met first.
+    // Backwards in key order, so that the longer of two matching prefixes is found first.
     for (auto it = m_types.constEnd(); it != m_types.constBegin();) {
         --it;
         if (m_rowKey.startsWith(it.key()))

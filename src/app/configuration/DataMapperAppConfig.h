@@ -13,19 +13,19 @@ class DataMapperAppConfig final : public AppDataMapper
 public:
     explicit DataMapperAppConfig(QObject* parent);
 
-    /** From now on rows whose key begins with this are read as records of that class; the longest beginning wins. */
+    /** Rows whose key starts with the prefix are read as objects of this class. The longest matching prefix decides. */
     template <class Config>
     void addType(const QString& keyPrefix)
     {
         m_types.insert(keyPrefix, [](QObject* parent) { return new Config(parent); });
     }
 
-    /** The row's value, empty where there is no such row. */
+    /** The value of the row; empty if the row does not exist. */
     [[nodiscard]] QString getValue(const QString& key);
-    /** The row, or the record given for the case that there is none. */
+    /** The row, or the given record if the row does not exist. */
     [[nodiscard]] EntityAppConfig* getValue(const QString& key, EntityAppConfig* defaultEntity);
     [[nodiscard]] EntityAppConfig* getConfig(const QString& key);
-    /** The rows whose key matches the pattern with "%" behind it. */
+    /** The rows whose key starts with the prefix, which is used as a LIKE pattern. */
     [[nodiscard]] QList<KorEntity*> getConfigsLike(const QString& prefix);
 
     bool insert(KorEntity* entity) override;
@@ -37,6 +37,6 @@ public:
 
 private:
     QMap<QString, std::function<EntityAppConfig*(QObject*)>> m_types;
-    // The key of the row that is being read: it tells which class to make.
+    // The key of the row being read; it decides which class is created.
     QString m_rowKey;
 };

@@ -5,8 +5,8 @@
 #include <QHash>
 
 /**
- * One setting that all workstations share. The value is a plain text, or a JSON object of texts: those members are
- * kept in memory by name, and subclasses give them accessors.
+ * One setting that all workstations share. The value is plain text or a JSON object of strings. The members of a JSON
+ * object are kept in memory by name; subclasses add typed accessors.
  */
 class EntityAppConfig : public KorEntity
 {
@@ -19,21 +19,23 @@ class EntityAppConfig : public KorEntity
 public:
     using KorEntity::KorEntity;
 
-    /** The member's text, empty for one that the row does not have. */
+    /** The text of the member; empty if the row does not have it. */
     [[nodiscard]] QString member(const QString& name) const { return m_members.value(name); }
     void setMember(const QString& name, const QString& text) { m_members.insert(name, text); }
     [[nodiscard]] const QHash<QString, QString>& members() const { return m_members; }
 
-    /** Writes the members to Value, in a row that is stored as JSON. */
+    /** Writes the members to Value as JSON; does nothing for a plain text row. */
     void toStored();
-    /** Reads the members from Value, in a row that is stored as JSON; a text that is no object gives none. */
+    /**
+     * Reads the members from Value; does nothing for a plain text row. A value that is no JSON object gives no members.
+     */
     void fromStored();
 
 private:
     QHash<QString, QString> m_members;
 };
 
-/** A member of a JSON row under its name in the stored object: getter and setter. */
+/** Getter and setter of a JSON member; member_name is its name in the stored object. */
 #define CONFIG_MEMBER(Name, member_name)                                                                               \
 public:                                                                                                                \
     [[nodiscard]] QString get##Name() const { return member(QStringLiteral(member_name)); }                            \

@@ -2,7 +2,7 @@
 
 #include "app/configuration/EntityAppConfig.h"
 
-/** The locale and the date format of the restaurant; where a member is missing or damaged the defaults stand. */
+/** The locale and the date format of the restaurant. A missing or invalid member means the default. */
 class EntityConfigLocalizationFormat final : public EntityAppConfig
 {
     Q_OBJECT

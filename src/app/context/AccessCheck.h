@@ -5,10 +5,10 @@
 class KorEntity;
 
 /**
- * May the logged-in user do this operation (the permission key of the business), on this record where there is one?
- * A grant for own records holds wherever no record is in question.
+ * True if the logged-in user may do this operation (the permission key of the business) on this record. Without a
+ * record, a grant for own records is enough.
  */
 [[nodiscard]] bool checkAccess(const QString& businessName, int key, const KorEntity* entity = nullptr);
 
-/** The same, telling the user about a refusal and the permission that is missing. */
+/** The same; if the right is missing, a message box names the required permission. */
 [[nodiscard]] bool hasAccess(const QString& businessName, int key, const KorEntity* entity = nullptr);

@@ -43,7 +43,7 @@ void AppContext::setCurrentUser(EntityUser* user)
     m_currentUser->setUserName(user->getUserName());
     m_currentUser->setCurrency(user->getCurrency());
     if (const EntityUserGroup* group = user->getGroup()) {
-        // A copy: the group that was read lies in the pool, which can be cleared while the user stays logged in.
+        // A copy: the group belongs to the entity pool, which can be cleared while the user is logged in.
         auto* own = new EntityUserGroup(m_currentUser);
         own->setId(group->getId());
         own->setGroupName(group->getGroupName());

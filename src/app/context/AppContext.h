@@ -14,8 +14,8 @@ class EntityUser;
 class KorEntity;
 
 /**
- * What all layers share and cannot be handed one by one: the logged-in user and the user's rights, the connection
- * and its values, the formats, the main window, and the parent of all records that mappers make. It only holds.
+ * Objects and values that all layers share: the logged-in user and the rights, the connection and its settings, the
+ * formats, the main window, and the parent of all records that mappers create. It contains no logic of its own.
  */
 class AppContext : public QObject
 {
@@ -27,14 +27,14 @@ public:
     /** Business name followed by the key, to the permission's caption. */
     using Captions = QMap<QString, QString>;
 
-    /** Made on first use, a child of the application object. */
+    /** Created on first use; a child of the application object. */
     static AppContext* instance();
     ~AppContext() override;
 
     [[nodiscard]] EntityUser* currentUser() const { return m_currentUser; }
-    /** Keeps a copy without the password and starts empty rights; null only forgets the user. */
+    /** Keeps a copy without the password and clears the rights. Null only removes the user. */
     void setCurrentUser(EntityUser* user);
-    /** The id of the logged-in user, KorNoValue before the login. */
+    /** The id of the logged-in user; KorNoValue before the login. */
     [[nodiscard]] int currentUserId() const;
     [[nodiscard]] Rights* userRights() const { return m_userRights.get(); }
     [[nodiscard]] Captions* accessCaptions() const { return m_accessCaptions.get(); }
@@ -45,22 +45,24 @@ public:
     void setLocale(const QString& locale) { m_locale = locale; }
 
     [[nodiscard]] DatabaseManager* databaseManager() const { return m_databaseManager; }
-    /** Null deletes the held manager; another one replaces it and leaves the former to its owner. */
+    /** Null deletes the current manager. Another one replaces it without deleting it. */
     void setDatabaseManager(DatabaseManager* manager);
     [[nodiscard]] KorLogger* logger() const { return m_logger; }
     void setLogger(KorLogger* logger);
     static void log(const QString& message);
 
-    /** The parent of records: that of the thread's innermost EntityPoolScope, or else the run's own, null on a worker.
+    /**
+     * The parent of new records: that of the thread's innermost EntityPoolScope, or else the main pool (null on a
+     * worker).
      */
     [[nodiscard]] QObject* entityPool() const;
     [[nodiscard]] QObject* mainEntityPool() const { return m_entityPool.get(); }
     /**
-     * Frees every record that a mapper made; grids that show some get empty. While somebody works on records, in a
-     * form that is open, it waits until that has ended.
+     * Deletes every record that mappers created; grids that show some become empty. If an EntityPoolScope is active (a
+     * form is open), it is done after the outermost scope has ended.
      */
     void resetEntityPool();
-    /** The last scope of the main thread has ended. */
+    /** Called when the outermost scope of the main thread has ended. */
     void recordsAreFree();
     [[nodiscard]] QList<KorEntity*> liveEntities() const;
 

@@ -33,7 +33,7 @@ bool ConnectionSettings::exists(const QString& path)
 ConnectionSettings ConnectionSettings::read(const QString& path)
 {
     QSettings file(path, QSettings::IniFormat);
-    // Another program may have written it since this one last read it.
+    // Another program may have changed the file since this one last read it.
     file.sync();
     const auto deciphered = [&file](const char* key) {
         return KorSimpleEncrypt::decrypt(file.value(QLatin1String(key)).toString());

@@ -3,8 +3,8 @@
 #include <QString>
 
 /**
- * How this workstation reaches the database, and what its main window shows at start, as "settings.ini" keeps it.
- * Host, database, user and password are enciphered in the file; here they stand in clear.
+ * The database connection of this workstation and what its main window shows at start, stored in "settings.ini". Host,
+ * database, user and password are encrypted in the file and plain text here.
  */
 struct ConnectionSettings
 {
@@ -16,19 +16,19 @@ struct ConnectionSettings
     bool showSidebar = true;
     bool showDashboard = true;
 
-    /** "settings.ini" in the data folder of the running program. */
+    /** "settings.ini" in the program's data folder. */
     [[nodiscard]] static QString defaultPath();
-    /** True only for a regular file, read from the disk anew. */
+    /** True only for a regular file; never answered from a cache. */
     [[nodiscard]] static bool exists(const QString& path);
-    /** A value that is missing or damaged reads as empty; the port as 0. */
+    /** A missing or damaged value is read as empty, or 0 for the port. */
     [[nodiscard]] static ConnectionSettings read(const QString& path);
-    /** False when the file could not be written. Only its owner may read it afterwards. */
+    /** False if the file could not be written. Afterwards only its owner may read it. */
     [[nodiscard]] bool write(const QString& path) const;
 
-    /** The same with the values that a fresh installation uses, wherever there is none. */
+    /** The same settings with the defaults of a new installation for missing values. */
     [[nodiscard]] ConnectionSettings withDefaults() const;
-    /** What the other workstations call this one: "workstation" in the file, or else the machine's name. */
+    /** The name of this workstation that others see: "workstation" in the file, or else the machine's host name. */
     [[nodiscard]] static QString workstation();
-    /** Hands the connection's values, not the switches, to the context. */
+    /** Copies the connection's values, but not the switches, to the context. */
     void putIntoContext() const;
 };

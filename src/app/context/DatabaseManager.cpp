@@ -12,20 +12,20 @@
 
 namespace
 {
-/** The workstation's time zone by a name that the server knows too; it would refuse the connection for another one. */
+/** The workstation's time zone under a name that the server accepts; for an unknown name it refuses the connection. */
 QString sessionTimeZone()
 {
-    // A file of the system's zones is a way to tell it as well.
+    // The system can give the zone as the path of a zoneinfo file.
     const QString id = QString::fromLatin1(QTimeZone::systemTimeZoneId()).section("zoneinfo/", -1);
     if (QTimeZone(id.toLatin1()).isValid())
         return id;
     const int offset = QDateTime::currentDateTime().offsetFromUtc();
-    // As POSIX writes it: what is east of Greenwich is behind it.
+    // POSIX has the opposite sign: zones east of Greenwich are negative.
     const QString hours = QTime(0, 0).addSecs(qAbs(offset)).toString("HH:mm");
     return offset < 0 ? QString("<-%1>%1").arg(hours) : QString("<+%1>-%1").arg(hours);
 }
 
-/** "Till 3, dewi", without the marks that mean something among the connection's options. */
+/** "Till 3, dewi", without characters that have a meaning in the connection options. */
 QString nameOf(const QString& userName)
 {
     static const QRegularExpression marks("[;'\\\\]");
@@ -62,10 +62,10 @@ bool DatabaseManager::open(const QString& host, const QString& databaseName, con
 
 QString DatabaseManager::connectOptions() const
 {
-    // The session takes the workstation's time zone: a time stamp bound as a date-time would otherwise be stored as
-    // the server's wall clock, and so on another day around midnight. As options, all of this holds after a reconnect
-    // too. What the server is told lets a workstation that has stopped, or died, go before the others have waited in
-    // vain for what it holds.
+    // The session uses the workstation's time zone. Otherwise a bound date-time would be stored in the server's local
+    // time, and around midnight on another day. As connection options, all settings also apply after a reconnect. The
+    // timeouts make the server end the session of a workstation that froze or died before others give up waiting for
+    // its locks.
     const QStringList settings{"TimeZone=" + sessionTimeZone(),
                                "lock_timeout=10s",
                                "idle_in_transaction_session_timeout=8s",
@@ -74,9 +74,9 @@ QString DatabaseManager::connectOptions() const
                                "tcp_keepalives_interval=2",
                                "tcp_keepalives_count=5",
                                "tcp_user_timeout=15s"};
-    // A line that is dead is given up after fifteen seconds instead of the kernel's quarter of an hour, also while
-    // nothing but an answer is awaited. A standby that has not been promoted can not be sold on: it is passed over
-    // where the host names several servers, and refused otherwise.
+    // A dead connection is given up after 15 seconds, even while waiting for an answer; the kernel would take a quarter
+    // of an hour. A standby server that is not promoted cannot store sales: it is skipped if the host names several
+    // servers, and otherwise refused.
     return "connect_timeout=5;tcp_user_timeout=15000;keepalives_idle=5;keepalives_interval=2;keepalives_count=5;"
            "target_session_attrs=read-write;application_name='" +
            m_sessionName + "';options=-c\\ " + settings.join("\\ -c\\ ");
@@ -99,7 +99,7 @@ void DatabaseManager::close()
         return;
     const QString name = m_database.connectionName();
     m_database.close();
-    // No copy may be alive when the connection is taken out.
+    // No copy of the connection may exist when it is removed.
     m_database = QSqlDatabase();
     QSqlDatabase::removeDatabase(name);
 }

@@ -3,7 +3,7 @@
 #include <QObject>
 #include <QSqlDatabase>
 
-/** The only class that opens or closes the program's connection; everyone else reaches it as the default one. */
+/** The only class that opens or closes the program's connection. All others use it as Qt's default connection. */
 class DatabaseManager : public QObject
 {
     Q_OBJECT
@@ -12,7 +12,7 @@ public:
     explicit DatabaseManager(QObject* parent = nullptr);
     ~DatabaseManager() override;
 
-    /** False leaves the driver's words in lastErrorText(). An unreachable host is given up after five seconds. */
+    /** On false, lastErrorText() has the driver's message. An unreachable host fails after five seconds. */
     bool open(const QString& host, const QString& databaseName, const QString& userName, const QString& password,
               int port);
     void close();
@@ -20,13 +20,16 @@ public:
     [[nodiscard]] QSqlDatabase database() const { return m_database; }
     void setDatabase(const QSqlDatabase& database) { m_database = database; }
     [[nodiscard]] QString lastErrorText() const;
-    /** Names this workstation and who works at it to the others, also after the connection was lost and opened anew. */
+    /**
+     * Shows the workstation and the user to other workstations, as the session's name. It also applies after a
+     * reconnect.
+     */
     void tellWho(const QString& userName);
 
 private:
     [[nodiscard]] QString connectOptions() const;
 
     QSqlDatabase m_database;
-    // As the others read it when they wait for what it holds.
+    // Shown to other workstations when they wait for a lock of this session.
     QString m_sessionName;
 };

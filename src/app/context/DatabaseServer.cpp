@@ -9,7 +9,7 @@
 
 namespace
 {
-/** The driver's own quoting takes a dot for the end of a schema's name. */
+/** The driver's own quoting would split the name at a dot, as schema and table. */
 QString quoted(QString name) { return '"' + name.replace('"', "\"\"") + '"'; }
 } // namespace
 

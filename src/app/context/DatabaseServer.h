@@ -6,8 +6,8 @@ class DatabaseManager;
 struct ConnectionSettings;
 
 /**
- * The databases of the server that a connection leads to. It is asked through the server's maintenance database, which
- * takes the place of the program's connection and is closed at the end: open that one anew afterwards.
+ * Lists, creates and renames databases on a server. It replaces the program's connection with one to the server's
+ * maintenance database and closes that in the destructor: open the program's connection again afterwards.
  */
 class DatabaseServer
 {
@@ -16,16 +16,16 @@ public:
     ~DatabaseServer();
     Q_DISABLE_COPY(DatabaseServer)
 
-    /** False where the server, or that database of its, lets nobody in. */
+    /** False if the server cannot be reached or refuses the connection to its maintenance database. */
     [[nodiscard]] bool isOpen() const { return m_open; }
-    /** True also where that could not be found out. */
+    /** True also if the check failed. */
     [[nodiscard]] bool has(const QString& database) const;
-    // False leaves the server's words in failure().
+    // On false, failure() has the server's message.
     bool create(const QString& database);
     bool rename(const QString& database, const QString& name);
     [[nodiscard]] const QString& failure() const { return m_failure; }
 
-    /** The statement of rename(). */
+    /** The SQL of rename(). */
     [[nodiscard]] static QString renaming(const QString& database, const QString& name);
 
 private:

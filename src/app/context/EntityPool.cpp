@@ -7,7 +7,7 @@ namespace
 {
 thread_local QPointer<QObject> innermost;
 
-// An object has no parent on another thread, so a worker's pool stands alone and lives as long as its EntityPool.
+// A parent must be on the same thread. So a worker's pool has no parent, and only its EntityPool deletes it.
 QObject* newPool()
 {
     return new QObject(KorDatabase::isApplicationThread() ? AppContext::instance()->mainEntityPool() : nullptr);

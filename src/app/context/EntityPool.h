@@ -4,8 +4,8 @@
 #include <QPointer>
 
 /**
- * The parent of records that live and die together: what one refresh of a list read, or what one search found.
- * Destroying the pool, or clearing it, frees them with everything nested in them.
+ * Owns records that are deleted together, for example all that one refresh of a list read, or one search found. The
+ * destructor and clear() delete them with their nested records.
  */
 class EntityPool
 {
@@ -15,18 +15,18 @@ public:
     Q_DISABLE_COPY(EntityPool)
 
     void clear();
-    /** Hands the records of the other pool over to this one, in exchange for its own. */
+    /** Exchanges the records of the two pools. */
     void swap(EntityPool& other) { std::swap(m_parent, other.m_parent); }
     [[nodiscard]] QObject* parent() const { return m_parent; }
 
 private:
-    // A child of the context's pool, so that clearing the memory of all records reaches these as well.
+    // A child of the context's pool, so that AppContext::resetEntityPool() also deletes these records.
     QPointer<QObject> m_parent;
 };
 
 /**
- * While it lives, records that mappers make go to this pool instead of the context's. Scopes may nest, and
- * hold on the thread that opened them: a pool and its scope are the way to own what a worker thread reads.
+ * While it exists, records that mappers create on this thread go to this pool instead of the context's. Scopes may
+ * nest. On a worker thread this is the way to own what it reads.
  */
 class EntityPoolScope
 {
@@ -35,7 +35,7 @@ public:
     ~EntityPoolScope();
     Q_DISABLE_COPY(EntityPoolScope)
 
-    /** The parent of the innermost scope of this thread, null outside of all. */
+    /** The parent of this thread's innermost scope; null if there is none. */
     [[nodiscard]] static QObject* current();
 
 private:

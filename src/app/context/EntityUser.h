@@ -3,8 +3,8 @@
 #include "app/context/EntityUserGroup.h"
 
 /**
- * A person who logs in. Password holds the plain text that a form delivers until it is written, and the stored
- * digest in a record that was read.
+ * A person who logs in. In a record from a form, Password is the plain text; in a record read from the database, the
+ * digest.
  */
 class EntityUser : public KorEntity
 {

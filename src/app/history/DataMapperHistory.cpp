@@ -12,7 +12,7 @@
 
 namespace
 {
-// The meta-type system's own value types have ids up to this; pointers at records and values lie above.
+// The ids of Qt's own value types are not above this; pointers to records and values are.
 constexpr int lastPlainType = 256;
 
 QObject* pointerOf(const QVariant& value)

@@ -5,8 +5,8 @@
 #include <QJsonObject>
 
 /**
- * The journal of saved states, in the table "entities_history", which has no stamps of its own. Nothing writes to it
- * yet: save() stands ready for whoever keeps a journal.
+ * Saved states of records, in the table "entities_history", which has no created and updated columns. Nothing calls
+ * save() yet.
  */
 class DataMapperHistory final : public KorDataMapper
 {
@@ -15,11 +15,11 @@ class DataMapperHistory final : public KorDataMapper
 public:
     explicit DataMapperHistory(QObject* parent);
 
-    /** Writes the record's present state; the numbering of the operations is the caller's. */
+    /** Saves the record's current state. The caller defines the operation ids. */
     bool save(KorEntity* entity, int userId, int operationId);
-    /** Every property as text, nested records and money as objects, missing ones as null. */
+    /** Every property as text; nested records and money as objects, null pointers as null. */
     [[nodiscard]] QJsonObject toJson(KorEntity* entity);
-    /** The flat form of a value: every property as text. */
+    /** Every property of the value as text. */
     [[nodiscard]] QJsonObject valueToJson(QObject* value);
 
     bool createTable(int mode) override;

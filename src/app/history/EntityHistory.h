@@ -2,7 +2,7 @@
 
 #include "app/context/EntityUser.h"
 
-/** One saved state of one record, as JSON text with its SHA-1; Version is the version that the record had. */
+/** A saved state of a record as JSON text with its SHA-1. Version is the record's version at that time. */
 class EntityHistory : public KorEntity
 {
     Q_OBJECT

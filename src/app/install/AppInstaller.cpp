@@ -27,7 +27,7 @@ constexpr auto defaultPassword = "Qx7!Rm2z";
 
 QString textOr(const QString& text, const QString& otherwise) { return text.isEmpty() ? otherwise : text; }
 
-/** A password that nobody knows: the administrator gives the user another one before the first login. */
+/** A random password that nobody knows: the administrator must set a new one before the user can log in. */
 QString randomPassword()
 {
     std::array<quint32, 6> words{};
@@ -42,7 +42,7 @@ AppInstaller::AppInstaller(QObject* parent)
       m_access(AppBusinessRegistry::instance()->userAccess()), m_users(AppBusinessRegistry::instance()->user()),
       m_groups(AppBusinessRegistry::instance()->userGroup())
 {
-    // Without any locale there is no currency, and no price can be written.
+    // Without a locale there is no currency, and prices could not be inserted.
     if (AppContext::instance()->locale().isEmpty())
         AppContext::instance()->setLocale(BusinessConfiguration::defaultLocale());
 }
@@ -96,7 +96,7 @@ void AppInstaller::insertInitialData()
     insertGroup(operators, "operator");
     insertGroup(cashiers, "kasir");
     insertUser("admin", "pos", textOr(m_adminUserName, "admin"), textOr(m_adminPassword, defaultPassword), admins);
-    // Whoever chose a password does not want one beside it that everybody knows.
+    // Someone who chose a password does not want a second user with a well-known one.
     const bool isOwn = !m_adminPassword.isEmpty() && m_adminPassword != defaultPassword;
     insertUser("operator", "dewi", "dewi", isOwn ? randomPassword() : defaultPassword, operators);
 
@@ -134,7 +134,7 @@ void AppInstaller::registerAll(const QList<KorBusinessLogic*>& services)
 {
     EntityPool pool;
     const EntityPoolScope scope(pool);
-    // What a screen left uncollected must not be taken for a failure of this run.
+    // Errors that a page left in the services must not count as failures of this run.
     KorErrorScope errors({m_permissions, m_groups});
     EntityUserGroup* admins = m_groups->findByGroupName(adminGroup);
     reportAny(errors.take());

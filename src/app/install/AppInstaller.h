@@ -23,24 +23,24 @@ public:
     void insertInitialData() override;
     void registerPermissions() override;
     [[nodiscard]] double installedVersion() const override;
-    /** An older program makes and updates nothing in the database of a newer one. */
+    /** Not empty if the database is of a newer version: an older program must not change it. */
     [[nodiscard]] QString objection() const override;
 
-    /** Whether the database is of an older version than the program; false where it has no version at all. */
+    /** True if the database has an older version than the program; false if it has no version. */
     [[nodiscard]] bool isUpdateNeeded();
 
-    // What a fresh installation asks the user for; what is left empty takes its default. With a password of the
-    // administrator's own the sample user's is a random one that nobody knows.
+    // What a new installation asks the user for; an empty value means the default. If the administrator gets an own
+    // password, the sample user gets a random one that nobody knows.
     void setAdminUserName(const QString& name) { m_adminUserName = name; }
     void setAdminPassword(const QString& password) { m_adminPassword = password; }
     void setDateFormat(const QString& dateFormat) { m_dateFormat = dateFormat; }
-    /** The program speaks it from now on, so that the first prices get its currency. */
+    /** Sets the program's locale at once, so that the first prices get its currency. */
     void setLocale(const QString& locale);
 
 protected:
     void addAll(const QList<KorDataMapper*>& mappers);
     void registerAll(const QList<KorBusinessLogic*>& services);
-    /** The version as the row "app_version" holds it. */
+    /** The version as the row "app_version" stores it. */
     [[nodiscard]] QString versionText() const;
 
     BusinessConfiguration* const m_configuration;
@@ -51,7 +51,7 @@ private:
                     EntityUserGroup& group);
     void registerFresh(KorBusinessLogic* service, EntityUserGroup* admins);
     void registerMissing(KorBusinessLogic* service, EntityUserGroup* admins);
-    /** Of a table that could not be made nobody gets a right; the next update brings both. */
+    /** No permissions are registered for a table that could not be created; the next update adds both. */
     [[nodiscard]] static bool hasTable(const KorBusinessLogic* service);
     bool insertBusiness(EntityBusiness* business);
     bool insertPermission(EntityBusiness* business, const KorPermission& permission);

@@ -4,5 +4,5 @@
 
 #include <memory>
 
-/** An amount of so many of the currency's smallest units. */
+/** Money from an amount in the currency's minor units. */
 [[nodiscard]] std::unique_ptr<Money> minorUnits(double amount, const QString& currency);

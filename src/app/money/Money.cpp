@@ -8,7 +8,7 @@ namespace
 {
 constexpr int factors[] = {1, 10, 100, 1000};
 
-/** The context's locale, looked up by its name only when that has changed: a list makes thousands of values. */
+/** The context's locale. It is cached, since lists create thousands of values. */
 QLocale contextLocale()
 {
     thread_local QString name;
@@ -20,7 +20,7 @@ QLocale contextLocale()
     return locale;
 }
 
-/** The 32 bits of an amount; what does not fit wraps, as sums of amounts do. */
+/** Converts an amount to 32 bits; larger values wrap, as sums do. */
 int toRaw(double amount)
 {
     if (!std::isfinite(amount))
@@ -54,7 +54,7 @@ int Money::factor() const { return factors[fractionDigits()]; }
 
 double Money::getAmount() const
 {
-    // Whole-number division on purpose: stored amounts never carry cents.
+    // Integer division on purpose: stored amounts have no cents.
     const int wholeUnits = m_amount / factor();
     return wholeUnits;
 }

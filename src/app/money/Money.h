@@ -5,8 +5,8 @@
 #include <QLocale>
 
 /**
- * A currency and an amount in the currency's smallest unit. "Rp", in any letter case, has no fraction digits; every
- * other currency counts as having two. Operations make new objects and leave the operands as they are.
+ * A currency and an amount in its minor units. "Rp" (any case) has no fraction digits, every other currency two.
+ * Operations return new objects and do not change the operands.
  */
 class Money : public KorEntityValue
 {
@@ -15,36 +15,39 @@ class Money : public KorEntityValue
     Q_PROPERTY(QString Currency READ getCurrency)
 
 public:
-    /** An empty currency becomes the symbol of the context's locale. The value is in whole units of the currency. */
+    /** The value is in whole units. An empty currency becomes the currency symbol of the context's locale. */
     Money(QObject* parent, double value, const QString& currency);
     Money(QObject* parent, int value, const QString& currency);
 
-    /** Whole units, with the fraction cut off: that is what goes to the database. */
+    /** In whole units, as stored in the database; the fraction is cut off. */
     [[nodiscard]] double getAmount() const;
-    /** Minor units. */
+    /** In minor units. */
     [[nodiscard]] int rawAmount() const { return m_amount; }
-    /** The fraction is cut off. */
+    /** In minor units; the fraction is cut off. */
     void setRawAmount(double amount);
     [[nodiscard]] QString getCurrency() const { return m_currency; }
     void setCurrency(const QString& currency);
     [[nodiscard]] int factor() const;
 
-    /** Raw amounts are added whatever the other currency is; the result's currency is the left operand's. */
+    /**
+     * Adds the raw amounts without regard to the other currency. The result has this currency and is a child of
+     * "other".
+     */
     [[nodiscard]] Money* add(Money* other) const;
     [[nodiscard]] Money* subtract(Money* other) const;
     [[nodiscard]] Money* multiply(double factor) const;
     [[nodiscard]] Money* divide(double divisor) const;
     [[nodiscard]] bool greaterThan(const Money* other) const { return m_amount > other->m_amount; }
     [[nodiscard]] bool greaterOrEqual(const Money* other) const { return m_amount >= other->m_amount; }
-    /** -1, 0 or 1, by raw amounts alone. */
+    /** -1, 0 or 1; compares only the raw amounts. */
     [[nodiscard]] int compare(const Money* other) const;
 
-    /** The amount as a number of the context's locale, without a currency sign. */
+    /** The amount formatted for the context's locale, without currency. */
     [[nodiscard]] QString toString() const;
     [[nodiscard]] QString toStringAbs() const;
-    /** The same with the sign in front of it, for a sentence. */
+    /** The same with the currency in front. */
     [[nodiscard]] QString toCurrencyString() const { return m_currency + toString(); }
-    /** From "currency number"; null for anything else. The caller owns the result. */
+    /** Parses "currency number"; null for any other text. The caller owns the result. */
     [[nodiscard]] static Money* fromString(const QString& text);
 
     [[nodiscard]] Money* copy(QObject* parent) const;
@@ -60,12 +63,12 @@ private:
 Q_DECLARE_METATYPE(Money*)
 
 /**
- * Puts a value into a record's field: a child of the record is taken as it is, anything else is copied, so that no
- * value ever has two owners. The former value dies. Null empties the field.
+ * Sets a money field of a record and deletes its old value. A child of the record is used itself, any other value is
+ * copied, so that no value has two owners. Null clears the field.
  */
 void assignMoney(QObject* owner, Money*& field, Money* value);
 
-/** A field of a record that holds money, owned by the record; null until it is set. */
+/** A money field of a record, which owns it; null until it is set. */
 #define MONEY_PROPERTY(Name)                                                                                           \
     Q_PROPERTY(Money* Name READ get##Name WRITE set##Name)                                                             \
 public:                                                                                                                \

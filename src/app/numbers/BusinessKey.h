@@ -16,7 +16,7 @@ public:
     BusinessKey(QObject* parent, DataMapperKey* mapper);
 
     [[nodiscard]] QList<KorPermission> getPermissions() const override;
-    /** Waits for the documents that are drawing from the row, and keeps others from drawing meanwhile. */
+    /** Waits until documents that drew a number are saved, and blocks further draws meanwhile. */
     bool update(KorEntity* key) override;
     [[nodiscard]] QList<KorEntity*> findAll(const QString& filter);
 

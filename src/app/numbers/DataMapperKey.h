@@ -13,8 +13,8 @@ public:
     explicit DataMapperKey(QObject* parent);
 
     /**
-     * Draws a number: the row with GeneratedNo set, which the caller may delete, or null. No lock is taken: when
-     * another workstation draws at the same time one of the two gets null and the reason in the error text.
+     * Draws a number: returns the row with GeneratedNo set, which the caller may delete, or null. It takes no lock: if
+     * another workstation draws at the same time, one of the two gets null and an error text.
      */
     [[nodiscard]] EntityKey* getKey(const QString& keyName);
     [[nodiscard]] QList<KorEntity*> findAll(const QString& filter);

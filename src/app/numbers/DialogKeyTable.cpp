@@ -7,7 +7,7 @@
 
 namespace
 {
-// A document's number has room for fifty characters, its date included.
+// A document number has at most fifty characters, including its date.
 constexpr int mostDigits = 20;
 } // namespace
 
@@ -35,7 +35,7 @@ bool DialogKeyTable::validate()
         int lowest;
         int highest;
     };
-    // Numbers that stand still, run backwards or overflow would meet those that were drawn already.
+    // A step of zero, a negative step or an overflow would give numbers that already exist.
     const Field fields[] = {
         {m_ui->txtNextId, tr("Enter Next Id"), tr("Enter valid number for Next Id"), 0, QuantityEdit::largest},
         {m_ui->txtIncrementBy, tr("Enter Increment Value"), tr("Enter valid number for Increment value"), 1,

@@ -7,13 +7,13 @@
 
 namespace
 {
-// What tells the locks of running numbers from other advisory locks: "KEY" in ASCII, the classid of pg_locks.
+// Distinguishes these locks from other advisory locks: "KEY" in ASCII, the classid in pg_locks.
 constexpr int numberLockClass = 0x4b4559;
 } // namespace
 
 QString numberLock(const QString& keyName)
 {
-    // Two names with one hash would only wait for each other; no document takes two of these locks.
+    // Two names with the same hash would only wait for each other: no document takes two of these locks.
     QString quoted = keyName;
     quoted.replace('\'', "''");
     return QString("select pg_advisory_xact_lock(%1, hashtext('%2'))").arg(QString::number(numberLockClass), quoted);

@@ -5,14 +5,14 @@
 class DataMapperKey;
 
 /**
- * The statement with which documents of one kind wait for each other, each until the one before it is saved or taken
- * back. It goes with the beginning of the document's transaction, behind the locks of other records.
+ * The SQL of the lock that makes documents of one kind wait for each other until the earlier one is committed or rolled
+ * back. Pass it to the document's transaction as the last lock.
  */
 [[nodiscard]] QString numberLock(const QString& keyName);
 
 /**
- * The next number of a document, drawn inside the document's transaction so that a rollback gives it back. A null
- * text means that none could be drawn; the document must not be saved then, and the error says why. Without
- * numberLock() before it, a draw fails when another workstation draws at the same time.
+ * Draws the next number of a document, inside its transaction, so that a rollback also returns the number. On failure
+ * the result is null and "error" has the reason: do not save the document. Without numberLock() it fails if another
+ * workstation draws at the same time.
  */
 [[nodiscard]] QString drawNumber(DataMapperKey* keys, const QString& keyName, QString* error);

@@ -2,7 +2,7 @@
 
 #include "kor/entity/KorEntity.h"
 
-/** A running number: the counter from which one kind of document draws, and the form of its numbers. */
+/** A running number: the counter of one kind of document, and the format of its numbers. */
 class EntityKey : public KorEntity
 {
     Q_OBJECT
@@ -11,12 +11,12 @@ class EntityKey : public KorEntity
     /** Not stored and not used. */
     KOR_PROPERTY(int, CurrentId, 1)
     KOR_PROPERTY(int, IncrementBy, 1)
-    /** A date pattern that stands before the counter. */
+    /** A date pattern for the text before the counter. */
     KOR_PROPERTY(QString, Format, QString(""))
-    /** Not stored: the number that a draw gave. */
+    /** Not stored: the number that was drawn. */
     KOR_PROPERTY(QString, GeneratedNo, QString(""))
     KOR_PROPERTY(QString, Description, QString(""))
-    /** How many digits the counter has at least. */
+    /** The least number of digits of the counter. */
     KOR_PROPERTY(int, NoZero, 4)
 
 public:

@@ -5,19 +5,19 @@
 #include "app/persistence/IdKeeper.h"
 #include "kor/persistence/KorDatabase.h"
 
-/** A mapper, on top of the base that it would have without, whose records take a running number at their insert. */
+/** Adds a running number to the mapper Base: its records get a number when they are inserted. */
 template <class Base>
 class NumberedMapper : public Base
 {
 public:
-    /** What the base is made of besides follows the keys. */
+    /** The further arguments go to the constructor of Base. */
     template <class... Parts>
     NumberedMapper(QObject* parent, DataMapperKey* keys, Parts... parts) : Base(parent, parts...), m_keys(keys)
     {}
 
     /** The name of the running number. */
     [[nodiscard]] virtual QString keyName() const = 0;
-    /** Null where no number could be drawn; the mapper's error then says why. */
+    /** Null if no number could be drawn; the mapper then has an error. */
     [[nodiscard]] QString nextNo()
     {
         QString error;
@@ -31,14 +31,14 @@ private:
     DataMapperKey* m_keys;
 };
 
-/** A numbered document with lines: the number is drawn in the document's transaction and goes back with it. */
+/** A numbered document with lines. The number is drawn in the document's transaction; a rollback also returns it. */
 template <class Document, class Base = AppLinedDocumentMapper<Document>>
 class NumberedDocumentMapper : public NumberedMapper<Base>
 {
 public:
     using NumberedMapper<Base>::NumberedMapper;
 
-    /** For documents that come from elsewhere: from now on they keep the numbers that they bring, and draw none. */
+    /** For imported documents: they keep their own numbers from now on. */
     void keepGivenNumbers() { m_keepsNumbers = true; }
 
 protected:
@@ -59,7 +59,7 @@ private:
     bool m_keepsNumbers = false;
 };
 
-/** A numbered record without lines, with its number in TransNo. */
+/** A numbered record without lines; the number is in TransNo. */
 template <class Entry>
 class NumberedEntryMapper : public NumberedMapper<AppDataMapper>
 {
@@ -67,14 +67,14 @@ public:
     using NumberedMapper<AppDataMapper>::NumberedMapper;
 
     /**
-     * Of a record whose former insert may stand, it looks for that one first: found, it takes what the record holds
-     * now, and nothing is entered twice.
+     * If an earlier insert of the record may have been committed (see uncertainId()), it looks for that row first. If
+     * it exists, it is updated, so that nothing is inserted twice.
      */
     bool insert(KorEntity* entity) override
     {
         auto* entry = static_cast<Entry*>(entity);
         const IdKeeper ids({entity});
-        // In one transaction, so that an entry that fails gives its number back.
+        // In one transaction, so that a failed insert returns its number.
         KorTransaction transaction({numberLock(keyName())});
         if (!transaction.isOpen() || transaction.isRefused()) {
             setError(transaction.failure());
@@ -83,7 +83,7 @@ public:
         const QString number = nextNo();
         if (number.isNull())
             return false;
-        // Behind the number, which a former insert holds until it has ended.
+        // After drawing the number, whose lock the earlier insert holds until it has ended.
         bool stands = false;
         if (entity->uncertainId() != KorNoValue && !findFormer(*entry, &stands))
             return false;

@@ -13,7 +13,7 @@ TabKeyTable::TabKeyTable(QWidget* parent) : AppFamilyTab({tr("Running Numbers"),
 
 void TabKeyTable::modelApplied()
 {
-    // Wider only where the workstation's font would cut the header off.
+    // Wider only if the workstation's font would cut off the header.
     for (int column : {2, 3})
         grid()->setColumnWidth(column, std::max(130, grid()->horizontalHeader()->sectionSizeHint(column)));
 }

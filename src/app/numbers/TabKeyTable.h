@@ -5,7 +5,7 @@
 #include "app/numbers/TableModelKeyTable.h"
 #include "app/widgets/AppListTab.h"
 
-/** The list of the running numbers; the installation makes them, and they are only edited here. */
+/** The list of the running numbers. The installation creates them; here they can only be edited. */
 class TabKeyTable final : public AppFamilyTab<BusinessKey, TableModelKeyTable, DialogKeyTable>
 {
     Q_OBJECT

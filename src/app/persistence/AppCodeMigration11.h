@@ -2,7 +2,7 @@
 
 #include "kor/persistence/KorMigration.h"
 
-/** Version 1.1 widened the code columns of the master tables; some tables got a constraint with it. */
+/** Version 1.1 widened the code columns of the master tables and added constraints to some. */
 class AppCodeMigration11 : public KorStatementMigration11
 {
     Q_OBJECT

@@ -67,7 +67,7 @@ KorEntity* AppDataMapper::fillFromRow(KorQuery& query, KorEntity* entity)
         field.property.write(entity, QVariant::fromValue(money));
     }
 
-    // A joined mapper reads its own row only: its joins are not part of somebody else's SELECT.
+    // A joined mapper reads only its own columns: its joins are not part of the other mapper's SELECT.
     if (query.selector() && query.selector() != this)
         return entity;
     QVector<QObject*> partners;
@@ -104,7 +104,7 @@ void AppDataMapper::prepareWalk(const KorEntity* entity)
             m_money.append({property, positions.value(name + ".Currency"), i});
     }
 
-    // A join whose local column stands on an earlier join ("item.jenis") fills that partner's property.
+    // A join whose local column belongs to an earlier join ("item.jenis") fills a property of that join's record.
     QList<const QMetaObject*> partnerTypes;
     for (const KorJoinMapper* join : joins()) {
         int owner = -1;
@@ -117,7 +117,7 @@ void AppDataMapper::prepareWalk(const KorEntity* entity)
         }
         const QMetaObject* ownerType = owner < 0 ? entity->metaObject() : partnerTypes.at(owner);
         const QMetaProperty property = propertyOf(ownerType, join->propertyName());
-        // Labels of joins that only feed the WHERE clause name no record property.
+        // A join that only serves the WHERE clause has a label that is no property of the record.
         if (!property.isValid() || !(QMetaType::typeFlags(property.userType()) & QMetaType::PointerToQObject))
             continue;
         m_nested.append({property, join->mapper(), join->targetName(), owner});

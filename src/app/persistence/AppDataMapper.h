@@ -7,8 +7,8 @@
 class Money;
 
 /**
- * Base of the program's mappers. It stamps rows with the logged-in user, and it reads money and nested records back
- * by a walk over the declarations, so that a family overrides the reading only where it is special.
+ * Base of the program's mappers. It sets who created and updated a row, and it reads money and nested records by the
+ * declared columns and joins. Subclasses override the reading only for special cases.
  */
 class AppDataMapper : public KorDataMapper
 {
@@ -25,25 +25,25 @@ public:
     using KorDataMapper::fillFromRow;
     KorEntity* fillFromRow(KorQuery& query, KorEntity* entity) override;
 
-    /** The parent of every record that a mapper makes; null on a worker thread outside of any EntityPoolScope. */
+    /** The parent of new records; null on a worker thread without an EntityPoolScope. */
     [[nodiscard]] static QObject* entityParent();
-    /** Null when either of the two columns is NULL. */
+    /** Null if either column is NULL. */
     static Money* moneyFromRow(KorQuery& query, const QString& currencyColumn, const QString& amountColumn,
                                QObject* parent);
     static void log(const QString& message);
 
 protected:
-    // Declarations of the recurring shapes.
+    // Declarations of common columns.
     void column(const QString& name, const QString& sqlType, const QString& property);
-    /** The two columns NAME_currency and NAME_amount of a money property; the null words stand as written. */
+    /** The columns NAME_currency and NAME_amount of a money property. "nullness" is SQL, used unchanged. */
     void moneyColumns(const QString& name, const QString& property, const QString& nullness = "not null");
-    /** A column that holds a partner's id, with the join that reads the partner and the foreign key it gives. */
+    /** A column with another record's id, the join that reads that record, and the foreign key. */
     void reference(const QString& name, const QString& sqlType, const QString& property, KorDataMapper* partner,
                    const QString& joinType);
-    /** Adds the named foreign key unless the table has it; for keys that no join gives, from createTable(). */
+    /** Adds the foreign key if the table does not have it; for keys that no join gives. Call it from createTable(). */
     bool ensureForeignKey(const QString& constraintName, const QString& column, const QString& referencedTable,
                           const QString& referencedColumn, const QString& onDelete = QString());
-    /** Sets the words with the reason behind them as the error; false, as a save returns it. */
+    /** Sets the error to words and reason; always returns false, for use in a return statement. */
     bool fail(const QString& words, const QString& reason = QString());
     /** "CREATE INDEX IF NOT EXISTS TABLE_SUFFIX_idx ON TABLE CLAUSE", for indexStatements(). */
     [[nodiscard]] QString index(const QString& suffix, const QString& clause) const;
@@ -60,7 +60,7 @@ private:
         QMetaProperty property;
         KorDataMapper* mapper;
         QString target;
-        /** The join on whose partner this one builds, -1 for the row's own record. */
+        /** The index of the join whose record this one belongs to; -1 for the main record. */
         int owner;
     };
 

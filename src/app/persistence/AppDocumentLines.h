@@ -3,7 +3,7 @@
 #include "app/persistence/AppDocumentMapper.h"
 #include "kor/entity/KorEntity.h"
 
-/** The lines that a record holds in memory, and those taken off it, which its next update removes. All are borrowed. */
+/** The lines of a record in memory, and the removed lines, which its next update deletes. All are borrowed. */
 template <class Line>
 class AppDocumentLines
 {
@@ -24,7 +24,7 @@ private:
     QList<Line*> m_removedDetails;
 };
 
-/** The same records by their base type, as mappers take them. */
+/** The same records by their base class, as mappers need them. */
 template <class Line>
 [[nodiscard]] QList<KorEntity*> asEntities(const QList<Line*>& lines)
 {
@@ -35,14 +35,14 @@ template <class Line>
     return entities;
 }
 
-/** Mapper of a record that keeps its lines as AppDocumentLines does. */
+/** Mapper of a record that has AppDocumentLines. */
 template <class Document>
 class AppLinedDocumentMapper : public AppDocumentMapper
 {
 public:
     using AppDocumentMapper::AppDocumentMapper;
 
-    /** Without lines: a save of it leaves the lines alone. */
+    /** Without lines. Saving the result does not change the lines. */
     [[nodiscard]] Document* findHeader(int id) { return static_cast<Document*>(AppDataMapper::findById(id)); }
 
 protected:

@@ -102,7 +102,7 @@ bool AppDocumentMapper::update(KorEntity* document)
     }
     insertLinesWith(batch, newLines, document->getId());
     for (KorEntity* line : removedLinesOf(document)) {
-        // A line that was never saved has nothing to remove.
+        // A line that was never saved has no row.
         if (line->isSaved())
             mapperOf(line)->removeWith(batch, line);
     }
@@ -114,7 +114,7 @@ bool AppDocumentMapper::update(KorEntity* document)
 
 bool AppDocumentMapper::removeWithLines(KorEntity* document, const QList<KorEntity*>& lines)
 {
-    // The document first, as a save of it does: the other way round the two would wait for each other.
+    // Lock the document first, as a save does; otherwise the two could deadlock.
     AppDocumentSave save({}, {removalLockOf(document->getId())});
     if (!save.transaction().isOpen())
         setError(notOpened());

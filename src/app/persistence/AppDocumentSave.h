@@ -3,17 +3,17 @@
 #include "app/persistence/IdKeeper.h"
 #include "kor/persistence/KorDatabase.h"
 
-/** One save of a document: what is written stands all together, or the records have the ids that they had before. */
+/** The transaction of one document's save. On a rollback the records get their former ids back. */
 class AppDocumentSave
 {
 public:
-    /** The locks as KorTransaction takes them. */
+    /** For the locks see KorTransaction. */
     explicit AppDocumentSave(const QList<KorEntity*>& written, const QStringList& locks = {})
         : m_ids(written), m_transaction(locks)
     {}
 
     [[nodiscard]] const KorTransaction& transaction() const { return m_transaction; }
-    /** False where it was not done, or the commit failed, whose words the reason then is. */
+    /** Commits if done is true, or else rolls back. False if it rolled back; a failed commit sets the reason. */
     bool end(bool done, QString* reason)
     {
         if (done && m_transaction.commit())

@@ -2,7 +2,7 @@
 
 #include "app/persistence/AppDataMapper.h"
 
-/** Mapper of the lines of a document: the column with the document's id, and what goes by it. */
+/** Mapper of the lines of a document, with a column for the document's id. */
 class AppLineMapper : public AppDataMapper
 {
     Q_OBJECT
@@ -10,17 +10,17 @@ class AppLineMapper : public AppDataMapper
 public:
     using AppDataMapper::AppDataMapper;
 
-    // In the order of entry.
+    // Sorted by id, which is the order of entry.
     [[nodiscard]] QList<KorEntity*> findByDocument(int documentId);
-    /** Of several documents in one statement. */
+    /** The lines of several documents, read with one statement. */
     [[nodiscard]] QList<KorEntity*> findByDocuments(const QList<int>& documentIds);
-    /** Removes all lines of the document, also those that no read gives because a partner of theirs is gone. */
+    /** Deletes all lines of the document, also those that the find operations skip because a joined row is missing. */
     bool removeByDocument(int documentId);
-    /** Tells the line whose it is. */
+    /** Sets the document's id in the line. */
     void attach(KorEntity* line, int documentId) const;
 
 protected:
-    /** The document's id, held as a number; the join labels the document and gives the foreign key. */
+    /** Declares the column with the document's id, and the join for the foreign key. */
     void documentColumn(const QString& name, const QString& property, KorDataMapper* document);
     [[nodiscard]] const QString& documentColumn() const { return m_documentColumn; }
 

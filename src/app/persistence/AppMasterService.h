@@ -3,7 +3,7 @@
 #include "app/persistence/AppMasterMapper.h"
 #include "kor/business/KorBusinessLogic.h"
 
-/** Service of a master record with a code and a name. Failures stand under "findByCode" and "findall". */
+/** Service of a master record with a code and a name. Errors are kept under "findByCode" and "findall". */
 template <class Entity>
 class AppMasterService : public KorBusinessLogic
 {

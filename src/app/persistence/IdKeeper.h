@@ -5,7 +5,7 @@
 #include <QList>
 #include <QPair>
 
-/** Ids of records as they were before a save; put back when the rows that gave new ones have been rolled back. */
+/** Remembers the ids of records before a save, to restore them if the save is rolled back. */
 class IdKeeper
 {
 public:

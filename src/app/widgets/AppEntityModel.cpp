@@ -17,7 +17,7 @@ QString AppEntityModel::moneyText(const Money* money) const
 
 QString AppEntityModel::elapsedText(const QDateTime& dateTime)
 {
-    // The clock of the workstation that wrote it may be ahead of this one.
+    // The clock of the workstation that wrote the time may be ahead of this one.
     const QDateTime now = QDateTime::currentDateTime();
     return timeAgo(std::min(dateTime, now), now, TimeAgoWords::onScreen());
 }

@@ -6,7 +6,7 @@
 #include <QDateTime>
 #include <QLocale>
 
-/** A grid's rows with money and dates in the configured formats, as they were when the model was made. */
+/** A grid model with money and dates in the formats that were configured when the model was created. */
 class AppEntityModel : public KorEntityModel
 {
     Q_OBJECT
@@ -21,11 +21,11 @@ public:
     [[nodiscard]] QString moneyText(const Money* money) const;
     [[nodiscard]] QString dateTimeText(const QDateTime& dateTime) const { return dateTime.toString(m_dateFormat); }
     [[nodiscard]] QString dateText(const QDate& date) const { return date.toString(m_dateFormat); }
-    /** The age of the moment in words, for the kitchen. */
+    /** How long ago the time was, in words. */
     [[nodiscard]] static QString elapsedText(const QDateTime& dateTime);
 
 protected:
-    /** A right-aligned money column; the reader gives the record's value or null. */
+    /** A right-aligned money column. "read" returns the record's value or null. */
     template <class Entity, class Read>
     void addMoney(const QString& header, Read read)
     {
@@ -33,14 +33,14 @@ protected:
             moneyType(), header, [this, read](const Entity& entity) { return moneyText(read(entity)); }, RightAligned);
     }
 
-    /** A column of days; the reader gives the record's date. */
+    /** A date column. "read" returns the record's date. */
     template <class Entity, class Read>
     void addDate(const QString& header, Read read)
     {
         addField<Entity>(QMetaType::QDateTime, header,
                          [this, read](const Entity& entity) { return dateText(read(entity)); });
     }
-    /** A right-aligned column of percents, sorted by their numbers as money is. */
+    /** A right-aligned percent column, sorted by number like money. */
     template <class Entity, class Read>
     void addPercent(const QString& header, Read read)
     {

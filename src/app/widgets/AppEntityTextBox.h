@@ -3,7 +3,7 @@
 #include "app/widgets/AppLookupBox.h"
 
 /**
- * A lookup box that knows its records' type and its service. A family's box names the headers and says how to find:
+ * A lookup box with the type of its records and its service. A subclass gives the headers and the search:
  *
  *     class SupplierTextBox final : public AppEntityTextBox<EntitySupplier, BusinessSupplier>
  *     {
@@ -23,7 +23,7 @@ public:
         : AppLookupBox(editor, service, headers), m_service(service)
     {}
 
-    /** The chosen record; null without a choice, and when the last search found nothing. */
+    /** The chosen record; null if none is chosen or the last search found nothing. */
     [[nodiscard]] Entity* selectedItem() const { return static_cast<Entity*>(selectedRecord()); }
 
     [[nodiscard]] Service* service() const { return m_service; }
@@ -32,7 +32,7 @@ private:
     Service* m_service;
 };
 
-/** The box of a family whose service offers findAll(text). */
+/** The box for a service that has findAll(text). */
 template <class Entity, class Service>
 class AppMasterTextBox : public AppEntityTextBox<Entity, Service>
 {

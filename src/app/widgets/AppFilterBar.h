@@ -10,18 +10,18 @@ class QDateEdit;
 class QGridLayout;
 class QLineEdit;
 
-/** The filters above a list of documents: boxes with their labels in rows, each box as wide as the others. */
+/** The filters above a list of documents: labelled fields in rows, all of the same width. */
 class AppFilterBar final : public QWidget
 {
     Q_OBJECT
 
 public:
-    /** A choice's rows: what is shown, and what it stands for. */
+    /** The entries of a choice: the shown text and the value. */
     using Rows = QList<QPair<QString, QVariant>>;
 
     explicit AppFilterBar(int boxesPerRow, QWidget* parent = nullptr);
 
-    // Each box is the bar's; its name is how the page's form knows it.
+    // The bar owns the fields. The name is the object name, by which the page finds the field.
     QDateEdit* addDate(const QString& name, const QString& label, const QDate& date = QDate::currentDate());
     QComboBox* addChoice(const QString& name, const QString& label, const Rows& rows);
     QLineEdit* addText(const QString& name, const QString& label);

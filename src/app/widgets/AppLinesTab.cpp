@@ -25,7 +25,7 @@ void AppLinesTab::setParts(const Parts& parts)
 {
     m_parts = parts;
     grid()->horizontalHeader()->setHighlightSections(false);
-    // A name that is too long is cut where the column ends, not at its last blank or dash.
+    // Cut a long name at the column's edge, not at its last blank or dash.
     grid()->setWordWrap(false);
 }
 
@@ -56,7 +56,7 @@ void AppLinesTab::refresh()
     applyModel(grid(), m_model);
     setColumnWidths(grid(), columnWidths());
     restoreColumns(grid());
-    // No clear(): the lines are the document's, the model only showed them.
+    // No clear(): it would delete the lines, which belong to the document.
     delete former;
     grid()->selectRow(std::min(std::max(row, 0), m_lines.size() - 1));
     m_parts.count->setText(tr("%1 Items").arg(m_lines.size()));
@@ -83,7 +83,7 @@ bool AppLinesTab::runDialog(KorEntity* line)
 
 void AppLinesTab::addLines()
 {
-    // Line after line, until all is keyed in.
+    // Opens a new form after each line until the user cancels.
     for (;;) {
         KorEntity* line = createLine();
         line->setParent(this);

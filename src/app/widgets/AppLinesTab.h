@@ -18,8 +18,8 @@ class LinesPage;
 }
 
 /**
- * The page of lines in the form of a document: adding line after line, changing and taking lines off. A thing stands
- * in one line only. Lines that are handed in stay the caller's; lines that are added here live as long as the page.
+ * The page of lines in a document's form: adds, edits and removes lines. Each item can be in one line only. Lines from
+ * setLines() are borrowed; lines added here are children of the page.
  */
 class AppLinesTab : public AppTab
 {
@@ -37,9 +37,9 @@ public:
     void focusLines();
 
 signals:
-    /** The lines are others than before. */
+    /** The list of lines or a line has changed. */
     void ItemAdded();
-    /** The round of adding lines, one after the other, is over. */
+    /** The user has cancelled the form for a further line. */
     void AddingEnded();
 
 public slots:
@@ -48,45 +48,45 @@ public slots:
     void on_btnDelete_clicked();
 
 protected:
-    /** What every page of lines has, whoever made its form. */
+    /** The widgets that every page has. */
     struct Parts
     {
         QTableView* grid = nullptr;
         QLabel* count = nullptr;
     };
     enum OwnForm { HasOwnForm };
-    /** For a page with a form of its own, which hands its parts in before anything else. */
+    /** For a page with its own form; call setParts() before anything else. */
     AppLinesTab(OwnForm, QWidget* parent);
     void setParts(const Parts& parts);
 
-    // What a family tells.
-    /** An unsaved line; the page takes it. */
+    // Defined by subclasses.
+    /** A new unsaved line; the page takes ownership. */
     virtual KorEntity* createLine() = 0;
     virtual KorEntityModel* createModel(const Lines& lines) = 0;
-    /** The form of this line, which only writes to it when it is confirmed. What it reads goes to the pool. */
+    /** The form for this line, which writes to it only when confirmed. Records that the form reads go to the pool. */
     virtual std::unique_ptr<KorDialog> createDialog(EntityPool& read, const KorEntity& line) = 0;
     /** Called when a form is closed, confirmed or not. */
     virtual void dialogClosed(const KorDialog&) {}
-    /** What may stand in one line only: the id of the item. */
+    /** What may be in one line only: the id of the item. */
     [[nodiscard]] virtual int subjectOf(const KorEntity& line) const = 0;
     [[nodiscard]] virtual QString nameOf(const KorEntity& line) const = 0;
-    /** With the name of the thing as %1. */
+    /** The question before a line is replaced; %1 is the name of the item. */
     [[nodiscard]] virtual QString updateQuestion() const = 0;
-    /** Puts what was entered into the line that stands already. */
+    /** Copies the entered values to the existing line. */
     virtual void takeOver(KorEntity* present, const KorEntity& entered) = 0;
     [[nodiscard]] virtual QList<int> columnWidths() const { return {}; }
 
-    /** Opens form after form for new lines, until one is cancelled. */
+    /** Opens a form for each new line until one is cancelled. */
     void addLines();
-    /** Other lines in place of those shown; what leaves counts as taken off. */
+    /** Replaces the lines shown; those missing from the new list count as removed. */
     void replaceLines(const Lines& lines);
     /** Shows the lines. A concrete page calls it once at the end of its constructor. */
     void refresh();
-    /** The lines or what they hold have changed. */
+    /** Call it after the lines or their values have changed. */
     void linesChanged();
-    /** A further button behind those that every page has; the caller connects it. */
+    /** Adds a button after the standard ones; the caller connects it. */
     QPushButton* addButton(const QString& name, const QString& text, const QString& icon);
-    /** For lines that come from another document: they are changed and taken off, and that is all. */
+    /** Hides "Add": lines that come from another document can only be edited and removed. */
     void takeAddAway();
     [[nodiscard]] QTableView* grid() const { return m_parts.grid; }
     [[nodiscard]] EntityPool& pool() { return m_read; }
@@ -99,7 +99,7 @@ private:
     std::unique_ptr<Ui::LinesPage> m_ui;
     Parts m_parts{};
     KorEntityModel* m_model = nullptr;
-    // What lines that were added here show.
+    // The records that the lines added here point to.
     EntityPool m_read;
     Lines m_lines;
     Lines m_removed;

@@ -33,7 +33,7 @@ AppListTab::AppListTab(const Page& page, int filtersPerRow, QWidget* parent) : A
     m_ui->lblFilter->hide();
     m_ui->txtFilter->hide();
     m_ui->txtFilter->setEnabled(false);
-    // A page may give the name to a filter of its own.
+    // So that a page can use this object name for its own filter.
     m_ui->txtFilter->setObjectName(QString());
     m_ui->filterLayout->insertWidget(0, m_filters, 1);
     m_ui->filterLayout->setAlignment(m_ui->btnSearch, Qt::AlignTop);
@@ -90,7 +90,7 @@ void AppListTab::tellUnread()
         showServiceError();
         return;
     }
-    // The advice to try again would be taken for the save.
+    // The advice to try again would seem to be about the save.
     KorToldFailure failure = KorToldFailure::in(m_business->takeErrors());
     failure.advice.clear();
     KorErrorBox::critical(this, tr("Error"),
@@ -167,7 +167,7 @@ bool AppListTab::editEntity(KorEntity* entity)
 
 bool AppListTab::runDialog(KorDialog& dialog, bool isNew)
 {
-    // Saved before it closes: a refused save leaves the form as it was typed.
+    // Save before the form closes: if it fails, the user's entries stay.
     KorEntity* entity = nullptr;
     dialog.setSaver([this, &dialog, &entity, isNew] {
         entity = dialog.getEntity();
@@ -193,7 +193,7 @@ void AppListTab::showServiceError(bool critical)
 
 void AppListTab::tellNotFound(const QString& text)
 {
-    // A row that could not be read has not gone.
+    // A failed read does not mean that the row was deleted.
     if (!KorErrorBox::tell(this, m_business->takeErrors()))
         QMessageBox::information(this, tr("Error"), text);
 }

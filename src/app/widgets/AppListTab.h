@@ -19,15 +19,15 @@ class ListPage;
 }
 
 /**
- * The list page that all families share: filter, grid, count, and the buttons that add, edit and delete. A family
- * tells what it reads and shows, which dialog edits a record and how it asks before deleting.
+ * Base of all list pages: filter, grid, count, and the buttons to add, edit and delete. A subclass defines which rows
+ * it reads and shows, which dialog edits a record, and the question before deleting.
  */
 class AppListTab : public AppTab
 {
     Q_OBJECT
 
 public:
-    /** What a page is called, and what its form calls the grid and the service behind it. */
+    /** The title of the page, the object name of its grid and the name of its service. */
     struct Page
     {
         QString title;
@@ -36,7 +36,7 @@ public:
     };
 
     AppListTab(const Page& page, QWidget* parent);
-    /** For a list of documents: several filters in the place of one text. The page makes and reads them itself. */
+    /** For a list of documents: a filter bar instead of the filter text. The page adds and reads the filters. */
     AppListTab(const Page& page, int filtersPerRow, QWidget* parent);
     ~AppListTab() override;
 
@@ -49,51 +49,50 @@ public slots:
     void on_btnSearch_clicked();
 
 protected:
-    // What a family tells.
-    /** Reads the rows for the filter, which arrives in lower case; a failure is left in the service. */
+    // Defined by subclasses.
+    /** Reads the rows for the filter, which is in lower case. Errors stay in the service. */
     virtual QList<KorEntity*> readRows(const QString& filter) = 0;
     virtual KorEntityModel* createModel(const QList<KorEntity*>& rows) = 0;
     virtual std::unique_ptr<KorDialog> createDialog() = 0;
     [[nodiscard]] virtual QString deleteQuestion(const KorEntity* entity) const = 0;
 
-    // What most families leave as it is.
+    // Most subclasses keep these.
     [[nodiscard]] virtual int addKey() const { return 0; }
     [[nodiscard]] virtual int editKey() const { return 1; }
     [[nodiscard]] virtual int deleteKey() const { return 2; }
     [[nodiscard]] virtual QString notFoundText(int id) const;
-    /** What stands below the grid. */
+    /** The text below the grid. */
     [[nodiscard]] virtual QString countText(int rows) const;
-    /** The same where a record was to be deleted. */
+    /** The same for a record that was to be deleted. */
     [[nodiscard]] virtual QString deleteNotFoundText(int id) const;
-    /** True where the right behind the key is asked once for the page, before any record is looked at. */
+    /** True if the right is checked once for the page, before a record is read, and not per record. */
     [[nodiscard]] virtual bool asksOnce(int) const { return false; }
     virtual KorEntity* readEntity(int id);
-    /** Lets the user change a record that was read for it; true when it was saved. False ends the walk over the rows.
-     */
+    /** Lets the user edit the record; true if it was saved. False also skips the remaining selected rows. */
     virtual bool editEntity(KorEntity* entity);
     virtual bool insertEntity(KorEntity* entity);
     virtual bool updateEntity(KorEntity* entity);
     virtual bool removeEntity(KorEntity* entity);
-    /** The last word before a delete that the user has confirmed; it tells the user why not. */
+    /** Called after the user has confirmed a delete. If it returns false, it has shown the reason. */
     virtual bool mayDelete(KorEntity*) { return true; }
-    /** Called when a form has been saved and is closed, before the list is read again: printing and the like. */
+    /** Called after a form has saved and closed, before the list is read again; for example to print. */
     virtual void entitySaved(KorEntity*) {}
-    /** Called when a walk over selected rows has ended, whatever came of it. */
+    /** Called after the selected rows were edited, even if nothing was saved. */
     virtual void edited() {}
-    /** Called after the grid got a new model: column widths and the like. */
+    /** Called after the grid got a new model, for example to set column widths. */
     virtual void modelApplied() {}
 
     /** Reads and shows the list. A concrete page calls it once at the end of its constructor. */
     void refresh();
-    /** Runs the form for a new record or a record handed in; true when it was saved. */
+    /** Runs the form for a new or an existing record; true if it was saved. */
     bool runDialog(KorDialog& dialog, bool isNew);
     void showServiceError(bool critical = true);
     void tellNotFound(const QString& text);
-    /** Totals and the like, between the list and the buttons. */
+    /** Adds a widget between the list and the buttons, for example totals. */
     void addFoot(QWidget* foot);
-    /** A further button in the row below the list, after those that every list has; the caller connects it. */
+    /** Adds a button below the list after the standard ones; the caller connects it. */
     QPushButton* addButton(const QString& name, const QString& text, const QString& icon);
-    /** For records that the program makes itself: the page edits them, and that is all. */
+    /** For records that the program creates itself: they can only be edited. */
     void takeAddAndDeleteAway();
 
     [[nodiscard]] KorBusinessLogic* business() const { return m_business; }
@@ -102,11 +101,11 @@ protected:
     {
         return static_cast<Service*>(m_business);
     }
-    /** Null on a page with one text. */
+    /** Null on a page with a filter text. */
     [[nodiscard]] AppFilterBar* filters() const { return m_filters; }
     [[nodiscard]] QTableView* grid() const;
     [[nodiscard]] KorEntityModel* model() const { return m_model; }
-    /** Where a page puts further filters, between the filter box and the search button. */
+    /** For further filters between the filter text and the search button. */
     [[nodiscard]] QHBoxLayout* filterLayout() const;
     [[nodiscard]] QLabel* filterLabel() const;
     [[nodiscard]] QPushButton* button(const char* name) const;
@@ -122,13 +121,13 @@ private:
     AppFilterBar* m_filters = nullptr;
     KorEntityModel* m_model = nullptr;
     bool m_justSaved = false;
-    // The records of the rows shown; the next refresh frees them with all that was read with them.
+    // The records of the rows shown; the next refresh deletes them.
     EntityPool m_rows;
 };
 
 /**
- * A list page made of a family's classes: the service with findAll(filter), the table model of a list and a parent,
- * and the entry dialog.
+ * A list page made from a service with findAll(filter), a table model, whose constructor takes the rows and a parent,
+ * and an entry dialog.
  */
 template <class Service, class Model, class Dialog>
 class AppFamilyTab : public AppListTab

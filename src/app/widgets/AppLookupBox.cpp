@@ -11,7 +11,7 @@
 
 namespace
 {
-/** How far a record is from what was typed; 0 is the record itself. */
+/** How well a record matches the typed text; 0 is an equal code. */
 int distanceTo(const QString& typed, const QString& code, const QString& name)
 {
     const QString text = typed.trimmed();
@@ -56,7 +56,7 @@ void AppLookupBox::findSorted(const QString& text)
     const EntityPoolScope scope(m_found);
     const KorErrorScope errors(business());
     m_items = find(text);
-    // The list says "No result".
+    // An empty list shows "No result".
     if (errors.failed())
         m_items.clear();
 
@@ -132,7 +132,7 @@ void AppLookupBox::rowChosen(int row)
 
 void AppLookupBox::keep(QObject* record)
 {
-    // Partners that the record points at were read with it, and stay with it.
+    // Nested records that were read with this one stay with it.
     if (!record || record->parent() != m_found.parent())
         return;
     record->setParent(m_kept.parent());

@@ -5,11 +5,14 @@
 #include "kor/widgets/KorTextBoxExtender.h"
 
 /**
- * A lookup box for records. It keeps what the last search found; a chosen record lives as long as the box, because
- * forms hold on to it while the user searches on, and everything else that was found goes with the next search.
- * Whatever order the service reads in, the rows stand by how well they match: the code itself, a code that begins with
- * the text, a name, a word of a name, the rest; then by code. So the first row is what fast and slow hands mean alike.
- * Families derive from the templates in AppEntityTextBox.h, which know the record's type.
+ * A lookup box for records. A chosen record lives as long as the box, because forms still use it during the next
+ * search; all other found records are deleted by that search.
+ *
+ * The best match is the first row, whatever order the service returns: equal code, code that starts with the text, name
+ * that starts with it, a word in the name that starts with it, others; equal matches are sorted by code. So Enter gives
+ * fast typists the same record that others pick from the list.
+ *
+ * Subclasses derive from the templates in AppEntityTextBox.h, which have the record's type.
  */
 class AppLookupBox : public KorTextBoxExtender
 {
@@ -23,15 +26,15 @@ public:
     [[nodiscard]] QString selectedText(int row) const override;
 
     [[nodiscard]] const QList<KorEntity*>& items() const { return m_items; }
-    /** The code of the chosen record, empty without a choice. */
+    /** The code of the chosen record; empty if none is chosen. */
     [[nodiscard]] QString selectedCode() const;
     [[nodiscard]] virtual QString codeOf(const KorEntity& record) const;
     [[nodiscard]] virtual QString nameOf(const KorEntity& record) const;
 
 protected:
-    /** Asks the service; what it cannot find, or fails to, is an empty list. */
+    /** Searches with the service; an empty list if nothing is found or it fails. */
     virtual QList<KorEntity*> find(const QString& text) = 0;
-    /** What a third column shows. */
+    /** The text of the third column. */
     [[nodiscard]] virtual QString thirdOf(const KorEntity& record) const;
 
     [[nodiscard]] KorEntity* selectedRecord() const { return m_items.isEmpty() ? nullptr : m_selected.data(); }

@@ -10,7 +10,7 @@ QString AppNumberEdit::editableText() const { return m_locale.toString(storedVal
 QString AppNumberEdit::fault()
 {
     const QString fault = KorNumberEdit::fault();
-    // In a record this number stands for none, and would be stored as none.
+    // In a record this number means "no value" and would be stored as NULL.
     const bool isNoValue = holdsNumber() && storedValue() < 0 && qRound(storedValue()) == KorNoValue;
     return fault.isEmpty() && isNoValue ? tr("%1 cannot be stored, please enter another number").arg(displayText())
                                         : fault;

@@ -2,7 +2,7 @@
 
 #include "kor/widgets/KorNumberEdit.h"
 
-/** The number edit of the program's forms: it writes and reads numbers as the configuration says. */
+/** The number field of the program's forms; reads and formats numbers with the configured locale. */
 class AppNumberEdit : public KorNumberEdit
 {
     Q_OBJECT

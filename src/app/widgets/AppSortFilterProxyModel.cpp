@@ -48,7 +48,7 @@ bool AppSortFilterProxyModel::lessThan(const QModelIndex& left, const QModelInde
         };
         const auto leftAmount = amount(left);
         const auto rightAmount = amount(right);
-        // A cell without an amount stands below all amounts.
+        // A cell without an amount is sorted before all amounts.
         if (!leftAmount || !rightAmount)
             return !leftAmount && rightAmount;
         return leftAmount->compare(rightAmount.get()) == -1;

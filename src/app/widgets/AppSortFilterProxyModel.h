@@ -4,7 +4,7 @@
 
 #include <QLocale>
 
-/** Sorts money by amount and dates by the configured format, both read back from the texts that the grid shows. */
+/** Sorts money by amount and dates by date; both are parsed from the texts that the grid shows. */
 class AppSortFilterProxyModel final : public KorSortFilterProxyModel
 {
     Q_OBJECT
@@ -12,7 +12,7 @@ class AppSortFilterProxyModel final : public KorSortFilterProxyModel
 public:
     explicit AppSortFilterProxyModel(QObject* parent = nullptr);
 
-    /** "currency number" in plain digits from a money cell as the locale writes it; empty where it is no money. */
+    /** "currency number" in plain digits from a money cell in the locale's format; empty if the cell is no money. */
     [[nodiscard]] static QString plainMoney(const QString& cell, const QLocale& locale);
 
 protected:

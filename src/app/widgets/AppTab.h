@@ -2,7 +2,7 @@
 
 #include "kor/widgets/KorTab.h"
 
-/** A page whose grids know money and the configured dates. */
+/** A page whose grids sort money by amount and dates in the configured format. */
 class AppTab : public KorTab
 {
     Q_OBJECT

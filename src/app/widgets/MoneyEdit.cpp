@@ -71,7 +71,7 @@ void MoneyEdit::setMoney(const Money* money)
 
 void MoneyEdit::replaceMoney(Money* money)
 {
-    // A total that is being reckoned may still hold the former amount, and results hang on it as their parent.
+    // Not deleted at once: a running calculation may still use the old amount, and sums are its children.
     m_money->deleteLater();
     m_money = money;
 }

@@ -4,8 +4,9 @@
 #include "app/widgets/AppNumberEdit.h"
 
 /**
- * A line edit for an amount of money in the currency of the configured locale, shown with two decimals. Amounts are not
- * negative and not larger than a stored one can be; what is less than a whole unit is asked about, as it is not kept.
+ * A field for an amount of money in the currency of the configured locale, shown with two decimals. Negative amounts
+ * and amounts that are too large to store are refused. For a fraction of a whole unit, which is not stored, the user is
+ * asked.
  */
 class MoneyEdit : public AppNumberEdit
 {
@@ -17,19 +18,19 @@ public:
 
     [[nodiscard]] QString displayText() const override;
     void validate() override;
-    /** The amount as the field has it; the edit owns it, and replaces it when another amount is entered. */
+    /** The current amount. The field owns it and deletes it when another amount is entered. */
     [[nodiscard]] virtual Money* money();
 
     [[nodiscard]] QString fault() override;
     [[nodiscard]] QString doubt() override;
     void settle() override;
-    /** No number, or an amount of which nothing would be stored. */
+    /** True if there is no number, or the amount would be stored as zero. */
     [[nodiscard]] bool isNothing();
 
-    /** Takes a copy: the value that is shown usually belongs to a record. Null is an amount of zero. */
+    /** Copies the value, which usually belongs to a record. Null means zero. */
     void setMoney(const Money* money);
     [[nodiscard]] const QString& currency() const { return m_currency; }
-    /** Kept for the forms that set it; the field looks the same either way. */
+    /** Has no effect. */
     void setCurrencyFixed(bool fixed) { m_currencyFixed = fixed; }
     [[nodiscard]] bool isCurrencyFixed() const { return m_currencyFixed; }
 

@@ -2,7 +2,7 @@
 
 #include "app/widgets/AppNumberEdit.h"
 
-/** A line edit for a percent, which is not negative. */
+/** A field for a percentage. Negative values are refused. */
 class PercentEdit : public AppNumberEdit
 {
     Q_OBJECT
@@ -10,7 +10,7 @@ class PercentEdit : public AppNumberEdit
 public:
     using AppNumberEdit::AppNumberEdit;
 
-    /** What is not between 0 and 100 is asked about, and refused neither below nor above. */
+    /** For values outside of 0 to 100 the user is asked; then negative values are not refused either. */
     void askBeyondHundred() { m_asksBeyondHundred = true; }
 
     [[nodiscard]] QString fault() override;

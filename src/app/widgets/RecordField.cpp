@@ -36,12 +36,12 @@ void RecordFieldBase::lookUpWhenLeft()
     connect(m_box->editor(), &QLineEdit::editingFinished, this, &RecordFieldBase::left);
 }
 
-// --- what the box names --------------------------------------------------------------------------------------------
+// --- the record ----------------------------------------------------------------------------------------------------
 
 void RecordFieldBase::show(KorEntity* record)
 {
     m_chosen = record;
-    // The record first, so that what the form hears of is no emptied box.
+    // Set the record before the text, so that changed() is not emitted for an empty field.
     m_record = record;
     m_box->editor()->setText(record ? m_box->codeOf(*record) : QString());
     take(record);
@@ -66,7 +66,7 @@ void RecordFieldBase::take(KorEntity* record)
 {
     m_record = record;
     m_asked = code();
-    // Nothing is searched for any more: a list that came up now would take the next field's keys.
+    // Cancel a pending search: a list that opens now would take the keys of the next field.
     m_box->preventSuggest();
     tellChange();
 }
@@ -118,7 +118,7 @@ bool RecordFieldBase::choose()
     const QString failure = lookUp();
     if (KorErrorBox::tell(m_box->editor()->window(), failure))
         return true;
-    // The row that says that there is nothing can be chosen, too.
+    // The "No result" row can be chosen, too.
     if (!isNamed())
         return false;
     writeCode();
@@ -129,10 +129,10 @@ bool RecordFieldBase::choose()
 
 void RecordFieldBase::left()
 {
-    // The list of suggestions that comes up counts as leaving, too; the code may not be typed to the end yet.
+    // An opening list of suggestions also takes the focus; the code may not be complete yet.
     if (QApplication::activePopupWidget())
         return;
-    // A form that does not hear of a failure here tells it when it is confirmed.
+    // If the form does not connect unread(), check() reports the error when the form is confirmed.
     const QString failure = lookUp();
     if (!failure.isEmpty()) {
         emit unread(failure);
@@ -142,12 +142,12 @@ void RecordFieldBase::left()
     }
 }
 
-// --- what is made of it --------------------------------------------------------------------------------------------
+// --- validation and filters ----------------------------------------------------------------------------------------
 
 bool RecordFieldBase::check(const QString& missing, const QString& unknown)
 {
     QLineEdit* editor = m_box->editor();
-    // Whoever confirms has typed to the end: no list of suggestions follows.
+    // The user has finished typing, so no list of suggestions must open.
     m_box->preventSuggest();
     if (isNamed() && (!editor->isEnabled() || editor->isReadOnly()))
         return true;

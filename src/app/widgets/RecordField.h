@@ -6,19 +6,19 @@
 class KorDialog;
 
 /**
- * A box in which a record is named by its code, typed or picked from the list, with the record's name beside it. The
- * rules are the same in all forms:
+ * A field for a record, named by its code, which is typed or chosen from a list. The record's name is shown beside it.
+ * The rules are the same in all forms:
  *
- * - Letter case and blanks around a code do not matter. A choice writes the code as the record does.
- * - Enter takes the code as long as nothing was made of it; after that Enter is the form's own.
- * - The name beside a code goes as soon as another one is typed.
- * - A confirmed form reads the code again, so that a record that somebody deleted meanwhile is told and not saved.
- *   Where it is still the same record, the one that the user looked at stays: what is saved is what was seen.
- * - A failure to read is told: after Enter and after a choice at once, when the form is confirmed with its other
- *   errors. It is never taken for an unknown code.
- * - A box that cannot be typed in keeps what it names.
+ * - Case and surrounding blanks of a code are ignored. After a choice the code is written as in the record.
+ * - Enter looks up a code that was not looked up yet; otherwise Enter belongs to the form.
+ * - The name disappears as soon as another code is typed.
+ * - When the form is confirmed, the code is read again, so that a record that was deleted meanwhile is reported. If it
+ *   is still the same record, the field keeps the object that it showed: what the user saw is saved.
+ * - A failed read is reported at once after Enter or a choice, otherwise with the errors of the confirmed form. It is
+ *   never treated as an unknown code.
+ * - A disabled or read-only field keeps its record.
  *
- * The widgets are borrowed. A record that was read lives as long as the field, unless keepIn() says otherwise.
+ * The widgets are borrowed. A record that was read lives as long as the field, unless keepIn() was called.
  */
 class RecordFieldBase : public QObject
 {
@@ -27,59 +27,59 @@ class RecordFieldBase : public QObject
 
 public:
     [[nodiscard]] AppLookupBox* box() const { return m_box; }
-    /** The record that the box names, as far as it was looked up; null without one. */
+    /** The record for the code in the field; null if the code was not looked up yet or is unknown. */
     [[nodiscard]] KorEntity* entity() const { return isNamed() ? m_record.data() : nullptr; }
-    /** The id of the record that the box names, KorNoValue for none. */
+    /** The id of that record, or KorNoValue. */
     [[nodiscard]] int id() const;
-    /** Shows this record, which is borrowed; null empties the field. */
+    /** Shows this record, which is borrowed; null clears the field. */
     void show(KorEntity* record);
-    /** Shows the record with this code; a failure to read is told in a box. */
+    /** Shows the record with this code; a failed read is shown in a message box. */
     void showCode(const QString& code);
     /**
-     * Reads the code again and reports an empty box and an unknown code on the form; false for both, and when the
-     * records cannot be read. The box may be empty where there is no text for it.
+     * Reads the code again and adds an error to the form if the field is empty, the code is unknown or the read failed;
+     * then returns false. An empty field is allowed if the text "missing" is empty.
      */
     bool check(const QString& missing, const QString& unknown);
-    /** False when the records could not be asked at the last look. */
+    /** False if the last read failed. */
     [[nodiscard]] bool couldAsk() const { return m_couldAsk; }
     /**
-     * What a list is narrowed to by this field: the id of the record, KorNoValue for an empty box, and 0, which no
-     * record has, for a code that nobody has. A failure to read becomes an error of the list's service.
+     * The id for filtering a list: that of the record, KorNoValue (no filter) for an empty field, or 0, which no record
+     * has, for an unknown code. A failed read adds an error to the list's service.
      */
     [[nodiscard]] int filterId(KorBusinessLogic* list);
-    /** A record that is to stay as it is. */
+    /** Makes the field read-only and grey. */
     void freeze();
-    /** For forms that tell something about the record at once: a typed code counts as soon as the box is left. */
+    /** Also looks the code up when the field loses the focus; for forms that show details of the record. */
     void lookUpWhenLeft();
-    /** Reads records into this pool, which has to outlive whatever shows them. */
+    /** Reads records into this pool, which must outlive all users of the records. */
     void keepIn(EntityPool& pool) { m_pool = &pool; }
 
 public slots:
-    /** Writes the code as the record does; for forms that want it also after a code was only left. */
+    /** Writes the code as it is in the record, for forms that also want this after the focus was lost. */
     void writeCode();
 
 signals:
-    /** The box names another record, or none; told also while a code is typed. */
+    /** The record of the field has changed, also to none; emitted while the user types, too. */
     void changed();
-    /** The user has chosen a record from the list, with Enter or by going on, or has gone on without one. */
+    /** The user has chosen a record, in the list, with Enter or by leaving the field, or has left it without one. */
     void chosen();
-    /** The box was left with a code that could not be read: for forms that read on from the record at once. */
+    /** The code could not be read when the field was left; for forms that load more data with the record. */
     void unread(const QString& failure);
 
 protected:
     using Reader = std::function<KorEntity*(const QString& code)>;
 
-    /** The name, a line edit or a label, and the form may be missing; without a form nothing is checked. */
+    /** "name" is a line edit or label for the record's name. It and the form may be null; check() needs the form. */
     RecordFieldBase(AppLookupBox* box, Reader reader, QWidget* name, KorDialog* form);
 
 private:
     [[nodiscard]] QString code() const;
     [[nodiscard]] bool isNamed() const;
-    /** Takes the record of the code that stands in the box; a failure to read is what comes back. */
+    /** Looks up the code in the field if it is not the current record's; returns the error text of a failed read. */
     [[nodiscard]] QString lookUp();
-    /** As lookUp(), but reads again also what is known. */
+    /** The same, but always reads again. */
     [[nodiscard]] QString lookUpAgain();
-    /** False when the code is unknown; a failure is told here. */
+    /** False if the code is unknown. Shows a failed read in a message box. */
     bool choose();
     void left();
     [[nodiscard]] QString read(EntityPool& pool, KorEntity** found);
@@ -93,17 +93,17 @@ private:
     EntityPool m_own;
     EntityPool* m_pool = &m_own;
     QPointer<KorEntity> m_record;
-    // What the form heard of last.
+    // The record at the last changed().
     QPointer<KorEntity> m_changedTo;
     QPointer<KorEntity> m_chosen;
-    // What was made something of, be it a record or the knowledge that there is none.
+    // The code of the last completed lookup, whether a record was found or not.
     QString m_asked;
     bool m_couldAsk = true;
 };
 
 /**
- * A box for the code of such an entity; the service behind the lookup box offers findByCode(code). Headers declare it
- * ahead as template <typename Entity>: behind "class" lupdate would take the texts for those of a class Entity.
+ * A field for the code of this entity; the service of the lookup box has findByCode(code). Declare it in headers as
+ * template <typename Entity>: with "class", lupdate would assign the following texts to a class Entity.
  */
 template <class Entity>
 class RecordField : public RecordFieldBase
@@ -115,6 +115,6 @@ public:
               box, [box](const QString& code) { return box->service()->findByCode(code); }, name, form)
     {}
 
-    /** As entity(), in its own type. */
+    /** entity(), cast to its type. */
     [[nodiscard]] Entity* record() const { return static_cast<Entity*>(entity()); }
 };

@@ -6,7 +6,7 @@ QIcon statusMark(const QString& name)
 {
     const QPixmap picture(":/icons/status_" + name + ".png");
     QIcon icon(picture);
-    // Its colour stands out from a selected row's as it is; the style would dye it.
+    // Use the same picture in a selected row; the style would tint it.
     icon.addPixmap(picture, QIcon::Selected);
     return icon;
 }

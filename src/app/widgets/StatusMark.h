@@ -2,5 +2,5 @@
 
 #include <QIcon>
 
-/** The small picture of a status beside its word: "paid", "partial", "unpaid" and so on. */
+/** The icon of a status: "paid", "partial", "unpaid" and so on. */
 [[nodiscard]] QIcon statusMark(const QString& name);

@@ -4,7 +4,7 @@
 #include <QDateTime>
 #include <QString>
 
-/** The words of the age ladder; the numbers stand in front of the plural ones. */
+/** The texts for timeAgo(); a number is put before the plural ones. */
 struct TimeAgoWords
 {
     Q_DECLARE_TR_FUNCTIONS(TimeAgoWords)
@@ -25,12 +25,12 @@ public:
 
     /** In the program's language; "second" and "day" have no plural. */
     [[nodiscard]] static TimeAgoWords onScreen();
-    /** On kitchen slips: Indonesian, whatever the program speaks. */
+    /** For kitchen slips: always Indonesian. */
     [[nodiscard]] static const TimeAgoWords& onSlips();
 };
 
 /**
- * How long ago the moment was, in words. 45 minutes already count as one hour and 360 days as one year; a moment in
- * the future is a negative number of seconds.
+ * How long ago the moment was, in words. 45 minutes already count as one hour and 360 days as one year. A moment in the
+ * future gives a negative number of seconds.
  */
 [[nodiscard]] QString timeAgo(const QDateTime& moment, const QDateTime& now, const TimeAgoWords& words);

@@ -13,11 +13,11 @@ QString UnfinishedSave::laterByOk() { return tr("Later, open it from its list an
 
 bool UnfinishedSave::offer(QWidget* parent, KorBusinessLogic* service) const
 {
-    // Whoever presses Return again and again gets out when it does not help.
+    // After the first attempt "Later" is the default, so that pressing Return repeatedly ends the loop.
     auto byDefault = QMessageBox::Yes;
     do {
         KorToldFailure failure = KorToldFailure::in(service->takeErrors());
-        // It speaks of a save that failed, and this one has not.
+        // The advice is for a failed save, but this record is saved.
         failure.advice.clear();
         QStringList lines{done, tr("Not done yet: %1.").arg(missing), QString(), failure.text().trimmed(), QString()};
         lines.append(tr("Do you want to have it done now?"));

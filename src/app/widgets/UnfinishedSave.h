@@ -9,28 +9,28 @@ class KorBusinessLogic;
 class QWidget;
 
 /**
- * A record that is saved, while something that follows from it has failed behind its transaction. Entered again it
- * would stand twice, so the person is told what is saved and what is not, and may have the rest done.
+ * Describes a record that is saved, while a following step after its transaction has failed. If the user entered the
+ * record again, it would exist twice. So the box says what is saved and what is not, and offers to finish the rest.
  */
 struct UnfinishedSave
 {
     Q_DECLARE_TR_FUNCTIONS(UnfinishedSave)
 
 public:
-    /** What is done, as a whole sentence. */
+    /** What is done; a full sentence. */
     QString done;
-    /** What is not. */
+    /** What is missing. */
     QString missing;
-    /** How to get it done without this box; it may be empty. */
+    /** How to finish it later without this box; may be empty. */
     QString later;
-    /** Does what is missing; run again, it does no harm. Its failures are kept by the service. */
+    /** Does the missing step; running it again is safe. Errors are kept in the service. */
     std::function<bool()> finish;
 
     /** "NB-0001 is saved. Please do not enter it again." */
     [[nodiscard]] static QString saved(const QString& number);
-    /** How a document is finished that does all that follows with every save. */
+    /** The advice for a document whose every save repeats the following steps. */
     [[nodiscard]] static QString laterByOk();
 
-    /** Says so, with the failures that the service holds, until all is done or put off; true when it is done. */
+    /** Shows the box with the service's errors until the step succeeds (true) or the user chooses "Later" (false). */
     bool offer(QWidget* parent, KorBusinessLogic* service) const;
 };
