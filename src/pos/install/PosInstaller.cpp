@@ -236,7 +236,7 @@ void PosInstaller::insertPrinterTypes()
 
 void PosInstaller::insertFurtherPrinterTypes()
 {
-    // A sequence is sent up to its first zero byte, and these have none.
+    // No zero bytes: a sequence is sent only up to its first one.
     const QList<QPair<QString, QString>> cuts{{"GENERIC-FEED-CUT", "29#V#66#1"},
                                               {"GENERIC-PARTIAL-CUT", "29#V#49"},
                                               {"GENERIC-FULL-CUT", "29#V#48"},
@@ -252,7 +252,7 @@ void PosInstaller::insertFurtherPrinterTypes()
     for (const auto& cut : cuts) {
         if (known.contains(cut.first))
             continue;
-        // A record of its own: the settings of the first printers name the type that the other one holds.
+        // Not m_printerType: the settings of the first printers use the type in that record.
         EntityPrinterType type;
         type.setPrinterType(cut.first);
         type.setCashDrawerCmd("27#112#0#60#120");

@@ -19,7 +19,7 @@ class EntityContact;
 class EntityJenisItem;
 class EntitySatuan;
 
-/** Adds what any shop needs: accounts, items, running numbers, printer types, and examples to start from. */
+/** Installs what any shop needs: accounts, items, running numbers, printer types and sample data. */
 class PosInstaller : public AppInstaller
 {
     Q_OBJECT
@@ -32,11 +32,11 @@ public:
     void registerPermissions() override;
 
 protected:
-    /** A running number that begins with its own name, the month and the year. */
+    /** Inserts a running number whose format is its name, the month and the year. */
     void insertKey(const QString& name, const QString& description);
     static void fillContact(EntityContact& contact, const QString& code, const QString& name, const QString& address,
                             const QString& phone, const QString& email);
-    /** What the cashier's printer and a kitchen's have in common at first. */
+    /** Fills in what the cashier's and the kitchens' printers have in common. */
     void fillPrinter(EntityConfigPrinter& printer, const QString& notes) const;
 
 private:
@@ -49,7 +49,7 @@ private:
     void insertKeys();
     void insertPeople();
     void insertPrinterTypes();
-    /** Those that are not there yet: a database that is updated gets them too. */
+    /** Inserts the missing types; also called when a database is updated. */
     void insertFurtherPrinterTypes();
     void insertCashierPrinter();
 
@@ -64,6 +64,6 @@ private:
     BusinessEmployee* const m_employees;
     BusinessPrinterType* const m_printerTypes;
     BusinessDataPerusahaan* const m_company;
-    // The one written last, which the printers take.
+    // The type inserted last; the first printers use it.
     EntityPrinterType m_printerType;
 };

@@ -10,13 +10,13 @@ class DataMapperKey;
 class DataMapperMember;
 class Invoice;
 
-/** The money of every sale, in the table "invoice". It makes the mapper of the lines. */
+/** The amounts of every sale, in the table "invoice". It creates the mapper of the lines. */
 class DataMapperInvoice : public AppDataMapper
 {
     Q_OBJECT
 
 public:
-    /** The partners are borrowed; the links of the three ways of selling take them from here. */
+    /** The mappers of the joined tables, which are borrowed. The links of the three ways of selling use them, too. */
     struct Partners
     {
         DataMapperEmployee* employees;
@@ -37,12 +37,12 @@ public:
     [[nodiscard]] const Partners& partners() const { return m_partners; }
     [[nodiscard]] QList<Invoice*> findByIds(const QList<int>& ids);
 
-    // Quantities sold; 0 where nothing was sold or the query fails. Both limits are inclusive.
+    // Quantities sold; 0 if nothing was sold or the query fails. Both dates are inclusive.
     [[nodiscard]] static int quantityUsed(int itemId, const QDate& until);
     [[nodiscard]] static int quantityUsed(int itemId, const QDate& from, const QDate& until);
 
 protected:
-    /** For a link, which has columns of its own and shares the detail mapper. */
+    /** For the link mappers, which have their own columns and use the same detail mapper. */
     DataMapperInvoice(QObject* parent, DataMapperInvoice* invoices);
 
 private:

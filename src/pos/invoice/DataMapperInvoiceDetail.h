@@ -13,6 +13,6 @@ public:
     KorEntity* createEntity() override;
     [[nodiscard]] QStringList indexStatements() const override;
 
-    /** Removes all lines of the invoice, whoever wrote them. */
+    /** Deletes all lines of the invoice. */
     bool removeByInvoiceId(int invoiceId);
 };

@@ -16,7 +16,7 @@ IInvoice* DataMapperInvoiceLink::saleOf(KorEntity* link) { return dynamic_cast<I
 
 bool DataMapperInvoiceLink::createTable(int mode)
 {
-    // The invoice's table and its lines are the invoice mapper's own business.
+    // The invoice mapper creates the tables of invoices and lines.
     // NOLINTNEXTLINE(bugprone-parent-virtual-call)
     return KorDataMapper::createTable(mode);
 }
@@ -33,7 +33,8 @@ QStringList DataMapperInvoiceLink::locksOfInsert(const std::optional<BilledOrder
     const QString number = numberLock(keyName());
     if (!order)
         return {number};
-    // Of two first saves at the same moment the second waits for the order, and then sees the bill of the first.
+    // If two workstations bill an order at the same time, the second waits for the order's lock and then sees the first
+    // bill.
     return {order->orders->lockOf(order->id), number,
             "select invoice_id from " + tableName() + " where " + order->column + " = " + QString::number(order->id)};
 }
@@ -141,13 +142,13 @@ bool DataMapperInvoiceLink::update(KorEntity* link)
     } else if (!AppDataMapper::update(link)) {
         reason = " \r\n " + takeError();
     } else {
-        // Lines are replaced, not matched: the stored ones go, whatever the form shows now comes.
+        // Stored lines are deleted and inserted again, not compared.
         message = messages().updateLines;
         done = replaceLines(sale, &reason);
     }
     if (!save.end(done, &reason))
         return fail(message, reason);
-    // A form that cannot read the sale again saves it again from memory.
+    // So that a form that cannot read the sale again can still save the records that it has.
     invoice->setVersion(invoice->getVersion() + 1);
     link->setVersion(link->getVersion() + 1);
     return true;

@@ -8,9 +8,9 @@
 class IInvoice;
 
 /**
- * Mapper of the record that ties an invoice to its way of selling. Saving writes the invoice, the link and the lines
- * in one transaction; an update replaces the lines. Removing takes the link row alone. The key of the running number is
- * also the type that the invoice gets.
+ * Mapper of the record that links an invoice to its way of selling. Saving writes the invoice, the link and the lines
+ * in one transaction; an update replaces the lines. Removing deletes only the link row. The key of the running number
+ * is also the type of the invoice.
  */
 class DataMapperInvoiceLink : public NumberedMapper<DataMapperInvoice>
 {
@@ -30,31 +30,31 @@ public:
 protected:
     using Messages = AppDocumentMapper::Messages;
     [[nodiscard]] virtual Messages messages() const = 0;
-    /** The order that a new sale is the bill of. */
+    /** The order that a new sale bills. */
     struct BilledOrder
     {
         const KorDataMapper* orders;
-        /** The link's column that refers to the order. */
+        /** The link's column with the order's id. */
         QString column;
         int id;
-        /** The invoices of which the sale knows; with any other one it is refused. */
+        /** Ids of the invoices that the user knows of. If there is another one, the sale is refused. */
         QList<int> knownBills;
     };
-    /** Nothing where the sale has no order, or does not say which bills it knows. */
+    /** Empty if the sale has no order, or if it is not set which bills are known. */
     [[nodiscard]] virtual std::optional<BilledOrder> billedOrder(const KorEntity& link) const;
-    /** What the link knows and the invoice keeps too, before it is written. */
+    /** Copies values from the link to the invoice before it is saved. */
     virtual void prepareInvoice(KorEntity* link, Invoice* invoice);
-    /** Reads what stands behind a link beside the invoice and the lines; for all links of a list at once. */
+    /** Reads further records of the links, for a whole list at once; for example the orders. */
     virtual bool loadOrders(const QList<KorEntity*>& links);
 
-    /** Each with its full invoice, its lines and its order: a fixed number of statements. */
+    /** Links with invoice, lines and order; the number of statements does not depend on the number of links. */
     QList<KorEntity*> findLinks(const KorConditions& conditions);
-    /** The links of one order, the oldest first. */
+    /** The links of one order, oldest first. */
     [[nodiscard]] KorConditions linksOf(const QString& orderColumn, int orderId) const;
     [[nodiscard]] DataMapperInvoice* invoices() const { return m_invoices; }
 
 private:
-    /** Where another bill of the order was found, the words for it. */
+    /** The error text if the order has an unknown bill; empty otherwise. */
     [[nodiscard]] static QString objection(const std::optional<BilledOrder>& order, const QVariantList& foundBills);
     [[nodiscard]] QStringList locksOfInsert(const std::optional<BilledOrder>& order) const;
     void insertLinesWith(KorBatch& batch, IInvoice* sale);

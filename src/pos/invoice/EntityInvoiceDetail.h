@@ -4,7 +4,7 @@
 #include "kor/entity/KorEntity.h"
 #include "pos/masterdata/item/EntityItem.h"
 
-/** One line of an invoice. The split quantity and its group live in memory only, while a party pays apart. */
+/** One line of an invoice. The split quantity and group are only in memory, while a bill is being split. */
 class EntityInvoiceDetail : public KorEntity
 {
     Q_OBJECT
@@ -19,14 +19,17 @@ public:
     using KorEntity::KorEntity;
 
     [[nodiscard]] int qtySplit() const { return m_qtySplit; }
-    /** Takes the quantity off the line, giving back what was split off before; the total follows. */
+    /**
+     * Moves this quantity to a split bill: it is taken off the line, after the earlier one was put back. Updates the
+     * total.
+     */
     void setQtySplit(int quantity);
     [[nodiscard]] QString splitGroup() const { return m_splitGroup; }
     void setSplitGroup(const QString& group) { m_splitGroup = group; }
 
     /** Total := price × quantity. */
     void recomputeTotal();
-    /** Whether price × quantity is an amount that money can hold; a larger one would wrap around. */
+    /** False if price × quantity is too large for Money and would overflow. */
     [[nodiscard]] bool totalFits() const;
 
 private:

@@ -5,7 +5,7 @@
 
 #include <optional>
 
-/** What ties an invoice to its way of selling. A new link has a new invoice; the lines are borrowed. */
+/** Links an invoice to its way of selling. A new link has a new invoice; the lines are borrowed. */
 class EntityInvoiceLink : public KorEntity, public IInvoice
 {
     Q_OBJECT
@@ -20,8 +20,8 @@ public:
     void setDetails(const QList<EntityInvoiceDetail*>& details) override { m_details = details; }
 
     /**
-     * The order's bills that are no surprise to this one, by the ids of their invoices; others stop its first save.
-     * Nothing is asked where nobody has said which ones are known.
+     * Invoice ids of the order's known bills. If the order has any other bill, the first save of this sale fails. Not
+     * set: no check.
      */
     [[nodiscard]] const std::optional<QList<int>>& knownBills() const { return m_knownBills; }
     void setKnownBills(const QList<int>& invoiceIds) { m_knownBills = invoiceIds; }

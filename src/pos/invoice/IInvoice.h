@@ -5,7 +5,7 @@
 class EntityInvoiceDetail;
 class Invoice;
 
-/** What the sales service asks of a link record, whatever the way of selling. */
+/** The interface of a link record for the sales service, for every way of selling. */
 class IInvoice
 {
 public:

@@ -6,7 +6,7 @@
 #include "pos/masterdata/employee/EntityEmployee.h"
 #include "pos/masterdata/member/EntityMember.h"
 
-/** The money of one sale, whatever the way of selling. A link record ties it to its order or counter sale. */
+/** The amounts of one sale, for every way of selling. A link record connects it to its order or counter sale. */
 class Invoice : public KorEntity
 {
     Q_OBJECT
@@ -45,7 +45,7 @@ public:
 
     using KorEntity::KorEntity;
 
-    // Not a stored field of its own: the sale's agent stands in the link record.
+    // Not stored here: the link record has the sale's agent.
     [[nodiscard]] EntityAgent* getAgent() const { return m_agent; }
     void setAgent(EntityAgent* agent) { m_agent = agent; }
 

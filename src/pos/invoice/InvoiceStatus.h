@@ -2,5 +2,5 @@
 
 class Invoice;
 
-/** FULL_PAID, UNPAID or PARTIALLY_PAID from the money; an invoice of nothing with nothing paid is unpaid. */
+/** Sets FULL_PAID, UNPAID or PARTIALLY_PAID by the amounts. An invoice of zero without a payment is unpaid. */
 void setInvoiceStatus(Invoice* invoice);

@@ -4,7 +4,7 @@
 #include <QIcon>
 #include <QString>
 
-/** The word for an invoice's status in lists; empty for a number that is none. */
+/** The name of an invoice's status in lists; empty for an unknown number. */
 [[nodiscard]] QString invoiceStatusText(int status);
-/** The coloured sign that stands beside the word, for each status. */
+/** The coloured icon for each status. */
 [[nodiscard]] QHash<int, QIcon> invoiceStatusMarks();

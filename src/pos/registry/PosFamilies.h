@@ -6,7 +6,7 @@
 #include "pos/masterdata/itemtype/DataMapperJenisItem.h"
 #include "pos/masterdata/unit/DataMapperSatuan.h"
 
-/** What every line with an item joins. */
+/** The mappers that every line with an item joins. */
 template <>
 struct KorPart<ItemPartners> : KorParts<ItemPartners, DataMapperItem, DataMapperJenisItem, DataMapperSatuan>
 {};

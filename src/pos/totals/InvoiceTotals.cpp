@@ -8,7 +8,7 @@
 
 namespace
 {
-/** The largest amount, in whole units. */
+/** The largest amount that Money can hold, in whole units. */
 double largest(const QString& currency)
 {
     return std::numeric_limits<int>::max() / Money(nullptr, 0, currency).factor();
@@ -67,7 +67,7 @@ bool InvoiceTotals::fits() const
 void InvoiceTotals::writeTo(Invoice* invoice) const
 {
     const auto money = [this, invoice](double amount) { return new Money(invoice, amount, m_currency); };
-    // A percent of nothing is no number; the form shows it, but sums over stored invoices must not meet it.
+    // Without a subtotal the percentage is infinite or NaN. The form shows that, but it must not be stored.
     const auto stored = [this](Part part) { return std::isfinite(m_percent[part]) ? m_percent[part] : 0; };
     invoice->setSubtotal(money(m_subtotal));
     invoice->setDiscountPerc(stored(Discount));

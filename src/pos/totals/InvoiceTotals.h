@@ -6,8 +6,8 @@ class Invoice;
 class Money;
 
 /**
- * The money of a document in the making: the cascade of what is typed and what follows from it. Amounts are in whole
- * units of the currency, as money stores them, so that the figures add up to the stored ones; no widget is involved.
+ * The amounts of a document that is being entered, and what is calculated from them. Amounts are in whole units of the
+ * currency, rounded as Money stores them, so that sums match the stored values. Uses no widgets.
  */
 class InvoiceTotals
 {
@@ -17,13 +17,13 @@ public:
     void setCurrency(const QString& currency) { m_currency = currency; }
     [[nodiscard]] const QString& currency() const { return m_currency; }
     void setSubtotal(double amount) { m_subtotal = kept(amount); }
-    /** Takes the amount and lets the percent follow. Without a subtotal the percent is infinite or not a number. */
+    /** Sets the amount and calculates the percentage, which is infinite or NaN without a subtotal. */
     void setAmount(Part part, double amount);
-    /** Takes the percent and lets the amount follow; all three are taken of the subtotal alone. */
+    /** Sets the percentage and calculates the amount from the subtotal; all three parts use the subtotal. */
     void setPercent(Part part, double percent);
-    /** Takes both as they stand in a stored document. */
+    /** Sets both as stored in a document, without calculation. */
     void restore(Part part, double percent, double amount);
-    /** Takes the percent alone; the amount follows when somebody leaves the percent's box. */
+    /** Sets only the percentage; the amount is calculated when the user leaves the field. */
     void proposePercent(Part part, double percent) { m_percent[part] = percent; }
     void setPaid(double amount) { m_paid = kept(amount); }
     void setCredit(double amount) { m_credit = kept(amount); }
@@ -34,19 +34,22 @@ public:
     [[nodiscard]] double paid() const { return m_paid; }
     [[nodiscard]] double credit() const { return m_credit; }
     [[nodiscard]] double grandTotal() const;
-    /** What a form shows: positive for change, negative for what is still missing. */
+    /** As shown in a form: positive for change, negative for what is missing. */
     [[nodiscard]] double change() const;
     [[nodiscard]] bool isShort() const { return change() < 0; }
-    /** Whether every figure fits into what a stored amount can hold. */
+    /** False if any amount is too large for Money. */
     [[nodiscard]] bool fits() const;
 
-    /** Writes all figures into the invoice; its net due has the other sign than change(). */
+    /** Writes all amounts to the invoice. Its net due is the negative of change(). */
     void writeTo(Invoice* invoice) const;
     void readFrom(const Invoice& invoice);
 
-    /** Three decimals with a rounding point of 0.49 at the third place. */
+    /** Rounded to three decimals; a rest of more than 0.49 of the third one is rounded up. */
     [[nodiscard]] static double percentOf(double amount, double subtotal);
-    /** What money keeps of the amount; all of one that is too large for it, which fits() tells, and nothing of none. */
+    /**
+     * The amount as Money would store it. One that is too large is returned unchanged (see fits()); NaN or infinity
+     * gives 0.
+     */
     [[nodiscard]] static double kept(double amount, const QString& currency);
 
 private:

@@ -37,7 +37,7 @@ void TotalsCascade::proposeDiscount(double percent)
     m_totals.proposePercent(InvoiceTotals::Discount, percent);
     m_boxes.percents[InvoiceTotals::Discount]->setValue(percent);
     m_isProposed = true;
-    // Wherever the user goes on from; the form's own steps from box to box are none of his.
+    // On all widgets, because the user may leave from any of them. Focus changes by the form itself are ignored.
     const QList<QWidget*> boxes = m_boxes.subtotal->window()->findChildren<QWidget*>();
     for (QWidget* box : boxes)
         box->installEventFilter(this);
@@ -45,7 +45,7 @@ void TotalsCascade::proposeDiscount(double percent)
 
 bool TotalsCascade::eventFilter(QObject* watched, QEvent* event)
 {
-    // These two tell of their change themselves.
+    // These two fields report their changes themselves.
     const bool tells =
         watched == m_boxes.percents[InvoiceTotals::Discount] || watched == m_boxes.amounts[InvoiceTotals::Discount];
     if (event->type() == QEvent::FocusOut && !tells) {
@@ -128,7 +128,7 @@ void TotalsCascade::show(const InvoiceTotals& stored)
     showPart(InvoiceTotals::Discount);
     showPart(InvoiceTotals::Tax);
     showPart(InvoiceTotals::Service);
-    // Each box tells of its change at once; the figures come from the document, not from a form half filled.
+    // Set each field from the document: every change emits a signal at once, which would use half-filled fields.
     if (m_boxes.paid)
         m_boxes.paid->setValue(stored.paid());
     if (m_boxes.credit)

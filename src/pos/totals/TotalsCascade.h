@@ -10,15 +10,15 @@ class MoneyEdit;
 class QLabel;
 
 /**
- * Binds the boxes of a form that takes or gives money to the totals: which entry changes which figure, and when. All
- * ways of selling and buying share it. The boxes are borrowed; the form's slots say which box was left.
+ * Connects the amount fields of a form to InvoiceTotals: which entry changes which field, and when. Used for all kinds
+ * of sales and purchases. The widgets are borrowed. The form calls these functions when a field was left.
  */
 class TotalsCascade : public QObject
 {
     Q_OBJECT
 
 public:
-    /** A form without one of the parts, without credit or without a net due has null there. */
+    /** Null for fields that a form does not have. */
     struct Boxes
     {
         MoneyEdit* subtotal;
@@ -26,7 +26,7 @@ public:
         MoneyEdit* amounts[3];
         MoneyEdit* paid;
         MoneyEdit* credit;
-        /** Every box that shows the grand total. */
+        /** All fields that show the grand total. */
         QList<MoneyEdit*> grandTotals;
         MoneyEdit* netDue;
         QLabel* netDueLabel;
@@ -34,30 +34,32 @@ public:
 
     TotalsCascade(const Boxes& boxes, QObject* parent);
 
-    /** An amount leaves its percent alone while there is no subtotal, instead of making it infinite. */
+    /** Without a subtotal, entering an amount keeps the percentage instead of making it infinite. */
     void keepPercentsOfNothing() { m_keepsPercentsOfNothing = true; }
 
-    /** All boxes at zero, for a new invoice. */
+    /** Sets all fields to zero, for a new invoice. */
     void clear();
-    /** The lines have changed; amounts are not derived from their percents again. */
+    /** Call it after the lines have changed; amounts are not calculated from percentages again. */
     void setSubtotal(double amount);
-    /** A discount that the amount follows when the user goes on: to another box, or to the end of the form. */
+    /**
+     * Shows a discount percentage; its amount is calculated when the user goes to another field or confirms the form.
+     */
     void proposeDiscount(double percent);
-    /** Lets the amount follow a discount that was proposed and not yet changed by hand. */
+    /** Calculates the amount of a proposed discount, unless the user has changed it. */
     void settleProposal();
     void percentEntered(InvoiceTotals::Part part);
     void amountEntered(InvoiceTotals::Part part);
-    /** Shows the grand total and what is due from what the boxes hold now. */
+    /** Shows the grand total and the amount due, calculated from the current fields. */
     void calculateTotal();
 
-    /** Adds an error to the form where more is taken off than there is. */
+    /** Adds an error to the form if the discount is larger than the subtotal. */
     void checkDiscount(KorDialog& form) const;
 
     void readFrom(const Invoice& invoice);
     void writeTo(Invoice* invoice);
     [[nodiscard]] const InvoiceTotals& totals() const { return m_totals; }
 
-    /** Shows the parts and the money as they stand in a stored document. */
+    /** Shows the amounts of a stored document. */
     void show(const InvoiceTotals& stored);
 
 protected:

@@ -2,7 +2,7 @@
 
 #include "app/widgets/AppEntityModel.h"
 
-/** Rows whose words a narrow column may cut off: they are told in full when the mouse rests on them. */
+/** A grid model whose tool tips show the full text of a cell that may be cut off in a narrow column. */
 class CutTextModel : public AppEntityModel
 {
     Q_OBJECT

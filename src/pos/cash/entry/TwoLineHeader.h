@@ -2,5 +2,5 @@
 
 class QTableView;
 
-/** Lets headers that are longer than what stands below them take two lines instead of a wider column. */
+/** Wraps long header texts into two lines, so that they do not need wider columns. */
 void setTwoLineHeader(QTableView* grid);

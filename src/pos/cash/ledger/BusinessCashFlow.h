@@ -6,7 +6,7 @@ class DataMapperCashFlow;
 class EntityCashFlow;
 struct CashFlowFilter;
 
-/** The service of the ledger and its manual entries. The screens count its rights from 1. */
+/** The service of the ledger and its manual entries. Its permission keys start at 1. */
 class BusinessCashFlow final : public KorBusinessLogic
 {
     Q_OBJECT

@@ -3,7 +3,7 @@
 #include <QDate>
 #include <QString>
 
-/** What the ledger is narrowed to. Both dates count; an empty code stands for every account. */
+/** The filter of the ledger. Both dates are inclusive; an empty code means every account. */
 struct CashFlowFilter
 {
     /** The numbers are those of the forms' lists. */

@@ -9,7 +9,7 @@
 
 namespace
 {
-/** The columns of a branch that are not those of every other one. */
+/** The columns in which one SELECT of the union differs from the others. */
 struct Branch
 {
     QString table;
@@ -29,7 +29,7 @@ QString side(const QString& name, const QString& money)
     return QString("%2_amount as %1_amount, %2_currency as %1_currency").arg(name, money);
 }
 
-/** The conditions on the branch's own column let each table be read by its index on the date. */
+/** The date conditions are in each branch, so that every table is read by its date index. */
 QString selectOf(const Branch& branch)
 {
     return QStringList{"select",
@@ -57,7 +57,7 @@ QString selectOf(const Branch& branch)
         .join(' ');
 }
 
-/** A translation may hold an apostrophe. */
+/** Quotes a text for SQL: a translation may contain an apostrophe. */
 QString quoted(const QString& text)
 {
     QSqlField field("text", QVariant::String);
@@ -125,7 +125,7 @@ QList<EntityCashFlow*> DataMapperCashFlow::search(const CashFlowFilter& filter)
     else if (filter.type == CashFlowFilter::DebitRows)
         conditions.holds("(debet_amount >0 and debet_currency <> '')");
     conditions.only("lower(account_code)", filter.code.trimmed().toLower());
-    // Within a day as well, so that a list read again has its rows where they were.
+    // Sorted within a day as well, so that rows keep their places when the list is read again.
     conditions.descending("trans_date").descending("no").descending("id").ascending("account_code");
 
     KorQuery query;

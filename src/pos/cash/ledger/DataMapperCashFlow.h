@@ -6,9 +6,9 @@
 struct CashFlowFilter;
 
 /**
- * Ledger entries made by hand, in the table "cash_flow", and the ledger itself, which has no table: it is one
- * statement over the documents. An entry's account is a code without a foreign key: an entry outlives its account and
- * only leaves the ledger with it.
+ * Manual ledger entries, in the table "cash_flow", and the ledger itself, which has no table: it is one SELECT over all
+ * documents. An entry has its account's code without a foreign key. If the account is deleted, the entry stays in its
+ * table but is no longer in the ledger.
  */
 class DataMapperCashFlow final : public NumberedEntryMapper<EntityCashFlow>
 {
@@ -21,10 +21,10 @@ public:
     KorEntity* createEntity() override;
     [[nodiscard]] QStringList indexStatements() const override;
 
-    /** Every movement of money, without a condition on the whole; it names its types in the user's language. */
+    /** The SELECT of every movement of money, without filter; the type texts are in the user's language. */
     [[nodiscard]] QString getCashFlowQuery() const;
-    /** The ledger, latest first. Its rows are no records: they have no id. */
+    /** The ledger, latest first. Its rows have no id. */
     QList<EntityCashFlow*> search(const CashFlowFilter& filter);
-    /** The entry made by hand that has this number; a document's number finds none. */
+    /** The manual entry with this number; null for a document's number. */
     EntityCashFlow* getByTransNo(const QString& no);
 };

@@ -27,7 +27,7 @@ DialogCashFlow::~DialogCashFlow() = default;
 
 void DialogCashFlow::onBankSelected()
 {
-    // Whoever has walked on to another field stays there.
+    // Do not move the focus if the user has already gone to another field.
     if (m_ui->txtAccount->hasFocus())
         m_ui->txtPaid->setFocus();
 }

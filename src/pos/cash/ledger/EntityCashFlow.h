@@ -5,7 +5,9 @@
 
 #include <QDate>
 
-/** An entry made by hand in the ledger; also one row of the ledger, which then names its account and its operator. */
+/**
+ * A manual entry in the ledger. Also used for a row of the ledger, which additionally has account name and operator.
+ */
 class EntityCashFlow : public KorEntity
 {
     Q_OBJECT

@@ -28,7 +28,7 @@ MoneyEdit* LedgerTotals::addField(QHBoxLayout* row, const QString& name, const Q
     auto* caption = new QLabel(label, this);
     caption->setBuddy(field);
     caption->setAlignment(Qt::AlignRight);
-    // One above the other: beside each other they would leave a year's sum no room in a small window.
+    // One above the other: side by side, the sum of a year would not fit into a small window.
     auto* column = new QVBoxLayout;
     column->setSpacing(2);
     column->addWidget(caption);
@@ -39,7 +39,7 @@ MoneyEdit* LedgerTotals::addField(QHBoxLayout* row, const QString& name, const Q
 
 void LedgerTotals::show(const QList<KorEntity*>& rows)
 {
-    // In whole units like the rows, and not as one amount of money: a good year exceeds what an amount can hold.
+    // Whole units like the rows, and not Money: the sum of a good year exceeds what Money can hold.
     double debit = 0;
     double credit = 0;
     for (const KorEntity* entity : rows) {

@@ -6,7 +6,7 @@ class KorEntity;
 class MoneyEdit;
 class QHBoxLayout;
 
-/** The foot of the ledger: what the rows above it come to. There is no opening balance. */
+/** The totals of the shown rows, below the ledger. There is no opening balance. */
 class LedgerTotals final : public QWidget
 {
     Q_OBJECT

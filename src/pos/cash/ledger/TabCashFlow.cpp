@@ -40,7 +40,7 @@ void TabCashFlow::makeFilters()
     m_to = filters()->addDate("dateTo", tr("To Date :"), today);
     m_accountName = new QLabel(this);
     m_accountName->setObjectName("lblAccountName");
-    // A long name is cut rather than making the page wider.
+    // Cut off a long name instead of making the page wider.
     m_accountName->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     filters()->add(tr("Account Name :"), m_accountName);
     connect(m_code, &QLineEdit::textEdited, m_accountName, &QLabel::clear);
@@ -58,7 +58,7 @@ void TabCashFlow::onBankSelected()
 
 QList<KorEntity*> TabCashFlow::readRows(const QString&)
 {
-    // Whoever searches has typed to the end: no list of suggestions follows.
+    // The user has finished typing, so no list of suggestions must open.
     m_accounts->preventSuggest();
     CashFlowFilter filter;
     filter.fromDate = m_from->date();
@@ -86,7 +86,7 @@ void TabCashFlow::modelApplied()
         setColumnWidth(grid(), width.first, width.second);
     const QList<KorEntity*> rows = model()->entities();
     m_totals->show(rows);
-    // The account of a code that was typed, as far as it has rows.
+    // The name of the account whose code was typed; known only if it has rows.
     if (m_code->text().trimmed().isEmpty())
         m_accountName->clear();
     else if (m_accountName->text().isEmpty() && !rows.isEmpty())

@@ -11,7 +11,7 @@ class QDateEdit;
 class QLabel;
 class QLineEdit;
 
-/** The ledger: every movement of money of a period, of one account or all, and the entries made by hand. */
+/** The page of the ledger: all movements of money in a period, for one account or all, and the manual entries. */
 class TabCashFlow final : public AppListTab
 {
     Q_OBJECT
@@ -30,7 +30,7 @@ protected:
     [[nodiscard]] int addKey() const override;
     [[nodiscard]] int editKey() const override;
     [[nodiscard]] int deleteKey() const override;
-    /** The entry made by hand behind the row; a row of a document has none and is changed where it was made. */
+    /** The manual entry of the row; null for a document's row, which can only be edited in its own form. */
     KorEntity* readEntity(int id) override;
     [[nodiscard]] QString notFoundText(int id) const override;
     [[nodiscard]] QString deleteNotFoundText(int id) const override;
@@ -46,6 +46,6 @@ private:
     BankTextBox* m_accounts = nullptr;
     QLabel* m_accountName = nullptr;
     LedgerTotals* m_totals;
-    /** Rows are known by their numbers: these are what the grid has instead of ids, the same at every refresh. */
+    /** Row ids by number: ledger rows have no id, but the grid needs one that stays the same after a refresh. */
     QHash<QString, int> m_ids;
 };

@@ -4,7 +4,7 @@
 
 namespace
 {
-/** The side on which a row moves no money stays empty, as in a ledger on paper. */
+/** Leaves the side without an amount empty, as in a paper ledger. */
 const Money* used(const Money* side, const Money* other)
 {
     return side && other && side->rawAmount() == 0 && other->rawAmount() != 0 ? nullptr : side;

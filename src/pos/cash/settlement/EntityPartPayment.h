@@ -3,7 +3,7 @@
 #include "app/money/Money.h"
 #include "kor/entity/KorEntity.h"
 
-/** What a payment pays of one document, and what is then left of it. */
+/** The amount that a payment pays for one document, and the rest that is still due. */
 class EntityPartPayment : public KorEntity
 {
     Q_OBJECT

@@ -6,14 +6,14 @@
 
 #include <QDate>
 
-/** Money between the house and one person that settles several documents at once. */
+/** A payment between the restaurant and one person for several documents at once. */
 class EntitySettlement : public KorEntity
 {
     Q_OBJECT
     KOR_PROPERTY(QString, No, QString(""))
     KOR_PROPERTY(QString, Note, QString())
     MONEY_PROPERTY(GrandTotal)
-    /** The account that the money comes from or goes to, and the bank's own number of it. */
+    /** The ledger account that pays or receives the money. NoRef is the bank's own number of the payment. */
     KOR_REFERENCE(EntityBank, Bank)
     KOR_PROPERTY(QString, NoRef, QString())
 
@@ -21,7 +21,7 @@ public:
     using KorEntity::KorEntity;
 };
 
-/** One that may pay a part of each document. */
+/** A settlement that may pay a part of each document. */
 class EntityPartSettlement : public EntitySettlement
 {
     Q_OBJECT

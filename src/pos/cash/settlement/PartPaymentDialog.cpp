@@ -29,7 +29,7 @@ void PartPaymentDialog::setEntity(KorEntity* line)
     m_ui->txtDue->setMoney(minorUnits(m_due, due->getCurrency()).get());
     m_ui->txtPaid->setMoney(m_line->getAmountPaid());
     on_txtPaid_textChanged(m_ui->txtPaid->text());
-    // The first figure typed replaces what stands in the box.
+    // Typing replaces the present amount.
     m_ui->txtPaid->selectAll();
     m_ui->txtPaid->setFocus(Qt::TabFocusReason);
 }

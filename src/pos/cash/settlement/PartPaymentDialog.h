@@ -11,7 +11,7 @@ namespace Ui
 class PartPaymentDialog;
 }
 
-/** Takes the amount that is paid of one document. The line is borrowed; only getEntity() writes to it. */
+/** Asks for the amount to pay for one document. The line is borrowed; only getEntity() writes to it. */
 class PartPaymentDialog : public KorDialog
 {
     Q_OBJECT
@@ -20,7 +20,7 @@ public:
     ~PartPaymentDialog() override;
 
     bool validate() override;
-    /** More than what is due is taken only when the cashier says so again. */
+    /** Asks for confirmation if the amount is larger than what is due. */
     bool beforeAccept() override;
     KorEntity* getEntity() override;
     void setEntity(KorEntity* line) override;
@@ -32,18 +32,18 @@ protected:
     struct Words
     {
         QString title;
-        /** What the number of the document is called in the form. */
+        /** The label of the document's number. */
         QString number;
         QString wrongAmount;
     };
 
     PartPaymentDialog(const Words& words, QWidget* parent);
 
-    /** Nothing may be entered, which takes the document off the payment again. */
+    /** Also allows zero, which removes the document from the payment. */
     void allowNothing() { m_mayBeNothing = true; }
 
 private:
-    /** In minor units, as are the others. */
+    /** In minor units, like the other amounts of this class. */
     [[nodiscard]] double entered() const;
     [[nodiscard]] double remaining() const { return m_due - entered(); }
 
@@ -51,6 +51,6 @@ private:
     QString m_wrongAmount;
     bool m_mayBeNothing = false;
     EntityPartPayment* m_line = nullptr;
-    // What is due before this payment.
+    // The amount due before this payment.
     double m_due = 0;
 };

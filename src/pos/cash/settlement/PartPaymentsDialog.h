@@ -9,7 +9,7 @@
 #include <QDateEdit>
 #include <QPlainTextEdit>
 
-/** A settlement form that pays of each document as much as the cashier says. */
+/** A settlement form in which the cashier enters an amount for each document. */
 class PartPaymentsDialog : public SettlementDialog
 {
     Q_OBJECT
@@ -23,7 +23,7 @@ protected:
     [[nodiscard]] QString documentNoOf(const KorEntity& line) const final { return part(line).documentNo(); }
     [[nodiscard]] const Money* amountOf(const KorEntity& line) const final { return part(line).getAmountPaid(); }
 
-    // What the forms call alike, and their records.
+    // Fields that the forms and their records have under the same names.
     template <class Ui>
     static void offerTypes(const Ui& ui, const PaymentTypes& types)
     {

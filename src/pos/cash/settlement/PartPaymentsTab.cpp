@@ -19,7 +19,7 @@ void PartPaymentsTab::payAll()
     for (KorEntity* entity : lines()) {
         auto* line = static_cast<EntityPartPayment*>(entity);
         const Money* due = line->getAmountDue();
-        // On top of a part that was entered before, which must not get lost.
+        // Adds to an amount that was entered before.
         if (due->rawAmount() <= 0)
             continue;
         const double paid = double(line->getAmountPaid()->rawAmount()) + due->rawAmount();

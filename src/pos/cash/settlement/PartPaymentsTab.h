@@ -7,7 +7,7 @@
 class EntityPartPayment;
 class KorDialog;
 
-/** The page of a payment form: the open documents, to be paid one by one or all together. */
+/** The page of a payment form: the open documents, to be paid one by one or all at once. */
 class PartPaymentsTab : public SettlementTab
 {
     Q_OBJECT
@@ -15,11 +15,11 @@ class PartPaymentsTab : public SettlementTab
 public:
     explicit PartPaymentsTab(QWidget* parent) : SettlementTab("tblInvoice", parent) {}
 
-    /** Those of which something is paid; the others are only on offer. */
+    /** The lines with an amount; the others are only offered. */
     [[nodiscard]] QList<KorEntity*> paidLines() const;
 
 protected:
-    /** The form of one amount. */
+    /** The form for the amount of one line. */
     [[nodiscard]] virtual std::unique_ptr<KorDialog> createDialog() = 0;
 
     void paySelected();

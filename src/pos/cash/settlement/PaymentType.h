@@ -5,15 +5,15 @@
 #include <QString>
 #include <QVariant>
 
-/** How money changes hands, as payments store it. */
+/** The types of payment, as they are stored. */
 namespace PaymentType
 {
 enum PaymentType { Cash = 1, Electronic = 2, Check = 3 };
 }
 
-/** The kind in words; empty for a number that is none. */
+/** The name of the type; empty for an unknown number. */
 [[nodiscard]] QString paymentTypeText(int type);
-/** All kinds with their words, as a choice offers them. */
+/** All types with their names, for a combo box. */
 [[nodiscard]] QList<QPair<QString, QVariant>> paymentTypeRows();
-/** The same as payments to suppliers word it. */
+/** The same with the names for payments to suppliers. */
 [[nodiscard]] QList<QPair<QString, QVariant>> supplierPaymentTypeRows();

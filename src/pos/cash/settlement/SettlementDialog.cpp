@@ -80,7 +80,7 @@ void SettlementDialog::checkPerson()
 
 QString SettlementDialog::readLinesOfAnother()
 {
-    // A choice from the list arrives twice: when the focus leaves the box, and as the choice itself.
+    // A choice from the list is reported twice: when the focus leaves the field, and as the choice.
     return m_boxes.person->id() == m_readForId ? QString() : readLines();
 }
 
@@ -95,9 +95,9 @@ QString SettlementDialog::readLines()
     }
     m_readForId = errors.failed() ? KorNoValue : m_boxes.person->id();
     if (person() && m_boxes.person->id() == m_storedPersonId) {
-        // What is stored stands in the place of what is open of the same document, and shows even if nothing is.
+        // A stored line replaces the open line of its document, and is shown even if nothing is open any more.
         for (KorEntity* stored : qAsConst(m_stored)) {
-            // A document may stand in two stored lines: neither takes the other's place.
+            // Two stored lines may have the same document: neither replaces the other.
             const auto same = std::find_if(lines.begin(), lines.end(), [this, stored](KorEntity* line) {
                 return !m_stored.contains(line) && documentIdOf(*line) == documentIdOf(*stored);
             });
@@ -173,7 +173,7 @@ void SettlementDialog::checkLines()
 bool SettlementDialog::validate()
 {
     checkPerson();
-    // A database that does not answer is told once, not once a box.
+    // If the database does not answer, report that once and not per field.
     if (!m_boxes.person->couldAsk() || m_boxes.person->id() != m_readForId)
         return false;
     checkLines();

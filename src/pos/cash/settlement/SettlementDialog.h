@@ -16,9 +16,9 @@ class RecordFieldBase;
 class SettlementTab;
 
 /**
- * Base of the forms that settle what is open between the house and one person: the person's documents, an amount for
- * each, the account that gives or takes the money, and the total. Choosing the person reads the documents. A form
- * names its boxes and words and tells how its documents are read.
+ * Base of the forms that settle open amounts between the restaurant and one person: the person's open documents with an
+ * amount for each, the account that pays or receives the money, and the total. Choosing the person reads the documents.
+ * A subclass sets the fields and texts and defines how documents are read.
  */
 class SettlementDialog : public KorDialog
 {
@@ -36,7 +36,7 @@ public slots:
 protected:
     struct Boxes
     {
-        /** Names an EntityContact. */
+        /** The field for an EntityContact. */
         RecordFieldBase* person;
         QDateEdit* date;
         QLineEdit* account;
@@ -49,53 +49,53 @@ protected:
     {
         QString noPerson;
         QString noDocument;
-        /** With the number of the document as %1. */
+        /** %1 is the number of the document. */
         QString unpaidDocument;
-        /** Empty where the account may be left out. */
+        /** Empty if the account is optional. */
         QString noAccount;
         QString unknownAccount;
     };
 
-    // What a form tells.
-    /** Shows what the form tells of the person besides code and name; null when the box names nobody. */
+    // Defined by subclasses.
+    /** Shows further details of the person; null if no person is chosen. */
     virtual void showPerson(const EntityContact* person) { Q_UNUSED(person) }
-    /** A line for each open document of the person. */
+    /** One line per open document of the person. */
     [[nodiscard]] virtual QList<KorEntity*> readOpenLines(const EntityContact& person) = 0;
     [[nodiscard]] virtual int documentIdOf(const KorEntity& line) const = 0;
     [[nodiscard]] virtual QString documentNoOf(const KorEntity& line) const = 0;
     [[nodiscard]] virtual const Money* amountOf(const KorEntity& line) const = 0;
-    /** The line that is told to lack its amount, null where none does; asked only when there are lines. */
+    /** A line whose amount is missing, for the error text; null if there is none. Called only if there are lines. */
     [[nodiscard]] virtual const KorEntity* lineWithoutAmount() const = 0;
-    /** Reports what is wrong with the lines; by default that there is none, or one without its amount. */
+    /** Adds errors about the lines; by default if there are none or an amount is missing. */
     virtual void checkLines();
     /** What the form pays besides its lines, in minor units. */
     [[nodiscard]] virtual qint64 furtherAmount() const { return 0; }
-    /** Reports what is wrong with further amounts of the form. */
+    /** Adds errors about further amounts of the form. */
     virtual void checkAmounts() {}
-    /** The total has changed. */
+    /** Called when the total has changed. */
     virtual void totalChanged() {}
 
-    /** To be called once, at the end of the form's constructor; the service is that of the lines. */
+    /** Call it once, at the end of the constructor. "documents" is the service that reads the lines. */
     void setUpSettlement(const Boxes& boxes, const Words& words, SettlementTab* page, KorBusinessLogic* documents);
-    /** A second page, whose amounts are part of the total. */
+    /** Adds a second page, whose amounts are part of the total. */
     void addLinesPage(AppLinesTab* page, Qt::Key key);
-    /** Shows the person with what is open; the person is borrowed. Null shows an empty form. */
+    /** Shows the person, which is borrowed, with the open documents. Null shows an empty form. */
     void takePerson(EntityContact* person);
-    /** Shows what is open by now; amounts that were entered and not saved are gone. */
+    /** Reads the open documents again. Unsaved amounts are lost. */
     void readAgain();
-    /** Shows what a stored settlement settles; with the person's other open documents on offer, or alone. */
+    /** Shows a stored settlement, with or without the person's other open documents. */
     void showStored(EntityContact* person, const QList<KorEntity*>& lines, bool offerOthers);
 
     [[nodiscard]] EntityContact* person() const;
     [[nodiscard]] AccountField* accountField() const { return m_account; }
-    /** What all lines come to, in minor units. */
+    /** The sum of all lines and of furtherAmount(), in minor units. */
     [[nodiscard]] qint64 sum() const;
-    /** Of the stored lines, those that are not among the ones that the record takes now. */
+    /** The stored lines that are not in the given list. */
     [[nodiscard]] QList<KorEntity*> removedLines(const QList<KorEntity*>& taken) const;
 
 private:
     void checkPerson();
-    // What failed, or nothing.
+    // Both return the error text, or an empty text.
     [[nodiscard]] QString readLines();
     [[nodiscard]] QString readLinesOfAnother();
     void showTotal();
@@ -107,7 +107,7 @@ private:
     KorBusinessLogic* m_documents = nullptr;
     // The open documents of the person.
     EntityPool m_open;
-    // Whose documents are shown; KorNoValue also when they could not be read.
+    // The person whose documents are shown; KorNoValue also if they could not be read.
     int m_readForId = KorNoValue;
     int m_storedPersonId = KorNoValue;
     QList<KorEntity*> m_stored;

@@ -33,7 +33,7 @@ QPushButton* SettlementTab::addButton(const QString& name, const QString& text, 
     button->setObjectName(name);
     button->setShortcut(QKeySequence(shortcut));
     button->setToolTip(QString("%1 (%2)").arg(text, shortcut));
-    // Return in a field of the form confirms the form, whatever buttons its pages have.
+    // Return in a field must confirm the form and not press a button of a page.
     button->setAutoDefault(false);
     m_buttons->insertWidget(m_buttons->indexOf(m_count), button);
     return button;
@@ -52,7 +52,7 @@ QList<KorEntity*> SettlementTab::selectedLines() const { return selectedEntities
 void SettlementTab::linesChanged()
 {
     const int row = m_grid->currentIndex().row();
-    // The former model goes without clear(): the lines are not its own.
+    // No clear(): it would delete the lines, which do not belong to the model.
     const KorEntityModel* former = m_model;
     m_model = createModel(m_lines);
     applyModel(m_grid, m_model);

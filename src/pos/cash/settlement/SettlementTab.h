@@ -9,10 +9,7 @@ class QLabel;
 class QPushButton;
 class QTableView;
 
-/**
- * The page of a settlement form that lists what is settled: a line for each document, with its amount. The lines are
- * borrowed.
- */
+/** The page of a settlement form with one line per document and its amount. The lines are borrowed. */
 class SettlementTab : public AppTab
 {
     Q_OBJECT
@@ -25,17 +22,17 @@ public:
     void focusGrid();
 
 signals:
-    /** An amount has changed, or the lines have. */
+    /** The lines or an amount have changed. */
     void Paid();
 
 protected:
     [[nodiscard]] virtual KorEntityModel* createModel(const QList<KorEntity*>& lines) = 0;
 
-    /** A button below the list; the caller connects it. */
+    /** Adds a button below the list; the caller connects it. */
     QPushButton* addButton(const QString& name, const QString& text, const QString& icon, const QString& shortcut);
     void setWidths(const QList<int>& widths) { m_widths = widths; }
     [[nodiscard]] QList<KorEntity*> selectedLines() const;
-    /** Shows the lines as they are now, on the row where the cursor was, and tells that an amount has changed. */
+    /** Shows the changed lines, keeps the current row and emits Paid(). */
     void linesChanged();
 
 private:

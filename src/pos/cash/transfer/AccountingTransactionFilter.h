@@ -2,7 +2,7 @@
 
 #include <QDate>
 
-/** The period of a list of transfers; both dates count. */
+/** The period of a list of transfers; both dates are inclusive. */
 struct AccountingTransactionFilter
 {
     QDate fromDate;

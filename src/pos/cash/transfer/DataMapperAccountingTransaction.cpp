@@ -21,7 +21,8 @@ DataMapperAccountingTransaction::DataMapperAccountingTransaction(QObject* parent
     moneyColumns("amount", "Amount");
     addJoin("FromAccount", accounts, "inner", "from_account_id", "id", "from_account");
     addJoin("ToAccount", accounts, "inner", "to_account_id", "id", "to_account");
-    // Left, so that a row that no user entered is still listed. The creator's column is not the table's own: no key.
+    // A left join, so that rows without a known user are also listed. It gives no foreign key: "createdby" is no own
+    // column.
     addJoin("User", users, "left", "createdby", "id");
     addJoin("Group", groups, "left", "users.user_group_id", "id");
 }

@@ -31,7 +31,7 @@ DialogTransaction::~DialogTransaction() = default;
 
 void DialogTransaction::onFromAccountSelected()
 {
-    // Whoever has walked on to another field stays there.
+    // Do not move the focus if the user has already gone to another field.
     if (m_ui->txtFromAccount->hasFocus())
         m_ui->txtToAccount->setFocus();
 }

@@ -16,7 +16,7 @@ class EntityAccountingTransaction : public KorEntity
     KOR_REFERENCE(EntityBank, FromAccount)
     KOR_REFERENCE(EntityBank, ToAccount)
     MONEY_PROPERTY(Amount)
-    /** Who entered it; read with the row, not written. */
+    /** The user who entered it; read with the row, not written. */
     KOR_REFERENCE(EntityUser, User)
 
 public:

@@ -2,7 +2,7 @@
 
 #include "pos/cash/entry/CutTextModel.h"
 
-/** Transfers between accounts as their page shows them. */
+/** The rows of the list of transfers. */
 class TableModelAccountingTransaction final : public CutTextModel
 {
     Q_OBJECT

@@ -19,7 +19,7 @@ DialogInventoryAdj::DialogInventoryAdj(QWidget* parent)
     m_ui->setupUi(this);
     m_item = new ItemField(m_ui->txtKode, m_ui->txtNama, this);
     connect(m_item, &ItemField::chosen, this, &DialogInventoryAdj::onItemSelected);
-    // Another code was typed: what stood beside the former one is no longer true.
+    // The user has typed another code: the shown quantity is no longer right.
     connect(m_ui->txtKode, &QLineEdit::textEdited, this, &DialogInventoryAdj::readQuantityBefore);
     m_source = new AccountField(m_ui->txtSourceAccount, m_ui->lblSource, this);
     m_source->box()->setNextWidget(m_ui->buttonBox->button(QDialogButtonBox::Ok));
@@ -76,7 +76,7 @@ bool DialogInventoryAdj::settleDay()
         return answer == QMessageBox::No;
     const int before = m_before;
     m_ui->dateQtyOnHand->setDate(next);
-    // Another quantity on hand than the one that was adjusted is looked at before it is saved.
+    // If the new day has another quantity on hand, the user must see it before saving.
     return m_before == before && !m_ui->txtQtyOnHand->text().isEmpty();
 }
 

@@ -12,7 +12,7 @@ namespace Ui
 class DialogInventoryAdj;
 }
 
-/** The entry form of an adjustment: what is on hand by the books, and by how much the count differs. */
+/** The entry form of an adjustment: the quantity on hand as calculated, and the difference found by counting. */
 class DialogInventoryAdj final : public KorDialog
 {
     Q_OBJECT
@@ -36,7 +36,9 @@ private slots:
     void on_ddlReason_currentIndexChanged(int);
 
 private:
-    /** A count on a day that has movements is wrong by them: offers the next day. False when it is not to be saved yet.
+    /**
+     * An adjustment on a day with movements would count them twice, so this offers the next day. False if the form must
+     * not be saved yet.
      */
     bool settleDay();
     void readQuantityBefore();

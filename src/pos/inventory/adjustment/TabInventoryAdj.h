@@ -7,7 +7,7 @@
 
 class ItemTextBox;
 
-/** The list of the stock's adjustments. None is edited: a wrong one is deleted and entered again. */
+/** The list of stock adjustments. They cannot be edited: delete a wrong one and enter it again. */
 class TabInventoryAdj final : public AppFamilyTab<BusinessInventory, TableModelInventoryAdj, DialogInventoryAdj>
 {
     Q_OBJECT

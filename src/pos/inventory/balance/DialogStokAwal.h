@@ -11,7 +11,7 @@ namespace Ui
 class DialogStokAwal;
 }
 
-/** The entry form of an item's beginning balance. The item of a balance that exists stays what it is. */
+/** The entry form of an item's beginning balance. The item of an existing balance cannot be changed. */
 class DialogStokAwal final : public KorDialog
 {
     Q_OBJECT
@@ -24,7 +24,7 @@ public:
     void setEntity(KorEntity* entity) override;
 
 private slots:
-    /** Proposes the item's own unit cost. */
+    /** Proposes the item's unit cost. */
     void onItemSelected();
 
 private:

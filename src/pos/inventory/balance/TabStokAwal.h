@@ -16,7 +16,7 @@ public:
     explicit TabStokAwal(QWidget* parent = nullptr);
 
 protected:
-    // One right covers adding and editing; a balance goes with its item and is never deleted alone.
+    // One right covers adding and editing. A balance is deleted only together with its item.
     [[nodiscard]] int editKey() const override { return BusinessStokAwal::UPDATE_STOK_AWAL; }
     [[nodiscard]] int deleteKey() const override { return BusinessStokAwal::UPDATE_STOK_AWAL; }
     [[nodiscard]] QString deleteQuestion(const KorEntity*) const override { return {}; }

@@ -5,7 +5,7 @@
 
 namespace
 {
-/** Reckoned as a plain number: a whole storeroom may be worth more than one amount of money can hold. */
+/** Not Money: the value of a whole storeroom may exceed what Money can hold. */
 QString totalCost(const EntityStokAwal& balance, const QLocale& locale)
 {
     const Money* cost = balance.getHarga();

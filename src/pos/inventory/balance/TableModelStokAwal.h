@@ -2,6 +2,7 @@
 
 #include "app/widgets/AppEntityModel.h"
 
+/** The rows of the list of beginning balances. */
 class TableModelStokAwal final : public AppEntityModel
 {
     Q_OBJECT

@@ -141,7 +141,7 @@ EntityItemHistory* BusinessInventory::beginningRow(int itemId)
 {
     auto* row = new EntityItemHistory(AppDataMapper::entityParent());
     row->setTransType(EntityItemHistory::BEGINING_BALANCE);
-    // Rows that came from elsewhere may lack their balance.
+    // Imported items may have no balance.
     if (const EntityStokAwal* balance = read(m_balances->findByItemId(itemId), m_balances, "findAllKartuStok")) {
         row->setQtyIn(balance->getJumlah());
         row->setQtyRemain(balance->getJumlah());

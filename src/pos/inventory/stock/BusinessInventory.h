@@ -10,7 +10,7 @@ struct ItemHistoryFilter;
 class DataMapperStockTake;
 class DataMapperStokAwal;
 
-/** The service of the stock: how much of an item is on hand, and the adjustments that fix it. */
+/** The service of the stock: the quantity on hand of an item, adjustments, and the stock card. */
 class BusinessInventory final : public KorBusinessLogic, public ItemStock
 {
     Q_OBJECT
@@ -24,13 +24,13 @@ public:
                       DataMapperItemHistory* history);
 
     [[nodiscard]] QList<KorPermission> getPermissions() const override;
-    /** Forgets adjustments and journal, and sets every beginning balance to nothing. */
+    /** Deletes adjustments and journal and sets every beginning balance to zero. */
     bool clearTransactions() override;
 
     /**
-     * What the last count at or before the date found, or else the beginning balance, with all that moved since. What
-     * moved on the day of the count counts on top of it. Nothing keeps the figure from being negative. After a failure
-     * it is worth nothing, and the service holds the error.
+     * The quantity of the last adjustment at or before the date, or else the beginning balance, plus all movements
+     * since, including those on the day of the adjustment. It may be negative. After a failure the result is wrong and
+     * the service has the error.
      */
     [[nodiscard]] int getQuantityOnHand(const KorEntity* item, const QDate& date);
     struct Movements
@@ -41,30 +41,34 @@ public:
 
         [[nodiscard]] bool isEmpty() const { return acquired == 0 && used == 0 && returned == 0; }
     };
-    /** What comes on top of a count that is dated on this day; after a failure the service holds the error. */
+    /**
+     * The movements on this day, which count on top of an adjustment on the same day. Errors are kept in the service.
+     */
     [[nodiscard]] Movements movementsOf(const KorEntity* item, const QDate& day);
-    /** The same figure for every item, by its id, in one statement. */
+    /** The same for every item by id, with one statement. */
     [[nodiscard]] QHash<int, int> quantitiesOnHand(const QDate& date) override;
 
     /** The adjustments of the item with this code; all of them for an empty code. */
     [[nodiscard]] QList<KorEntity*> findAll(const QString& code);
-    /** Saves the adjustment and its row in the journal; when only the row fails, the adjustment stays all the same. */
+    /** Saves the adjustment, then its row in the journal. If only the row fails, the adjustment stays saved. */
     bool addInventoryAdjustment(EntityStockTake* take);
     bool stockTakeRemove(EntityStockTake* take);
-    /** After either was false: the adjustment itself is saved, or gone, and only its row in the journal lags behind. */
+    /**
+     * After either returned false: true if only the journal row failed, and the adjustment itself is saved or deleted.
+     */
     [[nodiscard]] bool onlyJournalLags() const { return m_onlyJournalLags; }
-    /** Writes, or removes, that row. */
+    /** Retries writing or deleting the journal row. */
     bool finishAdjustment(EntityStockTake* take) { return writeMovement(take, "addInventoryAdjustment"); }
     bool finishRemoval(EntityStockTake* take) { return removeMovement(take, "stockTakeRemove"); }
 
     /**
-     * The stock card of an item: its beginning balance, then the journal's rows of the period with the running
-     * balance. The balance always begins in full, whatever moved before the period. Without an item there is none.
+     * The stock card of an item: its beginning balance, then the journal rows of the period with the running balance.
+     * It always starts with the full beginning balance and ignores movements before the period. Empty without an item.
      */
     [[nodiscard]] QList<EntityItemHistory*> findAllKartuStok(const ItemHistoryFilter& filter);
 
 private:
-    /** From a day on where one is given, otherwise from the beginning; both limits count. */
+    /** Both dates are inclusive; an invalid first date means from the beginning. */
     [[nodiscard]] Movements movements(const KorEntity* item, const QDate& from, const QDate& to,
                                       const QString& operation);
     bool writeMovement(EntityStockTake* take, const QString& operation);

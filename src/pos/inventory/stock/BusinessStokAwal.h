@@ -18,9 +18,9 @@ public:
 
     [[nodiscard]] QList<KorPermission> getPermissions() const override;
     bool clearTransactions() override;
-    /** An item has one balance: that another workstation was faster is told in so many words. */
+    /** An item has only one balance. If another workstation was faster, the error says that the balance exists. */
     bool insert(KorEntity* balance) override;
-    /** Gives the item this balance, whether it has a row already or not. */
+    /** Sets the item's balance; inserts or updates its row. */
     bool enter(EntityStokAwal* balance);
 
     [[nodiscard]] QList<KorEntity*> findAll(const QString& code);

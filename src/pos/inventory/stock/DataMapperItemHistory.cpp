@@ -56,7 +56,7 @@ void DataMapperItemHistory::fill(EntityItemHistory& row, const ItemMovement& mov
     row.setItem(movement.item);
     row.setQtyIn(movement.quantityIn);
     row.setQtyOut(movement.quantityOut);
-    // An item that came without a price still has to stand on the card.
+    // An item without a price must be on the card, too.
     row.setUnitPrice(movement.unitPrice ? movement.unitPrice : new Money(&row, 0, QString()));
     row.setDate(movement.date);
     row.setNo(movement.number);

@@ -12,7 +12,7 @@ class EntityItem;
 class EntityItemHistory;
 class Money;
 
-/** Which lines a stock card shows: a date that is not given sets no limit, KorNoValue stands for no item. */
+/** The filter of a stock card: an invalid date sets no limit, KorNoValue means no item. */
 struct ItemHistoryFilter
 {
     QDate startDate;
@@ -20,12 +20,12 @@ struct ItemHistoryFilter
     int itemId = KorNoValue;
 };
 
-/** What one line of a document did to an item's stock: the row that the journal keeps of it. */
+/** How one line of a document changed an item's stock; saved as one row of the journal. */
 struct ItemMovement
 {
     /** One of EntityItemHistory::TRANS_TYPE. */
     int transType;
-    /** The row of the document's line; with the type it names the journal's row. */
+    /** The id of the document's line. The type and this id identify the journal row. */
     int lineId;
     EntityItem* item;
     int quantityIn;
@@ -48,15 +48,15 @@ public:
     [[nodiscard]] QStringList indexStatements() const override;
 
     [[nodiscard]] EntityItemHistory* findByTrans(int transType, int transId);
-    /** In the order of the dates, and on one date in the order of entry. */
+    /** Sorted by date, then in order of entry. */
     [[nodiscard]] QList<EntityItemHistory*> findAll(const ItemHistoryFilter& filter);
 
-    // For the services of the documents; written(journal->write(...), journal, "update") keeps a failure's text.
-    /** Makes the rows of new lines, all or none, in one trip. */
+    // For the services of documents. Use written(journal->write(...), journal, "update"), so that the error is kept.
+    /** Inserts the rows of new lines in one round trip; all or none. */
     [[nodiscard]] bool addAll(const QList<ItemMovement>& movements);
-    /** Fills the row of a changed line anew, or makes it where the line has none. */
+    /** Updates the row of a changed line, or inserts it if it does not exist. */
     [[nodiscard]] bool write(const ItemMovement& movement);
-    /** Removes the row of a line that is gone; a line without a row is as good. */
+    /** Deletes the row of a deleted line; true also if there is none. */
     [[nodiscard]] bool removeLine(int transType, int lineId);
 
 private:

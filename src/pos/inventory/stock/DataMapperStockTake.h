@@ -21,8 +21,8 @@ public:
     [[nodiscard]] QList<KorMigration*> migrations() override;
     [[nodiscard]] QStringList indexStatements() const override;
 
-    /** The adjustments of the item with this code, whatever its letters' case; all of them for an empty code. */
+    /** The adjustments of the item with this code, ignoring case; all of them for an empty code. */
     [[nodiscard]] QList<KorEntity*> findAll(const QString& code);
-    /** The latest at or before the date; of several on one day the one that was entered last. */
+    /** The latest adjustment at or before the date; of several on one day, the one entered last. */
     [[nodiscard]] EntityStockTake* getLastStockTake(const KorEntity* item, const QDate& date);
 };

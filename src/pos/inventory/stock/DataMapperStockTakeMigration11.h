@@ -2,6 +2,7 @@
 
 #include "kor/persistence/KorMigration.h"
 
+/** Version 1.1 widened the account code of stock adjustments. */
 class DataMapperStockTakeMigration11 final : public KorStatementMigration11
 {
     Q_OBJECT

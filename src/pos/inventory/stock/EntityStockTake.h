@@ -5,7 +5,7 @@
 
 #include <QDate>
 
-/** An adjustment: it fixes the quantity of an item at a date, so that only what follows it counts. */
+/** An adjustment: sets the quantity of an item at a date. Movements from that day on count on top of it. */
 class EntityStockTake : public KorEntity
 {
     Q_OBJECT
@@ -17,7 +17,7 @@ class EntityStockTake : public KorEntity
     KOR_PROPERTY(int, QtyBefore, 0)
     /** The difference, with its sign. */
     KOR_PROPERTY(int, QtyAdj, 0)
-    /** The code of the account that bears the difference. */
+    /** The code of the account that the difference is booked to. */
     KOR_PROPERTY(QString, SourceAcctCode, QString(""))
 
 public:

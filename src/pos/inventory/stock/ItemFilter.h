@@ -6,7 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 
-/** Makes the filter of a list page a box for the code of an item. */
+/** Turns the filter of a list page into a field for an item's code. */
 [[nodiscard]] inline ItemTextBox* itemFilter(const QWidget& page, QLabel& label)
 {
     auto* code = page.findChild<QLineEdit*>("txtFilter");

@@ -7,7 +7,7 @@
 
 namespace
 {
-/** A returned note that was cancelled moved nothing. */
+/** The status of a cancelled credit note, which does not move stock. */
 constexpr int cancelledNote = 4;
 
 const char* const heads[] = {
@@ -20,7 +20,7 @@ const char* const heads[] = {
     "credit_note_date",
 };
 
-/** One kind of movement summed by item: from the item's last count, or from the beginning without one. */
+/** The SQL of one kind of movement, summed by item since the item's last adjustment or from the beginning. */
 QString movedByItem(const QString& master, const QString& line, const QString& key, const QString& quantity,
                     const QString& date, const QString& condition = QString())
 {
@@ -52,7 +52,7 @@ bool StockMovements::quantity(KorQuery& query, Kind kind, int itemId, const QDat
         query.bindValue(":status_canceled", cancelledNote);
     if (!query.exec())
         return false;
-    // Nothing moved: the sum of no lines is NULL.
+    // The sum of no lines is NULL, which becomes 0.
     quantity = query.next() ? query.value(0).toInt() : 0;
     return true;
 }

@@ -27,7 +27,8 @@ TabKartuStok::TabKartuStok(QWidget* parent) : AppListTab({tr("Item History"), "t
 
 TabKartuStok::~TabKartuStok()
 {
-    // A page that goes while its box has the focus leaves the box, and must not look a code up then.
+    // If the page is deleted while the field has the focus, the field loses it and would look up its code. So delete it
+    // first.
     delete m_item;
 }
 
@@ -74,14 +75,14 @@ void TabKartuStok::onItemSelected()
 {
     const QPointer<QWidget> next = QApplication::focusWidget();
     refresh();
-    // Whoever has walked on to another field stays there.
+    // Keep the focus if the user has already gone to another field.
     if (next && next != m_item->box()->editor())
         next->setFocus();
 }
 
 QList<KorEntity*> TabKartuStok::readRows(const QString&)
 {
-    // A code that nobody has is no item.
+    // An unknown code means no item.
     const int itemId = m_item->filterId(business()) > 0 ? m_item->id() : KorNoValue;
     QList<KorEntity*> rows;
     for (EntityItemHistory* row :

@@ -5,7 +5,7 @@
 class ItemField;
 class QDateEdit;
 
-/** The stock card: what came in and went out of one item in a period. It is for reading only. */
+/** The stock card: the movements of one item in a period; read-only. */
 class TabKartuStok final : public AppListTab
 {
     Q_OBJECT

@@ -10,6 +10,6 @@ class TableModelKartuStok final : public AppEntityModel
 public:
     TableModelKartuStok(const QList<KorEntity*>& rows, QObject* parent);
 
-    /** What the card calls a kind of movement. */
+    /** The name of a kind of movement on the card. */
     [[nodiscard]] static QString typeText(int transType);
 };

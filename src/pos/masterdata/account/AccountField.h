@@ -6,7 +6,7 @@
 
 #include <QLabel>
 
-/** The box of a form in which an account is named, with its name beside it. */
+/** The field of a form for an account's code, with the account's name. */
 class AccountField final : public RecordField<EntityBank>
 {
 public:

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/** The types of ledger accounts; the numbers are what the database holds. */
+/** The types of ledger accounts, with the numbers stored in the database. */
 enum AccountType {
     CashAccount = 1,
     AccountsPayableAccount,
@@ -15,5 +15,5 @@ enum AccountType {
     CostOfSalesAccount
 };
 
-/** The name of the type as lists show it; empty for a number that is none. */
+/** The name of the type in lists; empty for an unknown number. */
 [[nodiscard]] QString accountTypeText(int type);

@@ -3,7 +3,7 @@
 #include "app/widgets/AppEntityTextBox.h"
 #include "pos/masterdata/account/BusinessBank.h"
 
-/** Makes a line edit find accounts of the ledger. */
+/** A lookup box for ledger accounts. */
 class BankTextBox final : public AppMasterTextBox<EntityBank, BusinessBank>
 {
     Q_OBJECT

@@ -18,7 +18,7 @@ public:
 
     [[nodiscard]] QList<KorPermission> getPermissions() const override;
 
-    // The accounts that the program books on without being configured; the installer lays them down.
+    // The accounts that the program uses without a setting; the installer inserts them.
     [[nodiscard]] static QString cashOnHandCode() { return "1010"; }
     [[nodiscard]] EntityBank* cashOnHand() { return findByCode(cashOnHandCode()); }
     [[nodiscard]] EntityBank* checkingAccount() { return findByCode("1020"); }

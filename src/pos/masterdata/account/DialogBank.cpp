@@ -34,7 +34,7 @@ bool DialogBank::validate()
 void DialogBank::setEntity(KorEntity* entity)
 {
     KorDialog::setEntity(entity);
-    // A type that the form does not offer leaves the first entry, and saving makes it the account's type.
+    // An unknown type selects the first entry, which is then saved as the account's type.
     if (m_ui->ddlType->currentIndex() < 0)
         m_ui->ddlType->setCurrentIndex(0);
 }

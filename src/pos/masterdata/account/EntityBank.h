@@ -3,7 +3,7 @@
 #include "kor/entity/KorEntity.h"
 #include "pos/masterdata/account/AccountType.h"
 
-/** An account of the ledger; despite the name, banks are only some of them. */
+/** A ledger account. Despite the name, only some of them are banks. */
 class EntityBank : public KorEntity
 {
     Q_OBJECT

@@ -3,7 +3,7 @@
 #include "app/widgets/AppEntityTextBox.h"
 #include "pos/masterdata/agent/BusinessAgent.h"
 
-/** Makes a line edit find agents. */
+/** A lookup box for agents. */
 class AgentTextBox final : public AppMasterTextBox<EntityAgent, BusinessAgent>
 {
     Q_OBJECT

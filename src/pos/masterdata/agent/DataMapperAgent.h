@@ -2,7 +2,7 @@
 
 #include "pos/masterdata/contact/ContactMapper.h"
 
-/** The agents, in the table "agent"; their list keeps the order of the database. */
+/** The agents, in the table "agent"; their list is not sorted. */
 class DataMapperAgent final : public ContactMapper
 {
     Q_OBJECT

@@ -20,10 +20,10 @@ bool DialogAgent::validate()
                                              tr("This agent code already used, please choose another code"),
                                              tr("Enter the agent name"), tr("Enter the address"),
                                              tr("Enter the telp no"), tr("Enter the correct email address")});
-    // No share was meant; the box shows what is stored.
+    // An empty field means no commission; show the 0 that is stored.
     if (m_ui->txtPerc->text().isEmpty())
         m_ui->txtPerc->setValue(0.0);
-    // What is no number would leave the former share standing behind the user's back.
+    // An invalid number is an error; otherwise the old commission would stay without the user noticing.
     const double commission = m_ui->txtPerc->value();
     if (!m_ui->txtPerc->isValid() || commission < 0 || commission > 100)
         addError(m_ui->txtPerc, tr("Enter the number between 0-100"));

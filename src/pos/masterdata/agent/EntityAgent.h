@@ -2,7 +2,7 @@
 
 #include "pos/masterdata/contact/EntityPayee.h"
 
-/** One who brings guests and gets a share, in percent, of what they spend. */
+/** A person who brings guests and gets a commission, in percent of what they spend. */
 class EntityAgent : public EntityPayee
 {
     Q_OBJECT

@@ -19,12 +19,12 @@ public:
 
     [[nodiscard]] QList<KorPermission> getPermissions() const override;
 
-    /** The profile with its logo, which belongs to it; null where nobody entered one yet. */
+    /** The profile with its logo, which it owns; null if none was entered yet. */
     [[nodiscard]] EntityDataPerusahaan* getData();
-    /** Saves the profile and its logo, both or neither. */
+    /** Saves the profile and its logo in one transaction. */
     bool updateData(EntityDataPerusahaan* profile);
 
-    /** The name under which the logo is kept. */
+    /** The name of the logo in the table of pictures. */
     [[nodiscard]] static QString logoName() { return QStringLiteral("company_logo"); }
 
 private:

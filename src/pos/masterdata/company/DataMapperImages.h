@@ -15,6 +15,6 @@ public:
     KorEntity* createEntity() override;
 
     [[nodiscard]] EntityImage* findByName(const QString& name);
-    /** Writes a new picture or a changed one; one without data is refused. */
+    /** Inserts or updates a picture; false if it has no data. */
     bool save(EntityImage* image);
 };

@@ -27,7 +27,7 @@ private slots:
     void on_btnClear_clicked();
 
 private:
-    /** The bytes of the chosen file, or else of the picture that the label holds; null when it holds none. */
+    /** The bytes of the chosen file, or else of the picture in the label; null if there is none. */
     [[nodiscard]] QByteArray logoBytes() const;
 
     std::unique_ptr<Ui::DialogDataPerusahaan> m_ui;

@@ -3,7 +3,7 @@
 #include "kor/entity/KorEntity.h"
 #include "pos/masterdata/company/EntityImage.h"
 
-/** The restaurant's own data, which the bills print. */
+/** Name, address and logo of the restaurant, as printed on bills. */
 class EntityDataPerusahaan : public KorEntity
 {
     Q_OBJECT
@@ -13,7 +13,7 @@ class EntityDataPerusahaan : public KorEntity
     KOR_PROPERTY(QString, Fax, QString())
     KOR_PROPERTY(QString, NPWP, QString())
     KOR_PROPERTY(QString, TanggalPKP, QString())
-    /** A row of its own in the table of pictures. */
+    /** A row in the table of pictures. */
     KOR_REFERENCE(EntityImage, Logo)
 
 public:

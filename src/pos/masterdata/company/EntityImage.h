@@ -4,7 +4,7 @@
 
 #include <QByteArray>
 
-/** A picture that the program keeps, as PNG, under a name. */
+/** A stored picture: PNG data and a name. */
 class EntityImage : public KorEntity
 {
     Q_OBJECT

@@ -3,7 +3,7 @@
 #include <QLabel>
 #include <QPixmap>
 
-/** A label that holds a picture in its full size and shows it as large as the label allows, in its proportions. */
+/** A label that keeps a picture in full size and shows it scaled to the label, with its aspect ratio. */
 class QPictureLabel : public QLabel
 {
     Q_OBJECT
@@ -11,11 +11,11 @@ class QPictureLabel : public QLabel
 public:
     explicit QPictureLabel(QWidget* parent = nullptr);
 
-    /** The picture itself, not what is shown of it; null for an empty label. */
+    /** The picture in full size; null if there is none. */
     [[nodiscard]] const QPixmap& image() const { return m_image; }
     void setImage(const QPixmap& image);
 
-    // The label's size rules the picture's, never the other way round.
+    // The picture must not change the size of the label.
     [[nodiscard]] QSize sizeHint() const override { return minimumSize(); }
     [[nodiscard]] QSize minimumSizeHint() const override { return minimumSize(); }
 

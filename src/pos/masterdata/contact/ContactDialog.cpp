@@ -10,7 +10,7 @@ void limitLength(QPlainTextEdit* field, int maximum)
         const int surplus = field->toPlainText().size() - maximum;
         if (surplus <= 0)
             return;
-        // What was typed or pasted last goes; the cursor stands behind it.
+        // Remove what was just typed or pasted: it is before the cursor.
         QTextCursor cursor = field->textCursor();
         cursor.movePosition(QTextCursor::PreviousCharacter, QTextCursor::KeepAnchor, surplus);
         cursor.removeSelectedText();

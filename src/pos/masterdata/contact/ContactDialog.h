@@ -6,10 +6,10 @@
 class QLabel;
 class QPlainTextEdit;
 
-/** Keeps a text of several lines within what its column takes, as a line edit does by itself. */
+/** Limits the length of a multi-line text to the width of its column; a line edit can do that by itself. */
 void limitLength(QPlainTextEdit* field, int maximum);
 
-/** Base of the contacts' entry forms: the fields that all of them have, and the rules for these. */
+/** Base of the entry forms of contacts: their common fields and checks. */
 class ContactDialog : public KorDialog
 {
     Q_OBJECT
@@ -18,7 +18,7 @@ public:
     using KorDialog::KorDialog;
 
 protected:
-    /** What the form says about a field that is empty, taken or wrong. */
+    /** The error texts for fields that are empty, already used or wrong. */
     struct Messages
     {
         QString noCode;
@@ -29,7 +29,7 @@ protected:
         QString wrongEmail;
     };
 
-    /** Takes the fields of a form that has been set up; all of the contacts' forms give them the same names. */
+    /** Call it after setupUi(); all contact forms use the same names for these fields. */
     template <class Contact, class Form>
     void useContactFields(const Form& form, QLabel* id)
     {

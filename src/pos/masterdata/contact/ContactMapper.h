@@ -4,7 +4,7 @@
 
 class DataMapperBank;
 
-/** Mapper of a contact: the columns that all of them have, and those of the ones that get paid. */
+/** Base of the mappers of contacts: their common columns, and those of payees. */
 class ContactMapper : public AppMasterMapper
 {
     Q_OBJECT
@@ -14,10 +14,10 @@ public:
 
 protected:
     void contactColumns(const QString& table, const QString& emailType);
-    /** The account columns of a payee; two of the types are worded by the table. */
+    /** Declares the account columns of a payee. The SQL types of two columns differ between tables. */
     void payeeColumns(DataMapperBank* bankMapper, const QString& nameType, const QString& notesType);
 
-    // Qualified, as a payee's list joins the accounts, which have a code and a name of their own.
+    // Qualified, because the payees' list joins the accounts, which have the same columns.
     [[nodiscard]] QString codeColumn() const override { return tableName() + ".kode"; }
     [[nodiscard]] QString nameColumn() const override { return tableName() + ".nama"; }
 };

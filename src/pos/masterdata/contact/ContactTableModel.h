@@ -2,7 +2,7 @@
 
 #include "kor/widgets/KorEntityModel.h"
 
-/** The rows of a list of contacts: who it is and how to reach them. */
+/** The rows of a list of contacts. */
 class ContactTableModel : public KorEntityModel
 {
     Q_OBJECT

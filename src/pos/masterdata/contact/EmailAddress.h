@@ -2,5 +2,5 @@
 
 #include <QString>
 
-/** Whether the whole text has the form of an e-mail address with a top level of two to four letters. */
+/** True if the whole text is an e-mail address with a top-level domain of two to four letters. */
 [[nodiscard]] bool isEmailAddress(const QString& text);

@@ -2,7 +2,7 @@
 
 #include "kor/entity/KorEntity.h"
 
-/** What suppliers, members, agents and employees share: a code, a name and how to reach them. */
+/** Base of suppliers, members, agents and employees: code, name, address and so on. */
 class EntityContact : public KorEntity
 {
     Q_OBJECT

@@ -3,7 +3,7 @@
 #include "pos/masterdata/account/EntityBank.h"
 #include "pos/masterdata/contact/EntityContact.h"
 
-/** A contact that gets paid: its account of the ledger and its account at a bank. */
+/** A contact that gets paid: its ledger account and its bank account. */
 class EntityPayee : public EntityContact
 {
     Q_OBJECT

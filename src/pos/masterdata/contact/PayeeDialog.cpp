@@ -24,7 +24,7 @@ KorEntity* PayeeDialog::getEntity()
 {
     ContactDialog::getEntity();
     auto* payee = held<EntityPayee>();
-    // The entry "none" stands before the accounts.
+    // The first entry of the list is "none".
     payee->setBank(static_cast<EntityBank*>(m_accounts.value(m_account->currentIndex() - 1)));
     return payee;
 }

@@ -5,7 +5,7 @@
 
 class QComboBox;
 
-/** Base of the entry forms of contacts that get paid: which account of the ledger, and which at a bank. */
+/** Base of the entry forms of payees: their ledger account and bank account. */
 class PayeeDialog : public ContactDialog
 {
     Q_OBJECT
@@ -31,7 +31,7 @@ private:
     void offerAccounts();
 
     QComboBox* m_account = nullptr;
-    // The accounts that the form offers live as long as the form, and with it the payee that points at one.
+    // The offered accounts live as long as the form and its payee, which points to one.
     EntityPool m_pool;
     QList<KorEntity*> m_accounts;
 };

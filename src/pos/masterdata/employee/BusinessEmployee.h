@@ -5,7 +5,7 @@
 
 class DataMapperEmployee;
 
-/** The service of the people who work here. */
+/** The service of the employees. */
 class BusinessEmployee final : public AppMasterService<EntityEmployee>
 {
     Q_OBJECT

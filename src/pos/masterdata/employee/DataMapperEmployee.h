@@ -2,7 +2,7 @@
 
 #include "pos/masterdata/contact/ContactMapper.h"
 
-/** The people who work here, in the table "employee". */
+/** The employees, in the table "employee". */
 class DataMapperEmployee final : public ContactMapper
 {
     Q_OBJECT

@@ -3,7 +3,7 @@
 #include "app/widgets/AppEntityTextBox.h"
 #include "pos/masterdata/employee/BusinessEmployee.h"
 
-/** Makes a line edit find the people who work here. */
+/** A lookup box for employees. */
 class EmployeeTextBox final : public AppMasterTextBox<EntityEmployee, BusinessEmployee>
 {
     Q_OBJECT

@@ -2,7 +2,7 @@
 
 #include "pos/masterdata/contact/EntityContact.h"
 
-/** One who works here: waiters on orders, cooks, cashiers. */
+/** An employee: a waiter, cook or cashier. */
 class EntityEmployee : public EntityContact
 {
     Q_OBJECT

@@ -5,7 +5,7 @@
 #include "pos/masterdata/employee/DialogEmployee.h"
 #include "pos/masterdata/employee/TableModelEmployee.h"
 
-/** The list of the people who work here. */
+/** The list of the employees. */
 class TabEmployee final : public AppFamilyTab<BusinessEmployee, TableModelEmployee, DialogEmployee>
 {
     Q_OBJECT

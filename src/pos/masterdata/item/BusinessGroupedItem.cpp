@@ -31,7 +31,7 @@ QList<KorEntity*> BusinessGroupedItem::search(const QString& filter, int parentI
 
 bool BusinessGroupedItem::consistsOf(int itemId, int componentId)
 {
-    // Each item once: rows from before this was asked may go round in a circle.
+    // Visit each item once: old rows may form a cycle.
     QList<int> items{itemId};
     for (int index = 0; index < items.size(); ++index) {
         if (items[index] == componentId)

@@ -19,7 +19,7 @@ public:
     [[nodiscard]] QList<KorPermission> getPermissions() const override;
 
     [[nodiscard]] EntityGroupedItem* findByParentAndItem(int parentId, int itemId);
-    /** Whether the item is that component, or has it among its components or theirs. */
+    /** True if the item is that component, or contains it directly or indirectly. */
     [[nodiscard]] bool consistsOf(int itemId, int componentId);
     [[nodiscard]] QList<KorEntity*> search(const QString& filter, int parentId);
 

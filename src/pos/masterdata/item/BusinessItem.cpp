@@ -11,7 +11,7 @@
 
 namespace
 {
-/** The criteria of a search in one class of items. */
+/** Fills the search conditions for one class of items. */
 void fillClassSearch(KorPaging& criteria, const QString& filter, EntityItem::ItemClass itemClass, int type)
 {
     criteria.addFilter("kode", filter);
@@ -37,7 +37,7 @@ bool BusinessItem::insert(KorEntity* item)
     EntityStokAwal balance;
     balance.setItem(static_cast<EntityItem*>(item));
     balance.setHarga(static_cast<EntityItem*>(item)->getHargaBeli());
-    // Both or neither: a refused item can be entered again, and none is without its balance.
+    // In one transaction, so that no item exists without a balance, and a failed item can be saved again.
     const bool done = inOneTransaction(*this, "insert", [&] {
         return written(m_items->insert(item), m_items, "insert") &&
                written(m_balances->insert(&balance), m_balances, "insert");

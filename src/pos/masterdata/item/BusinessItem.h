@@ -7,7 +7,7 @@ class DataMapperGroupedItem;
 class DataMapperItem;
 class DataMapperStokAwal;
 
-/** The service of items. An item comes with a beginning balance of nothing, and stays while it is a component. */
+/** The service of items. A new item gets a beginning balance of zero. A component of another item cannot be deleted. */
 class BusinessItem final : public AppMasterService<EntityItem>
 {
     Q_OBJECT
@@ -23,17 +23,17 @@ public:
     bool insert(KorEntity* item) override;
     bool remove(KorEntity* item) override;
 
-    /** Items with a price, cost or beginning balance in another currency than this sign; -1 with an error. */
+    /** The number of items whose price, cost or beginning balance has another currency; -1 with an error. */
     [[nodiscard]] int countOfOtherCurrency(const QString& sign);
-    /** Gives all these amounts the sign, all or none; the figures stay. */
+    /** Sets the currency of all these amounts in one transaction; the numbers do not change. */
     bool restate(const QString& sign);
 
-    // The filter is a part of a code or a name, in lower case.
-    /** "jenisCode" is the code of an item type, empty for all. */
+    // The filter is a part of a code or name, in lower case.
+    /** "jenisCode" is the code of an item type; empty for all. */
     [[nodiscard]] QList<KorEntity*> search(const QString& filter, const QString& jenisCode = QString());
-    /** Stock items; the type is the id of an item type, -1 for all. */
+    /** Stock items; the type is the id of an item type, or -1 for all. */
     [[nodiscard]] QList<KorEntity*> searchByType(const QString& filter, int type = -1);
-    /** Menu and service items; the type as above. */
+    /** Menu and service items; for the type see above. */
     [[nodiscard]] QList<KorEntity*> searchServices(const QString& filter, int type = -1);
 
 private:

@@ -6,7 +6,7 @@ class DataMapperItem;
 class EntityGroupedItem;
 class KorPaging;
 
-/** The components of grouped items, in the table "grouped_item". They go with their parent. */
+/** The components of grouped items, in the table "grouped_item". They are deleted with their parent. */
 class DataMapperGroupedItem final : public AppDataMapper
 {
     Q_OBJECT
@@ -21,8 +21,8 @@ public:
     [[nodiscard]] QStringList indexStatements() const override;
 
     [[nodiscard]] EntityGroupedItem* findByParentAndItem(int parentId, int itemId);
-    /** The rows of which the item is a component; each knows its parent's id. */
+    /** The rows in which the item is a component, each with its parent's id. */
     [[nodiscard]] QList<EntityGroupedItem*> findParents(int itemId);
-    /** The components of the item whose id is under "parent", with "filter" in their code or name. */
+    /** The components of the item with the id "parent", whose code or name contains "filter". */
     [[nodiscard]] QList<KorEntity*> search(const KorPaging& criteria);
 };

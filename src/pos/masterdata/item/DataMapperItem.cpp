@@ -11,7 +11,7 @@
 
 namespace
 {
-/** The items whose code or name holds its text of the criteria. */
+/** The items whose code or name contains the text of the criteria. */
 KorConditions withTextOf(const KorPaging& criteria)
 {
     const auto holding = [&criteria](const QString& key) {
@@ -41,7 +41,7 @@ DataMapperItem::DataMapperItem(QObject* parent, DataMapperJenisItem* types, Data
     column("inventory_acct_code", "varchar(20) not null", "InventoryAcctCode");
     column("cost_of_sales_acct_code", "varchar(20) not null", "CostOfSalesAcctCode");
 
-    // Qualified on purpose: createTable() adds these foreign keys under names of their own.
+    // Qualified on purpose, so that the joins give no foreign keys: createTable() adds them with their own names.
     addJoin("SalesAccount", accounts, "inner", "item.sales_acct_code", "kode", "sales_acc");
     addJoin("InventoryAccount", accounts, "inner", "item.inventory_acct_code", "kode", "inv_acc");
     addJoin("CostOfSalesAccount", accounts, "inner", "item.cost_of_sales_acct_code", "kode", "cost_sales_acc");
@@ -101,7 +101,7 @@ bool DataMapperItem::restate(const QString& sign)
 {
     KorQuery items;
     KorQuery balances;
-    // A form that is open on one of them is told that the item has changed.
+    // Changing the rows also changes their versions, so that an open form of such an item cannot be saved.
     return execute(items,
                    "update item set harga_beli_currency = :sign, harga_jual_lokal_currency = :sign, "
                    "harga_jual_luar_currency = case when harga_jual_luar_currency is not null then :sign end, "

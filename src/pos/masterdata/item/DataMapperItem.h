@@ -7,7 +7,7 @@ class DataMapperJenisItem;
 class DataMapperSatuan;
 class KorPaging;
 
-/** Items, in the table "item", read with their type, their unit and the accounts that they are booked to. */
+/** Items, in the table "item", read with their type, unit and ledger accounts. */
 class DataMapperItem final : public AppMasterMapper
 {
     Q_OBJECT
@@ -19,16 +19,16 @@ public:
     bool createTable(int mode) override;
     [[nodiscard]] QStringList indexStatements() const override;
 
-    // Each search takes its texts by name from the criteria: "kode" and "nama" hold a part of either.
-    /** All classes; "jenis" is the code of an item type, empty for all. */
+    // Search texts are read from the criteria by name: "kode" and "nama" are a part of the code or name.
+    /** All classes; "jenis" is the code of an item type, or empty for all. */
     [[nodiscard]] QList<KorEntity*> search(const KorPaging& criteria);
-    /** One class, "type", of items; "jenis" is the id of an item type, "-1" for all. */
+    /** Items of the class "type"; "jenis" is the id of an item type, or "-1" for all. */
     [[nodiscard]] QList<KorEntity*> searchByType(const KorPaging& criteria);
     [[nodiscard]] QList<KorEntity*> searchServices(const KorPaging& criteria);
 
-    /** Items with an amount in another currency than this sign; -1 with an error. */
+    /** The number of items with an amount in another currency; -1 with an error. */
     [[nodiscard]] int countOfOtherCurrency(const QString& sign);
-    /** Two statements; the caller has a transaction around them. */
+    /** Runs two statements: call it in a transaction. */
     [[nodiscard]] bool restate(const QString& sign);
 
 protected:

@@ -13,7 +13,7 @@ DataMapperStokAwal::DataMapperStokAwal(QObject* parent, DataMapperItem* items, D
     column("item_id", "integer not null UNIQUE", "Item.Id");
     moneyColumns("harga", "Harga");
     column("jumlah", "integer not null", "Jumlah");
-    // Qualified on purpose: a plain foreign key would refuse to delete any item, as each has its balance.
+    // Qualified on purpose, so that it gives no foreign key: every item has a balance, so no item could be deleted.
     addJoin("Item", items, "inner", "stok_awal.item_id", "id");
     addJoin("Satuan", units, "inner", "item.satuan", "id");
 }

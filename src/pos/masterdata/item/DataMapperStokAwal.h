@@ -6,7 +6,7 @@ class DataMapperItem;
 class DataMapperSatuan;
 class EntityStokAwal;
 
-/** Beginning balances, one an item, in the table "stok_awal". A balance goes with its item. */
+/** Beginning balances, one per item, in the table "stok_awal". A balance is deleted with its item. */
 class DataMapperStokAwal final : public AppDataMapper
 {
     Q_OBJECT
@@ -18,8 +18,8 @@ public:
     bool createTable(int mode) override;
 
     [[nodiscard]] EntityStokAwal* findByItemId(int id);
-    /** The balance of the item with this code, whatever its letters' case; all of them for an empty code. */
+    /** The balance of the item with this code, ignoring case; all of them for an empty code. */
     [[nodiscard]] QList<KorEntity*> findAll(const QString& code);
-    /** Sets every balance to nothing and keeps the rows. */
+    /** Sets every balance to zero and keeps the rows. */
     bool clearTransactions();
 };

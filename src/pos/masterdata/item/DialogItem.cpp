@@ -122,7 +122,7 @@ void DialogItem::setEntity(KorEntity* entity)
         m_ui->ddlJenis->findData(item->getJenis() ? item->getJenis()->getId() : KorNoValue));
     m_ui->ddlSatuan->setCurrentIndex(
         m_ui->ddlSatuan->findData(item->getSatuan() ? item->getSatuan()->getId() : KorNoValue));
-    // In this order: choosing the class clears the box, which would take the grouping from a grouped menu item.
+    // In this order: choosing the class clears the check box of a grouped menu item.
     (item->getItemType() == EntityItem::SRV ? m_ui->rbService : m_ui->rbStok)->setChecked(true);
     m_ui->cbGabungan->setChecked(item->getIsGroup());
     setComponentsEnabled(item->getIsGroup());
@@ -130,7 +130,7 @@ void DialogItem::setEntity(KorEntity* entity)
     showAccounts();
 }
 
-// --- how the class, the box and the components page hang together --------------------------------------------------
+// --- class, check box and components page --------------------------------------------------------------------------
 
 void DialogItem::setComponentsEnabled(bool enabled)
 {

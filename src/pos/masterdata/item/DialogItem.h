@@ -13,7 +13,7 @@ namespace Ui
 class DialogItem;
 }
 
-/** The entry form of an item: its data, its components and its ledger accounts. */
+/** The entry form of an item: its data, components and ledger accounts. */
 class DialogItem final : public KorDialog
 {
     Q_OBJECT
@@ -27,7 +27,7 @@ public:
     void setEntity(KorEntity* entity) override;
 
 private slots:
-    /** Nothing: leaving the services is told by their own button. */
+    /** Does nothing: the other radio button reports the change. */
     void on_rbStok_toggled(bool) {}
     void on_rbService_toggled(bool checked);
     void on_cbGabungan_toggled(bool checked);

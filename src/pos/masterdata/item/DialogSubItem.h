@@ -26,11 +26,11 @@ public:
     bool validate() override;
     KorEntity* getEntity() override;
     void setEntity(KorEntity* entity) override;
-    /** Refuses an item that is a component of the same parent already. */
+    /** False if the parent already has this item as a component. */
     bool beforeAccept() override;
 
 private slots:
-    /** The code names another item, or none. */
+    /** The field has another item, or none. */
     void onItemSelected();
 
 private:

@@ -3,11 +3,11 @@
 #include "kor/entity/KorEntity.h"
 #include "pos/masterdata/item/EntityItem.h"
 
-/** One component of a grouped item: which item, and how many of it. */
+/** One component of a grouped item: the item and its quantity. */
 class EntityGroupedItem : public KorEntity
 {
     Q_OBJECT
-    // Written by a name of its own: setParent() is how an object changes its owner.
+    // The setter has another name, because QObject::setParent() changes the owner.
     Q_PROPERTY(EntityItem* Parent READ getParent WRITE setParentItem)
     KOR_REFERENCE(EntityItem, Original)
     KOR_PROPERTY(int, Jumlah, 0)
@@ -15,7 +15,7 @@ class EntityGroupedItem : public KorEntity
 public:
     using KorEntity::KorEntity;
 
-    /** The grouped item. Read from the database it has its id and nothing else. */
+    /** The grouped item. After reading from the database only its id is set. */
     [[nodiscard]] EntityItem* getParent() const { return m_parentItem; }
     void setParentItem(EntityItem* parent) { m_parentItem = parent; }
 

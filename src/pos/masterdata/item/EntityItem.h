@@ -19,7 +19,7 @@ class EntityItem : public KorEntity
     MONEY_PROPERTY(HargaBeli)
     /** The sales price. */
     MONEY_PROPERTY(HargaJualLokal)
-    /** A second sales price, kept for shops that had one; no form offers it. */
+    /** A second sales price of older databases; no form shows it. */
     MONEY_PROPERTY(HargaJualLuar)
     KOR_PROPERTY(QString, Notes, QString())
     KOR_PROPERTY(QString, SalesAcctCode, QString(""))
@@ -27,7 +27,7 @@ class EntityItem : public KorEntity
     KOR_PROPERTY(QString, CostOfSalesAcctCode, QString(""))
 
 public:
-    /** Counted in stock, or sold without being counted. */
+    /** INV has a stock; SRV is sold without stock. */
     enum ItemClass { INV = 1, SRV = 2 };
 
     using KorEntity::KorEntity;

@@ -4,7 +4,7 @@
 #include "kor/entity/KorEntity.h"
 #include "pos/masterdata/item/EntityItem.h"
 
-/** The beginning balance of an item: how many there were, and at what unit cost, when counting began. */
+/** The beginning balance of an item: the quantity and unit cost before any movement. */
 class EntityStokAwal : public KorEntity
 {
     Q_OBJECT
@@ -16,6 +16,6 @@ class EntityStokAwal : public KorEntity
 public:
     using KorEntity::KorEntity;
 
-    /** The moment from which the balance stands. */
+    /** The time from which the balance is valid. */
     [[nodiscard]] QDateTime getDateTime() const { return getCreatedTime(); }
 };

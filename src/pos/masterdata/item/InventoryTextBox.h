@@ -3,7 +3,7 @@
 #include "app/widgets/AppEntityTextBox.h"
 #include "pos/masterdata/item/BusinessItem.h"
 
-/** Makes a line edit find stock items, of one item type or of all. */
+/** A lookup box for stock items, of one item type or of all. */
 class InventoryTextBox final : public AppEntityTextBox<EntityItem, BusinessItem>
 {
     Q_OBJECT
@@ -12,7 +12,7 @@ public:
     InventoryTextBox(QLineEdit* editor, BusinessItem* items) : AppEntityTextBox(editor, items, {tr("Code"), tr("Name")})
     {}
 
-    /** The id of an item type, -1 for all. */
+    /** The id of an item type; -1 for all. */
     void setItemType(int type) { m_itemType = type; }
 
 protected:

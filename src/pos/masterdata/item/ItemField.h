@@ -4,7 +4,7 @@
 #include "kor/business/KorServiceDirectory.h"
 #include "pos/masterdata/item/ItemTextBox.h"
 
-/** The boxes of a form in which an item of any class is named. */
+/** The field of a form for the code of an item of any class. */
 class ItemField final : public RecordField<EntityItem>
 {
 public:

@@ -6,7 +6,7 @@ class DataMapperItem;
 class DataMapperJenisItem;
 class DataMapperSatuan;
 
-/** What a line needs to read its item with the item's type and unit. */
+/** The mappers that a line needs to read its item with type and unit. */
 struct ItemPartners
 {
     DataMapperItem* items;
@@ -14,7 +14,7 @@ struct ItemPartners
     DataMapperSatuan* units;
 };
 
-/** Base of the mappers of lines with an item: the item, and the indexes that it and the document need. */
+/** Base of the mappers of lines with an item: the item column, and the indexes on item and document. */
 class ItemLineMapper : public AppLineMapper
 {
     Q_OBJECT
@@ -24,6 +24,6 @@ public:
 
 protected:
     void itemColumn(const ItemPartners& partners);
-    /** One index for a document's lines, and one that answers how much of an item they hold from itself alone. */
+    /** An index for the lines of a document, and one that gives the quantity of an item without reading the table. */
     [[nodiscard]] QStringList lineIndexes(const QString& quantityColumn) const;
 };

@@ -4,13 +4,13 @@
 #include <QHash>
 #include <QObject>
 
-/** What the list of items asks the service of the stock, which knows items and so lies above them. */
+/** What the list of items needs from the stock service. An interface, because that service depends on items. */
 class ItemStock
 {
 public:
     virtual ~ItemStock() = default;
 
-    /** What is on hand of every item, by its id; worth nothing while the service holds an error. */
+    /** The quantity on hand of every item by id; wrong if the service has an error. */
     [[nodiscard]] virtual QHash<int, int> quantitiesOnHand(const QDate& date) = 0;
 };
 

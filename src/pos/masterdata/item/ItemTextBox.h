@@ -3,7 +3,7 @@
 #include "app/widgets/AppEntityTextBox.h"
 #include "pos/masterdata/item/BusinessItem.h"
 
-/** Makes a line edit find items of any class. */
+/** A lookup box for items of any class. */
 class ItemTextBox final : public AppEntityTextBox<EntityItem, BusinessItem>
 {
     Q_OBJECT
@@ -13,7 +13,7 @@ public:
         : AppEntityTextBox(editor, items, {tr("Item Code"), tr("Item Name")})
     {}
 
-    /** The code of an item type, empty for all. */
+    /** The code of an item type; empty for all. */
     void setItemType(const QString& code) { m_itemType = code; }
 
 protected:

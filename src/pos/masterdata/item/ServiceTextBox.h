@@ -3,7 +3,7 @@
 #include "app/widgets/AppEntityTextBox.h"
 #include "pos/masterdata/item/BusinessItem.h"
 
-/** Makes a line edit find menu and service items, and shows their type. */
+/** A lookup box for menu and service items; also shows their type. */
 class ServiceTextBox final : public AppEntityTextBox<EntityItem, BusinessItem>
 {
     Q_OBJECT
@@ -13,7 +13,7 @@ public:
         : AppEntityTextBox(editor, items, {tr("Code"), tr("Name"), tr("Type")})
     {}
 
-    /** The id of an item type, -1 for all. */
+    /** The id of an item type; -1 for all. */
     void setItemType(int type) { m_itemType = type; }
 
 protected:

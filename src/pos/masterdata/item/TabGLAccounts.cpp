@@ -30,7 +30,7 @@ TabGLAccounts::~TabGLAccounts() = default;
 void TabGLAccounts::check(const QString& noSales, const QString& noInventory, const QString& noCostOfSales)
 {
     m_sales->check(noSales, noSales);
-    // A database that does not answer is told once, not once a box.
+    // If the database does not answer, report that once and not per field.
     if (m_sales->couldAsk())
         m_inventory->check(noInventory, noInventory);
     if (m_sales->couldAsk() && m_inventory->couldAsk())

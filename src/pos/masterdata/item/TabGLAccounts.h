@@ -13,7 +13,7 @@ namespace Ui
 class TabGLAccounts;
 }
 
-/** The page of an item's form with the three accounts that the item is booked to. */
+/** The page of an item's form with its three ledger accounts. */
 class TabGLAccounts final : public QWidget
 {
     Q_OBJECT
@@ -22,14 +22,14 @@ public:
     explicit TabGLAccounts(KorDialog* form);
     ~TabGLAccounts() override;
 
-    // Null empties the field; the account is borrowed.
+    // The account is borrowed; null clears the field.
     void setSalesAccount(EntityBank* account);
     void setInventoryAccount(EntityBank* account);
     void setCostOfSalesAccount(EntityBank* account);
 
-    /** Reports on the form what is no account or cannot be read. */
+    /** Adds errors to the form for accounts that are missing, unknown or cannot be read. */
     void check(const QString& noSales, const QString& noInventory, const QString& noCostOfSales);
-    // The code of an account that exists, else empty.
+    // The account's code; empty if the account does not exist.
     [[nodiscard]] QString salesAccountCode() const;
     [[nodiscard]] QString inventoryAccountCode() const;
     [[nodiscard]] QString costOfSalesAccountCode() const;

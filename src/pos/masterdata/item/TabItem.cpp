@@ -56,7 +56,7 @@ KorEntityModel* TabItem::createModel(const QList<KorEntity*>& rows)
 
 void TabItem::modelApplied()
 {
-    // Once: from then on the widths are the user's.
+    // Only once: afterwards the user may change the widths.
     if (std::exchange(m_sized, true))
         return;
     const auto atLeast = [this](int column, int width) {

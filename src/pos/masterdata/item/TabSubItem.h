@@ -6,7 +6,7 @@
 #include "pos/masterdata/item/DialogSubItem.h"
 #include "pos/masterdata/item/TableModelGroupedItem.h"
 
-/** The list of the components of one grouped item; a page inside a form, so it has nothing to close. */
+/** The list of the components of one grouped item. As a page of a form it has no close button. */
 class TabSubItem final : public AppListTab
 {
     Q_OBJECT
@@ -14,7 +14,7 @@ class TabSubItem final : public AppListTab
 public:
     explicit TabSubItem(QWidget* parent = nullptr);
 
-    /** Shows the components of this item; KorNoValue for an item that is not saved yet and so has none. */
+    /** Shows the components of this item; KorNoValue for an unsaved item, which has none. */
     void setParentItem(int id);
 
 protected:

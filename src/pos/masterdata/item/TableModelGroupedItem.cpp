@@ -4,7 +4,7 @@
 
 namespace
 {
-/** A text of the component itself, where it was read with the row. */
+/** A text of the component's item; empty if the item was not read. */
 auto ofComponent(QString (EntityItem::*getter)() const)
 {
     return [getter](const EntityGroupedItem& row) {

@@ -16,7 +16,7 @@ QString classText(const EntityItem& item)
     }
 }
 
-/** The name of a partner that old rows may lack. */
+/** The name of a type or unit, which old rows may not have. */
 template <class Partner>
 QString nameOf(const Partner* partner)
 {

@@ -4,6 +4,7 @@
 
 #include <QHash>
 
+/** The rows of the list of items. */
 class TableModelItem final : public AppEntityModel
 {
     Q_OBJECT
@@ -11,7 +12,7 @@ class TableModelItem final : public AppEntityModel
 public:
     TableModelItem(const QList<KorEntity*>& items, QObject* parent);
 
-    /** The quantities on hand by the items' ids; an item that is not among them shows 0. */
+    /** The quantities on hand by item id; a missing item shows 0. */
     void setStock(const QHash<int, int>& stock) { m_stock = stock; }
 
 private:

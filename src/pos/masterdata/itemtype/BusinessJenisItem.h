@@ -5,7 +5,7 @@
 
 class DataMapperJenisItem;
 
-/** The service of the item types; one right covers all that is done with them. */
+/** The service of the item types; one right covers adding, editing and deleting. */
 class BusinessJenisItem final : public AppMasterService<EntityJenisItem>
 {
     Q_OBJECT

@@ -2,6 +2,7 @@
 
 #include "app/persistence/AppCodeMigration11.h"
 
+/** The migration of the table "jenis_item" to version 1.1. */
 class DataMapperJenisItemMigration11 final : public AppCodeMigration11
 {
     Q_OBJECT

@@ -2,7 +2,7 @@
 
 #include "kor/entity/KorEntity.h"
 
-/** A type of items: the groups in which the menu and the stock are sorted. */
+/** A type of items; groups the menu and the stock. */
 class EntityJenisItem : public KorEntity
 {
     Q_OBJECT

@@ -4,7 +4,7 @@
 
 #include <QDate>
 
-/** A regular guest with a discount, in percent, until the membership expires. */
+/** A regular guest with a discount in percent until the membership expires. */
 class EntityMember : public EntityContact
 {
     Q_OBJECT

@@ -3,7 +3,7 @@
 #include "app/widgets/AppEntityTextBox.h"
 #include "pos/masterdata/member/BusinessMember.h"
 
-/** Makes a line edit find members. */
+/** A lookup box for members. */
 class MemberTextBox final : public AppMasterTextBox<EntityMember, BusinessMember>
 {
     Q_OBJECT

@@ -2,6 +2,7 @@
 
 #include "pos/masterdata/contact/ContactTableModel.h"
 
+/** The rows of the list of members. */
 class TableModelMember final : public ContactTableModel
 {
     Q_OBJECT

@@ -17,7 +17,7 @@ public:
     BusinessSupplier(QObject* parent, DataMapperSupplier* mapper);
 
     [[nodiscard]] QList<KorPermission> getPermissions() const override;
-    /** The suppliers whose code or name holds the text, by name: what a lookup offers. */
+    /** The suppliers whose code or name contains the text, sorted by name; for lookup boxes. */
     [[nodiscard]] QList<KorEntity*> findByFilter(const QString& text);
 
 private:

@@ -10,7 +10,7 @@ class DataMapperSupplier final : public ContactMapper
 public:
     DataMapperSupplier(QObject* parent, DataMapperBank* bankMapper);
 
-    /** The suppliers whose code or name holds the text, by name. */
+    /** The suppliers whose code or name contains the text, sorted by name. */
     [[nodiscard]] QList<KorEntity*> findByFilter(const QString& text);
 
     KorEntity* createEntity() override;

@@ -2,7 +2,7 @@
 
 #include "pos/masterdata/contact/EntityPayee.h"
 
-/** One who delivers goods to the restaurant. */
+/** A person or company that delivers goods to the restaurant. */
 class EntitySupplier : public EntityPayee
 {
     Q_OBJECT

@@ -3,7 +3,7 @@
 #include "app/widgets/AppEntityTextBox.h"
 #include "pos/masterdata/supplier/BusinessSupplier.h"
 
-/** Makes a line edit find suppliers, sorted by name. */
+/** A lookup box for suppliers. */
 class SupplierTextBox final : public AppEntityTextBox<EntitySupplier, BusinessSupplier>
 {
     Q_OBJECT

@@ -5,7 +5,7 @@
 
 class DataMapperSatuan;
 
-/** The service of the units; one right covers all that is done with them. */
+/** The service of the units; one right covers adding, editing and deleting. */
 class BusinessSatuan final : public AppMasterService<EntitySatuan>
 {
     Q_OBJECT

@@ -2,7 +2,7 @@
 
 #include "app/persistence/AppMasterMapper.h"
 
-/** The units, in the table "satuan". The name is unique there; that no code comes twice, the form sees to. */
+/** The units, in the table "satuan". The table makes the name unique; only the form checks that the code is unique. */
 class DataMapperSatuan final : public AppMasterMapper
 {
     Q_OBJECT

@@ -2,6 +2,7 @@
 
 #include "app/persistence/AppCodeMigration11.h"
 
+/** The migration of the table "satuan" to version 1.1. */
 class DataMapperSatuanMigration11 final : public AppCodeMigration11
 {
     Q_OBJECT

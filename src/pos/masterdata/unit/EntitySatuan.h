@@ -2,7 +2,7 @@
 
 #include "kor/entity/KorEntity.h"
 
-/** A unit in which items are counted or weighed. */
+/** A unit for counting or weighing items. */
 class EntitySatuan : public KorEntity
 {
     Q_OBJECT

@@ -36,7 +36,7 @@ QList<EntityConfigKitchenPrinter*> BusinessPrinterConfig::getAllKitchenPrinterCo
     return taken(kitchens, "getAllKitchenPrinterConfig");
 }
 
-/** What the configuration service noted stands under this service's operation, where its callers look. */
+/** Copies the errors of the configuration service to this service, where its callers look for them. */
 template <class Result>
 Result BusinessPrinterConfig::taken(Result result, const QString& operation)
 {

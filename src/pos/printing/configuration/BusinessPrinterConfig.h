@@ -19,7 +19,7 @@ public:
 
     [[nodiscard]] QList<KorPermission> getPermissions() const override;
 
-    /** Null where the installer has not laid the row down; nothing else makes it. */
+    /** Null if the installer has not inserted the row; nothing else does. */
     [[nodiscard]] EntityConfigCashierPrinter* getCashierPrinterConfig();
     [[nodiscard]] EntityConfigKitchenPrinter* getConfig(const QString& key);
     /** In the order in which they were added. */

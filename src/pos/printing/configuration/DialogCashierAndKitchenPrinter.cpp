@@ -42,7 +42,7 @@ void DialogCashierAndKitchenPrinter::setEntity(KorEntity* entity)
 
 bool DialogCashierAndKitchenPrinter::beforeAccept()
 {
-    // The row comes from the installer alone: the form changes it and never makes one.
+    // Only the installer inserts the row; the form can only change it.
     if (!held<EntityConfigCashierPrinter>()) {
         showSaveError(tr("This database has no settings of the cashier printer. Please update the database."));
         return false;

@@ -14,17 +14,17 @@ namespace Ui
 class DialogFilterJenisItem;
 }
 
-/** Lets the user pick item types. */
+/** Lets the user choose item types. */
 class DialogFilterJenisItem final : public QDialog
 {
     Q_OBJECT
 
 public:
-    /** The codes, joined by commas, are selected from the start. */
+    /** The codes, separated by commas, are selected at first. */
     explicit DialogFilterJenisItem(const QString& codes, QWidget* parent = nullptr);
     ~DialogFilterJenisItem() override;
 
-    /** The codes of the selected rows as the grid shows them, joined by commas. */
+    /** The codes of the selected rows in the order of the grid, separated by commas. */
     [[nodiscard]] QString selectedCodes() const;
 
 private:

@@ -36,7 +36,7 @@ KorEntity* DialogKitchenFoodPrinter::getEntity()
     kitchen->setKitchenName(m_ui->txtKitchenName->text());
     readPrinter(*kitchen);
     kitchen->setAutoPrint(m_ui->cbAutoPrint->isChecked() ? kitchen->yes() : kitchen->no());
-    // A kitchen that never said it keeps its row as it was.
+    // Do not add the setting to a row that does not have it, unless the user switches it on.
     if (m_ui->cbSayFormer->isChecked() != kitchen->saysFormer())
         kitchen->setSayFormer(m_ui->cbSayFormer->isChecked() ? kitchen->yes() : kitchen->no());
     kitchen->setKodeJenisItem(m_ui->txtKodeJenisItems->text());

@@ -5,24 +5,24 @@
 #include <QDateTime>
 
 /**
- * One kitchen: its printer and the item types that it cooks. The printer type is kept for the form alone; slips are
- * cut the way the cashier printer's type says.
+ * One kitchen: its printer and the item types that it cooks. Only the form uses the printer type; slips are cut as the
+ * cashier printer's type defines.
  */
 class EntityConfigKitchenPrinter final : public EntityConfigPrinter
 {
     Q_OBJECT
     CONFIG_MEMBER(KitchenName, "kitchen_name")
-    /** "Yes" where a slip prints by itself when an order is sent. */
+    /** "Yes" if a slip is printed automatically when an order is sent. */
     CONFIG_MEMBER(AutoPrint, "auto_print")
-    /** Codes of item types, joined by commas; empty means all. */
+    /** Codes of item types, separated by commas; empty means all. */
     CONFIG_MEMBER(KodeJenisItem, "kode_jenis_item")
-    /** "Yes" where a changed line tells what it was. */
+    /** "Yes" if the slip of a changed line also prints its old values. */
     CONFIG_MEMBER(SayFormer, "say_former")
-    /** Kept in the row; nothing reads it. */
+    /** Stored, but not used. */
     CONFIG_MEMBER(FilterItemTypeCode, "filter_item_type_code")
 
 public:
-    /** What the keys of all kitchens begin with. */
+    /** The prefix of the keys of all kitchens. */
     static QString keyPrefix() { return QStringLiteral("kitchen_printer"); }
     static QString keyFor(const QDateTime& moment)
     {
@@ -33,7 +33,7 @@ public:
 
     [[nodiscard]] bool printsByItself() const { return getAutoPrint() == yes(); }
     [[nodiscard]] bool saysFormer() const { return getSayFormer() == yes(); }
-    /** Minds letter case and blanks. */
+    /** Compares case and blanks exactly. */
     [[nodiscard]] bool cooks(const QString& itemTypeCode) const
     {
         return getKodeJenisItem().isEmpty() || getKodeJenisItem().split(',').contains(itemTypeCode);

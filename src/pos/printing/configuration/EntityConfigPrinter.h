@@ -2,7 +2,7 @@
 
 #include "app/configuration/EntityAppConfig.h"
 
-/** Where the slips of one place go and how they look there. A number that cannot be read counts as 0. */
+/** The settings of one slip printer. A number that cannot be parsed counts as 0. */
 class EntityConfigPrinter : public EntityAppConfig
 {
     Q_OBJECT
@@ -14,15 +14,15 @@ class EntityConfigPrinter : public EntityAppConfig
     CONFIG_MEMBER(ColumnPaper, "column_paper")
     CONFIG_MEMBER(NoOfBlankLines, "no_of_blank_lines")
     CONFIG_MEMBER(Format, "format")
-    /** "Yes" where a person chose a printer of the installer's name from the list. */
+    /** "Yes" if the user chose a printer that has the same name as installedName(). */
     CONFIG_MEMBER(PrinterChosen, "printer_chosen")
 
 public:
-    /** How a switch is stored; the comparison minds the letter case. */
+    /** The stored values of a switch; compared case-sensitively. */
     static QString yes() { return QStringLiteral("Yes"); }
     static QString no() { return QStringLiteral("No"); }
 
-    /** The name that the installer lays down. It stands for "no printer yet". */
+    /** The printer name that the installer inserts. It means "no printer yet". */
     static QString installedName() { return QStringLiteral("GenericDotMatrix"); }
 
     explicit EntityConfigPrinter(QObject* parent = nullptr) : EntityAppConfig(parent) { setIsStoredAsJSON(true); }

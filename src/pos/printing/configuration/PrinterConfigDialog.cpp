@@ -20,7 +20,7 @@ namespace
 {
 constexpr int mostCopies = 5;
 
-/** What is no longer offered leaves the first entry chosen. */
+/** Selects the first entry if the stored value is no longer offered. */
 void choose(QComboBox* box, int index) { box->setCurrentIndex(qMax(index, 0)); }
 } // namespace
 
@@ -85,7 +85,7 @@ QString PrinterConfigDialog::cutWords(const QString& type) const
     QStringList sentences{cut.description()};
     for (auto other = m_cuts.cbegin(); other != m_cuts.cend(); ++other) {
         if (PaperCut(*other).completes(cut)) {
-            // The name of a type is not broken at its hyphens.
+            // Non-breaking hyphens, so that the name of a type stays on one line.
             sentences.append(tr("Choose %1 instead.").arg(QString(other.key()).replace('-', QChar(0x2011))));
             break;
         }
@@ -137,7 +137,7 @@ void PrinterConfigDialog::printTestSlip()
 
 void PrinterConfigDialog::showPrinter(const EntityConfigPrinter& config)
 {
-    // Where no printer can be listed, the stored one stays, so that looking at the form does not lose it.
+    // If printers cannot be listed, add the stored one, so that confirming the form does not lose it.
     if (!m_hasPrinters && m_fields.printer->findData(config.getPrinterName()) < 0 && !config.getPrinterName().isEmpty())
         m_fields.printer->insertItem(0, config.getPrinterName(), config.getPrinterName());
     choose(m_fields.printer, m_fields.printer->findData(config.getPrinterName()));
@@ -151,7 +151,7 @@ void PrinterConfigDialog::showPrinter(const EntityConfigPrinter& config)
 void PrinterConfigDialog::readPrinter(EntityConfigPrinter& config) const
 {
     config.setPrinterName(m_fields.printer->currentData().toString());
-    // A queue may well bear the installer's name; then it was chosen.
+    // A print queue may have the same name as the installer's entry; then the user chose it.
     if (m_hasPrinters && config.isAsInstalled())
         config.setPrinterChosen(EntityConfigPrinter::yes());
     EntityPool read;

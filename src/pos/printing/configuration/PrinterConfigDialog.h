@@ -11,7 +11,7 @@ class QComboBox;
 class QLabel;
 class QPushButton;
 
-/** Base of the printer forms: the fields that the cashier's and the kitchens' printers have in common. */
+/** Base of the printer forms: the common fields of the cashier's and the kitchens' printers. */
 class PrinterConfigDialog : public KorDialog
 {
     Q_OBJECT
@@ -22,7 +22,7 @@ public:
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
-    /** Takes the fields of a form that has been set up and fills their choices. */
+    /** Call it after setupUi(); fills the combo boxes. */
     template <class Form>
     void usePrinterFields(const Form& form)
     {
@@ -31,13 +31,13 @@ protected:
         fillChoices();
         watchChoices();
     }
-    /** Offers to have no printer at all, behind those that there are; it is stored as an empty name. */
+    /** Adds the choice "no printer" after the printers; it is stored as an empty name. */
     void offerNoPrinter(const QString& words);
-    /** Stands behind what the form says about the cut of the type. */
+    /** A text to show after the description of the cut. */
     void setCutRemark(const QString& remark);
     void showPrinter(const EntityConfigPrinter& config);
     void readPrinter(EntityConfigPrinter& config) const;
-    /** Shows why saving failed. */
+    /** Shows an error box for a failed save. */
     void showSaveError(const QString& text);
 
 private:
@@ -57,16 +57,16 @@ private:
     void fillTypes();
     void watchChoices();
     [[nodiscard]] EntityPrinterType* readType() const;
-    /** What the chosen type does to the paper, and which one to take where it lacks something. */
+    /** Shows how the chosen type cuts the paper, and a better type if its cut sequence is incomplete. */
     void tellCut();
     [[nodiscard]] QString cutWords(const QString& type) const;
-    /** Room for the longest of these words, so that the form stands still while the types are looked through. */
+    /** Reserves space for the longest description, so that the form does not move when another type is chosen. */
     void keepRoomForCut();
     void printTestSlip();
 
     Fields m_fields{};
     bool m_hasPrinters = false;
     QString m_cutRemark;
-    // The cut sequences of the types by their names.
+    // The cut sequences by name of type.
     QMap<QString, QString> m_cuts;
 };

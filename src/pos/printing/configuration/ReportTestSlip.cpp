@@ -8,7 +8,7 @@
 
 namespace
 {
-// Switched off by a digit: a zero byte would end the text.
+// '0' instead of a zero byte, which would end the text.
 const auto boldOn = QStringLiteral("\x1B"
                                    "E1");
 const auto boldOff = QStringLiteral("\x1B"
@@ -22,7 +22,7 @@ QString ruler(int columns)
     return figures;
 }
 
-/** What the interface's languages, amounts and names are written with. */
+/** The letters and signs of the program's languages, amounts and names. */
 QStringList letters()
 {
     return {QStringLiteral("ABCDEFGHIJKLMNOPQRSTUVWXYZ"),
@@ -33,7 +33,7 @@ QStringList letters()
             QString::fromUtf8("áàâä éèêë íìîï óòôö úùûü ñ ç ÄÖÜ É")};
 }
 
-/** In pieces as wide as the paper, so that no printer has to break them. */
+/** Breaks the text at the width of the paper, so that the printer need not do it. */
 void addPieces(SlipText& slip, const QString& text)
 {
     const int width = slip.columns() > 0 ? slip.columns() : text.size();
@@ -54,7 +54,7 @@ bool ReportTestSlip::print()
     once.setAutoCutter(m_settings->getAutoCutter());
     once.setColumnPaper(m_settings->getColumnPaper());
     once.setNoOfCopy("1");
-    // Whoever asks for a test wants to hear of a failure, on a fresh installation too.
+    // The user asks for a test slip, so show a failure even if no printer was chosen yet.
     once.setPrinterChosen(EntityConfigPrinter::yes());
     SlipPurpose test;
     test.kind = KeptSlip::Test;
@@ -77,7 +77,7 @@ QString ReportTestSlip::compose(const EntityConfigPrinter& settings, const Entit
     for (const QString& line : all)
         addPieces(slip, line);
     slip.separator();
-    // A printer without commands would print them as letters.
+    // A printer without commands would print them as text.
     if (printerType && PaperCut(printerType->getCutPapperCmd()).hasCommand())
         slip.append(boldOn).append(tr("This line is bold.").left(settings.columns())).append(boldOff).line();
     addPieces(slip, settings.cutsPaper() ? tr("The paper is cut below.") : tr("The paper is not cut."));

@@ -4,14 +4,13 @@
 
 #include <QDateTime>
 
-/** A slip that shows what a printer makes of its settings: width, letters, bold and cut. One copy, whatever they say.
- */
+/** A slip to test a printer's settings: width, letters, bold and cut. Always one copy. */
 class ReportTestSlip final : public SlipReport
 {
     Q_OBJECT
 
 public:
-    /** The settings as a form shows them, saved or not. */
+    /** The settings as shown in the form, saved or not. */
     ReportTestSlip(QObject* parent, const EntityConfigPrinter* settings, const EntityPrinterType* printerType);
 
     bool print() override;

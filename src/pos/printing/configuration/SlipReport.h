@@ -5,24 +5,23 @@
 class EntityConfigPrinter;
 class EntityPrinterType;
 
-/** Base of the slips that go to a configured printer. The records are borrowed, and a report lives for one print call.
- */
+/** Base of the slips for a configured printer. The records are borrowed; a report is used for one print call. */
 class SlipReport : public AppLinePrinter
 {
     Q_OBJECT
 
 public:
-    /** The type tells how paper is cut, whichever printer the slip goes to; without one nothing is cut. */
+    /** The type defines the cut sequence for all printers; null means no cut. */
     SlipReport(QObject* parent, const EntityPrinterType* printerType);
 
 protected:
-    /** Prints the text as the settings say: which printer, how many copies, cut or not. */
+    /** Prints the text with the settings for printer, copies and cut. */
     bool printText(const QString& title, const QString& text, const EntityConfigPrinter& settings);
-    /** The job that printText would hand over; for slips that go to several printers at once. */
+    /** The job that printText() would send; for slips that go to several printers at once. */
     [[nodiscard]] SlipQueue::Job jobFor(const QString& title, const QString& text, const EntityConfigPrinter& settings);
 
 public:
-    /** What stands although the slip failed; empty where nothing was saved for it. */
+    /** A sentence for the error box: what is saved although the slip failed. Empty if nothing was. */
     void setStanding(const QString& sentence);
 
 private:

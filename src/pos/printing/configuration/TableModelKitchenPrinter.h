@@ -2,6 +2,7 @@
 
 #include "kor/widgets/KorEntityModel.h"
 
+/** The rows of the list of kitchen printers. */
 class TableModelKitchenPrinter final : public KorEntityModel
 {
     Q_OBJECT

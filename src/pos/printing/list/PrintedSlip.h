@@ -3,7 +3,7 @@
 #include "kor/entity/KorEntity.h"
 #include "pos/printing/slips/KeptSlip.h"
 
-/** A slip that the workstation keeps, as a row of a list. It has no table: nothing saves it. */
+/** A kept slip as a row of a list. It has no table and is never saved. */
 class PrintedSlip final : public KorEntity
 {
     Q_OBJECT

@@ -5,17 +5,17 @@
 #include <QCoreApplication>
 #include <QIcon>
 
-/** What a slip is, and what has become of it, in words for a person. */
+/** Texts for the kind and the state of a slip. */
 class SlipWords final
 {
     Q_DECLARE_TR_FUNCTIONS(SlipWords)
 
 public:
     [[nodiscard]] static QString kind(KeptSlip::Kind kind);
-    /** The kind, and which copy it is where it is one. */
+    /** The kind, and the number of the copy if it is one. */
     [[nodiscard]] static QString kind(const KeptSlip& slip);
     [[nodiscard]] static QString state(KeptSlip::State state);
     [[nodiscard]] static QIcon mark(KeptSlip::State state);
-    /** The state and, where there is one, its reason. */
+    /** The state and, if there is one, the reason. */
     [[nodiscard]] static QString outcome(const KeptSlip& slip);
 };

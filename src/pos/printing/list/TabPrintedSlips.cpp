@@ -31,18 +31,18 @@
 namespace
 {
 constexpr int filtersPerRow = 3;
-// Slips come in handfuls, one a kitchen, and each says several times what has become of it.
+// Orders print several slips at once, one per kitchen, and each changes its state several times.
 constexpr int changesTogether = 150;
 constexpr int anyChoice = -1;
 constexpr int narrowestPaper = 240;
 constexpr int widestPaper = 440;
-// Below this width the list has smaller letters, so that its columns stand beside the paper.
+// Below this width the list uses a smaller font, so that its columns fit beside the paper.
 constexpr int narrowPage = 900;
 constexpr int fewerPoints = 3;
 constexpr int cellPadding = 8;
 constexpr int markWidth = 30;
 
-/** Times are compared as what they are; the list shows them without the date where it is one day's. */
+/** Sorts by time. The list shows times without the date if it covers only one day. */
 class SlipOrder final : public KorSortFilterProxyModel
 {
 public:
@@ -58,7 +58,7 @@ protected:
     }
 };
 
-/** Of the longest word for a state. */
+/** The width of the longest text for a state. */
 int widestState(const QFontMetrics& metrics)
 {
     int widest = 0;
@@ -222,7 +222,7 @@ void TabPrintedSlips::resizeEvent(QResizeEvent* event)
 void TabPrintedSlips::showEvent(QShowEvent* event)
 {
     AppTab::showEvent(event);
-    // Once the style has given the header its letters.
+    // Later, when the style has set the header's font.
     QTimer::singleShot(0, this, &TabPrintedSlips::scaleColumns);
 }
 
@@ -233,7 +233,7 @@ void TabPrintedSlips::scaleColumns()
     if (isNarrow)
         letters.setPointSizeF(letters.pointSizeF() - fewerPoints);
     m_grid->setFont(letters);
-    // The header draws with what its viewport has from the style, and measures with its own.
+    // The header measures with its own font but draws with its viewport's: set both.
     m_grid->horizontalHeader()->setFont(letters);
     m_grid->horizontalHeader()->viewport()->setFont(letters);
     const QFontMetrics metrics(letters);
@@ -241,7 +241,7 @@ void TabPrintedSlips::scaleColumns()
     const auto widthOf = [&metrics](const QString& widest) {
         return metrics.horizontalAdvance(widest) + 2 * cellPadding;
     };
-    // Time, number and state come first; the rest is shared, and the kind gives way to the others.
+    // Time, number and state get what they need; the others share the rest, and the kind is the first to shrink.
     using Model = TableModelPrintedSlips;
     const bool ofOneDay = m_from->date() == m_to->date();
     const int word =
@@ -352,7 +352,7 @@ void TabPrintedSlips::select(const QString& id)
     m_grid->setCurrentIndex(row < 0 ? QModelIndex() : proxy->mapFromSource(m_model->index(row, 0)));
 }
 
-// --- the slip in hand ----------------------------------------------------------------------------------------------
+// --- the selected slip ---------------------------------------------------------------------------------------------
 
 const KeptSlip* TabPrintedSlips::chosen() const
 {
@@ -389,7 +389,7 @@ void TabPrintedSlips::offerTargets()
     const bool isSameSlip = slip && slip->id == m_shown;
     const QString target = isSameSlip ? m_target->currentText() : QString();
     m_again->setEnabled(slip && !names.isEmpty());
-    // A choice that is being made is left alone.
+    // Nothing has changed: do not reset the user's choice.
     if (isSameSlip && names == m_targets)
         return;
     m_targets = names;
@@ -406,7 +406,7 @@ void TabPrintedSlips::askForPrinters()
         m_available = *names;
         offerTargets();
     });
-    // The page does not wait for it: what comes after the page has gone, goes with the thread.
+    // The page does not wait for this thread, which may outlive it.
     connect(asking, &QThread::finished, asking, &QObject::deleteLater);
     asking->start();
 }

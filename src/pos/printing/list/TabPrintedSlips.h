@@ -16,8 +16,8 @@ class SlipPaper;
 class TableModelPrintedSlips;
 
 /**
- * What this workstation has printed: the list with its filters, the slip in hand as paper, and printing it again. It
- * needs no database, and keeps itself up to date.
+ * The slips that this workstation printed: a list with filters, a preview of the selected slip, and printing it again.
+ * It needs no database and updates itself.
  */
 class TabPrintedSlips final : public AppTab
 {
@@ -50,15 +50,15 @@ private:
     void reload();
     [[nodiscard]] QList<KorEntity*> readRows();
     [[nodiscard]] bool isWanted(const KeptSlip& slip) const;
-    /** The filter's choice follows the printers that there are slips of. */
+    /** Offers the printers of these slips in the filter. */
     void offerPrinters(const QList<KeptSlip>& slips);
     void select(const QString& id);
 
     [[nodiscard]] const KeptSlip* chosen() const;
     void showChosen();
-    /** The slip's own printer first, then those that can be listed. */
+    /** Offers the slip's own printer first, then the known printers. */
     void offerTargets();
-    /** A print server can be slow: it is asked on another thread. */
+    /** Asks on another thread, because a print server can be slow. */
     void askForPrinters();
 
     AppFilterBar* m_filters;
@@ -79,6 +79,6 @@ private:
     QTimer* m_changed;
     QStringList m_available;
     QStringList m_targets;
-    // The slip on the paper: a list that is read again leaves it as it is scrolled.
+    // The id of the slip in the preview; if it is unchanged after a refresh, the preview keeps its scroll position.
     QString m_shown;
 };

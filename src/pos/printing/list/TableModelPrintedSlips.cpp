@@ -39,7 +39,7 @@ QVariant TableModelPrintedSlips::tip(const KeptSlip& slip, const QModelIndex& in
 {
     if (index.column() == Time)
         return slip.at.toString(AppContext::instance()->dateFormat() + " HH:mm:ss");
-    // On a small screen words are cut off.
+    // The full text: on a small screen cells are cut off.
     return index.column() == State ? SlipWords::outcome(slip) : KorEntityModel::data(index, Qt::DisplayRole);
 }
 

@@ -7,7 +7,7 @@
 
 struct KeptSlip;
 
-/** Kept slips as a list shows them. Those of one day need no date. */
+/** The rows of the list of kept slips. The date is not shown if all are of one day. */
 class TableModelPrintedSlips final : public KorEntityModel
 {
     Q_OBJECT
@@ -18,7 +18,7 @@ public:
     TableModelPrintedSlips(const QList<KorEntity*>& slips, bool ofOneDay, QObject* parent);
 
     [[nodiscard]] QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
-    /** The row's slip; null behind the last one. */
+    /** The row's slip; null if the row does not exist. */
     [[nodiscard]] const KeptSlip* slipAt(int row) const;
 
 private:

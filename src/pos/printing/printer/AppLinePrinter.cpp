@@ -68,7 +68,7 @@ QByteArray AppLinePrinter::decodeControlSequence(const QString& text)
 
 namespace
 {
-/** A printer takes text up to its end, and a zero byte ends it. */
+/** The bytes before the first zero byte, which ends a text for the printer. */
 QByteArray upToZero(const QByteArray& bytes) { return QByteArray(bytes.constData()); }
 } // namespace
 
@@ -92,7 +92,7 @@ bool AppLinePrinter::printTogether(const QList<SlipQueue::Job>& jobs)
     const QList<SlipQueue::Verdict> verdicts = SlipQueue::instance()->handOver(jobs);
     for (int i = 0; i < jobs.size(); ++i)
         done = SlipQueue::tell(verdicts[i], jobs[i]) && done;
-    // The job is closed behind the slip: who writes on is told so.
+    // The job is closed: a new spooler, so that a later write fails with an error.
     m_printerHandle = SlipSpooler::create();
     return done;
 }

@@ -10,10 +10,10 @@
 class SlipSpooler;
 
 /**
- * Base of all slips: plain text, sent as raw bytes to a slip printer. A slip lives for one print call. Slips of the
- * house go with printCopies, by way of the queue. By hand, and waiting for the printer, the order of a job is
- * setPrinterName, openPrinter, writeText any number of times, closePrinter; a job that is still open when the slip goes
- * is dropped.
+ * Base of all slips: plain text, sent as raw bytes to a slip printer. An object is used for one print call. Slips of
+ * the program use printCopies(), which goes through the queue. To send a job directly and wait for the printer, call
+ * setPrinterName(), openPrinter(), writeText() any number of times and closePrinter(). The destructor drops an open
+ * job.
  */
 class AppLinePrinter : public QObject
 {
@@ -23,37 +23,37 @@ public:
     explicit AppLinePrinter(QObject* parent = nullptr);
     ~AppLinePrinter() override;
 
-    /** Composes the whole slip and prints it; true when opening the printer and all writes succeeded. */
+    /** Composes and prints the whole slip; true if the printer was opened and all writes succeeded. */
     virtual bool print() = 0;
 
     void setPrinterName(const QString& name) { m_printerName = name; }
     [[nodiscard]] const QString& printerName() const { return m_printerName; }
-    /** What the slip is about, for the list of kept slips and for boxes. */
+    /** What the slip is about, for the list of kept slips and for error boxes. */
     void setPurpose(const SlipPurpose& purpose) { m_purpose = purpose; }
     [[nodiscard]] const SlipPurpose& purpose() const { return m_purpose; }
-    /** The document's name is the job's title in the print queue. False leaves an earlier job as it was. */
+    /** The document name is the job's title in the print queue. If it fails, an earlier job stays open. */
     bool openPrinter(const QString& documentName);
-    /** Sends the bytes before the first zero byte; a failure that the spooler can explain is shown in a box. */
+    /** Sends the bytes before the first zero byte. Shows an error box if the spooler gives a reason. */
     bool writeText(const char* bytes);
     bool closePrinter();
 
     [[nodiscard]] static QString repeatChar(QChar ch, int count);
     [[nodiscard]] static QString justify(const QString& text, QTextStream::FieldAlignment alignment, int width);
-    /** The bytes of a control sequence in the notation of the printer types, "27#112#0" or "29#V#66#0". */
+    /** The bytes of a control sequence in the notation of the printer types: "27#112#0" or "29#V#66#0". */
     [[nodiscard]] static QByteArray decodeControlSequence(const QString& text);
 
 protected:
     /**
-     * The whole job of a slip: body, and behind it the cut sequence, once a copy, each up to its first zero byte. It is
-     * kept and handed over; a failure that is known within two seconds is told in a box. True when the printer opened
-     * and every write succeeded, or where that takes longer: what fails then is told later.
+     * Prints copies of a slip, each followed by the cut sequence, both up to their first zero byte. The slip is kept
+     * and queued. A failure within two seconds is shown in a box, a later one is reported later. True if nothing failed
+     * within that time.
      */
     bool printCopies(const QString& printerName, const QString& title, const QByteArray& body, int copies,
                      const QByteArray& cutSequence);
-    /** The job that printCopies would hand over. */
+    /** The job that printCopies() would send. */
     [[nodiscard]] SlipQueue::Job jobOf(const QString& printerName, const QString& title, const QByteArray& body,
                                        int copies, const QByteArray& cutSequence) const;
-    /** Hands all of them over at once; each failure has its box. True when none failed. */
+    /** Queues all jobs at once; shows a box for each failure. True if none failed within the time. */
     bool printTogether(const QList<SlipQueue::Job>& jobs);
 
 private:

@@ -5,7 +5,7 @@
 
 class DataMapperPrinterType;
 
-/** The service of the printer models, which the installer lays down and forms and slips only read. */
+/** The service of the printer models. The installer inserts them; forms and slips only read them. */
 class BusinessPrinterType final : public KorBusinessLogic
 {
     Q_OBJECT
@@ -19,7 +19,7 @@ public:
     [[nodiscard]] QList<KorPermission> getPermissions() const override;
 
     [[nodiscard]] QList<EntityPrinterType*> getAll();
-    /** Null when there is no such model. */
+    /** Null if there is no such model. */
     [[nodiscard]] EntityPrinterType* findByType(const QString& name);
 
 private:

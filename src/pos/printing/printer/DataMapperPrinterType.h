@@ -14,6 +14,6 @@ public:
     KorEntity* createEntity() override;
 
     [[nodiscard]] EntityPrinterType* findByType(const QString& name);
-    /** In the order of their names. */
+    /** Sorted by name. */
     [[nodiscard]] QList<EntityPrinterType*> getAll();
 };

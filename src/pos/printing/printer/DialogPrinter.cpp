@@ -16,7 +16,7 @@ DialogPrinter::~DialogPrinter() = default;
 
 void DialogPrinter::on_pushButton_clicked()
 {
-    // The test text is composed and let go: this form looks at printers and sends nothing to them.
+    // The text is not used: this form only lists printers and sends nothing.
     const QByteArray testText("testing veri long tesxa dddasd asdsa\r\n");
     Q_UNUSED(testText)
 }

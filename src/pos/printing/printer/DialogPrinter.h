@@ -9,7 +9,7 @@ namespace Ui
 class DialogPrinter;
 }
 
-/** Shows the printers that slips can go to. */
+/** Lists the printers for slips. */
 class DialogPrinter final : public QDialog
 {
     Q_OBJECT

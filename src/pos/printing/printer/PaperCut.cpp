@@ -5,7 +5,7 @@
 PaperCut::PaperCut(const QString& notation)
     : m_bytes(AppLinePrinter::decodeControlSequence(notation)), m_sent(m_bytes.constData())
 {
-    // No notation at all is no sequence, though it decodes to a zero byte.
+    // An empty notation decodes to a zero byte, but means no sequence.
     if (notation.isEmpty())
         m_bytes.clear();
 }

@@ -3,7 +3,7 @@
 #include <QCoreApplication>
 #include <QStringList>
 
-/** What the cut sequence of a printer type does to the paper, in words for whoever chooses the type. */
+/** Describes the effect of a printer type's cut sequence, to help the user choose a type. */
 class PaperCut final
 {
     Q_DECLARE_TR_FUNCTIONS(PaperCut)
@@ -12,11 +12,11 @@ public:
     /** The sequence in the notation of the printer types. */
     explicit PaperCut(const QString& notation);
 
-    /** A sequence is sent up to its first zero byte: false where that leaves something of it behind. */
+    /** False if the sequence contains a zero byte: only the bytes before it are sent. */
     [[nodiscard]] bool isWhole() const { return m_sent.size() == m_bytes.size(); }
-    /** Whether the printer is one that takes commands at all: bold letters and the like. */
+    /** True if the printer understands commands such as bold. */
     [[nodiscard]] bool hasCommand() const { return m_sent.startsWith('\x1B') || m_sent.startsWith('\x1D'); }
-    /** Whether it does the same as the other one's beginning, which is all that the other one sends. */
+    /** True if this sequence is complete, the other one is not, and it starts with what the other one sends. */
     [[nodiscard]] bool completes(const PaperCut& other) const;
     [[nodiscard]] QString description() const;
 

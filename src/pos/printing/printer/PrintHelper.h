@@ -3,7 +3,7 @@
 #include <QObject>
 #include <QTextStream>
 
-/** The text primitives of slips, for whoever composes lines without printing them. */
+/** Text helpers of slips, usable without a printer. */
 class PrintHelper : public QObject
 {
     Q_OBJECT
@@ -12,6 +12,6 @@ public:
     explicit PrintHelper(QObject* parent = nullptr) : QObject(parent) {}
 
     [[nodiscard]] static QString repeatChar(QChar ch, int count);
-    /** Pads to the width and never cuts: a longer text comes back whole. */
+    /** Pads to the width; a longer text is returned unchanged. */
     [[nodiscard]] static QString justify(const QString& text, QTextStream::FieldAlignment alignment, int width);
 };

@@ -4,20 +4,20 @@
 #include <QMetaType>
 #include <QString>
 
-/** One slip as the workstation keeps it; the bytes stand apart, see SlipArchive::bytes. */
+/** A slip that the workstation keeps. Its bytes are read separately, see SlipArchive::bytes(). */
 struct KeptSlip
 {
     /**
-     * Waiting slips are on their way. GivenBack: the print server took it and did not print it. Unsent: kept and shown,
-     * there is no printer.
+     * Waiting: being sent. GivenBack: the print server accepted it but did not print it. Unsent: kept and shown,
+     * because there is no printer.
      */
     enum State { Waiting, Printed, Failed, GivenBack, Unsent };
     enum Kind { Bill, Kitchen, Recap, Test };
 
-    /** Unlike any other's, on other workstations too; it begins with the day, as "20261123". */
+    /** Unique, also across workstations; starts with the day, for example "20261123". */
     QString id;
     QDateTime at;
-    /** Who was logged in; empty where nobody was. */
+    /** The logged-in user; empty if there was none. */
     QString user;
     Kind kind = Test;
     QString number;
@@ -27,9 +27,9 @@ struct KeptSlip
     QString printer;
     int columns = 0;
     State state = Waiting;
-    /** Why it is not printed. */
+    /** Why it was not printed. */
     QString reason;
-    /** The first copy of a slip is 1; 0 is the slip itself. */
+    /** Copies are numbered from 1; 0 is the slip itself. */
     int copy = 0;
     /** The id of the slip that this is a copy of. */
     QString copyOf;
@@ -37,19 +37,19 @@ struct KeptSlip
     [[nodiscard]] bool isNotPrinted() const { return state == Failed || state == GivenBack; }
 };
 
-/** What a slip is about, as whoever composes it knows. */
+/** What a slip is about; set by the code that composes it. */
 struct SlipPurpose
 {
     KeptSlip::Kind kind = KeptSlip::Test;
-    /** "TRD11260012", or the number of a take-away order; empty where people use none. */
+    /** "TRD11260012", or the number of a take-away order; empty if the document has none. */
     QString number;
     /** The table or the guest. */
     QString place;
     /** The paper's width in characters. */
     int columns = 0;
-    /** What stands although the slip failed, said first in its box; empty where nothing was saved. */
+    /** What is saved although the slip failed, the first line of the error box; empty if nothing was saved. */
     QString standing;
-    /** Nobody has chosen a printer yet: a slip that no printer takes is kept and shown, without a box. */
+    /** True if no printer was chosen yet: a slip that cannot be sent is then kept and shown without an error box. */
     bool withoutPrinter = false;
 };
 

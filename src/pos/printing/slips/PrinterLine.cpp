@@ -9,10 +9,10 @@
 
 namespace
 {
-/** How long a till waits for a verdict; who takes longer is late. */
+/** How long the till waits for a verdict; a slower printer counts as late. */
 constexpr int lateMilliseconds = 2000;
 constexpr auto pause = std::chrono::milliseconds(1000);
-/** A job is asked for after a second, and then ever more seldom, for about ten minutes. */
+/** The state of a job is asked for after a second and then less and less often, for about ten minutes. */
 constexpr int mostQuestions = 40;
 constexpr int longestPause = 20;
 constexpr int maxQuestions = 50;
@@ -43,7 +43,7 @@ void PrinterLine::put(const Ticket& ticket)
     const std::lock_guard<std::mutex> guard(m_mutex);
     ++m_open;
     m_queue.push_back(ticket);
-    // A slip does not wait for what became of an earlier one.
+    // A new slip must not wait for questions about earlier ones.
     if (m_isAsking)
         m_interrupt = true;
     m_work.notify_one();
@@ -107,7 +107,7 @@ void PrinterLine::handOver(const Ticket& ticket)
     SlipArchive::instance()->begin(slip.id, QString());
     const auto spooler = newSpooler(slip.id);
     const auto finish = [&](KeptSlip::State state, Kind kind, const QString& reason) {
-        // Broken off at the end of the program, it stays on its way: the next start asks for it.
+        // Interrupted by the end of the program: it stays waiting, and the next start asks for its state.
         if (m_isStopped && state != KeptSlip::Printed)
             return;
         m_isLate = clock.hasExpired(lateMilliseconds);
@@ -123,7 +123,7 @@ void PrinterLine::handOver(const Ticket& ticket)
     SlipArchive::instance()->begin(slip.id, ticket->reference);
     const bool isWritten = ticket->bytes.isEmpty() || spooler->write(ticket->bytes);
     const QString reason = spooler->errorText();
-    // Whether a slip that is lost only now came out all the same is seen at the printer.
+    // If it fails only here, the slip may still have been printed; the user has to look at the printer.
     const bool isTaken = spooler->close();
     if (!isWritten)
         finish(KeptSlip::Failed, Kind::NotWritten, reason);

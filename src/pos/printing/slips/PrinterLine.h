@@ -11,14 +11,14 @@
 #include <memory>
 
 /**
- * The slips of one printer, handed over one after the other by a thread of its own. Between slips it asks the print
- * server what became of those that it took a while ago, and of those that a program that is gone left behind.
+ * Sends the slips of one printer one after the other, on its own thread. Between slips it asks the print server about
+ * the slips that it accepted earlier, and about those that an ended program left.
  */
 class PrinterLine : public std::enable_shared_from_this<PrinterLine>
 {
 public:
     using Ticket = std::shared_ptr<SlipTicket>;
-    /** What the line tells, from its thread: that a ticket has its verdict, or that a slip was given back. */
+    /** Called on the line's thread: when a ticket has its verdict, or the print server gave a slip back. */
     struct Listener
     {
         std::function<void(const Ticket&)> settled;
@@ -26,18 +26,18 @@ public:
     };
 
     PrinterLine(std::shared_ptr<SlipDesk> desk, Listener listener);
-    /** Starts the thread, which keeps the line alive until it ends. */
+    /** Starts the thread, which keeps this object alive until it ends. */
     void start();
 
     void put(const Ticket& ticket);
-    /** A slip waits here, or the last one took longer than a till waits: waiting for another one is in vain. */
+    /** True if a slip is waiting or the last one took too long, so that the till should not wait for another one. */
     [[nodiscard]] bool isBehind() const { return m_open > 0 || m_isLate; }
-    /** Gives up what it is at, which stays waiting; the thread ends soon. */
+    /** Interrupts the current slip, which stays waiting; the thread ends soon. */
     void stop();
     [[nodiscard]] bool hasEnded() const { return m_hasEnded; }
 
 private:
-    /** A slip of the past that the print server has to be asked about. */
+    /** An earlier slip whose state the print server must be asked for. */
     struct Question
     {
         Ticket ticket;
@@ -64,9 +64,9 @@ private:
     std::atomic_bool m_isLate{false};
     std::atomic_bool m_isStopped{false};
     std::atomic_bool m_hasEnded{false};
-    /** Ends the wait for the print server. */
+    /** Ends a wait for the print server. */
     std::atomic_bool m_interrupt{false};
     std::atomic_bool m_isAsking{false};
-    // Of the thread alone.
+    // Used only by the thread.
     std::deque<Question> m_questions;
 };

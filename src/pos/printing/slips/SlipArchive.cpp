@@ -105,7 +105,7 @@ QList<SlipArchive::Orphan> SlipArchive::adopt()
 
 void SlipArchive::tellChange()
 {
-    // Many changes of one moment are one.
+    // Several changes at once give one signal.
     if (m_changeIsDue.exchange(true))
         return;
     QMetaObject::invokeMethod(

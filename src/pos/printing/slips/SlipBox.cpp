@@ -7,7 +7,7 @@
 
 namespace
 {
-/** Puts a line above the text of a box, in the text's own column. */
+/** Adds a line above the box's text, in the same column. */
 void putAbove(QMessageBox* box, const QString& line)
 {
     auto* grid = qobject_cast<QGridLayout*>(box->layout());

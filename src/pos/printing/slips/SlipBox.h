@@ -4,9 +4,6 @@
 
 namespace SlipBox
 {
-/**
- * Tells in a box of the title "Error" what went wrong with a slip. What stands all the same is read first, on a line of
- * its own above; the box's text is the told one alone.
- */
+/** Shows an error box about a slip. "standing" says what is saved all the same; it is shown above the text. */
 void tell(const QString& standing, const QString& told);
 } // namespace SlipBox

@@ -17,7 +17,7 @@ namespace
 constexpr auto dayEnding = ".slips";
 constexpr auto lockEnding = ".lock";
 
-/** A file descriptor that closes itself; the lock on its file goes with it. */
+/** A file descriptor; the destructor closes it, which also releases the lock. */
 class Descriptor
 {
 public:
@@ -34,7 +34,7 @@ public:
     [[nodiscard]] bool isOpen() const { return m_fd >= 0; }
     [[nodiscard]] int fd() const { return m_fd; }
     [[nodiscard]] bool lock() const { return m_fd >= 0 && ::flock(m_fd, LOCK_EX | LOCK_NB) == 0; }
-    /** Keeps it open beyond this object. */
+    /** The caller must close the descriptor. */
     int release()
     {
         const int fd = m_fd;
@@ -111,7 +111,7 @@ bool SlipJournal::open(const QString& folder, SlipArchive::Limits limits)
     m_isOpen = !folder.isEmpty();
     if (!m_isOpen)
         return true;
-    // What guests ordered is nobody else's business.
+    // Only the owner may read what guests ordered.
     if (!m_folder.mkpath(".") ||
         !QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner) || !holdOwnLock()) {
         m_isOpen = false;
@@ -124,7 +124,7 @@ bool SlipJournal::open(const QString& folder, SlipArchive::Limits limits)
 bool SlipJournal::holdOwnLock()
 {
     m_owner = QString::number(::getpid()) + '-' + randomName();
-    // Locked before it has its name: a lock file that is seen free belongs to a program that is gone.
+    // Lock it before it gets its final name, so that a lock file found unlocked always belongs to an ended program.
     const QString unnamed = m_folder.filePath(m_owner + ".new");
     Descriptor lock(unnamed, O_RDWR | O_CREAT);
     if (!lock.lock() || ::rename(QFile::encodeName(unnamed).constData(),
@@ -153,7 +153,7 @@ bool SlipJournal::append(const QString& id, const QByteArray& lines, Sync sync)
         return fail(fileOf(id) + ": " + systemError());
     const QByteArray text = '\n' + lines + '\n';
     errno = ENOSPC;
-    // Without its last line end it is whole too: the next line begins with one.
+    // One byte less is enough: only the final line break is missing, and the next line starts with one.
     if (::write(file.fd(), text.constData(), size_t(text.size())) < text.size() - 1 ||
         (sync == SyncToDisk && ::fdatasync(file.fd()) != 0))
         return fail(fileOf(id) + ": " + systemError());
@@ -198,7 +198,7 @@ void SlipJournal::readLine(const char* line, int length, qint64 offset)
         record.owner = head["owner"].toString();
         record.offset = offset + headLength + 1;
         record.length = length - headLength - 1;
-        // A power cut may leave a line without its middle, as zeros.
+        // After a power cut the middle of a line may be zeros.
         const bool isWhole = record.length == base64Length(head["size"].toInt()) &&
                              !std::memchr(line, '\0', size_t(length)) && record.slip.at.isValid();
         if (!id.isEmpty() && isWhole)
@@ -372,7 +372,7 @@ QList<SlipArchive::Orphan> SlipJournal::adopt()
     QList<SlipArchive::Orphan> orphans;
     if (!m_isOpen)
         return orphans;
-    // One program at a time, or two would take the same slip.
+    // Only one program at a time, so that no two take the same slip.
     const Descriptor alone(m_folder.filePath("adopting"), O_RDWR | O_CREAT);
     if (!alone.lock())
         return orphans;
@@ -389,7 +389,7 @@ QList<SlipArchive::Orphan> SlipJournal::adopt()
         if (!isOrphan(m_records[i]))
             continue;
         const KeptSlip slip = m_records[i].slip;
-        // Where this cannot be written, the next start finds it as it is.
+        // If this cannot be written, the next start finds the slip unchanged.
         if (append(slip.id, lineOf({{"id", slip.id}, {"owner", m_owner}}), SyncToDisk)) {
             readFile(QFileInfo(fileOf(slip.id)).fileName());
             orphans.append({slip, bytes(slip.id), m_records[i].begun, m_records[i].reference});

@@ -8,13 +8,13 @@
 #include <QVector>
 
 /**
- * The archive's folder. Each day has a file that only grows: one line a slip, what is known of it as JSON and behind a
- * tab its bytes in Base64, and one line for each later state. Several programs append to one file, a line in one write
- * each, and begin with a line end, so that a line that was torn by a full disk spoils no other. A line that is not
- * whole is passed over.
+ * The files of the archive. Each day has a file that is only appended to: one line per slip (its JSON, a tab, its bytes
+ * in Base64) and one line per later state. Several programs append to the same file, each line with one write. Lines
+ * start with a line break, so that a line cut short by a full disk does not damage the next one. Incomplete lines are
+ * skipped.
  *
- * A program holds the lock of a file of its own as long as it lives; the slips of a program whose lock is free are
- * orphans. Not thread-safe: the archive guards it.
+ * A program keeps the lock of its own lock file while it runs; slips whose program's lock is free are orphans. Not
+ * thread-safe: the archive locks its mutex.
  */
 class SlipJournal
 {
@@ -23,21 +23,21 @@ public:
     ~SlipJournal();
     Q_DISABLE_COPY_MOVE(SlipJournal)
 
-    /** False, with the reason in error(), where the folder cannot be written; slips then stay in memory. */
+    /** False, with the reason in error(), if the folder cannot be written; slips then stay in memory. */
     bool open(const QString& folder, SlipArchive::Limits limits);
     [[nodiscard]] const QString& error() const { return m_error; }
 
-    /** Reads what this and other programs have appended meanwhile. */
+    /** Reads what all programs have appended since the last call. */
     void refresh();
     [[nodiscard]] QList<KeptSlip> slips(const QDate& from, const QDate& to) const;
     [[nodiscard]] KeptSlip slip(const QString& id) const;
     [[nodiscard]] QByteArray bytes(const QString& id) const;
     [[nodiscard]] int copies(const QString& id) const;
 
-    /** False where some are in memory only. */
+    /** False if some are only in memory. */
     bool add(QList<SlipArchive::Entry>& entries);
     bool begin(const QString& id, const QString& reference);
-    /** False where it is known in memory only. */
+    /** False if the state is only in memory. */
     bool settle(const QString& id, KeptSlip::State state, const QString& reason);
     void prune();
     [[nodiscard]] QList<SlipArchive::Orphan> adopt();
@@ -49,7 +49,7 @@ private:
         QString owner;
         QString reference;
         bool begun = false;
-        /** Where the bytes stand in the day's file; they are in memory where the length is negative. */
+        /** The position of the bytes in the day's file; a negative length means that they are in memory. */
         qint64 offset = 0;
         int length = -1;
         QByteArray bytes;

@@ -27,7 +27,7 @@ constexpr int usualSize = 13;
 constexpr qreal smallestScale = 0.58;
 constexpr qreal largestScale = 1.4;
 
-/** Wide enough for the columns of the paper, or for its longest line where it has none. */
+/** Wide enough for the columns of the paper; without columns, for the longest line. */
 int columnsOf(const QList<SlipLine>& lines, int columns)
 {
     int widest = columns > 0 ? columns : fewestColumns;
@@ -40,7 +40,7 @@ int columnsOf(const QList<SlipLine>& lines, int columns)
 SlipPaper::SlipPaper(QWidget* parent) : QAbstractScrollArea(parent)
 {
     QFont letters = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    // A system that names no such font has one of these all the same.
+    // A system may name no such font, but has one of these.
     letters.setFamilies({letters.family(), "DejaVu Sans Mono", "Liberation Mono", "monospace"});
     if (!QFontInfo(letters).fixedPitch())
         letters.setFamilies(letters.families().mid(1));
@@ -123,7 +123,7 @@ void SlipPaper::paintEvent(QPaintEvent*)
     painter.fillRect(viewport()->rect(), QColor(groundRgb));
     if (m_lines.isEmpty()) {
         painter.setPen(QColor(inkRgb));
-        // Not in the letters of the slip.
+        // Use the program's font and not that of the slip.
         QFont words = QApplication::font();
         words.setFamily(words.family());
         words.setPointSizeF(words.pointSizeF());
@@ -140,7 +140,7 @@ void SlipPaper::paintEvent(QPaintEvent*)
 void SlipPaper::drawPaper(QPainter& painter) const
 {
     const QSizeF size = paperSize();
-    // Torn off below.
+    // A torn edge at the bottom.
     QPainterPath paper;
     paper.addRect(QRectF(QPointF(), size));
     QPolygonF teeth;
@@ -173,7 +173,7 @@ void SlipPaper::drawLine(QPainter& painter, const SlipLine& line, qreal top) con
     const int before = line.alignment == SlipLine::Left ? 0 : line.alignment == SlipLine::Right ? spare : spare / 2;
     QPointF at(paperMargin + before * m_letter.width(), top);
     for (const SlipSpan& span : line.spans) {
-        // Letters of all sizes stand on one line.
+        // Align letters of all sizes at the bottom.
         drawSpan(painter, span, at + QPointF(0, (line.height() - span.height) * m_letter.height()));
         at.rx() += span.text.toUcs4().size() * span.width * m_letter.width();
     }
@@ -188,7 +188,7 @@ void SlipPaper::drawSpan(QPainter& painter, const SlipSpan& span, const QPointF&
     letters.setBold(span.bold);
     painter.setFont(letters);
     painter.setPen(QColor(inkRgb));
-    // One by one: a letter that the font lacks must not push the columns behind it.
+    // One by one: a missing letter comes from another font and must not shift the columns after it.
     qreal x = 0;
     const QVector<uint> points = span.text.toUcs4();
     for (const uint point : points) {
@@ -217,7 +217,7 @@ void SlipPaper::resizeEvent(QResizeEvent* event)
 
 void SlipPaper::keyPressEvent(QKeyEvent* event)
 {
-    // The scroll area knows the arrows and the pages, not the two ends.
+    // The scroll area handles arrows and page keys, but not Home and End.
     if (event->key() == Qt::Key_Home)
         verticalScrollBar()->triggerAction(QAbstractSlider::SliderToMinimum);
     else if (event->key() == Qt::Key_End)

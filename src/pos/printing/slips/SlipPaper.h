@@ -5,8 +5,8 @@
 #include <QAbstractScrollArea>
 
 /**
- * A slip as the paper that comes out of the printer, drawn from the very bytes that were sent there. The paper is as
- * wide as its columns and grows and shrinks with the widget, within what can be read; it scrolls by wheel and keys.
+ * Shows a slip as printed paper, drawn from the bytes that were sent. The paper scales with the widget as long as it
+ * can be read, and scrolls with wheel and keys.
  */
 class SlipPaper final : public QAbstractScrollArea
 {
@@ -15,12 +15,12 @@ class SlipPaper final : public QAbstractScrollArea
 public:
     explicit SlipPaper(QWidget* parent = nullptr);
 
-    /** Without columns (0) the paper is as wide as the longest line. */
+    /** With 0 columns the paper is as wide as the longest line. */
     void showSlip(const QByteArray& bytes, int columns);
-    /** No paper, and these words in its place. */
+    /** Shows this text instead of a slip. */
     void showNothing(const QString& words);
 
-    /** The lines as they stand on the paper, without how they look. */
+    /** The text of the slip, without formatting. */
     [[nodiscard]] QString text() const;
 
     [[nodiscard]] QSize sizeHint() const override;
@@ -42,7 +42,7 @@ private:
     QList<SlipLine> m_lines;
     QString m_words;
     int m_columns = 0;
-    // Of a letter in its usual size, before the paper is scaled.
+    // The size of a normal letter before scaling.
     QSizeF m_letter;
     qreal m_ascent = 0;
     qreal m_scale = 1;

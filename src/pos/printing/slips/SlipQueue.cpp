@@ -21,7 +21,7 @@ constexpr int minutesUntilOld = 15;
 constexpr int adoptMilliseconds = 30 * 1000;
 constexpr int pruneMilliseconds = 60 * 60 * 1000;
 
-/** When the outermost Patience ends; without one each job has its own. */
+/** When the outermost Patience ends; without one, each job has its own time limit. */
 struct SharedPatience
 {
     int depth = 0;
@@ -116,7 +116,7 @@ QList<SlipQueue::Verdict> SlipQueue::handOver(const QList<Job>& jobs, const Kept
         const auto ticket = std::make_shared<SlipTicket>();
         ticket->slip = entries[i].slip;
         ticket->bytes = entries[i].bytes;
-        // A folder of slips has no print server to choose a printer from: what it refuses is told as ever.
+        // With a folder instead of a print server there is no printer to choose, so errors are always shown.
         ticket->withoutPrinter = jobs[i].purpose.withoutPrinter && !SlipSpooler::hasOneLine();
         PrinterLine* line = lineOf(ticket->slip.printer);
         const bool isAwaited =
@@ -190,7 +190,7 @@ bool SlipQueue::printAgain(const QString& id, const QString& printer)
 {
     const SlipArchive* archive = SlipArchive::instance();
     KeptSlip original = archive->slip(id);
-    // A copy of a copy is one of the slip itself, as long as that is kept.
+    // A copy of a copy is made from the original, if it is still kept.
     const KeptSlip first = original.copyOf.isEmpty() ? KeptSlip() : archive->slip(original.copyOf);
     if (!first.id.isEmpty())
         original = first;
@@ -231,7 +231,7 @@ void SlipQueue::takeOver()
         connect(timer, &QTimer::timeout, this, work);
         timer->start(milliseconds);
     };
-    // Another window may be killed while this one goes on.
+    // Another program window may be killed while this one runs.
     every(adoptMilliseconds, [this] { adoptOrphans(); });
     every(pruneMilliseconds, [] { SlipArchive::instance()->prune(); });
 }
@@ -265,7 +265,7 @@ void SlipQueue::stop()
     waitFor(m_waiting);
     for (const auto& line : qAsConst(m_lines))
         line->stop();
-    // A wait for the print server ends within a fifth of a second; whoever looks up its name is left behind.
+    // A wait for the print server ends within 0.2 seconds. A thread in a host name lookup is not waited for.
     QDeadlineTimer end(600);
     const auto isAtWork = [](const std::shared_ptr<PrinterLine>& line) { return !line->hasEnded(); };
     while (std::any_of(m_lines.cbegin(), m_lines.cend(), isAtWork) && !end.hasExpired())

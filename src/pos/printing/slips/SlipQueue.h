@@ -14,15 +14,15 @@ class SlipTicket;
 struct SlipDesk;
 
 /**
- * Hands slips over to the printers, each printer in a thread of its own, so that selling never waits for paper. The
- * order within one printer is kept. All public calls come from the GUI thread.
+ * Sends slips to the printers, with a thread per printer, so that selling does not wait for a printer. Slips of one
+ * printer keep their order. Call the public functions on the GUI thread.
  */
 class SlipQueue final : public QObject
 {
     Q_OBJECT
 
 public:
-    /** A slip with all its bytes, copies and cuts among them. */
+    /** A slip with all its bytes, including copies and cuts. */
     struct Job
     {
         SlipPurpose purpose;
@@ -30,21 +30,18 @@ public:
         QString title;
         QByteArray bytes;
     };
-    /** What is known of a job when the till goes on. */
+    /** What is known about a job when the till continues. */
     struct Verdict
     {
         enum Kind { Printed, OnItsWay, NotOpened, NotWritten, GivenBack, Unsent };
 
         Kind kind = OnItsWay;
         QString reason;
-        /** What later fails is told later. */
+        /** True also if the result is not known yet; a later failure is reported later. */
         [[nodiscard]] bool isGood() const { return kind != NotOpened && kind != NotWritten; }
     };
 
-    /**
-     * What is handed over while one of these lives waits for verdicts no longer than one job does, however many there
-     * are.
-     */
+    /** While an object exists, all jobs together wait for their verdicts no longer than a single job does. */
     class Patience
     {
     public:
@@ -53,37 +50,36 @@ public:
         Q_DISABLE_COPY_MOVE(Patience)
     };
 
-    /** Made on first use and never destroyed. Its threads end with the application. */
+    /** Created on first use and never destroyed. Its threads end with the application. */
     static SlipQueue* instance();
 
     /**
-     * Writes the jobs down, hands them all over and waits for their verdicts together, two seconds at most and without
-     * serving events. A printer that is behind is not waited for.
+     * Saves the jobs, queues them all and waits for their verdicts together, at most two seconds and without processing
+     * events. It does not wait for a printer that is behind.
      */
     [[nodiscard]] QList<Verdict> handOver(const QList<Job>& jobs);
     /**
-     * Prints a kept slip once more, with the first line "COPY n" and the time, on this printer. What fails is told in a
-     * box, as for any slip; the copy is a kept slip of its own.
+     * Prints a kept slip again on this printer, with a first line of "COPY n" and the time. Failures are shown in a
+     * box, as for any slip. The copy becomes a kept slip, too.
      */
     bool printAgain(const QString& id, const QString& printer);
-    /** Tells in a box what a bad verdict says; a good one is silent. Returns whether it was good. */
+    /** Shows a box for a bad verdict; returns whether it was good. */
     static bool tell(const Verdict& verdict, const Job& job);
 
-    /** The names of the printers that slips wait for, a name once a slip. */
+    /** The printer name of each waiting slip; may contain duplicates. */
     [[nodiscard]] QStringList waitingPrinters() const;
-    /** Goes on with the slips of programs that are gone; too old ones fail. */
+    /** Continues the slips of ended programs; those that are too old fail. */
     void takeOver();
-    /** A kitchen must not cook yesterday's orders: what a program left behind is printed within a quarter of an hour.
-     */
+    /** True after a quarter of an hour: a kitchen must not cook yesterday's orders. */
     [[nodiscard]] static bool isTooOld(const KeptSlip& slip);
-    /** Why a slip that is too old is not printed. */
+    /** The reason for a slip that is too old. */
     [[nodiscard]] static QString endedBefore();
 
 signals:
     void waitingChanged();
-    /** A slip that the till did not wait for was not printed, or the print server has given one back. */
+    /** A slip was not printed after the till had continued, or the print server gave one back. */
     void failedLater(const KeptSlip& slip);
-    /** Kept and shown only: nobody has chosen a printer yet. */
+    /** A slip is only kept and shown, because no printer was chosen yet. */
     void unsent(const KeptSlip& slip);
 
 private:
@@ -94,7 +90,7 @@ private:
 
     PrinterLine* lineOf(const QString& printer);
     QList<Verdict> handOver(const QList<Job>& jobs, const KeptSlip& original);
-    /** False where somebody waits for a verdict in vain. */
+    /** False if a verdict did not come in time. */
     bool waitFor(const QList<Ticket>& tickets);
     void adoptOrphans();
     void onSettled(const Ticket& ticket);

@@ -20,7 +20,7 @@ constexpr int tabWidth = 8;
 
 bool isLetter(int byte) { return byte >= firstLetter && byte != deleteSign; }
 
-/** The parameter stands for itself or as its digit: 1 and '1' say the same. */
+/** A parameter may be a number or its digit: 1 and '1' mean the same. */
 int digit(uchar parameter) { return parameter >= '0' && parameter <= '9' ? parameter - '0' : parameter; }
 
 SlipLine::Alignment alignmentOf(int parameter)
@@ -28,7 +28,7 @@ SlipLine::Alignment alignmentOf(int parameter)
     return parameter == 1 ? SlipLine::Centre : parameter == 2 ? SlipLine::Right : SlipLine::Left;
 }
 
-// How many bytes follow a command that leaves nothing on this paper; unknown ones take none.
+// The number of parameter bytes of commands that print nothing; 0 for unknown ones.
 int escapeParameters(uchar letter)
 {
     static const QHash<uchar, int> counts{{' ', 1},  {'$', 2}, {'%', 1}, {'3', 1}, {'=', 1}, {'?', 1}, {'A', 1},
@@ -190,7 +190,7 @@ void SlipScript::escape(uchar letter)
         drawer();
         break;
     case 'D':
-        // The places of the tabs, up to a zero.
+        // The tab positions, up to a zero byte.
         while (peek() > 0)
             skip(1);
         skip(1);
@@ -266,7 +266,7 @@ void SlipScript::paperCut()
 
 void SlipScript::drawer()
 {
-    // A pulse names one of two drawers. What ends before that is the cut of a type whose sequence ends there.
+    // A pulse command names one of two drawers. Without that it is a type's cut sequence that ends here.
     if (!m_pulsesShort && (peek() == 0 || peek() == 1 || peek() == '0' || peek() == '1'))
         skip(3);
     else
@@ -285,7 +285,7 @@ void SlipScript::append(const QString& letters)
 {
     const QVector<uint> points = letters.normalized(QString::NormalizationForm_C).toUcs4();
     for (const uint point : points) {
-        // Control characters beyond the first 32.
+        // Skip control characters above the first 32.
         if (QChar::category(point) != QChar::Other_Control)
             appendLetter(QString::fromUcs4(&point, 1));
     }

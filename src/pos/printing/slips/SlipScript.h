@@ -4,7 +4,7 @@
 #include <QList>
 #include <QString>
 
-/** Letters of a slip that look alike. Width and height count in letters of the printer's usual size. */
+/** Consecutive letters of a slip with the same format. Width and height are multiples of the normal letter. */
 struct SlipSpan
 {
     QString text;
@@ -16,7 +16,7 @@ struct SlipSpan
     [[nodiscard]] bool looksLike(const SlipSpan& other) const;
 };
 
-/** One line of a slip, or the place where the paper is cut. */
+/** One line of a slip, or a paper cut. */
 struct SlipLine
 {
     enum Alignment { Left, Centre, Right };
@@ -26,20 +26,20 @@ struct SlipLine
     bool isCut = false;
 
     [[nodiscard]] QString text() const;
-    /** In letters of the usual size. */
+    /** In normal letters. */
     [[nodiscard]] int width() const;
-    /** In lines of the usual size. */
+    /** In normal lines. */
     [[nodiscard]] int height() const;
 };
 
 /**
- * Reads the bytes of a slip the way a slip printer does: letters in UTF-8, line feeds, and the usual commands for how
- * letters look and where the paper is cut. Commands that leave nothing on the paper are passed over.
+ * Parses the bytes of a slip like a slip printer: letters in UTF-8, line feeds, and the common commands for format and
+ * cut. Commands that print nothing are skipped.
  */
 class SlipScript final
 {
 public:
-    /** The lines from top to bottom. A longer line goes on in the next one; without columns (0) lines do not break. */
+    /** The lines from top to bottom. Long lines are wrapped at the columns; 0 columns means no wrapping. */
     [[nodiscard]] static QList<SlipLine> read(const QByteArray& bytes, int columns);
 
 private:
@@ -61,14 +61,15 @@ private:
     void reset();
 
     [[nodiscard]] int peek(int ahead = 0) const;
-    /** The next byte; 0 behind the end. */
+    /** The next byte; 0 at the end. */
     uchar take();
     void skip(int count);
 
     QByteArray m_bytes;
     int m_columns;
     int m_at = 0;
-    // A type's sequence ends at its first zero byte, and so may a command: what the last one of a slip lacks, all lack.
+    // A sequence is sent only up to its first zero byte, so a command may lack parameters. True if the slip's last
+    // command lacks them; then all commands of this kind do.
     bool m_cutsShort = false;
     bool m_pulsesShort = false;
     SlipSpan m_style;

@@ -7,26 +7,26 @@
 #include <condition_variable>
 #include <mutex>
 
-/** One slip on its way through the queue. What is marked so is guarded by the desk. */
+/** One slip in the queue. Members marked "Guarded" need the desk's mutex. */
 class SlipTicket
 {
 public:
     KeptSlip slip;
     QByteArray bytes;
     bool withoutPrinter = false;
-    /** A program that is gone had begun to hand it over: the print server is asked before anything is sent. */
+    /** An ended program had started to send it: ask the print server first. */
     bool isLeft = false;
     QString reference;
 
-    /** Guarded: the verdict stands. */
+    /** Guarded: the verdict is known. */
     bool isSettled = false;
     /** Guarded. */
     SlipQueue::Verdict verdict;
-    /** Guarded: the till has gone on, and hears of a failure later. */
+    /** Guarded: the till has continued, and a failure is reported later. */
     bool isAbandoned = false;
 };
 
-/** Where tickets get their verdicts and the till waits for them. */
+/** The mutex and condition for the verdicts of tickets. */
 struct SlipDesk
 {
     std::mutex mutex;

@@ -11,7 +11,7 @@ namespace
 {
 constexpr int jobMilliseconds = 20000;
 constexpr int questionMilliseconds = 10000;
-/** A form waits for this. */
+/** Short, because a form waits for it. */
 constexpr int listMilliseconds = 2000;
 
 void addText(const IppMessage& message, ipp_tag_t group, ipp_tag_t kind, const char* name, const QString& text)
@@ -32,7 +32,7 @@ IppMessage requestAboutJob(ipp_op_t operation, const QString& queue, int job)
     return request;
 }
 
-/** One job, printer or the like of an answer, by attribute. */
+/** The attributes of one job or printer in an answer. */
 using Attributes = QHash<QString, ipp_attribute_t*>;
 
 QList<Attributes> objectsIn(const IppMessage& answer, ipp_tag_t group)
@@ -130,7 +130,7 @@ bool CupsSlipSpooler::startJob(const QString& printerName, const QString& title)
 
 bool CupsSlipSpooler::createJob(const QString& title)
 {
-    // The queue's own options stay out: copies and cutting are the slip's, not the spooler's.
+    // The queue's own options are not used: the slip contains its copies and cuts.
     const IppMessage request = PrintServer::newRequest(IPP_OP_CREATE_JOB, m_job->queue);
     addText(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", title);
     if (!mark().isEmpty())
@@ -158,7 +158,7 @@ bool CupsSlipSpooler::sendBytes(const QByteArray& bytes)
 
 bool CupsSlipSpooler::finishJob()
 {
-    // The server refuses a document without content; nothing to print is no failure, so the job is taken back.
+    // The server refuses a document without content. An empty slip is no failure, so cancel the job.
     if (!m_job->hasContent) {
         dropJob();
         m_reference.clear();
@@ -176,9 +176,9 @@ void CupsSlipSpooler::dropJob()
         return;
     const bool isInterrupted = interrupt() && *interrupt();
     if (m_job->id > 0 && !isInterrupted) {
-        // The old connection stands in the middle of a document; the server takes orders on a new one only.
+        // The old connection is in the middle of a document, so use a new one.
         PrintServer server(questionMilliseconds, interrupt());
-        // Where nobody answers, the server gives a job without a document up by itself.
+        // If this fails, the server aborts a job without a document by itself.
         if (server.connect() && !server.ask(requestAboutJob(IPP_OP_CANCEL_JOB, m_job->queue, m_job->id), "/jobs/"))
             qWarning().noquote() << server.error();
     }
@@ -198,7 +198,7 @@ SlipSpooler::Fate CupsSlipSpooler::fateOf(const QString& mark, const QString& re
     if (!answer)
         return Fate::NoAnswer;
     const QList<Attributes> jobs = objectsIn(answer, IPP_TAG_JOB);
-    // The number alone may be another job's, where the server was set up anew.
+    // Job numbers restart if the server is set up again, so also compare the mark.
     if (jobs.isEmpty() || text(jobs.first(), "job-billing") != mark)
         return Fate::NotThere;
     QString reason;
@@ -209,7 +209,7 @@ SlipSpooler::Fate CupsSlipSpooler::fateOf(const QString& mark, const QString& re
 
 SlipSpooler::Fate CupsSlipSpooler::findLeftJob(const QString& mark, const QString& reference)
 {
-    Q_UNUSED(reference) // the program may have ended before it heard the number
+    Q_UNUSED(reference) // the program may have ended before it got the number
     clearError();
     PrintServer server(questionMilliseconds, interrupt());
     const IppMessage request = PrintServer::newRequest(IPP_OP_GET_JOBS);
@@ -230,7 +230,7 @@ SlipSpooler::Fate CupsSlipSpooler::findLeftJob(const QString& mark, const QStrin
             fail(reason);
             return fate;
         }
-        // It was created and never got its document. A job that has ended by itself needs nothing more.
+        // The job was created but never got its document. A job that has ended needs no cancel.
         const IppMessage cancel = PrintServer::newRequest(IPP_OP_CANCEL_JOB);
         ippAddInteger(cancel.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", number(job, "job-id"));
         if (fate == Fate::Taken && !server.isSuccess(server.ask(cancel, "/jobs/")))
@@ -248,11 +248,11 @@ QList<SlipPrinter> CupsSlipSpooler::availablePrinters()
         failWithServerText(tr("The print server does not answer"), server.error());
         return printers;
     }
-    // The server's own queues only: looking around the network for others takes time, and none of them is raw.
+    // Only the server's own queues: searching the network takes time, and no queue found there is raw.
     const IppMessage request = PrintServer::newRequest(IPP_OP_CUPS_GET_PRINTERS);
     wantAttributes(request, {"printer-name"});
     const IppMessage answer = server.ask(request, "/");
-    // A server without any printer says that it found none.
+    // A server without printers answers "not found".
     const bool hasNone = answer && ippGetStatusCode(answer.get()) == IPP_STATUS_ERROR_NOT_FOUND;
     if (!hasNone && !server.isSuccess(answer)) {
         failWithServerText(tr("The print server does not list its printers"), server.error());

@@ -3,9 +3,9 @@
 #include "pos/printing/spooler/SlipSpooler.h"
 
 /**
- * Slips through the print server (CUPS) as raw documents. Each job has a connection of its own, so that a server that
- * was started anew is found again. No call takes longer than some seconds and no job longer than half a minute, also
- * with a server that takes the connection and never answers. A job bears its mark as "job-billing".
+ * Sends slips as raw documents to the print server (CUPS). Each job uses a new connection, so that a restarted server
+ * is found. A call takes at most some seconds and a job at most half a minute, even if the server does not answer. The
+ * mark of a job is its attribute "job-billing".
  */
 class CupsSlipSpooler final : public SlipSpooler
 {
@@ -15,7 +15,7 @@ public:
     CupsSlipSpooler();
     ~CupsSlipSpooler() override;
 
-    /** The job's number at the server. */
+    /** The job's number on the server. */
     [[nodiscard]] QString reference() const override { return m_reference; }
     [[nodiscard]] Fate fateOf(const QString& mark, const QString& reference) override;
     [[nodiscard]] Fate findLeftJob(const QString& mark, const QString& reference) override;

@@ -70,8 +70,8 @@ bool FolderSlipSpooler::takeNumber()
     for (const QString& name : taken)
         last = qMax(last, name.section(QRegularExpression("[-.]"), 0, 0).toInt());
 
-    // Two programs may print into one folder: only one of them can create the file of a number, and one that was late
-    // sees the slip that the other has finished meanwhile.
+    // Several programs may print into one folder. Only one can create the job file of a number, and a later one may
+    // find that the slip with this number is already finished.
     for (;;) {
         m_number = QString("%1").arg(++last, 6, 10, QChar('0'));
         m_file.setFileName(m_folder.filePath(m_number + jobEnding));

@@ -6,11 +6,11 @@
 #include <QFile>
 
 /**
- * Slips as files, one a job, for machines without a printer: "<counter>-<printer>-<title>.slip", in the order of
- * printing. A job in progress stands under another name, so that whoever looks sees whole slips only.
+ * Writes slips as files, one per job, for machines without a printer: "<counter>-<printer>-<title>.slip", numbered in
+ * printing order. An unfinished job has another file name, so that readers only see complete slips.
  *
- * Every printer name is accepted, unless the folder holds a file "printers" with the known names, one a line; the
- * first is the default.
+ * Every printer name is accepted, unless the folder has a file "printers" with the known names, one per line; the first
+ * one is the default.
  */
 class FolderSlipSpooler final : public SlipSpooler
 {
@@ -20,7 +20,7 @@ public:
     explicit FolderSlipSpooler(const QString& folder);
     ~FolderSlipSpooler() override;
 
-    /** The folder that ZAVEL_SPOOL_DIR names; empty where slips go to the print server. */
+    /** The folder in ZAVEL_SPOOL_DIR; empty if slips go to the print server. */
     [[nodiscard]] static QString folderFromEnvironment();
 
     /** The job's number. */
@@ -37,7 +37,7 @@ protected:
 
 private:
     [[nodiscard]] bool accepts(const QString& printerName);
-    /** Creates the job's file under the next number; false when the folder cannot be written to. */
+    /** Creates the job's file with the next number; false if the folder cannot be written. */
     bool takeNumber();
     [[nodiscard]] bool isTaken(const QString& number) const;
 

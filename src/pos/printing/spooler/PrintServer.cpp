@@ -9,7 +9,7 @@ namespace
 {
 constexpr int connectMilliseconds = 5000;
 constexpr int answerMilliseconds = 10000;
-/** How long a wait takes at most before it is looked whether to go on. */
+/** The longest wait before the interrupt is checked again. */
 constexpr double waitSeconds = 0.2;
 constexpr size_t unknownLength = 0;
 
@@ -40,9 +40,9 @@ bool PrintServer::fail(const QString& text)
 
 bool PrintServer::connect()
 {
-    // The library keeps the server's name for each thread; the settings may have changed since.
+    // The library caches the server's name per thread, but the settings may have changed.
     cupsSetServer(nullptr);
-    // A slip is printed without anybody to ask, and least of all at a terminal.
+    // There is nobody to enter a password, and the default would ask on the terminal.
     cupsSetPasswordCB2(neverAsk, nullptr);
     constexpr int notYet = 0;
     m_connection.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, notYet, nullptr));
@@ -135,7 +135,7 @@ IppMessage PrintServer::receive()
 
 IppMessage PrintServer::ask(const IppMessage& request, const QByteArray& resource)
 {
-    // Once more where the server wants to know who asks, or to be asked in private.
+    // Again if the server asks for authentication or encryption.
     for (int attempt = 0; attempt < 3; ++attempt) {
         if (!send(request, resource, ippLength(request.get())))
             return nullptr;
@@ -181,7 +181,7 @@ bool PrintServer::beginDocument(const IppMessage& request, const QByteArray& res
 bool PrintServer::sendDocument(const QByteArray& bytes)
 {
     m_answer.restart();
-    // Flushed at once: a server that is gone shows here, where it is reported, and not first on closing.
+    // Flush now, so that a lost server is noticed here, where the error is reported, and not when closing.
     return (httpWrite2(m_connection.get(), bytes.constData(), size_t(bytes.size())) >= 0 &&
             httpFlushWrite(m_connection.get()) >= 0) ||
            fail();

@@ -10,6 +10,7 @@
 #include <atomic>
 #include <memory>
 
+/** Frees a CUPS object; for std::unique_ptr. */
 struct CupsFree
 {
     void operator()(http_t* connection) const { httpClose(connection); }
@@ -19,32 +20,32 @@ struct CupsFree
 using IppMessage = std::unique_ptr<ipp_t, CupsFree>;
 
 /**
- * One connection to the print server, for a few requests within a bounded time. The library's own calls connect and ask
- * again by themselves, for minutes where a server takes the connection and stays silent; here every wait ends when the
- * time is over or the interrupt is set. A call that fails says why in error().
+ * One connection to the print server for a few requests, with a time limit. The CUPS library's own calls reconnect and
+ * retry for minutes if a server accepts the connection but does not answer. Here every wait ends with the time limit or
+ * the interrupt. After a failed call error() has the reason.
  */
 class PrintServer
 {
 public:
-    /** All of the work on this connection has to be done within these milliseconds. */
+    /** The time limit for everything on this connection, in milliseconds. */
     explicit PrintServer(int milliseconds, const std::atomic_bool* interrupt = nullptr);
     Q_DISABLE_COPY_MOVE(PrintServer)
 
     [[nodiscard]] bool connect();
 
-    /** A request with what every request says; about this queue, or about the server where it is empty. */
+    /** A request with the common attributes, for this queue, or for the server if it is empty. */
     [[nodiscard]] static IppMessage newRequest(ipp_op_t operation, const QString& queue = QString());
-    /** Asks and reads the answer; null where there is none. An answer may be a refusal, see isSuccess. */
+    /** Sends the request and reads the answer; null if there is none. An answer may be a refusal, see isSuccess(). */
     [[nodiscard]] IppMessage ask(const IppMessage& request, const QByteArray& resource);
     [[nodiscard]] bool isSuccess(const IppMessage& answer);
 
-    // A request with a document behind it, whose length is not known before.
+    // A request followed by a document of unknown length.
     [[nodiscard]] bool beginDocument(const IppMessage& request, const QByteArray& resource);
     [[nodiscard]] bool sendDocument(const QByteArray& bytes);
     [[nodiscard]] IppMessage endDocument();
 
     [[nodiscard]] const QString& error() const { return m_error; }
-    /** What the server was asked with POST for a queue. */
+    /** The resource path for POST requests to a queue. */
     [[nodiscard]] static QByteArray resourceOf(const QString& queue) { return "/printers/" + queue.toUtf8(); }
 
 private:

@@ -13,7 +13,7 @@ QList<SlipPrinter> SlipSpooler::listPrinters()
 {
     if (hasOneLine())
         return create()->availablePrinters();
-    // The thread is left to itself where it is late; nobody hears its answer then.
+    // If the answer is late, the thread continues alone and its result is dropped.
     std::packaged_task<QList<SlipPrinter>()> question([] { return create()->availablePrinters(); });
     std::future<QList<SlipPrinter>> answer = question.get_future();
     std::thread(std::move(question)).detach();
@@ -61,7 +61,7 @@ bool SlipSpooler::write(const QByteArray& bytes)
         qDebug() << "Writing text to printer";
         break;
     }
-    // Nothing to send must not reach the transport: to a chunked stream an empty write means the end.
+    // Skip empty writes: in a chunked stream they would mean the end.
     if (!bytes.isEmpty() && !sendBytes(bytes))
         m_state = State::Broken;
     return m_state == State::Open;

@@ -7,7 +7,7 @@
 #include <atomic>
 #include <memory>
 
-/** A printer that slips can go to, under the name by which openPrinter takes it. */
+/** A printer for slips; openPrinter() takes its name. */
 struct SlipPrinter
 {
     QString name;
@@ -15,11 +15,11 @@ struct SlipPrinter
 };
 
 /**
- * The way of one slip at a time to a printer: open, write any number of times, close. The bytes arrive as written;
- * nothing renders or paginates them. The caller owns the spooler; a job that is still open when it goes is dropped.
+ * Sends one slip at a time to a printer: open, write any number of times, close. The bytes are sent unchanged. The
+ * caller owns the spooler; the destructor drops an open job.
  *
- * A call that fails returns false and explains itself in errorText(). A job in which a write failed is broken: the
- * writes that follow fail too, without a new explanation, and close() drops the job, so that no half slip is printed.
+ * A failed call returns false, and errorText() has the reason. After a failed write all further writes of the job fail
+ * without a new reason, and close() drops the job, so that no half slip is printed.
  */
 class SlipSpooler
 {
@@ -30,42 +30,44 @@ public:
     virtual ~SlipSpooler() = default;
     Q_DISABLE_COPY_MOVE(SlipSpooler)
 
-    /** The folder that ZAVEL_SPOOL_DIR names, where it is set; the print server otherwise. */
+    /** A spooler for the folder in ZAVEL_SPOOL_DIR if it is set, or else for the print server. */
     [[nodiscard]] static std::unique_ptr<SlipSpooler> create();
 
     /**
-     * What availablePrinters() of a new spooler says, for forms: they wait two seconds at most, whatever is slow on the
-     * way to the print server, its name included. Empty where no answer came in that time.
+     * The availablePrinters() of a new spooler, for forms: it waits at most two seconds, even if the server or its name
+     * lookup is slow. Empty if there was no answer in time.
      */
     [[nodiscard]] static QList<SlipPrinter> listPrinters();
-    /** Where slips go one by one, whichever printer they are for; otherwise each printer has a line of its own. */
+    /** True if all printers share one queue; otherwise each printer has its own. */
     [[nodiscard]] static bool hasOneLine();
 
-    /** The next job bears this mark in the print queue, beside its title, so that a later program finds it. */
+    /**
+     * The mark of the next job in the print queue, in addition to its title, so that a later program run can find it.
+     */
     void setMark(const QString& mark) { m_mark = mark; }
-    /** While the flag is set, waiting for the print server is given up. The caller keeps it alive. */
+    /** While the flag is set, waits for the print server end. The caller keeps it alive. */
     void setInterrupt(const std::atomic_bool* interrupt) { m_interrupt = interrupt; }
 
-    /** Starts a job with this title; false when the printer is unknown or out of reach, and then there is no job. */
+    /** Starts a job with this title. False if the printer is unknown or cannot be reached; then there is no job. */
     [[nodiscard]] bool openPrinter(const QString& printerName, const QString& title);
     [[nodiscard]] bool write(const QByteArray& bytes);
-    /** Hands the job over; whatever the result, no job is open afterwards. */
+    /** Sends the job. Afterwards no job is open, even if it failed. */
     [[nodiscard]] bool close();
     [[nodiscard]] bool isOpen() const { return m_state != State::Closed; }
 
-    /** What became of a job. Taken: it is in the queue or on its way to the paper. */
+    /** The state of a job. Taken: in the queue or printing. */
     enum class Fate { NoAnswer, NotThere, Taken, Printed, GivenBack };
-    /** How fateOf() knows the job that is open or was the last one; empty where there was none. */
+    /** Identifies the current or last job for fateOf(); empty if there was none. */
     [[nodiscard]] virtual QString reference() const = 0;
-    /** The fate of a job that was handed over; the reason for a slip given back is in errorText(). */
+    /** The state of a sent job; for GivenBack, errorText() has the reason. */
     [[nodiscard]] virtual Fate fateOf(const QString& mark, const QString& reference) = 0;
     /**
-     * The same for a job that a program left behind while it handed it over; the reference may be empty. What had only
-     * begun is taken back, and then it is not there.
+     * The same for a job that an ended program was sending; the reference may be empty. A job that was only started is
+     * cancelled and reported as NotThere.
      */
     [[nodiscard]] virtual Fate findLeftJob(const QString& mark, const QString& reference) = 0;
 
-    /** Empty, with an explanation in errorText(), where the printers cannot be listed. */
+    /** Empty, with a reason in errorText(), if the printers cannot be listed. */
     [[nodiscard]] virtual QList<SlipPrinter> availablePrinters() = 0;
 
     /** Why the last call failed; empty after a success. */
@@ -75,10 +77,10 @@ protected:
     virtual bool startJob(const QString& printerName, const QString& title) = 0;
     virtual bool sendBytes(const QByteArray& bytes) = 0;
     virtual bool finishJob() = 0;
-    /** Takes back what was started; it is called for a job that broke, and must do nothing where there is no job. */
+    /** Cancels a started job after an error; must do nothing if there is none. */
     virtual void dropJob() = 0;
 
-    /** Keeps the explanation and gives the false that the failed call returns. */
+    /** Stores the error text and returns false. */
     bool fail(const QString& errorText);
     void clearError() { m_errorText.clear(); }
     [[nodiscard]] const QString& mark() const { return m_mark; }

@@ -54,7 +54,7 @@ void BusinessCreditNote::beforeSave(KorEntity& note)
 bool BusinessCreditNote::afterSave(const KorEntity& note, Save kind)
 {
     bool done = updatePurchaseNetDue(asNote(note));
-    // A note that was moved to another purchase no longer counts for the one it was for.
+    // A note that was moved to another purchase no longer counts for the former one.
     if (m_formerPurchaseId != asNote(note).getAcquisitionId())
         done = recalculateDue(m_formerPurchaseId) && done;
     return StockDocumentService::afterSave(note, kind) && done;

@@ -7,7 +7,7 @@
 class BusinessPurchases;
 class DataMapperCreditNote;
 
-/** The service of credit notes; what comes back for a purchase lowers what is due for it. */
+/** The service of credit notes. Money refunded for a purchase reduces what is due for it. */
 class BusinessCreditNote final : public StockDocumentService
 {
     Q_OBJECT
@@ -29,15 +29,15 @@ public:
     [[nodiscard]] QList<KorPermission> getPermissions() const override;
     [[nodiscard]] QString unfinished() const override;
 
-    /** Without lines, as a list shows them; find(id) reads a note with its lines. */
+    /** Without lines, for lists; find(id) reads a note with its lines. */
     [[nodiscard]] QList<EntityCreditNote*> findAll(const PurchasingFilter& filter);
 
-    /** How many of the purchase's line went back already on other notes. */
+    /** The quantity of this purchase line that other notes have already returned. */
     [[nodiscard]] int returnedElsewhere(const EntityCreditNoteDetail& line);
 
-    /** Sets the status that follows from what was paid; every save begins with it. A cancelled note stays so. */
+    /** Sets the status by the amount paid; called before every save. A cancelled note keeps its status. */
     static void updateStatus(EntityCreditNote& note);
-    /** Reckons anew what is due for the note's purchase, if it has one. */
+    /** Recalculates what is due for the note's purchase, if it has one. */
     bool updatePurchaseNetDue(const EntityCreditNote& note);
 
 protected:
@@ -53,6 +53,6 @@ private:
 
     DataMapperCreditNote* m_notes;
     BusinessPurchases* m_purchases;
-    // The purchase that the note being saved was for until now.
+    // The purchase of the note before the current save.
     int m_formerPurchaseId = KorNoValue;
 };

@@ -24,7 +24,7 @@ DataMapperCreditNote::DataMapperCreditNote(QObject* parent, DataMapperKey* keys,
     moneyColumns("amount_paid", "AmountPaid");
     moneyColumns("change", "Change");
     column("status", "integer not NULL", "Status");
-    // An inner join on a column that may be empty: a note without an account is not read back; the form requires one.
+    // The inner join skips notes without an account; the form requires one.
     reference("bank_id", "integer null", "Bank", accounts, "inner");
     setLineMapper(new DataMapperCreditNoteDetail(this, partners));
 }
@@ -68,7 +68,7 @@ int DataMapperCreditNote::returnedElsewhere(const EntityCreditNoteDetail& line)
 
 PurchasingColumns DataMapperCreditNote::filterColumns() const
 {
-    // The supplier's number is that of the purchase that the goods had come with.
+    // The supplier's number is that of the returned purchase.
     return {tableName(), "credit_note_date", "status", "no",
             "(select invoice_no from acquisition where acquisition.id = credit_note.acquisition_id)"};
 }

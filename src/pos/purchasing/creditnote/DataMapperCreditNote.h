@@ -21,9 +21,9 @@ public:
 
     /** The notes for the purchase, without lines. */
     [[nodiscard]] QList<EntityCreditNote*> findByAcquisition(int purchaseId);
-    /** The purchase that the stored note is for, KorNoValue for none. */
+    /** The purchase of the stored note; KorNoValue if it has none. */
     [[nodiscard]] int purchaseOf(int noteId);
-    /** How many of the purchase's line went back already on other notes; those of cancelled notes did not. */
+    /** The quantity of this purchase line that other notes, except cancelled ones, have already returned. */
     [[nodiscard]] int returnedElsewhere(const EntityCreditNoteDetail& line);
 
 protected:

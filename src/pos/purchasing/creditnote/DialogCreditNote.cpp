@@ -35,7 +35,7 @@ DialogCreditNote::DialogCreditNote(QWidget* parent)
     addLinesPage(m_free, tr("[F4] Item"), Qt::Key_F4);
     connect(m_ofPurchase, &AppLinesTab::ItemAdded, this, &DialogCreditNote::showPurchase);
     connect(m_ui->totalsPane->boxes().netDue, &QLineEdit::textChanged, this, &DialogCreditNote::showStatus);
-    // What came back has to be said, also when it is nothing.
+    // The user has to enter the refunded amount, even if it is zero.
     m_ui->totalsPane->boxes().paid->clear();
 }
 
@@ -56,7 +56,7 @@ PurchasingDialog::PurchasingLines DialogCreditNote::allLines() const
 
 void DialogCreditNote::supplierChanged() { m_ofPurchase->setSupplier(supplier()); }
 
-/** The state that the figures will give; a cancelled note stays so until somebody says otherwise. */
+/** Shows the status that results from the amounts; a cancelled note keeps its status until the user changes it. */
 void DialogCreditNote::showStatus()
 {
     if (m_ui->ddlStatus->currentData() == EntityCreditNote::CANCELLED)

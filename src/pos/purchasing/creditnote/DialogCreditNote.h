@@ -13,7 +13,7 @@ namespace Ui
 class DialogCreditNote;
 }
 
-/** The form of a credit note: what goes back to a supplier, of a purchase or freely, and what came back for it. */
+/** The form of a credit note: goods returned to a supplier, with or without a purchase, and the refunded money. */
 class DialogCreditNote final : public PurchasingDialog
 {
     Q_OBJECT
@@ -25,7 +25,7 @@ public:
     KorEntity* getEntity() override;
     void setEntity(KorEntity* entity) override;
 
-    /** The states of a note, as boxes offer them. */
+    /** The statuses of a note, for combo boxes. */
     [[nodiscard]] static AppFilterBar::Rows statusRows();
 
 protected:

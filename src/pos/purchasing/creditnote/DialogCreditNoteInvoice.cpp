@@ -18,7 +18,7 @@ DialogCreditNoteInvoice::DialogCreditNoteInvoice(EntityPool& items, QWidget* par
 void DialogCreditNoteInvoice::setEntity(KorEntity* line)
 {
     PurchasingLineDialog::setEntity(line);
-    // What was taken off the price when it was bought is taken off what comes back for each of them.
+    // The discount of the purchase also reduces the refund, in proportion to the quantity.
     keepDiscountShare();
     const auto& returned = *static_cast<EntityCreditNoteDetail*>(line);
     auto* notes = service<BusinessCreditNote>("Credit Note");
@@ -27,7 +27,7 @@ void DialogCreditNoteInvoice::setEntity(KorEntity* line)
     showError(errors.take());
     addShownRow(tr("Bought :"), QString::number(returned.getQty()));
     addShownRow(tr("Returned before :"), QString::number(before));
-    // The same goods do not go back twice; what was never bought goes back as a free item.
+    // The same goods cannot be returned twice. Goods without a purchase are entered on the other page.
     const int left = std::max(0, returned.getQty() - before);
     limitQuantity(left, tr("No more than %1 of this item can go back for the purchase").arg(left));
 }

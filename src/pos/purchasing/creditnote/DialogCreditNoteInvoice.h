@@ -2,7 +2,7 @@
 
 #include "pos/purchasing/document/PurchasingLineDialog.h"
 
-/** What goes back of one line of a purchase. */
+/** The returned quantity of one purchase line. */
 class DialogCreditNoteInvoice final : public PurchasingLineDialog
 {
     Q_OBJECT

@@ -2,7 +2,7 @@
 
 #include "pos/purchasing/document/PurchasingLineDialog.h"
 
-/** One item that goes back freely. */
+/** One item that is returned without a purchase. */
 class DialogCreditNotePurchases final : public PurchasingLineDialog
 {
     Q_OBJECT

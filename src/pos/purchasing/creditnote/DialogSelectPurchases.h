@@ -3,7 +3,7 @@
 #include "pos/purchasing/creditnote/TabSelectPurchases.h"
 #include "pos/purchasing/document/SelectDocumentDialog.h"
 
-/** Lets the user choose the purchase that goods go back for. */
+/** Lets the user choose the purchase whose goods are returned. */
 class DialogSelectPurchases final : public SelectDocumentDialog
 {
     Q_OBJECT

@@ -7,7 +7,7 @@
 
 #include <QDate>
 
-/** Goods returned to a supplier, for a purchase or freely, and the money that comes back. */
+/** Goods returned to a supplier, with or without a purchase, and the refunded money. */
 class EntityCreditNote : public KorEntity, public AppDocumentLines<EntityCreditNoteDetail>
 {
     Q_OBJECT

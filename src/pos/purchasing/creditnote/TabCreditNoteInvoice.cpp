@@ -5,8 +5,7 @@
 
 namespace
 {
-/** The percent that stands for the whole line's discount: what was keyed in, unless the amount was rounded away from
- * it. */
+/** The discount of the whole line in percent: as entered, unless the amount was rounded to another value. */
 double discountShare(const EntityPurchasingLine& bought)
 {
     const double gross = double(bought.linePrice()->rawAmount()) * bought.quantity();
@@ -46,7 +45,7 @@ void TabCreditNoteInvoice::fillFrom(EntityPurchasingLine* line, const EntityPurc
     returned->setAcquisitionDetailId(bought.getId());
     returned->setLinePrice(bought.linePrice());
     returned->setDiscountPercentage(discountShare(bought));
-    // Nothing goes back until somebody says how much.
+    // Nothing is returned until the user enters a quantity.
     returned->setQtyReturned(0);
     const Money nothing(nullptr, 0, bought.linePrice()->getCurrency());
     returned->setDiscount(nothing.copy(returned));

@@ -5,7 +5,7 @@
 #include "pos/purchasing/creditnote/TableModelCreditNoteInvoice.h"
 #include "pos/purchasing/document/SourceLinesTab.h"
 
-/** What goes back of a purchase, in the form of a credit note. */
+/** The lines returned from a purchase, in the form of a credit note. */
 class TabCreditNoteInvoice final : public PurchasingLinesOf<EntityCreditNoteDetail, TableModelCreditNoteInvoice,
                                                             DialogCreditNoteInvoice, SourceLinesTab>
 {

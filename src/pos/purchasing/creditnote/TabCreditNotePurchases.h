@@ -5,7 +5,7 @@
 #include "pos/purchasing/creditnote/TableModelCreditNotePurchases.h"
 #include "pos/purchasing/document/PurchasingLinesTab.h"
 
-/** What goes back freely, in the form of a credit note. */
+/** The items returned without a purchase, in the form of a credit note. */
 class TabCreditNotePurchases final
     : public PurchasingLinesOf<EntityCreditNoteDetail, TableModelCreditNotePurchases, DialogCreditNotePurchases>
 {

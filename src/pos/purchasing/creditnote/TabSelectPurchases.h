@@ -6,7 +6,7 @@ class EntitySupplier;
 class QComboBox;
 class QLineEdit;
 
-/** The supplier's purchases of all days, the latest first. The supplier is borrowed. */
+/** All purchases of the supplier, latest first. The supplier is borrowed. */
 class TabSelectPurchases final : public SelectDocumentTab
 {
     Q_OBJECT

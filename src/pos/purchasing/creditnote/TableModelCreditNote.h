@@ -2,7 +2,7 @@
 
 #include "app/widgets/AppEntityModel.h"
 
-/** A list of credit notes; a row's colour and mark tell what came back of the money. */
+/** The rows of a list of credit notes; colour and icon show how much was refunded. */
 class TableModelCreditNote final : public AppEntityModel
 {
     Q_OBJECT

@@ -3,7 +3,7 @@
 #include "pos/purchasing/creditnote/EntityCreditNoteDetail.h"
 #include "pos/purchasing/document/PurchasingLinesModel.h"
 
-/** What a purchase had brought, and what of it goes back. */
+/** The lines of a purchase with the returned quantities. */
 class TableModelCreditNoteInvoice final : public PurchasingLinesModel
 {
     Q_OBJECT

@@ -2,7 +2,7 @@
 
 #include "pos/purchasing/document/PurchasingLinesModel.h"
 
-/** What goes back freely. */
+/** The items returned without a purchase. */
 class TableModelCreditNotePurchases final : public PurchasingLinesModel
 {
     Q_OBJECT

@@ -2,7 +2,7 @@
 
 #include "app/widgets/AppEntityModel.h"
 
-/** The purchases that goods can go back for. */
+/** The purchases whose goods can be returned. */
 class TableModelSelectPurchases final : public AppEntityModel
 {
     Q_OBJECT

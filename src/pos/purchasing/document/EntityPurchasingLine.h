@@ -3,14 +3,14 @@
 #include "pos/masterdata/item/EntityItem.h"
 
 /**
- * One line of what is ordered, bought, returned or spent: an item, how many, at which price, less a discount. Each
- * table calls the figures by names of its own; the forms and totals know them by these.
+ * Base of the lines of purchasing documents: an item, quantity, price and discount. Each subclass has its own names for
+ * these fields; forms and totals use the names of this class.
  */
 class EntityPurchasingLine : public KorEntity
 {
     Q_OBJECT
     KOR_REFERENCE(EntityItem, Item)
-    /** Of the whole line. */
+    /** For the whole line. */
     MONEY_PROPERTY(Discount)
     KOR_PROPERTY(double, DiscountPercentage, 0)
 
@@ -27,13 +27,13 @@ public:
     [[nodiscard]] int itemId() const { return m_Item ? m_Item->getId() : KorNoValue; }
     /** Total := price × quantity − discount. */
     void recomputeTotal();
-    /** Quantity, price, discount and total of the other line; the item stays. */
+    /** Copies quantity, price, discount and total of the other line; keeps the item. */
     void takeFigures(const EntityPurchasingLine& other);
-    /** Whether price × quantity is an amount that money can hold; a larger one would wrap around. */
+    /** False if price × quantity is too large for Money and would overflow. */
     [[nodiscard]] bool totalFits() const;
 };
 
-/** What a table calls the figures of its lines. */
+/** Maps a subclass's names for quantity, price and total to those of EntityPurchasingLine. */
 #define PURCHASING_LINE(QuantityName, PriceName, TotalName)                                                            \
 public:                                                                                                                \
     [[nodiscard]] int quantity() const override { return get##QuantityName(); }                                        \

@@ -14,8 +14,8 @@ template <typename Entity>
 class RecordField;
 
 /**
- * The form that all purchasing documents share: the supplier, pages of lines, discount and tax, the money, the account.
- * A concrete form lays the boxes out, has the pages and knows its record.
+ * Base of the forms of purchasing documents: supplier, pages of lines, discount and tax, amounts, account. A subclass
+ * has the widgets, the pages and the record.
  */
 class PurchasingDialog : public KorDialog
 {
@@ -27,7 +27,7 @@ public:
     bool validate() override;
 
 public slots:
-    /** The supplier's box names another one, or none. */
+    /** The supplier field has another supplier, or none. */
     void onSupplierSelected();
     void onItemAdded();
     void on_txtPaid_textChanged(const QString&);
@@ -37,7 +37,7 @@ public slots:
     void on_txtTax_editingFinished();
 
 protected:
-    /** The boxes of a form, which owns them. */
+    /** The widgets of a form, which owns them. */
     struct Form
     {
         QLineEdit* supplier;
@@ -49,7 +49,7 @@ protected:
         QTabWidget* pages;
         QDialogButtonBox* buttons;
     };
-    /** The boxes that every form has, by the names that they have in common; the dates are the form's own. */
+    /** The widgets with the same names in every form. Each form sets its own dates. */
     template <class Ui>
     static Form formOf(const Ui& ui)
     {
@@ -66,12 +66,12 @@ protected:
 
     explicit PurchasingDialog(QWidget* parent) : KorDialog(parent) {}
 
-    /** The account that orders, purchases and returns start with. */
+    /** The initial account of orders, purchases and returns. */
     [[nodiscard]] static QString payableAccount() { return "2000"; }
 
-    /** Called once, at the end of the constructor; a new document starts with the account that is handed in. */
+    /** Call it once, at the end of the constructor; the account is that of a new document. */
     void setUpPurchasing(const Form& form, const Words& words, const QString& accountCode);
-    /** To be called behind it: the form edits such documents, by these boxes and those of supplier and account. */
+    /** Call it after setUpPurchasing(): binds these boxes, supplier and account to the fields of the document. */
     template <class Document>
     void editsDocument(const QList<Bound>& boxes)
     {
@@ -79,24 +79,24 @@ protected:
         edits<Document>(boxes);
         edits<Document>({{accountField(), "Bank"}});
     }
-    /** Puts a page of lines into the form, which F3, F4 and so on lead to. */
+    /** Adds a page of lines; the key (F3, F4 and so on) shows it. */
     void addLinesPage(AppLinesTab* page, const QString& title, Qt::Key key);
 
-    // What a concrete form tells.
+    // Defined by subclasses.
     /** The lines of all pages. */
     [[nodiscard]] virtual PurchasingLines allLines() const = 0;
-    /** Reports what is wrong with the lines; by default that there is none. */
+    /** Adds errors about the lines; by default if there are none. */
     virtual void checkLines();
-    /** Reports what is wrong with further boxes, between the lines and the account. */
+    /** Adds errors about further fields, between those of the lines and the account. */
     virtual void checkMoney() {}
-    /** Another supplier was chosen, or none. */
+    /** Called when another supplier was chosen, or none. */
     virtual void supplierChanged() {}
 
     void showTotals(const InvoiceTotals& stored);
-    /** What the boxes say now. */
+    /** The current values of the fields. */
     [[nodiscard]] const InvoiceTotals& totals();
 
-    /** As the last validation found it; lives as long as the form. */
+    /** Null if the code was not looked up yet or is unknown. The record lives as long as the form. */
     [[nodiscard]] EntitySupplier* supplier() const;
     [[nodiscard]] const Words& words() const { return m_words; }
     [[nodiscard]] QTabWidget* pages() const { return m_form.pages; }
@@ -105,7 +105,7 @@ protected:
 private:
     [[nodiscard]] QObject* supplierField() const;
     [[nodiscard]] QObject* accountField() const;
-    /** Money that does not come from a cash account is no cash that has left the drawer. */
+    /** Shows a note if the paying account is no cash account: the amount is then not counted at the day's close. */
     void noteWhatCashMisses();
     void checkAmounts();
 

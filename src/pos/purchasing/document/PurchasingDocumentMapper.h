@@ -4,7 +4,7 @@
 #include "pos/masterdata/item/ItemLineMapper.h"
 #include "pos/purchasing/document/PurchasingFilter.h"
 
-/** Mapper of a numbered document of purchasing: how it is found. */
+/** Base of the mappers of numbered purchasing documents: their search functions. */
 template <class Document, class Base = AppLinedDocumentMapper<Document>>
 class PurchasingDocumentMapper : public NumberedDocumentMapper<Document, Base>
 {
@@ -17,7 +17,7 @@ public:
         const QString table = this->tableName() + '.';
         return static_cast<Document*>(this->findOne(KorConditions().equals(table + "no", no).ascending(table + "id")));
     }
-    /** Without lines, the latest first. */
+    /** Without lines, latest first. */
     [[nodiscard]] QList<Document*> findAll(const PurchasingFilter& filter)
     {
         return castAll<Document>(this->findMany(conditionsOf(filter, filterColumns())));

@@ -4,7 +4,8 @@ KorConditions conditionsOf(const PurchasingFilter& filter, const PurchasingColum
 {
     const QString table = columns.table + '.';
     QString searched = "lower(supplier.kode)";
-    // A number is compared as it was written: the capitals in front of it are never found, its digits are.
+    // A document number is compared case-sensitively with the lower-case text: its capital letters are never found,
+    // digits are.
     if (filter.field == PurchasingFilter::DocumentNo)
         searched = table + columns.no;
     else if (filter.field == PurchasingFilter::OtherNo)

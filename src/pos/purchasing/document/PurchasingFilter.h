@@ -2,7 +2,7 @@
 
 #include "kor/persistence/KorConditions.h"
 
-/** What a list of purchasing documents is narrowed to. Both dates count; 0 stands for every kind, "" for any text. */
+/** The filter of a list of purchasing documents. Both dates are inclusive; 0 means every kind, "" any text. */
 struct PurchasingFilter
 {
     enum Field { DocumentNo, SupplierCode, OtherNo };
@@ -16,16 +16,16 @@ struct PurchasingFilter
     QString text;
 };
 
-/** A family's table, and what it calls the columns of the filter. */
+/** The table of a document, and its names for the columns of the filter. */
 struct PurchasingColumns
 {
     QString table;
     QString date;
     QString kind;
     QString no;
-    /** The supplier's own number of the document, as an expression; empty where the family has none. */
+    /** The SQL expression of the supplier's own document number; empty if there is none. */
     QString otherNo;
 };
 
-/** The latest documents first. The table's supplier is joined as "supplier". */
+/** Latest documents first. The table's supplier must be joined as "supplier". */
 [[nodiscard]] KorConditions conditionsOf(const PurchasingFilter& filter, const PurchasingColumns& columns);

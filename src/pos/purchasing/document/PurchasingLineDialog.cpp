@@ -25,7 +25,7 @@ PurchasingLineDialog::PurchasingLineDialog(EntityPool& items, const Words& words
     m_item->box()->setNextWidget(m_ui->txtQty);
     connect(m_item, &ItemField::chosen, this, &PurchasingLineDialog::proposePrice);
     m_ui->lblQty->setText(words.quantity);
-    // Whoever gives no discount leaves the boxes alone.
+    // Zero, so that the user can skip the discount.
     m_ui->txtDiscPerc->setValue(0);
     m_ui->txtDiscount->setValue(0);
     focusLater(m_ui->txtCode);
@@ -88,7 +88,7 @@ void PurchasingLineDialog::on_txtDiscPerc_editingFinished()
 
 void PurchasingLineDialog::on_txtDiscount_editingFinished()
 {
-    // A discount of nothing has no percent; the one that stands is left alone.
+    // Without an amount there is no percentage; keep the present one.
     if (!qFuzzyIsNull(gross()))
         m_ui->txtDiscPerc->setValue(InvoiceTotals::percentOf(
             InvoiceTotals::kept(m_ui->txtDiscount->value(), m_ui->txtDiscount->currency()), gross()));

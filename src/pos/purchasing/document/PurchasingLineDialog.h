@@ -14,8 +14,8 @@ class PurchasingLineDialog;
 }
 
 /**
- * The form of one line of a purchasing document: item, price, quantity, discount. The line is borrowed: one without an
- * item is filled anew, one with an item keeps it, and only getEntity() writes to it.
+ * The form of one line of a purchasing document: item, price, quantity, discount. The line is borrowed, and only
+ * getEntity() writes to it. The item of a line that has one cannot be changed.
  */
 class PurchasingLineDialog : public KorDialog
 {
@@ -41,19 +41,19 @@ protected:
         QString noItem;
         QString noPrice;
         QString noQuantity;
-        /** What the quantity is called in the form. */
+        /** The label of the quantity. */
         QString quantity;
     };
 
-    /** The chosen item is read into the pool, which has to outlive the line. */
+    /** The chosen item is read into the pool, which must outlive the line. */
     PurchasingLineDialog(EntityPool& items, const Words& words, QWidget* parent);
 
     [[nodiscard]] EntityPurchasingLine* line() const { return m_line; }
-    /** A further row that only shows, above the quantity. */
+    /** Adds a read-only row above the quantity. */
     void addShownRow(const QString& label, const QString& text);
-    /** The largest quantity that the line can have; the message tells that it is exceeded. */
+    /** The largest allowed quantity, and the error text for a larger one. */
     void limitQuantity(int largest, const QString& message);
-    /** The discount is a share of the amount: it follows the quantity. */
+    /** The discount amount changes in proportion to the quantity. */
     void keepDiscountShare() { m_keepsShare = true; }
 
 private:

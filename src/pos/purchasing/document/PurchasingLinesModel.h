@@ -2,7 +2,7 @@
 
 #include "app/widgets/AppEntityModel.h"
 
-/** The lines of a purchasing document. A concrete model puts the columns together in its own order. */
+/** Base of the models of document lines. A subclass adds the columns in its own order. */
 class PurchasingLinesModel : public AppEntityModel
 {
     Q_OBJECT
@@ -10,7 +10,7 @@ class PurchasingLinesModel : public AppEntityModel
 protected:
     using AppEntityModel::AppEntityModel;
 
-    /** "Code" and "Name". */
+    /** Adds the columns "Code" and "Name". */
     void addItem();
     void addQuantity(const QString& header);
     void addUnit();

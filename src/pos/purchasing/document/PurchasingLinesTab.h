@@ -24,7 +24,7 @@ protected:
     {
         static_cast<EntityPurchasingLine*>(present)->takeFigures(static_cast<const EntityPurchasingLine&>(entered));
     }
-    /** Narrow enough for all columns beside the money: code, name, quantity, unit, price, discount. */
+    /** Narrow, so that all columns fit beside the amounts: code, name, quantity, unit, price, discount. */
     [[nodiscard]] QList<int> columnWidths() const override { return {72, 150, 48, 82, 144, 128}; }
     [[nodiscard]] QString updateQuestion() const override
     {
@@ -32,7 +32,7 @@ protected:
     }
 };
 
-/** A page of lines made of a family's classes. */
+/** A page of lines made from the classes of one kind of document. */
 template <class Line, class Model, class Dialog, class Base = PurchasingLinesTab>
 class PurchasingLinesOf : public Base
 {

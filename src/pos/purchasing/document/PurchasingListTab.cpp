@@ -36,7 +36,7 @@ PurchasingListTab::PurchasingListTab(const Page& page, const Words& words, QWidg
 
 PurchasingFilter PurchasingListTab::chosen() const
 {
-    // Whoever searches has typed to the end: no list of suggestions follows.
+    // The user has finished typing, so no list of suggestions must open.
     m_suppliers->preventSuggest();
     PurchasingFilter filter;
     filter.from = m_from->date();
@@ -63,7 +63,9 @@ bool PurchasingListTab::updateEntity(KorEntity* document)
     return stands(AppListTab::updateEntity(document), *document);
 }
 
-/** A document that is saved is not entered again because something that follows from it has failed. */
+/**
+ * If the document is saved but a following step failed, offers to finish it, so that the user does not enter it again.
+ */
 bool PurchasingListTab::stands(bool done, const KorEntity& document)
 {
     auto* documents = businessAs<PurchasingService>();

@@ -8,15 +8,15 @@ class QDateEdit;
 class QLineEdit;
 class SupplierTextBox;
 
-/** The list page of one kind of purchasing documents: the filters that all of them have. */
+/** Base of the lists of purchasing documents, with their common filters. */
 class PurchasingListTab : public AppListTab
 {
     Q_OBJECT
 
 protected:
     /**
-     * The box that tells documents apart, where the text is searched (rows of PurchasingFilter::Field), and what is
-     * asked before a document is deleted, with its number as %1.
+     * The combo box for the kind of document, the choice of searched fields (rows of PurchasingFilter::Field), and the
+     * question before deleting, with the number as %1.
      */
     struct Words
     {
@@ -27,12 +27,12 @@ protected:
         QString deleteQuestion;
     };
 
-    /** A concrete page refreshes at the end of its own constructor. */
+    /** A subclass calls refresh() at the end of its constructor. */
     PurchasingListTab(const Page& page, const Words& words, QWidget* parent);
 
     [[nodiscard]] PurchasingFilter chosen() const;
 
-    /** A document that has gone is told in the same words wherever it is missed. */
+    /** The same text as when editing a document that was deleted meanwhile. */
     [[nodiscard]] QString deleteNotFoundText(int id) const override { return notFoundText(id); }
     [[nodiscard]] QString deleteQuestion(const KorEntity* document) const override;
     bool insertEntity(KorEntity* document) override;

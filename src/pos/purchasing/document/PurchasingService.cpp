@@ -18,7 +18,7 @@ bool PurchasingService::save(KorEntity& document, Save kind)
     beforeSave(document);
     mapper()->clearError();
     const bool done = kind == Insert ? mapper()->insert(&document) : mapper()->update(&document);
-    // A mapper may call a save done that it took back: its error tells.
+    // A mapper may return true for a save that was rolled back; then it has an error.
     m_stands = done && !mapper()->hasError();
     return written(m_stands, mapper(), kind == Insert ? "insert" : "update") && afterSave(document, kind);
 }
@@ -34,7 +34,7 @@ bool PurchasingService::remove(KorEntity* document)
         }
         return written(mapper()->remove(document), mapper(), "remove");
     };
-    // The document first, as a save of it does: the other way round the two would wait for each other.
+    // Lock the document first, as a save does; otherwise the two could deadlock.
     return inOneTransaction(*this, "remove", removeAll, notBegunText(), {mapper()->removalLockOf(document->getId())});
 }
 

@@ -5,8 +5,8 @@
 class AppDocumentMapper;
 
 /**
- * Base of the services of purchasing documents. A save is one transaction, and what follows from it comes after: a
- * document may stand although something that follows has failed. A document is removed with its lines, all or nothing.
+ * Base of the services of purchasing documents. A save is one transaction; further steps (afterSave()) follow it, so a
+ * document can be saved although a further step failed. A document and its lines are removed in one transaction.
  */
 class PurchasingService : public KorBusinessLogic
 {
@@ -15,13 +15,13 @@ class PurchasingService : public KorBusinessLogic
 public:
     PurchasingService(const QString& name, AppDocumentMapper* documents, QObject* parent);
 
-    /** Both are false for what follows too; documentStands() then tells that the document itself is saved. */
+    /** False also if only a further step failed; then documentStands() is true, because the document is saved. */
     bool insert(KorEntity* document) override;
     bool update(KorEntity* document) override;
     [[nodiscard]] bool documentStands() const { return m_stands; }
-    /** What follows from a saved document, once more; what is done already stays as it is. */
+    /** Runs the further steps again; repeating finished ones is safe. */
     bool finish(const KorEntity& document) { return afterSave(document, Update); }
-    /** What of it has failed, by the errors that the service holds. */
+    /** The text for what has failed, according to the service's errors. */
     [[nodiscard]] virtual QString unfinished() const { return {}; }
     bool remove(KorEntity* document) override;
     bool clearTransactions() override;
@@ -30,10 +30,10 @@ protected:
     enum Save { Insert, Update };
 
     virtual void beforeSave(KorEntity&) {}
-    /** What follows from the saved document; a failure is kept in the service. */
+    /** The further steps after a save. Errors are kept in the service. */
     virtual bool afterSave(const KorEntity&, Save) { return true; }
     [[nodiscard]] virtual QList<KorEntity*> linesOf(const KorEntity& document) const = 0;
-    /** The family's words for a transaction that does not begin; empty for the usual ones. */
+    /** The error text for a transaction that cannot begin; empty for the default text. */
     [[nodiscard]] virtual QString notBegunText() const { return {}; }
 
     [[nodiscard]] AppDocumentMapper* documents() const;

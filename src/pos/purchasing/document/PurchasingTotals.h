@@ -3,20 +3,20 @@
 #include "app/money/Money.h"
 #include "pos/totals/InvoiceTotals.h"
 
-// A form's figures out of a stored document and back. The documents are no common type: they share the names alone.
+// Convert between a form's totals and a stored document. Documents have no common base class, only the same names.
 
 [[nodiscard]] inline double wholeUnits(const Money* money)
 {
     return money ? double(money->rawAmount()) / money->factor() : 0;
 }
 
-/** An amount of the form in the document's possession. */
+/** An amount of the form as Money, which the document owns. */
 [[nodiscard]] inline Money* moneyOf(const InvoiceTotals& totals, double amount, QObject* document)
 {
     return new Money(document, amount, totals.currency());
 }
 
-/** What all documents have: the subtotal (which each calls by its own name) and the discount. */
+/** Reads what all documents have: the discount, and the subtotal, whose name differs. */
 template <class Document>
 [[nodiscard]] InvoiceTotals storedTotals(const Document& document, const Money* subtotal)
 {
@@ -33,7 +33,7 @@ void readTax(InvoiceTotals& totals, const Document& document)
     totals.restore(InvoiceTotals::Tax, document.getTaxPercentage(), wholeUnits(document.getTax()));
 }
 
-/** Discount and grand total. */
+/** Writes discount and grand total. */
 template <class Document>
 void writeTotals(const InvoiceTotals& totals, Document* document)
 {

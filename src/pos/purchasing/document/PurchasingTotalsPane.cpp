@@ -6,7 +6,7 @@ PurchasingTotalsPane::PurchasingTotalsPane(QWidget* parent)
     : QWidget(parent), m_ui(std::make_unique<Ui::PurchasingTotalsPane>())
 {
     m_ui->setupUi(this);
-    // The form's tab order leads into the column as a whole.
+    // In the form's tab order this pane is one widget.
     setFocusProxy(m_ui->txtDiscPerc);
 }
 

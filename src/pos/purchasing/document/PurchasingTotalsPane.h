@@ -14,7 +14,7 @@ namespace Ui
 class PurchasingTotalsPane;
 }
 
-/** The column of a purchasing form that holds the money, from the subtotal to the account. */
+/** The column of a purchasing form with the amounts, from the subtotal to the account. */
 class PurchasingTotalsPane final : public QWidget
 {
     Q_OBJECT
@@ -23,15 +23,15 @@ public:
     explicit PurchasingTotalsPane(QWidget* parent = nullptr);
     ~PurchasingTotalsPane() override;
 
-    /** Without the boxes of rows that were hidden. */
+    /** Without the fields of hidden rows. */
     [[nodiscard]] TotalsCascade::Boxes boxes() const;
     [[nodiscard]] QLineEdit* accountBox() const;
     [[nodiscard]] QLabel* accountName() const;
 
-    /** Below the account; no text takes no room. */
+    /** Shown below the account; an empty text takes no space. */
     void setNote(const QString& text);
 
-    // What a form calls a row, and which rows it does without.
+    // The captions of rows, and rows that a form does not use.
     void setPaidCaption(const QString& text);
     void hideTax();
     void hideCredit();

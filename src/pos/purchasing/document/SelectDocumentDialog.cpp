@@ -16,7 +16,7 @@ SelectDocumentDialog::SelectDocumentDialog(const QString& title, SelectDocumentT
     resize(940, 460);
     auto* pages = new QTabWidget(this);
     pages->addTab(page, pageTitle);
-    // Within the page alone the order is a circle, in which the list comes after the search already.
+    // Inside the page the tab order is a ring, in which the list already follows the search button.
     if (auto* search = page->findChild<QPushButton*>("btnSearch"))
         setTabOrder(search, page->focusProxy());
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
@@ -32,7 +32,7 @@ SelectDocumentDialog::SelectDocumentDialog(const QString& title, SelectDocumentT
 
 void SelectDocumentDialog::accept()
 {
-    // Without a choice there is nothing to take over yet.
+    // Stay open if no document is selected.
     m_selectedId = m_page->selectedId();
     if (m_selectedId != KorNoValue)
         QDialog::accept();

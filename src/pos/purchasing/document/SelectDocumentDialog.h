@@ -6,13 +6,13 @@
 
 class SelectDocumentTab;
 
-/** Lets the user choose one of a supplier's documents. A concrete form gives the title and the page. */
+/** Lets the user choose one of a supplier's documents. A subclass sets the title and the page. */
 class SelectDocumentDialog : public QDialog
 {
     Q_OBJECT
 
 public:
-    /** The id of the chosen document, KorNoValue without a choice. */
+    /** The id of the chosen document; KorNoValue if none is chosen. */
     [[nodiscard]] int selectedId() const { return m_selectedId; }
 
     void accept() override;

@@ -34,7 +34,7 @@ void SelectDocumentTab::addFilters(AppFilterBar* bar)
 {
     auto* search = new QPushButton(QIcon(":/icons/zoom.png"), tr("Search"), this);
     search->setObjectName("btnSearch");
-    // Return in a filter searches; on the list it chooses.
+    // Return in a filter searches; Return in the list chooses.
     search->setDefault(true);
     connect(search, &QPushButton::clicked, this, &SelectDocumentTab::refresh);
     auto* row = new QHBoxLayout;

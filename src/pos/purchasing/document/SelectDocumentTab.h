@@ -11,15 +11,15 @@ class QTableView;
 class QVBoxLayout;
 
 /**
- * The page that offers documents of one supplier to choose one of. A concrete page says what it reads and shows; one
- * that has filters adds them and refreshes at the end of its constructor.
+ * A list of one supplier's documents to choose from. A subclass defines what is read and shown. If it has filters, it
+ * adds them and calls refresh() at the end of its constructor.
  */
 class SelectDocumentTab : public AppTab
 {
     Q_OBJECT
 
 public:
-    /** The id of the chosen document, KorNoValue without a choice. */
+    /** The id of the chosen document; KorNoValue if none is chosen. */
     [[nodiscard]] int selectedId() const;
 
 signals:
@@ -34,7 +34,7 @@ protected:
     virtual QList<KorEntity*> readRows() = 0;
     virtual KorEntityModel* createModel(const QList<KorEntity*>& rows) = 0;
     [[nodiscard]] virtual QList<int> columnWidths() const { return {}; }
-    /** An empty row of filters above the list, with a button that searches. */
+    /** Adds a filter bar above the list, with a search button. */
     void addFilters(AppFilterBar* bar);
 
 private:

@@ -58,7 +58,7 @@ void SourceLinesTab::takeSource(const KorEntity& document)
 {
     m_sourceId = document.getId();
     m_sourceSupplierId = m_supplier->getId();
-    // What was keyed in for a line of this document already is kept.
+    // Keep the values already entered for lines of the same document.
     QHash<int, KorEntity*> present;
     for (KorEntity* line : lines())
         present.insert(sourceLineOf(*line), line);

@@ -6,28 +6,28 @@ class EntitySupplier;
 class SelectDocumentDialog;
 
 /**
- * The page of lines that are taken over from another document of the supplier: an order, a purchase. All of them are
- * of one document. A concrete page says which documents are offered and what is made of their lines.
+ * The page of lines copied from another document of the supplier (an order or a purchase); all are from the same
+ * document. A subclass defines which documents are offered and how a line is copied.
  */
 class SourceLinesTab : public PurchasingLinesTab
 {
     Q_OBJECT
 
 public:
-    /** Whose documents are offered; null for nobody's. The supplier is borrowed. */
+    /** The supplier whose documents are offered; borrowed, null for none. */
     void setSupplier(const EntitySupplier* supplier) { m_supplier = supplier; }
-    /** The lines of a stored document, which come from this one. */
+    /** Sets the lines of a stored document that were copied from this source. */
     void setSourceLines(int sourceId, const Lines& lines);
-    /** KorNoValue without lines. */
+    /** The id of the source document; KorNoValue without lines. */
     [[nodiscard]] int sourceId() const;
-    /** Whether the lines come from a document of another supplier. */
+    /** True if the source document is of another supplier. */
     [[nodiscard]] bool isOfOtherSupplier() const;
 
 public slots:
     void selectSource();
 
 protected:
-    /** The button that offers the documents, and what is told of one that has gone, with its id as %1. */
+    /** The button that offers the documents, and the error text for a deleted one, with its id as %1. */
     struct Source
     {
         QString buttonName;
@@ -41,9 +41,9 @@ protected:
 
     virtual std::unique_ptr<SelectDocumentDialog> createSelection(const EntitySupplier* supplier) = 0;
     [[nodiscard]] virtual QList<EntityPurchasingLine*> linesOfSource(const KorEntity& document) const = 0;
-    /** The line of the other document that this one comes from. */
+    /** The id of the source line. */
     [[nodiscard]] virtual int sourceLineOf(const KorEntity& line) const = 0;
-    /** Fills a new line, which has the item already. */
+    /** Fills a new line, whose item is already set. */
     virtual void fillFrom(EntityPurchasingLine* line, const EntityPurchasingLine& source) = 0;
 
 private:

@@ -23,7 +23,7 @@ bool StockDocumentService::afterSave(const KorEntity& document, Save kind)
     const QList<KorEntity*> removed = removedLinesOf(document);
     for (const KorEntity* line : removed) {
         const int type = movementOf(document, *line).transType;
-        // A line that was never saved has left nothing behind.
+        // A line that was never saved has no journal row.
         done = written(!line->isSaved() || m_journal->removeLine(type, line->getId()), m_journal, "update") && done;
     }
     return done;

@@ -3,7 +3,7 @@
 #include "pos/inventory/stock/DataMapperItemHistory.h"
 #include "pos/purchasing/document/PurchasingService.h"
 
-/** Base of the services of documents that move stock: the journal keeps a row for each line of a saved document. */
+/** Base of the services of documents that move stock: every line of a saved document has a row in the journal. */
 class StockDocumentService : public PurchasingService
 {
     Q_OBJECT

@@ -21,13 +21,13 @@ public:
     [[nodiscard]] QList<KorPermission> getPermissions() const override;
     [[nodiscard]] QString unfinished() const override;
 
-    // The finders give payments without lines, as a list shows them; find(id) reads a payment with its lines.
+    // The finders return payments without lines, for lists; find(id) reads a payment with its lines.
     [[nodiscard]] QList<EntityPayment*> findAll(const PurchasingFilter& filter);
     [[nodiscard]] EntityPayment* findByNo(const QString& no);
 
     /**
-     * Reckons anew what is due for the purchases that the payment pays, and for those that it paid before its last
-     * save. A payment that is removed leaves its purchases as they are until they are reckoned next.
+     * Recalculates what is due for the purchases of the payment, and for those that it paid before its last save.
+     * Removing a payment does not update its purchases until their next recalculation.
      */
     bool updatePurchase(const EntityPayment& payment);
 

@@ -8,7 +8,7 @@ class DataMapperBank;
 class DataMapperPaymentExpenses;
 class DataMapperSupplier;
 
-/** Payments to suppliers, in the table "payment"; their lines lie in "payment_invoice" and "payment_expense". */
+/** Payments to suppliers, in the table "payment"; their lines are in "payment_invoice" and "payment_expense". */
 class DataMapperPayment final : public PurchasingDocumentMapper<EntityPayment, AppDocumentMapper>
 {
     Q_OBJECT

@@ -4,7 +4,7 @@
 
 class DataMapperPayment;
 
-/** What payments paid without a purchase, in the table "payment_expense". */
+/** The payment lines without a purchase, in the table "payment_expense". */
 class DataMapperPaymentExpenses final : public ItemLineMapper
 {
     Q_OBJECT

@@ -6,7 +6,7 @@ class DataMapperAcquisition;
 class DataMapperBank;
 class DataMapperPayment;
 
-/** What payments paid of purchases, in the table "payment_invoice". */
+/** The payment lines for purchases, in the table "payment_invoice". */
 class DataMapperPaymentInvoices final : public AppLineMapper
 {
     Q_OBJECT

@@ -39,7 +39,7 @@ DialogPayment::~DialogPayment() = default;
 
 void DialogPayment::onCashAccountSelected()
 {
-    // Whoever has walked on to another field stays there.
+    // Do not move the focus if the user has already gone to another field.
     if (m_ui->txtCashAccount->hasFocus())
         m_ui->ddlPaymentType->setFocus(Qt::TabFocusReason);
 }
@@ -99,7 +99,7 @@ QString DialogPayment::changedPurchase() const
     const QList<KorEntity*> paid = m_ui->tabInvoices->paidLines();
     for (const KorEntity* line : paid) {
         const EntityAcquisition* shown = static_cast<const EntityPaymentInvoices*>(line)->getAcquisition();
-        // What is stored has been paid, whatever became of the rest.
+        // A stored line is already paid, so it is not checked.
         if (!line->isSaved() && dueNow.value(shown->getId()) < shown->getNetDue()->rawAmount())
             return shown->getNo();
     }
@@ -129,11 +129,11 @@ void DialogPayment::setEntity(KorEntity* entity)
 {
     PartPaymentsDialog::setEntity(entity);
     auto* payment = held<EntityPayment>();
-    // As things stand now: other payments may have paid of the same purchases since.
+    // The current amounts: other payments may have paid the same purchases since.
     for (EntityPaymentInvoices* line : payment->invoices().getDetails())
         line->setAmountDue(line->getAcquisition()->getNetDue());
     for (EntityPaymentExpenses* line : payment->expenses().getDetails()) {
-        // Only the amount is stored.
+        // Only the amount of the discount is stored.
         const double gross = double(line->getAmount()->rawAmount()) + line->getDiscount()->rawAmount();
         if (gross > 0)
             line->setDiscountPercentage(InvoiceTotals::percentOf(line->getDiscount()->rawAmount(), gross));

@@ -11,7 +11,7 @@ namespace Ui
 class DialogPayment;
 }
 
-/** Pays a supplier: open purchases, what else the house bought, or both. */
+/** Pays a supplier: open purchases, other expenses, or both. */
 class DialogPayment final : public PartPaymentsDialog
 {
     Q_OBJECT
@@ -20,25 +20,25 @@ public:
     explicit DialogPayment(QWidget* parent = nullptr);
     ~DialogPayment() override;
 
-    /** An open purchase that was paid or deleted meanwhile is paid only when the user says so again. */
+    /** Asks for confirmation if an open purchase was paid or deleted meanwhile. */
     bool beforeAccept() override;
     KorEntity* getEntity() override;
     void setEntity(KorEntity* entity) override;
 
 public slots:
-    /** Whoever has said where the money comes from says next how it is paid. */
+    /** Moves the focus to the payment type after the account was chosen. */
     void onCashAccountSelected();
 
 protected:
     void showPerson(const EntityContact* person) override;
     [[nodiscard]] QList<KorEntity*> readOpenLines(const EntityContact& person) override;
-    /** A purchase without an amount is only on offer. */
+    /** A purchase without an amount is only offered and no error. */
     [[nodiscard]] const KorEntity* lineWithoutAmount() const override { return nullptr; }
     void checkLines() override;
     [[nodiscard]] qint64 furtherAmount() const override;
 
 private:
-    /** The number of an open purchase that is paid here and due with less than shown; empty where there is none. */
+    /** The number of a paid purchase whose amount due is now less than shown; empty if there is none. */
     [[nodiscard]] QString changedPurchase() const;
 
     std::unique_ptr<Ui::DialogPayment> m_ui;

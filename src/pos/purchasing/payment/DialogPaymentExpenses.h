@@ -2,7 +2,7 @@
 
 #include "pos/purchasing/document/PurchasingLineDialog.h"
 
-/** One item that is paid for without a purchase. */
+/** One item that is paid without a purchase. */
 class DialogPaymentExpenses final : public PurchasingLineDialog
 {
     Q_OBJECT

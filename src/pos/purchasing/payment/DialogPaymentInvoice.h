@@ -2,7 +2,7 @@
 
 #include "pos/cash/settlement/PartPaymentDialog.h"
 
-/** Takes the amount that the house pays of one purchase. */
+/** Asks for the amount to pay for one purchase. */
 class DialogPaymentInvoice final : public PartPaymentDialog
 {
     Q_OBJECT

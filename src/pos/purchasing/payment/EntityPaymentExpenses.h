@@ -2,7 +2,7 @@
 
 #include "pos/purchasing/document/EntityPurchasingLine.h"
 
-/** Something paid for without a purchase; it moves no stock. */
+/** An expense that is paid without a purchase; it does not move stock. */
 class EntityPaymentExpenses : public EntityPurchasingLine
 {
     Q_OBJECT

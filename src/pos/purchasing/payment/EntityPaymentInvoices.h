@@ -3,7 +3,7 @@
 #include "pos/cash/settlement/EntityPartPayment.h"
 #include "pos/purchasing/purchase/EntityAcquisition.h"
 
-/** What a payment pays of one purchase, and what is then left of it. */
+/** The amount that a payment pays for one purchase, and the rest that is still due. */
 class EntityPaymentInvoices : public EntityPartPayment
 {
     Q_OBJECT

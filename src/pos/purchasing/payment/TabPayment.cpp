@@ -7,7 +7,7 @@
 #include "pos/purchasing/payment/EntityPayment.h"
 #include "pos/purchasing/payment/TableModelPayment.h"
 
-// The texts of this page speak of purchase invoices where they mean payments, as they always have.
+// The texts of this page say purchase invoices instead of payments. Kept, because users know them.
 
 TabPayment::TabPayment(QWidget* parent)
     : PurchasingListTab({tr("Pay Bills"), "tblPayment", "Payment"},

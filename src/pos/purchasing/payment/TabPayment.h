@@ -2,7 +2,7 @@
 
 #include "pos/purchasing/document/PurchasingListTab.h"
 
-/** The list of what was paid to suppliers. */
+/** The list of payments to suppliers. */
 class TabPayment final : public PurchasingListTab
 {
     Q_OBJECT

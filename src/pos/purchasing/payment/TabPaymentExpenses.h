@@ -5,7 +5,7 @@
 #include "pos/purchasing/payment/EntityPaymentExpenses.h"
 #include "pos/purchasing/payment/TableModelPaymentExpenses.h"
 
-/** What is paid for without a purchase, in the form of a payment. */
+/** The expenses without a purchase, in the form of a payment. */
 class TabPaymentExpenses final
     : public PurchasingLinesOf<EntityPaymentExpenses, TableModelPaymentExpenses, DialogPaymentExpenses>
 {

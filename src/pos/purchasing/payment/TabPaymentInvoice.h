@@ -11,7 +11,7 @@ public:
     explicit TabPaymentInvoice(QWidget* parent = nullptr);
 
 public slots:
-    /** Pays the selected purchases, one after the other. */
+    /** Pays the selected purchases one after the other. */
     void on_btnPay_clicked() { paySelected(); }
     void on_btnPayAll_clicked() { payAll(); }
 

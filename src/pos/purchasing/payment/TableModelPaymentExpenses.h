@@ -2,7 +2,7 @@
 
 #include "pos/purchasing/document/PurchasingLinesModel.h"
 
-/** What a payment pays without a purchase. */
+/** The expenses of a payment without a purchase. */
 class TableModelPaymentExpenses final : public PurchasingLinesModel
 {
     Q_OBJECT

@@ -15,7 +15,7 @@ TableModelPaymentInvoice::TableModelPaymentInvoice(const QList<KorEntity*>& line
 
 QVariant TableModelPaymentInvoice::data(const QModelIndex& index, int role) const
 {
-    // The house's own number is shown; what lies on the desk has the supplier's.
+    // The column shows the purchase's own number; the tool tip shows the supplier's, which is on the paper invoice.
     const auto* line =
         role == Qt::ToolTipRole ? static_cast<const EntityPaymentInvoices*>(entityAt(index.row())) : nullptr;
     if (!line || line->getAcquisition()->getInvoiceNo().isEmpty())

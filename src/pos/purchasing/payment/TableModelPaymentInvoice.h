@@ -2,7 +2,7 @@
 
 #include "app/widgets/AppEntityModel.h"
 
-/** The open purchases of a supplier, with what a payment pays of each. */
+/** The open purchases of a supplier with the amounts to pay. */
 class TableModelPaymentInvoice final : public AppEntityModel
 {
     Q_OBJECT

@@ -85,7 +85,7 @@ ItemMovement BusinessPurchases::movementOf(const KorEntity& purchase, const KorE
 
 bool BusinessPurchases::remove(KorEntity* purchase)
 {
-    // The database would refuse it too, in its own words.
+    // The database would also refuse, but with its own message.
     const QString payment = read(m_purchases->paymentNo(purchase->getId()), m_purchases, "remove");
     if (!payment.isEmpty())
         addError("remove", tr("This purchase is paid, please delete the payment first: Payment No: %1").arg(payment));
@@ -94,7 +94,7 @@ bool BusinessPurchases::remove(KorEntity* purchase)
 
 bool BusinessPurchases::recalculateDue(int purchaseId)
 {
-    // Whoever saves the purchase meanwhile makes this save fail: the due is reckoned anew from what they have left.
+    // If another save comes in between, this one fails on the version: calculate again from the new values.
     for (int attempt = 1; !reckonDue(purchaseId); ++attempt) {
         if (attempt == dueAttempts || !errors().contains("update"))
             return false;
@@ -107,7 +107,7 @@ bool BusinessPurchases::reckonDue(int purchaseId)
 {
     EntityPool pool;
     const EntityPoolScope scope(pool);
-    // Read anew, as others may have saved the purchase since; without its lines, which a change of the due leaves.
+    // Read again, because others may have saved the purchase. Without lines, so that the update does not change them.
     EntityAcquisition* purchase = read(m_purchases->findHeader(purchaseId), m_purchases, "recalculateDue");
     if (!purchase) {
         if (!errors().contains("recalculateDue"))

@@ -7,7 +7,7 @@ class DataMapperAcquisition;
 class EntityAcquisition;
 class EntitySupplier;
 
-/** The service of purchases, and of what is still due for them. */
+/** The service of purchases, and of the amounts still due for them. */
 class BusinessPurchases final : public StockDocumentService
 {
     Q_OBJECT
@@ -27,19 +27,19 @@ public:
 
     [[nodiscard]] QList<KorPermission> getPermissions() const override;
 
-    // The finders give purchases without lines, as a list shows them; find(id) reads a purchase with its lines.
+    // The finders return purchases without lines, for lists; find(id) reads a purchase with its lines.
     [[nodiscard]] QList<EntityAcquisition*> findAll(const PurchasingFilter& filter);
     [[nodiscard]] EntityAcquisition* findByNo(const QString& no);
     [[nodiscard]] EntityAcquisition* findHeader(int id);
-    /** What is not fully paid, the first due first. */
+    /** Purchases that are not fully paid, sorted by due date. */
     [[nodiscard]] QList<EntityAcquisition*> getPendingInvoiceBySupplier(const EntitySupplier* supplier);
 
-    /** Refused while a payment stands for the purchase. */
+    /** Refused if there is a payment for the purchase. */
     bool remove(KorEntity* purchase) override;
 
-    /** Sets the status that follows from what was paid; every save begins with it. */
+    /** Sets the status by the amount paid; called before every save. */
     static void updateStatus(EntityAcquisition& purchase);
-    /** Reckons anew what credit notes and payments gave for the stored purchase, and saves it. */
+    /** Recalculates what credit notes and payments have settled of the stored purchase, and saves it. */
     bool recalculateDue(int purchaseId);
 
 protected:

@@ -81,7 +81,7 @@ QString DataMapperAcquisition::purchaseNo(int orderId)
 double DataMapperAcquisition::paidLater(int purchaseId)
 {
     KorQuery query;
-    // Every note counts, also one that was cancelled; one without an account is in no list and in no sum.
+    // Every note counts, also a cancelled one, but not one without an account, which no list shows.
     const bool done = execute(query,
                               "select coalesce((select sum(amount_paid_amount) from credit_note where acquisition_id = "
                               ":purchase and bank_id is not null), 0) + coalesce((select sum(amount_paid_amount) from "

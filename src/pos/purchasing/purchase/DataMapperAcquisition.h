@@ -9,8 +9,8 @@ class DataMapperPurchaseOrder;
 class DataMapperSupplier;
 
 /**
- * Purchases with their lines, in the tables "acquisition" and "acquisition_detail". A save that was taken back because
- * of a line returns true and leaves its error: whoever saves here must ask hasError() as well.
+ * Purchases with their lines, in the tables "acquisition" and "acquisition_detail". A save that was rolled back because
+ * of a line returns true and sets an error: callers must also check hasError().
  */
 class DataMapperAcquisition final : public PurchasingDocumentMapper<EntityAcquisition>, public PurchasesOfOrders
 {
@@ -25,17 +25,16 @@ public:
     [[nodiscard]] QStringList indexStatements() const override;
     [[nodiscard]] QList<KorMigration*> migrations() override;
 
-    /** Without lines: what is not fully paid, the first due first. */
+    /** Without lines: purchases that are not fully paid, sorted by due date. */
     [[nodiscard]] QList<EntityAcquisition*> getPendingInvoiceBySupplier(const EntitySupplier* supplier);
-    /** What was bought of the item up to that day, or from a day on; both limits count. 0 with an error after a
-     * failure. */
+    /** The quantity bought up to that day, or in a period; all dates are inclusive. 0 with an error after a failure. */
     [[nodiscard]] int getQuantityAcquired(const KorEntity* item, const QDate& date);
     [[nodiscard]] int getQuantityAcquired(const KorEntity* item, const QDate& from, const QDate& to);
     [[nodiscard]] QString purchaseNo(int orderId) override;
     [[nodiscard]] KorDataMapper* mapper() override { return this; }
-    /** What credit notes and payments gave for the purchase since, in whole units of the currency. */
+    /** What credit notes and payments have settled of the purchase, in whole units of the currency. */
     [[nodiscard]] double paidLater(int purchaseId);
-    /** The number of a payment that paid of the purchase; empty when there is none. */
+    /** The number of a payment for the purchase; empty if there is none. */
     [[nodiscard]] QString paymentNo(int purchaseId);
 
 protected:

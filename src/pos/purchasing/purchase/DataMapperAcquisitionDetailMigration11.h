@@ -2,7 +2,10 @@
 
 #include "kor/persistence/KorMigration.h"
 
-/** Ties purchase lines to order lines. No update run reaches a line mapper, so old tables keep their looser form. */
+/**
+ * Adds the foreign key from purchase lines to order lines. Updates do not run migrations of line mappers, so old tables
+ * do not get it.
+ */
 class DataMapperAcquisitionDetailMigration11 final : public KorMigration
 {
     Q_OBJECT

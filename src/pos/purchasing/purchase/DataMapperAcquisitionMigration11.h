@@ -3,8 +3,8 @@
 #include "kor/persistence/KorMigration.h"
 
 /**
- * Ties the purchases of an older database to their orders. A database made by this program has the constraint from the
- * beginning, and there the migration reports that it exists, which is in order.
+ * Adds the foreign key from purchases to orders in an older database. A database created by this program already has
+ * it; there the migration reports that it exists, which is expected.
  */
 class DataMapperAcquisitionMigration11 final : public KorMigration
 {

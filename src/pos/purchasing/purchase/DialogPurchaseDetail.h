@@ -2,7 +2,7 @@
 
 #include "pos/purchasing/document/PurchasingLineDialog.h"
 
-/** One item that was bought freely. */
+/** One item that was bought without an order. */
 class DialogPurchaseDetail final : public PurchasingLineDialog
 {
     Q_OBJECT

@@ -2,7 +2,7 @@
 
 #include "pos/purchasing/document/PurchasingLineDialog.h"
 
-/** What came of one line of an order. */
+/** The received quantity of one order line. */
 class DialogPurchaseDetailPO final : public PurchasingLineDialog
 {
     Q_OBJECT

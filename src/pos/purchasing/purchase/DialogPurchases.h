@@ -12,7 +12,7 @@ namespace Ui
 class DialogPurchases;
 }
 
-/** The form of a purchase: what came from a supplier, of an order or freely, and what was paid at once. */
+/** The form of a purchase: goods received from a supplier, with or without an order, and what was paid at once. */
 class DialogPurchases final : public PurchasingDialog
 {
     Q_OBJECT

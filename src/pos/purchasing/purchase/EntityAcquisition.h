@@ -7,7 +7,7 @@
 
 #include <QDate>
 
-/** Goods received from a supplier, with what was paid then and what was credited or paid later. */
+/** Goods received from a supplier, with what was paid at once and what was credited or paid later. */
 class EntityAcquisition : public KorEntity, public AppDocumentLines<EntityAcquisitionDetail>
 {
     Q_OBJECT

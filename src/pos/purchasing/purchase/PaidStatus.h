@@ -3,9 +3,9 @@
 #include <QColor>
 #include <QIcon>
 
-// How lists show what is paid of a purchase or a return. 1 is paid, 2 unpaid, 3 paid in part.
+// How lists show the payment status of a purchase or return. 1 is paid, 2 unpaid, 3 partially paid.
 
 [[nodiscard]] QString paidStatusText(int status);
-/** The row's colour; invalid for a status that has none. */
+/** The row's colour; invalid if the status has none. */
 [[nodiscard]] QColor paidStatusColour(int status);
 [[nodiscard]] QIcon paidStatusMark(int status);

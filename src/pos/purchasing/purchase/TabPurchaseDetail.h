@@ -5,7 +5,7 @@
 #include "pos/purchasing/purchase/EntityAcquisitionDetail.h"
 #include "pos/purchasing/purchase/TableModelPurchaseDetail.h"
 
-/** What was bought freely, in the form of a purchase. */
+/** The items bought without an order, in the form of a purchase. */
 class TabPurchaseDetail final
     : public PurchasingLinesOf<EntityAcquisitionDetail, TableModelPurchaseDetail, DialogPurchaseDetail>
 {

@@ -5,7 +5,7 @@
 #include "pos/purchasing/purchase/EntityAcquisitionDetail.h"
 #include "pos/purchasing/purchase/TableModelPurchaseDetailPO.h"
 
-/** What came of an order, in the form of a purchase. */
+/** The lines received from an order, in the form of a purchase. */
 class TabPurchaseDetailPO final : public PurchasingLinesOf<EntityAcquisitionDetail, TableModelPurchaseDetailPO,
                                                            DialogPurchaseDetailPO, SourceLinesTab>
 {

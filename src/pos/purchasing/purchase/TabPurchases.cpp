@@ -72,7 +72,7 @@ void TabPurchases::offerToClose(const EntityAcquisition& purchase)
     }
     const QString question = tr("You have received all items from Purchase Order No: %1. Do you want to close this "
                                 "Purchase Order now?");
-    // Whoever closed it meanwhile has answered already.
+    // Do not ask if somebody has already closed the order.
     if (order->getStatus() == EntityPurchaseOrder::CLOSED ||
         QMessageBox::question(this, tr("Info"), question.arg(order->getNo())) != QMessageBox::Yes)
         return;

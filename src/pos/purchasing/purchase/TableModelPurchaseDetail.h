@@ -2,7 +2,7 @@
 
 #include "pos/purchasing/document/PurchasingLinesModel.h"
 
-/** What was bought freely. */
+/** The items bought without an order. */
 class TableModelPurchaseDetail final : public PurchasingLinesModel
 {
     Q_OBJECT
@@ -14,7 +14,7 @@ public:
         addQuantity(tr("Qty"));
         addUnit();
         addUnitPrice();
-        // Spelled so since the first version of the form.
+        // Misspelled since the first version of the form; the text is kept.
         addDiscount(tr("Discout"));
         addAmount();
     }

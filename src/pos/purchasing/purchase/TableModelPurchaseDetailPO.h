@@ -3,7 +3,7 @@
 #include "pos/purchasing/document/PurchasingLinesModel.h"
 #include "pos/purchasing/purchase/EntityAcquisitionDetail.h"
 
-/** What an order had asked for, and what came of it. */
+/** The ordered and the received quantities of an order. */
 class TableModelPurchaseDetailPO final : public PurchasingLinesModel
 {
     Q_OBJECT

@@ -35,7 +35,7 @@ QVariant TableModelPurchases::data(const QModelIndex& index, int role) const
     }
     if (role == Qt::DecorationRole && index.column() == Status)
         return paidStatusMark(purchase->getStatus());
-    // The supplier's number is shown; the house's own is what the search goes by.
+    // The column shows the supplier's number; the tool tip shows the purchase's own, which the search uses.
     if (role == Qt::ToolTipRole)
         return tr("Purchase No. : %1").arg(purchase->getNo());
     return AppEntityModel::data(index, role);

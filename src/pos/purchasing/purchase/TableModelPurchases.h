@@ -2,7 +2,7 @@
 
 #include "app/widgets/AppEntityModel.h"
 
-/** A list of purchases; a row's colour and mark tell what is paid. */
+/** The rows of a list of purchases; colour and icon show the payment status. */
 class TableModelPurchases final : public AppEntityModel
 {
     Q_OBJECT

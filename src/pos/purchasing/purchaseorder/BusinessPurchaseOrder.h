@@ -20,16 +20,16 @@ public:
     BusinessPurchaseOrder(QObject* parent, DataMapperPurchaseOrder* orders, PurchasesOfOrders* purchases);
 
     [[nodiscard]] QList<KorPermission> getPermissions() const override;
-    /** Refused while a purchase was made of the order. */
+    /** Refused if there is a purchase for the order. */
     bool remove(KorEntity* order) override;
 
-    // The finders give orders without lines, as a list shows them; find(id) reads an order with its lines.
+    // The finders return orders without lines, for lists; find(id) reads an order with its lines.
     [[nodiscard]] QList<EntityPurchaseOrder*> findAll(const PurchasingFilter& filter);
     [[nodiscard]] EntityPurchaseOrder* findByNo(const QString& no);
     [[nodiscard]] EntityPurchaseOrder* findHeader(int id);
-    /** What can still be received. */
+    /** Orders whose goods can still be received. */
     [[nodiscard]] QList<EntityPurchaseOrder*> getOpenBySupplier(const EntitySupplier* supplier);
-    /** The number of a purchase that was made of the order; empty when there is none. */
+    /** The number of a purchase for the order; empty if there is none. */
     [[nodiscard]] QString isPurchased(const EntityPurchaseOrder* order);
 
 protected:

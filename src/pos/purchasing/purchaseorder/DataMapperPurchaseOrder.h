@@ -19,7 +19,7 @@ public:
     KorEntity* createEntity() override;
     [[nodiscard]] QStringList indexStatements() const override;
 
-    /** Without lines: what can still be received, in the order of the orders' dates. */
+    /** Without lines: orders whose goods can still be received, sorted by date. */
     [[nodiscard]] QList<EntityPurchaseOrder*> getOpenBySupplier(const EntitySupplier* supplier);
 
 protected:

@@ -3,8 +3,8 @@
 #include "kor/persistence/KorMigration.h"
 
 /**
- * Ties the lines of an older database to their orders. The mapper does not offer it: old databases keep their looser
- * table until the schema moves on, and new ones have the constraint from the beginning.
+ * Adds the foreign key from order lines to orders in an older database. The mapper does not use it: older databases
+ * stay without the key, new ones have it from the start.
  */
 class DataMapperPurchaseOrderDetailMigration11 final : public KorMigration
 {

@@ -26,7 +26,7 @@ DialogPurchaseOrder::DialogPurchaseOrder(QWidget* parent)
                     {tr("Select a supplier"), tr("Insert one or more item"), tr("Please select an Accounts Payable"),
                      tr("Please select a valid Accounts Payable")},
                     payableAccount());
-    // The dates are taken as of midnight: a list up to a day holds all orders of that day.
+    // The dates are saved as midnight, so that a list up to a day contains all orders of that day.
     editsDocument<Order>({{m_ui->txtPONo, "No"},
                           {m_ui->datePO, "Date"},
                           {m_ui->dateShip, "ShipDate"},

@@ -11,7 +11,7 @@ namespace Ui
 class DialogPurchaseOrder;
 }
 
-/** The form of a purchase order: what is ordered from a supplier, and the deposit. */
+/** The form of a purchase order: the ordered items and the deposit. */
 class DialogPurchaseOrder final : public PurchasingDialog
 {
     Q_OBJECT

@@ -3,7 +3,7 @@
 #include "pos/purchasing/document/SelectDocumentDialog.h"
 #include "pos/purchasing/purchaseorder/TabSelectPO.h"
 
-/** Lets the user choose the order that the goods were delivered for. */
+/** Lets the user choose the order whose goods were delivered. */
 class DialogSelectPO final : public SelectDocumentDialog
 {
     Q_OBJECT

@@ -7,7 +7,7 @@
 
 #include <QDateTime>
 
-/** What was ordered from a supplier, with the deposit and the account that it was paid from. */
+/** An order to a supplier, with the deposit and the account that paid it. */
 class EntityPurchaseOrder : public KorEntity, public AppDocumentLines<EntityPurchaseOrderDetail>
 {
     Q_OBJECT

@@ -2,7 +2,7 @@
 
 #include "pos/purchasing/document/EntityPurchasingLine.h"
 
-/** One item of a purchase order: how many were ordered and at which price. */
+/** One item of a purchase order: the ordered quantity and the price. */
 class EntityPurchaseOrderDetail : public EntityPurchasingLine
 {
     Q_OBJECT

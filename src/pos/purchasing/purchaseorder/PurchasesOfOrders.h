@@ -3,14 +3,14 @@
 class KorDataMapper;
 class QString;
 
-/** What the service of orders asks the mapper of purchases, which knows orders and so lies above them. */
+/** What the order service needs from the purchase mapper. An interface, because that mapper depends on orders. */
 class PurchasesOfOrders
 {
 public:
     virtual ~PurchasesOfOrders() = default;
 
-    /** The number of a purchase that was made of the order; empty when there is none. */
+    /** The number of a purchase for the order; empty if there is none. */
     [[nodiscard]] virtual QString purchaseNo(int orderId) = 0;
-    /** Whose errors tell of an answer that could not be read. */
+    /** The mapper that has the error if purchaseNo() failed. */
     [[nodiscard]] virtual KorDataMapper* mapper() = 0;
 };

@@ -5,7 +5,7 @@
 #include "pos/purchasing/purchaseorder/EntityPurchaseOrderDetail.h"
 #include "pos/purchasing/purchaseorder/TableModelPurchaseOrderDetail.h"
 
-/** What is ordered, in the form of a purchase order. */
+/** The ordered items, in the form of a purchase order. */
 class TabPurchaseOrderDetail final
     : public PurchasingLinesOf<EntityPurchaseOrderDetail, TableModelPurchaseOrderDetail, DialogPurchaseOrderDetail>
 {

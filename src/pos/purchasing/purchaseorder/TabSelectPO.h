@@ -5,7 +5,7 @@
 class BusinessPurchaseOrder;
 class EntitySupplier;
 
-/** The supplier's orders that can still be received. The supplier is borrowed. */
+/** The supplier's orders whose goods can still be received. The supplier is borrowed. */
 class TabSelectPO final : public SelectDocumentTab
 {
     Q_OBJECT

@@ -2,7 +2,7 @@
 
 #include "pos/purchasing/document/PurchasingLinesModel.h"
 
-/** What is ordered. */
+/** The lines of a purchase order. */
 class TableModelPurchaseOrderDetail final : public PurchasingLinesModel
 {
     Q_OBJECT
