@@ -93,7 +93,7 @@ bool DatabaseSetup::connectToDatabase()
 {
     const ConnectionSettings& to = m_options.connection;
     if (m_manager->open(to.host, to.database, to.user, to.password, to.port)) {
-        // The server's notices about tables that are not there yet are no news here.
+        // Hides the server's notices about tables that do not exist yet.
         QSqlQuery(m_manager->database()).exec("SET client_min_messages TO warning");
         return true;
     }

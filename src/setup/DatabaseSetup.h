@@ -7,7 +7,7 @@
 
 class DatabaseManager;
 
-/** Carries out what was asked for on the database that the options name. Its results are exit statuses. */
+/** Runs the requested command on the database of the options. A Result is the exit status of the process. */
 class DatabaseSetup
 {
     Q_DECLARE_TR_FUNCTIONS(DatabaseSetup)
@@ -24,9 +24,9 @@ private:
     [[nodiscard]] Result install();
     [[nodiscard]] Result update();
 
-    /** Tells why not. */
+    /** Prints the reason on failure. */
     [[nodiscard]] bool connectToDatabase();
-    /** True when the server answers under these credentials and has no database of that name. */
+    /** True if the server accepts these credentials but has no database of this name. */
     [[nodiscard]] bool isDatabaseMissing();
     [[nodiscard]] bool createDatabase();
     [[nodiscard]] int tableCount() const;

@@ -34,7 +34,7 @@ void declare(QCommandLineParser& parser)
     });
 }
 
-/** The file that the program reads: its data folder is named after it. */
+/** The settings file of the program, whose data folder is "zavelpos". */
 QString programSettingsPath()
 {
     return QDir(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation))

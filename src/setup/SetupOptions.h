@@ -5,7 +5,7 @@
 #include <QCoreApplication>
 #include <QStringList>
 
-/** What the person at the console asked for. */
+/** The parsed command line. */
 struct SetupOptions
 {
     Q_DECLARE_TR_FUNCTIONS(SetupOptions)
@@ -23,9 +23,9 @@ public:
     QString dateFormat;
     bool writeSettings = false;
     QString settingsPath;
-    /** The help, or what is wrong with the arguments. */
+    /** The help text, or an error about the arguments. */
     QString text;
 
-    /** Reads the arguments, the program's name first. Passwords come from the environment where they are not given. */
+    /** Parses the arguments (the first is the program's name). Passwords not given are read from the environment. */
     [[nodiscard]] static SetupOptions parse(const QStringList& arguments);
 };

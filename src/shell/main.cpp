@@ -4,11 +4,11 @@
 
 int main(int argc, char** argv)
 {
-    // Named, the C library reads the zone's file once; unnamed, it looks for a change before every time stamp that is
-    // read from the database, which is a tenth of all reading.
+    // With TZ set, the C library reads the time zone file once. Without it, it checks for changes before every
+    // timestamp read from the database, which takes a tenth of the whole read time.
     if (!qEnvironmentVariableIsSet("TZ"))
         qputenv("TZ", ":/etc/localtime");
-    // File names, database names and passwords go to PostgreSQL's programs as UTF-8, whatever the locale is.
+    // Passes file names, database names and passwords to the PostgreSQL programs as UTF-8, whatever the locale is.
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     ZavelApplication application(argc, argv);
     return application.run();

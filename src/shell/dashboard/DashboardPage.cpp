@@ -11,7 +11,7 @@ bool DashboardPage::acceptNavigationRequest(QWebFrame* frame, const QNetworkRequ
 {
     Q_UNUSED(frame)
     Q_UNUSED(type)
-    // The script may open any screen of the program: only files of the program get to be that script.
+    // Scripts on the page may open any page of the program, so only local files are loaded.
     return request.url().isLocalFile() || request.url() == QUrl("about:blank");
 }
 

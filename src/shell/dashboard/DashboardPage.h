@@ -2,7 +2,7 @@
 
 #include <QWebPage>
 
-/** The web page inside the dashboard: it stays at its own file, and what its script complains about is logged. */
+/** The web page inside the dashboard. It refuses links to other sites and logs the errors of its script. */
 class DashboardPage final : public QWebPage
 {
     Q_OBJECT
@@ -10,7 +10,7 @@ class DashboardPage final : public QWebPage
 public:
     explicit DashboardPage(QObject* parent);
 
-    /** A message box may stand in the middle of a call from the script for as long as it is not answered. */
+    /** A script call may open a message box and so run for a long time; do not offer to stop the script. */
     bool shouldInterruptJavaScript() override { return false; }
 
 protected:

@@ -30,14 +30,14 @@ namespace
 {
 constexpr int daysBack = 14;
 
-/** The days that the figures are about; both count. */
+/** The days of the figures, first and last included. */
 struct Period
 {
     QDate to = QDate::currentDate();
     QDate from = to.addDays(-daysBack);
 };
 
-// In English whatever the workstation speaks: the page reads these.
+// Always in English: the web page parses these.
 QString dayText(const QDate& day) { return QLocale::c().toString(day, "dd MMM"); }
 QString limitText(const QDate& day) { return QLocale::c().toString(day, "dd MMM yyyy"); }
 
@@ -52,11 +52,11 @@ TabDashboard::TabDashboard(QWidget* parent)
 {
     m_ui->setupUi(this);
     m_ui->webView->setPage(new DashboardPage(m_ui->webView));
-    // The page is written in the program's own letters.
+    // The web page uses the same font as the program.
     m_ui->webView->settings()->setFontFamily(QWebSettings::StandardFont, QFontInfo(QApplication::font()).family());
     connect(m_ui->webView->page()->mainFrame(), &QWebFrame::javaScriptWindowObjectCleared, this,
             &TabDashboard::populateJavaScriptWindowObject);
-    // The engine would show a page of its own about a missing file.
+    // The engine would show its own error page for a missing file.
     const QString file = QApplication::applicationDirPath() + "/html/index.html";
     if (QFile::exists(file))
         m_ui->webView->load(QUrl::fromLocalFile(file));
@@ -75,7 +75,7 @@ void TabDashboard::populateJavaScriptWindowObject()
 
 void TabDashboard::bindMainWnd()
 {
-    // Queued: the script's click is over before a screen opens, which may be a dialog that stays for long.
+    // Queued, so that the script's click handler returns before a dialog opens, which may stay open for long.
     if (QObject* window = AppContext::instance()->mainWindow())
         connect(this, SIGNAL(callMainWindowCmd(QString)), window, SLOT(on_callMainWindowCmd(QString)),
                 Qt::QueuedConnection);
@@ -96,7 +96,7 @@ QString TabDashboard::getUsername() const
     const EntityUser* user = AppContext::instance()->currentUser();
     if (!user)
         return QString();
-    // The blank between two empty names is a text too, so the user name only stands in where that is left out.
+    // Two empty names give one space, which is not empty: the user name is not shown in that case.
     const QString name = user->getFirstName() + ' ' + user->getLastName();
     return name.isEmpty() ? user->getUserName() : name;
 }
@@ -147,7 +147,7 @@ QString TabDashboard::getSoldItemsData()
 QString TabDashboard::getLocalization() const
 {
     const QLocale locale(AppContext::instance()->locale());
-    // Where the sign of the currency stands, learnt from a sample without cents: amounts are whole units.
+    // The position of the currency symbol, taken from a sample without decimals: amounts are whole units.
     QString money = locale.toCurrencyString(1, locale.currencySymbol());
     money.replace(locale.toString(1), "%1");
     return compactText({{"currency", locale.currencySymbol()},
@@ -160,7 +160,7 @@ QString TabDashboard::getOpenSteps()
     EntityPool pool;
     const EntityPoolScope scope(pool);
     auto* printers = service<BusinessPrinterConfig>("Printer Config");
-    // The figures, which are read next, tell of a database that is away.
+    // The sales figures, which are read next, report a lost connection.
     const KorErrorScope errors(printers);
     QJsonArray steps;
     const auto* cashier = printers->getCashierPrinterConfig();
@@ -175,6 +175,6 @@ QString TabDashboard::getOpenSteps()
 
 QString TabDashboard::translated(const QString& text) const
 {
-    // The catalogues know the page's texts under the name of its script.
+    // "dashboard" is the context of the page's texts in the translation files.
     return QCoreApplication::translate("dashboard", text.toUtf8().constData());
 }

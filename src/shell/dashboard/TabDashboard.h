@@ -12,8 +12,8 @@ class TabDashboard;
 }
 
 /**
- * The first page of the day: the last sales and the shortcuts to set the restaurant up. What it looks like is up to
- * the web page html/index.html beside the program; the page calls this object's public slots as "dashboard".
+ * The start page: recent sales, and shortcuts for setting up the restaurant. The content is the web page
+ * html/index.html beside the program; its script calls this object's public slots through the name "dashboard".
  */
 class TabDashboard final : public KorTab
 {
@@ -25,17 +25,17 @@ public:
 
 public slots:
     [[nodiscard]] QString getUsername() const;
-    // JSON. Every call asks the database anew.
+    // Both return JSON and read the database on every call.
     [[nodiscard]] QString getSalesChartData();
     [[nodiscard]] QString getSoldItemsData();
-    /** JSON: how the restaurant writes numbers and money. */
+    /** JSON: the restaurant's number and money formats. */
     [[nodiscard]] QString getLocalization() const;
-    /** JSON: the screens of the steps that are still open, "cashierprinter" and "kitchenprinter". */
+    /** JSON: the setup steps that are not done yet, "cashierprinter" and "kitchenprinter". */
     [[nodiscard]] QString getOpenSteps();
-    /** A text of the page in the program's language. */
+    /** Translates a text of the web page into the current language. */
     [[nodiscard]] QString translated(const QString& text) const;
 
-    // Each asks the main window for a screen.
+    // Each asks the main window to open a page or dialog.
     void companyprofile() { emit callMainWindowCmd("companyprofile"); }
     void cashierprinter() { emit callMainWindowCmd("cashier"); }
     void kitchenprinter() { emit callMainWindowCmd("kitchenprinter"); }
@@ -50,7 +50,7 @@ public slots:
 
 signals:
     void callMainWindowCmd(const QString& cmd);
-    /** The user has come back to the page, whose figures may be old by now. */
+    /** The page is shown again; its figures may be out of date. */
     void shownAgain();
 
 protected:

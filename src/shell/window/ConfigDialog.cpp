@@ -36,7 +36,7 @@ ConfigDialog::ConfigDialog(QWidget* parent)
     m_ui->setupUi(this);
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     setWindowIcon(QIcon(":/icons/Beverage-Coffee-02.png"));
-    // One choice at two places: Setup lays the first prices down in its currency, General changes it later.
+    // One setting with two boxes: Setup uses it for the currency of the first prices, General changes it later.
     for (QComboBox* box : {m_ui->txtLocale, m_ui->ddlSetupLocale}) {
         box->addItems(BusinessConfiguration::locales());
         box->setCurrentText(BusinessConfiguration::localeOfMachine());
@@ -76,7 +76,7 @@ void ConfigDialog::loadSettings()
 
 void ConfigDialog::loadLocalization()
 {
-    // Without a connection every read would wait for a server that is not there.
+    // Without a connection every read would wait for the server's timeout.
     if (!m_configuration || !isConnected())
         return;
     const KorErrorScope errors(m_configuration);
@@ -99,14 +99,14 @@ bool ConfigDialog::saveSettings()
     emit onUpdateDBConf();
     if (m_reconnect)
         m_reconnect();
-    // What was read before may belong to another database by now, and a saved record does not know its new version.
+    // The old record may belong to another database now, and a saved record has an outdated version.
     loadLocalization();
     return true;
 }
 
 void ConfigDialog::saveLocalization()
 {
-    // On the connection as it was before this change.
+    // Uses the connection from before this change.
     if (!m_localization || m_localization->getId() == KorNoValue || !isConnected())
         return;
     m_localization->setDateTimeFormat(m_ui->txtDateTimeFormat->text());
@@ -215,7 +215,7 @@ void ConfigDialog::on_installBtn_clicked()
 void ConfigDialog::setInstalling(bool installing)
 {
     m_installing = installing;
-    // One run at a time, and nobody else at the database meanwhile.
+    // Only one installation at a time, and no other use of the database during it.
     for (QWidget* widget : std::initializer_list<QWidget*>{m_ui->installBtn, m_ui->btnSaveDBConf, m_ui->buttonBox})
         widget->setEnabled(!installing);
 }

@@ -17,8 +17,8 @@ class ConfigDialog;
 }
 
 /**
- * Where the workstation's connection and the shared formats are edited, and from where the tables are installed. It
- * stands in the start sequence while there is no connection, and behind the menu entry "General".
+ * Edits the workstation's database connection and the shared formats, and installs the tables. Shown at program start
+ * while there is no connection, and by the menu entry "General".
  */
 class ConfigDialog final : public QDialog
 {
@@ -28,11 +28,11 @@ public:
     explicit ConfigDialog(QWidget* parent = nullptr);
     ~ConfigDialog() override;
 
-    /** What the start sequence does when the settings have been saved. */
+    /** Sets the function to call after the settings have been saved; the start sequence uses it to reconnect. */
     void setReconnect(std::function<void()> reconnect) { m_reconnect = std::move(reconnect); }
 
     void done(int result) override;
-    // No button of the form bears this name.
+    // Not a slot, because the form has no button of this name.
     void on_btnRestart_clicked();
 
 signals:
@@ -56,22 +56,21 @@ private slots:
 private:
     void loadSettings();
     void loadLocalization();
-    /** False when the file could not be written; the user has been told then. */
+    /** False if the file could not be written; the user has already seen the error. */
     bool saveSettings();
     void saveLocalization();
-    /** Asks what to do about prices in another currency than that of the chosen locale; false: it is not to be saved.
-     */
+    /** Asks what to do about prices whose currency is not that of the chosen locale. False: do not save. */
     bool settleCurrencies();
     [[nodiscard]] static bool isConnected();
     [[nodiscard]] ConnectionEdits connectionEdits() const;
     void setInstalling(bool installing);
-    /** Keeps the program alive meanwhile, with the dialog locked. */
+    /** Waits with the dialog disabled; events are still processed. */
     void waitFor(int milliseconds);
 
     std::unique_ptr<Ui::ConfigDialog> m_ui;
     QString m_settingsPath;
     BusinessConfiguration* m_configuration;
-    // Lies in the context's pool, which can be cleared from this very dialog.
+    // Owned by the entity pool of the context, which this dialog can clear.
     QPointer<EntityConfigLocalizationFormat> m_localization;
     std::function<void()> m_reconnect;
     bool m_installing = false;

@@ -10,10 +10,10 @@ bool changeDatabase(const ConnectionSettings& settings, QString* reason)
 {
     AppContext* context = AppContext::instance();
     DatabaseManager* former = context->databaseManager();
-    // Closed first: both bear the default connection's name.
+    // Closed first: both use the default connection name.
     if (former) {
         former->close();
-        // A lost connection is not closed; a copy of it would outlive its name.
+        // close() does nothing on a lost connection, and a remaining copy would keep the old one in use.
         former->setDatabase(QSqlDatabase());
     }
     auto manager = std::make_unique<DatabaseManager>();

@@ -5,7 +5,7 @@
 struct ConnectionSettings;
 
 /**
- * Opens the database that the settings name in place of the one in use. Where that fails, the former connection is
- * opened again from the context's values and the reason holds the driver's words.
+ * Opens the database of the settings instead of the current one. If that fails, it reopens the former connection with
+ * the context's values and puts the driver's error text into the reason.
  */
 [[nodiscard]] bool changeDatabase(const ConnectionSettings& settings, QString* reason);

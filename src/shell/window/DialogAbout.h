@@ -9,7 +9,7 @@ namespace Ui
 class DialogAbout;
 }
 
-/** What the program is, in which version, and whose work it stands on. */
+/** Shows what the program is, its version, and the software that it uses. */
 class DialogAbout final : public QDialog
 {
     Q_OBJECT

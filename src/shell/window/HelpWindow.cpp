@@ -28,7 +28,7 @@ struct Heading
     QString anchor;
 };
 
-/** The headings of the document; one that can be gone to bears an anchor. */
+/** The headings of the document; those that links can reach have an anchor. */
 QList<Heading> headingsOf(const QTextDocument* document)
 {
     QList<Heading> headings;
@@ -102,7 +102,7 @@ void HelpWindow::build()
     connect(m_page, &QTextBrowser::backwardAvailable, m_back, &QWidget::setEnabled);
     connect(m_page, &QTextBrowser::forwardAvailable, m_forward, &QWidget::setEnabled);
     connect(m_page, &QTextBrowser::sourceChanged, this, [this](const QUrl& place) {
-        // The browser itself names the former place until later.
+        // At this time QTextBrowser::source() still returns the previous page.
         m_place = place;
         markContents();
     });
@@ -232,7 +232,7 @@ void HelpWindow::findInPage()
     const QString text = m_find->text();
     if (text.isEmpty() || m_page->find(text))
         return;
-    // On from the top, where it stands further up only.
+    // Not found below the cursor: search again from the top.
     m_page->moveCursor(QTextCursor::Start);
     if (!m_page->find(text))
         m_find->setStyleSheet("background:#fbe3e4;");

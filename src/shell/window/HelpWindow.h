@@ -10,22 +10,22 @@ class QTextBrowser;
 class QTreeWidget;
 class QTreeWidgetItem;
 
-/** The manual beside the work: its contents, the page, the way back, and a search in the page. */
+/** The window of the manual: contents, page, back and forward, and a search in the page. */
 class HelpWindow final : public QWidget
 {
     Q_OBJECT
 
 public:
-    /** The folder holds a folder a language. The window lies over its parent and goes with it. */
+    /** The folder has one subfolder per language. The window stays above its parent, which owns it. */
     HelpWindow(QString folder, QWidget* parent);
     ~HelpWindow() override;
 
-    /** English where the manual does not speak the language. The page that is open stays open. */
+    /** Falls back to English if there is no manual in this language. The open page stays open. */
     void setLanguage(const QString& code);
-    /** "waiter.html", or "owner.html#reports" for a part of it. */
+    /** "waiter.html", or "owner.html#reports" for a section. */
     void showPage(const QString& page);
 
-    /** The pages as they stand in the contents. */
+    /** All pages in the order of the contents. */
     [[nodiscard]] static QStringList pages();
 
 protected:

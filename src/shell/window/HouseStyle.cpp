@@ -30,7 +30,7 @@ bool isAccented(const QStyleOptionButton& button)
 
 bool isSidebarCategory(const QWidget* widget) { return widget && widget->inherits("QtCategoryButton"); }
 
-/** The picture's shape in white, for the coloured ground of the default button. */
+/** The icon in white, for the colored background of the default button. */
 QPixmap whitened(QPixmap picture)
 {
     QPainter painter(&picture);
@@ -39,7 +39,7 @@ QPixmap whitened(QPixmap picture)
     return picture;
 }
 
-/** What a message is about: a sign on a disc, sharp on dense screens too. */
+/** The icon of a message box: a character on a disc, sharp on high-DPI screens too. */
 QIcon messageIcon(char sign, QRgb color)
 {
     constexpr int size = 48;
@@ -62,7 +62,7 @@ QIcon messageIcon(char sign, QRgb color)
     return QIcon(picture);
 }
 
-/** A cross, on a ground of its own under the mouse. */
+/** A cross, with a background under the mouse. */
 void drawTabClose(const QStyleOption& option, QPainter* painter)
 {
     const QRectF square = QRectF(option.rect).adjusted(1, 1, -1, -1);
@@ -139,7 +139,7 @@ QPalette HouseStyle::standardPalette() const
 void HouseStyle::polish(QWidget* widget)
 {
     QProxyStyle::polish(widget);
-    // A message names tables and dishes as they are written, also where that looks like markup.
+    // Messages show names of tables and items, which may look like markup.
     if (auto* message = qobject_cast<QMessageBox*>(widget))
         message->setTextFormat(Qt::PlainText);
 }
@@ -161,7 +161,7 @@ int HouseStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, cons
         return 18;
     case PM_HeaderMargin:
         return 8;
-    // What stands left and right of a cell's text.
+    // The padding left and right of a cell's text.
     case PM_FocusFrameHMargin:
         return widget && widget->inherits("QTableView") ? 6 : QProxyStyle::pixelMetric(metric, option, widget);
     default:
@@ -173,7 +173,7 @@ int HouseStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWid
                           QStyleHintReturn* data) const
 {
     switch (hint) {
-    // The categories of the sidebar show a menu's title; its marked letter belongs to the menu.
+    // The categories of the sidebar show a menu's title, but its mnemonic works only in the menu.
     case SH_UnderlineShortcut:
         return widget && widget->inherits("QtCategoryButton") ? 0 : QProxyStyle::styleHint(hint, option, widget, data);
     case SH_FormLayoutFieldGrowthPolicy:
@@ -191,7 +191,7 @@ QSize HouseStyle::sizeFromContents(ContentsType type, const QStyleOption* option
                                    const QWidget* widget) const
 {
     QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
-    // Dates too; they measure their text without the padding that their field takes.
+    // Also for date edits: they measure their text without the padding of the field.
     if (type == CT_SpinBox)
         size.rwidth() += 2 * fieldPadding;
     switch (type) {
@@ -225,7 +225,7 @@ void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
     }
     const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
     if (element == PE_PanelLineEdit && frame && (frame->state & State_ReadOnly)) {
-        // A field that only shows lies on the form's own ground.
+        // A read-only field has the background of the form.
         QStyleOptionFrame shown(*frame);
         shown.palette.setColor(QPalette::Base, QColor(readOnlyRgb));
         QProxyStyle::drawPrimitive(element, &shown, painter, widget);

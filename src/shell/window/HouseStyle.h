@@ -6,8 +6,8 @@ class QApplication;
 class QStyleOptionButton;
 
 /**
- * The program's look, the same on every platform: calm light work area, controls for a hurried finger, and one accent
- * for the focused field and the button that Return presses.
+ * The program's style, the same on every platform: a light work area, controls large enough for quick touches, and one
+ * accent color for the focused field and the default button.
  */
 class HouseStyle final : public QProxyStyle
 {
@@ -16,7 +16,7 @@ class HouseStyle final : public QProxyStyle
 public:
     HouseStyle();
 
-    /** Gives the application the style with its palette. */
+    /** Sets the style and its palette on the application. */
     static void apply(QApplication& application);
 
     using QProxyStyle::polish;

@@ -6,7 +6,7 @@
 class QAction;
 class QMenu;
 
-/** The languages that the folder of catalogues offers, and the one in use. */
+/** The languages for which there is a translation file, and the current one. */
 class InterfaceLanguage final : public QObject
 {
     Q_OBJECT
@@ -15,14 +15,14 @@ public:
     InterfaceLanguage(const QString& languagePath, QObject* parent);
     ~InterfaceLanguage() override;
 
-    /** One checkable entry a catalogue; the system's language is checked, though not loaded. */
+    /** Adds one checkable entry per translation file. The system's language is checked, but not loaded. */
     void fillMenu(QMenu* menu);
-    /** Switches the translators; does nothing when the language is in use already. */
+    /** Switches the translators; does nothing if the language is already in use. */
     void load(const QString& code);
 
     /** The system's language without its country: "en" of "en_US". */
     [[nodiscard]] static QString systemCode();
-    /** The code in a catalogue's name: "id" of "TranslationExample_id.qm". */
+    /** The code in the name of a translation file: "id" of "TranslationExample_id.qm". */
     [[nodiscard]] static QString codeOf(const QString& catalogue);
 
 signals:

@@ -294,7 +294,7 @@ void MainWindow::on_actionBackup_Database_triggered()
     const QStringList before = databaseInUse();
     connect(&dialog, &DialogBackupDB::onUpdateDBConf, this, &MainWindow::updateDBConfig);
     dialog.exec();
-    // Restored or chosen, it is another one.
+    // The dialog can change to a restored or another database.
     if (databaseInUse() != before)
         closeAllTab();
 }
@@ -338,7 +338,7 @@ void MainWindow::on_callMainWindowCmd(const QString& cmd)
     const auto command = commands.value(cmd);
     if (!command)
         return;
-    // The page's click comes by itself, and may come while a statement waits: a screen is not to open in its middle.
+    // The web page's click may arrive while a statement waits for the server; no page may open then.
     if (KorServerCall::isUnderWay())
         QTimer::singleShot(0, this, command);
     else
@@ -388,19 +388,19 @@ void MainWindow::updateDBConfig()
     context->setLocale(localization->getLocale());
     settings.putIntoContext();
     m_reports.handOverSettings();
-    // Both switches go to the sidebar, the dashboard's last; the dashboard itself stays as it is.
+    // Both values set the sidebar, the dashboard's value last; the dashboard itself does not change.
     context->setShowSidebar(settings.showSidebar);
     context->setShowSidebar(settings.showDashboard);
     if (m_inDatabaseSetup)
         QMessageBox::information(this, tr("Info"), tr("Connected!"));
-    // What the pages show is in the former database: a save from there would hit other records in this one.
+    // The pages show records of the former database: saving them would change other records in this one.
     if (databaseInUse() != former)
         m_pages->makeAnew();
 }
 
 void MainWindow::checkDBUpdate()
 {
-    // Not into a form that somebody has opened meanwhile.
+    // Do not interrupt a modal form; try again later.
     if (QApplication::activeModalWidget()) {
         QTimer::singleShot(updateCheckDelay, this, &MainWindow::checkDBUpdate);
         return;
@@ -413,7 +413,7 @@ void MainWindow::checkDBUpdate()
     }
     if (!m_update) {
         m_update = new DatabaseUpdate(this);
-        // Pages look at the database by themselves, and what they show is older than the update.
+        // Pages read the database on timers, and their data is older than the update.
         connect(m_update, &DatabaseUpdate::entered, this, &MainWindow::closeAllTab);
         connect(m_update, &DatabaseUpdate::left, this, &MainWindow::showStartPages);
     }

@@ -21,8 +21,8 @@ class MainWindow;
 }
 
 /**
- * The program's one window: menus, the sidebar that mirrors them, and the working screens as pages of a tab widget,
- * each open at most once.
+ * The program's main window: the menus, the sidebar that mirrors them, and a tab widget with the pages, each open at
+ * most once.
  */
 class MainWindow final : public QMainWindow
 {
@@ -33,12 +33,14 @@ public:
     ~MainWindow() override;
 
     void setSettingsFile(const QString& path) { m_settingsFile = path; }
-    /** True when a new page was opened; an open page of that class is only shown. */
+    /** True if a new page was opened. If a page of this class is already open, it only becomes current. */
     bool openTab(const QString& className);
-    /** Lets the user choose another database from outside of the menus; false when the dialog was given up. */
+    /**
+     * Lets the user choose another database; called by code outside the menus. False if the user cancelled the dialog.
+     */
     bool setupDatabase();
 
-    // Not under "slots": no action of the form bears these names, and connecting by name would warn at every start.
+    // Not declared as slots: there are no actions of these names, and connectSlotsByName() would warn at every start.
     void on_actionPrinter_triggered();
     void on_pushButton_clicked() {}
     void on_actionKomisi_Agen_triggered() {}
@@ -49,19 +51,19 @@ signals:
 
 public slots:
     void closeTab(QWidget* tab);
-    /** Takes only the reports of the same title away: one class shows several reports. */
+    /** Closes only reports with the same title, since one class shows several reports. */
     void closeReportTab(QWidget* tab);
     void closeTabX(int index);
     void closeAllTab();
-    /** Reads the settings file anew and changes over to the database that it names. */
+    /** Reads the settings file again and changes to its database. */
     void updateDBConfig();
     void slotReboot();
-    /** Offers the update when the database is older than the program. */
+    /** Offers the update if the database is older than the program. */
     void checkDBUpdate();
-    /** Tells when bringing over the data of a former system was broken off. */
+    /** Shows a message if the conversion of a former system's data was interrupted. */
     void checkConversion();
     void onLoaded() {}
-    /** Carries out a command of the dashboard page; an unknown one is ignored. */
+    /** Runs a command of the dashboard page; ignores unknown commands. */
     void on_callMainWindowCmd(const QString& cmd);
     void slotLanguageChanged(QAction* action);
 
@@ -120,7 +122,7 @@ protected:
 
 private:
     void loadPlugin();
-    /** The menus' lines of pages that MainWindow.ui has none for. */
+    /** Adds the menu entries that are not in MainWindow.ui. */
     void addMenuEntries();
     void nameMenuEntries();
     void buildSidebar();
@@ -128,7 +130,7 @@ private:
     void openReport(const QString& reportName);
     void nameUser();
     void closeDashboard();
-    /** The menu's tick tells whether the page is there, however it came or went. */
+    /** Checks the menu entry if the dashboard is open, however it was opened or closed. */
     void tickDashboard();
     void showInfo(const QString& text);
 

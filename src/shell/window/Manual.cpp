@@ -10,11 +10,10 @@
 
 namespace
 {
-// What is neither a page nor the form of a page.
+// Dialogs that are neither a page nor the form of a page.
 const QHash<QString, QString>& places()
 {
-    // One place a line, whatever the others are called.
-    // clang-format off
+    // One entry per line.
     static const QHash<QString, QString> topics{
         {"DialogMakanDitempat", "waiter.html#order"},
         {"DialogSelectMenu", "waiter.html#order"},
@@ -44,7 +43,7 @@ Manual::~Manual() = default;
 QString Manual::topicOf(const QString& className)
 {
     QString found = places().value(className);
-    // The form of a page is told with it: DialogItem with TabItem.
+    // A page and its form share a topic: DialogItem uses that of TabItem.
     const QString ofPage = className.startsWith("Dialog") ? "Tab" + className.mid(6) : className;
     const Page* page = findPage(ofPage);
     if (found.isEmpty() && page)
@@ -102,7 +101,7 @@ void Manual::setLanguage(const QString& code)
 
 bool Manual::eventFilter(QObject* watched, QEvent* event)
 {
-    // In the main window the menu's key comes first; here are the forms that the menu can not be reached from.
+    // In the main window the menu shortcut handles F1; this is for modal forms, which block the menu.
     if (event->type() == QEvent::KeyPress && QApplication::activeModalWidget() && watched->isWidgetType()) {
         const auto* key = static_cast<QKeyEvent*>(event);
         const auto* widget = static_cast<QWidget*>(watched);

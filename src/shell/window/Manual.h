@@ -6,22 +6,22 @@ class HelpWindow;
 class QTabWidget;
 
 /**
- * Opens the manual where the people are: at what the page or the form in front is about. Forms that hold the keys get
- * a window of their own by F1, for the main window's keys and windows rest behind them.
+ * Opens the manual at the topic of the current page or form. For a modal form, F1 opens a separate help window, since
+ * the main window's shortcuts and windows are blocked.
  */
 class Manual final : public QObject
 {
     Q_OBJECT
 
 public:
-    /** The pages of the window tell what is being worked at; the window of the manual lies over theirs. */
+    /** The current page of the tab widget decides the topic; its window is the parent of the help window. */
     Manual(QString folder, QTabWidget* pages);
     ~Manual() override;
 
     void open();
     void setLanguage(const QString& code);
 
-    /** The place in the manual for a page or a form of this class; empty for one that has none of its own. */
+    /** The manual's topic for a page or form class; empty if it has none. */
     [[nodiscard]] static QString topicOf(const QString& className);
     [[nodiscard]] static QStringList topics();
 

@@ -6,15 +6,15 @@ class QAction;
 class QMenuBar;
 
 /**
- * Settles who gets a key that is both the shortcut of an action and the marked letter of a menu, as Alt+D is: the
- * action. Left alone, the toolkit would find the key ambiguous and run neither.
+ * Resolves keys that are both the shortcut of an action and the mnemonic of a menu, such as Alt+D: the action wins.
+ * Otherwise Qt finds the key ambiguous and runs neither.
  */
 class MenuShortcuts final : public QObject
 {
     Q_OBJECT
 
 public:
-    /** Looks after the menus that stand in the bar now. */
+    /** Covers the menus that the bar has at this time. */
     explicit MenuShortcuts(QMenuBar* bar);
 
 protected:

@@ -17,7 +17,7 @@ bool PageArea::open(const QString& className)
         show(index);
         return false;
     }
-    // A page forgets where it wants the keys when it moves into the window.
+    // A page loses its focus widget when it gets a new parent.
     KorTab* tab = make(className);
     QWidget* inner = tab->focusWidget();
     tab->setParent(m_tabs->window());
@@ -55,10 +55,10 @@ void PageArea::retranslate()
         if (KorTab::putOff(page, this, [this] { retranslate(); }))
             return;
     }
-    // Close buttons keep the words that they were made with.
+    // Close buttons keep the tool tip of the language in which they were created.
     m_tabs->setTabsClosable(false);
     m_tabs->setTabsClosable(true);
-    // A report speaks the new language by itself, when the same event reaches it.
+    // A report retranslates itself on the same event.
     makePagesAnew();
 }
 
@@ -69,7 +69,7 @@ void PageArea::makeAnew()
             return;
     }
     for (QWidget* page : pages()) {
-        // A report is asked for again.
+        // Reports are closed; the user opens them again.
         if (!findPage(page->metaObject()->className()))
             removePage(page);
     }
@@ -85,8 +85,8 @@ void PageArea::makePagesAnew()
     for (const QPointer<QWidget>& page : qAsConst(former)) {
         if (!page || !findPage(page->metaObject()->className()))
             continue;
-        // A page holds no unsaved work, and its lists have to be read again anyway. A failure to read them is told in a
-        // box, and while that is open the former page may go, or be made anew once more.
+        // A page has no unsaved data, and its lists must be read again anyway. An error while reading is shown in a
+        // message box; while it is open, the old page may be removed or replaced.
         const QPointer<KorTab> successor = make(page->metaObject()->className());
         const int index = page ? m_tabs->indexOf(page) : -1;
         if (index < 0 || !successor) {
@@ -120,7 +120,7 @@ void PageArea::show(int index)
 
 void PageArea::focusPage()
 {
-    // On into the page, to where it had the keys last.
+    // Focus the widget of the page that had the focus last.
     const QWidget* page = m_tabs->currentWidget();
     if (QWidget* inner = page ? page->focusWidget() : nullptr)
         inner->setFocus(Qt::OtherFocusReason);
@@ -156,7 +156,7 @@ void PageArea::removePage(QWidget* page)
 
 void PageArea::takeOut(QWidget* page)
 {
-    // The tab bar has the keys meanwhile: out of a page that goes they would jump into the next one's first field.
+    // Focus the tab bar first; otherwise the focus would move to the first field of the next page.
     m_tabs->setFocus(Qt::OtherFocusReason);
     m_tabs->removeTab(m_tabs->indexOf(page));
     emit changed();

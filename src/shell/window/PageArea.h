@@ -6,7 +6,7 @@
 class KorTab;
 class QTabWidget;
 
-/** The open pages of the main window: each class at most once, reports told apart by their titles as well. */
+/** The open pages of the main window: one per class; for reports, one per class and title. */
 class PageArea final : public QObject
 {
     Q_OBJECT
@@ -14,32 +14,40 @@ class PageArea final : public QObject
 public:
     explicit PageArea(QTabWidget* tabs);
 
-    /** True when a new page was opened; an open page of that class is only shown. The class has to be known. */
+    /**
+     * True if a new page was opened; a page of this class that is already open becomes current. The class must be
+     * known.
+     */
     bool open(const QString& className);
-    /** Shows a new report, or the open one of that title, and the new one goes. Takes the report over. */
+    /**
+     * Shows a new report. If one with this title is open, it shows that one and deletes the new one. Takes ownership.
+     */
     void openReport(KorTab* report);
-    /** The first page of that class and, where one is given, of that title; -1 for none. */
+    /** The first page of this class and, if given, of this title; -1 if there is none. */
     [[nodiscard]] int find(const QString& className, const QString& title = QString()) const;
 
-    /** A page with a form or a question open stays until that is closed. */
+    /** A page with an open form or message box is removed only after that is closed. */
     void remove(int index);
     /** Removes the page of that class, if there is one. */
     void removeClass(const QString& className);
     void removeReport(const QWidget* report);
-    /** At once, and not only when the program comes to rest: their records may be about to go. */
+    /**
+     * Deletes the pages at once, not with deleteLater(), since their records may be deleted next. Busy pages are
+     * removed as soon as they are free.
+     */
     void removeAll();
-    /** Makes every page anew in the language in use; what stands in its boxes stays. */
+    /** Creates every page again in the current language; inputs in its boxes are kept. */
     void retranslate();
-    /** Makes every page anew on the database in use; what stands in its boxes stays, and reports go. */
+    /** Creates every page again on the current database; inputs in its boxes are kept, reports are closed. */
     void makeAnew();
 
 signals:
-    /** A page has come or gone. */
+    /** A page was added or removed. */
     void changed();
 
 private:
     [[nodiscard]] KorTab* make(const QString& className);
-    /** Removes the page unless it is busy; then it goes when it is free. */
+    /** Removes the page; if it is busy, as soon as it is free. */
     void removePage(QWidget* page);
     void takeOut(QWidget* page);
     void makePagesAnew();

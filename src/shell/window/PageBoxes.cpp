@@ -8,7 +8,7 @@
 
 namespace
 {
-/** The property that holds what was typed or chosen; a choice is a place in the list, for its words change. */
+/** The property with the input. For a combo box it is the index, since texts change with the language. */
 const char* valueProperty(const QWidget* box)
 {
     if (qobject_cast<const QComboBox*>(box))
@@ -24,7 +24,7 @@ const char* valueProperty(const QWidget* box)
     return nullptr;
 }
 
-/** The page's own boxes, without the parts that Qt makes others of. */
+/** The page's own boxes, without the internal child widgets of other boxes. */
 template <class Visit>
 void visitBoxes(const QWidget& page, Visit visit)
 {

@@ -6,13 +6,13 @@
 
 class QWidget;
 
-/** What a person has put into the boxes of a page, by the boxes' names, so that its successor can show the same. */
+/** The inputs in the boxes of a page by object name, to copy them to a new page of the same class. */
 class PageBoxes
 {
 public:
     explicit PageBoxes(const QWidget& page);
 
-    /** Puts the values into the page's boxes of the same names; true when one of them was another there. */
+    /** Sets the values in the boxes of the same name; true if one of them changed. */
     bool putInto(QWidget& page) const;
 
 private:

@@ -69,8 +69,7 @@ Page page(const char* topic = "", MenuEntry entry = {})
 
 const QList<Page>& allPages()
 {
-    // One page a line, whatever the others are called.
-    // clang-format off
+    // One page per line.
     static const QList<Page> pages{
         page<TabAgent>(),
         page<TabAllKomisiAgen>("owner.html#cash"),

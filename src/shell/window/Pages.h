@@ -6,10 +6,10 @@
 class KorDialog;
 class KorTab;
 
-/** A line in a menu of the main window, for a page that MainWindow.ui has none for. */
+/** A menu entry of the main window for a page that has none in MainWindow.ui. */
 struct MenuEntry
 {
-    /** The object name of the menu; null for a page without a line. */
+    /** The object name of the menu; null for no entry. */
     const char* menu = nullptr;
     /** Marked with QT_TRANSLATE_NOOP("Pages", ...). */
     const char* text = nullptr;
@@ -21,16 +21,16 @@ struct MenuEntry
 struct Page
 {
     QString className;
-    /** The place in the manual that tells about the page and its form; empty for the beginning of the owner's part. */
+    /** The manual's topic for the page and its form; empty: the start of the owner's chapter. */
     QString topic;
     MenuEntry entry;
     KorTab* (*make)();
-    // Of a family's list; empty and null for other pages.
+    // Only for list pages with a form; empty or null for other pages.
     QString formName;
     KorDialog* (*makeForm)();
     const QMetaObject* service;
 };
 
 [[nodiscard]] const QList<Page>& allPages();
-/** Null for a class that no page has. */
+/** Null if there is no page of this class. */
 [[nodiscard]] const Page* findPage(const QString& className);

@@ -23,7 +23,7 @@ void QtCategoryButton::setTitle(const QString& title)
 
 void QtCategoryButton::ButtonPressed()
 {
-    // The collapse comes first, so that a category is never closed by its own button.
+    // Collapsing all first means that the button always opens its own category.
     m_tree->collapseAll();
     m_item->setExpanded(!m_item->isExpanded());
 }

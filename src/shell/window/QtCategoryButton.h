@@ -5,7 +5,7 @@
 class QTreeWidget;
 class QTreeWidgetItem;
 
-/** A category of the sidebar: pressing it leaves exactly this category open. */
+/** A category of the sidebar. Pressing it opens this category and closes the others. */
 class QtCategoryButton final : public QPushButton
 {
     Q_OBJECT
@@ -13,7 +13,7 @@ class QtCategoryButton final : public QPushButton
 public:
     QtCategoryButton(const QString& text, QTreeWidget* tree, QTreeWidgetItem* item, const QIcon& icon);
 
-    /** The menu's title; its marked letter belongs to the menu alone. */
+    /** The menu's title. The mnemonic stays with the menu. */
     void setTitle(const QString& title);
 
 private slots:

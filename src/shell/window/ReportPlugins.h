@@ -9,17 +9,17 @@ class KorPluginTabInterface;
 class ReportPlugins
 {
 public:
-    /** The folder "plugins" beside the program, or one up where the program stands in "debug" or "release". */
+    /** The folder "plugins" beside the program, or in the parent folder if the program is in "debug" or "release". */
     [[nodiscard]] static QDir folder(QDir applicationFolder);
 
-    /** Loads what the folder holds; true always, for a program without reports still sells. */
+    /** Loads the plug-ins of the folder. Always true: the program also works without reports. */
     bool load(const QDir& pluginFolder);
-    /** Null until a plug-in has answered to the interface; the loader owns it, for the rest of the run. */
+    /** The plug-in that implements the interface, or null. The plug-in loader owns it until the program ends. */
     [[nodiscard]] KorPluginTabInterface* plugin() const { return m_plugin; }
-    /** Why files could not be loaded, one text a file. */
+    /** Why files could not be loaded, one text per file. */
     [[nodiscard]] const QStringList& errors() const { return m_errors; }
 
-    /** Tells the plug-in the connection and the formats in use; load() does it too. */
+    /** Passes the current connection and formats to the plug-in; load() does it too. */
     void handOverSettings() const;
 
 private:

@@ -1,4 +1,4 @@
 #pragma once
 
-/** The exit status of a deliberate end after a change of the database; whoever started the program starts it again. */
+/** The exit status after a change of the database, which asks the caller to start the program again. */
 inline constexpr int restartStatus = -123456789;

@@ -11,7 +11,7 @@
 
 namespace
 {
-/** The menu's entries; one that opens a sub-menu is replaced by what stands in there. */
+/** The menu's entries; a sub-menu is replaced by its entries. */
 QList<QAction*> entriesOf(const QMenu* menu)
 {
     QList<QAction*> entries;

@@ -9,7 +9,7 @@ class QtCategoryButton;
 class QTreeWidget;
 class SidebarModel;
 
-/** Fills the main window's tree with the menus, one category each, so that the two cannot differ. */
+/** Fills the main window's tree from the menus, one category per menu, so that both always match. */
 class Sidebar final : public QObject
 {
     Q_OBJECT
@@ -18,7 +18,7 @@ public:
     explicit Sidebar(QTreeWidget* tree);
 
     void addMenu(QMenu* menu, const QString& icon);
-    /** Follows the menus' texts after the language has changed. */
+    /** Updates the texts after a change of the language. */
     void retranslate();
 
 private:

@@ -14,7 +14,7 @@ public:
     using QAbstractTableModel::QAbstractTableModel;
 
     void addAction(const QString& text, QAction* action);
-    /** Takes the actions' texts again, after the language has changed. */
+    /** Updates the texts after a change of the language. */
     void retranslate();
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = QModelIndex()) const override;
@@ -24,7 +24,7 @@ public:
                                       int role = Qt::DisplayRole) const override;
 
 public slots:
-    /** Does exactly what the menu does. */
+    /** Triggers the action of the row. */
     void onSideBarItemClicked(const QModelIndex& index);
 
 private:

@@ -22,7 +22,7 @@ SlipStatus::SlipStatus(QWidget* parent) : QToolButton(parent)
     setAutoRaise(true);
     setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     setFocusPolicy(Qt::NoFocus);
-    // The bar reckons with its height even while it is hidden: the pages shall not shrink for it.
+    // Fixed height: the status bar keeps this space even while it is hidden, so pages do not change their size.
     constexpr int margins = 4;
     setFixedHeight(fontMetrics().height() + margins);
     const auto* queue = SlipQueue::instance();
@@ -39,7 +39,7 @@ SlipStatus::SlipStatus(QWidget* parent) : QToolButton(parent)
 
 void SlipStatus::noteFailure(const KeptSlip& slip)
 {
-    // Without a printer every slip would tell the same.
+    // Without a printer every slip would give the same message.
     if (slip.state == KeptSlip::Unsent && !m_failures.isEmpty() && m_failures.last().state == KeptSlip::Unsent)
         return;
     m_failures.append(slip);

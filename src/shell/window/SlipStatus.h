@@ -6,8 +6,8 @@
 #include <QToolButton>
 
 /**
- * What the status bar tells of slips: which printers they wait for, and what was not printed although the till went on.
- * A failure stays until somebody presses it. Hidden where there is nothing to tell.
+ * Shows in the status bar which printers slips are waiting for, and which slips failed to print. A failure stays until
+ * the user clicks it. Hidden if there is nothing to show.
  */
 class SlipStatus final : public QToolButton
 {
@@ -19,7 +19,7 @@ public:
     void retranslate() { refresh(); }
 
 signals:
-    /** The failures have been seen; the list of slips is wanted. */
+    /** The user has seen the failures and wants the list of slips. */
     void listWanted();
 
 private:

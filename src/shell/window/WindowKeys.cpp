@@ -10,7 +10,7 @@ WindowKeys::WindowKeys(QMenuBar* menus, QTabWidget* pages) : QObject(pages), m_p
         for (const QKeySequence& key : keys)
             connect(new QShortcut(key, pages->window()), &QShortcut::activated, pages, action);
     };
-    // Shortcuts rather than the tab widget's own keys: the dashboard's page would keep those to itself.
+    // Shortcuts instead of the tab widget's own keys, which the dashboard's web view would consume.
     bind({{"Ctrl+Tab"}, {"Ctrl+PgDown"}}, [this] { turn(1); });
     bind({{"Ctrl+Shift+Tab"}, {"Ctrl+PgUp"}}, [this] { turn(-1); });
     bind({{"Ctrl+W"}, {"Ctrl+F4"}}, [pages] {

@@ -5,7 +5,7 @@
 class QMenuBar;
 class QTabWidget;
 
-/** The keys of the window as a whole: from page to page, closing a page, and into the menus. */
+/** The shortcuts of the main window: switch pages, close a page, go to the menus. */
 class WindowKeys final : public QObject
 {
     Q_OBJECT

@@ -27,7 +27,7 @@
 
 namespace
 {
-/** These attributes hold only when they are set before the application object exists. */
+/** Sets attributes that must be set before the application object exists. */
 int& sharpOnDenseScreens(int& argc)
 {
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
@@ -42,7 +42,7 @@ ZavelApplication::ZavelApplication(int& argc, char** argv)
     HouseStyle::apply(*this);
     KorTextGuard::watch();
     KorWaitingSign::watch();
-    // For the messages that stand alone before the first window.
+    // For message boxes that are shown before the first window.
     setWindowIcon(QIcon(":/icons/Beverage-Coffee-02.png"));
     m_dataDir.mkpath(".");
     KorViewMemory::setFile(m_dataDir.filePath("view.ini"));
@@ -135,7 +135,7 @@ int ZavelApplication::run()
     DialogLogin login;
     if (login.exec() == QDialog::Rejected)
         return 0;
-    // The login may have stood there all night.
+    // The login dialog may have been open for hours, and the database updated meanwhile.
     if (const DatabaseVersion version = DatabaseVersion::read(); version.isNewerThan(DatabaseVersion::ofProgram())) {
         QMessageBox::critical(nullptr, tr("Error"), version.tooNew());
         return 0;
@@ -151,9 +151,9 @@ int ZavelApplication::run()
     window.show();
     processEvents();
     splash.finish(&window);
-    // Behind the window, whose status bar tells of them.
+    // After the window exists, since its status bar shows them.
     SlipQueue::instance()->takeOver();
-    // The converter is needed once in a restaurant's life, and stands in no menu.
+    // The converter is needed only once, so it has no menu entry.
     if (arguments().contains("--converter"))
         QTimer::singleShot(0, &window, &MainWindow::on_actionConverter_triggered);
     return exec();

@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <QDir>
 
-/** The program's entry: its data folder, log, settings and connection, and the order of the first windows. */
+/** The application: data folder, log, settings, connection, and the sequence of the first windows. */
 class ZavelApplication final : public QApplication
 {
     Q_OBJECT
@@ -11,15 +11,15 @@ class ZavelApplication final : public QApplication
 public:
     ZavelApplication(int& argc, char** argv);
 
-    /** A folder or anything else of that name is no settings file. */
+    /** True only for a regular file. */
     [[nodiscard]] bool hasSettingsFile();
-    /** Opens the database that the settings name and reads the shared formats; the user is told what fails. */
+    /** Opens the database of the settings and reads the shared formats; errors are shown to the user. */
     [[nodiscard]] bool openDatabase();
-    /** Whether the open database is installed and whole; the user is told what is missing. */
+    /** True if the open database is completely installed; otherwise the user sees what is missing. */
     [[nodiscard]] static bool checkDatabase();
-    /** Opens the database again after the settings were changed, and tells of success. */
+    /** Reconnects after a change of the settings and shows a message on success. */
     void reconnect();
-    /** The first windows in their order, then the event loop; the result is the process's exit status. */
+    /** Shows the first windows, then runs the event loop; returns the exit status. */
     int run();
 
 private:

@@ -19,7 +19,7 @@ DialogBackupDB::DialogBackupDB(QWidget* parent) : ToolDialog(parent), m_ui(std::
     m_ui->setupUi(this);
     m_ui->tabWidget->setCurrentIndex(0);
     m_backup = addRun(m_ui->txtBackupStatus, {m_ui->btnBackup, m_ui->btnBrowse});
-    // The restore's buttons stay locked from the first look at the database to the end of pg_restore.
+    // m_import locks the restore's buttons from the first check of the database to the end of pg_restore.
     m_createDB = addRun(m_ui->txtRestoreStatus, {});
     m_import = addRun(m_ui->txtRestoreStatus, {m_ui->btnRestore, m_ui->btnBrowseImport, m_ui->btnSetActiveDB});
     m_vacuum = addRun(m_ui->txtVacuumStatus, {m_ui->btnVacuum, m_ui->btnReindex});
@@ -27,7 +27,7 @@ DialogBackupDB::DialogBackupDB(QWidget* parent) : ToolDialog(parent), m_ui(std::
     const ConnectionSettings settings = ConnectionSettings::read(ConnectionSettings::defaultPath());
     for (const ConnectionEdits& edits : {backupEdits(), restoreEdits(), maintenanceEdits()})
         edits.show(settings);
-    // The Return key does what the tab is for.
+    // Return presses the main button of the current tab.
     connect(m_ui->tabWidget, &QTabWidget::currentChanged, this, [this](int tab) {
         QPushButton* const actions[] = {m_ui->btnBackup, m_ui->btnRestore, m_ui->btnVacuum};
         actions[tab]->setDefault(true);
@@ -38,7 +38,7 @@ DialogBackupDB::DialogBackupDB(QWidget* parent) : ToolDialog(parent), m_ui(std::
 
 DialogBackupDB::~DialogBackupDB()
 {
-    // Before the files and the boxes that the programs work with.
+    // Stop the programs before their files and boxes are deleted.
     stop();
 }
 
@@ -166,7 +166,7 @@ void DialogBackupDB::on_btnRestore_clicked()
     if (!whole.isEmpty())
         return showInfo(tr("The backup %1 was cut off while it was written. The one before it is %2: please take that.")
                             .arg(m_source, whole));
-    // A database that can not be looked into is none yet, or pg_restore says why.
+    // If the query fails, the database does not exist yet, or pg_restore will report the reason.
     m_import->look(ClientPrograms::query(m_target, RestoreQuestion::countingTables()),
                    [this](bool, const QString& answer) { restoreUnlessInUse(answer.trimmed().toInt()); });
 }
@@ -186,7 +186,7 @@ void DialogBackupDB::restoreUnlessInUse(int tables)
         m_import->end();
         return;
     }
-    // Nothing makes way for a file that is no backup.
+    // Check the file first: do not rename the database for a file that is not a backup.
     m_import->look(ClientPrograms::contents(m_source), [this, aside](bool readable, const QString&) {
         if (readable)
             setAside(aside);
@@ -262,7 +262,7 @@ void DialogBackupDB::processCreateDBExited(int exitCode, QProcess::ExitStatus ex
     m_createDB->end();
     if (!m_created && !m_aside.isEmpty())
         return putBack();
-    // It comes to its own end, and tells of it, where there is no database to restore into.
+    // If there is no database to restore into, pg_restore fails and reports it.
     startRestore();
 }
 
@@ -305,7 +305,7 @@ void DialogBackupDB::processImportExited(int exitCode, QProcess::ExitStatus exit
 void DialogBackupDB::on_btnSetActiveDB_clicked()
 {
     const QString path = ConnectionSettings::defaultPath();
-    // What else the file holds stays.
+    // Keeps the other settings of the file.
     const ConnectionSettings settings = restoreEdits().read(ConnectionSettings::read(path));
     if (settings.database.isEmpty())
         return showInfo(tr("Please enter the database name"));

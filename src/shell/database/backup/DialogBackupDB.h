@@ -19,8 +19,8 @@ class DialogBackupDB;
 }
 
 /**
- * Where the owner backs the database up and gets it back, tidies it, and makes the program work with another one.
- * PostgreSQL's own programs do the work; each tab has one at work at a time and tells of it in its status box.
+ * Backs up and restores the database, runs its maintenance, and changes to another database. PostgreSQL's client
+ * programs do the work; each tab runs one at a time and shows its output in its status box.
  */
 class DialogBackupDB final : public ToolDialog
 {
@@ -31,7 +31,7 @@ public:
     ~DialogBackupDB() override;
 
 signals:
-    /** "settings.ini" names another database now. */
+    /** The database in "settings.ini" has changed. */
     void onUpdateDBConf();
 
 private slots:
@@ -68,19 +68,19 @@ private:
     [[nodiscard]] ConnectionEdits backupEdits() const;
     [[nodiscard]] ConnectionEdits restoreEdits() const;
     [[nodiscard]] ConnectionEdits maintenanceEdits() const;
-    /** Goes on with the restore; a database that holds tables makes way for it, or the person steps back. */
+    /** Continues the restore. If the target database has tables, asks first and then renames it. */
     void restoreUnlessInUse(int tables);
     void setAside(const QString& aside);
-    /** Without a new database, the one that made way for it comes back. */
+    /** The new database could not be created: renames the former one back. */
     void putBack();
     void rename(const QString& database, const QString& name, std::function<void(bool, const QString&)> answer);
-    /** Ends the restore before it began. */
+    /** Ends the restore before it changes anything, and shows the reason. */
     void refuse(const QString& reason);
     void createDatabase();
     void startRestore();
     void maintain(const ClientCommand& command, const QString& doing);
     void sayExit(ToolRun* run, int exitCode, QProcess::ExitStatus exitStatus);
-    /** The box that stands for the end of every run, and behind it what really happened where it went wrong. */
+    /** Shows the message box at the end of a run, and on failure a second one with the verdict. */
     void conclude(ToolRun* run, const QString& boxText, bool succeeded, const QString& verdict);
 
     std::unique_ptr<Ui::DialogBackupDB> m_ui;
@@ -89,10 +89,10 @@ private:
     ToolRun* m_import;
     ToolRun* m_vacuum;
     std::unique_ptr<BackupFile> m_file;
-    // What the restore at work was started with.
+    // The parameters of the current restore.
     ConnectionSettings m_target;
     QString m_source;
     bool m_created = false;
-    /** The name that the former database is kept under; empty where there was none. */
+    /** The new name of the former database; empty if there was none. */
     QString m_aside;
 };

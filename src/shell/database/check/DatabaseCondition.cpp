@@ -25,7 +25,7 @@ namespace
 struct WantedTable
 {
     const KorDataMapper* mapper;
-    /** The one that it came with; lines come with their document at the earliest. */
+    /** The version that added the table. A line table is at least as new as its document's. */
     double version;
 };
 
@@ -79,7 +79,7 @@ bool DatabaseCondition::willGrow(const KorDataMapper& mapper) const
 QString DatabaseCondition::updateFirst() const
 {
     const QList<KorDataMapper*>& mappers = AppMapperRegistry::instance()->all();
-    // Users, their groups and rights, the settings.
+    // The tables of users, groups, permissions and settings, which the login reads.
     if (std::none_of(mappers.begin(), mappers.end(), [this](const KorDataMapper* mapper) { return willGrow(*mapper); }))
         return {};
     return tr("The database has to be updated to version %1 before anybody can log in. Close the program on the other "
@@ -90,7 +90,7 @@ QString DatabaseCondition::updateFirst() const
 
 QStringList DatabaseCondition::referencesOf(const KorDataMapper& mapper) const
 {
-    // No update brings these to databases of the first version.
+    // No update adds these to databases of the first version.
     static const QSet<QString> later{"acquisition.po_id", "acquisition_detail.po_detail_id",
                                      "purchase_order_detail.purchase_order_id"};
     QSet<QString> columns;
@@ -144,7 +144,7 @@ void DatabaseCondition::readTables()
                 m_missingReferences.append(wanted);
         }
     }
-    // Some mappers read over the table of another.
+    // Several mappers may use the same table.
     for (QStringList* names : {&m_missingTables, &m_tablesWithoutKey, &m_missingReferences})
         names->removeDuplicates();
 }

@@ -8,9 +8,9 @@
 class KorDataMapper;
 
 /**
- * What the open database has of what the program needs. An installation, an update or a restore that was cut short is
- * known by what it had not come to: tables, their primary keys, their references, the rights of the services.
- * A database that a newer program has updated is known by its version.
+ * Compares the open database with what the program needs. An interrupted installation, update or restore leaves
+ * something missing: tables, primary keys, foreign keys, or the permissions of services. A database updated by a newer
+ * program is recognized by its version.
  */
 class DatabaseCondition
 {
@@ -18,41 +18,40 @@ class DatabaseCondition
 
 public:
     /**
-     * Reads the tables, and the rights too where the version that the database bears is the program's own: an older
-     * one is offered an update anyway, and does not miss what that will bring. Two statements; one that fails finds
-     * nothing wrong. Without a version everything is missed that a new database has, but no rights.
+     * Reads the tables; also the permissions if the database has the program's version. For an older database, nothing
+     * is missing that the update will add. With an empty version, all tables are required, but permissions are not
+     * read. Uses two statements; if one fails, nothing counts as missing.
      */
     [[nodiscard]] static DatabaseCondition read(const QString& version = {});
-    /** The same with the version that the open database bears. */
+    /** The same with the version stored in the open database. */
     [[nodiscard]] static DatabaseCondition readWithVersion();
 
-    /** Any table that a fresh installation would make anew; also where that could not be found out. */
+    /** True if there is a table that a new installation would replace, or if this could not be read. */
     [[nodiscard]] bool hasTables() const { return m_hasTables; }
     [[nodiscard]] bool isWhole() const;
-    /** False where working with it would fail or do harm. */
+    /** False if working with this database would fail or damage data. */
     [[nodiscard]] bool isUsable() const;
-    /** What is missing, how that comes about and what to do, for the owner; empty where it is whole or has no tables.
-     */
+    /** For the owner: what is missing, why, and what to do. Empty if the database is complete or has no tables. */
     [[nodiscard]] QString explanation() const;
 
     /**
-     * What to tell where the update that is due has to come before the login, which reads tables that it changes;
-     * empty elsewhere.
+     * The message if the update must run before the login, because it changes tables that the login reads; otherwise
+     * empty.
      */
     [[nodiscard]] QString updateFirst() const;
 
 private:
     explicit DatabaseCondition(const QString& version) : m_version(version) {}
     void readTables();
-    /** The references that the table of a mapper has to have in a database of this version. */
+    /** The foreign keys that the mapper's table must have in a database of this version. */
     [[nodiscard]] QStringList referencesOf(const KorDataMapper& mapper) const;
     [[nodiscard]] bool isTooNew() const { return m_version.isNewerThan(DatabaseVersion::ofProgram()); }
-    /** Whether the update that is due changes the mapper's table. */
+    /** True if the pending update adds columns to the mapper's table. */
     [[nodiscard]] bool willGrow(const KorDataMapper& mapper) const;
-    /** Whether it came with a version that the database is yet to be updated to. */
+    /** True if this version is newer than that of a database to be updated. */
     [[nodiscard]] bool isLater(double version) const;
     void readRights();
-    /** A few of the names: enough to search for, not so many that nobody reads them. */
+    /** The first names and the number of the others, to keep the message short. */
     [[nodiscard]] static QString some(const QStringList& names);
     [[nodiscard]] static QString restoreAgain();
 

@@ -4,7 +4,7 @@
 
 class QWidget;
 
-/** Asks before the tables of the open database are made anew. */
+/** Asks before an installation replaces the tables of the open database. */
 class ReplaceQuestion
 {
     Q_DECLARE_TR_FUNCTIONS(ReplaceQuestion)
@@ -13,6 +13,6 @@ public:
     enum Answer { Replace, Leave, UseAsItIs };
     enum Offer { ReplaceOnly, UseToo };
 
-    /** Replace without a question where there are no tables; use is offered only of a database that can be used. */
+    /** Returns Replace without asking if there are no tables. UseAsItIs is offered only if the database is usable. */
     [[nodiscard]] static Answer ask(QWidget* parent, Offer offer = ReplaceOnly);
 };

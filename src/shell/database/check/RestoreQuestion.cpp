@@ -11,7 +11,7 @@ QString RestoreQuestion::countingTables()
 
 QString RestoreQuestion::asideName(const QString& database)
 {
-    // The server cuts longer names off without a word.
+    // The server truncates longer names silently.
     constexpr int longest = 63;
     const QString time = QDateTime::currentDateTime().toString(" yyyy-MM-dd hh.mm.ss");
     QString name = database;

@@ -6,8 +6,8 @@
 #include <QRandomGenerator>
 #include <QVariant>
 
-// An advisory lock lives in one database of one server: who is refused it stands before the same one, whatever the
-// host is called there.
+// An advisory lock belongs to one database of one server. If a second connection cannot get it, both use the same
+// database, even under different host names.
 
 ClearingGuard::~ClearingGuard()
 {
@@ -33,7 +33,8 @@ QString ClearingGuard::question() const { return QString("SELECT pg_try_advisory
 
 bool ClearingGuard::findChanges(QStringList* tables) const
 {
-    // With a number of its own, a transaction tells the age of rows from there: the same one all the time.
+    // age(xmin) counts from the transaction's own id; txid_current() assigns one, so that all queries count from the
+    // same id.
     KorTransaction reading;
     KorQuery query;
     if (!query.exec("SELECT txid_current()") || !query.next())

@@ -3,8 +3,8 @@
 #include <QStringList>
 
 /**
- * Sees to it that what is cleared is what was backed up: the database that the program works with, as it was when the
- * backup began.
+ * Makes sure that the backup is of the program's own database, and that nothing changed since the backup began.
+ * Otherwise clearing would lose data.
  */
 class ClearingGuard final
 {
@@ -13,11 +13,13 @@ public:
     ~ClearingGuard();
     Q_DISABLE_COPY(ClearingGuard)
 
-    /** Puts a mark on the program's database, and remembers what it holds. False without a connection. */
+    /**
+     * Takes an advisory lock in the program's database and stores a transaction snapshot. False without a connection.
+     */
     [[nodiscard]] bool begin();
-    /** Asked over the connection of the backup, it is answered by "f" in the program's own database alone. */
+    /** A query for the backup's connection: it returns "f" only in the program's own database. */
     [[nodiscard]] QString question() const;
-    /** The tables that somebody has written to since; false when that could not be found out. */
+    /** Returns the tables with changes since begin(); false if this could not be read. */
     [[nodiscard]] bool findChanges(QStringList* tables) const;
 
 private:

@@ -38,7 +38,7 @@ DialogClearTransactions::DialogClearTransactions(QWidget* parent)
 
 DialogClearTransactions::~DialogClearTransactions()
 {
-    // Before the file and the box that the program works with.
+    // Stop the program before its file and box are deleted.
     stop();
 }
 
@@ -72,7 +72,7 @@ void DialogClearTransactions::compared(bool answered, const QString& answer)
     if (answered && answer == "t")
         return giveUp(tr("The connection above leads to another database than the one that this program works with. "
                          "Nothing was backed up, and nothing was cleared."));
-    // Where nothing could be asked, pg_dump tells the reason.
+    // If the query failed, pg_dump will report the reason.
     m_sameDatabase = answered && answer == "f";
     m_run->start(ClientPrograms::backup(m_connection, m_file->path()), tr("dumping your db..."));
 }
@@ -130,7 +130,7 @@ void DialogClearTransactions::giveUp(const QString& reason)
 void DialogClearTransactions::resetTransactions()
 {
     KorQuery query;
-    // A till that holds a table must not hold this window up for good.
+    // Another workstation's lock on a table must not block this window forever.
     query.exec("SET lock_timeout = '3s'");
     const int failures = clearServices();
     query.exec("RESET lock_timeout");

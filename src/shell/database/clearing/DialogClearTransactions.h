@@ -17,7 +17,7 @@ namespace Ui
 class DialogClearTransactions;
 }
 
-/** Where the owner empties all transactions for a new year. A backup is made first, and without a good one it ends. */
+/** Deletes all transactions, for example for a new year. It makes a backup first and stops if that fails. */
 class DialogClearTransactions final : public ToolDialog
 {
     Q_OBJECT
@@ -27,7 +27,7 @@ public:
     ~DialogClearTransactions() override;
 
 signals:
-    /** What open pages show is gone. */
+    /** The data of the open pages was deleted. */
     void onCloseAllTab();
 
 private slots:
@@ -40,9 +40,9 @@ private slots:
     void processReadyRead();
 
 private:
-    /** Of the backup's connection and the program's: whether they lead to one database. */
+    /** Gets the result of ClearingGuard::question(): whether backup and program use the same database. */
     void compared(bool answered, const QString& answer);
-    /** The last look before the deed: the backup can be read, and nobody has saved anything since it began. */
+    /** The last check before clearing: the backup is readable and nothing was saved since it began. */
     void clearIfSafe(bool readable);
     void giveUp(const QString& reason);
     void resetTransactions();

@@ -25,7 +25,7 @@
 
 namespace
 {
-/** How many letters the column holds, 0 for any number. */
+/** The maximum length of the column; 0 for no limit. */
 int widthOf(const KorColumnMap& column)
 {
     static const QRegularExpression varchar("varchar\\((\\d+)\\)");
@@ -36,7 +36,7 @@ QString cut(const QString& text, int width)
 {
     if (width == 0 || text.size() <= width)
         return text;
-    // Not between the halves of one letter.
+    // Do not cut a surrogate pair.
     return text.left(text.at(width - 1).isHighSurrogate() ? width - 1 : width).trimmed();
 }
 
@@ -121,7 +121,7 @@ void Conversion::fit(KorEntity& entity, const KorBusinessLogic& service)
 bool Conversion::write(KorBusinessLogic& service, KorEntity& entity, const QString& key,
                        const std::function<bool()>& write)
 {
-    // A look-up that failed is not a record that is missing: written all the same, it might stand twice.
+    // A look-up error does not mean that the record is missing: writing it now could create a duplicate.
     QString reason = takeErrors();
     if (m_tooLarge)
         reason = tr("an amount or a quantity is larger than the program can hold");
@@ -155,7 +155,7 @@ QString Conversion::takeErrors()
             errors += service->takeErrors();
     }
     errors = errors.simplified();
-    // A connection that was opened anew has not claimed the conversion: the former one was lost.
+    // A reopened connection does not hold the lock of the conversion: the former one was lost.
     if (!errors.isEmpty() && m_lost.isEmpty() && !ConversionMark::isClaimed())
         m_lost = errors;
     return errors;

@@ -13,14 +13,14 @@
 
 #include <functional>
 
-/** Records by their codes, whatever the letters' case; each is asked for once. */
+/** Finds records by code, ignoring case, and caches them. */
 template <class Entity>
 class CodeBook
 {
 public:
     explicit CodeBook(AppMasterService<Entity>* service) : m_service(service) {}
 
-    /** Null where there is none. A code that is too long for its column is known by its beginning. */
+    /** Null if there is none. A code that is too long for its column is cut first. */
     [[nodiscard]] Entity* find(const QString& code);
 
 private:
@@ -29,7 +29,7 @@ private:
     QHash<QString, Entity*> m_known;
 };
 
-/** One conversion under way: what its steps read from, write to and count in. Lives on the worker's thread. */
+/** The state of one conversion: services, source and counts. Used only on the worker's thread. */
 class Conversion
 {
     Q_DECLARE_TR_FUNCTIONS(Conversion)
@@ -39,7 +39,7 @@ public:
 
     [[nodiscard]] const ConversionServices& services() const { return m_services; }
     [[nodiscard]] LegacySource& source() { return m_source; }
-    /** A former run was broken off: its last document may lack what follows from a save. */
+    /** A former run was interrupted; the stock and due entries of its last document may be missing. */
     [[nodiscard]] bool isResumed() const { return m_resumed; }
     static void log(const QString& line);
 
@@ -55,26 +55,27 @@ public:
     [[nodiscard]] ConversionCount& lines() { return m_counts[m_rows + 1]; }
     [[nodiscard]] const QList<ConversionCount>& counts() const { return m_counts; }
 
-    // What the row in hand comes to. Whatever had to give way is told with the row, once it is written.
-    /** Whole units of the house's currency, rounded half up. */
+    // Convert values of the current row. Values that had to be changed are reported with the row once it is written.
+    /** The amount rounded half up to whole units of the local currency. */
     [[nodiscard]] Money* money(double amount);
     [[nodiscard]] int whole(double number);
+    /** Notes a change of the current row's values for the report. */
     void mend(const QString& what);
-    /** The text as its column can hold it. */
+    /** The text, cut to the width of its column. */
     [[nodiscard]] static QString fitted(const QString& text, const KorBusinessLogic& service, const QString& property);
-    /** Cuts the record's texts to the widths of their columns. */
+    /** Cuts the record's texts to the width of their columns. */
     void fit(KorEntity& entity, const KorBusinessLogic& service);
-    /** Writes and counts it; a record that the database refuses is skipped with the database's words. */
+    /** Writes and counts the record; if the database refuses it, it is skipped with the database's error. */
     bool write(KorBusinessLogic& service, KorEntity& entity, const QString& key, const std::function<bool()>& write);
     bool save(KorBusinessLogic& service, KorEntity& entity, const QString& key)
     {
         return write(service, entity, key, [&] { return service.insert(&entity); });
     }
-    /** Notices failures that nobody has asked for, as those of a look-up. */
+    /** Checks for errors that no write has taken, such as those of a look-up. */
     void endRow() { takeErrors(); }
     void skip(const QString& key, const QString& reason) { rows().skip(key, reason); }
 
-    /** Why nothing can be written any more; empty while something can. */
+    /** The error after which nothing can be written any more; empty while the connection works. */
     [[nodiscard]] const QString& lost() const { return m_lost; }
 
 private:

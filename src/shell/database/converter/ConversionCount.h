@@ -5,7 +5,7 @@
 #include <QPair>
 #include <QStringList>
 
-/** What became of the rows of one table: how many were read, written and skipped, and for which rows why. */
+/** Counts the rows of one table: read, written and skipped, with the reasons. */
 class ConversionCount
 {
     Q_DECLARE_TR_FUNCTIONS(ConversionCount)
@@ -16,14 +16,13 @@ public:
     void countRead() { ++m_read; }
     void countWritten() { ++m_written; }
     void skip(const QString& key, const QString& reason);
-    /** The row was written, but not as it stood. */
+    /** The row was written with changed values. */
     void mend(const QString& key, const QString& what) { add(m_mended, what, key); }
     void fail(const QString& reason) { m_failure = reason; }
 
     [[nodiscard]] int read() const { return m_read; }
     [[nodiscard]] const QString& failure() const { return m_failure; }
-    /** The figures, then a line for each reason with the rows that it was true of; at most so many of them, 0 for all.
-     */
+    /** The counts, then one line per reason with the keys of its rows; at most keysShown keys, 0 for all. */
     [[nodiscard]] QStringList report(int keysShown) const;
 
 private:

@@ -50,7 +50,7 @@ QString ConversionMark::explanation() const
 {
     const KorErrorScope errors(m_configuration);
     const QString value = m_configuration->getValue(rowKey);
-    // Somebody who has claimed is at it.
+    // If another connection has the lock, its conversion is still running.
     if (value.isEmpty() || !claim())
         return {};
     isTrue("select pg_advisory_unlock(hashtext('conversion'))");

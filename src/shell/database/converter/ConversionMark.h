@@ -6,8 +6,8 @@
 class BusinessConfiguration;
 
 /**
- * The row of the shared settings that stands as long as a conversion has not come to its end: whoever finds it while no
- * conversion runs knows that one was broken off.
+ * A row in the shared settings that exists until a conversion is complete. If it exists while no conversion runs, one
+ * was interrupted.
  */
 class ConversionMark
 {
@@ -16,16 +16,16 @@ class ConversionMark
 public:
     explicit ConversionMark(BusinessConfiguration* configuration) : m_configuration(configuration) {}
 
-    /** Keeps every other conversion of this database away until the connection ends. */
+    /** Takes a lock against other conversions of this database; it is held until the connection ends. */
     [[nodiscard]] static bool claim();
-    /** Whether the connection that has claimed still stands. */
+    /** True if the current connection still holds the lock of claim(). */
     [[nodiscard]] static bool isClaimed();
 
     [[nodiscard]] bool isSet() const;
-    /** Leaves a mark that stands already as it is. */
+    /** Does nothing if the mark is already set. */
     bool set(const QString& source);
     bool remove();
-    /** What a person should know of a conversion that was broken off; empty where none was. */
+    /** The message about an interrupted conversion; empty if there is none. */
     [[nodiscard]] QString explanation() const;
 
 private:

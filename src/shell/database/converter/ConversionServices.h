@@ -16,8 +16,8 @@ class BusinessSupplier;
 class QObject;
 
 /**
- * Services of a conversion's own, with mappers of their own: the open screens use theirs meanwhile on another thread.
- * Purchases and payments keep the numbers that they bring.
+ * A separate set of services and mappers for a conversion: open pages use the others at the same time on another
+ * thread. Purchases and payments keep the numbers of the former system.
  */
 struct ConversionServices
 {
@@ -36,5 +36,5 @@ struct ConversionServices
     BusinessPayment* payments;
 };
 
-/** Children of the owner, and so on its thread. */
+/** The services are children of the owner and so live on its thread. */
 [[nodiscard]] ConversionServices makeConversionServices(QObject* owner);

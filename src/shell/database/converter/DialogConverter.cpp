@@ -73,7 +73,7 @@ void DialogConverter::on_btnConvert_clicked()
     connect(m_converter, &ZavelConverter::error, this, &DialogConverter::errorString);
     connect(m_converter, &ZavelConverter::finished, m_thread, &QThread::quit);
     connect(m_converter, &ZavelConverter::finished, m_converter, &QObject::deleteLater);
-    // With the thread the two connections have ended as well.
+    // When the thread has finished, both of its connections are closed.
     connect(m_thread, &QThread::finished, this, &DialogConverter::ended);
     connect(m_thread, &QThread::finished, m_thread, &QObject::deleteLater);
     setRunning(true);
@@ -107,7 +107,7 @@ void DialogConverter::done(int result)
                                            QMessageBox::Yes | QMessageBox::No, QMessageBox::No) != QMessageBox::Yes)
         return;
     m_closing = true;
-    // It may have ended while the question stood.
+    // The run may have ended while the message box was open.
     if (m_ui->btnConvert->isEnabled())
         QDialog::done(result);
     else if (m_converter)

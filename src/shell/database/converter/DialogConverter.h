@@ -15,17 +15,17 @@ namespace Ui
 class DialogConverter;
 }
 
-/** Asks for the database of the former system, and shows how its data are brought over. */
+/** Asks for the connection to the former system's database and shows the progress of the conversion. */
 class DialogConverter final : public QDialog
 {
     Q_OBJECT
 
 public:
     explicit DialogConverter(QWidget* parent = nullptr);
-    /** Stops a run and waits for its row in hand. */
+    /** Stops a run and waits until its current row is written. */
     ~DialogConverter() override;
 
-    /** Asks first while a run is under way, and closes when it has ended. */
+    /** During a run it asks first, then closes when the run has ended. */
     void done(int result) override;
 
 public slots:
@@ -36,7 +36,7 @@ private slots:
     void on_btnConvert_clicked();
 
 private:
-    /** The first thing that is missing, put into words. */
+    /** A message about the first missing input; empty if there is none. */
     [[nodiscard]] QString missing() const;
     void setRunning(bool running);
     void ended();

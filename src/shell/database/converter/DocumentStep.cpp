@@ -51,7 +51,7 @@ QDate DocumentStep::dateOr(const QDate& date, const QDate& other)
 
 bool DocumentStep::save(KorEntity& document, const QString& no, int lineCount)
 {
-    // Half of it must not pass for the whole.
+    // An incomplete document must not look complete.
     if (m_run.source().linesFailed()) {
         m_run.skip(no, tr("its lines could not be read"));
         return false;

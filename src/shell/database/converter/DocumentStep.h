@@ -4,7 +4,7 @@
 
 class PurchasingService;
 
-/** What taking over purchases and payments has in common: known by their numbers, with lines in a second table. */
+/** Base of the conversion of purchases and payments: documents with a unique number and lines in a second table. */
 class DocumentStep
 {
     Q_DECLARE_TR_FUNCTIONS(DocumentStep)
@@ -16,8 +16,8 @@ public:
 
     void convert(const LegacyRow& row);
     /**
-     * The last document of a run that was broken off may stand without its journal rows or its dues, which follow from
-     * a save: it is saved once more.
+     * Saves the last document of an interrupted run again, since its journal rows and dues, written after the save, may
+     * be missing.
      */
     void end();
 
@@ -31,7 +31,7 @@ protected:
     [[nodiscard]] Conversion& run() const { return m_run; }
     /** Counts a line; false for one that was deleted in the former system. */
     [[nodiscard]] bool takesLine(const LegacyRow& line, const QString& key);
-    /** The row's date; where it has none, the other one, and the row is marked. */
+    /** The row's date, or the other one if it has none; that is noted for the report. */
     [[nodiscard]] QDate dateOr(const QDate& date, const QDate& other);
     bool save(KorEntity& document, const QString& no, int lineCount);
 

@@ -14,7 +14,7 @@ LegacySource::~LegacySource()
 {
     m_lines.reset();
     m_database.close();
-    // No copy may be alive when the connection is taken out.
+    // removeDatabase() requires that no copy of the connection exists.
     m_database = QSqlDatabase();
     QSqlDatabase::removeDatabase(connectionName);
 }
@@ -49,7 +49,7 @@ bool LegacySource::read(const QString& statement, const std::function<bool(const
     m_linesFailed = false;
     m_failure.clear();
     QSqlQuery query(m_database);
-    // Documents and their lines as they stood at one moment, even while somebody still works on the former system.
+    // One snapshot for documents and lines, even if the former system is still in use.
     const bool done = run(query, "BEGIN ISOLATION LEVEL REPEATABLE READ") && fetch(statement, take);
     query.exec(done ? "COMMIT" : "ROLLBACK");
     m_lines.reset();

@@ -10,8 +10,8 @@
 #include <memory>
 
 /**
- * The database of the former system, which is only read, and a few hundred rows at a time. To be used on the thread
- * that opens it; the connection goes with it.
+ * The database of the former system, read-only; rows are fetched in batches. Use it only on the thread that opens it.
+ * The destructor closes the connection.
  */
 class LegacySource
 {
@@ -23,12 +23,12 @@ public:
     [[nodiscard]] bool open();
     /** False once the server has ended the connection. */
     [[nodiscard]] bool isOpen() const { return m_database.isOpen(); }
-    /** What the database said of the last statement that failed. */
+    /** The database's error text of the last failed statement. */
     [[nodiscard]] const QString& failure() const { return m_failure; }
 
-    /** Hands every row over until the function returns false; itself false where the rows could not be read. */
+    /** Calls the function for each row until it returns false. False if the rows could not be read. */
     [[nodiscard]] bool read(const QString& statement, const std::function<bool(const LegacyRow&)>& take);
-    /** The rows that belong to a key, within read(); a failure ends the reading. */
+    /** The rows of one key; call it only within read(). After an error, reading stops. */
     [[nodiscard]] QList<LegacyRow> lines(const QString& statement, const QVariant& key);
     [[nodiscard]] bool linesFailed() const { return m_linesFailed; }
 

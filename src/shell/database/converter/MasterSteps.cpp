@@ -37,7 +37,7 @@ double percent(Conversion& run, double number)
     return 0;
 }
 
-/** The name that a unit gets: no two may have the same, while codes tell them apart in the former system. */
+/** A unique name for the unit. In the former system only the codes were unique. */
 QString freeUnitName(Conversion& run, const QString& name, const QString& code)
 {
     BusinessSatuan* units = run.services().units;
@@ -48,7 +48,7 @@ QString freeUnitName(Conversion& run, const QString& name, const QString& code)
     return fitted.left(170) + " (" + code + ')';
 }
 
-/** Inserts a record that is known by its code, unless there is one of that code already. */
+/** Inserts a record unless its code already exists. */
 template <class Service, class Entity>
 void saveMaster(Conversion& run, Service* service, Entity& entity, const QString& code)
 {
@@ -71,7 +71,7 @@ void saveMaster(Conversion& run, Service* service, Entity& entity, const QString
     run.save(*service, entity, code);
 }
 
-/** Lays down a type or unit that an item names and nobody has entered, since no item can stand without. */
+/** Inserts a type or unit that an item refers to but that does not exist: every item needs both. */
 template <class Service, class Entity>
 Entity* added(Conversion& run, CodeBook<Entity>& known, Service* service, const QString& code, const QString& name)
 {
@@ -83,7 +83,7 @@ Entity* added(Conversion& run, CodeBook<Entity>& known, Service* service, const 
     return known.find(code);
 }
 
-/** Under which code an item finds its type or unit where it names none. */
+/** The code of the type or unit for an item that has none. */
 QString orNone(const QString& code) { return code.isEmpty() ? QString("-") : code; }
 
 EntityJenisItem* typeOf(Conversion& run, const LegacyRow& row)
@@ -126,7 +126,7 @@ void company(Conversion& run, const LegacyRow& row)
         run.skip(Words::tr("row %1").arg(run.rows().read()), Words::tr("it has no name"));
         return;
     }
-    // As the installer laid it down: whoever has saved the profile since wants it as it is.
+    // Only the installer's profile is replaced; a higher version means that a user has edited it.
     if (stored && stored->getVersion() > 1) {
         run.skip(name, Words::tr("the company profile has been entered already"));
         return;
@@ -176,7 +176,7 @@ void member(Conversion& run, const LegacyRow& row)
     member.setTelp(row.text("notlp"));
     member.setEmail(row.text("email"));
     member.setDiscountPercentage(percent(run, row.number("diskon")));
-    // As the form proposes it: without a date no discount would ever be given.
+    // The default of the form. Without an expiry date the member would get no discount.
     member.setExpiredDate(QDate::currentDate().addYears(1));
     saveMaster(run, run.services().members, member, row.text("barkode"));
 }
@@ -204,7 +204,7 @@ void item(Conversion& run, const LegacyRow& row)
     EntityItem item;
     item.setNama(row.text("keterangan"));
     const QString code = row.text("kode");
-    // Nothing is laid down for an item that is not going to be written.
+    // Do not insert types or units for an item that will not be written.
     if (code.isEmpty() || run.items.find(code)) {
         saveMaster(run, run.services().items, item, code);
         return;

@@ -3,7 +3,7 @@
 class Conversion;
 class LegacyRow;
 
-/** Each takes one row of a table of the former system over into one record: which column becomes what. */
+/** Each function converts one row of a table of the former system into one record. */
 namespace MasterSteps
 {
 void company(Conversion& run, const LegacyRow& row);

@@ -26,7 +26,7 @@ void PaymentStep::convertNew(const LegacyRow& row, const QString& no)
     if (row.number("saldohutang") != 0)
         payment.setNote(tr("Still owed to the supplier then: %1").arg(row.text("saldohutang")));
     const double sum = addLines(payment, row);
-    // Another run can take it over when its purchases are there; written now, it would pay nothing for ever.
+    // Skipped, so that a later run can convert it when its purchases exist. Written now, it would never pay anything.
     if (m_withoutPurchase > 0 && payment.invoices().getDetails().isEmpty()) {
         run().skip(no, tr("none of its purchases is there"));
         return;

@@ -3,7 +3,7 @@
 #include "pos/purchasing/payment/EntityPayment.h"
 #include "shell/database/converter/DocumentStep.h"
 
-/** Takes over what was paid to suppliers, with the purchases that it was paid for. */
+/** Converts payments to suppliers, with the purchases that they paid. */
 class PaymentStep final : public DocumentStep
 {
     Q_DECLARE_TR_FUNCTIONS(PaymentStep)
@@ -20,6 +20,6 @@ private:
     /** The sum of the lines. */
     double addLines(EntityPayment& payment, const LegacyRow& row);
 
-    /** How many of the payment's lines found no purchase. */
+    /** The number of the payment's lines whose purchase was not found. */
     int m_withoutPurchase = 0;
 };

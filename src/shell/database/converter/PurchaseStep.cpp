@@ -9,7 +9,7 @@
 
 namespace
 {
-// A discount or a tax of up to a hundred is a percentage, a larger one an amount.
+// The former system stores a discount or tax as one number: up to 100 it is a percentage, above that an amount.
 constexpr double largestPercentage = 100;
 
 bool isPercentage(double number) { return number > 0 && number <= largestPercentage; }
@@ -21,7 +21,7 @@ PurchaseStep::PurchaseStep(Conversion& run) : DocumentStep(run, run.services().p
 
 void PurchaseStep::begin()
 {
-    // Where it cannot be read, the step of the payments tells.
+    // If this fails, the payment step will report the error.
     const bool done = run().source().read("select * from tblbayarbelidetail", [this](const LegacyRow& row) {
         if (!row.flag("cekhapus"))
             m_paidLater[row.text("nonota")] += row.number("jumlah");
@@ -134,7 +134,7 @@ void PurchaseStep::setTotals(EntityAcquisition& purchase, const LegacyRow& row)
     const double rate = isPercentage(tax) ? tax / 100 : 0;
     const double taxAmount = isPercentage(tax) ? 0 : tax;
 
-    // The total is what was owed: the sub total follows from it, as the form of purchases reckons.
+    // The stored total is what was owed; the sub total is calculated from it, as the purchase form does.
     const double discount = run().money(row.number("totaldiskon"))->getAmount();
     const double total = row.isNull("total") ? lines * (1 + rate) + taxAmount - discount : row.number("total");
     purchase.setGrandTotal(run().money(total));

@@ -5,7 +5,10 @@
 
 class EntityPurchaseOrder;
 
-/** Takes over purchases with their lines. What was paid at the purchase is what is neither due nor paid later. */
+/**
+ * Converts purchases with their lines. The amount paid at the purchase is the total minus what is due and what was paid
+ * later.
+ */
 class PurchaseStep final : public DocumentStep
 {
     Q_DECLARE_TR_FUNCTIONS(PurchaseStep)
@@ -13,7 +16,7 @@ class PurchaseStep final : public DocumentStep
 public:
     explicit PurchaseStep(Conversion& run);
 
-    /** Reads what the payments of the former system paid of each purchase. */
+    /** Reads how much the payments of the former system paid for each purchase. */
     void begin();
 
 protected:

@@ -16,7 +16,7 @@ constexpr int rowsBetweenLines = 250;
 constexpr int keysShown = 8;
 } // namespace
 
-/** One table of the former system. */
+/** How to convert one table of the former system. */
 struct ConversionStep
 {
     QString text;

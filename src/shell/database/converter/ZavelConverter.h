@@ -11,9 +11,9 @@ class Conversion;
 struct ConversionStep;
 
 /**
- * Brings the data of a former system over into the open database, table after table, through the services. Rows that
- * cannot be taken over are counted with the reason and hold nothing up. Make it on the application's thread, move it
- * to a thread of its own.
+ * Imports the data of a former system into the open database, table by table, through the services. Rows that cannot be
+ * converted are counted with the reason, and the run continues. Create it on the main thread, then move it to its own
+ * thread.
  */
 class ZavelConverter final : public QObject
 {
@@ -22,7 +22,7 @@ class ZavelConverter final : public QObject
 public:
     explicit ZavelConverter(const ConnectionSettings& source, QObject* parent = nullptr);
 
-    /** Ends the run after the row in hand; may be called from any thread. */
+    /** Ends the run after the current row; thread-safe. */
     void stop() { m_stopped = true; }
 
 public slots:
@@ -30,15 +30,15 @@ public slots:
 
 signals:
     void onProgress(int perc, const QString& status);
-    /** What became of the rows of each table. */
+    /** The counts of each table. */
     void report(const QString& text);
-    /** The run could not begin, or not come to its end. */
+    /** The run could not start or was interrupted. */
     void error(const QString& err);
     void finished();
 
 private:
     void convert();
-    /** Empty where all steps came to their end, else why not. */
+    /** Empty if all steps completed, otherwise the error. */
     [[nodiscard]] QString runSteps(Conversion& run);
     [[nodiscard]] QString runStep(Conversion& run, const ConversionStep& step, int percent);
     void tell(int percent, const QString& status);

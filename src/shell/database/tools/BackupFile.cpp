@@ -23,7 +23,7 @@ QString startFolder(const QString& current)
 
 QString asideOf(const QString& path) { return QFileInfo(path).absoluteFilePath() + ".previous"; }
 
-/** The name of the restaurant whose database it is; empty where that is not the one that the program works with. */
+/** The restaurant's name; empty if this is not the program's open database. */
 QString shopOf(const QString& database)
 {
     auto* companies = service<BusinessDataPerusahaan>("Company Profile");
@@ -32,13 +32,13 @@ QString shopOf(const QString& database)
         return {};
     EntityPool read;
     const EntityPoolScope scope(read);
-    // Without the name the file still has the database's.
+    // If this fails, the file is named after the database.
     const KorErrorScope errors(companies);
     const EntityDataPerusahaan* company = companies->getData();
     return company ? company->getNamaPerusahaan() : QString();
 }
 
-/** Names of people and databases hold what a stick's file system, or a command line, does not take. */
+/** Replaces characters that file systems or command lines may not accept. */
 QString safeName(const QString& name)
 {
     constexpr int longest = 60;
@@ -107,11 +107,12 @@ bool BackupFile::prepare(QString* reason)
         *reason = tr("%1 is no file. Please enter the name of a file for the backup.").arg(m_path);
         return false;
     }
-    // One that lies aside already is the last whole backup: the run after it was cut off, and left a piece.
+    // If a renamed backup exists, it is the last complete one: the run after it was interrupted and left a partial
+    // file.
     const bool earlier = QFileInfo::exists(m_aside) || !file.exists() || QFile::rename(m_path, m_aside);
     QFile place(m_path);
     m_open = earlier && place.open(QIODevice::WriteOnly);
-    // A piece that is written over may be open to all; a stick that knows no owners takes the backup all the same.
+    // An overwritten partial file may be readable by all. Errors are ignored: some file systems have no owners.
     if (m_open)
         place.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
     if (m_open)

@@ -6,9 +6,9 @@
 class QWidget;
 
 /**
- * The file that a backup goes to. An earlier backup of that name is moved aside until the new one is complete, and
- * comes back when it is not: what bears the name is a whole backup. Left unsettled, the earlier one comes back too.
- * From its first byte on only the person who makes it may read it: it holds the marks of all passwords.
+ * The target file of a backup. prepare() renames an earlier backup of this name; settle() deletes it after success and
+ * renames it back after failure, as does the destructor if settle() was not called. So the file of this name is always
+ * a complete backup. Only its owner may read it: it contains password hashes.
  */
 class BackupFile
 {
@@ -19,20 +19,20 @@ public:
     ~BackupFile();
     Q_DISABLE_COPY(BackupFile)
 
-    /** The path as the backup will bear it: with ".bak" where nobody typed an ending. */
+    /** The path of the backup: adds ".bak" if it has no suffix. */
     [[nodiscard]] static QString withEnding(const QString& path);
-    // What the person chooses in the window; empty where they gave it up.
+    // The file chosen in a file dialog; empty if cancelled.
     [[nodiscard]] static QString askForNew(QWidget* parent, const QString& current, const QString& database);
     [[nodiscard]] static QString askForExisting(QWidget* parent, const QString& current);
 
-    /** Where a run to this file was cut off together with the program: what lies aside since; otherwise empty. */
+    /** The renamed earlier backup, if the program ended during a backup to this file; otherwise empty. */
     [[nodiscard]] static QString wholeOneBeside(const QString& path);
 
-    /** Makes way for the backup, with an empty file in its place; otherwise says why there can be none. */
+    /** Renames an earlier backup and creates an empty file. On failure returns false and the reason. */
     [[nodiscard]] bool prepare(QString* reason);
-    /** After the program that wrote it: true when the backup stands. Otherwise nothing of it is left. */
+    /** Call it after the backup program. True if the backup is complete; otherwise the new file is deleted. */
     bool settle(bool succeeded);
-    /** How that ended, in words for the owner. */
+    /** The result as a message for the owner. */
     [[nodiscard]] const QString& verdict() const { return m_verdict; }
     [[nodiscard]] const QString& path() const { return m_path; }
 
@@ -40,7 +40,7 @@ private:
     void putBack();
 
     QString m_path;
-    /** Where the earlier backup lies meanwhile. */
+    /** The path of the renamed earlier backup. */
     QString m_aside;
     QString m_verdict;
     bool m_open = false;

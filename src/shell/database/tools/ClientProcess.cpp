@@ -19,7 +19,7 @@ ClientProcess::ClientProcess(QObject* parent) : QProcess(parent), m_decoder(QTex
 
 ClientProcess::~ClientProcess()
 {
-    // Whoever owned it is going and must not be told any more.
+    // The receivers are being destroyed.
     disconnect();
     if (state() == QProcess::NotRunning)
         return;
@@ -34,7 +34,7 @@ void ClientProcess::run(const ClientCommand& command)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("PGPASSWORD", command.password);
-    // An address where nobody answers would hold the tool up for minutes.
+    // Without a timeout, an unreachable address would block the program for minutes.
     if (!environment.contains("PGCONNECT_TIMEOUT"))
         environment.insert("PGCONNECT_TIMEOUT", "10");
     setProcessEnvironment(environment);
@@ -55,10 +55,10 @@ bool ClientProcess::succeeded() const
 
 void ClientProcess::setupChildProcess()
 {
-    // Without a terminal the tool cannot stop to ask for a password behind the window.
+    // Without a terminal it cannot prompt for a password.
     setsid();
-    // What it writes holds the marks of all passwords.
+    // Its output files contain password hashes.
     umask(077);
-    // A restore that outlived the program would meet the program's next start.
+    // A restore must not continue after this program has ended, because it would collide with the next start.
     prctl(PR_SET_PDEATHSIG, SIGTERM);
 }

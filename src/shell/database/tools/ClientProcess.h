@@ -8,8 +8,8 @@ class QTextDecoder;
 struct ClientCommand;
 
 /**
- * One run of a PostgreSQL program: output and errors in one stream, the password in the environment, nobody to be
- * asked for anything, and an end together with this program. Connect its signals, then call run().
+ * One run of a PostgreSQL client program: output and errors in one stream, the password in the environment, no prompts,
+ * and it ends with this program. Connect its signals, then call run().
  */
 class ClientProcess final : public QProcess
 {
@@ -21,9 +21,9 @@ public:
 
     /** Writes the arguments to the debug log and starts the program. */
     void run(const ClientCommand& command);
-    /** What the program has said since the last call; a letter that has arrived by half waits for the rest. */
+    /** The output since the last call. An incomplete multi-byte character is kept for the next call. */
     [[nodiscard]] QString takeOutput();
-    /** Ended by itself, and with success. */
+    /** True if it exited normally with code 0. */
     [[nodiscard]] bool succeeded() const;
 
 protected:

@@ -26,7 +26,7 @@ QStringList versionFolders()
     return folders;
 }
 
-/** Only programs older than 9.5 know the option that ignores a difference of versions; later ones refuse to run. */
+/** Only versions before 9.5 accept the option that ignores a version mismatch; later ones fail on it. */
 QStringList ignoreVersion(const QString& name)
 {
     QProcess process;
@@ -44,7 +44,7 @@ QStringList server(const ConnectionSettings& connection)
     return {"-h", connection.host, "-p", QString::number(connection.port), "-U", connection.user};
 }
 
-/** The database's name, safe from being read as connection parameters, a web address or an option. */
+/** The database name, escaped so that it is not read as connection parameters, a URI or an option. */
 QString databaseName(const QString& name)
 {
     if (!name.contains('=') && !name.startsWith('-') && !name.startsWith("postgres://") &&

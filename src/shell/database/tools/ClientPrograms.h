@@ -4,34 +4,34 @@
 
 struct ConnectionSettings;
 
-/** One call of a program that comes with PostgreSQL; the password never stands among the arguments. */
+/** One call of a PostgreSQL client program. The password is never passed as an argument. */
 struct ClientCommand
 {
-    /** The bare name, "pg_dump" for one. */
+    /** The name without the path, such as "pg_dump". */
     QString name;
     QStringList arguments;
     QString password;
 };
 
 /**
- * The programs that come with PostgreSQL, and what the maintenance screens call them with. They are looked for in the
- * folder that ZAVEL_PG_BIN names, then in the PATH, then where Debian keeps the versions, the newest first.
+ * Finds PostgreSQL's client programs and builds their command lines. They are searched in the folder of ZAVEL_PG_BIN,
+ * then in PATH, then in Debian's version folders, newest first.
  */
 namespace ClientPrograms
 {
-/** The folder of that program; empty where there is none. */
+/** The folder of this program; empty if not found. */
 [[nodiscard]] QString folder(const QString& name);
-/** The program with its folder; without one where it was not found, so that starting it fails with the reason. */
+/** The full path of the program; only its name if not found, so that starting it fails with an error. */
 [[nodiscard]] QString path(const QString& name);
 
-// A file that is not absolute is taken from the program's own folder, since the tool runs in another one.
+// Relative files are resolved against the program's working directory, since the tool runs in another one.
 [[nodiscard]] ClientCommand backup(const ConnectionSettings& connection, const QString& outputFile);
 [[nodiscard]] ClientCommand createDatabase(const ConnectionSettings& connection);
 [[nodiscard]] ClientCommand restore(const ConnectionSettings& connection, const QString& inputFile);
 [[nodiscard]] ClientCommand vacuum(const ConnectionSettings& connection);
 [[nodiscard]] ClientCommand reindex(const ConnectionSettings& connection);
-/** Writes the statement's values, one row a line. */
+/** Prints the statement's values, one row per line. */
 [[nodiscard]] ClientCommand query(const ConnectionSettings& connection, const QString& statement);
-/** Writes the table of contents of a backup, and fails on what is none. */
+/** Prints the table of contents of a backup; fails if the file is not a backup. */
 [[nodiscard]] ClientCommand contents(const QString& inputFile);
 } // namespace ClientPrograms

@@ -4,7 +4,7 @@
 
 class QLineEdit;
 
-/** The five boxes of one connection, which several forms have under names of their own. */
+/** The five boxes of one connection; several forms have them under different object names. */
 struct ConnectionEdits
 {
     QLineEdit* host;
@@ -14,6 +14,6 @@ struct ConnectionEdits
     QLineEdit* port;
 
     void show(const ConnectionSettings& settings) const;
-    /** What the boxes hold, in the place of the given settings' own five values. */
+    /** The given settings with these five values replaced by those of the boxes. */
     [[nodiscard]] ConnectionSettings read(ConnectionSettings settings = {}) const;
 };

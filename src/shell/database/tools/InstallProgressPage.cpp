@@ -12,7 +12,7 @@
 
 namespace
 {
-/** Without the statement and the driver's remarks, which only the log needs. */
+/** The server's message without the statement and the driver's text, which are in the log. */
 QString serversWords(const QString& reason)
 {
     return reason.section("\r\n", 0, 0).simplified().remove(QRegularExpression(" \\(\\w{5}\\) QPSQL:.*$"));
@@ -73,7 +73,7 @@ void InstallProgressPage::sumUp()
 
 void InstallProgressPage::onProgress(int perc, const QString& status)
 {
-    // Ahead of the last line, so that nobody has to search the others for what went wrong.
+    // Lists the failures just before the last line, where they are easy to find.
     if (perc == 100)
         sumUp();
     appendStatusLine(m_status, QString("[%1%] %2").arg(perc).arg(status));

@@ -5,7 +5,7 @@
 class QPlainTextEdit;
 class ZavelInstaller;
 
-/** The page on which a wizard's work is done: a status box that takes the lines of the worker. */
+/** Base of the wizard pages that run an installer; a status box shows its progress lines. */
 class InstallProgressPage : public QWizardPage
 {
     Q_OBJECT
@@ -20,14 +20,14 @@ public slots:
     void errorString(const QString& err);
 
 signals:
-    /** The installer has ended, well or not. */
+    /** The installer has ended, with or without errors. */
     void ended();
 
 protected:
     [[nodiscard]] QPlainTextEdit* statusBox() const { return m_status; }
-    /** A line for each step of the last run that failed; empty after a good one. */
+    /** One line per failed step of the last run; empty after success. */
     [[nodiscard]] const QStringList& failures() const { return m_failures; }
-    /** Runs it on a thread of its own; one at a time: a second one is thrown away. Takes the installer over. */
+    /** Runs the installer on a separate thread. If one is running already, the new one is deleted. Takes ownership. */
     void run(ZavelInstaller* installer);
 
 private:

@@ -3,7 +3,7 @@
 class QPlainTextEdit;
 class QString;
 
-/** Writes at the end of a status box, as it stands, and keeps the end in sight. */
+/** Appends the text to a status box as it is, and scrolls to the end. */
 void appendStatus(QPlainTextEdit* box, const QString& text);
-/** The same on a line of its own. */
+/** The same on a separate line. */
 void appendStatusLine(QPlainTextEdit* box, const QString& line);

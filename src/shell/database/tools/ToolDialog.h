@@ -9,7 +9,7 @@ class QPlainTextEdit;
 class QPushButton;
 class ToolRun;
 
-/** A form that lets PostgreSQL's programs work: it does not close over one that is still at it without asking. */
+/** Base of dialogs that run PostgreSQL's client programs. While one is running, the dialog asks before it closes. */
 class ToolDialog : public QDialog
 {
     Q_OBJECT
@@ -21,13 +21,13 @@ public:
     void done(int result) override;
 
 protected:
-    /** Stands as long as the form. */
+    /** Adds a run, owned by the dialog. */
     ToolRun* addRun(QPlainTextEdit* status, const QList<QPushButton*>& buttons);
     [[nodiscard]] bool isBusy() const;
-    /** Ends every program that is at work. */
+    /** Stops all running programs. */
     void stop();
     void showInfo(const QString& text);
-    /** Of a program that did not start or end as it should: the number in the status box, the words in a box. */
+    /** Shows a start or run error: the number in the status box, the text in a message box. */
     void showError(ToolRun* run, int number);
 
 private:

@@ -30,7 +30,7 @@ void ToolRun::end()
     m_busy = false;
     for (QPushButton* button : qAsConst(m_buttons))
         button->setEnabled(true);
-    // A locked button hands the keys on; it gets them back unless the person has gone elsewhere.
+    // Disabling the focused button moved the focus. Restore it unless the user has changed to another window.
     if (m_focused && m_focused->isVisible() && m_focused->window()->isActiveWindow() &&
         m_buttons.contains(qobject_cast<QPushButton*>(m_focused)))
         m_focused->setFocus();
@@ -46,7 +46,7 @@ void ToolRun::stop()
 ClientProcess* ToolRun::renew()
 {
     begin();
-    // The former one may be telling of its end right now.
+    // The former process may be emitting its last signal now, so it is not deleted at once.
     if (ClientProcess* former = m_process.release()) {
         former->disconnect();
         former->deleteLater();

@@ -12,8 +12,8 @@ class QPushButton;
 struct ClientCommand;
 
 /**
- * One place of a form where PostgreSQL's programs work, one at a time: the status box that tells of them, and the
- * buttons that are locked meanwhile. Whoever connects to its signals hears of every program but those that only look.
+ * Runs PostgreSQL's client programs one at a time for a part of a form: shows their output in a status box and locks
+ * its buttons meanwhile. Signals are emitted for all programs except those started by look().
  */
 class ToolRun final : public QObject
 {
@@ -21,27 +21,27 @@ class ToolRun final : public QObject
 
 public:
     ToolRun(QPlainTextEdit* status, QList<QPushButton*> buttons);
-    /** A program that is still at work ends, and nobody hears of it. */
+    /** Stops a running program without signals. */
     ~ToolRun() override;
 
-    /** From begin() to end(), however many programs run in between. */
+    /** True from begin() to end(), also between several programs. */
     [[nodiscard]] bool isBusy() const { return m_busy; }
     void begin();
     void end();
-    /** The same, with the program that is at work ended; nobody hears of that. */
+    /** Like end(), but also stops the running program without signals. */
     void stop();
 
-    /** Says what is being done and starts the program. */
+    /** Shows the text in the status box and starts the program. */
     void start(const ClientCommand& command, const QString& doing);
-    /** Runs a program that only looks: nothing of it is shown. Hands over whether it went well, and what it wrote. */
+    /** Runs a program without showing anything; answer gets its success and its output. */
     void look(const ClientCommand& command, std::function<void(bool, const QString&)> answer);
 
-    // Of the program that was started last.
+    // About the last program started.
     [[nodiscard]] bool succeeded() const;
     [[nodiscard]] QString errorText() const;
-    /** Moves what the program has written since to the status box. */
+    /** Appends the program's new output to the status box. */
     void showOutput();
-    /** Writes a line of our own. */
+    /** Appends a line of this program's own text. */
     void say(const QString& line);
 
 signals:

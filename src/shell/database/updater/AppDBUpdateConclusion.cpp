@@ -19,7 +19,7 @@ AppDBUpdateConclusion::AppDBUpdateConclusion(QWidget* parent)
     m_delay->setInterval(delay);
     connect(m_delay, &QTimer::timeout, this, &AppDBUpdateConclusion::begin);
     m_standstill->setInterval(longStandstill);
-    // A session elsewhere in the middle of its work keeps its tables from being changed, for as long as it likes.
+    // An open transaction of another session can block the update of a table without limit.
     connect(m_standstill, &QTimer::timeout, this, [this] {
         errorString(tr("The update is waiting for the database. Is the program still open on another workstation? "
                        "Please close it there."));
@@ -31,7 +31,7 @@ void AppDBUpdateConclusion::initializePage()
 {
     statusBox()->clear();
     emit entered();
-    // The wizard paints its page only after this call.
+    // The wizard shows the page only after this function returns.
     m_delay->start();
 }
 

@@ -5,7 +5,7 @@
 class KorInstaller;
 class QTimer;
 
-/** The page on which the database is brought up to date; once only, whatever is pressed. */
+/** The page that runs the database update; it starts only once. */
 class AppDBUpdateConclusion final : public InstallProgressPage
 {
     Q_OBJECT
@@ -14,13 +14,13 @@ public:
     explicit AppDBUpdateConclusion(QWidget* parent = nullptr);
 
     void initializePage() override;
-    /** Whoever finishes before the work began has asked for it all the same. */
+    /** If the user presses "Finish" before the update has started, it starts now. */
     bool validatePage() override;
 
 signals:
-    /** The page is there, and the work begins in a moment: from now on nobody else may use the database. */
+    /** The page is shown and the update starts soon: nothing else may use the database from now on. */
     void entered();
-    /** The work begins; it goes on when the page is gone. */
+    /** The update starts; it continues when the page is closed. */
     void begun(KorInstaller* installer);
 
 private:

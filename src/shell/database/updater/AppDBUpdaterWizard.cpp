@@ -10,7 +10,7 @@ AppDBUpdaterWizard::AppDBUpdaterWizard(QWidget* parent) : QWizard(parent), m_con
     setStartId(InfoPage);
     setWizardStyle(QWizard::ModernStyle);
     setWindowTitle(tr("ZavelPOS DB Updater Wizard"));
-    // What has been begun is not begun again.
+    // The update must not be started twice.
     setOption(QWizard::DisabledBackButtonOnLastPage);
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     resize(640, 460);

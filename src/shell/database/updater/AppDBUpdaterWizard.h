@@ -4,7 +4,7 @@
 
 class AppDBUpdateConclusion;
 
-/** Leads through the update of an older database in two pages. */
+/** The wizard that updates an older database, with two pages. */
 class AppDBUpdaterWizard final : public QWizard
 {
     Q_OBJECT

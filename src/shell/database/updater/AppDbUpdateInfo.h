@@ -2,7 +2,7 @@
 
 #include <QWizardPage>
 
-/** The first page of the update: what comes, and that a backup comes before it. */
+/** The first page of the update: explains it and asks for a backup before it. */
 class AppDbUpdateInfo final : public QWizardPage
 {
     Q_OBJECT

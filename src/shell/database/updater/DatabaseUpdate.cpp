@@ -44,7 +44,7 @@ void DatabaseUpdate::watch(KorInstaller* installer)
     connect(installer, &KorInstaller::error, this, [this](const QString& text) { m_failures.append(text); });
     connect(installer, &KorInstaller::finished, this, [this] {
         m_running = false;
-        // With the wizard in front its last line says so.
+        // While the wizard is open, its last line shows the result.
         if (m_wizardOpen)
             return;
         m_window->statusBar()->clearMessage();

@@ -7,8 +7,8 @@ class KorInstaller;
 class QMainWindow;
 
 /**
- * The update of the database as the main window goes through it: the wizard, and after it, for as long as the work
- * goes on without the wizard, a window that can neither be worked in nor closed.
+ * The database update from the main window: shows the wizard. If it is closed during the update, the main window is
+ * disabled and cannot be closed until the end.
  */
 class DatabaseUpdate final : public QObject
 {
@@ -17,14 +17,14 @@ class DatabaseUpdate final : public QObject
 public:
     explicit DatabaseUpdate(QMainWindow* window);
 
-    /** Shows the wizard, until it is closed. */
+    /** Shows the wizard; returns when it is closed. */
     void offer();
     [[nodiscard]] bool isRunning() const { return m_running; }
 
 signals:
-    /** Whatever uses the database has to go. */
+    /** Everything that uses the database must be closed. */
     void entered();
-    /** The window may use the database again, whether it was changed or not. */
+    /** The database may be used again, whether it was updated or not. */
     void left();
 
 protected:

@@ -15,7 +15,7 @@ AppInstallerWizard::AppInstallerWizard(QWidget* parent) : QWizard(parent), m_con
     setWindowIcon(QIcon(":/icons/Beverage-Coffee-02.png"));
     setPixmap(LogoPixmap, windowIcon().pixmap(48));
     setWizardStyle(ModernStyle);
-    // What is installed or restored by then cannot be taken back.
+    // An installation or restore cannot be undone by going back.
     setOptions(NoBackButtonOnStartPage | NoBackButtonOnLastPage);
     setPage(Intro, new IntroPage);
     setPage(FreshInstall, new FreshInstallPage);

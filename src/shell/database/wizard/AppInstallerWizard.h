@@ -5,8 +5,8 @@
 class ConclusionPage;
 
 /**
- * Sets up a workstation that has no settings file: with a fresh database, or with one that is restored from a backup.
- * It leaves the settings file behind. While its work runs it cannot be closed.
+ * Sets up a workstation that has no settings file: with a new database or with one restored from a backup. Writes the
+ * settings file. It cannot be closed during the installation or restore.
  */
 class AppInstallerWizard final : public QWizard
 {

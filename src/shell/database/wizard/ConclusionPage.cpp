@@ -52,7 +52,7 @@ void ConclusionPage::setBusy(bool busy)
 
 void ConclusionPage::installFresh()
 {
-    // There is no row yet that says how prices are written, but the first ones are.
+    // The first prices are written before the row with the locale exists.
     const QString locale = field("localization.locale").toString();
     AppContext::instance()->setLocale(locale);
     auto* installer = new ZavelInstaller;
@@ -97,7 +97,7 @@ void ConclusionPage::restore()
 
 void ConclusionPage::restoreStep()
 {
-    // One that somebody has made and filled since it was asked about, or that could not be made a second time.
+    // Another user may have filled the database since the question, or it could not be renamed and created again.
     if (WizardConnection::tryOpen(m_connection) && WizardConnection::countTables() > 0) {
         appendStatusLine(
             statusBox(),
@@ -190,7 +190,7 @@ void ConclusionPage::concludeRestore()
         return;
     const DatabaseCondition condition = DatabaseCondition::readWithVersion();
     if (!condition.isUsable() && !m_import->succeeded()) {
-        // Taken for restored it would be asked for a login that it cannot give.
+        // With settings for this database, the next start would fail at the login.
         appendStatusLine(statusBox(), tr("The database %1 cannot be used like this, and the program was not set up "
                                          "for it. \"Finish\" begins the wizard once more; restore the backup into a "
                                          "new database.")

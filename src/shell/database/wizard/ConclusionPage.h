@@ -9,8 +9,8 @@ class ClientProcess;
 struct ClientCommand;
 
 /**
- * Does what the pages before have asked for, as soon as it is shown: installs the tables, or creates the database and
- * restores the backup into it. "Finish" waits for the end.
+ * Does the work when it is shown: installs the tables, or creates the database and restores the backup into it.
+ * "Finish" is disabled until the end.
  */
 class ConclusionPage final : public InstallProgressPage
 {
@@ -38,11 +38,11 @@ private:
     void installFresh();
     void restore();
     void restoreStep();
-    /** Without a new database, the one that made way for it comes back. */
+    /** The new database could not be created: renames the former one back. */
     void putBack();
     void tellError(QProcess::ProcessError err);
     void tellExit(int exitCode, QProcess::ExitStatus status);
-    /** Whether what pg_restore left can be worked with, and the settings for it. */
+    /** Checks the restored database and writes the settings if it is usable. */
     void concludeRestore();
     void concludeInstallation();
     void setBusy(bool busy);
@@ -50,7 +50,7 @@ private:
     QString m_settingsPath;
     ConnectionSettings m_connection;
     QString m_backup;
-    /** The name that the former database is kept under; empty where there was none. */
+    /** The new name of the former database; empty if there was none. */
     QString m_aside;
     ClientProcess* m_createDB;
     ClientProcess* m_import;

@@ -49,7 +49,7 @@ void DetailsPage::initializePage()
         return;
     m_filled = true;
     ConnectionSettings usual = m_connection.read().withDefaults();
-    // The usual password is known to everybody.
+    // Do not propose the default password: everybody knows it.
     usual.password = m_connection.password->text();
     m_connection.show(usual);
 }

@@ -6,7 +6,7 @@
 
 class QFormLayout;
 
-/** A page on which every line has to be filled; the connection's lines begin with the usual values. */
+/** A wizard page with mandatory lines; the connection's lines start with the defaults. */
 class DetailsPage : public QWizardPage
 {
     Q_OBJECT
@@ -14,16 +14,16 @@ class DetailsPage : public QWizardPage
 public:
     [[nodiscard]] bool isComplete() const override;
     void initializePage() override;
-    /** Going back keeps what was entered. */
+    /** Keeps the inputs when the user goes back. */
     void cleanupPage() override {}
 
 protected:
     explicit DetailsPage(QWidget* parent);
 
     [[nodiscard]] QFormLayout* form() const { return m_form; }
-    /** A mandatory line under this field name, not in the form yet. */
+    /** A mandatory line with this field name, not yet added to the form. */
     QLineEdit* makeLine(const QString& fieldName);
-    /** The same as a row of the form. */
+    /** The same, added as a row of the form. */
     QLineEdit* addLine(const QString& label, const QString& fieldName);
     QLineEdit* addPassword(const QString& label, const QString& fieldName);
     QLineEdit* addPort(const QString& label, const QString& fieldName);

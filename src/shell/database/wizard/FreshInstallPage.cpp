@@ -50,7 +50,7 @@ bool FreshInstallPage::validatePage()
         return false;
     if (answer == ReplaceQuestion::Replace)
         return true;
-    // The page behind this one would install. The wizard asks for a last validation before it closes.
+    // The next page would install, so the wizard ends here. accept() validates this page once more.
     m_nothingToInstall = true;
     wizard()->accept();
     return false;

@@ -2,7 +2,7 @@
 
 #include "shell/database/wizard/DetailsPage.h"
 
-/** Where a fresh installation goes, and who administrates it. */
+/** Asks for the database of a new installation and for its administrator. */
 class FreshInstallPage final : public DetailsPage
 {
     Q_OBJECT
@@ -11,7 +11,7 @@ public:
     explicit FreshInstallPage(QWidget* parent = nullptr);
 
     void initializePage() override;
-    /** Opens the database, asks before it loses anything, and leaves the settings file behind. */
+    /** Opens the database, asks before it replaces tables, and writes the settings file. */
     bool validatePage() override;
     [[nodiscard]] int nextId() const override;
 

@@ -17,7 +17,7 @@ namespace
 constexpr int patience = 500;
 const char* const socketName = ".s.PGSQL.";
 
-/** PostgreSQL takes a folder in place of a host for the folder of its sockets. */
+/** PostgreSQL reads a host that is a folder as the folder of its sockets. */
 bool isSocketFolder(const QString& host) { return host.startsWith('/'); }
 
 bool isThisMachine(const QString& host)
@@ -31,7 +31,7 @@ QList<int> portsOfSockets(const QString& folder)
     const QString prefix = socketName;
     const QStringList names = QDir(folder).entryList({prefix + '*'}, QDir::System | QDir::Hidden);
     for (const QString& name : names) {
-        // Beside the socket lies its lock.
+        // Skips the lock files, whose names do not end with the port.
         if (const int port = name.mid(prefix.size()).toInt())
             ports.append(port);
     }
@@ -71,14 +71,14 @@ QList<int> LocalServers::configuredPorts() const
 {
     static const QRegularExpression line(R"(^\s*port\s*=?\s*'?(\d+))", QRegularExpression::MultilineOption);
     QList<int> ports;
-    // A folder a version, and in it one a cluster.
+    // One folder per version, and in it one per cluster.
     QDirIterator files(m_configFolder, {"postgresql.conf"}, QDir::Files, QDirIterator::Subdirectories);
     while (files.hasNext()) {
         QFile file(files.next());
         if (!file.open(QIODevice::ReadOnly))
             continue;
         constexpr int usual = 5432;
-        // The last one counts, as it does for the server.
+        // The last entry is used, as the server does.
         int port = usual;
         QRegularExpressionMatchIterator matches = line.globalMatch(QString::fromUtf8(file.readAll()));
         while (matches.hasNext())

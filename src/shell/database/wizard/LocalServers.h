@@ -5,15 +5,15 @@
 
 struct ConnectionSettings;
 
-/** The PostgreSQL servers of this machine, as their sockets and Debian's configuration files tell of them. */
+/** Finds the PostgreSQL servers of this machine by their sockets and Debian's configuration files. */
 class LocalServers
 {
 public:
     explicit LocalServers(QString socketFolder = "/var/run/postgresql", QString configFolder = "/etc/postgresql");
 
     /**
-     * The port of a server that listens where the connection leads to, when nobody listens on the connection's own
-     * port. 0 where there is none, where somebody does, or where the host is another machine.
+     * The port of another server on this host if nothing listens on the connection's port. 0 if there is none, if
+     * something listens there, or if the host is another machine.
      */
     [[nodiscard]] int portInPlaceOf(const ConnectionSettings& connection) const;
 

@@ -53,7 +53,7 @@ RestoreInstallPage::RestoreInstallPage(QWidget* parent) : DetailsPage(parent)
 bool RestoreInstallPage::validatePage()
 {
     setProperty(aside, QString());
-    // What can not be opened is no database yet, or the tools say why.
+    // If it cannot be opened, it does not exist yet, or the client programs will report the reason.
     const int tables = openTarget() ? WizardConnection::countTables() : 0;
     return tables == 0 || replace(tables);
 }

@@ -5,8 +5,8 @@
 class QCheckBox;
 
 /**
- * Which backup goes where. The check box alone need not be set. The field "restore.aside" names the database that made
- * way for the backup; empty where there was none.
+ * Asks for the backup and the target database. Only the check box is optional. The field "restore.aside" is the new
+ * name of a database that was renamed for the backup; empty if there was none.
  */
 class RestoreInstallPage final : public DetailsPage
 {
@@ -15,8 +15,7 @@ class RestoreInstallPage final : public DetailsPage
 public:
     explicit RestoreInstallPage(QWidget* parent = nullptr);
 
-    /** Asks before the backup takes the place of a database that holds tables; goes on where there is nothing to ask.
-     */
+    /** Asks before the backup replaces a database that has tables. */
     bool validatePage() override;
     [[nodiscard]] int nextId() const override;
 
@@ -24,7 +23,7 @@ private slots:
     void handleBrowse();
 
 private:
-    /** The database can be looked into, perhaps by another port than the one that was entered. */
+    /** True if the database can be opened, perhaps through another port than the one entered. */
     bool openTarget();
     bool replace(int tables);
 

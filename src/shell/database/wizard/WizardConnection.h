@@ -7,28 +7,28 @@ class QWidget;
 struct ConnectionEdits;
 struct ConnectionSettings;
 
-/** What the wizard's pages do with the connection that a person has entered. */
+/** Opens and saves the connection that the user enters in the wizard. */
 class WizardConnection
 {
     Q_DECLARE_TR_FUNCTIONS(WizardConnection)
 
 public:
-    /** The settings file of this workstation; its folder is made where there is none. */
+    /** The path of this workstation's settings file; its folder is created if missing. */
     [[nodiscard]] static QString settingsPath();
-    /** Opens it as the program's connection; where that fails, says so and why. */
+    /** Opens it as the program's connection; on failure shows the reason. */
     [[nodiscard]] static bool open(QWidget* parent, const ConnectionSettings& connection);
     /**
-     * The same with what the boxes hold, and with an offer where the reason can be helped: to create the database
-     * that the server does not have, or to go to the port on which the server of this machine listens.
+     * The same with the values of the boxes. On failure it can offer to create a missing database, or to use the port
+     * on which this machine's server listens.
      */
     [[nodiscard]] static bool openOrHelp(QWidget* parent, const ConnectionEdits& edits);
-    /** Opens it without a word. */
+    /** Opens it without a message. */
     [[nodiscard]] static bool tryOpen(const ConnectionSettings& connection);
-    /** The tables of the database that is open; 0 where that can not be found out. */
+    /** The number of tables in the open database; 0 if it cannot be read. */
     [[nodiscard]] static int countTables();
-    /** Leaves it behind for the program's next start; says so where that fails. */
+    /** Writes it to the settings file for the next start; on failure shows a message. */
     [[nodiscard]] static bool save(QWidget* parent, const ConnectionSettings& connection, const QString& path);
-    /** Where the server of this machine listens. */
+    /** The message on which port this machine's server listens. */
     [[nodiscard]] static QString listensOn(int port);
 
 private:
