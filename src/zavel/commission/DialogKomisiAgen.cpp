@@ -107,7 +107,7 @@ void DialogKomisiAgen::totalChanged()
 
 void DialogKomisiAgen::checkAmounts()
 {
-    // An empty box pays nothing; one that holds no number still has the value of the last one.
+    // An empty box means 0. A box with an invalid number still returns its last valid value.
     const bool isEmpty = m_ui->txtPaid->text().isEmpty();
     const double paid = isEmpty ? 0 : m_ui->txtPaid->value();
     if (!isEmpty && !m_ui->txtPaid->isValid())

@@ -12,7 +12,7 @@ namespace Ui
 class DialogKomisiAgen;
 }
 
-/** Pays an agent's commissions on a group of invoices, all of what they come to. */
+/** The payment form of an agent's commissions on several invoices; they are always paid in full. */
 class DialogKomisiAgen final : public SettlementDialog
 {
     Q_OBJECT
@@ -21,7 +21,7 @@ public:
     explicit DialogKomisiAgen(QWidget* parent = nullptr);
     ~DialogKomisiAgen() override;
 
-    /** Opens a new payment on this agent, who is borrowed. */
+    /** Starts a new payment for this agent; the agent is borrowed. */
     void openAgent(EntityAgent* agent);
 
     KorEntity* getEntity() override;

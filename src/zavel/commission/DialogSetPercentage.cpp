@@ -21,7 +21,7 @@ void DialogSetPercentage::setEntity(KorEntity* entity)
     m_ui->txtTotal->setMoney(m_line->getInvoice()->getGrandTotal());
     m_ui->txtPerc->setValue(m_line->getCommisionPerc());
     m_ui->txtCommision->setMoney(m_line->getCommision());
-    // The first figure typed replaces what stands in the box.
+    // Typing replaces the old value.
     m_ui->txtPerc->selectAll();
     m_ui->txtPerc->setFocus(Qt::TabFocusReason);
 }

@@ -11,7 +11,7 @@ namespace Ui
 class DialogSetPercentage;
 }
 
-/** Gives one invoice of a commission payment another percent than the agent's own. The line is borrowed. */
+/** Changes the commission percentage of one invoice in a commission payment. The line is borrowed. */
 class DialogSetPercentage final : public KorDialog
 {
     Q_OBJECT

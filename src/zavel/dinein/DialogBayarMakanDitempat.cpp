@@ -168,7 +168,7 @@ void DialogBayarMakanDitempat::onSplitInvoice()
     m_splitting = true;
     accept();
     m_splitting = false;
-    // An invoice that could not be saved keeps its lines and what was to be split off them.
+    // If saving failed, the invoice keeps its lines and its split.
     if (!m_saved)
         return;
     InvoiceLines unpaid;
@@ -177,10 +177,10 @@ void DialogBayarMakanDitempat::onSplitInvoice()
             unpaid += group.value();
     }
     m_groups.clear();
-    // The groups' invoices have moved the order on.
+    // Saving the groups' invoices has changed the order's version.
     if (readAgain() && !unpaid.isEmpty())
         takeBack(unpaid);
-    // Asked when all have paid: a table is not free while a part of the party is still to pay.
+    // Only after all groups have paid: the table is not free before.
     if (!m_isGroup)
         offerToFinish();
 }

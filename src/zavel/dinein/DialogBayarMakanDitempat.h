@@ -14,7 +14,7 @@ namespace Ui
 class DialogBayarMakanDitempat;
 }
 
-/** The payment form of a table. A party that pays apart gets an invoice for each of its groups. */
+/** The payment form of a table. When guests pay separately, each group gets its own invoice. */
 class DialogBayarMakanDitempat final : public OrderPaymentDialog
 {
     Q_OBJECT
@@ -29,9 +29,9 @@ public:
 public slots:
     void onTableSelected() {}
     void on_btnPrintBill_clicked();
-    /** Saves the invoice with what stays on it, then takes the money of each group in a form of its own. */
+    /** Saves the invoice with the remaining lines, then opens a payment form for each group. */
     void onSplitInvoice();
-    /** Sorts what is split off into its groups. */
+    /** Collects the split-off lines by group. */
     void getSplitInvoices();
 
 protected:
@@ -52,11 +52,11 @@ protected:
     void printBill(int saleId) override;
 
 private:
-    /** Makes the form that of a group: its note stands where the number will be, and it never ends the table. */
+    /** Shows one group: its note is shown instead of the invoice number, and the form never finishes the order. */
     void showGroup(EntityMakanDitempat* order, const InvoiceLines& lines, const QString& note);
-    /** False when the group has no invoice: the cashier left the form, or the order could not be read. */
+    /** False if the group got no invoice: the cashier closed the form, or the order could not be read. */
     bool payGroup(const QString& group, const InvoiceLines& lines);
-    /** The invoice takes back what nobody paid for. */
+    /** Moves unpaid lines back to the invoice. */
     void takeBack(const InvoiceLines& lines);
     [[nodiscard]] bool confirmsSplit();
 

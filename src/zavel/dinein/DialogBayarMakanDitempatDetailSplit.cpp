@@ -30,7 +30,7 @@ void DialogBayarMakanDitempatDetailSplit::setEntity(KorEntity* line)
     m_line = static_cast<EntityInvoiceDetail*>(line);
     m_ui->txtCode->setText(m_line->getItem()->getKode());
     m_ui->txtName->setText(m_line->getItem()->getNama());
-    // All that was ordered, with what is split off already: this is what can be shared out anew.
+    // The whole quantity, including what is already split off: it can be split again.
     m_ui->txtQty->setValue(m_line->getQty() + m_line->qtySplit());
     m_ui->txtQtySplit->setValue(m_line->qtySplit());
     const int group = m_ui->ddlGroupSplit->findData(m_line->splitGroup());
@@ -40,7 +40,7 @@ void DialogBayarMakanDitempatDetailSplit::setEntity(KorEntity* line)
 bool DialogBayarMakanDitempatDetailSplit::validate()
 {
     if (checkNumbers() && m_ui->txtQtySplit->value() > m_ui->txtQty->value()) {
-        // Told once, in a box of its own, with the field ready for another number.
+        // Shown once in a message box; then the field is ready for another number.
         QMessageBox::information(this, tr("Info"),
                                  tr("Split number should be less than equal to the number of orders"));
         m_ui->txtQtySplit->setFocus(Qt::OtherFocusReason);

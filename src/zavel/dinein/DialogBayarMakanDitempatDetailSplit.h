@@ -11,7 +11,7 @@ namespace Ui
 class DialogBayarMakanDitempatDetailSplit;
 }
 
-/** Takes a quantity off one line for a group of the party. The line is borrowed; only getEntity() writes to it. */
+/** Splits a quantity of one line off for a group. The line is borrowed; only getEntity() writes to it. */
 class DialogBayarMakanDitempatDetailSplit final : public KorDialog
 {
     Q_OBJECT

@@ -30,7 +30,7 @@ EntityInvoiceMakanDitempat* DialogSelectSplitInvoice::selectedInvoice() const { 
 
 void DialogSelectSplitInvoice::accept()
 {
-    // Without a choice there is nothing to open yet.
+    // Stays open until an invoice is selected.
     if (selectedInvoice())
         QDialog::accept();
 }

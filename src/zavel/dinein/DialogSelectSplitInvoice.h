@@ -5,7 +5,7 @@
 class EntityInvoiceMakanDitempat;
 class TabSelectSplitInvoice;
 
-/** Lets the cashier choose among the invoices of an order that is paid apart. */
+/** Lets the cashier choose one of an order's separate invoices. */
 class DialogSelectSplitInvoice final : public QDialog
 {
     Q_OBJECT

@@ -34,7 +34,7 @@ DialogFastFood::DialogFastFood(QWidget* parent)
     parties()->employeeField()->box()->setNextWidget(form.amounts.percents[InvoiceTotals::Discount]);
     showNewInvoice(QDate::currentDate());
     onItemAdded();
-    // The food comes first: there is nothing to pay yet.
+    // A new sale starts with the lines, since there is nothing to pay yet.
     QTimer::singleShot(0, m_menu, [this] {
         if (!isStored())
             focusLines();
@@ -57,7 +57,7 @@ void DialogFastFood::focusLines() { m_menu->focusFirstControl(); }
 
 void DialogFastFood::focusMoney()
 {
-    // After the last item comes the money; a round without one leaves the cashier at the lines.
+    // After the last item, focus the payment; without any item, stay at the lines.
     if (m_menu->orderLines().isEmpty())
         return;
     MoneyEdit* paid = m_ui->moneyPane->boxes().paid;
@@ -88,7 +88,7 @@ KorEntity* DialogFastFood::getEntity()
     stored->setAgent(parties()->agent());
     stored->setEmployee(parties()->employee());
     stored->setDetails(m_sale->invoiceLines());
-    // An invoice has less room for a name than the sale.
+    // The invoice's column for the guest's name is shorter than the sale's.
     stored->getInvoice()->setPemesan(m_sale->getPemesan().left(invoiceGuestLength));
     fillInvoice(stored->getInvoice());
     return stored;

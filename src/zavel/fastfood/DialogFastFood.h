@@ -13,8 +13,8 @@ class DialogFastFood;
 }
 
 /**
- * The form of a sale over the counter, which is keyed in and paid in one step. Confirmed, it hands the sale to its
- * saver and closes; what prints the bill is the page.
+ * The form of a counter sale: entered and paid in one step. On accept it passes the sale to its saver and closes; the
+ * page prints the bill.
  */
 class DialogFastFood final : public PaymentDialog
 {

@@ -49,7 +49,7 @@ void DialogPiutang::setEntity(KorEntity* entity)
 {
     PartPaymentsDialog::setEntity(entity);
     const auto* payment = held<EntityPiutang>();
-    // As things stand now: other payments may have paid of the same invoices since.
+    // The current open amounts: other payments may have paid the same invoices since.
     for (EntityPiutangDetail* line : payment->getDetails())
         line->setAmountDue(amountLeft(*line->getInvoice()).get());
     showStored(payment->getMember(), asEntities(payment->getDetails()), true);

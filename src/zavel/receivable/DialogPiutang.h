@@ -11,7 +11,7 @@ namespace Ui
 class DialogPiutang;
 }
 
-/** Takes a member's payment for invoices that were left open. */
+/** The payment form for a member's open invoices. */
 class DialogPiutang final : public PartPaymentsDialog
 {
     Q_OBJECT
@@ -29,7 +29,7 @@ protected:
     [[nodiscard]] const KorEntity* lineWithoutAmount() const override;
 
 private:
-    /** Asks where the payment would take the place of another credit. */
+    /** Asks first if the payment would replace another credit. */
     bool mayReplaceCredits();
 
     std::unique_ptr<Ui::DialogPiutang> m_ui;

@@ -2,7 +2,7 @@
 
 #include "zavel/order/OrderDialog.h"
 
-/** The form of an order to take away: for whom it is, and what. */
+/** The form of a take-away order: guest and lines. */
 class DialogBawaPulang final : public OrderDialog
 {
     Q_OBJECT

@@ -11,7 +11,7 @@ namespace Ui
 class DialogBayarBawaPulang;
 }
 
-/** The payment form of an order to take away, which one invoice pays as a whole. */
+/** The payment form of a take-away order, which has exactly one invoice. */
 class DialogBayarBawaPulang final : public OrderPaymentDialog
 {
     Q_OBJECT
