@@ -5,7 +5,7 @@
 #include <QMap>
 #include <QObject>
 
-/** The reports as the program loads them: one page a subject. */
+/** The report plug-in; it creates one page per subject. */
 class ReportPlugin final : public QObject, public KorPluginTabInterface
 {
     Q_OBJECT

@@ -6,10 +6,10 @@ using Column = ReportColumn;
 
 namespace
 {
-/** A sum over the takings "t", with nothing as zero. */
+/** A sum over the takings "t"; 0 instead of NULL. */
 QString sumOf(const QString& field) { return "coalesce(sum(t." + field + "), 0) as " + field; }
 
-/** Money that left a cash account, or came into it, other than by sales and members. */
+/** Cash movements other than sales and members' payments. */
 QString moved(const QString& table, const QString& date, const QString& account, const QString& in, const QString& out,
               const QString& condition = QString())
 {

@@ -2,5 +2,5 @@
 
 #include "reports/engine/Report.h"
 
-/** What each cashier took on one day by the kind of payment, and what should lie in the drawer for it. */
+/** What each cashier took on one day by kind of payment, and how much cash should be in the drawer. */
 [[nodiscard]] Report dayClose();

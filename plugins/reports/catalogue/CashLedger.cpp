@@ -2,7 +2,7 @@
 
 namespace
 {
-/** A table that moves money: its account's condition, what came in or went out, and where it calls things otherwise. */
+/** A table with money movements: the join to its account, the amounts in and out, and columns with different names. */
 struct Branch
 {
     const char* kind;
@@ -15,7 +15,7 @@ struct Branch
     const char* note = "note";
 };
 
-// Documents stand in the journal with their whole total, whatever was paid of them.
+// Documents are in the journal with their full total, however much of it was paid.
 const Branch branches[] = {
     {"order", "purchase_order", "purchase_date", "bank.id = t.bank_id", "0", "t.grandtotal_amount"},
     {"purchase", "acquisition", "purchase_date", "bank.id = t.bank_id", "0", "t.grandtotal_amount"},
@@ -31,7 +31,7 @@ const Branch branches[] = {
     {"transfer", "accounting_trans", "trans_date", "bank.id = t.to_account_id", "t.amount_amount", "0", "trans_no",
      "notes"}};
 
-/** Only what has an account and a user that are there. */
+/** Inner joins: rows without an account or a user are left out. */
 QString fromOf(const Branch& branch, const QString& condition)
 {
     return QString(" from %1 t join bank on %2 join users on users.id = t.createdby where t.%3 ")

@@ -2,16 +2,16 @@
 
 #include "reports/engine/Report.h"
 
-/** The general journal as statements: the same documents, accounts and amounts as its screen shows. */
+/** SQL of the general journal, with the same documents, accounts and amounts as its page. */
 namespace CashLedger
 {
 /**
- * A select of every movement whose day fulfils the condition ("<= :to"), which stands behind the day: account (its
- * code), accountname, day, no, kind, note, debit, credit, id, username. ":account" narrows it.
+ * Selects all movements whose day meets the condition (such as "<= :to"), which is appended to the day. Fields: account
+ * (its code), accountname, day, no, kind, note, debit, credit, id, username. ":account" selects one account.
  */
 [[nodiscard]] QString movements(const QString& condition);
-/** Of each account, what those movements come to: account, accountname, movements, debit, credit. */
+/** Sums of these movements per account: account, accountname, movements, debit, credit. */
 [[nodiscard]] QString sums(const QString& condition);
-/** How the kinds of movements read. */
+/** The texts of the kinds of movements. */
 [[nodiscard]] QList<QPair<QVariant, const char*>> kindWords();
 } // namespace CashLedger

@@ -25,14 +25,14 @@ Report ofMovements(const QString& id, const char* title, const char* about)
     return report;
 }
 
-/** What each account had before the period. */
+/** The balance of each account before the period. */
 QString opening()
 {
     return "opening as (select account, accountname, debit - credit as balance from (" + CashLedger::sums("< :from") +
            ") before)";
 }
 
-/** The same after the movements of the period, as "moved". */
+/** The movements of the period as "moved", then opening(). */
 QString periodAndBefore()
 {
     return "with moved as (" + CashLedger::movements("between :from and :to") + "), " + opening();

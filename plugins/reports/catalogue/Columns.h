@@ -2,7 +2,7 @@
 
 #include "reports/engine/Report.h"
 
-/** Columns that many reports have, by the same fields and under the same titles. */
+/** Columns that many reports share, with the same field names and titles. */
 namespace Columns
 {
 /** "code", "name", "itemtype" and "unit" of an item. */
@@ -10,21 +10,21 @@ namespace Columns
 [[nodiscard]] ReportColumn item();
 [[nodiscard]] ReportColumn itemType();
 [[nodiscard]] ReportColumn unit();
-/** "supplier", "no", "day", "note" and "username": the name, the house's own number, and who entered it. */
+/** "supplier" (name), "no" (the document's own number), "day", "note" and "username" (who entered it). */
 [[nodiscard]] ReportColumn supplier();
 [[nodiscard]] ReportColumn number();
 [[nodiscard]] ReportColumn day();
 [[nodiscard]] ReportColumn note();
 [[nodiscard]] ReportColumn user();
-/** "status" of a purchase or a return in words. */
+/** The text for "status" of a purchase or a return. */
 [[nodiscard]] ReportColumn paidStatus();
 } // namespace Columns
 
-/** Conditions for the questions of the same name; each begins with "and". */
+/** Conditions for the parameters of the same name; each begins with "and". */
 namespace Asked
 {
-/** ":itemtype" and ":item", with the table "item" at hand. */
+/** ":itemtype" and ":item"; the statement must join the table "item". */
 extern const char* const item;
-/** ":supplier", with the table "supplier" at hand. */
+/** ":supplier"; the statement must join the table "supplier". */
 extern const char* const supplier;
 } // namespace Asked

@@ -2,7 +2,7 @@
 
 #include "reports/engine/Report.h"
 
-/** The reports of goods and of those who deal with the house, by what they tell about. */
+/** The reports on master data, stock and purchasing, grouped by topic. */
 namespace GoodsLists
 {
 /** Items with their prices, accounts and components. */
@@ -14,15 +14,15 @@ namespace GoodsLists
 /** Users and rights. */
 [[nodiscard]] QList<Report> users();
 
-/** What there is on a day, what is below nothing and what lies still. */
+/** Stock on hand on a day, negative stock, and items without movements. */
 [[nodiscard]] QList<Report> stockAtADay();
-/** What came, went and was counted in a period. */
+/** Movements and stock counts of a period. */
 [[nodiscard]] QList<Report> stockOfAPeriod();
 
-/** What was bought in a period. */
+/** Purchases of a period. */
 [[nodiscard]] QList<Report> purchases();
-/** Orders that are still to come, and what went back. */
+/** Open purchase orders and returns. */
 [[nodiscard]] QList<Report> ordersAndReturns();
-/** What the house owes and what it paid. */
+/** Open purchases and payments to suppliers. */
 [[nodiscard]] QList<Report> payables();
 } // namespace GoodsLists

@@ -143,7 +143,7 @@ Report tables()
     return report;
 }
 
-/** A list that items are sorted into, with how many of them are. */
+/** A list such as units or item types, with the number of items in each. */
 Report itemList(const QString& id, const char* title, const char* about, const QString& table, const QString& column)
 {
     Report report;

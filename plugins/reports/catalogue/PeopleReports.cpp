@@ -7,7 +7,7 @@ namespace
 {
 ReportParameter called() { return ReportParameter::contains("name", QT_TRANSLATE_NOOP("Reports", "Code or name:")); }
 
-/** Whoever is called so, with what all contacts have. */
+/** Contacts that match the name, with the columns that all contacts have. */
 QString contactsOf(const QString& table, const QString& select, const QString& joins, const QString& condition = {})
 {
     return QString(
@@ -28,7 +28,7 @@ QList<ReportColumn> contactColumns()
 ReportColumn accountNumber() { return Column::text("norek", QT_TRANSLATE_NOOP("Reports", "Account No.")); }
 ReportColumn accountHolder() { return Column::text("holder", QT_TRANSLATE_NOOP("Reports", "Account holder")); }
 
-/** "Those who owe" or everybody. */
+/** The choice between those who owe and all. */
 ReportParameter owing(const char* words)
 {
     return ReportParameter::choice("owing", QT_TRANSLATE_NOOP("Reports", "Show:"), {{"yes", words}});
@@ -66,8 +66,8 @@ Report members()
         QT_TRANSLATE_NOOP("Reports", "The members with their discounts, and what each owes today on invoices "
                                      "that are not fully paid.");
     report.parameters = {called(), owing(QT_TRANSLATE_NOOP("Reports", "Only those who owe"))};
-    // A member stands on the order of a table, and on the invoice's own record for the other ways of selling. What
-    // nobody known has sold is in no list of sales, and offered to no payment.
+    // The member of a dine-in sale is in its order, otherwise in the sale's own record. Invoices without a known user
+    // are left out, as in the sales lists and the payment forms.
     report.query = contactsOf("member",
                               "member.expired_date as expires, member.discount_percentage as discount, open.invoices, "
                               "open.due",
@@ -157,7 +157,7 @@ Report rights()
                                                      {1, QT_TRANSLATE_NOOP("Reports", "Own records")},
                                                      {2, QT_TRANSLATE_NOOP("Reports", "All records")}};
     report.parameters = {group(), ReportParameter::choice("grant", QT_TRANSLATE_NOOP("Reports", "Right:"), grants)};
-    // A right that was never decided is none.
+    // A right without a row counts as denied.
     report.query = QString(R"(
         select * from (
             select user_group.id, user_group.name as usergroup, business.name as service,

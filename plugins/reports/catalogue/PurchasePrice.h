@@ -2,10 +2,10 @@
 
 #include <QString>
 
-/** The price that margins are reckoned with: that of the item's last purchase, or its unit cost if none was made. */
+/** The price for calculating margins: that of the item's last purchase, or its unit cost if there is none. */
 namespace PurchasePrice
 {
-/** A select of item_id, price and bought (the day, if any); the limit is statement text, and purchases on it count. */
+/** Selects item_id, price and bought (the day; may be NULL). The limit is SQL; purchases on that day count. */
 [[nodiscard]] inline QString lastUntil(const QString& limit)
 {
     return "select item.id as item_id, coalesce(last.price, item.harga_beli_amount) as price, last.bought from item "

@@ -22,7 +22,7 @@ QList<ReportColumn> sumColumns()
             money("tax", QT_TRANSLATE_NOOP("Reports", "Tax")), total()};
 }
 
-/** Purchases of the period, with their supplier and who entered them. */
+/** Purchases of the period, with supplier and user. */
 QString purchasesOf(const QString& select, const QString& end)
 {
     return "select " + select +

@@ -2,7 +2,7 @@
 
 #include "reports/engine/Report.h"
 
-/** Questions that many reports ask in the same words. An id is bound as text: compare "(:x::bigint is null or ...)". */
+/** Parameters that many reports share. Ids are bound as text: compare with "(:x::bigint is null or ...)". */
 namespace Questions
 {
 /** ":type": "TRD", "TRF" or "TRP". */

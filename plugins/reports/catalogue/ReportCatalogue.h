@@ -2,7 +2,7 @@
 
 #include "reports/engine/Report.h"
 
-/** All reports there are, by subject. A new report is one more description in its subject's list. */
+/** All reports by subject. To add a report, add its description to the list of its subject. */
 namespace ReportCatalogue
 {
 [[nodiscard]] QList<ReportSubject> subjects();

@@ -18,8 +18,8 @@ Report earned()
                          ReportParameter::choice("paid", QT_TRANSLATE_NOOP("Reports", "Status:"),
                                                  {{"1", QT_TRANSLATE_NOOP("Reports", "Paid")},
                                                   {"2", QT_TRANSLATE_NOOP("Reports", "Not yet paid")}})};
-    // The agent stands in the link of a table's or of a counter's sale. The amount is rounded as the program rounds
-    // money: Rupiah have no cents, and the cents of other currencies are reckoned with but not kept.
+    // The agent is in the record that links a dine-in or fast-food sale to its invoice. Amounts are rounded to whole
+    // units, as Rupiah have no cents; the program rounds money the same way.
     report.query = R"(
         with paid as (select line.invoice_id, sum(line.commision_amount) as amount, max(pay.payment_date) as day
                       from komisi_agen_detail line join komisi_agen pay on pay.id = line.komisi_agen_id

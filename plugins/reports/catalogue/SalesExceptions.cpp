@@ -29,7 +29,7 @@ QString ofInvoices(const QString& kind, const QString& figures, const QString& j
            " where i.invoice_date between :from and :to and (" + condition + ')';
 }
 
-/** Numbers are drawn one after the other: a step that is too long tells of invoices that are no longer there. */
+/** Invoice numbers are consecutive, so a gap means that invoices are missing. */
 const char* const missingNumbers = R"(
     select 'gap' as kind, day, before || ' ... ' || coalesce(no, '') as document, null as subject, null::numeric as amount,
            null::numeric as percent, missing as number, null::int as createdby, null::timestamp as createdtime,
@@ -47,7 +47,7 @@ const char* const missingNumbers = R"(
           window each as (partition by type order by id nulls last)) steps
     where missing > 0 and day between :from and :to)";
 
-/** Money is taken on an invoice alone, and only an order with an invoice can be ended. */
+/** Orders that are billed or finished although they have no invoice. */
 QString ordersWithoutInvoice(const QString& table, const QString& subject, const QString& joins)
 {
     return "select 'gone', o.tgl, null, " + subject +
@@ -60,7 +60,7 @@ QString ordersWithoutInvoice(const QString& table, const QString& subject, const
            subject;
 }
 
-/** What came to the table after the bill, and was never added to one. */
+/** Lines that were ordered after the bill and are on no bill. */
 QString orderedNotBilled(const QString& table, const QString& subject, const QString& joins)
 {
     const QString orders = " from " + table + " o join invoice_" + table + " link on link." + table + "_id = o.id ";
@@ -81,7 +81,7 @@ QString orderedNotBilled(const QString& table, const QString& subject, const QSt
            subject;
 }
 
-/** Lines of payments stay when an invoice is deleted. */
+/** Payment lines whose invoice was deleted. */
 QString paidForNothing(const QString& table, const QString& partner, const QString& amount)
 {
     return "select 'orphan', pay.payment_date, pay.no, partner.nama, line." + amount +
@@ -107,7 +107,7 @@ QString allKinds()
                    "i.invoice_type = 'TRD' and dine.id is null or i.invoice_type = 'TRP' and away.id is null"),
         paidForNothing("piutang", "member", "amount_paid_amount"),
         paidForNothing("komisi_agen", "agent", "commision_amount"),
-        // A member's later payment saves the invoice too, which is nothing to look into.
+        // A member's later payment also updates the invoice, which is normal.
         ofInvoices("again", "i.grandtotal_amount, null, i.version - 1",
                    "left join piutang_detail line on line.invoice_id = i.id",
                    "i.updatedtime is not null and line.id is null"),
@@ -122,7 +122,7 @@ QString allKinds()
                    links + "left join makan_ditempat dineorder on dineorder.id = dine.makan_ditempat_id "
                            "left join bawa_pulang awayorder on awayorder.id = away.bawa_pulang_id",
                    "i.status <> 1 and " + due + " > 0 and coalesce(dineorder.status, awayorder.status) = 6"),
-        // One day apart is a guest who paid after midnight.
+        // One day of difference is a guest who paid after midnight.
         ofInvoices("day", "i.grandtotal_amount, null, i.createdtime::date - i.invoice_date", {},
                    "i.createdtime::date - i.invoice_date not between 0 and 1")}
         .join(" union all ");

@@ -18,7 +18,7 @@ ReportColumn member()
         .words({{"", QT_TRANSLATE_NOOP("Reports", "No member")}});
 }
 
-/** The members' names, of an invoice "i" that has one. */
+/** Joins the member of the invoice "i", if any. */
 const char* const memberJoin = "left join member m on m.id = i.member_id";
 
 Report invoices()
@@ -88,8 +88,8 @@ Report discounts()
 }
 
 /**
- * Everything that is still to be paid, by the day until which it should have been. It is owed by the member to whose
- * payments the invoice is offered: the order's, as far as there is one.
+ * All unpaid amounts with their due date. The debtor is the member in whose payment form the invoice appears: the
+ * order's member if there is one.
  */
 const char* const openInvoices = R"(
     select i.id, i.no, i.invoice_date as day, coalesce(dine.due_date, i.invoice_date) as until,

@@ -7,8 +7,8 @@ using Column = ReportColumn;
 namespace
 {
 /**
- * What was sold of each item, as "lines"; the rest of the statement follows. They are summed before the items are
- * joined: years of sales have millions of lines, but few items.
+ * The sums per item, as "lines", and the rest of the statement. Summed before joining the items, because years of sales
+ * have millions of lines but few items.
  */
 QString soldItems(const QString& with, const QString& select, const QString& joins, const QString& end)
 {
@@ -38,7 +38,7 @@ Report ofItems(const QString& id, const char* title, const char* about)
 ReportColumn total() { return Column::money("total", QT_TRANSLATE_NOOP("Reports", "Total")).sum(); }
 ReportColumn share() { return Column::percent("share", QT_TRANSLATE_NOOP("Reports", "Share")).sum(); }
 
-/** The item itself, and how much was sold of it. */
+/** The item and the quantity sold. */
 QList<ReportColumn> itemColumns()
 {
     return {Column::text("itemtype", QT_TRANSLATE_NOOP("Reports", "Item type")),

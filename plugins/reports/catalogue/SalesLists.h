@@ -2,19 +2,19 @@
 
 #include "reports/engine/Report.h"
 
-/** The reports of sales by what they tell about. */
+/** The sales reports, grouped by topic. */
 namespace SalesLists
 {
 /** By day, week, month, hour and weekday. */
 [[nodiscard]] QList<Report> byTime();
 /** By type of sale, table, waitress, cashier, member and agent. */
 [[nodiscard]] QList<Report> byPartner();
-/** By item and item type, and the margin. */
+/** By item and item type, and the margins. */
 [[nodiscard]] QList<Report> byItem();
-/** Invoice by invoice: all of them, those with a discount, those still open, and what is odd about some. */
+/** Single invoices: all, those with a discount, open ones, and receivables. */
 [[nodiscard]] QList<Report> ofInvoices();
-/** What agents earned and were paid. */
+/** Commissions that agents earned and were paid. */
 [[nodiscard]] QList<Report> ofAgents();
-/** Where somebody should look twice. */
+/** Unusual sales that the owner should check. */
 [[nodiscard]] Report exceptions();
 } // namespace SalesLists

@@ -5,11 +5,11 @@ using Column = ReportColumn;
 
 namespace
 {
-/** A partner's name; the words tell of the sales that have none. */
+/** A partner's name; sales without one show the other text. */
 ReportColumn name(const char* title, const char* none) { return Column::text("name", title).words({{"", none}}); }
 } // namespace
 
-// Partners are joined as the list of all sales joins them.
+// The same joins as in the list of all sales.
 QList<Report> SalesLists::byPartner()
 {
     const char* const links = "left join invoice_makan_ditempat dine on dine.invoice_id = i.id "

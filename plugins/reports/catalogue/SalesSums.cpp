@@ -6,8 +6,8 @@ using Column = ReportColumn;
 
 namespace SalesSums
 {
-// An overpaid sale took no more cash than it came to: the change went back. What is due is reckoned from the amounts,
-// because the kinds of sales store it with different signs.
+// The cash of an overpaid sale is its total, because the change was returned. The due amount is calculated, because the
+// kinds of sale store it with different signs.
 const char* const sums = R"(
     count(*) as sales, sum(i.sub_total_amount) as subtotal, sum(i.discount_amount) as discount,
     sum(i.tax_amount) as tax, sum(i.service_amount) as service, sum(i.grandtotal_amount) as total,

@@ -6,8 +6,8 @@ using Column = ReportColumn;
 namespace
 {
 /**
- * A row for each day, week or month from the first to the last with a sale. Those between them without any stand
- * there too, or the line would pass over the days when the house was closed.
+ * One row for each day, week or month from the first to the last with a sale. Those without sales are included;
+ * otherwise the line in the chart would hide days when the restaurant was closed.
  */
 Report overTime(const QString& id, const char* title, const char* about, const QString& unit,
                 const ReportColumn& column)
@@ -35,7 +35,7 @@ Report overTime(const QString& id, const char* title, const char* about, const Q
     return report;
 }
 
-/** Columns of what comes back day after day: the average of the days on which anything was sold. */
+/** Columns for recurring times, with the average per day on which anything was sold. */
 QList<ReportColumn> recurringColumns(const ReportColumn& column)
 {
     return QList<ReportColumn>{column} + SalesSums::columns({"sales", "total", "share", "average"}) +

@@ -4,7 +4,7 @@
 
 namespace
 {
-/** The last count of each item not later than the day; of two counts on one day the later entered one. */
+/** The last count of each item up to the day; of two counts on one day, the one entered last. */
 QString counts(const QString& name, const QString& day)
 {
     return QString("%1 as (select distinct on (item_id) item_id, tanggal as day, qty from stock_take where tanggal <= "
@@ -13,8 +13,8 @@ QString counts(const QString& name, const QString& day)
 }
 
 /**
- * One kind of movement in one row an item, in a single walk over the documents: years of sales have millions of
- * lines. What moved on the day of the count itself counts on top of it.
+ * One kind of movement, one row per item, in one scan of the documents, because years of sales have millions of lines.
+ * Movements on the day of the count are added to the count.
  */
 QString moved(const QString& name, const QString& document, const QString& date, const QString& quantity,
               const QString& lastDay, const QString& firstDay, const QString& condition = QString())
@@ -34,7 +34,7 @@ QString moved(const QString& name, const QString& document, const QString& date,
              firstDay.isEmpty() ? QString() : "left join opened on opened.item_id = line.item_id", lastDay, condition);
 }
 
-/** What there was: the count or the beginning balance, and what moved since. */
+/** The quantity: the count or the beginning balance, plus movements since. */
 QString quantity(const QString& counted, const QString& field)
 {
     return QString("coalesce(%1.qty, stok_awal.jumlah, 0) + coalesce(bought.%2, 0) - coalesce(sold.%2, 0) - "

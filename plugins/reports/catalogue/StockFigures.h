@@ -3,15 +3,15 @@
 #include <QString>
 
 /**
- * The quantity on hand, reckoned as the program does: from an item's last count or its beginning balance, and from
- * what was bought, sold and returned since. The parts stand between "with" and the select, separated by commas.
+ * SQL for the quantity on hand, calculated as the program does: the last count or the beginning balance, plus
+ * purchases, minus sales and returns since. The parts belong between "with" and the select, separated by commas.
  */
 namespace StockFigures
 {
 /**
- * "stock" with a row for every item: item_id, closing, what there was at the end of the last day; counted, the day of
- * the count that it goes by; lastbought and lastsold. With a first day also opening, what there was before it, and
- * what was bought, sold and returned from that day on. Both are statement text.
+ * "stock" with one row per item: item_id; closing, the quantity at the end of the last day; counted, the day of its
+ * last count; lastbought and lastsold. With a first day also opening, the quantity before that day, and bought, sold
+ * and returned from that day on. Both days are SQL.
  */
 [[nodiscard]] QString stock(const QString& lastDay, const QString& firstDay = QString());
 /** "price": item_id, price, bought. */

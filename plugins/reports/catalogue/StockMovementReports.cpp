@@ -10,7 +10,7 @@ namespace
 const char* const itemFields = "jenis_item.nama as itemtype, item.kode as code, item.nama as name, satuan.kode as unit";
 const char* const itemJoins = " join jenis_item on jenis_item.id = item.jenis join satuan on satuan.id = item.satuan ";
 
-// Kilograms and pieces have no sum; only of one item it says something.
+// Not summed, because quantities in different units do not add up. Only the journal sums them, for use with one item.
 ReportColumn quantity(const QString& field, const char* title) { return Column::quantity(field, title); }
 
 Report movements()

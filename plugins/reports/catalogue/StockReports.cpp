@@ -10,7 +10,7 @@ namespace
 {
 ReportParameter stockDay() { return ReportParameter::day("day", QT_TRANSLATE_NOOP("Reports", "On:")); }
 
-/** The counted items at the end of the day, from "stock" and "price". */
+/** Stock items at the end of the day, from "stock" and "price". */
 QString stockOn(const QString& select, const QString& joins, const QString& condition, const QString& order)
 {
     return "with " + StockFigures::stock(":day::date") + ", " + StockFigures::price(":day::date") +
@@ -80,7 +80,7 @@ Report idle()
                                                 "days: money that lies in the storeroom.");
     report.parameters = {stockDay(), ReportParameter::number("days", QT_TRANSLATE_NOOP("Reports", "Idle days:"), 60),
                          Questions::itemType(), Questions::item()};
-    // An item that never moved has lain there since its beginning balance.
+    // For an item that never moved, the day of its beginning balance is used.
     report.query = stockOn(", stock.lastsold, stock.lastbought, :day::date - moved.day as idle",
                            "left join stok_awal on stok_awal.item_id = item.id cross join lateral (select "
                            "coalesce(greatest(stock.lastsold, stock.lastbought), stok_awal.createdtime::date) as day) "

@@ -6,29 +6,29 @@
 #include <QString>
 #include <QVariant>
 
-/** The words of the reports in the language in use. */
+/** Translates a source text of the reports. */
 inline QString reportText(const char* source) { return QCoreApplication::translate("Reports", source); }
 
 /** One column of a report's grid. Titles are source texts of the context "Reports". */
 struct ReportColumn
 {
-    /** Decides alignment, wording, and what a spreadsheet gets. Money is in whole units of the currency. */
+    /** Decides the alignment, the text format and the CSV format. Money is in whole units of the currency. */
     enum Kind { Text, Date, Month, DateTime, Count, Quantity, Money, Percent };
 
     QString field;
     const char* title = "";
     Kind kind = Text;
     bool summed = false;
-    // A quotient of two other columns, which holds for subtotals and totals as well; a percentage is times a hundred.
+    // For a quotient of two other columns, also in subtotals and totals; a percentage is multiplied by 100.
     QString numerator;
     QString denominator;
-    // What the values of a code read as; a value without words stands as it is.
+    // The texts for the values of a code; other values are shown unchanged.
     QList<QPair<QVariant, const char*>> valueWords = {};
 
     [[nodiscard]] bool isNumber() const { return kind >= Count; }
     [[nodiscard]] bool isQuotient() const { return !numerator.isEmpty(); }
 
-    /** With a sum below the groups and at the end. */
+    /** The same column with subtotals and a total. */
     [[nodiscard]] ReportColumn sum() const
     {
         ReportColumn column = *this;
@@ -36,14 +36,14 @@ struct ReportColumn
         return column;
     }
 
-    /** Shows the words of a code: words({{"TRD", "Dine in"}, ...}). */
+    /** The same column with texts for a code: words({{"TRD", "Dine in"}, ...}). */
     [[nodiscard]] ReportColumn words(const QList<QPair<QVariant, const char*>>& words) const
     {
         ReportColumn column = *this;
         column.valueWords = words;
         return column;
     }
-    /** Which of the words stands for the value; their number for none. */
+    /** The index of the text for the value; valueWords.size() if there is none. */
     [[nodiscard]] int wordOf(const QVariant& value) const
     {
         int index = 0;
@@ -60,7 +60,7 @@ struct ReportColumn
 
     static ReportColumn text(const QString& field, const char* title) { return {field, title, Text, false, {}, {}}; }
     static ReportColumn date(const QString& field, const char* title) { return {field, title, Date, false, {}, {}}; }
-    /** Any day of the month. */
+    /** The value may be any day of the month. */
     static ReportColumn month(const QString& field, const char* title) { return {field, title, Month, false, {}, {}}; }
     static ReportColumn time(const QString& field, const char* title)
     {
@@ -72,18 +72,18 @@ struct ReportColumn
         return {field, title, Quantity, false, {}, {}};
     }
     static ReportColumn money(const QString& field, const char* title) { return {field, title, Money, false, {}, {}}; }
-    /** A percentage that the query gives. */
+    /** A percentage calculated by the query. */
     static ReportColumn percent(const QString& field, const char* title)
     {
         return {field, title, Percent, false, {}, {}};
     }
-    /** The numerator's share of the denominator; both may be columns that are not shown. */
+    /** The numerator as a percentage of the denominator; both may be hidden fields. */
     static ReportColumn share(const QString& field, const char* title, const QString& numerator,
                               const QString& denominator)
     {
         return {field, title, Percent, false, numerator, denominator};
     }
-    /** The amount that falls on each of the denominator. */
+    /** The amount divided by the denominator. */
     static ReportColumn average(const QString& field, const char* title, const QString& numerator,
                                 const QString& denominator)
     {
@@ -91,7 +91,7 @@ struct ReportColumn
     }
 };
 
-/** What a report asks before it runs. A question left open binds NULL. */
+/** A parameter that the user enters before a report runs. An empty one binds NULL. */
 struct ReportParameter
 {
     /** A period binds ":from" and ":to", both days included; the others bind their name. */
@@ -101,14 +101,14 @@ struct ReportParameter
     QString name;
     const char* title = "";
     QVariant initial;
-    /** A choice is one of these values, or one of the rows (value, label) that the statement gives, or all. */
+    /** The choices: these values, or the rows (value, label) of the query, and "All". */
     QList<QPair<QVariant, const char*>> choices;
     QString choicesQuery;
-    /** A choice that must be made: the first one stands at the start, and there is no "All". */
+    /** A mandatory choice: the first one is the default, and there is no "All". */
     bool required = false;
 
     static ReportParameter period() { return {Period, "period", "", {}, {}, {}, true}; }
-    /** One day, today at the start. */
+    /** One day; the default is today. */
     static ReportParameter day(const QString& name, const char* title) { return {Day, name, title, {}, {}, {}, true}; }
     /** Part of a text; bound in lower case with "%" around it, NULL when empty. */
     static ReportParameter contains(const QString& name, const char* title)
@@ -135,7 +135,7 @@ struct ReportParameter
     }
 };
 
-/** The picture above a grid. */
+/** The chart above a grid. */
 struct ReportChart
 {
     enum Kind { None, Bars, Lines };
@@ -143,7 +143,7 @@ struct ReportChart
     Kind kind = None;
     QString category;
     QList<QString> series;
-    /** Categories are put in the order of their size, and the small ones as one; otherwise they stand as they come. */
+    /** Sorts the categories by size and combines the small ones; otherwise the order of the rows is kept. */
     bool ranked = false;
 
     static ReportChart bars(const QString& category, const QList<QString>& series)
@@ -161,27 +161,27 @@ struct ReportChart
 };
 
 /**
- * A report, told once: what it asks, the statement that answers, and how the answer is shown. The statement is a
- * single select with named values (":from", ":member"); an optional one is written
- * "(:member::integer is null or member_id = :member)". Fields are the names of the columns that the statement gives.
+ * The description of a report: its parameters, its statement, and how the result is shown. The statement is a single
+ * select with named placeholders (":from", ":member"); an optional one is written "(:member::integer is null or
+ * member_id = :member)". Fields are the names of the selected columns.
  */
 struct Report
 {
-    /** Stands in file names and tells the reports apart. */
+    /** Unique; used in file names. */
     QString id;
     const char* title = "";
-    /** One sentence: what the figures are and are not. */
+    /** One sentence: what the figures include and what not. */
     const char* about = "";
     QList<ReportParameter> parameters;
     QString query;
     QList<ReportColumn> columns;
-    /** The field whose equal values make a group with subtotals; the statement need not sort by it. */
+    /** Rows with equal values in this field form a group with subtotals; the statement need not sort by it. */
     QString group;
     ReportChart chart;
 
     [[nodiscard]] QString titleText() const { return reportText(title); }
     [[nodiscard]] QString aboutText() const { return reportText(about); }
-    /** -1 for a field that is not among the columns. */
+    /** The index of the column; -1 if there is none. */
     [[nodiscard]] int columnOf(const QString& field) const
     {
         for (int i = 0; i < columns.size(); ++i) {
@@ -195,7 +195,7 @@ struct Report
 /** The reports of one subject. */
 struct ReportSubject
 {
-    /** The name that the program asks by: "Penjualan" for one. */
+    /** The name that the program asks for, such as "Penjualan". */
     QString name;
     const char* title;
     QList<Report> reports;

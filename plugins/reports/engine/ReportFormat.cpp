@@ -33,7 +33,7 @@ QString ReportFormat::number(double value, ReportColumn::Kind kind) const
 {
     if (kind == ReportColumn::Percent)
         return m_locale.toString(value, 'f', 1) + " %";
-    // Quantities are whole as a rule; parts of one are told as far as they go.
+    // Quantities are usually whole; others are shown with decimals.
     const bool broken = kind == ReportColumn::Quantity && !qFuzzyIsNull(value - qRound64(value));
     return m_locale.toString(value, 'f', broken ? 2 : 0);
 }

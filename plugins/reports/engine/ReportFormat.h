@@ -6,10 +6,10 @@
 
 class ReportTable;
 
-/** How the restaurant writes figures and days, whatever language the program speaks. */
+/** The restaurant's locale for numbers and dates, independent of the program's language. */
 [[nodiscard]] QLocale restaurantLocale();
 
-/** How a report's values read on screen and paper. */
+/** Formats a report's values for screen and paper. */
 class ReportFormat
 {
 public:
@@ -17,7 +17,7 @@ public:
 
     [[nodiscard]] QString text(const QVariant& value, ReportColumn::Kind kind) const;
     [[nodiscard]] QString number(double value, ReportColumn::Kind kind) const;
-    /** A cell as grid and paper show it; lines of sums say so in their first words. */
+    /** The text of a cell; in sum lines, the first columns say so. */
     [[nodiscard]] QString cell(const ReportTable& table, int line, int column) const;
     [[nodiscard]] static Qt::Alignment alignment(ReportColumn::Kind kind);
 

@@ -12,7 +12,7 @@
 
 namespace
 {
-/** In plain words first, and without the piece of the statement that the server quotes; on one line. */
+/** The error on one line: a plain explanation first, without the part of the statement that the server quotes. */
 QString told(const QSqlError& error, const QSqlDatabase& database)
 {
     const KorFailure::Connection connection = database.isOpen() ? KorFailure::Kept : KorFailure::Lost;
@@ -24,7 +24,7 @@ constexpr int batchSize = 2000;
 
 QString newName() { return "report-" + QUuid::createUuid().toString(QUuid::WithoutBraces); }
 
-/** A connection of the calling thread for as long as it lives; no query on it may outlive it. */
+/** A connection for the calling thread, closed by the destructor; its queries must be destroyed before. */
 class OwnConnection
 {
 public:
@@ -36,8 +36,8 @@ public:
         database.setDatabaseName(to.database);
         database.setUserName(to.user);
         database.setPassword(to.password);
-        // More processes for one report would hold up the tills; sums over years fit the memory; a report must not
-        // write.
+        // Few parallel workers, so that a report does not slow down the tills; enough memory for sums over years;
+        // read-only.
         database.setConnectOptions("connect_timeout=5;tcp_user_timeout=10000;application_name=zavelpos-reports;"
                                    "options=-c\\ default_transaction_read_only=on\\ "
                                    "-c\\ max_parallel_workers_per_gather=1\\ -c\\ work_mem=64MB\\ -c\\ TimeZone=" +
@@ -82,7 +82,7 @@ void ReportRun::cancel()
 {
     if (m_cancelled.exchange(true) || !isRunning())
         return;
-    // Asking the server takes a connection, which the window must not wait for.
+    // Cancelling needs another connection; the window must not wait for that.
     m_teller.reset(QThread::create([to = m_connection, backend = m_backend.load()] {
         if (backend == 0)
             return;
@@ -126,7 +126,7 @@ bool ReportRun::read(int index, QString* error, bool* cutOff)
 {
     const ReportStatement& statement = m_statements.at(index);
     QSqlQuery query(QSqlDatabase::database(m_name, false));
-    // Row by row as they come, instead of all of them in the driver's memory first.
+    // Fetch rows as they arrive, instead of storing all in the driver first.
     query.setForwardOnly(true);
     bool good = query.prepare(statement.text);
     for (auto value = statement.values.cbegin(); good && value != statement.values.cend(); ++value) {

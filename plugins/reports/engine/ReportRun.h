@@ -7,7 +7,7 @@
 #include <atomic>
 #include <memory>
 
-/** The database that the reports are read from, as the program told it. */
+/** The database connection for the reports, as set by the program. */
 struct ReportConnection
 {
     QString host;
@@ -17,7 +17,7 @@ struct ReportConnection
     QString password;
 };
 
-/** A statement with the values of its names. */
+/** A statement with the values of its placeholders. */
 struct ReportStatement
 {
     QString text;
@@ -25,27 +25,27 @@ struct ReportStatement
 };
 
 /**
- * Reads statements one after the other on a thread and a connection of its own, which may only read. The rows arrive
- * in batches while the server is still sending. Destroying a run cancels it and waits for its end.
+ * Runs statements one after the other on a separate thread and a read-only connection. Rows are emitted in batches
+ * while the server still sends. The destructor cancels the run and waits for its end.
  */
 class ReportRun final : public QThread
 {
     Q_OBJECT
 
 public:
-    /** More rows than anybody reads, and still within the memory of a workstation. */
+    /** More rows than anybody reads, but few enough for the memory of a workstation. */
     static constexpr int maximalRows = 200000;
 
     ReportRun(ReportConnection connection, QList<ReportStatement> statements, QObject* parent = nullptr);
     ~ReportRun() override;
 
-    /** Ends the statement on the server too; failed() is not told then, stopped() is. */
+    /** Cancels the statement on the server too; stopped() is emitted then instead of failed(). */
     void cancel();
 
 signals:
     void fields(int statement, const QStringList& names);
     void rows(int statement, const QVector<ReportRow>& rows);
-    /** All statements have been read; cut off tells that one gave more than maximalRows. */
+    /** All statements are done; cutOff if one returned more than maximalRows. */
     void done(bool cutOff);
     void failed(const QString& reason);
     void stopped();
@@ -61,6 +61,6 @@ private:
     std::atomic_bool m_cancelled{false};
     std::atomic_int m_backend{0};
     QString m_name;
-    // Tells the server of the cancelling.
+    // Cancels the statement on the server.
     std::unique_ptr<QThread> m_teller;
 };

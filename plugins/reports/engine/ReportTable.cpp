@@ -48,7 +48,7 @@ void ReportTable::arrange(int column, Qt::SortOrder order)
     const auto isBefore = [this, group, column, order](int left, int right) {
         const bool descending = order == Qt::DescendingOrder;
         if (group >= 0) {
-            // Groups stay together; only their own column turns their order round.
+            // Groups stay together; only sorting by the group column reverses their order.
             const bool turned = column == group && descending;
             if (isLess(left, right, group))
                 return !turned;
@@ -90,7 +90,7 @@ bool ReportTable::isLess(int left, int right, int column) const
     const ReportColumn& shown = m_report.columns.at(column);
     if (shown.isNumber())
         return a.toDouble() < b.toDouble();
-    // Monday comes before Friday in every language; what has no words of its own comes last.
+    // Sort by the order of the texts (Monday before Friday); values without a text come last.
     const int leftWord = shown.wordOf(codeAt(left, column));
     const int rightWord = shown.wordOf(codeAt(right, column));
     if (leftWord != rightWord)

@@ -5,12 +5,12 @@
 #include <QHash>
 #include <QVector>
 
-/** The values of one row, in the order of the statement's fields. */
+/** The values of one row in the order of the fields. */
 using ReportRow = QVector<QVariant>;
 
 /**
- * What a report's statement gave: sorted, in groups, with subtotals and a total. A line is what the grid and the paper
- * show: a row of the answer, the sums of a group, or those of everything.
+ * The result of a report: sorted and grouped, with subtotals and a total. A line is one line of the grid and on paper:
+ * a row, a subtotal or the total.
  */
 class ReportTable
 {
@@ -21,18 +21,18 @@ public:
 
     [[nodiscard]] const Report& report() const { return m_report; }
     void clear();
-    /** The names of the statement's fields, before the first rows. */
+    /** Sets the field names; call it before the first rows. */
     void setFields(const QStringList& fields);
     void append(const QVector<ReportRow>& rows);
-    /** Puts the lines in order and adds the sums; call it when all rows are there. No column: as the rows came. */
+    /** Sorts the lines and adds the sums; call it when all rows are there. Column -1 keeps the order of the rows. */
     void arrange(int column = -1, Qt::SortOrder order = Qt::AscendingOrder);
 
     [[nodiscard]] int rowCount() const { return m_rows.size(); }
     [[nodiscard]] int lineCount() const { return m_lines.size(); }
     [[nodiscard]] LineKind lineKind(int line) const { return m_lines.at(line).kind; }
-    /** What stands there; invalid where a sum line has nothing to say. */
+    /** The value of a cell; invalid for columns without a sum in sum lines. */
     [[nodiscard]] QVariant value(int line, int column) const;
-    /** The value of a row as the answer gave it, codes in words, whatever the order of the lines. */
+    /** The value of a row in the original order, with codes replaced by their texts. */
     [[nodiscard]] QVariant rowValue(int row, int column) const;
     /** The sum over all rows; invalid for columns that are not summed. */
     [[nodiscard]] QVariant total(int column) const;
@@ -56,6 +56,6 @@ private:
     QHash<QString, int> m_fields;
     QVector<ReportRow> m_rows;
     QVector<Line> m_lines;
-    // Everything that is added up: the summed columns and what the quotients are made of.
+    // All fields to add up: summed columns and the parts of quotients.
     QStringList m_summedFields;
 };

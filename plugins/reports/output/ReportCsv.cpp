@@ -28,7 +28,7 @@ QString cell(const QVariant& value, ReportColumn::Kind kind)
     case ReportColumn::DateTime:
         return value.toDateTime().toString("yyyy-MM-dd HH:mm:ss");
     default: {
-        // Quotients have no natural end: four decimals are more than anybody reckons with.
+        // Quotients may have endless decimals; four are enough.
         QString text = QString::number(value.toDouble(), 'f', 4);
         while (text.endsWith('0'))
             text.chop(1);
@@ -43,7 +43,7 @@ QString cell(const QVariant& value, ReportColumn::Kind kind)
 bool writeReportCsv(const ReportTable& table, QIODevice& device)
 {
     const QList<ReportColumn>& columns = table.report().columns;
-    // The mark tells spreadsheets that what follows is UTF-8.
+    // The byte order mark makes spreadsheets read UTF-8.
     bool good = device.write("\xEF\xBB\xBF") == 3;
     const auto writeLine = [&device, &good](const QStringList& cells) {
         const QByteArray line = cells.join(',').toUtf8() + "\r\n";

@@ -4,7 +4,7 @@ class QIODevice;
 class ReportTable;
 
 /**
- * Writes the rows as comma-separated values in UTF-8 that a spreadsheet opens as numbers and dates: a point before
- * the decimals, dates as 2026-01-31, no grouping, and no sums, which the spreadsheet makes itself.
+ * Writes the rows as CSV in UTF-8, so that spreadsheets read numbers and dates: decimal point, dates as 2026-01-31, no
+ * thousands separators, no sums. False if writing failed.
  */
 [[nodiscard]] bool writeReportCsv(const ReportTable& table, QIODevice& device);

@@ -30,7 +30,7 @@ bool ReportPaper::print(QPagedPaintDevice* device) const
     painter.setFont(sheet.font);
     sheet.line = std::ceil(QFontMetricsF(sheet.font, device).height() * 1.35);
     sheet.columns = columnWidths(sheet);
-    // A grid wider than the paper is set smaller, down to what can still be read.
+    // If the grid is wider than the paper, the font gets smaller, down to a readable size.
     const qreal needed = std::accumulate(sheet.columns.cbegin(), sheet.columns.cend(), qreal(0));
     if (needed > sheet.width) {
         sheet.font.setPointSizeF(std::max(5.5, 8 * sheet.width / needed));
@@ -82,7 +82,7 @@ QVector<qreal> ReportPaper::columnWidths(const Sheet& sheet) const
         };
         for (int line = 0; line < m_table.lineCount(); line += step)
             measure(line);
-        // The sums at the end are the widest figures.
+        // The totals are usually the widest figures.
         if (m_table.lineCount() > 0)
             measure(m_table.lineCount() - 1);
         // One long note must not push the figures from the paper.

@@ -11,23 +11,23 @@ class QPagedPaintDevice;
 class ReportPlot;
 class ReportTable;
 
-/** Lays a report out on pages: heading, picture, the grid with its titles on each page, sums, page numbers. */
+/** Prints a report: heading, chart, the grid with its titles on each page, sums, page numbers. */
 class ReportPaper
 {
 public:
     struct Heading
     {
         QString company;
-        /** What was asked: the period and the filters, a line each. */
+        /** The period and the filters, one per line. */
         QStringList asked;
         /** Who printed, and when. */
         QString printed;
     };
 
-    /** The picture may be null. Everything is borrowed. */
+    /** The chart may be null. Table and chart are borrowed. */
     ReportPaper(const ReportTable& table, ReportPlot* plot, ReportFormat format, Heading heading);
 
-    /** Pages are drawn to the device's present size; false when it cannot be drawn on. */
+    /** Uses the device's current page size; false if painting on it fails. */
     [[nodiscard]] bool print(QPagedPaintDevice* device) const;
 
 private:

@@ -28,7 +28,7 @@ const QColor seriesColors[] = {QColor("#2f6fb5"), QColor("#e08a2b"), QColor("#4c
 
 QColor seriesColor(int index) { return seriesColors[index % 4]; }
 
-/** Names under the bars, as many as there is room for. */
+/** Labels under the bars, as many as fit. */
 class CategoryScale final : public QwtScaleDraw
 {
 public:
@@ -62,7 +62,7 @@ private:
     ReportColumn::Kind m_kind;
 };
 
-/** Values of equal categories as one, in the order in which the categories first come. */
+/** Sums of equal categories, in the order of their first row. */
 struct Categories
 {
     QStringList labels;
@@ -174,7 +174,7 @@ void ReportPlot::drawBars(const QList<Series>& series)
     bars->setSamples(samples);
     bars->setLayoutPolicy(QwtPlotMultiBarChart::AutoAdjustSamples);
     if (samples.size() < fewBars) {
-        // Two bars that fill the whole picture are walls.
+        // Few bars would get too wide otherwise.
         bars->setLayoutPolicy(QwtPlotMultiBarChart::ScaleSampleToCanvas);
         bars->setLayoutHint(0.7 / fewBars);
     }
@@ -210,7 +210,7 @@ void ReportPlot::drawLines(const QList<Series>& series)
 void ReportPlot::setScales(const QStringList& labels, const ReportFormat& format, ReportColumn::Kind kind)
 {
     auto* categories = new CategoryScale(labels);
-    // Slanted names need less room than lying ones.
+    // Rotated labels need less room.
     const bool crowded = labels.size() > 8;
     categories->setLabelRotation(crowded ? -35 : 0);
     categories->setLabelAlignment(crowded ? Qt::AlignLeft | Qt::AlignBottom : Qt::AlignHCenter | Qt::AlignBottom);

@@ -6,7 +6,7 @@
 
 class ReportTable;
 
-/** The picture of a report. */
+/** The chart of a report. */
 class ReportPlot final : public QwtPlot
 {
     Q_OBJECT
@@ -14,9 +14,9 @@ class ReportPlot final : public QwtPlot
 public:
     explicit ReportPlot(QWidget* parent = nullptr);
 
-    /** Draws what the table's report wants drawn; false where there is nothing to draw. */
+    /** Draws the chart of the table's report; false if there is nothing to draw. */
     bool show(const ReportTable& table, const ReportFormat& format);
-    /** The same picture on paper. */
+    /** Draws the same chart on paper. */
     void paint(QPainter* painter, const QRectF& area);
 
 private:

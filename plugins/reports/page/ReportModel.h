@@ -5,7 +5,7 @@
 
 #include <QAbstractTableModel>
 
-/** A report's lines in a grid; sorting keeps groups together and the sums where they belong. */
+/** The model of a report's grid; sorting keeps groups together and sums in their places. */
 class ReportModel final : public QAbstractTableModel
 {
     Q_OBJECT
@@ -13,9 +13,9 @@ class ReportModel final : public QAbstractTableModel
 public:
     explicit ReportModel(QObject* parent = nullptr);
 
-    /** Begins a new answer to this report, empty at first. */
+    /** Starts an empty result for this report. */
     void begin(const Report& report, const ReportFormat& format);
-    /** The grid of a report that has not run yet: titles alone. Keeps what is shown while a run goes on. */
+    /** The field names of the result; rows are shown only after finish(). */
     void setFields(const QStringList& names) { m_table.setFields(names); }
     void append(const QVector<ReportRow>& rows) { m_table.append(rows); }
     /** Shows what has been appended. */

@@ -79,7 +79,7 @@ void ReportQuestions::ask(const Report& report)
     m_from = nullptr;
     m_to = nullptr;
 
-    // Short questions share a line, so that the grid keeps the room.
+    // Short parameters share a line, to leave room for the grid.
     QHBoxLayout* line = nullptr;
     int used = 0;
     for (const ReportParameter& parameter : report.parameters) {
@@ -177,7 +177,7 @@ QWidget* ReportQuestions::makePeriod()
 
 void ReportQuestions::fillPeriods()
 {
-    // The days have no label of their own.
+    // The date boxes have no labels.
     m_from->setAccessibleName(reportText("Period:"));
     m_to->setAccessibleName(reportText("Period:"));
     const QSignalBlocker quiet(m_periods);
@@ -222,7 +222,7 @@ QVariantMap ReportQuestions::values() const
         const QString& name = question.parameter.name;
         switch (question.parameter.kind) {
         case ReportParameter::Period:
-            // Whoever types the days the wrong way round means the days between them all the same.
+            // Accept the two days in any order.
             values.insert("from", std::min(m_firstDay, m_lastDay));
             values.insert("to", std::max(m_firstDay, m_lastDay));
             break;

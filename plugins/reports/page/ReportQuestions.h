@@ -10,7 +10,7 @@ class QDateEdit;
 class QFormLayout;
 class QLabel;
 
-/** The boxes in which a report's questions are answered: the period, and what narrows the answer. */
+/** The input boxes for a report's parameters: the period and the filters. */
 class ReportQuestions final : public QWidget
 {
     Q_OBJECT
@@ -18,14 +18,14 @@ class ReportQuestions final : public QWidget
 public:
     explicit ReportQuestions(QWidget* parent = nullptr);
 
-    /** Makes the boxes anew, with nothing chosen and the month so far; the period stays as it was. */
+    /** Creates new boxes with the defaults; the period keeps its value (at first the month to date). */
     void ask(const Report& report);
-    /** The rows (value, label) for the boxes that choose among rows, in the order of the report's parameters. */
+    /** Fills the choices of a parameter with rows (value, label). */
     void fillChoices(int parameter, const QVector<ReportRow>& rows);
 
-    /** Every name of the report with its value; NULL for what was left open. */
+    /** All parameter names with their values; NULL for empty ones. */
     [[nodiscard]] QVariantMap values() const;
-    /** What was asked, for the paper: a line each, without what was left open. */
+    /** The parameters as texts for the paper, one line each, without empty ones. */
     [[nodiscard]] QStringList words(const QString& dateFormat) const;
     void retranslate();
 

@@ -166,7 +166,7 @@ void TabReport::retranslate()
     m_list->setFixedWidth(
         std::max(listWidth, m_list->sizeHintForColumn(0) + 2 * (m_list->frameWidth() + m_list->spacing())));
     const auto word = [](QPushButton* button, const char* text, const char* hint) {
-        // Setting the text takes a shortcut away.
+        // setText() removes the shortcut.
         const QKeySequence shortcut = button->shortcut();
         button->setText(reportText(text));
         if (!shortcut.isEmpty())
@@ -237,7 +237,7 @@ void TabReport::showReport(int index)
     m_grid->resizeColumnsToContents();
     m_plot->hide();
     showNote([] { return reportText(QT_TRANSLATE_NOOP("Reports", "Press Show (F5) to read the report.")); });
-    // Not for a page that is thrown away at once, because one of its kind is open already.
+    // Delayed, because a page that is open already is deleted at once.
     QTimer::singleShot(0, this, &TabReport::loadChoices);
     updateButtons();
 }
@@ -315,7 +315,7 @@ void TabReport::cancelRun()
 
 void TabReport::endRun()
 {
-    // Not while its own signal is being delivered.
+    // deleteLater(), since this may run in a slot of the run's own signal.
     if (m_run)
         m_run.release()->deleteLater();
     m_ticker->stop();
@@ -338,7 +338,7 @@ void TabReport::showAnswer(bool cutOff)
     m_model->finish();
     const ReportTable& table = m_model->table();
     m_grid->resizeColumnsToContents();
-    // A little air, as long as nothing is pushed out of sight by it.
+    // Add some space, as long as all columns stay visible.
     const int room = m_grid->viewport()->width() - m_grid->horizontalHeader()->length();
     const int air = m_model->columnCount() > 0 ? qBound(0, room / m_model->columnCount(), 12) : 0;
     for (int i = 0; i < m_model->columnCount(); ++i)
@@ -410,7 +410,7 @@ void TabReport::tellSaved(bool good, const QString& fileName)
 
 bool TabReport::saveCsv(const QString& fileName)
 {
-    // All or nothing: a full disk must not leave half a list behind.
+    // QSaveFile leaves no partial file if the disk is full.
     QSaveFile file(fileName);
     return file.open(QIODevice::WriteOnly) && writeReportCsv(table(), file) && file.commit();
 }

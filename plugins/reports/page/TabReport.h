@@ -17,24 +17,24 @@ class ReportModel;
 class ReportPlot;
 class ReportQuestions;
 
-/** A page with the reports of one subject: the list of them, what the chosen one asks, and its answer. */
+/** The page of one subject: the list of its reports, the parameters of the selected one, and its result. */
 class TabReport final : public KorTab
 {
     Q_OBJECT
 
 public:
-    /** The connection is asked for at each run: the program can change over to another database. */
+    /** Returns the connection; called at each run, since the program can change to another database. */
     using Connection = std::function<ReportConnection()>;
 
     TabReport(ReportSubject subject, Connection connection, QString dateFormat, QWidget* parent = nullptr);
     ~TabReport() override;
 
-    /** Chooses the report with this id, without running it. */
+    /** Selects the report with this id without running it. */
     void choose(const QString& reportId);
     [[nodiscard]] const ReportTable& table() const;
     [[nodiscard]] bool isRunning() const { return m_run != nullptr; }
 
-    // What the buttons do once a file or a printer has been chosen.
+    // What the buttons do after a file was chosen; false if writing failed.
     [[nodiscard]] bool saveCsv(const QString& fileName);
     [[nodiscard]] bool savePdf(const QString& fileName);
 
@@ -51,7 +51,7 @@ private:
     void cancelRun();
     void endRun();
     void showAnswer(bool cutOff);
-    /** The words are asked for again when the program speaks another language. */
+    /** Takes a function, so that the text can be translated again after a change of the language. */
     void showNote(const std::function<QString()>& words, bool isError = false);
     void tellProgress();
     void updateButtons();
@@ -68,7 +68,7 @@ private:
     QString m_company;
     std::unique_ptr<ReportRun> m_choices;
     std::unique_ptr<ReportRun> m_run;
-    // The answers to the questions at the time of the run, for the paper.
+    // The parameters of the shown result, for the paper.
     QStringList m_asked;
     qint64 m_startedAt = 0;
     int m_rowsSoFar = 0;
