@@ -8,19 +8,19 @@
 #include <chrono>
 #include <functional>
 
-/** One task done by the program and by hand, in turns, so that a busy machine slows both alike. */
+/** One task, done by the program and by hand in turns, so that a busy machine slows down both. */
 struct Contest
 {
     std::string task;
     std::function<void()> program;
     std::function<void()> byHand;
-    /** Made ready before each round and not timed. */
+    /** Runs before each round; not timed. */
     std::function<void()> prepare = [] {};
     int roundsPerTurn = 20;
 };
 
-/** Enters the contest; the benchmark program runs all that were entered. */
+/** Registers the contest; the benchmark program runs all registered ones. */
 void enter(const Contest& contest);
 
-/** What a benchmark program does on an installed database that is its own: lays down data and enters contests. */
+/** Defined by each benchmark program: inserts data into its own installed database and registers contests. */
 void setUp(TestDatabase& database, ByHand& byHand);

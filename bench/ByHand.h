@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-/** A row as a program without any layers would keep it: plain fields, numbers as numbers, the rest as text. */
+/** A row as a program without layers would store it: numbers as numbers, the rest as text. */
 struct PlainRow
 {
     std::vector<int> integers;
@@ -18,8 +18,8 @@ struct PlainRow
 };
 
 /**
- * The yardstick: libpq as an engineer would use it who wants nothing but speed. Every statement is prepared once and
- * executed with one round trip; values go out and come back as text.
+ * The baseline: libpq, used for speed only. Every statement is prepared once and executed in one round trip; values are
+ * sent and read as text.
  */
 class ByHand
 {
@@ -31,10 +31,10 @@ public:
     ~ByHand();
     Q_DISABLE_COPY(ByHand)
 
-    /** The statement in the program's words; its placeholders become $1, $2 and so on in their order. */
+    /** Prepares a statement of the program; its placeholders become $1, $2 and so on in their order. */
     void prepare(const char* name, const QString& statement);
     Result execute(const char* name, const std::vector<std::string>& values = {});
-    /** Sends a text without values, as BEGIN and COMMIT. */
+    /** Sends a statement without values, such as BEGIN or COMMIT. */
     void run(const char* text);
     /** Reads the whole result into plain rows. */
     [[nodiscard]] static std::vector<PlainRow> rows(const PGresult* result);

@@ -6,7 +6,10 @@
 #include <string>
 #include <vector>
 
-/** Prints a line a task: the program's median, the one by hand, their ratio, and the statements that each sent. */
+/**
+ * Prints one line per task: the median of the program and by hand, their ratio, and the number of statements that the
+ * program sent.
+ */
 class RatioReporter : public benchmark::BenchmarkReporter
 {
 public:

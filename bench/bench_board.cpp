@@ -9,7 +9,7 @@
 #include "zavel/tables/BusinessMeja.h"
 #include "zavel/tables/DataMapperMeja.h"
 
-// The board with 100 tables, 60 of them with an order of 8 lines.
+// The table board with 100 tables, 60 of them with an order of 8 lines.
 
 namespace
 {

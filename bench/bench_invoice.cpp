@@ -12,13 +12,13 @@
 #include "zavel/registry/ZavelMapperRegistry.h"
 #include "zavel/service/BusinessPenjualan.h"
 
-// Saving the invoice of an order on a table: number, invoice, link, 10 lines, and the order's status.
+// Saving a dine-in invoice: number, invoice, link, 10 lines, and the order's status.
 
 namespace
 {
 constexpr int lineCount = 10;
 
-/** The sale as the payment form hands it over; each save pays an order of its own. */
+/** The sale as the payment form passes it; each save pays another order. */
 class Sale
 {
 public:

@@ -7,8 +7,8 @@
 
 #include <QTableView>
 
-// One tick of the kitchen's screen, grids and all, with an order in hand: 60 and 300 open orders of 8 lines, every
-// sixth of them to take away.
+// One refresh of the kitchen page with its grids while an order is selected: 60 and 300 open orders of 8 lines, one in
+// six to take away.
 
 namespace
 {
@@ -16,7 +16,7 @@ constexpr int linesEach = 8;
 
 void tick(int orders)
 {
-    // It stays for the whole run.
+    // Never deleted: used for the whole run.
     static auto* page = [] {
         auto* made = new TabPesananMasuk;
         made->resize(1000, 640);

@@ -13,7 +13,8 @@
 
 #include <QApplication>
 
-// The ledger of a month after years of trade, 40,000 sales a year. ZAVEL_BENCH_YEARS says how many, five unless told.
+// The ledger of one month after some years with 40,000 sales each. ZAVEL_BENCH_YEARS sets the number of years; default
+// 5.
 
 namespace
 {
@@ -31,7 +32,7 @@ int readByHand(ByHand& byHand)
 {
     const CashFlowFilter filter = lastMonth();
     std::vector<std::string> dates;
-    // Twice in each of the ten branches, and once more around them.
+    // The dates are bound in each of the ten branches and once more in the outer select.
     for (int i = 0; i < 11; ++i) {
         dates.push_back(filter.fromDate.toString(Qt::ISODate).toStdString());
         dates.push_back(filter.toDate.toString(Qt::ISODate).toStdString());

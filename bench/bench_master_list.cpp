@@ -17,7 +17,7 @@ namespace
 constexpr int rowCount = 5000;
 constexpr QSize pageSize(1000, 700);
 
-/** What a page needs at the least to show rows of libpq. */
+/** The smallest model that can show rows of libpq. */
 class PlainModel final : public QAbstractTableModel
 {
 public:

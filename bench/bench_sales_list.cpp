@@ -15,7 +15,7 @@
 #include <QTest>
 #include <QVBoxLayout>
 
-// The list of all sales on a day of 5,000: reading it, opening its page, and turning the pages.
+// The list of all sales of a day with 5,000 sales: reading it, opening its page, and paging through it.
 
 namespace
 {
@@ -23,7 +23,7 @@ constexpr int saleCount = 5000;
 constexpr int columns = 12;
 constexpr QSize pageSize(1000, 700);
 
-/** Twelve texts of each row of libpq. */
+/** A model with twelve texts per row of libpq. */
 class PlainModel final : public QAbstractTableModel
 {
 public:
@@ -70,7 +70,7 @@ void show(QWidget& page)
     QApplication::processEvents();
 }
 
-/** A page down by the key, painted before the next one; from the end back to the top. */
+/** Presses Page Down and paints; at the end it goes back to the top. */
 void turnPage(QTableView& grid)
 {
     if (grid.currentIndex().row() >= saleCount - 1 || !grid.currentIndex().isValid())
@@ -79,7 +79,7 @@ void turnPage(QTableView& grid)
     grid.viewport()->repaint();
 }
 
-/** The page by hand: the grid alone. */
+/** The page by hand: only the grid. */
 struct PlainPage
 {
     explicit PlainPage(ByHand& byHand) : model(readByHand(byHand))
@@ -123,7 +123,7 @@ void setUp(TestDatabase& database, ByHand& byHand)
            },
            [&byHand] { const PlainPage page(byHand); }, [] {}, 5});
 
-    // Both stay open while the benchmark runs; the program's end takes them.
+    // Both stay open until the program ends, and are never deleted.
     auto* page = new TabDaftarPenjualan;
     auto* plain = new PlainPage(byHand);
     show(*page);

@@ -9,14 +9,14 @@
 #include <QApplication>
 #include <QTableView>
 
-// The stock of 5,000 items after 200,000 lines of invoices and 20,000 of purchases: the figures, and the page of items
-// that shows them. By hand it is the figures alone, both times.
+// The stock of 5,000 items after 200,000 invoice lines and 20,000 purchase lines: the figures, and the item page that
+// shows them. By hand, both measure only the figures.
 
 namespace
 {
 constexpr int itemCount = 5000;
 
-/** As somebody would write it who has never seen the program's own statement. */
+/** A straightforward statement, written independently of the program's own. */
 constexpr char stockByHand[] =
     "with base as (select item.id, take.tanggal as since, coalesce(take.qty, stok_awal.jumlah, 0) as qty from item "
     "left join stok_awal on stok_awal.item_id = item.id left join lateral (select tanggal, qty from stock_take where "
