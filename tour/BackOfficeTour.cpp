@@ -48,7 +48,7 @@ void order(Guide& guide)
     guide.closePage();
 }
 
-/** Opens a new purchase and takes the supplier's open order over. */
+/** Opens a new purchase and copies the supplier's open order. */
 void receiveOrder(Guide& guide)
 {
     openForm(guide, "DialogPurchases");
@@ -137,7 +137,7 @@ void payBill(Guide& guide)
     openForm(guide, "DialogPayment");
     chooseSupplier(guide);
     guide.key(Qt::Key_F3);
-    // 24, less 4 that was paid at once, less 3 that came back.
+    // 24, minus 4 paid at once, minus 3 returned.
     guide.expectRow("tblInvoice", "$24.00", "$17.00");
     guide.click("btnPayAll");
     guide.expectText("txtGrandTotal", "49.00");
@@ -165,7 +165,7 @@ void adjust(Guide& guide)
     guide.fill("txtStok", "-1");
     guide.picture("adjustment");
     guide.pressOk();
-    // The next day would be right for the stock; the card that is read next ends today.
+    // The next day would be correct for the stock, but the card that is read next ends today.
     guide.answer("Do you want to date it on", "No");
     guide.waitUntilClosed("DialogInventoryAdj");
     guide.expectRow("tblInventoryAdj", "Rice", "Broken");

@@ -2,5 +2,5 @@
 
 class Guide;
 
-/** Goods from the order to the shelf and back, and the money from the bill to the ledger. */
+/** Purchasing from the order to the stock and the return, and payments from the bill to the ledger. */
 void playBackOffice(Guide& guide);

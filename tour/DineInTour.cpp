@@ -49,7 +49,7 @@ void takeOrder(Guide& guide)
     pick(guide, "DialogSelectMenu", "fr", "2", "no chili");
     guide.picture("menu-picker");
     guide.key(Qt::Key_Return);
-    // The picker comes again until it is cancelled.
+    // The picker opens again until it is cancelled.
     pick(guide, "DialogSelectMenu", "llp", "2");
     guide.key(Qt::Key_Return);
     endRound(guide, "DialogSelectMenu", "DialogMakanDitempat");

@@ -2,5 +2,5 @@
 
 class Guide;
 
-/** One table served, from the login to the freed table. */
+/** Serves one table, from the login to the free table. */
 void playDineIn(Guide& guide);

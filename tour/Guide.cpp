@@ -59,7 +59,7 @@ QWidget* find(const QString& name)
     return nullptr;
 }
 
-/** What a window manager does and this platform lacks: the focus goes back to the window that is left in front. */
+/** The offscreen platform has no window manager, so the focus must be returned to the front window. */
 void keepFrontActive()
 {
     QWidget* front = frontWindow();
@@ -80,7 +80,7 @@ QString shownText(const QWidget* widget)
     return widget ? widget->property("text").toString() : QString();
 }
 
-/** How the windows lie over each other: the main window, forms in the order of their opening, open lists on top. */
+/** The visible windows from bottom to top: the main window, forms in the order of opening, popups. */
 QList<QWidget*> visibleWindows()
 {
     QList<QWidget*> windows;
@@ -106,8 +106,8 @@ QString spot(const QRect& area)
 }
 
 /**
- * The screen as a person sees it: forms in the middle of the window behind them, where a window manager puts them.
- * The picture tells where in it the page lies, and all that lies over the main window, for who wants no more of it.
+ * The whole screen as an image: forms are centered on the window behind them. The image's metadata has the area of the
+ * page and of the windows above the main window, for cropping.
  */
 QImage screen()
 {
@@ -182,9 +182,9 @@ QVariant Guide::ask(const std::function<QVariant()>& look)
 
 void Guide::act(const std::function<void()>& action)
 {
-    // Not waited for: what opens a modal window returns only when that is closed again.
+    // Does not wait: an action that opens a modal window returns only when it closes.
     QMetaObject::invokeMethod(qApp, action, Qt::QueuedConnection);
-    // Whatever follows at once is done when the program looks at its queue again.
+    // Wait until the program processes events again.
     (void)ask([] { return QVariant(); });
 }
 
@@ -337,7 +337,7 @@ void Guide::type(const QString& text)
 {
     for (const QChar letter : text) {
         act([letter] {
-            // Through the window, so that an open list sees the keys first, as with a real keyboard.
+            // Sent to the window, so that an open popup list gets the keys first, as with a real keyboard.
             if (QWindow* window = QGuiApplication::focusWindow())
                 QTest::sendKeyEvent(QTest::Click, window, Qt::Key_unknown, QString(letter), Qt::NoModifier);
         });
@@ -410,7 +410,7 @@ void Guide::choose(const QString& box, const QString& text)
     };
     waitFor(text + " in " + box, [&] { return place() >= 0; });
     act([combo, place] {
-        // By the keys of a person: from the top down to the entry.
+        // With real keys: Home, then Down to the entry.
         QTest::keyClick(combo(), Qt::Key_Home);
         for (int step = place(); step > 0; --step)
             QTest::keyClick(combo(), Qt::Key_Down);
@@ -482,7 +482,7 @@ void Guide::closePage()
     };
     const QVariant page = ask([&front] { return QVariant::fromValue(quintptr(front())); });
     key(Qt::Key_Escape);
-    // The button behind the key is pressed a moment later.
+    // The shortcut clicks its button with a delay.
     waitFor("the page to close", [&front, &page] { return quintptr(front()) != page.value<quintptr>(); });
 }
 
@@ -499,7 +499,7 @@ void Guide::pressOk()
 void Guide::expectSlip(const QStringList& texts)
 {
     const QString slip = nextSlip();
-    // A slip runs its words together with what it tells.
+    // On a slip, words and values are joined, so translated texts cannot be compared.
     if (!m_language.isEmpty())
         return;
     for (const QString& text : texts) {

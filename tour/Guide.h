@@ -10,63 +10,63 @@
 #include <functional>
 
 /**
- * The hands and eyes of a tour. It runs on a thread of its own and drives the program with the events that a person
- * makes; every look at a widget and every event happens on the program's thread. What does not come true in time
- * ends the tour with a picture of where it stopped.
+ * Drives the program with real input events and checks what it shows. It runs on a separate thread; every event and
+ * every access to a widget happens on the main thread. If a condition is not met in time, it saves a picture and ends
+ * the tour with an error.
  */
 class Guide
 {
 public:
-    /** Pictures, slips and the summary go to this folder. */
+    /** The folder gets pictures, slips and the summary. */
     explicit Guide(const QString& folder);
 
-    /** Says what the following is about: a heading of the summary and the name of the pictures. */
+    /** Starts a chapter: a heading in the summary, and part of the picture names. */
     void chapter(const QString& title);
-    /** A line of the summary. */
+    /** Adds a line to the summary. */
     void note(const QString& line);
     /** Saves what is on screen as the next picture. */
     void picture(const QString& name);
     [[noreturn]] void fail(const QString& reason);
 
-    // Looking. A window is named by its class; a widget by its name inside the active window.
+    // Reading. Windows are found by class name, widgets by object name in the active window.
     void waitForWindow(const QString& className);
     void waitUntilClosed(const QString& className);
     void waitFor(const QString& what, const std::function<bool()>& condition);
-    /** A widget of the front window, visible and enabled. */
+    /** Waits until a widget of the front window is visible and enabled. */
     void waitForWidget(const QString& widget);
-    /** The row with the first text in some cell has the second one in another. */
+    /** Checks that the row with the first text in any cell has the second text in another. */
     void expectRow(const QString& grid, const QString& rowText, const QString& cellText);
     [[nodiscard]] QString textOf(const QString& widget);
     void expectText(const QString& widget, const QString& text);
-    /** Waits for a message box with this text in it and presses the button. */
+    /** Waits for a message box that contains this text and presses the button. */
     void answer(const QString& text, const QString& button);
     [[nodiscard]] QVariant ask(const std::function<QVariant()>& look);
 
-    // Doing.
-    /** Gives the program's main window the size of a till's screen. */
+    // Acting.
+    /** Resizes the main window, for example to the size of a till's screen. */
     void resizeMainWindow(const QSize& size);
     void type(const QString& text);
     void key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
-    /** Puts the cursor into the field, with everything in it selected. */
+    /** Focuses the field and selects its text. */
     void enter(const QString& field);
     void fill(const QString& field, const QString& text);
     void click(const QString& widget);
-    /** Chooses the row of the grid that has this text in some cell. */
+    /** Selects the row that has this text in any cell. */
     void chooseRow(const QString& grid, const QString& text);
-    /** Chooses the entry of the combo box that has this text. */
+    /** Selects the entry with this text in the combo box. */
     void choose(const QString& box, const QString& text);
-    /** Types into a lookup box, waits for its list and takes the first entry. */
+    /** Types into a lookup box, waits for its list and selects the first entry. */
     void lookUp(const QString& field, const QString& text);
-    /** Triggers the entry of the menu, or of the one in it, that has this object name or data, by the mouse. */
+    /** Clicks the entry with this object name or data in the menu or sub-menu. */
     void menu(const QString& menuName, const QString& actionName, const QString& subMenuName = {});
 
-    /** Changes the interface to the language that the tour was asked to speak, if to any. */
+    /** Changes to the language that was requested for the tour, if any. */
     void chooseLanguage();
-    /** Closes the page in front by its key. */
+    /** Closes the current page by its shortcut. */
     void closePage();
     /** Presses OK in the front dialog's button box. */
     void pressOk();
-    /** Waits for the next slip of the folder spool, which must hold these texts; it joins the summary. */
+    /** Waits for the next slip in the spool folder, which must contain these texts, and adds it to the summary. */
     void expectSlip(const QStringList& texts);
 
     [[nodiscard]] const QString& folder() const { return m_folder; }

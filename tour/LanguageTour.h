@@ -2,5 +2,5 @@
 
 class Guide;
 
-/** The program in Indonesian, chosen in its menu: the pages on two sizes of screen, and the forms behind them. */
+/** The program in Indonesian, selected in its menu: the pages in two screen sizes, and their forms. */
 void playLanguage(Guide& guide);

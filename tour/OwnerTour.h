@@ -2,5 +2,5 @@
 
 class Guide;
 
-/** What the owner looks after: reports, rights, printers, and the backup. */
+/** The owner's tasks: reports, rights, printers, and the backup. */
 void playOwner(Guide& guide);

@@ -2,5 +2,5 @@
 
 class Guide;
 
-/** A party that pays apart, a sale over the counter, and an order to take away that goes through the kitchen. */
+/** Guests who pay separately, a counter sale, and a take-away order that goes through the kitchen. */
 void playSelling(Guide& guide);

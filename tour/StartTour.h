@@ -2,5 +2,5 @@
 
 class Guide;
 
-/** How long the program takes to its login, and from there to its main window. */
+/** Measures the time to the login and from there to the main window. */
 void playStart(Guide& guide);

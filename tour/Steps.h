@@ -4,18 +4,18 @@
 
 class Guide;
 
-// What every tour does.
+// Steps that all tours share.
 
 /** Logs in as the administrator, after a wrong password. */
 void logIn(Guide& guide);
-/** Fills the picker of this class with an item and a quantity; confirming it is the caller's. */
+/** Fills in an item and a quantity in the picker of this class; the caller confirms. */
 void pick(Guide& guide, const QString& window, const QString& code, const QString& quantity, const QString& notes = {});
-/** Ends the round of pickers of this class and goes back to the form. */
+/** Cancels the picker of this class and waits for the form. */
 void endRound(Guide& guide, const QString& picker, const QString& form);
 
-/** Opens the page behind the menu's entry; it stands when the widget does. */
+/** Opens the page of the menu entry and waits for the widget. */
 void openPage(Guide& guide, const QString& menu, const QString& action, const QString& widget);
-/** Opens the form of this class for a new record of the page in front. */
+/** Opens the form of this class for a new record of the current page. */
 void openForm(Guide& guide, const QString& form);
-/** Confirms the form of this class, which has to close. */
+/** Presses OK in the form of this class and waits until it closes. */
 void confirm(Guide& guide, const QString& form);

@@ -12,8 +12,8 @@
 #include <QTimer>
 
 /**
- * Loaded by Qt itself into the unchanged program ("-plugin zaveltour:NAME"), so that the program that is driven is
- * the one that restaurants run. The folder for pictures comes in ZAVEL_TOUR_DIR.
+ * Qt loads it into the unmodified program ("-plugin zaveltour:NAME"), so that the tour drives exactly the program that
+ * restaurants use. ZAVEL_TOUR_DIR is the folder for pictures.
  */
 class TourPlugin : public QGenericPlugin
 {

@@ -7,7 +7,7 @@
 
 namespace
 {
-/** A pattern for the text with anything in the places of its names and numbers. */
+/** A pattern for the text that matches anything for its placeholders. */
 QString patternOf(const QString& text)
 {
     QString pattern = QRegularExpression::escape(text.trimmed());
@@ -58,7 +58,7 @@ const Words::Patterns& Words::translationsOf(const QString& expected, bool part)
             patterns.append(QRegularExpression(patternOf(message.second)));
         else if (part && message.first.contains(expected))
             patterns.append(QRegularExpression(patternOf(message.second)));
-        // A caption with what it tells behind it.
+        // A caption followed by a value.
         else if (message.first.endsWith(':') && expected.startsWith(message.first))
             patterns.append(QRegularExpression(patternOf(message.second + expected.mid(message.first.size()))));
     }

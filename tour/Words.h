@@ -6,23 +6,25 @@
 #include <QRegularExpression>
 #include <QString>
 
-/** What the program's words are in another language, so that a tour written in English knows them on the screen. */
+/**
+ * Translations of the program's texts, so that a tour written in English finds them on the screen in another language.
+ */
 class Words
 {
 public:
-    /** Reads the catalogues of this language; without one only English is known. */
+    /** Reads the translation files of this language; without a code only English is known. */
     Words(const QString& folder, const QString& code);
 
     [[nodiscard]] bool says(const QString& actual, const QString& expected) const;
-    /** Somewhere in the text. */
+    /** True if the text contains the part. */
     [[nodiscard]] bool mentions(const QString& actual, const QString& part) const;
 
 private:
     using Patterns = QList<QRegularExpression>;
-    /** What the expected text may be on the screen; looked for once, for the catalogues are long. */
+    /** Patterns for the expected text on the screen; cached, because searching the translations is slow. */
     [[nodiscard]] const Patterns& translationsOf(const QString& expected, bool part) const;
 
-    /** A text and its translation, with places for names and numbers in them. */
+    /** Texts and their translations, with placeholders for names and numbers. */
     QList<QPair<QString, QString>> m_messages;
     mutable QHash<QPair<QString, bool>, Patterns> m_known;
 };
