@@ -1,7 +1,7 @@
-# Where `cmake --install` puts what; docs/packaging.md draws the whole tree.
+# The install locations; docs/packaging.md shows the whole tree.
 #
-# The program looks for its pages, plug-ins and languages beside its executable. All of it therefore lies in one folder
-# of its own, and PATH gets links: the executable finds its real place through them.
+# The program looks for its pages, plug-ins and languages beside its executable, so all of them are installed in one
+# folder. PATH gets links: the executable resolves them to find its folder.
 include(GNUInstallDirs)
 set(ZAVEL_PROGRAM_DIR ${CMAKE_INSTALL_LIBDIR}/zavelpos)
 set(ZAVEL_LAYER_DIR ${ZAVEL_PROGRAM_DIR}/lib)
@@ -10,10 +10,10 @@ set(ZAVEL_LANGUAGE_DIR ${ZAVEL_PROGRAM_DIR}/languages)
 set(ZAVEL_PAGE_DIR ${ZAVEL_PROGRAM_DIR}/html)
 set(ZAVEL_HELP_DIR ${ZAVEL_PROGRAM_DIR}/help)
 
-# Programs, layers and plug-ins find each other by their own place, wherever the tree is put.
+# Programs, layers and plug-ins find each other by relative paths, so the tree can be anywhere.
 set(CMAKE_INSTALL_RPATH "$ORIGIN")
 
-# install_program(TARGET): the executable, and a link to it for PATH.
+# install_program(TARGET): installs the executable and a link to it in PATH.
 function(install_program target)
   set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN/lib")
   install(TARGETS ${target} RUNTIME DESTINATION ${ZAVEL_PROGRAM_DIR})
@@ -23,7 +23,7 @@ function(install_program target)
   install(FILES ${CMAKE_BINARY_DIR}/links/${target} DESTINATION ${CMAKE_INSTALL_BINDIR})
 endfunction()
 
-# install_plugin(TARGET): a module that the program loads at its start.
+# install_plugin(TARGET): installs a module that the program loads when it starts.
 function(install_plugin target)
   set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN/../lib")
   install(TARGETS ${target} LIBRARY DESTINATION ${ZAVEL_PLUGIN_DIR})

@@ -1,12 +1,12 @@
-# add_layer(NAME USES targets...): one floor of the house, a shared library that sees only what it uses. It is made of
-# every class in the folders of its own folder; a form lies beside its class.
+# add_layer(NAME USES targets...): one layer as a shared library that links only the given targets. It contains every
+# .cpp file below the layer's folder; a .ui file is beside its class.
 function(add_layer name)
   cmake_parse_arguments(ARG "" "" "USES" ${ARGN})
   set(folder ${CMAKE_CURRENT_SOURCE_DIR}/${name})
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${folder}/*.h ${folder}/*.cpp ${folder}/*.ui)
   list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
   add_library(${name} SHARED ${sources})
-  # A form of another folder is included by its whole path, like a class.
+  # A .ui header of another folder is included by its full path, like a class.
   set_target_properties(${name} PROPERTIES
     OUTPUT_NAME zavel-${name}
     AUTOUIC_SEARCH_PATHS ${PROJECT_SOURCE_DIR}/src)

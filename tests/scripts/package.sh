@@ -1,10 +1,10 @@
 #!/bin/bash
 # Test of the Debian package: package.sh CHECKOUT BUILD. Packs BUILD, installs the package into an empty root, plays a
-# tour with the program there and removes it again. Exits 77 where it cannot be tried.
+# tour with the program there and removes it again. Exits with 77 (skipped) if this is not possible.
 set -euo pipefail
 checkout=$1 build=$2
 
-# Only root may give files to root; another user is made root of what he owns already.
+# Only root may give files to root; another user becomes root in a user namespace.
 if [[ $EUID -ne 0 ]]; then
     unshare --map-root-user true 2>/dev/null || { echo 'SKIPPED: neither root nor user namespaces here'; exit 77; }
     exec unshare --map-root-user bash "$0" "$@"
@@ -22,7 +22,7 @@ dpkg_there() {
 }
 contents() { (cd "$root" && find . -path ./var/lib/dpkg -prune -o -printf '%p %y %m %u %l\n' | LC_ALL=C sort); }
 
-# The root believes that it has this machine's packages, so that dpkg checks what the package asks for in earnest.
+# Copies this machine's package list into the root, so that dpkg really checks the dependencies.
 install -d "$admin"/{info,updates,triggers} "$root/usr/bin" "$root/usr/share/applications"
 cp /var/lib/dpkg/status "$admin/status"
 dpkg-query -W -f '${binary:Package}\n' | (cd "$admin/info" && sed 's/$/.list/' | xargs touch)
@@ -45,7 +45,7 @@ for file in share/applications/zavelpos.desktop share/icons/hicolor/48x48/apps/z
     share/man/man1/zavelpos.1.gz share/man/man1/zavel-setup.1.gz share/doc/zavelpos/copyright; do
     [[ -s $root/usr/$file ]] || fail "/usr/$file is missing"
 done
-# What the build has beside the program is what the program looks for.
+# The program looks for the same folders that the build has beside it.
 for folder in html plugins languages help; do
     [[ ! -d $build/bin/$folder ]] ||
         (cd "$build/bin/$folder" && find . -type f) | while read -r file; do

@@ -1,10 +1,10 @@
 #!/bin/bash
-# Tests of scripts/private-postgres: private_postgres.sh SCRIPT CASE. Exits 77 where a case cannot be tried.
+# Tests of scripts/private-postgres: private_postgres.sh SCRIPT CASE. Exits with 77 (skipped) if a case is not possible.
 set -euo pipefail
 
 psql=/usr/lib/postgresql/15/bin/psql
-# A server's user must be able to enter the folder, and an ordinary user must be able to read the script,
-# wherever the checkout lies.
+# The server's user needs access to the folder, and an ordinary user must be able to read the script, wherever the
+# checkout is.
 room=$(mktemp -d /tmp/zpt.XXXXXX)
 clean_up() {
     # shellcheck disable=SC2046
@@ -42,7 +42,7 @@ throwaway_sql="$psql -X -At -h \"\$ZAVEL_TEST_PGHOST\" -p \"\$ZAVEL_TEST_PGPORT\
 kept_sql="PGPASSWORD=\$ZAVEL_DB_PASSWORD $psql -X -At -h 127.0.0.1 -p \"\$ZAVEL_DB_PORT\" -U postgres -w postgres -c"
 server_pid="select split_part(pg_read_file('postmaster.pid'), chr(10), 1)"
 
-# Starts a server for a command that waits for ever; leaves $runner, $server, $sleeper and $host behind.
+# Starts a server for a command that never ends; sets $runner, $server, $sleeper and $host.
 start_waiting() { # SCRIPT-ARGUMENTS... and the statement to run
     local sql=${!#}
     "$script" "${@:1:$#-1}" -- bash -c "$sql \"$server_pid\" >$room/server
@@ -82,7 +82,7 @@ case_a_terminated_script_takes_server_command_and_folder_with_it() {
 
 case_an_interrupted_command_keeps_its_server_until_it_has_ended() {
     local status=0
-    # Background jobs of a script ignore the interrupt, so it is given its meaning back here.
+    # Background jobs of a script ignore SIGINT; this restores it.
     env --default-signal=INT "$script" throwaway -- bash -c "trap '$throwaway_sql \"select 42\"; exit 9' INT
         touch $room/ready; while :; do sleep 0.1; done" >"$room/out" &
     until_true 'the command is running' test -e "$room/ready"
@@ -121,7 +121,7 @@ case_a_kept_cluster_starts_again_after_a_kill() {
     start_waiting keep "$room/cluster" "$port" "$kept_sql"
     kill -KILL "$runner"
     wait "$runner" 2>/dev/null || true
-    # At once, while the old server may still be closing.
+    # Immediately, while the old server may still be shutting down.
     answer=$("$script" keep "$room/cluster" "$port" -- bash -c "$kept_sql 'select 1'")
     equal 'answer' 1 "$answer"
     gone "$server" || fail 'the first server is still running'
@@ -131,7 +131,7 @@ case_a_stale_process_id_of_another_program_is_no_hindrance() {
     local port answer
     port=$(free_port)
     "$script" keep "$room/cluster" "$port" -- true
-    # After a power cut the number may belong to any program, even to one of the same user.
+    # After a power cut, the process id may belong to any program, even of the same user.
     if [[ $EUID -eq 0 ]]; then setpriv --reuid postgres --regid postgres --clear-groups sleep 600 & else sleep 600 & fi
     local other=$!
     printf '%s\n' "$other" "$room/cluster/data" 0 "$port" '' '' '' ready >"$room/cluster/data/postmaster.pid"

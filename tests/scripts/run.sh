@@ -1,5 +1,5 @@
 #!/bin/bash
-# Tests of ./run: run.sh CHECKOUT CASE, on a copy of the scripts with programs that only note how they were called.
+# Tests of ./run: run.sh CHECKOUT CASE. Uses a copy of the scripts with programs that only record their arguments.
 set -euo pipefail
 
 room=$(mktemp -d /tmp/zpt.XXXXXX)
@@ -27,7 +27,7 @@ program scripts/tour <<PROGRAM
 #!/bin/bash
 printf 'tour' >>$calls; printf ' <%s>' "\$@" >>$calls; echo >>$calls
 PROGRAM
-# Answers as the real one does: 3 while nothing is installed. Breaks down once where $room/break exists.
+# Exits like the real program: 3 while nothing is installed. If $room/break exists, it fails once.
 program build/release/bin/zavel-setup <<PROGRAM
 #!/bin/bash
 if [[ \$1 == status ]]; then [[ -e $room/installed ]] && exit 0; exit 3; fi
@@ -75,7 +75,7 @@ case_an_installation_cut_short_is_done_again() {
 case_a_usable_database_is_not_replaced_after_a_failed_installation() {
     touch "$room/break"
     start
-    touch "$room/installed" # mended by hand, and perhaps sold with since
+    touch "$room/installed" # repaired by hand, and perhaps used for sales since
     start
     equal 'exit status' 1 "$status"
     equal 'calls' '' "$(<"$calls")"
