@@ -9,29 +9,29 @@
 #include "zavel/takeaway/EntityInvoiceBawaPulang.h"
 
 /**
- * A small restaurant for tests: rows written by the program's own mappers, and records on top of them. The records
- * live as long as the builders; what cannot be written ends the test program.
+ * A small restaurant for tests: master records written by the program's own mappers, and orders and invoices based on
+ * them. The builders own the records; an error while writing ends the test program.
  */
 class Builders
 {
 public:
-    /** Takes the tables and menus that the installation brought away, so that a test sees its own alone. */
+    /** Deletes the tables and menu items of the installation, so that a test sees only its own. */
     Builders();
 
     EntityMeja* table(const QString& code, const QString& name = QString());
     EntityMember* member(const QString& code, const QString& name);
-    /** Prices are in Rp; an item type that is not there yet comes with the item. */
+    /** Prices are in Rp; a missing item type is inserted too. */
     EntityItem* item(const QString& code, const QString& name, double price,
                      EntityItem::ItemClass itemClass = EntityItem::SRV, const QString& typeCode = "FOOD");
 
     /** An unsaved line. */
     EntityMakanDitempatDetail* line(EntityItem* item, int qty, const QString& description = QString());
-    /** An unsaved order, waiting for its menu. */
+    /** An unsaved order with the status "waiting for menu". */
     EntityMakanDitempat* order(EntityMeja* table, const EntityOrder::Lines& lines, const QString& guest = QString());
-    /** The same, saved, whatever stands on the table already. */
+    /** The same, saved, even if the table has an order already. */
     EntityMakanDitempat* openOrder(EntityMeja* table, const EntityOrder::Lines& lines,
                                    const QString& guest = QString());
-    /** A saved invoice of the whole order; the order's status follows from what is paid. */
+    /** A saved invoice of the whole order; sets the order's status by what is paid. */
     EntityInvoiceMakanDitempat* invoice(EntityMakanDitempat* order, double paid);
     /** A saved order to take away. */
     EntityBawaPulang* takeAway(const QList<QPair<EntityItem*, int>>& lines, const QString& guest = QString());

@@ -26,7 +26,7 @@ void DatabaseTest::init()
         m_database = std::make_unique<TestDatabase>();
     loginAsAdmin();
     m_records = std::make_unique<QObject>();
-    // Without windows there is nobody in front of them.
+    // Tests without windows need no driver.
     if (qobject_cast<QApplication*>(QCoreApplication::instance()))
         m_people = std::make_unique<ModalDriver>();
     prepare();
@@ -38,7 +38,7 @@ void DatabaseTest::cleanup()
     m_people.reset();
     m_make.reset();
     m_records.reset();
-    // What a service was told last stays with it, and would be told to the next test.
+    // Errors stay in the services, so the next test would see them.
     const QList<const KorBusinessRegistry*> registries{AppBusinessRegistry::instance(), PosBusinessRegistry::instance(),
                                                        ZavelBusinessRegistry::instance()};
     for (const KorBusinessRegistry* registry : registries) {

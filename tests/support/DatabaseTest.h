@@ -7,7 +7,7 @@
 #include "support/Rows.h"
 #include "support/TestDatabase.h"
 
-// With what most forms consist of.
+// Included for all tests: widgets that most forms use.
 #include <QApplication>
 #include <QComboBox>
 #include <QDateEdit>
@@ -24,9 +24,9 @@
 #include <memory>
 
 /**
- * What most tests stand on, new for each test function: a database with an administrator logged in, a person in front
- * of the modal windows, and a folder that takes what is printed. A test adds what is its own in prepare() and takes its
- * windows away in tidy(), while the rest still stands.
+ * Base of most tests. Each test function gets a new database with an administrator logged in, a ModalDriver for modal
+ * windows, and a folder for printed slips. A test adds its own setup in prepare() and deletes its windows in tidy(),
+ * while the rest still exists.
  */
 class DatabaseTest : public QObject
 {
@@ -39,20 +39,20 @@ public:
 protected:
     virtual void prepare() {}
     virtual void tidy() {}
-    /** Lets one database serve all functions of the test; for initTestCase(). */
+    /** Uses one database for all functions of the test; call it in initTestCase(). */
     void keepDatabase();
 
-    // At the other workstation, as TestDatabase does it.
+    // Run on the connection of another workstation, see TestDatabase.
     void run(const QString& statement) const { m_database->run(statement); }
     [[nodiscard]] QString value(const QString& statement) const { return m_database->value(statement).toString(); }
-    /** Of a table, or of what follows FROM. */
+    /** The number of rows; the parameter is a table or any text after FROM. */
     [[nodiscard]] int count(const QString& rows) const { return value("SELECT count(*) FROM " + rows).toInt(); }
 
     std::unique_ptr<QTemporaryDir> m_spool;
     std::unique_ptr<TestDatabase> m_database;
-    /** Owns records that a test makes. */
+    /** Owns records that a test creates. */
     std::unique_ptr<QObject> m_records;
-    /** For tests that write their restaurant with the builders; null until prepare() makes it. */
+    /** For tests that use the builders; null until prepare() creates them. */
     std::unique_ptr<Builders> m_make;
     std::unique_ptr<ModalDriver> m_people;
 
@@ -64,14 +64,14 @@ private:
     bool m_isKept = false;
 };
 
-/** A test with one page or form at a time. */
+/** Base of tests with one page or form at a time. */
 template <class Page>
 class PageTest : public DatabaseTest
 {
 protected:
     void tidy() override { m_page.reset(); }
 
-    /** Shows the page, or another one of its kind, in a window that takes the keys. */
+    /** Shows the page, or another class of page, in an active window. */
     template <class Shown = Page>
     void show()
     {

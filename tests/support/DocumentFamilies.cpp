@@ -38,13 +38,13 @@ QList<KeyRight> three(int add, int change, int remove)
     return {{Qt::Key_F12, add}, {Qt::Key_F2, change}, {Qt::Key_Delete, remove}};
 }
 
-/** The rights of a service that numbers them one after the other. */
+/** Three consecutive rights of a service. */
 QList<KeyRight> threeFrom(int first) { return three(first, first + 1, first + 2); }
 
 QList<KeyRight> ofSales(bool mayAdd)
 {
     QList<KeyRight> rights{{Qt::Key_F2, Sales::SAVE_INVOICE, false}, {Qt::Key_F2, Sales::UBAH_PESANAN}};
-    // The list of all sales asks once for all rows, whoever made them.
+    // The list of all sales checks the right once for all rows, regardless of their users.
     rights.append({Qt::Key_Delete, Sales::DELETE_SALES, mayAdd});
     if (mayAdd)
         rights.append({Qt::Key_F12, Sales::SAVE_INVOICE});

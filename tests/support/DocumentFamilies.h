@@ -9,35 +9,38 @@
 class QWidget;
 class TestDatabase;
 
-/** What a key of a page asks for. */
+/** The right that a key of a page needs. */
 struct KeyRight
 {
     int key;
-    /** As the service numbers its rights. */
+    /** The right's number in the service. */
     int right;
-    /** Whether the right may be given for what a person has made himself. */
+    /** True if the right can be granted for the user's own documents only. */
     bool isForOwn = true;
 };
 
-/** One list of documents as its users meet it; the contract of document pages walks over all of them. */
+/** One kind of documents with its page; the tests of document pages run for all of them. */
 struct DocumentFamily
 {
     QString name;
     QString service;
-    /** Holds the row whose version a save compares. */
+    /** The table with the version that a save compares. */
     QString table;
     QList<KeyRight> rights;
     std::function<std::unique_ptr<QWidget>()> makePage;
-    /** Lays one of them down, of today and made by user 1, in the shop of ShopRows.h; the number is 1 or 2. */
+    /** Inserts a document of today, created by user 1, in the shop of ShopRows.h; the number is 1 or 2. */
     std::function<void(TestDatabase&, int)> lay;
-    /** What the page asks before a delete, as it begins. */
+    /** The beginning of the question before a delete. */
     QString question;
-    /** What is told of a document that has gone, at an edit and at a delete, as they begin; empty for no such key. */
+    /**
+     * The beginning of the message about a document that no longer exists, when editing and deleting; empty if the page
+     * has no such key.
+     */
     QString lost;
     QString lostAtDelete;
-    /** A box of the form where a person types; empty where the page opens forms of other families. */
+    /** The name of a text box of the form; empty if the page opens forms of other families. */
     const char* field = "";
-    /** What a save is told with that somebody else was faster than, before the table's name. */
+    /** The error of a save when another user saved first, up to the table's name. */
     QString refused = QString();
 };
 

@@ -10,13 +10,13 @@
 #include <QTest>
 #include <QWindow>
 
-// What a person does at a page or a form, and sees of it. Boxes and buttons go by their names.
+// Helpers that use a page or form as a user does and read what it shows. Boxes and buttons are found by object name.
 
 [[nodiscard]] inline QLineEdit* box(const QWidget* form, const char* name) { return form->findChild<QLineEdit*>(name); }
 
 [[nodiscard]] inline QString shown(const QWidget* form, const char* name) { return box(form, name)->text(); }
 
-/** The one that is in front, where every page of a form has one; null stands for any name. */
+/** The visible widget of this name, if several pages of a form have one; null matches any name. */
 template <class Widget>
 [[nodiscard]] Widget* inFront(const QWidget* page, const char* name)
 {
@@ -28,7 +28,7 @@ template <class Widget>
     return all.value(0);
 }
 
-/** Types over what stands in the box, and leaves it with the Tab key. */
+/** Replaces the text of the box, and leaves it with the Tab key. */
 inline void enter(QWidget* form, const char* name, const QString& text)
 {
     box(form, name)->setFocus(Qt::TabFocusReason);
@@ -44,7 +44,7 @@ inline void click(QWidget* page, const char* button)
     QTest::mouseClick(inFront<QPushButton>(page, button), Qt::LeftButton);
 }
 
-/** Confirms the form by the Return key in one of its boxes. */
+/** Confirms the form with the Return key in this box. */
 inline void confirm(QWidget* form, const char* inBox) { QTest::keyClick(box(form, inBox), Qt::Key_Return); }
 
 /** Confirms the form by its button. */
@@ -53,29 +53,29 @@ inline void press(const QWidget* form, QDialogButtonBox::StandardButton button)
     QTest::mouseClick(form->findChild<QDialogButtonBox*>()->button(button), Qt::LeftButton);
 }
 
-/** The list, form or question that takes the keys; null where only a page is there. */
+/** The open popup, form or message box that gets the keys; null if there is only a page. */
 [[nodiscard]] inline QWidget* openForm()
 {
     QWidget* popup = QApplication::activePopupWidget();
     return popup ? popup : QApplication::activeModalWidget();
 }
 
-/** Sends the key, and the text that it writes, to the window that has the keys, as the window system does. */
+/** Sends the key and its text to the window that has the focus, as the window system does. */
 inline void strikeKey(int key, const QString& text = {}, Qt::KeyboardModifiers modifiers = {})
 {
     QWidget* form = openForm();
     QPointer<QWindow> window = form ? form->windowHandle() : QGuiApplication::focusWindow();
-    // Where a form has closed nobody has the keys until a window manager gives them back.
+    // After a form has closed, no window has the focus until a window manager sets it.
     if (!window && QApplication::activeWindow())
         window = QApplication::activeWindow()->windowHandle();
-    // Straight to the window system: what the testing library has for it lets other strokes happen in between.
+    // Uses the window system directly: QTest's functions process other events in between.
     if (window)
         qt_handleKeyEvent(window, QEvent::KeyPress, key, modifiers, text);
     if (window)
         qt_handleKeyEvent(window, QEvent::KeyRelease, key, modifiers, text);
 }
 
-/** A finger on the place in the window, at that moment of the window system's clock in milliseconds. */
+/** A click at the position in the window; the time is in milliseconds of the window system's clock. */
 inline void tap(QWindow* window, const QPoint& place, int time)
 {
     const QPointer<QWindow> alive(window);
@@ -87,7 +87,7 @@ inline void tap(QWindow* window, const QPoint& place, int time)
 
 inline void giveUp(QWidget* form) { QTest::keyClick(form, Qt::Key_Escape); }
 
-// The only grid of the page, or the one in front.
+// The page's only or visible grid.
 [[nodiscard]] inline QTableView* gridOf(const QWidget* page) { return inFront<QTableView>(page, nullptr); }
 
 inline void choose(const QWidget* page, int row) { gridOf(page)->selectRow(row); }
@@ -103,7 +103,7 @@ inline void choose(const QWidget* page, int row) { gridOf(page)->selectRow(row);
     return texts;
 }
 
-/** Shows the page in a window that takes the keys. */
+/** Shows the page in an active window. */
 inline void showPage(QWidget* page)
 {
     page->resize(1100, 600);
@@ -111,7 +111,7 @@ inline void showPage(QWidget* page)
     QVERIFY(QTest::qWaitForWindowActive(page));
 }
 
-/** Works on the form behind the button of the page, until it is closed, saved or given up. */
+/** Clicks the button and runs the function on the form that opens; it must close the form. */
 template <class Form>
 void onForm(ModalDriver& people, QWidget* page, const char* button, const std::function<void(Form*)>& work)
 {

@@ -4,7 +4,7 @@
 
 #include <functional>
 
-/** One run of the installer on the open database, on this thread, with what it told. */
+/** Runs the installer on the open database on this thread and collects its messages. */
 struct InstallerRun
 {
     explicit InstallerRun(int type, const std::function<void(ZavelInstaller&)>& prepare = {})
@@ -22,7 +22,7 @@ struct InstallerRun
         failures = installer.failures();
     }
 
-    /** As the pages show them. */
+    /** The lines as the wizard's pages show them. */
     QStringList lines;
     QStringList failures;
     QStringList errors;

@@ -7,15 +7,15 @@
 
 class TestDatabase;
 
-/** SQL by column; of many rows, "i" is the row's number. */
+/** SQL expressions by column; with several rows, "i" is the row's number. */
 using RowValues = QMap<QString, QString>;
 
 /**
- * Lays rows down in any table of the shop of ShopRows.h: what must not be empty and is not given gets a value that
- * says nothing, and records with id 1 as partners.
+ * Inserts rows into any table of the shop of ShopRows.h. Required columns that are not given get a neutral value, and
+ * references the id 1.
  */
 void insertRows(TestDatabase& database, const QString& table, const RowValues& values, int count = 1);
-/** The same, the values as SQL has them: "no='NB-1', status=2". None of them holds a comma before a blank. */
+/** The same with the values as SQL: "no='NB-1', status=2". Values must not contain a comma followed by a space. */
 void insertRows(TestDatabase& database, const QString& table, const QString& values, int count = 1);
 
 /** A document or entry as the ledger reads it; amounts are in Rp. */
@@ -40,15 +40,15 @@ struct LedgerRow
     QString no;
     QDate date;
     int amount = 100;
-    /** An account's id, 0 for none; sales and entries take the account's code instead, also of one that has gone. */
+    /** The account's id, 0 for none. Sales and entries use the account's code instead, which may not exist. */
     int account = 1;
     QString code = "1-100";
-    /** Where a transfer goes. */
+    /** The target account of a transfer. */
     int toAccount = 2;
     QString note = QString();
-    /** 0 for a row that nobody made. */
+    /** The user's id; 0 for none. */
     int user = 1;
-    /** What was paid of the whole, where the document tells. */
+    /** The amount paid, if the document stores it. */
     int paid = 0;
 };
 
@@ -64,5 +64,5 @@ struct LedgerTable
 /** In the order of the kinds. */
 const QList<LedgerTable>& ledgerTables();
 
-/** Years of trade until today, the same number of documents every day. */
+/** Inserts years of trade until today, with the same number of documents every day. */
 void insertLedgerYears(TestDatabase& database, int years, int salesPerYear, int documentsPerYear);

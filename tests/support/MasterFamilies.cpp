@@ -22,7 +22,7 @@
 
 namespace
 {
-/** A family with a code and a name, and nothing besides. */
+/** A family with only a code and a name. */
 template <class Tab, class Dialog>
 MasterFamily family(const QString& service, const QString& table, MasterFamily::Order order, const QString& title,
                     const QString& called, const QStringList& rights)
@@ -45,7 +45,7 @@ MasterFamily family(const QString& service, const QString& table, MasterFamily::
 
 QStringList threeRights(const QString& of) { return {"Insert " + of, "Update " + of, "Delete " + of}; }
 
-/** Somebody who can be reached; the last two are what the table has besides. */
+/** A contact; the last two parameters are further columns of the table. */
 template <class Tab, class Dialog>
 MasterFamily contact(const QString& service, const QString& table, MasterFamily::Order order, const QString& rights,
                      const QString& column = QString(), const QString& value = QString())
@@ -105,7 +105,7 @@ void MasterFamily::fill(KorDialog* form, const QString& code, const QString& nam
     typeInto(form, nameField, name);
     for (auto field = details.begin(); field != details.end(); ++field)
         typeInto(form, field.key(), field.value());
-    // What is not known by name: any text that is a number as well.
+    // For unknown fields: a text that is also a valid number.
     for (QLineEdit* box : form->findChildren<QLineEdit*>()) {
         if (order == Unknown && box->isVisible() && box->text().isEmpty() && !box->findChild<KorTextBoxExtender*>())
             QTest::keyClicks(box, "1");
@@ -115,7 +115,7 @@ void MasterFamily::fill(KorDialog* form, const QString& code, const QString& nam
 
 namespace
 {
-/** What a row needs besides code and name. */
+/** Adds the values that a row needs besides code and name. */
 void addDetails(MasterFamily& family)
 {
     for (const KorColumnMap* column : family.mapper()->metaData()->columns()) {
@@ -129,7 +129,7 @@ void addDetails(MasterFamily& family)
     }
 }
 
-/** The families whose pages list codes and names, as far as the program's catalogue tells of them. */
+/** The families of other pages that list codes and names, found in the program's list of pages. */
 QList<MasterFamily> familiesOfPages(const QList<MasterFamily>& known)
 {
     QList<MasterFamily> families;
@@ -137,7 +137,7 @@ QList<MasterFamily> familiesOfPages(const QList<MasterFamily>& known)
         const KorBusinessLogic* service = page.service ? KorServiceDirectory::find(*page.service) : nullptr;
         auto* mapper = service ? dynamic_cast<AppMasterMapper*>(service->mapper()) : nullptr;
         const auto same = [service](const MasterFamily& family) { return family.service == service->name(); };
-        // A dish is more than a code and a name; its form has tests of its own.
+        // Items need more than a code and a name; their form has separate tests.
         if (!mapper || service->name() == "Item" || std::any_of(known.begin(), known.end(), same))
             continue;
         MasterFamily family;

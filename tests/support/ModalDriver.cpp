@@ -37,7 +37,7 @@ void ModalDriver::clear()
 
 void ModalDriver::look()
 {
-    // A fresh timer each time: a repeating one keeps still while its own call runs a nested window.
+    // A new single-shot timer each time: a repeating timer does not fire while its own slot runs a modal window.
     QTimer::singleShot(lookInterval, this, &ModalDriver::look);
     QWidget* modal = QApplication::activeModalWidget();
     if (!modal || !modal->isVisible())
@@ -60,10 +60,10 @@ void ModalDriver::look()
         m_workedOn = outer;
         return;
     }
-    // The step at work on it waits for something.
+    // A step is still working on this dialog.
     if (dialog == m_workedOn)
         return;
-    // A dialog that a step has worked on stays open when it refuses; the test's next step or its end decides.
+    // A dialog may stay open after its step because it refused the input; the next step or the end of the test decides.
     if (dialog == m_inHand && !m_steps.isEmpty())
         return;
     if (dialog != m_inHand)
@@ -74,7 +74,7 @@ void ModalDriver::look()
 void ModalDriver::press(QMessageBox* box)
 {
     m_boxes.append({box->windowTitle(), box->text(), box->icon(), box->detailedText()});
-    // The button that only opens the details answers nothing.
+    // Ignore the button that only shows the details.
     const QList<QAbstractButton*> buttons = box->buttons();
     const auto answers = std::count_if(buttons.cbegin(), buttons.cend(), [box](QAbstractButton* one) {
         return box->buttonRole(one) != QMessageBox::ActionRole;

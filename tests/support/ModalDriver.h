@@ -6,20 +6,20 @@
 
 #include <functional>
 
-/** One message box as the user saw it. */
+/** A message box that was shown. */
 struct SeenBox
 {
     QString title;
     QString text;
     QMessageBox::Icon icon;
-    /** What stands behind "Show Details...". */
+    /** The text of "Show Details...". */
     QString details;
 };
 
 /**
- * Stands in for the person in front of modal windows while it lives: presses buttons of message boxes and works on
- * dialogs in the order that the test laid down, and keeps what was shown. What the test did not foresee is answered
- * with the default (a box) or cancelled (a dialog), and can be looked up afterwards.
+ * Answers modal windows while it exists: presses buttons of message boxes and works on dialogs in the order that the
+ * test sets, and records what was shown. Unexpected boxes get their default button, unexpected dialogs are cancelled;
+ * both are recorded.
  */
 class ModalDriver : public QObject
 {
@@ -30,7 +30,9 @@ public:
 
     /** The next message box gets this button; boxes without an answer get their default or only button. */
     void answer(QMessageBox::StandardButton button) { m_answers.append(button); }
-    /** The next dialog of this class is handed to the function, once; it has to end the dialog, or a later step has. */
+    /**
+     * Passes the next dialog of this class to the function, once. The function or a later step must close the dialog.
+     */
     template <class Dialog>
     void expect(std::function<void(Dialog*)> work)
     {
@@ -41,7 +43,7 @@ public:
     [[nodiscard]] QStringList texts() const;
     [[nodiscard]] QString lastText() const { return m_boxes.isEmpty() ? QString() : m_boxes.last().text; }
     [[nodiscard]] QString lastTitle() const { return m_boxes.isEmpty() ? QString() : m_boxes.last().title; }
-    /** True when every step and answer that the test laid down was used and no dialog came unforeseen. */
+    /** True if all steps and answers were used and no unexpected dialog was shown. */
     [[nodiscard]] bool finished() const;
     [[nodiscard]] const QStringList& surprises() const { return m_surprises; }
     void clear();

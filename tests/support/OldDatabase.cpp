@@ -27,7 +27,7 @@ void trade(TestDatabase& database)
         insertSale(database, sale);
     }
     insertDineOrder(database, {{2, 15}, {1, 7}});
-    // Bought without an order: the old program wrote 0 for that.
+    // A purchase without an order: the old program stored 0 for it.
     insertPurchase(database, {"NB1", "inv 1", 0, 3, 10});
     insertPurchase(database, {"NB2", "inv 2", 30, 3, 10});
     insertLedgerRow(database, {LedgerRow::PurchaseOrder, "PO1", {2026, 3, 1}});
@@ -53,7 +53,7 @@ void takeBackToVersion10(TestDatabase& database)
                  "END");
     database.run("DO $$ DECLARE i text; BEGIN FOR i IN SELECT indexname FROM pg_indexes WHERE indexname LIKE "
                  "'%\\_idx' LOOP EXECUTE 'DROP INDEX ' || i; END LOOP; END $$");
-    // Rights that the older program did not have, one with its service; and grants that an owner gave.
+    // Deletes rights that the older program did not have, one of them with its service; and adds grants of an owner.
     const QString newer = "SELECT id FROM permissions WHERE permission_name IN ('Add table', 'Manage unit')";
     database.run("DELETE FROM access WHERE permission_id IN (" + newer + ")");
     database.run("DELETE FROM permissions WHERE id IN (" + newer + ")");

@@ -6,14 +6,14 @@
 #include <QApplication>
 #include <QTest>
 
-/** Types over what stands in the field. */
+/** Replaces the text of the field. */
 void typeInto(QWidget* form, const char* field, const QString& text);
-/** Code, Return, quantity, Return: the whole of what a waiter does for a line. */
+/** Types code, Return, quantity, Return, as a waiter does for one line. */
 void pick(OrderItemPicker* picker, const QString& code, const QString& qty);
-/** What was printed to the folder since the last look, slip after slip. */
+/** The slips that were printed to the folder since the last call. */
 QString takeSlips(const QString& folder);
 
-/** Calls the pickers with F12, keys in codes and quantities, ends the round, and goes on with the form. */
+/** Opens the pickers with F12, types codes and quantities, cancels the last picker and continues with the form. */
 template <class Form>
 void keyIn(ModalDriver& people, Form* form, const QList<QPair<QString, QString>>& lines,
            const std::function<void(Form*)>& then)
@@ -24,7 +24,7 @@ void keyIn(ModalDriver& people, Form* form, const QList<QPair<QString, QString>>
         people.expect<Form>(then);
         QTest::keyClick(picker, Qt::Key_Escape);
     });
-    // Its window counts as active while the board behind it is, so the program has to be asked.
+    // Ask the application: the window itself reports active while the board behind it is.
     QTRY_COMPARE(QApplication::activeWindow(), form);
     QTest::keyClick(form, Qt::Key_F12);
 }

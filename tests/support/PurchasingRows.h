@@ -4,7 +4,7 @@
 
 class TestDatabase;
 
-/** A stored purchase of the shop's supplier with one line. */
+/** A purchase of the shop's supplier with one line. */
 struct PurchaseRow
 {
     QString no;
@@ -12,10 +12,10 @@ struct PurchaseRow
     int paid = 0;
     int quantity = 1;
     int price = 0;
-    /** Off the line, in percent. */
+    /** The line's discount in percent. */
     int discount = 0;
     int item = 1;
 };
 
-/** Lays the purchase down on the first of March 2026; its line and itself have the id that is returned. */
+/** Inserts the purchase on 1 March 2026 and returns its id, which is also the id of its line. */
 int insertPurchase(TestDatabase& database, const PurchaseRow& row);

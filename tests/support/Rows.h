@@ -12,8 +12,8 @@ struct RowsOf
 };
 
 /**
- * The columns of a test's table, as QFETCH names them: addColumns<QString, bool>("code", "refused"). What it returns
- * adds rows of these types.
+ * Adds the columns of a test's table, with the names for QFETCH: addColumns<QString, bool>("code", "refused"). The
+ * result adds rows of these types.
  */
 template <typename... Types>
 RowsOf<Types...> addColumns(const std::conditional_t<true, char, Types>*... names)

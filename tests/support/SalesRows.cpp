@@ -79,7 +79,7 @@ int insertSale(TestDatabase& database, const SaleRow& sale)
 
 void insertManySales(TestDatabase& database, int count)
 {
-    // Of ten sales seven are at a table, two at the counter, one is carried home; one of nine is paid in part.
+    // Of ten sales, seven are dine-in, two fast food, one take-away; one of nine is partly paid.
     database.run(
         QString(invoiceColumns).arg("id,") +
         QString("SELECT i, current_date - (i * 30 / %1), type || '-' || lpad(i::text, 6, '0'), "
@@ -91,7 +91,7 @@ void insertManySales(TestDatabase& database, int count)
                 "type FROM (SELECT i, 25000 + (i * 7919 % 90) * 2500 AS total FROM generate_series(1, %1) i) sums) "
                 "sales")
             .arg(count));
-    // The order and the link of a sale have the sale's number.
+    // The order and the link of a sale have the same id as the sale.
     const QString from = " FROM invoice WHERE invoice_type = ";
     database.run("INSERT INTO makan_ditempat (id, status, tgl, meja_id, pemesan, version) SELECT id, 6, invoice_date, "
                  "1, pemesan, 1" +

@@ -5,7 +5,7 @@
 
 class TestDatabase;
 
-/** A sale as it lies in the database, for lists and figures. Ids are 0 where the sale has none; amounts are in Rp. */
+/** A stored sale for tests of lists and figures. Ids are 0 if the sale has none; amounts are in Rp. */
 struct SaleRow
 {
     QString no;
@@ -21,13 +21,13 @@ struct SaleRow
     int employee = 0;
     int agent = 0;
     int user = 1;
-    /** The order that a dine-in sale pays for; 0 makes one. */
+    /** The order of a dine-in sale; 0 creates one. */
     int order = 0;
 };
 
-/** Makes sure that the user exists who made the sales. */
+/** Inserts the user of the sales if missing. */
 void insertSeller(TestDatabase& database, int id, const QString& name);
-/** Lays the sale down in the shop of ShopRows.h, with one line of the item over its total; returns the invoice's id. */
+/** Inserts the sale in the shop of ShopRows.h, with one line of the item for its total; returns the invoice's id. */
 int insertSale(TestDatabase& database, const SaleRow& sale);
-/** A busy month: that many sales of all three kinds in the last 30 days, some of them still open. */
+/** Inserts a busy month: this many sales of all three kinds in the last 30 days, some of them still open. */
 void insertManySales(TestDatabase& database, int count);

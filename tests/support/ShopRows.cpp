@@ -19,7 +19,7 @@ void insertShop(TestDatabase& database)
     database.run("INSERT INTO jenis_item (id, kode, nama, version) VALUES (1, 'FOOD', 'Food', 1)");
     database.run("INSERT INTO satuan (id, kode, nama, version) VALUES (1, 'KG', 'Kilogram', 1)");
     insertItem(database, 1, "RICE", "Rice");
-    // The name is quoted, or its letters would be read as a date pattern.
+    // The name is quoted, otherwise its letters would be read as a date format.
     database.run("INSERT INTO keytable (key_name, next_id, increment_by, format, description, no_zero, version) "
                  "SELECT name, 7, 1, '''' || name || '-''', name, 4, 1 FROM unnest(ARRAY['PO', 'NB', 'NR', 'TPH', "
                  "'KK', 'TR', 'TRD', 'TRF', 'TRP', 'PIU', 'KAG']) name");

@@ -7,22 +7,22 @@
 class TestDatabase;
 
 /**
- * The smallest shop that a document can be written in, every record with id 1: account "1-100" Cash, supplier "S1"
- * Market, item "RICE" by the "KG" of type "FOOD", member "M1" Guest, agent "A1" Guide of 10 percent, employee "E1"
- * Ann, table "T1", and all running numbers at 7 with their name in front ("PO-0007").
+ * Inserts the smallest shop that documents need; every record has the id 1: account "1-100" Cash, supplier "S1" Market,
+ * item "RICE" with unit "KG" and type "FOOD", member "M1" Guest, agent "A1" Guide with 10 percent, employee "E1" Ann,
+ * table "T1". All running numbers are at 7 with their name as prefix ("PO-0007").
  */
 void insertShop(TestDatabase& database);
 
 /**
- * Lays down an order on the shop's table: its guest is "Mary", it waits for the menu, and it has a line of the
- * item RICE for every pair of a quantity and a price. Returns the order's id.
+ * Inserts an order on the shop's table and returns its id: guest "Mary", status "waiting for menu", and one line of the
+ * item RICE per pair of quantity and price.
  */
 int insertDineOrder(TestDatabase& database, const QList<QPair<int, int>>& lines, const QDate& date = {2026, 3, 1});
 
-/** A further item of the shop; its type has an id. */
+/** Inserts another item with this type. */
 void insertItem(TestDatabase& database, int id, const QString& code, const QString& name, int type = 1);
 
-/** The money of a sale: what it came to, what was handed over in cash, and what was paid otherwise. */
+/** The amounts of a sale: total, cash received, and other payments. */
 struct SaleMoney
 {
     qint64 total;
@@ -30,5 +30,5 @@ struct SaleMoney
     qint64 other = 0;
 };
 
-/** Lays down the invoice of one sale with one line: so many of the item, for the total. */
+/** Inserts the invoice of a sale with one line: this quantity of the item for the total. */
 void insertSale(TestDatabase& database, const QDate& date, int item, const SaleMoney& money, int qty = 1, int user = 1);

@@ -9,8 +9,8 @@
 #include <thread>
 
 /**
- * Another workstation in the middle of a transaction: its statements are done when the object is there, and committed
- * a moment later, on a thread of its own.
+ * Another workstation in the middle of a transaction: the constructor returns when its statements are done; a separate
+ * thread commits them a moment later.
  */
 class SlowNeighbour
 {

@@ -23,7 +23,7 @@ struct StallingProxy::Stream
     bool ended = false;
 };
 
-/** One connection of the program; one that was taken in silence has no server. */
+/** One connection of the program; a silent one has no server socket. */
 struct StallingProxy::Line
 {
     Line(int clientSocket, int serverSocket) : client(clientSocket), server(serverSocket) {}
@@ -41,7 +41,7 @@ struct StallingProxy::Line
     int server;
     Stream toServer;
     Stream toClient;
-    /** The end of what the client has sent, where the watched text may have begun. */
+    /** The last bytes of the client, which may contain the beginning of the watched text. */
     QByteArray tail;
     bool awaitsAnswer = false;
 };
@@ -51,7 +51,7 @@ namespace
 void prepare(int socket)
 {
     const int on = 1;
-    // Of no use to a unix socket, and no harm.
+    // Has no effect on a unix socket.
     ::setsockopt(socket, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
 }
 
@@ -97,7 +97,7 @@ int connectToCluster()
 
 StallingProxy::StallingProxy() : m_wake(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK))
 {
-    // Before the proxy's thread needs it.
+    // Create the cluster before the proxy's thread uses it.
     TestCluster::instance();
     listen();
     m_thread = std::thread(&StallingProxy::work, this);
@@ -186,7 +186,7 @@ void StallingProxy::listen()
 void StallingProxy::work()
 {
     while (!m_stop) {
-        // A stream that has ended is not asked again, or its end would wake us for ever.
+        // Do not poll ended streams: they would wake the thread all the time.
         const auto entry = [](int socket, bool reads, bool writes) {
             const int events = (reads ? POLLIN : 0) | (writes ? POLLOUT : 0);
             return pollfd{events ? socket : -1, static_cast<short>(events), 0};
@@ -244,7 +244,7 @@ bool StallingProxy::read(Line& line, Direction direction)
     if (size < 0 && errno == EAGAIN)
         return true;
     stream.ended = size <= 0;
-    // What a silent connection has sent goes nowhere.
+    // Bytes of a silent connection are dropped.
     if (stream.ended || line.server < 0)
         return true;
     bytes.truncate(static_cast<int>(size));

@@ -12,39 +12,41 @@
 #include <vector>
 
 /**
- * A bad network between the program and the test cluster: a TCP port on 127.0.0.1 that hands everything on to the
- * server until it is told to do worse. It works on a thread of its own, also while the test's thread waits for the
- * server. Every control may be called from any thread and holds when the call returns.
+ * A bad network between the program and the test cluster: a TCP port on 127.0.0.1 that forwards everything to the
+ * server until told otherwise. It runs on a separate thread, so it works while the test's thread waits for the server.
+ * All controls are thread-safe and have taken effect when the call returns.
  */
 class StallingProxy
 {
 public:
     enum Moment {
-        /** The text is not handed on: the server never sees it. */
+        /** The text is not forwarded: the server never gets it. */
         BeforeServer,
-        /** The server gets it and carries it out; its answer is not handed on. */
+        /** The server gets and executes it; its answer is not forwarded. */
         BeforeAnswer
     };
     enum Deed { Cut, Stall };
 
     StallingProxy();
-    /** Cuts what is still connected. */
+    /** Closes all connections. */
     ~StallingProxy();
     Q_DISABLE_COPY(StallingProxy)
 
     [[nodiscard]] static QString host() { return "127.0.0.1"; }
     [[nodiscard]] int port() const { return m_port; }
 
-    /** Goes on taking bytes, and hands none on, as a pulled cable does; a connection that ends stays open behind it. */
+    /**
+     * Receives bytes but forwards none, like an unplugged cable. The other side of a connection that ends stays open.
+     */
     void stall();
-    /** Ends every stall, that of a text too, and hands on what was held back. */
+    /** Ends every stall, also one from atText(), and forwards the held bytes. */
     void goOn();
-    /** Takes connections from now on and never says a word to them. */
+    /** Accepts connections from now on but never answers them. */
     void takeInSilence();
     /**
-     * Does the deed, once, to the connection on which the client sends this text, in capitals or not. The moment
-     * "BeforeAnswer" comes with the first byte of the server after it: right for a statement that is sent to be carried
-     * out ("COMMIT"), too early for one that is only prepared.
+     * Cuts or stalls, once, the connection on which the client sends this text, ignoring case. "BeforeAnswer" applies
+     * to the server's first byte after it: correct for a statement that is executed directly ("COMMIT"), too early for
+     * one that is only prepared.
      */
     void atText(const QByteArray& text, Moment moment, Deed deed);
 
@@ -59,7 +61,7 @@ private:
         Deed deed = Cut;
     };
 
-    /** Runs it on the proxy's thread and waits for its end; everything below belongs to that thread. */
+    /** Runs the command on the proxy's thread and waits for it; everything below is used only on that thread. */
     void control(const std::function<void()>& command);
     void work();
     void obey();
@@ -67,9 +69,9 @@ private:
     void take();
     [[nodiscard]] bool read(Line& line, Direction direction);
     [[nodiscard]] bool handOn(Line& line, Direction direction) const;
-    /** Looks for the watched text in what the client has sent; false where the connection shall be cut. */
+    /** Looks for the watched text in the client's bytes; false if the connection must be cut. */
     [[nodiscard]] bool look(Line& line, const QByteArray& bytes);
-    /** The first answer to the watched text; false where the connection shall be cut. */
+    /** Called for the first answer to the watched text; false if the connection must be cut. */
     [[nodiscard]] bool answered(Line& line);
     [[nodiscard]] bool isHeld(const Stream& stream) const;
 

@@ -4,7 +4,7 @@
 
 void insertManyMovements(TestDatabase& database, int items, int years)
 {
-    // What does not matter here has a value without being told.
+    // Columns that do not matter here get defaults.
     database.run(
         "DO $$ DECLARE c record; BEGIN FOR c IN SELECT table_name, column_name, CASE WHEN column_name = 'acct_code' "
         "THEN '1-100' WHEN data_type = 'boolean' THEN 'false' WHEN data_type = 'date' THEN '2026-01-01' WHEN data_type "
@@ -12,7 +12,7 @@ void insertManyMovements(TestDatabase& database, int items, int years)
         "column_default IS NULL AND table_name IN ('invoice', 'invoice_detail', 'acquisition', 'acquisition_detail', "
         "'credit_note', 'credit_note_detail', 'stock_take', 'item_history') LOOP EXECUTE format('ALTER TABLE %I ALTER "
         "%I SET DEFAULT %L', c.table_name, c.column_name, c.filler); END LOOP; END $$");
-    // Documents are spread over the years, and lie one after the other as they come in a shop.
+    // Documents are spread over the years and stored in order of date, as in a real shop.
     database.run(QString("CREATE FUNCTION pg_temp.day_at(part numeric) RETURNS date LANGUAGE sql AS 'SELECT "
                          "current_date - %1 + floor(%1 * part)::int'")
                      .arg(years * 365));
@@ -27,7 +27,7 @@ void insertManyMovements(TestDatabase& database, int items, int years)
         "10, id % 50, now(), 1 FROM item");
     run("INSERT INTO stock_take (item_id, tanggal, qty, source_acct_code, version) SELECT id, day_at(id % 97 / 97.0), "
         "id % 40, '1-100', 1 FROM item WHERE id % 3 = 0");
-    // Documents of five lines, and their lines over all the items.
+    // Documents with five lines each; the lines cover all items.
     for (const auto& document :
          {QStringList{"invoice", "invoice_date", "invoice_detail", "invoice_id, item_id, qty", "8"},
           QStringList{"acquisition", "purchase_date", "acquisition_detail", "acquisition_id, item_id, qty", "0.8"},

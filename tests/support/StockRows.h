@@ -3,8 +3,8 @@
 class TestDatabase;
 
 /**
- * A storeroom in full swing, in the shop of ShopRows.h: that many items, each with 40 lines of invoices, 4 of purchases
- * and one of a return, and every third one counted. All of it lies in the given number of years before today. The
- * purchases stand in the journal; item 1 is bought every day on top of that.
+ * Inserts a busy stock in the shop of ShopRows.h: this many items, each with 40 invoice lines, 4 purchase lines and one
+ * return line; every third item was counted. All within the given number of years before today. Purchases are in the
+ * journal; item 1 is also bought every day.
  */
 void insertManyMovements(TestDatabase& database, int items, int years = 1);

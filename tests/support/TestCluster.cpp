@@ -37,7 +37,7 @@ TestCluster::TestCluster() : m_host(qEnvironmentVariable("ZAVEL_TEST_PGHOST"))
 TestCluster::~TestCluster()
 {
     if (m_own.state() != QProcess::NotRunning) {
-        // The end of its input ends the command that the cluster runs for, and with it the cluster.
+        // Closing its input ends the command that the cluster runs for, and so the cluster.
         m_own.closeWriteChannel();
         m_own.waitForFinished(startTimeout);
     }

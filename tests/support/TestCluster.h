@@ -4,8 +4,8 @@
 #include <QString>
 
 /**
- * The throw-away PostgreSQL cluster of the test run. The test command starts one for all programs and names it in the
- * environment; a test program that runs on its own starts one for itself.
+ * The temporary PostgreSQL cluster of the test run. The test command starts one for all programs and passes its address
+ * in the environment; a test program started alone starts its own.
  */
 class TestCluster
 {
@@ -17,7 +17,7 @@ public:
     [[nodiscard]] const QString& host() const { return m_host; }
     [[nodiscard]] int port() const { return m_port; }
     [[nodiscard]] const QString& user() const { return m_user; }
-    /** Runs a statement on the maintenance database; a failure ends the test program. */
+    /** Runs a statement on the maintenance database; an error ends the test program. */
     void run(const QString& statement);
     /** Runs the function while no other test program runs one. */
     template <class Function>
@@ -28,7 +28,7 @@ public:
         unlock();
     }
     [[nodiscard]] bool hasDatabase(const QString& name);
-    /** Runs private-postgres with a command that writes "HOST" and addresses, and returns these. */
+    /** Runs private-postgres with a command that prints "HOST" and addresses; returns these. */
     [[nodiscard]] static QStringList start(QProcess& script, const QStringList& arguments);
 
 private:

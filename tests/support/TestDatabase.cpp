@@ -45,7 +45,8 @@ TestDatabase::TestDatabase(Kind kind)
     database.setDatabaseName(m_name);
     if (!database.open())
         qFatal("other workstation: %s", qPrintable(database.lastError().text()));
-    // The server's clock is another one on purpose; workstations go by their own, or "today" is two days at night.
+    // The server has another time zone on purpose. Workstations use their own; otherwise there would be two different
+    // "today" at night.
     QSqlQuery(database).exec("SET TIME ZONE '" + QTimeZone::systemTimeZoneId() + '\'');
     if (!open())
         qFatal("program's connection: %s", qPrintable(AppContext::instance()->databaseManager()->lastErrorText()));

@@ -6,8 +6,8 @@
 #include <QVariant>
 
 /**
- * A database of the test's own, open as the program's connection, dropped at the end. An installed one is a clone of
- * a template that the program's own installer made; an empty one holds nothing.
+ * A separate database for a test, opened as the program's connection and dropped at the end. An installed one is a
+ * clone of a template created by the program's installer; an empty one has no tables.
  */
 class TestDatabase
 {
@@ -23,21 +23,21 @@ public:
     [[nodiscard]] static QString user();
     [[nodiscard]] const QString& name() const { return m_name; }
 
-    /** As a workstation has them that works with it. */
+    /** The connection settings for this database. */
     [[nodiscard]] ConnectionSettings settings() const;
 
     /** Opens the program's connection again, as after a restart. */
     bool open();
 
-    // The other workstation: a connection of its own to the same database.
-    /** Runs the statement there; a failure fails the test. */
+    // The other workstation: a second connection to the same database.
+    /** Runs the statement on that connection; an error fails the test. */
     void run(const QString& statement);
     /** Runs the statements of a file below tests/. */
     void runFile(const QString& path);
     [[nodiscard]] static QString textOf(const QString& path);
-    /** The first value of the first row there. */
+    /** The first value of the first row, read on that connection. */
     QVariant value(const QString& statement);
-    /** Ends every session of the program's connection, as a server that goes away does. */
+    /** Ends all sessions of the program, like a server that stops. */
     void killConnections();
 
 private:
@@ -47,12 +47,12 @@ private:
     QString m_otherName;
 };
 
-/** Makes an administrator with every right the logged-in user. */
+/** Logs in an administrator with all rights. */
 void loginAsAdmin();
-/** Makes a user the logged-in one who has just these grants of one service: pairs of key and grant. */
+/** Logs in a user who has only these grants of one service: pairs of right and grant. */
 void loginWithRights(const QString& businessName, const QList<QPair<int, int>>& grants, int userId = 77);
 
-/** Counts the statements that the program sends while it lives. */
+/** Counts the statements that the program sends while this object exists. */
 class StatementCount
 {
 public:

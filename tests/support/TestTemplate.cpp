@@ -32,7 +32,7 @@ void ensureInstalledTemplate()
     cluster.exclusively([&cluster] {
         if (cluster.hasDatabase(installedTemplateName()))
             return;
-        // Under another name until it is complete, so that nobody clones half of it.
+        // Created under another name until it is complete, so that nobody clones a partial one.
         const QString unfinished = installedTemplateName() + "_unfinished";
         cluster.run("DROP DATABASE IF EXISTS " + unfinished);
         cluster.run("CREATE DATABASE " + unfinished);

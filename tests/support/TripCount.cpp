@@ -10,7 +10,7 @@ namespace
 {
 constexpr int withoutTimes = 1; // PQTRACE_SUPPRESS_TIMESTAMPS
 
-/** A function of the client library that the driver has loaded; by name, so that tests build without its headers. */
+/** Calls a function of the client library that the driver has loaded; by name, so that tests need no libpq headers. */
 template <class... Arguments>
 void call(const char* function, Arguments... arguments)
 {
@@ -18,7 +18,7 @@ void call(const char* function, Arguments... arguments)
     const auto address = reinterpret_cast<Function>(QLibrary::resolve("pq", 5, function));
     if (!address)
         qFatal("the client library has no %s", function);
-    // The driver hands out a pointer to its handle of the connection.
+    // The driver's handle is a pointer to the connection's pointer.
     address(*static_cast<void**>(KorDatabase::current().driver()->handle().data()), arguments...);
 }
 } // namespace
@@ -45,7 +45,7 @@ QStringList TripCount::sent() const
     char piece[4096];
     for (std::size_t size; (size = std::fread(piece, 1, sizeof piece, m_trace)) > 0;)
         text.append(piece, int(size));
-    // "F" is the frontend's side of the conversation: its message, length, kind and text.
+    // "F" marks a message of the client: its length, kind and text follow.
     QStringList messages;
     for (const QByteArray& line : text.split('\n')) {
         if (line.startsWith("F\t"))

@@ -5,8 +5,8 @@
 #include <cstdio>
 
 /**
- * Listens to what goes over the wire of the program's connection while it lives. Each message to the server is a trip:
- * a statement or several in one text, a preparation, a begin, a commit.
+ * Records the messages from the program to the server while it exists. Each message is a round trip: one or more
+ * statements in one text, a prepare, a begin, a commit.
  */
 class TripCount
 {
@@ -15,7 +15,7 @@ public:
     ~TripCount();
     Q_DISABLE_COPY(TripCount)
 
-    /** What was sent so far, one text a trip. */
+    /** The messages so far. */
     [[nodiscard]] QStringList sent() const;
 
 private:

@@ -46,7 +46,7 @@ void fillEveryTable(TestDatabase& database)
     database.run("INSERT INTO entities_history (class_name, data_json, item_id, operation_id, sha1_hash, user_id, "
                  "version_id) VALUES ('EntityMeja', '{\"kode\":\"T1\"}', 1, 1, '', 1, 1)");
     insertRows(database, "stock_take", "source_acct_code='1-100'");
-    // Where nothing has come by itself, one row that says nothing.
+    // Tables that are still empty get one neutral row.
     const QMap<QString, QStringList> tables = allRows(database.name());
     for (auto table = tables.cbegin(); table != tables.cend(); ++table) {
         if (table->isEmpty())
@@ -86,7 +86,7 @@ QString schemaOf(const QString& databaseName)
     if (!dump.waitForFinished() || dump.exitCode() != 0)
         qFatal("%s: %s", qPrintable(databaseName), dump.readAllStandardError().constData());
     QStringList lines = QString::fromUtf8(dump.readAllStandardOutput()).split('\n');
-    // Two lines with a word that differs every time.
+    // Two lines contain a random word.
     lines.erase(std::remove_if(lines.begin(), lines.end(), [](const QString& line) { return line.startsWith('\\'); }),
                 lines.end());
     return lines.join('\n');
