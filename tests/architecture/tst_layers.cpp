@@ -9,7 +9,7 @@
 
 namespace
 {
-// The floors of the house, lowest first: each is a folder, a library and the beginning of its includes.
+// The layers, lowest first: each is a folder, a library and the first part of its include paths.
 const QStringList floors{"kor", "app", "pos", "zavel", "shell"};
 
 QString sourceRoot() { return qEnvironmentVariable("ZAVEL_SOURCE_DIR") + "/src"; }
@@ -20,7 +20,7 @@ QString textOf(const QString& path)
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
-/** Paths below src, of the files with these endings. */
+/** The paths below src of the files with these suffixes. */
 QStringList sources(const QStringList& endings)
 {
     QStringList paths;
@@ -31,7 +31,7 @@ QStringList sources(const QStringList& endings)
     return paths;
 }
 
-/** What the file includes of the house, as written; its form and its meta-objects are its own. */
+/** The project's own headers that the file includes, without its own .ui and .moc files. */
 QStringList includesOf(const QString& path)
 {
     static const QRegularExpression include("^\\s*#include \"([^\"]+)\"", QRegularExpression::MultilineOption);
@@ -47,13 +47,13 @@ QStringList includesOf(const QString& path)
 
 QString floorOf(const QString& path) { return path.section('/', 0, 0); }
 
-/** The folder that a file lies in. */
+/** The folder of a file. */
 QString folderOf(const QString& path) { return path.section('/', 0, -2); }
 
-/** The part of a floor that a folder belongs to: "pos/cash" of "pos/cash/ledger". */
+/** The room (subfolder of a layer) of a file: "pos/cash" for a file in "pos/cash/ledger". */
 QString roomOf(const QString& path) { return folderOf(path).section('/', 0, 1); }
 
-/** Registries and installers put the house together, so they know everybody of their floor. */
+/** Registries and installers create all objects of their layer, so they may include everything in it. */
 bool composes(const QString& path)
 {
     const QString room = path.section('/', 1, 1);
@@ -62,7 +62,7 @@ bool composes(const QString& path)
 
 using Arrows = QHash<QString, QSet<QString>>;
 
-/** A way that leads from the room back to it; empty when there is none. */
+/** A cycle of includes through the room; empty if there is none. */
 QStringList circleThrough(const QString& room, const Arrows& arrows)
 {
     QHash<QString, QString> from;
@@ -87,7 +87,7 @@ QStringList circleThrough(const QString& room, const Arrows& arrows)
 }
 } // namespace
 
-/** A floor includes only what lies below it, and its rooms have an order of their own. */
+/** A layer includes only lower layers, and the rooms of a layer have no cycles. */
 class TestLayers : public QObject
 {
     Q_OBJECT
@@ -118,7 +118,7 @@ private slots:
         row("rooms", false);
         row("folders", true);
     }
-    /** Who reads one room needs the rooms below it, and never the whole floor. */
+    /** Without cycles, an engineer can read one room with the rooms below it, instead of the whole layer. */
     void noCircleAmongRooms()
     {
         QFETCH(bool, folders);

@@ -12,11 +12,11 @@ namespace
 {
 QString sourceFolder() { return qEnvironmentVariable("ZAVEL_SOURCE_DIR") + QStringLiteral("/src"); }
 
-/** Anything from ":/" up to a picture's ending: in a string, in a style sheet's url() or in a form's iconset. */
+/** Any text from ":/" to an image suffix: in a string, a style sheet's url() or a form's iconset. */
 const QString pictureName = QStringLiteral(":/[A-Za-z0-9][^\"'()<>\\r\\n%]*?\\.(?:png|svg|jpe?g|gif|ico)");
 } // namespace
 
-/// The pictures are found by name at run time only; a wrong name would show as an empty button on the till.
+/// Images are looked up by name at run time; a wrong name would show as an empty button on the till.
 class TestResources final : public QObject
 {
     Q_OBJECT
@@ -46,7 +46,7 @@ private slots:
                 uses.insert(found.next().captured(), source.fileName());
         }
 
-        // These come from the window and the logo of the company even where the name is composed or kept in a record.
+        // These are used by the window and the company logo, where the name is composed or stored in a record.
         for (const char* always : {":/icons/Beverage-Coffee-02.png", ":/images/logo.png", ":/images/brintel-200px.png"})
             uses.insert(QString::fromLatin1(always), QStringLiteral("the program's start"));
         for (auto use = uses.cbegin(); use != uses.cend(); ++use)

@@ -74,7 +74,7 @@ namespace
 {
 using Made = std::unique_ptr<QWidget>;
 
-// What pickers read may be shown by a line for as long as somebody looks.
+// Records read by pickers must exist as long as a line shows them.
 EntityPool& records()
 {
     static EntityPool pool;
@@ -93,7 +93,7 @@ QList<Form> pickers()
     return {{Dialogs::staticMetaObject.className(), [] { return std::make_unique<Dialogs>(records(), nullptr); }}...};
 }
 
-/** The form of a line that came from another document, which shows more of it than that of a new line. */
+/** The form of a line copied from another document, which shows more than that of a new line. */
 template <class Dialog, class Line>
 Form lineForm()
 {
@@ -150,7 +150,7 @@ QList<Form> pages()
     return pages;
 }
 
-/** The wizard of a new machine as it asks for the particulars. */
+/** The setup wizard at its page of details. */
 template <class Page>
 Form wizardAt(void (*answer)(QWizard&))
 {

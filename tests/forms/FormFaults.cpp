@@ -22,7 +22,7 @@
 
 namespace
 {
-// What a field shows of what stands in it.
+// The least number of characters that a field must show.
 constexpr int fewestCharacters = 6;
 
 QString nameOf(const QWidget* widget)
@@ -34,7 +34,10 @@ QString nameOf(const QWidget* widget)
 
 QRect placeOf(const QWidget* widget) { return {widget->mapTo(widget->window(), QPoint()), widget->size()}; }
 
-/** What Qt makes a widget of: the box in a spin box, the arrows of a tab bar, a grid's corner and the like. */
+/**
+ * Internal parts of Qt's widgets: the line edit of a spin box, the arrows of a tab bar, a grid's corner button and so
+ * on.
+ */
 bool isPart(const QWidget* widget)
 {
     const QWidget* parent = widget->parentWidget();
@@ -55,7 +58,7 @@ QList<QWidget*> shownIn(const QWidget* form)
     return shown;
 }
 
-/** Grids, groups of radio buttons and the like are one stop. */
+/** Whether Tab stops here; a grid or a group of radio buttons is one stop. */
 bool isStop(const QWidget* widget)
 {
     if (!widget->isEnabled() || widget->focusProxy() || !(widget->focusPolicy() & Qt::TabFocus))
@@ -73,7 +76,7 @@ bool isField(const QWidget* widget)
 
 bool isHigher(const QWidget* one, const QWidget* other) { return placeOf(one).top() < placeOf(other).top(); }
 
-/** The stops in the order of the key, from the one that comes first in the form. */
+/** The tab stops in tab order, starting with the topmost one. */
 QList<QWidget*> walk(QWidget* form)
 {
     QList<QWidget*> way;
@@ -85,17 +88,17 @@ QList<QWidget*> walk(QWidget* form)
     QWidget* at = QApplication::focusWidget();
     while (at && !way.contains(at)) {
         way.append(at);
-        // The key goes from day to month to year before it leaves a date.
+        // Tab moves through day, month and year before it leaves a date.
         for (int press = 0; press < 4 && QApplication::focusWidget() == at; ++press)
             QTest::keyClick(at, Qt::Key_Tab);
         at = QApplication::focusWidget();
     }
-    // A circle has no beginning of its own: it is read from the top.
+    // The tab order is a cycle; start it at the topmost widget.
     std::rotate(way.begin(), std::min_element(way.begin(), way.end(), isHigher), way.end());
     return way;
 }
 
-/** Back in the row, or up in the column. */
+/** True if the step goes back in a row or up in a column. */
 bool jumps(const QRect& from, const QRect& to)
 {
     const auto share = [](int begin, int end, int length) { return double(end - begin) / length > 0.5; };
@@ -170,7 +173,7 @@ void addCutWords(const QWidget* widget, QStringList* faults)
     }
 }
 
-/** Where widgets lie on a ground that moves, or draw themselves. */
+/** True for parents with scrolled or self-drawn content. */
 bool laysOutItself(const QWidget* parent)
 {
     return qobject_cast<const QAbstractScrollArea*>(parent) ||
@@ -189,7 +192,7 @@ QStringList tabFaults(QWidget* form)
     const QList<QWidget*> shown = shownIn(form);
     for (QWidget* widget : shown) {
         const auto* button = qobject_cast<const QAbstractButton*>(widget);
-        // The arrow keys go from one radio button of a group to the next; the sidebar repeats the menus for a finger.
+        // Not lost: radio buttons of a group, reached with the arrow keys, and the sidebar, which repeats the menus.
         const bool isLost = button && button->isEnabled() && !button->autoExclusive() &&
                             !button->inherits("QtCategoryButton") && !(button->focusPolicy() & Qt::TabFocus) &&
                             button->shortcut().isEmpty();

@@ -4,12 +4,14 @@
 
 class QWidget;
 
-// What a person without a mouse, or with poor eyes, would complain about in a form that is shown. Each returns a line
-// a fault.
+// Checks of a shown form for keyboard use and readable layout. Each returns one line per fault.
 
-/** Walks with the Tab key until the walk comes round: what is never reached, what holds the key, what jumps about. */
+/**
+ * Follows the Tab key through one full cycle and finds widgets that are never reached, that keep the focus, or that are
+ * out of order.
+ */
 [[nodiscard]] QStringList tabFaults(QWidget* form);
-/** Fields that nobody names, and labels that name nothing. */
+/** Fields without a label and labels without a field. */
 [[nodiscard]] QStringList labelFaults(const QWidget* form);
-/** Texts without room, widgets outside of their parent or on top of each other. */
+/** Texts that are cut off, and widgets outside their parent or overlapping each other. */
 [[nodiscard]] QStringList roomFaults(const QWidget* form);

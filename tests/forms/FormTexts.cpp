@@ -18,7 +18,7 @@
 
 namespace
 {
-/** Every own widget of the form, without the tool's parts that say nothing (scroll bars and the like). */
+/** The form's own widgets, without internal parts of Qt that have no text (scroll bars and so on). */
 QList<QWidget*> widgetsOf(QWidget* form)
 {
     QList<QWidget*> widgets = form->findChildren<QWidget*>();
@@ -51,7 +51,7 @@ QStringList ownTexts(QWidget* widget)
     return texts;
 }
 
-/** A key as the toolkit would hear it, when there is one. */
+/** The key as text; empty if there is none. */
 QString key(const QKeySequence& sequence, const QString& what)
 {
     return sequence.count() == 1 && (sequence[0] & Qt::AltModifier) ? sequence.toString() + ": " + what : QString();

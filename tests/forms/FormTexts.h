@@ -4,10 +4,9 @@
 
 class QWidget;
 
-/** What one can read in the window or page, without what stands in its lists: sorted, a text as often as it is there.
- */
+/** The visible texts of the window or page, without the content of its lists; sorted, with duplicates. */
 [[nodiscard]] QStringList formTexts(QWidget* form);
-/** What stands in its lists and in the lists of its boxes. */
+/** The content of its lists and combo boxes. */
 [[nodiscard]] QStringList listTexts(QWidget* form);
-/** The keys with Alt that something in the form answers to, each as "Alt+D: what it is". */
+/** The Alt keys that the form handles, each as "Alt+D: what it is". */
 [[nodiscard]] QStringList formKeys(QWidget* form);

@@ -19,11 +19,11 @@
 
 namespace
 {
-/** A typed text for a box, by its name. */
+/** Texts to type, by the name of the box. */
 using Entries = QList<QPair<QByteArray, QString>>;
 using Made = std::unique_ptr<KorDialog>;
 
-/** The form of the stored record, which goes to the service when the form is confirmed; without an id of a new one. */
+/** The form of a stored record, which is saved by the service on accept; without an id, of a new one. */
 template <class Dialog>
 Made recordForm(const QString& serviceName, int id = KorNoValue)
 {
@@ -37,7 +37,7 @@ Made recordForm(const QString& serviceName, int id = KorNoValue)
     return dialog;
 }
 
-/** The form of a line, which is kept by nobody. */
+/** The form of a line, which is not saved. */
 template <class Dialog, class Line>
 Made lineForm()
 {
@@ -71,7 +71,7 @@ const QHash<QString, std::function<Made()>>& makers()
 }
 } // namespace
 
-/** What is typed into the boxes of amounts, quantities and percents is what is stored, or the form says why not. */
+/** Amounts, quantities and percentages are stored as typed, or the form shows why not. */
 class TestAmounts : public DatabaseTest
 {
     Q_OBJECT
@@ -113,7 +113,7 @@ private slots:
                     box->setFocus();
                     box->clear();
                     QTest::keyClicks(box, text);
-                    // A percent has no largest, and stock is also taken away.
+                    // Percentages have no maximum, and stock adjustments may be negative.
                     const bool isNumber = (text.startsWith('9') && box->inherits("PercentEdit")) ||
                                           (text == "-1" && box->objectName() == "txtStok");
                     if (box->text() == text && !isNumber && box->fault().isEmpty() && box->doubt().isEmpty())

@@ -9,7 +9,7 @@
 
 namespace
 {
-// What a screen of 1366 x 768 leaves to a page, and one of 1024 x 768 to a dialog with its frame.
+// The room for a page on a 1366 x 768 screen, and for a dialog with its frame on a 1024 x 768 screen.
 constexpr QSize pageRoom(1130, 640);
 constexpr QSize dialogRoom(1004, 720);
 constexpr QSize screenRoom(1366, 768);
@@ -22,7 +22,7 @@ QSize roomOf(const QWidget* form)
 }
 } // namespace
 
-/** Every screen of the program, at the house's font and a quarter larger, under the keys and under the ruler. */
+/** Checks every page and dialog with the normal font and one a quarter larger: tab order, labels and layout. */
 class TestForms : public DatabaseTest
 {
     Q_OBJECT
@@ -43,7 +43,7 @@ private slots:
         for (int form = 0; form < allForms().size(); ++form) {
             row(allForms()[form].name, form, 11.0, "en");
             row(allForms()[form].name + " at 125 %", form, 13.75, "en");
-            // Its words are longer.
+            // Indonesian texts are longer.
             row(allForms()[form].name + " in Indonesian at 125 %", form, 13.75, "id");
         }
     }
@@ -72,7 +72,7 @@ private slots:
             if (pages)
                 pages->setCurrentIndex(page);
             QCoreApplication::processEvents();
-            // The keys of the keyboard on the screen are for a finger, and leave the field to be written in alone.
+            // The buttons of the on-screen keyboard are for touch only and must not take the focus from the field.
             if (allForms()[form].name != "DialogKeyboard")
                 faults += tabFaults(shown.get());
             faults += labelFaults(shown.get()) + roomFaults(shown.get());
@@ -86,7 +86,7 @@ private slots:
         for (const SeenBox& box : m_people->boxes())
             faults.append("box: " + box.text);
         faults.removeDuplicates();
-        // Line by line: a message of the test framework has its end.
+        // Line by line, because the test framework truncates long messages.
         for (const QString& fault : qAsConst(faults))
             qWarning("%s", qPrintable(fault));
         QVERIFY(faults.isEmpty());

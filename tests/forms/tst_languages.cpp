@@ -20,7 +20,7 @@
 
 namespace
 {
-/** Figures, and the words that both languages share. */
+/** True for numbers and words that are the same in both languages. */
 bool isAlike(QString text)
 {
     static const QSet<QString> alike{"English", "Indonesian", "ZavelPOS", "CSV",      "E-mail", "ENTER", "Email",
@@ -43,7 +43,7 @@ QString difference(QStringList actual, QStringList expected)
                                                   : actual.join(" | ") + " instead of " + expected.join(" | ");
 }
 
-/** What the reports offer to choose from; they ask the database for it on a thread of their own. */
+/** The choices of the reports, which they read from the database on a separate thread. */
 const QStringList expectedChoices{"Market", "Food", "admin", "1-100 Cash"};
 constexpr int nextLook = 250;
 constexpr int mostLooks = 40;
@@ -60,7 +60,7 @@ QStringList reportChoices(const MainWindow& window)
 }
 } // namespace
 
-/// Both languages over every screen of the program, made in them and switched to them while it is open.
+/// Checks every page and dialog in both languages: created in them, and switched to them while open.
 class TestLanguages : public DatabaseTest
 {
     Q_OBJECT
@@ -116,7 +116,7 @@ private slots:
         m_language->load(code);
         const std::unique_ptr<QWidget> made = allForms().at(form).make();
         QStringList keys = formKeys(made.get());
-        // A page lies in the window, whose own keys work there too.
+        // A page is in the main window, whose keys work there too.
         if (!made->isWindow() || made->inherits("KorTab"))
             keys += formKeys(allForms().last().make().get());
         QMap<QString, QStringList> users;
@@ -169,7 +169,7 @@ private slots:
 
     void aDatabaseInstalledInIndonesianIsComplete()
     {
-        // Names of rights are stored as they are told, and no two may be the same.
+        // Names of rights are stored in the installation's language and must be unique.
         TestDatabase database(TestDatabase::Empty);
         m_language->load("id");
         const InstallerRun run(KorInstaller::FreshInstall);
@@ -204,11 +204,11 @@ private:
 
     static QStringList textsOf(MainWindow& window)
     {
-        // The language goes round by events, and so do pages that make room for others.
+        // Language changes and layout of pages are done by events.
         QCoreApplication::processEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         const auto* dashboard = window.findChild<QWebView*>("webView")->page()->mainFrame();
-        // Each report reads its choices on a thread of its own, whole lists at a time.
+        // Each report reads its choices on a separate thread, a whole list at a time.
         QStringList texts;
         const auto isComplete = [&window, &texts, dashboard] {
             const QStringList former = texts;

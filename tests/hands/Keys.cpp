@@ -43,7 +43,7 @@ QList<Stroke> strokesOf(const QWidget& page)
     QList<Stroke> strokes{{"Enter", Qt::Key_Return}, {"Escape", Qt::Key_Escape}};
     QSet<int> known{Qt::Key_Return, Qt::Key_Escape};
     const auto add = [&](const QKeySequence& keys) {
-        // Keys with modifiers are those of mnemonics and of the editing of texts.
+        // Keys with modifiers are mnemonics and text editing.
         if (keys.count() != 1 || keys[0] < Qt::Key_Escape || keys[0] > Qt::Key_F35 || known.contains(keys[0]))
             return;
         known.insert(keys[0]);
@@ -74,7 +74,7 @@ void strike(QWidget* page, const Stroke& stroke)
         return;
     }
     const QPointer<QTableView> grid = gridInFront(*page);
-    // A finger meets whatever lies on top.
+    // A click reaches the topmost window.
     const QWidget* form = openForm();
     if (!grid || (form && form != page->window()) || !grid->model() || grid->model()->rowCount() == 0)
         return;
@@ -117,7 +117,7 @@ bool Burst::isAtRest() const
 
 void Burst::look()
 {
-    // A form over a form is opened by a key of that form; two over one window have met by accident.
+    // A form may open another form over itself; two forms over the same window are a fault.
     QSet<const QWidget*> below;
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (const QWidget* window : windows) {
@@ -138,7 +138,7 @@ void Burst::closeOne()
     if (!form || !form->isVisible())
         return;
     if (++m_closed <= mostClosings) {
-        // "No" where there is such an answer, as Escape in a box means it.
+        // Escape means "No" in a message box that has this button.
         strikeSoon(Qt::Key_Escape);
         return;
     }

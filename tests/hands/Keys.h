@@ -10,40 +10,39 @@
 
 class QTableView;
 
-/** Something that a hand does to a page or a form: a key, or a double click on a row of its grid. */
+/** One input to a page or form: a key, or a double click on a row of its grid. */
 struct Stroke
 {
     QString name;
     /** 0 is the double click. */
     int key = 0;
 
-    /** What such a key usually does is to open a form or a question. */
+    /** True if the input usually opens a form or message box. */
     [[nodiscard]] bool opens() const;
 };
 
-/** What the page or form answers to: the keys of its buttons and shortcuts, Enter, Escape and a double click. */
+/** The inputs that the page or form handles: keys of its buttons and shortcuts, Enter, Escape and a double click. */
 [[nodiscard]] QList<Stroke> strokesOf(const QWidget& page);
 
-/** The grid that is in front; null where there is none. */
+/** The visible grid; null if there is none. */
 [[nodiscard]] QTableView* gridInFront(const QWidget& page);
 
-/** Strikes the key from the loop: what it opens runs a loop of its own, in which the caller's timer would stand still.
- */
+/** Sends the key from the event loop: a form that it opens runs its own loop, which would block the caller's timer. */
 void strikeSoon(int key);
-/** Sends the stroke as a person at this moment would: to the page's grid, or to the window that has the keys. */
+/** Sends the input to the page's grid or to the window that has the focus. */
 void strike(QWidget* page, const Stroke& stroke);
 
-/** Sees a page or a form through two quick strokes, and closes what they opened. */
+/** Sends two quick inputs to a page or form and closes what they opened. */
 class Burst
 {
 public:
     /**
-     * Two strokes, one so many milliseconds after the other, as the window system delivers them: the second goes to
-     * whatever window has the keys by then. They begin at the page, or at a form that is open.
+     * Sends two inputs with this delay in milliseconds, as the window system does: the second goes to the window that
+     * has the focus then. Starts at the page, or at a form that is open.
      */
     void play(QWidget* page, const Stroke& first, const Stroke& second, int delay);
 
-    /** What was wrong: two forms open side by side, or one that Escape does not close. */
+    /** The faults: two forms open side by side, or a form that Escape does not close. */
     [[nodiscard]] QStringList faults() const { return m_faults; }
 
 private:

@@ -21,7 +21,7 @@ namespace
 {
 constexpr int mostEscapes = 500;
 
-/** What is in the shop, what is not, and what nobody would type. */
+/** Codes that exist, codes that do not, and nonsense. */
 const QStringList words{"RICE", "TEA",   "t1",   "T2", "M1", "M2",  "S1", "A1",
                         "E1",   "1-100", "FOOD", "KG", "et", "x'y", "%",  "Ann"};
 const QStringList figures{"1", "2", "3", "5", "12", "100", "7500", "12,5", "0", "-4", "1000000"};
@@ -31,7 +31,7 @@ const QList<int> wanderings{Qt::Key_Tab,  Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_
 
 const QString rowTap = "[a row]";
 
-// What people do all day, in case the hands remember it: pages, words, and keys in brackets.
+// Typical tasks, which are sometimes typed as a whole: pages, texts, and keys in brackets.
 const QList<QStringList> errands{
     {"TabMakanDitempat", rowTap, "[F12]", "Ann", "[F3]", "[F12]", "RICE", "[Return]", "2", "[Return]", "[Esc]",
      "[Return]"},
@@ -50,7 +50,7 @@ const QList<QStringList> errands{
     {"TabPesananMasuk", rowTap, "[F9]", "[F8]"},
 };
 
-// Mostly as fast as the program takes them, at times as slow as a person.
+// Mostly without a pause, sometimes as slow as a user.
 const QList<int> pauses{0, 0, 0, 0, 0, 1, 5, 20, 40, 120};
 } // namespace
 
@@ -69,14 +69,14 @@ void RandomHands::play(int strokes)
     scheduleNext(&here);
     while (m_left > 0 || openForm()) {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-        // What was posted may open a form yet.
+        // Posted events may still open a form.
         QCoreApplication::processEvents();
     }
 }
 
 void RandomHands::scheduleNext(QObject* context)
 {
-    // From a timer, since most of it happens inside the loops of forms.
+    // From a timer, since most inputs go to forms that run their own event loop.
     QTimer::singleShot(oneOf(pauses), context, [this, context] {
         scheduleNext(context);
         if (m_left-- > 0)
@@ -111,7 +111,7 @@ void RandomHands::act()
 {
     QWidget* form = openForm();
     QWidget* place = form ? form : page();
-    // No window manager is there to do it.
+    // There is no window manager that would do it.
     if (!QApplication::activePopupWidget())
         QApplication::setActiveWindow(form ? form : &m_window);
     const int chance = below(100);
@@ -171,7 +171,7 @@ void RandomHands::goOnWithTheErrand()
 void RandomHands::strikeSomething(QWidget* place)
 {
     const Stroke stroke = oneOf(strokesOf(*place));
-    // Hands that close everything at once get nowhere.
+    // Skip most Escape keys; otherwise everything would be closed at once.
     if (stroke.key == Qt::Key_Escape && below(5) > 0)
         return;
     write(stroke.name);
@@ -180,7 +180,7 @@ void RandomHands::strikeSomething(QWidget* place)
 
 void RandomHands::typeSomething()
 {
-    // Mostly what the box is for: else nothing would ever be sold.
+    // Mostly valid input, otherwise nothing would ever be sold.
     static const QRegularExpression ofFigures("Qty|Jumlah|Paid|Price|Harga|Amount|Perc|Disc|Tax|Due|Credit");
     const QWidget* focus = QApplication::focusWidget();
     const bool takesFigures = focus && ofFigures.match(focus->objectName()).hasMatch();

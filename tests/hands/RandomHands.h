@@ -13,20 +13,20 @@ class QTextStream;
 class QWidget;
 
 /**
- * Somebody who presses anything, at any speed: opens pages, strikes their keys and those of the forms over them, types
- * codes, figures and nonsense into whatever has the focus, taps buttons and rows. What is pressed follows from the
- * seed; what comes of it also hangs on how fast the machine answers.
+ * Sends random input at random speed: opens pages, sends their keys and those of their forms, types codes, numbers and
+ * nonsense into the focused widget, clicks buttons and rows. The seed decides the inputs; their effects also depend on
+ * the speed of the machine.
  */
 class RandomHands
 {
 public:
     RandomHands(MainWindow& window, quint32 seed);
 
-    /** Each stroke is written there at once, so that the last line tells what a crash came of. */
+    /** Writes each input to the log at once, so that the last line shows the input before a crash. */
     void setLog(QTextStream* log) { m_log = log; }
-    /** Something else that happens once in a while, wherever the hands are: a lost connection, another language. */
+    /** Adds an event that happens from time to time, such as a lost connection or a change of the language. */
     void addEvent(const QString& name, const std::function<void()>& event) { m_events.append({name, event}); }
-    /** Runs until the hands have struck so often, and everything that they opened is closed again. */
+    /** Sends this many inputs, then closes everything that was opened. */
     void play(int strokes);
 
 private:
@@ -38,7 +38,7 @@ private:
 
     void scheduleNext(QObject* context);
     void act();
-    /** What is open after the last stroke is closed again. */
+    /** Closes what is open after the last input. */
     void giveUp();
     void strikeSomething(QWidget* place);
     void startAnErrand();
@@ -46,7 +46,7 @@ private:
     void typeSomething();
     static void type(const QString& word);
     void tapSomething(QWidget* place);
-    /** In the middle, or on one of the first rows of a grid. */
+    /** Clicks the middle of the widget, or one of the first rows of a grid. */
     void tap(const QWidget* target);
     void openSomePage();
     void write(const QString& what);

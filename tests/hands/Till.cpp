@@ -22,10 +22,10 @@
 
 namespace
 {
-/** Whoever was refused looks at the box before trying again. */
+/** The pause in milliseconds before another try after an error. */
 constexpr int breath = 50;
 
-/** The line that says why: the first one says no more than that it failed. */
+/** The line with the reason: the first line only says that it failed. */
 QString reasonIn(const QString& told)
 {
     constexpr int longest = 120;

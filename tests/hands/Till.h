@@ -7,7 +7,7 @@ class BusinessPenjualan;
 class EntityItem;
 class EntityMeja;
 
-/** The size of a till's n-th bill, which follows from the number alone, so that the books can be checked by it. */
+/** The lines of a till's n-th bill; calculated from n only, so that the database can be checked against it. */
 struct TillBill
 {
     explicit TillBill(int number) : lines(1 + number % 4), qty(1 + number % 3) {}
@@ -21,24 +21,26 @@ struct TillBill
 };
 
 /**
- * A till without a window, with a table of its own: takes orders and bills them, one after the other, and writes what
- * the program says to a journal that outlives it: "try REFERENCE", then "ack REFERENCE NUMBER", "refused REFERENCE
- * REASON" or "unsure REFERENCE REASON". The reference ("T3-17") stands on order and bill as the guest's name.
+ * A till without a window and with its own table: it takes orders and bills them, one after the other, and writes the
+ * results to a journal file: "try REFERENCE", then "ack REFERENCE NUMBER", "refused REFERENCE REASON" or "unsure
+ * REFERENCE REASON". The reference ("T3-17") is the guest's name in order and bill.
  */
 class Till
 {
 public:
     Till(int number, const QString& journal);
 
-    /** The table that it serves. */
+    /** The code of the till's table. */
     [[nodiscard]] static QString tableCode(int number) { return "TILL" + QString::number(number); }
-    /** Goes on until the journal holds so many acknowledged bills, with a pause between two; false without a shop. */
+    /**
+     * Works until the journal has this many confirmed bills, with a pause (ms) between two; false if there is no shop.
+     */
     [[nodiscard]] bool work(int bills, int pace);
 
 private:
     void readJournal();
     void write(const QString& line);
-    /** Takes one order and bills it. */
+    /** Enters one order and bills it. */
     bool serve();
     void giveUp(const QString& reference);
 

@@ -11,9 +11,9 @@
 
 namespace
 {
-/** A number is "TRD", month and year, and what counts. */
+/** The counter in a number of the form "TRD", month, year, counter. */
 const char* const counted = "substr(no, 8)::int";
-/** Of a bill: what it comes to, its lines and what they come to, its links, the order's lines, and its status. */
+/** Per bill: total, lines and their sum, links, the order's lines, and the order's status. */
 const char* const bills =
     "SELECT i.pemesan, i.no, i.grandtotal_amount::int, "
     "(SELECT count(*) FROM invoice_detail d WHERE d.invoice_id = i.id)::int, "
@@ -103,7 +103,7 @@ void TillBooks::compare(const QString& reference, const QString& number, const Q
     const TillBill bill(reference.section('-', 1).toInt());
     if (figures.mid(0, 5) != QList<int>{bill.total(), bill.lines, bill.total(), 1, bill.lines})
         m_faults.append(name + "is not whole");
-    // It is set behind the bill's own transaction: whatever dies in between leaves it for later.
+    // The order's status is set after the bill's transaction, so it may be outdated after a crash.
     m_lateStatuses += figures.last() == paid ? 0 : 1;
 }
 

@@ -6,25 +6,25 @@
 
 class QSqlDatabase;
 
-/** What the tills' journals say, compared with what the database holds. */
+/** Compares the tills' journals with the database. */
 class TillBooks
 {
 public:
     /** Reads every journal of the folder. */
     explicit TillBooks(const QString& folder);
 
-    /** The bills that the journals of a folder hold as acknowledged, counted quickly. */
+    /** The number of confirmed bills in the journals of a folder, counted quickly. */
     [[nodiscard]] static int acknowledged(const QString& folder);
 
-    /** What does not hold, a line each; empty when every bill stands once and whole and no number is missing. */
+    /** One line per fault; empty if every bill exists once and completely and no number is missing. */
     [[nodiscard]] QStringList faults(const QSqlDatabase& database);
-    /** The figures as a table; those of the database only after faults(). */
+    /** The counts as a table; those of the database only after faults(). */
     [[nodiscard]] QString summary() const;
 
 private:
     struct Attempt
     {
-        /** What the journal says last: try (the till died at it), ack, refused, unsure. */
+        /** The last entry of the journal: try (the till died meanwhile), ack, refused, unsure. */
         QString end;
         QString number;
     };

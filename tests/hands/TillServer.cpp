@@ -42,7 +42,7 @@ bool TillServer::open(DatabaseManager* manager, int port)
 
 bool TillServer::start()
 {
-    // What is left of a killed server may hold its memory for a moment.
+    // The processes of a killed server may keep its shared memory for a moment.
     for (int i = 0; i < 10; ++i) {
         m_script.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         m_script.start(QString(ZAVEL_SOURCE_DIR) + "/scripts/private-postgres",
@@ -57,7 +57,7 @@ bool TillServer::start()
 
 void TillServer::stop()
 {
-    // The end of its input ends the command that the server runs for, and with it the server.
+    // Closing its input ends the command that the server runs for, and so the server.
     m_script.closeWriteChannel();
     m_script.waitForFinished(patience);
 }

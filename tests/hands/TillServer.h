@@ -7,8 +7,8 @@ class DatabaseManager;
 class TillBooks;
 
 /**
- * A PostgreSQL server that keeps what it has acknowledged, as the one of a restaurant does, in a folder of its own. It
- * can be killed and started again on what it left.
+ * A PostgreSQL server with durable commits, as in a restaurant, in its own folder. It can be killed and started again
+ * with its data.
  */
 class TillServer
 {
@@ -18,18 +18,18 @@ public:
     Q_DISABLE_COPY(TillServer)
 
     [[nodiscard]] int port() const { return m_port; }
-    /** Opens the shop's database, as the program does. */
+    /** Opens the shop's database like the program. */
     [[nodiscard]] static bool open(DatabaseManager* manager, int port);
 
-    /** False, with a word to the errors, where it does not come up. */
+    /** False, with a message on stderr, if it does not start. */
     bool start();
     /** Installs the database, with a table for every till. */
     bool openShop(int tills);
-    /** Kills the server without a warning, and starts it on what it left. */
+    /** Kills the server with SIGKILL and starts it again with its data. */
     void killAndStart();
-    /** Ends the session of somebody. */
+    /** Ends the session of one till. */
     void endASession();
-    /** The faults of the books. */
+    /** The faults found by TillBooks. */
     QStringList check(TillBooks& books);
 
 private:

@@ -8,10 +8,10 @@
 
 namespace
 {
-/** What is wrong where the statement finds rows; its first column names them. */
+/** The name of a fault, and a statement that finds its rows; the first column names them. */
 using Check = QPair<QString, QString>;
 
-/** The header's total is not what its lines come to. */
+/** The header's total differs from the sum of its lines. */
 Check sum(const QString& what, const QString& header, const QString& total, const QString& lines)
 {
     return {
@@ -36,7 +36,7 @@ Check twice(const QString& table)
             QString("select no from %1 where no <> '' group by no having count(*) > 1").arg(table)};
 }
 
-/** Lines whose movement is not in the journal as it stands in the document. */
+/** Lines whose movement in the journal is missing or different. */
 Check journal(const QString& lines, int type, const QString& moved, const QString& lineQuantity)
 {
     return {lines + " not in the journal",
@@ -81,7 +81,7 @@ QList<Check> checks()
             "sub_total_amount - discount_amount + tax_amount + service_amount"),
         sum("total of a purchase", "acquisition", "grandtotal_amount",
             "sub_total_amount - discount_amount + tax_amount"),
-        // Over the counter and for taking away it is stored as the form shows it: change is positive.
+        // Fast-food and take-away sales store it as the form shows it: change is positive.
         sum("due of a sale", "invoice", "abs(net_due_amount)",
             "abs(grandtotal_amount - amount_paid_amount - other_payment_amount)"),
         sum("due of a purchase", "acquisition", "net_due_amount",
@@ -96,16 +96,16 @@ QList<Check> checks()
         {"status of a purchase",
          "select id from acquisition where status <> case when net_due_amount <= 0 then 1 when amount_paid_amount + "
          "other_payment_amount > 0 then 3 else 2 end"},
-        // An amount of one's own gives a percent of three decimals.
+        // An amount that was entered directly has a percentage with three decimals.
         {"percent and amount of a discount",
          "select id from invoice where sub_total_amount > 0 and abs(discount_amount - sub_total_amount * disc_perc / "
          "100) > 1 + abs(sub_total_amount) / 100000"},
-        // Whoever deletes a payment leaves the purchase as it is, so that there may be more than the payments tell of.
-        // Of a sale there may be less, too: the credit stands in a box of its bill.
+        // Deleting a payment does not change the purchase, so more may be paid than the payments show. A sale may also
+        // have less, because credit can be entered in the bill itself.
         {"less paid of a purchase than was paid later",
          "select id from acquisition where other_payment_amount < " +
              linesOf("acquisition", "payment_invoice", "amount_paid_amount")},
-        // Of a document that is deleted the journal keeps the rows, of an adjustment it does not.
+        // The journal keeps the rows of deleted documents, but not of deleted adjustments.
         journal("acquisition_detail", 1, "qty_in", "qty"),
         journal("credit_note_detail", 4, "qty_out", "qty_returned"),
         journal("stock_take", 3, "qty_in - qty_out", "qty_adj"),
@@ -122,14 +122,14 @@ void openShopForHands(TestDatabase& database)
 {
     openShopForForms(database);
     insertItem(database, 2, "TEA", "Iced tea");
-    // The rows came with ids of their own.
+    // The rows were inserted with explicit ids.
     database.run("DO $$ DECLARE t text; BEGIN FOR t IN SELECT table_name FROM information_schema.columns WHERE "
                  "table_schema = 'public' AND column_name = 'id' LOOP EXECUTE format('SELECT "
                  "setval(pg_get_serial_sequence(%L, ''id''), (SELECT coalesce(max(id), 0) + 1 FROM %I))', t, t); END "
                  "LOOP; END $$");
     database.run("INSERT INTO stok_awal (item_id, jumlah, harga_currency, harga_amount, version) SELECT id, 100, 'Rp', "
                  "10, 1 FROM item WHERE NOT EXISTS (SELECT 1 FROM stok_awal WHERE item_id = item.id)");
-    // The accounts that the forms propose.
+    // The default accounts of the forms.
     database.run("INSERT INTO bank (kode, nama, account_type, active, version) SELECT code, code, 1, true, 1 FROM "
                  "unnest(ARRAY['1010', '1020', '1100', '1200', '2000', '4050', '5000', '6650']) code");
     database.run("INSERT INTO member (kode, nama, alamat, telp, discount_percentage, version) VALUES ('M2', 'Regular', "

@@ -4,11 +4,11 @@
 
 class TestDatabase;
 
-/** A shop in which every page has something to show and to do: goods, tables, a member with a discount, open orders. */
+/** A shop in which every page has data: items, tables, a member with a discount, open orders. */
 void openShopForHands(TestDatabase& database);
 
 /**
- * What must hold in a shop's database whoever pressed what: lines and headers, numbers, statuses, dues, stock. Each
- * line names what does not hold, and of which rows; empty when all is well.
+ * Checks the shop's database for consistency: lines and headers, numbers, statuses, dues, stock. One line per fault
+ * with its rows; empty if there is none.
  */
 [[nodiscard]] QStringList faultsOfTrade(TestDatabase& database);

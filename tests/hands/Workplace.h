@@ -8,21 +8,21 @@
 
 class KorTab;
 
-/** A workstation in front of somebody: the main window, shown, on the database that is open. */
+/** A workstation: the main window, shown, on the open database. */
 class Workplace
 {
 public:
-    /** Connection settings are read from and written to that file, where one is named. */
+    /** Reads and writes the connection settings in this file, if given. */
     explicit Workplace(const QString& settingsFile = QString());
     ~Workplace();
 
-    /** False when the window has not come to the front in time. */
+    /** False if the window did not become active in time. */
     [[nodiscard]] bool isReady();
     [[nodiscard]] MainWindow& window() { return *m_window; }
 
-    /** All pages but the dashboard, which is a web page without keys and forms of its own. */
+    /** All pages except the dashboard, which is a web page without keys and forms. */
     [[nodiscard]] static QStringList pageNames();
-    /** Brings the page to the front, with the keys on its grid and the first row marked. */
+    /** Opens the page, focuses its grid and selects the first row. */
     KorTab* open(const QString& page);
     void changeLanguage();
 

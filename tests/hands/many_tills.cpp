@@ -41,7 +41,7 @@ struct Plan
     }
 };
 
-/** many_tills till NUMBER PORT JOURNAL BILLS PACE: one of them. */
+/** many_tills till NUMBER PORT JOURNAL BILLS PACE: runs one till. */
 int beTill(const QStringList& words)
 {
     auto* manager = new DatabaseManager;
@@ -58,7 +58,7 @@ int beTill(const QStringList& words)
     return till.work(words[5].toInt(), words[6].toInt()) ? 0 : 1;
 }
 
-/** The tills at work; one that is killed comes back, and goes on where its journal ends. */
+/** The processes of the tills; a killed one is started again and continues its journal. */
 class Crowd
 {
 public:
@@ -66,7 +66,7 @@ public:
     {
         for (int number = 1; number <= plan.tills; ++number) {
             m_tills.push_back(std::make_unique<QProcess>());
-            // What the program says beside is long where many are refused.
+            // The program's messages are long if many saves are refused.
             m_tills.back()->setStandardErrorFile(plan.journal(number) + ".messages", QIODevice::Append);
             start(number);
         }
@@ -114,7 +114,7 @@ private:
     std::vector<std::unique_ptr<QProcess>> m_tills;
 };
 
-/** Of six kills three hit a till, two a session on the server, and one the server itself. */
+/** Of six kills, three hit a till, two a session on the server, and one the server. */
 void killSomething(int turn, Crowd& crowd, TillServer& server)
 {
     if (turn % 6 == 5)
@@ -141,7 +141,7 @@ int supervise(const Plan& plan)
         const int all = plan.tills * plan.bills;
         while (!isLate && crowd.isAtWork()) {
             QThread::msleep(100);
-            // Spread over the bills, whatever time they take.
+            // Kills are spread evenly over the bills.
             if (kills < plan.kills &&
                 TillBooks::acknowledged(plan.folder) >= qint64(all) * (kills + 1) / (plan.kills + 1))
                 killSomething(kills++, crowd, server);
@@ -162,7 +162,9 @@ int supervise(const Plan& plan)
 }
 } // namespace
 
-/** Many tills of one shop at once, on a server of their own, and the books afterwards; scripts/many-tills starts it. */
+/**
+ * Runs many tills of one shop on a private server and checks the database afterwards; started by scripts/many-tills.
+ */
 int main(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);

@@ -26,7 +26,7 @@ QTextStream& out()
     return stream;
 }
 
-/** One workstation: presses anything until the time is over; what it pressed stands in the log. */
+/** Runs one workstation: sends random input until the time is over and logs it. */
 int work(const QString& databaseName, quint32 seed, int seconds, const QString& logName)
 {
     auto* manager = new DatabaseManager;
@@ -60,7 +60,7 @@ int work(const QString& databaseName, quint32 seed, int seconds, const QString& 
     return 0;
 }
 
-/** A shop of its own, so many workstations on it, and a look at the books when all have gone home. */
+/** Runs this many workstations on a new shop and checks the database afterwards. */
 int supervise(quint32 seed, int programs, int seconds, const QString& folder)
 {
     TestDatabase database;
@@ -95,8 +95,8 @@ int supervise(quint32 seed, int programs, int seconds, const QString& folder)
 } // namespace
 
 /**
- * random_hands SEED PROGRAMS SECONDS FOLDER: somebody who presses anything, at that many workstations of one shop at
- * once. FOLDER takes what was pressed and what the programs said. scripts/random-hands starts it.
+ * random_hands SEED PROGRAMS SECONDS FOLDER: sends random input to this many workstations of one shop at the same time.
+ * FOLDER gets the logs of inputs and messages. Started by scripts/random-hands.
  */
 int main(int argc, char** argv)
 {

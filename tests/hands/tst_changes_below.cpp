@@ -12,14 +12,14 @@
 
 namespace
 {
-/** Something that happens below a page, and below the form that is open over it. */
+/** A change behind an open page or form. */
 enum Change { EmptyMemory, OtherDatabase, OtherLanguage, LostConnection, PagesClose, WindowCloses };
 } // namespace
 Q_DECLARE_METATYPE(Change)
 
 /**
- * Every page, alone and with a form open, while the ground is pulled away: the program lives, the form stays as it was
- * typed, and the page works again afterwards.
+ * Every page, alone and with a form open, during such a change: the program does not crash, the form keeps its input,
+ * and the page works again afterwards.
  */
 class TestChangesBelow : public DatabaseTest
 {
@@ -28,7 +28,7 @@ class TestChangesBelow : public DatabaseTest
 protected:
     void prepare() override
     {
-        // The test itself works on the forms.
+        // The test itself handles the forms.
         m_people.reset();
         m_folder = std::make_unique<QTemporaryDir>();
         m_other = std::make_unique<TestDatabase>();
@@ -75,7 +75,7 @@ private slots:
                 QVERIFY2(!m_isFormGone, qPrintable(name + ": the form went away"));
                 m_change.reset();
             }
-            // The page alone; it reads anew, and shows what it reads.
+            // Only the page: it reads again and shows the new data.
             m_place->open(name);
             happen(change);
             m_place->window().grab();
@@ -129,14 +129,14 @@ private:
         }
     }
 
-    /** Whoever is at the form that is open lets the change happen and goes on typing, or gives the form up. */
+    /** At the open form: applies the change and then continues typing, or cancels the form. */
     void atAForm()
     {
         QWidget* form = openForm();
         if (!form)
             return;
         if (!m_change) {
-            // What is said is read, and what is open is given up.
+            // Closes message boxes and forms.
             strikeSoon(Qt::Key_Escape);
             return;
         }

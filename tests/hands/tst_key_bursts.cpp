@@ -10,10 +10,10 @@
 
 namespace
 {
-// Together, quicker than a button's light, and just behind it.
+// At once, before a button's pressed state ends, and just after it.
 const QList<int> delays{0, 40, 120};
 
-/** What can be overtaken later than at once is a form that opens, and by these keys the page below it is hit worst. */
+/** A delay matters only for keys that open a form; with these keys the page below is affected most. */
 bool isWorthAPause(const Stroke& first, const Stroke& second)
 {
     const bool hits = second.key == 0 || second.key == Qt::Key_Escape || second.key == Qt::Key_Return ||
@@ -29,8 +29,8 @@ bool has(const QList<Stroke>& strokes, const Stroke& wanted)
 } // namespace
 
 /**
- * Two keys of a page or of a form in a burst, whichever they are: the program lives, no two forms stand side by side,
- * and the page is there as long as its form is.
+ * Any two keys of a page or form in quick succession: the program does not crash, no two forms are open side by side,
+ * and the page exists as long as its form.
  */
 class TestKeyBursts : public DatabaseTest
 {
@@ -39,7 +39,7 @@ class TestKeyBursts : public DatabaseTest
 protected:
     void prepare() override
     {
-        // The test itself works on the forms.
+        // The test itself handles the forms.
         m_people.reset();
         openShopForForms(*m_database);
         m_place = std::make_unique<Workplace>();
@@ -81,11 +81,12 @@ private slots:
             m_pair = 0;
             m_pairs = 1;
             while (m_pair < m_pairs) {
-                // An Escape of the visit before, which found its form gone already, must not meet the next one.
+                // A pending Escape of the last round must not reach the next form.
                 QCoreApplication::processEvents();
                 KorTab* tab = m_place->open(page);
                 m_pairs = 0;
-                // In the form's own loop, as soon as it is there; what the page says when it is closed is heard out.
+                // In the form's own event loop, as soon as it is open; message boxes of the page after its end are
+                // handled too.
                 QTimer waiting;
                 connect(&waiting, &QTimer::timeout, this, [this] {
                     QWidget* form = openForm();
@@ -99,7 +100,7 @@ private slots:
                 const bool hasRow = grid && grid->model() && grid->model()->rowCount() > 0;
                 const bool opens = has(strokesOf(*tab), opener) && (opener.key == Qt::Key_F12 || hasRow);
                 strike(tab, opener);
-                // A form that is late must not be missed: nothing would be struck in it.
+                // Wait for a form that opens late: otherwise nothing would be tested in it.
                 if (opens)
                     QTRY_VERIFY2(m_pairs > 0,
                                  qPrintable(QString("%1 opens nothing, at pair %2").arg(opener.name).arg(m_pair)));
@@ -118,7 +119,7 @@ private:
             addRow(qPrintable(page), page);
     }
 
-    /** Plays the next burst of the form that has just opened; its page opens it once for each. */
+    /** Plays the next pair of keys in the form that has just opened; the page opens it once per pair. */
     void inForm(QWidget* form)
     {
         const QList<Stroke> strokes = strokesOf(*form);

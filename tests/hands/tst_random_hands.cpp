@@ -9,7 +9,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-/** Hands that press anything: the program lives, and the books are right. scripts/random-hands does it for longer. */
+/** Random input: the program does not crash and the data stays consistent. scripts/random-hands runs it for longer. */
 class TestRandomHands : public QObject
 {
     Q_OBJECT
