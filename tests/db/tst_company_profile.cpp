@@ -58,7 +58,7 @@ private slots:
         m_company->clearErrors();
         QCOMPARE(m_company->getData()->getNamaPerusahaan(), name);
 
-        // The same form is saved once the cause is mended.
+        // The same form can be saved when the cause is fixed.
         profile->getLogo()->setImageName(BusinessDataPerusahaan::logoName());
         profile->getLogo()->setImageData("picture");
         QVERIFY2(m_company->updateData(profile), qPrintable(m_company->takeErrors()));

@@ -14,7 +14,7 @@ const QDate today(2026, 3, 10);
 constexpr int purchaseTotal = 1000;
 constexpr int paidAtOnce = 200;
 
-/** What the owner's exercise book says of one purchase. */
+/** The expected state of one purchase, calculated by the test. */
 struct Book
 {
     int credits = 0;
@@ -94,7 +94,7 @@ private slots:
             EntityCreditNote* changed = stored(id);
             QVERIFY(changed);
             if (roll(4) == 0) {
-                // What is due stays as it was until the next save of a note.
+                // Deleting a note does not change the due amount until the next save of a note.
                 QVERIFY2(m_notes->remove(changed), qPrintable(m_notes->takeErrors()));
                 notes.remove(id);
             } else {
@@ -151,7 +151,7 @@ private slots:
 
         QVERIFY2(m_notes->remove(stored(saved->getId())), qPrintable(m_notes->takeErrors()));
         QCOMPARE(text("SELECT count(*) FROM credit_note_detail"), QString("0"));
-        // The stock card goes on showing what went back.
+        // The stock card still shows the returned quantities.
         QCOMPARE(journal().count("NR-0007"), 3);
         QCOMPARE(text("SELECT other_payment_amount FROM acquisition"), QString("500"));
     }
@@ -178,7 +178,7 @@ private slots:
         QVERIFY(m_notes->documentStands());
         QCOMPARE(m_notes->errors().keys(), QStringList("updatePurchaseNetDue"));
         QCOMPARE(m_notes->takeErrors(), QString("Can not find entity with id: 77\r\n"));
-        // The journal is written all the same.
+        // The journal is still written.
         QCOMPARE(journal(), QString("1 0 1 10 2026-03-10 NR-0007"));
     }
 
@@ -192,7 +192,7 @@ private slots:
     {
         QFETCH(int, timesLate);
         const int returned = purchase();
-        // What is seen of a purchase that another workstation saves first: nothing is written.
+        // If another workstation saves the purchase first, nothing is written.
         run(QString("CREATE SEQUENCE late; CREATE FUNCTION late() RETURNS trigger AS $$ BEGIN IF "
                     "nextval('late') <= %1 THEN RETURN NULL; END IF; RETURN NEW; END $$ LANGUAGE plpgsql; "
                     "CREATE TRIGGER late BEFORE UPDATE ON acquisition FOR EACH ROW EXECUTE FUNCTION late()")

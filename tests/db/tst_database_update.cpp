@@ -3,11 +3,11 @@
 
 namespace
 {
-/** What every update of a fresh database complains of: a table that never was, and a constraint that is there. */
+/** Errors of every update of a new database: a table that never existed, and a constraint that exists already. */
 const QStringList knownComplaints{"permissions error: ", "acquisition error: "};
 } // namespace
 
-/** A restaurant that has a database already gets a newer program. */
+/** The update of a restaurant's existing database by a newer program. */
 class TestDatabaseUpdate : public DatabaseTest
 {
     Q_OBJECT

@@ -44,14 +44,14 @@ int allPermissions()
     return count;
 }
 
-/** What the installation lays down, step by step. */
+/** The number of tables that the installation creates. */
 int allTables()
 {
     return AppMapperRegistry::instance()->all().size() + PosMapperRegistry::instance()->all().size() +
            ZavelMapperRegistry::instance()->all().size();
 }
 
-/** Everything that stands in the database but the time stamps: rows, indexes, constraints. */
+/** The whole content of the database except time stamps: rows, indexes, constraints. */
 QString contentOf(TestDatabase& database)
 {
     const QStringList tables =
@@ -61,7 +61,7 @@ QString contentOf(TestDatabase& database)
             .split(' ');
     QStringList content;
     for (const QString& table : tables) {
-        // Whether there is a row for the reports hangs on a folder beside the program, and with it the ids of the
+        // The row for the reports exists only if there is a folder beside the program; it also changes the ids of the
         // others.
         const bool settings = table == "appconfig";
         const QString rows = QString("select string_agg((to_jsonb(t) - 'createdtime' - 'updatedtime'%1)::text, E'\\n' "
@@ -81,7 +81,7 @@ QString contentOf(TestDatabase& database)
     return content.join('\n');
 }
 
-/** The line on which the two texts part. */
+/** The first line that differs. */
 QString difference(const QString& actual, const QString& expected)
 {
     const QStringList left = actual.split('\n');
@@ -94,7 +94,7 @@ QString difference(const QString& actual, const QString& expected)
 }
 } // namespace
 
-/** What a restaurant finds in its database after the installation, and what it is told on the way. */
+/** The database after the installation, and the messages during it. */
 class TestInstaller : public QObject
 {
     Q_OBJECT
@@ -145,7 +145,7 @@ private slots:
         row("employee", "kode, nama, alamat <> '', telp <> '', email <> ''", {"emp1|Waitress 1|true|true|true"});
         row("agent", "kode, nama <> '', alamat <> '', telp <> '', email <> ''", {"agent1|true|true|true|true"});
         row("meja", "kode, nama", {"m1|Table 1", "m2|Table 2"});
-        // The types behind these are further ones, whose cuts have no zero byte that would end them.
+        // The cut sequences of the other types must not contain a zero byte, which would end them.
         row("printer_type where id <= 3", "printer_type, cash_drawer_cmd, cut_papper_cmd",
             {"EPSON-TM-T88III|27#112#0#25#250|27#109", "EPSON-TM-U220|27#112#0#25#250|27#112#0#75#25",
              "GENERIC-ESC-POS|27#112#0#60#120|29#V#66#0"});
@@ -161,13 +161,13 @@ private slots:
                     QString("select string_agg(concat_ws('|', %1), E'\\n' order by id) from %2").arg(columns, table))
                 .toString();
         const auto plain = [](QString text) {
-            // The server writes a truth value as one letter.
+            // The server writes booleans as one letter.
             return text.replace(QRegExp("\\|t(?=\\||\\n|$)"), "|true").replace(QRegExp("\\|f(?=\\||\\n|$)"), "|false");
         };
         QCOMPARE(plain(found).split('\n'), expected);
     }
 
-    /** The right names and numbers are told where the services are asked for them; here they reach the database. */
+    /** The services' tests check the names and numbers; this test checks that they reach the database. */
     void everyServiceHasItsPermissions()
     {
         for (const KorBusinessLogic* service : services()) {
@@ -260,13 +260,13 @@ private slots:
         });
         QCOMPARE(run.failures, QStringList());
         QVERIFY(service<BusinessUser>("User")->login("o'hara", "s3cret"));
-        // Beside a password of the owner's own there is none that everybody knows.
+        // With the owner's own password, the default one does not work.
         QVERIFY(!service<BusinessUser>("User")->login("dewi", "Qx7!Rm2z"));
         QCOMPARE(database.value("select count(*) from users").toInt(), 2);
         const auto localization = QJsonDocument::fromJson(
             database.value("select appvalue from appconfig where appkey = 'localization'").toByteArray());
         QCOMPARE(localization.object(), (QJsonObject{{"date_time_format", "dd/MM/yyyy"}, {"locale", "id_ID"}}));
-        // The first prices are in the currency that the restaurant speaks.
+        // The first prices are in the currency of the chosen locale.
         QCOMPARE(database.value("select string_agg(distinct harga_jual_lokal_currency, ',') from item").toString(),
                  QString("Rp"));
     }
@@ -279,7 +279,7 @@ private slots:
         QCOMPARE(run.ends, 1);
         QCOMPARE(run.lines.mid(0, 3), (QStringList{"[0%] Initializing...", "[25%] Creating/Updating tables...",
                                                    "[25%] appconfig installed"}));
-        // The bar moves on by one after 25 tables.
+        // The progress increases by one percent after 25 tables.
         QCOMPARE(run.lines.filter("[25%]").size(), 1 + 25);
         QCOMPARE(run.lines.filter(" installed").size(), allTables());
         QVERIFY(run.lines.at(2 + 25).startsWith("[26%] "));
@@ -318,7 +318,7 @@ private slots:
         QCOMPARE(lines.size(), 2 + allTables() + 6);
         QVERIFY(repaints > 10);
         QCOMPARE(difference(contentOf(database), expected), QString());
-        // Nothing of what the worker read stays behind, and neither does its connection.
+        // No records of the worker stay in memory, and its connection is closed.
         QCOMPARE(AppContext::instance()->liveEntities().size(), 0);
         QTRY_COMPARE(QSqlDatabase::connectionNames().filter("worker-"), QStringList());
         QFile log(logFile);
@@ -377,7 +377,7 @@ private slots:
     }
 
 private:
-    // For the tests that only look.
+    // For tests that only read.
     std::unique_ptr<TestDatabase> m_installed;
 };
 

@@ -10,7 +10,7 @@
 
 namespace
 {
-/** A way of selling that the house does not know. */
+/** A kind of sale that the program does not support. */
 class StrangeSale : public EntityInvoiceLink
 {
     Q_OBJECT
@@ -22,7 +22,7 @@ public:
 using Dish = QPair<int, int>;
 } // namespace
 
-/** What a sale at a table leaves in the database, and what it leaves behind when it fails. */
+/** The database after a dine-in sale, and after a failed one. */
 class TestInvoices : public DatabaseTest
 {
     Q_OBJECT
@@ -48,8 +48,8 @@ private slots:
         EntityInvoiceMakanDitempat* first = sale(table, dishes, 100);
         first->setKnownBills({});
         {
-            // Begin with the locks and the other bills, the number read and raised, the invoice, its link with the
-            // lines, commit; what the bills of the order come to, its status.
+            // The round trips: begin with the locks and the other bills; read and increase the number; the invoice; its
+            // link with the lines; commit; the sum of the order's bills; its status.
             const TripCount saving;
             QVERIFY(m_sales->insertInvoice(first));
             QVERIFY2(saving.sent().size() <= 8, qPrintable(saving.sent().join('\n')));
@@ -105,7 +105,7 @@ private slots:
 
         first->getDetails().last()->getItem()->setId(1);
         QVERIFY2(m_sales->insertInvoice(first), qPrintable(m_sales->takeErrors()));
-        // The number was not lost with the attempt.
+        // The failed attempt did not use up the number.
         QCOMPARE(first->getInvoice()->getInvoiceNo(), QString("TRD-0007"));
         QCOMPARE(soldQuantities(first->getInvoice()->getId()), QString("2,1"));
     }
@@ -121,7 +121,7 @@ private slots:
         QCOMPARE(stored("status", "invoice", open->getInvoice()->getId()).toInt(), int(Invoice::UNPAID));
         QCOMPARE(orderStatus(id), int(EntityOrder::PARTIALY_PAID));
 
-        // Saved again it is asked alone: the other invoice is no longer counted.
+        // After the next save only this invoice counts; the other one does not.
         QVERIFY(m_sales->updateInvoice(readAgain(open)));
         QCOMPARE(orderStatus(id), int(EntityOrder::UNPAID));
         QVERIFY(m_sales->updateInvoice(readAgain(paid)));
@@ -284,7 +284,7 @@ private:
                          .arg(invoiceId));
     }
 
-    /** The server ends the program's session when it writes such a line to the table. */
+    /** The server ends the program's session when it writes a line of quantity 13 to the table. */
     void hangUpAtQuantity13(const QString& table)
     {
         run("CREATE FUNCTION hang_up() RETURNS trigger LANGUAGE plpgsql AS "

@@ -31,7 +31,7 @@ const QStringList labels{"Deposit Purchase Order",
                          "CREDIT",
                          "Transferring Funds"};
 
-/** One line of the ledger, reckoned by hand. */
+/** One line of the ledger, calculated by the test. */
 struct Movement
 {
     QDate date;
@@ -82,7 +82,7 @@ bool belongs(const Movement& movement, const CashFlowFilter& filter)
            (filter.code.trimmed().isEmpty() || movement.code.toLower() == filter.code.trimmed().toLower());
 }
 
-/** A language of another workstation, in which every label of the ledger looks like this. */
+/** The language of another workstation; it replaces every label of the ledger. */
 class Foreign final : public QTranslator
 {
 public:

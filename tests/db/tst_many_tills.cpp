@@ -45,8 +45,8 @@
 namespace
 {
 /**
- * A workstation, as far as it saves: mappers and services of its own, for one thread and with that thread's connection.
- * Everything that it sells is of ShopRows.h.
+ * The saving part of a workstation: its own mappers and services, for one thread with its own connection. It sells the
+ * items of ShopRows.h.
  */
 class Till
 {
@@ -202,7 +202,7 @@ using Save = bool (Till::*)();
 
 Q_DECLARE_METATYPE(Save)
 
-/** Several workstations at the same documents and numbers at the same moment. */
+/** Several workstations use the same documents and numbers at the same time. */
 class TestManyTills : public DatabaseTest
 {
     Q_OBJECT
@@ -217,7 +217,8 @@ private slots:
         EntityPool pool;
         const EntityPoolScope scope(pool);
         QVERIFY2(here.fastFood(), qPrintable(here.takeErrors()));
-        // Begin with the lock, the number read and raised, the invoice, its link with the lines, commit.
+        // The round trips: begin with the lock; read and increase the number; the invoice; its link with the lines;
+        // commit.
         const TripCount trips;
         QVERIFY2(here.fastFood(), qPrintable(here.takeErrors()));
         QVERIFY2(trips.sent().size() <= 6, qPrintable(trips.sent().join('\n')));
@@ -249,7 +250,7 @@ private slots:
             QVERIFY(thread->wait(60000));
 
         QVERIFY2(refusals.isEmpty(), qPrintable(refusals.join('\n')));
-        // Of each kind as many as were saved, from the first number to the last one that was drawn.
+        // The number of documents per kind matches the saves, without gaps in their numbers.
         const QString kinds =
             "(SELECT invoice_type AS kind, no FROM invoice UNION ALL SELECT 'NB', no FROM acquisition "
             "UNION ALL SELECT 'KK', trans_no FROM cash_flow) kinds";
@@ -291,7 +292,7 @@ private slots:
         QVERIFY2(KorToldFailure::in(errors).sentence.startsWith("Another workstation"), qPrintable(errors));
         QCOMPARE(value("SELECT sum(next_id) FROM keytable"), QString::number(7 * 11));
 
-        // Nothing of it is left, and the same save goes through when the lock is free.
+        // Nothing was written, and the same save succeeds when the lock is free.
         QVERIFY2((here.*save)(), qPrintable(here.takeErrors()));
     }
 

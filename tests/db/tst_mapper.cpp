@@ -9,7 +9,7 @@
 
 Q_DECLARE_METATYPE(KorConditions)
 
-/** What every mapper does, shown on the restaurant's tables. */
+/** The behavior of all mappers, tested with the restaurant's tables. */
 class TestMapper : public DatabaseTest
 {
     Q_OBJECT
@@ -170,7 +170,7 @@ private slots:
         QVERIFY(!table.isSaved());
         QVERIFY2(m_mapper->insert(&table), qPrintable(m_mapper->takeError()));
 
-        // Lost behind the statement, which saves by itself, it may have been saved.
+        // If the connection is lost after an autocommit statement, it may have been saved.
         run("CREATE FUNCTION hang_up() RETURNS trigger LANGUAGE plpgsql AS 'BEGIN PERFORM "
             "pg_terminate_backend(pg_backend_pid()); RETURN NEW; END'; CREATE TRIGGER hang_up BEFORE "
             "INSERT ON meja FOR EACH ROW EXECUTE FUNCTION hang_up()");

@@ -32,7 +32,7 @@ QVariant sample(const QString& column, QVariant::Type type, int round)
     }
 }
 
-/** The record's own columns; what points at a partner has a test of its own. */
+/** The record's own columns; references have a separate test. */
 QList<KorColumnMap*> ownColumns(const MasterFamily& family)
 {
     QList<KorColumnMap*> columns = family.mapper()->metaData()->columns();
@@ -71,7 +71,7 @@ QStringList names(const QList<KorEntity*>& records)
 }
 } // namespace
 
-/** What the restaurant expects of everything that it keeps under a code and a name. */
+/** The behavior of all master data with a code and a name. */
 class TestMasterMappers : public DatabaseTest
 {
     Q_OBJECT
@@ -130,7 +130,7 @@ private slots:
         for (const auto& row : {qMakePair(QString("c9"), QString("Zebra's")), qMakePair(QString("b8"), QString("Ape")),
                                 qMakePair(QString("a7"), QString("Mole"))})
             run(family.insertStatement(row.first, row.second));
-        // A changed row moves to the end of the table: only a sorted list is not disturbed by it.
+        // An update moves the row to the end of the table, so an unsorted list would change its order.
         run("UPDATE " + family.table + " SET version = 1 WHERE kode = 'c9'");
 
         QStringList all = names(family.mapper()->findAll(QString()));
@@ -145,7 +145,7 @@ private slots:
         QVERIFY(!family.mapper()->hasError());
     }
 
-    /** Of the families that were there before the codes became longer. */
+    /** For the families that existed before codes became longer. */
     void anOlderTableGetsItsLongerCodes_data()
     {
         const auto row = addColumns<int>("family");

@@ -3,7 +3,7 @@
 #include "support/TripCount.h"
 #include "zavel/service/BusinessPenjualan.h"
 
-/** The orders on tables: who may sit where, what the kitchen is told, and what two waiters do to one order. */
+/** Dine-in orders: occupied tables, slips to the kitchen, and two waiters with one order. */
 class TestOrders : public DatabaseTest
 {
     Q_OBJECT
@@ -49,7 +49,7 @@ private slots:
     {
         EntityMeja* table = m_make->table("t1");
         EntityItem* rice = m_make->item("RICE", "Rice", 10000);
-        // The other one is at it, and done a moment later.
+        // The other transaction holds the lock and commits a moment later.
         const QString id = QString::number(table->getId());
         const SlowNeighbour other(*m_database, {"SELECT 1 FROM meja WHERE id = " + id + " FOR UPDATE",
                                                 "INSERT INTO makan_ditempat (status, meja_id, pemesan, tgl, version) "
@@ -139,7 +139,7 @@ private slots:
         for (const EntityOrderDetail* line : order->getDetails())
             QVERIFY(!line->isSaved());
         QCOMPARE(count("makan_ditempat"), 0);
-        // The form is still open: without the bad line it is saved as if nothing had been.
+        // The form is still open: without the bad line it can be saved.
         order->setDetails(order->getDetails().mid(0, 1));
         QVERIFY2(m_sales->insertNewOrder(order), qPrintable(m_sales->takeErrors()));
     }
@@ -203,7 +203,7 @@ private slots:
         QVERIFY(m_sales->insertNewOrder(first) && m_sales->updateOrder(first));
         EntityMakanDitempat* order = m_make->order(m_make->table("t1"), lines.mid(1));
         {
-            // Begin with the lock of the table, who sits there, the order, its lines, commit.
+            // The round trips: begin with the lock of the table; its orders; the order; its lines; commit.
             const TripCount saving;
             QVERIFY2(m_sales->insertNewOrder(order), qPrintable(m_sales->takeErrors()));
             QVERIFY2(saving.sent().size() <= 5, qPrintable(saving.sent().join('\n')));
@@ -215,7 +215,7 @@ private slots:
             changed->setRemovedDetails({stored.first()});
             const TripCount saving;
             QVERIFY2(m_sales->updateOrder(changed), qPrintable(m_sales->takeErrors()));
-            // Begin, the order, all that was done to its lines, commit.
+            // The round trips: begin; the order; all changes of its lines; commit.
             QVERIFY2(saving.sent().size() <= 4, qPrintable(saving.sent().join('\n')));
         }
 

@@ -13,7 +13,7 @@
 
 namespace
 {
-/** A purchase as a bookkeeper with pencil and paper would have it. */
+/** The expected state of a purchase, calculated by the test. */
 struct Paper
 {
     int total;
@@ -27,7 +27,7 @@ struct Paper
 };
 } // namespace
 
-/** What is paid to suppliers, and what is then still due for the purchases. */
+/** Payments to suppliers and the remaining due amounts of purchases. */
 class TestPayBills : public DatabaseTest
 {
     Q_OBJECT
@@ -169,7 +169,7 @@ private slots:
         QVERIFY(m_payments->takeErrors().startsWith("error: insert payment detail:invoice failed.\r\n"));
         QCOMPARE(count("payment"), 0);
 
-        // The purchase cannot be reckoned: the payment stands.
+        // The purchase cannot be updated; the payment stays saved.
         const int purchase = buy(500);
         run("CREATE FUNCTION refuse() RETURNS trigger AS $$ BEGIN RAISE EXCEPTION 'busy'; END $$ LANGUAGE "
             "plpgsql; CREATE TRIGGER refuse BEFORE UPDATE ON acquisition FOR EACH ROW EXECUTE FUNCTION refuse()");
@@ -179,7 +179,7 @@ private slots:
         QVERIFY(m_payments->documentStands() && paid->isSaved());
         m_payments->clearErrors();
 
-        // Another workstation changed the payment: neither saved nor deleted half.
+        // Another workstation changed the payment: it is neither saved nor partly deleted.
         run("UPDATE payment SET version = 2, updatedby = 1");
         QVERIFY(!m_payments->remove(paid));
         QVERIFY(m_payments->takeErrors().contains("payment has been updated"));
@@ -187,7 +187,7 @@ private slots:
     }
 
 private:
-    /** Lays a purchase down; its id. */
+    /** Inserts a purchase; returns its id. */
     int buy(int total, int paid = 0, int credits = 0)
     {
         const int id = m_paper.size() + 1;

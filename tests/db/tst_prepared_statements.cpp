@@ -13,7 +13,7 @@ const char* const byCode = "select kode, nama from meja where kode = :kode";
 const char* const widen = "ALTER TABLE meja ALTER COLUMN kode TYPE varchar(%1)";
 } // namespace
 
-/** Statements stay prepared on the server between uses, and nobody may notice. */
+/** Statements stay prepared on the server; this must not change their results. */
 class TestPreparedStatements : public DatabaseTest
 {
     Q_OBJECT

@@ -15,7 +15,7 @@
 
 namespace
 {
-/** A purchase as a bookkeeper with pencil and paper would have it. */
+/** The expected state of a purchase, calculated by the test. */
 struct Paper
 {
     int paid = 0;
@@ -42,7 +42,7 @@ struct Paper
 Money* rupiah(QObject* owner, double amount) { return new Money(owner, amount, "Rp"); }
 } // namespace
 
-/** What a purchase owes, what the stock card tells of it, and what is found of purchases and their orders. */
+/** Due amounts of purchases, their rows on the stock card, and the search for purchases and orders. */
 class TestPurchaseDues : public DatabaseTest
 {
     Q_OBJECT
@@ -135,7 +135,7 @@ private slots:
         QVERIFY(!m_purchases->documentStands());
         QVERIFY(m_purchases->takeErrors().startsWith("error: insert Purchase detail failed.\r\n"));
         QCOMPARE(value("select count(*) from acquisition") + journal(), QString("0"));
-        // The form stays with what was keyed in, and can be saved when the line is mended.
+        // The form keeps its input and can be saved when the line is corrected.
         bought->getDetails().last()->getItem()->setId(2);
         QVERIFY2(save(bought), qPrintable(m_purchases->takeErrors()));
     }

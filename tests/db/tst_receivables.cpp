@@ -9,7 +9,7 @@
 
 namespace
 {
-/** An invoice as a bookkeeper with pencil and paper would have it. */
+/** The expected state of an invoice, calculated by the test. */
 struct Paper
 {
     int total;
@@ -22,7 +22,7 @@ struct Paper
 };
 } // namespace
 
-/** What members pay later, and what becomes of their invoices. */
+/** Later payments of members and their effect on the invoices. */
 class TestReceivables : public DatabaseTest
 {
     Q_OBJECT
@@ -96,7 +96,7 @@ private slots:
                     const int invoice = one->getInvoice()->getId();
                     QCOMPARE(one->getAmountPaid()->rawAmount(), paid.value(invoice));
                     if (lines.size() > 1 && one == lines.last() && below(2) == 0) {
-                        // Taken off the payment: nobody counts its invoice.
+                        // Removed from the payment: its invoice is not updated.
                         stored->removeDetail(one);
                         paid.remove(invoice);
                         continue;

@@ -87,7 +87,7 @@ private slots:
     void whoDrawsLaterThanAnotherWorkstationGetsNoNumber()
     {
         addKey("PO", "MMyy", 1, 1, 4);
-        // The other workstation has drawn and not finished its document yet.
+        // The other workstation has taken a number but not committed yet.
         run("BEGIN; UPDATE keytable SET next_id = 2, version = version + 1");
         QString number;
         QString error;

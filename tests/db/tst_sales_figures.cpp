@@ -28,7 +28,7 @@ private slots:
         insertSale(*m_database, {2026, 2, 26}, 1, {5000, 5000, 0}, 50, 1);
         insertSale(*m_database, {2026, 2, 27}, 1, {900, 1000, 0}, 3, 1);
         insertSale(*m_database, {2026, 2, 27}, 2, {400, 100, 300}, 8, 2);
-        // More than 32 bits hold.
+        // The sum exceeds 32 bits.
         insertSale(*m_database, {2026, 3, 2}, 3, {2000000000, 2000000000, 0}, 3, 2);
         insertSale(*m_database, {2026, 3, 2}, 3, {2000000000, 0, 0}, 4, 2);
         insertSale(*m_database, {2026, 3, 3}, 1, {7000, 7000, 0}, 70, 2);

@@ -27,7 +27,7 @@ QList<KorDataMapper*> withLineMappers()
     return all;
 }
 
-/** What the server says against the statement; empty when it can be prepared. */
+/** The server's error for the statement; empty if it can be prepared. */
 QString refusal(const QString& statement)
 {
     KorQuery query;
@@ -45,7 +45,7 @@ QStringList createAll(int mode)
 }
 } // namespace
 
-/** The schema that the program's mappers lay down in an empty database. */
+/** The schema that the program's mappers create in an empty database. */
 class TestSchema : public QObject
 {
     Q_OBJECT
@@ -110,13 +110,13 @@ private slots:
 
     void everyForeignKeyHasAnIndex()
     {
-        // Keys that no full index begins with, and why none is needed.
+        // Foreign keys without a full index, and the reason why none is needed.
         const QMap<QString, QString> allowed{
             {"acquisition.supplier_id", "lists ask for a supplier's open purchases only; suppliers are seldom deleted"},
             {"invoice.member_id", "lists ask for a member's open invoices only; members are seldom deleted"},
             {"makan_ditempat.meja_id", "the board asks for open orders only; tables are seldom deleted"},
         };
-        // A partial index serves a key only when it leaves out nothing but the rows without a partner.
+        // A partial index is enough for a foreign key only if it excludes nothing but NULL values.
         const QString bare =
             m_database
                 ->value(

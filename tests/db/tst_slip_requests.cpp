@@ -11,7 +11,7 @@
 #include <QDir>
 #include <QFile>
 
-/** What screens ask of the printers, with the settings and the sales as they stand in the database. */
+/** The slips that pages print, with settings and sales from the database. */
 class TestSlipRequests : public DatabaseTest
 {
     Q_OBJECT
@@ -62,7 +62,7 @@ private slots:
         factory()->printBillMakanDitempat(sale->getId());
         QCOMPARE(jobs(), QStringList({"000001-Kasir-Bill.slip", "000002-Bar-Bill.slip"}));
         QVERIFY(slip(0).endsWith("\x1Bm"));
-        QCOMPARE(slip(1), slip(0).chopped(2)); // a model that nobody knows cannot tell how to cut
+        QCOMPARE(slip(1), slip(0).chopped(2)); // an unknown model has no cut sequence
     }
 
     void anOrderGoesToTheKitchensThatPrintByThemselves()

@@ -32,7 +32,7 @@ namespace
 
 const QDate firstDay(2026, 1, 28);
 
-/** What a storekeeper reckons with pencil and paper. */
+/** The expected quantity, calculated by the test. */
 int reckoned(const History& history, int day)
 {
     int start = -1;
@@ -40,7 +40,7 @@ int reckoned(const History& history, int day)
     for (const Event& event : history) {
         if (event.kind == Event::Opening && start < 0)
             quantity = event.quantity;
-        // In the order of entry: of two counts on one day the later entered one stays.
+        // In the order of entry: of two counts on one day, the one entered last counts.
         if (event.kind == Event::Count && event.day <= day && event.day >= start) {
             start = event.day;
             quantity = event.quantity;
@@ -87,7 +87,7 @@ private slots:
 
         QMap<int, History> histories;
         for (const char* code : {"aym", "ns", "fr", "llp"}) {
-            // An item that came from elsewhere may have no balance.
+            // An imported item may have no beginning balance.
             History history{{Event::Opening, 0, roll(50)}};
             if (roll(4) == 0) {
                 run("DELETE FROM stok_awal WHERE item_id = " + QString::number(idOf(code)));
@@ -156,7 +156,7 @@ private slots:
         QCOMPARE(journal(), QString("5/0"));
         QCOMPARE(m_inventory->getQuantityOnHand(rice, firstDay), 15);
 
-        // What does not reach the table is told under the operation's name; an adjustment without its row stays.
+        // Failed writes are reported under the operation's name; an adjustment without a row does not change.
         QVERIFY(!m_inventory->stockTakeRemove(loss.get()));
         QVERIFY(!adjust(1, "nobody"));
         QCOMPARE(m_inventory->errors().keys(), (QStringList{"addInventoryAdjustment", "stockTakeRemove"}));
@@ -179,7 +179,7 @@ private slots:
         balance.setItem(service<BusinessItem>("Item")->findByCode("ns"));
         balance.setHarga(new Money(&balance, 3, "Rp"));
         balance.setJumlah(12);
-        // Two workstations that both found none: the slower one is told.
+        // Two workstations found no balance; the second one to save gets an error.
         QVERIFY(!balances->insert(&balance));
         QCOMPARE(balances->takeErrors(), QString("This item has a beginning balance already, please edit it\r\n"));
         QVERIFY(balances->enter(&balance));
@@ -200,7 +200,7 @@ private slots:
             m_database = std::make_unique<TestDatabase>();
             insertShop(*m_database);
             insertManyMovements(*m_database, 300 * years, years);
-            // The pages that it looks at, wherever they lie; a clock would tell of the neighbours.
+            // Counts the pages read, in memory or on disk; a time would depend on other programs.
             const QString plan = value("EXPLAIN (ANALYZE, BUFFERS, FORMAT JSON) " + journal->selectStatement() + month);
             QVERIFY2(plan.contains("item_history_item_id_trans_date_idx"), qPrintable(plan));
             static const QRegularExpression hit(R"("Shared Hit Blocks": (\d+))");
@@ -223,7 +223,7 @@ private:
         const auto document = [&](const QString& master, const QString& dateColumn, const QString& line,
                                   const QString& key, const QString& quantityColumn, const QString& status) {
             const QString id = QString::number(add(master, {{dateColumn, date}, {"status", status}}));
-            // The same item may stand on two lines of a document.
+            // The same item may be on two lines of a document.
             for (const int part : {event.quantity / 3, event.quantity - event.quantity / 3})
                 add(line, {{key, id}, {"item_id", item}, {quantityColumn, QString::number(part)}});
         };

@@ -19,7 +19,7 @@ const QString emptyDigest = "d41d8cd98f00b204e9800998ecf8427e";
 const QString secretDigest = "5ebe2294ecd0e0f08eab7690d2a6ee69"; // of "secret"
 } // namespace
 
-/** Who may log in and what the group of each may do. */
+/** The login and the rights of groups. */
 class TestUsersAndRights : public DatabaseTest
 {
     Q_OBJECT
@@ -96,7 +96,7 @@ private slots:
             QVERIFY(m_users->insert(&user));
             user.setUserName("ann");
         }
-        // At another workstation the form has found the name free as well, and saves a moment earlier.
+        // Another workstation also found the name free and saves first.
         const SlowNeighbour neighbour(
             *m_database, {"INSERT INTO users (first_name, last_name, username, password, user_group_id, currency, "
                           "version) VALUES ('Ann', 'Lee', 'ann', '', 1, 'Rp', 1)"});

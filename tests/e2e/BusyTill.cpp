@@ -17,7 +17,7 @@
 
 namespace
 {
-/** One chicken over the counter, paid. */
+/** Sells one item at the counter, paid. */
 bool sell(BusinessPenjualan* sales, EntityItem* chicken, QString* number)
 {
     EntityInvoiceFastFood sale;
@@ -41,8 +41,8 @@ bool sell(BusinessPenjualan* sales, EntityItem* chicken, QString* number)
 } // namespace
 
 /**
- * A workstation of its own that sells without a pause: busy_till HOST PORT USER DATABASE. It writes the number of each
- * sale that the program has shown as saved. What fails is told and, as a cashier would, tried again as a new sale.
+ * A separate workstation that sells without a pause: busy_till HOST PORT USER DATABASE. It prints the number of each
+ * sale that was shown as saved. Failures are printed and tried again as a new sale, as a cashier would do.
  */
 int main(int argc, char** argv)
 {

@@ -4,9 +4,9 @@
 #include "app/persistence/AppMasterService.h"
 #include "zavel/tables/EntityMeja.h"
 
-// What the next build of a program brings: a family with lines, and a column with an index for an old table.
+// The additions of a newer program: a family with lines, and a column with an index for an existing table.
 
-/** A part of the house. */
+/** A wing of the restaurant's building. */
 class EntityWing : public EntityMeja
 {
     Q_OBJECT
@@ -63,7 +63,7 @@ public:
     [[nodiscard]] QList<KorPermission> getPermissions() const override { return {{MANAGE_WINGS, "Manage wings"}}; }
 };
 
-/** The users, with a column that the login would read. It is not part of the catalogue. */
+/** The users, with a column that the login reads. It is not part of the catalogue. */
 class DataMapperUserWithPin final : public AppDataMapper
 {
     Q_OBJECT
@@ -73,5 +73,5 @@ public:
     KorEntity* createEntity() override { return new EntityMeja(entityParent()); }
 };
 
-/** Adds all but the last one to the program's own; it came with the program's version. */
+/** Adds all except the last one to the program's mappers; it came with the program's version. */
 void addGrownCatalogue();

@@ -3,7 +3,7 @@
 
 #include <QCoreApplication>
 
-/** The console program of the next build. */
+/** The console program of the newer version. */
 int main(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);

@@ -46,8 +46,8 @@ PreserveJobHistory Yes
 </Policy>
 )";
 
-// One file a job, under a number that sorts; renamed when whole. A job comes as a file or, from a raw queue, may come
-// on standard input.
+// One file per job with a sortable number, renamed when complete. A job comes as a file or, from a raw queue, also on
+// standard input.
 const char* const backend = R"(#!/bin/sh
 if [ $# = 0 ]; then echo 'file slipfile "Unknown" "Slips to files"'; exit 0; fi
 name=$(printf '%s/%06d' "${DEVICE_URI#slipfile:}" "$1")
@@ -78,7 +78,7 @@ QString PrivateCups::writeFiles() const
         if (!folder.mkpath(name))
             return "cannot make " + folder.filePath(name);
     }
-    // Other users' processes, the backends, pass through here and write their output.
+    // The backends run as another user and need access to write their output.
     const auto passage = QFile::Permissions(0x7755);
     QFile::setPermissions(root, passage);
     QFile::setPermissions(folder.filePath("bin"), passage);

@@ -6,8 +6,8 @@
 #include <csignal>
 
 /**
- * A print server of the test's own, reached through a socket file only, that needs no rights beyond the user's. Its
- * printers write each job to one file. It dies with the test, however the test ends.
+ * A private print server on a socket file that needs no special rights. Its printers write each job to one file. It
+ * always ends with the test.
  */
 class PrivateCups
 {
@@ -16,19 +16,19 @@ public:
     ~PrivateCups() { stop(); }
     Q_DISABLE_COPY(PrivateCups)
 
-    /** Starts the server, or starts it again with the queues it had; what went wrong, or nothing. */
+    /** Starts the server, or restarts it with its queues; returns the error, or an empty text. */
     [[nodiscard]] QString start();
-    /** Kills it on the spot, as a cut cable or a crash would. */
+    /** Kills it at once, like a crash. */
     void stop();
-    /** Holds it still, so that it takes connections and answers none, or lets it go on. */
+    /** Suspends it, so that it accepts connections but does not answer, or resumes it. */
     void hold() const { ::kill(pid_t(m_server.processId()), SIGSTOP); }
     void letGo() const { ::kill(pid_t(m_server.processId()), SIGCONT); }
-    /** Adds a raw queue; what went wrong, or nothing. */
+    /** Adds a raw queue; returns the error, or an empty text. */
     [[nodiscard]] QString addRawQueue(const QString& name, bool asDefault);
 
     /** The value of CUPS_SERVER with which programs find this server. */
     [[nodiscard]] QByteArray address() const { return QFile::encodeName(m_root.filePath("sock")); }
-    /** What came out of the printers, in the order in which the jobs were accepted. */
+    /** The printed jobs in the order in which they were accepted. */
     [[nodiscard]] QList<QByteArray> printed() const;
 
 private:

@@ -48,7 +48,7 @@ ServerPair::~ServerPair()
 
 void ServerPair::powerCut(qint64 postmaster)
 {
-    // Held first, so that it starts no further process meanwhile.
+    // Stopped first, so that it starts no further processes.
     QProcess::execute(
         "sh", {"-c", "kill -STOP $0; kill -KILL $0 $(cat /proc/$0/task/$0/children)", QString::number(postmaster)});
 }

@@ -4,7 +4,7 @@
 #include <QSqlDatabase>
 #include <QVariant>
 
-/** One of two PostgreSQL servers, spoken to apart from the program. */
+/** One of two PostgreSQL servers, used directly and not through the program. */
 class PairedServer
 {
 public:
@@ -13,7 +13,7 @@ public:
     Q_DISABLE_COPY(PairedServer)
 
     [[nodiscard]] const QString& host() const { return m_host; }
-    /** The first field of the statement's first row; a failure ends the test program. */
+    /** The first field of the statement's first row; an error ends the test program. */
     QVariant value(const QString& statement) const;
     [[nodiscard]] int count(const QString& table) const { return value("SELECT count(*) FROM " + table).toInt(); }
 
@@ -22,7 +22,7 @@ private:
     QString m_host;
 };
 
-/** Two throw-away servers, the second a hot standby that each commit of the first waits for. */
+/** Two temporary servers; the second is a hot standby that each commit of the first waits for. */
 class ServerPair
 {
 public:
@@ -33,7 +33,7 @@ public:
     [[nodiscard]] const QString& firstHost() const { return m_firstHost; }
     [[nodiscard]] const QString& standbyHost() const { return m_standbyHost; }
 
-    /** Every process of this server ends at once, as in a power cut. */
+    /** Kills all processes of this server at once, as in a power cut. */
     static void powerCut(qint64 postmaster);
     static void signalProcess(const char* signal, qint64 process);
 

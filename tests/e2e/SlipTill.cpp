@@ -6,8 +6,8 @@
 #include <QTimer>
 
 /**
- * A till that prints slips one after the other until it is killed, or, with "takeover", one that goes on with the slips
- * of tills that are gone and ends when nothing waits any more.
+ * A till that prints slips until it is killed, or, with "takeover", one that takes over the slips of dead tills and
+ * ends when no slip is waiting.
  */
 int main(int argc, char** argv)
 {

@@ -5,7 +5,7 @@
 
 #include <QProcess>
 
-/** What the program finds at its next start after something was cut short. */
+/** The check at program start after an interrupted installation, update or restore. */
 class TestDatabaseCondition : public DatabaseTest
 {
     Q_OBJECT
@@ -98,7 +98,7 @@ private slots:
                  0);
         m_database.reset();
         m_database = std::make_unique<TestDatabase>(TestDatabase::Empty);
-        // The server keeps the tool waiting at the chosen statement, or at the chosen right.
+        // The server blocks the tool at the chosen statement or right.
         m_database->run("CREATE FUNCTION wait_in_row() RETURNS trigger LANGUAGE plpgsql AS $$ BEGIN "
                         "PERFORM pg_sleep(60); RETURN NEW; END $$");
         m_database->run(
@@ -142,7 +142,7 @@ private slots:
         QCOMPARE(refused.lines, QStringList());
         QVERIFY(condition().isWhole());
         m_database->run("SELECT pg_advisory_unlock(1095781)");
-        // A run that has ended leaves the way free.
+        // A finished run has released its lock.
         for (int i = 0; i < 2; ++i)
             QCOMPARE(InstallerRun(KorInstaller::FreshInstall).failures, QStringList());
     }

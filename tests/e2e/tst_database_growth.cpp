@@ -24,7 +24,7 @@ struct Outcome
 QString version(int tenths) { return QString::number(DatabaseVersion::ofProgram() + tenths / 10.0, 'g', 3); }
 } // namespace
 
-/** A restaurant with a month of trade gets a build that knows a family, two columns and an index more. */
+/** A restaurant with a month of trade gets a newer version with one more family, two columns and an index. */
 class TestDatabaseGrowth : public DatabaseTest
 {
     Q_OBJECT
@@ -40,7 +40,7 @@ protected:
 private slots:
     void initTestCase()
     {
-        // Of today's program, before it grows; other tests clone the template as well.
+        // Created before the catalogue grows, since other tests clone the template too.
         ensureInstalledTemplate();
         addGrownCatalogue();
     }
@@ -162,7 +162,7 @@ private slots:
     void whatTheLoginReadsIsUpdatedBeforeIt()
     {
         QCOMPARE(DatabaseCondition::read(version(-1)).updateFirst(), QString());
-        // Last of all, for it stays in the catalogue.
+        // At the end, since the mapper stays in the registry.
         AppMapperRegistry::instance()->add(new DataMapperUserWithPin(AppMapperRegistry::instance()));
         QVERIFY(!DatabaseCondition::read(version(-1)).updateFirst().isEmpty());
         QCOMPARE(DatabaseCondition::read(version(0)).updateFirst(), QString());

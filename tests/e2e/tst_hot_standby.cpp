@@ -140,7 +140,7 @@ private slots:
         QVERIFY2(m_people->lastText().startsWith("Failed open db. Host: " + m_standby->host()) &&
                      m_people->lastText().contains("read-only"),
                  qPrintable(m_people->lastText()));
-        // The window goes on where it was.
+        // The window keeps its state.
         QCOMPARE(AppContext::instance()->dbHost(), m_first->host());
         QVERIFY(AppContext::instance()->databaseManager()->isOpen());
         m_people->clear();
@@ -161,7 +161,7 @@ private slots:
         QTRY_COMPARE(guestAt("m1"), QString("Ann"));
         QTRY_VERIFY(first.saved().size() > 20 && both.saved().size() > 20);
 
-        // All three saves are with the server and wait for the standby's word when the power fails.
+        // All three saves are on the server and wait for the standby when the power fails.
         const qint64 postmaster =
             m_first->value("SELECT split_part(pg_read_file('postmaster.pid'), E'\\n', 1)").toInt();
         const qint64 frozen = receiver();
@@ -203,7 +203,7 @@ private slots:
         QTRY_COMPARE(guestAt("m2"), QString("Bob"));
         QCOMPARE(m_people->texts(), QStringList());
 
-        // One till was told of the new server, the other knew both and found it by itself.
+        // One till got the new server's address, the other had both and changed by itself.
         const int before = both.saved().size();
         Till second(m_standby->host());
         QTRY_VERIFY(both.saved().size() > before + 20 && second.saved().size() > 20);
@@ -214,7 +214,7 @@ private slots:
             QCOMPARE(m_standby->count("invoice WHERE no = '" + number + '\''), 1);
         QCOMPARE(m_standby->value("SELECT count(DISTINCT no) FROM invoice").toInt(), m_standby->count("invoice"));
         QCOMPARE(m_standby->count("invoice"), m_standby->count("invoice_detail"));
-        // Of what was never shown as saved there may be what was on its way when a server or a till was stopped.
+        // Sales that were never shown as saved may exist if they were in progress when a server or till stopped.
         QVERIFY(m_standby->count("invoice") - earlier - shownAsSaved.size() <= 4);
         QCOMPARE(m_standby->count("makan_ditempat WHERE pemesan = 'Ann'"), 1);
         QCOMPARE(m_standby->count("makan_ditempat WHERE pemesan = 'Bob'"), 1);
@@ -224,7 +224,7 @@ private:
     using FormStep = std::function<void(DialogMakanDitempat*)>;
 
     [[nodiscard]] qint64 receiver() const { return m_standby->value("SELECT pid FROM pg_stat_wal_receiver").toInt(); }
-    /** What the person at the screen does under Configuration, General. */
+    /** Changes the server as the user does under Configuration, General. */
     void switchTo(const QString& host)
     {
         m_people->expect<ConfigDialog>([host](ConfigDialog* dialog) {

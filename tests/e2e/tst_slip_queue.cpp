@@ -22,7 +22,7 @@
 
 namespace
 {
-/** What a till may wait, and a little for the machine. */
+/** How long a till may wait, with a margin for a slow machine. */
 constexpr int longestWait = 2200;
 constexpr int noWait = 300;
 
@@ -37,7 +37,7 @@ private:
     QByteArray m_text;
 };
 
-/** A server that takes connections, or has them taken for it, and never answers. */
+/** A server that accepts connections, or lets the system accept them, and never answers. */
 class SilentServer
 {
 public:
@@ -56,7 +56,7 @@ public:
     Q_DISABLE_COPY(SilentServer)
 
     [[nodiscard]] const QByteArray& address() const { return m_address; }
-    /** Hangs up, and nobody listens any more. */
+    /** Closes the connections and the listening socket. */
     void close()
     {
         if (m_socket >= 0)
@@ -69,7 +69,7 @@ private:
     QByteArray m_address;
 };
 
-/** Prints and returns how long the window stood still; -1 where a timer got in meanwhile. */
+/** Prints and returns how long the window was blocked; -1 if a timer ran meanwhile. */
 qint64 blockedBy(const QString& printer, const QByteArray& text, bool* good = nullptr)
 {
     bool intruded = false;
@@ -101,7 +101,7 @@ void run(const QString& program, const QStringList& arguments)
 }
 } // namespace
 
-/// The way of slips with print servers that fail in every way, and with tills that are killed.
+/// Printing with print servers that fail in every way, and with tills that are killed.
 class TestSlipQueue final : public QObject
 {
     Q_OBJECT
@@ -166,11 +166,11 @@ private slots:
         }
         QCOMPARE(newestSlip().state, KeptSlip::Waiting);
         QCOMPARE(SlipQueue::instance()->waitingPrinters(), QStringList({fault, fault}));
-        // The server gives no sign for ten seconds, and then it is over and told.
+        // The server does not answer for ten seconds; then the slip fails with a message.
         QTRY_COMPARE_WITH_TIMEOUT(failures.size(), 1, 15000);
         const auto told = failures.first().first().value<KeptSlip>();
         QVERIFY(told.state == KeptSlip::Failed && told.printer == fault && !told.reason.isEmpty());
-        // The other one need not be waited out.
+        // Do not wait for the other one.
         m_cups->letGo();
         silent.close();
         QTRY_VERIFY_WITH_TIMEOUT(SlipQueue::instance()->waitingPrinters().isEmpty(), 15000);
@@ -316,7 +316,7 @@ private slots:
 
     void aJobThatNeverGotItsSlipIsTakenBack()
     {
-        // The request for a job lies before a server that is held; the till dies; the server makes the job after that.
+        // The job request waits at a suspended server; the till dies; then the server creates the job.
         m_cups->hold();
         QProcess till;
         till.start(SLIP_TILL_PROGRAM, {m_folder->filePath("slips"), "held"});
@@ -344,7 +344,7 @@ private:
     {
         const QList<KeptSlip> kept = keptSlips();
         QTRY_COMPARE_WITH_TIMEOUT(m_cups->printed().size(), kept.size(), 20000);
-        QTest::qWait(300); // one too many would come now
+        QTest::qWait(300); // time for an unwanted duplicate to appear
         QHash<QByteArray, int> onPaper;
         for (const QByteArray& paper : m_cups->printed())
             ++onPaper[paper];

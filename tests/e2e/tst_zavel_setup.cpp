@@ -118,7 +118,7 @@ private slots:
                  QString("1.1"));
         QCOMPARE(m_database->value("SELECT count(*) FROM access WHERE grant_type = 2"),
                  m_database->value("SELECT count(*) FROM permissions"));
-        // Two changes cannot be made to tables that this version laid down: the tables have them from the start.
+        // Two changes fail on tables of this version, which have them already.
         QCOMPARE(updated.lines.filter(" error:"),
                  QStringList({"[25%] permissions error:", "[25%] acquisition error:"}));
         QCOMPARE(updated.status, 0);

@@ -221,7 +221,7 @@ private slots:
         QFETCH(std::function<void()>, arrange);
         FETCH(QString, types, printed);
         arrange();
-        // Where nobody knows what a line was, it says nothing of it.
+        // If the former state of a line is unknown, the slip does not show it.
         EntityConfigKitchenPrinter* cook = kitchen("Dapur", types);
         cook->setSayFormer("Yes");
         const std::optional<QString> text = composeMenuOrder({cook, m_order, DineOrder, m_now});
@@ -239,7 +239,7 @@ private slots:
             difference += goldenDifference(name, text.toUtf8());
         };
         compare("recap.txt", composeOrderRecap(*m_order, *m_company, *m_cashier));
-        // Of the meal the tea is off, and two of ten skewers.
+        // The tea was taken off, and two of ten skewers.
         EntityOrder::Lines lines = m_order->getDetails();
         for (int place = 0; place < lines.size(); ++place)
             lines.at(place)->getItem()->setId(place);
@@ -279,7 +279,7 @@ private slots:
         fillSale(&dine, 60000);
         dine.setMakanDitempat(m_order);
         m_order->setMember(m_member);
-        // One of a party that pays apart: the bill shows this invoice's lines, not the whole table's.
+        // One of several separate bills: it shows this invoice's lines, not the whole table's.
         dine.setDetails({m_bill.lines.first()});
         QVERIFY(ReportBillMakanDitempat(nullptr, m_cashier, &dine, m_company, m_user, m_printerType).print());
 
@@ -367,7 +367,7 @@ private slots:
         names.write("Kasir\nBar\n");
         names.close();
         const ModalDriver person;
-        // A kitchen is cut the way of the cashier's printer type, whatever its own.
+        // A kitchen slip uses the cut sequence of the cashier's printer type, not of its own.
         EntityConfigKitchenPrinter* bar = kitchen("Bar", "DRINK");
         bar->setPrinterType("EPSON-TM-T88III");
         bar->setAutoCutter("Yes");

@@ -29,7 +29,7 @@ void confirm(QDialog* form)
     QTest::mouseClick(form->findChild<QDialogButtonBox*>("buttonBox")->button(QDialogButtonBox::Ok), Qt::LeftButton);
 }
 
-/** The login of a test, in which leaving is seen instead of ending the test. */
+/** The login dialog for tests: leaving it is recorded instead of ending the test. */
 class LoginUnderTest : public DialogLogin
 {
 public:
@@ -173,7 +173,7 @@ private slots:
         QCOMPARE(m_people->boxes()[2].icon, QMessageBox::Critical);
         QCOMPARE(grid->model()->rowCount(), 2);
 
-        // The right is asked once for all rows, and no grant for own records is weighed against a record.
+        // The right is checked once for all rows; a grant for own records only is not enough.
         m_people->clear();
         loginWithRights("User Group", {{1, 2}});
         grid->selectAll();
@@ -222,7 +222,7 @@ private slots:
         QCOMPARE(row(grid, 0).last() + row(grid, 1).last(), QString("NONEALL"));
         QVERIFY(m_people->finished());
 
-        // Whoever thought better of it is told all the same: an earlier change may still wait for its restart.
+        // The message is shown even after cancelling: an earlier change may still need a restart.
         m_people->clear();
         page.on_btnEdit_clicked();
         QCOMPARE(m_people->texts(), QStringList{"Application needs to be restarted to take the effect"});

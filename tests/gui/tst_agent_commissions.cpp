@@ -8,7 +8,7 @@
 #include "zavel/commission/TabKomisiAgen.h"
 #include "zavel/service/BusinessPenjualan.h"
 
-/** What agents earn, from the list of what they brought to the payment, with keyboard and mouse. */
+/** Agents' commissions, from the list to the payment, with keyboard and mouse. */
 class TestAgentCommissions : public PageTest<AppListTab>
 {
     Q_OBJECT
@@ -91,7 +91,7 @@ private slots:
         sale.date = QDate::currentDate();
         insertSale(*m_database, sale);
         show<TabAllKomisiAgen>();
-        // Paid at ten percent, shown at what the agent gets today; the lines keep what was paid.
+        // Paid at ten percent, shown at the agent's current percentage; the lines keep the paid one.
         QCOMPARE(cells(m_page.get(), 1).mid(3), (QStringList{"Rp300,00", "12,5", "Rp38,00", "Fully Paid"}));
         QCOMPARE(value("SELECT sum(commision_amount) FROM komisi_agen_detail"), QString("81"));
 
@@ -257,7 +257,7 @@ private slots:
             QCOMPARE(shown(form, "txtGrandTotal"), QString("30,00"));
             run("UPDATE komisi_agen SET version = version + 1, updatedby = 1");
             confirm(form, "txtNoRef");
-            // Somebody else was faster: the form stays as it is.
+            // Another user saved first: the form keeps its input.
             QVERIFY2(m_people->lastText().contains("error: update komisi agen failed"),
                      qPrintable(m_people->lastText()));
             QVERIFY(form->isVisible());
@@ -282,7 +282,7 @@ private slots:
         };
         QCOMPARE(found("g-0008"), 0);
         QCOMPARE(found("g-0007"), 1);
-        // A sale that is deleted leaves its line, which must not hold the payment.
+        // A deleted sale leaves its line, which must not block the payment.
         run("DELETE FROM invoice_fast_food; DELETE FROM invoice_detail WHERE invoice_id = 2; "
             "DELETE FROM invoice WHERE id = 2");
 

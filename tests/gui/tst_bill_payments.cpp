@@ -73,7 +73,7 @@ private slots:
                 confirm(one, "txtPaid");
             });
             QTest::keyClick(box(form, "txtSupplier"), Qt::Key_F2);
-            // The key meant a line of the one who is named by now.
+            // F2 must not open a line of the former supplier.
             QCOMPARE(shown(form, "txtSupplierName"), QString("Dairy"));
             if (!m_people->finished()) {
                 choose(purchases(form), 0);
@@ -171,7 +171,7 @@ private slots:
                     QCOMPARE(cells(items(again), 0),
                              (QStringList{"RICE", "Rice", "Kilogram", "Rp10,00", "Rp0,00", "Rp50,00"}));
                     QCOMPARE(shown(again, "txtGrandTotal"), QString("50,00"));
-                    // Nobody has to say where the money came from.
+                    // The account is optional.
                     confirm(again, "txtRefNo");
                 });
                 giveUp(line);
@@ -204,7 +204,7 @@ private slots:
         QCOMPARE(value("SELECT string_agg(concat_ws(' ', acquisition_id, amount_paid_amount, amount_due_amount), ', ') "
                        "FROM payment_invoice"),
                  QString("2 250 50"));
-        // The purchase that is no more on the payment is due again.
+        // A purchase that was removed from the payment is due again.
         QCOMPARE(purchasesStand(), QString("0 500 2, 250 50 3"));
     }
 
@@ -221,7 +221,7 @@ private slots:
             QVERIFY2(m_people->lastText().contains("error: insert payment detail:invoice failed."),
                      qPrintable(m_people->lastText()));
             QCOMPARE(figures(form), QString("0 500, 0 300"));
-            // Without it the rest is saved, under the number that the failed save gave back.
+            // Without it the rest is saved, with the number of the failed save.
             pay(form, 1, "0");
             confirm(form, "txtRefNo");
         });
@@ -285,7 +285,7 @@ private:
                 .arg(total == due ? "2" : "3"));
     }
 
-    /** Lays down a payment of 300 of the first purchase, with one item if its quantity is given. */
+    /** Inserts a payment of 300 for the first purchase, with one item if its quantity is given. */
     void insertPayment(int qty = -1)
     {
         insertRows(*m_database, "payment", "no='TPH-1', bank_id=1, grandtotal_amount=300");

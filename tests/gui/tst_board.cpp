@@ -139,7 +139,7 @@ private slots:
     {
         const auto row = addColumns<int>("stray");
         row("a steady hand", 0);
-        // Struck for the board, and handled when the form is there already.
+        // Sent to the board, but handled when the form is already open.
         for (int key :
              {Qt::Key_F5, Qt::Key_Return, Qt::Key_F12, Qt::Key_F2, Qt::Key_F9, Qt::Key_Delete, Qt::Key_Escape})
             row(qPrintable("a hasty " + QKeySequence(key).toString()), key);
@@ -214,7 +214,7 @@ private slots:
         QTRY_VERIFY(m_people->finished());
         QTRY_COMPARE(at("t1", Column::Menu), QString("Fried rice, Iced tea"));
         QCOMPARE(at("t1", Column::Status), QString("Waiting for the menu"));
-        // The kitchen cooks what came on top, with a mark at what it knows already.
+        // The kitchen gets only the added lines, with a mark for dishes that it knows already.
         const QString slip = kitchenSlips();
         QVERIFY2(slip.contains(QRegularExpression("RICE +\\*Fried rice +2 ")), qPrintable(slip));
         QVERIFY2(slip.contains(QRegularExpression("TEA +Iced tea +1 ")), qPrintable(slip));
@@ -236,17 +236,17 @@ private slots:
             QVERIFY(notice->isVisible());
             QVERIFY2(notice->text().startsWith("This order is billed already: TRD"), qPrintable(notice->text()));
             typeInto(form, "txtKode", "t2");
-            // The first takes the table, the second confirms the form.
+            // The first Return selects the table, the second confirms the form.
             QTest::keyClick(form->focusWidget(), Qt::Key_Return);
             QTest::keyClick(form->focusWidget(), Qt::Key_Return);
         });
         press(Qt::Key_F2);
-        // A taken table is no hindrance here.
+        // An occupied table is accepted here.
         QTRY_COMPARE(column(Column::Guest), (QStringList{"Ann", "Bob", ""}));
         QCOMPARE(cell(0, Column::FromTable), QString("t1"));
         QCOMPARE(cell(0, Column::Status), QString("Waiting for the menu"));
         QVERIFY(m_people->finished());
-        // The kitchen has seen all of it, and must know where it goes.
+        // The kitchen has all the lines already and only needs the new table.
         const QString slip = kitchenSlips();
         QVERIFY2(slip.contains("\nMoved from table t1 to table t2\n") && !slip.contains("Fried rice"),
                  qPrintable(slip));
@@ -323,7 +323,7 @@ private:
         m_grid->selectRow(column(Column::TableCode).indexOf(code));
     }
 
-    /** What the kitchen's printer has printed since the last look, slip after slip. */
+    /** The slips of the kitchen's printer since the last call. */
     QString kitchenSlips() { return takeSlips(m_spool->path()); }
 
     EntityItem* m_rice = nullptr;

@@ -54,7 +54,8 @@ private slots:
     {
         addColumns<QStringList>("words");
         const auto row = [](const QStringList& words) { addRow(qPrintable(words[0] + ' ' + words[1]), words); };
-        // Type, account, and then: numbers, account's name, totals. A good month is more than one amount can hold.
+        // Type and account, then the expected numbers, account name and totals. The totals exceed the range of one
+        // amount.
         row({"All", "", "TRE TRD TR TR NB KK", "", "4.000.000.370,00 330,00 4.000.000.040,00"});
         row({"DEBET", "", "TRE TRD TR KK", "", "4.000.000.370,00 0,00 4.000.000.370,00"});
         row({"CREDIT", " 1-100", "TR NB", "Cash", "0,00 330,00 -330,00"});
@@ -266,7 +267,7 @@ private slots:
             else
                 run("DROP TRIGGER hang_up ON " + table);
             if (failure == SavedButAnswerLost) {
-                // As the server has it that did save, under the id and the number that the program was given.
+                // The row as a successful save would have written it, with the id and number of the program.
                 const QString columns = isTransfer ? "from_account_id, to_account_id, amount_currency, amount_amount"
                                                    : "trans_type, account_code, debet_currency, debet_amount, "
                                                      "credit_currency, credit_amount";
@@ -280,7 +281,7 @@ private slots:
             pressOk(form);
         });
         QCOMPARE(m_people->boxes().size(), 1);
-        // Once, under the number that the failed save gave back, and as the form shows it now.
+        // Once, with the number of the failed save and the form's current input.
         QCOMPARE(value("string_agg(trans_no || ' ' || notes, ',') from " + table), no + " As typed");
         QCOMPARE(cells(m_page.get(), 0).filter("Rp500,00").size(), 1);
     }

@@ -88,7 +88,7 @@ private slots:
 
     void aChosenFileIsTakenByteForByte()
     {
-        // What a person adds behind the picture survives only when the file itself is taken.
+        // Bytes after the image survive only if the file itself is stored.
         const QByteArray bytes = pngOf(Qt::blue) + "trailer";
         choose("logo.png", bytes);
         QCOMPARE(colorOf(m_logo->image()), QColor(Qt::blue));

@@ -76,7 +76,7 @@ private slots:
         QVERIFY(content.contains("showdashboard=false\n"));
         QVERIFY(!(file.permissions() & (QFile::ReadGroup | QFile::ReadOther)));
 
-        // A copy, so that nothing which this process remembers of the file can answer.
+        // A copy, so that no cached content of the file is used.
         const QString copy = m_home.filePath("copy.ini");
         QFile::remove(copy);
         QVERIFY(file.copy(copy));

@@ -11,7 +11,7 @@
 #include <QTimer>
 #include <QUuid>
 
-/** Bringing over the data of a former system. */
+/** The conversion of a former system's data. */
 class TestConverter : public DatabaseTest
 {
     Q_OBJECT
@@ -111,7 +111,7 @@ private slots:
         const QString logged = QString::fromUtf8(log.readAll());
         for (const char* line : {"item type null:I2", "item type null:I3", "can not find PO no"})
             QVERIFY2(logged.contains(line), line);
-        // Every reason that a row was left behind or changed for stands in the form, and in the log as well.
+        // Every reason why a row was skipped or changed is shown in the form and in the log.
         for (const char* line :
              {"tbljenisbrg: 4 read, 2 written, 2 skipped", "tblsupplier: 4 read, 2 written, 2 skipped",
               "skipped, it has no code: Without code", "skipped, the code exists already: s01",
@@ -163,7 +163,7 @@ private slots:
         int paints = 0;
         QTimer screen;
         connect(&screen, &QTimer::timeout, this, [&] {
-            // The open screens go on working beside it.
+            // Open pages still work meanwhile.
             EntityPool pool;
             const EntityPoolScope scope(pool);
             paints += service<BusinessItem>("Item")->findByCode("X1") || true;
@@ -231,7 +231,7 @@ private slots:
         addItems(2000);
         start();
         QTRY_VERIFY_WITH_TIMEOUT(count("item where kode like 'X%'") > 300, 20000);
-        // In the middle of an item: it is in, its balance waits.
+        // In the middle of an item: it is inserted, its balance waits.
         const QString waiting = "pg_stat_activity where datname = current_database() and wait_event_type = 'Lock'";
         run("begin; lock table stok_awal in exclusive mode");
         QTRY_VERIFY_WITH_TIMEOUT(count(waiting) > 0, 20000);
@@ -260,7 +260,7 @@ private slots:
     void aDocumentThatWasLeftWithoutItsConsequencesGetsThem()
     {
         convert();
-        // As a program leaves it that dies right after the last purchase, or the last payment, was written.
+        // As after a crash right after the last purchase or payment was written.
         run("delete from item_history where no = 'B-3'");
         run("update acquisition set other_payment_amount = 0, net_due_amount = 40001 where no = 'B-2'");
         run("insert into appconfig (appkey, is_json, appvalue, version) values ('conversion', false, 'begun', 1)");
@@ -287,7 +287,7 @@ private slots:
         const int stopped = count("item");
         QVERIFY(stopped < 2000);
 
-        // A program that ends takes its run with it.
+        // When the program ends, the run ends too.
         open();
         start();
         QTRY_VERIFY_WITH_TIMEOUT(count("item") > stopped, 20000);

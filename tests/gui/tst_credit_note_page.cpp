@@ -86,7 +86,7 @@ private slots:
         onNote("btnEdit", [this](DialogCreditNote* form) {
             QCOMPARE(shown(form, "txtNo") + shown(form, "txtPurchaseNo"), QString("NR-0007NB-0001"));
             QCOMPARE(cells(form, 0).mid(2, 2), (QStringList{"20", "3"}));
-            // The same purchase once more keeps what was keyed in; another one takes its place.
+            // Choosing the same purchase again keeps the input; another purchase replaces it.
             takeOlder(form);
             QCOMPARE(cells(form, 0).mid(2, 2), (QStringList{"20", "3"}));
             takePurchase(form, [](DialogSelectPurchases* offer) { press(offer, QDialogButtonBox::Ok); });
@@ -102,7 +102,7 @@ private slots:
                  QString("2 0, 2 1"));
         QCOMPARE(dues(), QString("0 1800 2, 270 -270 1"));
 
-        // What is due stays as it is without the note.
+        // Deleting the note does not change the due amount.
         m_people->answer(QMessageBox::Yes);
         click(m_page.get(), "btnDelete");
         QCOMPARE(m_people->lastText(), QString("Are you sure you want to delete Credit Note with No: NR-0007 ?"));
@@ -256,7 +256,9 @@ private:
         choose(m_page.get(), 0);
     }
 
-    /** Keys into the form of a line. What is refused is given up, and so is the next line that a new one asks for. */
+    /**
+     * Types into the form of a line. A refused form is cancelled, and so is the next form that opens after a new line.
+     */
     template <class Line>
     void onLine(DialogCreditNote* form, const char* button, const Entries& entries, bool isLast = false)
     {

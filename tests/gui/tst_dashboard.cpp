@@ -72,7 +72,7 @@ private slots:
             insertSale(*m_database, daysAgo(0), i, {100, 100}, i == 3 ? 2 : 1);
         openDashboard();
 
-        // The days without sales stand between the others, at zero.
+        // Days without sales are included with zero.
         QStringList days;
         QVariantList totals;
         for (int ago = 14; ago >= 0; --ago) {

@@ -15,7 +15,7 @@
 
 #include <csignal>
 
-/** The owner at the form, PostgreSQL's own programs behind it. */
+/** The database form with PostgreSQL's real client programs. */
 class TestDatabaseManagement : public DatabaseTest
 {
     Q_OBJECT
@@ -173,7 +173,7 @@ private slots:
             set(field.toLatin1(), value);
         }
         if (value == "gone") {
-            // As the end of the whole program leaves it: a piece in the place of the backup.
+            // As after a crash of the program: a partial file in place of the backup.
             QVERIFY(QFile::rename(path, path + ".previous"));
             QFile piece(path);
             QVERIFY(piece.open(QIODevice::WriteOnly) && piece.write("PGDMP") > 0);
@@ -208,7 +208,7 @@ private slots:
         QTRY_VERIFY(waiting(m_database->name()) != 0);
         QVERIFY(!button("btnBackup")->isEnabled() && !button("btnBrowse")->isEnabled());
         QVERIFY(button("btnVacuum")->isEnabled());
-        // Nobody else reads the marks of the passwords in it, not even meanwhile.
+        // Nobody else can read the password hashes in it, not even during the backup.
         QCOMPARE(QFile::permissions(path), QFile::Permissions(0x6600));
         if (who == "the owner") {
             giveUp(m_dialog.get());
@@ -285,7 +285,7 @@ private slots:
         set("txtInputFileImport", backup());
         m_database->run("INSERT INTO meja (kode, nama, version) VALUES ('m9', 'Garden', 1)");
         const QMap<QString, QStringList> rows = allRows(m_database->name());
-        // The name is taken: what cannot be created is not restored over either.
+        // The name is taken: if the database cannot be created, nothing is restored over it.
         m_dialog->findChild<QCheckBox*>("cbCreateNewDB")->setChecked(true);
         run("btnRestore");
         QVERIFY(m_people->lastText().contains(QRegularExpression("holds [0-9]+ tables already")));
@@ -293,7 +293,7 @@ private slots:
         QVERIFY(status("txtRestoreStatus").contains("Nothing was restored."));
         QCOMPARE(allRows(m_database->name()), rows);
 
-        // The program works with it, so it can not make way either.
+        // The program itself uses the database, so it cannot be renamed either.
         m_people->clear();
         m_people->answer(QMessageBox::Yes);
         button("btnRestore")->click();
@@ -312,7 +312,7 @@ private slots:
         cluster.run("CREATE DATABASE " + name + " TEMPLATE " + installedTemplateName());
         set("txtDBNameImport", name);
 
-        // It comes back where no new one can be made.
+        // It is renamed back if no new database can be created.
         const QTemporaryDir programs;
         QFile program(programs.filePath("createdb"));
         QVERIFY(program.open(QIODevice::WriteOnly) && program.write("#!/bin/sh\nexit 1\n") > 0);
@@ -335,7 +335,7 @@ private slots:
         m_made.append(told);
         QVERIFY2(cluster.hasDatabase(told), qPrintable(told));
         QCOMPARE(allRows(name), rows);
-        // The numbers go on where the backup's end.
+        // The sequences continue after the backup's values.
         AppContext::instance()->databaseManager()->open(TestDatabase::host(), name, TestDatabase::user(), {},
                                                         TestDatabase::port());
         QSqlQuery next;
@@ -353,7 +353,7 @@ private slots:
         QFETCH(bool, byServer);
         set("txtInputFileImport", backup());
         const QMap<QString, QStringList> rows = allRows(m_database->name());
-        // It waits where the tables are filled and the indexes come.
+        // The restore is blocked after the tables are filled and before the indexes are created.
         const TestDatabase target(TestDatabase::Empty);
         const_cast<TestDatabase&>(target).run(
             "CREATE FUNCTION wait() RETURNS event_trigger LANGUAGE plpgsql AS 'BEGIN PERFORM pg_advisory_lock(1); "

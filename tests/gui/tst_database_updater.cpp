@@ -18,7 +18,7 @@ bool hasEnded(const QWizard* wizard) { return statusOf(wizard).last() == "[100%]
 
 void press(QWizard* wizard, QWizard::WizardButton button) { QTest::mouseClick(wizard->button(button), Qt::LeftButton); }
 
-/** What the first has and the second has not. */
+/** Elements of the first set that the second does not have. */
 QStringList missing(const QSet<QString>& first, const QSet<QString>& second)
 {
     QStringList lines = (first - second).values();
@@ -27,7 +27,7 @@ QStringList missing(const QSet<QString>& first, const QSet<QString>& second)
 }
 } // namespace
 
-/** A restaurant starts a newer program on the database that version 1.0 left. */
+/** The update of a database of version 1.0 by the current program. */
 class TestDatabaseUpdater : public DatabaseTest
 {
     Q_OBJECT
@@ -235,7 +235,7 @@ private:
         QVERIFY(m_people->finished());
     }
 
-    /** Another workstation is in the middle of a supplier's record; the update comes to a stand there. */
+    /** Another workstation has locked the suppliers; the update waits there. */
     void holdSuppliers() { run("BEGIN; LOCK TABLE supplier IN ACCESS EXCLUSIVE MODE"); }
     [[nodiscard]] bool isHeld() const
     {

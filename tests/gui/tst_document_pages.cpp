@@ -6,7 +6,7 @@
 #include "support/SalesRows.h"
 #include "support/ShopRows.h"
 
-/** What every list of documents is held to, whatever its documents tell. */
+/** Tests that apply to all pages of documents. */
 class TestDocumentPages : public PageTest<QWidget>
 {
     Q_OBJECT
@@ -146,7 +146,7 @@ private slots:
     }
 
 private:
-    /** A row for each family that has a word for it. */
+    /** One row per family for which this text is set. */
     static void addRows(QString DocumentFamily::*word)
     {
         addColumns<int>("family");

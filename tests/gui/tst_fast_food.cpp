@@ -23,7 +23,7 @@ void type(QWidget* form, const char* field, const QString& text)
     QTest::keyClicks(box, text);
 }
 
-/** Without a window manager a form does not come back by itself when a picker or a box is closed. */
+/** Without a window manager, a form is not activated again when a picker or message box closes. */
 void bringToFront(QWidget* form)
 {
     form->activateWindow();
@@ -33,7 +33,7 @@ void bringToFront(QWidget* form)
 QString shown(const QWidget* form, const char* field) { return form->findChild<QLineEdit*>(field)->text(); }
 } // namespace
 
-/** The counter: rice at 25.000 from the stock, tea at 5.000 from the menu, and a cashier who has no time. */
+/** Counter sales: rice at 25.000 from stock, tea at 5.000 from the menu. */
 class TestFastFood : public PageTest<TabFastFood>
 {
     Q_OBJECT
@@ -69,7 +69,7 @@ private slots:
             type(form, "txtMember", "M1");
             type(form, "txtNamaPelanggan", QString(60, 'n'));
             keyInTheFood(form, [](DialogFastFood* same) {
-                // The last item is in: what is typed now is the money.
+                // After the last item, the focus is on the paid amount.
                 QCOMPARE(same->focusWidget()->objectName(), QString("txtPaid"));
                 QCOMPARE(shown(same, "txtGrandTotal"), QString("55.000,00"));
                 QCOMPARE(shown(same, "txtNetDue"), QString("-55.000,00"));
@@ -87,7 +87,7 @@ private slots:
         QVERIFY(m_people->finished());
         QCOMPARE(m_people->texts(), QStringList(printQuestion));
         QCOMPARE(m_people->lastTitle(), QString("Question"));
-        // The new sale stands on top, and the next one is a key away.
+        // The new sale is the first row; the next one needs one key.
         QTRY_COMPARE(column(Column::InvoiceNo), (QStringList{"TRF-0007", "OLD"}));
         QCOMPARE(column(Column::Menu).first(), QString("Iced tea, Rice"));
         QCOMPARE(column(Column::Waitress).first(), QString("Ann"));
@@ -126,7 +126,7 @@ private slots:
         // The counter stores the figure that it shows: what is short is negative.
         QCOMPARE(stored("status, amount_paid_amount, other_payment_amount, net_due_amount"), figures);
         QCOMPARE(slips(), QStringList());
-        // The coins are still to be counted when the form has gone.
+        // The change is still shown after the form has closed.
         QVERIFY(shownChange->isVisible());
         QCOMPARE(shownChange->text(), change);
         m_people->expect<DialogFastFood>([shownChange](DialogFastFood* form) {
@@ -231,7 +231,7 @@ private:
         QTest::keyClick(m_grid, key);
     }
 
-    /** Keys in one tea and two rice at the form, ends the rounds and goes on with the form. */
+    /** Types one tea and two rice in the form, cancels the pickers and continues with the form. */
     void keyInTheFood(DialogFastFood* form, const FormStep& then)
     {
         expectRound<DialogSelectFastFoodMenu>("tea", "1", form, [this, then](DialogFastFood* same) {

@@ -35,7 +35,7 @@ QStringList allOf(const QString& text, const QString& pattern)
 
 QStringList anchorsOf(const QString& text) { return allOf(text, "<a name=\"(\\w+)\">"); }
 
-/** The pictures that the list promises. */
+/** The pictures in the list. */
 QStringList listedPictures() { return allOf(read(folder() + "/pictures/pictures.txt"), "(?m)^([\\w-]+) +\\|"); }
 
 QTextBrowser* pageOf(const QWidget* window) { return window->findChild<QTextBrowser*>("page"); }

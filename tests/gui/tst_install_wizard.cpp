@@ -33,7 +33,7 @@ QString identifier(QString name) { return '"' + name.replace('"', "\"\"") + '"';
 QString literal(QString text) { return '\'' + text.replace('\'', "''") + '\''; }
 } // namespace
 
-/** Somebody unpacks the program and sets it up. */
+/** The first setup of the program on a workstation. */
 class TestInstallWizard : public QObject
 {
     Q_OBJECT
@@ -49,7 +49,7 @@ private slots:
         dump.run(ClientPrograms::backup(database.settings(), m_backup));
         QVERIFY(dump.waitForFinished(30000) && dump.succeeded());
 
-        // One role alone is asked for its password.
+        // Only one role needs a password.
         TestCluster& cluster = TestCluster::instance();
         cluster.exclusively([&cluster, &database] {
             cluster.run("DROP ROLE IF EXISTS " + identifier(askedRole));
@@ -172,7 +172,7 @@ private slots:
         QVERIFY(!button(QWizard::BackButton)->isVisible());
         m_wizard->reject();
         QVERIFY(m_wizard->isVisible());
-        // Asking for the page once more starts nothing.
+        // Initializing the page again starts nothing.
         m_wizard->currentPage()->initializePage();
         waitForTheEnd();
         QVERIFY(turns > 5);
@@ -297,7 +297,7 @@ private slots:
         QCOMPARE(m_people->lastText(), restored);
         const QString aside = make(status().section("kept under the name ", 1).section(".\n", 0, 0));
         QVERIFY2(cluster.hasDatabase(aside), qPrintable(aside));
-        // The tables are the backup's, and the numbers go on behind its own.
+        // The tables are those of the backup, and the sequences continue after its values.
         QSqlQuery query(AppContext::instance()->databaseManager()->database());
         QVERIFY(query.exec("INSERT INTO meja (kode, nama, version) VALUES ('m10', 'Next', 1)"));
         QVERIFY(query.exec("SELECT string_agg(kode, ',' ORDER BY id) FROM meja") && query.next());
@@ -319,7 +319,7 @@ private slots:
         next();
         QVERIFY2(m_people->lastText().contains(said), qPrintable(m_people->lastText()));
         QCOMPARE(m_wizard->currentId(), 3);
-        // Filled behind the question's back it stays as well.
+        // A database that was filled after the question is not changed either.
         m_wizard->page(4)->initializePage();
         QTRY_VERIFY(status().contains("Nothing was restored into them."));
         QVERIFY(!hasSettings());

@@ -8,7 +8,7 @@
 #include <QCheckBox>
 #include <QRadioButton>
 
-/** The form of an item: how its class, its grouping, its components and its accounts hang together. */
+/** The item form: how class, grouping, components and accounts depend on each other. */
 class TestItemForm : public DatabaseTest
 {
     Q_OBJECT
@@ -64,7 +64,7 @@ private slots:
         QTest::keyClick(in<QLineEdit>("txtSalesAccount"), Qt::Key_Tab);
         QCOMPARE(in<QLabel>("lblSales")->text(), QString("Cash on Hand"));
 
-        // The half second after the last key is over when the list stands below the field.
+        // The list opens half a second after the last key.
         typeInto(m_form.get(), "txtInvAccount", "checking");
         QTRY_VERIFY(QApplication::activePopupWidget());
         QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);

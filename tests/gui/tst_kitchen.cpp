@@ -34,7 +34,7 @@ int residentMemory()
 }
 } // namespace
 
-/** The kitchen's screen on a Saturday night: nobody at the mouse, and it has to be right. */
+/** The kitchen page, which must update without any user input. */
 class TestKitchen : public PageTest<TabPesananMasuk>
 {
     Q_OBJECT
@@ -109,7 +109,7 @@ private slots:
         QCOMPARE(column(orders(), Queue::ElapsedTime), QStringList{"2 hours"});
         QCOMPARE(m_database->value("SELECT status FROM makan_ditempat WHERE meja_id = 1").toInt(),
                  int(EntityOrder::PAID));
-        // A save of the order starts its clock anew.
+        // Saving the order restarts its clock.
         QVERIFY(m_sales->updateOrder(m_sales->findOrder(paid->getId())));
         tick();
         QVERIFY(column(orders(), Queue::ElapsedTime).first().endsWith(" second"));
@@ -167,7 +167,7 @@ private slots:
         QApplication::processEvents();
         QCOMPARE(view(), before);
 
-        // "Refresh" begins anew, and the next tick goes on where the cook was.
+        // "Refresh" clears the selection; the next tick restores it.
         click("btnRefresh");
         QVERIFY(selected(orders()).isEmpty());
         QCOMPARE(lines()->model()->rowCount(), 0);
@@ -200,7 +200,7 @@ private slots:
         QCOMPARE(note->count(), 3);
         QCOMPARE(note->itemText(0) + '/' + note->itemText(1) + '/' + note->itemText(2),
                  QString("Out of Stock/Processed/Not Enough Stock"));
-        // Without a line in hand nothing is written, but the page is read anew.
+        // Without a selected line nothing is written, but the page reads again.
         m_make->openOrder(m_make->table("t2"), {m_make->line(m_tea, 1)});
         selectOrder("t1");
         click("btnSendStatus");
@@ -347,7 +347,7 @@ private slots:
         m_make->openOrder(m_make->table("t1"), {m_make->line(m_rice, 1)}, "Ann");
         show();
         selectOrder("t1");
-        // Nobody is at the mouse.
+        // Nobody answers message boxes.
         m_people.reset();
         const auto boxes = [this] { return m_page->findChildren<QMessageBox*>(); };
         auto* line = m_page->findChild<QLabel*>("lblNotUpToDate");
@@ -357,7 +357,7 @@ private slots:
         QSignalSpy refused(m_page->findChild<KorConnectionProbe*>(), &KorConnectionProbe::answered);
         for (int i = 0; i < 3; ++i) {
             tick();
-            // The first one finds out, the others ask whether the server is back.
+            // The first action detects the loss; the others check whether the server is back.
             QTRY_COMPARE(refused.size(), i);
             QCOMPARE(boxes().size(), 1);
             QVERIFY(boxes().first()->text().startsWith("The connection to the database is lost."));
@@ -378,7 +378,7 @@ private slots:
         tick();
         QTRY_COMPARE(column(lines(), Menu::Status), QStringList{"Processed"});
         QVERIFY(line->isHidden());
-        // The next loss is told again, and its box goes by itself.
+        // The next loss is reported again, and its message box closes by itself.
         m_database->killConnections();
         tick();
         QCOMPARE(boxes().size(), 1);

@@ -17,17 +17,17 @@ namespace
 {
 using Dishes = QMap<QString, int>;
 
-/** A cook who believes every slip: what he has to have cooked, by table. */
+/** A cook who follows the slips: the dishes that he must prepare, by table. */
 struct Cook
 {
     QString type;
-    // Where a star stands for all there is, and not for what came on top.
+    // True if the quantity of a line with a star is the whole one, not the added one.
     bool isToldFormer = false;
     QMap<QString, Dishes> knows;
 };
 } // namespace
 
-/** Evenings of random orders: each kitchen knows at every moment what the guests at each table still want of it. */
+/** Evenings with random orders: at any time, the slips tell each kitchen exactly which dishes the tables still want. */
 class TestKitchenEvening : public DatabaseTest
 {
     Q_OBJECT
@@ -124,7 +124,7 @@ private:
         }
     }
 
-    /** Orders, or orders more where somebody sits already. */
+    /** Adds an order, or more lines to the table's open order. */
     void order(const QString& table)
     {
         choose(table);
@@ -223,7 +223,7 @@ private:
         };
         const QStringList trail = found("^Table  : (.*)$").captured(1).split('>');
         const QString table = trail.last();
-        // Of a former move the slip still tells, when others sit there already.
+        // Only the move of the last edit: slips also show earlier moves, and the old table may have new guests.
         if (table == m_movedTo && !cook.knows.contains(table) && cook.knows.contains(trail.at(trail.size() - 2)))
             cook.knows[table] = cook.knows.take(trail.at(trail.size() - 2));
         if (slip.contains("Order Cancelled.")) {
@@ -257,7 +257,7 @@ private:
             cook.knows.remove(table);
     }
 
-    /** What stands on the open orders, by the type of item. */
+    /** The dishes of the open orders, by item type. */
     QMap<QString, Dishes> wanted(const QString& type)
     {
         QMap<QString, Dishes> dishes;

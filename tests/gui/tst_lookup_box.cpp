@@ -59,7 +59,7 @@ struct Order
         [[maybe_unused]] const bool active = QTest::qWaitForWindowActive(&window);
         field.setFocus();
     }
-    /** As from the keyboard: the system hands the key to the list while it is open. */
+    /** Like the keyboard: the window system sends keys to the list while it is open. */
     void press(Qt::Key key) { QTest::keyClick(window.windowHandle(), key); }
     void type(const QString& text)
     {
@@ -67,7 +67,7 @@ struct Order
             QTest::keyClick(window.windowHandle(), letter.toLatin1());
     }
     [[nodiscard]] static QTreeWidget* list() { return qobject_cast<QTreeWidget*>(QApplication::activePopupWidget()); }
-    /** The half second is watched by one test; the others need not sit it out. */
+    /** Only one test measures the half second; the others do not wait for it. */
     [[nodiscard]] bool waitForList(bool patiently = false)
     {
         if (!patiently && timer->isActive())

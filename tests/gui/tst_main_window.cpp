@@ -153,7 +153,7 @@ private slots:
         for (const auto& told : expected) {
             titles.append(told.first);
             for (const QAction* title : m_window->menuBar()->actions()) {
-                // What the program has besides stands behind them.
+                // Further entries come after these.
                 if (title->text() == told.first)
                     QCOMPARE(textsOf(title->menu()).mid(0, told.second.size()), told.second);
             }
@@ -326,7 +326,7 @@ private slots:
         QCOMPARE(openPages(), QStringList());
         QVERIFY(m_people->finished());
         qunsetenv("XDG_DATA_HOME");
-        // With the pages that were closed, which go before the records of the other database.
+        // Also deletes the closed pages, which must go before the other database's records.
         m_window.reset();
     }
 
@@ -393,7 +393,7 @@ private slots:
         QCOMPARE(textsIn("Configuration").mid(0, 8),
                  QStringList({"  General", "  Running Numbers", "  Cashier Printer", "  Kitchen Printers",
                               "  Show Sidebar", "  Show Dashboard", "  Database Management", "  Clear Transactions"}));
-        // A sub-menu counts as one entry of the height, whatever it holds, and a line between entries as none.
+        // The height counts a sub-menu as one entry and a separator as none.
         QStringList entries = textsOf(menu("menuPenjualan"));
         entries.removeAll(QString());
         QCOMPARE(rowsOf("Sales")->height(), (entries.size() + 2) * 24 + rowsOf("Sales")->frameWidth());
@@ -481,7 +481,7 @@ private slots:
         }
         QVERIFY(codes.contains("id"));
         QCOMPARE(checked, QStringList{InterfaceLanguage::systemCode()});
-        // The sidebar stood before: it has no row of a language.
+        // The sidebar was filled earlier, so it has no language rows.
         QCOMPARE(textsIn("Configuration").filter("Indonesian"), QStringList());
     }
 

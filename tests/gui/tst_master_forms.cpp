@@ -16,7 +16,7 @@ namespace
 {
 using Input = QMap<QString, QString>;
 
-/** Everything right but what the row says. */
+/** Valid input except for the row's changes. */
 Input with(const Input& changes)
 {
     Input input{{"txtKode", "new"},      {"txtNama", "Name"}, {"txtNamaSatuan", "Name"},    {"txtNamaJenis", "Name"},
@@ -32,7 +32,7 @@ const Input nothing{{"txtKode", ""},   {"txtNama", ""}, {"txtNamaSatuan", ""}, {
 
 Q_DECLARE_METATYPE(Input)
 
-/** What the entry forms of the master data accept, refuse and remember. */
+/** The input checks and saving of the master data forms. */
 class TestMasterForms : public DatabaseTest
 {
     Q_OBJECT

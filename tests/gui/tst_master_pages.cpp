@@ -191,10 +191,10 @@ private slots:
     }
 
 private:
-    /** After a box the page has to be in front again before it hears keys. */
+    /** Activates the page again after a message box, so that it gets keys. */
     void comeBack()
     {
-        // What the box's end brings along comes first.
+        // Process the events of the closed box first.
         QCoreApplication::processEvents();
         m_page->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(m_page.get()));

@@ -46,7 +46,7 @@ private slots:
             QCOMPARE(cells(form, 0).mid(2), (QStringList{"Rp500,00", "Rp500,00", "Rp0,00"}));
             QCOMPARE(cells(form, 1).first(), QString("TRD-300"));
             click(form, "pushButton");
-            // Asked again it changes nothing.
+            // A second click changes nothing.
             click(form, "pushButton");
             QCOMPARE(cells(form, 0).mid(2), (QStringList{"Rp500,00", "Rp0,00", "Rp500,00"}));
             QCOMPARE(shown(form, "txtGrandTotal"), QString("800,00"));
@@ -183,7 +183,7 @@ private slots:
             click(form, "pushButton");
             enter(form, "txtARAccount", "1-100");
             confirm(form, "txtRefNo");
-            // No is the answer of a hasty Return.
+            // Return presses No, the default button.
             QVERIFY(form->isVisible());
             QVERIFY2(m_people->lastText().contains("as of a card at the sale: Rp40 on TRD-300."),
                      qPrintable(m_people->lastText()));
@@ -195,7 +195,7 @@ private slots:
             value("SELECT string_agg(concat_ws(' ', other_payment_amount, net_due_amount), ', ' ORDER BY id) FROM "
                   "invoice"),
             QString("500 0, 260 40"));
-        // What members have paid is no surprise to their next payment.
+        // Earlier payments of members cause no question.
         m_people->clear();
         onForm("btnAdd", [](DialogPiutang* form) {
             enter(form, "txtMember", "m1");
@@ -218,7 +218,7 @@ private slots:
             QCOMPARE(shown(form, "txtKode"), QString("PIU-0007"));
             QCOMPARE(shown(form, "txtARAccount"), QString("1-100"));
             QCOMPARE(shown(form, "txtGrandTotal"), QString("300,00"));
-            // The one that is fully paid by now is on no other list; the part of the other payment is not due again.
+            // The fully paid invoice is in no other list; the part paid by the other payment is not due again.
             QCOMPARE(cells(form, 0).mid(3), (QStringList{"Rp300,00", "Rp0,00"}));
             QCOMPARE(cells(form, 1).mid(3), (QStringList{"Rp0,00", "Rp300,00"}));
             pay(form, 1, "100");
@@ -248,7 +248,7 @@ private slots:
         QTRY_COMPARE(value("SELECT string_agg(concat_ws(' ', member_id, invoice_id, amount_paid_amount), ', ') FROM "
                            "piutang_detail JOIN piutang ON piutang.id = piutang_id"),
                      QString("2 2 300"));
-        // Nobody counts the invoice that is no more on the payment.
+        // An invoice that was removed from the payment is not updated.
         QCOMPARE(value("SELECT other_payment_amount FROM invoice WHERE id = 1"), QString("300"));
     }
 

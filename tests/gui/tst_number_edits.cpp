@@ -257,7 +257,7 @@ private slots:
         QVERIFY(form.edit.isValid());
         QVERIFY(before);
         QCOMPARE(total->rawAmount(), 3000);
-        // Nothing piles up in a form that stays open.
+        // A form that stays open does not collect old Money objects.
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QCOMPARE(form.edit.findChildren<Money*>().size(), 1);
     }

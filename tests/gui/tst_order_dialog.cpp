@@ -11,7 +11,7 @@ namespace
 {
 void type(QWidget* form, const char* field, const QString& text)
 {
-    // Numbers are left alone only in a field that has the focus, and so in a window that has it.
+    // Numbers are not reformatted only in the focused field, which requires an active window.
     form->activateWindow();
     QTRY_COMPARE(QApplication::activeWindow(), form);
     auto* edit = form->findChild<QLineEdit*>(field);

@@ -112,7 +112,7 @@ private slots:
         type(typedInto, typed);
         QTEST(m_form->findChild<QLabel*>("lblNetDue")->text(), "label");
         QTEST(shown("txtNetDue"), "netDue");
-        // The figure under the cursor is the cashier's own.
+        // The field with the cursor keeps the cashier's input.
         QCOMPARE(shown(typedInto), typed);
     }
 
@@ -125,7 +125,7 @@ private slots:
         QVERIFY(m_form->findChild<QTableView*>("tblDetail")->hasFocus());
         press(Qt::Key_F9);
         QVERIFY(box("txtPaid")->hasFocus());
-        // A second count replaces the first one.
+        // Typing again replaces the first amount.
         QTest::keyClicks(box("txtPaid"), "500");
         press(Qt::Key_F10);
         press(Qt::Key_F9);
@@ -151,7 +151,7 @@ private slots:
         QCOMPARE(shown("txtMember"), QString("M1"));
         QCOMPARE(shown("txtNamaPelanggan"), QString("Guest"));
         QTEST(shown("txtDiscPerc"), "percent");
-        // The amount follows when somebody walks through the percent's box.
+        // The amount is updated when the focus passes through the percent box.
         QCOMPARE(shown("txtGrandTotal"), QString("1.000,00"));
         box("txtDiscPerc")->setFocus(Qt::TabFocusReason);
         press(Qt::Key_Tab);
@@ -325,7 +325,7 @@ private slots:
         enter("txtPaid", "1000");
         box("txtPaid")->setFocus();
         bringToFront();
-        // The questions are answered by hand as well, when both presses are over.
+        // Message boxes are also answered with keys, after both presses.
         m_people.reset();
         QTimer answers;
         connect(&answers, &QTimer::timeout, this, [] {
@@ -424,7 +424,7 @@ private slots:
     void thePrintButtonSavesAndPrintsWithoutAsking()
     {
         openForm();
-        // By its key, while a discount is still being typed: it counts.
+        // The shortcut works while a discount is being typed, and the discount counts.
         enter("txtPaid", "900");
         type("txtDiscount", "100");
         m_people->answer(QMessageBox::No);
@@ -516,7 +516,7 @@ private slots:
         QCOMPARE(shown("txtGrandTotal"), QString("1.050,00"));
         QCOMPARE(shown("txtNetDue"), QString("-650,00"));
         QVERIFY(!m_form->findChild<QDateEdit*>("datePay")->isEnabled());
-        // The sum is selected: the next count replaces it.
+        // The amount is selected, so typing replaces it.
         QTest::keyClicks(box("txtPaid"), "1050");
         m_people->answer(QMessageBox::No);
         m_people->answer(QMessageBox::No);
@@ -553,7 +553,7 @@ private slots:
         TestCluster::instance().run(allow + "false");
         m_database->killConnections();
         save();
-        // One box, with the database's own words, and none that blames the cashier's entries.
+        // One message box with the database's error, and none about the cashier's input.
         QTRY_COMPARE(m_people->boxes().size(), 1);
         QVERIFY2(!m_people->lastText().contains("Cash Accounts"), qPrintable(m_people->lastText()));
         QVERIFY2(m_people->lastText().contains("connection"), qPrintable(m_people->lastText()));
@@ -619,7 +619,7 @@ private:
 
     [[nodiscard]] QLineEdit* box(const QString& name) const { return m_form->findChild<QLineEdit*>(name); }
     [[nodiscard]] QString shown(const QString& name) const { return box(name)->text(); }
-    /** Walks into the box and types over what stands there; the focus stays. */
+    /** Focuses the box and replaces its text; the focus stays. */
     void type(const QString& name, const QString& text)
     {
         bringToFront();

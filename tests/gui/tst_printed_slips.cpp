@@ -85,7 +85,7 @@ private slots:
              KeptSlip::Unsent);
         open();
 
-        // Today's, the newest first and in hand.
+        // Today's slips, newest first; the first one is selected.
         QCOMPARE(column(Kind), QStringList({"Order recap", "Kitchen", "Bill"}));
         QCOMPARE(column(State), QStringList({"No printer", "Failed", "Printed"}));
         QCOMPARE(column(Place), QStringList({"Budi", "m2", "m1"}));
@@ -157,7 +157,7 @@ private slots:
         QCOMPARE(cell(0, Kind), QString("Bill, copy 1"));
         QCOMPARE(cell(0, Number), QString("TRD11260012"));
         QCOMPARE(cell(0, Printer), QString("Kasir"));
-        // The original stays in hand: the next key prints another copy of it, on another printer.
+        // The original stays selected: the next key prints another copy of it on another printer.
         QCOMPARE(the<SlipPaper>("paper")->text(), QString("the bill\n"));
         target->setFocus();
         QTest::keyClick(target, Qt::Key_Down);

@@ -221,7 +221,7 @@ private slots:
 
     void twoKitchensOfOneSecondCollide()
     {
-        // The clock is the restaurant's own, so every second that may be met is taken beforehand.
+        // The real clock is used, so all keys of the next 30 seconds are occupied.
         const QDateTime now = QDateTime::currentDateTime();
         for (int second = 0; second < 30; ++second)
             addSetting(EntityConfigKitchenPrinter::keyFor(now.addSecs(second)), {{"kitchen_name", "Taken"}});
@@ -332,7 +332,7 @@ private slots:
         QCOMPARE(kept.printer, QString("Bar"));
         QCOMPARE(int(kept.kind), int(KeptSlip::Test));
         QCOMPARE(kept.columns, 24);
-        // Nothing was saved by it.
+        // Nothing was saved.
         QCOMPARE(value("SELECT string_agg(appvalue, '') FROM appconfig"), saved);
         QVERIFY(form->isVisible());
     }
@@ -360,7 +360,7 @@ private slots:
         const QString key = value("SELECT appkey FROM appconfig WHERE appkey LIKE 'kitchen_printer_2%'");
         QCOMPARE(storedMembers(key).value("printer_name"), QJsonValue(""));
 
-        // It comes back as it was left, and a printer that has gone does not become none.
+        // The settings are shown as saved; a printer that no longer exists is kept.
         auto* kitchens = service<BusinessPrinterConfig>("Printer Config");
         EntityPool pool;
         const EntityPoolScope scope(pool);

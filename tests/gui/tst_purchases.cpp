@@ -44,7 +44,7 @@ private slots:
             QCOMPARE(shown(form, "txtSupplierName") + shown(form, "txtSupplierAddress") +
                          shown(form, "txtSupplierPhone"),
                      QString("MarketStreet 11"));
-            // Of nothing there is no percent: the one that was typed stays.
+            // Without a sub total there is no percentage: the typed one stays.
             enter(form, "txtDiscPerc", "5");
             enter(form, "txtDiscount", "7");
             QCOMPARE(shown(form, "txtDiscPerc"), QString("5"));
@@ -71,7 +71,7 @@ private slots:
             QCOMPARE(form->findChild<QLabel*>("lblNetDue")->text() + shown(form, "txtNetDue"),
                      QString("Less :-120,00"));
             const QString payable = "2000";
-            // Money that does not come from a cash account is said to be missing in the day's close.
+            // A note warns that money from other accounts is missing in the day's close.
             const auto* note = form->findChild<QLabel*>("lblNote");
             for (const QString& account : {QString("1-100"), payable}) {
                 enter(form, "txtAPAccount", account);
@@ -213,7 +213,7 @@ private slots:
                                                    "Please enter a valid qty for this item Eggs\r\n"));
             editLine<DialogPurchaseDetailPO>(lines, 0, {{"txtQty", QString::number(rice)}});
             editLine<DialogPurchaseDetailPO>(lines, 1, {{"txtQty", "6"}});
-            // Taken again, the order leaves what was keyed in.
+            // Choosing the order again keeps the input.
             takeOrder(form);
             QCOMPARE(cells(lines, 0).mid(2, 2), (QStringList{"3", QString::number(rice)}));
             if (!meanwhile.isEmpty())
@@ -315,7 +315,7 @@ private slots:
     }
 
 private:
-    /** Keys lines into the forms behind the Add button of the page of lines, and gives the last form up. */
+    /** Types lines into the forms opened by the Add button, and cancels the last form. */
     template <class Line>
     void addLines(QWidget* page, const QList<Entries>& lines)
     {

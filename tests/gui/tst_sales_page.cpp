@@ -111,7 +111,7 @@ private slots:
         auto* member = the<QLineEdit>("txtMember");
         member->setFocus();
         QTest::keyClicks(member, "guest");
-        // The keys are pressed in the window, as by hand: they belong to the list, not to the page's buttons behind it.
+        // The keys are sent to the window, like real ones: the open list gets them, not the page's buttons.
         QTRY_VERIFY(QApplication::activePopupWidget());
         QTest::keyClick(m_page->windowHandle(), Qt::Key_Escape);
         QTRY_VERIFY(!QApplication::activePopupWidget());
@@ -123,7 +123,7 @@ private slots:
         QTRY_COMPARE(member->text(), QString("M1"));
         click("btnSearch");
         QCOMPARE(numbers(), QString("F1"));
-        // Who was picked counts no more once the box is empty.
+        // The selected member no longer filters when the box is empty.
         member->clear();
         click("btnSearch");
         QCOMPARE(numbers(), QString("F2 F1"));

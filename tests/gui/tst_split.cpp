@@ -20,7 +20,7 @@ const char* const splitQuestion =
 const char* const doneQuestion = "Are you done with this table: Window ?";
 } // namespace
 
-/** A party at one table that pays apart: three teas of 10 and two cakes of 25. */
+/** Guests of one table who pay separately: three teas of 10 and two cakes of 25. */
 class TestSplit : public DatabaseTest
 {
     Q_OBJECT
@@ -71,7 +71,7 @@ private slots:
         expectGroup(" Split: Grp 2", "30");
         m_people->answer(QMessageBox::No);
         click("btnProcessSplit");
-        // A line that was split off as a whole stays on the invoice with nothing.
+        // A line that was split off completely stays on the invoice with quantity 0.
         QCOMPARE(invoices(), QString("1:2+0, 1:1, 3:2"));
         QCOMPARE(orderStatus(), int(EntityOrder::PARTIALY_PAID));
         QVERIFY2(!m_people->texts().contains(doneQuestion), "the last group still owes");
@@ -134,7 +134,7 @@ private slots:
         m_people->answer(QMessageBox::No);
         expectGroup(" Split: Grp 1", "50");
         m_people->answer(QMessageBox::No);
-        // All have paid, so the table may go; the cashier keeps it.
+        // All have paid, so the order could be finished; the cashier answers No.
         m_people->answer(QMessageBox::No);
         click("btnProcessSplit");
         QCOMPARE(invoices(), QString("1:3+0, 1:2"));
@@ -266,7 +266,7 @@ private:
 
     void click(const QString& button) { QTest::mouseClick(m_form->findChild<QPushButton*>(button), Qt::LeftButton); }
     [[nodiscard]] QTableView* grid() const { return m_form->findChild<QTableView*>("tblDetail"); }
-    /** Takes the quantity off the line in this row, as the cashier does it. */
+    /** Splits this quantity off the line in this row, as the cashier does. */
     void split(int row, const QString& quantity, const QString& group)
     {
         m_people->expect<DialogBayarMakanDitempatDetailSplit>([&](DialogBayarMakanDitempatDetailSplit* dialog) {

@@ -11,7 +11,7 @@
 #include <QRegularExpression>
 #include <QTimer>
 
-// This program is two: the tests, and, called with "--play", the program itself with somebody in front of it.
+// This executable contains the tests and, with "--play", the program itself with scripted input.
 
 namespace
 {
@@ -274,7 +274,7 @@ private slots:
     {
         install();
         QVERIFY(settings().write(dataFile("settings.ini")));
-        // What the operating system keeps of -123456789.
+        // The operating system keeps only the low byte of -123456789.
         QCOMPARE(start("restart").status, -123456789 & 0xff);
     }
 
@@ -294,13 +294,13 @@ private slots:
     }
 
 private:
-    /** Runs the program in a process of its own. */
+    /** Runs the program in a separate process. */
     Ending start(const QString& script)
     {
         QProcess program;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert("XDG_DATA_HOME", m_home->path());
-        // A test cluster of this program's own is known to its children by name only.
+        // Child processes find this program's test cluster only through the environment.
         environment.insert("ZAVEL_TEST_PGHOST", TestDatabase::host());
         environment.insert("ZAVEL_TEST_PGPORT", QString::number(TestDatabase::port()));
         environment.insert("ZAVEL_TEST_PGUSER", TestDatabase::user());

@@ -19,7 +19,7 @@ QString text(const QWidget* form, const char* name) { return field(form, name)->
 void enter(const QWidget* form, const char* name, const QString& entry)
 {
     QLineEdit* edit = field(form, name);
-    // A window that has closed leaves none active here, and a list of suggestions none that can be.
+    // Here no window is active after another has closed, and popup lists cannot be activated.
     form->window()->activateWindow();
     (void)QTest::qWaitFor([form] { return QApplication::activeWindow() == form->window(); }, 500);
     edit->setFocus();
@@ -61,12 +61,12 @@ private slots:
         });
         m_grid->selectRow(0);
         QTest::keyClick(m_grid, Qt::Key_F2);
-        // More than one amount of money holds, and told in full.
+        // The value exceeds the range of one amount and is shown completely.
         QTRY_COMPARE(rows(), QStringList{"RICE|Rice|100000|Kilogram|$60,000.00|$6,000,000,000.00"});
         QVERIFY2(m_people->finished(), qPrintable(m_people->texts().join('\n')));
         QVERIFY(!m_page->findChild<QPushButton*>("btnDelete")->isVisible());
 
-        // The filter is the code of an item, in whatever letters.
+        // The filter is an item's code, ignoring case.
         for (const auto& entry : {std::pair("rice", 1), std::pair("ric", 0)}) {
             enter(m_page.get(), "txtFilter", entry.first);
             press("btnSearch");
@@ -165,7 +165,7 @@ private slots:
     void aCountOnADayOfTradeIsOfferedTheNextDay_data()
     {
         const auto row = addColumns<int, int, int>("answer", "days", "tomorrow");
-        // Of seven three are sold, five are counted.
+        // Seven on hand, three sold, five counted.
         row("the next day", QMessageBox::Yes, 1, 5);
         row("this day all the same", QMessageBox::No, 0, 2);
         row("back to the form", QMessageBox::Cancel, -1, 4);
@@ -215,7 +215,7 @@ private slots:
             };
             QCOMPARE(before(-6), QString("7 > 11"));
             QCOMPARE(before(-5), QString("20 > 24"));
-            // Another code takes what belonged to the former item away.
+            // Another code clears the values of the former item.
             field(form, "txtKode")->setFocus();
             QTest::keyClicks(field(form, "txtKode"), "X");
             QCOMPARE(text(form, "txtNama") + text(form, "txtQtyOnHand") + text(form, "txtNewQty"), QString());
@@ -301,7 +301,7 @@ private slots:
         QTRY_VERIFY(QApplication::activePopupWidget());
         QTest::keyClick(m_page->windowHandle(), Qt::Key_Return);
         const QString day = first.toString("d MMM yyyy");
-        // What moved before the period is not brought forward.
+        // Movements before the period are not carried forward.
         QTRY_COMPARE(rows(), (QStringList{"|Begining Balance|2 Jan 2026|7|0|7", "CN-1|Credit Note|" + day + "|0|5|2",
                                           "PU-1|Purchase|" + day + "|20|0|22", "|Adjustment|" + day + "|0|30|-8",
                                           "X|None|" + day + "|1|0|-7"}));
@@ -313,7 +313,7 @@ private slots:
         m_page->findChild<QDateEdit*>("dateTo")->setDate(first.addDays(-1));
         press("btnRefresh");
         QCOMPARE(rows().mid(1), QStringList{"PU-0|Purchase|" + first.addDays(-1).toString("d MMM yyyy") + "|50|0|57"});
-        // A code that nobody has is no item, and an item that came from elsewhere may have no balance.
+        // An unknown code finds no item; an imported item may have no beginning balance.
         enter(m_page.get(), "txtItem", "RYE");
         press("btnRefresh");
         QCOMPARE(rows(), QStringList());

@@ -145,7 +145,8 @@ private slots:
         show();
         pay([this](DialogBayarBawaPulang* form) {
             QTest::keyClicks(form->focusWidget(), "30000");
-            // By the key, though the money is still being typed: no question, the bill comes, and the order goes.
+            // The shortcut while the amount is being typed: no question, the bill is printed, and the order is
+            // finished.
             m_people->answer(QMessageBox::Yes);
             QTest::keyClick(form->focusWidget(), Qt::Key_P, Qt::ControlModifier);
             QTRY_COMPARE(m_people->texts().size(), 1);

@@ -47,7 +47,7 @@ void keepLog(QtMsgType type, const QMessageLogContext&, const QString& message)
 void ok(const QWidget* form) { press(form, QDialogButtonBox::Ok); }
 } // namespace
 
-/** What a person is told when the database fails: in plain words, without SQL, and truly. */
+/** Messages after database errors: in plain words, without SQL, and correct. */
 class TestToldFailures : public PageTest<QWidget>
 {
     Q_OBJECT
@@ -112,7 +112,7 @@ private slots:
         QVERIFY2(box.text.startsWith(sentence + "\r\n\r\n"), qPrintable(box.text));
         QVERIFY2(box.text.contains(words) && !box.text.contains("insert into"), qPrintable(box.text));
         QVERIFY2(box.details.contains(details), qPrintable(box.details));
-        // The log has the statement, and what is secret stands nowhere.
+        // The log has the statement, and no output contains the secret.
         QVERIFY2(logged.contains(details), qPrintable(logged));
         QVERIFY(!(box.text + box.details + logged).contains(digest));
     }
@@ -268,7 +268,7 @@ private:
         QApplication::setActiveWindow(&form);
         enter(&form, "txtCashAccount", "1-100");
         ok(&form);
-        // Still open, it saves the same bill again.
+        // The form is still open and saves the same bill again.
         m_people->answer(QMessageBox::No);
         ok(&form);
         QCOMPARE(value("count(*) FROM invoice"), QString("1"));

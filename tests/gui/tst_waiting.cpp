@@ -19,7 +19,7 @@
 
 namespace
 {
-/** Looks at the windows while the test itself waits for the server, and notes how long nothing could be painted. */
+/** Watches the windows while the test waits for the server, and measures how long nothing could be painted. */
 class Onlooker : public QObject
 {
 public:
@@ -79,7 +79,7 @@ QString textsOf(const QWidget* parent)
 }
 } // namespace
 
-/** A server, a line or another workstation that keeps a till waiting: what the window says, and how it ends. */
+/** A server, network or workstation that makes a till wait: what the window shows, and how it ends. */
 class TestWaiting : public DatabaseTest
 {
     Q_OBJECT
@@ -178,7 +178,7 @@ private slots:
         KorQuery query;
         QVERIFY(!query.exec("UPDATE held SET a = 3"));
         QVERIFY2(offered >= 5000 && clock.elapsed() < 10000, qPrintable(QString::number(offered)));
-        // It may have got through, and only its answer is missing.
+        // The statement may have been executed, and only the answer is missing.
         QVERIFY2(query.failure().contains("not certain whether it was saved"), qPrintable(query.failure()));
 
         m_proxy->goOn();
@@ -268,7 +268,7 @@ private:
                                                                 TestDatabase::user(), QString(), m_proxy->port()));
     }
 
-    /** Another workstation in the middle of its transaction; the program's own limits hold for it, or none. */
+    /** Another workstation has an open transaction; with the program's own timeouts or without. */
     void holdTheRow(bool limited)
     {
         QSqlDatabase till = QSqlDatabase::cloneDatabase(QSqlDatabase::database(), "till 3");

@@ -6,7 +6,7 @@
 
 class TestDatabase;
 
-/** What a report gave, or why it could not be read. */
+/** The result of a report, or its error. */
 struct ReadReport
 {
     ReportTable table;
@@ -19,15 +19,15 @@ struct ReadReport
     [[nodiscard]] QVariant value(int row, const QString& field) const;
 };
 
-/** The report of that id, whatever its subject. */
+/** The report with this id, from any subject. */
 [[nodiscard]] Report reportById(const QString& id);
 /**
- * Every name of the report with a value: what can be left open is open, choices that must be made are the first ones,
- * the period is that one, and a day is its last.
+ * All parameters with values: optional ones are empty, mandatory choices are the first ones, the period is the given
+ * one, and a day is its last day.
  */
 [[nodiscard]] QVariantMap openAnswers(const Report& report, const QDate& from, const QDate& to);
 /** Reads the report from the test's database, as the page does. */
 [[nodiscard]] ReadReport readReport(const TestDatabase& database, const Report& report, const QVariantMap& values);
-/** With what can be left open left open, but for the given answers. */
+/** With all optional parameters empty except the given answers. */
 [[nodiscard]] ReadReport readReport(const TestDatabase& database, const QString& id, const QDate& from, const QDate& to,
                                     const QVariantMap& answers = {});

@@ -45,7 +45,7 @@ QMap<QString, double> valuesBy(const ReadReport& read, const QString& key, const
 }
 } // namespace
 
-/** The reports of goods say what the program's own screens say. */
+/** The stock and purchasing reports match the program's own pages. */
 class TestGoodsReports : public QObject
 {
     Q_OBJECT
@@ -173,7 +173,7 @@ private:
             addRow(qPrintable(QString("seed %1").arg(seed)), seed);
     }
 
-    /** A house with the row's random quarter. */
+    /** A shop with a random quarter of trade, seeded by the row. */
     void open()
     {
         QFETCH(double, seed);

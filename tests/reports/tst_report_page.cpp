@@ -110,7 +110,7 @@ private slots:
         users->setCurrentIndex(1);
         QCOMPARE(answer(), "%50\\%'\\_a\\\\%" + users->currentData().toString());
 
-        // Whoever turns the days round means the same days.
+        // Swapped days give the same period.
         page.findChild<QDateEdit*>("from")->setDate({2026, 3, 11});
         page.findChild<QDateEdit*>("to")->setDate({2026, 3, 1});
         answer();

@@ -26,7 +26,7 @@ namespace
 const QDate firstDay(2026, 3, 3);
 const QDate lastDay(2026, 3, 28);
 
-/** Sums by what they are told by; a line of text each, so that a difference can be read. */
+/** Sums by key, one line of text each, so that differences are readable. */
 class Sums
 {
 public:
@@ -76,7 +76,7 @@ using KeyOfSale = std::function<QString(const EntityPenjualanInfo&)>;
 
 Q_DECLARE_METATYPE(KeyOfSale)
 
-/** The reports of sales and cash against what the program's own services tell. */
+/** The sales and cash reports compared with the program's own services. */
 class TestReportSales : public DatabaseTest
 {
     Q_OBJECT
@@ -295,7 +295,7 @@ private:
             sale.type = types.at(m_random.bounded(3));
             sale.date = QDate(2026, 3, 1).addDays(m_random.bounded(31));
             sale.total = m_random.bounded(40) * 25;
-            // Too little, the sum, or a note that was too large; now and then something was settled otherwise.
+            // Too little, the exact sum, or too much; sometimes another payment as well.
             sale.paid = m_random.bounded(3) == 0 ? 0 : sale.total + 50 * (m_random.bounded(5) - 2);
             sale.paid = std::max(sale.paid, 0);
             sale.other = m_random.bounded(4) == 0 ? std::max(sale.total - sale.paid, 0) : 0;
@@ -332,7 +332,7 @@ private:
             row.no = QString("D%1").arg(i);
             row.date = QDate(2026, 2, 15).addDays(m_random.bounded(50));
             row.amount = m_random.bounded(1000);
-            // Some without an account, of one that has gone, or of nobody: they are in no journal.
+            // Some without an account, with a deleted one, or without a user: these are in no journal.
             row.account = m_random.bounded(3);
             row.toAccount = row.account == 0 ? 0 : 3 - row.account;
             row.code = QStringList{"1-100", "2-100", "GONE"}.at(m_random.bounded(3));

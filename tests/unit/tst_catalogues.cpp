@@ -21,7 +21,7 @@ struct Message
 QString sourceFolder() { return qEnvironmentVariable("ZAVEL_SOURCE_DIR"); }
 QString catalogue(const QString& name) { return sourceFolder() + "/languages/" + name; }
 
-/** The catalogues write a carriage return as an element of its own. */
+/** Translation files write a carriage return as a separate XML element. */
 QString readText(QXmlStreamReader& xml)
 {
     QString text;
@@ -79,7 +79,7 @@ bool isShortcut(const QString& text)
     return shortcut.match(text).hasMatch();
 }
 
-/** What a translation has to keep, because the program puts something in, or keys and forms rely on it. */
+/** The parts that a translation must keep: placeholders, keys, and texts that forms depend on. */
 QStringList kept(const QString& text)
 {
     return QStringList{isShortcut(text) ? "shortcut " + text : QString(),
@@ -89,7 +89,7 @@ QStringList kept(const QString& text)
 }
 } // namespace
 
-/// A text without its translation, or one that lost a place for a number, would show on the till first.
+/// Finds texts without a translation, and translations that lost a placeholder.
 class TestCatalogues final : public QObject
 {
     Q_OBJECT
@@ -99,7 +99,7 @@ private slots:
     {
         const auto row = addColumns<QString, QStringList, int>("name", "options", "least");
         row("Indonesian", "TranslationExample_id.ts", {}, 1000);
-        // The sources say what English says, but for the forms of what is counted.
+        // The source texts are English; only the plural forms need a translation.
         row("English", "TranslationExample_en.ts", {"-pluralonly"}, 0);
     }
     void everyTextOfTheSourcesIsInTheCatalogues()
@@ -117,7 +117,7 @@ private slots:
         QVERIFY2(lupdate.waitForFinished(60000), qPrintable(lupdate.errorString()));
         QCOMPARE(lupdate.exitCode(), 0);
 
-        // Its complaints mean that it would read texts under other names than the program asks for them.
+        // Its warnings mean that it would file texts under another context than the program uses.
         const QStringList complaints =
             found(QString::fromLocal8Bit(lupdate.readAllStandardError()), "[^\n]*/src/[^\n]*|"
                                                                           "[^\n]*/plugins/[^\n]*");

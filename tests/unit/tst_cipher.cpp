@@ -65,7 +65,7 @@ private slots:
 
     void theChainIsTheOneThatFormerSettingsWereWrittenWith()
     {
-        // Version 3, no flags, then key byte i over the last enciphered byte and the plain one; 0 is the random byte.
+        // Version 3, no flags, then each plain byte XORed with key byte i and the last cipher byte; byte 0 is random.
         KorSimpleEncrypt state(Q_UINT64_C(0x0807060504030201), nullptr);
         state.setProtectionMode(KorSimpleEncrypt::ProtectionNone);
         QCOMPARE(state.decipher(QByteArray::fromHex("0300014262").toBase64()), QString("A#"));

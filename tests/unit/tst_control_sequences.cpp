@@ -28,7 +28,7 @@ private:
     QByteArray m_cut;
 };
 
-/** No file of this process may grow beyond the limit: the nearest thing to a full disk. */
+/** Limits the file size of this process, which is similar to a full disk. */
 class FullDisk final
 {
 public:

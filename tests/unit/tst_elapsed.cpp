@@ -48,7 +48,7 @@ private slots:
         const QDateTime moment = now.addSecs(-seconds);
         QCOMPARE(timeAgo(moment, now, TimeAgoWords::onScreen()), english);
         QTEST(timeAgo(moment, now, TimeAgoWords::onSlips()), "indonesian");
-        // Away from a limit, the grid's own clock says the same.
+        // Far from a limit, the grid shows the same text.
         if (seconds == 7200)
             QCOMPARE(AppEntityModel::elapsedText(QDateTime::currentDateTime().addSecs(-seconds)), english);
     }

@@ -84,7 +84,7 @@ private slots:
             QVERIFY2(same(totals.amount(part), amounts.at(part)), qPrintable(QString::number(totals.amount(part))));
         QVERIFY2(same(totals.grandTotal(), grandTotal), qPrintable(QString::number(totals.grandTotal())));
         QVERIFY2(same(totals.change(), change), qPrintable(QString::number(totals.change())));
-        // Exactly: a shortfall of a millionth of a cent would ask the guest for more.
+        // Exact comparison: the guest must not be asked for a millionth of a cent.
         QCOMPARE(totals.isShort(), change < 0);
     }
 
@@ -113,7 +113,7 @@ private slots:
         totals.setAmount(InvoiceTotals::Discount, 0);
         totals.setAmount(InvoiceTotals::Tax, 100);
         QVERIFY(std::isnan(totals.percent(InvoiceTotals::Discount)));
-        // Whoever leaves the percent's box gets no wild amount from it.
+        // Leaving the percent box must not give a wrong amount.
         totals.setPercent(InvoiceTotals::Discount, totals.percent(InvoiceTotals::Discount));
         QCOMPARE(totals.amount(InvoiceTotals::Discount), 0.0);
         Invoice invoice;
@@ -130,7 +130,7 @@ private slots:
         QCOMPARE(totals.grandTotal(), 1000.0);
         totals.setPercent(InvoiceTotals::Discount, totals.percent(InvoiceTotals::Discount));
         QCOMPARE(totals.grandTotal(), 850.0);
-        // The lines have changed: the amount stays, whatever its percent says.
+        // The lines have changed: the amount stays, although its percentage differs.
         totals.setSubtotal(2000);
         QCOMPARE(totals.amount(InvoiceTotals::Discount), 150.0);
         QCOMPARE(totals.grandTotal(), 1850.0);

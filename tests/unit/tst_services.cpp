@@ -7,7 +7,7 @@
 #include <QMetaEnum>
 #include <QTest>
 
-/** The services by the names and the rights under which screens and stored grants know them. */
+/** The names and rights of the services, which pages and stored grants refer to. */
 class TestServices : public QObject
 {
     Q_OBJECT
@@ -66,7 +66,7 @@ private slots:
             rights.append(QString::number(right.first) + ' ' + right.second);
         QTEST(rights, "rights");
 
-        // An installer grants by the enumeration: without it nobody would get the rights.
+        // The installer creates the rights from this enumeration.
         const QMetaObject* meta = service->metaObject();
         const int index = meta->indexOfEnumerator("PERMISSIONS");
         QVERIFY(rights.isEmpty() || index >= 0);
@@ -76,8 +76,8 @@ private slots:
 
     void permissionsAreNumberedAlikeEverywhere()
     {
-        // An installation numbers the permissions in this order, and other installations are compared with it. What
-        // comes later stands behind.
+        // An installation numbers the permissions in this order, and other installations rely on it. New services must
+        // come at the end.
         const auto names = [](const KorBusinessRegistry* registry) {
             QStringList list;
             for (const KorBusinessLogic* service : registry->all())

@@ -28,7 +28,7 @@ QString add(const QByteArray& bytes, const QString& number = QString())
 }
 } // namespace
 
-/// The folder of kept slips: what is in it after every kind of end, and how much of it.
+/// The folder of kept slips: its content after every kind of interruption, and its limits.
 class TestSlipArchive final : public QObject
 {
     Q_OBJECT
@@ -86,7 +86,7 @@ private slots:
         QVERIFY(file.open(QIODevice::ReadOnly));
         const QByteArray text = file.readAll();
         file.close();
-        // At whatever byte the write of the second one was broken off.
+        // For each byte at which writing the second slip may be interrupted.
         for (qint64 size = whole; size < both - 1; ++size) {
             QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
             file.write(text.left(int(size)));
@@ -160,7 +160,7 @@ private:
     {
         return folder() + '/' + day.toString("yyyyMMdd") + ".slips";
     }
-    /** As a program that starts anew. */
+    /** Like a program that starts again. */
     void open(SlipArchive::Limits limits = SlipArchive::Limits()) const { archive()->setFolder(folder(), limits); }
     /** Puts the slips of a day on another one. */
     void moveDay(const QDate& from, const QDate& to) const

@@ -7,7 +7,7 @@
 
 namespace
 {
-/** Lines in words: "<" centred, ">" right, "*bold*", "_underlined_", "2x3" before larger letters, "---" for a cut. */
+/** Lines as text: "<" centred, ">" right, "*bold*", "_underlined_", "2x3" before larger letters, "---" for a cut. */
 QString inWords(const SlipLine& line)
 {
     if (line.isCut)
@@ -114,7 +114,7 @@ private slots:
 
     void anyBytesAreReadToTheirEnd()
     {
-        // Whatever a type's sequence holds, and wherever a slip ends.
+        // For all bytes of a type's sequence and all ends of a slip.
         for (int first : {0x1B, 0x1C, 0x1D, 0x10}) {
             for (int letter = 0; letter < 256; ++letter) {
                 QByteArray bytes("x");

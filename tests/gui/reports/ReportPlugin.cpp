@@ -4,13 +4,13 @@
 #include <QMap>
 #include <QVariant>
 
-/** A report page whose title is all there is to it. */
+/** A report page with only a title. */
 class TabReport final : public KorTab
 {
     Q_OBJECT
 };
 
-/** Stands in for the plug-in with the reports; it shows what it was told as dynamic properties. */
+/** Replaces the report plug-in in tests; it shows the settings it got as dynamic properties. */
 class ReportPlugin final : public QObject, public KorPluginTabInterface
 {
     Q_OBJECT
