@@ -8,7 +8,7 @@ int main(int argc, char** argv)
     // timestamp read from the database, which takes a tenth of the whole read time.
     if (!qEnvironmentVariableIsSet("TZ"))
         qputenv("TZ", ":/etc/localtime");
-    // Passes file names, database names and passwords to the PostgreSQL programs as UTF-8, whatever the locale is.
+    // Passes file names, database names and passwords to the PostgreSQL programs as UTF-8, independent of the locale.
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     ZavelApplication application(argc, argv);
     return application.run();
