@@ -18,8 +18,8 @@ Report earned()
                          ReportParameter::choice("paid", QT_TRANSLATE_NOOP("Reports", "Status:"),
                                                  {{"1", QT_TRANSLATE_NOOP("Reports", "Paid")},
                                                   {"2", QT_TRANSLATE_NOOP("Reports", "Not yet paid")}})};
-    // The agent is in the record that links a dine-in or fast-food sale to its invoice. Amounts are rounded to whole
-    // units, as Rupiah have no cents; the program rounds money the same way.
+    // The agent is in the record that links a dine-in or fast-food sale to its invoice. Commissions are rounded as in
+    // the program: Rupiah to whole units; other currencies to cents, which are then cut off.
     report.query = R"(
         with paid as (select line.invoice_id, sum(line.commision_amount) as amount, max(pay.payment_date) as day
                       from komisi_agen_detail line join komisi_agen pay on pay.id = line.komisi_agen_id

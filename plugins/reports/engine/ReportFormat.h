@@ -17,7 +17,7 @@ public:
 
     [[nodiscard]] QString text(const QVariant& value, ReportColumn::Kind kind) const;
     [[nodiscard]] QString number(double value, ReportColumn::Kind kind) const;
-    /** The text of a cell; in sum lines, the first columns say so. */
+    /** The text of a cell; sum lines contain the word "Total". */
     [[nodiscard]] QString cell(const ReportTable& table, int line, int column) const;
     [[nodiscard]] static Qt::Alignment alignment(ReportColumn::Kind kind);
 

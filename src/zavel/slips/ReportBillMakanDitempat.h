@@ -4,7 +4,7 @@
 
 class EntityInvoiceMakanDitempat;
 
-/** The bill of a table. Guest, member and table come from the order, the lines from the invoice, as bills may be split. */
+/** The bill of a table. Guest, member and table come from the order, the lines from the invoice: bills may be split. */
 class ReportBillMakanDitempat final : public ReportBill
 {
     Q_OBJECT

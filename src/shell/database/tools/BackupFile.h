@@ -7,8 +7,8 @@ class QWidget;
 
 /**
  * The target file of a backup. prepare() renames an earlier backup of this name; settle() deletes it after success and
- * renames it back after failure, as does the destructor if settle() was not called. So the file of this name is always
- * a complete backup. Only its owner may read it: it contains password hashes.
+ * renames it back after failure, as does the destructor if settle() was not called. So afterwards a file of this name
+ * is a complete backup. Only its owner may read it: it contains password hashes.
  */
 class BackupFile
 {

@@ -42,7 +42,7 @@ private:
     void putBack();
     void tellError(QProcess::ProcessError err);
     void tellExit(int exitCode, QProcess::ExitStatus status);
-    /** Checks the restored database and writes the settings if it is usable. */
+    /** Checks the restored database. Writes the settings unless pg_restore failed and left it unusable. */
     void concludeRestore();
     void concludeInstallation();
     void setBusy(bool busy);
