@@ -57,7 +57,7 @@ private:
     [[nodiscard]] QList<EntitySalesSummaryInfo*> salesBy(const QString& period, const QString& name, const QDate& from,
                                                          const QDate& to, int userId);
     [[nodiscard]] QString typeNameOf(KorQuery& query) const;
-    /** One shared object for all rows of a search that refer to the same record, because many sales share a few people. */
+    /** One shared object for all rows of a search that refer to the same record: many sales share a few people. */
     KorEntity* partner(KorQuery& query, KorDataMapper* mapper, const QString& alias);
 
     Partners m_partners;
