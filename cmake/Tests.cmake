@@ -10,6 +10,10 @@ function(add_qt_test name label)
   if(NOT ARG_TIMEOUT)
     set(ARG_TIMEOUT 120)
   endif()
+  # Sanitized code takes several times as long.
+  if(CMAKE_CXX_FLAGS MATCHES "-fsanitize")
+    math(EXPR ARG_TIMEOUT "${ARG_TIMEOUT} * 10")
+  endif()
   set_tests_properties(${name} PROPERTIES
     LABELS ${label} TIMEOUT ${ARG_TIMEOUT}
     ENVIRONMENT "QT_QPA_PLATFORM=offscreen;ZAVEL_SOURCE_DIR=${PROJECT_SOURCE_DIR}")
