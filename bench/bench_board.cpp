@@ -59,7 +59,7 @@ void setUp(TestDatabase& database, ByHand& byHand)
     DataMapperMakanDitempat* orders = mappers->makanDitempatMapper();
     byHand.prepare("orders", orders->selectStatement() + " where status is null or (status is not null and status <> "
                                                          "6)  order by makan_ditempat.id");
-    byHand.prepare("lines", orders->detailMapper()->selectStatement() +
+    byHand.prepare("lines", orders->lineMapper()->selectStatement() +
                                 " where makan_ditempat_id = ANY(:ids) order by makan_ditempat_detail.id");
     byHand.prepare("tables", mappers->mejaMapper()->selectStatement() +
                                  " where lower(kode) like  :prm0 OR lower(nama) like  :prm1 order by nama asc");

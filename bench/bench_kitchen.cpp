@@ -101,10 +101,10 @@ void setUp(TestDatabase& database, ByHand& byHand)
     const QString open = " where status is null or (status is not null and status <> 6)  order by ";
     const QString ofOrders = " = ANY(:ids) order by ";
     byHand.prepare("dine", dine->selectStatement() + open + "makan_ditempat.id");
-    byHand.prepare("dine lines", dine->detailMapper()->selectStatement() + " where makan_ditempat_id" + ofOrders +
+    byHand.prepare("dine lines", dine->lineMapper()->selectStatement() + " where makan_ditempat_id" + ofOrders +
                                      "makan_ditempat_detail.id");
     byHand.prepare("away", away->selectStatement() + open + "bawa_pulang.id");
-    byHand.prepare("away lines", away->detailMapper()->selectStatement() + " where bawa_pulang_id" + ofOrders +
+    byHand.prepare("away lines", away->lineMapper()->selectStatement() + " where bawa_pulang_id" + ofOrders +
                                      "bawa_pulang_detail.id");
     for (int orders : {60, 300})
         enterTick(database, byHand, orders);

@@ -6,6 +6,41 @@
 #include "kor/entity/KorMetaDataMap.h"
 #include "kor/persistence/KorJoinMapper.h"
 
+#include <QMetaProperty>
+
+namespace
+{
+/** The text as one shared QString while it stays the same: nearly every amount of a list has the same currency. */
+QString sameText(const char* text)
+{
+    thread_local QByteArray last;
+    thread_local QString shared;
+    if (last != text) {
+        last = text;
+        shared = QString::fromUtf8(text);
+    }
+    return shared;
+}
+
+/** Null if either column is NULL. */
+Money* moneyFrom(const KorRow& row, int currency, int amount, QObject* parent)
+{
+    if (row.isNull(currency) || row.isNull(amount))
+        return nullptr;
+    return new Money(parent, row.toDouble(amount), sameText(row.text(currency)));
+}
+
+/** Sets a property whose type points to a QObject, without a variant in between. */
+template <class Pointer>
+void writePointer(QObject* owner, int property, Pointer* value)
+{
+    int status = -1;
+    int flags = 0;
+    void* arguments[] = {&value, nullptr, &status, &flags};
+    QMetaObject::metacall(owner, QMetaObject::WriteProperty, property, arguments);
+}
+} // namespace
+
 bool AppDataMapper::insert(KorEntity* entity)
 {
     entity->setCreatedBy(AppContext::instance()->currentUserId());
@@ -40,11 +75,7 @@ void AppDataMapper::log(const QString& message) { AppContext::log(message); }
 Money* AppDataMapper::moneyFromRow(KorQuery& query, const QString& currencyColumn, const QString& amountColumn,
                                    QObject* parent)
 {
-    const QVariant currency = query.field(currencyColumn);
-    const QVariant amount = query.field(amountColumn);
-    if (currency.isNull() || amount.isNull())
-        return nullptr;
-    return new Money(parent, amount.toDouble(), currency.toString());
+    return moneyFrom(query.row(), query.column(currencyColumn), query.column(amountColumn), parent);
 }
 
 // --- reading nested values -----------------------------------------------------------------------------------------
@@ -55,16 +86,13 @@ KorEntity* AppDataMapper::fillFromRow(KorQuery& query, KorEntity* entity)
     prepareWalk(entity);
 
     const KorRowPlan& plan = query.plan(*this, tableName());
+    const KorRow row = query.row();
     for (const MoneyField& field : qAsConst(m_money)) {
-        const int currencyIndex = plan.columns.value(field.currencyColumn, -1);
-        const int amountIndex = plan.columns.value(field.amountColumn, -1);
-        if (currencyIndex < 0 || amountIndex < 0)
+        const int currency = plan.columns.value(field.currencyColumn, -1);
+        const int amount = plan.columns.value(field.amountColumn, -1);
+        if (currency < 0 || amount < 0)
             continue;
-        const QVariant currency = query.value(currencyIndex);
-        const QVariant amount = query.value(amountIndex);
-        Money* money =
-            currency.isNull() || amount.isNull() ? nullptr : new Money(entity, amount.toDouble(), currency.toString());
-        field.property.write(entity, QVariant::fromValue(money));
+        writePointer(entity, field.property, moneyFrom(row, currency, amount, entity));
     }
 
     // A joined mapper reads only its own columns: its joins are not part of the other mapper's SELECT.
@@ -72,11 +100,11 @@ KorEntity* AppDataMapper::fillFromRow(KorQuery& query, KorEntity* entity)
         return entity;
     QVector<QObject*> partners;
     for (const NestedField& field : qAsConst(m_nested)) {
-        KorEntity* partner = field.mapper->fromRow(query, field.target);
+        KorEntity* partner = query.partner(*field.mapper, field.target);
         partners.append(partner);
         QObject* owner = field.owner < 0 ? entity : partners.at(field.owner);
         if (owner)
-            field.property.write(owner, QVariant::fromValue(static_cast<QObject*>(partner)));
+            writePointer(owner, field.property, field.type->cast(partner));
     }
     return entity;
 }
@@ -101,11 +129,10 @@ void AppDataMapper::prepareWalk(const KorEntity* entity)
         const QString name = path.left(path.size() - 7);
         const QMetaProperty property = propertyOf(entity->metaObject(), name);
         if (property.isValid() && positions.contains(name + ".Currency"))
-            m_money.append({property, positions.value(name + ".Currency"), i});
+            m_money.append({property.propertyIndex(), positions.value(name + ".Currency"), i});
     }
 
     // A join whose local column belongs to an earlier join ("item.jenis") fills a property of that join's record.
-    QList<const QMetaObject*> partnerTypes;
     for (const KorJoinMapper* join : joins()) {
         int owner = -1;
         const QString head = join->localColumn().section('.', 0, 0);
@@ -115,13 +142,13 @@ void AppDataMapper::prepareWalk(const KorEntity* entity)
             if (owner < 0)
                 continue;
         }
-        const QMetaObject* ownerType = owner < 0 ? entity->metaObject() : partnerTypes.at(owner);
+        const QMetaObject* ownerType = owner < 0 ? entity->metaObject() : m_nested.at(owner).type;
         const QMetaProperty property = propertyOf(ownerType, join->propertyName());
         // A join that only serves the WHERE clause has a label that is no property of the record.
         if (!property.isValid() || !(QMetaType::typeFlags(property.userType()) & QMetaType::PointerToQObject))
             continue;
-        m_nested.append({property, join->mapper(), join->targetName(), owner});
-        partnerTypes.append(QMetaType::metaObjectForType(property.userType()));
+        const QMetaObject* type = QMetaType::metaObjectForType(property.userType());
+        m_nested.append({property.propertyIndex(), type, join->mapper(), join->targetName(), owner});
     }
 }
 

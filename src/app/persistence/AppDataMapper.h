@@ -2,8 +2,6 @@
 
 #include "kor/persistence/KorDataMapper.h"
 
-#include <QMetaProperty>
-
 class Money;
 
 /**
@@ -51,13 +49,16 @@ protected:
 private:
     struct MoneyField
     {
-        QMetaProperty property;
+        /** The index in the record's class. */
+        int property = -1;
         int currencyColumn = -1;
         int amountColumn = -1;
     };
     struct NestedField
     {
-        QMetaProperty property;
+        int property;
+        /** The class that the property points to. */
+        const QMetaObject* type;
         KorDataMapper* mapper;
         QString target;
         /** The index of the join whose record this one belongs to; -1 for the main record. */

@@ -50,6 +50,7 @@ KorConditions& KorConditions::oneOf(const QString& expression, const QList<int>&
 
 KorConditions& KorConditions::between(const QString& expression, const QDate& from, const QDate& to)
 {
+    m_isSearch = true;
     if (from.isValid())
         compare({expression}, ">=", from.toString(Qt::ISODate));
     if (to.isValid())
@@ -69,6 +70,7 @@ KorConditions& KorConditions::contains(const QStringList& expressions, const QSt
 
 KorConditions& KorConditions::matches(const QStringList& expressions, const QString& pattern)
 {
+    m_isSearch = true;
     return compare(expressions, "like", pattern);
 }
 
@@ -85,11 +87,13 @@ KorConditions& KorConditions::only(const QString& expression, int value, int all
 
 KorConditions& KorConditions::only(const QStringList& expressions, int value, int all)
 {
+    m_isSearch = true;
     return value == all ? *this : compare(expressions, "=", value);
 }
 
 KorConditions& KorConditions::only(const QString& expression, const QString& text)
 {
+    m_isSearch = true;
     return text.isEmpty() ? *this : compare({expression}, "=", text);
 }
 
@@ -107,4 +111,5 @@ void KorConditions::fill(KorPaging& paging) const
 {
     paging.setFilters(m_filters);
     paging.setSorts(m_sorts);
+    paging.setPlannedForValues(m_isSearch);
 }

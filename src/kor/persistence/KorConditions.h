@@ -8,7 +8,10 @@
 
 /**
  * The WHERE and ORDER BY of a list or finder. All conditions are joined with AND. An expression is SQL (a column,
- * "lower(no)"); with several, one must match. Values are bound and never part of the SQL text.
+ * "lower(no)"); with several, one must match. Callers' values never become part of the SQL unquoted.
+ *
+ * A period, a search text or an optional filter makes it a search, which the server plans for its values each time; see
+ * KorPaging::setPlannedForValues().
  */
 class KorConditions
 {
@@ -48,4 +51,5 @@ private:
 
     KorPaging::Pairs m_filters;
     KorPaging::Pairs m_sorts;
+    bool m_isSearch = false;
 };

@@ -7,9 +7,6 @@
 #include "kor/persistence/KorMigration.h"
 
 #include <QDebug>
-#include <QSqlDriver>
-#include <QSqlError>
-#include <QSqlField>
 
 #include <utility>
 
@@ -21,13 +18,8 @@ QVariant userOrNull(int user) { return user == KorNoValue ? QVariant(QVariant::I
 QStringList literals(const KorQuery& values, int count)
 {
     QStringList texts;
-    for (int i = 0; i < count; ++i) {
-        const QVariant value = values.boundValue(i);
-        QSqlField field(QString(), value.type());
-        if (!value.isNull())
-            field.setValue(value);
-        texts.append(values.driver()->formatValue(field));
-    }
+    for (int i = 0; i < count; ++i)
+        texts.append(values.literal(values.boundValue(i)));
     return texts;
 }
 } // namespace
@@ -80,15 +72,19 @@ bool KorDataMapper::execPaging(KorQuery& query, KorPaging* paging)
 bool KorDataMapper::run(KorQuery& query, const QString& statement, const KorPaging& paging, const Bindings& values)
 {
     const auto& filters = paging.filters();
-    if (filters.isEmpty() && values.isEmpty())
-        return query.exec(statement + paging.clauses());
-    query.prepare(statement + paging.clauses());
-    for (const auto& value : values)
-        query.bindValue(value.first, value.second);
+    const QString text = statement + paging.clauses();
+    Bindings all = values;
     for (int i = 0; i < filters.size(); ++i) {
         if (!filters[i].second.isEmpty())
-            query.bindValue(":prm" + QString::number(i), filters[i].second);
+            all.append({":prm" + QString::number(i), filters[i].second});
     }
+    if (all.isEmpty())
+        return query.exec(text);
+    if (paging.isPlannedForValues())
+        return query.exec(text, all);
+    query.prepare(text);
+    for (const auto& value : qAsConst(all))
+        query.bindValue(value.first, value.second);
     return query.exec();
 }
 
@@ -112,6 +108,11 @@ bool KorDataMapper::execute(KorQuery& query, const QString& statement, const Kor
     KorPaging paging;
     conditions.fill(paging);
     return noted(run(query, statement, paging, values), query);
+}
+
+bool KorDataMapper::executePlanned(KorQuery& query, const QString& statement, const Bindings& values)
+{
+    return noted(query.exec(statement, values), query);
 }
 
 KorEntity* KorDataMapper::findOne(const KorConditions& conditions)
@@ -142,22 +143,20 @@ KorEntity* KorDataMapper::fromRow(KorQuery& query) { return fromRow(query, table
 KorEntity* KorDataMapper::fromRow(KorQuery& query, const QString& alias)
 {
     const KorRowPlan& plan = query.plan(*this, alias);
-    const int id = plan.id < 0 ? 0 : query.value(plan.id).toInt();
+    const KorRow row = query.row();
+    const int id = row.toInt(plan.id);
     if (id == KorNoValue || id == 0)
         return nullptr;
 
     // A NULL user (rows inserted by the installer) reads as KorNoValue, like any NULL integer.
-    const auto user = [&query](int index) {
-        const QVariant value = query.value(index);
-        return value.isNull() ? KorNoValue : value.toInt();
-    };
+    const auto user = [&row](int column) { return row.isNull(column) ? KorNoValue : row.toInt(column); };
     KorEntity* entity = createEntity();
     entity->setId(id);
     entity->setCreatedBy(user(plan.createdBy));
-    entity->setVersion(query.value(plan.version).toInt());
+    entity->setVersion(row.toInt(plan.version));
     entity->setUpdatedBy(user(plan.updatedBy));
-    entity->setCreatedTime(query.value(plan.createdTime).toDateTime());
-    entity->setUpdatedTime(query.value(plan.updatedTime).toDateTime());
+    entity->setCreatedTime(row.toStamp(plan.createdTime));
+    entity->setUpdatedTime(row.toStamp(plan.updatedTime));
     return alias == tableName() ? fillFromRow(query, entity) : fillFromRow(query, entity, alias);
 }
 
@@ -169,14 +168,7 @@ KorEntity* KorDataMapper::fillFromRow(KorQuery& query, KorEntity* entity)
 
 KorEntity* KorDataMapper::fillFromRow(KorQuery& query, KorEntity* entity, const QString& alias)
 {
-    const KorRowPlan& plan = query.plan(*this, alias);
-    const QList<KorColumnMap*>& columns = m_metaData->columns();
-    for (int i = 0; i < columns.size(); ++i) {
-        QVariant value = plan.columns[i] < 0 ? QVariant() : query.value(plan.columns[i]);
-        if (value.type() == QVariant::Int && value.isNull())
-            value = KorNoValue;
-        entity->setProperty(columns[i]->propertyPathUtf8().constData(), value);
-    }
+    query.fillFields(entity, *this, alias);
     return entity;
 }
 

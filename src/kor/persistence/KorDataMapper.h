@@ -111,7 +111,7 @@ public:
     [[nodiscard]] static QString aliasOf(const QString& alias, const QString& column);
 
 protected:
-    using Bindings = QList<QPair<QString, QVariant>>;
+    using Bindings = QVector<QPair<QString, QVariant>>;
 
     // Called in the constructor: the version whose update adds the table or the columns.
     void tableSince(double version) { m_tableVersion = version; }
@@ -122,6 +122,8 @@ protected:
     [[nodiscard]] static QString columnList(const KorDataMapper& mapper, const QString& alias);
     /** Runs custom SQL with named values; on failure keeps and logs the database's message. */
     bool execute(KorQuery& query, const QString& statement, const Bindings& values = {});
+    /** The same, planned for its values: for sums over a period. */
+    bool executePlanned(KorQuery& query, const QString& statement, const Bindings& values);
     /** The same, with the conditions appended to the statement. */
     bool execute(KorQuery& query, const QString& statement, const KorConditions& conditions,
                  const Bindings& values = {});

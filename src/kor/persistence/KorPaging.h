@@ -24,6 +24,12 @@ public:
     void setFilters(const Pairs& filters) { m_filters = filters; }
     [[nodiscard]] const Pairs& sorts() const { return m_sorts; }
     void setSorts(const Pairs& sorts) { m_sorts = sorts; }
+    /**
+     * The best plan depends on the values: a day and all years need different ones. The statement is then planned for
+     * its values each time; otherwise it is prepared once.
+     */
+    void setPlannedForValues(bool planned) { m_plannedForValues = planned; }
+    [[nodiscard]] bool isPlannedForValues() const { return m_plannedForValues; }
     /** The SQL after the SELECT: conditions and order. Bind the value of pair i to :prm<i>. */
     [[nodiscard]] QString clauses() const;
     /** The value of the first pair with this condition, or empty; finders use pairs as named arguments. */
@@ -37,6 +43,7 @@ public:
 private:
     int m_pageNumber = 1;
     int m_pageSize = 100;
+    bool m_plannedForValues = false;
     Pairs m_filters;
     Pairs m_sorts;
 };

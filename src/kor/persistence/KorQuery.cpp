@@ -1,11 +1,15 @@
 #include "kor/persistence/KorQuery.h"
 
+#include "kor/entity/KorEntity.h"
+#include "kor/persistence/KorDataMapper.h"
 #include "kor/persistence/KorDatabase.h"
 #include "kor/persistence/KorServerCall.h"
 #include "kor/persistence/KorStatementCache.h"
 
 #include <QRegularExpression>
 #include <QSqlDriver>
+#include <QSqlField>
+#include <QSqlResult>
 
 #include <algorithm>
 #include <atomic>
@@ -37,8 +41,15 @@ KorQuery::KorQuery(const KorDataMapper* selector) : QSqlQuery(KorDatabase::curre
 
 KorQuery::~KorQuery() { letGo(); }
 
+void KorQuery::forgetRows()
+{
+    m_result = nullptr;
+    m_partners.clear();
+}
+
 void KorQuery::letGo()
 {
+    forgetRows();
     if (!m_statement)
         return;
     finish();
@@ -74,6 +85,7 @@ bool KorQuery::prepare(const QString& statement)
 bool KorQuery::exec()
 {
     ++sentStatements;
+    forgetRows();
     if (m_prepareError.isValid())
         return false;
     return atServer([this] { return QSqlQuery::exec(); }) || (m_reused && prepareAgain());
@@ -145,6 +157,32 @@ bool KorQuery::exec(const QString& statement)
     return true;
 }
 
+bool KorQuery::exec(const QString& statement, const QVector<QPair<QString, QVariant>>& values)
+{
+    // One pass, so that a colon in a value is not taken for a placeholder.
+    static const QRegularExpression placeholder("(?<!:):[A-Za-z_]\\w*");
+    QString text;
+    int copied = 0;
+    for (auto found = placeholder.globalMatch(statement); found.hasNext();) {
+        const QRegularExpressionMatch match = found.next();
+        const auto value = std::find_if(values.begin(), values.end(),
+                                        [&match](const auto& pair) { return pair.first == match.captured(); });
+        if (value == values.end())
+            continue;
+        text += statement.mid(copied, match.capturedStart() - copied) + literal(value->second);
+        copied = match.capturedEnd();
+    }
+    return exec(text + statement.mid(copied));
+}
+
+QString KorQuery::literal(const QVariant& value) const
+{
+    QSqlField field(QString(), value.type());
+    if (!value.isNull())
+        field.setValue(value);
+    return driver()->formatValue(field);
+}
+
 QString KorQuery::failure() const { return failureOf({}); }
 
 QString KorQuery::failureOf(const QString& statement) const
@@ -179,13 +217,57 @@ KorResultLayout& KorQuery::layout() { return m_statement ? m_statement->layout :
 
 QVariant KorQuery::field(const QString& name)
 {
-    const int index = layout().fieldIndex(*this, name);
+    const int index = column(name);
     return index < 0 ? QVariant() : value(index);
 }
+
+int KorQuery::column(const QString& name) { return layout().fieldIndex(*this, name); }
 
 const KorRowPlan& KorQuery::plan(const KorDataMapper& mapper, const QString& alias)
 {
     return layout().plan(*this, mapper, alias);
+}
+
+const pg_result* KorQuery::result()
+{
+    if (!m_result) {
+        const QVariant handle = QSqlQuery::result()->handle();
+        if (qstrcmp(handle.typeName(), "PGresult*") == 0)
+            m_result = *static_cast<const pg_result* const*>(handle.constData());
+    }
+    return m_result;
+}
+
+KorRow KorQuery::row() { return {result(), at()}; }
+
+void KorQuery::fillFields(KorEntity* entity, const KorDataMapper& mapper, const QString& alias)
+{
+    KorRowPlan& found = layout().plan(*this, mapper, alias);
+    const QMetaObject* type = entity->metaObject();
+    if (!found.fields.isFor(type))
+        found.fields.make(*type, *mapper.metaData(), found.columns, result());
+    found.fields.fill(entity, row(), *this);
+}
+
+KorEntity* KorQuery::partner(KorDataMapper& mapper, const QString& alias)
+{
+    const KorRowPlan& found = plan(mapper, alias);
+    const int id = row().toInt(found.id);
+    if (id == 0 || id == KorNoValue)
+        return nullptr;
+    const QPair<const KorRowPlan*, int> key(&found, id);
+    KorEntity* known = m_partners.value(key);
+    if (!known) {
+        known = mapper.fromRow(*this, alias);
+        m_partners.insert(key, known);
+    }
+    return known;
+}
+
+bool KorQuery::nextResult()
+{
+    forgetRows();
+    return QSqlQuery::nextResult();
 }
 
 QString KorQuery::textWithValues(const QSqlQuery& query, const QStringList& secrets)

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "kor/persistence/KorResultLayout.h"
+#include "kor/persistence/KorRow.h"
 #include "kor/system/KorFailure.h"
 
+#include <QHash>
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QStringList>
@@ -12,6 +14,7 @@
 #include <memory>
 
 class KorDataMapper;
+class KorEntity;
 struct KorStatement;
 
 /**
@@ -31,6 +34,11 @@ public:
     bool exec();
     /** Runs the text at once; if it has several statements, all must succeed. */
     bool exec(const QString& statement);
+    /**
+     * Runs the text with these values in place of its named placeholders. The server plans it for the values, which
+     * costs less than the wrong plan where they matter, such as the length of a period.
+     */
+    bool exec(const QString& statement, const QVector<QPair<QString, QVariant>>& values);
     /** The same, but stays on the first result; false if that one failed. Go on with nextResult(). */
     bool send(const QString& statements);
 
@@ -44,11 +52,25 @@ public:
     /** The same, followed by the statement with its values. */
     [[nodiscard]] QString failureWithStatement() const { return failureOf(statementWithValues()); }
     [[nodiscard]] QString statementWithValues() const { return textWithValues(*this, m_secrets); }
+    /** The value as the driver writes it into a statement's text, quoted where it has to be. */
+    [[nodiscard]] QString literal(const QVariant& value) const;
     [[nodiscard]] const KorDataMapper* selector() const { return m_selector; }
 
     /** The value of this column name or alias; invalid if the result has no such column. */
     [[nodiscard]] QVariant field(const QString& name);
+    /** The position of this column name or alias, for row(); -1 if the result has no such column. */
+    [[nodiscard]] int column(const QString& name);
     [[nodiscard]] const KorRowPlan& plan(const KorDataMapper& mapper, const QString& alias);
+    /** The current row; call it only while the query is on one. */
+    [[nodiscard]] KorRow row();
+    /** Writes the plain fields of the mapper's columns, found under the alias, into the record. */
+    void fillFields(KorEntity* entity, const KorDataMapper& mapper, const QString& alias);
+    /**
+     * The record of a joined table under this alias; null on the empty side of an outer join. What several rows of one
+     * read share is read once: the rows then have the same object.
+     */
+    [[nodiscard]] KorEntity* partner(KorDataMapper& mapper, const QString& alias);
+    bool nextResult();
 
     /** The last statement with values in place of placeholders; for messages. */
     [[nodiscard]] static QString textWithValues(const QSqlQuery& query, const QStringList& secrets = {});
@@ -57,6 +79,7 @@ public:
 
 private:
     [[nodiscard]] KorResultLayout& layout();
+    [[nodiscard]] const pg_result* result();
     void letGo();
     bool prepareAgain();
     /** Runs a call that waits for the server. */
@@ -70,6 +93,12 @@ private:
     // The prepared statement in use; it shares its QSqlQuery with this object.
     std::unique_ptr<KorStatement> m_statement;
     bool m_reused = false;
+    void forgetRows();
+
+    // By the plan, which stands for mapper and alias, and the id.
+    QHash<QPair<const KorRowPlan*, int>, KorEntity*> m_partners;
+    // Asked for once per result, since the driver wraps it in a variant.
+    const pg_result* m_result = nullptr;
     // The layout for statements that are not prepared.
     KorResultLayout m_layout;
 };

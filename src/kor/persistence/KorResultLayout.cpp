@@ -18,12 +18,13 @@ int KorResultLayout::fieldIndex(const QSqlQuery& query, const QString& name)
                 m_fields.insert(field, i);
         }
     }
-    return m_fields.value(name.toLower(), -1);
+    const auto known = m_fields.constFind(name);
+    return known != m_fields.constEnd() ? *known : m_fields.value(name.toLower(), -1);
 }
 
-const KorRowPlan& KorResultLayout::plan(const QSqlQuery& query, const KorDataMapper& mapper, const QString& alias)
+KorRowPlan& KorResultLayout::plan(const QSqlQuery& query, const KorDataMapper& mapper, const QString& alias)
 {
-    for (const KnownPlan& known : m_plans) {
+    for (KnownPlan& known : m_plans) {
         if (known.mapper == &mapper && known.alias == alias)
             return known.plan;
     }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "kor/persistence/KorFieldPlan.h"
+
 #include <QHash>
 #include <QString>
 #include <QVector>
@@ -19,6 +21,8 @@ struct KorRowPlan
     int updatedTime = -1;
     int version = -1;
     QVector<int> columns;
+    /** Made for the first record that is read. */
+    KorFieldPlan fields;
 };
 
 /** The columns of a statement's result, looked up by name once instead of once per row. */
@@ -27,7 +31,7 @@ class KorResultLayout
 public:
     /** The position of this column name, ignoring case; -1 if there is none. */
     [[nodiscard]] int fieldIndex(const QSqlQuery& query, const QString& name);
-    [[nodiscard]] const KorRowPlan& plan(const QSqlQuery& query, const KorDataMapper& mapper, const QString& alias);
+    [[nodiscard]] KorRowPlan& plan(const QSqlQuery& query, const KorDataMapper& mapper, const QString& alias);
     void clear();
 
 private:

@@ -9,8 +9,6 @@
 #include "zavel/list/EntityPenjualanInfo.h"
 #include "zavel/list/SalesFilter.h"
 
-#include <QScopedValueRollback>
-
 DataMapperPenjualanInfo::DataMapperPenjualanInfo(QObject* parent, Partners partners)
     : AppDataMapper(parent), m_partners(partners)
 {
@@ -40,12 +38,12 @@ KorEntity* DataMapperPenjualanInfo::fillFromRow(KorQuery& query, KorEntity* enti
     info->setAmountPaid(invoice->getAmountPaid());
     info->setNetDue(invoice->getNetDue());
     info->setOtherPayment(invoice->getOtherPayment());
-    info->setUser(static_cast<EntityUser*>(partner(query, m_partners.users, m_partners.users->tableName())));
-    info->setMember(static_cast<EntityMember*>(partner(query, m_partners.members, m_partners.members->tableName())));
+    info->setUser(static_cast<EntityUser*>(query.partner(*m_partners.users, m_partners.users->tableName())));
+    info->setMember(static_cast<EntityMember*>(query.partner(*m_partners.members, m_partners.members->tableName())));
     info->setTypeName(typeNameOf(query));
-    KorEntity* waitress = partner(query, m_partners.employees, "mkn_employee");
+    KorEntity* waitress = query.partner(*m_partners.employees, "mkn_employee");
     if (!waitress)
-        waitress = partner(query, m_partners.employees, "ff_employee");
+        waitress = query.partner(*m_partners.employees, "ff_employee");
     info->setWaitress(static_cast<EntityEmployee*>(waitress));
     for (const KorDataMapper* link : {m_partners.dineInvoices, m_partners.fastFoodInvoices}) {
         const QVariant agent = query.field(aliasOf(link->tableName(), "agent_id"));
@@ -53,17 +51,6 @@ KorEntity* DataMapperPenjualanInfo::fillFromRow(KorQuery& query, KorEntity* enti
             info->setAgentId(agent.toInt());
     }
     return info;
-}
-
-KorEntity* DataMapperPenjualanInfo::partner(KorQuery& query, KorDataMapper* mapper, const QString& alias)
-{
-    const int id = query.value(query.plan(*mapper, alias).id).toInt();
-    if (!m_known || id == 0)
-        return mapper->fromRow(query, alias);
-    KorEntity*& known = (*m_known)[mapper][id];
-    if (!known)
-        known = mapper->fromRow(query, alias);
-    return known;
 }
 
 QString DataMapperPenjualanInfo::typeNameOf(KorQuery& query) const
@@ -113,7 +100,5 @@ QList<EntityPenjualanInfo*> DataMapperPenjualanInfo::latestFirst(KorConditions& 
 {
     // Also sorted by id, so that rows of one day keep their order when the list is read again.
     conditions.descending("invoice_date").descending("invoice.id");
-    Known known;
-    const QScopedValueRollback<Known*> whileReading(m_known, &known);
     return castAll<EntityPenjualanInfo>(findMany(conditions));
 }

@@ -2,8 +2,6 @@
 
 #include "app/persistence/AppDataMapper.h"
 
-#include <QHash>
-
 class DataMapperEmployee;
 class DataMapperInvoice;
 class DataMapperMember;
@@ -51,16 +49,10 @@ public:
                                                       const QString& sortColumn, const QString& itemType);
 
 private:
-    using Known = QHash<const KorDataMapper*, QHash<int, KorEntity*>>;
-
     [[nodiscard]] QList<EntityPenjualanInfo*> latestFirst(KorConditions& conditions);
     [[nodiscard]] QList<EntitySalesSummaryInfo*> salesBy(const QString& period, const QString& name, const QDate& from,
                                                          const QDate& to, int userId);
     [[nodiscard]] QString typeNameOf(KorQuery& query) const;
-    /** One shared object for all rows of a search that refer to the same record: many sales share a few people. */
-    KorEntity* partner(KorQuery& query, KorDataMapper* mapper, const QString& alias);
 
     Partners m_partners;
-    /** The shared records; set only while a search reads its rows. */
-    Known* m_known = nullptr;
 };

@@ -43,7 +43,7 @@ QList<EntitySalesSummaryInfo*> DataMapperPenjualanInfo::salesBy(const QString& p
     if (ofOneUser)
         values.append({":user", userId});
     KorQuery query;
-    const bool read = execute(query, statement, values);
+    const bool read = executePlanned(query, statement, values);
     QList<EntitySalesSummaryInfo*> result;
     while (read && query.next()) {
         auto* sum = new EntitySalesSummaryInfo(entityParent());
@@ -78,7 +78,7 @@ QList<EntitySoldItem*> DataMapperPenjualanInfo::getSoldItems(const QDate& from, 
     if (ofOneType)
         values.append({":itemType", itemType});
     KorQuery query;
-    const bool read = execute(query, statement, values);
+    const bool read = executePlanned(query, statement, values);
     QList<EntitySoldItem*> result;
     while (read && query.next()) {
         auto* item = new EntitySoldItem(entityParent());

@@ -133,16 +133,18 @@ QList<EntityCashFlow*> DataMapperCashFlow::search(const CashFlowFilter& filter)
         execute(query, getCashFlowQuery(), conditions, {{":fromDate", filter.fromDate}, {":toDate", filter.toDate}});
     QList<EntityCashFlow*> rows;
     while (done && query.next()) {
+        const KorRow found = query.row();
+        const auto text = [&](const char* name) { return found.toString(query.column(name)); };
         auto* row = new EntityCashFlow(entityParent());
-        row->setDate(query.field("trans_date").toDate());
-        row->setTransType(query.field("trans_type").toString());
-        row->setAccountCode(query.field("account_code").toString());
+        row->setDate(found.toDate(query.column("trans_date")));
+        row->setTransType(text("trans_type"));
+        row->setAccountCode(text("account_code"));
         row->setDebet(moneyFromRow(query, "debet_currency", "debet_amount", row));
         row->setCredit(moneyFromRow(query, "credit_currency", "credit_amount", row));
-        row->setAccountName(query.field("nama").toString());
-        row->setNotes(query.field("note").toString());
-        row->setOperator(query.field("username").toString());
-        row->setTransNo(query.field("no").toString());
+        row->setAccountName(text("nama"));
+        row->setNotes(text("note"));
+        row->setOperator(text("username"));
+        row->setTransNo(text("no"));
         rows.append(row);
     }
     return rows;
