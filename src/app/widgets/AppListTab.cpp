@@ -1,6 +1,9 @@
 #include "app/widgets/AppListTab.h"
 
 #include "app/context/AccessCheck.h"
+#include "app/context/AppContext.h"
+#include "app/persistence/FoundRows.h"
+#include "app/widgets/RestReader.h"
 #include "kor/business/KorBusinessLogic.h"
 #include "kor/business/KorErrorScope.h"
 #include "kor/business/KorServiceDirectory.h"
@@ -52,18 +55,26 @@ void AppListTab::refresh()
         return;
     const int currentId = m_model ? selectedEntityIds(grid(), m_model).value(0, KorNoValue) : KorNoValue;
 
+    if (m_rest)
+        m_rest->end();
     const KorErrorScope errors(m_business);
     EntityPool read;
     QList<KorEntity*> rows;
+    const std::shared_ptr<FoundRows> longList = openRows();
     {
         const EntityPoolScope scope(read);
-        rows = readRows(filterText());
+        if (longList)
+            longList->readOn();
+        else
+            rows = readRows(filterText());
     }
     if (errors.failed())
         tellUnread();
 
     KorEntityModel* former = m_model;
     m_model = createModel(rows);
+    if (longList)
+        m_model->setSource(longList);
     applyModel(grid(), m_model);
     modelApplied();
     restoreColumns(grid());
@@ -73,9 +84,43 @@ void AppListTab::refresh()
     }
     m_rows.swap(read);
 
-    selectEntity(grid(), m_model, currentId);
+    if (longList)
+        readRest(longList, currentId);
+    else
+        selectEntity(grid(), m_model, currentId);
     grid()->setFocus();
-    m_ui->lblCount->setText(countText(m_model->rowCount()));
+    showCount();
+}
+
+std::shared_ptr<FoundRows> AppListTab::openRows() { return nullptr; }
+
+void AppListTab::readRest(const std::shared_ptr<FoundRows>& rows, int currentId)
+{
+    if (!m_rest) {
+        m_rest = new RestReader(this);
+        connect(m_rest, &RestReader::failed, this, [this] { showServiceError(); });
+        connect(m_rest, &RestReader::advanced, this, [this] {
+            const bool isFree = !grid()->selectionModel()->hasSelection();
+            if (m_wantedId != KorNoValue && (!isFree || selectEntity(grid(), m_model, m_wantedId)))
+                m_wantedId = KorNoValue;
+            showCount();
+        });
+    }
+    m_wantedId = selectEntity(grid(), m_model, currentId) ? KorNoValue : currentId;
+    m_rest->begin(rows, m_model);
+}
+
+void AppListTab::showCount()
+{
+    const QString count = countText(m_model->rowCount());
+    if (m_rest && m_rest->isReading())
+        m_ui->lblCount->setText(tr("%1 so far, reading on (Esc stops)").arg(count));
+    else if (m_rest && m_rest->leftOutBefore().isValid())
+        m_ui->lblCount->setText(
+            tr("%1, back to %2; earlier ones are left out")
+                .arg(count, m_rest->leftOutBefore().toString(AppContext::instance()->dateFormat())));
+    else
+        m_ui->lblCount->setText(count);
 }
 
 void AppListTab::refreshAfterSave()

@@ -6,12 +6,14 @@
 
 #include <memory>
 
+class FoundRows;
 class KorBusinessLogic;
 class KorDialog;
 class QHBoxLayout;
 class QLabel;
 class QPushButton;
 class QTableView;
+class RestReader;
 
 namespace Ui
 {
@@ -52,6 +54,11 @@ protected:
     // Defined by subclasses.
     /** Reads the rows for the filter, which is in lower case. Errors stay in the service. */
     virtual QList<KorEntity*> readRows(const QString& filter) = 0;
+    /**
+     * For a list that may be long: its rows, not yet read, in place of readRows(). The first ones are shown at once,
+     * the rest follows while the page can be used.
+     */
+    virtual std::shared_ptr<FoundRows> openRows();
     virtual KorEntityModel* createModel(const QList<KorEntity*>& rows) = 0;
     virtual std::unique_ptr<KorDialog> createDialog() = 0;
     [[nodiscard]] virtual QString deleteQuestion(const KorEntity* entity) const = 0;
@@ -114,12 +121,17 @@ protected:
 private:
     void refreshAfterSave();
     void tellUnread();
+    void readRest(const std::shared_ptr<FoundRows>& rows, int currentId);
+    void showCount();
 
     std::unique_ptr<Ui::ListPage> m_ui;
     QString m_serviceName;
     KorBusinessLogic* m_business;
     AppFilterBar* m_filters = nullptr;
     KorEntityModel* m_model = nullptr;
+    RestReader* m_rest = nullptr;
+    /** The record that was current before the list was read again and has not been found yet. */
+    int m_wantedId = 0;
     bool m_justSaved = false;
     // The records of the rows shown; the next refresh deletes them.
     EntityPool m_rows;

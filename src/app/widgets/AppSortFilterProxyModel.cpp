@@ -32,26 +32,13 @@ QString AppSortFilterProxyModel::plainMoney(const QString& cell, const QLocale& 
     return (currency.isEmpty() ? QStringLiteral("-") : currency) + ' ' + (negative ? "-" : "") + number;
 }
 
-bool AppSortFilterProxyModel::lessThan(const QModelIndex& left, const QModelIndex& right) const
+QVariant AppSortFilterProxyModel::sortKey(int columnType, const QString& cell) const
 {
-    const int type = columnType(left);
-    if (type == QMetaType::QDateTime) {
-        const auto moment = [this](const QModelIndex& index) {
-            return QDateTime::fromString(sourceModel()->data(index).toString(), m_dateFormat);
-        };
-        return moment(left) < moment(right);
+    if (columnType == QMetaType::QDateTime)
+        return QDateTime::fromString(cell, m_dateFormat).toMSecsSinceEpoch();
+    if (columnType == qMetaTypeId<Money*>()) {
+        const std::unique_ptr<Money> amount(Money::fromString(plainMoney(cell, m_locale)));
+        return amount ? QVariant(qlonglong(amount->rawAmount())) : QVariant();
     }
-    if (type == qMetaTypeId<Money*>()) {
-        const auto amount = [this](const QModelIndex& index) {
-            return std::unique_ptr<Money>(
-                Money::fromString(plainMoney(sourceModel()->data(index).toString(), m_locale)));
-        };
-        const auto leftAmount = amount(left);
-        const auto rightAmount = amount(right);
-        // A cell without an amount is sorted before all amounts.
-        if (!leftAmount || !rightAmount)
-            return !leftAmount && rightAmount;
-        return leftAmount->compare(rightAmount.get()) == -1;
-    }
-    return KorSortFilterProxyModel::lessThan(left, right);
+    return KorSortFilterProxyModel::sortKey(columnType, cell);
 }

@@ -16,7 +16,7 @@ public:
     [[nodiscard]] static QString plainMoney(const QString& cell, const QLocale& locale);
 
 protected:
-    [[nodiscard]] bool lessThan(const QModelIndex& left, const QModelIndex& right) const override;
+    [[nodiscard]] QVariant sortKey(int columnType, const QString& cell) const override;
 
 private:
     QLocale m_locale;

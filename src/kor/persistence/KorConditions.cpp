@@ -107,9 +107,16 @@ KorConditions& KorConditions::sort(const QString& expression, const QString& dir
     return *this;
 }
 
+KorConditions& KorConditions::atMost(int rows)
+{
+    m_limit = rows;
+    return *this;
+}
+
 void KorConditions::fill(KorPaging& paging) const
 {
     paging.setFilters(m_filters);
     paging.setSorts(m_sorts);
     paging.setPlannedForValues(m_isSearch);
+    paging.setLimit(m_limit);
 }

@@ -41,6 +41,8 @@ public:
 
     KorConditions& ascending(const QString& expression);
     KorConditions& descending(const QString& expression);
+    /** Only so many of the rows that match; 0 means all. */
+    KorConditions& atMost(int rows);
 
     /** Fills a paging for a mapper's find(); replaces its former conditions. */
     void fill(KorPaging& paging) const;
@@ -51,5 +53,6 @@ private:
 
     KorPaging::Pairs m_filters;
     KorPaging::Pairs m_sorts;
+    int m_limit = 0;
     bool m_isSearch = false;
 };

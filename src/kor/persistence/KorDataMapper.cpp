@@ -130,6 +130,12 @@ QList<KorEntity*> KorDataMapper::findMany(const KorConditions& conditions)
     return find(&paging);
 }
 
+std::unique_ptr<KorQuery> KorDataMapper::findRows(const QString& statement, const KorConditions& conditions)
+{
+    auto rows = std::make_unique<KorQuery>(this);
+    return execute(*rows, statement, conditions) ? std::move(rows) : nullptr;
+}
+
 QList<KorEntity*> KorDataMapper::readAll(KorQuery& query)
 {
     QList<KorEntity*> entities;
@@ -367,15 +373,28 @@ QString KorDataMapper::columnList(const KorDataMapper& mapper, const QString& al
     return own.isEmpty() ? base : base + " , " + own.join(", ");
 }
 
+QString KorDataMapper::columnList(const QString& alias, const QStringList& columns)
+{
+    QStringList items{alias + ".id as " + aliasOf(alias, "id")};
+    for (const QString& column : columns)
+        items.append(alias + '.' + column + " as " + aliasOf(alias, column));
+    return items.join(", ");
+}
+
+QString KorDataMapper::joinClauses() const
+{
+    QString clauses;
+    for (const KorJoinMapper* join : m_joins)
+        clauses += join->clause(tableName());
+    return clauses;
+}
+
 QString KorDataMapper::selectStatement() const
 {
     QString items = "select " + columnList(*this, tableName());
-    QString clauses;
-    for (const KorJoinMapper* join : m_joins) {
+    for (const KorJoinMapper* join : m_joins)
         items += " , " + columnList(*join->mapper(), join->targetName());
-        clauses += join->clause(tableName());
-    }
-    return items + " from " + tableName() + clauses;
+    return items + " from " + tableName() + joinClauses();
 }
 
 bool KorDataMapper::createTable(int mode) { return createTableBase(mode) && createIndexes(); }

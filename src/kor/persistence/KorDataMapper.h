@@ -120,6 +120,10 @@ protected:
     bool createTableBase(int mode);
     /** The mapper's base and own columns under this alias, as the column list of a SELECT. */
     [[nodiscard]] static QString columnList(const KorDataMapper& mapper, const QString& alias);
+    /** Only the id and these columns, for a list that shows no more. Do not save a record that was read like this. */
+    [[nodiscard]] static QString columnList(const QString& alias, const QStringList& columns);
+    /** The joins as they follow the table's name in a SELECT. */
+    [[nodiscard]] QString joinClauses() const;
     /** Runs custom SQL with named values; on failure keeps and logs the database's message. */
     bool execute(KorQuery& query, const QString& statement, const Bindings& values = {});
     /** The same, planned for its values: for sums over a period. */
@@ -131,6 +135,8 @@ protected:
     KorEntity* findOne(const KorConditions& conditions);
     QList<KorEntity*> findMany(const KorConditions& conditions);
     QList<KorEntity*> readAll(KorQuery& query);
+    /** The rows that match, still without records; null after a failure. */
+    std::unique_ptr<KorQuery> findRows(const QString& statement, const KorConditions& conditions);
     void setError(const QString& text);
 
 private:

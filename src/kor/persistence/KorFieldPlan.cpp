@@ -67,11 +67,10 @@ void KorFieldPlan::make(const QMetaObject& type, const KorMetaDataMap& columns, 
     m_fields.clear();
     for (int i = 0; i < positions.size(); ++i) {
         const int property = type.indexOfProperty(columns.columns()[i]->propertyPathUtf8().constData());
-        if (property < 0)
-            continue;
         const int column = positions[i];
-        const unsigned columnType = column < 0 ? 0 : PQftype(result, column);
-        m_fields.append({kindOf(type.property(property).userType(), columnType), property, column});
+        if (property < 0 || column < 0)
+            continue;
+        m_fields.append({kindOf(type.property(property).userType(), PQftype(result, column)), property, column});
     }
 }
 
@@ -98,7 +97,7 @@ void KorFieldPlan::fill(KorEntity* entity, const KorRow& row, const QSqlQuery& q
             write(entity, field.property, row.toDate(field.column));
             break;
         case Converted: {
-            QVariant value = field.column < 0 ? QVariant() : query.value(field.column);
+            QVariant value = query.value(field.column);
             if (value.type() == QVariant::Int && value.isNull())
                 value = KorNoValue;
             m_type->property(field.property).write(entity, value);

@@ -21,7 +21,7 @@ public:
     void make(const QMetaObject& type, const KorMetaDataMap& columns, const QVector<int>& positions,
               const pg_result* result);
     [[nodiscard]] bool isFor(const QMetaObject* type) const { return m_type == type; }
-    /** The query stands on the row. An absent column sets its field to the type's default. */
+    /** The query is on this row. A field whose column is absent keeps its value. */
     void fill(KorEntity* entity, const KorRow& row, const QSqlQuery& query) const;
 
 private:

@@ -11,6 +11,8 @@ QString KorPaging::clauses() const
     text += m_sorts.isEmpty() ? "" : " order by ";
     for (const auto& sort : m_sorts)
         text += sort.first + ' ' + sort.second;
+    if (m_limit > 0)
+        text += " limit " + QString::number(m_limit);
     return text;
 }
 

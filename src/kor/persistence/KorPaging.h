@@ -6,7 +6,7 @@
 
 /**
  * The conditions and sort keys of a list or search, in order. A condition text includes its joining word ("and", "or");
- * a pair with an empty value is literal SQL. There are no pages: a list returns every match.
+ * a pair with an empty value is literal SQL. There are no pages: a list returns every match, unless it has a limit.
  */
 class KorPaging : public QObject
 {
@@ -35,6 +35,9 @@ public:
     /** The value of the first pair with this condition, or empty; finders use pairs as named arguments. */
     [[nodiscard]] QString filterValue(const QString& condition) const;
 
+    /** At most so many rows; 0 means all. */
+    void setLimit(int rows) { m_limit = rows; }
+
     [[nodiscard]] int pageNumber() const { return m_pageNumber; }
     void setPageNumber(int pageNumber) { m_pageNumber = pageNumber; }
     [[nodiscard]] int pageSize() const { return m_pageSize; }
@@ -43,6 +46,7 @@ public:
 private:
     int m_pageNumber = 1;
     int m_pageSize = 100;
+    int m_limit = 0;
     bool m_plannedForValues = false;
     Pairs m_filters;
     Pairs m_sorts;

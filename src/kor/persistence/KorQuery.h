@@ -70,6 +70,8 @@ public:
      * read share is read once: the rows then have the same object.
      */
     [[nodiscard]] KorEntity* partner(KorDataMapper& mapper, const QString& alias);
+    /** The next rows make partners of their own; for a query that outlives the records it made. */
+    void forgetPartners() { m_partners.clear(); }
     bool nextResult();
 
     /** The last statement with values in place of placeholders; for messages. */

@@ -47,13 +47,18 @@ void KorEntityModel::addId(const QString& header)
     addColumn(QMetaType::Int, header, [](const KorEntity& entity) { return QString::number(entity.getId()); });
 }
 
-int KorEntityModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : m_entities.size(); }
+int KorEntityModel::rowCount(const QModelIndex& parent) const
+{
+    if (parent.isValid())
+        return 0;
+    return m_source ? m_shown : m_entities.size();
+}
 
 int KorEntityModel::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : m_headers.size(); }
 
 QVariant KorEntityModel::data(const QModelIndex& index, int role) const
 {
-    if (!index.isValid() || index.row() >= m_entities.size() || index.column() >= m_answers.size())
+    if (!index.isValid() || index.row() >= rowCount() || index.column() >= m_answers.size())
         return {};
     const Answer& answer = m_answers.at(index.column());
     if (role == Qt::TextAlignmentRole)
@@ -62,7 +67,7 @@ QVariant KorEntityModel::data(const QModelIndex& index, int role) const
         return {};
     if (!answer.read)
         return QString("Row%1, Column%2").arg(index.row() + 1).arg(index.column() + 1);
-    const KorEntity* entity = m_entities.at(index.row());
+    const KorEntity* entity = glimpse(index.row());
     return entity ? answer.read(*entity) : QVariant();
 }
 
@@ -77,8 +82,27 @@ QVariant KorEntityModel::headerData(int section, Qt::Orientation orientation, in
     return {};
 }
 
+void KorEntityModel::setSource(std::shared_ptr<const KorRecordSource> source)
+{
+    beginResetModel();
+    m_source = std::move(source);
+    m_shown = m_source ? m_source->count() : 0;
+    endResetModel();
+}
+
+void KorEntityModel::showNewRows()
+{
+    if (!m_source || m_source->count() <= m_shown)
+        return;
+    beginInsertRows(QModelIndex(), m_shown, m_source->count() - 1);
+    m_shown = m_source->count();
+    endInsertRows();
+}
+
 void KorEntityModel::clear()
 {
+    if (m_source)
+        setSource(nullptr);
     if (m_entities.isEmpty())
         return;
     beginRemoveRows(QModelIndex(), 0, m_entities.size() - 1);
@@ -102,19 +126,40 @@ void KorEntityModel::setRows(const QList<KorEntity*>& entities)
         append(entity);
 }
 
+int KorEntityModel::rowOf(int id) const
+{
+    for (int row = 0; row < rowCount(); ++row) {
+        const bool isEmpty = !m_source && !m_entities.at(row);
+        if (!isEmpty && entityId(row) == id)
+            return row;
+    }
+    return -1;
+}
+
 KorEntity* KorEntityModel::find(int id) const
 {
-    for (KorEntity* entity : m_entities) {
-        if (entity && entity->getId() == id)
-            return entity;
-    }
-    return nullptr;
+    const int row = rowOf(id);
+    return row < 0 ? nullptr : entityAt(row);
+}
+
+KorEntity* KorEntityModel::entityAt(int row) const
+{
+    if (!m_source)
+        return m_entities.value(row);
+    return row >= 0 && row < m_shown ? m_source->record(row) : nullptr;
+}
+
+const KorEntity* KorEntityModel::glimpse(int row) const
+{
+    if (!m_source)
+        return m_entities.value(row);
+    return row >= 0 && row < m_shown ? m_source->glimpse(row) : nullptr;
 }
 
 void KorEntityModel::remove(KorEntity* entity)
 {
-    const int row = m_entities.indexOf(find(entity->getId()));
-    if (row < 0)
+    const int row = rowOf(entity->getId());
+    if (row < 0 || m_source)
         return;
     beginRemoveRows(QModelIndex(), row, row);
     m_entities.removeAt(row);
@@ -131,6 +176,8 @@ void KorEntityModel::replace(int row, KorEntity* entity)
 
 int KorEntityModel::entityId(int row) const
 {
-    const KorEntity* entity = entityAt(row);
+    if (m_source)
+        return row >= 0 && row < m_shown ? m_source->id(row) : 0;
+    const KorEntity* entity = m_entities.value(row);
     return entity ? entity->getId() : 0;
 }

@@ -1,15 +1,18 @@
 #pragma once
 
+#include "kor/widgets/KorRecordSource.h"
+
 #include <QAbstractTableModel>
 #include <QStringList>
 
 #include <functional>
+#include <memory>
 
 class KorEntity;
 
 /**
- * The rows of a grid: a list of records, owned by the model. A column is declared with its type (for sorting), its
- * header, how to read the cell's text from a record, and its alignment.
+ * The rows of a grid: a list of records, owned by the model, or a source that makes records on demand. A column is
+ * declared with its type (for sorting), its header, how to read the cell's text from a record, and its alignment.
  */
 class KorEntityModel : public QAbstractTableModel
 {
@@ -23,6 +26,10 @@ public:
     explicit KorEntityModel(const QList<KorEntity*>& entities, QObject* parent = nullptr);
 
     void setEntities(const QList<KorEntity*>& entities);
+    /** Shows the rows of the source in place of the list. */
+    void setSource(std::shared_ptr<const KorRecordSource> source);
+    /** The source has got more rows. */
+    void showNewRows();
     /** A column without a reader, for models that override data(); without that it shows "Row1, Column1". */
     void addColumn(int typeId, const QString& header);
     void addColumn(int typeId, const QString& header, Reader reader, int alignment = 0);
@@ -42,13 +49,18 @@ public:
     /** Replaces the record of that row; the former one is not deleted. */
     void replace(int row, KorEntity* entity);
 
+    /** Not for a source, which has no list. */
     [[nodiscard]] QList<KorEntity*> entities() const { return m_entities; }
     [[nodiscard]] QList<int> columnTypes() const { return m_columnTypes; }
     [[nodiscard]] int columnType(int column) const { return m_columnTypes.value(column, QMetaType::QString); }
     [[nodiscard]] int entityId(int row) const;
-    [[nodiscard]] KorEntity* entityAt(int row) const { return m_entities.value(row); }
+    /** The row with this record's id; -1 if there is none. */
+    [[nodiscard]] int rowOf(int id) const;
+    [[nodiscard]] KorEntity* entityAt(int row) const;
 
 protected:
+    /** The record of the row, only for answering data(); null for an empty row. */
+    [[nodiscard]] const KorEntity* glimpse(int row) const;
     /** The record's id as a number. */
     void addId(const QString& header);
     /** A text column that reads the record's getter. */
@@ -77,6 +89,9 @@ private:
     void watchOwner();
 
     QList<KorEntity*> m_entities;
+    std::shared_ptr<const KorRecordSource> m_source;
+    // Of the source's rows; the rest is not announced yet.
+    int m_shown = 0;
     QMetaObject::Connection m_owner;
     QStringList m_headers;
     QList<int> m_columnTypes;

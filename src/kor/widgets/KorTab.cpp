@@ -294,10 +294,9 @@ QList<KorEntity*> KorTab::selectedEntities(const QTableView* view, const KorEnti
 bool KorTab::selectEntity(QTableView* view, const KorEntityModel* model, int id)
 {
     const auto* proxy = qobject_cast<const QSortFilterProxyModel*>(view->model());
-    const KorEntity* entity = model->find(id);
-    if (!proxy || !entity)
+    const int row = model->rowOf(id);
+    if (!proxy || row < 0)
         return false;
-    const int row = model->entities().indexOf(const_cast<KorEntity*>(entity));
     view->setCurrentIndex(proxy->mapFromSource(model->index(row, 0)));
     return true;
 }

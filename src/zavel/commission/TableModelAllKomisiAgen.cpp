@@ -22,7 +22,7 @@ TableModelAllKomisiAgen::TableModelAllKomisiAgen(const QList<KorEntity*>& sales,
 
 QVariant TableModelAllKomisiAgen::data(const QModelIndex& index, int role) const
 {
-    const auto* sale = index.isValid() ? static_cast<const EntityAllKomisiAgen*>(entityAt(index.row())) : nullptr;
+    const auto* sale = index.isValid() ? static_cast<const EntityAllKomisiAgen*>(glimpse(index.row())) : nullptr;
     if (sale && role == Qt::DecorationRole && index.column() == Status)
         return m_marks.value(sale->getStatus());
     return AppEntityModel::data(index, role);

@@ -34,7 +34,7 @@ TableModelFastFood::TableModelFastFood(const QList<KorEntity*>& sales, QObject* 
 
 QVariant TableModelFastFood::data(const QModelIndex& index, int role) const
 {
-    const auto* sale = index.isValid() ? static_cast<const EntityInvoiceFastFood*>(entityAt(index.row())) : nullptr;
+    const auto* sale = index.isValid() ? static_cast<const EntityInvoiceFastFood*>(glimpse(index.row())) : nullptr;
     if (sale && role == Qt::DecorationRole && index.column() == Status)
         return m_marks.value(sale->getInvoice()->getStatus());
     // A long list of items does not fit into the cell.

@@ -2,6 +2,7 @@
 #include "zavel/service/BusinessPenjualan.h"
 
 #include "app/context/EntityPool.h"
+#include "app/persistence/FoundRows.h"
 #include "kor/business/KorServiceTransaction.h"
 #include "pos/invoice/DataMapperInvoice.h"
 #include "pos/invoice/EntityInvoiceDetail.h"
@@ -95,6 +96,14 @@ bool BusinessPenjualan::finishInvoice(IInvoice* sale, bool isFirst)
 QList<EntityPenjualanInfo*> BusinessPenjualan::searchPenjualan(const SalesFilter& filter)
 {
     return read(m_mappers.salesList->search(filter), m_mappers.salesList, "searchPenjualan");
+}
+
+std::shared_ptr<FoundRows> BusinessPenjualan::openSales(const SalesFilter& filter)
+{
+    const auto readOn = [this, filter](const FoundRows::Place& behind, int atMost) {
+        return read(m_mappers.salesList->readList(filter, behind, atMost), m_mappers.salesList, "searchPenjualan");
+    };
+    return std::make_shared<FoundRows>(m_mappers.salesList, "invoice_invoice_date", readOn);
 }
 
 QList<EntityPenjualanInfo*> BusinessPenjualan::searchPendingInvoiceForAgentCommision(int agentId)

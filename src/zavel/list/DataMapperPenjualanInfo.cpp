@@ -67,7 +67,7 @@ QString DataMapperPenjualanInfo::typeNameOf(KorQuery& query) const
 
 // --- searching -----------------------------------------------------------------------------------------------------
 
-QList<EntityPenjualanInfo*> DataMapperPenjualanInfo::search(const SalesFilter& filter)
+KorConditions DataMapperPenjualanInfo::conditionsOf(const SalesFilter& filter)
 {
     KorConditions conditions;
     conditions.between("invoice_date", filter.from, filter.to)
@@ -85,7 +85,54 @@ QList<EntityPenjualanInfo*> DataMapperPenjualanInfo::search(const SalesFilter& f
     // Cash payments are not filtered: every sale may have been paid partly in cash.
     if (filter.payment == SalesFilter::OtherPayment)
         conditions.differs("invoice.other_payment_amount", 0);
+    return conditions;
+}
+
+QList<EntityPenjualanInfo*> DataMapperPenjualanInfo::search(const SalesFilter& filter)
+{
+    KorConditions conditions = conditionsOf(filter);
     return latestFirst(conditions);
+}
+
+QString DataMapperPenjualanInfo::listStatement() const
+{
+    const QStringList sale{"createdby",
+                           "version",
+                           "invoice_date",
+                           "no",
+                           "status",
+                           "invoice_type",
+                           "pemesan",
+                           "grandtotal_currency",
+                           "grandtotal_amount",
+                           "amount_paid_currency",
+                           "amount_paid_amount",
+                           "net_due_currency",
+                           "net_due_amount",
+                           "other_payment_currency",
+                           "other_payment_amount"};
+    return "select " +
+           QStringList{columnList(tableName(), sale),
+                       columnList(m_partners.users->tableName(), {"username"}),
+                       columnList(m_partners.dineInvoices->tableName(), {"agent_id"}),
+                       columnList(m_partners.fastFoodInvoices->tableName(), {"agent_id"}),
+                       columnList(m_partners.takeAwayInvoices->tableName(), {}),
+                       columnList(m_partners.members->tableName(), {"kode"}),
+                       columnList("mkn_employee", {"nama"}),
+                       columnList("ff_employee", {"nama"})}
+               .join(", ") +
+           " from " + tableName() + joinClauses();
+}
+
+std::unique_ptr<KorQuery> DataMapperPenjualanInfo::readList(const SalesFilter& filter, const FoundRows::Place& behind,
+                                                            int atMost)
+{
+    KorConditions conditions = conditionsOf(filter);
+    if (behind.date.isValid())
+        conditions.holds(QString("(invoice.invoice_date, invoice.id) < ('%1', %2)")
+                             .arg(behind.date.toString(Qt::ISODate), QString::number(behind.id)));
+    conditions.descending("invoice_date").descending("invoice.id").atMost(atMost);
+    return findRows(listStatement(), conditions);
 }
 
 QList<EntityPenjualanInfo*> DataMapperPenjualanInfo::findPendingOfAgent(int agentId)

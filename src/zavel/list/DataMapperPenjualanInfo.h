@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/persistence/AppDataMapper.h"
+#include "app/persistence/FoundRows.h"
 
 class DataMapperEmployee;
 class DataMapperInvoice;
@@ -38,6 +39,12 @@ public:
 
     // The latest sales first.
     [[nodiscard]] QList<EntityPenjualanInfo*> search(const SalesFilter& filter);
+    /**
+     * The same, as a list reads it: at most so many rows behind the place, with what the list shows and no more. Null
+     * after a failure.
+     */
+    [[nodiscard]] std::unique_ptr<KorQuery> readList(const SalesFilter& filter, const FoundRows::Place& behind,
+                                                     int atMost);
     /** The agent's sales whose commission is not paid yet. */
     [[nodiscard]] QList<EntityPenjualanInfo*> findPendingOfAgent(int agentId);
 
@@ -49,6 +56,8 @@ public:
                                                       const QString& sortColumn, const QString& itemType);
 
 private:
+    [[nodiscard]] static KorConditions conditionsOf(const SalesFilter& filter);
+    [[nodiscard]] QString listStatement() const;
     [[nodiscard]] QList<EntityPenjualanInfo*> latestFirst(KorConditions& conditions);
     [[nodiscard]] QList<EntitySalesSummaryInfo*> salesBy(const QString& period, const QString& name, const QDate& from,
                                                          const QDate& to, int userId);

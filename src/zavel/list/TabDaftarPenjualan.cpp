@@ -116,12 +116,9 @@ SalesFilter TabDaftarPenjualan::chosen() const
     return filter;
 }
 
-QList<KorEntity*> TabDaftarPenjualan::readRows(const QString&)
+std::shared_ptr<FoundRows> TabDaftarPenjualan::openRows()
 {
-    QList<KorEntity*> rows;
-    for (EntityPenjualanInfo* sale : businessAs<BusinessPenjualan>()->searchPenjualan(chosen()))
-        rows.append(sale);
-    return rows;
+    return businessAs<BusinessPenjualan>()->openSales(chosen());
 }
 
 KorEntityModel* TabDaftarPenjualan::createModel(const QList<KorEntity*>& rows)

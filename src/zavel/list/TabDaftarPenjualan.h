@@ -27,7 +27,8 @@ public slots:
     void on_btnReset_clicked();
 
 protected:
-    QList<KorEntity*> readRows(const QString& filter) override;
+    QList<KorEntity*> readRows(const QString&) override { return {}; }
+    std::shared_ptr<FoundRows> openRows() override;
     KorEntityModel* createModel(const QList<KorEntity*>& rows) override;
     void modelApplied() override;
     [[nodiscard]] QString deleteQuestion(const KorEntity* entity) const override;

@@ -27,6 +27,6 @@ QVariant TableModelDaftarPenjualan::data(const QModelIndex& index, int role) con
 {
     if (role != Qt::DecorationRole || index.column() != Status)
         return AppEntityModel::data(index, role);
-    const auto* sale = static_cast<const EntityPenjualanInfo*>(entityAt(index.row()));
+    const auto* sale = static_cast<const EntityPenjualanInfo*>(glimpse(index.row()));
     return sale ? QVariant(m_marks.value(sale->getInvoice()->getStatus())) : QVariant();
 }

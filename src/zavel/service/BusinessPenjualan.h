@@ -31,6 +31,7 @@ class EntityPiutangDetail;
 class EntityQueue;
 class EntitySalesSummaryInfo;
 class EntitySoldItem;
+class FoundRows;
 class IInvoice;
 class Invoice;
 struct AgentSalesFilter;
@@ -152,6 +153,8 @@ public:
      */
     bool deleteSales(Invoice* invoice);
     [[nodiscard]] QList<EntityPenjualanInfo*> searchPenjualan(const SalesFilter& filter);
+    /** The same for a list of any length; nothing is read yet. */
+    [[nodiscard]] std::shared_ptr<FoundRows> openSales(const SalesFilter& filter);
     // Figures by day or month, oldest first; both dates are inclusive. AllUsers means the sales of all users.
     static constexpr int AllUsers = -1;
     [[nodiscard]] QList<EntitySalesSummaryInfo*> getDailySales(const QDate& from, const QDate& to, int userId);

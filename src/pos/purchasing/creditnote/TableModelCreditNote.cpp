@@ -27,7 +27,7 @@ TableModelCreditNote::TableModelCreditNote(const QList<KorEntity*>& notes, QObje
 
 QVariant TableModelCreditNote::data(const QModelIndex& index, int role) const
 {
-    const auto* note = static_cast<const EntityCreditNote*>(entityAt(index.row()));
+    const auto* note = static_cast<const EntityCreditNote*>(glimpse(index.row()));
     if (!note)
         return AppEntityModel::data(index, role);
     const bool isCancelled = note->getStatus() == EntityCreditNote::CANCELLED;

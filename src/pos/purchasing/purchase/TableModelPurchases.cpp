@@ -26,7 +26,7 @@ TableModelPurchases::TableModelPurchases(const QList<KorEntity*>& purchases, QOb
 
 QVariant TableModelPurchases::data(const QModelIndex& index, int role) const
 {
-    const auto* purchase = static_cast<const Purchase*>(entityAt(index.row()));
+    const auto* purchase = static_cast<const Purchase*>(glimpse(index.row()));
     if (!purchase)
         return AppEntityModel::data(index, role);
     if (role == Qt::BackgroundRole) {
