@@ -39,6 +39,24 @@ private slots:
         QVERIFY(qAbs(found->getCreatedTime().secsTo(QDateTime::currentDateTime())) < 5);
     }
 
+    void aStampIsReadAsTheDriverReadsIt_data()
+    {
+        addColumns<QString>("stamp");
+        for (const char* stamp :
+             {"2026-11-24 18:30:05", "2026-02-28 23:59:59.5", "2026-01-01 00:00:00.123456", "2026-01-01 11:59:59.9996",
+              "1969-12-31 12:00:00", "0001-01-01 00:00:00.0001", "12026-11-24 18:30:05", "infinity"})
+            addRow(stamp, stamp);
+    }
+    void aStampIsReadAsTheDriverReadsIt()
+    {
+        FETCH(QString, stamp);
+        KorQuery query;
+        QVERIFY(query.exec("SELECT timestamp '" + stamp + "', NULL::timestamp, date 'today'") && query.next());
+        QCOMPARE(query.row().toStamp(0).toDateTime(), query.value(0).toDateTime());
+        QVERIFY(!query.row().toStamp(1).isValid());
+        QCOMPARE(query.row().toDate(2), QDate::currentDate());
+    }
+
     void conditionsChooseRows_data()
     {
         const QStringList texts{"lower(kode)", "lower(nama)"};

@@ -10,6 +10,8 @@
 
 #include <QRegularExpression>
 
+#include <malloc.h>
+
 using Sales = BusinessPenjualan;
 
 /** The page of all sales: what it shows, how it narrows, and what can be done with a sale from there. */
@@ -127,6 +129,51 @@ private slots:
         member->clear();
         click("btnSearch");
         QCOMPARE(numbers(), QString("F2 F1"));
+    }
+
+    void aLongListIsShownAtOnceAndReadOn()
+    {
+        const int all = 101000;
+        insertManySales(*m_database, all);
+        run("ANALYZE");
+        show();
+        the<QDateEdit>("dateFrom")->setDate(QDate::currentDate().addDays(-31));
+        const auto label = [this] { return the<QLabel>("lblCount")->text(); };
+        const auto rows = [this] { return m_grid->model()->rowCount(); };
+
+        click("btnSearch");
+        QCOMPARE(rows(), 500);
+        QCOMPARE(label(), QString("500 Items so far, reading on (Esc stops)"));
+        QTRY_VERIFY(rows() > 3000);
+        QTest::keyClick(m_grid, Qt::Key_Escape);
+        const int stopped = rows();
+        QTest::qWait(50);
+        QCOMPARE(rows(), stopped);
+        QVERIFY2(label().startsWith(QString("%1 Items, back to ").arg(stopped)), qPrintable(label()));
+
+        // Read again, the list finds the row that was current, wherever it is now.
+        m_grid->selectRow(stopped - 1);
+        const QString current = cell(stopped - 1, 0);
+        const size_t before = mallinfo2().uordblks;
+        m_people->answer(QMessageBox::No);
+        click("btnSearch");
+        QTRY_COMPARE(cell(m_grid->currentIndex().row(), 0), current);
+        QTRY_COMPARE_WITH_TIMEOUT(m_people->texts().size(), 1, 30000);
+        QVERIFY2(m_people->texts().first().startsWith("100,500 rows have been read, back to "),
+                 qPrintable(m_people->texts().first()));
+        QVERIFY(rows() >= 100000 && rows() < all);
+        QVERIFY(label().endsWith("earlier ones are left out"));
+        const size_t perRow = (mallinfo2().uordblks - before) / size_t(rows());
+        QVERIFY2(perRow < 1024, qPrintable(QString("%1 bytes a row").arg(perRow)));
+
+        m_people->answer(QMessageBox::Yes);
+        click("btnSearch");
+        QTRY_COMPARE_WITH_TIMEOUT(label(), QString("%1 Items").arg(all), 60000);
+        // Not QCOMPARE, which would print a megabyte.
+        QVERIFY(numbers() == value("SELECT string_agg(no, ' ' ORDER BY invoice_date DESC, id DESC) FROM invoice"));
+
+        m_grid->sortByColumn(TableModelDaftarPenjualan::Total, Qt::DescendingOrder);
+        QCOMPARE(cell(0, TableModelDaftarPenjualan::Total), QString("Rp247,500.00"));
     }
 
     void resetEmptiesTheFilters()
