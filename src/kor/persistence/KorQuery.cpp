@@ -159,8 +159,8 @@ bool KorQuery::exec(const QString& statement)
 
 bool KorQuery::exec(const QString& statement, const QVector<QPair<QString, QVariant>>& values)
 {
-    // One pass, so that a colon in a value is not taken for a placeholder.
-    static const QRegularExpression placeholder("(?<!:):[A-Za-z_]\\w*");
+    // One pass over texts and placeholders, so that a colon in a text or in a value is not taken for a placeholder.
+    static const QRegularExpression placeholder("'[^']*'|(?<!:):[A-Za-z_]\\w*");
     QString text;
     int copied = 0;
     for (auto found = placeholder.globalMatch(statement); found.hasNext();) {
