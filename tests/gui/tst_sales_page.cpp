@@ -275,15 +275,18 @@ private slots:
         QVERIFY(m_people->finished());
     }
 
-    void aBusyMonthOpensInOneStatementAndScrolls()
+    void aBusyMonthOpensInOneStatementIsReadInFewAndScrolls()
     {
         insertManySales(*m_database, 5000);
         show();
         the<QDateEdit>("dateFrom")->setDate(QDate::currentDate().addDays(-40));
         const StatementCount statements;
         click("btnSearch");
-        QCOMPARE(m_grid->model()->rowCount(), 5000);
+        QCOMPARE(m_grid->model()->rowCount(), 500);
+        QCOMPARE(statements.count(), 1);
+        QTRY_COMPARE(m_grid->model()->rowCount(), 5000);
         QVERIFY(statements.count() <= 4);
+        const int sent = statements.count();
         const int perPage = m_grid->rowAt(m_grid->viewport()->height() - 1);
         m_grid->selectRow(0);
         for (int page = 0; m_grid->currentIndex().row() < 4999; ++page) {
@@ -292,7 +295,7 @@ private slots:
         }
         QVERIFY(perPage > 3);
         QVERIFY(m_grid->viewport()->rect().contains(m_grid->visualRect(m_grid->currentIndex()).center()));
-        QCOMPARE(statements.count(), 1);
+        QCOMPARE(statements.count(), sent);
     }
 
 private:

@@ -113,7 +113,12 @@ void AppListTab::readRest(const std::shared_ptr<FoundRows>& rows, int currentId)
 void AppListTab::showCount()
 {
     const QString count = countText(m_model->rowCount());
-    if (m_rest && m_rest->isReading())
+    const bool isReading = m_rest && m_rest->isReading();
+    // Escape stops the reading first; only then it closes the page.
+    const QKeySequence closes(isReading ? 0 : Qt::Key_Escape);
+    if (m_rest && m_ui->btnClose->shortcut() != closes)
+        m_ui->btnClose->setShortcut(closes);
+    if (isReading)
         m_ui->lblCount->setText(tr("%1 so far, reading on (Esc stops)").arg(count));
     else if (m_rest && m_rest->leftOutBefore().isValid())
         m_ui->lblCount->setText(

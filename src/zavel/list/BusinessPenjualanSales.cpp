@@ -13,6 +13,7 @@
 #include "zavel/fastfood/DataMapperInvoiceFastFood.h"
 #include "zavel/list/DataMapperPenjualanInfo.h"
 #include "zavel/list/EntityPenjualanInfo.h"
+#include "zavel/list/SalesFilter.h"
 #include "zavel/takeaway/DataMapperInvoiceBawaPulang.h"
 #include "zavel/takeaway/EntityInvoiceBawaPulang.h"
 
