@@ -3,6 +3,7 @@
 #include "app/context/AppContext.h"
 #include "app/context/DatabaseManager.h"
 #include "app/context/DatabaseServer.h"
+#include "setup/sample/SampleTrade.h"
 #include "zavel/install/ZavelInstaller.h"
 #include "zavel/registry/ZavelBusinessRegistry.h"
 
@@ -24,12 +25,19 @@ DatabaseSetup::Result DatabaseSetup::run()
         return install();
     case SetupOptions::Update:
         return update();
+    case SetupOptions::SampleTrade:
+        return sampleTrade();
     default:
         return status();
     }
 }
 
 void DatabaseSetup::say(const QString& line) { m_out << line << Qt::endl; }
+
+void DatabaseSetup::tellStep(int percent, const QString& step)
+{
+    say(QString("[%1%] %2").arg(percent).arg(step.trimmed()));
+}
 
 DatabaseSetup::Result DatabaseSetup::fail(const QString& line)
 {
@@ -89,6 +97,21 @@ DatabaseSetup::Result DatabaseSetup::update()
                                                      : fail(tr("The update is not complete; see the lines above."));
 }
 
+DatabaseSetup::Result DatabaseSetup::sampleTrade()
+{
+    if (!connectToDatabase())
+        return Failed;
+    const DatabaseVersion version = installedVersion();
+    if (!version.isKnown())
+        return fail(tr("Nothing is installed in the database %1.").arg(m_options.connection.database));
+    if (version.isNewerThan(DatabaseVersion::ofProgram()) || version.isOlderThan(DatabaseVersion::ofProgram()))
+        return fail(tr("The database %1 is of version %2, this program of version %3.")
+                        .arg(m_options.connection.database, version.text(), DatabaseVersion::ofProgramText()));
+    SampleTrade trade(m_manager->database(), {m_options.months, m_options.perDay, m_options.seed},
+                      [this](int percent, const QString& step) { tellStep(percent, step); });
+    return trade.run() ? Done : fail(trade.failure());
+}
+
 bool DatabaseSetup::connectToDatabase()
 {
     const ConnectionSettings& to = m_options.connection;
@@ -137,9 +160,8 @@ bool DatabaseSetup::runInstaller(int type)
     installer.setAdminPassword(m_options.adminPassword);
     installer.setDateFormat(m_options.dateFormat);
     installer.setLocale(m_options.locale);
-    QObject::connect(&installer, &KorInstaller::onProgress, &installer, [this](int perc, const QString& status) {
-        say(QString("[%1%] %2").arg(perc).arg(status.trimmed()));
-    });
+    QObject::connect(&installer, &KorInstaller::onProgress, &installer,
+                     [this](int perc, const QString& status) { tellStep(perc, status); });
     QObject::connect(&installer, &KorInstaller::stepFailed, &installer,
                      [this](const QString&, const QStringList& reasons, bool expected) {
                          for (const QString& reason : reasons)

@@ -23,6 +23,7 @@ private:
     [[nodiscard]] Result status();
     [[nodiscard]] Result install();
     [[nodiscard]] Result update();
+    [[nodiscard]] Result sampleTrade();
 
     /** Prints the reason on failure. */
     [[nodiscard]] bool connectToDatabase();
@@ -35,6 +36,7 @@ private:
     [[nodiscard]] bool writeSettings();
 
     void say(const QString& line);
+    void tellStep(int percent, const QString& step);
     Result fail(const QString& line);
 
     SetupOptions m_options;

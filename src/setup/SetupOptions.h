@@ -11,7 +11,7 @@ struct SetupOptions
     Q_DECLARE_TR_FUNCTIONS(SetupOptions)
 
 public:
-    enum Command { Install, Update, Status, Help, Mistake };
+    enum Command { Install, Update, Status, SampleTrade, Help, Mistake };
 
     Command command = Mistake;
     ConnectionSettings connection;
@@ -23,6 +23,10 @@ public:
     QString dateFormat;
     bool writeSettings = false;
     QString settingsPath;
+    // Of the sample trade.
+    int months = 12;
+    int perDay = 100;
+    int seed = 1;
     /** The help text, or an error about the arguments. */
     QString text;
 
