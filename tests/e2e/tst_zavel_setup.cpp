@@ -171,6 +171,7 @@ private slots:
         row("no number for a port", {"status", "--port", "many"});
         row("a port out of range", {"status", "--port", "66666"});
         row("no locale", {"install", "--locale", "Klingon"});
+        row("a restaurant without guests", {"sample-trade", "--per-day", "0"});
     }
     void wrongArgumentsAreRefused()
     {

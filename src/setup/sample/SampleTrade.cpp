@@ -42,6 +42,8 @@ const QStringList tradeTables{"invoice",
                               "stock_take",
                               "item_history"};
 
+QString inSql(const QDate& day) { return day.toString(Qt::ISODate); }
+
 QDate firstOfMonth(const QDate& day) { return QDate(day.year(), day.month(), 1); }
 QDate lastOfMonth(const QDate& day) { return QDate(day.year(), day.month(), day.daysInMonth()); }
 } // namespace
@@ -53,13 +55,15 @@ SampleTrade::SampleTrade(const QSqlDatabase& database, const Wishes& wishes, Pro
 
 bool SampleTrade::run()
 {
-    if (!mayFill() || !readCurrency())
+    if (!mayFill())
         return false;
+    fixValues();
     if (!m_database.transaction()) {
         m_failure = m_database.lastError().text();
         return false;
     }
-    if (!fill()) {
+    // A sale that came between is seen now, and none comes any more.
+    if (!exec({"lock table " + tradeTables.join(", ")}) || !mayFill() || !fill()) {
         m_database.rollback();
         return false;
     }
@@ -87,45 +91,50 @@ bool SampleTrade::mayFill()
     return true;
 }
 
-bool SampleTrade::readCurrency()
+void SampleTrade::fixValues()
 {
     QSqlQuery query("select appvalue from appconfig where appkey = 'localization'", m_database);
     const QByteArray json = query.next() ? query.value(0).toByteArray() : QByteArray();
     const QString locale = QJsonDocument::fromJson(json).object().value("locale").toString("en_US");
     const QString currency = QLocale(locale).currencySymbol(QLocale::CurrencySymbol);
     const bool isRupiah = currency.toLower() == "rp";
-    const auto date = [](const QDate& day) { return day.toString(Qt::ISODate); };
     m_values = {{"{seed}", QString::number(m_wishes.seed)},
                 {"{currency}", currency},
                 {"{unit}", isRupiah ? "5000" : "1"},
                 {"{factor}", isRupiah ? "1" : "100"},
                 {"{perday}", QString::number(m_wishes.perDay)},
-                {"{begin}", date(m_begin)},
-                {"{today}", date(m_today)}};
-    return true;
+                {"{begin}", inSql(m_begin)},
+                {"{today}", inSql(m_today)}};
 }
 
 bool SampleTrade::fill()
 {
-    BareTables tables(m_database, tradeTables);
     m_progress(0, tr("Catalogue"));
-    if (!exec({"set local maintenance_work_mem = '256MB'", "set local work_mem = '64MB'"}) ||
+    // Compiling the statements would take longer than most of them.
+    if (!exec({"set local maintenance_work_mem = '256MB'", "set local work_mem = '64MB'", "set local jit = off"}) ||
         !exec(Sample::tools() + Sample::catalogue() + Sample::choices()))
         return false;
-    bool done = tables.strip();
-    for (QDate month = firstOfMonth(m_begin); done && month < m_today; month = month.addMonths(1)) {
-        const qint64 days = std::max<qint64>(0, m_begin.daysTo(month));
-        m_progress(int(2 + days * 83 / m_begin.daysTo(m_today)), QLocale::c().toString(month, "MMMM yyyy"));
+    BareTables tables(m_database, tradeTables);
+    const bool isFilled = tables.strip() && fillMonths() && exec(Sample::openOrders());
+    if (isFilled) {
+        m_progress(85, tr("Indexes"));
+        if (tables.restore())
+            return true;
+    }
+    if (!tables.failure().isEmpty())
+        m_failure = tables.failure();
+    return false;
+}
+
+bool SampleTrade::fillMonths()
+{
+    for (QDate month = firstOfMonth(m_begin); month < m_today; month = month.addMonths(1)) {
+        const qint64 daysDone = std::max<qint64>(0, m_begin.daysTo(month));
+        m_progress(int(2 + daysDone * 83 / m_begin.daysTo(m_today)), QLocale::c().toString(month, "MMMM yyyy"));
         if (!fillMonth(month))
             return false;
     }
-    if (!done || !exec(Sample::openOrders()))
-        return false;
-    m_progress(85, tr("Indexes"));
-    done = tables.restore();
-    if (!tables.failure().isEmpty())
-        m_failure = tables.failure();
-    return done;
+    return true;
 }
 
 bool SampleTrade::fillMonth(const QDate& month)
@@ -133,8 +142,7 @@ bool SampleTrade::fillMonth(const QDate& month)
     const QDate yesterday = m_today.addDays(-1);
     const QDate from = std::max(month, m_begin);
     const QDate to = std::min(lastOfMonth(month), yesterday);
-    const auto date = [](const QDate& day) { return day.toString(Qt::ISODate); };
-    m_monthValues = {{"{month}", date(month)}, {"{from}", date(from)}, {"{to}", date(to)}};
+    m_monthValues = {{"{month}", inSql(month)}, {"{from}", inSql(from)}, {"{to}", inSql(to)}};
     const bool isOver = to == lastOfMonth(month) && to < yesterday;
     return readNumbers(from, to) && exec(Sample::sales()) && exec(Sample::purchases()) && exec(Sample::returns()) &&
            exec(Sample::supplierPayments()) && exec(Sample::stock()) && (!isOver || exec(Sample::stockCount())) &&
@@ -153,9 +161,9 @@ bool SampleTrade::readNumbers(const QDate& from, const QDate& to)
     while (query.next()) {
         for (QDate day = from; day <= to; day = day.addDays(1)) {
             QString prefix = QDateTime(day, QTime(10, 0)).toString(query.value(1).toString());
-            rows.append(QString("('%1', date '%2', '%3')")
-                            .arg(query.value(0).toString().replace('\'', "''"), day.toString(Qt::ISODate),
-                                 prefix.replace('\'', "''")));
+            rows.append(
+                QString("('%1', date '%2', '%3')")
+                    .arg(query.value(0).toString().replace('\'', "''"), inSql(day), prefix.replace('\'', "''")));
         }
     }
     return exec({"truncate sample_number",

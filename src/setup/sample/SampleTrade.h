@@ -35,8 +35,10 @@ public:
 
 private:
     [[nodiscard]] bool mayFill();
-    [[nodiscard]] bool readCurrency();
+    /** What holds for all statements; the currency is that of the installation's locale. */
+    void fixValues();
     [[nodiscard]] bool fill();
+    [[nodiscard]] bool fillMonths();
     [[nodiscard]] bool fillMonth(const QDate& month);
     [[nodiscard]] bool readNumbers(const QDate& from, const QDate& to);
     [[nodiscard]] bool exec(const QStringList& statements);
