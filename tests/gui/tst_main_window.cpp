@@ -592,6 +592,17 @@ private slots:
         QVERIFY(m_window->isMaximized());
     }
 
+    void aSampleRestaurantIsMarked()
+    {
+        run("INSERT INTO appconfig (appkey, is_json, appvalue, version) VALUES ('sample_trade', false, 'today', 1)");
+        makeWindow();
+        QCOMPARE(m_window->windowTitle(), QString("Zavel POS - Sample"));
+        QVERIFY(m_window->statusBar()->findChildren<QLabel*>().last()->text().startsWith("Sample"));
+        QEvent change(QEvent::LanguageChange);
+        QCoreApplication::sendEvent(m_window.get(), &change);
+        QCOMPARE(m_window->windowTitle(), QString("Zavel POS - Sample"));
+    }
+
     void theProgramTellsAboutItself()
     {
         QString version;

@@ -20,7 +20,7 @@ program() { install -D -m 755 /dev/stdin "$house/$1"; }
 
 install -d "$house/scripts"
 cp -- "$1/run" "$house/"
-cp -- "$1/scripts/private-postgres" "$1/scripts/start-program" "$house/scripts/"
+cp -- "$1/scripts/private-postgres" "$1/scripts/start-program" "$1/scripts/sample-restaurant" "$house/scripts/"
 program scripts/install-packages <<<'#!/bin/bash'
 program scripts/build <<<'#!/bin/bash'
 program scripts/tour <<PROGRAM
@@ -34,7 +34,8 @@ if [[ \$1 == status ]]; then [[ -e $room/installed ]] && exit 0; exit 3; fi
 echo "\$* password \$ZAVEL_DB_PASSWORD" >>$calls
 rm $room/break 2>/dev/null && exit 9
 touch $room/installed
-if [[ "\$*" == *--write-settings* ]]; then mkdir -p ${settings%/*}; echo x >$settings; fi
+if [[ "\$*" =~ --settings\ ([^ ]+) ]]; then echo x >"\${BASH_REMATCH[1]}"
+elif [[ "\$*" == *--write-settings* ]]; then mkdir -p ${settings%/*}; echo x >$settings; fi
 PROGRAM
 program build/release/bin/zavelpos <<PROGRAM
 #!/bin/bash
@@ -99,6 +100,22 @@ case_without_a_display_the_tour_is_played() {
     start --tour take-away
     equal 'asked for by name' 'tour <take-away>' "$(<"$calls")"
     [[ ! -e $room/data && ! -e $room/cluster ]] || fail "the tour touched the user's data"
+}
+
+case_a_sample_restaurant_stands_beside_the_real_one() {
+    start
+    start --sample --one
+    local to="--host 127.0.0.1 --port $port --user postgres --database ZavelPOSSample" made=$room/data/zavelpos/sample
+    equal 'first sample' "install --create-database --replace $to --write-settings --settings $made/settings.new\
+ password Qx7!Rm2z"$'\n'"sample-trade --months 3 --per-day 60 $to password Qx7!Rm2z"$'\nprogram <--one>' "$(<"$calls")"
+    [[ -e $made/zavelpos/settings.ini ]] || fail 'the sample has no settings of its own'
+    start --sample
+    equal 'the sample again' 'program <>' "$(<"$calls")"
+    start --sample remove
+    equal 'removing' '0 ' "$status $(<"$calls")"
+    [[ ! -e $made && -e $settings ]] || fail 'not just the sample was removed'
+    start
+    equal 'the real one' 'program <>' "$(<"$calls")"
 }
 
 "case_$2"

@@ -17,6 +17,9 @@ public:
 
     [[nodiscard]] QList<KorPermission> getPermissions() const override;
 
+    /** The row that marks the database of a sample restaurant; its value is the day on which it was filled. */
+    [[nodiscard]] static QString sampleKey() { return "sample_trade"; }
+
     /** The value of the row; empty if the row does not exist. */
     [[nodiscard]] QString getValue(const QString& key);
     [[nodiscard]] EntityAppConfig* getValue(const QString& key, EntityAppConfig* defaultEntity);

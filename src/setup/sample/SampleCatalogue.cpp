@@ -12,6 +12,14 @@ const char accounts[] = R"(
     on conflict do nothing
 )";
 
+// The program says everywhere that nothing of this is real.
+const char marks[] = R"(
+    update data_perusahaan set nama_perusahaan = 'Sample Restaurant', version = version + 1;
+    insert into appconfig (appkey, is_json, appvalue, description, createdtime, version)
+    values ('{samplekey}', false, '{today}', 'This restaurant was made up', date '{today}', 1)
+    on conflict (appkey) do update set appvalue = excluded.appvalue, version = appconfig.version + 1
+)";
+
 const char people[] = R"(
     insert into supplier (kode, nama, alamat, telp, email, createdtime, version)
     select 'SS' || lpad(i::text, 2, '0'), (array['Market Hall', 'Fish Quay', 'Green Valley', 'Hill Dairy',
@@ -53,7 +61,8 @@ const char people[] = R"(
     where not exists (select from users where username = lower('sample-' || name));
 
     insert into meja (kode, nama, createdtime, version)
-    select 's' || i, 'Sample Table ' || i, date '{begin}' - 1 + time '09:00', 1
+    select 's' || lpad(i::text, 2, '0'), (array['Window', 'Garden', 'Terrace', 'Hall'])[1 + (i - 1) / 10] || ' ' ||
+        1 + (i - 1) % 10, date '{begin}' - 1 + time '09:00', 1
     from generate_series(1, 40) i on conflict do nothing
 )";
 
@@ -147,6 +156,6 @@ const char lists[] = R"(
 )";
 } // namespace
 
-QStringList Sample::catalogue() { return {accounts, people, menu}; }
+QStringList Sample::catalogue() { return {marks, accounts, people, menu}; }
 
 QStringList Sample::choices() { return {lists}; }

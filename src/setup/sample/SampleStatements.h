@@ -8,7 +8,7 @@
  * the same rows.
  *
  * Words in braces stand for values that SampleTrade fills in: {seed}, {currency}, {unit} (what the cheapest things
- * cost), {factor} (minor units of the currency), {perday}, {begin} and {today}; in the statements of a month also
+ * cost), {factor} (minor units of the currency), {perday}, {begin}, {today} and {samplekey}; in the statements of a month also
  * {month} (its first day), and {from} and {to}, the days of it that are filled.
  */
 namespace Sample
@@ -16,7 +16,7 @@ namespace Sample
 // Once, at the beginning.
 /** Functions and tables of the session that the other statements use. */
 [[nodiscard]] QStringList tools();
-/** Accounts, people, tables and goods; what is there under the same code stays as it is. */
+/** The marks of a sample, accounts, people, tables and goods; what is there under the same code stays as it is. */
 [[nodiscard]] QStringList catalogue();
 /** Lists of the catalogue's rows, from which the documents choose. */
 [[nodiscard]] QStringList choices();

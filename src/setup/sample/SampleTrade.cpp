@@ -1,5 +1,6 @@
 #include "setup/sample/SampleTrade.h"
 
+#include "app/configuration/BusinessConfiguration.h"
 #include "setup/sample/BareTables.h"
 #include "setup/sample/SampleStatements.h"
 
@@ -103,6 +104,7 @@ void SampleTrade::fixValues()
                 {"{unit}", isRupiah ? "5000" : "1"},
                 {"{factor}", isRupiah ? "1" : "100"},
                 {"{perday}", QString::number(m_wishes.perDay)},
+                {"{samplekey}", BusinessConfiguration::sampleKey()},
                 {"{begin}", inSql(m_begin)},
                 {"{today}", inSql(m_today)}};
 }

@@ -79,6 +79,11 @@ MainWindow::MainWindow(QWidget* parent)
     connect(m_pages, &PageArea::changed, this, &MainWindow::tickDashboard);
     connect(m_ui->tabWidget, &QTabWidget::tabCloseRequested, this, &MainWindow::closeTabX);
     nameUser();
+    if (!m_configuration->getValue(BusinessConfiguration::sampleKey()).isEmpty()) {
+        m_statusSample = new QLabel(this);
+        m_ui->statusBar->addWidget(m_statusSample);
+    }
+    nameSample();
     setWindowIcon(QIcon(":/icons/Beverage-Coffee-02.png"));
     setIconSize({48, 48});
     loadPlugin();
@@ -172,6 +177,7 @@ void MainWindow::changeEvent(QEvent* event)
         nameMenuEntries();
         m_sidebar->retranslate();
         nameUser();
+        nameSample();
         m_slipStatus->retranslate();
         m_pages->retranslate();
     }
@@ -186,6 +192,14 @@ void MainWindow::nameUser()
     m_statusUser->setText(tr("Username: ") + user->getUserName());
     m_statusUser->setMinimumSize(0, 0);
     m_statusUser->setMinimumSize(m_statusUser->sizeHint());
+}
+
+void MainWindow::nameSample()
+{
+    if (!m_statusSample)
+        return;
+    setWindowTitle(tr("%1 - Sample").arg(windowTitle()));
+    m_statusSample->setText(tr("Sample data: nothing here was really sold"));
 }
 
 void MainWindow::slotLanguageChanged(QAction* action)

@@ -129,6 +129,8 @@ private:
     void showStartPages();
     void openReport(const QString& reportName);
     void nameUser();
+    /** Title and status bar of a restaurant that was made up tell so. */
+    void nameSample();
     void closeDashboard();
     /** Checks the menu entry if the dashboard is open, however it was opened or closed. */
     void tickDashboard();
@@ -139,6 +141,8 @@ private:
     QString m_settingsFile;
     ReportPlugins m_reports;
     QLabel* m_statusUser;
+    /** Null in a restaurant that is real. */
+    QLabel* m_statusSample = nullptr;
     BusinessConfiguration* m_configuration;
     bool m_inDatabaseSetup = false;
     DatabaseUpdate* m_update = nullptr;
