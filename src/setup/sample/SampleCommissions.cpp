@@ -29,8 +29,8 @@ const char payments[] = R"(
     select id, maker, made, 1, no, of, day, '{currency}', total, '{currency}', total, '{currency}', 0,
         (select id from bank where kode = '6650'), '', ''
     from sample_payment payment
-    cross join lateral (select sum(commision_amount) as total from komisi_agen_detail
-        where komisi_agen_id = payment.id) totals
+    join (select agent_id, sum(commission) as total from sample_earned where day < date '{month}' group by 1) sums
+        on agent_id = of
     order by payment.id;
     delete from sample_earned where day < date '{month}' and exists (select from sample_payment where of = agent_id);
 )";

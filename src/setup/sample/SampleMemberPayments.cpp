@@ -20,32 +20,35 @@ const char payments[] = R"(
         order by day, member_id
     ) paid;
 
-    insert into piutang_detail (createdby, createdtime, version, piutang_id, invoice_id, amount_paid_currency,
-        amount_paid_amount, amount_due_currency, amount_due_amount)
-    select maker, made, 1, payment.id, invoice_id, '{currency}', amount, '{currency}', due - amount
+    truncate sample_part;
+    insert into sample_part
+    select payment.id, invoice_id, amount, due - amount
     from sample_payment payment
     join sample_owed owed on member_id = of and owed.day < date '{month}' and due > 1
     cross join lateral (select case when pg_temp.chance(payment.id, 101) % 4 = 0 then due / 2 else due end as amount)
         amounts
     order by payment.id, invoice_id;
+    analyze sample_payment, sample_part;
 
+    insert into piutang_detail (createdby, createdtime, version, piutang_id, invoice_id, amount_paid_currency,
+        amount_paid_amount, amount_due_currency, amount_due_amount)
+    select maker, made, 1, id, document_id, '{currency}', amount, '{currency}', remaining
+    from sample_payment join sample_part on payment_id = id order by id, document_id;
     insert into piutang (id, createdby, createdtime, version, payment_type, member_id, payment_date, no, check_no, note,
         grandtotal_currency, grandtotal_amount, bank_id, noref)
     select id, maker, made, 1, 1 + pg_temp.chance(id, 102) % 2, of, day, no, '', '', '{currency}',
-        (select sum(amount_paid_amount) from piutang_detail where piutang_id = payment.id), cash, ''
+        (select sum(amount) from sample_part where payment_id = payment.id), cash, ''
     from sample_payment payment cross join sample_house order by id;
 )";
 
 const char dues[] = R"(
-    update invoice set other_payment_amount = other_payment_amount + line.amount_paid_amount,
-        net_due_amount = line.amount_due_amount, status = case when line.amount_due_amount <= 0 then 1 else 3 end,
-        version = invoice.version + 1, updatedby = maker, updatedtime = made
-    from sample_payment payment join piutang_detail line on piutang_id = payment.id
-    where invoice.id = invoice_id;
+    update invoice set other_payment_amount = other_payment_amount + amount, net_due_amount = remaining,
+        status = case when remaining <= 0 then 1 else 3 end, version = version + 1, updatedby = maker,
+        updatedtime = made
+    from sample_payment payment join sample_part on payment_id = payment.id
+    where invoice.id = document_id;
 
-    update sample_owed owed set due = due - amount_paid_amount
-    from sample_payment payment join piutang_detail line on piutang_id = payment.id
-    where owed.invoice_id = line.invoice_id;
+    update sample_owed set due = remaining from sample_part where invoice_id = document_id;
     delete from sample_owed where due = 0;
 )";
 } // namespace

@@ -20,27 +20,31 @@ const char bills[] = R"(
         order by nth
     ) paid;
 
-    insert into payment_invoice (createdby, createdtime, version, payment_id, acquisition_id, amount_paid_currency,
-        amount_paid_amount, amount_due_currency, amount_due_amount)
-    select maker, made, 1, payment.id, bill.id, '{currency}', amount, '{currency}', net_due_amount - amount
+    truncate sample_part;
+    insert into sample_part
+    select payment.id, bill.id, amount, net_due_amount - amount
     from sample_payment payment
     join acquisition bill on supplier_id = of and status <> 1 and purchase_date < date '{month}'
         and net_due_amount > 1
     cross join lateral (select case when pg_temp.chance(payment.id, 81) % 7 = 0 then trunc(net_due_amount / 2)
         else net_due_amount end as amount) amounts
     order by payment.id, bill.id;
+    insert into payment_invoice (createdby, createdtime, version, payment_id, acquisition_id, amount_paid_currency,
+        amount_paid_amount, amount_due_currency, amount_due_amount)
+    select maker, made, 1, id, document_id, '{currency}', amount, '{currency}', remaining
+    from sample_payment join sample_part on payment_id = id order by id, document_id;
 
     insert into payment (id, createdby, createdtime, version, payment_type, supplier_id, no, check_no, payment_date,
         note, grandtotal_currency, grandtotal_amount, bank_id, noref)
     select id, maker, made, 1, 1 + pg_temp.chance(id, 82) % 2, of, no, '', day, '', '{currency}',
-        (select sum(amount_paid_amount) from payment_invoice where payment_id = payment.id), checking, ''
+        (select sum(amount) from sample_part where payment_id = payment.id), checking, ''
     from sample_payment payment cross join sample_house order by id;
 
-    update acquisition set other_payment_amount = other_payment_amount + line.amount_paid_amount,
-        net_due_amount = line.amount_due_amount, status = case when line.amount_due_amount <= 0 then 1 else 3 end, version = acquisition.version + 1,
-        updatedby = maker, updatedtime = made
-    from sample_payment payment join payment_invoice line on payment_id = payment.id
-    where acquisition.id = acquisition_id;
+    update acquisition set other_payment_amount = other_payment_amount + amount, net_due_amount = remaining,
+        status = case when remaining <= 0 then 1 else 3 end, version = version + 1, updatedby = maker,
+        updatedtime = made
+    from sample_payment payment join sample_part on payment_id = payment.id
+    where acquisition.id = document_id;
 )";
 
 const char expenses[] = R"(

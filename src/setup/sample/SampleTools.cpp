@@ -38,6 +38,9 @@ const char scratch[] = R"(
         maker int, no text, line_id bigint, item_id int, qty int, amount bigint, is_cancelled boolean) on commit drop;
     -- Payments of any kind; of is the supplier, the member or the agent.
     create temp table sample_payment (id bigint, of int, day date, made timestamp, maker int, no text) on commit drop;
+    -- What a payment pays of one document, and what is then left of it.
+    create temp table sample_part (payment_id bigint, document_id bigint, amount bigint, remaining bigint)
+        on commit drop;
     create temp table sample_entry (id bigint, day date, made timestamp, maker int, no text, amount bigint,
         is_debit boolean, notes text) on commit drop;
 
