@@ -8,7 +8,8 @@ const char entries[] = R"(
     insert into sample_entry
     select nextval('cash_flow_id_seq'), entry.*
     from (
-        select day, made, owner, pg_temp.numbered(prefix, next_id + step * (row_number() over (order by made) - 1), digits),
+        select day, made, owner, pg_temp.numbered(prefix, next_id + step
+            * (row_number() over (order by made) - 1), digits),
             amount, is_debit, notes
         from (
             select day::date as day, day + time '10:00' as made, 20 * {unit} as amount, true as is_debit,
@@ -36,7 +37,8 @@ const char transfers[] = R"(
     select nextval('accounting_trans_id_seq'), transfer.*
     from (
         select due.day, due.day + time '10:00' as made, owner,
-            pg_temp.numbered(prefix, next_id + step * (row_number() over (order by due.day) - 1), digits), amount, false,
+            pg_temp.numbered(prefix, next_id + step
+                * (row_number() over (order by due.day) - 1), digits), amount, false,
             'Cash of the week'
         from (select day::date as day from generate_series(date '{from}', date '{to}', interval '1 day') day
             where extract(dow from day) = 2) due

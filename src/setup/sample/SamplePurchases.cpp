@@ -11,7 +11,8 @@ const char deliveries[] = R"(
     select nextval('acquisition_id_seq'), made.*
     from (
         select due.key, supplier_id, due.day, made, maker,
-            pg_temp.numbered(prefix, next_id + step * (row_number() over (order by made, due.key) - 1), digits), null::bigint,
+            pg_temp.numbered(prefix, next_id + step
+                * (row_number() over (order by made, due.key) - 1), digits), null::bigint,
             pg_temp.chance(due.key, 60) % 10 + case when is_ordered then 100 else 0 end
         from (
             select (day - date '2000-01-01') * 1000::bigint + nth as key, id as supplier_id, day,
@@ -32,7 +33,8 @@ const char deliveries[] = R"(
         case when ordered > 0 then nextval('purchase_order_detail_id_seq') end
     from (
         select delivery.id, item_id, qty,
-            case when order_id is null then 0 else qty + (pg_temp.chance(key + item_id, 61) % 20 = 0)::int end as ordered,
+            case when order_id is null then 0 else qty
+                + (pg_temp.chance(key + item_id, 61) % 20 = 0)::int end as ordered,
             cost
         from sample_delivery delivery join sample_goods using (supplier_id)
         left join (select item_id, sum(qty) as sold from sample_line join sample_sale using (key)

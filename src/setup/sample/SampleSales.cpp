@@ -32,7 +32,8 @@ const char parties[] = R"(
             house.guests[1 + pg_temp.chance(key, 13) % cardinality(house.guests)] as guest
         from arrivals, sample_house house
     ), bills as (
-        select *, case kind when 'TRD' then 3 + pg_temp.chance(key, 14) % 6 when 'TRF' then 1 + pg_temp.chance(key, 14) % 4
+        select *, case kind when 'TRD' then 3 + pg_temp.chance(key, 14) % 6 when 'TRF'
+            then 1 + pg_temp.chance(key, 14) % 4
                   else 2 + pg_temp.chance(key, 14) % 5 end as lines,
             case when kind = 'TRD' and pg_temp.chance(key, 15) % 25 = 0 then 2 + pg_temp.chance(key, 16) % 2
                  else 1 end as bills,
@@ -71,7 +72,8 @@ const char bills[] = R"(
     select nextval('invoice_id_seq'), bill.*
     from (
         select priced.key, part, kind, day, made, maker,
-            pg_temp.numbered(prefix, next_id + step * (row_number() over (partition by kind order by made, priced.key, part) - 1),
+            pg_temp.numbered(prefix, next_id + step
+                * (row_number() over (partition by kind order by made, priced.key, part) - 1),
                 digits),
             sub, percent, discount, 10, tax, service_percent, service, total,
             case when on_credit then case when pg_temp.chance(key, 40) % 2 = 0 then 0 else total / 2 end
@@ -86,7 +88,8 @@ const char bills[] = R"(
                 case kind when 'TRD' then 5 else 0 end as service_percent,
                 case kind when 'TRD' then pg_temp.kept(sub * (5::float8 / 100)) else 0 end as service
             from sample_sale sale
-            join (select key, part, sum(qty * price)::bigint as sub from sample_line group by key, part) sums using (key)
+            join (select key, part, sum(qty * price)::bigint as sub
+                from sample_line group by key, part) sums using (key)
         ) priced cross join lateral (select sub - discount + tax + service as total) totals
         join sample_number numbers using (day) where numbers.name = kind
         order by made, priced.key, part

@@ -8,8 +8,8 @@
  * the same rows.
  *
  * Words in braces stand for values that SampleTrade fills in: {seed}, {currency}, {unit} (what the cheapest things
- * cost), {factor} (minor units of the currency), {perday}, {begin}, {today} and {samplekey}; in the statements of a month also
- * {month} (its first day), and {from} and {to}, the days of it that are filled.
+ * cost), {factor} (minor units of the currency), {perday}, {begin}, {today} and {samplekey}; in the statements of a
+ * month also {month} (its first day), and {from} and {to}, the days of it that are filled.
  */
 namespace Sample
 {
