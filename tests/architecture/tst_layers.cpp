@@ -5,7 +5,6 @@
 #include <QHash>
 #include <QRegularExpression>
 #include <QSet>
-#include <QTest>
 
 namespace
 {
@@ -112,12 +111,7 @@ private slots:
         }
     }
 
-    void noCircleAmongRooms_data()
-    {
-        const auto row = addColumns<bool>("folders");
-        row("rooms", false);
-        row("folders", true);
-    }
+    void noCircleAmongRooms_data() { addRows<bool>("folders", {{"rooms", false}, {"folders", true}}); }
     /** Without cycles, an engineer can read one room with the rooms below it, instead of the whole layer. */
     void noCircleAmongRooms()
     {

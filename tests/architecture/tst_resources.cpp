@@ -6,7 +6,6 @@
 #include <QImage>
 #include <QMap>
 #include <QRegularExpression>
-#include <QTest>
 
 namespace
 {

@@ -1,6 +1,5 @@
 #include "app/context/EntityUser.h"
 #include "app/history/DataMapperHistory.h"
-#include "app/money/Money.h"
 #include "app/registry/AppMapperRegistry.h"
 #include "support/DatabaseTest.h"
 

@@ -3,10 +3,8 @@
 #include "app/context/DatabaseManager.h"
 #include "app/registry/AppBusinessRegistry.h"
 #include "app/registry/AppMapperRegistry.h"
-#include "kor/business/KorBusinessLogic.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "kor/install/KorInstallerThread.h"
-#include "kor/system/KorLogger.h"
 #include "pos/masterdata/company/BusinessDataPerusahaan.h"
 #include "pos/masterdata/company/EntityDataPerusahaan.h"
 #include "pos/printing/configuration/BusinessPrinterConfig.h"
@@ -19,17 +17,17 @@
 #include "zavel/registry/ZavelMapperRegistry.h"
 
 #include <QEventLoop>
-#include <QFile>
 #include <QImage>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QThread>
 #include <QTimer>
 
 namespace
 {
+QString text(TestDatabase& database, const QString& statement) { return database.value(statement).toString(); }
+
 QList<KorBusinessLogic*> services()
 {
     return AppBusinessRegistry::instance()->all() + PosBusinessRegistry::instance()->all() +
@@ -55,9 +53,8 @@ int allTables()
 QString contentOf(TestDatabase& database)
 {
     const QStringList tables =
-        database
-            .value("select string_agg(tablename, ' ' order by tablename) from pg_tables where schemaname = 'public'")
-            .toString()
+        text(database,
+             "select string_agg(tablename, ' ' order by tablename) from pg_tables where schemaname = 'public'")
             .split(' ');
     QStringList content;
     for (const QString& table : tables) {
@@ -67,17 +64,13 @@ QString contentOf(TestDatabase& database)
         const QString rows = QString("select string_agg((to_jsonb(t) - 'createdtime' - 'updatedtime'%1)::text, E'\\n' "
                                      "order by t.id) from %2 t %3")
                                  .arg(settings ? " - 'id'" : "", table, settings ? "where appkey <> 'reports'" : "");
-        content.append(table + ":\n" + database.value(rows).toString());
+        content.append(table + ":\n" + text(database, rows));
     }
-    content.append(database
-                       .value("select string_agg(indexdef, E'\\n' order by indexdef) from pg_indexes where "
-                              "schemaname = 'public'")
-                       .toString());
-    content.append(database
-                       .value("select string_agg(conrelid::regclass || ' ' || conname || ' ' || "
-                              "pg_get_constraintdef(oid), E'\\n' order by conrelid::regclass::text, conname) "
-                              "from pg_constraint where connamespace = 'public'::regnamespace")
-                       .toString());
+    content.append(text(database, "select string_agg(indexdef, E'\\n' order by indexdef) from pg_indexes where "
+                                  "schemaname = 'public'"));
+    content.append(text(database, "select string_agg(conrelid::regclass || ' ' || conname || ' ' || "
+                                  "pg_get_constraintdef(oid), E'\\n' order by conrelid::regclass::text, conname) "
+                                  "from pg_constraint where connamespace = 'public'::regnamespace"));
     return content.join('\n');
 }
 
@@ -105,11 +98,7 @@ private slots:
     void init() { AppContext::instance()->setCurrentUser(nullptr); }
     void aNewRestaurantFindsItsFirstRows_data()
     {
-        addColumns<QString, QString, QStringList>("table", "columns", "expected");
-
-        const auto row = [](const char* table, const char* columns, const QStringList& expected) {
-            addRow(table, QString(table), QString(columns), expected);
-        };
+        const auto row = addColumns<QString, QStringList>("columns", "expected");
         row("user_group", "name", {"admin", "operator", "kasir"});
         row("users", "first_name, last_name, username, user_group_id, currency",
             {"admin|pos|admin|1|$", "operator|dewi|dewi|2|$"});
@@ -153,13 +142,11 @@ private slots:
     }
     void aNewRestaurantFindsItsFirstRows()
     {
-        FETCH(QString, table, columns);
+        QFETCH(QString, columns);
         QFETCH(QStringList, expected);
         const QString found =
-            m_installed
-                ->value(
-                    QString("select string_agg(concat_ws('|', %1), E'\\n' order by id) from %2").arg(columns, table))
-                .toString();
+            text(*m_installed, QString("select string_agg(concat_ws('|', %1), E'\\n' order by id) from %2")
+                                   .arg(columns, QTest::currentDataTag()));
         const auto plain = [](QString text) {
             // The server writes booleans as one letter.
             return text.replace(QRegExp("\\|t(?=\\||\\n|$)"), "|true").replace(QRegExp("\\|f(?=\\||\\n|$)"), "|false");
@@ -176,34 +163,28 @@ private slots:
                 told.append(QString("%1 %2").arg(right.first).arg(right.second));
             told.sort();
             QStringList found =
-                m_installed
-                    ->value(QString("select string_agg(permission_key || ' ' || permission_name, '|') from permissions "
-                                    "join business on business.id = business_id where business.name = '%1'")
-                                .arg(service->name()))
-                    .toString()
+                text(*m_installed,
+                     QString("select string_agg(permission_key || ' ' || permission_name, '|') from permissions "
+                             "join business on business.id = business_id where business.name = '%1'")
+                         .arg(service->name()))
                     .split('|', Qt::SkipEmptyParts);
             found.sort();
             QCOMPARE(found, told);
         }
-        QCOMPARE(m_installed->value("select count(*) from business").toInt(), services().size());
+        QCOMPARE(text(*m_installed, "select count(*) from business").toInt(), services().size());
     }
 
     void administratorsMayDoEverythingAndNobodyElseAnything()
     {
-        QCOMPARE(m_installed
-                     ->value("select count(distinct permission_id) from access join user_group on user_group.id = "
-                             "group_id where user_group.name = 'admin' and grant_type = 2")
+        QCOMPARE(text(*m_installed,
+                      "select count(distinct permission_id) from access join user_group on user_group.id = "
+                      "group_id where user_group.name = 'admin' and grant_type = 2")
                      .toInt(),
                  allPermissions());
-        QCOMPARE(m_installed->value("select count(*) from access").toInt(), allPermissions());
+        QCOMPARE(text(*m_installed, "select count(*) from access").toInt(), allPermissions());
     }
 
-    void theFirstUsersCanLogIn_data()
-    {
-        const auto row = addColumns<int>("rights");
-        row("admin", allPermissions());
-        row("dewi", 0);
-    }
+    void theFirstUsersCanLogIn_data() { addRows<int>("rights", {{"admin", allPermissions()}, {"dewi", 0}}); }
     void theFirstUsersCanLogIn()
     {
         QFETCH(int, rights);
@@ -262,13 +243,12 @@ private slots:
         QVERIFY(service<BusinessUser>("User")->login("o'hara", "s3cret"));
         // With the owner's own password, the default one does not work.
         QVERIFY(!service<BusinessUser>("User")->login("dewi", "Qx7!Rm2z"));
-        QCOMPARE(database.value("select count(*) from users").toInt(), 2);
+        QCOMPARE(text(database, "select count(*) from users").toInt(), 2);
         const auto localization = QJsonDocument::fromJson(
-            database.value("select appvalue from appconfig where appkey = 'localization'").toByteArray());
+            text(database, "select appvalue from appconfig where appkey = 'localization'").toUtf8());
         QCOMPARE(localization.object(), (QJsonObject{{"date_time_format", "dd/MM/yyyy"}, {"locale", "id_ID"}}));
         // The first prices are in the currency of the chosen locale.
-        QCOMPARE(database.value("select string_agg(distinct harga_jual_lokal_currency, ',') from item").toString(),
-                 QString("Rp"));
+        QCOMPARE(text(database, "select string_agg(distinct harga_jual_lokal_currency, ',') from item"), QString("Rp"));
     }
 
     void theInstallationTellsHowFarItIs()
@@ -357,8 +337,8 @@ private slots:
         QVERIFY(run.lines.contains("[26%] " + run.failures.first()));
         QCOMPARE(run.lines.filter(" installed").size(), allTables() - 1);
         QCOMPARE(run.lines.last(), QString("[100%] Done. Please restart the app"));
-        QCOMPARE(database.value("select count(*) from meja").toInt(), 2);
-        QCOMPARE(database.value("select count(*) from access").toInt(), allPermissions());
+        QCOMPARE(text(database, "select count(*) from meja").toInt(), 2);
+        QCOMPARE(text(database, "select count(*) from access").toInt(), allPermissions());
         QFile log(logFile);
         QVERIFY(log.open(QIODevice::ReadOnly));
         QVERIFY(log.readAll().contains("cash_flow error: "));

@@ -3,9 +3,7 @@
 #include "pos/registry/PosMapperRegistry.h"
 #include "pos/totals/InvoiceTotals.h"
 #include "support/DatabaseTest.h"
-#include "support/ShopRows.h"
 #include "support/TripCount.h"
-#include "zavel/dinein/EntityInvoiceMakanDitempat.h"
 #include "zavel/service/BusinessPenjualan.h"
 
 namespace
@@ -194,9 +192,7 @@ private slots:
 
     void aSessionLostBetweenTwoLinesWritesNothing_data()
     {
-        const auto row = addColumns<bool>("isStored");
-        row("of a new invoice", false);
-        row("of a changed invoice", true);
+        addRows<bool>("isStored", {{"of a new invoice", false}, {"of a changed invoice", true}});
     }
     void aSessionLostBetweenTwoLinesWritesNothing()
     {
@@ -229,8 +225,7 @@ private:
 
     QList<EntityInvoiceDetail*> lines(const QList<Dish>& dishes)
     {
-        auto* rice = new EntityItem(m_records.get());
-        rice->setId(1);
+        auto* rice = known<EntityItem>(1);
         QList<EntityInvoiceDetail*> result;
         for (const Dish& dish : dishes) {
             auto* line = new EntityInvoiceDetail(m_records.get());

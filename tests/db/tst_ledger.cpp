@@ -1,4 +1,3 @@
-#include "kor/persistence/KorQuery.h"
 #include "pos/cash/ledger/BusinessCashFlow.h"
 #include "pos/cash/ledger/CashFlowFilter.h"
 #include "pos/cash/ledger/DataMapperCashFlow.h"
@@ -6,9 +5,7 @@
 #include "pos/cash/transfer/BusinessAccountingTransaction.h"
 #include "pos/cash/transfer/EntityAccountingTransaction.h"
 #include "support/DatabaseTest.h"
-#include "support/LedgerRows.h"
 #include "support/SalesRows.h"
-#include "support/ShopRows.h"
 
 #include <QRandomGenerator>
 #include <QTranslator>
@@ -107,8 +104,8 @@ protected:
     void prepare() override
     {
         insertShop(*m_database);
-        run("INSERT INTO bank (id, kode, nama, account_type, active, version) VALUES "
-            "(2, '2-AB', 'Safe', 1, true, 1), (3, '3-cd', 'Bank O''Neil', 1, true, 1)");
+        insert("bank", "id=2, kode='2-AB', nama='Safe', active=true");
+        insert("bank", "id=3, kode='3-cd', nama='Bank O''Neil', active=true");
         run("TRUNCATE users CASCADE");
         insertSeller(*m_database, 1, "ann");
         insertSeller(*m_database, 2, "ben");
@@ -117,12 +114,7 @@ protected:
     }
 
 private slots:
-    void theLedgerIsWhatTheDocumentsComeTo_data()
-    {
-        const auto row = addColumns<quint32>("seed");
-        for (quint32 seed : {1U, 2U, 3U})
-            row(qPrintable(QString("seed %1").arg(seed)), seed);
-    }
+    void theLedgerIsWhatTheDocumentsComeTo_data() { addSeeds({1U, 2U, 3U}); }
     void theLedgerIsWhatTheDocumentsComeTo()
     {
         QFETCH(quint32, seed);

@@ -1,13 +1,8 @@
 #include "app/context/EntityPool.h"
 #include "app/numbers/BusinessKey.h"
 #include "app/numbers/DataMapperKey.h"
-#include "app/numbers/DocumentNumber.h"
 #include "app/numbers/EntityKey.h"
-#include "kor/persistence/KorQuery.h"
 #include "pos/cash/ledger/DataMapperCashFlow.h"
-#include "pos/cash/ledger/EntityCashFlow.h"
-#include "pos/inventory/stock/DataMapperItemHistory.h"
-#include "pos/invoice/DataMapperInvoice.h"
 #include "pos/invoice/EntityInvoiceDetail.h"
 #include "pos/masterdata/account/DataMapperBank.h"
 #include "pos/masterdata/agent/DataMapperAgent.h"
@@ -24,13 +19,10 @@
 #include "support/DatabaseTest.h"
 #include "support/PurchasingRows.h"
 #include "support/SalesRows.h"
-#include "support/ShopRows.h"
 #include "support/TripCount.h"
 #include "zavel/commission/DataMapperKomisiAgen.h"
 #include "zavel/dinein/DataMapperInvoiceMakanDitempat.h"
 #include "zavel/dinein/DataMapperMakanDitempat.h"
-#include "zavel/dinein/EntityInvoiceMakanDitempat.h"
-#include "zavel/dinein/EntityMakanDitempatDetail.h"
 #include "zavel/fastfood/DataMapperInvoiceFastFood.h"
 #include "zavel/fastfood/EntityInvoiceFastFood.h"
 #include "zavel/receivable/DataMapperPiutang.h"
@@ -310,22 +302,10 @@ private slots:
         FETCH(QString, document, line);
         QFETCH(Save, removal);
         insertDineOrder(*m_database, {{1, 100}});
-        SaleRow sale;
-        sale.no = "TRF-0001";
-        sale.type = "TRF";
-        insertSale(*m_database, sale);
-        PurchaseRow purchase;
-        purchase.no = "NB-0001";
-        insertPurchase(*m_database, purchase);
-        run("INSERT INTO piutang (payment_type, member_id, payment_date, no, grandtotal_currency, "
-            "grandtotal_amount, version) VALUES (1, 1, now(), 'PIU-0001', 'Rp', 100, 1); "
-            "INSERT INTO piutang_detail (piutang_id, invoice_id, amount_paid_currency, amount_paid_amount, "
-            "amount_due_currency, amount_due_amount, version) VALUES (1, 1, 'Rp', 100, 'Rp', 100, 1)");
-        run("INSERT INTO komisi_agen (no, agent_id, payment_date, grandtotal_currency, grandtotal_amount, "
-            "amount_paid_currency, amount_paid_amount, net_due_currency, net_due_amount, version) VALUES "
-            "('KAG-0001', 1, now(), 'Rp', 10, 'Rp', 10, 'Rp', 0, 1); "
-            "INSERT INTO komisi_agen_detail (komisi_agen_id, invoice_id, commision_perc, commision_currency, "
-            "commision_amount, version) VALUES (1, 1, 10, 'Rp', 10, 1)");
+        insertSale(*m_database, {"TRF-0001", "TRF"});
+        insertPurchase(*m_database, {"NB-0001", ""});
+        for (const char* table : {"piutang", "piutang_detail", "komisi_agen", "komisi_agen_detail"})
+            insert(table, {});
 
         // A save writes the document, then its lines. The removal begins between the two.
         const QString change = "UPDATE %1 SET version = version + 1";
@@ -347,8 +327,6 @@ private slots:
         QVERIFY(!removed);
         QVERIFY2(errors.contains("has been updated by user id"), qPrintable(errors));
     }
-
-private:
 };
 
 QTEST_MAIN(TestManyTills)

@@ -2,10 +2,8 @@
 #include "kor/persistence/KorBatch.h"
 #include "kor/persistence/KorDatabase.h"
 #include "support/DatabaseTest.h"
-#include "support/TestCluster.h"
 #include "zavel/registry/ZavelMapperRegistry.h"
 #include "zavel/tables/DataMapperMeja.h"
-#include "zavel/tables/EntityMeja.h"
 
 Q_DECLARE_METATYPE(KorConditions)
 
@@ -24,9 +22,7 @@ protected:
 private slots:
     void aNewTableIsStampedAndFoundAgain()
     {
-        EntityMeja table;
-        table.setKode("A1");
-        table.setNama("Window's 50% corner");
+        EntityMeja& table = *newTable("A1", "Window's 50% corner");
         QVERIFY2(m_mapper->insert(&table), qPrintable(m_mapper->takeError()));
         QVERIFY(table.isSaved());
 
@@ -99,24 +95,19 @@ private slots:
 
     void manyTablesAtOnceAreStoredAsOneByOne_data()
     {
-        const auto row = addColumns<QString>("name");
-        row("plain", "Window");
-        row("empty", "");
-        row("quotes and backslashes", "o'B\\'' \\x \"n\"");
-        row("placeholders", "? :name $1 %1; drop table meja");
-        row("line ends and other letters", QString::fromUtf8("a\r\nb\tü 窓"));
+        addRows<QString>("name", {{"plain", "Window"},
+                                  {"empty", ""},
+                                  {"quotes and backslashes", "o'B\\'' \\x \"n\""},
+                                  {"placeholders", "? :name $1 %1; drop table meja"},
+                                  {"line ends and other letters", QString::fromUtf8("a\r\nb\tü 窓")}});
     }
     void manyTablesAtOnceAreStoredAsOneByOne()
     {
         QFETCH(QString, name);
-        EntityMeja one;
-        EntityMeja first;
-        EntityMeja second;
+        EntityMeja& one = *newTable("A0", name);
+        EntityMeja& first = *newTable("A1", name);
+        EntityMeja& second = *newTable("A2", name);
         const QList<EntityMeja*> tables{&one, &first, &second};
-        for (EntityMeja* table : tables) {
-            table->setKode(QString("A%1").arg(tables.indexOf(table)));
-            table->setNama(name);
-        }
         QVERIFY2(m_mapper->insert(&one), qPrintable(m_mapper->takeError()));
         QVERIFY2(m_mapper->update(&one), qPrintable(m_mapper->takeError()));
         KorTransaction transaction;
@@ -137,10 +128,8 @@ private slots:
 
     void whatFoundNoRowIsToldAndStopsNothing()
     {
-        EntityMeja stays;
-        EntityMeja goes;
-        stays.setKode("A");
-        goes.setKode("B");
+        EntityMeja& stays = *newTable("A", "");
+        EntityMeja& goes = *newTable("B", "");
         KorBatch inserts;
         m_mapper->insertWith(inserts, {&stays, &goes});
         QVERIFY(inserts.send());
@@ -159,9 +148,7 @@ private slots:
 
     void theSlowerOfTwoWorkstationsIsTold()
     {
-        EntityMeja table;
-        table.setKode("A1");
-        table.setNama("One");
+        EntityMeja& table = *newTable("A1", "One");
         QVERIFY(m_mapper->insert(&table));
         run("UPDATE meja SET version = version + 1, updatedby = 9, updatedtime = now()");
         QVERIFY(!m_mapper->update(&table));
@@ -177,9 +164,7 @@ private slots:
 
     void aLostConnectionIsAnErrorAndHealsByItself()
     {
-        EntityMeja table;
-        table.setKode("A1");
-        table.setNama("One");
+        EntityMeja& table = *newTable("A1", "One");
         m_database->killConnections();
         QVERIFY(!m_mapper->insert(&table));
         const QString error = m_mapper->takeError();
@@ -198,9 +183,7 @@ private slots:
 
     void aTransactionThatCouldNotBeginWritesNothing()
     {
-        EntityMeja table;
-        table.setKode("A1");
-        table.setNama("One");
+        EntityMeja& table = *newTable("A1", "One");
         TestCluster::instance().run("ALTER DATABASE " + m_database->name() + " WITH ALLOW_CONNECTIONS false");
         m_database->killConnections();
         {
@@ -240,6 +223,14 @@ private slots:
     }
 
 private:
+    [[nodiscard]] EntityMeja* newTable(const QString& code, const QString& name) const
+    {
+        auto* table = new EntityMeja(m_records.get());
+        table->setKode(code);
+        table->setNama(name);
+        return table;
+    }
+
     DataMapperMeja* m_mapper = nullptr;
 };
 

@@ -1,5 +1,3 @@
-#include "app/persistence/AppMasterMapper.h"
-#include "kor/entity/KorEntity.h"
 #include "kor/entity/KorMetaDataMap.h"
 #include "kor/persistence/KorMigration.h"
 #include "pos/masterdata/account/BusinessBank.h"
@@ -8,8 +6,6 @@
 #include "pos/registry/PosMapperRegistry.h"
 #include "support/DatabaseTest.h"
 #include "support/MasterFamilies.h"
-
-#include <QDate>
 
 #include <algorithm>
 
@@ -166,20 +162,14 @@ private slots:
         QCOMPARE(codeLength(family), 20);
     }
 
-    void olderSuppliersAndAgentsGetOneCodeEach_data()
-    {
-        const auto row = addColumns<QString>("table");
-        row("supplier", "supplier");
-        row("agent", "agent");
-    }
     void olderSuppliersAndAgentsGetOneCodeEach()
     {
-        QFETCH(QString, table);
-        const QString count =
-            "SELECT count(*) FROM pg_constraint WHERE contype = 'u' AND conrelid = '" + table + "'::regclass";
-        const int before = m_database->value(count).toInt();
-        QVERIFY(PosMapperRegistry::instance()->get(table)->migrate(1.0, 1.1));
-        QCOMPARE(m_database->value(count).toInt(), before + 1);
+        for (const QString table : {"supplier", "agent"}) {
+            const QString unique = "pg_constraint WHERE contype = 'u' AND conrelid = '" + table + "'::regclass";
+            const int before = count(unique);
+            QVERIFY(PosMapperRegistry::instance()->get(table)->migrate(1.0, 1.1));
+            QCOMPARE(count(unique), before + 1);
+        }
     }
 
     void aUnitsNameIsTakenOnceEvenUnderAnotherCode()
@@ -200,10 +190,9 @@ private slots:
     void aSupplierComesWithItsAccountInOneStatement()
     {
         const StatementCount statements;
-        run("INSERT INTO bank (id, kode, nama, account_type, active, version) "
-            "VALUES (41, '1010', 'Cash on Hand', 1, true, 1)");
-        run("INSERT INTO supplier (kode, nama, alamat, telp, email, bank_id, version) "
-            "VALUES ('f', 'Fish', '', '', '', 41, 1), ('b', 'Beans', '', '', '', NULL, 1)");
+        insert("bank", "id=41, kode='1010', nama='Cash on Hand'");
+        insert("supplier", "kode='f', nama='Fish', bank_id=41");
+        insert("supplier", "kode='b', nama='Beans'");
         auto* suppliers = service<BusinessSupplier>("Supplier");
         const QList<KorEntity*> found = suppliers->findByFilter(QString());
         QCOMPARE(names(found), (QStringList{"Beans", "Fish"}));
@@ -225,8 +214,7 @@ private slots:
         QVERIFY(!accounts->cashOnHand());
         QVERIFY(!accounts->hasError());
         for (const QString& code : codes)
-            run("INSERT INTO bank (kode, nama, account_type, active, version) VALUES ('" + code +
-                "', 'Account', 1, true, 1)");
+            insert("bank", "kode='" + code + '\'');
         const QList<EntityBank*> found{accounts->cashOnHand(),        accounts->checkingAccount(),
                                        accounts->accountReceivable(), accounts->inventory(),
                                        accounts->accountsPayable(),   accounts->salesOfMaterials(),
@@ -243,10 +231,9 @@ private:
     }
     int codeLength(const MasterFamily& family)
     {
-        return m_database
-            ->value("SELECT character_maximum_length FROM information_schema.columns WHERE column_name = 'kode' AND "
-                    "table_name = '" +
-                    family.table + '\'')
+        return value("SELECT character_maximum_length FROM information_schema.columns WHERE column_name = 'kode' AND "
+                     "table_name = '" +
+                     family.table + '\'')
             .toInt();
     }
 };

@@ -12,6 +12,7 @@ protected:
     void prepare() override
     {
         m_make = std::make_unique<Builders>();
+        m_rice = m_make->item("RICE", "Rice", 10000);
         m_sales = service<BusinessPenjualan>("Sales");
     }
 
@@ -29,11 +30,10 @@ private slots:
         FETCH(QString, code, name);
         QFETCH(bool, refused);
         EntityMeja* table = m_make->table(code, name);
-        EntityItem* rice = m_make->item("RICE", "Rice", 10000);
-        EntityMakanDitempat* first = m_make->order(table, {m_make->line(rice, 1)});
+        EntityMakanDitempat* first = m_make->order(table, {m_make->line(m_rice, 1)});
         QVERIFY2(m_sales->insertNewOrder(first), qPrintable(m_sales->takeErrors()));
 
-        EntityMakanDitempat* second = m_make->order(table, {m_make->line(rice, 2)});
+        EntityMakanDitempat* second = m_make->order(table, {m_make->line(m_rice, 2)});
         QCOMPARE(m_sales->insertNewOrder(second), !refused);
         QCOMPARE(m_sales->takeErrors(), refused ? QString("Meja sudah terisi\r\n") : QString());
         QCOMPARE(second->isSaved(), !refused);
@@ -48,14 +48,13 @@ private slots:
     void ofTwoWaitersAtOneTableOneIsRefused()
     {
         EntityMeja* table = m_make->table("t1");
-        EntityItem* rice = m_make->item("RICE", "Rice", 10000);
         // The other transaction holds the lock and commits a moment later.
         const QString id = QString::number(table->getId());
         const SlowNeighbour other(*m_database, {"SELECT 1 FROM meja WHERE id = " + id + " FOR UPDATE",
                                                 "INSERT INTO makan_ditempat (status, meja_id, pemesan, tgl, version) "
                                                 "VALUES (1, " +
                                                     id + ", 'Bob', current_date, 1)"});
-        EntityMakanDitempat* order = m_make->order(table, {m_make->line(rice, 1)});
+        EntityMakanDitempat* order = m_make->order(table, {m_make->line(m_rice, 1)});
         QVERIFY(!m_sales->insertNewOrder(order));
         QCOMPARE(m_sales->takeErrors(), QString("Meja sudah terisi\r\n"));
         QCOMPARE(value("SELECT string_agg(pemesan, ',') FROM makan_ditempat"), QString("Bob"));
@@ -63,10 +62,9 @@ private slots:
 
     void anOrderMovesOntoATakenTable()
     {
-        EntityItem* rice = m_make->item("RICE", "Rice", 10000);
         EntityMeja* taken = m_make->table("t1");
-        m_make->openOrder(taken, {m_make->line(rice, 1)});
-        EntityMakanDitempat* order = m_make->openOrder(m_make->table("t2"), {m_make->line(rice, 1)});
+        m_make->openOrder(taken, {m_make->line(m_rice, 1)});
+        EntityMakanDitempat* order = m_make->openOrder(m_make->table("t2"), {m_make->line(m_rice, 1)});
         order->moveTo(taken);
         QVERIFY2(m_sales->updateOrder(order), qPrintable(m_sales->takeErrors()));
         QCOMPARE(m_sales->getMakanDitempatList(0, "t1").size(), 2);
@@ -74,8 +72,7 @@ private slots:
 
     void aMovedOrderRemembersTheTablesItLeft()
     {
-        EntityMakanDitempat* order =
-            m_make->openOrder(m_make->table("A"), {m_make->line(m_make->item("RICE", "Rice", 10000), 1)});
+        EntityMakanDitempat* order = m_make->openOrder(m_make->table("A"), {m_make->line(m_rice, 1)});
         for (const char* code : {"B", "C"}) {
             EntityMakanDitempat* found = m_sales->findOrder(order->getId());
             EntityMeja* table = m_make->table(code);
@@ -100,9 +97,8 @@ private slots:
         FETCH(int, qty, status);
         QFETCH(QString, description);
         QFETCH(bool, otherItem);
-        EntityItem* rice = m_make->item("RICE", "Rice", 10000);
         EntityItem* tea = m_make->item("TEA", "Tea", 5000);
-        EntityMakanDitempatDetail* line = m_make->line(rice, 2, "hot");
+        EntityMakanDitempatDetail* line = m_make->line(m_rice, 2, "hot");
         EntityMakanDitempatDetail* untouched = m_make->line(tea, 1);
         untouched->setStatus(EntityOrderDetail::OUT_OF_STOCK);
         EntityMakanDitempat* order = m_make->order(m_make->table("t1"), {untouched, line});
@@ -125,11 +121,10 @@ private slots:
 
     void aLineThatFailsTakesTheWholeOrderBack()
     {
-        EntityItem* rice = m_make->item("RICE", "Rice", 10000);
         EntityItem* gone = m_make->item("GONE", "Off the menu", 10000);
         run("DELETE FROM item WHERE kode = 'GONE'");
-        EntityMakanDitempat* order =
-            m_make->order(m_make->table("t1"), {m_make->line(rice, 1), m_make->line(gone, 1), m_make->line(rice, 2)});
+        EntityMakanDitempat* order = m_make->order(
+            m_make->table("t1"), {m_make->line(m_rice, 1), m_make->line(gone, 1), m_make->line(m_rice, 2)});
         QVERIFY(!m_sales->insertNewOrder(order));
         const QString told = m_sales->takeErrors();
         QVERIFY2(told.startsWith("error: insert dine detail failed.\r\n"), qPrintable(told));
@@ -156,8 +151,7 @@ private slots:
     {
         QFETCH(int, status);
         QFETCH(bool, removed);
-        EntityMakanDitempat* order =
-            m_make->openOrder(m_make->table("t1"), {m_make->line(m_make->item("RICE", "Rice", 10000), 1)});
+        EntityMakanDitempat* order = m_make->openOrder(m_make->table("t1"), {m_make->line(m_rice, 1)});
         order->setStatus(status);
         QVERIFY(m_sales->updateStatusMakanDitempat(order));
         QCOMPARE(m_sales->removeOrder(m_sales->findOrder(order->getId())), removed);
@@ -181,10 +175,10 @@ private slots:
         QFETCH(QString, text);
         QFETCH(int, status);
         QFETCH(QStringList, guests);
-        EntityItem* rice = m_make->item("RICE", "Rice", 10000);
-        m_make->openOrder(m_make->table("T1", "Terrace"), {m_make->line(rice, 1)}, "Ann");
-        m_make->openOrder(m_make->table("T2", "Garden"), {m_make->line(rice, 1)}, "Bob");
-        QVERIFY(m_sales->makanDitempatSelesai(m_make->openOrder(m_make->table("T3"), {m_make->line(rice, 1)}, "Gone")));
+        m_make->openOrder(m_make->table("T1", "Terrace"), {m_make->line(m_rice, 1)}, "Ann");
+        m_make->openOrder(m_make->table("T2", "Garden"), {m_make->line(m_rice, 1)}, "Bob");
+        QVERIFY(
+            m_sales->makanDitempatSelesai(m_make->openOrder(m_make->table("T3"), {m_make->line(m_rice, 1)}, "Gone")));
         QStringList found;
         const QList<EntityMakanDitempat*> orders = m_sales->getMakanDitempatList(status, text);
         for (const EntityMakanDitempat* order : orders)
@@ -234,6 +228,7 @@ private:
     }
 
     BusinessPenjualan* m_sales = nullptr;
+    EntityItem* m_rice = nullptr;
 };
 
 QTEST_MAIN(TestOrders)

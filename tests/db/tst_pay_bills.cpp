@@ -2,10 +2,7 @@
 #include "pos/purchasing/payment/BusinessPayment.h"
 #include "pos/purchasing/payment/EntityPayment.h"
 #include "pos/purchasing/purchase/BusinessPurchases.h"
-#include "pos/purchasing/purchase/EntityAcquisition.h"
 #include "support/DatabaseTest.h"
-#include "support/LedgerRows.h"
-#include "support/ShopRows.h"
 
 #include <QRandomGenerator>
 
@@ -38,21 +35,15 @@ protected:
         insertShop(*m_database);
         m_payments = service<BusinessPayment>("Payment");
         m_purchases = service<BusinessPurchases>("Purchases");
-        m_supplier = new EntitySupplier(m_records.get());
-        m_supplier->setId(1);
+        m_supplier = known<EntitySupplier>(1);
         m_paper.clear();
     }
 
 private slots:
-    void thePurchasesAgreeAfterAnyMonth_data()
-    {
-        const auto row = addColumns<uint>("seed");
-        for (uint seed : {1U, 2U, 3U})
-            row(qPrintable(QString("month %1").arg(seed)), seed);
-    }
+    void thePurchasesAgreeAfterAnyMonth_data() { addSeeds({1U, 2U, 3U}); }
     void thePurchasesAgreeAfterAnyMonth()
     {
-        QFETCH(uint, seed);
+        QFETCH(quint32, seed);
         QRandomGenerator chance(seed);
         const auto below = [&chance](int limit) { return static_cast<int>(chance.bounded(limit)); };
         // What each payment paid of each purchase.
@@ -102,7 +93,7 @@ private slots:
                         continue;
                     }
                     paid[purchase] = 1 + below(500);
-                    one->setAmountPaid(money(paid[purchase]));
+                    one->setAmountPaid(rupiah(paid[purchase]));
                 }
                 QVERIFY2(save(changed), qPrintable(m_payments->takeErrors()));
                 reckon(touched);
@@ -192,18 +183,15 @@ private:
     {
         const int id = m_paper.size() + 1;
         const Paper paper{total, paid, credits, 0};
-        const auto text = [](int number) { return QString::number(number); };
-        insertRows(*m_database, "acquisition",
-                   QString("no='NB-%1', supplier_id=1, bank_id=1, grandtotal_amount=%2, amount_paid_amount=%3, "
-                           "net_due_amount=%4, status=%5")
-                       .arg(id)
-                       .arg(text(total))
-                       .arg(text(paid))
-                       .arg(text(total - paid))
-                       .arg(text(paper.status())));
+        insert("acquisition", QString("no='NB-%1', supplier_id=1, bank_id=1, grandtotal_amount=%2, "
+                                      "amount_paid_amount=%3, net_due_amount=%4, status=%5")
+                                  .arg(id)
+                                  .arg(total)
+                                  .arg(paid)
+                                  .arg(total - paid)
+                                  .arg(paper.status()));
         if (credits > 0)
-            insertRows(*m_database, "credit_note",
-                       QString("acquisition_id=%1, amount_paid_amount=%2, bank_id=1").arg(text(id)).arg(text(credits)));
+            insert("credit_note", QString("acquisition_id=%1, amount_paid_amount=%2, bank_id=1").arg(id).arg(credits));
         m_paper.insert(id, paper);
         return id;
     }
@@ -211,23 +199,19 @@ private:
     EntityPaymentInvoices* line(int purchase, int amount)
     {
         auto* line = new EntityPaymentInvoices(m_records.get());
-        auto* paid = new EntityAcquisition(m_records.get());
-        paid->setId(purchase);
-        line->setAcquisition(paid);
-        line->setAmountPaid(money(amount));
-        line->setAmountDue(money(0));
+        line->setAcquisition(known<EntityAcquisition>(purchase));
+        line->setAmountPaid(rupiah(amount));
+        line->setAmountDue(rupiah(0));
         return line;
     }
 
     EntityPaymentExpenses* expense(int qty, int price)
     {
         auto* line = new EntityPaymentExpenses(m_records.get());
-        auto* item = new EntityItem(m_records.get());
-        item->setId(1);
-        line->setItem(item);
+        line->setItem(known<EntityItem>(1));
         line->setQty(qty);
-        line->setUnitPrice(money(price));
-        line->setDiscount(money(0));
+        line->setUnitPrice(rupiah(price));
+        line->setDiscount(rupiah(0));
         line->recomputeTotal();
         return line;
     }
@@ -237,7 +221,7 @@ private:
         auto* payment = new EntityPayment(m_records.get());
         payment->setSupplier(m_supplier);
         payment->setDate(QDate(2026, 3, 2));
-        payment->setGrandTotal(money(0));
+        payment->setGrandTotal(rupiah(0));
         payment->invoices().setDetails(lines);
         return payment;
     }
@@ -248,7 +232,6 @@ private:
     }
 
     EntityPayment* stored(int id) { return static_cast<EntityPayment*>(m_payments->find(id)); }
-    Money* money(int amount) { return new Money(m_records.get(), amount, "Rp"); }
     QString figures(int purchase)
     {
         return value(QString("SELECT concat_ws(' ', other_payment_amount, net_due_amount, status) FROM acquisition "

@@ -7,7 +7,6 @@
 #include "support/DatabaseTest.h"
 
 #include <QMutex>
-#include <QRegularExpression>
 #include <QSet>
 #include <QThread>
 

@@ -1,6 +1,5 @@
 #include "app/context/EntityPool.h"
 #include "support/DatabaseTest.h"
-#include "support/ShopRows.h"
 #include "zavel/list/EntitySalesSummaryInfo.h"
 #include "zavel/list/EntitySoldItem.h"
 #include "zavel/service/BusinessPenjualan.h"

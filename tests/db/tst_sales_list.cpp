@@ -1,6 +1,5 @@
 #include "support/DatabaseTest.h"
 #include "support/SalesRows.h"
-#include "support/ShopRows.h"
 #include "zavel/list/EntityPenjualanInfo.h"
 #include "zavel/list/EntitySalesSummaryInfo.h"
 #include "zavel/list/EntitySoldItem.h"
@@ -32,7 +31,7 @@ protected:
         m_sales = service<BusinessPenjualan>("Sales");
         insertSeller(*m_database, 1, "ann");
         insertSeller(*m_database, 2, "ben");
-        run("INSERT INTO meja (id, kode, nama, version) VALUES (2, 'T2', 'Door', 1)");
+        insert("meja", "id=2, kode='T2', nama='Door'");
     }
 
 private slots:
@@ -48,10 +47,9 @@ private slots:
         FETCH(QString, type, link, order);
         insertSale(*m_database, {"GOES", type, 900, 1000});
         insertSale(*m_database, {"STAYS", type});
-        run("INSERT INTO piutang (id, payment_type, member_id, payment_date, no, grandtotal_currency, "
-            "grandtotal_amount, version) VALUES (1, 1, 1, '2026-03-02', 'PIU-1', 'Rp', 10, 1)");
-        run("INSERT INTO piutang_detail (piutang_id, invoice_id, amount_paid_currency, amount_paid_amount, "
-            "amount_due_currency, amount_due_amount, version) SELECT 1, id, 'Rp', 10, 'Rp', 0, 1 FROM invoice");
+        insert("piutang", "id=1");
+        for (const char* invoice : {"1", "2"})
+            insert("piutang_detail", QString("invoice_id=%1").arg(invoice));
 
         QVERIFY2(m_sales->deleteSales(listed("GOES")), qPrintable(m_sales->takeErrors()));
         QVERIFY(!m_sales->hasError());

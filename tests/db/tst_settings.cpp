@@ -1,7 +1,9 @@
 #include "app/configuration/BusinessConfiguration.h"
+#include "pos/masterdata/company/BusinessDataPerusahaan.h"
+#include "pos/masterdata/company/EntityDataPerusahaan.h"
+#include "pos/printing/printer/BusinessPrinterType.h"
 #include "support/DatabaseTest.h"
 
-#include <QDir>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -17,7 +19,7 @@ public:
 };
 } // namespace
 
-/** The settings that all workstations share. */
+/** What all workstations share: the settings, the restaurant's own data with its logo, the models of printers. */
 class TestSettings : public DatabaseTest
 {
     Q_OBJECT
@@ -25,7 +27,9 @@ class TestSettings : public DatabaseTest
 protected:
     void prepare() override
     {
-        run("DELETE FROM appconfig");
+        run("DELETE FROM appconfig; DELETE FROM printer_type");
+        m_company = service<BusinessDataPerusahaan>("Company Profile");
+        m_types = service<BusinessPrinterType>("Printer Type");
         m_settings = service<BusinessConfiguration>("Configuration");
     }
     void tidy() override { QDir(QCoreApplication::applicationDirPath()).rmdir("reports"); }
@@ -62,8 +66,8 @@ private slots:
     void aDamagedRowHasNoMembersAndIsNoError()
     {
         QFETCH(QString, stored);
-        run("INSERT INTO appconfig (appkey, is_json, appvalue, version) VALUES ('localization', true, '" + stored +
-            "', 1)");
+        insertRows(*m_database, "appconfig",
+                   {{"appkey", "'localization'"}, {"is_json", "true"}, {"appvalue", '\'' + stored + '\''}});
         auto* localization = m_settings->getLocalization();
         QVERIFY(localization->isSaved());
         QTEST(localization->getLocale(), "locale");
@@ -137,8 +141,121 @@ private slots:
         QCOMPARE(m_settings->getConfigsLike("%ell").size(), 2);
     }
 
+    void aLogoSavedAgainReplacesTheFormer()
+    {
+        QByteArray everyByte;
+        for (int byte = 0; byte < 256; ++byte)
+            everyByte.append(char(byte));
+        for (const QByteArray& bytes : {QByteArray("first"), everyByte}) {
+            EntityDataPerusahaan* profile = m_company->getData();
+            QVERIFY(profile && profile->getLogo());
+            profile->setNamaPerusahaan("Warung " + QString::number(bytes.size()));
+            profile->getLogo()->setImageData(bytes);
+            QVERIFY2(m_company->updateData(profile), qPrintable(m_company->takeErrors()));
+        }
+        const EntityDataPerusahaan* profile = m_company->getData();
+        QCOMPARE(profile->getNamaPerusahaan(), QString("Warung 256"));
+        QCOMPARE(profile->getLogo()->getImageData(), everyByte);
+        QCOMPARE(count("images"), 1);
+        QCOMPARE(count("data_perusahaan"), 1);
+    }
+
+    void aRestaurantWithoutALogoGetsOne()
+    {
+        run("DELETE FROM images");
+        EntityDataPerusahaan* profile = m_company->getData();
+        QVERIFY(!profile->getLogo());
+        QVERIFY2(m_company->updateData(profile), qPrintable(m_company->takeErrors()));
+        QCOMPARE(count("images"), 0);
+
+        profile = m_company->getData();
+        profile->setLogo(new EntityImage(profile));
+        profile->getLogo()->setImageName(BusinessDataPerusahaan::logoName());
+        profile->getLogo()->setImageData("picture");
+        QVERIFY2(m_company->updateData(profile), qPrintable(m_company->takeErrors()));
+        QCOMPARE(m_company->getData()->getLogo()->getImageData(), QByteArray("picture"));
+    }
+
+    void aLogoThatIsRefusedTakesTheProfileBack()
+    {
+        run("DELETE FROM images");
+        EntityDataPerusahaan* profile = m_company->getData();
+        const QString name = profile->getNamaPerusahaan();
+        profile->setNamaPerusahaan("Half saved");
+        profile->setLogo(new EntityImage(profile));
+        QVERIFY(!m_company->updateData(profile));
+        QCOMPARE(m_company->errors().keys(), QStringList{"updateData"});
+        m_company->clearErrors();
+        QCOMPARE(m_company->getData()->getNamaPerusahaan(), name);
+
+        // The same form is saved once the cause is mended.
+        profile->getLogo()->setImageName(BusinessDataPerusahaan::logoName());
+        profile->getLogo()->setImageData("picture");
+        QVERIFY2(m_company->updateData(profile), qPrintable(m_company->takeErrors()));
+    }
+
+    void aProfileThatIsMissingIsMade()
+    {
+        run("DELETE FROM data_perusahaan");
+        QVERIFY(!m_company->getData() && !m_company->hasError());
+        EntityDataPerusahaan profile;
+        profile.setNamaPerusahaan("Warung");
+        QVERIFY2(m_company->updateData(&profile), qPrintable(m_company->takeErrors()));
+        QCOMPARE(m_company->getData()->getNamaPerusahaan(), QString("Warung"));
+    }
+
+    void aModelIsFoundByItsExactName()
+    {
+        QVERIFY2(add("GENERIC-ESC-POS", "27#112#0#60#120", "29#V#66#0"), qPrintable(m_types->takeErrors()));
+        const EntityPrinterType* model = m_types->findByType("GENERIC-ESC-POS");
+        QVERIFY(model);
+        QCOMPARE(model->getCashDrawerCmd(), QString("27#112#0#60#120"));
+        QCOMPARE(model->getCutPapperCmd(), QString("29#V#66#0"));
+        for (const QString& name : {QString("generic-esc-pos"), QString("GENERIC"), QString(""), QString("' OR ''='")})
+            QVERIFY2(!m_types->findByType(name), qPrintable(name));
+        QVERIFY(!m_types->hasError());
+    }
+
+    void modelsAreListedByName()
+    {
+        QVERIFY(add("GENERIC-ESC-POS", "", "29#V#66#0") && add("EPSON-TM-U220", "", "27#112") && add("BARE", "", ""));
+        QStringList names;
+        const QList<EntityPrinterType*> models = m_types->getAll();
+        for (const EntityPrinterType* model : models)
+            names.append(model->getPrinterType());
+        QCOMPARE(names, QStringList({"BARE", "EPSON-TM-U220", "GENERIC-ESC-POS"}));
+    }
+
+    void aNameIsGivenOnce()
+    {
+        QVERIFY(add("EPSON-TM-U220", "", ""));
+        QVERIFY(!add("EPSON-TM-U220", "", ""));
+        QVERIFY(m_types->errors().contains("insert"));
+        m_types->clearErrors();
+    }
+
+    void whatWentWrongIsToldUnderTheOperation()
+    {
+        run("ALTER TABLE printer_type RENAME TO elsewhere");
+        QVERIFY(m_types->getAll().isEmpty());
+        QVERIFY(!m_types->findByType("EPSON-TM-U220"));
+        QCOMPARE(m_types->errors().keys(), QStringList({"findByType", "getAll"}));
+        m_types->clearErrors();
+    }
+
 private:
+    bool add(const QString& name, const QString& drawer, const QString& cut)
+    {
+        EntityPrinterType model;
+        model.setPrinterType(name);
+        model.setCashDrawerCmd(drawer);
+        model.setCutPapperCmd(cut);
+        return m_types->insert(&model);
+    }
+
     BusinessConfiguration* m_settings = nullptr;
+    BusinessDataPerusahaan* m_company = nullptr;
+    BusinessPrinterType* m_types = nullptr;
 };
 
 QTEST_MAIN(TestSettings)

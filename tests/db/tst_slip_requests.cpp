@@ -1,15 +1,8 @@
 #include "pos/invoice/EntityInvoiceDetail.h"
+#include "pos/totals/InvoiceTotals.h"
 #include "support/DatabaseTest.h"
-#include "support/ShopRows.h"
-#include "zavel/dinein/EntityInvoiceMakanDitempat.h"
-#include "zavel/dinein/EntityMakanDitempat.h"
-#include "zavel/dinein/EntityMakanDitempatDetail.h"
 #include "zavel/service/BusinessPenjualan.h"
 #include "zavel/slips/ZavelReportFactory.h"
-#include "zavel/tables/EntityMeja.h"
-
-#include <QDir>
-#include <QFile>
 
 /** The slips that pages print, with settings and sales from the database. */
 class TestSlipRequests : public DatabaseTest
@@ -21,14 +14,10 @@ protected:
     {
         insertShop(*m_database);
         run("TRUNCATE users, user_group, data_perusahaan, printer_type, appconfig CASCADE");
-        run("INSERT INTO user_group (id, name, version) VALUES (1, 'admin', 1)");
-        run(QString("INSERT INTO users (id, first_name, last_name, username, password, user_group_id, currency, "
-                    "version) VALUES (%1, 'Sari', 'Dewi', 'sari', '', 1, 'Rp', 1)")
-                .arg(AppContext::instance()->currentUserId()));
-        run("INSERT INTO data_perusahaan (nama_perusahaan, alamat, phone, version) "
-            "VALUES ('Warung', 'Jalan 1', '022', 1)");
-        run("INSERT INTO printer_type (printer_type, cash_drawer_cmd, cut_papper_cmd, version) VALUES "
-            "('EPSON-TM-T88III', '', '27#109', 1)");
+        insert("user_group", "id=1, name='admin'");
+        insert("users", QString("id=%1, username='sari'").arg(AppContext::instance()->currentUserId()));
+        insert("data_perusahaan", "nama_perusahaan='Warung', alamat='Jalan 1', phone='022'");
+        insert("printer_type", "printer_type='EPSON-TM-T88III', cut_papper_cmd='27#109'");
         addSetting("cashier_printer", R"("printer_name":"Kasir","printer_type":"EPSON-TM-T88III","auto_cutter":"Yes",
                                  "no_of_copy":"1","column_paper":"40","no_of_blank_lines":"2","notes":"Bye")");
         addKitchen("Dapur", "FOOD", "Yes");
@@ -179,11 +168,8 @@ private:
 
     EntityMakanDitempat* placeOrder(int lines)
     {
-        auto* table = new EntityMeja(m_records.get());
-        table->setId(1);
+        auto* table = known<EntityMeja>(1);
         table->setKode("T1");
-        auto* item = new EntityItem(m_records.get());
-        item->setId(1);
         auto* order = new EntityMakanDitempat(m_records.get());
         order->setMeja(table);
         order->setPemesan("Ratna");
@@ -191,41 +177,34 @@ private:
         EntityOrder::Lines details;
         for (int i = 0; i < lines; ++i) {
             auto* line = new EntityMakanDitempatDetail(m_records.get());
-            line->setItem(item);
+            line->setItem(known<EntityItem>(1));
             line->setQty(2);
-            line->setPriceEach(new Money(line, 100.0, "Rp"));
-            line->setTotal(new Money(line, 200.0, "Rp"));
+            line->setPriceEach(rupiah(100));
+            line->setTotal(rupiah(200));
             details.append(line);
         }
         order->setDetails(details);
         return sales()->insertNewOrder(order) ? sales()->findOrder(order->getId()) : nullptr;
     }
 
-    template <class Sale>
-    Sale* sell(Sale* sale, int lines)
+    EntityInvoiceMakanDitempat* sellAtTable(int lines)
     {
-        auto* item = new EntityItem(sale);
-        item->setId(1);
+        auto* sale = new EntityInvoiceMakanDitempat(m_records.get());
+        sale->setMakanDitempat(placeOrder(lines));
         Invoice* invoice = sale->getInvoice();
         invoice->setInvoiceDate(QDate::currentDate());
         invoice->setAcctCode("1-100");
-        const auto set = [invoice](void (Invoice::*setter)(Money*), double value) {
-            (invoice->*setter)(new Money(invoice, value, "Rp"));
-        };
-        set(&Invoice::setSubtotal, 200 * lines);
-        set(&Invoice::setDiscount, 0);
-        set(&Invoice::setTax, 0);
-        set(&Invoice::setService, 0);
-        set(&Invoice::setGrandTotal, 200 * lines);
-        set(&Invoice::setAmountPaid, 1000);
-        set(&Invoice::setOtherPayment, 0);
-        set(&Invoice::setNetDue, 200 * lines - 1000);
+        InvoiceTotals totals;
+        totals.setCurrency("Rp");
+        totals.setSubtotal(200 * lines);
+        totals.setPaid(1000);
+        totals.writeTo(invoice);
         QList<EntityInvoiceDetail*> details;
         for (int i = 0; i < lines; ++i) {
             auto* line = new EntityInvoiceDetail(sale);
-            line->setItem(item);
+            line->setItem(known<EntityItem>(1));
             line->setQty(2);
-            line->setPriceEach(new Money(line, 100.0, "Rp"));
+            line->setPriceEach(rupiah(100));
             line->recomputeTotal();
             details.append(line);
         }
@@ -233,19 +212,8 @@ private:
         return sales()->insertInvoice(sale) ? sale : nullptr;
     }
 
-    EntityInvoiceMakanDitempat* sellAtTable(int lines)
-    {
-        auto* sale = new EntityInvoiceMakanDitempat(m_records.get());
-        sale->setMakanDitempat(placeOrder(lines));
-        return sell(sale, lines);
-    }
-
     [[nodiscard]] QStringList jobs() const { return QDir(m_spool->path()).entryList({"*.slip"}, QDir::Files); }
-    [[nodiscard]] QString slip(int number) const
-    {
-        QFile file(m_spool->filePath(jobs().value(number)));
-        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString("no such slip");
-    }
+    [[nodiscard]] QString slip(int number) const { return slips().value(number, "no such slip"); }
 
     [[nodiscard]] static BusinessPenjualan* sales() { return service<BusinessPenjualan>("Sales"); }
     [[nodiscard]] static ZavelReportFactory* factory() { return ZavelReportFactory::instance(); }

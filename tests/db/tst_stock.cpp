@@ -6,10 +6,7 @@
 #include "pos/masterdata/item/EntityStokAwal.h"
 #include "pos/registry/PosMapperRegistry.h"
 #include "support/DatabaseTest.h"
-#include "support/ShopRows.h"
 #include "support/StockRows.h"
-
-#include <QRegularExpression>
 
 #include <random>
 
@@ -72,15 +69,10 @@ protected:
     }
 
 private slots:
-    void everyHistoryGivesWhatPaperGives_data()
-    {
-        const auto row = addColumns<int>("seed");
-        for (int seed = 1; seed <= 5; ++seed)
-            row(qPrintable(QString("history %1").arg(seed)), seed);
-    }
+    void everyHistoryGivesWhatPaperGives_data() { addSeeds({1, 2, 3, 4, 5}); }
     void everyHistoryGivesWhatPaperGives()
     {
-        QFETCH(int, seed);
+        QFETCH(quint32, seed);
         std::mt19937 dice(seed);
         const auto roll = [&dice](int sides) { return int(dice() % unsigned(sides)); };
         constexpr int days = 8;
@@ -253,23 +245,10 @@ private:
         }
     }
 
-    /** Adds a row with the given columns; the other required ones are filled with nothing in particular. */
-    int add(const QString& table, QMap<QString, QString> values)
+    int add(const QString& table, const RowValues& values)
     {
-        const QString required =
-            value("SELECT string_agg(column_name || ' ' || data_type, ',') FROM information_schema.columns WHERE "
-                  "table_name = '" +
-                  table + "' AND is_nullable = 'NO' AND column_default IS NULL");
-        for (const QString& column : required.split(',')) {
-            const QString type = column.section(' ', 1);
-            const QString filler = type == "date" ? "'2026-01-01'" : type == "boolean" ? "false" : "'0'";
-            if (!values.contains(column.section(' ', 0, 0)))
-                values.insert(column.section(' ', 0, 0), filler);
-        }
-        return m_database
-            ->value("INSERT INTO " + table + " (" + QStringList(values.keys()).join(", ") + ") VALUES (" +
-                    QStringList(values.values()).join(", ") + ") RETURNING id")
-            .toInt();
+        insertRows(*m_database, table, values);
+        return value("SELECT max(id) FROM " + table).toInt();
     }
 
     [[nodiscard]] int idOf(const QString& code) { return service<BusinessItem>("Item")->findByCode(code)->getId(); }

@@ -5,9 +5,7 @@
 #include "app/access/DataMapperUser.h"
 #include "app/access/EntityAccess.h"
 #include "app/context/AccessCheck.h"
-#include "app/context/DatabaseManager.h"
 #include "app/context/EntityUser.h"
-#include "kor/persistence/KorQuery.h"
 #include "support/DatabaseTest.h"
 #include "support/SlowNeighbour.h"
 
@@ -80,9 +78,7 @@ private slots:
 
     void aLoginIsGivenAwayOnce_data()
     {
-        const auto row = addColumns<bool>("isRenamed");
-        row("to a new user", false);
-        row("to a user who gets another name", true);
+        addRows<bool>("isRenamed", {{"to a new user", false}, {"to a user who gets another name", true}});
     }
     void aLoginIsGivenAwayOnce()
     {

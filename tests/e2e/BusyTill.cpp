@@ -3,7 +3,6 @@
 #include "kor/business/KorServiceDirectory.h"
 #include "pos/invoice/EntityInvoiceDetail.h"
 #include "pos/masterdata/item/DataMapperItem.h"
-#include "pos/masterdata/item/EntityItem.h"
 #include "pos/registry/PosMapperRegistry.h"
 #include "pos/totals/InvoiceTotals.h"
 #include "support/TestDatabase.h"

@@ -1,8 +1,6 @@
 #include "GrownCatalogue.h"
 #include "setup/DatabaseSetup.h"
 
-#include <QCoreApplication>
-
 /** The console program of the newer version. */
 int main(int argc, char** argv)
 {

@@ -3,8 +3,6 @@
 #include "support/DatabaseTest.h"
 #include "support/InstallerRun.h"
 
-#include <QProcess>
-
 /** The check at program start after an interrupted installation, update or restore. */
 class TestDatabaseCondition : public DatabaseTest
 {
@@ -41,7 +39,7 @@ private slots:
         QCOMPARE(found.explanation(), QString());
         QVERIFY(found.hasTables());
         const StatementCount count;
-        QVERIFY(DatabaseCondition::read("1.1").hasTables());
+        QVERIFY(DatabaseCondition::read(DatabaseVersion::ofProgramText()).hasTables());
         QVERIFY(count.count() <= 2);
     }
 

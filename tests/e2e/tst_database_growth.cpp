@@ -1,16 +1,13 @@
 #include "GrownCatalogue.h"
-#include "app/context/DatabaseVersion.h"
 #include "app/registry/AppMapperRegistry.h"
 #include "shell/database/check/DatabaseCondition.h"
 #include "shell/database/updater/AppDBUpdaterWizard.h"
 #include "shell/window/MainWindow.h"
 #include "support/DatabaseTest.h"
 #include "support/OldDatabase.h"
-#include "support/ShopRows.h"
 #include "support/TestTemplate.h"
 
 #include <QAbstractButton>
-#include <QProcess>
 
 namespace
 {
@@ -60,9 +57,7 @@ private slots:
 
     void theUpdateBringsTablesColumnsAndRights_data()
     {
-        const auto row = addColumns<bool>("wizard");
-        row("by the wizard", true);
-        row("at the console", false);
+        addRows<bool>("wizard", {{"by the wizard", true}, {"at the console", false}});
     }
     void theUpdateBringsTablesColumnsAndRights()
     {
@@ -209,9 +204,8 @@ private:
     }
     [[nodiscard]] int rights() const
     {
-        return m_database
-            ->value("SELECT count(*) FROM access JOIN permissions p ON p.id = permission_id "
-                    "JOIN business b ON b.id = business_id WHERE b.name = 'Wing' AND grant_type = 2")
+        return value("SELECT count(*) FROM access JOIN permissions p ON p.id = permission_id "
+                     "JOIN business b ON b.id = business_id WHERE b.name = 'Wing' AND grant_type = 2")
             .toInt();
     }
 };

@@ -1,11 +1,9 @@
 #include "ServerPair.h"
 
 #include "app/context/AppContext.h"
-#include "app/context/ConnectionSettings.h"
 #include "app/context/DatabaseManager.h"
 #include "shell/window/ConfigDialog.h"
 #include "shell/window/MainWindow.h"
-#include "support/Hands.h"
 #include "support/OrderKeys.h"
 #include "support/TestDatabase.h"
 #include "zavel/dinein/DialogMakanDitempat.h"
@@ -13,7 +11,6 @@
 #include "zavel/dinein/TableModelMakanDitempat.h"
 #include "zavel/registry/ZavelBusinessRegistry.h"
 
-#include <QLabel>
 #include <QTemporaryDir>
 #include <QThread>
 

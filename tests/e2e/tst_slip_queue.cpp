@@ -1,7 +1,6 @@
 #include "PrivateCups.h"
 #include "pos/printing/printer/AppLinePrinter.h"
 #include "pos/printing/slips/SlipArchive.h"
-#include "pos/printing/slips/SlipQueue.h"
 #include "pos/printing/spooler/SlipSpooler.h"
 #include "shell/window/SlipStatus.h"
 #include "support/ModalDriver.h"
@@ -11,11 +10,9 @@
 #include <QHash>
 #include <QRandomGenerator>
 #include <QSignalSpy>
-#include <QTest>
 #include <QTimer>
 
 #include <arpa/inet.h>
-#include <csignal>
 #include <sys/resource.h>
 #include <sys/socket.h>
 #include <unistd.h>

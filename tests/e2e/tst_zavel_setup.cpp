@@ -1,10 +1,9 @@
-#include "app/context/ConnectionSettings.h"
+#include "app/context/DatabaseVersion.h"
 #include "support/Rows.h"
 #include "support/TestDatabase.h"
 
 #include <QProcess>
 #include <QTemporaryDir>
-#include <QTest>
 
 namespace
 {
@@ -43,7 +42,8 @@ private slots:
         QCOMPARE(installed.lines.last(), QString("[100%] Done. Please restart the app"));
         const Outcome status = onDatabase("status");
         QCOMPARE(status.status, 0);
-        QCOMPARE(status.lines, QStringList{"Installed: " + m_name + ", version 1.1."});
+        QCOMPARE(status.lines,
+                 QStringList{"Installed: " + m_name + ", version " + DatabaseVersion::ofProgramText() + "."});
         m_database->run("DROP DATABASE \"" + QString(m_name).replace('"', "\"\"") + '"');
     }
 
@@ -115,7 +115,7 @@ private slots:
         const Outcome updated = onDatabase("update");
         QCOMPARE(updated.lines.last(), QString("[100%] Done. Please restart the app"));
         QCOMPARE(m_database->value("SELECT appvalue FROM appconfig WHERE appkey = 'app_version'").toString(),
-                 QString("1.1"));
+                 DatabaseVersion::ofProgramText());
         QCOMPARE(m_database->value("SELECT count(*) FROM access WHERE grant_type = 2"),
                  m_database->value("SELECT count(*) FROM permissions"));
         // Two changes fail on tables of this version, which have them already.

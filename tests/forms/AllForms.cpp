@@ -3,7 +3,6 @@
 #include "app/access/DialogLogin.h"
 #include "app/access/DialogUserAccess.h"
 #include "app/context/AppContext.h"
-#include "kor/business/KorServiceDirectory.h"
 #include "kor/widgets/DialogKeyboard.h"
 #include "pos/cash/ledger/DialogCashFlow.h"
 #include "pos/cash/transfer/DialogTransaction.h"
@@ -57,8 +56,6 @@
 #include "zavel/fastfood/DialogFastFood.h"
 #include "zavel/fastfood/DialogSelectFastFoodInventory.h"
 #include "zavel/fastfood/DialogSelectFastFoodMenu.h"
-#include "zavel/order/DialogSelectInventory.h"
-#include "zavel/order/DialogSelectMenu.h"
 #include "zavel/receivable/DialogBayarPiutang.h"
 #include "zavel/receivable/DialogPiutang.h"
 #include "zavel/service/BusinessPenjualan.h"
@@ -67,8 +64,6 @@
 #include "zavel/takeaway/DialogSelectBawaPulangInventory.h"
 #include "zavel/takeaway/DialogSelectBawaPulangMenu.h"
 #include "zavel/takeaway/EntityBawaPulang.h"
-
-#include <QSqlDatabase>
 
 namespace
 {

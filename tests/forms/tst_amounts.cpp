@@ -11,16 +11,11 @@
 #include "pos/purchasing/purchase/DialogPurchaseDetail.h"
 #include "pos/purchasing/purchase/EntityAcquisitionDetail.h"
 #include "support/DatabaseTest.h"
-#include "support/Hands.h"
-#include "support/ShopRows.h"
 #include "zavel/dinein/DialogBayarMakanDitempat.h"
-#include "zavel/dinein/EntityMakanDitempat.h"
 #include "zavel/service/BusinessPenjualan.h"
 
 namespace
 {
-/** Texts to type, by the name of the box. */
-using Entries = QList<QPair<QByteArray, QString>>;
 using Made = std::unique_ptr<KorDialog>;
 
 /** The form of a stored record, which is saved by the service on accept; without an id, of a new one. */
@@ -81,16 +76,13 @@ protected:
     {
         openShopForForms(*m_database);
         run("UPDATE keytable SET id = 1 WHERE key_name = 'PO'");
-        run("INSERT INTO bank (id, kode, nama, account_type, active, version) "
-            "VALUES (5, '1010', 'Cash on Hand', 1, true, 1)");
+        insert("bank", "id=5, kode='1010', nama='Cash on Hand', active=true");
     }
 
 private slots:
     void noBoxOfAnyFormTakesWhatItCannotKeep_data()
     {
-        const auto row = addColumns<QString>("locale");
-        row("English", "en_US");
-        row("Indonesian", "id_ID");
+        addRows<QString>("locale", {{"English", "en_US"}, {"Indonesian", "id_ID"}});
     }
     void noBoxOfAnyFormTakesWhatItCannotKeep()
     {
@@ -106,8 +98,7 @@ private slots:
             const QList<KorNumberEdit*> boxes = shown->findChildren<KorNumberEdit*>();
             if (boxes.isEmpty())
                 continue;
-            shown->show();
-            QVERIFY(QTest::qWaitForWindowActive(shown.get()));
+            showForm(shown.get());
             for (KorNumberEdit* box : boxes) {
                 for (const QString& text : wrong) {
                     box->setFocus();
@@ -227,8 +218,7 @@ private slots:
             "VALUES (3, 2, 1, 1), (2, 1, 1, 1)");
         AppContext::instance()->setLocale(locale);
         const Made shown = makers()[form]();
-        shown->show();
-        QVERIFY(QTest::qWaitForWindowActive(shown.get()));
+        showForm(shown.get());
         for (const auto& entry : qAsConst(entries)) {
             if (entry.first == "yes" || entry.first == "no")
                 m_people->answer(entry.first == "yes" ? QMessageBox::Yes : QMessageBox::No);
@@ -249,14 +239,12 @@ private slots:
             "SELECT concat_ws(' ', discount_amount, grandtotal_amount, amount_paid_amount, status) "
             "FROM invoice";
         const Made form = paymentForm();
-        form->show();
-        QVERIFY(QTest::qWaitForWindowActive(form.get()));
+        showForm(form.get());
         ::enter(form.get(), "txtDiscPerc", "10");
         QCOMPARE(::shown(form.get(), "txtDiscount") + ' ' + ::shown(form.get(), "txtGrandTotal"), QString("3 33.00"));
         ::enter(form.get(), "txtPaid", "33");
         press(form.get(), QDialogButtonBox::Ok);
         QTRY_COMPARE(value(stored), QString("3 33 33 1"));
-        form->activateWindow();
         press(form.get(), QDialogButtonBox::Ok);
         QTRY_COMPARE(m_database->value("SELECT version FROM invoice").toInt(), 2);
         QCOMPARE(value(stored), QString("3 33 33 1"));

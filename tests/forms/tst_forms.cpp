@@ -60,9 +60,7 @@ private slots:
         const QSize room = roomOf(shown.get());
         shown->setWindowState(Qt::WindowNoState);
         shown->resize(qobject_cast<KorTab*>(shown.get()) ? room : shown->size().boundedTo(room));
-        shown->show();
-        shown->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(shown.get()));
+        showForm(shown.get());
         QCoreApplication::processEvents();
         QStringList faults;
         if (shown->width() > room.width() || shown->height() > room.height())

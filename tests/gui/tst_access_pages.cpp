@@ -1,13 +1,9 @@
-#include "app/access/BusinessUser.h"
 #include "app/access/DialogLogin.h"
-#include "app/access/DialogUser.h"
 #include "app/access/DialogUserAccess.h"
-#include "app/access/DialogUserGroup.h"
 #include "app/access/TabUser.h"
 #include "app/access/TabUserAccess.h"
 #include "app/access/TabUserGroup.h"
 #include "app/context/EntityUser.h"
-#include "app/numbers/DialogKeyTable.h"
 #include "app/numbers/TabKeyTable.h"
 #include "support/DatabaseTest.h"
 
@@ -16,18 +12,7 @@
 
 namespace
 {
-void type(const QWidget* form, const char* field, const QString& text)
-{
-    auto* edit = form->findChild<QLineEdit*>(field);
-    edit->selectAll();
-    QTest::keyClick(edit, Qt::Key_Delete);
-    QTest::keyClicks(edit, text);
-}
-
-void confirm(QDialog* form)
-{
-    QTest::mouseClick(form->findChild<QDialogButtonBox*>("buttonBox")->button(QDialogButtonBox::Ok), Qt::LeftButton);
-}
+void ok(const QWidget* form) { press(form, QDialogButtonBox::Ok); }
 
 /** The login dialog for tests: leaving it is recorded instead of ending the test. */
 class LoginUnderTest : public DialogLogin
@@ -74,8 +59,7 @@ private slots:
     {
         FETCH(QString, name, password, message);
         LoginUnderTest login;
-        login.show();
-        QVERIFY(QTest::qWaitForWindowActive(&login));
+        showForm(&login);
         QTRY_VERIFY(login.findChild<QLineEdit*>("txtUsername")->hasFocus());
         QCOMPARE(login.findChild<QLabel*>("lblHint")->text(), QString("Default login: admin / Qx7!Rm2z"));
         QTest::keyClicks(login.focusWidget(), name);
@@ -90,10 +74,8 @@ private slots:
     void whoDoesNotLogInLeaves()
     {
         LoginUnderTest login;
-        login.show();
-        QVERIFY(QTest::qWaitForWindowActive(&login));
-        QTest::mouseClick(login.findChild<QDialogButtonBox*>("buttonBox")->button(QDialogButtonBox::Cancel),
-                          Qt::LeftButton);
+        showForm(&login);
+        press(&login, QDialogButtonBox::Cancel);
         QCOMPARE(login.left, 1);
         QTest::keyClick(&login, Qt::Key_Escape);
         QCOMPARE(login.left, 2);
@@ -115,9 +97,9 @@ private slots:
         QFETCH(QStringList, typed);
         QFETCH(QString, message);
         DialogUser form;
-        type(&form, "txtUsername", typed[0]);
-        type(&form, "txtFirstName", typed[1]);
-        type(&form, "txtLastName", typed[2]);
+        typeInto(&form, "txtUsername", typed[0]);
+        typeInto(&form, "txtFirstName", typed[1]);
+        typeInto(&form, "txtLastName", typed[2]);
         QCOMPARE(form.validate(), message.isEmpty());
         form.accept();
         QCOMPARE(m_people->texts().join(""), message);
@@ -126,31 +108,31 @@ private slots:
     void aUserIsAddedAndEditedWithoutTouchingThePassword()
     {
         TabUser page;
-        show(page);
+        showPage(&page);
         const auto* grid = page.findChild<QTableView*>("tblUser");
         m_people->expect<DialogUser>([](DialogUser* form) {
-            type(form, "txtUsername", "bob");
-            type(form, "txtFirstName", "Bob");
-            type(form, "txtLastName", "O'Hara");
-            type(form, "txtPassword", "secret");
+            typeInto(form, "txtUsername", "bob");
+            typeInto(form, "txtFirstName", "Bob");
+            typeInto(form, "txtLastName", "O'Hara");
+            typeInto(form, "txtPassword", "secret");
             form->findChild<QComboBox*>("cbGroup")->setCurrentText("kasir");
-            confirm(form);
+            ok(form);
         });
-        QTest::mouseClick(page.findChild<QPushButton*>("btnAdd_2"), Qt::LeftButton);
+        click(&page, "btnAdd_2");
         QTRY_COMPARE(grid->model()->rowCount(), 2);
-        QCOMPARE(row(grid, 0), (QStringList{"1", "ann", "Ann", "Martin", "kasir", "5 Nov 2024"}));
-        QCOMPARE(row(grid, 1).mid(1, 4), (QStringList{"bob", "Bob", "O'Hara", "kasir"}));
+        QCOMPARE(cells(*grid->model(), 0), (QStringList{"1", "ann", "Ann", "Martin", "kasir", "5 Nov 2024"}));
+        QCOMPARE(cells(*grid->model(), 1).mid(1, 4), (QStringList{"bob", "Bob", "O'Hara", "kasir"}));
 
         m_people->expect<DialogUser>([](DialogUser* form) {
             QCOMPARE(form->findChild<QLineEdit*>("txtPassword")->text(), QString());
             QCOMPARE(form->findChild<QComboBox*>("cbGroup")->currentText(), QString("kasir"));
-            type(form, "txtFirstName", "Bobby");
+            typeInto(form, "txtFirstName", "Bobby");
             form->findChild<QComboBox*>("cbGroup")->setCurrentText("admin");
-            confirm(form);
+            ok(form);
         });
         page.findChild<QTableView*>("tblUser")->selectRow(1);
         page.on_btnEdit_clicked();
-        QCOMPARE(row(grid, 1).mid(1, 4), (QStringList{"bob", "Bobby", "O'Hara", "admin"}));
+        QCOMPARE(cells(*grid->model(), 1).mid(1, 4), (QStringList{"bob", "Bobby", "O'Hara", "admin"}));
         QVERIFY(service<BusinessUser>("User")->login("bob", "secret"));
         QVERIFY(m_people->finished());
     }
@@ -158,9 +140,9 @@ private slots:
     void aGroupThatSomebodyBelongsToStays()
     {
         TabUserGroup page;
-        show(page);
+        showPage(&page);
         auto* grid = page.findChild<QTableView*>("tblUserGroup");
-        QCOMPARE(row(grid, 1).mid(0, 2), (QStringList{"2", "kasir"}));
+        QCOMPARE(cells(*grid->model(), 1).mid(0, 2), (QStringList{"2", "kasir"}));
         grid->selectAll();
         m_people->answer(QMessageBox::No);
         m_people->answer(QMessageBox::Yes);
@@ -185,7 +167,7 @@ private slots:
     {
         DialogUserGroup form;
         QVERIFY(!form.validate());
-        type(&form, "txtGroupName", "KASIR");
+        typeInto(&form, "txtGroupName", "KASIR");
         form.accept();
         QCOMPARE(m_people->texts(), QStringList{"This group name already exists\r\n"});
     }
@@ -193,33 +175,33 @@ private slots:
     void rightsAreGivenServiceByService()
     {
         TabUserAccess page;
-        show(page);
+        showPage(&page);
         auto* grid = page.findChild<QTableView*>("tblPermission");
         auto* groups = page.findChild<QComboBox*>("cbGroup");
         auto* businesses = page.findChild<QListWidget*>("lvBusiness");
-        QCOMPARE(row(grid, 0), (QStringList{"1", "Add table", "NONE"}));
+        QCOMPARE(cells(*grid->model(), 0), (QStringList{"1", "Add table", "NONE"}));
         groups->setCurrentText("kasir");
-        QCOMPARE(row(grid, 0), (QStringList{"1", "Add table", "OWNER"}));
+        QCOMPARE(cells(*grid->model(), 0), (QStringList{"1", "Add table", "OWNER"}));
         QVERIFY(!page.findChild<QPushButton*>("btnAdd")->isVisible());
         QVERIFY(!page.findChild<QPushButton*>("btnDelete")->isVisible());
 
         grid->selectAll();
         m_people->expect<DialogUserAccess>([](DialogUserAccess* form) {
             QVERIFY(form->findChild<QRadioButton*>("rbOwner")->isChecked());
-            QCOMPARE(form->findChild<QLabel*>("lblGroup")->text(), QString("kasir"));
-            QCOMPARE(form->findChild<QLabel*>("lblBusiness")->text(), QString("Table"));
+            QCOMPARE(labelled(form, "lblGroup"), QString("kasir"));
+            QCOMPARE(labelled(form, "lblBusiness"), QString("Table"));
             form->findChild<QRadioButton*>("rbNone")->setChecked(true);
-            confirm(form);
+            ok(form);
         });
         m_people->expect<DialogUserAccess>([](DialogUserAccess* form) {
-            QCOMPARE(form->findChild<QLabel*>("lblPermission")->text(), QString("Delete table"));
+            QCOMPARE(labelled(form, "lblPermission"), QString("Delete table"));
             form->findChild<QRadioButton*>("rbAll")->setChecked(true);
-            confirm(form);
+            ok(form);
         });
         page.on_btnEdit_clicked();
         QCOMPARE(m_people->texts(), QStringList{"Application needs to be restarted to take the effect"});
         QCOMPARE(m_people->lastTitle(), QString("Info"));
-        QCOMPARE(row(grid, 0).last() + row(grid, 1).last(), QString("NONEALL"));
+        QCOMPARE(cells(*grid->model(), 0).last() + cells(*grid->model(), 1).last(), QString("NONEALL"));
         QVERIFY(m_people->finished());
 
         // The message is shown even after cancelling: an earlier change may still need a restart.
@@ -227,11 +209,10 @@ private slots:
         page.on_btnEdit_clicked();
         QCOMPARE(m_people->texts(), QStringList{"Application needs to be restarted to take the effect"});
 
-        page.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&page));
+        bringToFront(&page);
         businesses->setFocus();
         QTest::keyClick(businesses, Qt::Key_Down);
-        QCOMPARE(row(grid, 0), (QStringList{"3", "Manage unit", "NONE"}));
+        QCOMPARE(cells(*grid->model(), 0), (QStringList{"3", "Manage unit", "NONE"}));
         QVERIFY(businesses->hasFocus());
 
         m_people->clear();
@@ -252,51 +233,36 @@ private slots:
     void aRunningNumberIsEditedButNeverAddedOrDeleted()
     {
         TabKeyTable page;
-        show(page);
+        showPage(&page);
         auto* grid = page.findChild<QTableView*>("tblKeyTable");
-        QCOMPARE(row(grid, 0), (QStringList{"PO", "57", "1", "4", "POMMyy", "Purchase Order Key"}));
+        QCOMPARE(cells(*grid->model(), 0), (QStringList{"PO", "57", "1", "4", "POMMyy", "Purchase Order Key"}));
         QVERIFY(!page.findChild<QPushButton*>("btnAdd")->isVisible());
         QVERIFY(!page.findChild<QPushButton*>("btnDelete")->isVisible());
         QVERIFY(grid->columnWidth(2) >= 130);
 
         grid->selectRow(0);
         m_people->expect<DialogKeyTable>([](DialogKeyTable* form) {
-            type(form, "txtNextId", "");
-            type(form, "txtIncrementBy", "1.5");
-            type(form, "txtNoZero", "four");
-            type(form, "txtFormat", "");
-            type(form, "txtDescription", "");
-            confirm(form);
+            typeInto(form, "txtNextId", "");
+            typeInto(form, "txtIncrementBy", "1.5");
+            typeInto(form, "txtNoZero", "four");
+            typeInto(form, "txtFormat", "");
+            typeInto(form, "txtDescription", "");
+            ok(form);
         });
         m_people->expect<DialogKeyTable>([](DialogKeyTable* form) {
-            type(form, "txtNextId", "100");
-            type(form, "txtIncrementBy", "10");
-            type(form, "txtNoZero", "6");
-            type(form, "txtFormat", "'PO-'yyyy");
-            type(form, "txtDescription", "Orders");
-            confirm(form);
+            typeInto(form, "txtNextId", "100");
+            typeInto(form, "txtIncrementBy", "10");
+            typeInto(form, "txtNoZero", "6");
+            typeInto(form, "txtFormat", "'PO-'yyyy");
+            typeInto(form, "txtDescription", "Orders");
+            ok(form);
         });
         QTest::keyClick(grid, Qt::Key_F2);
-        QTRY_COMPARE(row(grid, 0), (QStringList{"PO", "100", "10", "6", "'PO-'yyyy", "Orders"}));
+        QTRY_COMPARE(cells(*grid->model(), 0), (QStringList{"PO", "100", "10", "6", "'PO-'yyyy", "Orders"}));
         QCOMPARE(m_people->texts(),
                  QStringList{"Enter Next Id\r\nEnter valid number for Increment value\r\n"
                              "Enter valid number for Number of zero\r\nEnter Format\r\nEnter Description\r\n"});
         QVERIFY(m_people->finished());
-    }
-
-private:
-    static void show(QWidget& page)
-    {
-        page.resize(900, 500);
-        page.show();
-        QVERIFY(QTest::qWaitForWindowActive(&page));
-    }
-    static QStringList row(const QTableView* grid, int row)
-    {
-        QStringList cells;
-        for (int column = 0; column < grid->model()->columnCount(); ++column)
-            cells.append(grid->model()->index(row, column).data().toString());
-        return cells;
     }
 };
 

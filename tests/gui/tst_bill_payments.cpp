@@ -1,13 +1,9 @@
 #include "pos/purchasing/payment/DialogPayment.h"
-#include "pos/purchasing/payment/DialogPaymentExpenses.h"
 #include "pos/purchasing/payment/DialogPaymentInvoice.h"
 #include "pos/purchasing/payment/TabPayment.h"
 #include "pos/purchasing/payment/TabPaymentExpenses.h"
 #include "pos/purchasing/payment/TabPaymentInvoice.h"
 #include "support/DatabaseTest.h"
-#include "support/Hands.h"
-#include "support/LedgerRows.h"
-#include "support/ShopRows.h"
 
 /** The owner at the page of bills to pay, with keyboard and mouse. */
 class TestBillPayments : public PageTest<TabPayment>
@@ -27,7 +23,7 @@ private slots:
     void aSupplierIsPaidAllThatIsOpen()
     {
         show();
-        onForm<DialogPayment>(*m_people, m_page.get(), "btnAdd", [](DialogPayment* form) {
+        onForm("btnAdd", [](DialogPayment* form) {
             enter(form, "txtSupplier", "s1");
             QCOMPARE(shown(form, "txtSupplier"), QString("S1"));
             QCOMPARE(shown(form, "txtSupplierName"), QString("Market"));
@@ -36,11 +32,9 @@ private slots:
             QTest::keyClick(gridOf(purchases(form)), Qt::Key_F9);
             QTRY_COMPARE(figures(form), QString("0 500, 0 300"));
             QCOMPARE(shown(form, "txtGrandTotal"), QString("800,00"));
-            box(form, "txtCashAccount")->setFocus();
-            QTest::keyClicks(box(form, "txtCashAccount"), "cas");
-            QTRY_VERIFY(QApplication::activePopupWidget());
-            QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
-            QCOMPARE(form->findChild<QLabel*>("lblCashAccount")->text(), QString("Cash"));
+            typeInto(form, "txtCashAccount", "cas");
+            takeFirst();
+            QCOMPARE(labelled(form, "lblCashAccount"), QString("Cash"));
             auto* types = form->findChild<QComboBox*>("ddlPaymentType");
             QTRY_VERIFY(types->hasFocus());
             QTest::keyClick(types, Qt::Key_End);
@@ -56,20 +50,16 @@ private slots:
 
     void anotherSuppliersCodeAndF2InABurst()
     {
-        run("INSERT INTO supplier (id, kode, nama, alamat, telp, email, version) VALUES "
-            "(2, 'S2', 'Dairy', 'Street 5', '5', '', 1)");
+        insert("supplier", "id=2, kode='S2', nama='Dairy'");
         buy("NB-3", 700, 700);
         run("UPDATE acquisition SET supplier_id = 2 WHERE no = 'NB-3'");
         show();
-        onForm<DialogPayment>(*m_people, m_page.get(), "btnAdd", [this](DialogPayment* form) {
+        onForm("btnAdd", [this](DialogPayment* form) {
             enter(form, "txtSupplier", "S1");
             choose(purchases(form), 1);
-            box(form, "txtSupplier")->setFocus();
-            box(form, "txtSupplier")->selectAll();
-            QTest::keyClicks(box(form, "txtSupplier"), "S2");
+            typeInto(form, "txtSupplier", "S2");
             m_people->expect<DialogPaymentInvoice>([](DialogPaymentInvoice* one) {
-                QApplication::setActiveWindow(one);
-                QTest::keyClicks(box(one, "txtPaid"), "70");
+                typeInto(one, "txtPaid", "70");
                 confirm(one, "txtPaid");
             });
             QTest::keyClick(box(form, "txtSupplier"), Qt::Key_F2);
@@ -89,10 +79,8 @@ private slots:
     void aFormMayGoWithACodeThatNobodyHasRead()
     {
         auto form = std::make_unique<DialogPayment>();
-        form->show();
-        QVERIFY(QTest::qWaitForWindowActive(form.get()));
-        box(form.get(), "txtSupplier")->setFocus();
-        QTest::keyClicks(box(form.get(), "txtSupplier"), "S1");
+        showForm(form.get());
+        typeInto(form.get(), "txtSupplier", "S1");
         form.reset();
     }
 
@@ -109,7 +97,7 @@ private slots:
     {
         QFETCH(QString, typed);
         show();
-        onForm<DialogPayment>(*m_people, m_page.get(), "btnAdd", [this, typed](DialogPayment* form) {
+        onForm("btnAdd", [this, typed](DialogPayment* form) {
             enter(form, "txtSupplier", "S1");
             m_people->expect<DialogPayment>([](DialogPayment* again) {
                 QTEST(figures(again), "figures");
@@ -137,7 +125,7 @@ private slots:
             insertPayment(qty);
         show();
         choose(m_page.get(), 0);
-        onForm<DialogPayment>(*m_people, m_page.get(), qty < 0 ? "btnAdd" : "btnEdit", [&](DialogPayment* form) {
+        onForm(qty < 0 ? "btnAdd" : "btnEdit", [&](DialogPayment* form) {
             enter(form, "txtSupplier", supplier);
             enter(form, "txtCashAccount", account);
             confirm(form, "txtRefNo");
@@ -153,13 +141,12 @@ private slots:
         show();
         const auto key = [](const QString& qty) {
             return [qty](DialogPaymentExpenses* line) {
-                QApplication::setActiveWindow(line);
                 enter(line, "txtCode", "rice");
                 enter(line, "txtQty", qty);
                 confirm(line, "txtDiscount");
             };
         };
-        onForm<DialogPayment>(*m_people, m_page.get(), "btnAdd", [this, key](DialogPayment* form) {
+        onForm("btnAdd", [this, key](DialogPayment* form) {
             enter(form, "txtSupplier", "S1");
             QTest::keyClick(form, Qt::Key_F4);
             QTRY_VERIFY(items(form)->isVisible());
@@ -192,7 +179,7 @@ private slots:
         insertPayment();
         show();
         choose(m_page.get(), 0);
-        onForm<DialogPayment>(*m_people, m_page.get(), "btnEdit", [this](DialogPayment* form) {
+        onForm("btnEdit", [this](DialogPayment* form) {
             QCOMPARE(shown(form, "txtKode"), QString("TPH-1"));
             QCOMPARE(figures(form), QString("200 300, 300 0"));
             pay(form, 0, "0");
@@ -211,7 +198,7 @@ private slots:
     void aPurchaseDeletedMeanwhileLeavesTheFormAsItIs()
     {
         show();
-        onForm<DialogPayment>(*m_people, m_page.get(), "btnAdd", [this](DialogPayment* form) {
+        onForm("btnAdd", [this](DialogPayment* form) {
             enter(form, "txtSupplier", "S1");
             click(form, "btnPayAll");
             run("DELETE FROM acquisition WHERE id = 2");
@@ -232,7 +219,7 @@ private slots:
     void aPurchasePaidByAnotherMeanwhileIsNotPaidTwice()
     {
         show();
-        onForm<DialogPayment>(*m_people, m_page.get(), "btnAdd", [this](DialogPayment* form) {
+        onForm("btnAdd", [this](DialogPayment* form) {
             enter(form, "txtSupplier", "S1");
             click(form, "btnPayAll");
             insertPayment();
@@ -255,8 +242,7 @@ private:
     {
         choose(purchases(form), row);
         m_people->expect<DialogPaymentInvoice>([amount](DialogPaymentInvoice* one) {
-            QApplication::setActiveWindow(one);
-            QTest::keyClicks(box(one, "txtPaid"), amount);
+            typeInto(one, "txtPaid", amount);
             confirm(one, "txtPaid");
             if (one->isVisible())
                 giveUp(one);
@@ -275,8 +261,8 @@ private:
 
     void buy(const QString& no, int total, int due)
     {
-        insertRows(
-            *m_database, "acquisition",
+        insert(
+            "acquisition",
             QString("no=%1, supplier_id=1, grandtotal_amount=%2, amount_paid_amount=%3, net_due_amount=%4, status=%5")
                 .arg('\'' + no + '\'')
                 .arg(total)
@@ -288,11 +274,11 @@ private:
     /** Inserts a payment of 300 for the first purchase, with one item if its quantity is given. */
     void insertPayment(int qty = -1)
     {
-        insertRows(*m_database, "payment", "no='TPH-1', bank_id=1, grandtotal_amount=300");
-        insertRows(*m_database, "payment_invoice", "payment_id=(SELECT max(id) FROM payment), amount_paid_amount=300");
+        insert("payment", "no='TPH-1', bank_id=1, grandtotal_amount=300");
+        insert("payment_invoice", "payment_id=(SELECT max(id) FROM payment), amount_paid_amount=300");
         run("UPDATE acquisition SET other_payment_amount = 300, net_due_amount = 200, status = 3 WHERE id = 1");
         if (qty >= 0)
-            insertRows(*m_database, "payment_expense", QString("qty=%1, unit_price_amount=10").arg(qty));
+            insert("payment_expense", QString("qty=%1, unit_price_amount=10").arg(qty));
     }
 
     QString purchasesStand()

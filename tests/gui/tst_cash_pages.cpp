@@ -3,34 +3,17 @@
 #include "pos/cash/transfer/DialogTransaction.h"
 #include "pos/cash/transfer/TabTransfer.h"
 #include "support/DatabaseTest.h"
-#include "support/Hands.h"
-#include "support/LedgerRows.h"
 #include "support/SalesRows.h"
-#include "support/ShopRows.h"
-
-using Input = QList<QPair<const char*, QString>>;
-Q_DECLARE_METATYPE(Input)
 
 enum Failure { Refused, AnswerLost, SavedButAnswerLost };
 Q_DECLARE_METATYPE(Failure)
 
 namespace
 {
-void fill(QWidget* form, const Input& input)
-{
-    for (const auto& entry : input)
-        enter(form, entry.first, entry.second);
-}
+void pressOk(const QWidget* form) { press(form, QDialogButtonBox::Ok); }
 
-void pressOk(const QWidget* form)
-{
-    QTest::mouseClick(form->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok), Qt::LeftButton);
-}
-
-QString name(const QWidget* form, const char* label) { return form->findChild<QLabel*>(label)->text(); }
-
-const Input entry{{"txtAccount", "2-ab"}, {"txtPaid", "500"}};
-const Input transfer{{"txtFromAccount", "1-100"}, {"txtToAccount", "2-ab"}, {"txtAmount", "500"}};
+const Entries entry{{"txtAccount", "2-ab"}, {"txtPaid", "500"}};
+const Entries transfer{{"txtFromAccount", "1-100"}, {"txtToAccount", "2-ab"}, {"txtAmount", "500"}};
 } // namespace
 
 /** The pages of the ledger and of transfers between accounts, worked on with keys and mouse. */
@@ -42,8 +25,7 @@ protected:
     void prepare() override
     {
         insertShop(*m_database);
-        run("INSERT INTO bank (id, kode, nama, account_type, active, version) VALUES "
-            "(2, '2-AB', 'Safe', 1, true, 1)");
+        insert("bank", "id=2, kode='2-AB', nama='Safe', active=true");
         AppContext::instance()->setLocale("id_ID");
         run("TRUNCATE users CASCADE");
         insertSeller(*m_database, 1, "ann");
@@ -78,12 +60,12 @@ private slots:
         enter(m_page.get(), "txtAccount", words[1]);
         click(m_page.get(), "btnSearch");
         QCOMPARE(column(5), words[2]);
-        QCOMPARE(name(m_page.get(), "lblAccountName"), words[3]);
+        QCOMPARE(label("lblAccountName"), words[3]);
         QCOMPARE(shown(m_page.get(), "txtTotalDebit") + ' ' + shown(m_page.get(), "txtTotalCredit") + ' ' +
                      shown(m_page.get(), "txtEndingBalance"),
                  words[4]);
         QVERIFY(box(m_page.get(), "txtEndingBalance")->isReadOnly());
-        QCOMPARE(name(m_page.get(), "lblCount"), QString("%1 Items").arg(rowsOf(m_page.get())));
+        QCOMPARE(label("lblCount"), QString("%1 Items").arg(rowsOf(m_page.get())));
     }
 
     void anEntryIsMadeWithTheKeyboardAlone()
@@ -97,7 +79,7 @@ private slots:
             QTRY_VERIFY(QApplication::activePopupWidget());
             QTest::keyClick(form->windowHandle(), Qt::Key_Return);
             QTRY_VERIFY(box(form, "txtPaid")->hasFocus());
-            QCOMPARE(name(form, "lblAccountName"), QString("Safe"));
+            QCOMPARE(labelled(form, "lblAccountName"), QString("Safe"));
             QTest::keyClicks(form->focusWidget(), "1500");
             QTest::keyClick(form->focusWidget(), Qt::Key_Tab);
             QTest::keyClicks(form->focusWidget(), "Float for Saturday");
@@ -124,7 +106,7 @@ private slots:
             pressOk(form);
         });
         m_people->expect<DialogCashFlow>([](DialogCashFlow* form) {
-            QCOMPARE(shown(form, "txtNoTrans") + ' ' + name(form, "lblAccountName") + ' ' + shown(form, "txtPaid"),
+            QCOMPARE(shown(form, "txtNoTrans") + ' ' + labelled(form, "lblAccountName") + ' ' + shown(form, "txtPaid"),
                      QString("KK-1 Safe 70,00"));
             QTest::keyClick(form->findChild<QComboBox*>("ddlType"), Qt::Key_Down);
             pressOk(form);
@@ -163,15 +145,16 @@ private slots:
     void moneyIsMovedChangedAndMovedBack()
     {
         add(true, [](QDialog* form) {
-            fill(form, transfer);
-            QCOMPARE(name(form, "lblFromAccountName") + ' ' + name(form, "lblToAccountName"), QString("Cash Safe"));
+            enterAll(form, transfer);
+            QCOMPARE(labelled(form, "lblFromAccountName") + ' ' + labelled(form, "lblToAccountName"),
+                     QString("Cash Safe"));
             pressOk(form);
         });
         QCOMPARE(cells(m_page.get(), 0).mid(1).join('|'), QString("TR-0007|1-100|Cash|2-AB|Safe|Rp500,00||ann"));
         choose(m_page.get(), 0);
-        onForm<DialogTransaction>(*m_people, m_page.get(), "btnEdit", [](DialogTransaction* form) {
-            QCOMPARE(shown(form, "txtNoTrans") + ' ' + name(form, "lblToAccountName"), QString("TR-0007 Safe"));
-            fill(form, {{"txtFromAccount", "2-AB"}, {"txtToAccount", "1-100"}, {"txtAmount", "600"}});
+        onForm("btnEdit", [](DialogTransaction* form) {
+            QCOMPARE(shown(form, "txtNoTrans") + ' ' + labelled(form, "lblToAccountName"), QString("TR-0007 Safe"));
+            enterAll(form, {{"txtFromAccount", "2-AB"}, {"txtToAccount", "1-100"}, {"txtAmount", "600"}});
             pressOk(form);
         });
         QCOMPARE(column(2) + ' ' + column(4) + ' ' + column(6), QString("2-AB 1-100 Rp600,00"));
@@ -179,13 +162,13 @@ private slots:
         m_people->answer(QMessageBox::Yes);
         click(m_page.get(), "btnDelete");
         QCOMPARE(m_people->texts(), QStringList{"Are you sure, you want to delete transaction with no: TR-0007 ?"});
-        QCOMPARE(name(m_page.get(), "lblCount"), QString("0 Items"));
+        QCOMPARE(label("lblCount"), QString("0 Items"));
     }
 
     void aFormSaysWhatIsWrong_data()
     {
-        addColumns<bool, Input, QString>("isTransfer", "input", "message");
-        const auto row = [](const char* what, bool isTransfer, const Input& input, const QString& message) {
+        addColumns<bool, Entries, QString>("isTransfer", "input", "message");
+        const auto row = [](const char* what, bool isTransfer, const Entries& input, const QString& message) {
             QTest::addRow("%s: %s", isTransfer ? "transfer" : "entry", what)
                 << isTransfer << (isTransfer ? transfer : entry) + input << message;
         };
@@ -208,14 +191,12 @@ private slots:
     void aFormSaysWhatIsWrong()
     {
         QFETCH(bool, isTransfer);
-        QFETCH(Input, input);
+        QFETCH(Entries, input);
         QFETCH(QString, message);
         add(isTransfer, [this, input, message](QDialog* form) {
             for (const auto& text : input) {
-                if (qstrcmp(text.first, "gone") == 0)
+                if (text.first == "gone")
                     run("DELETE FROM bank WHERE kode = '2-AB'");
-                else if (text.second.isEmpty())
-                    box(form, text.first)->clear();
                 else
                     enter(form, text.first, text.second);
             }
@@ -248,7 +229,7 @@ private slots:
         const QString key = isTransfer ? "TR" : "KK";
         const QString no = key + "-0007";
         add(isTransfer, [&](QDialog* form) {
-            fill(form, isTransfer ? transfer : entry);
+            enterAll(form, isTransfer ? transfer : entry);
             form->findChild<QPlainTextEdit*>("txtNotes")->setPlainText("As typed");
             if (failure == Refused)
                 run("ALTER TABLE " + table + " RENAME TO elsewhere");
@@ -291,8 +272,8 @@ private:
     void add(bool isTransfer, const std::function<void(QDialog*)>& work)
     {
         isTransfer ? show<TabTransfer>() : show<TabCashFlow>();
-        isTransfer ? onForm<DialogTransaction>(*m_people, m_page.get(), "btnAdd", work)
-                   : onForm<DialogCashFlow>(*m_people, m_page.get(), "btnAdd", work);
+        isTransfer ? ::onForm<DialogTransaction>(*m_people, m_page.get(), "btnAdd", work)
+                   : ::onForm<DialogCashFlow>(*m_people, m_page.get(), "btnAdd", work);
     }
 
     void document(LedgerRow::Kind kind, const QString& no, int amount, int account = 1)
@@ -301,13 +282,7 @@ private:
                                       3 - account, "Made of " + no});
     }
 
-    [[nodiscard]] QString column(int column) const
-    {
-        QStringList texts;
-        for (int row = 0; row < rowsOf(m_page.get()); ++row)
-            texts.append(cells(m_page.get(), row).at(column));
-        return texts.join(' ');
-    }
+    [[nodiscard]] QString column(int column) const { return PageTest::column(column).join(' '); }
 
     QString value(const QString& statement) { return m_database->value("select " + statement).toString(); }
 };

@@ -1,14 +1,11 @@
 #include "pos/masterdata/company/DialogDataPerusahaan.h"
 #include "pos/masterdata/company/EntityDataPerusahaan.h"
 #include "pos/masterdata/company/QPictureLabel.h"
-#include "support/MasterFamilies.h"
-#include "support/ModalDriver.h"
+#include "support/Hands.h"
 
 #include <QBuffer>
 #include <QFileDialog>
-#include <QPushButton>
 #include <QTemporaryDir>
-#include <QTest>
 
 namespace
 {
@@ -51,8 +48,7 @@ private slots:
         m_people = std::make_unique<ModalDriver>();
         m_form = std::make_unique<DialogDataPerusahaan>();
         m_logo = m_form->findChild<QPictureLabel*>("lblImage");
-        m_form->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_form.get()));
+        showForm(m_form.get());
     }
     void cleanup()
     {

@@ -2,13 +2,9 @@
 #include "pos/masterdata/item/BusinessItem.h"
 #include "shell/database/converter/DialogConverter.h"
 #include "support/DatabaseTest.h"
-#include "support/Hands.h"
-#include "support/LedgerRows.h"
-#include "support/TestCluster.h"
 
 #include <QSqlError>
 #include <QSqlQuery>
-#include <QTimer>
 #include <QUuid>
 
 /** The conversion of a former system's data. */
@@ -46,7 +42,6 @@ private slots:
     {
         FETCH(QString, empty, text);
         QCOMPARE(shown(m_dialog.get(), "txtSourcePassword"), QString("sorrelmint"));
-        picture("rest");
         for (const QString& name : empty.split(' '))
             fill(name, "");
         start();
@@ -61,7 +56,6 @@ private slots:
         AppContext::instance()->setLogger(&logger);
         convert();
         AppContext::instance()->setLogger(nullptr);
-        picture("done");
         QCOMPARE(m_people->texts(), QStringList());
         QVERIFY(!isMarked());
 
@@ -167,8 +161,6 @@ private slots:
             EntityPool pool;
             const EntityPoolScope scope(pool);
             paints += service<BusinessItem>("Item")->findByCode("X1") || true;
-            if (paints == 4)
-                picture("running");
         });
         screen.start(50);
         convert();
@@ -344,12 +336,6 @@ private:
 
     QString row(const QString& statement) { return value("select row(" + statement); }
     bool isMarked() { return count("appconfig where appkey = 'conversion'") == 1; }
-    void picture(const char* name)
-    {
-        const QString folder = qEnvironmentVariable("ZAVEL_PICTURES");
-        if (!folder.isEmpty())
-            m_dialog->grab().save(folder + '/' + name + ".png");
-    }
 
     QTemporaryDir m_home;
     QString m_legacy;

@@ -1,15 +1,9 @@
-#include "app/context/DatabaseManager.h"
 #include "shell/database/backup/DialogBackupDB.h"
 #include "support/DatabaseTest.h"
-#include "support/Hands.h"
-#include "support/TestCluster.h"
 #include "support/TestTemplate.h"
 #include "support/WholeDatabase.h"
 
-#include <QCheckBox>
 #include <QFileDialog>
-#include <QRegularExpression>
-#include <QSignalSpy>
 #include <QSqlQuery>
 #include <QTcpServer>
 
@@ -44,9 +38,7 @@ private slots:
 
     void whatWasBackedUpComesBackAndCanBeWorkedWith_data()
     {
-        const auto row = addColumns<bool>("isNew");
-        row("into a new database", true);
-        row("into an empty one", false);
+        addRows<bool>("isNew", {{"into a new database", true}, {"into an empty one", false}});
     }
     void whatWasBackedUpComesBackAndCanBeWorkedWith()
     {
@@ -164,14 +156,10 @@ private slots:
         open();
         set("txtOutputFile", path);
         const QTemporaryDir programs;
-        if (field.isEmpty()) {
-            QFile program(programs.filePath("pg_dump"));
-            QVERIFY(program.open(QIODevice::WriteOnly) && program.write("#!/nowhere\n") > 0);
-            QVERIFY(program.setPermissions(QFile::ReadOwner | QFile::ExeOwner));
-            qputenv("ZAVEL_PG_BIN", programs.path().toLocal8Bit());
-        } else {
+        if (field.isEmpty())
+            TestCluster::replaceTool(programs.path(), "pg_dump", "#!/nowhere\n");
+        else
             set(field.toLatin1(), value);
-        }
         if (value == "gone") {
             // As after a crash of the program: a partial file in place of the backup.
             QVERIFY(QFile::rename(path, path + ".previous"));
@@ -190,12 +178,7 @@ private slots:
         QVERIFY(QFile::remove(path));
     }
 
-    void aBackupThatIsCutOffLeavesTheEarlierOne_data()
-    {
-        const auto row = addColumns<QString>("who");
-        for (const char* who : {"the program", "the server", "the owner"})
-            row(who, who);
-    }
+    void aBackupThatIsCutOffLeavesTheEarlierOne_data() { addNames("who", {"the program", "the server", "the owner"}); }
     void aBackupThatIsCutOffLeavesTheEarlierOne()
     {
         QFETCH(QString, who);
@@ -294,10 +277,7 @@ private slots:
         QCOMPARE(allRows(m_database->name()), rows);
 
         // The program itself uses the database, so it cannot be renamed either.
-        m_people->clear();
-        m_people->answer(QMessageBox::Yes);
-        button("btnRestore")->click();
-        QTRY_VERIFY_WITH_TIMEOUT(button("btnRestore")->isEnabled() && !QApplication::activeModalWidget(), 30000);
+        restoreOver();
         QVERIFY2(m_people->lastText().contains("was not replaced"), qPrintable(m_people->lastText()));
         QVERIFY(status("txtRestoreStatus").contains("is being accessed by other users"));
         QCOMPARE(allRows(m_database->name()), rows);
@@ -314,22 +294,13 @@ private slots:
 
         // It is renamed back if no new database can be created.
         const QTemporaryDir programs;
-        QFile program(programs.filePath("createdb"));
-        QVERIFY(program.open(QIODevice::WriteOnly) && program.write("#!/bin/sh\nexit 1\n") > 0);
-        QVERIFY(program.setPermissions(QFile::ReadOwner | QFile::ExeOwner));
-        program.close();
-        qputenv("ZAVEL_PG_BIN", programs.path().toLocal8Bit());
-        m_people->clear();
-        m_people->answer(QMessageBox::Yes);
-        button("btnRestore")->click();
-        QTRY_VERIFY_WITH_TIMEOUT(button("btnRestore")->isEnabled() && !QApplication::activeModalWidget(), 30000);
+        TestCluster::replaceTool(programs.path(), "createdb", "#!/bin/sh\nexit 1\n");
+        restoreOver();
         QCOMPARE(m_people->lastText(), "Nothing was restored. The database " + name + " is as it was.");
         QVERIFY(cluster.hasDatabase(name));
         qunsetenv("ZAVEL_PG_BIN");
 
-        m_people->answer(QMessageBox::Yes);
-        button("btnRestore")->click();
-        QTRY_VERIFY_WITH_TIMEOUT(button("btnRestore")->isEnabled() && !QApplication::activeModalWidget(), 30000);
+        restoreOver();
         QCOMPARE(m_people->lastText(), QString("Your database has been successfully restored"));
         const QString told = status("txtRestoreStatus").section("kept under the name ", -1).section('.', 0, 2);
         m_made.append(told);
@@ -344,9 +315,7 @@ private slots:
 
     void aRestoreThatIsCutOffIsToldAsIncomplete_data()
     {
-        const auto row = addColumns<bool>("byServer");
-        row("the program", false);
-        row("the server", true);
+        addRows<bool>("byServer", {{"the program", false}, {"the server", true}});
     }
     void aRestoreThatIsCutOffIsToldAsIncomplete()
     {
@@ -395,16 +364,18 @@ private:
     void open()
     {
         m_dialog = std::make_unique<DialogBackupDB>();
-        m_dialog->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_dialog.get()));
+        showForm(m_dialog.get());
     }
 
     void tab(int index) { m_dialog->findChild<QTabWidget*>("tabWidget")->setCurrentIndex(index); }
     void set(const char* name, const QString& text) { box(m_dialog.get(), name)->setText(text); }
-    /** Presses the button and waits until the form can be worked with again. */
-    void run(const char* name)
+    void restoreOver() { run("btnRestore", QMessageBox::Yes); }
+    /** Presses the button, gives this answer, and waits until the form can be worked with again. */
+    void run(const char* name, QMessageBox::StandardButton answer = QMessageBox::NoButton)
     {
         m_people->clear();
+        if (answer != QMessageBox::NoButton)
+            m_people->answer(answer);
         button(name)->click();
         QTRY_VERIFY_WITH_TIMEOUT(button(name)->isEnabled() && !QApplication::activeModalWidget(), 30000);
     }
@@ -428,10 +399,9 @@ private:
     /** The server's process that waits for a lock, 0 for none. */
     int waiting(const QString& database)
     {
-        return m_database
-            ->value(
-                "SELECT pid FROM pg_locks JOIN pg_database d ON d.oid = database WHERE NOT granted AND datname = '" +
-                database + "'")
+        return value(
+                   "SELECT pid FROM pg_locks JOIN pg_database d ON d.oid = database WHERE NOT granted AND datname = '" +
+                   database + "'")
             .toInt();
     }
 

@@ -1,10 +1,7 @@
-#include "kor/business/KorBusinessLogic.h"
 #include "kor/widgets/KorDialog.h"
 #include "support/DatabaseTest.h"
 #include "support/DocumentFamilies.h"
-#include "support/Hands.h"
 #include "support/SalesRows.h"
-#include "support/ShopRows.h"
 
 /** Tests that apply to all pages of documents. */
 class TestDocumentPages : public PageTest<QWidget>

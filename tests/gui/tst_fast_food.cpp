@@ -1,6 +1,6 @@
 #include "support/DatabaseTest.h"
+#include "support/OrderKeys.h"
 #include "support/SalesRows.h"
-#include "support/ShopRows.h"
 #include "zavel/fastfood/DialogFastFood.h"
 #include "zavel/fastfood/DialogSelectFastFoodInventory.h"
 #include "zavel/fastfood/DialogSelectFastFoodMenu.h"
@@ -9,28 +9,10 @@
 #include "zavel/fastfood/TableModelFastFoodDetail.h"
 #include "zavel/service/BusinessPenjualan.h"
 
-#include <QDir>
-
 namespace
 {
 using Column = TableModelFastFood::Column;
 const char* const printQuestion = "Do you want to print this invoice ?";
-
-void type(QWidget* form, const char* field, const QString& text)
-{
-    auto* box = form->findChild<QLineEdit*>(field);
-    box->setFocus(Qt::TabFocusReason);
-    QTest::keyClicks(box, text);
-}
-
-/** Without a window manager, a form is not activated again when a picker or message box closes. */
-void bringToFront(QWidget* form)
-{
-    form->activateWindow();
-    QTRY_COMPARE(QApplication::activeWindow(), form);
-}
-
-QString shown(const QWidget* form, const char* field) { return form->findChild<QLineEdit*>(field)->text(); }
 } // namespace
 
 /** Counter sales: rice at 25.000 from stock, tea at 5.000 from the menu. */
@@ -44,13 +26,10 @@ protected:
         AppContext::instance()->setLocale("id_ID");
         insertShop(*m_database);
         insertSeller(*m_database, 1, "admin");
-        run("INSERT INTO bank (kode, nama, account_type, active, version) "
-            "VALUES ('1010', 'Cash on Hand', 1, true, 1)");
+        insert("bank", "kode='1010', nama='Cash on Hand', active=true");
         run("UPDATE item SET harga_jual_lokal_amount = 25000");
-        run("INSERT INTO item (kode, item_type, is_group, nama, jenis, satuan, harga_beli_currency, "
-            "harga_beli_amount, harga_jual_lokal_currency, harga_jual_lokal_amount, sales_acct_code, "
-            "inventory_acct_code, cost_of_sales_acct_code, version) SELECT 'TEA', 2, false, 'Iced tea', jenis, "
-            "satuan, 'Rp', 1, 'Rp', 5000, '1-100', '1-100', '1-100', 1 FROM item");
+        insertItem(*m_database, 2, "TEA", "Iced tea");
+        run("UPDATE item SET item_type = 2, harga_jual_lokal_amount = 5000 WHERE id = 2");
     }
 
 private slots:
@@ -64,10 +43,10 @@ private slots:
             QCOMPARE(form->focusWidget()->objectName(), QString("btnAdd"));
             QCOMPARE(shown(form, "txtCashAccount"), QString("1010"));
             QCOMPARE(form->findChild<QDateEdit*>("datePay")->date(), QDate::currentDate());
-            QCOMPARE(form->findChild<QLabel*>("lblInvoiceTotal")->text(), QString("Total Invoice :"));
-            type(form, "txtEmployee", "E1");
-            type(form, "txtMember", "M1");
-            type(form, "txtNamaPelanggan", QString(60, 'n'));
+            QCOMPARE(labelled(form, "lblInvoiceTotal"), QString("Total Invoice :"));
+            typeInto(form, "txtEmployee", "E1");
+            typeInto(form, "txtMember", "M1");
+            typeInto(form, "txtNamaPelanggan", QString(60, 'n'));
             keyInTheFood(form, [](DialogFastFood* same) {
                 // After the last item, the focus is on the paid amount.
                 QCOMPARE(same->focusWidget()->objectName(), QString("txtPaid"));
@@ -92,7 +71,7 @@ private slots:
         QCOMPARE(column(Column::Menu).first(), QString("Iced tea, Rice"));
         QCOMPARE(column(Column::Waitress).first(), QString("Ann"));
         QCOMPARE(column(Column::Status).first(), QString("Fully Paid"));
-        QCOMPARE(m_page->findChild<QLabel*>("lblCount")->text(), QString("2 Items"));
+        QCOMPARE(label("lblCount"), QString("2 Items"));
         QCOMPARE(m_page->focusWidget(), m_grid);
         QVERIFY(stored("invoice_type, member_id, employee_id, acct_code").endsWith(",TRF 1 1 1010"));
         QVERIFY(stored("pemesan").endsWith(',' + QString(50, 'n')));
@@ -205,7 +184,7 @@ private slots:
         const auto found = [&](int row, const QString& waitress) {
             status->setCurrentIndex(row);
             m_page->findChild<QLineEdit*>("txtEmployee")->setText(waitress);
-            QTest::mouseClick(m_page->findChild<QPushButton*>("btnSearch"), Qt::LeftButton);
+            click(m_page.get(), "btnSearch");
             return column(Column::InvoiceNo).join(' ');
         };
         QCOMPARE(found(1, ""), QString("FULL"));
@@ -242,12 +221,7 @@ private:
     template <class Picker>
     void expectRound(const QString& code, const QString& qty, DialogFastFood* form, const FormStep& then)
     {
-        m_people->expect<Picker>([code, qty](Picker* picker) {
-            type(picker, "txtCode", code);
-            QTest::keyClick(picker->focusWidget(), Qt::Key_Return);
-            QTest::keyClicks(picker->focusWidget(), qty);
-            QTest::keyClick(picker->focusWidget(), Qt::Key_Return);
-        });
+        m_people->expect<Picker>([code, qty](Picker* picker) { pick(picker, code, qty); });
         m_people->expect<Picker>([this, then](Picker* picker) {
             m_people->expect<DialogFastFood>([then](DialogFastFood* same) {
                 bringToFront(same);
@@ -271,8 +245,6 @@ private:
     {
         return value("SELECT string_agg(concat_ws(' ', " + columns + "), ',' ORDER BY id) FROM " + table);
     }
-
-    [[nodiscard]] QStringList slips() const { return QDir(m_spool->path()).entryList({"*.slip"}, QDir::Files); }
 };
 
 QTEST_MAIN(TestFastFood)

@@ -1,5 +1,4 @@
 #include "app/context/AppContext.h"
-#include "app/context/ConnectionSettings.h"
 #include "app/context/DatabaseManager.h"
 #include "shell/database/tools/ClientProcess.h"
 #include "shell/database/tools/ClientPrograms.h"
@@ -18,7 +17,6 @@
 #include <QSqlQuery>
 #include <QTcpServer>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QTimer>
 
 namespace
@@ -328,7 +326,9 @@ private slots:
 
     void withoutTheClientProgramsNothingIsRestored()
     {
-        breakTools({"createdb", "pg_restore"});
+        const QTemporaryDir broken;
+        for (const char* tool : {"createdb", "pg_restore"})
+            TestCluster::replaceTool(broken.path(), tool, "#!/no/such/interpreter\n");
         enter("dbserverrestore", {{"restore.createdb", true}});
         next();
         waitForTheEnd();
@@ -426,20 +426,6 @@ private:
     {
         m_made.append(name);
         return name;
-    }
-
-    /** From now on these programs of PostgreSQL do not start. */
-    void breakTools(const QStringList& names)
-    {
-        const QString folder = m_home.filePath("without " + names.join('-'));
-        QDir().mkpath(folder);
-        for (const QString& tool : names) {
-            QFile broken(QDir(folder).filePath(tool));
-            QVERIFY(broken.open(QIODevice::WriteOnly));
-            broken.write("#!/no/such/interpreter\n");
-            broken.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-        }
-        qputenv("ZAVEL_PG_BIN", folder.toLocal8Bit());
     }
 
     QTemporaryDir m_home;

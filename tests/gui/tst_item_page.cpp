@@ -1,12 +1,14 @@
-#include "pos/masterdata/item/DialogItem.h"
+#include "pos/masterdata/item/BusinessItem.h"
 #include "pos/masterdata/item/TabItem.h"
+#include "pos/masterdata/item/TabSubItem.h"
 #include "support/DatabaseTest.h"
 #include "support/MasterFamilies.h"
 
 #include <QAbstractItemModelTester>
 #include <QAbstractProxyModel>
+#include <QRadioButton>
 
-/** The list of items, worked on as a manager does. */
+/** The list of items and the form of one, with its grouping, components and accounts, worked on as a manager does. */
 class TestItemPage : public PageTest<TabItem>
 {
     Q_OBJECT
@@ -15,18 +17,18 @@ protected:
     void prepare() override
     {
         run("UPDATE stok_awal SET jumlah = 8 WHERE item_id = (SELECT id FROM item WHERE kode = 'ns')");
-        m_page = std::make_unique<TabItem>();
-        m_page->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_page.get()));
-        m_grid = m_page->findChild<QTableView*>("tblItem");
+        show();
+    }
+    void tidy() override
+    {
+        m_form.reset();
+        PageTest::tidy();
     }
 
 private slots:
     void theListTellsPricesStockAndUnit()
     {
-        QStringList headers;
-        for (int column = 0; column < m_grid->model()->columnCount(); ++column)
-            headers.append(m_grid->model()->headerData(column, Qt::Horizontal).toString());
+        const QStringList headers = headersOf(*m_grid->model());
         QCOMPARE(headers,
                  (QStringList{"ID", "Code", "Name", "Class", "Type", "Unit Cost", "Sales Price", "Stock", "Unit"}));
         QCOMPARE(cell("ns", 3), QString("INV"));
@@ -51,16 +53,15 @@ private slots:
 
     void aLongListTakesTwoStatements()
     {
-        run("INSERT INTO item (kode, item_type, is_group, nama, jenis, satuan, harga_beli_currency, "
-            "harga_beli_amount, harga_jual_lokal_currency, harga_jual_lokal_amount, sales_acct_code, "
-            "inventory_acct_code, cost_of_sales_acct_code, version) SELECT 'i' || n, 1, false, 'Item ' || n, "
-            "jenis, satuan, 'Rp', n, 'Rp', 2 * n, '4050', '1200', '5000', 1 FROM item, generate_series(1, 300) n "
-            "WHERE kode = 'ns'");
+        insertRows(*m_database, "item",
+                   "kode='i' || i, nama='Item ' || i, sales_acct_code='4050', inventory_acct_code='1200', "
+                   "cost_of_sales_acct_code='5000'",
+                   300);
         const StatementCount statements;
         QTest::keyClick(m_grid, Qt::Key_F5);
         QTRY_COMPARE(count(), 304);
         QVERIFY2(statements.count() <= 2, qPrintable(QString::number(statements.count())));
-        QCOMPARE(m_page->findChild<QLabel*>("lblCount")->text(), QString("304 Items"));
+        QCOMPARE(label("lblCount"), QString("304 Items"));
     }
 
     void filterAndTypeNarrowTheList_data()
@@ -76,11 +77,8 @@ private slots:
     {
         FETCH(QString, filter, type);
         QFETCH(int, rows);
-        run("INSERT INTO item (kode, item_type, is_group, nama, jenis, satuan, harga_beli_currency, "
-            "harga_beli_amount, harga_jual_lokal_currency, harga_jual_lokal_amount, sales_acct_code, "
-            "inventory_acct_code, cost_of_sales_acct_code, version) SELECT 'tea', 2, false, 'Tea', "
-            "(SELECT id FROM jenis_item WHERE kode = 'mnm'), satuan, 'Rp', 1, 'Rp', 2, '4050', '1200', '5000', 1 "
-            "FROM item WHERE kode = 'ns'");
+        insert("item", "kode='tea', nama='Tea', jenis=(SELECT id FROM jenis_item WHERE kode = 'mnm'), "
+                       "sales_acct_code='4050', inventory_acct_code='1200', cost_of_sales_acct_code='5000'");
         auto* types = m_page->findChild<QComboBox*>("ddlItemType");
         QCOMPARE(types->itemText(0), QString("All"));
         types->setCurrentText(type);
@@ -111,9 +109,7 @@ private slots:
         QCOMPARE(value("SELECT sales_acct_code || ' ' || inventory_acct_code || ' ' || cost_of_sales_acct_code "
                        "FROM item WHERE kode = 'EGG'"),
                  QString("4050 1200 5000"));
-        QCOMPARE(
-            m_database->value("SELECT jumlah FROM stok_awal, item WHERE item.id = item_id AND kode = 'EGG'").toInt(),
-            0);
+        QCOMPARE(value("SELECT jumlah FROM stok_awal, item WHERE item.id = item_id AND kode = 'EGG'"), QString("0"));
     }
 
     void whatIsMissingIsToldAtOnce()
@@ -167,25 +163,166 @@ private slots:
         QCOMPARE(m_people->texts(), QStringList{"This item code is already in use please use another code\r\n"});
     }
 
-private:
-    [[nodiscard]] QString cell(const QString& code, int column) const
+    void theGroupBoxFollowsTheClass_data()
     {
-        for (int row = 0; row < count(); ++row) {
-            if (m_grid->model()->index(row, 1).data().toString() == code)
-                return m_grid->model()->index(row, column).data().toString();
-        }
-        return "no such row";
+        const auto row = addColumns<QString, QString, QString>("item", "clicks", "expected");
+
+        row("new", "", "", "");
+        row("a new one has no components before it is saved", "", "group", "ticked");
+        row("a service is not grouped", "", "group service", "locked");
+        row("back to stock", "", "service stock", "");
+        row("a saved stock item", "ns", "", "");
+        row("a saved stock item is grouped", "ns", "group", "ticked components");
+        row("no longer grouped, the box locks itself", "ns", "group group", "locked");
+        row("a grouped menu item", "fr", "", "ticked components");
+        row("a grouped menu item is no longer", "fr", "group", "locked");
+        row("a grouped menu item becomes stock", "fr", "stock", "ticked components");
+        row("to stock and back", "fr", "stock service", "locked");
+    }
+    void theGroupBoxFollowsTheClass()
+    {
+        FETCH(QString, item, clicks);
+        open(item);
+        const QMap<QString, QAbstractButton*> buttons{{"service", in<QRadioButton>("rbService")},
+                                                      {"stock", in<QRadioButton>("rbStok")},
+                                                      {"group", in<QCheckBox>("cbGabungan")}};
+        for (const QString& click : clicks.split(' ', Qt::SkipEmptyParts))
+            buttons.value(click)->click();
+
+        QStringList state;
+        if (!buttons["group"]->isEnabled())
+            state.append("locked");
+        if (buttons["group"]->isChecked())
+            state.append("ticked");
+        if (in<QTabWidget>("tabItem")->isTabEnabled(1))
+            state.append("components");
+        QTEST(state.join(' '), "expected");
     }
 
-    void choose(const QString& code)
+    void anAccountIsTypedOrChosen()
     {
-        for (int row = 0; row < count(); ++row) {
-            if (m_grid->model()->index(row, 1).data().toString() == code)
-                m_grid->selectRow(row);
-        }
+        open("ns");
+        in<QTabWidget>("tabItem")->setCurrentIndex(2);
+        typeInto(m_form.get(), "txtSalesAccount", "1010");
+        QCOMPARE(in<QLabel>("lblSales")->text(), QString());
+        QTest::keyClick(in<QLineEdit>("txtSalesAccount"), Qt::Key_Tab);
+        QCOMPARE(in<QLabel>("lblSales")->text(), QString("Cash on Hand"));
+
+        // The half second after the last key is over when the list stands below the field.
+        typeInto(m_form.get(), "txtInvAccount", "checking");
+        takeFirst();
+        QTRY_COMPARE(in<QLabel>("lblInventory")->text(), QString("Checking Account"));
+        QVERIFY(in<QLineEdit>("txtCostOfSalesAccount")->hasFocus());
+
+        const auto* item = static_cast<const EntityItem*>(m_form->getEntity());
+        QCOMPARE(item->getSalesAcctCode(), QString("1010"));
+        QCOMPARE(item->getInventoryAcctCode(), QString("1020"));
+        QCOMPARE(item->getCostOfSalesAcctCode(), QString("5000"));
     }
+
+    void anAccountThatDoesNotExistIsRefused()
+    {
+        open("ns");
+        typeInto(m_form.get(), "txtInvAccount", "9999");
+        m_form->accept();
+        QCOMPARE(m_people->texts(), QStringList{"Enter the Inventory Account\r\n"});
+        QVERIFY(m_form->isVisible());
+        QCOMPARE(in<QTabWidget>("tabItem")->currentIndex(), 2);
+    }
+
+    void componentsAreAddedOnce()
+    {
+        run("DELETE FROM grouped_item WHERE original_item_id = (SELECT id FROM item WHERE kode = 'aym')");
+        showComponents();
+        m_people->expect<DialogSubItem>([](DialogSubItem* form) { form->accept(); });
+        m_people->expect<DialogSubItem>([](DialogSubItem* form) {
+            typeInto(form, "txtKode", "ns");
+            typeInto(form, "txtJumlah", "0.7");
+            form->accept();
+        });
+        m_people->expect<DialogSubItem>([](DialogSubItem* form) {
+            typeInto(form, "txtJumlah", "3");
+            form->accept();
+        });
+        m_people->expect<DialogSubItem>([](DialogSubItem* form) {
+            QCOMPARE(form->findChild<QLineEdit*>("txtNama")->text(), QString("Rice"));
+            typeInto(form, "txtKode", "AYM");
+            form->accept();
+        });
+        QTest::keyClick(m_form.get(), Qt::Key_F12);
+        QTRY_COMPARE(in<QTableView>("tblSubItem")->model()->rowCount(), 2);
+        QCOMPARE(m_people->texts(), (QStringList{"Enter the item code\r\nEnter the qty\r\n", "Enter the qty\r\n",
+                                                 "This item is already in the list, please update it"}));
+        QVERIFY(m_people->finished());
+        QCOMPARE(quantityOf("ns"), QString("2"));
+        QCOMPARE(quantityOf("aym"), QString("3"));
+    }
+
+    void aComponentIsChangedAndDeleted()
+    {
+        showComponents();
+        auto* grid = in<QTableView>("tblSubItem");
+        grid->selectRow(0);
+        m_people->expect<DialogSubItem>([](DialogSubItem* form) {
+            QCOMPARE(form->findChild<QLineEdit*>("txtNama")->text(), QString("Rice"));
+            QCOMPARE(form->findChild<QLineEdit*>("txtHargaBeli")->text(), QString("1.00"));
+            typeInto(form, "txtJumlah", "6");
+            form->accept();
+        });
+        QTest::keyClick(grid, Qt::Key_F2);
+        QTRY_COMPARE(quantityOf("ns"), QString("6"));
+
+        m_form->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_form.get()));
+        m_people->answer(QMessageBox::Yes);
+        grid->selectRow(0);
+        QTest::keyClick(grid, Qt::Key_Delete);
+        QTRY_COMPARE(m_people->texts(), QStringList{"Are you sure you want to delete this sub item: Rice ?"});
+        QTRY_COMPARE(quantityOf("ns"), QString());
+    }
+
+    void theComponentListHasNothingToClose()
+    {
+        showComponents();
+        QVERIFY(!m_form->findChild<TabSubItem*>()->findChild<QPushButton*>("btnClose")->isVisible());
+        QTest::keyClick(in<QTableView>("tblSubItem"), Qt::Key_Escape);
+        QTRY_VERIFY(!m_form->isVisible());
+    }
+
+private:
+    [[nodiscard]] QString cell(const QString& code, int shown) const { return PageTest::cell(rowOf(code), shown); }
+    [[nodiscard]] int rowOf(const QString& code) const { return column(1).indexOf(code); }
+    void choose(const QString& code) { m_grid->selectRow(rowOf(code)); }
 
     [[nodiscard]] int count() const { return m_grid->model()->rowCount(); }
+    void open(const QString& code = QString())
+    {
+        m_form = std::make_unique<DialogItem>();
+        if (!code.isEmpty())
+            m_form->setEntity(service<BusinessItem>("Item")->findByCode(code));
+        showForm(m_form.get());
+    }
+
+    template <class Widget>
+    [[nodiscard]] Widget* in(const char* name) const
+    {
+        return m_form->findChild<Widget*>(name);
+    }
+    [[nodiscard]] QString quantityOf(const QString& component)
+    {
+        return value(
+            "SELECT string_agg(jumlah::text, ',') FROM grouped_item, item WHERE item.id = original_item_id AND "
+            "kode = '" +
+            component + '\'');
+    }
+
+    void showComponents()
+    {
+        open("fr");
+        in<QTabWidget>("tabItem")->setCurrentIndex(1);
+    }
+
+    std::unique_ptr<DialogItem> m_form;
 };
 
 QTEST_MAIN(TestItemPage)

@@ -1,21 +1,14 @@
-#include "app/context/DatabaseManager.h"
 #include "kor/persistence/KorConnectionProbe.h"
 #include "support/DatabaseTest.h"
 #include "support/Golden.h"
 #include "support/StallingProxy.h"
-#include "support/TestCluster.h"
 #include "zavel/dinein/TableModelMakanDitempatDetail.h"
 #include "zavel/kitchen/TabPesananMasuk.h"
 #include "zavel/kitchen/TableModelQueue.h"
 #include "zavel/kitchen/TableModelQueueMenu.h"
 #include "zavel/service/BusinessPenjualan.h"
 
-#include <QDir>
-#include <QMessageBox>
-#include <QRegularExpression>
 #include <QScrollBar>
-#include <QSignalSpy>
-#include <QTimer>
 
 #include <unistd.h>
 
@@ -57,14 +50,14 @@ private slots:
         EntityMakanDitempat* moved =
             m_make->openOrder(m_make->table("A"), {m_make->line(m_rice, 2, "no chili")}, "Ann");
         m_make->openOrder(m_make->table("Z"), {m_make->line(m_tea, 1)});
-        m_database->run("UPDATE makan_ditempat SET createdtime = createdtime - interval '44 minutes 30 seconds'");
+        run("UPDATE makan_ditempat SET createdtime = createdtime - interval '44 minutes 30 seconds'");
         for (const char* table : {"B", "C"}) {
             EntityMakanDitempat* found = m_sales->findOrder(moved->getId());
             found->moveTo(m_make->table(table));
             QVERIFY(m_sales->updateOrder(found));
         }
-        m_database->run("UPDATE makan_ditempat SET updatedtime = updatedtime - interval '100 seconds'");
-        m_database->run("UPDATE bawa_pulang SET createdtime = createdtime - interval '1 day'");
+        run("UPDATE makan_ditempat SET updatedtime = updatedtime - interval '100 seconds'");
+        run("UPDATE bawa_pulang SET createdtime = createdtime - interval '1 day'");
 
         show();
         const auto* timer = m_page->findChild<QTimer*>();
@@ -72,24 +65,20 @@ private slots:
         QCOMPARE(timer->interval(), 10000);
         QCOMPARE(timer->timerType(), Qt::CoarseTimer);
         const QString takeAwayCode = "Take Away:" + QString::number(takeAway->getId());
-        QCOMPARE(column(orders(), Queue::Code), (QStringList{"A>B>C", "Z", takeAwayCode}));
-        QCOMPARE(column(orders(), Queue::ElapsedTime), (QStringList{"1 minute", "44 minutes", "yesterday"}));
+        QCOMPARE(columnOf(orders(), Queue::Code), (QStringList{"A>B>C", "Z", takeAwayCode}));
+        QCOMPARE(columnOf(orders(), Queue::ElapsedTime), (QStringList{"1 minute", "44 minutes", "yesterday"}));
 
         QVERIFY(selected(orders()).isEmpty());
-        QCOMPARE(m_page->findChild<QLabel*>("lblCount")->text(), QString("0 Items"));
+        QCOMPARE(label("lblCount"), QString("0 Items"));
         selectOrder("A>B>C");
-        QCOMPARE(m_page->findChild<QLabel*>("lblCount")->text(), QString("1 Items"));
-        QStringList headers;
-        QStringList cells;
-        for (int i = 0; i < lines()->model()->columnCount(); ++i) {
-            headers.append(lines()->model()->headerData(i, Qt::Horizontal).toString());
-            cells.append(lines()->model()->index(0, i).data().toString());
-        }
-        QCOMPARE(headers, (QStringList{"Code", "Name", "Qty", "Unit", "Status", "Description", "Created", "Updated"}));
+        QCOMPARE(label("lblCount"), QString("1 Items"));
+        QCOMPARE(headersOf(*lines()->model()),
+                 (QStringList{"Code", "Name", "Qty", "Unit", "Status", "Description", "Created", "Updated"}));
         const QString today = QDate::currentDate().toString("d MMM yyyy");
-        QCOMPARE(cells, (QStringList{"RICE", "Fried rice", "2", "Packs", "", "no chili", today, today}));
+        QCOMPARE(cells(*lines()->model(), 0),
+                 (QStringList{"RICE", "Fried rice", "2", "Packs", "", "no chili", today, today}));
         selectOrder(takeAwayCode);
-        QCOMPARE(column(lines(), Menu::Name), QStringList{"Iced tea"});
+        QCOMPARE(columnOf(lines(), Menu::Name), QStringList{"Iced tea"});
     }
 
     void anOrderStaysUntilItIsDone()
@@ -98,21 +87,21 @@ private slots:
         EntityMakanDitempat* done = m_make->openOrder(m_make->table("t2"), {m_make->line(m_rice, 1)});
         EntityBawaPulang* gone = m_make->takeAway({{m_tea, 1}});
         m_make->invoice(paid, 25000);
-        m_database->run("UPDATE makan_ditempat SET createdtime = createdtime - interval '2 hours', "
-                        "updatedtime = updatedtime - interval '2 hours'");
+        run("UPDATE makan_ditempat SET createdtime = createdtime - interval '2 hours', "
+            "updatedtime = updatedtime - interval '2 hours'");
         show();
         QCOMPARE(orders()->model()->rowCount(), 3);
         QVERIFY(m_sales->makanDitempatSelesai(done));
         QVERIFY(m_sales->bawaPulangSelesai(gone));
         tick();
-        QCOMPARE(column(orders(), Queue::Code), QStringList{"t1"});
-        QCOMPARE(column(orders(), Queue::ElapsedTime), QStringList{"2 hours"});
+        QCOMPARE(columnOf(orders(), Queue::Code), QStringList{"t1"});
+        QCOMPARE(columnOf(orders(), Queue::ElapsedTime), QStringList{"2 hours"});
         QCOMPARE(m_database->value("SELECT status FROM makan_ditempat WHERE meja_id = 1").toInt(),
                  int(EntityOrder::PAID));
         // Saving the order restarts its clock.
         QVERIFY(m_sales->updateOrder(m_sales->findOrder(paid->getId())));
         tick();
-        QVERIFY(column(orders(), Queue::ElapsedTime).first().endsWith(" second"));
+        QVERIFY(columnOf(orders(), Queue::ElapsedTime).first().endsWith(" second"));
     }
 
     void theFilterLeavesOrdersToTakeAwayInTheList()
@@ -121,14 +110,13 @@ private slots:
         m_make->openOrder(m_make->table("T2", "Garden"), {m_make->line(m_rice, 1)});
         const QString takeAway = "Take Away:" + QString::number(m_make->takeAway({{m_tea, 1}})->getId());
         show();
-        auto* filter = m_page->findChild<QLineEdit*>("txtFilter");
         for (const char* text : {"GARDEN", "T2"}) {
-            filter->setText(text);
-            QTest::keyClick(filter, Qt::Key_Return);
-            QCOMPARE(column(orders(), Queue::Code), (QStringList{"T2", takeAway}));
+            typeInto(m_page.get(), "txtFilter", text);
+            confirm(m_page.get(), "txtFilter");
+            QCOMPARE(columnOf(orders(), Queue::Code), (QStringList{"T2", takeAway}));
         }
-        filter->clear();
-        QCOMPARE(column(orders(), Queue::Code), (QStringList{"T1", "T2", takeAway}));
+        box(m_page.get(), "txtFilter")->clear();
+        QCOMPARE(columnOf(orders(), Queue::Code), (QStringList{"T1", "T2", takeAway}));
     }
 
     void aTickChangesNothingUnderTheCooksHand()
@@ -186,7 +174,7 @@ private slots:
         QVERIFY(m_sales->makanDitempatSelesai(first));
         tick();
         QCOMPARE(selected(orders()), QStringList{"t2"});
-        QCOMPARE(column(lines(), Menu::Name), QStringList{"Iced tea"});
+        QCOMPARE(columnOf(lines(), Menu::Name), QStringList{"Iced tea"});
         QVERIFY(selected(lines()).isEmpty());
     }
 
@@ -197,25 +185,24 @@ private slots:
         EntityBawaPulang* takeAway = m_make->takeAway({{m_tea, 1}});
         show();
         auto* note = m_page->findChild<QComboBox*>("ddlNote");
-        QCOMPARE(note->count(), 3);
         QCOMPARE(note->itemText(0) + '/' + note->itemText(1) + '/' + note->itemText(2),
                  QString("Out of Stock/Processed/Not Enough Stock"));
         // Without a selected line nothing is written, but the page reads again.
         m_make->openOrder(m_make->table("t2"), {m_make->line(m_tea, 1)});
         selectOrder("t1");
         click("btnSendStatus");
-        QCOMPARE(column(orders(), Queue::Code).mid(0, 2), (QStringList{"t1", "t2"}));
-        QCOMPARE(column(lines(), Menu::Status), (QStringList{"", ""}));
+        QCOMPARE(columnOf(orders(), Queue::Code).mid(0, 2), (QStringList{"t1", "t2"}));
+        QCOMPARE(columnOf(lines(), Menu::Status), (QStringList{"", ""}));
 
         lines()->selectRow(1);
         click("btnSendStatus");
-        QCOMPARE(column(lines(), Menu::Status), (QStringList{"", "Out of Stock"}));
+        QCOMPARE(columnOf(lines(), Menu::Status), (QStringList{"", "Out of Stock"}));
         QCOMPARE(selected(lines()), QStringList{"TEA"});
         selectOrder("Take Away:" + QString::number(takeAway->getId()));
         lines()->selectAll();
         note->setCurrentIndex(1);
         click("btnSendStatus");
-        QCOMPARE(column(lines(), Menu::Status), QStringList{"Processed"});
+        QCOMPARE(columnOf(lines(), Menu::Status), QStringList{"Processed"});
 
         QList<KorEntity*> stored;
         for (EntityOrderDetail* line : m_sales->findOrder(dine->getId())->getDetails())
@@ -236,11 +223,11 @@ private slots:
         selectOrder("t1");
         lines()->selectAll();
         const int gone = dine->getDetails().first()->getId();
-        m_database->run("DELETE FROM makan_ditempat_detail WHERE id = " + QString::number(gone));
+        run("DELETE FROM makan_ditempat_detail WHERE id = " + QString::number(gone));
         click("btnSendStatus");
         QTRY_COMPARE(m_people->texts(), QStringList{QString("Can not find entity with id: %1\r\n").arg(gone)});
         QCOMPARE(m_people->lastTitle(), QString("Error"));
-        QCOMPARE(column(lines(), Menu::Status), QStringList{"Out of Stock"});
+        QCOMPARE(columnOf(lines(), Menu::Status), QStringList{"Out of Stock"});
     }
 
     void anAdditionHoldsNewAndChangedLinesOnly()
@@ -254,13 +241,12 @@ private slots:
         order->moveTo(m_make->table("T5"));
         QVERIFY(m_sales->updateOrder(order));
         // One is being cooked, one was changed, one is new.
-        m_database->run(
-            QString("UPDATE makan_ditempat_detail SET status = CASE item_id WHEN %1 THEN 3 WHEN %2 THEN 4 ELSE "
+        run(QString("UPDATE makan_ditempat_detail SET status = CASE item_id WHEN %1 THEN 3 WHEN %2 THEN 4 ELSE "
                     "1 END")
                 .arg(m_rice->getId())
                 .arg(m_tea->getId()));
-        m_database->run("UPDATE makan_ditempat SET createdtime = createdtime - interval '3 hours', "
-                        "updatedtime = updatedtime - interval '10 minutes'");
+        run("UPDATE makan_ditempat SET createdtime = createdtime - interval '3 hours', "
+            "updatedtime = updatedtime - interval '10 minutes'");
         show();
         QVERIFY(!m_page->findChild<QPushButton*>("btnPrint")->isEnabled());
         selectOrder("T3>T5");
@@ -273,7 +259,7 @@ private slots:
         addition.replace(QRegularExpression("Date   : [0-9: -]+\n"), "Date   : the evening\n");
         QCOMPARE(goldenDifference("kitchen_addition.txt", addition.toUtf8()), QString());
         QVERIFY(slips().at(1).contains("Fried rice") && slips().at(1).contains("Oxtail soup"));
-        QCOMPARE(column(lines(), Menu::Code), (QStringList{"RICE", "TEA", "SOUP"}));
+        QCOMPARE(columnOf(lines(), Menu::Code), (QStringList{"RICE", "TEA", "SOUP"}));
         QVERIFY(m_people->boxes().isEmpty());
     }
 
@@ -282,10 +268,7 @@ private slots:
         m_make->openOrder(m_make->table("t1"), {m_make->line(m_rice, 1)});
         show();
         selectOrder("t1");
-        QFile printers(m_spool->filePath("printers"));
-        QVERIFY(printers.open(QIODevice::WriteOnly));
-        printers.write("Somewhere else\n");
-        printers.close();
+        listPrinters("Somewhere else\n");
         m_make->openOrder(m_make->table("t2"), {m_make->line(m_rice, 1)});
 
         m_people.reset();
@@ -363,7 +346,7 @@ private slots:
             QVERIFY(boxes().first()->text().startsWith("The connection to the database is lost."));
             QVERIFY(line->isVisible());
             QCOMPARE(selected(orders()), QStringList{"t1"});
-            QCOMPARE(column(lines(), Menu::Code), QStringList{"RICE"});
+            QCOMPARE(columnOf(lines(), Menu::Code), QStringList{"RICE"});
         }
         boxes().first()->close();
         QTRY_VERIFY(boxes().isEmpty());
@@ -374,9 +357,9 @@ private slots:
         QVERIFY(boxes().isEmpty() && line->isVisible());
 
         TestCluster::instance().run("ALTER DATABASE " + m_database->name() + " WITH ALLOW_CONNECTIONS true");
-        m_database->run("UPDATE makan_ditempat_detail SET kitchen_status = 'Processed'");
+        run("UPDATE makan_ditempat_detail SET kitchen_status = 'Processed'");
         tick();
-        QTRY_COMPARE(column(lines(), Menu::Status), QStringList{"Processed"});
+        QTRY_COMPARE(columnOf(lines(), Menu::Status), QStringList{"Processed"});
         QVERIFY(line->isHidden());
         // The next loss is reported again, and its message box closes by itself.
         m_database->killConnections();
@@ -405,30 +388,14 @@ private slots:
             QApplication::processEvents();
         }
         QVERIFY2(clock.elapsed() < 1000, qPrintable(QString::number(clock.elapsed())));
-        QCOMPARE(column(orders(), Queue::Code), QStringList{"t1"});
+        QCOMPARE(columnOf(orders(), Queue::Code), QStringList{"t1"});
         QVERIFY(m_page->findChild<QLabel*>("lblNotUpToDate")->isVisible());
     }
 
 private:
-    void show()
-    {
-        m_page = std::make_unique<TabPesananMasuk>();
-        m_page->resize(1000, 640);
-        m_page->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_page.get()));
-    }
-
     void tick() { m_page->autoRefresh(); }
     [[nodiscard]] QTableView* orders() const { return m_page->findChild<QTableView*>("tblQueue"); }
     [[nodiscard]] QTableView* lines() const { return m_page->findChild<QTableView*>("tblMenu"); }
-    [[nodiscard]] static QStringList column(const QTableView* grid, int column)
-    {
-        QStringList texts;
-        for (int row = 0; row < grid->model()->rowCount(); ++row)
-            texts.append(grid->model()->index(row, column).data().toString());
-        return texts;
-    }
-
     [[nodiscard]] static QStringList selected(const QTableView* grid)
     {
         QStringList texts;
@@ -438,18 +405,7 @@ private:
     }
 
     void click(const char* button) { m_page->findChild<QPushButton*>(button)->click(); }
-    void selectOrder(const QString& code) { orders()->selectRow(column(orders(), Queue::Code).indexOf(code)); }
-    [[nodiscard]] QStringList slips() const
-    {
-        QStringList texts;
-        const QDir folder(m_spool->path());
-        for (const QString& job : folder.entryList({"*.slip"}, QDir::Files, QDir::Name)) {
-            QFile file(folder.filePath(job));
-            if (file.open(QIODevice::ReadOnly))
-                texts.append(QString::fromUtf8(file.readAll()));
-        }
-        return texts;
-    }
+    void selectOrder(const QString& code) { orders()->selectRow(columnOf(orders(), Queue::Code).indexOf(code)); }
 
     BusinessPenjualan* m_sales = nullptr;
     EntityItem* m_rice = nullptr;

@@ -1,6 +1,5 @@
 #include "pos/invoice/EntityInvoiceDetail.h"
 #include "support/DatabaseTest.h"
-#include "support/Hands.h"
 #include "zavel/dinein/DialogBayarMakanDitempat.h"
 #include "zavel/dinein/DialogMakanDitempat.h"
 #include "zavel/dinein/TabBayarMakanDitempatDetail.h"
@@ -8,10 +7,7 @@
 #include "zavel/dinein/TableModelMakanDitempat.h"
 #include "zavel/order/OrderLinesTab.h"
 
-#include <QDir>
-#include <QFile>
 #include <QRandomGenerator>
-#include <QRegularExpression>
 
 namespace
 {
@@ -49,18 +45,12 @@ protected:
             "auto_print":"Yes","say_former":"%3","no_of_copy":"1","column_paper":"40","no_of_blank_lines":"0"}', 1))")
                     .arg(cook.key(), cook->type, cook->isToldFormer ? "Yes" : "No"));
         m_board = std::make_unique<TabMakanDitempat>();
-        m_board->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_board.get()));
+        showForm(m_board.get());
     }
     void tidy() override { m_board.reset(); }
 
 private slots:
-    void everyDishReachesItsKitchenOnce_data()
-    {
-        const auto row = addColumns<quint32>("seed");
-        for (quint32 seed : {1U, 3U})
-            row(qPrintable(QString("evening %1").arg(seed)), seed);
-    }
+    void everyDishReachesItsKitchenOnce_data() { addSeeds({1U, 3U}); }
     void everyDishReachesItsKitchenOnce()
     {
         QFETCH(quint32, seed);
@@ -118,10 +108,7 @@ private:
     void choose(const QString& table)
     {
         auto* grid = m_board->findChild<QTableView*>("tblMeja");
-        for (int row = 0; row < grid->model()->rowCount(); ++row) {
-            if (grid->model()->index(row, TableModelMakanDitempat::TableCode).data().toString() == table)
-                grid->selectRow(row);
-        }
+        grid->selectRow(columnOf(grid, TableModelMakanDitempat::TableCode).lastIndexOf(table));
     }
 
     /** Adds an order, or more lines to the table's open order. */

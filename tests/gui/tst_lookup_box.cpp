@@ -1,4 +1,6 @@
-#include "kor/widgets/KorTextBoxExtender.h"
+#include "app/context/AppContext.h"
+#include "app/widgets/AppEntityTextBox.h"
+#include "kor/business/KorBusinessLogic.h"
 #include "support/Rows.h"
 
 #include <QApplication>
@@ -8,10 +10,30 @@
 #include <QPointer>
 #include <QScreen>
 #include <QSignalSpy>
-#include <QTest>
 #include <QTimer>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+
+class Rank : public KorEntity
+{
+    Q_OBJECT
+    KOR_PROPERTY(QString, Nama, QString(""))
+
+public:
+    using KorEntity::KorEntity;
+};
+Q_DECLARE_METATYPE(Rank*)
+
+class Guest : public KorEntity
+{
+    Q_OBJECT
+    KOR_PROPERTY(QString, Kode, QString(""))
+    KOR_PROPERTY(QString, Nama, QString(""))
+    KOR_REFERENCE(Rank, Rank)
+
+public:
+    using KorEntity::KorEntity;
+};
 
 namespace
 {
@@ -81,8 +103,73 @@ struct Order
     MenuBox* box;
     QTimer* timer;
 };
+
+class GuestService final : public KorBusinessLogic
+{
+public:
+    GuestService() : KorBusinessLogic("Guest", nullptr) {}
+    [[nodiscard]] QList<KorPermission> getPermissions() const override { return {}; }
+
+    QList<KorEntity*> findAll(const QString& text)
+    {
+        asked.append(text);
+        QList<KorEntity*> found;
+        for (const QString& code : codes.filter(text)) {
+            auto* guest = new Guest(AppContext::instance()->entityPool());
+            guest->setKode(code);
+            guest->setNama("Guest " + code);
+            guest->setRank(new Rank(AppContext::instance()->entityPool()));
+            guest->getRank()->setNama("gold");
+            found.append(guest);
+        }
+        if (broken)
+            addError("findall", "connection lost");
+        return found;
+    }
+
+    QStringList codes = {"m1", "m2", "o'neil"};
+    QStringList asked;
+    bool broken = false;
+};
+
+class GuestTextBox final : public AppMasterTextBox<Guest, GuestService>
+{
+public:
+    GuestTextBox(QLineEdit* editor, GuestService* service) : AppMasterTextBox(editor, service, {"Code", "Name", "Rank"})
+    {}
+
+protected:
+    [[nodiscard]] QString thirdOf(const KorEntity& record) const override
+    {
+        return static_cast<const Guest&>(record).getRank()->getNama();
+    }
+};
+
+struct Bill
+{
+    Bill()
+    {
+        field.show();
+        [[maybe_unused]] const bool active = QTest::qWaitForWindowActive(&field);
+    }
+    [[nodiscard]] static QTreeWidget* list() { return qobject_cast<QTreeWidget*>(QApplication::activePopupWidget()); }
+    void choose(const QString& text, int row)
+    {
+        box->search(text);
+        for (int i = 0; i < row; ++i)
+            QTest::keyClick(list(), Qt::Key_Down);
+        QTest::keyClick(list(), Qt::Key_Return);
+    }
+
+    GuestService service;
+    QLineEdit field;
+    GuestTextBox* box = new GuestTextBox(&field, &service);
+};
+
+int recordsAlive() { return AppContext::instance()->mainEntityPool()->findChildren<KorEntity*>().size(); }
 } // namespace
 
+/** The list below a box: how it opens, is walked and goes, and the records that it hands to a form. */
 class TestLookupBox : public QObject
 {
     Q_OBJECT
@@ -101,25 +188,16 @@ private slots:
         QVERIFY(!order.timer->isActive());
     }
 
-    void aTextFromTheProgramOpensNoList()
+    void nobodyIsInterruptedByAList()
     {
         Order order;
+        // A text from the program opens none, a form calls off a search that is due, and so does who goes on.
         order.field.setText("nasi");
         QVERIFY(!order.timer->isActive());
-    }
-
-    void aFormCanCallOffASearchThatIsDue()
-    {
-        Order order;
         order.type("n");
         QVERIFY(order.timer->isActive());
         order.box->preventSuggest();
         QVERIFY(!order.timer->isActive());
-    }
-
-    void whoHasGoneOnIsNotInterrupted()
-    {
-        Order order;
         order.type("n");
         QVERIFY(order.timer->isActive());
         order.press(Qt::Key_Tab);
@@ -235,9 +313,7 @@ private slots:
 
     void withoutAFindTheListSaysSoAndNothingIsChosen_data()
     {
-        const auto row = addColumns<bool>("byMouse");
-        row("Return", false);
-        row("mouse", true);
+        addRows<bool>("byMouse", {{"Return", false}, {"mouse", true}});
     }
     void withoutAFindTheListSaysSoAndNothingIsChosen()
     {
@@ -348,6 +424,102 @@ private slots:
         }
         QVERIFY(!list);
         QVERIFY(!QApplication::activePopupWidget());
+    }
+
+    void aFoundRecordShowsItsCodeNameAndMore()
+    {
+        Bill bill;
+        bill.box->search("o'");
+        QCOMPARE(bill.service.asked, QStringList({"o'"}));
+        QTreeWidgetItem* row = Bill::list()->topLevelItem(0);
+        QCOMPARE(row->text(0), QString("o'neil"));
+        QCOMPARE(row->text(1), QString("Guest o'neil"));
+        QCOMPARE(row->text(2), QString("gold"));
+        QCOMPARE(bill.box->rowText(0, 3), QVariant(QString()));
+        QCOMPARE(bill.box->rowText(7, 0), QVariant(QString()));
+    }
+
+    void theChosenRecordIsHandedToTheForm()
+    {
+        Bill bill;
+        QVERIFY(!bill.box->selectedItem());
+        QCOMPARE(bill.box->selectedCode(), QString());
+        QString heard;
+        connect(&bill.field, &QLineEdit::returnPressed, this, [&] { heard = bill.box->selectedItem()->getNama(); });
+        bill.choose("m", 1);
+        QCOMPARE(heard, QString("Guest m2"));
+        QCOMPARE(bill.field.text(), QString("m2"));
+        QCOMPARE(bill.box->selectedCode(), QString("m2"));
+        QCOMPARE(bill.box->selectedRow(), 1);
+    }
+
+    void theChosenRecordAndItsPartnersOutliveTheNextSearch()
+    {
+        Bill bill;
+        bill.choose("m", 0);
+        QPointer<Guest> guest = bill.box->selectedItem();
+        bill.choose("o'neil", 0);
+        bill.box->search("m");
+        QVERIFY(guest);
+        QCOMPARE(guest->getKode(), QString("m1"));
+        QCOMPARE(guest->getRank()->getNama(), QString("gold"));
+    }
+
+    void recordsNobodyChoseGoWithTheNextSearch()
+    {
+        const int before = recordsAlive();
+        {
+            Bill bill;
+            for (int i = 0; i < 20; ++i)
+                bill.choose("m", 1);
+            bill.box->search("nobody");
+            QCOMPARE(recordsAlive() - before, 40); // each time the guest and its rank
+        }
+        QCOMPARE(recordsAlive(), before);
+    }
+
+    void escapeAfterAnotherSearchDoesNotChangeTheGuestOfTheBill()
+    {
+        Bill bill;
+        bill.choose("m", 0);
+        bill.box->search("o'neil");
+        QTest::keyClick(Bill::list(), Qt::Key_Escape);
+        QCOMPARE(bill.box->selectedRow(), 0);
+        QCOMPARE(bill.box->selectedItem()->getKode(), QString("m1"));
+    }
+
+    void choosingNoResultLeavesNoGuest()
+    {
+        Bill bill;
+        bill.choose("m", 0);
+        bill.choose("nobody", 0);
+        QVERIFY(!bill.box->selectedItem());
+        QCOMPARE(bill.box->selectedCode(), QString());
+    }
+
+    void aFailedSearchShowsNoResultAndLeavesNoErrorBehind()
+    {
+        Bill bill;
+        bill.service.broken = true;
+        bill.box->search("m");
+        QVERIFY(bill.box->items().isEmpty());
+        QCOMPARE(Bill::list()->topLevelItem(0)->text(0), QString("No result"));
+        QVERIFY(!bill.service.hasError());
+        // Nor does an old one of the service spoil a search.
+        bill.service.broken = false;
+        bill.service.addError("update", "changed by another workstation");
+        bill.box->search("m");
+        QCOMPARE(bill.box->items().size(), 2);
+    }
+
+    void aBoxWithoutAServiceFindsNothing()
+    {
+        QLineEdit field;
+        field.show();
+        GuestTextBox box(&field, nullptr);
+        box.search("m");
+        QVERIFY(box.items().isEmpty());
+        QVERIFY(!box.selectedItem());
     }
 };
 

@@ -5,8 +5,6 @@
 #include "pos/masterdata/agent/BusinessAgent.h"
 #include "pos/masterdata/agent/DialogAgent.h"
 #include "pos/masterdata/member/DialogMember.h"
-#include "pos/masterdata/member/EntityMember.h"
-#include "pos/masterdata/supplier/BusinessSupplier.h"
 #include "pos/masterdata/supplier/DialogSupplier.h"
 #include "pos/masterdata/supplier/SupplierTextBox.h"
 #include "support/DatabaseTest.h"

@@ -1,12 +1,10 @@
 #include "app/widgets/AppListTab.h"
-#include "kor/entity/KorEntity.h"
 #include "kor/widgets/KorDialog.h"
 #include "support/DatabaseTest.h"
 #include "support/MasterFamilies.h"
 
 #include <QAbstractItemModelTester>
 #include <QAbstractProxyModel>
-#include <QSignalSpy>
 
 /** The list pages of all families, worked on with the keyboard alone. */
 class TestMasterPages : public PageTest<AppListTab>
@@ -21,8 +19,7 @@ protected:
         run(family.insertStatement("k1", "Owner's 50% share"));
         run(family.insertStatement("k2", "Everyday"));
         m_page = family.makePage();
-        m_page->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_page.get()));
+        showForm(m_page.get());
         m_grid = m_page->findChild<QTableView*>(family.grid);
         QVERIFY(m_grid);
     }
@@ -37,7 +34,7 @@ private slots:
         const QStringList shown = headers();
         QCOMPARE(m_page->windowTitle(), family.title.isEmpty() ? m_page->windowTitle() : family.title);
         QCOMPARE(shown, family.headers.isEmpty() ? shown : family.headers);
-        QCOMPARE(m_page->findChild<QLabel*>("lblCount")->text(), QString("2 Items"));
+        QCOMPARE(label("lblCount"), QString("2 Items"));
         const int row = rowOf("Everyday");
         QCOMPARE(text(row, "ID"), QString("2"));
         QCOMPARE(text(row, "Code"), QString("k2"));
@@ -62,7 +59,7 @@ private slots:
             QTest::keyClick(form, Qt::Key_Return);
         });
         QTest::keyClick(m_page.get(), Qt::Key_F12);
-        QTRY_COMPARE(m_page->findChild<QLabel*>("lblCount")->text(), QString("3 Items"));
+        QTRY_COMPARE(label("lblCount"), QString("3 Items"));
         QVERIFY2(m_people->finished() && m_people->boxes().isEmpty(), qPrintable(m_people->texts().join('\n')));
         QCOMPARE(stored("nama", "K3"), QString("Brand new"));
         QCOMPARE(stored("createdby", "K3"), QString("1"));
@@ -177,7 +174,7 @@ private slots:
         QTRY_COMPARE(m_grid->model()->rowCount(), 1);
         QVERIFY(m_grid->hasFocus());
         filter("'; --");
-        QTRY_COMPARE(m_page->findChild<QLabel*>("lblCount")->text(), QString("0 Items"));
+        QTRY_COMPARE(label("lblCount"), QString("0 Items"));
         filter("K");
         QTRY_COMPARE(m_grid->model()->rowCount(), 2);
 
@@ -196,29 +193,15 @@ private:
     {
         // Process the events of the closed box first.
         QCoreApplication::processEvents();
-        m_page->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(m_page.get()));
+        bringToFront(m_page.get());
     }
-    [[nodiscard]] QStringList headers() const
-    {
-        QStringList headers;
-        for (int column = 0; column < m_grid->model()->columnCount(); ++column)
-            headers.append(m_grid->model()->headerData(column, Qt::Horizontal).toString());
-        return headers;
-    }
+    [[nodiscard]] QStringList headers() const { return headersOf(*m_grid->model()); }
     /** What the grid shows under this header. */
     [[nodiscard]] QString text(int row, const QString& header) const
     {
         return m_grid->model()->index(row, headers().indexOf(header)).data().toString();
     }
-    [[nodiscard]] int rowOf(const QString& name) const
-    {
-        for (int row = 0; row < m_grid->model()->rowCount(); ++row) {
-            if (text(row, "Name") == name)
-                return row;
-        }
-        return -1;
-    }
+    [[nodiscard]] int rowOf(const QString& name) const { return column(headers().indexOf("Name")).indexOf(name); }
     [[nodiscard]] QString stored(const QString& column, const QString& code)
     {
         return value("SELECT " + column + " FROM " + currentFamily().table + " WHERE kode = '" + code + '\'');
@@ -228,7 +211,7 @@ private:
         QTest::keyClick(m_page.get(), Qt::Key_F, Qt::ControlModifier);
         QTRY_VERIFY(m_page->findChild<QLineEdit*>("txtFilter")->hasFocus());
         typeInto(m_page.get(), "txtFilter", text);
-        QTest::keyClick(m_page->findChild<QLineEdit*>("txtFilter"), Qt::Key_Return);
+        confirm(m_page.get(), "txtFilter");
     }
     /** Full grants of all rights but the operation's; a family with one right for all gets none. */
     static QList<QPair<int, int>> others(const MasterFamily& family, int operation)

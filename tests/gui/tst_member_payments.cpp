@@ -1,8 +1,5 @@
 #include "support/DatabaseTest.h"
-#include "support/Hands.h"
 #include "support/SalesRows.h"
-#include "support/ShopRows.h"
-#include "support/TestCluster.h"
 #include "zavel/receivable/DialogBayarPiutang.h"
 #include "zavel/receivable/DialogPiutang.h"
 #include "zavel/receivable/EntityPiutang.h"
@@ -20,18 +17,10 @@ protected:
         AppContext::instance()->setLocale("id_ID");
         insertShop(*m_database);
         insertSeller(*m_database, 1, "ann");
-        run("INSERT INTO member (id, kode, nama, alamat, telp, discount_percentage, version) VALUES "
-            "(2, 'M2', 'Other', '', '', 0, 1)");
-        SaleRow sale;
-        sale.member = 1;
-        sale.status = Invoice::UNPAID;
-        sale.paid = 0;
-        for (const auto& total : {500, 300}) {
-            sale.no = QString("TRD-%1").arg(total);
-            sale.total = total;
-            sale.date = QDate(2026, 3, total / 100);
-            insertSale(*m_database, sale);
-        }
+        insert("member", "id=2, kode='M2', nama='Other'");
+        for (const int total : {500, 300})
+            insertSale(*m_database, {QString("TRD-%1").arg(total), "TRD", total, 0, 0, Invoice::UNPAID,
+                                     QDate(2026, 3, total / 100), "", 1, 1});
     }
 
 private slots:
@@ -51,14 +40,14 @@ private slots:
             QCOMPARE(cells(form, 0).mid(2), (QStringList{"Rp500,00", "Rp0,00", "Rp500,00"}));
             QCOMPARE(shown(form, "txtGrandTotal"), QString("800,00"));
             enter(form, "txtARAccount", "1-100");
-            QCOMPARE(form->findChild<QLabel*>("lblARAccount")->text(), QString("Cash"));
+            QCOMPARE(labelled(form, "lblARAccount"), QString("Cash"));
             form->findChild<QComboBox*>("ddlPaymentType")->setFocus();
             QTest::keyClicks(form->findChild<QComboBox*>("ddlPaymentType"), "che");
             enter(form, "txtCekNo", "77");
             confirm(form, "txtRefNo");
         });
         QTRY_COMPARE(cells(m_page.get(), 0).mid(2), (QStringList{"M1", "Guest", "Rp800,00", "Check"}));
-        QCOMPARE(m_page->findChild<QLabel*>("lblCount")->text(), QString("1 Items"));
+        QCOMPARE(label("lblCount"), QString("1 Items"));
         QCOMPARE(value("SELECT concat_ws(' ', no, check_no, bank_id) FROM piutang"), QString("PIU-0007 77 1"));
         QCOMPARE(
             value("SELECT string_agg(concat_ws(' ', status, other_payment_amount, net_due_amount), ', ' ORDER BY id) "
@@ -69,8 +58,7 @@ private slots:
     void aMemberIsPickedWhileTyping()
     {
         DialogPiutang form;
-        form.show();
-        QVERIFY(QTest::qWaitForWindowActive(&form));
+        showForm(&form);
         QTRY_VERIFY(box(&form, "txtMember")->hasFocus());
         QTest::keyClicks(box(&form, "txtMember"), "gue");
         QTRY_VERIFY(QApplication::activePopupWidget());
@@ -121,7 +109,7 @@ private slots:
         onForm("btnAdd", [&](DialogPiutang* form) {
             enter(form, "txtMember", "M1");
             m_people->expect<DialogBayarPiutang>([&](DialogBayarPiutang* one) {
-                QApplication::setActiveWindow(one);
+                bringToFront(one);
                 QVERIFY(box(one, "txtPaid")->hasFocus());
                 QCOMPARE(shown(one, "txtInvoiceNo"), QString("TRD-500"));
                 QCOMPARE(shown(one, "txtDue"), QString("500,00"));
@@ -258,15 +246,12 @@ private slots:
         show();
         const auto found = [this] {
             click(m_page.get(), "btnSearch");
-            return m_page->findChild<QLabel*>("lblCount")->text();
+            return label("lblCount");
         };
-        QCOMPARE(found(), QString("1 Items"));
-        enter(m_page.get(), "txtMember", "M2");
-        QCOMPARE(found(), QString("0 Items"));
-        enter(m_page.get(), "txtMember", "nobody");
-        QCOMPARE(found(), QString("0 Items"));
-        enter(m_page.get(), "txtMember", "m1");
-        QCOMPARE(found(), QString("1 Items"));
+        for (const char* member : {"", "M2", "nobody", "m1"}) {
+            enter(m_page.get(), "txtMember", member);
+            QCOMPARE(found(), QString(*member == 'M' || *member == 'n' ? "0 Items" : "1 Items"));
+        }
         auto* kind = m_page->findChild<QComboBox*>("ddlPayment");
         kind->setFocus();
         QTest::keyClick(kind, Qt::Key_End);
@@ -280,18 +265,13 @@ private slots:
     }
 
 private:
-    void onForm(const char* button, const std::function<void(DialogPiutang*)>& work)
-    {
-        ::onForm<DialogPiutang>(*m_people, m_page.get(), button, work);
-    }
     /** Pays the amount of the selected invoice. */
     void pay(DialogPiutang* form, int invoice, const QString& amount)
     {
         choose(form, invoice);
         m_people->expect<DialogBayarPiutang>([amount](DialogBayarPiutang* one) {
-            QApplication::setActiveWindow(one);
-            QTest::keyClicks(box(one, "txtPaid"), amount);
-            QTest::keyClick(box(one, "txtPaid"), Qt::Key_Return);
+            typeInto(one, "txtPaid", amount);
+            confirm(one, "txtPaid");
         });
         click(form, "btnPayAll");
     }
@@ -299,18 +279,12 @@ private:
     void payStored(int invoice, int amount)
     {
         EntityPiutang payment;
-        EntityMember member;
-        member.setId(1);
-        Invoice paid;
-        paid.setId(invoice);
         EntityPiutangDetail line;
-        line.setInvoice(&paid);
-        line.setAmountPaid(new Money(&line, amount, "Rp"));
-        line.setAmountDue(new Money(&line, 0, "Rp"));
-        EntityBank account;
-        account.setId(1);
-        payment.setMember(&member);
-        payment.setBank(&account);
+        line.setInvoice(known<Invoice>(invoice));
+        line.setAmountPaid(rupiah(amount));
+        line.setAmountDue(rupiah(0));
+        payment.setMember(known<EntityMember>(1));
+        payment.setBank(known<EntityBank>(1));
         payment.setDate(QDate::currentDate());
         payment.setGrandTotal(line.getAmountPaid());
         payment.setDetails({&line});

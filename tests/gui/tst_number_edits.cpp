@@ -1,7 +1,5 @@
 #include "app/context/AppContext.h"
-#include "app/money/Money.h"
 #include "app/widgets/MoneyEdit.h"
-#include "kor/widgets/KorNumberEdit.h"
 #include "support/Rows.h"
 
 #include <QDialog>
@@ -9,7 +7,6 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QSignalSpy>
-#include <QTest>
 
 namespace
 {

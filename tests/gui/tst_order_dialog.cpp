@@ -1,30 +1,9 @@
 #include "support/DatabaseTest.h"
 #include "zavel/dinein/DialogMakanDitempat.h"
 #include "zavel/dinein/TabMakanDitempatDetail.h"
-#include "zavel/order/DialogSelectInventory.h"
-#include "zavel/order/DialogSelectMenu.h"
 
 #include <QAbstractItemModelTester>
 #include <QTreeWidget>
-
-namespace
-{
-void type(QWidget* form, const char* field, const QString& text)
-{
-    // Numbers are not reformatted only in the focused field, which requires an active window.
-    form->activateWindow();
-    QTRY_COMPARE(QApplication::activeWindow(), form);
-    auto* edit = form->findChild<QLineEdit*>(field);
-    edit->setFocus(Qt::TabFocusReason);
-    QTRY_VERIFY(edit->hasFocus());
-    edit->selectAll();
-    QTest::keyClicks(edit, text);
-}
-
-QString shown(const QWidget* form, const char* field) { return form->findChild<QLineEdit*>(field)->text(); }
-
-void key(QWidget* form, const char* field, Qt::Key key) { QTest::keyClick(form->findChild<QWidget*>(field), key); }
-} // namespace
 
 /** The form of an order on a table and the pickers of its lines. */
 class TestOrderDialog : public DatabaseTest
@@ -54,7 +33,7 @@ private slots:
     void aTypedCodeCountsLikeAPickedOne()
     {
         open();
-        type(m_form.get(), "txtKode", "t1");
+        typeInto(m_form.get(), "txtKode", "t1");
         add({{"RICE", "2"}});
         m_form->accept();
         QVERIFY(!m_form->isVisible());
@@ -69,12 +48,7 @@ private slots:
         QCOMPARE(line->getPriceEach()->getAmount(), 25000.0);
     }
 
-    void anUnknownCodeIsNoTable_data()
-    {
-        const auto row = addColumns<QString>("code");
-        row("unknown", "T9");
-        row("cleared", "");
-    }
+    void anUnknownCodeIsNoTable_data() { addRows<QString>("code", {{"unknown", "T9"}, {"cleared", ""}}); }
     void anUnknownCodeIsNoTable()
     {
         QFETCH(QString, code);
@@ -82,7 +56,7 @@ private slots:
         QCOMPARE(shown(m_form.get(), "txtMeja"), QString("Terrace"));
         add({{"RICE", "1"}});
         m_form->findChild<QLineEdit*>("txtKode")->clear();
-        type(m_form.get(), "txtKode", code);
+        typeInto(m_form.get(), "txtKode", code);
         m_form->accept();
         QCOMPARE(m_people->lastText(), QString("Please select a table\r\n"));
         QVERIFY(m_form->isVisible());
@@ -93,7 +67,7 @@ private slots:
         EntityMember* member = m_make->member("M1", "Budi");
         open(m_t1);
         add({{"RICE", "1"}});
-        type(m_form.get(), "txtMember", "m1");
+        typeInto(m_form.get(), "txtMember", "m1");
         QVERIFY(m_form->validate());
         QCOMPARE(static_cast<EntityMakanDitempat*>(m_form->getEntity())->getMember()->getId(), member->getId());
         QCOMPARE(shown(m_form.get(), "txtMemberName"), QString("Budi"));
@@ -102,7 +76,7 @@ private slots:
         QVERIFY(m_form->validate());
         QVERIFY(!static_cast<EntityMakanDitempat*>(m_form->getEntity())->getMember());
 
-        type(m_form.get(), "txtMember", "M2");
+        typeInto(m_form.get(), "txtMember", "M2");
         QVERIFY(!m_form->validate());
     }
 
@@ -125,16 +99,10 @@ private slots:
         unitless->setItem(&bare);
         TableModelMakanDitempatDetail model({line, unitless}, nullptr);
         const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
-        QStringList headers;
-        QStringList cells;
-        for (int column = 0; column < model.columnCount(); ++column) {
-            headers.append(model.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString());
-            cells.append(model.index(0, column).data().toString());
-        }
-        QCOMPARE(headers,
+        QCOMPARE(headersOf(model),
                  (QStringList{"Code", "Name", "Qty", "Unit", "Unit Price", "Amount", "Status", "Description"}));
-        QCOMPARE(cells, (QStringList{"RICE", "Fried rice", "2", m_rice->getSatuan()->getNama(), "Rp30,000.00",
-                                     "Rp50,000.00", "Processed", "hot"}));
+        QCOMPARE(cells(model, 0), (QStringList{"RICE", "Fried rice", "2", m_rice->getSatuan()->getNama(), "Rp30,000.00",
+                                               "Rp50,000.00", "Processed", "hot"}));
         QCOMPARE(model.index(0, 2).data(Qt::TextAlignmentRole).toInt(), int(Qt::AlignRight | Qt::AlignVCenter));
         QCOMPARE(model.index(1, 3).data().toString(), QString());
     }
@@ -188,9 +156,9 @@ private slots:
     {
         open(m_t1);
         m_people->expect<DialogSelectInventory>([](DialogSelectInventory* picker) {
-            type(picker, "txtCode", "COLA");
-            type(picker, "txtQty", "3");
-            key(picker, "txtQty", Qt::Key_Return);
+            typeInto(picker, "txtCode", "COLA");
+            typeInto(picker, "txtQty", "3");
+            confirm(picker, "txtQty");
         });
         m_people->expect<DialogSelectInventory>([](DialogSelectInventory* picker) { picker->reject(); });
         button("btnAddInv")->click();
@@ -200,9 +168,9 @@ private slots:
             QVERIFY(!picker->findChild<QLineEdit*>("txtCode")->isEnabled());
             QVERIFY(!picker->findChild<QLineEdit*>("txtName")->isEnabled());
             QCOMPARE(shown(picker, "txtName"), QString("Cola"));
-            type(picker, "txtQty", "1");
+            typeInto(picker, "txtQty", "1");
             QCOMPARE(shown(picker, "txtAmount"), QString("12,000.00"));
-            key(picker, "txtQty", Qt::Key_Return);
+            confirm(picker, "txtQty");
         });
         grid()->selectRow(0);
         button("btnEdit")->click();
@@ -210,7 +178,7 @@ private slots:
 
         // A change that is given up leaves the line as it was.
         m_people->expect<DialogSelectInventory>([](DialogSelectInventory* picker) {
-            type(picker, "txtQty", "9");
+            typeInto(picker, "txtQty", "9");
             picker->reject();
         });
         button("btnEdit")->click();
@@ -235,8 +203,8 @@ private slots:
         FETCH(QString, code, qty, text);
         open(m_t1);
         m_people->expect<DialogSelectMenu>([&](DialogSelectMenu* picker) {
-            type(picker, "txtCode", code);
-            type(picker, "txtQty", qty);
+            typeInto(picker, "txtCode", code);
+            typeInto(picker, "txtQty", qty);
             picker->accept();
             QVERIFY(picker->isVisible());
             picker->reject();
@@ -261,8 +229,8 @@ private slots:
     {
         open(m_t1);
         m_people->expect<DialogSelectMenu>([](DialogSelectMenu* picker) {
-            type(picker, "txtCode", "fried");
-            key(picker, "txtCode", Qt::Key_Return);
+            typeInto(picker, "txtCode", "fried");
+            confirm(picker, "txtCode");
             QWidget* popup = QApplication::activePopupWidget();
             QVERIFY(popup);
             QTest::keyClick(popup, Qt::Key_Return);
@@ -271,7 +239,7 @@ private slots:
             QVERIFY(picker->findChild<QLineEdit*>("txtQty")->hasFocus());
             QTest::keyClicks(picker->focusWidget(), "3");
             QCOMPARE(shown(picker, "txtAmount"), QString("75,000.00"));
-            key(picker, "txtQty", Qt::Key_Return);
+            confirm(picker, "txtQty");
         });
         m_people->expect<DialogSelectMenu>([](DialogSelectMenu* picker) { picker->reject(); });
         button("btnAdd")->click();
@@ -287,14 +255,14 @@ private slots:
             QCOMPARE(types->itemText(0), QString("All"));
             QCOMPARE(types->itemData(0).toInt(), -1);
             types->setCurrentIndex(types->findText("Drink"));
-            type(picker, "txtCode", "e");
-            key(picker, "txtCode", Qt::Key_Return);
+            typeInto(picker, "txtCode", "e");
+            confirm(picker, "txtCode");
             auto* popup = qobject_cast<QTreeWidget*>(QApplication::activePopupWidget());
             QVERIFY(popup);
             QCOMPARE(popup->topLevelItemCount(), 1);
             QTest::keyClick(popup, Qt::Key_Return);
             QTest::keyClicks(picker->focusWidget(), "1");
-            key(picker, "txtQty", Qt::Key_Return);
+            confirm(picker, "txtQty");
         });
         m_people->expect<DialogSelectMenu>([](DialogSelectMenu* picker) {
             QCOMPARE(picker->findChild<QComboBox*>("ddlType")->currentText(), QString("Drink"));
@@ -331,11 +299,11 @@ private slots:
             m_form->getEntity();
             return ++saves == 2;
         });
-        type(m_form.get(), "txtKode", "T2");
+        typeInto(m_form.get(), "txtKode", "T2");
         m_form->accept();
         QVERIFY(m_form->isVisible());
         QCOMPARE(order->getPindahMeja(), QString("T0>T1"));
-        type(m_form.get(), "txtKode", "T1");
+        typeInto(m_form.get(), "txtKode", "T1");
         m_form->accept();
         QVERIFY(!m_form->isVisible());
         QCOMPARE(order->getPindahMeja(), QString("T0"));
@@ -346,15 +314,15 @@ private:
     [[nodiscard]] QPushButton* button(const char* name) const { return m_form->findChild<QPushButton*>(name); }
     [[nodiscard]] QTableView* grid() const { return m_form->findChild<QTableView*>("tblMenu"); }
     [[nodiscard]] TabMakanDitempatDetail* lines() const { return m_form->findChild<TabMakanDitempatDetail*>(); }
-    [[nodiscard]] QString total() const { return m_form->findChild<QLabel*>("lblTotal")->text(); }
+    [[nodiscard]] QString total() const { return labelled(m_form.get(), "lblTotal"); }
     /** Rounds of the picker: codes with quantities, then cancelled. */
     void add(const QList<QPair<QString, QString>>& picks)
     {
         for (const auto& pick : picks) {
             m_people->expect<DialogSelectMenu>([pick](DialogSelectMenu* picker) {
-                type(picker, "txtCode", pick.first);
-                type(picker, "txtQty", pick.second);
-                key(picker, "txtQty", Qt::Key_Return);
+                typeInto(picker, "txtCode", pick.first);
+                typeInto(picker, "txtQty", pick.second);
+                confirm(picker, "txtQty");
             });
         }
         m_people->expect<DialogSelectMenu>([](DialogSelectMenu* picker) { picker->reject(); });
@@ -364,8 +332,7 @@ private:
     void open(EntityMeja* table = nullptr)
     {
         m_form = std::make_unique<DialogMakanDitempat>(nullptr, table);
-        m_form->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_form.get()));
+        showForm(m_form.get());
     }
 
     std::unique_ptr<DialogMakanDitempat> m_form;

@@ -2,21 +2,15 @@
 #include "pos/printing/slips/SlipArchive.h"
 #include "pos/printing/slips/SlipPaper.h"
 #include "shell/window/HouseStyle.h"
-#include "support/ModalDriver.h"
+#include "support/Hands.h"
 #include "support/Rows.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QDateEdit>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QTableView>
 #include <QTemporaryDir>
-#include <QTest>
 
 namespace
 {
@@ -225,9 +219,7 @@ private:
     void open()
     {
         m_page = std::make_unique<TabPrintedSlips>();
-        m_page->resize(1130, 640);
-        m_page->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_page.get()));
+        showPage(m_page.get());
     }
 
     template <class Widget>
@@ -240,13 +232,7 @@ private:
     {
         return the<QTableView>("tblSlips")->model()->index(row, column).data().toString();
     }
-    [[nodiscard]] QStringList column(int column) const
-    {
-        QStringList cells;
-        for (int row = 0; row < rows(); ++row)
-            cells.append(cell(row, column));
-        return cells;
-    }
+    [[nodiscard]] QStringList column(int column) const { return columnOf(the<QTableView>("tblSlips"), column); }
 
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<ModalDriver> m_people;

@@ -1,14 +1,12 @@
-#include "app/context/EntityPool.h"
 #include "pos/printing/configuration/BusinessPrinterConfig.h"
 #include "pos/printing/configuration/DialogCashierAndKitchenPrinter.h"
 #include "pos/printing/configuration/DialogFilterJenisItem.h"
 #include "pos/printing/configuration/DialogKitchenFoodPrinter.h"
 #include "pos/printing/configuration/TabKitchenPrinter.h"
+#include "pos/printing/printer/DialogPrinter.h"
 #include "pos/printing/slips/SlipArchive.h"
 #include "support/DatabaseTest.h"
 
-#include <QCheckBox>
-#include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -22,13 +20,6 @@ Field* field(const QWidget* form, const char* name)
     return form->findChild<Field*>(QLatin1String(name));
 }
 
-void type(QLineEdit* edit, const QString& text)
-{
-    edit->setFocus();
-    edit->selectAll();
-    QTest::keyClicks(edit, text);
-}
-
 void choose(const QWidget* form, const char* name, const QString& text)
 {
     auto* box = field<QComboBox>(form, name);
@@ -36,13 +27,6 @@ void choose(const QWidget* form, const char* name, const QString& text)
     QVERIFY2(index >= 0, qPrintable(text));
     box->setCurrentIndex(index);
 }
-
-QString cell(const QTableView* grid, int row, int column)
-{
-    return grid->model()->index(row, column).data().toString();
-}
-
-void confirm(QDialog* form) { QTest::keyClick(form, Qt::Key_Return); }
 } // namespace
 
 class TestPrinterSettings : public DatabaseTest
@@ -55,8 +39,8 @@ protected:
         listPrinters("Kasir\nDapur\nBar\n");
         run("DELETE FROM appconfig");
         run("DELETE FROM printer_type");
-        run("INSERT INTO printer_type (printer_type, cash_drawer_cmd, cut_papper_cmd, version) VALUES "
-            "('EPSON-TM-T88III', '', '27#109', 1), ('GENERIC-ESC-POS', '', '29#V#66#0', 1)");
+        insert("printer_type", "printer_type='EPSON-TM-T88III', cut_papper_cmd='27#109'");
+        insert("printer_type", "printer_type='GENERIC-ESC-POS', cut_papper_cmd='29#V#66#0'");
         addSetting("cashier_printer", {{"printer_name", "Dapur"},
                                        {"printer_type", "GENERIC-ESC-POS"},
                                        {"auto_cutter", "No"},
@@ -78,7 +62,7 @@ private slots:
         QCOMPARE(field<QComboBox>(&form, "ddlPrinterType")->currentText(), QString("GENERIC-ESC-POS"));
         QCOMPARE(field<QComboBox>(&form, "ddlAutoCut")->currentText(), QString("No"));
         QCOMPARE(field<QComboBox>(&form, "ddlNoCopy")->count(), 5);
-        QCOMPARE(field<QLineEdit>(&form, "txtCol")->text(), QString("40"));
+        QCOMPARE(shown(&form, "txtCol"), QString("40"));
         QCOMPARE(field<QPlainTextEdit>(&form, "txtNotes")->toPlainText(), QString("Thank You"));
 
         choose(&form, "ddlPrinter", "Kasir");
@@ -86,8 +70,8 @@ private slots:
         choose(&form, "ddlAutoCut", "Yes");
         choose(&form, "ddlNoCopy", "3");
         field<QPlainTextEdit>(&form, "txtNotes")->setPlainText("Terima kasih");
-        type(field<QLineEdit>(&form, "txtCol"), "32");
-        type(field<QLineEdit>(&form, "txtBlankLines"), "6");
+        typeInto(&form, "txtCol", "32");
+        typeInto(&form, "txtBlankLines", "6");
         form.accept();
         QCOMPARE(form.result(), int(QDialog::Accepted));
         QCOMPARE(storedMembers("cashier_printer"), (QJsonObject{{"printer_name", "Kasir"},
@@ -100,13 +84,6 @@ private slots:
                                                                 {"format", "{items}"}}));
     }
 
-    void whatTheFormDoesNotShowStaysInTheRow()
-    {
-        const QJsonObject before = storedMembers("cashier_printer");
-        DialogCashierAndKitchenPrinter().accept();
-        QCOMPARE(storedMembers("cashier_printer"), before);
-    }
-
     void aPrinterThatHasGoneGivesWayToTheFirst()
     {
         listPrinters("Bar\nKasir\n");
@@ -117,10 +94,11 @@ private slots:
 
     void withoutAnyPrinterTheStoredOneStays()
     {
-        listPrinters("");
         QFile::remove(m_spool->filePath("printers"));
+        // And so does what the form does not show.
+        const QJsonObject before = storedMembers("cashier_printer");
         DialogCashierAndKitchenPrinter().accept();
-        QCOMPARE(storedMembers("cashier_printer").value("printer_name"), QJsonValue("Dapur"));
+        QCOMPARE(storedMembers("cashier_printer"), before);
     }
 
     void aStaleCashierFormIsToldAndStaysOpen()
@@ -142,8 +120,8 @@ private slots:
     {
         run("DELETE FROM appconfig WHERE appkey = 'cashier_printer'");
         DialogCashierAndKitchenPrinter form;
-        type(field<QLineEdit>(&form, "txtCol"), "32");
-        type(field<QLineEdit>(&form, "txtBlankLines"), "6");
+        typeInto(&form, "txtCol", "32");
+        typeInto(&form, "txtBlankLines", "6");
         form.accept();
         QCOMPARE(m_people->boxes().size(), 1);
         QCOMPARE(m_people->lastTitle(), QString("Error!"));
@@ -153,19 +131,18 @@ private slots:
     void aKitchenIsAddedEditedAndDeleted()
     {
         TabKitchenPrinter page;
-        page.show();
-        QVERIFY(QTest::qWaitForWindowActive(&page));
+        showPage(&page);
         QVERIFY(field<QLineEdit>(&page, "txtFilter")->hasFocus());
-        const auto* grid = field<QTableView>(&page, "tblKitchenPrinter");
+        auto* grid = field<QTableView>(&page, "tblKitchenPrinter");
         QCOMPARE(grid->columnWidth(0), 300);
         QCOMPARE(grid->columnWidth(1), 300);
 
         m_people->expect<DialogKitchenFoodPrinter>([](DialogKitchenFoodPrinter* form) {
             QCOMPARE(form->windowTitle(), QString("Kitchen Printer Form"));
-            type(field<QLineEdit>(form, "txtKitchenName"), "Grill");
+            typeInto(form, "txtKitchenName", "Grill");
             choose(form, "ddlPrinter", "Bar");
-            type(field<QLineEdit>(form, "txtKodeJenisItems"), "FOOD,GRILL");
-            confirm(form);
+            typeInto(form, "txtKodeJenisItems", "FOOD,GRILL");
+            QTest::keyClick(form, Qt::Key_Return);
         });
         page.on_btnAdd_clicked();
         QCOMPARE(m_people->texts(), QStringList());
@@ -181,24 +158,24 @@ private slots:
                                                   {"column_paper", "40"},
                                                   {"no_of_blank_lines", "4"},
                                                   {"kode_jenis_item", "FOOD,GRILL"}}));
-        const auto rowOf = [grid](const QString& name) { return cell(grid, 0, 0) == name ? 0 : 1; };
-        QCOMPARE(cell(grid, rowOf("Kitchen 1"), 2), QString("[ALL]"));
-        QCOMPARE(cell(grid, rowOf("Grill"), 2), QString("FOOD,GRILL"));
+        const auto rowOf = [grid](const QString& name) { return cells(*grid->model(), 0).value(0) == name ? 0 : 1; };
+        QCOMPARE(cells(*grid->model(), rowOf("Kitchen 1")).value(2), QString("[ALL]"));
+        QCOMPARE(cells(*grid->model(), rowOf("Grill")).value(2), QString("FOOD,GRILL"));
 
         m_people->expect<DialogKitchenFoodPrinter>([](DialogKitchenFoodPrinter* form) {
             QCOMPARE(form->windowTitle(), QString("Kitchen Printer Form: Grill"));
             QVERIFY(field<QCheckBox>(form, "cbAutoPrint")->isChecked());
-            QTest::mouseClick(field<QPushButton>(form, "btnClearJenisItem"), Qt::LeftButton);
+            click(form, "btnClearJenisItem");
             field<QCheckBox>(form, "cbAutoPrint")->setChecked(false);
-            confirm(form);
+            QTest::keyClick(form, Qt::Key_Return);
         });
-        const_cast<QTableView*>(grid)->selectRow(rowOf("Grill"));
+        grid->selectRow(rowOf("Grill"));
         page.on_btnEdit_clicked();
         QCOMPARE(storedMembers(key).value("auto_print"), QJsonValue("No"));
-        QCOMPARE(cell(grid, rowOf("Grill"), 2), QString("[ALL]"));
+        QCOMPARE(cells(*grid->model(), rowOf("Grill")).value(2), QString("[ALL]"));
 
         m_people->answer(QMessageBox::Yes);
-        const_cast<QTableView*>(grid)->selectRow(rowOf("Grill"));
+        grid->selectRow(rowOf("Grill"));
         page.on_btnDelete_clicked();
         QCOMPARE(m_people->texts(), QStringList("Are you sure you want to delete this kitchen: Grill ?"));
         QCOMPARE(m_people->lastTitle(), QString("Delete"));
@@ -211,7 +188,7 @@ private slots:
     {
         DialogKitchenFoodPrinter form;
         form.show();
-        type(field<QLineEdit>(&form, "txtKitchenName"), "  ");
+        typeInto(&form, "txtKitchenName", "  ");
         field<QLineEdit>(&form, "txtCol")->setFocus();
         form.accept();
         QCOMPARE(m_people->texts(), QStringList("Enter the kitchen name\r\n"));
@@ -227,7 +204,7 @@ private slots:
             addSetting(EntityConfigKitchenPrinter::keyFor(now.addSecs(second)), {{"kitchen_name", "Taken"}});
         DialogKitchenFoodPrinter form;
         form.show();
-        type(field<QLineEdit>(&form, "txtKitchenName"), "Late");
+        typeInto(&form, "txtKitchenName", "Late");
         form.accept();
         QCOMPARE(m_people->boxes().size(), 1);
         QCOMPARE(m_people->lastTitle(), QString("Error!"));
@@ -246,17 +223,18 @@ private slots:
         addSetting("kitchen_printer_2", {{"kitchen_name", "Bar"}, {"printer_name", "Kasir"}});
         TabKitchenPrinter page;
         const auto* grid = field<QTableView>(&page, "tblKitchenPrinter");
-        field<QLineEdit>(&page, "txtFilter")->setText("AR");
-        page.on_btnSearch_clicked();
+        const auto search = [&page](const char* text) {
+            field<QLineEdit>(&page, "txtFilter")->setText(text);
+            page.on_btnSearch_clicked();
+        };
+        search("AR");
         QCOMPARE(grid->model()->rowCount(), 1);
-        QCOMPARE(cell(grid, 0, 0), QString("Bar"));
+        QCOMPARE(cells(*grid->model(), 0).value(0), QString("Bar"));
         choose(&page, "ddlFilter", "Printer");
-        field<QLineEdit>(&page, "txtFilter")->setText("dap");
-        page.on_btnSearch_clicked();
+        search("dap");
         QCOMPARE(grid->model()->rowCount(), 1);
-        QCOMPARE(cell(grid, 0, 0), QString("Kitchen 1"));
-        field<QLineEdit>(&page, "txtFilter")->setText("bar");
-        page.on_btnSearch_clicked();
+        QCOMPARE(cells(*grid->model(), 0).value(0), QString("Kitchen 1"));
+        search("bar");
         QCOMPARE(grid->model()->rowCount(), 0);
     }
 
@@ -276,14 +254,14 @@ private slots:
                               grid->visualRect(grid->model()->index(0, 1)).center());
             dialog->accept();
         });
-        QTest::mouseClick(field<QPushButton>(&form, "btnBrowseJenisItem"), Qt::LeftButton);
+        click(&form, "btnBrowseJenisItem");
         QCOMPARE(codes->text(), QString("DRINK,GRILL"));
 
         m_people->expect<DialogFilterJenisItem>([](DialogFilterJenisItem* dialog) {
             field<QTableView>(dialog, "tblJenisItem")->selectAll();
             dialog->reject();
         });
-        QTest::mouseClick(field<QPushButton>(&form, "btnBrowseJenisItem"), Qt::LeftButton);
+        click(&form, "btnBrowseJenisItem");
         QCOMPARE(codes->text(), QString("DRINK,GRILL"));
         QVERIFY(m_people->finished());
     }
@@ -301,20 +279,17 @@ private slots:
     {
         QFETCH(std::function<std::unique_ptr<QDialog>()>, open);
         const std::unique_ptr<QDialog> form = open();
-        form->show();
-        QVERIFY(QTest::qWaitForWindowActive(form.get()));
+        showForm(form.get());
         const QString saved = value("SELECT string_agg(appvalue, '') FROM appconfig");
         choose(form.get(), "ddlPrinter", "Bar");
         choose(form.get(), "ddlPrinterType", "EPSON-TM-T88III");
         choose(form.get(), "ddlAutoCut", "Yes");
         choose(form.get(), "ddlNoCopy", "3");
-        type(field<QLineEdit>(form.get(), "txtCol"), "24");
+        typeInto(form.get(), "txtCol", "24");
         QTest::keyClick(form.get(), Qt::Key_F8);
         QCOMPARE(m_people->texts(), QStringList());
 
-        QFile slip(m_spool->filePath("000001-Bar-Test.slip"));
-        QVERIFY(slip.open(QIODevice::ReadOnly));
-        const QByteArray bytes = slip.readAll();
+        const QByteArray bytes = slips().join(QString()).toUtf8();
         QVERIFY(bytes.endsWith("\n\x1Bm"));
         QCOMPARE(bytes.count("\x1Bm"), 1);
         QVERIFY(bytes.contains("\x1B"
@@ -337,13 +312,25 @@ private slots:
         QVERIFY(form->isVisible());
     }
 
+    void thePrintersAreOfferedAndNothingIsSent()
+    {
+        DialogPrinter form;
+        const auto* printers = field<QComboBox>(&form, "ddlPrinter");
+        QCOMPARE(printers->itemText(0), QString("Kasir[default]"));
+        QCOMPARE(printers->itemData(0).toString(), QString("Kasir"));
+        QCOMPARE(printers->itemText(1), QString("Dapur"));
+        QCOMPARE(printers->itemData(1).toString(), QString("Dapur"));
+        click(&form, "pushButton");
+        QCOMPARE(slips(), QStringList());
+    }
+
     void aTestSlipThatFailsIsTold()
     {
         DialogCashierAndKitchenPrinter form;
         form.show();
         listPrinters("Kasir\n");
         choose(&form, "ddlPrinter", "Bar");
-        QTest::mouseClick(field<QPushButton>(&form, "btnTestSlip"), Qt::LeftButton);
+        click(&form, "btnTestSlip");
         QCOMPARE(m_people->lastTitle(), QString("Error"));
         QVERIFY2(m_people->lastText().contains("Error Opening Printer:Bar"), qPrintable(m_people->lastText()));
         QVERIFY(form.isVisible());
@@ -353,7 +340,7 @@ private slots:
     {
         DialogKitchenFoodPrinter form;
         QCOMPARE(field<QComboBox>(&form, "ddlPrinter")->currentText(), QString("Kasir"));
-        type(field<QLineEdit>(&form, "txtKitchenName"), "Grill");
+        typeInto(&form, "txtKitchenName", "Grill");
         choose(&form, "ddlPrinter", "(no printer: the kitchen's screen)");
         QVERIFY(!field<QPushButton>(&form, "btnTestSlip")->isEnabled());
         form.accept();
@@ -375,8 +362,7 @@ private slots:
 
     void theFormSaysWhatTheCutLacks()
     {
-        run("INSERT INTO printer_type (printer_type, cash_drawer_cmd, cut_papper_cmd, version) VALUES "
-            "('WHOLE', '', '29#V#66#1', 1)");
+        insert("printer_type", "printer_type='WHOLE', cut_papper_cmd='29#V#66#1'");
         DialogCashierAndKitchenPrinter form;
         const auto* told = field<QLabel>(&form, "lblCut");
         QVERIFY2(told->text().contains("lacks its end") && told->text().endsWith("Choose WHOLE instead."),
@@ -399,13 +385,6 @@ private:
     }
 
     [[nodiscard]] int kitchens() const { return count("appconfig WHERE appkey LIKE 'kitchen%'"); }
-
-    void listPrinters(const QByteArray& names) const
-    {
-        QFile file(m_spool->filePath("printers"));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(names), qint64(names.size()));
-    }
 };
 
 QTEST_MAIN(TestPrinterSettings)

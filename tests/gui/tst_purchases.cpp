@@ -1,21 +1,12 @@
-#include "pos/purchasing/purchase/DialogPurchaseDetail.h"
-#include "pos/purchasing/purchase/DialogPurchaseDetailPO.h"
 #include "pos/purchasing/purchase/DialogPurchases.h"
 #include "pos/purchasing/purchase/TabPurchaseDetail.h"
 #include "pos/purchasing/purchase/TabPurchaseDetailPO.h"
 #include "pos/purchasing/purchase/TabPurchases.h"
 #include "pos/purchasing/purchaseorder/DialogPurchaseOrder.h"
-#include "pos/purchasing/purchaseorder/DialogPurchaseOrderDetail.h"
 #include "pos/purchasing/purchaseorder/DialogSelectPO.h"
 #include "pos/purchasing/purchaseorder/TabPurchaseOrder.h"
 #include "pos/purchasing/purchaseorder/TabPurchaseOrderDetail.h"
 #include "support/DatabaseTest.h"
-#include "support/Hands.h"
-#include "support/LedgerRows.h"
-#include "support/ShopRows.h"
-
-using Entries = QList<QPair<const char*, QString>>;
-Q_DECLARE_METATYPE(Entries)
 
 /** The storekeeper at the pages of purchases and purchase orders, with keyboard and mouse. */
 class TestPurchases : public PageTest<QWidget>
@@ -28,10 +19,8 @@ protected:
         AppContext::instance()->setLocale("id_ID");
         insertShop(*m_database);
         insertItem(*m_database, 2, "EGG", "Eggs");
-        run("INSERT INTO bank (id, kode, nama, account_type, active, version) VALUES "
-            "(2, '2000', 'Accounts Payable', 2, true, 1)");
-        run("INSERT INTO supplier (id, kode, nama, alamat, telp, email, version) VALUES "
-            "(2, 'S2', 'Farm', 'Hill 9', '9', '', 1)");
+        insert("bank", "id=2, kode='2000', nama='Accounts Payable', account_type=2, active=true");
+        insert("supplier", "id=2, kode='S2', nama='Farm'");
     }
 
 private slots:
@@ -66,10 +55,9 @@ private slots:
             enter(form, "txtTax", "20");
             QCOMPARE(shown(form, "txtGrandTotal"), QString("220,00"));
             enter(form, "txtPaid", "300");
-            QCOMPARE(form->findChild<QLabel*>("lblNetDue")->text(), QString("Change :"));
+            QCOMPARE(labelled(form, "lblNetDue"), QString("Change :"));
             enter(form, "txtPaid", "100");
-            QCOMPARE(form->findChild<QLabel*>("lblNetDue")->text() + shown(form, "txtNetDue"),
-                     QString("Less :-120,00"));
+            QCOMPARE(labelled(form, "lblNetDue") + shown(form, "txtNetDue"), QString("Less :-120,00"));
             const QString payable = "2000";
             // A note warns that money from other accounts is missing in the day's close.
             const auto* note = form->findChild<QLabel*>("lblNote");
@@ -82,7 +70,7 @@ private slots:
         });
         QTRY_COMPARE(cells(m_page.get(), 0).mid(1, 2), (QStringList{"FAK-1", "Market"}));
         QCOMPARE(cells(m_page.get(), 0).mid(4), (QStringList{"Partially Paid", "Rp220,00", "Rp120,00"}));
-        QCOMPARE(m_page->findChild<QLabel*>("lblCount")->text(), QString("1 items"));
+        QCOMPARE(label("lblCount"), QString("1 items"));
         QCOMPARE(value("select concat_ws(' ', no, apply_to_po, po_id, disc_perc, tax_amount, amount_paid_amount, "
                        "net_due_amount, status, bank_id) from acquisition"),
                  QString("NB-0007 f 3.846 20 100 120 3 2"));
@@ -134,8 +122,7 @@ private slots:
             QCOMPARE(m_people->lastTitle() + m_people->lastText(), QString("ErrorPlease add one or more items\r\n"));
             addLines<DialogPurchaseDetail>(form->findChild<TabPurchaseDetail*>(),
                                            {{{"txtCode", "RICE"}, {"txtQty", "3"}}});
-            for (const auto& entry : entries)
-                enter(form, entry.first, entry.second);
+            enterAll(form, entries);
             if (!change.isEmpty())
                 run(change);
             save(form);
@@ -165,9 +152,8 @@ private slots:
         show<TabPurchases>();
         onForm("btnAdd", [&](DialogPurchases* form) {
             m_people->expect<DialogPurchaseDetail>([entries, this](DialogPurchaseDetail* line) {
-                QApplication::setActiveWindow(line);
-                for (const auto& entry : entries)
-                    enter(line, entry.first, entry.second);
+                enterAll(line, entries);
+                bringToFront(line);
                 confirm(line, "txtQty");
                 QTEST(m_people->lastText(), "told");
                 QVERIFY(line->isVisible());
@@ -203,7 +189,6 @@ private slots:
             QTRY_VERIFY(lines->isVisible());
             click(lines, "btnSelectPO");
             QCOMPARE(m_people->lastTitle() + m_people->lastText(), QString("InfoPlease select a supplier"));
-            QApplication::setActiveWindow(form);
             enter(form, "txtSupplier", "S1");
             takeOrder(form);
             QCOMPARE(cells(lines, 0),
@@ -252,13 +237,12 @@ private slots:
     void anOrderIsPlacedAndChanged()
     {
         show<TabPurchaseOrder>();
-        ::onForm<DialogPurchaseOrder>(*m_people, m_page.get(), "btnAdd", [this](DialogPurchaseOrder* form) {
+        onForm("btnAdd", [this](DialogPurchaseOrder* form) {
             QTest::keyClick(form, Qt::Key_F4);
             QTRY_VERIFY(form->findChild<QPlainTextEdit*>("txtNotes")->hasFocus());
             QTest::keyClicks(form->findChild<QPlainTextEdit*>("txtNotes"), "by Friday");
             save(form);
             QCOMPARE(m_people->lastText(), QString("Select a supplier\r\nInsert one or more item\r\n"));
-            QApplication::setActiveWindow(form);
             enter(form, "txtSupplier", "S1");
             addLines<DialogPurchaseOrderDetail>(form->findChild<TabPurchaseOrderDetail*>(),
                                                 {{{"txtCode", "RICE"}, {"txtQty", "5"}}});
@@ -266,7 +250,7 @@ private slots:
             save(form);
         });
         QTRY_COMPARE(cells(m_page.get(), 0).mid(3), (QStringList{"Market", "Sent to supplier", "Rp50,00"}));
-        QCOMPARE(m_page->findChild<QLabel*>("lblCount")->text(), QString("1 Items"));
+        QCOMPARE(label("lblCount"), QString("1 Items"));
         // At midnight, so that the order is in the list of its day.
         QCOMPARE(value("select concat_ws(' ', no, deposit_amount, purchase_date::time, ship_date::time, note) from "
                        "purchase_order"),
@@ -276,7 +260,7 @@ private slots:
         run("UPDATE purchase_order SET status_id = 1");
         choose(m_page.get(), 0);
         for (const char* status : {"", "Order Changed"}) {
-            ::onForm<DialogPurchaseOrder>(*m_people, m_page.get(), "btnEdit", [status](DialogPurchaseOrder* form) {
+            onForm("btnEdit", [status](DialogPurchaseOrder* form) {
                 auto* box = form->findChild<QComboBox*>("ddlStatus");
                 box->setFocus();
                 QTest::keyClicks(box, status);
@@ -296,10 +280,9 @@ private slots:
         const QDate today = QDate::currentDate();
         QCOMPARE(m_page->findChild<QDateEdit*>("dateFrom")->date(), QDate(today.year(), today.month(), 1));
         QCOMPARE(rowsOf(m_page.get()), 3);
-        const QAbstractItemModel* model = gridOf(m_page.get())->model();
         QSet<QRgb> colours;
         for (int row = 0; row < 3; ++row)
-            colours.insert(model->index(row, 0).data(Qt::BackgroundRole).value<QBrush>().color().rgb());
+            colours.insert(m_grid->model()->index(row, 0).data(Qt::BackgroundRole).value<QBrush>().color().rgb());
         QCOMPARE(colours.size(), 3);
         enter(m_page.get(), "txtSupplier", "s2");
         click(m_page.get(), "btnSearch");
@@ -319,37 +302,35 @@ private:
     template <class Line>
     void addLines(QWidget* page, const QList<Entries>& lines)
     {
-        for (const Entries& entries : lines) {
-            m_people->expect<Line>([entries](Line* line) {
-                QApplication::setActiveWindow(line);
-                for (const auto& entry : entries)
-                    enter(line, entry.first, entry.second);
-                confirm(line, "txtQty");
-            });
-        }
+        for (const Entries& entries : lines)
+            expectLine<Line>(entries);
         m_people->expect<Line>([](Line* line) { giveUp(line); });
         click(page, "btnAdd");
-        QApplication::setActiveWindow(page->window());
+        bringToFront(page);
     }
 
     template <class Line>
     void editLine(QWidget* page, int row, const Entries& entries)
     {
         choose(page, row);
+        expectLine<Line>(entries);
+        click(page, "btnEdit");
+        bringToFront(page);
+    }
+
+    template <class Line>
+    void expectLine(const Entries& entries)
+    {
         m_people->expect<Line>([entries](Line* line) {
-            QApplication::setActiveWindow(line);
-            for (const auto& entry : entries)
-                enter(line, entry.first, entry.second);
+            enterAll(line, entries);
             confirm(line, "txtQty");
         });
-        click(page, "btnEdit");
-        QApplication::setActiveWindow(page->window());
     }
 
     void takeOrder(DialogPurchases* form, int row = 0)
     {
         m_people->expect<DialogSelectPO>([row](DialogSelectPO* orders) {
-            QApplication::setActiveWindow(orders);
+            bringToFront(orders);
             choose(orders, row);
             QTest::keyClick(gridOf(orders), Qt::Key_Return);
         });
@@ -357,44 +338,39 @@ private:
         auto* page = form->findChild<TabPurchaseDetailPO*>();
         QTRY_VERIFY(page->isVisible());
         click(page, "btnSelectPO");
-        QApplication::setActiveWindow(form);
+        bringToFront(form);
     }
 
     static void save(QWidget* form) { confirm(form, "txtSupplier"); }
     void insertOrder(int id, int status = 2)
     {
-        insertRows(*m_database, "purchase_order",
-                   QString("id=%1, no='PO-%2', bank_id=2, status_id=%3, sub_total_amount=120, grandtotal_amount=120")
-                       .arg(id)
-                       .arg(id)
-                       .arg(status));
+        insert("purchase_order",
+               QString("id=%1, no='PO-%2', bank_id=2, status_id=%3, sub_total_amount=120, grandtotal_amount=120")
+                   .arg(id)
+                   .arg(id)
+                   .arg(status));
         for (const auto& item : {1, 2})
-            insertRows(*m_database, "purchase_order_detail",
-                       QString("purchase_order_id=%1, item_id=%2, jumlah=%3, price_amount=10, total_price_amount=%4")
-                           .arg(id)
-                           .arg(item)
-                           .arg(3 * item)
-                           .arg(30 * item));
+            insert("purchase_order_detail",
+                   QString("purchase_order_id=%1, item_id=%2, jumlah=%3, price_amount=10, total_price_amount=%4")
+                       .arg(id)
+                       .arg(item)
+                       .arg(3 * item)
+                       .arg(30 * item));
     }
 
     void insertPurchase(int id)
     {
-        insertRows(*m_database, "acquisition",
-                   QString("id=%1, no='NB-%2', invoice_no='F-%3', bank_id=2, status=%4, sub_total_amount=30, "
-                           "grandtotal_amount=30, net_due_amount=30")
-                       .arg(id)
-                       .arg(id)
-                       .arg(id)
-                       .arg(id));
-        insertRows(*m_database, "acquisition_detail",
-                   QString("acquisition_id=%1, qty=3, qty_ordered=0, price_each_amount=10, total_price_amount=30, "
-                           "po_detail_id=NULL")
-                       .arg(id));
-    }
-
-    void onForm(const char* button, const std::function<void(DialogPurchases*)>& work)
-    {
-        ::onForm<DialogPurchases>(*m_people, m_page.get(), button, work);
+        insert("acquisition",
+               QString("id=%1, no='NB-%2', invoice_no='F-%3', bank_id=2, status=%4, sub_total_amount=30, "
+                       "grandtotal_amount=30, net_due_amount=30")
+                   .arg(id)
+                   .arg(id)
+                   .arg(id)
+                   .arg(id));
+        insert("acquisition_detail",
+               QString("acquisition_id=%1, qty=3, qty_ordered=0, price_each_amount=10, total_price_amount=30, "
+                       "po_detail_id=NULL")
+                   .arg(id));
     }
 };
 

@@ -1,14 +1,11 @@
 #include "support/DatabaseTest.h"
 #include "support/SalesRows.h"
-#include "support/ShopRows.h"
 #include "zavel/dinein/DialogBayarMakanDitempat.h"
 #include "zavel/fastfood/DialogFastFood.h"
 #include "zavel/list/TabDaftarPenjualan.h"
 #include "zavel/list/TableModelDaftarPenjualan.h"
 #include "zavel/service/BusinessPenjualan.h"
 #include "zavel/takeaway/DialogBayarBawaPulang.h"
-
-#include <QRegularExpression>
 
 #include <malloc.h>
 
@@ -36,18 +33,13 @@ private slots:
         insertSale(*m_database, sale);
         insertSale(*m_database, {"TRD-OLD"});
         show();
-        QStringList headers;
-        QStringList row;
-        for (int column = 0; column < m_grid->model()->columnCount(); ++column) {
-            headers.append(m_grid->model()->headerData(column, Qt::Horizontal).toString());
-            row.append(m_grid->model()->index(0, column).data().toString());
-        }
-        QCOMPARE(headers.join('|'),
+        QCOMPARE(headersOf(*m_grid->model()).join('|'),
                  QString("No|Date|Type|User|Member Code|Guest Name|Waitress|Invoice Total|Cash|Credit|"
                          "Net Due|Status"));
-        QCOMPARE(row.join('|'), QString("TRF-1|%1|Fast Food|ann|M1|Mary|Ann|Rp900.00|Rp500.00|Rp100.00|Rp300.00|"
-                                        "Partially Paid")
-                                    .arg(QDate::currentDate().toString("d MMM yyyy")));
+        QCOMPARE(cells(m_page.get(), 0).join('|'),
+                 QString("TRF-1|%1|Fast Food|ann|M1|Mary|Ann|Rp900.00|Rp500.00|Rp100.00|Rp300.00|"
+                         "Partially Paid")
+                     .arg(QDate::currentDate().toString("d MMM yyyy")));
         QVERIFY(!m_grid->model()->index(0, 11).data(Qt::DecorationRole).value<QIcon>().isNull());
         // Only today's sales are asked for at first.
         QCOMPARE(the<QLabel>("lblCount")->text(), QString("1 Items"));
@@ -79,7 +71,7 @@ private slots:
     {
         FETCH(QString, box, entry);
         const QDate today = QDate::currentDate();
-        run("INSERT INTO meja (id, kode, nama, version) VALUES (2, 'T2', 'Door', 1)");
+        insert("meja", "id=2, kode='T2', nama='Door'");
         SaleRow sale{"D1", "TRD", 100, 100, 0, 1, today};
         sale.employee = 1;
         insertSale(*m_database, sale);
@@ -304,14 +296,8 @@ private:
     {
         return m_page->findChild<Widget*>(name);
     }
-    void click(const char* button) { QTest::mouseClick(the<QPushButton>(button), Qt::LeftButton); }
-    [[nodiscard]] QString numbers() const
-    {
-        QStringList found;
-        for (int row = 0; row < m_grid->model()->rowCount(); ++row)
-            found.append(cell(row, TableModelDaftarPenjualan::No));
-        return found.join(' ');
-    }
+    void click(const char* button) { ::click(m_page.get(), button); }
+    [[nodiscard]] QString numbers() const { return column(TableModelDaftarPenjualan::No).join(' '); }
 };
 
 QTEST_MAIN(TestSalesPage)

@@ -1,13 +1,9 @@
 #include "pos/invoice/EntityInvoiceDetail.h"
-#include "pos/totals/InvoiceTotals.h"
 #include "support/DatabaseTest.h"
-#include "support/TestCluster.h"
 #include "zavel/dinein/DialogBayarMakanDitempat.h"
 #include "zavel/dinein/DialogBayarMakanDitempatDetailSplit.h"
-#include "zavel/payment/BillLines.h"
 #include "zavel/service/BusinessPenjualan.h"
 
-#include <QCheckBox>
 #include <QRandomGenerator>
 
 #include <numeric>
@@ -29,18 +25,13 @@ protected:
     void prepare() override
     {
         AppContext::instance()->setLocale("id_ID");
-        m_builders = std::make_unique<Builders>();
-        m_order = m_builders
-                      ->openOrder(m_builders->table("T1", "Window"),
-                                  {m_builders->line(m_builders->item("TEA", "Tea", 10), 3),
-                                   m_builders->line(m_builders->item("CAKE", "Cake", 25), 2)})
+        m_make = std::make_unique<Builders>();
+        m_order = m_make
+                      ->openOrder(m_make->table("T1", "Window"), {m_make->line(m_make->item("TEA", "Tea", 10), 3),
+                                                                  m_make->line(m_make->item("CAKE", "Cake", 25), 2)})
                       ->getId();
     }
-    void tidy() override
-    {
-        m_form.reset();
-        m_builders.reset();
-    }
+    void tidy() override { m_form.reset(); }
 
 private slots:
     void theSplitShowsOnlyWhereItIsWanted()
@@ -52,7 +43,7 @@ private slots:
         split(0, "2", "Grp 3");
         QCOMPARE(grid()->model()->index(0, 2).data().toInt(), 1);
         QCOMPARE(grid()->model()->index(0, 4).data().toString(), QString("Grp 3"));
-        QCOMPARE(m_form->findChild<QLineEdit*>("txtSubTotal")->text(), QString("60,00"));
+        QCOMPARE(shown(m_form.get(), "txtSubTotal"), QString("60,00"));
         m_form->findChild<QCheckBox*>("cbShowSplit")->click();
         QCOMPARE(grid()->model()->columnCount(), 6);
         QVERIFY(!m_form->findChild<QPushButton*>("btnProcessSplit")->isVisible());
@@ -63,7 +54,7 @@ private slots:
         openForm();
         split(0, "1", "Grp 1");
         split(1, "2", "Grp 2");
-        type(m_form.get(), "20");
+        typeInto(m_form.get(), "txtPaid", "20");
         m_people->answer(QMessageBox::Yes); // split
         m_people->answer(QMessageBox::No);  // print
         expectGroup(" Split: Grp 1", "10");
@@ -93,7 +84,7 @@ private slots:
         m_people->answer(QMessageBox::No);
         click("btnProcessSplit");
         QVERIFY2(invoices() == "2:3+1, 1:1", qPrintable(invoices() + '\n' + m_people->texts().join('\n')));
-        QCOMPARE(m_form->findChild<QLineEdit*>("txtGrandTotal")->text(), QString("55,00"));
+        QCOMPARE(shown(m_form.get(), "txtGrandTotal"), QString("55,00"));
         QVERIFY2(m_people->finished(), qPrintable(m_people->surprises().join('\n')));
     }
 
@@ -120,7 +111,7 @@ private slots:
         grid()->selectRow(0);
         click("btnDelSplit");
         QCOMPARE(grid()->model()->index(0, 2).data().toInt(), 3);
-        QCOMPARE(m_form->findChild<QLineEdit*>("txtSubTotal")->text(), QString("80,00"));
+        QCOMPARE(shown(m_form.get(), "txtSubTotal"), QString("80,00"));
     }
 
     void aPartlyPaidInvoiceCanStillBeSplit()
@@ -156,10 +147,10 @@ private slots:
             const auto trace = QString("seed %1").arg(seed);
             EntityOrder::Lines ordered;
             for (int line = 0; line < 1 + int(random.bounded(4)); ++line)
-                ordered.append(m_builders->line(
-                    m_builders->item(QString("I%1-%2").arg(seed).arg(line), "Dish", 1 + random.bounded(5000)),
-                    1 + random.bounded(9)));
-            EntityMakanDitempat* order = m_builders->openOrder(m_builders->table(QString("S%1").arg(seed)), ordered);
+                ordered.append(
+                    m_make->line(m_make->item(QString("I%1-%2").arg(seed).arg(line), "Dish", 1 + random.bounded(5000)),
+                                 1 + random.bounded(9)));
+            EntityMakanDitempat* order = m_make->openOrder(m_make->table(QString("S%1").arg(seed)), ordered);
             QObject owner;
             const auto sell = [&](const InvoiceLines& lines, double paidPart, EntityInvoiceMakanDitempat* sale) {
                 double subtotal = 0;
@@ -222,13 +213,12 @@ private slots:
                     .toInt();
             QVERIFY2((afterGroups == EntityOrder::PAID) == (taken > 0 && taken >= due), qPrintable(trace));
             QVERIFY2(sell(lines, 1, &parent), qPrintable(trace + " " + sales->takeErrors()));
-            QCOMPARE(m_database
-                         ->value(QString("SELECT count(*) FROM (SELECT item_id, sum(qty), sum(total_amount) FROM "
-                                         "makan_ditempat_detail WHERE makan_ditempat_id = %1 GROUP BY item_id "
-                                         "EXCEPT SELECT d.item_id, sum(d.qty), sum(d.total_amount) FROM "
-                                         "invoice_makan_ditempat m JOIN invoice_detail d USING (invoice_id) WHERE "
-                                         "m.makan_ditempat_id = %1 GROUP BY d.item_id) missing")
-                                     .arg(order->getId()))
+            QCOMPARE(value(QString("SELECT count(*) FROM (SELECT item_id, sum(qty), sum(total_amount) FROM "
+                                   "makan_ditempat_detail WHERE makan_ditempat_id = %1 GROUP BY item_id "
+                                   "EXCEPT SELECT d.item_id, sum(d.qty), sum(d.total_amount) FROM "
+                                   "invoice_makan_ditempat m JOIN invoice_detail d USING (invoice_id) WHERE "
+                                   "m.makan_ditempat_id = %1 GROUP BY d.item_id) missing")
+                               .arg(order->getId()))
                          .toInt(),
                      0);
         }
@@ -238,7 +228,7 @@ private slots:
     {
         QObject owner;
         InvoiceLines billed;
-        for (EntityItem* dish : {m_builders->item("PIE", "Pie", 0), m_builders->item("ALE", "Ale", 0)}) {
+        for (EntityItem* dish : {m_make->item("PIE", "Pie", 0), m_make->item("ALE", "Ale", 0)}) {
             auto* line = new EntityInvoiceDetail(&owner);
             line->setItem(dish);
             line->setQty(2);
@@ -247,7 +237,7 @@ private slots:
             billed.append(line);
         }
         EntityMakanDitempat order;
-        order.setDetails({m_builders->line(m_builders->item("GIN", "Gin", 500), 1)});
+        order.setDetails({m_make->line(m_make->item("GIN", "Gin", 500), 1)});
         QCOMPARE(
             differenceOf(order, billed, &owner).text(),
             QString("Ordered, but on no bill: 1 Gin (Rp500)\r\nOn the bill, but taken back: 2 Pie ($24), 2 Ale ($24); "
@@ -259,21 +249,17 @@ private:
     {
         m_form = std::make_unique<DialogBayarMakanDitempat>();
         QVERIFY(m_form->openOrder(service<BusinessPenjualan>("Sales")->findOrder(m_order)));
-        m_form->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_form.get()));
+        showForm(m_form.get());
         m_form->findChild<QCheckBox*>("cbShowSplit")->click();
     }
 
-    void click(const QString& button) { QTest::mouseClick(m_form->findChild<QPushButton*>(button), Qt::LeftButton); }
+    void click(const QString& button) { ::click(m_form.get(), qPrintable(button)); }
     [[nodiscard]] QTableView* grid() const { return m_form->findChild<QTableView*>("tblDetail"); }
     /** Splits this quantity off the line in this row, as the cashier does. */
     void split(int row, const QString& quantity, const QString& group)
     {
         m_people->expect<DialogBayarMakanDitempatDetailSplit>([&](DialogBayarMakanDitempatDetailSplit* dialog) {
-            auto* box = dialog->findChild<QLineEdit*>("txtQtySplit");
-            box->setFocus();
-            box->selectAll();
-            QTest::keyClicks(box, quantity);
+            typeInto(dialog, "txtQtySplit", quantity);
             auto* groups = dialog->findChild<QComboBox*>("ddlGroupSplit");
             QTest::keyClick(groups, Qt::Key_Home);
             for (int step = 1; step < group.right(1).toInt(); ++step)
@@ -286,28 +272,18 @@ private:
         click("btnSplit");
     }
 
-    void type(DialogBayarMakanDitempat* form, const QString& amount)
+    static void pay(DialogBayarMakanDitempat* form, const QString& amount)
     {
-        auto* paid = form->findChild<QLineEdit*>("txtPaid");
-        form->activateWindow();
-        QTRY_COMPARE(QApplication::activeWindow(), form);
-        paid->setFocus(Qt::TabFocusReason);
-        QTest::keyClicks(paid, amount);
-    }
-
-    void pay(DialogBayarMakanDitempat* form, const QString& amount)
-    {
-        auto* paid = form->findChild<QLineEdit*>("txtPaid");
-        type(form, amount);
-        QTest::keyClick(paid, Qt::Key_Return);
+        typeInto(form, "txtPaid", amount);
+        confirm(form, "txtPaid");
     }
 
     /** The next group's form: its note has to end so, and this is paid; an empty amount leaves the form. */
     void expectGroup(const QString& note, const QString& amount)
     {
         m_people->expect<DialogBayarMakanDitempat>([=](DialogBayarMakanDitempat* form) {
-            QVERIFY2(form->findChild<QLineEdit*>("txtKode")->text().endsWith(note), qPrintable(note));
-            QCOMPARE(form->findChild<QLineEdit*>("txtMeja")->text(), QString("Window"));
+            QVERIFY2(shown(form, "txtKode").endsWith(note), qPrintable(note));
+            QCOMPARE(shown(form, "txtMeja"), QString("Window"));
             if (!amount.isEmpty())
                 pay(form, amount);
             QTest::keyClick(form, Qt::Key_Escape);
@@ -324,7 +300,6 @@ private:
 
     int orderStatus() { return m_database->value("SELECT status FROM makan_ditempat").toInt(); }
 
-    std::unique_ptr<Builders> m_builders;
     std::unique_ptr<DialogBayarMakanDitempat> m_form;
     int m_order = 0;
 };

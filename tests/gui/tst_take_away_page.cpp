@@ -6,13 +6,7 @@
 #include "zavel/takeaway/TabBawaPulang.h"
 #include "zavel/takeaway/TableModelBawaPulang.h"
 
-#include <QRegularExpression>
-
-namespace
-{
 using Column = TableModelBawaPulang::Column;
-
-} // namespace
 
 /** The page of orders to take away, and an order's life from the telephone to the bag at the counter. */
 class TestTakeAwayPage : public PageTest<TabBawaPulang>
@@ -41,7 +35,7 @@ private slots:
         QCOMPARE(column(Column::Guest), (QStringList{"Ann", "Bob", "Cid", "Dot"}));
         QCOMPARE(column(Column::Status), (QStringList{"Waiting for the menu", "Paid", "Partially Paid", "Unpaid"}));
         QCOMPARE(cell(0, Column::Menu), QString("Fried rice, Iced tea"));
-        QCOMPARE(m_page->findChild<QLabel*>("lblCount")->text(), QString("4 Items"));
+        QCOMPARE(label("lblCount"), QString("4 Items"));
         QCOMPARE(TableModelBawaPulang::statusText(EntityOrder::DONE), QString("Selesai"));
 
         auto* status = m_page->findChild<QComboBox*>("ddlStatus");
@@ -62,7 +56,7 @@ private slots:
             QVERIFY(!form->findChild<QLineEdit*>("txtKode")->isVisible());
             QTest::keyClicks(form->focusWidget(), "Ann");
             keyIn<DialogBawaPulang>(*m_people, form, {{"rice", "2"}, {"TEA", "1"}}, [](DialogBawaPulang* same) {
-                QCOMPARE(same->findChild<QLabel*>("lblTotal")->text(), QString("Rp55,000.00"));
+                QCOMPARE(labelled(same, "lblTotal"), QString("Rp55,000.00"));
                 QTest::keyClick(same->focusWidget(), Qt::Key_Return);
             });
         });
@@ -72,7 +66,7 @@ private slots:
         QCOMPARE(column(Column::Guest), QStringList{"Ann"});
         QCOMPARE(column(Column::Status), QStringList{"Waiting for the menu"});
         QCOMPARE(m_people->texts(), QStringList());
-        const QString slip = takeSlips(m_spool->path());
+        const QString slip = takeSlips();
         QVERIFY2(slip.contains("Take Away : " + cell(0, Column::Id)), qPrintable(slip));
         QVERIFY2(slip.contains(" Fried rice") && slip.contains(" Iced tea"), qPrintable(slip));
         QCOMPARE(m_database->value("SELECT tgl FROM bawa_pulang WHERE createdby = 1").toDate(), QDate::currentDate());
@@ -104,7 +98,7 @@ private slots:
         QCOMPARE(m_people->lastTitle(), QString("Error"));
         QVERIFY(m_people->lastText().contains("error: insert take away food detail failed.\r\n"));
         QCOMPARE(count("bawa_pulang"), 0);
-        QCOMPARE(takeSlips(m_spool->path()), QString());
+        QCOMPARE(takeSlips(), QString());
     }
 
     void anOrderIsCancelledUntilThereIsAnInvoice_data()
@@ -150,12 +144,12 @@ private slots:
             m_people->answer(QMessageBox::Yes);
             QTest::keyClick(form->focusWidget(), Qt::Key_P, Qt::ControlModifier);
             QTRY_COMPARE(m_people->texts().size(), 1);
-            QCOMPARE(form->findChild<QLabel*>("lblNetDue")->text(), QString("Change :"));
+            QCOMPARE(labelled(form, "lblNetDue"), QString("Change :"));
             form->reject();
         });
         QVERIFY(m_people->lastText().startsWith("Do you want to close this order: "));
         QTRY_COMPARE(m_grid->model()->rowCount(), 0);
-        const QString bills = takeSlips(m_spool->path());
+        const QString bills = takeSlips();
         QCOMPARE(bills.count("Fried rice"), 2);
         QVERIFY2(bills.contains(QRegularExpression("Change +: +5,000\\b")), qPrintable(bills));
         QCOMPARE(stored("status", "bawa_pulang").toInt(), int(EntityOrder::DONE));
@@ -166,21 +160,19 @@ private slots:
         m_make->takeAway({{m_rice, 1}}, "Ann");
         show();
         pay([this](DialogBayarBawaPulang* form) {
-            QTest::mouseClick(form->findChild<QPushButton*>("btnFinish"), Qt::LeftButton);
+            click(form, "btnFinish");
             QCOMPARE(m_people->texts(),
                      QStringList{"This order has not been paid yet. Please press the Cancel button to "
                                  "cancel this order"});
             QCOMPARE(m_people->lastTitle(), QString("Error"));
             QCOMPARE(stored("status", "bawa_pulang").toInt(), int(EntityOrder::WAITING_FOR_MENU));
-            form->activateWindow();
-            QTRY_COMPARE(QApplication::activeWindow(), form);
             typeInto(form, "txtPaid", "10000");
             m_people->answer(QMessageBox::No);
             QTest::keyClick(form->focusWidget(), Qt::Key_Return);
             QCOMPARE(stored("status", "bawa_pulang").toInt(), int(EntityOrder::PARTIALY_PAID));
             // What is owed is stored as the form shows it: a shortfall is below zero.
             QCOMPARE(stored("status, net_due_amount", "invoice"), QString("3 -15000"));
-            QTest::mouseClick(form->findChild<QPushButton*>("btnFinish"), Qt::LeftButton);
+            click(form, "btnFinish");
             QVERIFY(!form->isVisible());
         });
         QTRY_COMPARE(m_grid->model()->rowCount(), 0);
@@ -194,8 +186,7 @@ private:
     /** Presses the key on the page with the row selected. */
     void press(Qt::Key key, int row = 0)
     {
-        m_page->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(m_page.get()));
+        bringToFront(m_page.get());
         m_grid->setFocus();
         m_grid->selectRow(row);
         QTest::keyClick(m_grid, key);

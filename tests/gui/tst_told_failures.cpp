@@ -1,8 +1,5 @@
-#include "app/access/DialogUser.h"
 #include "app/access/TabUser.h"
-#include "pos/inventory/adjustment/DialogInventoryAdj.h"
 #include "pos/inventory/adjustment/TabInventoryAdj.h"
-#include "pos/masterdata/unit/DialogSatuan.h"
 #include "pos/masterdata/unit/TabSatuan.h"
 #include "pos/purchasing/creditnote/DialogCreditNote.h"
 #include "pos/purchasing/creditnote/TabCreditNote.h"
@@ -12,11 +9,7 @@
 #include "pos/purchasing/purchase/TabPurchases.h"
 #include "support/DatabaseTest.h"
 #include "support/DocumentFamilies.h"
-#include "support/Hands.h"
-#include "support/LedgerRows.h"
-#include "support/ShopRows.h"
 #include "zavel/dinein/DialogBayarMakanDitempat.h"
-#include "zavel/dinein/EntityMakanDitempat.h"
 #include "zavel/receivable/DialogPiutang.h"
 #include "zavel/receivable/TabPiutang.h"
 #include "zavel/service/BusinessPenjualan.h"
@@ -168,8 +161,8 @@ private slots:
             });
         };
         const Step takeBack = [this] {
-            insertRows(*m_database, "stock_take", "source_acct_code='1-100', qty=3, qty_adj=3");
-            insertRows(*m_database, "item_history", "tran_type=3, qty_in=3");
+            insert("stock_take", "source_acct_code='1-100', qty=3, qty_adj=3");
+            insert("item_history", "tran_type=3, qty_in=3");
             m_page = std::make_unique<TabInventoryAdj>();
             showPage(m_page.get());
             choose(m_page.get(), 0);
@@ -225,7 +218,7 @@ private:
         showPage(m_page.get());
         if (rowsOf(m_page.get()) > 0)
             choose(m_page.get(), 0);
-        onForm<Dialog>(*m_people, m_page.get(), button, work);
+        ::onForm<Dialog>(*m_people, m_page.get(), button, work);
     }
     void unit(const Work& save)
     {
@@ -265,7 +258,6 @@ private:
         DialogBayarMakanDitempat form(nullptr);
         QVERIFY(form.openOrder(service<BusinessPenjualan>("Sales")->findOrder(order)));
         form.show();
-        QApplication::setActiveWindow(&form);
         enter(&form, "txtCashAccount", "1-100");
         ok(&form);
         // The form is still open and saves the same bill again.

@@ -1,12 +1,11 @@
 #include "kor/widgets/KorViewMemory.h"
 #include "support/DatabaseTest.h"
-#include "zavel/tables/DialogMeja.h"
 #include "zavel/tables/TabMeja.h"
 
 #include <QHeaderView>
 #include <QSettings>
 
-class TestViewMemory : public DatabaseTest
+class TestViewMemory : public PageTest<TabMeja>
 {
     Q_OBJECT
 
@@ -27,42 +26,42 @@ private slots:
 
     void aColumnPulledWiderIsAsWideTheNextDay()
     {
-        openPage();
-        const int before = grid()->columnWidth(1);
+        show();
+        const int before = m_grid->columnWidth(1);
         pullColumn(1, 60);
-        const int pulled = grid()->columnWidth(1);
+        const int pulled = m_grid->columnWidth(1);
         QVERIFY(pulled > before + 40);
-        m_page->findChild<QPushButton*>("btnRefresh")->click();
-        QCOMPARE(grid()->columnWidth(1), pulled);
+        click(m_page.get(), "btnRefresh");
+        QCOMPARE(m_grid->columnWidth(1), pulled);
 
         startAnew();
-        openPage();
-        QCOMPARE(grid()->columnWidth(1), pulled);
-        QVERIFY(grid()->columnWidth(0) != pulled);
+        show();
+        QCOMPARE(m_grid->columnWidth(1), pulled);
+        QVERIFY(m_grid->columnWidth(0) != pulled);
     }
 
     void aCodeThatIsLongerThanThoseAtFirstSightIsShownInFull()
     {
-        openPage();
-        const int narrow = grid()->columnWidth(1);
-        run("INSERT INTO meja (kode, nama, createdby, version) VALUES ('WWWWWWWWWWWWWWWWWWWW', 'Window', 1, 1)");
-        m_page->findChild<QPushButton*>("btnRefresh")->click();
-        const int wide = grid()->columnWidth(1);
+        show();
+        const int narrow = m_grid->columnWidth(1);
+        insert("meja", "kode='WWWWWWWWWWWWWWWWWWWW', nama='Window'");
+        click(m_page.get(), "btnRefresh");
+        const int wide = m_grid->columnWidth(1);
         QVERIFY(wide > narrow);
-        const QFontMetrics letters(grid()->font());
+        const QFontMetrics letters(m_grid->font());
         QVERIFY(wide > letters.horizontalAdvance("WWWWWWWWWWWWWWWWWWWW"));
 
         pullColumn(1, -60);
-        const int pulled = grid()->columnWidth(1);
-        m_page->findChild<QPushButton*>("btnRefresh")->click();
-        QCOMPARE(grid()->columnWidth(1), pulled);
+        const int pulled = m_grid->columnWidth(1);
+        click(m_page.get(), "btnRefresh");
+        QCOMPARE(m_grid->columnWidth(1), pulled);
     }
 
     void whatTheProgramSetsByItselfIsNotRemembered()
     {
-        openPage();
+        show();
         m_page->resize(900, 500);
-        m_page->findChild<QPushButton*>("btnRefresh")->click();
+        click(m_page.get(), "btnRefresh");
         DialogMeja form;
         form.show();
         form.reject();
@@ -101,23 +100,16 @@ private slots:
     void withoutAFileNothingIsRemembered()
     {
         KorViewMemory::setFile(QString());
-        openPage();
-        const int before = grid()->columnWidth(1);
+        show();
+        const int before = m_grid->columnWidth(1);
         pullColumn(1, 60);
         m_page.reset();
-        openPage();
-        QCOMPARE(grid()->columnWidth(1), before);
+        show();
+        QCOMPARE(m_grid->columnWidth(1), before);
     }
 
 private:
     QString file() const { return m_folder->filePath("view.ini"); }
-    QTableView* grid() const { return m_page->findChild<QTableView*>("tblMeja"); }
-    void openPage()
-    {
-        m_page = std::make_unique<TabMeja>();
-        m_page->show();
-        QVERIFY(QTest::qWaitForWindowExposed(m_page.get()));
-    }
     void startAnew()
     {
         m_page.reset();
@@ -126,7 +118,7 @@ private:
     }
     void pullColumn(int column, int by)
     {
-        QHeaderView* header = grid()->horizontalHeader();
+        QHeaderView* header = m_grid->horizontalHeader();
         const QPoint edge(header->sectionViewportPosition(column) + header->sectionSize(column) - 1,
                           header->height() / 2);
         QTest::mouseMove(header->viewport(), edge);
@@ -140,7 +132,6 @@ private:
     }
 
     std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<TabMeja> m_page;
 };
 
 QTEST_MAIN(TestViewMemory)

@@ -1,4 +1,3 @@
-#include "app/context/DatabaseManager.h"
 #include "kor/persistence/KorDatabase.h"
 #include "kor/persistence/KorQuery.h"
 #include "kor/persistence/KorServerWitness.h"
@@ -8,14 +7,11 @@
 
 #include <QElapsedTimer>
 #include <QSqlDriver>
-#include <QTimer>
 #include <QVBoxLayout>
 
 #include <libpq-fe.h>
 
 #include <atomic>
-#include <functional>
-#include <thread>
 
 namespace
 {
@@ -95,9 +91,7 @@ protected:
         m_box = new QLineEdit;
         (new QVBoxLayout(m_window.get()))->addWidget(m_box);
         m_window->resize(800, 600);
-        m_window->show();
-        m_window->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        showForm(m_window.get());
     }
     void tidy() override
     {

@@ -1,15 +1,10 @@
 #include "hands/Keys.h"
 
 #include <QAbstractButton>
-#include <QApplication>
-#include <QDialog>
 #include <QElapsedTimer>
 #include <QSet>
 #include <QShortcut>
-#include <QTableView>
-#include <QTest>
 #include <QTimer>
-#include <QWindow>
 
 namespace
 {

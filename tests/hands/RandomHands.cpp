@@ -3,17 +3,11 @@
 #include "hands/Keys.h"
 #include "hands/Workplace.h"
 #include "kor/widgets/KorTab.h"
-#include "shell/window/MainWindow.h"
 
 #include <QAbstractButton>
-#include <QApplication>
 #include <QComboBox>
-#include <QLineEdit>
-#include <QMessageBox>
 #include <QRegularExpression>
 #include <QTabWidget>
-#include <QTableView>
-#include <QTest>
 #include <QTextStream>
 #include <QTimer>
 

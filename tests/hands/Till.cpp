@@ -2,19 +2,15 @@
 
 #include "app/context/EntityPool.h"
 #include "kor/business/KorServiceDirectory.h"
-#include "kor/system/KorFailure.h"
 #include "pos/invoice/EntityInvoiceDetail.h"
 #include "pos/masterdata/item/DataMapperItem.h"
-#include "pos/masterdata/item/EntityItem.h"
 #include "pos/registry/PosMapperRegistry.h"
 #include "pos/totals/InvoiceTotals.h"
 #include "zavel/dinein/EntityInvoiceMakanDitempat.h"
-#include "zavel/dinein/EntityMakanDitempat.h"
 #include "zavel/dinein/EntityMakanDitempatDetail.h"
 #include "zavel/registry/ZavelMapperRegistry.h"
 #include "zavel/service/BusinessPenjualan.h"
 #include "zavel/tables/DataMapperMeja.h"
-#include "zavel/tables/EntityMeja.h"
 
 #include <QThread>
 

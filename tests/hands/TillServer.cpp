@@ -4,7 +4,6 @@
 #include "hands/Till.h"
 #include "hands/TillBooks.h"
 
-#include <QFile>
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QTcpServer>

@@ -4,8 +4,6 @@
 #include "support/ShopRows.h"
 #include "support/TestDatabase.h"
 
-#include <QPair>
-
 namespace
 {
 /** The name of a fault, and a statement that finds its rows; the first column names them. */

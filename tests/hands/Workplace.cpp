@@ -5,10 +5,7 @@
 #include "kor/widgets/KorTab.h"
 #include "shell/window/Pages.h"
 
-#include <QApplication>
 #include <QTabWidget>
-#include <QTableView>
-#include <QTest>
 
 Workplace::Workplace(const QString& settingsFile)
 {

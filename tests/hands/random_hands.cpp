@@ -13,7 +13,6 @@
 #include <QProcess>
 #include <QTextStream>
 
-#include <memory>
 #include <vector>
 
 namespace

@@ -1,14 +1,9 @@
-#include "app/context/DatabaseManager.h"
 #include "hands/Keys.h"
 #include "hands/TradeChecks.h"
 #include "hands/Workplace.h"
 #include "kor/widgets/KorTab.h"
 #include "shell/window/HouseStyle.h"
 #include "support/DatabaseTest.h"
-
-#include <QTimer>
-
-#include <optional>
 
 namespace
 {

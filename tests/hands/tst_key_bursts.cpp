@@ -5,9 +5,6 @@
 #include "shell/window/HouseStyle.h"
 #include "support/DatabaseTest.h"
 
-#include <QDialog>
-#include <QTimer>
-
 namespace
 {
 // At once, before a button's pressed state ends, and just after it.

@@ -7,7 +7,6 @@
 
 #include <QApplication>
 #include <QTemporaryDir>
-#include <QTest>
 
 /** Random input: the program does not crash and the data stays consistent. scripts/random-hands runs it for longer. */
 class TestRandomHands : public QObject
@@ -16,13 +15,7 @@ class TestRandomHands : public QObject
 
 private slots:
     void initTestCase() { HouseStyle::apply(*qApp); }
-    void nothingBreaks_data()
-    {
-        const auto row = addColumns<quint32>("seed");
-        row("a cashier", 1U);
-        row("a child", 2U);
-        row("a cat", 3U);
-    }
+    void nothingBreaks_data() { addRows<quint32>("seed", {{"a cashier", 1U}, {"a child", 2U}, {"a cat", 3U}}); }
     void nothingBreaks()
     {
         QFETCH(quint32, seed);

@@ -8,7 +8,6 @@
 #include "pos/purchasing/payment/BusinessPayment.h"
 #include "pos/purchasing/payment/EntityPayment.h"
 #include "pos/purchasing/purchase/BusinessPurchases.h"
-#include "pos/purchasing/purchase/EntityAcquisition.h"
 #include "pos/purchasing/purchaseorder/BusinessPurchaseOrder.h"
 #include "pos/purchasing/purchaseorder/EntityPurchaseOrder.h"
 #include "reports/ReadReport.h"
@@ -16,8 +15,6 @@
 #include "support/TestDatabase.h"
 #include "zavel/receivable/EntityPiutangDetail.h"
 #include "zavel/service/BusinessPenjualan.h"
-
-#include <QTest>
 
 #include <memory>
 

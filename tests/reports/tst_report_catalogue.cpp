@@ -6,7 +6,6 @@
 
 #include <QRegularExpression>
 #include <QSet>
-#include <QTest>
 
 #include <memory>
 

@@ -11,13 +11,15 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QSqlDatabase>
 #include <QTableView>
 #include <QTemporaryDir>
-#include <QTest>
 
 namespace
 {
+/** What a loaded machine may take for a report, in milliseconds. */
+constexpr int patience = 30000;
+const char* const aMinute = "select pg_sleep(60), current_date as day, 1 as n, '' as word";
+
 TabReport::Connection connectionOf(const TestDatabase& database)
 {
     return [name = database.name()] {
@@ -38,6 +40,18 @@ ReportSubject subjectOf(const QString& query)
                       ReportColumn::text("word", "Word")};
     return {"Own", "Own Reports", {report}};
 }
+
+/** A page with this report, on a database of its own, in front of the owner. */
+struct OwnReport
+{
+    explicit OwnReport(const QString& query) : page(subjectOf(query), connectionOf(database), "d MMM yyyy")
+    {
+        page.show();
+    }
+
+    TestDatabase database;
+    TabReport page;
+};
 
 /** How many sessions of reports there are in this database; other tests have theirs on the same server. */
 int sessionsOf(TestDatabase& database, const QString& condition = "true")
@@ -75,7 +89,7 @@ private slots:
         page.choose("sales-by-day");
         page.findChild<QDateEdit*>("from")->setDate(QDate::currentDate().addDays(-31));
         press(page);
-        QTRY_VERIFY2(page.table().lineCount() > 20, qPrintable(noteOf(page)));
+        QTRY_VERIFY2_WITH_TIMEOUT(page.table().lineCount() > 20, qPrintable(noteOf(page)), patience);
         const int total = page.table().report().columnOf("total");
         QCOMPARE(page.table().total(total).toDouble(),
                  database.value("select sum(grandtotal_amount) from invoice").toDouble());
@@ -93,17 +107,16 @@ private slots:
 
     void aReportIsAskedWithWhatStandsInItsBoxes()
     {
-        TestDatabase database;
-        TabReport page(subjectOf("select :to::date as day, :to::date - :from::date as n, "
-                                 "coalesce(:text, 'none') || coalesce(:user::text, ' all') as word"),
-                       connectionOf(database), "d MMM yyyy");
-        page.show();
+        OwnReport own("select :to::date as day, :to::date - :from::date as n, "
+                      "coalesce(:text, 'none') || coalesce(:user::text, ' all') as word");
+        TabReport& page = own.page;
         auto* users = page.findChild<QComboBox*>("user");
-        QTRY_COMPARE(users->count(), 3);
+        QTRY_COMPARE_WITH_TIMEOUT(users->count(), 3, patience);
         const auto answer = [&page] {
             QTest::mouseClick(page.findChild<QPushButton*>("show"), Qt::LeftButton);
-            return QTest::qWaitFor([&page] { return !page.isRunning(); }) ? page.table().rowValue(0, 2).toString()
-                                                                          : QString("still running");
+            return QTest::qWaitFor([&page] { return !page.isRunning(); }, patience)
+                       ? page.table().rowValue(0, 2).toString()
+                       : QString("still running");
         };
         QCOMPARE(answer(), "none all");
         page.findChild<QLineEdit*>("text")->setText(" 50%'_A\\");
@@ -120,18 +133,16 @@ private slots:
 
     void aLongReportLeavesThePageAliveAndCanBeStopped()
     {
-        TestDatabase database;
-        TabReport page(subjectOf("select pg_sleep(60), current_date as day, 1 as n, '' as word"),
-                       connectionOf(database), "d MMM yyyy");
-        page.show();
+        OwnReport own(aMinute);
+        TabReport& page = own.page;
         press(page);
         // The page counts the seconds meanwhile, and a second press starts no second run.
-        QTRY_VERIFY(noteOf(page).contains("Reading"));
-        QTRY_COMPARE(sessionsOf(database, "query like 'EXECUTE%'"), 1);
+        QTRY_VERIFY_WITH_TIMEOUT(noteOf(page).contains("Reading"), patience);
+        QTRY_COMPARE_WITH_TIMEOUT(sessionsOf(own.database, "query like 'EXECUTE%'"), 1, patience);
         press(page);
         QTest::mouseClick(page.findChild<QPushButton*>("cancel"), Qt::LeftButton);
-        QTRY_COMPARE(noteOf(page), "Cancelled.");
-        QTRY_COMPARE(sessionsOf(database), 0);
+        QTRY_COMPARE_WITH_TIMEOUT(noteOf(page), "Cancelled.", patience);
+        QTRY_COMPARE_WITH_TIMEOUT(sessionsOf(own.database), 0, patience);
         QVERIFY(page.findChild<QPushButton*>("show")->isEnabled());
     }
 
@@ -149,38 +160,32 @@ private slots:
     void aReportThatCannotBeReadSaysWhy()
     {
         FETCH(QString, query, reason);
-        TestDatabase database;
-        TabReport page(subjectOf(query), connectionOf(database), "d MMM yyyy");
-        page.show();
-        press(page);
-        QTRY_VERIFY2(noteOf(page).contains(reason), qPrintable(noteOf(page)));
-        QCOMPARE(page.findChild<QTableView*>("grid")->model()->rowCount(), 0);
-        QVERIFY(!page.findChild<QPushButton*>("csv")->isEnabled());
-        QVERIFY(database.value("select count(*) from users").toInt() > 0);
+        OwnReport own(query);
+        press(own.page);
+        QTRY_VERIFY2_WITH_TIMEOUT(noteOf(own.page).contains(reason), qPrintable(noteOf(own.page)), patience);
+        QCOMPARE(own.page.findChild<QTableView*>("grid")->model()->rowCount(), 0);
+        QVERIFY(!own.page.findChild<QPushButton*>("csv")->isEnabled());
+        QVERIFY(own.database.value("select count(*) from users").toInt() > 0);
     }
 
     void aPageIsClosedInTheMiddleOfReading()
     {
         TestDatabase database;
         {
-            TabReport page(subjectOf("select pg_sleep(60), current_date as day, 1 as n, '' as word"),
-                           connectionOf(database), "d MMM yyyy");
+            TabReport page(subjectOf(aMinute), connectionOf(database), "d MMM yyyy");
             page.show();
             press(page);
-            QTRY_VERIFY(noteOf(page).contains("Reading"));
+            QTRY_VERIFY_WITH_TIMEOUT(noteOf(page).contains("Reading"), patience);
         }
-        QTRY_COMPARE(sessionsOf(database), 0);
+        QTRY_COMPARE_WITH_TIMEOUT(sessionsOf(database), 0, patience);
     }
 
     void moreRowsThanAnybodyReadsAreCutOffAndTold()
     {
-        TestDatabase database;
-        TabReport page(subjectOf("select current_date as day, 1 as n, '' as word from generate_series(1, 200001)"),
-                       connectionOf(database), "d MMM yyyy");
-        page.show();
-        press(page);
-        QTRY_VERIFY_WITH_TIMEOUT(noteOf(page).contains("200,000 rows"), 30000);
-        QCOMPARE(page.table().rowCount(), 200000);
+        OwnReport own("select current_date as day, 1 as n, '' as word from generate_series(1, 200001)");
+        press(own.page);
+        QTRY_VERIFY_WITH_TIMEOUT(noteOf(own.page).contains("200,000 rows"), patience);
+        QCOMPARE(own.page.table().rowCount(), 200000);
     }
 
 private:

@@ -4,10 +4,7 @@
 #include "pos/cash/ledger/EntityCashFlow.h"
 #include "reports/ReadReport.h"
 #include "support/DatabaseTest.h"
-#include "support/LedgerRows.h"
 #include "support/SalesRows.h"
-#include "support/ShopRows.h"
-#include "support/TestDatabase.h"
 #include "zavel/commission/CommissionFilters.h"
 #include "zavel/commission/EntityAllKomisiAgen.h"
 #include "zavel/list/EntityPenjualanInfo.h"
@@ -18,8 +15,6 @@
 #include "zavel/service/BusinessPenjualan.h"
 
 #include <QRandomGenerator>
-
-#include <functional>
 
 namespace
 {
@@ -87,20 +82,11 @@ private slots:
         keepDatabase();
         insertShop(*m_database);
         m_sales = service<BusinessPenjualan>("Sales");
-        for (const char* statement :
-             {"INSERT INTO jenis_item (id, kode, nama, version) VALUES (2, 'DRINK', 'Drink', 1)",
-              "INSERT INTO agent (id, kode, nama, alamat, telp, email, commision_perc, version) VALUES (2, 'A2', "
-              "'Hotel', "
-              "'', '', '', 7.5, 1)",
-              "INSERT INTO member (id, kode, nama, alamat, telp, discount_percentage, version) VALUES (2, 'M2', "
-              "'Dora', "
-              "'', "
-              "'', 0, 1)",
-              "INSERT INTO employee (id, kode, nama, alamat, telp, email, version) VALUES (2, 'E2', 'Gus', '', '', '', "
-              "1)",
-              "INSERT INTO bank (id, kode, nama, account_type, active, version) VALUES (2, '2-100', 'Bank', 1, true, "
-              "1)"})
-            run(statement);
+        insert("jenis_item", "id=2, kode='DRINK', nama='Drink'");
+        insert("agent", "id=2, kode='A2', nama='Hotel', commision_perc=7.5");
+        insert("member", "id=2, kode='M2', nama='Dora'");
+        insert("employee", "id=2, kode='E2', nama='Gus'");
+        insert("bank", "id=2, kode='2-100', nama='Bank', active=true");
         insertItem(*m_database, 2, "TEA", "Tea", 2);
         insertSeller(*m_database, 901, "ann");
         insertSeller(*m_database, 902, "ben");
@@ -305,16 +291,14 @@ private:
             sale.agent = sale.type == "TRP" ? 0 : m_random.bounded(3);
             sale.user = 901 + m_random.bounded(2);
             const int invoice = insertSale(*m_database, sale);
-            insertRows(*m_database, "invoice_detail",
-                       QString("invoice_id=%1, item_id=2, qty=%2, total_amount=%3")
-                           .arg(invoice)
-                           .arg(m_random.bounded(5))
-                           .arg(m_random.bounded(500)));
+            insert("invoice_detail", QString("invoice_id=%1, item_id=2, qty=%2, total_amount=%3")
+                                         .arg(invoice)
+                                         .arg(m_random.bounded(5))
+                                         .arg(m_random.bounded(500)));
             if (sale.agent > 0 && m_random.bounded(2) == 0)
-                insertRows(
-                    *m_database, "komisi_agen_detail",
-                    QString("invoice_id=%1, komisi_agen_id=(SELECT min(id) FROM komisi_agen), commision_amount=5")
-                        .arg(invoice));
+                insert("komisi_agen_detail",
+                       QString("invoice_id=%1, komisi_agen_id=(SELECT min(id) FROM komisi_agen), commision_amount=5")
+                           .arg(invoice));
             if (i == 0)
                 insertLedgerRow(*m_database, {LedgerRow::Commission, "KAG-1", {2026, 3, 15}, 70, 1, "", 2, "", 901});
         }

@@ -4,7 +4,6 @@
 #include "support/Rows.h"
 
 #include <QBuffer>
-#include <QTest>
 
 using Column = ReportColumn;
 

@@ -1,7 +1,6 @@
 #include "support/Builders.h"
 
 #include "kor/business/KorServiceDirectory.h"
-#include "kor/persistence/KorQuery.h"
 #include "pos/invoice/EntityInvoiceDetail.h"
 #include "pos/masterdata/item/DataMapperItem.h"
 #include "pos/masterdata/itemtype/DataMapperJenisItem.h"

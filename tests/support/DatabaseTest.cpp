@@ -1,11 +1,8 @@
 #include "support/DatabaseTest.h"
 
 #include "app/registry/AppBusinessRegistry.h"
-#include "kor/business/KorBusinessLogic.h"
 #include "pos/registry/PosBusinessRegistry.h"
 #include "zavel/registry/ZavelBusinessRegistry.h"
-
-#include <QFile>
 
 DatabaseTest::DatabaseTest() = default;
 
@@ -16,6 +13,34 @@ void DatabaseTest::keepDatabase()
     m_isKept = true;
     m_database = std::make_unique<TestDatabase>();
     loginAsAdmin();
+}
+
+QStringList DatabaseTest::slips() const
+{
+    QStringList texts;
+    const QDir folder(m_spool->path());
+    for (const QString& job : folder.entryList({"*.slip"}, QDir::Files, QDir::Name)) {
+        QFile file(folder.filePath(job));
+        if (file.open(QIODevice::ReadOnly))
+            texts.append(QString::fromUtf8(file.readAll()));
+    }
+    return texts;
+}
+
+QString DatabaseTest::takeSlips()
+{
+    const QString text = slips().join(QString());
+    QDir folder(m_spool->path());
+    for (const QString& job : folder.entryList({"*.slip"}, QDir::Files))
+        folder.remove(job);
+    return text;
+}
+
+void DatabaseTest::listPrinters(const QByteArray& names) const
+{
+    QFile file(m_spool->filePath("printers"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(names), qint64(names.size()));
 }
 
 void DatabaseTest::init()

@@ -1,25 +1,28 @@
 #pragma once
 
 #include "app/context/AppContext.h"
+#include "app/context/DatabaseManager.h"
+#include "app/context/DatabaseVersion.h"
 #include "kor/business/KorServiceDirectory.h"
 #include "support/Builders.h"
-#include "support/ModalDriver.h"
+#include "support/Hands.h"
+#include "support/LedgerRows.h"
 #include "support/Rows.h"
+#include "support/ShopRows.h"
+#include "support/TestCluster.h"
 #include "support/TestDatabase.h"
 
 // Included for all tests: widgets that most forms use.
-#include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDateEdit>
-#include <QDialogButtonBox>
-#include <QLabel>
-#include <QLineEdit>
+#include <QDir>
 #include <QPlainTextEdit>
-#include <QPushButton>
+#include <QRegularExpression>
+#include <QSignalSpy>
 #include <QTabWidget>
-#include <QTableView>
 #include <QTemporaryDir>
-#include <QTest>
+#include <QTimer>
 
 #include <memory>
 
@@ -45,8 +48,25 @@ protected:
     // Run on the connection of another workstation, see TestDatabase.
     void run(const QString& statement) const { m_database->run(statement); }
     [[nodiscard]] QString value(const QString& statement) const { return m_database->value(statement).toString(); }
+    void insert(const QString& table, const QString& values) const { insertRows(*m_database, table, values); }
     /** The number of rows; the parameter is a table or any text after FROM. */
     [[nodiscard]] int count(const QString& rows) const { return value("SELECT count(*) FROM " + rows).toInt(); }
+
+    /** A record of the test's own that stands for the stored one of this id. */
+    template <class Entity>
+    [[nodiscard]] Entity* known(int id) const
+    {
+        auto* entity = new Entity(m_records.get());
+        entity->setId(id);
+        return entity;
+    }
+    [[nodiscard]] Money* rupiah(double amount) const { return new Money(m_records.get(), amount, "Rp"); }
+    /** What was printed, slip after slip. */
+    [[nodiscard]] QStringList slips() const;
+    /** What was printed since the last look. */
+    QString takeSlips();
+    /** From now on these printers are there, a name a line. */
+    void listPrinters(const QByteArray& names) const;
 
     std::unique_ptr<QTemporaryDir> m_spool;
     std::unique_ptr<TestDatabase> m_database;
@@ -86,14 +106,20 @@ protected:
     {
         return m_grid->model()->index(row, column).data().toString();
     }
-    [[nodiscard]] QStringList column(int column) const
+    [[nodiscard]] QStringList column(int column) const { return columnOf(m_grid, column); }
+    [[nodiscard]] QString label(const char* name) const { return labelled(m_page.get(), name); }
+
+    /** Works on the form that the work is for, behind the button of the page, until it is closed. */
+    template <class Work>
+    void onForm(const char* button, const Work& work)
     {
-        QStringList texts;
-        for (int row = 0; row < m_grid->model()->rowCount(); ++row)
-            texts.append(cell(row, column));
-        return texts;
+        ::onForm<std::remove_pointer_t<decltype(formOf(&Work::operator()))>>(*m_people, m_page.get(), button, work);
     }
 
     std::unique_ptr<Page> m_page;
     QTableView* m_grid = nullptr;
+
+private:
+    template <class Work, class Form>
+    static Form* formOf(void (Work::*)(Form*) const);
 };

@@ -5,7 +5,6 @@
 #include "pos/cash/transfer/TabTransfer.h"
 #include "pos/inventory/adjustment/TabInventoryAdj.h"
 #include "pos/inventory/balance/TabStokAwal.h"
-#include "pos/inventory/stock/BusinessInventory.h"
 #include "pos/purchasing/creditnote/TabCreditNote.h"
 #include "pos/purchasing/payment/TabPayment.h"
 #include "pos/purchasing/purchase/TabPurchases.h"
@@ -20,8 +19,6 @@
 #include "zavel/receivable/TabPiutang.h"
 #include "zavel/service/BusinessPenjualan.h"
 #include "zavel/takeaway/TabBawaPulang.h"
-
-#include <QDate>
 
 namespace
 {
@@ -110,9 +107,7 @@ void layMembersPayment(TestDatabase& database, int n)
 
 void layCommission(TestDatabase& database, int n)
 {
-    SaleRow sale{QString("TRF-%1").arg(n), "TRF"};
-    sale.agent = 1;
-    insertSale(database, sale);
+    insertSale(database, {QString("TRF-%1").arg(n), "TRF", 100, 100, 0, 1, QDate(2026, 3, 1), "", 1, 0, 0, 1});
     insertRows(database, "komisi_agen",
                QString("no='KAG-%1', bank_id=1, grandtotal_amount=10, amount_paid_amount=10").arg(n));
     insertRows(database, "komisi_agen_detail",

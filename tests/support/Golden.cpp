@@ -22,17 +22,18 @@ QString goldenDifference(const QString& name, const QByteArray& actual)
     const QString path = QString(ZAVEL_SOURCE_DIR) + "/tests/golden/files/" + name;
     const QByteArray shown = visible(actual);
     QFile file(path);
+    const bool isThere = file.open(QIODevice::ReadOnly);
+    const QByteArray expected = file.readAll();
+    file.close();
+    if (isThere && expected == shown)
+        return {};
     if (qEnvironmentVariableIsSet("ZAVEL_UPDATE_GOLDEN")) {
         QDir().mkpath(QFileInfo(path).absolutePath());
-        if (file.open(QIODevice::WriteOnly))
-            file.write(shown);
-        return "written: " + path;
+        const bool isWritten = file.open(QIODevice::WriteOnly) && file.write(shown) == shown.size();
+        return (isWritten ? "written: " : "not written: ") + path;
     }
-    if (!file.open(QIODevice::ReadOnly))
+    if (!isThere)
         return "no golden file " + path + "; the text was:\n" + QString::fromUtf8(shown);
-    const QByteArray expected = file.readAll();
-    if (expected == shown)
-        return {};
     const QList<QByteArray> wanted = expected.split('\n');
     const QList<QByteArray> got = shown.split('\n');
     for (int i = 0; i < std::max(wanted.size(), got.size()); ++i) {

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QDialogButtonBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTableView>
@@ -16,7 +17,19 @@
 
 [[nodiscard]] inline QString shown(const QWidget* form, const char* name) { return box(form, name)->text(); }
 
-/** The visible widget of this name, if several pages of a form have one; null matches any name. */
+[[nodiscard]] inline QString labelled(const QWidget* form, const char* label)
+{
+    return form->findChild<QLabel*>(label)->text();
+}
+
+/** Without a window manager a form does not come back by itself when a box or another form over it is closed. */
+inline void bringToFront(const QWidget* form)
+{
+    if (form->window()->isVisible())
+        QApplication::setActiveWindow(form->window());
+}
+
+/** The one that is in front, where every page of a form has one; null stands for any name. */
 template <class Widget>
 [[nodiscard]] Widget* inFront(const QWidget* page, const char* name)
 {
@@ -29,14 +42,34 @@ template <class Widget>
 }
 
 /** Replaces the text of the box, and leaves it with the Tab key. */
-inline void enter(QWidget* form, const char* name, const QString& text)
+inline void typeInto(const QWidget* form, const QString& name, const QString& text)
 {
-    box(form, name)->setFocus(Qt::TabFocusReason);
-    box(form, name)->selectAll();
+    auto* field = form->findChild<QWidget*>(name);
+    if (!field)
+        qFatal("no field %s", qPrintable(name));
+    bringToFront(form);
+    field->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
     if (text.isEmpty())
-        QTest::keyClick(box(form, name), Qt::Key_Backspace);
-    QTest::keyClicks(box(form, name), text);
-    QTest::keyClick(box(form, name), Qt::Key_Tab);
+        QTest::keyClick(field, Qt::Key_Delete);
+    QTest::keyClicks(field, text);
+}
+
+/** Types over what stands in the box, and leaves it with the Tab key. */
+inline void enter(const QWidget* form, const QString& name, const QString& text)
+{
+    typeInto(form, name, text);
+    QTest::keyClick(form->findChild<QWidget*>(name), Qt::Key_Tab);
+}
+
+/** What is entered where, in this order. */
+using Entries = QList<QPair<QByteArray, QString>>;
+Q_DECLARE_METATYPE(Entries)
+
+inline void enterAll(const QWidget* form, const Entries& entries)
+{
+    for (const auto& entry : entries)
+        enter(form, entry.first, entry.second);
 }
 
 inline void click(QWidget* page, const char* button)
@@ -94,21 +127,52 @@ inline void choose(const QWidget* page, int row) { gridOf(page)->selectRow(row);
 
 [[nodiscard]] inline int rowsOf(const QWidget* page) { return gridOf(page)->model()->rowCount(); }
 
-[[nodiscard]] inline QStringList cells(const QWidget* page, int row)
+[[nodiscard]] inline QStringList cells(const QAbstractItemModel& model, int row)
 {
-    const QAbstractItemModel* model = gridOf(page)->model();
     QStringList texts;
-    for (int column = 0; row < model->rowCount() && column < model->columnCount(); ++column)
-        texts.append(model->index(row, column).data().toString());
+    for (int column = 0; row < model.rowCount() && column < model.columnCount(); ++column)
+        texts.append(model.index(row, column).data().toString());
     return texts;
 }
 
-/** Shows the page in an active window. */
+[[nodiscard]] inline QStringList cells(const QWidget* page, int row) { return cells(*gridOf(page)->model(), row); }
+
+[[nodiscard]] inline QStringList columnOf(const QTableView* grid, int column)
+{
+    QStringList texts;
+    for (int row = 0; row < grid->model()->rowCount(); ++row)
+        texts.append(grid->model()->index(row, column).data().toString());
+    return texts;
+}
+
+[[nodiscard]] inline QStringList headersOf(const QAbstractItemModel& model)
+{
+    QStringList texts;
+    for (int column = 0; column < model.columnCount(); ++column)
+        texts.append(model.headerData(column, Qt::Horizontal).toString());
+    return texts;
+}
+
+/** Takes the first of the list below a box, as soon as it is there. */
+inline void takeFirst()
+{
+    QTRY_VERIFY(QApplication::activePopupWidget());
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
+}
+
+/** Shows the form in a window that takes the keys. */
+inline void showForm(QWidget* form)
+{
+    form->show();
+    form->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(form));
+}
+
+/** The same of a page, which is as large as its window lets it be. */
 inline void showPage(QWidget* page)
 {
     page->resize(1100, 600);
-    page->show();
-    QVERIFY(QTest::qWaitForWindowActive(page));
+    showForm(page);
 }
 
 /** Clicks the button and runs the function on the form that opens; it must close the form. */
@@ -116,7 +180,7 @@ template <class Form>
 void onForm(ModalDriver& people, QWidget* page, const char* button, const std::function<void(Form*)>& work)
 {
     people.expect<Form>([work](Form* form) {
-        QApplication::setActiveWindow(form);
+        bringToFront(form);
         work(form);
     });
     click(page, button);

@@ -1,8 +1,5 @@
 #include "support/MasterFamilies.h"
-#include "support/Rows.h"
 
-#include "app/persistence/AppMasterMapper.h"
-#include "kor/business/KorServiceDirectory.h"
 #include "kor/entity/KorMetaDataMap.h"
 #include "kor/widgets/KorTextBoxExtender.h"
 #include "pos/masterdata/account/TabBank.h"
@@ -13,11 +10,10 @@
 #include "pos/masterdata/supplier/TabSupplier.h"
 #include "pos/masterdata/unit/TabSatuan.h"
 #include "shell/window/Pages.h"
+#include "support/Hands.h"
+#include "support/Rows.h"
 #include "zavel/tables/TabMeja.h"
 
-#include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QTest>
 #include <algorithm>
 
 namespace
@@ -177,17 +173,4 @@ const MasterFamily& currentFamily()
 {
     QFETCH(int, family);
     return masterFamilies().at(family);
-}
-
-void typeInto(QWidget* form, const QString& field, const QString& text)
-{
-    auto* widget = form->findChild<QWidget*>(field);
-    if (!widget)
-        qFatal("no field %s", qPrintable(field));
-    widget->setFocus();
-    QTest::keyClick(widget, Qt::Key_A, Qt::ControlModifier);
-    if (text.isEmpty())
-        QTest::keyClick(widget, Qt::Key_Delete);
-    else
-        QTest::keyClicks(widget, text);
 }

@@ -51,6 +51,3 @@ struct MasterFamily
 /** Adds one test row per family, in the column "family", and finds the family of the current row. */
 void addFamilyRows();
 [[nodiscard]] const MasterFamily& currentFamily();
-
-/** Replaces the text of the form's field of this name. */
-void typeInto(QWidget* form, const QString& field, const QString& text);

@@ -20,12 +20,8 @@ QSet<QString> linesOf(TestDatabase& database, const QString& select)
 void trade(TestDatabase& database)
 {
     insertShop(database);
-    for (const QString type : {"TRD", "TRF", "TRP"}) {
-        SaleRow sale;
-        sale.no = type + '1';
-        sale.type = type;
-        insertSale(database, sale);
-    }
+    for (const QString type : {"TRD", "TRF", "TRP"})
+        insertSale(database, {type + '1', type});
     insertDineOrder(database, {{2, 15}, {1, 7}});
     // A purchase without an order: the old program stored 0 for it.
     insertPurchase(database, {"NB1", "inv 1", 0, 3, 10});

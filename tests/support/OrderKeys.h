@@ -1,17 +1,10 @@
 #pragma once
 
-#include "support/ModalDriver.h"
+#include "support/Hands.h"
 #include "zavel/order/DialogSelectMenu.h"
 
-#include <QApplication>
-#include <QTest>
-
-/** Replaces the text of the field. */
-void typeInto(QWidget* form, const char* field, const QString& text);
-/** Types code, Return, quantity, Return, as a waiter does for one line. */
+/** Code, Return, quantity, Return: the whole of what a waiter does for a line. */
 void pick(OrderItemPicker* picker, const QString& code, const QString& qty);
-/** The slips that were printed to the folder since the last call. */
-QString takeSlips(const QString& folder);
 
 /** Opens the pickers with F12, types codes and quantities, cancels the last picker and continues with the form. */
 template <class Form>
@@ -24,7 +17,6 @@ void keyIn(ModalDriver& people, Form* form, const QList<QPair<QString, QString>>
         people.expect<Form>(then);
         QTest::keyClick(picker, Qt::Key_Escape);
     });
-    // Ask the application: the window itself reports active while the board behind it is.
-    QTRY_COMPARE(QApplication::activeWindow(), form);
+    bringToFront(form);
     QTest::keyClick(form, Qt::Key_F12);
 }

@@ -29,6 +29,31 @@ void addRow(const char* name, const Values&... values)
     (QTest::newRow(name) << ... << values);
 }
 
+/** A table of one column: addRows<bool>("isNew", {{"a new one", true}, {"an old one", false}}). */
+template <typename Type>
+void addRows(const char* column, std::initializer_list<std::pair<const char*, Type>> rows)
+{
+    QTest::addColumn<Type>(column);
+    for (const auto& row : rows)
+        QTest::newRow(row.first) << row.second;
+}
+
+/** A table of one column of texts that say themselves what they are. */
+inline void addNames(const char* column, std::initializer_list<const char*> names)
+{
+    QTest::addColumn<QString>(column);
+    for (const char* name : names)
+        QTest::newRow(name) << QString(name);
+}
+
+/** Beginnings of chance, in the column "seed". */
+inline void addSeeds(std::initializer_list<quint32> seeds)
+{
+    QTest::addColumn<quint32>("seed");
+    for (const quint32 seed : seeds)
+        QTest::addRow("seed %u", seed) << seed;
+}
+
 // QFETCH of several columns of one type: FETCH(QString, typed, told).
 #define FETCH_2(Type, a, b)                                                                                            \
     QFETCH(Type, a);                                                                                                   \

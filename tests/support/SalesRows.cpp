@@ -1,5 +1,6 @@
 #include "support/SalesRows.h"
 
+#include "support/LedgerRows.h"
 #include "support/TestDatabase.h"
 
 namespace
@@ -15,32 +16,24 @@ QString idOrNull(int id) { return id == 0 ? QString("NULL") : QString::number(id
 
 void insertLink(TestDatabase& database, const SaleRow& sale, int invoice)
 {
-    const QString member = idOrNull(sale.member);
-    const QString people = idOrNull(sale.employee) + ", " + idOrNull(sale.agent);
+    const QString member = "member_id=" + idOrNull(sale.member);
+    const QString people = QString("employee_id=%1, agent_id=%2").arg(idOrNull(sale.employee), idOrNull(sale.agent));
+    const QString link = QString("invoice_id=%1, ").arg(invoice);
     if (sale.type == "TRF") {
-        database.run(QString("INSERT INTO invoice_fast_food (invoice_id, employee_id, agent_id, member_id, version) "
-                             "VALUES (%1, %2, %3, 1)")
-                         .arg(invoice)
-                         .arg(people, member));
+        insertRows(database, "invoice_fast_food", link + people + ", " + member);
         return;
     }
     const bool dine = sale.type == "TRD";
+    const QString orders = dine ? "makan_ditempat" : "bawa_pulang";
     int order = sale.order;
-    if (order == 0)
-        order = database
-                    .value(QString("INSERT INTO %1 (status, tgl, member_id%2, version) VALUES (1, '%3', %4%5, 1) "
-                                   "RETURNING id")
-                               .arg(dine ? "makan_ditempat" : "bawa_pulang", dine ? ", meja_id" : "",
-                                    sale.date.toString(Qt::ISODate), member,
-                                    dine ? ", " + QString::number(sale.table) : QString()))
-                    .toInt();
-    database.run(QString(dine ? "INSERT INTO invoice_makan_ditempat (invoice_id, makan_ditempat_id, employee_id, "
-                                "agent_id, version) VALUES (%1, %2, %3, 1)"
-                              : "INSERT INTO invoice_bawa_pulang (invoice_id, bawa_pulang_id, member_id, version) "
-                                "VALUES (%1, %2, %3, 1)")
-                     .arg(invoice)
-                     .arg(order)
-                     .arg(dine ? people : member));
+    if (order == 0) {
+        insertRows(database, orders,
+                   QString("status=1, tgl='%1', ").arg(sale.date.toString(Qt::ISODate)) + member +
+                       (dine ? QString(", meja_id=%1").arg(sale.table) : QString()));
+        order = database.value("SELECT max(id) FROM " + orders).toInt();
+    }
+    insertRows(database, "invoice_" + orders,
+               link + QString("%1_id=%2, ").arg(orders).arg(order) + (dine ? people : member));
 }
 } // namespace
 
@@ -68,11 +61,8 @@ int insertSale(TestDatabase& database, const SaleRow& sale)
                             .value(QString(invoiceColumns).arg(QString()) + values +
                                    QString(", '1-100', %1, 1) RETURNING id").arg(sale.user))
                             .toInt();
-    database.run(QString("INSERT INTO invoice_detail (invoice_id, item_id, qty, price_each_currency, "
-                         "price_each_amount, discount_currency, discount_amount, total_currency, total_amount, "
-                         "version) VALUES (%1, 1, 1, 'Rp', %2, 'Rp', 0, 'Rp', %2, 1)")
-                     .arg(invoice)
-                     .arg(sale.total));
+    insertRows(database, "invoice_detail",
+               QString("invoice_id=%1, qty=1, price_each_amount=%2, total_amount=%2").arg(invoice).arg(sale.total));
     insertLink(database, sale, invoice);
     return invoice;
 }

@@ -75,3 +75,12 @@ bool TestCluster::hasDatabase(const QString& name)
 void TestCluster::lock() { run("SELECT pg_advisory_lock(4711)"); }
 
 void TestCluster::unlock() { run("SELECT pg_advisory_unlock(4711)"); }
+
+void TestCluster::replaceTool(const QDir& folder, const QString& name, const QByteArray& script)
+{
+    QFile tool(folder.filePath(name));
+    if (!tool.open(QIODevice::WriteOnly) || tool.write(script) < 0 ||
+        !tool.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner))
+        qFatal("%s: %s", qPrintable(tool.fileName()), qPrintable(tool.errorString()));
+    qputenv("ZAVEL_PG_BIN", QFile::encodeName(folder.path()));
+}

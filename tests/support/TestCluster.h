@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDir>
 #include <QProcess>
 #include <QString>
 
@@ -28,7 +29,10 @@ public:
         unlock();
     }
     [[nodiscard]] bool hasDatabase(const QString& name);
-    /** Runs private-postgres with a command that prints "HOST" and addresses; returns these. */
+    /** From now on the program finds this shell script where it looks for PostgreSQL's own; takes the folder's others
+     * too. */
+    static void replaceTool(const QDir& folder, const QString& name, const QByteArray& script);
+    /** Runs private-postgres with a command that writes "HOST" and addresses, and returns these. */
     [[nodiscard]] static QStringList start(QProcess& script, const QStringList& arguments);
 
 private:

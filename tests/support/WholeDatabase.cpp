@@ -6,11 +6,8 @@
 #include "support/TestCluster.h"
 #include "support/TestDatabase.h"
 
-#include <QProcess>
-#include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
-#include <QVariant>
 
 namespace
 {
@@ -30,12 +27,8 @@ void fillEveryTable(TestDatabase& database)
 {
     insertShop(database);
     insertSeller(database, 7, "Ann");
-    for (const char* kind : {"TRD", "TRF", "TRP"}) {
-        SaleRow sale;
-        sale.type = kind;
-        sale.no = kind;
-        insertSale(database, sale);
-    }
+    for (const char* kind : {"TRD", "TRF", "TRP"})
+        insertSale(database, {kind, kind});
     insertLedgerYears(database, 1, 5, 2);
     QString bytes;
     for (int byte = 0; byte < 256; ++byte)

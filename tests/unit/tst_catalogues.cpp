@@ -5,7 +5,6 @@
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QXmlStreamReader>
 
 namespace
@@ -140,9 +139,7 @@ private slots:
 
     void everyTextIsTranslated_data()
     {
-        const auto row = addColumns<QString>("name");
-        row("the program's", "TranslationExample_id.ts");
-        row("the toolkit's", "qt_id.ts");
+        addRows<QString>("name", {{"the program's", "TranslationExample_id.ts"}, {"the toolkit's", "qt_id.ts"}});
     }
     void everyTextIsTranslated()
     {

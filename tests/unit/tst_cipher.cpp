@@ -1,8 +1,6 @@
 #include "kor/system/KorSimpleEncrypt.h"
 #include "support/Rows.h"
 
-#include <QTest>
-
 namespace
 {
 char flagByteOf(const QByteArray& bytes) { return bytes.at(1); }

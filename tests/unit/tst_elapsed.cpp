@@ -2,8 +2,6 @@
 #include "app/widgets/TimeAgo.h"
 #include "support/Rows.h"
 
-#include <QTest>
-
 /** How long guests have been waiting, in the words of the kitchen's screen and of its slips. */
 class TestElapsed : public QObject
 {

@@ -7,8 +7,6 @@
 #include "zavel/order/EntityOrder.h"
 #include "zavel/order/OrderStatus.h"
 
-#include <QTest>
-
 #include <cmath>
 #include <limits>
 

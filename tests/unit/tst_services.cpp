@@ -5,7 +5,6 @@
 #include "zavel/registry/ZavelBusinessRegistry.h"
 
 #include <QMetaEnum>
-#include <QTest>
 
 /** The names and rights of the services, which pages and stored grants refer to. */
 class TestServices : public QObject
@@ -16,9 +15,7 @@ private slots:
     void initTestCase() { ZavelBusinessRegistry::instance(); }
     void rightsKeepTheirNumbers_data()
     {
-        addColumns<QStringList>("rights");
-
-        const auto row = [](const char* service, const QStringList& rights) { addRow(service, rights); };
+        const auto row = addColumns<QStringList>("rights");
         row("User Group", {"0 Create a new user group", "1 Update user group", "2 Delete user group"});
         row("User", {"0 Create a new user", "1 Update user", "2 Delete user"});
         row("User Access", {"0 Update user access"});

@@ -3,7 +3,6 @@
 #include "support/Rows.h"
 
 #include <QScrollBar>
-#include <QTest>
 
 namespace
 {
