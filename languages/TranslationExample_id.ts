@@ -177,6 +177,14 @@ Hak akses yang dibutuhkan: %1</translation>
         <source>It is saved. Only the list could not be read again.</source>
         <translation>Sudah disimpan. Hanya daftarnya yang tidak bisa dibaca lagi.</translation>
     </message>
+    <message>
+        <source>%1 so far, reading on (Esc stops)</source>
+        <translation>%1 sejauh ini, masih membaca (Esc menghentikan)</translation>
+    </message>
+    <message>
+        <source>%1, back to %2; earlier ones are left out</source>
+        <translation>%1, mundur sampai %2; yang lebih lama tidak ditampilkan</translation>
+    </message>
 </context>
 <context>
     <name>AppNumberEdit</name>
@@ -1584,6 +1592,10 @@ Hak akses yang dibutuhkan: %1</translation>
     <message>
         <source>Every update tells this one; nothing is wrong.</source>
         <translation>Pesan ini muncul pada setiap pembaruan; tidak ada yang salah.</translation>
+    </message>
+    <message>
+        <source>The database %1 is of version %2, this program of version %3.</source>
+        <translation>Basis data %1 versi %2, program ini versi %3.</translation>
     </message>
 </context>
 <context>
@@ -5708,6 +5720,14 @@ Isi kolom sambungan db dan pasang data awal</translation>
         <source>Ctrl+R</source>
         <translation>Ctrl+R</translation>
     </message>
+    <message>
+        <source>%1 - Sample</source>
+        <translation>%1 - Contoh</translation>
+    </message>
+    <message>
+        <source>Sample data: nothing here was really sold</source>
+        <translation>Data contoh: tidak ada yang benar-benar terjual di sini</translation>
+    </message>
 </context>
 <context>
     <name>MasterSteps</name>
@@ -8222,6 +8242,17 @@ Isi kolom sambungan db dan pasang data awal</translation>
     </message>
 </context>
 <context>
+    <name>RestReader</name>
+    <message>
+        <source>Long List</source>
+        <translation>Daftar Panjang</translation>
+    </message>
+    <message>
+        <source>%1 rows have been read, back to %2. Read the earlier ones too?</source>
+        <translation>%1 baris telah dibaca, mundur sampai %2. Baca juga yang lebih lama?</translation>
+    </message>
+</context>
+<context>
     <name>RestoreInstallPage</name>
     <message>
         <source>Restore from Backup File Installation Details</source>
@@ -8316,6 +8347,25 @@ Apakah basis data itu akan diganti? Cadangan masuk ke basis data %1 yang baru, d
     </message>
 </context>
 <context>
+    <name>SampleTrade</name>
+    <message>
+        <source>The sample restaurant is open.</source>
+        <translation>Restoran contoh sudah buka.</translation>
+    </message>
+    <message>
+        <source>The database holds trade already, in the table %1. Nothing was changed.</source>
+        <translation>Basis data sudah berisi transaksi, di tabel %1. Tidak ada yang diubah.</translation>
+    </message>
+    <message>
+        <source>Catalogue</source>
+        <translation>Katalog</translation>
+    </message>
+    <message>
+        <source>Indexes</source>
+        <translation>Indeks</translation>
+    </message>
+</context>
+<context>
     <name>SelectDocumentTab</name>
     <message>
         <source>Search</source>
@@ -8357,10 +8407,6 @@ Apakah basis data itu akan diganti? Cadangan masuk ke basis data %1 yang baru, d
 </context>
 <context>
     <name>SetupOptions</name>
-    <message>
-        <source>install, update or status</source>
-        <translation>install, update atau status</translation>
-    </message>
     <message>
         <source>Show this text.</source>
         <translation>Tampilkan teks ini.</translation>
@@ -8414,10 +8460,6 @@ Apakah basis data itu akan diganti? Cadangan masuk ke basis data %1 yang baru, d
         <translation>Berkas pengaturan yang ditulis (milik program sendiri).</translation>
     </message>
     <message>
-        <source>Say one of: install, update, status (--help tells more).</source>
-        <translation>Sebutkan salah satu: install, update, status (--help menjelaskan lebih lanjut).</translation>
-    </message>
-    <message>
         <source>This is no port: %1</source>
         <translation>Ini bukan port: %1</translation>
     </message>
@@ -8428,12 +8470,40 @@ Apakah basis data itu akan diganti? Cadangan masuk ke basis data %1 yang baru, d
     <message>
         <source>Makes or updates the database of Zavel POS.
 The database password is taken from ZAVEL_DB_PASSWORD, the administrator&apos;s from ZAVEL_ADMIN_PASSWORD.
-Exit status of install and update: 0 when every step was done, 1 otherwise, 2 for wrong arguments.
+Exit status of install, update and sample-trade: 0 when every step was done, 1 otherwise, 2 for wrong arguments.
 Exit status of status: 0 installed, 3 reachable but not installed, 4 installed and of a newer version than this program, 1 otherwise.</source>
         <translation>Membuat atau memperbarui basis data Zavel POS.
 Kata sandi basis data diambil dari ZAVEL_DB_PASSWORD, kata sandi administrator dari ZAVEL_ADMIN_PASSWORD.
-Status keluar install dan update: 0 bila semua langkah berhasil, 1 bila tidak, 2 bila argumen salah.
+Status keluar install, update dan sample-trade: 0 bila semua langkah berhasil, 1 bila tidak, 2 bila argumen salah.
 Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 4 terpasang dan versinya lebih baru daripada program ini, 1 selain itu.</translation>
+    </message>
+    <message>
+        <source>install, update, status or sample-trade</source>
+        <translation>install, update, status atau sample-trade</translation>
+    </message>
+    <message>
+        <source>sample-trade: how many years up to yesterday (1).</source>
+        <translation>sample-trade: berapa tahun sampai kemarin (1).</translation>
+    </message>
+    <message>
+        <source>sample-trade: how many months, on top of the years.</source>
+        <translation>sample-trade: berapa bulan, ditambahkan pada tahun.</translation>
+    </message>
+    <message>
+        <source>sample-trade: sales a day, on the average (100).</source>
+        <translation>sample-trade: penjualan per hari, rata-rata (100).</translation>
+    </message>
+    <message>
+        <source>sample-trade: another number makes other sales (1).</source>
+        <translation>sample-trade: angka lain menghasilkan penjualan lain (1).</translation>
+    </message>
+    <message>
+        <source>Say one of: install, update, status, sample-trade (--help tells more).</source>
+        <translation>Sebutkan salah satu: install, update, status, sample-trade (--help menjelaskan lebih lanjut).</translation>
+    </message>
+    <message>
+        <source>Years, months, sales a day and seed are numbers: up to 50 years, 600 months, 10000 sales a day, a seed up to 1000000.</source>
+        <translation>Tahun, bulan, penjualan per hari dan seed berupa angka: paling banyak 50 tahun, 600 bulan, 10000 penjualan per hari, seed paling besar 1000000.</translation>
     </message>
 </context>
 <context>
