@@ -4,10 +4,13 @@
 #include "kor/business/KorServiceDirectory.h"
 #include "zavel/dinein/DataMapperMakanDitempat.h"
 #include "zavel/dinein/EntityMakanDitempat.h"
+#include "zavel/dinein/TabMakanDitempat.h"
 #include "zavel/registry/ZavelMapperRegistry.h"
 #include "zavel/service/BusinessPenjualan.h"
 #include "zavel/tables/BusinessMeja.h"
 #include "zavel/tables/DataMapperMeja.h"
+
+#include <QApplication>
 
 // The table board with 100 tables, 60 of them with an order of 8 lines.
 
@@ -65,4 +68,14 @@ void setUp(TestDatabase& database, ByHand& byHand)
                                  " where lower(kode) like  :prm0 OR lower(nama) like  :prm1 order by nama asc");
 
     enter({"Refresh the board: 100 tables, 60 orders of 8 lines", refresh, [&byHand] { refreshByHand(byHand); }});
+    // Stays open until the program ends, and is never deleted.
+    auto* page = new TabMakanDitempat;
+    page->resize(1000, 700);
+    page->show();
+    enter({"The same on its page, painted",
+           [page] {
+               page->on_btnRefresh_clicked();
+               QApplication::processEvents();
+           },
+           [&byHand] { refreshByHand(byHand); }});
 }

@@ -2,6 +2,8 @@
 
 #include "app/context/AppContext.h"
 
+#include <QLocale>
+
 #include <cmath>
 
 namespace
@@ -29,13 +31,13 @@ int toRaw(double amount)
 }
 } // namespace
 
-Money::Money(QObject* parent, double value, const QString& currency) : KorEntityValue(parent), m_locale(contextLocale())
+Money::Money(QObject* parent, double value, const QString& currency) : KorEntityValue(parent)
 {
     setCurrency(currency);
     m_amount = toRaw(std::floor(factor() * value + 0.5));
 }
 
-Money::Money(QObject* parent, int value, const QString& currency) : KorEntityValue(parent), m_locale(contextLocale())
+Money::Money(QObject* parent, int value, const QString& currency) : KorEntityValue(parent)
 {
     setCurrency(currency);
     m_amount = toRaw(static_cast<double>(value) * factor());
@@ -43,12 +45,12 @@ Money::Money(QObject* parent, int value, const QString& currency) : KorEntityVal
 
 void Money::setCurrency(const QString& currency)
 {
-    m_currency = currency.isEmpty() ? m_locale.currencySymbol(QLocale::CurrencySymbol) : currency;
+    m_currency = currency.isEmpty() ? contextLocale().currencySymbol(QLocale::CurrencySymbol) : currency;
     if (m_currency.isNull())
         m_currency = QLatin1String("");
 }
 
-int Money::fractionDigits() const { return m_currency.toLower() == "rp" ? 0 : 2; }
+int Money::fractionDigits() const { return m_currency.compare(QLatin1String("rp"), Qt::CaseInsensitive) == 0 ? 0 : 2; }
 
 int Money::factor() const { return factors[fractionDigits()]; }
 

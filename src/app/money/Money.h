@@ -2,8 +2,6 @@
 
 #include "kor/entity/KorEntityValue.h"
 
-#include <QLocale>
-
 /**
  * A currency and an amount in its minor units. "Rp" (any case) has no fraction digits, every other currency two.
  * Operations return new objects and do not change the operands.
@@ -57,7 +55,6 @@ private:
 
     int m_amount = 0;
     QString m_currency;
-    QLocale m_locale;
 };
 
 Q_DECLARE_METATYPE(Money*)

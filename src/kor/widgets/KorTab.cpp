@@ -26,28 +26,48 @@ namespace
 constexpr int widestFirstSight = 360;
 constexpr int narrowestRest = 110;
 constexpr int cellPadding = 16;
+constexpr int measuredRows = 50;
 constexpr int nextLook = 50;
 constexpr int mainLoop = 1;
 
+/** What the width of the column follows from: heading, font and first texts, as one number. */
+uint textsOf(const QTableView* view, int column)
+{
+    const QAbstractItemModel* model = view->model();
+    uint texts = qHash(view->font().key()) ^ qHash(model->headerData(column, Qt::Horizontal).toString());
+    const int rows = std::min(model->rowCount(), measuredRows);
+    for (int row = 0; row < rows; ++row)
+        texts = 31 * texts + qHash(model->index(row, column).data().toString());
+    return texts;
+}
+
 /**
  * Fits the columns to headers and first rows, up to a limit. Lists are often empty or short at first: later fits widen
- * columns whose texts have grown, but never narrow one.
+ * columns whose texts have grown, but never narrow one. Measuring texts takes half the time of a refresh, so a column
+ * whose texts are the same is left alone.
  */
 void fitColumns(QTableView* view, const QVector<int>& formerWidths)
 {
-    view->horizontalHeader()->setResizeContentsPrecision(50);
-    view->resizeColumnsToContents();
+    constexpr char fitted[] = "fittedTexts";
+    const auto known = view->property(fitted).value<QVector<uint>>();
+    QVector<uint> now;
+    view->horizontalHeader()->setResizeContentsPrecision(measuredRows);
     const int last = view->model()->columnCount() - 1;
     int room = view->viewport()->width();
     for (int column = 0; column <= last; ++column) {
-        int width =
-            std::max(std::min(view->columnWidth(column) + cellPadding, widestFirstSight), formerWidths.value(column));
+        now.append(textsOf(view, column));
+        if (formerWidths.isEmpty() || now.at(column) != known.value(column)) {
+            view->resizeColumnToContents(column);
+            view->setColumnWidth(column, std::min(view->columnWidth(column) + cellPadding, widestFirstSight));
+        }
+        int width = std::max(view->columnWidth(column), formerWidths.value(column));
         // The last column takes the rest; only if the rest is too narrow it gets its own width.
         if (column == last && room >= narrowestRest)
             width = view->horizontalHeader()->minimumSectionSize();
         view->setColumnWidth(column, width);
         room -= width;
     }
+    view->setProperty(fitted, QVariant::fromValue(now));
 }
 
 /** The width of the heading's text. The header's size hint is larger: it adds room for a sort arrow. */
@@ -226,7 +246,10 @@ void KorTab::applyModel(QTableView* view, KorEntityModel* model)
 
     connect(view, &QTableView::doubleClicked, this, &KorTab::doubleClickedSlot, Qt::UniqueConnection);
     view->setAlternatingRowColors(true);
-    view->setStyleSheet("alternate-background-color: #D4D4D4;background-color: white;");
+    // Setting a style sheet makes the grid look up all of its style again, even the same one.
+    const QString style = "alternate-background-color: #D4D4D4;background-color: white;";
+    if (view->styleSheet() != style)
+        view->setStyleSheet(style);
     KorEmptyHint::attach(view);
     restoreColumns(view);
 }
