@@ -108,18 +108,20 @@ void setUp(TestDatabase& database, ByHand& byHand)
                                 " where invoice_date >=  :prm0 and invoice_date <=  :prm1 order by invoice_date desc, "
                                 "invoice.id desc");
 
-    enter({"Read the list of 5,000 sales",
+    enter({"Read 5,000 sales as records",
            [] {
                EntityPool read;
                const EntityPoolScope scope(read);
                expect(service<BusinessPenjualan>("Sales")->searchPenjualan(today()).size());
            },
            [&byHand] { expect(static_cast<int>(readByHand(byHand).size())); }, [] {}, 5});
-    enter({"Open the page of 5,000 sales",
+    enter({"Open the page of 5,000 sales, until all are there",
            [] {
                TabDaftarPenjualan page;
                show(page);
-               expect(page.findChild<QTableView*>("tblPenjualan")->model()->rowCount());
+               const QAbstractItemModel* sales = page.findChild<QTableView*>("tblPenjualan")->model();
+               while (sales->rowCount() < saleCount)
+                   QApplication::processEvents();
            },
            [&byHand] { const PlainPage page(byHand); }, [] {}, 5});
 
