@@ -52,10 +52,13 @@ int main(int argc, char** argv)
     int count = static_cast<int>(arguments.size());
     benchmark::Initialize(&count, arguments.data());
 
-    TestDatabase database;
+    // A database that somebody made for several runs, or one of its own.
+    const QString existing = qEnvironmentVariable("ZAVEL_BENCH_DATABASE");
+    const auto database =
+        existing.isEmpty() ? std::make_unique<TestDatabase>() : std::make_unique<TestDatabase>(existing);
     loginAsAdmin();
-    ByHand byHand(database.name());
-    setUp(database, byHand);
+    ByHand byHand(database->name());
+    setUp(*database, byHand);
     RatioReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     return 0;

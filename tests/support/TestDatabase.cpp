@@ -26,10 +26,6 @@ QString TestDatabase::user() { return TestCluster::instance().user(); }
 TestDatabase::TestDatabase(Kind kind)
     : m_name("t_" + QUuid::createUuid().toString(QUuid::Id128)), m_otherName("other-" + m_name)
 {
-    AppContext::instance()->setLocale("en_US");
-    AppContext::instance()->setDateFormat("d MMM yyyy");
-    ZavelBusinessRegistry::instance();
-
     if (kind == Installed) {
         ensureInstalledTemplate();
         TestCluster::instance().run("CREATE DATABASE " + m_name + " TEMPLATE " + installedTemplateName() +
@@ -37,6 +33,19 @@ TestDatabase::TestDatabase(Kind kind)
     } else {
         TestCluster::instance().run("CREATE DATABASE " + m_name + " STRATEGY file_copy");
     }
+    connect();
+}
+
+TestDatabase::TestDatabase(const QString& existing) : m_name(existing), m_otherName("other-" + existing), m_isOwn(false)
+{
+    connect();
+}
+
+void TestDatabase::connect()
+{
+    AppContext::instance()->setLocale("en_US");
+    AppContext::instance()->setDateFormat("d MMM yyyy");
+    ZavelBusinessRegistry::instance();
 
     QSqlDatabase database = QSqlDatabase::addDatabase("QPSQL", m_otherName);
     database.setHostName(host());
@@ -58,7 +67,8 @@ TestDatabase::~TestDatabase()
     QSqlDatabase::database(m_otherName).close();
     QSqlDatabase::removeDatabase(m_otherName);
     AppContext::instance()->resetEntityPool();
-    TestCluster::instance().run("DROP DATABASE " + m_name + " WITH (FORCE)");
+    if (m_isOwn)
+        TestCluster::instance().run("DROP DATABASE " + m_name + " WITH (FORCE)");
 }
 
 ConnectionSettings TestDatabase::settings() const

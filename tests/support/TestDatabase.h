@@ -15,6 +15,8 @@ public:
     enum Kind { Empty, Installed };
 
     explicit TestDatabase(Kind kind = Installed);
+    /** An existing database, which is left as it is. */
+    explicit TestDatabase(const QString& existing);
     ~TestDatabase();
     Q_DISABLE_COPY(TestDatabase)
 
@@ -41,10 +43,12 @@ public:
     void killConnections();
 
 private:
+    void connect();
     [[nodiscard]] QSqlDatabase other() const;
 
     QString m_name;
     QString m_otherName;
+    bool m_isOwn = true;
 };
 
 /** Logs in an administrator with all rights. */
