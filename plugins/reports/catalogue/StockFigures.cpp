@@ -1,69 +1,82 @@
 #include "reports/catalogue/StockFigures.h"
 
+#include "pos/inventory/stock/StockOnHand.h"
 #include "reports/catalogue/PurchasePrice.h"
 
 namespace
 {
-/** The last count of each item up to the day; of two counts on one day, the one entered last. */
-QString counts(const QString& name, const QString& day)
-{
-    return QString("%1 as (select distinct on (item_id) item_id, tanggal as day, qty from stock_take where tanggal <= "
-                   "%2 order by item_id, tanggal desc, id desc)")
-        .arg(name, day);
-}
-
-/**
- * One kind of movement, one row per item, in one scan of the documents, because years of sales have millions of lines.
- * Movements on the day of the count are added to the count.
- */
+/** One kind of movement in the period: inside, all of it, and since, what came on top of a count in the period. */
 QString moved(const QString& name, const QString& document, const QString& date, const QString& quantity,
-              const QString& lastDay, const QString& firstDay, const QString& condition = QString())
+              const QString& condition = QString())
 {
-    const QString period =
-        firstDay.isEmpty() ? QString()
-                           : QString(", sum(line.%1) filter (where doc.%2 < %3 and (opened.day is null or doc.%2 >= "
-                                     "opened.day)) as before, sum(line.%1) filter (where doc.%2 >= %3) as inside")
-                                 .arg(quantity, date, firstDay);
-    return QString(R"(%1 as (
-            select line.item_id, max(doc.%3) filter (where line.%4 <> 0) as last,
-                   sum(line.%4) filter (where closed.day is null or doc.%3 >= closed.day) as until %5
+    return QString(R"(
+        %1 as (
+            select line.item_id, sum(line.%4) as inside,
+                   sum(line.%4) filter (where doc.%3 >= closed.day) as since
             from %2 doc join %2_detail line on line.%2_id = doc.id
-            left join closed on closed.item_id = line.item_id %6
-            where doc.%3 <= %7 %8 group by line.item_id))")
-        .arg(name, document, date, quantity, period,
-             firstDay.isEmpty() ? QString() : "left join opened on opened.item_id = line.item_id", lastDay, condition);
+            left join closed on closed.item_id = line.item_id
+            where doc.%3 between FIRST and LAST%5 group by line.item_id),)")
+        .arg(name, document, date, quantity, condition);
 }
 
-/** The quantity: the count or the beginning balance, plus movements since. */
-QString quantity(const QString& counted, const QString& field)
+/** The last day on which the item was bought or sold. Only its own lines are read; "offset 0" sees to that. */
+QString lastMovement(const QString& document, const QString& date)
 {
-    return QString("coalesce(%1.qty, stok_awal.jumlah, 0) + coalesce(bought.%2, 0) - coalesce(sold.%2, 0) - "
-                   "coalesce(returned.%2, 0)")
-        .arg(counted, field);
+    return QString(R"((
+                select max(line.day) from (
+                    select (select %2 from %1 where id = %1_id) as day from %1_detail
+                    where item_id = item.id and qty <> 0 offset 0) line
+                where line.day <= DAY))")
+        .arg(document, date);
 }
 } // namespace
 
 namespace StockFigures
 {
-QString stock(const QString& lastDay, const QString& firstDay)
+QString stock(const QString& day)
 {
-    const bool isPeriod = !firstDay.isEmpty();
-    return counts("closed", lastDay) + ", " + (isPeriod ? counts("opened", firstDay + " - 1") + ", " : QString()) +
-           moved("bought", "acquisition", "purchase_date", "qty", lastDay, firstDay) + ", " +
-           moved("sold", "invoice", "invoice_date", "qty", lastDay, firstDay) + ", " +
-           moved("returned", "credit_note", "credit_note_date", "qty_returned", lastDay, firstDay,
-                 "and doc.status <> 4") +
-           ", stock as (select item.id as item_id, closed.day as counted, bought.last as lastbought, sold.last as "
-           "lastsold, " +
-           quantity("closed", "until") + " as closing" +
-           (isPeriod ? ", " + quantity("opened", "before") +
-                           " as opening, coalesce(bought.inside, 0) as bought, coalesce(sold.inside, 0) as sold, "
-                           "coalesce(returned.inside, 0) as returned"
-                     : QString()) +
-           " from item left join stok_awal on stok_awal.item_id = item.id "
-           "left join closed on closed.item_id = item.id left join bought on bought.item_id = item.id "
-           "left join sold on sold.item_id = item.id left join returned on returned.item_id = item.id" +
-           (isPeriod ? " left join opened on opened.item_id = item.id)" : ")");
+    return StockOnHand::parts("onhand", day) + ", stock as (select item_id, counted, " +
+           StockOnHand::quantity("onhand") + " as closing from onhand)";
+}
+
+QString movements(const QString& firstDay, const QString& lastDay)
+{
+    QString text = StockOnHand::parts("opened", firstDay + " - 1") + ", closed as materialized (" +
+                   StockOnHand::lastCounts("LAST") + ")," + moved("bought", "acquisition", "purchase_date", "qty") +
+                   moved("sold", "invoice", "invoice_date", "qty") +
+                   moved("returned", "credit_note", "credit_note_date", "qty_returned", " and doc.status <> 4") + R"(
+        period as (
+            select opened.item_id, OPENING as opening, coalesce(bought.inside, 0) as bought,
+                   coalesce(sold.inside, 0) as sold, coalesce(returned.inside, 0) as returned,
+                   closed.qty + coalesce(bought.since, 0) - coalesce(sold.since, 0) - coalesce(returned.since, 0)
+                       as recounted, closed.day as counted
+            from opened left join closed on closed.item_id = opened.item_id
+            left join bought on bought.item_id = opened.item_id left join sold on sold.item_id = opened.item_id
+            left join returned on returned.item_id = opened.item_id),
+        stock as (
+            select item_id, opening, bought, sold, returned,
+                   case when counted >= FIRST then recounted else opening + bought - sold - returned end as closing
+            from period))";
+    text.replace("OPENING", StockOnHand::quantity("opened"));
+    return text.replace("FIRST", firstDay).replace("LAST", lastDay);
+}
+
+QString idle(const QString& day, const QString& days)
+{
+    QString text = R"(
+        recent as materialized (
+            select line.item_id from invoice doc join invoice_detail line on line.invoice_id = doc.id
+            where doc.invoice_date > DAY - AGO and doc.invoice_date <= DAY and line.qty <> 0
+            union
+            select line.item_id from acquisition doc join acquisition_detail line on line.acquisition_id = doc.id
+            where doc.purchase_date > DAY - AGO and doc.purchase_date <= DAY and line.qty <> 0),
+        resting as materialized (
+            select item.id from stock join item on item.id = stock.item_id
+            where item.item_type = 1 and stock.closing > 0 and item.id not in (select item_id from recent)),
+        idle as materialized (select item.id as item_id, )" +
+                   lastMovement("acquisition", "purchase_date") + " as lastbought, " +
+                   lastMovement("invoice", "invoice_date") + " as lastsold from resting item)";
+    return text.replace("DAY", day).replace("AGO", days);
 }
 
 QString price(const QString& limit) { return "price as (" + PurchasePrice::lastUntil(limit) + ')'; }

@@ -3,17 +3,25 @@
 #include <QString>
 
 /**
- * SQL for the quantity on hand, calculated as the program does: the last count or the beginning balance, plus
- * purchases, minus sales and returns since. The parts belong between "with" and the select, separated by commas.
+ * SQL for the stock lists. The parts belong between "with" and the select, separated by commas. All days are SQL.
  */
 namespace StockFigures
 {
 /**
- * "stock" with one row per item: item_id; closing, the quantity at the end of the last day; counted, the day of its
- * last count; lastbought and lastsold. With a first day also opening, the quantity before that day, and bought, sold
- * and returned from that day on. Both days are SQL.
+ * "stock" with one row per item: item_id; closing, the quantity at the end of the day; counted, the day of its last
+ * count.
  */
-[[nodiscard]] QString stock(const QString& lastDay, const QString& firstDay = QString());
+[[nodiscard]] QString stock(const QString& day);
+/**
+ * "stock" of a period, with one row per item: item_id; opening, the quantity before the first day; bought, sold and
+ * returned in the period; closing.
+ */
+[[nodiscard]] QString movements(const QString& firstDay, const QString& lastDay);
+/**
+ * "idle" with the stock items of which there is something but that were neither bought nor sold for so many days:
+ * item_id, lastbought, lastsold. It reads "stock".
+ */
+[[nodiscard]] QString idle(const QString& day, const QString& days);
 /** "price": item_id, price, bought. */
 [[nodiscard]] QString price(const QString& limit);
 } // namespace StockFigures

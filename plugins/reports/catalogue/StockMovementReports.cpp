@@ -22,13 +22,13 @@ Report movements()
                                                 "it, and what was left. Counted is what counts of the storeroom "
                                                 "changed.");
     report.parameters = {ReportParameter::period(), Questions::itemType(), Questions::item()};
-    report.query = "with " + StockFigures::stock(":to::date", ":from::date") + ", " + StockFigures::price(":to::date") +
-                   " select " + itemFields + R"(, stock.opening, stock.bought, stock.sold, stock.returned,
+    report.query =
+        "with " + StockFigures::movements(":from::date", ":to::date") + ", " + StockFigures::price(":to::date") +
+        " select " + itemFields + R"(, stock.opening, stock.bought, stock.sold, stock.returned,
                stock.closing - stock.opening - stock.bought + stock.sold + stock.returned as counted, stock.closing,
                stock.closing * price.price as value
         from item join stock on stock.item_id = item.id join price on price.item_id = item.id)" +
-                   itemJoins + " where item.item_type = 1 " + Asked::item +
-                   " order by jenis_item.nama, item.nama, item.id";
+        itemJoins + " where item.item_type = 1 " + Asked::item + " order by jenis_item.nama, item.nama, item.id";
     report.columns = {Columns::itemType(),
                       Columns::code(),
                       Columns::item(),

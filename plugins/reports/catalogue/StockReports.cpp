@@ -10,10 +10,11 @@ namespace
 {
 ReportParameter stockDay() { return ReportParameter::day("day", QT_TRANSLATE_NOOP("Reports", "On:")); }
 
-/** Stock items at the end of the day, from "stock" and "price". */
-QString stockOn(const QString& select, const QString& joins, const QString& condition, const QString& order)
+/** Stock items at the end of the day, from "stock", "price" and further parts. */
+QString stockOn(const QString& select, const QString& joins, const QString& condition, const QString& order,
+                const QString& parts = QString())
 {
-    return "with " + StockFigures::stock(":day::date") + ", " + StockFigures::price(":day::date") +
+    return "with " + StockFigures::stock(":day::date") + ", " + StockFigures::price(":day::date") + parts +
            " select jenis_item.nama as itemtype, item.kode as code, item.nama as name, satuan.kode as unit, "
            "stock.closing as qty, price.price, stock.closing * price.price as value" +
            select +
@@ -81,12 +82,13 @@ Report idle()
     report.parameters = {stockDay(), ReportParameter::number("days", QT_TRANSLATE_NOOP("Reports", "Idle days:"), 60),
                          Questions::itemType(), Questions::item()};
     // For an item that never moved, the day of its beginning balance is used.
-    report.query = stockOn(", stock.lastsold, stock.lastbought, :day::date - moved.day as idle",
-                           "left join stok_awal on stok_awal.item_id = item.id cross join lateral (select "
-                           "coalesce(greatest(stock.lastsold, stock.lastbought), stok_awal.createdtime::date) as day) "
-                           "moved",
-                           " and stock.closing > 0 and (moved.day is null or :day::date - moved.day >= :days::integer)",
-                           " order by idle desc nulls first, value desc, item.id");
+    report.query = stockOn(", idle.lastsold, idle.lastbought, :day::date - moved.day as idle",
+                           "join idle on idle.item_id = item.id left join stok_awal on stok_awal.item_id = item.id "
+                           "cross join lateral (select coalesce(greatest(idle.lastsold, idle.lastbought), "
+                           "stok_awal.createdtime::date) as day) moved",
+                           " and (moved.day is null or :day::date - moved.day >= :days::integer)",
+                           " order by idle desc nulls first, value desc, item.id",
+                           ", " + StockFigures::idle(":day::date", ":days::integer"));
     report.columns =
         stockColumns() + QList<ReportColumn>{Column::date("lastsold", QT_TRANSLATE_NOOP("Reports", "Last sold")),
                                              Column::date("lastbought", QT_TRANSLATE_NOOP("Reports", "Last purchase")),

@@ -1,6 +1,5 @@
 #include "pos/inventory/stock/BusinessInventory.h"
 
-#include "app/context/EntityPool.h"
 #include "pos/inventory/stock/DataMapperItemHistory.h"
 #include "pos/inventory/stock/DataMapperStockTake.h"
 #include "pos/inventory/stock/EntityItemHistory.h"
@@ -35,33 +34,22 @@ bool BusinessInventory::clearTransactions()
 
 int BusinessInventory::getQuantityOnHand(const KorEntity* item, const QDate& date)
 {
-    EntityPool pool;
-    const EntityPoolScope scope(pool);
-    const EntityStockTake* take = read(m_stockTakes->getLastStockTake(item, date), m_stockTakes, "getQuantityOnHand");
-    const EntityStokAwal* balance = read(m_balances->findByItemId(item->getId()), m_balances, "getQuantityOnHand");
-
-    const int opening = balance ? balance->getJumlah() : 0;
-    const int base = take ? take->getQty() : opening;
-    const QDate start = take ? take->getStockTakeDate() : QDate();
-    const Movements moved = movements(item, start, date, "getQuantityOnHand");
-    qDebug() << " laswt:" << base << " qtyAcq:" << moved.acquired << " qtyUsed:" << moved.used
-             << " qtyReturned:" << moved.returned;
-    return base + moved.acquired - moved.used - moved.returned;
+    StockMovements::OnHand figures;
+    KorQuery query;
+    if (!StockMovements::onHand(query, item->getId(), date, figures))
+        addError("getQuantityOnHand", query.failure());
+    qDebug() << " laswt:" << figures.base << " qtyAcq:" << figures.acquired << " qtyUsed:" << figures.used
+             << " qtyReturned:" << figures.returned;
+    return figures.quantity();
 }
 
 BusinessInventory::Movements BusinessInventory::movementsOf(const KorEntity* item, const QDate& day)
 {
-    return movements(item, day, day, "movementsOf");
-}
-
-BusinessInventory::Movements BusinessInventory::movements(const KorEntity* item, const QDate& from, const QDate& to,
-                                                          const QString& operation)
-{
     const auto moved = [&](StockMovements::Kind kind) {
         int quantity = 0;
         KorQuery query;
-        if (!StockMovements::quantity(query, kind, item->getId(), from, to, quantity))
-            addError(operation, query.failure());
+        if (!StockMovements::quantity(query, kind, item->getId(), day, day, quantity))
+            addError("movementsOf", query.failure());
         return quantity;
     };
     Movements sums;
@@ -74,10 +62,19 @@ BusinessInventory::Movements BusinessInventory::movements(const KorEntity* item,
 QHash<int, int> BusinessInventory::quantitiesOnHand(const QDate& date)
 {
     QHash<int, int> quantities;
-    KorQuery query;
-    if (!StockMovements::onHand(query, date, quantities))
-        addError("quantitiesOnHand", query.failure());
+    QString error;
+    if (!readOnHand(date, quantities, error))
+        addError("quantitiesOnHand", error);
     return quantities;
+}
+
+bool BusinessInventory::readOnHand(const QDate& date, QHash<int, int>& quantities, QString& error) const
+{
+    KorQuery query;
+    if (StockMovements::onHand(query, date, quantities))
+        return true;
+    error = query.failure();
+    return false;
 }
 
 // --- adjustments ---------------------------------------------------------------------------------------------------

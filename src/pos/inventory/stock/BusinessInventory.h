@@ -32,7 +32,7 @@ public:
      * since, including those on the day of the adjustment. It may be negative. After a failure the result is wrong and
      * the service has the error.
      */
-    [[nodiscard]] int getQuantityOnHand(const KorEntity* item, const QDate& date);
+    [[nodiscard]] int getQuantityOnHand(const KorEntity* item, const QDate& date) override;
     struct Movements
     {
         int acquired = 0;
@@ -46,7 +46,8 @@ public:
      */
     [[nodiscard]] Movements movementsOf(const KorEntity* item, const QDate& day);
     /** The same for every item by id, with one statement. */
-    [[nodiscard]] QHash<int, int> quantitiesOnHand(const QDate& date) override;
+    [[nodiscard]] QHash<int, int> quantitiesOnHand(const QDate& date);
+    [[nodiscard]] bool readOnHand(const QDate& date, QHash<int, int>& quantities, QString& error) const override;
 
     /** The adjustments of the item with this code; all of them for an empty code. */
     [[nodiscard]] QList<KorEntity*> findAll(const QString& code);
@@ -68,9 +69,6 @@ public:
     [[nodiscard]] QList<EntityItemHistory*> findAllKartuStok(const ItemHistoryFilter& filter);
 
 private:
-    /** Both dates are inclusive; an invalid first date means from the beginning. */
-    [[nodiscard]] Movements movements(const KorEntity* item, const QDate& from, const QDate& to,
-                                      const QString& operation);
     bool writeMovement(EntityStockTake* take, const QString& operation);
     bool removeMovement(EntityStockTake* take, const QString& operation);
     [[nodiscard]] EntityItemHistory* beginningRow(int itemId);

@@ -2,6 +2,7 @@
 
 #include "kor/persistence/KorDataMapper.h"
 #include "kor/persistence/KorQuery.h"
+#include "pos/inventory/stock/StockOnHand.h"
 
 #include <QSqlRecord>
 
@@ -20,14 +21,10 @@ const char* const heads[] = {
     "credit_note_date",
 };
 
-/** The SQL of one kind of movement, summed by item since the item's last adjustment or from the beginning. */
-QString movedByItem(const QString& master, const QString& line, const QString& key, const QString& quantity,
-                    const QString& date, const QString& condition = QString())
+/** The row of a query of onHandStatement(). */
+StockMovements::OnHand onHandOf(const KorQuery& query)
 {
-    return "(select line.item_id, sum(line." + quantity + ") as qty from " + master + " inner join " + line +
-           " line on " + master + ".id = line." + key + " left join take on take.item_id = line.item_id where " +
-           master + '.' + date + " <= :date and (take.tanggal is null or " + master + '.' + date + " >= take.tanggal)" +
-           condition + " group by line.item_id)";
+    return {query.value(1).toInt(), query.value(2).toInt(), query.value(3).toInt(), query.value(4).toInt()};
 }
 } // namespace
 
@@ -57,30 +54,30 @@ bool StockMovements::quantity(KorQuery& query, Kind kind, int itemId, const QDat
     return true;
 }
 
-QString StockMovements::onHandStatement()
+QString StockMovements::onHandStatement(bool isOfOneItem)
 {
-    return "with take as (select distinct on (item_id) item_id, tanggal, qty from stock_take where tanggal <= :date "
-           "order by item_id, tanggal desc, id desc) "
-           "select item.id, coalesce(take.qty, stok_awal.jumlah, 0) + coalesce(acquired.qty, 0) - "
-           "coalesce(used.qty, 0) - coalesce(returned.qty, 0) from item "
-           "left join take on take.item_id = item.id left join stok_awal on stok_awal.item_id = item.id left join " +
-           movedByItem("acquisition", "acquisition_detail", "acquisition_id", "qty", "purchase_date") +
-           " acquired on acquired.item_id = item.id left join " +
-           movedByItem("invoice", "invoice_detail", "invoice_id", "qty", "invoice_date") +
-           " used on used.item_id = item.id left join " +
-           movedByItem("credit_note", "credit_note_detail", "credit_note_id", "qty_returned", "credit_note_date",
-                       " and credit_note.status <> :status_canceled") +
-           " returned on returned.item_id = item.id";
+    return "with " + StockOnHand::parts("stock", ":date::date", isOfOneItem ? ":item_id::bigint" : QString()) +
+           " select item_id, base, acquired, used, returned from stock";
 }
 
 bool StockMovements::onHand(KorQuery& query, const QDate& date, QHash<int, int>& quantities)
 {
     query.prepare(onHandStatement());
     query.bindValue(":date", KorDataMapper::dateToSql(date));
-    query.bindValue(":status_canceled", cancelledNote);
     if (!query.exec())
         return false;
     while (query.next())
-        quantities.insert(query.value(0).toInt(), query.value(1).toInt());
+        quantities.insert(query.value(0).toInt(), onHandOf(query).quantity());
+    return true;
+}
+
+bool StockMovements::onHand(KorQuery& query, int itemId, const QDate& date, OnHand& figures)
+{
+    query.prepare(onHandStatement(true));
+    query.bindValue(":item_id", itemId);
+    query.bindValue(":date", KorDataMapper::dateToSql(date));
+    if (!query.exec())
+        return false;
+    figures = query.next() ? onHandOf(query) : OnHand();
     return true;
 }

@@ -2,16 +2,27 @@
 
 #include "kor/business/KorErrorScope.h"
 #include "kor/business/KorServiceDirectory.h"
+#include "kor/system/KorFailure.h"
 #include "kor/widgets/KorErrorBox.h"
 #include "pos/masterdata/item/ItemStock.h"
+#include "pos/masterdata/item/ItemStockReader.h"
 #include "pos/masterdata/itemtype/BusinessJenisItem.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPushButton>
 #include <QTableView>
 
-TabItem::TabItem(QWidget* parent) : AppFamilyTab({tr("Items"), "tblItem", "Item"}, parent), m_types(new QComboBox(this))
+namespace
+{
+KorBusinessLogic* inventory() { return KorServiceDirectory::get("Inventory"); }
+ItemStock* stock() { return qobject_cast<ItemStock*>(inventory()); }
+} // namespace
+
+TabItem::TabItem(QWidget* parent)
+    : AppFamilyTab({tr("Items"), "tblItem", "Item"}, parent), m_stock(new ItemStockReader(stock(), this)),
+      m_types(new QComboBox(this)), m_stockFailure(new QLabel(this))
 {
     m_types->setObjectName("ddlItemType");
     auto* label = new QLabel(tr("Item Type:"), this);
@@ -22,7 +33,14 @@ TabItem::TabItem(QWidget* parent) : AppFamilyTab({tr("Items"), "tblItem", "Item"
     QWidget::setTabOrder(filterLayout()->itemAt(1)->widget(), m_types);
     fillTypes();
     connect(m_types, qOverload<int>(&QComboBox::activated), this, [this] { refresh(); });
+    m_stockFailure->setObjectName("lblStockFailure");
+    m_stockFailure->setWordWrap(true);
+    m_stockFailure->hide();
+    addFoot(m_stockFailure);
+    connect(m_stock, &ItemStockReader::failed, this, &TabItem::tellStockFailure);
+    connect(button("btnRefresh"), &QPushButton::clicked, this, &TabItem::readStock);
     refresh();
+    readStock();
 }
 
 void TabItem::fillTypes()
@@ -46,12 +64,33 @@ QList<KorEntity*> TabItem::readRows(const QString& filter)
 
 KorEntityModel* TabItem::createModel(const QList<KorEntity*>& rows)
 {
-    KorBusinessLogic* inventory = KorServiceDirectory::get("Inventory");
-    KorErrorScope errors(inventory);
     auto* model = new TableModelItem(rows, this);
-    model->setStock(qobject_cast<ItemStock*>(inventory)->quantitiesOnHand(QDate::currentDate()));
-    KorErrorBox::tell(this, errors.take());
+    model->setStock(m_stock);
     return model;
+}
+
+void TabItem::readStock()
+{
+    m_stockFailure->hide();
+    m_stock->read();
+}
+
+void TabItem::tellStockFailure(const QString& error)
+{
+    const KorToldFailure failure = KorToldFailure::in(error);
+    const QString reason = failure.isKnown() ? failure.sentence + ' ' + failure.advice : failure.words;
+    m_stockFailure->setText(tr("The stock could not be read: %1").arg(reason.simplified()));
+    m_stockFailure->setToolTip(failure.words);
+    m_stockFailure->show();
+}
+
+void TabItem::entitySaved(KorEntity* entity)
+{
+    KorErrorScope errors(inventory());
+    const int quantity = stock()->getQuantityOnHand(entity, QDate::currentDate());
+    // A lost server is told by the list, which is read next.
+    if (errors.take().isEmpty())
+        m_stock->set(entity->getId(), quantity);
 }
 
 void TabItem::modelApplied()

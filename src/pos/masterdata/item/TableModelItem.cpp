@@ -1,9 +1,12 @@
 #include "pos/masterdata/item/TableModelItem.h"
 
 #include "pos/masterdata/item/EntityItem.h"
+#include "pos/masterdata/item/ItemStockReader.h"
 
 namespace
 {
+constexpr int stockColumn = 7;
+
 QString classText(const EntityItem& item)
 {
     switch (item.getItemType()) {
@@ -36,7 +39,16 @@ TableModelItem::TableModelItem(const QList<KorEntity*>& items, QObject* parent) 
     addMoney<EntityItem>(tr("Sales Price"), [](const EntityItem& item) { return item.getHargaJualLokal(); });
     addField<EntityItem>(
         QMetaType::QString, tr("Stock"),
-        [this](const EntityItem& item) { return QString::number(m_stock.value(item.getId())); }, RightAligned);
+        [this](const EntityItem& item) { return m_stock ? m_stock->text(item.getId()) : QString(); }, RightAligned);
     addField<EntityItem>(QMetaType::QString, tr("Unit"),
                          [](const EntityItem& item) { return nameOf(item.getSatuan()); });
+}
+
+void TableModelItem::setStock(const ItemStockReader* stock)
+{
+    m_stock = stock;
+    connect(stock, &ItemStockReader::changed, this, [this] {
+        if (rowCount() > 0)
+            emit dataChanged(index(0, stockColumn), index(rowCount() - 1, stockColumn));
+    });
 }

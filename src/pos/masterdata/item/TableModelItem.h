@@ -2,7 +2,9 @@
 
 #include "app/widgets/AppEntityModel.h"
 
-#include <QHash>
+#include <QPointer>
+
+class ItemStockReader;
 
 /** The rows of the list of items. */
 class TableModelItem final : public AppEntityModel
@@ -12,9 +14,9 @@ class TableModelItem final : public AppEntityModel
 public:
     TableModelItem(const QList<KorEntity*>& items, QObject* parent);
 
-    /** The quantities on hand by item id; a missing item shows 0. */
-    void setStock(const QHash<int, int>& stock) { m_stock = stock; }
+    /** The quantities on hand, borrowed. Without them the column is empty. */
+    void setStock(const ItemStockReader* stock);
 
 private:
-    QHash<int, int> m_stock;
+    QPointer<const ItemStockReader> m_stock;
 };
