@@ -19,7 +19,21 @@ QString moved(const QString& name, const QString& document, const QString& date,
         .arg(name, document, date, quantity, condition);
 }
 
-/** The last day on which the item was bought or sold. Only its own lines are read; "offset 0" sees to that. */
+/**
+ * Tells if the item was bought or sold in the last days. It begins with the newest lines, and so ends at once for what
+ * is sold every day; "offset 0" keeps that order.
+ */
+QString isMoving(const QString& document, const QString& date, const QString& limit = QString())
+{
+    return QString(R"(exists (
+                select from (
+                    select (select %2 from %1 where id = %1_id) as day from %1_detail
+                    where item_id = item.id and qty <> 0%3 order by %1_id desc offset 0) line
+                where line.day > DAY - AGO and line.day <= DAY))")
+        .arg(document, date, limit);
+}
+
+/** The last day on which the item was bought or sold. */
 QString lastMovement(const QString& document, const QString& date)
 {
     return QString(R"((
@@ -64,15 +78,11 @@ QString movements(const QString& firstDay, const QString& lastDay)
 QString idle(const QString& day, const QString& days)
 {
     QString text = R"(
-        recent as materialized (
-            select line.item_id from invoice doc join invoice_detail line on line.invoice_id = doc.id
-            where doc.invoice_date > DAY - AGO and doc.invoice_date <= DAY and line.qty <> 0
-            union
-            select line.item_id from acquisition doc join acquisition_detail line on line.acquisition_id = doc.id
-            where doc.purchase_date > DAY - AGO and doc.purchase_date <= DAY and line.qty <> 0),
         resting as materialized (
             select item.id from stock join item on item.id = stock.item_id
-            where item.item_type = 1 and stock.closing > 0 and item.id not in (select item_id from recent)),
+            where item.item_type = 1 and stock.closing > 0 and not )" +
+                   isMoving("acquisition", "purchase_date") + " and not " +
+                   isMoving("invoice", "invoice_date", " and invoice_id <= (select id from onhand_last)") + R"(),
         idle as materialized (select item.id as item_id, )" +
                    lastMovement("acquisition", "purchase_date") + " as lastbought, " +
                    lastMovement("invoice", "invoice_date") + " as lastsold from resting item)";

@@ -17,7 +17,8 @@ namespace StockOnHand
 [[nodiscard]] QString lastCounts(const QString& day, const QString& item = QString());
 /**
  * "NAME" at the end of the day, with one row per item, or only that of the item: item_id; counted, the day of its last
- * count; base, the count or the beginning balance; acquired, used and returned since. Its own parts begin with "NAME_".
+ * count; base, the count or the beginning balance; acquired, used and returned since. Its own parts begin with "NAME_";
+ * one of them is "NAME_last", whose id no invoice up to the day exceeds.
  */
 [[nodiscard]] QString parts(const QString& name, const QString& day, const QString& item = QString());
 /** The quantity on hand from these columns. */
