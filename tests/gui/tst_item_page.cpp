@@ -1,4 +1,6 @@
 #include "pos/masterdata/item/BusinessItem.h"
+#include "pos/masterdata/item/ItemStock.h"
+#include "pos/masterdata/item/ItemStockReader.h"
 #include "pos/masterdata/item/TabItem.h"
 #include "pos/masterdata/item/TabSubItem.h"
 #include "support/DatabaseTest.h"
@@ -7,6 +9,27 @@
 #include <QAbstractItemModelTester>
 #include <QAbstractProxyModel>
 #include <QRadioButton>
+#include <QSemaphore>
+
+namespace
+{
+/** A stock of two items, 10 of each, that is there when the test says so. */
+class SlowStock final : public ItemStock
+{
+public:
+    bool readOnHand(const QDate&, QHash<int, int>& quantities, QString&) const override
+    {
+        m_ready.acquire();
+        quantities = {{1, 10}, {2, 10}};
+        return true;
+    }
+    int getQuantityOnHand(const KorEntity*, const QDate&) override { return 0; }
+    void arrive() { m_ready.release(); }
+
+private:
+    mutable QSemaphore m_ready;
+};
+} // namespace
 
 /** The list of items and the form of one, with its grouping, components and accounts, worked on as a manager does. */
 class TestItemPage : public PageTest<TabItem>
@@ -79,6 +102,22 @@ private slots:
         run("COMMIT");
         QTRY_COMPARE(stock(), QString("8 0 0 3"));
         QCOMPARE(column(7), (QStringList{"8", "3", "0", "0"}));
+    }
+
+    void whatWasSavedMeanwhileIsNewer()
+    {
+        SlowStock slow;
+        ItemStockReader reader(&slow, nullptr);
+        reader.read();
+        reader.set(2, 7);
+        const auto texts = [&reader] { return reader.text(1) + ' ' + reader.text(2) + ' ' + reader.text(3); };
+        QCOMPARE(texts(), QString("... 7 ..."));
+        slow.arrive();
+        QTRY_COMPARE(texts(), QString("10 7 0"));
+        // Until all are read again.
+        slow.arrive();
+        reader.read();
+        QTRY_COMPARE(texts(), QString("10 10 0"));
     }
 
     void theStockStaysUntilRefresh()
