@@ -9242,6 +9242,10 @@ Status keluar status: 0 terpasang, 3 terjangkau tetapi belum terpasang, 4 terpas
         <source>Are you sure you want to delete this item: %1 ?</source>
         <translation>Yakin ingin menghapus barang ini: %1 ?</translation>
     </message>
+    <message>
+        <source>The stock could not be read: %1</source>
+        <translation>Stok tidak dapat dibaca: %1</translation>
+    </message>
 </context>
 <context>
     <name>TabJenisItem</name>
