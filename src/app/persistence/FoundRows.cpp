@@ -12,6 +12,17 @@ constexpr int furtherPieces = 2000;
 constexpr int glimpsesPerPool = 512;
 } // namespace
 
+KorConditions& FoundRows::behind(KorConditions& conditions, const QString& table, const QString& dateColumn,
+                                 const Place& place, int atMost)
+{
+    const QString date = table + '.' + dateColumn;
+    const QString id = table + ".id";
+    if (place.date.isValid())
+        conditions.holds(QString("(%1, %2) < ('%3', %4)")
+                             .arg(date, id, place.date.toString(Qt::ISODate), QString::number(place.id)));
+    return conditions.descending(date).descending(id).atMost(atMost);
+}
+
 FoundRows::FoundRows(KorDataMapper* mapper, const QString& dateColumn, Read read)
     : m_mapper(mapper), m_dateColumn(dateColumn), m_read(std::move(read))
 {}

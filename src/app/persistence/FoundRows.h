@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/context/EntityPool.h"
+#include "kor/persistence/KorConditions.h"
 #include "kor/persistence/KorQuery.h"
 #include "kor/widgets/KorRecordSource.h"
 
@@ -27,6 +28,10 @@ public:
     };
     /** Reads at most so many rows behind the place, by date and id descending; null after a failure. */
     using Read = std::function<std::unique_ptr<KorQuery>(const Place& behind, int atMost)>;
+
+    /** Sorts the rows of the table as such a list reads them, and leaves those behind the place, at most so many. */
+    static KorConditions& behind(KorConditions& conditions, const QString& table, const QString& dateColumn,
+                                 const Place& place, int atMost);
 
     /** The mapper makes the records from its table's columns; dateColumn is the result's name of the date. */
     FoundRows(KorDataMapper* mapper, const QString& dateColumn, Read read);

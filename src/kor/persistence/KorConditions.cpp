@@ -48,6 +48,13 @@ KorConditions& KorConditions::oneOf(const QString& expression, const QList<int>&
     return *this;
 }
 
+KorConditions& KorConditions::among(const QString& column, const QString& query)
+{
+    // As a join of many it would be the last one: the server reorders eight tables and no more.
+    m_isSearch = true;
+    return holds(column + " = any(array(" + query + "))");
+}
+
 KorConditions& KorConditions::between(const QString& expression, const QDate& from, const QDate& to)
 {
     m_isSearch = true;

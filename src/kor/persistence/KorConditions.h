@@ -20,6 +20,11 @@ public:
     KorConditions& equals(const QStringList& expressions, const QVariant& value);
     KorConditions& differs(const QString& expression, const QVariant& value);
     KorConditions& oneOf(const QString& expression, const QList<int>& ids);
+    /**
+     * The column is one of the ids that the query finds, for a big table and few ids: they are found first, whatever
+     * the rest of the statement looks like, and then their rows by the column's index.
+     */
+    KorConditions& among(const QString& column, const QString& query);
     /** Both dates inclusive; an invalid date sets no limit. */
     KorConditions& between(const QString& expression, const QDate& from, const QDate& to);
     /** The expression contains the text, ignoring case; an empty text matches every row. */

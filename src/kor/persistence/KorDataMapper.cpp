@@ -115,6 +115,19 @@ bool KorDataMapper::executePlanned(KorQuery& query, const QString& statement, co
     return noted(query.exec(statement, values), query);
 }
 
+void KorDataMapper::startWith(KorConditions& conditions, const QString& column, const QStringList& queries)
+{
+    constexpr int few = 15000;
+    for (const QString& ids : queries) {
+        KorQuery query;
+        const QString statement = "select count(*) from (" + ids + " limit " + QString::number(few) + ") found";
+        if (execute(query, statement) && query.next() && query.value(0).toInt() < few) {
+            conditions.among(column, ids);
+            return;
+        }
+    }
+}
+
 KorEntity* KorDataMapper::findOne(const KorConditions& conditions)
 {
     KorPaging paging;

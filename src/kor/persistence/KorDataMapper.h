@@ -131,6 +131,12 @@ protected:
     /** The same, with the conditions appended to the statement. */
     bool execute(KorQuery& query, const QString& statement, const KorConditions& conditions,
                  const Bindings& values = {});
+    /**
+     * Lets the statement begin with the first of these queries that finds few ids, see KorConditions::among(). What
+     * they find must follow from the other conditions: this changes the way to the rows, not the rows. If all find
+     * many, reading backwards from the latest row meets the wanted ones soon.
+     */
+    void startWith(KorConditions& conditions, const QString& column, const QStringList& queries);
     /** The first matching record, or null. */
     KorEntity* findOne(const KorConditions& conditions);
     QList<KorEntity*> findMany(const KorConditions& conditions);

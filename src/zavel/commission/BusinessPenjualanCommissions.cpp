@@ -1,3 +1,5 @@
+#include "app/persistence/FoundRows.h"
+#include "zavel/commission/CommissionFilters.h"
 #include "zavel/commission/DataMapperAllAgentCommision.h"
 #include "zavel/commission/DataMapperKomisiAgen.h"
 #include "zavel/commission/DataMapperKomisiAgenDetail.h"
@@ -41,4 +43,13 @@ EntityKomisiAgen* BusinessPenjualan::getKomisiAgenByInvoiceId(int invoiceId)
 QList<EntityAllKomisiAgen*> BusinessPenjualan::searchInvoiceForAgentCommision(const AgentSalesFilter& filter)
 {
     return read(m_mappers.agentSales->search(filter), m_mappers.agentSales, "searchInvoiceForAgentCommision");
+}
+
+std::shared_ptr<FoundRows> BusinessPenjualan::openAgentSales(const AgentSalesFilter& filter)
+{
+    const auto readOn = [this, filter](const FoundRows::Place& behind, int atMost) {
+        return read(m_mappers.agentSales->readList(filter, behind, atMost), m_mappers.agentSales,
+                    "searchInvoiceForAgentCommision");
+    };
+    return std::make_shared<FoundRows>(m_mappers.agentSales, "invoice_invoice_date", readOn);
 }

@@ -1,9 +1,11 @@
 #include "zavel/commission/TabAllKomisiAgen.h"
 
 #include "app/context/AccessCheck.h"
-#include "app/persistence/AppDocumentLines.h"
+#include "app/persistence/FoundRows.h"
 #include "app/widgets/RecordField.h"
+#include "kor/business/KorErrorScope.h"
 #include "kor/business/KorServiceDirectory.h"
+#include "kor/widgets/KorErrorBox.h"
 #include "pos/masterdata/agent/AgentTextBox.h"
 #include "zavel/commission/CommissionFilters.h"
 #include "zavel/commission/DialogKomisiAgen.h"
@@ -51,14 +53,14 @@ TabAllKomisiAgen::TabAllKomisiAgen(QWidget* parent)
     refresh();
 }
 
-QList<KorEntity*> TabAllKomisiAgen::readRows(const QString&)
+std::shared_ptr<FoundRows> TabAllKomisiAgen::openRows()
 {
     AgentSalesFilter filter;
     filter.from = m_from->date();
     filter.to = m_to->date();
     filter.status = m_status->currentData().toInt();
     filter.agentId = m_agent->filterId(business());
-    return asEntities(businessAs<BusinessPenjualan>()->searchInvoiceForAgentCommision(filter));
+    return businessAs<BusinessPenjualan>()->openAgentSales(filter);
 }
 
 KorEntityModel* TabAllKomisiAgen::createModel(const QList<KorEntity*>& rows)
@@ -77,14 +79,29 @@ void TabAllKomisiAgen::on_btnAdd_clicked()
     const auto* sale = static_cast<const EntityAllKomisiAgen*>(selectedEntities(grid(), model()).value(0));
     if (!sale)
         return;
-    if (sale->getStatus() == EntityAllKomisiAgen::FULL_PAID) {
+    if (sale->getStatus() == EntityAllKomisiAgen::FULL_PAID)
         editPaymentOf(*sale);
-    } else {
-        DialogKomisiAgen dialog(this);
-        dialog.openAgent(sale->getAgent());
-        runDialog(dialog, true);
-    }
+    else
+        pay(sale->getAgent()->getId());
     refresh();
+}
+
+void TabAllKomisiAgen::pay(int agentId)
+{
+    EntityPool read;
+    const EntityPoolScope scope(read);
+    auto* agents = service<BusinessAgent>("Agent");
+    KorErrorScope errors(agents);
+    // The list reads names and percents only.
+    auto* agent = static_cast<EntityAgent*>(agents->find(agentId));
+    if (!agent) {
+        if (!KorErrorBox::tell(this, errors.take()))
+            tellNotFound(notFoundText(agentId));
+        return;
+    }
+    DialogKomisiAgen dialog(this);
+    dialog.openAgent(agent);
+    runDialog(dialog, true);
 }
 
 void TabAllKomisiAgen::editPaymentOf(const EntityAllKomisiAgen& sale)

@@ -22,7 +22,8 @@ public slots:
     void on_btnAdd_clicked() override;
 
 protected:
-    QList<KorEntity*> readRows(const QString& filter) override;
+    QList<KorEntity*> readRows(const QString&) override { return {}; }
+    std::shared_ptr<FoundRows> openRows() override;
     KorEntityModel* createModel(const QList<KorEntity*>& rows) override;
     std::unique_ptr<KorDialog> createDialog() override;
     void modelApplied() override;
@@ -31,6 +32,7 @@ protected:
     bool updateEntity(KorEntity* entity) override;
 
 private:
+    void pay(int agentId);
     void editPaymentOf(const EntityAllKomisiAgen& sale);
 
     QDateEdit* m_from;

@@ -7,6 +7,7 @@
 #include "pos/masterdata/employee/DataMapperEmployee.h"
 #include "pos/masterdata/member/DataMapperMember.h"
 #include "zavel/list/EntityPenjualanInfo.h"
+#include "zavel/list/SaleIds.h"
 #include "zavel/list/SalesFilter.h"
 
 DataMapperPenjualanInfo::DataMapperPenjualanInfo(QObject* parent, Partners partners)
@@ -85,7 +86,22 @@ KorConditions DataMapperPenjualanInfo::conditionsOf(const SalesFilter& filter)
     // Cash payments are not filtered: every sale may have been paid partly in cash.
     if (filter.payment == SalesFilter::OtherPayment)
         conditions.differs("invoice.other_payment_amount", 0);
+    startWith(conditions, "invoice.id", idsOf(filter));
     return conditions;
+}
+
+QStringList DataMapperPenjualanInfo::idsOf(const SalesFilter& filter)
+{
+    QStringList ids;
+    if (filter.status != 0 && filter.status != Invoice::FULL_PAID)
+        ids.append(SaleIds::open());
+    if (filter.memberId != KorNoValue)
+        ids.append(SaleIds::ofMember(filter.memberId));
+    if (filter.agentId != KorNoValue)
+        ids.append(SaleIds::ofAgent(filter.agentId));
+    if (filter.employeeId != KorNoValue)
+        ids.append(SaleIds::ofWaitress(filter.employeeId));
+    return ids;
 }
 
 QList<EntityPenjualanInfo*> DataMapperPenjualanInfo::search(const SalesFilter& filter)
@@ -128,18 +144,14 @@ std::unique_ptr<KorQuery> DataMapperPenjualanInfo::readList(const SalesFilter& f
                                                             int atMost)
 {
     KorConditions conditions = conditionsOf(filter);
-    if (behind.date.isValid())
-        conditions.holds(QString("(invoice.invoice_date, invoice.id) < ('%1', %2)")
-                             .arg(behind.date.toString(Qt::ISODate), QString::number(behind.id)));
-    conditions.descending("invoice_date").descending("invoice.id").atMost(atMost);
-    return findRows(listStatement(), conditions);
+    return findRows(listStatement(), FoundRows::behind(conditions, tableName(), "invoice_date", behind, atMost));
 }
 
 QList<EntityPenjualanInfo*> DataMapperPenjualanInfo::findPendingOfAgent(int agentId)
 {
     KorConditions conditions;
     conditions.equals({"invoice_makan_ditempat.agent_id", "invoice_fast_food.agent_id"}, agentId)
-        .holds("invoice.id not in (select invoice_id from komisi_agen_detail)");
+        .among("invoice.id", SaleIds::pending(SaleIds::ofAgent(agentId)));
     return latestFirst(conditions);
 }
 

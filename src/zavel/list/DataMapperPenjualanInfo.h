@@ -56,7 +56,9 @@ public:
                                                       const QString& sortColumn, const QString& itemType);
 
 private:
-    [[nodiscard]] static KorConditions conditionsOf(const SalesFilter& filter);
+    [[nodiscard]] KorConditions conditionsOf(const SalesFilter& filter);
+    /** Queries for the ids of the sales that the filter lets through, the one that finds fewest in front. */
+    [[nodiscard]] static QStringList idsOf(const SalesFilter& filter);
     [[nodiscard]] QString listStatement() const;
     [[nodiscard]] QList<EntityPenjualanInfo*> latestFirst(KorConditions& conditions);
     [[nodiscard]] QList<EntitySalesSummaryInfo*> salesBy(const QString& period, const QString& name, const QDate& from,

@@ -195,6 +195,8 @@ public:
     [[nodiscard]] EntityKomisiAgen* getKomisiAgenByInvoiceId(int invoiceId);
     [[nodiscard]] QList<EntityPenjualanInfo*> searchPendingInvoiceForAgentCommision(int agentId);
     [[nodiscard]] QList<EntityAllKomisiAgen*> searchInvoiceForAgentCommision(const AgentSalesFilter& filter);
+    /** The same for a list of any length, with what it shows of the agents and invoices; nothing is read yet. */
+    [[nodiscard]] std::shared_ptr<FoundRows> openAgentSales(const AgentSalesFilter& filter);
 
 private:
     [[nodiscard]] DataMapperInvoiceLink* mapperOf(IInvoice* sale) const;
