@@ -86,7 +86,12 @@ KorConditions DataMapperPenjualanInfo::conditionsOf(const SalesFilter& filter)
     // Cash payments are not filtered: every sale may have been paid partly in cash.
     if (filter.payment == SalesFilter::OtherPayment)
         conditions.differs("invoice.other_payment_amount", 0);
-    startWith(conditions, "invoice.id", idsOf(filter));
+    const bool isOpen = filter.status != 0 && filter.status != Invoice::FULL_PAID;
+    // A member is picked with two statements: it is not asked first whether the open ones are few.
+    if (isOpen && filter.memberId != KorNoValue)
+        conditions.among("invoice.id", SaleIds::open());
+    else
+        startWith(conditions, "invoice.id", idsOf(filter));
     return conditions;
 }
 
